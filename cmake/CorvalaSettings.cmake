@@ -1,0 +1,32 @@
+# SPDX-License-Identifier: BSD-3-Clause
+# Language level, warnings and the include roots that every target shares.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+
+find_program(CORVALA_CCACHE ccache)
+if(CORVALA_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CORVALA_CCACHE}")
+endif()
+
+# One include root per top folder: a target sees only the folders whose roots it is given, so a
+# forbidden include does not compile.
+foreach(folder zonestyle sdk host plot app samples tests)
+  file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/include-roots/${folder}")
+  file(CREATE_LINK "${CMAKE_SOURCE_DIR}/${folder}"
+    "${CMAKE_BINARY_DIR}/include-roots/${folder}/${folder}" SYMBOLIC)
+endforeach()
+
+add_library(corvala_options INTERFACE)
+target_compile_definitions(corvala_options INTERFACE
+  QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS BOOST_BIND_GLOBAL_PLACEHOLDERS)
+target_compile_options(corvala_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+  $<$<BOOL:${CORVALA_WARNINGS_AS_ERRORS}>:-Werror>)

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/document/data_set.h"
+#include "host/document/field_map_list.h"
+#include "host/style/map_table.h"
+#include "host/style/value_list.h"
+#include "sdk/base/enums.h"
+#include "sdk/base/types.h"
+
+#include <memory>
+#include <vector>
+
+namespace corvala::host {
+
+/// An object that the user picked on the plot.
+struct Pick
+{
+    int type = 0; ///< PickType_e, or another code
+    CvlInt64 number = 0; ///< zone or line map
+};
+
+/// One plot: a data set, its field maps and line maps, and their style. Changed by Document only.
+class Frame
+{
+public:
+    explicit Frame(CvlUniqueId id);
+
+    CvlUniqueId id() const { return m_id; }
+    PlotType_e plotType() const;
+    bool isFieldPlot() const; ///< plot types 1 and 2
+    bool isLinePlot() const; ///< plot types 3 and 5
+    bool hasData() const { return m_data != nullptr; }
+    const DataSet* data() const { return m_data.get(); } ///< null without data
+    std::shared_ptr<const DataSet> sharedData() const { return m_data; }
+
+    const FieldMapList& fieldMaps() const { return m_fieldMaps; }
+    CvlInt64 fieldMapCount() const { return m_fieldMaps.count(); }
+    CvlInt64 lineMapCount() const { return m_lineStyle.count(); }
+    /// Maps of the kind that the frame shows; 0 for other plot types.
+    CvlInt64 shownMapCount() const;
+
+    const MapSet& activeFieldMaps() const { return m_activeFieldMaps; }
+    const MapSet& activeLineMaps() const { return m_activeLineMaps; }
+    const MapSet& enabledZones() const { return m_enabledZones; }
+    const MapSet& enabledVariables() const { return m_enabledVariables; }
+
+    double solutionTime() const { return m_solutionTime; }
+    CvlInt64 candidateZone(CvlInt64 map) const
+    {
+        return m_fieldMaps.candidateZone(map, m_solutionTime);
+    }
+    const std::vector<Pick>& picks() const { return m_picks; }
+
+    const MapTable& fieldStyle() const { return m_fieldStyle; }
+    const MapTable& lineStyle() const { return m_lineStyle; }
+    const ValueList& values() const { return m_values; }
+
+    /// "FieldLayers" or "LinePlotLayers" value of that name; false for an unknown name.
+    bool fieldLayer(const char* layer) const;
+    bool lineLayer(const char* layer) const;
+
+    // Style of one map by attribute; the map must exist and the attribute have that scope and type.
+    std::int32_t fieldInteger(AttributeId attribute, CvlInt64 map) const;
+    double fieldReal(AttributeId attribute, CvlInt64 map) const;
+    std::int32_t lineInteger(AttributeId attribute, CvlInt64 map) const;
+    double lineReal(AttributeId attribute, CvlInt64 map) const;
+
+private:
+    friend class Document;
+    friend class DocumentChanges;
+
+    CvlUniqueId m_id;
+    std::shared_ptr<DataSet> m_data;
+    FieldMapList m_fieldMaps;
+    MapTable m_fieldStyle;
+    MapTable m_lineStyle;
+    ValueList m_values;
+    MapSet m_activeFieldMaps;
+    MapSet m_activeLineMaps;
+    MapSet m_enabledZones;
+    MapSet m_enabledVariables;
+    double m_solutionTime = 0.0;
+    std::vector<Pick> m_picks;
+};
+
+} // namespace corvala::host

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/style/map_set.h"
+#include "host/style/schema.h"
+#include "sdk/base/enums.h"
+#include "sdk/base/types.h"
+
+#include <boost/signals2/signal.hpp>
+
+#include <string>
+#include <vector>
+
+namespace corvala::host {
+
+/// One style attribute that changed, and for which maps (empty for a value of the frame).
+struct StyleChange
+{
+    AttributeId attribute = kNoAttribute;
+    MapSet maps;
+};
+
+/// A change of the document, announced after it is visible.
+struct StateEvent
+{
+    StateCode_e code = StateCode_Style;
+    std::vector<std::string> parameters; ///< of StateCode_Style: the names of the path
+    CvlUniqueId frame = 0;
+    /// What changed in the style tree: one entry for StateCode_Style, all entries of the step for
+    /// StateCode_UndoApplied and StateCode_RedoApplied.
+    std::vector<StyleChange> styleChanges;
+    /// The list of maps itself may differ (undo and redo of deletions and moves).
+    bool structureChanged = false;
+};
+
+/// Delivers events synchronously, in order of connection, on the calling thread.
+using StateEventSignal = boost::signals2::signal<void(const StateEvent&)>;
+
+} // namespace corvala::host
