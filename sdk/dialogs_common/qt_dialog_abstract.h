@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <sdk/dialogs_common/dialog_interface.h>
+#include <sdk/property/relevance_interface.h>
+
+#include <QDialog>
+#include <QPointer>
+
+#include <boost/shared_ptr.hpp>
+
+#include <optional>
+
+class QAbstractButton;
+class QAction;
+
+namespace corvala::dialogs::common {
+
+/// Base of the host's modeless dialogs. Closing one hides it; it comes back where it was.
+class QtDialogAbstract : public QDialog, public virtual DialogInterface
+{
+    Q_OBJECT
+
+public:
+    /// `relevance` belongs to the command that launches the dialog (see LaunchDialogAction); an
+    /// open dialog neither closes nor is disabled by it. It may be null: always relevant.
+    QtDialogAbstract(QWidget& parent,
+                     boost::shared_ptr<property::RelevanceInterface const> relevance);
+    ~QtDialogAbstract() override;
+
+    void launch() override;
+    void drop() override;
+    void done(int result) override;
+
+    const boost::shared_ptr<property::RelevanceInterface const>& dialogRelevance() const
+    {
+        return m_relevance;
+    }
+
+    /// Binds the Help key to the action, which the dialog owns from now on; the one before is
+    /// deleted. Null takes the help away. No button is added.
+    void setHelpAction(QAction* action);
+    QAction* helpAction() const { return m_helpAction; }
+
+    /// The button that Return presses, except while text is typed into a field of the dialog.
+    void setDefaultButton(QAbstractButton* button);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    boost::shared_ptr<property::RelevanceInterface const> m_relevance;
+    QPointer<QAction> m_helpAction;
+    QPointer<QAbstractButton> m_defaultButton; // not owned
+    std::optional<QPoint> m_lastPosition;
+};
+
+} // namespace corvala::dialogs::common

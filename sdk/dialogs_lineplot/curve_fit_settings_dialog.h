@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <sdk/base/enums.h>
+#include <sdk/base/types.h>
+#include <sdk/signals/signal_connection_collection.h>
+#include <sdk/toolbox/set.h>
+#include <sdk/toolbox/state_change_event.h>
+
+#include <QDialog>
+
+#include <memory>
+
+namespace corvala::dialogs::lineplot {
+
+/// Edits the settings of the curve fit that some line maps have in common. Modeless; it closes
+/// when another frame becomes active or the line maps are no longer what they were.
+class CurveFitSettingsDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// The shared instance, on that parent (null: the main window). Made again when its parent
+    /// died or is another one.
+    static CurveFitSettingsDialog& getInstance(QWidget* parent);
+    ~CurveFitSettingsDialog() override;
+
+    /// Shows the settings of the first line map; OK and Apply give them to all, as one undo step.
+    /// Does nothing when the frame is not active, a line map does not exist, the line maps have
+    /// different curve types, or their curve type has no settings.
+    void launch(CvlUniqueId frame, toolbox::Set lineMaps);
+
+protected:
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    struct Form;
+
+    explicit CurveFitSettingsDialog(QWidget* parent);
+    void readSettings();
+    bool apply();
+    void stateChanged(const toolbox::StateChangeEventInterface& event);
+
+    std::unique_ptr<Form> m_form;
+    CvlUniqueId m_frame = 0;
+    toolbox::Set m_lineMaps;
+    CurveType_e m_type = CurveType_LineSegments;
+    signaling::SignalConnectionCollection m_connections;
+};
+
+} // namespace corvala::dialogs::lineplot
