@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/actions/select_color_action.h"
+
+#include "zonestyle/actions/style_action.h"
+
+#include <sdk/dialogs_prompt/color_chooser_widget.h>
+#include <sdk/signals/signal_connection_collection.h>
+
+#include <QMenu>
+#include <QPointer>
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
+
+using corvala::dialogs::prompt::ColorChooserWidget;
+
+class SelectColorAction::Private
+{
+public:
+    void colorSelected(int color);
+    void closeMenus();
+
+    SelectColorAction* q;
+    QModelIndexList selectedIndexes;
+    bool offerGroupColors;
+    StylePath path;
+    signaling::SignalConnectionCollection connections;
+};
+
+void SelectColorAction::Private::colorSelected(int color)
+{
+    const QPointer<SelectColorAction> self(q);
+    trigger<StyleAction<int>>(QString(), selectedIndexes, color, path);
+    if (self)
+        closeMenus();
+}
+
+/// A click inside the widget of an action does not close the menu that it is in.
+void SelectColorAction::Private::closeMenus()
+{
+    for (QWidget* widget : q->associatedWidgets()) {
+        if (qobject_cast<QMenu*>(widget))
+            widget->close();
+    }
+}
+
+SelectColorAction::SelectColorAction(const QModelIndexList& selectedIndexes, bool offerGroupColors,
+                                     const StylePath& path)
+    : QWidgetAction(nullptr)
+    , d(new Private {this, selectedIndexes, offerGroupColors, path, {}})
+{
+}
+
+SelectColorAction::~SelectColorAction() = default;
+
+bool SelectColorAction::offersGroupColors() const
+{
+    return d->offerGroupColors;
+}
+
+QWidget* SelectColorAction::createWidget(QWidget* parent)
+{
+    auto* chooser = new ColorChooserWidget(parent, d->offerGroupColors,
+                                           corvala::dialogs::prompt::ShowHelpButton_No);
+    d->connections.add(
+        chooser->connectColorSelected([this](int color) { d->colorSelected(color); }));
+    return chooser;
+}
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

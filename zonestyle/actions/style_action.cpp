@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/actions/style_action.h"
+
+#include "zonestyle/actions/style_write.h"
+
+#include <QPointer>
+
+#include <type_traits>
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
+
+/// What the host takes for a value of type T.
+template<class T>
+using HostValue = std::conditional_t<std::is_same_v<T, char>, bool, double>;
+
+/// What the host gives for one.
+template<class T>
+using HostRead = std::conditional_t<std::is_same_v<T, char>, bool,
+                                    std::conditional_t<std::is_same_v<T, double>, double, int>>;
+
+template<class T>
+StyleAction<T>::StyleAction(const QString& text, const QModelIndexList& selectedIndexes, T value,
+                            const StylePath& path)
+    : Action(text, selectedIndexes)
+    , m_styleValue(
+          std::make_unique<toolbox::CheckedStyleValue>(accessor<toolbox::CheckedStyleValue>(path)))
+    , m_value(value)
+    , m_layerCheck(path)
+{
+}
+
+template<class T>
+StyleAction<T>::~StyleAction() = default;
+
+template<class T>
+void StyleAction<T>::invokeAction()
+{
+    if (!selectedIndexes().isEmpty())
+        write(m_value);
+}
+
+template<class T>
+T StyleAction<T>::firstValue() const
+{
+    return static_cast<T>(
+        m_styleValue->template read<HostRead<T>>(firstMap()).value_or(HostRead<T> {}));
+}
+
+template<class T>
+void StyleAction<T>::write(T value)
+{
+    const toolbox::Set maps = selectedMaps();
+    if (value != T {} && m_layerCheck.applies()) {
+        const QPointer<Action> self(this);
+        LayerCheck(m_layerCheck).run(); // a copy: the action may go while a question is open
+        if (!self)
+            return;
+    }
+    writeStyle(*m_styleValue, &maps, toolbox::AssignOp_None, static_cast<HostValue<T>>(value));
+}
+
+template class StyleAction<char>;
+template class StyleAction<int>;
+template class StyleAction<double>;
+template class StyleAction<ArrowheadStyle_e>;
+template class StyleAction<BorderLocation_e>;
+template class StyleAction<ContourColoring_e>;
+template class StyleAction<ContourType_e>;
+template class StyleAction<CurveType_e>;
+template class StyleAction<EdgeType_e>;
+template class StyleAction<ErrorBar_e>;
+template class StyleAction<FillMode_e>;
+template class StyleAction<FunctionDependency_e>;
+template class StyleAction<GeomShape_e>;
+template class StyleAction<IJKLines_e>;
+template class StyleAction<LegendShow_e>;
+template class StyleAction<LightingEffect_e>;
+template class StyleAction<LineMapSort_e>;
+template class StyleAction<LinePattern_e>;
+template class StyleAction<MeshType_e>;
+template class StyleAction<PointsToPlot_e>;
+template class StyleAction<SkipMode_e>;
+template class StyleAction<SurfacesToPlot_e>;
+template class StyleAction<VectorType_e>;
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/actions/three_value_action.h"
+
+#include "zonestyle/actions/style_write.h"
+
+#include <sdk/base/cvl.h>
+#include <sdk/common/app_lock.h>
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
+
+namespace {
+
+/// One undo step for all changes while it lives.
+class UndoStep
+{
+public:
+    explicit UndoStep(UndoKind_e kind) { CvlUtilUndoStateBegin(kind); }
+    ~UndoStep() { CvlUtilUndoStateEnd(0, 1); }
+    UndoStep(const UndoStep&) = delete;
+    UndoStep& operator=(const UndoStep&) = delete;
+};
+
+} // namespace
+
+ThreeValueAction::ThreeValueAction(const QString& text, const QModelIndexList& selectedIndexes,
+                                   const ThreeValues& values, const StylePath& group,
+                                   const ThreeNames& names)
+    : StyleAction<int>(text, selectedIndexes, values[0], group)
+    , m_group(group)
+    , m_values(values)
+    , m_names(names)
+{
+}
+
+void ThreeValueAction::invokeAction()
+{
+    if (selectedIndexes().isEmpty())
+        return;
+    const AppLock lock;
+    const UndoStep step(UndoKind_StyleGroup);
+    const toolbox::Set maps = selectedMaps();
+    for (std::size_t i = 0; i < m_values.size(); ++i)
+        writeStyle(m_group / m_names[i], maps, static_cast<double>(m_values[i]));
+}
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/actions/variable_select_action.h"
+
+#include "zonestyle/actions/prompt_parent.h"
+
+#include <sdk/base/cvl.h>
+#include <sdk/common/common.h>
+
+#include <QInputDialog>
+#include <QPointer>
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
+
+static QList<int> enabledVariables()
+{
+    QList<int> variables;
+    CvlSetHandle enabled = CvlUtilVarGetEnabled();
+    for (CvlInt64 variable = CvlUtilSetGetNextMember(enabled, 0); variable != 0;
+         variable = CvlUtilSetGetNextMember(enabled, variable))
+        variables.append(static_cast<int>(variable));
+    CvlUtilSetDealloc(&enabled);
+    return variables;
+}
+
+static QStringList variableNames(const QList<int>& variables)
+{
+    QStringList names;
+    for (const int variable : variables)
+        names.append(QString::fromStdString(variableNameFormattedForAliases(variable)));
+    return names;
+}
+
+VariableSelectAction::VariableSelectAction(const QString& text,
+                                           const QModelIndexList& selectedIndexes,
+                                           const QString& title, const QString& label,
+                                           const StylePath& path)
+    : StyleAction<int>(text, selectedIndexes, 0, path)
+    , m_title(title)
+    , m_label(label)
+{
+}
+
+void VariableSelectAction::invokeAction()
+{
+    const QList<int> variables = enabledVariables();
+    if (selectedIndexes().isEmpty() || variables.isEmpty())
+        return;
+    const QStringList names = variableNames(variables);
+    const QPointer<Action> self(this);
+    bool accepted = false;
+    const QString name = QInputDialog::getItem(&promptParent(), m_title, m_label, names,
+                                               variables.indexOf(firstValue()), false, &accepted);
+    // Of variables with the same name only the first can be chosen.
+    if (accepted && self)
+        write(variables.at(names.indexOf(name)));
+}
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "zonestyle/actions/style_action.h"
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
+
+/// Asks for one of the enabled variables and writes its number to the selected line maps.
+class VariableSelectAction : public StyleAction<int>
+{
+public:
+    VariableSelectAction(const QString& text, const QModelIndexList& selectedIndexes,
+                         const QString& title, const QString& label, const StylePath& path);
+
+    void invokeAction() override;
+
+private:
+    QString m_title;
+    QString m_label;
+};
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

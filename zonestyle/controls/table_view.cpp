@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/controls/table_view.h"
+
+#include <QAccessible>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace corvala::sdk::ui::dialogs::uicontrols {
+
+/// Every view makes itself a selection model for each model that it is given, and keeps it when it
+/// is given another one.
+static void deleteUnusedSelectionModels(const QAbstractItemView& view)
+{
+    const auto own = view.findChildren<QItemSelectionModel*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QItemSelectionModel* selectionModel : own) {
+        if (selectionModel != view.selectionModel())
+            delete selectionModel;
+    }
+}
+
+TableView::TableView(QWidget* parent)
+    : TableViewWithPreferredDimensions(parent)
+    , m_updateDeferrer(this)
+{
+}
+
+void TableView::setModel(QAbstractItemModel* newModel)
+{
+    if (model())
+        disconnect(model(), &QAbstractItemModel::rowsInserted, this, &TableView::rowsInsertedSlot);
+    TableViewWithPreferredDimensions::setModel(newModel);
+    if (newModel)
+        connect(newModel, &QAbstractItemModel::rowsInserted, this, &TableView::rowsInsertedSlot);
+}
+
+void TableView::setSelectionModel(QItemSelectionModel* selectionModel)
+{
+    TableViewWithPreferredDimensions::setSelectionModel(selectionModel);
+    m_selectedRows.known = false;
+    deleteUnusedSelectionModels(*this);
+    deleteUnusedSelectionModels(*horizontalHeader());
+    deleteUnusedSelectionModels(*verticalHeader());
+    viewport()->update();
+}
+
+void TableView::reset()
+{
+    m_selectedRows.known = false;
+    TableViewWithPreferredDimensions::reset();
+}
+
+/// Replacing a scattered selection by another one compares all pairs of their ranges; replacing an
+/// empty one does not.
+void TableView::clearScatteredSelection()
+{
+    static constexpr int kFewRanges = 16;
+    if (selectionModel() && selectionModel()->selection().size() > kFewRanges)
+        clearSelection();
+}
+
+void TableView::selectAll()
+{
+    clearScatteredSelection();
+    TableViewWithPreferredDimensions::selectAll();
+}
+
+void TableView::setSelection(const QRect& rectangle, QItemSelectionModel::SelectionFlags command)
+{
+    if (command.testFlag(QItemSelectionModel::Clear))
+        clearScatteredSelection();
+    TableViewWithPreferredDimensions::setSelection(rectangle, command);
+}
+
+bool TableView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    const bool edits = TableViewWithPreferredDimensions::edit(index, trigger, event);
+    m_editingEvent = edits ? event : nullptr;
+    return edits;
+}
+
+QItemSelectionModel::SelectionFlags TableView::selectionCommand(const QModelIndex& index,
+                                                                const QEvent* event) const
+{
+    const bool edits = event && event == m_editingEvent;
+    m_editingEvent = nullptr;
+    return edits ? QItemSelectionModel::NoUpdate
+                 : TableViewWithPreferredDimensions::selectionCommand(index, event);
+}
+
+/// The address of an event may be that of another one later.
+void TableView::mouseReleaseEvent(QMouseEvent* event)
+{
+    TableViewWithPreferredDimensions::mouseReleaseEvent(event);
+    m_editingEvent = nullptr;
+}
+
+/// Replaces Qt's own handling, which makes a region of all the ranges, and for a screen reader a
+/// list of all the cells.
+void TableView::selectionChanged(const QItemSelection& selected, const QItemSelection&)
+{
+    m_selectedRows.known = false;
+    viewport()->update();
+    announceSelection(selected);
+}
+
+void TableView::announceSelection(const QItemSelection& selected)
+{
+    if (!QAccessible::isActive() || selected.isEmpty() || !selected.first().isValid())
+        return;
+    const QModelIndex first = selected.first().topLeft();
+    const int headerRow = horizontalHeader()->isVisible() ? 1 : 0;
+    const int headerColumn = verticalHeader()->isVisible() ? 1 : 0;
+    const int tableColumns = model()->columnCount() + headerColumn;
+    QAccessibleEvent event(this, QAccessible::Selection);
+    event.setChild((first.row() + headerRow) * tableColumns + first.column() + headerColumn);
+    QAccessible::updateAccessibility(&event);
+}
+
+void TableView::rowsInsertedSlot(const QModelIndex&, int, int)
+{
+    m_selectedRows.known = false;
+    updateGeometries();
+}
+
+const TableView::SelectedRows& TableView::selectedRows() const
+{
+    if (m_selectedRows.known)
+        return m_selectedRows;
+    const QItemSelection ranges = selectionModel()->selection();
+    const int columns = model()->columnCount();
+    m_selectedRows.wholeRows
+        = std::all_of(ranges.cbegin(), ranges.cend(), [columns](const QItemSelectionRange& range) {
+              return range.left() == 0 && range.right() == columns - 1;
+          });
+    m_selectedRows.rows = m_selectedRows.wholeRows ? RowBitmap(*selectionModel()) : RowBitmap();
+    m_selectedRows.known = true;
+    return m_selectedRows;
+}
+
+bool TableView::isCellSelected(const QModelIndex& index) const
+{
+    if (!selectionModel() || !index.isValid())
+        return false;
+    const SelectedRows& selected = selectedRows();
+    return selected.wholeRows ? selected.rows.contains(index.row())
+                              : selectionModel()->isSelected(index);
+}
+
+TableView::CellBlock TableView::cellsIn(const QRect& area) const
+{
+    const auto endOr = [](int section, int last) { return section < 0 ? last : section; };
+    const QHeaderView& columns = *horizontalHeader();
+    const int left = columns.visualIndexAt(isRightToLeft() ? area.right() : area.left());
+    const int right = columns.visualIndexAt(isRightToLeft() ? area.left() : area.right());
+    return {rowAt(area.top()), endOr(rowAt(area.bottom()), verticalHeader()->count() - 1), left,
+            endOr(right, columns.count() - 1)};
+}
+
+/// Paints as QTableView does, but looks selected rows up: Qt searches all ranges of the selection
+/// for every cell.
+void TableView::paintEvent(QPaintEvent* event)
+{
+    if (!model() || !selectionModel())
+        return;
+    const CellBlock cells = cellsIn(event->rect());
+    if (cells.top < 0 || cells.left < 0)
+        return;
+    QPainter painter(viewport());
+    paintCells(painter, cells);
+    if (showGrid())
+        paintGrid(painter, cells);
+}
+
+QStyleOptionViewItem TableView::cellOption(const QModelIndex& index,
+                                           const QStyleOptionViewItem& base) const
+{
+    const int grid = showGrid() ? 1 : 0;
+    QStyleOptionViewItem option = base;
+    option.rect = QRect(columnViewportPosition(index.column()), rowViewportPosition(index.row()),
+                        columnWidth(index.column()) - grid, rowHeight(index.row()) - grid);
+    if (isRightToLeft())
+        option.rect.translate(grid, 0);
+    option.state.setFlag(QStyle::State_Selected, isCellSelected(index));
+    const bool hasFocusNow = hasFocus() || viewport()->hasFocus();
+    option.state.setFlag(QStyle::State_HasFocus, hasFocusNow && index == currentIndex());
+    return option;
+}
+
+void TableView::paintCells(QPainter& painter, const CellBlock& cells)
+{
+    QStyleOptionViewItem base = viewOptions();
+    base.palette.setCurrentColorGroup(isEnabled() ? QPalette::Normal : QPalette::Disabled);
+    for (int row = cells.top; row <= cells.bottom; ++row) {
+        for (int visual = cells.left; visual <= cells.right; ++visual) {
+            const QModelIndex index = model()->index(row, horizontalHeader()->logicalIndex(visual));
+            const QStyleOptionViewItem option = cellOption(index, base);
+            style()->drawPrimitive(QStyle::PE_PanelItemViewRow, &option, &painter, this);
+            itemDelegate(index)->paint(&painter, option, index);
+        }
+    }
+}
+
+void TableView::paintGrid(QPainter& painter, const CellBlock& cells)
+{
+    const QStyleOptionViewItem option = viewOptions();
+    const int hint = style()->styleHint(QStyle::SH_Table_GridLineColor, &option, this);
+    painter.setPen(QPen(QColor::fromRgba(static_cast<QRgb>(hint)), 0, gridStyle()));
+    const auto start = [this](int visual) {
+        return columnViewportPosition(horizontalHeader()->logicalIndex(visual));
+    };
+    const auto edge = [this, &start](int visual) { // the side where a column ends
+        const int width = columnWidth(horizontalHeader()->logicalIndex(visual));
+        return isRightToLeft() ? start(visual) : start(visual) + width - 1;
+    };
+    const auto bottom = [this](int row) { return rowViewportPosition(row) + rowHeight(row) - 1; };
+    const int far = edge(cells.right);
+    const int near = isRightToLeft()
+        ? start(cells.left) + columnWidth(horizontalHeader()->logicalIndex(cells.left)) - 1
+        : start(cells.left);
+    for (int row = cells.top; row <= cells.bottom; ++row)
+        painter.drawLine(near, bottom(row), far, bottom(row));
+    for (int visual = cells.left; visual <= cells.right; ++visual)
+        painter.drawLine(edge(visual), rowViewportPosition(cells.top), edge(visual),
+                         bottom(cells.bottom));
+}
+
+} // namespace corvala::sdk::ui::dialogs::uicontrols
