@@ -62,8 +62,8 @@ void EnterThreeValueAction::invokeAction()
     const QPointer<Action> self(this);
     const QPointer<EnterThreeIntValuesDialog> dialog(&preparedDialog(m_prompt, firstValues()));
     if (dialog->exec() == QDialog::Accepted && self && dialog)
-        trigger<ThreeValueAction>(text(), selectedIndexes(), dialog->values(), m_group,
-                                  m_prompt.names);
+        runAction<ThreeValueAction>(text(), selectedIndexes(), dialog->values(), m_group,
+                                    m_prompt.names);
 }
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

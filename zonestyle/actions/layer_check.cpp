@@ -6,6 +6,7 @@
 #include <sdk/common/common.h>
 #include <sdk/dialogs_prompt/vector_var_assign_strategy.h>
 
+#include <QCursor>
 #include <QGuiApplication>
 
 #include <algorithm>

@@ -29,7 +29,7 @@ public:
 void SelectColorAction::Private::colorSelected(int color)
 {
     const QPointer<SelectColorAction> self(q);
-    trigger<StyleAction<int>>(QString(), selectedIndexes, color, path);
+    runAction<StyleAction<int>>(QString(), selectedIndexes, color, path);
     if (self)
         closeMenus();
 }

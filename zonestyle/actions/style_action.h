@@ -39,7 +39,7 @@ private:
 
 /// Makes an action, does what it stands for and discards it.
 template<class A, class... Arguments>
-void trigger(Arguments&&... arguments)
+void runAction(Arguments&&... arguments)
 {
     A action(std::forward<Arguments>(arguments)...);
     action.trigger();
