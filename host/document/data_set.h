@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/style/map_set.h"
+#include "sdk/base/enums.h"
 
 #include <vtkSmartPointer.h>
 
@@ -79,6 +80,7 @@ public:
     std::array<int, 3> vectorVariables {{0, 0, 0}};
     /// Variable numbers proposed for contour groups 1 up; 0 is unassigned.
     std::vector<int> contourVariables;
+    bool isPlanar = false; ///< all zones lie in one plane of constant Z
     std::vector<std::string> notes; ///< what the reader dropped or guessed, one sentence each
     std::shared_ptr<const ZoneSource> source;
 
@@ -103,6 +105,9 @@ public:
 
     /// Values of a variable in a zone, from the zone's arrays or coordinates.
     ZoneValues values(std::int64_t zone, std::int64_t variable) const;
+
+    /// Field2D for planar data without volume zones, else Field3D; LineXY without coordinates.
+    PlotType_e suggestedPlotType() const;
 
     bool isTransient() const;
     /// Distinct solution times of the transient zones, ascending.

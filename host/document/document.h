@@ -72,7 +72,8 @@ public:
     void setPicks(std::vector<Pick> picks); ///< not undoable
 
     // Maps of the active frame. `maps` must be existing maps and not empty.
-    CvlInt64 createLineMaps(CvlInt64 count); ///< appended, active, default style; number of the first, 0 on failure
+    CvlInt64 createLineMaps(
+        CvlInt64 count); ///< appended, active, default style; number of the first, 0 on failure
     bool copyLineMaps(const MapSet& maps);
     bool deleteLineMaps(const MapSet& maps);
     bool shiftLineMaps(const MapSet& maps, bool toTop);
@@ -83,26 +84,32 @@ public:
 
     // Recursive lock of the application.
     void lock() { ++m_lockDepth; }
-    void unlock();
+    void unlock() { --m_lockDepth; }
     bool isLocked() const { return m_lockDepth > 0; }
 
     void raise(const StateEvent& event);
 
 private:
-    friend class DocumentChanges;
-
     Document();
     ~Document();
 
     Frame* makeFrame();
+    void proposeVariables(Frame& frame);
     void raiseCode(StateCode_e code);
+    /// Applies the change and records it for undo; the caller raises its events.
+    void perform(Change change);
+    void raiseStyle(const Frame* frame, const Attribute& attribute,
+                    std::vector<StyleChange> changes);
+    StyleWriteResult_e writeNow(const StyleWrite& request);
     StyleWriteResult_e writeToMaps(Frame& frame, const Attribute& attribute,
                                    const StyleWrite& request);
     StyleWriteResult_e writeToList(Frame* frame, const Attribute& attribute,
                                    const StyleWrite& request);
     StyleWriteResult_e writeSet(Frame& frame, const Attribute& attribute,
                                 const StyleWrite& request);
-    bool rearrangeLineMaps(const std::vector<std::int64_t>& newToOld, const QString& text);
+    bool areLineMaps(const MapSet& maps) const;
+    void rearrangeLineMaps(const std::vector<std::int64_t>& newToOld, MapSet active,
+                           const QString& text);
 
     StateEventSignal m_events;
     std::vector<std::unique_ptr<Frame>> m_frames;

@@ -68,7 +68,6 @@ public:
 
 private:
     friend class Document;
-    friend class DocumentChanges;
 
     CvlUniqueId m_id;
     std::shared_ptr<DataSet> m_data;

@@ -2,33 +2,16 @@
 #pragma once
 
 #include "host/document/data_set.h"
+#include "host/io/read_request.h"
 
+#include <QMetaType>
 #include <QObject>
 #include <QString>
-#include <QStringList>
 
 #include <memory>
 #include <optional>
 
 namespace corvala::host::io {
-
-/// How a Plot3D file is laid out; the reader detects what is left empty.
-struct Plot3DLayout
-{
-    std::optional<bool> ascii;
-    std::optional<bool> multiGrid;
-    std::optional<bool> iblank;
-    std::optional<bool> byteCount; ///< Fortran record marks
-    std::optional<bool> bigEndian;
-    std::optional<bool> doublePrecision;
-    std::optional<bool> twoDimensional;
-};
-
-struct ReadRequest
-{
-    QStringList files; ///< opened together as one data set
-    Plot3DLayout plot3d;
-};
 
 struct ReadResult
 {
@@ -48,13 +31,19 @@ public:
     explicit DataReader(QObject* parent = nullptr);
     ~DataReader() override; ///< ends a running child
 
-    /// Starts reading; `finished` follows exactly once, also after cancel. One reading at a time.
+    /// Starts reading; `finished` follows exactly once, also after cancel. One reading at a time: a
+    /// call while one runs is ignored.
     void start(const ReadRequest& request);
     void cancel();
     bool isRunning() const;
+    qint64 processId() const; ///< of the running child, else 0
 
     /// Reads and waits, running a local event loop. For the command line and tests.
     static ReadResult read(const ReadRequest& request);
+
+    /// Path of the reading program: beside the running program, in its libexec folder, or as the
+    /// environment variable CORVALA_READ says. Empty when there is none.
+    static QString readerProgram();
 
     /// File name filters for an open dialog, ";;"-separated.
     static QString nameFilters();
@@ -70,3 +59,5 @@ private:
 };
 
 } // namespace corvala::host::io
+
+Q_DECLARE_METATYPE(corvala::host::io::ReadResult)

@@ -67,6 +67,14 @@ private:
     T defaultValue(const Attribute& attribute, std::int64_t map) const;
     template<class T>
     T value(const Attribute& attribute, std::int64_t map) const;
+    struct MapRange
+    {
+        std::int64_t first;
+        std::int64_t last;
+    };
+    template<class T>
+    ChunkPointer chunkWith(const Attribute& attribute, MapRange range, const std::uint32_t* begin,
+                           const std::uint32_t* end, const T& value) const;
     template<class T>
     std::vector<ChunkChange> planAs(const Attribute& attribute, const MapSet& maps,
                                     const T& value) const;

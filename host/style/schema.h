@@ -21,7 +21,7 @@ enum class ValueType : std::uint8_t {
     Text,
     Variable, ///< variable number, limited by the data set
     Zone, ///< zone number, limited by the data set
-    MapSet
+    Maps ///< a set of map or zone numbers
 };
 
 /// How a per-map attribute gets its default.
@@ -55,6 +55,7 @@ struct Attribute
     std::string defaultText;
     DefaultRule rule = DefaultRule::Constant;
     int indexCount = 0; ///< offset 1 runs from 1 to this; 0 takes no offset
+    bool isPercent = false; ///< a Real in percent of the frame height
     bool groupColors = false; ///< a Color that may follow a contour group or RGB
     const EnumeratorName* enumerators = nullptr; ///< ends with a null name
     const char* label = ""; ///< untranslated English, as in "Mesh type"; context "StyleValues"
@@ -98,7 +99,7 @@ private:
         AttributeId id = kNoAttribute;
         std::vector<std::string> names;
     };
-    const Bucket* bucket(std::uint64_t hash) const;
+    std::size_t bucketFor(std::uint64_t hash) const; ///< its place, or the free one for it
 
     std::vector<Attribute> m_attributes;
     std::vector<AttributeId> m_scopes[4];

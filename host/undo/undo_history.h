@@ -7,6 +7,7 @@
 #include <QString>
 #include <QUndoStack>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -14,17 +15,14 @@ namespace corvala::host {
 
 class Document;
 
-/// One reversible change of the document. Made after the change was applied.
-class Change
+/// One reversible change of the document, made as it is first applied.
+struct Change
 {
-public:
-    virtual ~Change() = default;
-    virtual void undo(Document& document) = 0;
-    virtual void redo(Document& document) = 0;
-    virtual QString text() const = 0; ///< such as "Mesh type = Overlay (3 field maps)"
-    virtual CvlUniqueId frame() const { return 0; }
-    /// Adds what the change touches to the event that announces its undo or redo.
-    virtual void describe(StateEvent& event) const = 0;
+    CvlUniqueId frame = 0; ///< frame that it changes; 0 for the document
+    QString text; ///< such as "Mesh type = Overlay (3 field maps)"
+    std::vector<StyleChange> styleChanges; ///< for the event that announces its undo or redo
+    bool structureChanged = false; ///< the list of maps differs
+    std::function<void(bool forward)> apply; ///< does it again, or takes it back
 };
 
 /// The undo list of the document. A change is a step of its own unless a bracket is open, or it
@@ -35,14 +33,14 @@ public:
     explicit UndoHistory(Document& document);
     ~UndoHistory();
 
-    void record(std::unique_ptr<Change> change);
+    void record(Change change);
     void clear(); ///< also closes brackets
 
     /// Brackets nest; the outermost decides.
     void begin(CvlInt64 kind);
-    /// `discard` rolls back and forgets what the bracket recorded; `commit` closes it as one step.
+    /// Closes the bracket as one step, or with `discard` takes back and forgets what it recorded.
     /// Without an open bracket nothing happens.
-    void end(bool discard, bool commit);
+    void end(bool discard);
     bool isBracketOpen() const { return m_depth > 0; }
 
     /// Changes recorded from now on belong to a new gesture, until endGesture.
@@ -61,6 +59,7 @@ public:
 private:
     class Step;
 
+    bool step(bool forward);
     void announce(const Step& step, bool forward);
 
     Document& m_document;

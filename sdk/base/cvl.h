@@ -64,8 +64,8 @@ CvlSetHandle CvlUtilZoneGetEnabled(void);
 CvlSetHandle CvlUtilVarGetEnabled(void);
 CvlBool CvlUtilZoneIsOrderedForFrame(CvlUniqueId frame, CvlInt64 zone);
 /** Ordered zone: its I, J, K dimensions. Any other: points, cells, 1. Null pointers are skipped. */
-CvlBool CvlUtilZoneGetInfoForFrame(CvlUniqueId frame, CvlInt64 zone, CvlInt64* iDim,
-                                   CvlInt64* jDim, CvlInt64* kDim);
+CvlBool CvlUtilZoneGetInfoForFrame(CvlUniqueId frame, CvlInt64 zone, CvlInt64* iDim, CvlInt64* jDim,
+                                   CvlInt64* kDim);
 /** Number of zones and of variables of a frame's data set, enabled or not. */
 CvlInt64 CvlUtilZoneGetCountForFrame(CvlUniqueId frame);
 CvlInt64 CvlUtilVarGetCountForFrame(CvlUniqueId frame);
@@ -127,8 +127,8 @@ void CvlUtilUndoStateEnd(CvlBool discard, CvlBool commit);
 
 /** Frees a text and clears the pointer; null is fine. */
 void CvlUtilStringDealloc(char** text);
-/** A drawable colour for a colour value: palette (0 to 63), contour group (101 to 108) and RGB (109)
-    give a representative colour. 0, and black, for any other value. */
+/** A drawable colour for a colour value: palette (0 to 63), contour group (101 to 108) and RGB
+   (109) give a representative colour. 0, and black, for any other value. */
 CvlBool CvlUtilColorGetRGB(CvlInt64 color, uint8_t* r, uint8_t* g, uint8_t* b);
 CvlBool CvlAppPieChartScatterSymbolsAreEnabled(void);
 CvlBool CvlAppExtendedScatterSymbolsAreEnabled(void);

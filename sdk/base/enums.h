@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-/// The vocabulary that the engine, the SDK and the module share: plain enumerations whose values are
-/// part of the interface and of the files. No code, no dependencies.
+/// The vocabulary that the engine, the SDK and the module share: plain enumerations whose values
+/// are part of the interface and of the files. No code, no dependencies.
 
 enum PlotType_e : int {
     PlotType_None = 0,

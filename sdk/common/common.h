@@ -51,8 +51,7 @@ bool checkRGBChannelVars(const toolbox::StyleValue& globalRGB);
 std::string variableNameFormattedForAliases(CvlInt64 variable);
 std::string variableNameFormattedForAliasesForFrame(CvlUniqueId frame, CvlInt64 variable);
 /// Such as "4: Pressure"; empty for a bad number.
-std::string variableNameWithIndexFormattedForAliasesForFrame(CvlUniqueId frame,
-                                                             CvlInt64 variable);
+std::string variableNameWithIndexFormattedForAliasesForFrame(CvlUniqueId frame, CvlInt64 variable);
 /// Such as "3: Inlet"; empty for a bad number.
 std::string zoneNameWithIndexFormattedForFrame(CvlUniqueId frame, CvlInt64 zone);
 

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/document/data_set.h"
+
+#include <vtkCellData.h>
+#include <vtkDataSet.h>
+#include <vtkDoubleArray.h>
+#include <vtkPointData.h>
+
+#include <algorithm>
+
+namespace corvala::host {
+
+vtkSmartPointer<vtkDataSet> DataSet::geometry(std::int64_t number) const
+{
+    return source && hasZone(number) ? source->zone(zone(number).sourceIndex) : nullptr;
+}
+
+static vtkSmartPointer<vtkDataArray> coordinateOf(vtkDataSet& zone, int axis)
+{
+    const vtkIdType count = zone.GetNumberOfPoints();
+    auto values = vtkSmartPointer<vtkDoubleArray>::New();
+    values->SetNumberOfTuples(count);
+    double point[3];
+    for (vtkIdType i = 0; i < count; ++i) {
+        zone.GetPoint(i, point);
+        values->SetValue(i, point[axis]);
+    }
+    return values;
+}
+
+static vtkSmartPointer<vtkDataArray> componentOf(vtkDataArray& array, int component)
+{
+    if (array.GetNumberOfComponents() == 1)
+        return &array;
+    const vtkIdType count = array.GetNumberOfTuples();
+    auto values = vtkSmartPointer<vtkDoubleArray>::New();
+    values->SetNumberOfTuples(count);
+    for (vtkIdType i = 0; i < count; ++i)
+        values->SetValue(i, array.GetComponent(i, component));
+    return values;
+}
+
+ZoneValues DataSet::values(std::int64_t zoneNumber, std::int64_t variableNumber) const
+{
+    const vtkSmartPointer<vtkDataSet> data =
+        hasVariable(variableNumber) ? geometry(zoneNumber) : nullptr;
+    if (!data)
+        return {};
+    const Variable& wanted = variable(variableNumber);
+    if (wanted.isCoordinate())
+        return {coordinateOf(*data, wanted.component), ValueLocation::Points};
+    ValueLocation location = ValueLocation::Points;
+    vtkDataArray* array = data->GetPointData()->GetArray(wanted.array.c_str());
+    if (!array) {
+        array = data->GetCellData()->GetArray(wanted.array.c_str());
+        location = ValueLocation::Cells;
+    }
+    if (!array || wanted.component >= array->GetNumberOfComponents())
+        return {};
+    return {componentOf(*array, wanted.component), location};
+}
+
+PlotType_e DataSet::suggestedPlotType() const
+{
+    const bool hasCoordinates = std::any_of(variables.begin(), variables.end(),
+                                            [](const Variable& v) { return v.isCoordinate(); });
+    if (!hasCoordinates)
+        return PlotType_LineXY;
+    const bool hasVolumes = std::any_of(zones.begin(), zones.end(),
+                                        [](const ZoneInfo& zone) { return zone.isVolume(); });
+    return isPlanar && !hasVolumes ? PlotType_Field2D : PlotType_Field3D;
+}
+
+bool DataSet::isTransient() const
+{
+    return std::any_of(zones.begin(), zones.end(),
+                       [](const ZoneInfo& zone) { return zone.strand > 0; });
+}
+
+std::vector<double> DataSet::solutionTimes() const
+{
+    std::vector<double> times;
+    for (const ZoneInfo& zone : zones)
+        if (zone.strand > 0)
+            times.push_back(zone.time);
+    std::sort(times.begin(), times.end());
+    times.erase(std::unique(times.begin(), times.end()), times.end());
+    return times;
+}
+
+} // namespace corvala::host

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/document/frame.h"
+
+namespace corvala::host {
+
+static const Attribute& plotTypeAttribute()
+{
+    static const Attribute& attribute =
+        Schema::instance().at(Schema::instance().find({"PlotType"}));
+    return attribute;
+}
+
+Frame::Frame(CvlUniqueId id)
+    : m_id(id)
+    , m_fieldStyle(Scope::FieldMap)
+    , m_lineStyle(Scope::LineMap)
+    , m_values(Scope::Frame)
+{
+    m_fieldStyle.setVolumeQuery([this](CvlInt64 map) { return m_fieldMaps.hasVolumeZones(map); });
+}
+
+PlotType_e Frame::plotType() const
+{
+    return static_cast<PlotType_e>(m_values.integer(plotTypeAttribute()));
+}
+
+bool Frame::isFieldPlot() const
+{
+    return plotType() == PlotType_Field2D || plotType() == PlotType_Field3D;
+}
+
+bool Frame::isLinePlot() const
+{
+    return plotType() == PlotType_LineXY || plotType() == PlotType_LinePolar;
+}
+
+CvlInt64 Frame::shownMapCount() const
+{
+    return isFieldPlot() ? fieldMapCount() : isLinePlot() ? lineMapCount() : 0;
+}
+
+static bool flagNamed(const ValueList& values, const char* group, const char* name)
+{
+    const char* const path[] = {group, name};
+    const AttributeId id = Schema::instance().find(path, 2);
+    return id >= 0 && values.integer(Schema::instance().at(id)) != 0;
+}
+
+bool Frame::fieldLayer(const char* layer) const
+{
+    return layer && flagNamed(m_values, "FieldLayers", layer);
+}
+
+bool Frame::lineLayer(const char* layer) const
+{
+    return layer && flagNamed(m_values, "LinePlotLayers", layer);
+}
+
+std::int32_t Frame::fieldInteger(AttributeId attribute, CvlInt64 map) const
+{
+    return m_fieldStyle.integer(Schema::instance().at(attribute), map);
+}
+
+double Frame::fieldReal(AttributeId attribute, CvlInt64 map) const
+{
+    return m_fieldStyle.real(Schema::instance().at(attribute), map);
+}
+
+std::int32_t Frame::lineInteger(AttributeId attribute, CvlInt64 map) const
+{
+    return m_lineStyle.integer(Schema::instance().at(attribute), map);
+}
+
+double Frame::lineReal(AttributeId attribute, CvlInt64 map) const
+{
+    return m_lineStyle.real(Schema::instance().at(attribute), map);
+}
+
+} // namespace corvala::host

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/document/undo_texts.h"
+
+#include <QCoreApplication>
+
+namespace corvala::host {
+
+QString undoText(const char* text)
+{
+    return QCoreApplication::translate("UndoTexts", text);
+}
+
+static QString styleName(const char* text)
+{
+    return QCoreApplication::translate("StyleValues", text);
+}
+
+QString mapCountText(Scope scope, std::uint64_t count)
+{
+    const bool isField = scope == Scope::FieldMap;
+    if (count == 1)
+        return undoText(isField ? QT_TRANSLATE_NOOP("UndoTexts", "1 field map")
+                                : QT_TRANSLATE_NOOP("UndoTexts", "1 line map"));
+    return undoText(isField ? QT_TRANSLATE_NOOP("UndoTexts", "%1 field maps")
+                            : QT_TRANSLATE_NOOP("UndoTexts", "%1 line maps"))
+        .arg(count);
+}
+
+static QString numberText(const Attribute& attribute, double number)
+{
+    switch (attribute.type) {
+    case ValueType::Bool:
+        return number != 0.0 ? undoText(QT_TRANSLATE_NOOP("UndoTexts", "on"))
+                             : undoText(QT_TRANSLATE_NOOP("UndoTexts", "off"));
+    case ValueType::Enumeration:
+        for (const EnumeratorName* e = attribute.enumerators; e->name; ++e)
+            if (e->value == number)
+                return styleName(e->name);
+        break;
+    default: break;
+    }
+    return QString::number(number) + (attribute.isPercent ? QStringLiteral("%") : QString());
+}
+
+static QString valueText(const Attribute& attribute, const StyleInput& value)
+{
+    if (const auto* text = std::get_if<std::string>(&value))
+        return QString::fromStdString(*text);
+    if (const auto* flag = std::get_if<bool>(&value))
+        return numberText(attribute, *flag ? 1.0 : 0.0);
+    const auto* number = std::get_if<double>(&value);
+    return number ? numberText(attribute, *number) : QString();
+}
+
+QString assignmentText(const Attribute& attribute, const StyleInput& value)
+{
+    return undoText(QT_TRANSLATE_NOOP("UndoTexts", "%1 = %2"))
+        .arg(styleName(attribute.label), valueText(attribute, value));
+}
+
+QString assignmentText(const Attribute& attribute, const StyleInput& value, std::uint64_t maps)
+{
+    return undoText(QT_TRANSLATE_NOOP("UndoTexts", "%1 = %2 (%3)"))
+        .arg(styleName(attribute.label), valueText(attribute, value),
+             mapCountText(attribute.scope, maps));
+}
+
+QString activationText(Scope scope, int op, std::uint64_t maps)
+{
+    const char* const text = op == static_cast<int>(AssignOp::Add)
+        ? QT_TRANSLATE_NOOP("UndoTexts", "Activate %1")
+        : op == static_cast<int>(AssignOp::Remove)
+        ? QT_TRANSLATE_NOOP("UndoTexts", "Deactivate %1")
+        : QT_TRANSLATE_NOOP("UndoTexts", "Activate only %1");
+    return undoText(text).arg(mapCountText(scope, maps));
+}
+
+} // namespace corvala::host

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/style/schema.h"
+#include "host/style/style_value.h"
+
+#include <QString>
+
+namespace corvala::host {
+
+/// "1 field map", "3 line maps".
+QString mapCountText(Scope scope, std::uint64_t count);
+
+/// "Mesh type = Overlay".
+QString assignmentText(const Attribute& attribute, const StyleInput& value);
+
+/// "Mesh type = Overlay (3 field maps)".
+QString assignmentText(const Attribute& attribute, const StyleInput& value, std::uint64_t maps);
+
+/// "Activate 3 field maps", "Deactivate 1 line map", "Activate only 2 field maps".
+QString activationText(Scope scope, int op, std::uint64_t maps);
+
+/// A text of the undo list.
+QString undoText(const char* text);
+
+} // namespace corvala::host

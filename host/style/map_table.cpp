@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/style/map_table.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace corvala::host {
+
+namespace {
+
+constexpr std::size_t kSize = MapTable::kChunkSize;
+
+/// Values of kSize neighbouring maps; those beyond the last map are meaningless.
+template<class T>
+using Chunk = std::array<T, kSize>;
+
+std::size_t chunkIndex(std::int64_t map)
+{
+    return static_cast<std::size_t>(map - 1) / kSize;
+}
+
+std::size_t placeInChunk(std::int64_t map)
+{
+    return static_cast<std::size_t>(map - 1) % kSize;
+}
+
+template<class T>
+std::shared_ptr<const Chunk<T>> filledChunk(const T& value)
+{
+    auto chunk = std::make_shared<Chunk<T>>();
+    chunk->fill(value);
+    return chunk;
+}
+
+std::size_t chunksFor(std::int64_t count)
+{
+    return (static_cast<std::size_t>(count) + kSize - 1) / kSize;
+}
+
+const Attribute& attributeAt(Scope scope, std::size_t slot)
+{
+    const Schema& schema = Schema::instance();
+    return schema.at(schema.inScope(scope)[slot]);
+}
+
+} // namespace
+
+MapTable::MapTable(Scope scope)
+    : m_scope(scope)
+    , m_columns(Schema::instance().inScope(scope).size())
+{
+}
+
+void MapTable::setCount(std::int64_t count)
+{
+    m_count = count;
+    for (auto& column : m_columns)
+        column.resize(chunksFor(count));
+}
+
+template<>
+std::int32_t MapTable::defaultValue(const Attribute& attribute, std::int64_t map) const
+{
+    switch (attribute.rule) {
+    case DefaultRule::CyclingColor: {
+        // The first palette colours are black and white; maps cycle through the next six.
+        constexpr int kFirst = 2;
+        constexpr int kColors = 6;
+        return kFirst + static_cast<std::int32_t>((map - 1) % kColors);
+    }
+    case DefaultRule::NoSurfacesForVolumes:
+        if (m_hasVolume && m_hasVolume(map))
+            return 10;
+        break;
+    case DefaultRule::Constant: break;
+    }
+    return static_cast<std::int32_t>(attribute.defaultNumber);
+}
+
+template<>
+double MapTable::defaultValue(const Attribute& attribute, std::int64_t) const
+{
+    return attribute.defaultNumber;
+}
+
+template<>
+std::string MapTable::defaultValue(const Attribute& attribute, std::int64_t) const
+{
+    return attribute.defaultText;
+}
+
+const MapTable::ChunkPointer& MapTable::chunkOf(const Attribute& attribute, std::int64_t map) const
+{
+    return m_columns[static_cast<std::size_t>(attribute.slot)][chunkIndex(map)];
+}
+
+template<class T>
+T MapTable::value(const Attribute& attribute, std::int64_t map) const
+{
+    const ChunkPointer& chunk = chunkOf(attribute, map);
+    return chunk ? (*static_cast<const Chunk<T>*>(chunk.get()))[placeInChunk(map)]
+                 : defaultValue<T>(attribute, map);
+}
+
+std::int32_t MapTable::integer(const Attribute& attribute, std::int64_t map) const
+{
+    return value<std::int32_t>(attribute, map);
+}
+
+double MapTable::real(const Attribute& attribute, std::int64_t map) const
+{
+    return value<double>(attribute, map);
+}
+
+const std::string& MapTable::text(const Attribute& attribute, std::int64_t map) const
+{
+    const ChunkPointer& chunk = chunkOf(attribute, map);
+    return chunk ? (*static_cast<const Chunk<std::string>*>(chunk.get()))[placeInChunk(map)]
+                 : attribute.defaultText;
+}
+
+/// The chunk's values with the new one in the given places.
+template<class T>
+MapTable::ChunkPointer MapTable::chunkWith(const Attribute& attribute, MapRange range,
+                                           const std::uint32_t* begin, const std::uint32_t* end,
+                                           const T& newValue) const
+{
+    auto copy = std::make_shared<Chunk<T>>();
+    for (std::int64_t map = range.first; map <= range.last; ++map)
+        (*copy)[placeInChunk(map)] = value<T>(attribute, map);
+    for (; begin != end; ++begin)
+        (*copy)[placeInChunk(*begin)] = newValue;
+    return copy;
+}
+
+template<class T>
+std::vector<MapTable::ChunkChange> MapTable::planAs(const Attribute& attribute, const MapSet& maps,
+                                                    const T& newValue) const
+{
+    std::vector<ChunkChange> changes;
+    std::vector<std::uint32_t> members(static_cast<std::size_t>(maps.cardinality()));
+    maps.toUint32Array(members.data());
+    std::shared_ptr<const Chunk<T>> uniform; // shared by every chunk that is filled whole
+
+    const std::uint32_t* const last = members.data() + members.size();
+    for (const std::uint32_t* begin = members.data(); begin != last;) {
+        const std::size_t chunk = chunkIndex(*begin);
+        const auto chunkStart = static_cast<std::int64_t>(chunk * kSize);
+        const MapRange range {chunkStart + 1,
+                              std::min(chunkStart + static_cast<std::int64_t>(kSize), m_count)};
+        const std::uint32_t* const end =
+            std::find_if(begin, last, [&](std::uint32_t map) { return map > range.last; });
+        const bool differs = std::any_of(
+            begin, end, [&](std::uint32_t map) { return value<T>(attribute, map) != newValue; });
+        if (differs) {
+            ChunkPointer after;
+            if (end - begin == range.last - chunkStart) {
+                if (!uniform)
+                    uniform = filledChunk(newValue);
+                after = uniform;
+            } else {
+                after = chunkWith(attribute, range, begin, end, newValue);
+            }
+            changes.push_back(
+                {static_cast<std::uint32_t>(chunk), chunkOf(attribute, *begin), std::move(after)});
+        }
+        begin = end;
+    }
+    return changes;
+}
+
+std::vector<MapTable::ChunkChange> MapTable::plan(const Attribute& attribute, const MapSet& maps,
+                                                  std::int32_t newValue) const
+{
+    return planAs(attribute, maps, newValue);
+}
+
+std::vector<MapTable::ChunkChange> MapTable::plan(const Attribute& attribute, const MapSet& maps,
+                                                  double newValue) const
+{
+    return planAs(attribute, maps, newValue);
+}
+
+std::vector<MapTable::ChunkChange> MapTable::plan(const Attribute& attribute, const MapSet& maps,
+                                                  const std::string& newValue) const
+{
+    return planAs(attribute, maps, newValue);
+}
+
+void MapTable::apply(const Attribute& attribute, const std::vector<ChunkChange>& changes,
+                     bool forward)
+{
+    auto& column = m_columns[static_cast<std::size_t>(attribute.slot)];
+    for (const ChunkChange& change : changes)
+        column[change.chunk] = forward ? change.after : change.before;
+}
+
+template<class T>
+void MapTable::rearrangeAs(const Attribute& attribute, const std::vector<std::int64_t>& newToOld,
+                           const MapTable& old)
+{
+    auto& column = m_columns[static_cast<std::size_t>(attribute.slot)];
+    for (std::size_t chunk = 0; chunk < column.size(); ++chunk) {
+        const std::size_t first = chunk * kSize;
+        const std::size_t last = std::min(first + kSize, newToOld.size());
+        std::shared_ptr<Chunk<T>> values;
+        for (std::size_t i = first; i < last; ++i) {
+            const auto map = static_cast<std::int64_t>(i + 1);
+            const T fallback = defaultValue<T>(attribute, map);
+            T moved = newToOld[i] > 0 ? old.value<T>(attribute, newToOld[i]) : fallback;
+            if (!values && moved != fallback) {
+                values = std::make_shared<Chunk<T>>();
+                for (std::size_t j = first; j < i; ++j)
+                    (*values)[j - first] =
+                        defaultValue<T>(attribute, static_cast<std::int64_t>(j + 1));
+            }
+            if (values)
+                (*values)[i - first] = std::move(moved);
+        }
+        column[chunk] = std::move(values);
+    }
+}
+
+void MapTable::rearrange(const std::vector<std::int64_t>& newToOld)
+{
+    const MapTable old = *this;
+    for (auto& column : m_columns)
+        column.clear();
+    setCount(static_cast<std::int64_t>(newToOld.size()));
+    for (std::size_t slot = 0; slot < m_columns.size(); ++slot) {
+        const Attribute& attribute = attributeAt(m_scope, slot);
+        const auto& before = old.m_columns[slot];
+        const bool allDefault =
+            std::all_of(before.begin(), before.end(), [](const auto& chunk) { return !chunk; });
+        if (allDefault && attribute.rule == DefaultRule::Constant)
+            continue;
+        if (attribute.isText())
+            rearrangeAs<std::string>(attribute, newToOld, old);
+        else if (attribute.isReal())
+            rearrangeAs<double>(attribute, newToOld, old);
+        else
+            rearrangeAs<std::int32_t>(attribute, newToOld, old);
+    }
+}
+
+void MapTable::restore(Columns columns, std::int64_t count)
+{
+    m_columns = std::move(columns);
+    m_count = count;
+}
+
+std::size_t MapTable::memoryUse() const
+{
+    std::size_t bytes = 0;
+    std::unordered_set<const void*> seen;
+    for (std::size_t slot = 0; slot < m_columns.size(); ++slot) {
+        const Attribute& attribute = attributeAt(m_scope, slot);
+        const std::size_t element = attribute.isText() ? sizeof(std::string)
+            : attribute.isReal()                       ? sizeof(double)
+                                                       : sizeof(std::int32_t);
+        bytes += m_columns[slot].capacity() * sizeof(ChunkPointer);
+        for (const ChunkPointer& chunk : m_columns[slot])
+            if (chunk && seen.insert(chunk.get()).second)
+                bytes += element * kSize;
+    }
+    return bytes;
+}
+
+} // namespace corvala::host

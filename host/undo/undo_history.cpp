@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/undo/undo_history.h"
+
+#include "host/document/document.h"
+
+#include <QStringList>
+
+namespace corvala::host {
+
+/// Changes that are undone and redone together.
+class UndoHistory::Step : public QUndoCommand
+{
+public:
+    explicit Step(std::uint64_t gesture)
+        : m_gesture(gesture)
+    {
+    }
+
+    void add(Change change)
+    {
+        m_changes.push_back(std::make_shared<Change>(std::move(change)));
+        describe();
+    }
+    bool isEmpty() const { return m_changes.empty(); }
+    const std::vector<std::shared_ptr<Change>>& changes() const { return m_changes; }
+
+    int id() const override { return m_gesture != 0 ? 1 : -1; }
+    bool mergeWith(const QUndoCommand* other) override
+    {
+        const auto& later = static_cast<const Step&>(*other);
+        if (later.m_gesture != m_gesture)
+            return false;
+        m_changes.insert(m_changes.end(), later.m_changes.begin(), later.m_changes.end());
+        describe();
+        return true;
+    }
+
+    void undo() override
+    {
+        for (auto change = m_changes.rbegin(); change != m_changes.rend(); ++change)
+            (*change)->apply(false);
+    }
+    /// The stack redoes a command when it is pushed; what it holds is done by then.
+    void redo() override
+    {
+        if (m_done)
+            for (const auto& change : m_changes)
+                change->apply(true);
+        m_done = true;
+    }
+
+private:
+    void describe()
+    {
+        constexpr int kShown = 3;
+        QStringList texts;
+        for (const auto& change : m_changes)
+            if (!texts.contains(change->text))
+                texts << change->text;
+        const bool tooMany = texts.size() > kShown;
+        setText(texts.mid(0, kShown).join(QStringLiteral("; "))
+                + (tooMany ? QStringLiteral("; ...") : QString()));
+    }
+
+    std::uint64_t m_gesture;
+    bool m_done = false;
+    std::vector<std::shared_ptr<Change>> m_changes;
+};
+
+UndoHistory::UndoHistory(Document& document)
+    : m_document(document)
+{
+}
+
+UndoHistory::~UndoHistory() = default;
+
+void UndoHistory::record(Change change)
+{
+    if (m_depth > 0) {
+        m_open->add(std::move(change));
+        return;
+    }
+    auto step = std::make_unique<Step>(m_gesture);
+    step->add(std::move(change));
+    m_stack.push(step.release());
+}
+
+void UndoHistory::clear()
+{
+    m_depth = 0;
+    m_open.reset();
+    m_stack.clear();
+}
+
+void UndoHistory::begin(CvlInt64)
+{
+    if (m_depth++ == 0)
+        m_open = std::make_unique<Step>(m_gesture);
+}
+
+void UndoHistory::end(bool discard)
+{
+    if (m_depth == 0 || --m_depth > 0)
+        return;
+    std::unique_ptr<Step> step = std::move(m_open);
+    if (step->isEmpty())
+        return;
+    if (discard) {
+        step->undo();
+        announce(*step, false);
+        return;
+    }
+    m_stack.push(step.release());
+}
+
+void UndoHistory::beginGesture()
+{
+    m_gesture = ++m_lastGesture;
+}
+
+bool UndoHistory::step(bool forward)
+{
+    const int index = forward ? m_stack.index() : m_stack.index() - 1;
+    if (m_depth > 0 || index < 0 || index >= m_stack.count())
+        return false;
+    // The gesture that asks for undo must not join the step that it takes back.
+    m_gesture = 0;
+    const auto& step = static_cast<const Step&>(*m_stack.command(index));
+    forward ? m_stack.redo() : m_stack.undo();
+    announce(step, forward);
+    return true;
+}
+
+bool UndoHistory::undo()
+{
+    return step(false);
+}
+
+bool UndoHistory::redo()
+{
+    return step(true);
+}
+
+void UndoHistory::announce(const Step& step, bool forward)
+{
+    StateEvent event;
+    event.code = forward ? StateCode_RedoApplied : StateCode_UndoApplied;
+    event.frame = m_document.activeFrameId();
+    for (const auto& change : step.changes()) {
+        if (change->frame != 0)
+            event.frame = change->frame;
+        event.structureChanged = event.structureChanged || change->structureChanged;
+        event.styleChanges.insert(event.styleChanges.end(), change->styleChanges.begin(),
+                                  change->styleChanges.end());
+    }
+    if (event.frame != m_document.activeFrameId())
+        m_document.activateFrame(event.frame);
+    m_document.raise(event);
+}
+
+int UndoHistory::stepCount() const
+{
+    return m_stack.index();
+}
+
+QString UndoHistory::undoText() const
+{
+    return m_stack.undoText();
+}
+
+} // namespace corvala::host

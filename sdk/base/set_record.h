@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/style/map_set.h"
+
+/// What a set handle points to.
+struct CvlSetRecord
+{
+    corvala::host::MapSet members;
+};

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "sdk/common/common.h"
+
+#include "host/document/document.h"
+#include "sdk/common/frame_writes.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QMessageBox>
+
+namespace corvala::sdk {
+
+using host::Document;
+using host::Frame;
+
+static QString text(const char* source)
+{
+    return QCoreApplication::translate("LayerQueries", source);
+}
+
+static bool askYesNo(const QString& title, const QString& question)
+{
+    return QMessageBox::question(QApplication::activeWindow(), title, question,
+                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes)
+        == QMessageBox::Yes;
+}
+
+/// "FieldLayers" name and shown name of a layer, by the name of its category.
+struct LayerName
+{
+    const char* category;
+    const char* layer;
+    const char* shown;
+};
+
+static constexpr LayerName kLayers[] = {
+    {"Mesh", "ShowMesh", QT_TRANSLATE_NOOP("LayerQueries", "mesh")},
+    {"Contour", "ShowContour", QT_TRANSLATE_NOOP("LayerQueries", "contour")},
+    {"Vector", "ShowVector", QT_TRANSLATE_NOOP("LayerQueries", "vector")},
+    {"Scatter", "ShowScatter", QT_TRANSLATE_NOOP("LayerQueries", "scatter")},
+    {"EdgeLayer", "ShowEdge", QT_TRANSLATE_NOOP("LayerQueries", "edge")},
+    {"Shade", "ShowShade", QT_TRANSLATE_NOOP("LayerQueries", "shade")},
+};
+
+static const LayerName* layerNamed(const std::string& category)
+{
+    for (const LayerName& layer : kLayers)
+        if (category == layer.category)
+            return &layer;
+    return nullptr;
+}
+
+bool queryToActivateSidebarLayer(const std::string& layer,
+                                 const boost::function<bool(PlotType_e)>& chooser)
+{
+    const LayerName* const name = layerNamed(layer);
+    const Frame* const frame = Document::instance().activeFrame();
+    if (!name || !frame)
+        return false;
+    if (frame->fieldLayer(name->layer))
+        return true;
+    const bool wanted =
+        askYesNo(text(QT_TRANSLATE_NOOP("LayerQueries", "Show Layer")),
+                 text(QT_TRANSLATE_NOOP("LayerQueries",
+                                        "The %1 layer is off, so nothing of it is drawn.\n"
+                                        "Do you want to switch it on?"))
+                     .arg(text(name->shown)));
+    if (!wanted || (chooser && !chooser(frame->plotType())))
+        return false;
+    writeFrameValue({"FieldLayers", name->layer}, 1.0);
+    return true;
+}
+
+bool queryToEnableSurfacePlotLayer(const std::string& layer)
+{
+    const LayerName* const name = layerNamed(layer);
+    const Frame* const frame = Document::instance().activeFrame();
+    if (!name || !frame || frame->activeFieldMaps().isEmpty())
+        return false;
+    const bool wanted = askYesNo(
+        text(QT_TRANSLATE_NOOP("LayerQueries", "Show Surfaces")),
+        text(QT_TRANSLATE_NOOP("LayerQueries",
+                               "No active zone draws its surfaces, so the %1 layer shows "
+                               "nothing.\nDo you want to draw the boundary cell faces of the "
+                               "active zones?"))
+            .arg(text(name->shown)));
+    if (!wanted)
+        return false;
+    host::StyleWrite request;
+    request.path = {"FieldMap", "Surfaces", "SurfacesToPlot"};
+    const host::MapSet active = frame->activeFieldMaps();
+    request.objects = &active;
+    request.value = double(SurfacesToPlot_BoundaryCellFaces);
+    Document::instance().write(request);
+    return true;
+}
+
+bool confirmLineMapZoneSelection(CvlInt64 number)
+{
+    const Frame* const frame = Document::instance().activeFrame();
+    if (!frame || !frame->hasData() || !frame->data()->hasZone(number))
+        return true; // the write itself refuses the number
+    const host::ZoneInfo& zone = frame->data()->zone(number);
+    if (zone.ordered && zone.pointCount > 0)
+        return true;
+    return askYesNo(
+        text(QT_TRANSLATE_NOOP("LayerQueries", "Zone")),
+        text(QT_TRANSLATE_NOOP("LayerQueries",
+                               "Zone %1 is not ordered, so a line through its points follows no "
+                               "order.\nDo you want to use it anyway?"))
+            .arg(number));
+}
+
+} // namespace corvala::sdk
