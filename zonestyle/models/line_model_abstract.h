@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "zonestyle/models/model_abstract.h"
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
+
+/// A table whose rows are the line maps of the frame, active or not.
+class LineModelAbstract : public ModelAbstract
+{
+public:
+    using ModelAbstract::ModelAbstract;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    bool isLocalRelevant(const QModelIndex& index) const override;
+
+protected:
+    /// "ShowLines", "ShowSymbols" and so on: what the frame shows of all maps.
+    bool isLayerActive(const char* layer) const;
+};
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models
