@@ -48,7 +48,8 @@ public:
     /// Gives one value to several cells of one column; the column of the first index decides. False
     /// when refused, for an empty list, and when a cell of the list does not exist: then nothing
     /// changes at all.
-    bool setDataForIndexes(const QModelIndexList& indexes, const QVariant& value, int role);
+    Q_INVOKABLE bool setDataForIndexes(const QModelIndexList& indexes, const QVariant& value,
+                                       int role);
 
 protected:
     bool ownsColumn(int column) const { return column < localColumnCount({}); }
