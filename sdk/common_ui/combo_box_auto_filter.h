@@ -3,8 +3,6 @@
 
 #include <QComboBox>
 
-class QCompleter;
-
 namespace corvala::ui {
 
 /// A combo box for long lists: what the user types finds the entries that contain it. Its cost to
@@ -27,6 +25,10 @@ public:
 
     /// Replaces all entries; much quicker than addItems for long lists. No entry is current.
     void setEntries(const QStringList& entries);
+
+    /// Shows the rows of a model, which is not owned unless the combo box is its parent. Use this
+    /// instead of setModel, which the completer would not follow. No entry is current.
+    void setListModel(QAbstractItemModel* entries);
 
     /// Position of the entry that a text stands for: equal to it, else equal ignoring case, else
     /// the first that contains it, ignoring case. -1 when there is none or the text is empty.

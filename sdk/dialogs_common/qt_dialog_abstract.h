@@ -42,7 +42,7 @@ public:
     void setHelpAction(QAction* action);
     QAction* helpAction() const { return m_helpAction; }
 
-    /// The button that Return presses, except while text is typed into a field of the dialog.
+    /// The push button that Return presses, except in a field for text; other buttons are ignored.
     void setDefaultButton(QAbstractButton* button);
 
 protected:
@@ -51,7 +51,6 @@ protected:
 private:
     boost::shared_ptr<property::RelevanceInterface const> m_relevance;
     QPointer<QAction> m_helpAction;
-    QPointer<QAbstractButton> m_defaultButton; // not owned
     std::optional<QPoint> m_lastPosition;
 };
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 class QAbstractButton;
+class QKeyEvent;
 
 namespace corvala::dialogs::prompt {
 
@@ -42,8 +43,9 @@ private:
     void addColorButton(int color, int row, int column, int columnSpan);
     void addHelpButton();
     void readColors();
-    void makeCurrent(QAbstractButton* button);
+    void makeCurrent(std::size_t cell);
     void selectColor(int color);
+    bool handleKey(const QKeyEvent& event);
     bool moveBy(int rows, int columns);
 
     struct Cell
