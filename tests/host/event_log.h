@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/document/document.h"
+
+#include <QStringList>
+
+/// Events of the document as texts: "7:FieldMap" for style, else the code.
+class EventLog
+{
+public:
+    EventLog()
+        : m_connection(corvala::host::Document::instance().events().connect(
+            [this](const corvala::host::StateEvent& event) { note(event); }))
+    {
+    }
+
+    /// What came since the last call, such as "7:FieldMap 44".
+    QString take()
+    {
+        const QString text = m_texts.join(QLatin1Char(' '));
+        m_texts.clear();
+        return text;
+    }
+    const corvala::host::StateEvent& last() const { return m_last; }
+
+private:
+    void note(const corvala::host::StateEvent& event)
+    {
+        m_last = event;
+        QString text = QString::number(event.code);
+        if (!event.parameters.empty())
+            text += QLatin1Char(':') + QString::fromStdString(event.parameters.front());
+        m_texts << text;
+    }
+
+    QStringList m_texts;
+    corvala::host::StateEvent m_last;
+    boost::signals2::scoped_connection m_connection;
+};
+
+/// One style write; `maps` as in "1-3", empty for a value of the frame.
+inline StyleWriteResult_e writeStyle(const std::vector<std::string>& path, const std::string& maps,
+                                     corvala::host::StyleInput value, int op = 255,
+                                     CvlInt64 index = -1)
+{
+    using namespace corvala::host;
+    MapSet set;
+    fromText(maps.empty() ? "none" : maps, 1000000, set);
+    StyleWrite request;
+    request.path = path;
+    request.objects = maps.empty() ? nullptr : &set;
+    request.value = std::move(value);
+    request.op = op;
+    request.offset1 = index;
+    return Document::instance().write(request);
+}

@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "event_log.h"
+#include "samples/demo_data.h"
+#include "sdk/base/cvl.h"
+
+#include <vtkDataSet.h>
+
+#include <QtTest>
+
+using namespace corvala;
+using namespace corvala::host;
+
+class tst_Document : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void framesAnnounceThemselvesFirst();
+    void identifiersAreNeverUsedAgain();
+    void openingRaisesThePlotTypeFirst();
+    void candidateZones_data();
+    void candidateZones();
+    void renames();
+    void deletedFieldMapsComeBack();
+    void flatFunctionsAnswerNothing();
+    void setsByHandle();
+    void colors();
+
+private:
+    static void open(const char* name, std::int64_t scale = 0)
+    {
+        std::string error;
+        QVERIFY2(samples::openDemo(name, scale, error), error.c_str());
+    }
+    static QString zoneName(CvlInt64 zone)
+    {
+        char* text = CvlUtilZoneGetNameForFrame(CvlUtilFrameGetUniqueID(), zone);
+        const QString name = QString::fromUtf8(text);
+        CvlUtilStringDealloc(&text);
+        return name;
+    }
+};
+
+void tst_Document::init()
+{
+    Document::instance().clear();
+}
+
+void tst_Document::framesAnnounceThemselvesFirst()
+{
+    EventLog log;
+    Document& document = Document::instance();
+    const CvlUniqueId first = document.activeFrameId();
+    const CvlUniqueId second = document.addFrame();
+    QCOMPARE(log.take(), QStringLiteral("51 50"));
+    QVERIFY(document.activateFrame(first));
+    QCOMPARE(log.take(), QStringLiteral("51"));
+    QVERIFY(document.activateFrame(first));
+    QCOMPARE(log.take(), QString());
+    QVERIFY(!document.activateFrame(12345));
+    QVERIFY(document.deleteFrame(second)); // not the active one
+    QCOMPARE(log.take(), QStringLiteral("50"));
+    QVERIFY(document.deleteFrame(first));
+    QCOMPARE(log.take(), QStringLiteral("51 50"));
+    QCOMPARE(CvlUtilFrameGetUniqueID(), CvlUniqueId(0));
+    QCOMPARE(CvlUtilFrameGetPlotType(), CvlInt64(PlotType_None));
+    document.clear();
+    QCOMPARE(log.take(), QStringLiteral("51 0"));
+}
+
+void tst_Document::identifiersAreNeverUsedAgain()
+{
+    Document& document = Document::instance();
+    const CvlUniqueId first = document.activeFrameId();
+    document.deleteFrame(first);
+    QVERIFY(document.addFrame() != first);
+}
+
+void tst_Document::openingRaisesThePlotTypeFirst()
+{
+    EventLog log;
+    open("field3d", 4);
+    QCOMPARE(log.take(), QStringLiteral("7:PlotType 5"));
+    open("field3d", 8);
+    QCOMPARE(log.take(), QStringLiteral("5"));
+    QVERIFY(Document::instance().detachDataSet());
+    QCOMPARE(log.take(), QStringLiteral("8"));
+    QVERIFY(!Document::instance().detachDataSet());
+}
+
+void tst_Document::candidateZones_data()
+{
+    QTest::addColumn<double>("time");
+    QTest::addColumn<QString>("zones"); // of the three maps
+    QTest::newRow("first time") << 0.0 << "1 2 0";
+    QTest::newRow("between times") << 1.5 << "1 3 0";
+    QTest::newRow("last digits differ") << 2.0 - 1e-12 << "1 4 6";
+    QTest::newRow("both strands") << 3.0 << "1 5 7";
+    QTest::newRow("before all") << -1.0 << "1 0 0";
+    QTest::newRow("after all") << 4.0 << "1 0 0";
+}
+
+void tst_Document::candidateZones()
+{
+    QFETCH(double, time);
+    QFETCH(QString, zones);
+    open("transient");
+    EventLog log;
+    QVERIFY(Document::instance().setSolutionTime(time));
+    QCOMPARE(log.take(), time == 0.0 ? QString() : QStringLiteral("29"));
+    QStringList found;
+    const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
+    for (CvlInt64 map = 1; map <= CvlUtilFieldMapGetCountForFrame(frame); ++map)
+        found << QString::number(CvlUtilFieldMapGetCandidateZoneForFrame(frame, map));
+    QCOMPARE(found.join(' '), zones);
+    QCOMPARE(CvlUtilFieldMapGetStrandID(frame, 3), CvlInt64(7));
+    QCOMPARE(CvlUtilFieldMapGetModeForFrame(frame, 3), CvlInt64(FieldMapMode_Strand));
+    QCOMPARE(CvlUtilFieldMapGetModeForFrame(frame, 1), CvlInt64(FieldMapMode_Static));
+}
+
+void tst_Document::renames()
+{
+    open("kinds");
+    EventLog log;
+    QVERIFY(Document::instance().renameZone(2, "wing/upper"));
+    QCOMPARE(zoneName(2), QStringLiteral("wing/upper"));
+    QVERIFY(Document::instance().renameVariable(1, "x [m]"));
+    QCOMPARE(log.take(), QStringLiteral("14 16"));
+    QVERIFY(!Document::instance().renameZone(9, "none"));
+    QVERIFY(!Document::instance().renameZone(1, "\xc3"));
+    Document::instance().undo().undo();
+    Document::instance().undo().undo();
+    QCOMPARE(zoneName(2), QStringLiteral("ZONE 12"));
+}
+
+void tst_Document::deletedFieldMapsComeBack()
+{
+    open("transient");
+    writeStyle({"FieldMap", "Group"}, "3", 5.0);
+    MapSet strand;
+    strand.add(2);
+    EventLog log;
+    QVERIFY(Document::instance().deleteFieldMaps(strand));
+    QCOMPARE(log.take(), QStringLiteral("2 10"));
+    const Frame& frame = *Document::instance().activeFrame();
+    const AttributeId group = Schema::instance().find({"FieldMap", "Group"});
+    QCOMPARE(frame.fieldMapCount(), CvlInt64(2));
+    QCOMPARE(frame.data()->zoneCount(), std::int64_t(3));
+    QCOMPARE(frame.fieldMaps().strand(2), 7);
+    QCOMPARE(frame.fieldInteger(group, 2), 5);
+    QVERIFY(frame.data()->geometry(2)); // still the strand's own zone
+    Document::instance().undo().undo();
+    QVERIFY(log.last().structureChanged);
+    QCOMPARE(frame.fieldMapCount(), CvlInt64(3));
+    QCOMPARE(frame.fieldInteger(group, 3), 5);
+    QCOMPARE(frame.activeFieldMaps().cardinality(), std::uint64_t(3));
+    QVERIFY(!Document::instance().deleteFieldMaps(allUpTo(4)));
+}
+
+void tst_Document::flatFunctionsAnswerNothing()
+{
+    open("field2d", 3);
+    const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
+    for (const CvlInt64 bad : {CvlInt64(-1), CvlInt64(0), CvlInt64(4), CvlInt64(1) << 40}) {
+        QVERIFY(!CvlUtilFieldMapIsActiveForFrame(frame, bad));
+        QCOMPARE(CvlUtilFieldMapGetCandidateZoneForFrame(frame, bad), CvlInt64(0));
+        QVERIFY(!CvlUtilZoneGetNameForFrame(frame, bad));
+        QVERIFY(!CvlUtilZoneIsOrderedForFrame(frame, bad));
+        QCOMPARE(CvlUtilZoneGetFieldMap(bad), CvlInt64(0));
+        QVERIFY(!CvlUtilLineMapGetNameForFrame(frame, bad));
+        QCOMPARE(CvlUtilLineMapStyleGetArbValueForFrame(frame, bad, "Name"), CvlArbValue(0));
+        QCOMPARE(CvlUtilPickListGetType(bad), CvlInt64(0));
+    }
+    const CvlUniqueId stale = frame + 100;
+    QCOMPARE(CvlUtilFieldMapGetCountForFrame(stale), CvlInt64(0));
+    QVERIFY(!CvlUtilDataSetIsAvailableForFrame(stale));
+    QVERIFY(!CvlUtilFieldLayerIsActiveForFrame(frame, nullptr));
+    QVERIFY(!CvlUtilFieldLayerIsActiveForFrame(frame, "ShowNothing"));
+    QVERIFY(CvlUtilFieldLayerIsActiveForFrame(frame, "ShowMesh"));
+    QVERIFY(!CvlUtilLineMapSetName(nullptr, "x"));
+    QVERIFY(!CvlUtilLineMapDelete(nullptr));
+    CvlInt64 points = 0;
+    QVERIFY(CvlUtilZoneGetInfoForFrame(frame, 2, &points, nullptr, nullptr)); // triangles
+    QCOMPARE(points, CvlInt64(63));
+}
+
+void tst_Document::setsByHandle()
+{
+    CvlSetHandle set = CvlUtilSetAlloc(1);
+    QVERIFY(CvlUtilSetIsEmpty(set));
+    QVERIFY(!CvlUtilSetAddMember(set, 0, 1));
+    for (const CvlInt64 member : {7, 3, 7})
+        QVERIFY(CvlUtilSetAddMember(set, member, 1));
+    QCOMPARE(CvlUtilSetGetMemberCount(set), CvlInt64(2));
+    QCOMPARE(CvlUtilSetGetNextMember(set, 0), CvlInt64(3));
+    QCOMPARE(CvlUtilSetGetNextMember(set, 3), CvlInt64(7));
+    QCOMPARE(CvlUtilSetGetNextMember(set, 7), CvlInt64(0));
+    CvlUtilSetDealloc(&set);
+    QVERIFY(!set);
+    CvlUtilSetDealloc(&set);
+    QVERIFY(CvlUtilSetIsEmpty(nullptr));
+    QCOMPARE(CvlUtilSetGetNextMember(nullptr, 0), CvlInt64(0));
+}
+
+void tst_Document::colors()
+{
+    std::uint8_t r = 9, g = 9, b = 9;
+    QVERIFY(CvlUtilColorGetRGB(1, &r, &g, &b));
+    QCOMPARE(int(r) + g + b, 3 * 255);
+    QVERIFY(CvlUtilColorGetRGB(109, &r, nullptr, nullptr));
+    QVERIFY(!CvlUtilColorGetRGB(64, &r, &g, &b));
+    QCOMPARE(int(r), 0);
+    EventLog log;
+    QVERIFY(Document::instance().setPaletteColor(5, {1, 2, 3}));
+    QCOMPARE(log.take(), QStringLiteral("22"));
+    QVERIFY(CvlUtilColorGetRGB(5, &r, &g, &b));
+    QCOMPARE(int(b), 3);
+}
+
+QTEST_GUILESS_MAIN(tst_Document)
+#include "tst_document.moc"

@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/style/map_set.h"
+#include "host/style/map_table.h"
+#include "host/style/schema.h"
+
+#include <QtTest>
+
+#include <random>
+
+using namespace corvala::host;
+
+/// The schema, the sets and the column store, without a document.
+class tst_StyleTable : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findsPaths_data();
+    void findsPaths();
+    void namesHaveIdentifiers();
+    void defaultsAreInRange();
+    void readsSetTexts_data();
+    void readsSetTexts();
+    void behavesLikePlainVectors();
+    void undoRestoresSharedChunks();
+    void rearrangesLikePlainVectors();
+    void defaultsCostNextToNothing();
+};
+
+static const Attribute& attributeOf(const std::vector<std::string>& path)
+{
+    const AttributeId id = Schema::instance().find(path);
+    Q_ASSERT(id >= 0);
+    return Schema::instance().at(id);
+}
+
+void tst_StyleTable::findsPaths_data()
+{
+    QTest::addColumn<QStringList>("path");
+    QTest::addColumn<int>("kind"); // 0 a value, else the answer
+    QTest::newRow("one name") << QStringList {"PlotType"} << 0;
+    QTest::newRow("two names") << QStringList {"FieldMap", "Group"} << 0;
+    QTest::newRow("five names") << QStringList {"FieldMap", "Scatter", "SymbolShape", "ASCIIShape",
+                                                "ASCIIChar"}
+                                << 0;
+    QTest::newRow("group") << QStringList {"FieldMap", "Surfaces", "IRange"} << kGroupAttribute;
+    QTest::newRow("first name only") << QStringList {"LineMap"} << kGroupAttribute;
+    QTest::newRow("no such leaf") << QStringList {"FieldMap", "Scatter", "KRange"} << kNoAttribute;
+    QTest::newRow("other map kind")
+        << QStringList {"FieldMap", "Lines", "LineThickness"} << kNoAttribute;
+    QTest::newRow("beyond a leaf") << QStringList {"FieldMap", "Group", "Show"} << kNoAttribute;
+    QTest::newRow("names run together") << QStringList {"FieldMapGroup"} << kNoAttribute;
+    QTest::newRow("empty name") << QStringList {""} << kNoAttribute;
+    QTest::newRow("no names") << QStringList() << kNoAttribute;
+}
+
+void tst_StyleTable::findsPaths()
+{
+    QFETCH(QStringList, path);
+    QFETCH(int, kind);
+    std::vector<std::string> names;
+    for (const QString& name : qAsConst(path))
+        names.push_back(name.toStdString());
+    const AttributeId id = Schema::instance().find(names);
+    if (kind != 0) {
+        QCOMPARE(id, kind);
+        return;
+    }
+    QVERIFY(id >= 0);
+    QCOMPARE(Schema::instance().at(id).names, names);
+}
+
+void tst_StyleTable::namesHaveIdentifiers()
+{
+    const Schema& schema = Schema::instance();
+    QCOMPARE(schema.nameOf(schema.nameId("LineThickness")), "LineThickness");
+    QCOMPARE(schema.nameId("NoSuchName"), -2);
+    QVERIFY(!schema.nameOf(-2));
+}
+
+void tst_StyleTable::defaultsAreInRange()
+{
+    for (const Attribute& attribute : Schema::instance().all()) {
+        const QByteArray name = QByteArray::fromStdString(attribute.names.back());
+        QVERIFY2(*attribute.label != 0, name);
+        if (attribute.type == ValueType::Enumeration) {
+            bool isKnown = false;
+            for (const EnumeratorName* e = attribute.enumerators; e->name; ++e)
+                isKnown = isKnown || e->value == attribute.defaultNumber;
+            QVERIFY2(isKnown, name);
+        } else if (attribute.type == ValueType::Integer || attribute.isReal()) {
+            QVERIFY2(attribute.defaultNumber >= attribute.minimum
+                         && attribute.defaultNumber <= attribute.maximum,
+                     name);
+        }
+    }
+}
+
+void tst_StyleTable::readsSetTexts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("shortest"); // empty: refused
+    QTest::newRow("ranges") << "1-3,7"
+                            << "1-3,7";
+    QTest::newRow("joined and sorted") << "7,2,1,3-4"
+                                       << "1-4,7";
+    QTest::newRow("pair") << "2-3"
+                          << "2,3";
+    QTest::newRow("all by name") << "all"
+                                 << "all";
+    QTest::newRow("all by number") << "1-9"
+                                   << "all";
+    QTest::newRow("none") << "none"
+                          << "none";
+    QTest::newRow("beyond the count") << "8-10"
+                                      << "8-10";
+    QTest::newRow("zero") << "0"
+                          << "";
+    QTest::newRow("backwards") << "3-1"
+                               << "";
+    QTest::newRow("empty") << ""
+                           << "";
+    QTest::newRow("trailing comma") << "1,"
+                                    << "";
+    QTest::newRow("blank") << "1, 2"
+                           << "";
+    QTest::newRow("overflow") << "4294967296"
+                              << "";
+    QTest::newRow("words") << "first"
+                           << "";
+}
+
+void tst_StyleTable::readsSetTexts()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, shortest);
+    MapSet set = allUpTo(2);
+    const bool ok = fromText(text.toStdString(), 9, set);
+    QCOMPARE(ok, !shortest.isEmpty());
+    if (ok)
+        QCOMPARE(QString::fromStdString(toText(set, 9)), shortest);
+    else
+        QVERIFY(set == allUpTo(2));
+}
+
+void tst_StyleTable::behavesLikePlainVectors()
+{
+    constexpr int kMaps = 3000; // two whole chunks and a part
+    std::mt19937 random(7);
+    MapTable table(Scope::FieldMap);
+    table.setCount(kMaps);
+    const Attribute& group = attributeOf({"FieldMap", "Group"});
+    const Attribute& length = attributeOf({"FieldMap", "Mesh", "PatternLength"});
+    const Attribute& character =
+        attributeOf({"FieldMap", "Scatter", "SymbolShape", "ASCIIShape", "ASCIIChar"});
+    std::vector<int> groups(kMaps, 1);
+    std::vector<double> lengths(kMaps, 2.0);
+    std::vector<std::string> characters(kMaps, "A");
+
+    for (int round = 0; round < 60; ++round) {
+        MapSet maps;
+        const auto first = static_cast<std::uint32_t>(1 + random() % kMaps);
+        const auto last =
+            std::min<std::uint32_t>(kMaps, first + static_cast<std::uint32_t>(random() % 2500));
+        for (std::uint32_t map = first; map <= last;
+             map += 1 + static_cast<std::uint32_t>(round % 3))
+            maps.add(map);
+        const int value = 1 + static_cast<int>(random() % 3);
+        table.apply(group, table.plan(group, maps, std::int32_t(value)), true);
+        table.apply(length, table.plan(length, maps, value * 0.5), true);
+        table.apply(character, table.plan(character, maps, std::to_string(value)), true);
+        for (const std::uint32_t map : maps) {
+            groups[map - 1] = value;
+            lengths[map - 1] = value * 0.5;
+            characters[map - 1] = std::to_string(value);
+        }
+        QVERIFY(table.plan(group, maps, std::int32_t(value)).empty());
+    }
+    for (int map = 1; map <= kMaps; ++map) {
+        const auto i = static_cast<std::size_t>(map - 1);
+        QCOMPARE(table.integer(group, map), groups[i]);
+        QCOMPARE(table.real(length, map), lengths[i]);
+        QCOMPARE(table.text(character, map), characters[i]);
+    }
+}
+
+void tst_StyleTable::undoRestoresSharedChunks()
+{
+    MapTable table(Scope::FieldMap);
+    table.setCount(5000);
+    const Attribute& group = attributeOf({"FieldMap", "Group"});
+    const auto whole = table.plan(group, allUpTo(5000), std::int32_t(4));
+    table.apply(group, whole, true);
+    QCOMPARE(whole.front().after, whole[1].after); // one chunk serves all that are filled whole
+    const auto one = table.plan(group, allUpTo(1), std::int32_t(5));
+    QCOMPARE(one.size(), std::size_t(1));
+    table.apply(group, one, true);
+    QCOMPARE(table.integer(group, 1), 5);
+    QCOMPARE(table.integer(group, 1025), 4);
+    table.apply(group, one, false);
+    table.apply(group, whole, false);
+    QCOMPARE(table.integer(group, 1), 1);
+    QCOMPARE(table.integer(group, 5000), 1);
+}
+
+void tst_StyleTable::rearrangesLikePlainVectors()
+{
+    MapTable table(Scope::LineMap);
+    table.setCount(2100);
+    const Attribute& color = attributeOf({"LineMap", "Lines", "Color"});
+    const Attribute& name = attributeOf({"LineMap", "Name"});
+    table.apply(name, table.plan(name, allUpTo(3), std::string("first")), true);
+    std::vector<int> colors;
+    for (int map = 1; map <= 2100; ++map)
+        colors.push_back(table.integer(color, map));
+
+    std::vector<std::int64_t> newToOld;
+    for (std::int64_t map = 2100; map > 1050; --map)
+        newToOld.push_back(map);
+    newToOld.push_back(0);
+    newToOld.push_back(2);
+    table.rearrange(newToOld);
+    QCOMPARE(table.count(), std::int64_t(1052));
+    for (std::size_t i = 0; i < newToOld.size(); ++i) {
+        const auto map = static_cast<std::int64_t>(i + 1);
+        if (newToOld[i] > 0) // colours follow their map, though they were defaults
+            QCOMPARE(table.integer(color, map), colors[static_cast<std::size_t>(newToOld[i] - 1)]);
+        QCOMPARE(table.text(name, map), std::string(newToOld[i] == 2 ? "first" : "&DV&"));
+    }
+}
+
+void tst_StyleTable::defaultsCostNextToNothing()
+{
+    constexpr std::int64_t kMaps = 1000000;
+    MapTable table(Scope::FieldMap);
+    table.setCount(kMaps);
+    QVERIFY(table.memoryUse() <= std::size_t(64 * kMaps));
+    const std::size_t before = table.memoryUse();
+    const Attribute& type = attributeOf({"FieldMap", "Mesh", "MeshType"});
+    table.apply(type, table.plan(type, allUpTo(kMaps), std::int32_t(2)), true);
+    QVERIFY(table.memoryUse() - before <= 4 * MapTable::kChunkSize * 2);
+}
+
+QTEST_GUILESS_MAIN(tst_StyleTable)
+#include "tst_style_table.moc"
