@@ -1,0 +1,293 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/data_reader.h"
+
+#include "host/io/read_protocol.h"
+#include "host/io/zone_file_source.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <utility>
+
+namespace corvala::host::io {
+
+static constexpr int kLongestLine = 1 << 20;
+
+class DataReader::Private
+{
+public:
+    explicit Private(DataReader* reader);
+    ~Private();
+
+    void start(const ReadRequest& request);
+    void end(bool byUser);
+    void fail(const QString& reason);
+
+    QProcess process;
+    bool running = false;
+
+private:
+    bool prepareFolder(const ReadRequest& request);
+    void readLines();
+    void takeLine(const QByteArray& text);
+    void processEnded(int code, QProcess::ExitStatus status);
+    QString reasonForEnd(int code, QProcess::ExitStatus status) const;
+    void takeResult();
+    void finish(const ReadResult& result);
+
+    DataReader* q;
+    QTimer silence;
+    std::unique_ptr<QTemporaryDir> folder;
+    QString currentFile;
+    QString reason; ///< why it cannot be read, as far as known
+    bool cancelled = false;
+};
+
+DataReader::Private::Private(DataReader* reader)
+    : q(reader)
+{
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.setStandardInputFile(QProcess::nullDevice());
+    silence.setSingleShot(true);
+    QObject::connect(&silence, &QTimer::timeout, q, [this] {
+        reason = DataReader::tr("the reader made no progress for %n second(s)", nullptr,
+                                silence.interval() / 1000);
+        process.kill();
+    });
+    QObject::connect(&process, &QProcess::readyReadStandardOutput, q, [this] { readLines(); });
+    QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), q,
+                     [this](int code, QProcess::ExitStatus status) { processEnded(code, status); });
+    QObject::connect(&process, &QProcess::errorOccurred, q, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            fail(DataReader::tr("the reading program cannot be started: %1")
+                     .arg(process.errorString()));
+    });
+}
+
+DataReader::Private::~Private()
+{
+    process.disconnect();
+    if (process.state() != QProcess::NotRunning) {
+        process.kill();
+        process.waitForFinished();
+    }
+}
+
+void DataReader::Private::start(const ReadRequest& request)
+{
+    running = true;
+    cancelled = false;
+    reason.clear();
+    currentFile = QDir().absoluteFilePath(request.files.value(0));
+    const QString program = readerProgram();
+    if (request.files.isEmpty())
+        return fail(DataReader::tr("no file is named"));
+    if (program.isEmpty())
+        return fail(DataReader::tr("the reading program corvala-read is missing"));
+    if (!prepareFolder(request))
+        return fail(DataReader::tr("no temporary folder can be made in %1").arg(QDir::tempPath()));
+    silence.start(request.limits.patienceMilliseconds);
+    process.start(program, {folder->path()});
+}
+
+bool DataReader::Private::prepareFolder(const ReadRequest& request)
+{
+    folder = std::make_unique<QTemporaryDir>(QDir::tempPath() + QStringLiteral("/corvala-XXXXXX"));
+    if (!folder->isValid())
+        return false;
+    ReadRequest absolute = request;
+    for (QString& file : absolute.files)
+        file = QDir().absoluteFilePath(file);
+    QFile file(folder->filePath(QString::fromLatin1(kRequestFile)));
+    const QByteArray text = QByteArray::fromStdString(toJson(absolute));
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush();
+}
+
+void DataReader::Private::end(bool byUser)
+{
+    cancelled = cancelled || byUser;
+    process.kill();
+}
+
+/// Ends a reading that did not come to run a process. Later, as `finished` follows `start`.
+void DataReader::Private::fail(const QString& why)
+{
+    silence.stop();
+    reason = why;
+    QTimer::singleShot(0, q, [this] { processEnded(-1, QProcess::NormalExit); });
+}
+
+void DataReader::Private::readLines()
+{
+    while (process.canReadLine()) {
+        silence.start();
+        takeLine(process.readLine().trimmed());
+    }
+    if (process.bytesAvailable() > kLongestLine) {
+        process.readAllStandardOutput();
+        takeLine({});
+    }
+}
+
+void DataReader::Private::takeLine(const QByteArray& text)
+{
+    const std::optional<ReaderLine> line = lineFromJson(text.toStdString());
+    if (!line) {
+        reason = DataReader::tr("the reader gave an answer that cannot be understood");
+        process.kill();
+        return;
+    }
+    currentFile = QString::fromStdString(line->file);
+    if (line->isError)
+        reason = line->what.toString();
+    else
+        Q_EMIT q->progress(line->percent, line->what.toString());
+}
+
+void DataReader::Private::processEnded(int code, QProcess::ExitStatus status)
+{
+    if (!running)
+        return;
+    silence.stop();
+    if (process.isOpen())
+        readLines();
+    if (reason.isEmpty() && !cancelled)
+        reason = reasonForEnd(code, status);
+    if (reason.isEmpty() && !cancelled)
+        return takeResult();
+    ReadResult result;
+    result.cancelled = cancelled;
+    if (!cancelled)
+        result.error = DataReader::tr("%1 could not be read: %2")
+                           .arg(QDir::toNativeSeparators(currentFile), reason);
+    finish(result);
+}
+
+QString DataReader::Private::reasonForEnd(int code, QProcess::ExitStatus status) const
+{
+    if (status == QProcess::CrashExit)
+        return DataReader::tr("the reader stopped unexpectedly (signal %1)").arg(code);
+    if (code != 0)
+        return DataReader::tr("the reader stopped unexpectedly (exit code %1)").arg(code);
+    return {};
+}
+
+void DataReader::Private::takeResult()
+{
+    QFile file(folder->filePath(QString::fromLatin1(kIndexFile)));
+    std::optional<DataSetIndex> index;
+    if (file.open(QIODevice::ReadOnly))
+        index = indexFromJson(file.readAll().toStdString());
+    if (!index) {
+        reason = DataReader::tr("the reader gave an answer that cannot be understood");
+        return processEnded(0, QProcess::NormalExit);
+    }
+    ReadResult result;
+    result.detectedPlot3D = index->plot3d;
+    result.data = std::make_shared<DataSet>(std::move(index->data));
+    for (const ReadMessage& note : index->notes)
+        result.data->notes.push_back(note.toString().toStdString());
+    result.data->source =
+        std::make_shared<ZoneFileSource>(std::move(folder), std::move(index->zoneFiles));
+    finish(result);
+}
+
+void DataReader::Private::finish(const ReadResult& result)
+{
+    running = false;
+    folder.reset();
+    Q_EMIT q->finished(result);
+}
+
+DataReader::DataReader(QObject* parent)
+    : QObject(parent)
+    , d(std::make_unique<Private>(this))
+{
+    qRegisterMetaType<ReadResult>();
+}
+
+DataReader::~DataReader() = default;
+
+void DataReader::start(const ReadRequest& request)
+{
+    if (!d->running)
+        d->start(request);
+}
+
+void DataReader::cancel()
+{
+    if (d->running)
+        d->end(true);
+}
+
+bool DataReader::isRunning() const
+{
+    return d->running;
+}
+
+qint64 DataReader::processId() const
+{
+    return d->process.processId();
+}
+
+ReadResult DataReader::read(const ReadRequest& request)
+{
+    DataReader reader;
+    QEventLoop loop;
+    ReadResult result;
+    connect(&reader, &DataReader::finished, &loop, [&](const ReadResult& found) {
+        result = found;
+        loop.quit();
+    });
+    reader.start(request);
+    loop.exec();
+    return result;
+}
+
+QString DataReader::readerProgram()
+{
+    const QString folder = QCoreApplication::applicationDirPath();
+    const QStringList places {
+        folder + QStringLiteral("/corvala-read"),
+        folder + QStringLiteral("/../libexec/corvala/corvala-read"),
+        QFile::decodeName(qgetenv("CORVALA_READ")),
+    };
+    for (const QString& place : places)
+        if (!place.isEmpty() && QFileInfo(place).isFile() && QFileInfo(place).isExecutable())
+            return QFileInfo(place).absoluteFilePath();
+    return {};
+}
+
+QString DataReader::nameFilters()
+{
+    const std::pair<QString, QString> kinds[] = {
+        {tr("VTK files"),
+         QStringLiteral("*.vtm *.vtu *.vtp *.vts *.vtr *.vti *.pvtu *.pvtp *.pvts *.pvtr *.pvti "
+                        "*.pvd *.vtk")},
+        {tr("CGNS files"), QStringLiteral("*.cgns")},
+        {tr("Plot3D files"),
+         QStringLiteral("*.xyz *.x *.xy *.p3d *.grd *.g *.bin *.q *.f *.fun *.fmt")},
+        {tr("EnSight files"), QStringLiteral("*.case *.encas")},
+        {tr("Exodus II files"), QStringLiteral("*.exo *.e *.ex2 *.exii *.g *.gen")},
+        {tr("OpenFOAM cases"), QStringLiteral("*.foam *.OpenFOAM controlDict")},
+    };
+    QStringList all;
+    QStringList filters;
+    for (const auto& [title, patterns] : kinds) {
+        all << patterns;
+        filters << QStringLiteral("%1 (%2)").arg(title, patterns);
+    }
+    all = all.join(QLatin1Char(' ')).split(QLatin1Char(' '));
+    all.removeDuplicates();
+    filters.prepend(tr("Data files (%1)").arg(all.join(QLatin1Char(' '))));
+    filters << tr("All files (*)");
+    return filters.join(QStringLiteral(";;"));
+}
+
+} // namespace corvala::host::io

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/read_message.h"
+
+#include <QCoreApplication>
+
+namespace corvala::host::io {
+
+ReadMessage::ReadMessage(const char* english, std::initializer_list<QString> values)
+    : text(english)
+{
+    for (const QString& value : values)
+        arguments.push_back(value.toStdString());
+}
+
+/// Fills in all arguments at once, so that a "%1" inside an argument stays what it is.
+static QString filledIn(const QString& text, const std::vector<std::string>& arguments)
+{
+    QString result;
+    for (int i = 0; i < text.size(); ++i) {
+        const int digit = i + 1 < text.size() ? text[i + 1].digitValue() : -1;
+        const bool isPlace =
+            text[i] == QLatin1Char('%') && digit > 0 && digit <= static_cast<int>(arguments.size());
+        if (isPlace)
+            result += QString::fromStdString(arguments[static_cast<std::size_t>(digit - 1)]);
+        else
+            result += text[i];
+        i += isPlace ? 1 : 0;
+    }
+    return result;
+}
+
+QString ReadMessage::toString() const
+{
+    return filledIn(QCoreApplication::translate("ReadMessage", text.c_str()), arguments);
+}
+
+} // namespace corvala::host::io

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QString>
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+namespace corvala::host::io {
+
+/// A sentence from the reading program. It crosses to the program in English and in parts, and is
+/// translated there: mark `text` with QT_TRANSLATE_NOOP("ReadMessage", ...).
+struct ReadMessage
+{
+    ReadMessage() = default;
+    explicit ReadMessage(const char* english, std::initializer_list<QString> values = {});
+
+    std::string text; ///< with %1, %2, ... for the arguments
+    std::vector<std::string> arguments; ///< UTF-8
+
+    QString toString() const; ///< translated, with the arguments filled in
+    bool isEmpty() const { return text.empty(); }
+};
+
+} // namespace corvala::host::io

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <cstdint>
+#include <optional>
+
+namespace corvala::host::io {
+
+/// How a Plot3D file is laid out; the reader detects what is left empty.
+struct Plot3DLayout
+{
+    std::optional<bool> ascii;
+    std::optional<bool> multiGrid;
+    std::optional<bool> iblank;
+    std::optional<bool> byteCount; ///< Fortran record marks
+    std::optional<bool> bigEndian;
+    std::optional<bool> doublePrecision;
+    std::optional<bool> twoDimensional;
+};
+
+/// One line for the user, such as "binary, big-endian, single precision, one grid"; what is empty
+/// is left out.
+QString describe(const Plot3DLayout& layout);
+
+/// What a file may cost before reading it is given up.
+struct ReadLimits
+{
+    std::int64_t memoryBytes = 0; ///< address space of the reader; 0 is 3/4 of the machine's memory
+    int patienceMilliseconds = 300'000; ///< longest silence of the reader
+};
+
+struct ReadRequest
+{
+    QStringList files; ///< opened together as one data set
+    Plot3DLayout plot3d;
+    ReadLimits limits;
+};
+
+} // namespace corvala::host::io

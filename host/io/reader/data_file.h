@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/io/read_message.h"
+#include "host/io/read_request.h"
+
+#include <vtkDataObject.h>
+#include <vtkSmartPointer.h>
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace corvala::host::io::reader {
+
+/// Called while reading, with the part done from 0 to 1.
+using ProgressCall = std::function<void(double)>;
+
+/// One file, or a group of files that belong together, of one format.
+class DataFile
+{
+public:
+    virtual ~DataFile() = default;
+
+    /// The file that stands for the group in names and messages; an absolute path.
+    virtual QString path() const = 0;
+    /// Solution times in the file; empty, or one, for steady data.
+    virtual std::vector<double> times() const = 0;
+    /// Data at the time with this index (0 for steady data): a vtkDataSet or a tree of blocks.
+    /// Throws ReadFailure. Warnings and errors of VTK are left for the caller to take.
+    virtual vtkSmartPointer<vtkDataObject> read(std::size_t timeIndex,
+                                                const ProgressCall& progress) = 0;
+    /// What reading left out or guessed, so far.
+    virtual std::vector<ReadMessage> notes() const { return {}; }
+    /// Layout of a Plot3D file, once it is read.
+    virtual std::optional<Plot3DLayout> plot3dLayout() const { return std::nullopt; }
+};
+
+} // namespace corvala::host::io::reader

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/data_set_builder.h"
+
+#include "host/io/reader/block_tree.h"
+#include "host/io/reader/channel.h"
+#include "host/io/reader/read_failure.h"
+#include "host/io/reader/vtk_messages.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace corvala::host::io::reader {
+
+DataSetBuilder::DataSetBuilder(const QString& folder, Channel& channel)
+    : m_channel(channel)
+    , m_writer(folder)
+{
+}
+
+static std::string baseName(const DataFile& file)
+{
+    return QFileInfo(file.path()).completeBaseName().toStdString();
+}
+
+/// Shortest names of the files that tell them apart: without the ending where that is enough.
+static std::vector<std::string> distinctNames(const std::vector<std::unique_ptr<DataFile>>& files)
+{
+    std::map<std::string, int> uses;
+    for (const auto& file : files)
+        ++uses[baseName(*file)];
+    std::vector<std::string> result;
+    for (const auto& file : files) {
+        const std::string base = baseName(*file);
+        const bool isUnique = uses[base] == 1;
+        result.push_back(isUnique ? base : QFileInfo(file->path()).fileName().toStdString());
+    }
+    return result;
+}
+
+static void throwPendingError(const DataFile& file)
+{
+    const QString error = VtkMessages::takeError();
+    if (!error.isEmpty())
+        throw ReadFailure(file.path(), "%1", {error});
+}
+
+DataSetIndex DataSetBuilder::build(const std::vector<std::unique_ptr<DataFile>>& files)
+{
+    m_fileCount = files.size();
+    const std::vector<std::string> names = distinctNames(files);
+    for (m_fileNumber = 0; m_fileNumber < m_fileCount; ++m_fileNumber)
+        readFile(*files[m_fileNumber], names[m_fileNumber]);
+    m_index.data.title = names.front();
+    numberZones();
+    noteOmissions();
+    m_index.zoneFiles = m_writer.files();
+    m_index.data.variables = m_variables.variables();
+    m_index.data.vectorVariables = m_variables.proposeVector();
+    m_index.data.contourVariables = m_variables.proposeContours();
+    return std::move(m_index);
+}
+
+void DataSetBuilder::readFile(DataFile& file, const std::string& prefix)
+{
+    const std::size_t firstBlock = m_blocks.size();
+    m_blockOfKey.clear();
+    for (const std::size_t timeIndex : timesInOrder(file))
+        readTime(file, timeIndex, prefix);
+    const bool hasZones =
+        std::any_of(m_blocks.begin() + static_cast<std::ptrdiff_t>(firstBlock), m_blocks.end(),
+                    [](const Block& block) { return !block.zones.empty(); });
+    if (!hasZones)
+        throw ReadFailure(file.path(),
+                          QT_TRANSLATE_NOOP("ReadMessage", "there are no zones with points in it"));
+    const std::vector<ReadMessage> notes = file.notes();
+    m_index.notes.insert(m_index.notes.end(), notes.begin(), notes.end());
+    if (!m_index.plot3d)
+        m_index.plot3d = file.plot3dLayout();
+}
+
+/// Indices of the times, ascending; of equal times only the first, as VTK tells times by value.
+std::vector<std::size_t> DataSetBuilder::timesInOrder(const DataFile& file)
+{
+    const std::vector<double> times = file.times();
+    if (!std::all_of(times.begin(), times.end(), [](double time) { return std::isfinite(time); }))
+        throw ReadFailure(file.path(),
+                          QT_TRANSLATE_NOOP("ReadMessage", "a solution time is not a number"));
+    std::vector<std::size_t> order(std::max<std::size_t>(times.size(), 1));
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return times[a] < times[b]; });
+    const auto last = std::unique(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+        return !(times[a] < times[b]);
+    });
+    if (last != order.end())
+        m_index.notes.emplace_back(
+            QT_TRANSLATE_NOOP("ReadMessage", "%1: some times occur twice; the first is shown."),
+            std::initializer_list<QString> {file.path()});
+    order.erase(last, order.end());
+    return order;
+}
+
+static ReadMessage progressText(const DataFile& file, std::size_t timeIndex, std::size_t timeCount)
+{
+    const QString name = QFileInfo(file.path()).fileName();
+    if (timeCount < 2)
+        return ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "Reading %1"), {name});
+    return ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "Reading %1, time %2 of %3"),
+                       {name, QString::number(timeIndex + 1), QString::number(timeCount)});
+}
+
+static std::string joined(const std::vector<std::string>& names)
+{
+    std::string result;
+    for (const std::string& name : names)
+        result += (result.empty() ? "" : "/") + name;
+    return result;
+}
+
+void DataSetBuilder::readTime(DataFile& file, std::size_t timeIndex, const std::string& prefix)
+{
+    const std::vector<double> times = file.times();
+    const auto timeCount = static_cast<double>(std::max<std::size_t>(times.size(), 1));
+    const ReadMessage what = progressText(file, timeIndex, times.size());
+    const auto report = [&](double part) {
+        const double ofFile = (static_cast<double>(timeIndex) + part) / timeCount;
+        const double ofAll =
+            (static_cast<double>(m_fileNumber) + ofFile) / static_cast<double>(m_fileCount);
+        m_channel.report(file.path(), static_cast<int>(100 * ofAll), what);
+    };
+    report(0.0);
+    const vtkSmartPointer<vtkDataObject> root = file.read(timeIndex, report);
+    throwPendingError(file);
+    noteWarnings(file);
+
+    std::map<std::string, int> uses;
+    for (const LeafBlock& leaf : leafBlocks(root)) {
+        const std::string path = joined(leaf.names);
+        const BlockKey key(path, uses[path]++);
+        const auto [place, isNew] = m_blockOfKey.try_emplace(key, m_blocks.size());
+        if (isNew) {
+            const bool standsAlone = leaf.names.empty();
+            const std::string name = standsAlone ? prefix
+                : m_fileCount > 1                ? prefix + '/' + path
+                                                 : path;
+            m_blocks.push_back({name, times.size() > 1, {}});
+        }
+        addLeaf(m_blocks[place->second], leaf.data, times.empty() ? 0.0 : times[timeIndex]);
+    }
+}
+
+void DataSetBuilder::addLeaf(Block& block, vtkDataSet* data, double time)
+{
+    if (!data)
+        return;
+    const vtkSmartPointer<vtkDataSet> zone = cleanZone(*data, m_droppedArrays);
+    ZoneInfo info = zoneInfo(*zone);
+    info.name = block.name;
+    info.time = time;
+    info.sourceIndex = m_writer.write(*zone);
+    m_variables.add(*zone);
+    block.zones.push_back(info);
+}
+
+void DataSetBuilder::noteWarnings(const DataFile& file)
+{
+    for (const QString& warning : VtkMessages::takeWarnings())
+        m_index.notes.emplace_back(
+            "%1: %2", std::initializer_list<QString> {QFileInfo(file.path()).fileName(), warning});
+}
+
+void DataSetBuilder::noteOmissions()
+{
+    const auto empty = std::count_if(m_blocks.begin(), m_blocks.end(),
+                                     [](const Block& block) { return block.zones.empty(); });
+    if (empty == 1)
+        m_index.notes.emplace_back(QT_TRANSLATE_NOOP("ReadMessage", "1 empty block was left out."));
+    else if (empty > 1)
+        m_index.notes.emplace_back(
+            QT_TRANSLATE_NOOP("ReadMessage", "%1 empty blocks were left out."),
+            std::initializer_list<QString> {QString::number(empty)});
+    if (!m_droppedArrays.isEmpty()) {
+        QStringList names = m_droppedArrays.values();
+        names.sort();
+        m_index.notes.emplace_back(
+            QT_TRANSLATE_NOOP("ReadMessage",
+                              "Arrays without a number per point or cell were left out: %1."),
+            std::initializer_list<QString> {names.join(QStringLiteral(", "))});
+    }
+}
+
+/// Static zones first, then one strand after the other.
+void DataSetBuilder::numberZones()
+{
+    std::vector<ZoneInfo>& zones = m_index.data.zones;
+    for (const Block& block : m_blocks)
+        if (!block.isTransient)
+            zones.insert(zones.end(), block.zones.begin(), block.zones.end());
+    int strand = 0;
+    for (const Block& block : m_blocks) {
+        if (!block.isTransient || block.zones.empty())
+            continue;
+        ++strand;
+        for (ZoneInfo zone : block.zones) {
+            zone.strand = strand;
+            zones.push_back(zone);
+        }
+    }
+}
+
+} // namespace corvala::host::io::reader

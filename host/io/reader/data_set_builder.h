@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/io/read_protocol.h"
+#include "host/io/reader/data_file.h"
+#include "host/io/reader/variable_list.h"
+#include "host/io/reader/zone_writer.h"
+
+#include <QSet>
+#include <QString>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace corvala::host::io::reader {
+
+class Channel;
+
+/// Makes one data set of files: writes their blocks as zones and collects what is known of them.
+class DataSetBuilder
+{
+public:
+    DataSetBuilder(const QString& folder, Channel& channel);
+
+    /// Reads all times of all files. Throws ReadFailure.
+    DataSetIndex build(const std::vector<std::unique_ptr<DataFile>>& files);
+
+private:
+    /// A leaf block of a file, at all its times.
+    struct Block
+    {
+        std::string name;
+        bool isTransient;
+        std::vector<ZoneInfo> zones; ///< in the order of the times
+    };
+    using BlockKey = std::pair<std::string, int>; ///< path of names, and which of that path
+
+    void readFile(DataFile& file, const std::string& prefix);
+    void readTime(DataFile& file, std::size_t timeIndex, const std::string& prefix);
+    void addLeaf(Block& block, vtkDataSet* data, double time);
+    std::vector<std::size_t> timesInOrder(const DataFile& file);
+    void noteWarnings(const DataFile& file);
+    void noteOmissions();
+    void numberZones();
+
+    Channel& m_channel;
+    ZoneWriter m_writer;
+    VariableList m_variables;
+    DataSetIndex m_index;
+    std::vector<Block> m_blocks; ///< of all files, as they are met
+    std::map<BlockKey, std::size_t> m_blockOfKey; ///< of the file that is being read
+    QSet<QString> m_droppedArrays;
+    std::size_t m_fileNumber = 0;
+    std::size_t m_fileCount = 1;
+};
+
+} // namespace corvala::host::io::reader

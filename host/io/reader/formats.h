@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/io/reader/data_file.h"
+
+#include <QDir>
+
+#include <memory>
+
+/// The formats, one function each. A path is absolute and names a file that can be opened; all
+/// throw ReadFailure.
+namespace corvala::host::io::reader {
+
+std::unique_ptr<DataFile> openLegacyVtk(const QString& path);
+
+/// Serial and parallel VTK XML files of any kind.
+std::unique_ptr<DataFile> openXmlVtk(const QString& path);
+
+/// A .pvd collection of VTK XML files by time, group and part.
+std::unique_ptr<DataFile> openCollection(const QString& path);
+
+std::unique_ptr<DataFile> openCgns(const QString& path);
+
+/// Element blocks, side sets and node sets with all their variables.
+std::unique_ptr<DataFile> openExodus(const QString& path);
+
+/// `helperFolder` takes a copy of a case file that VTK does not understand as it is.
+std::unique_ptr<DataFile> openEnSight(const QString& path, const QDir& helperFolder);
+
+/// A case by its controlDict or by a marker file beside its folders.
+std::unique_ptr<DataFile> openFoam(const QString& path);
+
+/// Throws ReadFailure unless the path names a regular file that can be opened and, but where that
+/// is allowed, is not empty.
+void requireReadable(const QString& path, bool mayBeEmpty = false);
+
+/// The first bytes of a readable file.
+QByteArray firstBytes(const QString& path, qint64 count);
+
+} // namespace corvala::host::io::reader

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/channel.h"
+#include "host/io/reader/data_set_builder.h"
+#include "host/io/reader/open_files.h"
+#include "host/io/reader/read_failure.h"
+#include "host/io/reader/resource_limits.h"
+#include "host/io/reader/vtk_messages.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTextCodec>
+
+#include <clocale>
+#include <cstdio>
+#include <exception>
+#include <new>
+
+using namespace corvala::host::io;
+
+static std::optional<ReadRequest> loadRequest(const QDir& folder)
+{
+    QFile file(folder.filePath(QString::fromLatin1(kRequestFile)));
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return requestFromJson(file.readAll().toStdString());
+}
+
+static void storeIndex(const QDir& folder, DataSetIndex index, const ReadRequest& request)
+{
+    for (const QString& file : request.files)
+        index.data.files.push_back(file.toStdString());
+    QFile file(folder.filePath(QString::fromLatin1(kIndexFile)));
+    const QByteArray text = QByteArray::fromStdString(toJson(index));
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush())
+        throw reader::ReadFailure(
+            file.fileName(), QT_TRANSLATE_NOOP("ReadMessage", "the file cannot be written there"));
+}
+
+static void readAll(const QDir& folder, const ReadRequest& request, reader::Channel& channel)
+{
+    const auto files = reader::openFiles(request, folder, channel);
+    reader::DataSetBuilder builder(folder.path(), channel);
+    storeIndex(folder, builder.build(files), request);
+}
+
+/// Reads as `folder` asks. Returns the exit code.
+static int run(const QDir& folder, const ReadRequest& request)
+{
+    reader::Channel channel;
+    const std::int64_t memory = reader::limitResources(request.limits.memoryBytes);
+    try {
+        readAll(folder, request, channel);
+        return 0;
+    } catch (const reader::ReadFailure& failure) {
+        channel.fail(failure.file.toStdString(), failure.message);
+    } catch (const std::bad_alloc&) {
+        const double gibibytes = static_cast<double>(memory) / (1 << 30);
+        channel.failCurrent(ReadMessage(
+            QT_TRANSLATE_NOOP("ReadMessage",
+                              "it needs more than %1 GiB of memory, which is the limit"),
+            {QString::number(gibibytes, 'g', 3)}));
+    } catch (const std::exception& exception) {
+        channel.failCurrent(ReadMessage("%1", {QString::fromUtf8(exception.what())}));
+    }
+    return 1;
+}
+
+int main(int argumentCount, char** arguments)
+{
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    setlocale(LC_NUMERIC, "C");
+    const QDir folder(QString::fromUtf8(argumentCount == 2 ? arguments[1] : ""));
+    const std::optional<ReadRequest> request =
+        argumentCount == 2 ? loadRequest(folder) : std::nullopt;
+    if (!request) {
+        std::fputs("usage: corvala-read FOLDER\n"
+                   "Reads data files for corvala, which writes the request into FOLDER.\n",
+                   stderr);
+        return 2;
+    }
+    const reader::VtkMessages messages;
+    return run(folder, *request);
+}

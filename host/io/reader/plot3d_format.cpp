@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/plot3d_format.h"
+
+#include "host/io/reader/formats.h"
+#include "host/io/reader/plot3d_layout.h"
+#include "host/io/reader/read_failure.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <vtkCallbackCommand.h>
+#include <vtkMultiBlockDataSet.h>
+#include <vtkMultiBlockPLOT3DReader.h>
+#include <vtkNew.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace corvala::host::io::reader {
+
+/// Grid files with their solutions and functions, over time. VTK's own detection takes text for
+/// binary without an error, so the layout is found here and VTK's is off.
+class Plot3DFile : public DataFile
+{
+public:
+    Plot3DFile(const Plot3DSeries& series, const QDir& helperFolder);
+
+    QString path() const override { return m_series.path; }
+    std::vector<double> times() const override;
+    vtkSmartPointer<vtkDataObject> read(std::size_t timeIndex,
+                                        const ProgressCall& progress) override;
+    std::vector<ReadMessage> notes() const override { return m_notes; }
+    std::optional<Plot3DLayout> plot3dLayout() const override { return m_layout; }
+
+private:
+    Plot3DGrids openGrid(QString& file);
+    void openCompanion(QString& file, const Plot3DGrids& grids, const Plot3DStep& step,
+                       bool isFunction);
+    std::optional<Plot3DText> openText(QString& file);
+
+    Plot3DSeries m_series;
+    QDir m_helperFolder;
+    int m_copies = 0;
+    std::optional<Plot3DLayout> m_layout; ///< of the grid file read first
+    std::vector<ReadMessage> m_notes;
+};
+
+Plot3DFile::Plot3DFile(const Plot3DSeries& series, const QDir& helperFolder)
+    : m_series(series)
+    , m_helperFolder(helperFolder)
+{
+}
+
+std::vector<double> Plot3DFile::times() const
+{
+    std::vector<double> result;
+    for (const Plot3DStep& step : m_series.steps)
+        result.push_back(step.time);
+    return result;
+}
+
+/// Binary files have zeros in their first number; text has none.
+static bool looksLikeText(const QString& path)
+{
+    const QByteArray start = firstBytes(path, 512);
+    return std::all_of(start.begin(), start.end(), [](char character) {
+        return std::strchr("0123456789+-.eEdD*, \t\r\n", character) && character != '\0';
+    });
+}
+
+/// The scan of a text file, and nothing for a binary one. Text in a form that VTK misreads is
+/// copied, and `file` becomes the copy.
+std::optional<Plot3DText> Plot3DFile::openText(QString& file)
+{
+    if (!m_series.layout.ascii.value_or(looksLikeText(file)))
+        return std::nullopt;
+    std::optional<Plot3DText> text = scanPlot3DText(file);
+    if (!text)
+        throw ReadFailure(
+            file,
+            QT_TRANSLATE_NOOP("ReadMessage", "there is something in the text that is no number"));
+    if (text->isPlain)
+        return text;
+    const QString copy = m_helperFolder.filePath(QStringLiteral("plain%1").arg(m_copies++));
+    if (!writePlainText(file, copy))
+        throw ReadFailure(copy,
+                          QT_TRANSLATE_NOOP("ReadMessage", "the file cannot be written there"));
+    file = copy;
+    return text;
+}
+
+Plot3DGrids Plot3DFile::openGrid(QString& file)
+{
+    const QString original = file;
+    requireReadable(file);
+    const std::optional<Plot3DText> text = openText(file);
+    const std::optional<Plot3DGrids> grids =
+        detectPlot3D(file, m_series.layout, text ? &*text : nullptr);
+    if (!grids)
+        throw ReadFailure(
+            original,
+            QT_TRANSLATE_NOOP("ReadMessage",
+                              "its size fits no Plot3D grid (or it is cut off, or the "
+                              "layout that was chosen is not the right one)"));
+    if (grids->isAmbiguous)
+        m_notes.emplace_back(
+            QT_TRANSLATE_NOOP("ReadMessage",
+                              "%1 fits more than one Plot3D layout; it was read as: %2."),
+            std::initializer_list<QString> {QFileInfo(original).fileName(),
+                                            describe(grids->layout)});
+    m_layout = m_layout.value_or(grids->layout);
+    return *grids;
+}
+
+/// A companion that was guessed by its name and does not fit is left out; any other is an error.
+void Plot3DFile::openCompanion(QString& file, const Plot3DGrids& grids, const Plot3DStep& step,
+                               bool isFunction)
+{
+    if (file.isEmpty())
+        return;
+    const QString original = file;
+    requireReadable(file);
+    const std::optional<Plot3DText> text = openText(file);
+    if (fitsPlot3D(file, grids, text ? &*text : nullptr, isFunction))
+        return;
+    if (!step.areGuessed)
+        throw ReadFailure(
+            original,
+            QT_TRANSLATE_NOOP("ReadMessage",
+                              "it does not belong to the grid file %1, or it is cut off"),
+            {step.grid});
+    file.clear();
+    m_notes.emplace_back(
+        QT_TRANSLATE_NOOP("ReadMessage",
+                          "%1 was left out: it does not fit the grid file, or it is cut off."),
+        std::initializer_list<QString> {QFileInfo(original).fileName()});
+}
+
+static void setLayout(vtkMultiBlockPLOT3DReader& reader, const Plot3DLayout& layout)
+{
+    reader.AutoDetectFormatOff();
+    reader.SetBinaryFile(!*layout.ascii);
+    reader.SetMultiGrid(*layout.multiGrid);
+    reader.SetIBlanking(*layout.iblank);
+    reader.SetHasByteCount(*layout.byteCount);
+    reader.SetDoublePrecision(*layout.doublePrecision);
+    reader.SetTwoDimensionalGeometry(*layout.twoDimensional);
+    if (*layout.bigEndian)
+        reader.SetByteOrderToBigEndian();
+    else
+        reader.SetByteOrderToLittleEndian();
+}
+
+static void reportProgress(vtkObject* caller, unsigned long, void* clientData, void*)
+{
+    const auto& progress = *static_cast<const ProgressCall*>(clientData);
+    progress(static_cast<vtkAlgorithm*>(caller)->GetProgress());
+}
+
+vtkSmartPointer<vtkDataObject> Plot3DFile::read(std::size_t timeIndex, const ProgressCall& progress)
+{
+    const Plot3DStep& listed = m_series.steps[timeIndex];
+    Plot3DStep step = listed;
+    const Plot3DGrids grids = openGrid(step.grid);
+    openCompanion(step.solution, grids, listed, false);
+    openCompanion(step.function, grids, listed, true);
+    vtkNew<vtkMultiBlockPLOT3DReader> reader;
+    vtkNew<vtkCallbackCommand> observer;
+    observer->SetClientData(const_cast<ProgressCall*>(&progress));
+    observer->SetCallback(reportProgress);
+    reader->AddObserver(vtkCommand::ProgressEvent, observer);
+    setLayout(*reader, grids.layout);
+    reader->SetXYZFileName(QFile::encodeName(step.grid).constData());
+    if (!step.solution.isEmpty())
+        reader->SetQFileName(QFile::encodeName(step.solution).constData());
+    if (!step.function.isEmpty())
+        reader->SetFunctionFileName(QFile::encodeName(step.function).constData());
+    for (const QString& name : m_series.functionNames)
+        reader->AddFunctionName(name.toStdString());
+    reader->Update();
+    return reader->GetOutput();
+}
+
+std::unique_ptr<DataFile> openPlot3D(const Plot3DSeries& series, const QDir& helperFolder)
+{
+    return std::make_unique<Plot3DFile>(series, helperFolder);
+}
+
+} // namespace corvala::host::io::reader

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/io/reader/plot3d_source.h"
+
+#include <array>
+
+namespace corvala::host::io::reader {
+
+/// Layout of a Plot3D grid file and the sizes of its grids.
+struct Plot3DGrids
+{
+    Plot3DLayout layout; ///< every field filled in
+    std::vector<std::array<std::int64_t, 3>> sizes;
+    bool isAmbiguous = false; ///< another layout fits the file as well
+};
+
+/// Finds the layout that fits a grid file to the last byte or number, within what is `wanted`;
+/// empty when there is none. `text` is the scan of a text file, or null for a binary one.
+std::optional<Plot3DGrids> detectPlot3D(const QString& path, const Plot3DLayout& wanted,
+                                        const Plot3DText* text);
+
+/// Whether a solution file (or, if `isFunction`, a function file) has the same layout and grids.
+/// More may follow: some are filled up to whole blocks, some have further values.
+bool fitsPlot3D(const QString& path, const Plot3DGrids& grids, const Plot3DText* text,
+                bool isFunction);
+
+} // namespace corvala::host::io::reader

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/io/read_message.h"
+
+#include <QString>
+
+#include <initializer_list>
+
+namespace corvala::host::io::reader {
+
+/// Thrown when a file cannot be read: the file and the reason, which ends the program.
+struct ReadFailure
+{
+    ReadFailure(const QString& failedFile, const char* reason,
+                std::initializer_list<QString> values = {})
+        : file(failedFile)
+        , message(reason, values)
+    {
+    }
+
+    QString file;
+    ReadMessage message;
+};
+
+} // namespace corvala::host::io::reader

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace corvala::host::io::reader {
+
+/// Collects what VTK reports as errors and warnings, instead of printing it.
+class VtkMessages
+{
+public:
+    VtkMessages(); ///< installs itself for the whole program; there is one
+
+    /// First error since the last call, without the place in VTK's source; empty when there was
+    /// none. Later errors mostly follow from the first.
+    static QString takeError();
+    /// Distinct warnings since the last call.
+    static QStringList takeWarnings();
+};
+
+} // namespace corvala::host::io::reader

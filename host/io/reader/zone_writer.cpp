@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/zone_writer.h"
+
+#include "host/io/reader/block_tree.h"
+#include "host/io/reader/read_failure.h"
+#include "host/io/reader/vtk_messages.h"
+
+#include <QFile>
+
+#include <vtkCellData.h>
+#include <vtkCellType.h>
+#include <vtkCellTypes.h>
+#include <vtkDataArray.h>
+#include <vtkFieldData.h>
+#include <vtkGenericCell.h>
+#include <vtkImageData.h>
+#include <vtkNew.h>
+#include <vtkPointData.h>
+#include <vtkRectilinearGrid.h>
+#include <vtkStructuredGrid.h>
+#include <vtkXMLDataSetWriter.h>
+
+#include <algorithm>
+
+namespace corvala::host::io::reader {
+
+static void cleanAttributes(vtkDataSetAttributes& attributes, vtkIdType tuples,
+                            QSet<QString>& droppedArrays)
+{
+    for (int i = attributes.GetNumberOfArrays() - 1; i >= 0; --i) {
+        vtkAbstractArray* array = attributes.GetAbstractArray(i);
+        const std::string name = cleanName(array->GetName(), "Array " + std::to_string(i + 1));
+        array->SetName(name.c_str());
+        const bool fits = vtkDataArray::SafeDownCast(array) && array->GetNumberOfTuples() == tuples
+            && array->GetNumberOfComponents() > 0;
+        if (!fits) {
+            droppedArrays.insert(QString::fromStdString(name));
+            attributes.RemoveArray(i);
+        }
+    }
+}
+
+vtkSmartPointer<vtkDataSet> cleanZone(vtkDataSet& zone, QSet<QString>& droppedArrays)
+{
+    // Only the plain kinds have a file format: a grid with holes is an image with ghost cells.
+    vtkSmartPointer<vtkDataSet> copy;
+    if (vtkImageData::SafeDownCast(&zone))
+        copy = vtkSmartPointer<vtkImageData>::New();
+    else
+        copy.TakeReference(zone.NewInstance());
+    copy->ShallowCopy(&zone);
+    copy->SetFieldData(vtkNew<vtkFieldData>());
+    cleanAttributes(*copy->GetPointData(), zone.GetNumberOfPoints(), droppedArrays);
+    cleanAttributes(*copy->GetCellData(), zone.GetNumberOfCells(), droppedArrays);
+    return copy;
+}
+
+static int cellDimension(vtkDataSet& zone)
+{
+    vtkNew<vtkCellTypes> types;
+    zone.GetCellTypes(types);
+    int result = 0;
+    vtkNew<vtkGenericCell> cell;
+    for (vtkIdType i = 0; i < types->GetNumberOfTypes(); ++i) {
+        cell->SetCellType(types->GetCellType(i));
+        result = std::max(result, cell->GetCellDimension());
+    }
+    return result;
+}
+
+/// I, J, K of an ordered grid; false for any other zone.
+static bool getDimensions(vtkDataSet& zone, int dimensions[3])
+{
+    if (auto* grid = vtkStructuredGrid::SafeDownCast(&zone))
+        grid->GetDimensions(dimensions);
+    else if (auto* image = vtkImageData::SafeDownCast(&zone))
+        image->GetDimensions(dimensions);
+    else if (auto* rectilinear = vtkRectilinearGrid::SafeDownCast(&zone))
+        rectilinear->GetDimensions(dimensions);
+    else
+        return false;
+    return true;
+}
+
+ZoneInfo zoneInfo(vtkDataSet& zone)
+{
+    ZoneInfo info;
+    int dimensions[3] = {0, 0, 0};
+    info.ordered = getDimensions(zone, dimensions);
+    std::copy(dimensions, dimensions + 3, info.dimensions.begin());
+    info.pointCount = zone.GetNumberOfPoints();
+    info.cellCount = zone.GetNumberOfCells();
+    info.cellDimension = info.ordered ? static_cast<int>(std::count_if(
+                             dimensions, dimensions + 3, [](int size) { return size > 1; }))
+                                      : cellDimension(zone);
+    return info;
+}
+
+ZoneWriter::ZoneWriter(const QString& folder)
+    : m_folder(folder)
+{
+}
+
+std::int64_t ZoneWriter::write(vtkDataSet& zone)
+{
+    const auto index = static_cast<std::int64_t>(m_files.size());
+    const QString name = QStringLiteral("zone-%1.xml").arg(index);
+    const QString path = m_folder + QLatin1Char('/') + name;
+    vtkNew<vtkXMLDataSetWriter> writer;
+    writer->SetInputData(&zone);
+    writer->SetFileName(QFile::encodeName(path).constData());
+    writer->SetDataModeToAppended();
+    writer->EncodeAppendedDataOff();
+    writer->SetCompressorTypeToNone();
+    writer->SetHeaderTypeToUInt64();
+    writer->SetIdTypeToInt64();
+    const bool written = writer->Write() != 0;
+    const QString error = VtkMessages::takeError();
+    if (!written || !error.isEmpty())
+        throw ReadFailure(path,
+                          QT_TRANSLATE_NOOP("ReadMessage", "the zone cannot be written there (%1)"),
+                          {error});
+    m_files.push_back(name.toStdString());
+    return index;
+}
+
+} // namespace corvala::host::io::reader

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/sample_list.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+
+namespace corvala::host::io {
+
+QString samplesFolder()
+{
+    const QString installed =
+        QCoreApplication::applicationDirPath() + QStringLiteral("/../share/corvala/samples");
+    return QFileInfo::exists(installed + QStringLiteral("/samples.json"))
+        ? QDir::cleanPath(installed)
+        : QStringLiteral(CORVALA_SAMPLES_DIR);
+}
+
+static Sample sampleFrom(const nlohmann::json& value, const QDir& folder)
+{
+    Sample sample;
+    sample.title = QString::fromStdString(value.at("title").get<std::string>());
+    sample.licence = QString::fromStdString(value.at("licence").get<std::string>());
+    for (const nlohmann::json& file : value.at("files"))
+        sample.files << folder.absoluteFilePath(QString::fromStdString(file.get<std::string>()));
+    return sample;
+}
+
+std::vector<Sample> sampleList()
+{
+    const QDir folder(samplesFolder());
+    QFile list(folder.filePath(QStringLiteral("samples.json")));
+    if (!list.open(QIODevice::ReadOnly))
+        return {};
+    std::vector<Sample> result;
+    for (const nlohmann::json& value : nlohmann::json::parse(list.readAll().toStdString())) {
+        Sample sample = sampleFrom(value, folder);
+        const bool isComplete =
+            std::all_of(sample.files.begin(), sample.files.end(),
+                        [](const QString& file) { return QFile::exists(file); });
+        if (isComplete)
+            result.push_back(std::move(sample));
+    }
+    return result;
+}
+
+} // namespace corvala::host::io
