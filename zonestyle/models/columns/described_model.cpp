@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/models/columns/described_model.h"
+
+#include <QCoreApplication>
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
+
+static CellReader readerFor(const ColumnDescriptor& column, int role)
+{
+    switch (role) {
+    case Qt::DisplayRole: return column.display;
+    case Qt::EditRole: return column.edit;
+    case Qt::CheckStateRole: return column.check;
+    case Qt::UserRole: return column.raw;
+    default: return nullptr;
+    }
+}
+
+template<class Base>
+Qt::ItemFlags DescribedModel<Base>::localFlags(const QModelIndex& index) const
+{
+    return Base::localFlags(index) | at(index.column()).flags;
+}
+
+template<class Base>
+int DescribedModel<Base>::localColumnCount(const QModelIndex&) const
+{
+    return columnTable().size();
+}
+
+template<class Base>
+QVariant DescribedModel<Base>::localHeaderText(int section) const
+{
+    return QCoreApplication::translate("Column", at(section).header);
+}
+
+template<class Base>
+QVariant DescribedModel<Base>::localData(const QModelIndex& index, int role) const
+{
+    const CellReader read = readerFor(at(index.column()), role);
+    return read ? read(cellAt(index.row(), index.column())) : QVariant();
+}
+
+template<class Base>
+bool DescribedModel<Base>::localSetData(const QModelIndexList& indexes, const QVariant& value,
+                                        int role)
+{
+    const ColumnDescriptor& column = at(indexes.first().column());
+    const bool takesRole = column.editRole == ColumnDescriptor::kAnyRole || column.editRole == role;
+    if (!column.writer || !takesRole)
+        return true;
+    return column.writer({this->frameId(), column, indexes, value});
+}
+
+template<class Base>
+QBrush DescribedModel<Base>::localHeaderBrush(int section) const
+{
+    const ColumnTable& table = columnTable();
+    if (table.isIdentity())
+        return Base::IdentityHeaderBrush();
+    return section < table.primaryColumns() ? Base::PrimaryHeaderBrush()
+                                            : Base::SecondaryHeaderBrush();
+}
+
+template<class Base>
+bool DescribedModel<Base>::isRelevant(const QModelIndex& index) const
+{
+    if (columnTable().isGoverningFollowing() && !this->ownsColumn(index.column())
+        && !this->isLocalRelevant(this->createIndex(index.row(), 0)))
+        return false;
+    return Base::isRelevant(index);
+}
+
+template<class Base>
+QList<QAction*> DescribedModel<Base>::localActions(QItemSelectionModel* selection, int column) const
+{
+    const MenuBuilder build = at(column).menu;
+    return build ? build({this->frameId(), at(column), *selection, column}) : QList<QAction*>();
+}
+
+template<class Base>
+bool DescribedModel<Base>::isLocalRelevant(const QModelIndex& index) const
+{
+    if (!Base::isLocalRelevant(index) || !rowApplies(index.row()))
+        return false;
+    const CellRule rule = at(index.column()).rule;
+    return !rule || rule(cellAt(index.row(), index.column()));
+}
+
+template<class Base>
+int DescribedModel<Base>::localEditorType(int column) const
+{
+    return at(column).editorType;
+}
+
+template<class Base>
+int DescribedModel<Base>::localEditorOption(int column) const
+{
+    return at(column).editorOption;
+}
+
+template<class Base>
+Cell DescribedModel<Base>::cellAt(int row, int column) const
+{
+    return {this->frameId(), row + 1, at(column)};
+}
+
+template<class Base>
+bool DescribedModel<Base>::rowApplies(int row) const
+{
+    const ColumnTable& table = columnTable();
+    if (table.requiredLayer() && !this->isLayerActive(table.requiredLayer()))
+        return false;
+    return !table.requiresShownRow() || at(0).check(cellAt(row, 0)) != Qt::Unchecked;
+}
+
+template class DescribedModel<FieldModelAbstract>;
+template class DescribedModel<LineModelAbstract>;
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/models/columns/edit_value.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
+
+static int rounded(double number)
+{
+    constexpr double kLowest = std::numeric_limits<int>::lowest();
+    constexpr double kHighest = std::numeric_limits<int>::max();
+    return std::isnan(number) ? 0 : qRound(std::clamp(number, kLowest, kHighest));
+}
+
+static bool isText(const QVariant& value)
+{
+    return value.userType() == QMetaType::QString;
+}
+
+static bool isReal(const QVariant& value)
+{
+    return value.userType() == QMetaType::Double || value.userType() == QMetaType::Float;
+}
+
+static int asItIs(const QVariant& value)
+{
+    return isReal(value) ? rounded(value.toDouble()) : value.toInt();
+}
+
+static std::optional<int> wholeNumber(const QString& text)
+{
+    bool isNumber = false;
+    const int number = QLocale::c().toInt(text.trimmed(), &isNumber);
+    return isNumber ? std::optional<int>(number) : std::nullopt;
+}
+
+int editedNumber(const QVariant& value)
+{
+    if (!isText(value))
+        return asItIs(value);
+    QString text = value.toString().trimmed();
+    if (text.endsWith(QLatin1Char('%')))
+        text.chop(1);
+    return rounded(QLocale::c().toDouble(text.trimmed()));
+}
+
+std::optional<int> editedChoice(const QVariant& value, const tables::ChoiceNames& choices)
+{
+    if (!isText(value))
+        return asItIs(value);
+    const std::optional<int> choice = choices.valueOf(value.toString());
+    return choice ? choice : wholeNumber(value.toString());
+}
+
+std::optional<int> editedPosition(const QVariant& value, const QStringList& entries)
+{
+    if (!isText(value))
+        return asItIs(value);
+    const int position = tables::positionOf(value.toString(), entries);
+    return position >= 0 ? position : wholeNumber(value.toString());
+}
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models

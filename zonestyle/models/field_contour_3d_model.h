@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "zonestyle/models/columns/described_model.h"
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
+
+/// What the Contour tab has besides in three dimensions.
+class FieldContour3DModel : public DescribedModel<FieldModelAbstract>
+{
+public:
+    enum Column { UseLighting };
+
+    using DescribedModel::DescribedModel;
+
+protected:
+    const ColumnTable& columnTable() const override;
+};
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models

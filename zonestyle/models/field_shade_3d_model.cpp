@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/models/field_shade_3d_model.h"
+
+#include "zonestyle/models/columns/column_kinds.h"
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
+
+using namespace kinds;
+
+static constexpr ColumnDescriptor kColumns[] = {
+    checkBox(QT_TRANSLATE_NOOP("Column", "Use\nLighting"),
+             {"FieldMap", "Shade", "UseLightingEffect"}),
+};
+
+static constexpr ColumnTable kTable = ColumnTable(kColumns).layer("ShowShade");
+
+const ColumnTable& FieldShade3DModel::columnTable() const
+{
+    return kTable;
+}
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models

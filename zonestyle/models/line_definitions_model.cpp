@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/models/line_definitions_model.h"
+
+#include "zonestyle/actions/zone_select_action.h"
+#include "zonestyle/models/columns/column_kinds.h"
+#include "zonestyle/models/columns/host_lists.h"
+#include "zonestyle/tables/line_map_names.h"
+
+#include <sdk/base/cvl.h>
+#include <sdk/common/common.h>
+
+#include <QCoreApplication>
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
+
+using namespace kinds;
+
+static constexpr StylePath kAssign {"LineMap", "Assign"};
+
+static QVariant zoneName(const Cell& cell)
+{
+    return QString::fromStdString(
+        zoneNameWithIndexFormattedForFrame(cell.frame, cell.value<int>()));
+}
+
+static QVariant zoneList(const Cell& cell)
+{
+    return names(CvlUtilZoneGetEnabled(), cell.frame, zoneNameWithIndexFormattedForFrame);
+}
+
+static bool writeConfirmedZone(const EditRequest& edit)
+{
+    const std::optional<int> zone = edit.choice();
+    if (!zone)
+        return true;
+    if (!confirmLineMapZoneSelection(*zone))
+        return false;
+    edit.write(*zone);
+    return true;
+}
+
+static QList<QAction*> zoneMenu(const MenuRequest& request)
+{
+    return {new actions::ZoneSelectAction(request.rows())};
+}
+
+// Deliberate: as in a list of variables, the position is written; and the menu does not confirm.
+static constexpr ColumnDescriptor zone(const char* header)
+{
+    ColumnDescriptor column {header, kAssign / "Zone"};
+    return column.shows(zoneName)
+        .lists(zoneList)
+        .writes(writeConfirmedZone)
+        .offers(zoneMenu)
+        .editable()
+        .listsFromOne()
+        .editor(EditorType_ComboPopup, 2);
+}
+
+static std::optional<int> curveType(const Cell& cell)
+{
+    return cell.read<int>({"LineMap", "Curves", "CurveType"});
+}
+
+static QVariant sortName(const Cell& cell)
+{
+    if (curveType(cell) == CurveType_Spline)
+        return QCoreApplication::translate("Cell", "N/A");
+    if (cell.value<int>() != LineMapSort_BySpecificVar)
+        return choiceName(cell);
+    return QString::fromStdString(
+        variableNameFormattedForAliasesForFrame(cell.frame, cell.sibling<int>("SortVar")));
+}
+
+static bool canBeSorted(const Cell& cell)
+{
+    const std::optional<int> type = curveType(cell);
+    return type && *type != CurveType_Spline;
+}
+
+static constexpr ColumnDescriptor kColumns[] = {
+    zone(QT_TRANSLATE_NOOP("Column", "Zone")),
+    // Deliberate: sorting by a specific variable is shown, but neither listed nor in the menu.
+    choice<LineMapSort_e>(QT_TRANSLATE_NOOP("Column", "Sort"), kAssign / "Sort",
+                          ChoiceNames(tables::kLineMapSorts).first(3))
+        .shows(sortName)
+        .relevantWhen(canBeSorted),
+    choice<LegendShow_e>(QT_TRANSLATE_NOOP("Column", "Show in\nLegend"), kAssign / "ShowInLegend",
+                         tables::kLegendModes),
+};
+
+static constexpr ColumnTable kTable = ColumnTable(kColumns).primary(1);
+
+const ColumnTable& LineDefinitionsModel::columnTable() const
+{
+    return kTable;
+}
+
+bool LineDefinitionsModel::isLocalRelevant(const QModelIndex& index) const
+{
+    // Deliberate: the legend may show a map that the plot does not.
+    return index.column() == ShowInLegend || DescribedModel::isLocalRelevant(index);
+}
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models

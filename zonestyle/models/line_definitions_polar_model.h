@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "zonestyle/models/columns/described_model.h"
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
+
+/// What the Definitions tab has besides on a polar plot: the variables.
+class LineDefinitionsPolarModel : public DescribedModel<LineModelAbstract>
+{
+public:
+    enum Column { ThetaVariable, RadiusVariable };
+
+    using DescribedModel::DescribedModel;
+
+protected:
+    const ColumnTable& columnTable() const override;
+};
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models
