@@ -37,10 +37,10 @@ void NumberedNameListModel::list(CvlSetHandle numbers, Formatter format, bool of
     endResetModel();
 }
 
-void NumberedNameListModel::setFilter(const QString& text)
+bool NumberedNameListModel::setFilter(const QString& text)
 {
     if (text == m_filter)
-        return;
+        return false;
     beginResetModel();
     // What contains a longer text contains every part of it: look at what is left only.
     if (!text.contains(m_filter, Qt::CaseInsensitive))
@@ -54,6 +54,7 @@ void NumberedNameListModel::setFilter(const QString& text)
     else
         m_shown.erase(std::remove_if(m_shown.begin(), m_shown.end(), misses), m_shown.end());
     endResetModel();
+    return true;
 }
 
 CvlInt64 NumberedNameListModel::numberAt(int row) const

@@ -23,8 +23,8 @@ public:
     void listZones();
     void listVariables(bool offerNone = false);
 
-    /// Leaves the entries whose text contains this, ignoring case.
-    void setFilter(const QString& text);
+    /// Leaves the entries whose text contains this, ignoring case. False when it did already.
+    bool setFilter(const QString& text);
 
     CvlInt64 numberAt(int row) const; ///< 0 for a row that does not exist
     int rowOf(CvlInt64 number) const; ///< -1 when it is not listed

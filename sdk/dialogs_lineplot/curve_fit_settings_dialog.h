@@ -9,9 +9,12 @@
 
 #include <QDialog>
 
-#include <memory>
+class QLabel;
+class QPushButton;
 
 namespace corvala::dialogs::lineplot {
+
+class CurveFitSettingsForm;
 
 /// Edits the settings of the curve fit that some line maps have in common. Modeless; it closes
 /// when another frame becomes active or the line maps are no longer what they were.
@@ -23,7 +26,6 @@ public:
     /// The shared instance, on that parent (null: the main window). Made again when its parent
     /// died or is another one.
     static CurveFitSettingsDialog& getInstance(QWidget* parent);
-    ~CurveFitSettingsDialog() override;
 
     /// Shows the settings of the first line map; OK and Apply give them to all, as one undo step.
     /// Does nothing when the frame is not active, a line map does not exist, the line maps have
@@ -34,14 +36,16 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    struct Form;
-
     explicit CurveFitSettingsDialog(QWidget* parent);
+    bool isUpToDate() const;
     void readSettings();
-    bool apply();
+    void apply();
     void stateChanged(const toolbox::StateChangeEventInterface& event);
 
-    std::unique_ptr<Form> m_form;
+    QLabel* m_lineMapsLabel;
+    CurveFitSettingsForm* m_form;
+    QPushButton* m_okButton;
+    QPushButton* m_applyButton;
     CvlUniqueId m_frame = 0;
     toolbox::Set m_lineMaps;
     CurveType_e m_type = CurveType_LineSegments;

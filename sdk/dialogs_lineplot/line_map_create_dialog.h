@@ -3,6 +3,7 @@
 
 #include <sdk/base/types.h>
 #include <sdk/signals/signal_connection_collection.h>
+#include <sdk/uicommon/on_idle_action_performer_single_shot.h>
 
 #include <QDialog>
 
@@ -41,6 +42,7 @@ protected:
 private:
     explicit LineMapCreateDialog(QWidget* parent);
     void readDocument();
+    std::vector<CvlInt64> chosenDependentVariables() const; ///< ascending
     void createLineMaps();
     void updateCreateButton();
 
@@ -52,6 +54,7 @@ private:
     QLabel* m_dependentLabel;
     QListView* m_dependent;
     QPushButton* m_createButton;
+    sdk::ui::OnIdleActionPerformerSingleShot m_refresh;
     signaling::SignalConnectionCollection m_connections;
 };
 

@@ -3,13 +3,12 @@
 
 #include <QDialog>
 
-class QCheckBox;
-class QComboBox;
-class QLabel;
 class QLineEdit;
 class QPushButton;
 
 namespace corvala::dialogs::prompt {
+
+class FontChoice;
 
 /// Asks for the character of a character symbol and for its font. Set the present choice, then
 /// exec().
@@ -35,12 +34,9 @@ public:
 
 private:
     explicit EnterASCIICharacterDialog(QWidget* parent);
-    void updateControls();
 
     QLineEdit* m_character;
-    QCheckBox* m_useBaseFont;
-    QLabel* m_fontLabel;
-    QComboBox* m_font;
+    FontChoice* m_font;
     QPushButton* m_okButton;
 };
 

@@ -2,19 +2,21 @@
 #pragma once
 
 #include <sdk/signals/signal_connection_collection.h>
+#include <sdk/toolbox/set.h>
+#include <sdk/uicommon/on_idle_action_performer_single_shot.h>
 
 #include <QDialog>
 
-class QCheckBox;
-class QComboBox;
-class QLabel;
-class QPushButton;
-
+namespace corvala::dialogs::common {
+class NumberedNameListModel;
+}
 namespace corvala::ui {
 class ComboBoxAutoFilter;
 }
 
 namespace corvala::dialogs::prompt {
+
+class FontChoice;
 
 /// Chooses the variable that sizes the scatter symbols of the active frame, and the font of the
 /// character symbols of its active field maps. Modeless; it follows the document while it is open.
@@ -37,12 +39,13 @@ private:
     explicit ScatterSizeFontDialog(QWidget* parent);
     void readDocument();
     void writeVariable();
-    void writeFont();
+    void writeFont(const char* name, int value);
 
+    common::NumberedNameListModel* m_variables;
     ui::ComboBoxAutoFilter* m_variable;
-    QCheckBox* m_useBaseFont;
-    QLabel* m_fontLabel;
-    QComboBox* m_font;
+    FontChoice* m_font;
+    toolbox::Set m_activeMaps; ///< as they were read last
+    sdk::ui::OnIdleActionPerformerSingleShot m_refresh;
     signaling::SignalConnectionCollection m_connections;
 };
 

@@ -42,7 +42,7 @@ private:
     explicit ZoneSelectDialog(QWidget* parent);
     void applyFilter();
     void updateOkButton();
-    void makeCurrent(CvlInt64 zone);
+    void makeCurrent(int row);
     CvlInt64 currentZone() const;
 
     common::NumberedNameListModel* m_model;

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "sdk/dialogs_lineplot/curve_fit_settings_form.h"
+
+#include <sdk/common_ui/combo_box_auto_filter.h>
+#include <sdk/dialogs_common/numbered_name_list_model.h>
+#include <sdk/toolbox/style_value.h>
+#include <sdk/uicommon/style_writing.h>
+
+#include <QDoubleValidator>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace corvala::dialogs::lineplot {
+
+static constexpr int kHighestOrder = 10;
+
+static bool isFit(CurveType_e type)
+{
+    return type == CurveType_PolynomialFit || type == CurveType_ExponentialFit
+        || type == CurveType_PowerFit;
+}
+
+static bool isSpline(CurveType_e type)
+{
+    return type == CurveType_Spline || type == CurveType_ParametricSpline;
+}
+
+template<class T>
+static T setting(const char* name, CvlInt64 lineMap)
+{
+    const toolbox::StyleValue value("LineMap", "Curves", name);
+    return value.read<T>(lineMap).value_or(T());
+}
+
+static void setNumber(QLineEdit& edit, double number)
+{
+    edit.setText(QString::number(number, 'g', QLocale::FloatingPointShortest));
+}
+
+static double number(const QLineEdit& edit)
+{
+    return edit.text().toDouble();
+}
+
+CurveFitSettingsForm::CurveFitSettingsForm(QWidget* parent)
+    : QWidget(parent)
+    , m_variables(new common::NumberedNameListModel(this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(makeOrderRow());
+    layout->addWidget(makeRangeGroup());
+    layout->addWidget(makeWeightGroup());
+    layout->addWidget(makeClampGroup());
+}
+
+bool CurveFitSettingsForm::hasSettings(CurveType_e type)
+{
+    return isFit(type) || isSpline(type);
+}
+
+QWidget* CurveFitSettingsForm::makeOrderRow()
+{
+    m_orderRow = new QWidget(this);
+    auto* form = new QFormLayout(m_orderRow);
+    form->setContentsMargins(0, 0, 0, 0);
+    m_order = new QSpinBox(m_orderRow);
+    m_order->setRange(1, kHighestOrder);
+    form->addRow(tr("&Polynomial order:"), m_order);
+    return m_orderRow;
+}
+
+static QGroupBox* makeSwitchedGroup(const QString& title, CurveFitSettingsForm* parent)
+{
+    auto* group = new QGroupBox(title, parent);
+    group->setCheckable(true);
+    group->setLayout(new QFormLayout);
+    QObject::connect(group, &QGroupBox::toggled, parent, &CurveFitSettingsForm::changed);
+    return group;
+}
+
+QGroupBox* CurveFitSettingsForm::makeRangeGroup()
+{
+    m_range = makeSwitchedGroup(tr("Use points in a &range only"), this);
+    m_rangeBegin = addNumber(*m_range, tr("&From:"));
+    m_rangeEnd = addNumber(*m_range, tr("&To:"));
+    return m_range;
+}
+
+QGroupBox* CurveFitSettingsForm::makeWeightGroup()
+{
+    m_weight = makeSwitchedGroup(tr("Use a &weighting variable"), this);
+    m_weightVariable = new ui::ComboBoxAutoFilter(m_weight);
+    m_weightVariable->setListModel(m_variables);
+    connect(m_weightVariable, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &CurveFitSettingsForm::changed);
+    static_cast<QFormLayout*>(m_weight->layout())->addRow(tr("&Variable:"), m_weightVariable);
+    return m_weight;
+}
+
+QGroupBox* CurveFitSettingsForm::makeClampGroup()
+{
+    m_clamp = makeSwitchedGroup(tr("&Clamp the ends"), this);
+    m_startDerivative = addNumber(*m_clamp, tr("Derivative at &start:"));
+    m_endDerivative = addNumber(*m_clamp, tr("Derivative at &end:"));
+    return m_clamp;
+}
+
+QLineEdit* CurveFitSettingsForm::addNumber(QGroupBox& group, const QString& label)
+{
+    auto* edit = new QLineEdit(&group);
+    auto* validator = new QDoubleValidator(edit);
+    validator->setLocale(QLocale::c());
+    edit->setValidator(validator);
+    connect(edit, &QLineEdit::textChanged, this, &CurveFitSettingsForm::changed);
+    static_cast<QFormLayout*>(group.layout())->addRow(label, edit);
+    return edit;
+}
+
+void CurveFitSettingsForm::read(CurveType_e type, CvlInt64 lineMap)
+{
+    m_orderRow->setVisible(type == CurveType_PolynomialFit);
+    m_range->setVisible(isFit(type));
+    m_weight->setVisible(isFit(type));
+    m_clamp->setVisible(isSpline(type));
+
+    m_order->setValue(setting<int>("PolyOrder", lineMap));
+    m_range->setChecked(setting<bool>("UseIndVarRange", lineMap));
+    setNumber(*m_rangeBegin, setting<double>("IndVarMin", lineMap));
+    setNumber(*m_rangeEnd, setting<double>("IndVarMax", lineMap));
+    m_weight->setChecked(setting<bool>("UseWeightVar", lineMap));
+    m_variables->listVariables();
+    m_weightVariable->setCurrentIndex(m_variables->rowOf(setting<CvlInt64>("WeightVar", lineMap)));
+    m_clamp->setChecked(setting<bool>("ClampSpline", lineMap));
+    setNumber(*m_startDerivative, setting<double>("SplineDerivativeAtStart", lineMap));
+    setNumber(*m_endDerivative, setting<double>("SplineDerivativeAtEnd", lineMap));
+}
+
+bool CurveFitSettingsForm::isAcceptable() const
+{
+    const auto isUsed = [](const QGroupBox* group) {
+        return !group->isHidden() && group->isChecked();
+    };
+    if (isUsed(m_range)
+        && (!m_rangeBegin->hasAcceptableInput() || !m_rangeEnd->hasAcceptableInput()
+            || number(*m_rangeEnd) < number(*m_rangeBegin)))
+        return false;
+    if (isUsed(m_weight) && m_weightVariable->currentIndex() < 0)
+        return false;
+    return !isUsed(m_clamp)
+        || (m_startDerivative->hasAcceptableInput() && m_endDerivative->hasAcceptableInput());
+}
+
+void CurveFitSettingsForm::write(const toolbox::Set& lineMaps) const
+{
+    const auto assign = [&lineMaps](const char* name, double value) {
+        sdk::ui::writeStyle({"LineMap", "Curves", name}, &lineMaps, value);
+    };
+    // What a switch leaves without effect stays as each line map has it.
+    const auto assignSwitch = [&assign](const char* name, const QGroupBox* group) {
+        if (group->isHidden())
+            return false;
+        assign(name, group->isChecked() ? 1.0 : 0.0);
+        return group->isChecked();
+    };
+    if (!m_orderRow->isHidden())
+        assign("PolyOrder", m_order->value());
+    if (assignSwitch("UseIndVarRange", m_range)) {
+        assign("IndVarMin", number(*m_rangeBegin));
+        assign("IndVarMax", number(*m_rangeEnd));
+    }
+    if (assignSwitch("UseWeightVar", m_weight))
+        assign("WeightVar",
+               static_cast<double>(m_variables->numberAt(m_weightVariable->currentIndex())));
+    if (assignSwitch("ClampSpline", m_clamp)) {
+        assign("SplineDerivativeAtStart", number(*m_startDerivative));
+        assign("SplineDerivativeAtEnd", number(*m_endDerivative));
+    }
+}
+
+} // namespace corvala::dialogs::lineplot

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "sdk/dialogs_prompt/scatter_size_font_dialog.h"
+
+#include <sdk/common_ui/combo_box_auto_filter.h>
+#include <sdk/dialogs_common/numbered_name_list_model.h>
+#include <sdk/dialogs_common/shared_instance.h>
+#include <sdk/dialogs_prompt/font_choice.h>
+#include <sdk/signals/state_change_event_observable.h>
+#include <sdk/toolbox/style_value.h>
+#include <sdk/uicommon/style_writing.h>
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+
+namespace corvala::dialogs::prompt {
+
+static bool concernsDialog(const toolbox::StateChangeEventInterface& event)
+{
+    if (event.stateChange() != StateCode_Style)
+        return event.stateChange() < StateCode_View;
+    const std::string name = event.styleParam(1);
+    return name == "GlobalScatter" || name == "ActiveFieldMaps"
+        || (name == "FieldMap" && event.styleParam(3) == "SymbolShape");
+}
+
+static toolbox::StyleValue fontValue(const char* name)
+{
+    return {"FieldMap", "Scatter", "SymbolShape", "ASCIIShape", name};
+}
+
+ScatterSizeFontDialog& ScatterSizeFontDialog::getInstance(QWidget* parent)
+{
+    static QPointer<ScatterSizeFontDialog> instance;
+    return common::sharedInstance(instance, parent,
+                                  [](QWidget* owner) { return new ScatterSizeFontDialog(owner); });
+}
+
+ScatterSizeFontDialog::ScatterSizeFontDialog(QWidget* parent)
+    : QDialog(parent)
+    , m_variables(new common::NumberedNameListModel(this))
+    , m_variable(new ui::ComboBoxAutoFilter(this))
+    , m_font(new FontChoice(this))
+    , m_refresh([this] { readDocument(); })
+{
+    setWindowTitle(tr("Scatter Size and Font"));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    m_variable->setListModel(m_variables);
+    auto* form = new QFormLayout(this);
+    form->addRow(tr("&Size variable:"), m_variable);
+    m_font->addTo(*form);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, Qt::Horizontal, this);
+    form->addRow(buttons);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_variable, &ui::ComboBoxAutoFilter::selectionComplete, this,
+            &ScatterSizeFontDialog::writeVariable);
+    connect(m_font, &FontChoice::useBaseFontClicked, this,
+            [this](bool useBaseFont) { writeFont("UseBaseFont", useBaseFont ? 1 : 0); });
+    connect(m_font, &FontChoice::fontOverrideActivated, this,
+            [this](int fontOverride) { writeFont("FontOverride", fontOverride); });
+}
+
+void ScatterSizeFontDialog::launch()
+{
+    show();
+    raise();
+    activateWindow();
+}
+
+void ScatterSizeFontDialog::showEvent(QShowEvent* event)
+{
+    readDocument();
+    m_connections.disconnectAll();
+    m_connections.add(signaling::StateChangeEventObservable::getInstance().connect(
+        [this](const toolbox::StateChangeEventInterface& change) {
+            if (concernsDialog(change))
+                m_refresh.enableNotification();
+        }));
+    QDialog::showEvent(event);
+}
+
+void ScatterSizeFontDialog::hideEvent(QHideEvent* event)
+{
+    m_connections.disconnectAll();
+    m_refresh.disableNotification();
+    QDialog::hideEvent(event);
+}
+
+void ScatterSizeFontDialog::readDocument()
+{
+    m_variables->listVariables(true);
+    m_variable->setEnabled(CvlUtilDataSetIsAvailable() != 0);
+    const toolbox::StyleValue sizeVariable("GlobalScatter", "Var");
+    m_variable->setCurrentIndex(m_variables->rowOf(sizeVariable.read<CvlInt64>().value_or(0)));
+
+    const toolbox::StyleValue active("ActiveFieldMaps");
+    m_activeMaps = active.read<toolbox::Set>().value_or(toolbox::Set());
+    m_font->setEnabled(!m_activeMaps.isEmpty());
+    const CvlInt64 first = m_activeMaps.next(0);
+    m_font->setUseBaseFont(fontValue("UseBaseFont").read<bool>(first).value_or(true));
+    m_font->setFontOverride(fontValue("FontOverride").read<int>(first).value_or(FontOverride_None));
+}
+
+void ScatterSizeFontDialog::writeVariable()
+{
+    const CvlInt64 variable = m_variables->numberAt(m_variable->currentIndex());
+    sdk::ui::writeStyle({"GlobalScatter", "Var"}, nullptr, static_cast<double>(variable));
+}
+
+void ScatterSizeFontDialog::writeFont(const char* name, int value)
+{
+    sdk::ui::writeStyle({"FieldMap", "Scatter", "SymbolShape", "ASCIIShape", name}, &m_activeMaps,
+                        value);
+}
+
+} // namespace corvala::dialogs::prompt
