@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "sdk/propertybindings/curve_fit_collection.h"
+
+#include <sdk/toolbox/style_value.h>
+
+#include "host/style/schema.h"
+
+#include <QCoreApplication>
+
+namespace corvala::propertybindings {
+
+CurveFitCollection::CurveFitCollection()
+{
+    const host::Schema& schema = host::Schema::instance();
+    const host::Attribute& attribute = schema.at(schema.find({"LineMap", "Curves", "CurveType"}));
+    for (auto* type = attribute.enumerators; type->name; ++type) {
+        // A document says that a fit is extended, but not which one, so none can be offered.
+        if (type->value != CurveType_Extended)
+            m_fits.emplace_back(static_cast<CurveType_e>(type->value),
+                                QCoreApplication::translate("StyleValues", type->name));
+    }
+}
+
+CurveFitInfo CurveFitCollection::get(int index) const
+{
+    return index >= 0 && index < size() ? m_fits[static_cast<std::size_t>(index)] : CurveFitInfo();
+}
+
+CurveFitInfo CurveFitCollection::curveFitForLineMap(CvlUniqueId frame, CvlInt64 lineMap) const
+{
+    const toolbox::FrameStyleValue curveType(frame, "LineMap", "Curves", "CurveType");
+    const auto type = curveType.read<int>(lineMap);
+    if (!type)
+        return {};
+    for (const CurveFitInfo& fit : m_fits) {
+        if (fit.type() == *type)
+            return fit;
+    }
+    return CurveFitInfo::unavailable(
+        static_cast<CurveType_e>(*type),
+        QCoreApplication::translate("CurveFitCollection", "Unavailable fit"));
+}
+
+} // namespace corvala::propertybindings

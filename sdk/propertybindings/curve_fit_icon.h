@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <sdk/base/enums.h>
+
+#include <QIcon>
+
+namespace corvala::propertybindings {
+
+/// A small picture of points and of the curve that a fit draws through them.
+QIcon curveFitIcon(CurveType_e type);
+
+} // namespace corvala::propertybindings
