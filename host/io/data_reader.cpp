@@ -18,6 +18,7 @@
 namespace corvala::host::io {
 
 static constexpr int kLongestLine = 1 << 20;
+static constexpr int kLongestComplaint = 200;
 
 class DataReader::Private
 {
@@ -45,6 +46,7 @@ private:
     QTimer silence;
     std::unique_ptr<QTemporaryDir> folder;
     QString currentFile;
+    QByteArray complaints; ///< the end of what libraries printed
     QString reason; ///< why it cannot be read, as far as known
     bool cancelled = false;
 };
@@ -52,7 +54,6 @@ private:
 DataReader::Private::Private(DataReader* reader)
     : q(reader)
 {
-    process.setStandardErrorFile(QProcess::nullDevice());
     process.setStandardInputFile(QProcess::nullDevice());
     silence.setSingleShot(true);
     QObject::connect(&silence, &QTimer::timeout, q, [this] {
@@ -61,6 +62,9 @@ DataReader::Private::Private(DataReader* reader)
         process.kill();
     });
     QObject::connect(&process, &QProcess::readyReadStandardOutput, q, [this] { readLines(); });
+    QObject::connect(&process, &QProcess::readyReadStandardError, q, [this] {
+        complaints = (complaints + process.readAllStandardError()).right(kLongestComplaint);
+    });
     QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), q,
                      [this](int code, QProcess::ExitStatus status) { processEnded(code, status); });
     QObject::connect(&process, &QProcess::errorOccurred, q, [this](QProcess::ProcessError error) {
@@ -84,6 +88,7 @@ void DataReader::Private::start(const ReadRequest& request)
     running = true;
     cancelled = false;
     reason.clear();
+    complaints.clear();
     currentFile = QDir().absoluteFilePath(request.files.value(0));
     const QString program = readerProgram();
     if (request.files.isEmpty())
@@ -173,9 +178,12 @@ QString DataReader::Private::reasonForEnd(int code, QProcess::ExitStatus status)
 {
     if (status == QProcess::CrashExit)
         return DataReader::tr("the reader stopped unexpectedly (signal %1)").arg(code);
-    if (code != 0)
-        return DataReader::tr("the reader stopped unexpectedly (exit code %1)").arg(code);
-    return {};
+    if (code == 0)
+        return {};
+    const QString lastLine =
+        QString::fromUtf8(complaints.trimmed()).section(QLatin1Char('\n'), -1).simplified();
+    return DataReader::tr("the reader stopped unexpectedly (%1)")
+        .arg(lastLine.isEmpty() ? DataReader::tr("exit code %1").arg(code) : lastLine);
 }
 
 void DataReader::Private::takeResult()

@@ -171,6 +171,7 @@ std::string toJson(const DataSetIndex& index)
                 {"variables", listJson(data.variables, variableJson)},
                 {"vectors", data.vectorVariables},
                 {"contours", data.contourVariables},
+                {"planar", data.isPlanar},
                 {"zoneFiles", index.zoneFiles},
                 {"notes", listJson(index.notes, messageJson)}};
     if (index.plot3d)
@@ -207,6 +208,7 @@ std::optional<DataSetIndex> indexFromJson(const std::string& text)
         listFrom(value.at("variables"), data.variables, variableFrom);
         value.at("vectors").get_to(data.vectorVariables);
         value.at("contours").get_to(data.contourVariables);
+        value.at("planar").get_to(data.isPlanar);
         value.at("zoneFiles").get_to(index.zoneFiles);
         listFrom(value.at("notes"), index.notes, messageFrom);
         if (value.contains("plot3d"))

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/formats.h"
 #include "host/io/reader/read_failure.h"
+#include "host/io/reader/vtk_messages.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -115,6 +116,9 @@ static vtkSmartPointer<vtkDataObject> readPart(const QString& path)
     vtkNew<vtkXMLGenericDataObjectReader> reader;
     reader->SetFileName(QFile::encodeName(path).constData());
     reader->Update();
+    const QString error = VtkMessages::takeError();
+    if (!error.isEmpty())
+        throw ReadFailure(path, "%1", {error});
     return reader->GetOutputDataObject(0);
 }
 

@@ -14,8 +14,12 @@
 
 namespace corvala::host::io::reader {
 
-DataSetBuilder::DataSetBuilder(const QString& folder, Channel& channel)
+static constexpr double kFlatness = 1e-9; ///< Z range of planar data against their extent
+static constexpr std::int64_t kBytesOfPoint = 3 * sizeof(float);
+
+DataSetBuilder::DataSetBuilder(const QString& folder, Channel& channel, std::int64_t memoryBytes)
     : m_channel(channel)
+    , m_mostPoints(memoryBytes / kBytesOfPoint)
     , m_writer(folder)
 {
 }
@@ -54,6 +58,7 @@ DataSetIndex DataSetBuilder::build(const std::vector<std::unique_ptr<DataFile>>&
     for (m_fileNumber = 0; m_fileNumber < m_fileCount; ++m_fileNumber)
         readFile(*files[m_fileNumber], names[m_fileNumber]);
     m_index.data.title = names.front();
+    m_index.data.isPlanar = m_bounds.GetLength(2) <= kFlatness * m_bounds.GetMaxLength();
     numberZones();
     noteOmissions();
     m_index.zoneFiles = m_writer.files();
@@ -138,6 +143,7 @@ void DataSetBuilder::readTime(DataFile& file, std::size_t timeIndex, const std::
 
     std::map<std::string, int> uses;
     for (const LeafBlock& leaf : leafBlocks(root)) {
+        requireHandy(file, leaf.data);
         const std::string path = joined(leaf.names);
         const BlockKey key(path, uses[path]++);
         const auto [place, isNew] = m_blockOfKey.try_emplace(key, m_blocks.size());
@@ -152,6 +158,15 @@ void DataSetBuilder::readTime(DataFile& file, std::size_t timeIndex, const std::
     }
 }
 
+void DataSetBuilder::requireHandy(const DataFile& file, vtkDataSet* data) const
+{
+    if (data && data->GetNumberOfPoints() > m_mostPoints)
+        throw ReadFailure(
+            file.path(),
+            QT_TRANSLATE_NOOP("ReadMessage", "a zone of %1 points does not fit the memory"),
+            {QString::number(data->GetNumberOfPoints())});
+}
+
 void DataSetBuilder::addLeaf(Block& block, vtkDataSet* data, double time)
 {
     if (!data)
@@ -162,6 +177,7 @@ void DataSetBuilder::addLeaf(Block& block, vtkDataSet* data, double time)
     info.time = time;
     info.sourceIndex = m_writer.write(*zone);
     m_variables.add(*zone);
+    m_bounds.AddBounds(zone->GetBounds());
     block.zones.push_back(info);
 }
 

@@ -14,6 +14,8 @@
 #include <memory>
 #include <vector>
 
+#include <vtkBoundingBox.h>
+
 namespace corvala::host::io::reader {
 
 class Channel;
@@ -22,7 +24,9 @@ class Channel;
 class DataSetBuilder
 {
 public:
-    DataSetBuilder(const QString& folder, Channel& channel);
+    /// A zone whose coordinates would not fit `memoryBytes` is refused: an image can claim any
+    /// number of points in a few bytes.
+    DataSetBuilder(const QString& folder, Channel& channel, std::int64_t memoryBytes);
 
     /// Reads all times of all files. Throws ReadFailure.
     DataSetIndex build(const std::vector<std::unique_ptr<DataFile>>& files);
@@ -39,6 +43,7 @@ private:
 
     void readFile(DataFile& file, const std::string& prefix);
     void readTime(DataFile& file, std::size_t timeIndex, const std::string& prefix);
+    void requireHandy(const DataFile& file, vtkDataSet* data) const;
     void addLeaf(Block& block, vtkDataSet* data, double time);
     std::vector<std::size_t> timesInOrder(const DataFile& file);
     void noteWarnings(const DataFile& file);
@@ -46,11 +51,13 @@ private:
     void numberZones();
 
     Channel& m_channel;
+    std::int64_t m_mostPoints;
     ZoneWriter m_writer;
     VariableList m_variables;
     DataSetIndex m_index;
     std::vector<Block> m_blocks; ///< of all files, as they are met
     std::map<BlockKey, std::size_t> m_blockOfKey; ///< of the file that is being read
+    vtkBoundingBox m_bounds;
     QSet<QString> m_droppedArrays;
     std::size_t m_fileNumber = 0;
     std::size_t m_fileCount = 1;

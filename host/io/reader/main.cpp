@@ -36,10 +36,11 @@ static void storeIndex(const QDir& folder, DataSetIndex index, const ReadRequest
             file.fileName(), QT_TRANSLATE_NOOP("ReadMessage", "the file cannot be written there"));
 }
 
-static void readAll(const QDir& folder, const ReadRequest& request, reader::Channel& channel)
+static void readAll(const QDir& folder, const ReadRequest& request, std::int64_t memoryBytes,
+                    reader::Channel& channel)
 {
     const auto files = reader::openFiles(request, folder, channel);
-    reader::DataSetBuilder builder(folder.path(), channel);
+    reader::DataSetBuilder builder(folder.path(), channel, memoryBytes);
     storeIndex(folder, builder.build(files), request);
 }
 
@@ -49,7 +50,7 @@ static int run(const QDir& folder, const ReadRequest& request)
     reader::Channel channel;
     const std::int64_t memory = reader::limitResources(request.limits.memoryBytes);
     try {
-        readAll(folder, request, channel);
+        readAll(folder, request, memory, channel);
         return 0;
     } catch (const reader::ReadFailure& failure) {
         channel.fail(failure.file.toStdString(), failure.message);

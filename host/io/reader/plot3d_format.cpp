@@ -112,7 +112,7 @@ Plot3DGrids Plot3DFile::openGrid(QString& file)
     return *grids;
 }
 
-/// A companion that was guessed by its name and does not fit is left out; any other is an error.
+/// A companion that was guessed by its name and belongs to other grids is left out.
 void Plot3DFile::openCompanion(QString& file, const Plot3DGrids& grids, const Plot3DStep& step,
                                bool isFunction)
 {
@@ -121,18 +121,18 @@ void Plot3DFile::openCompanion(QString& file, const Plot3DGrids& grids, const Pl
     const QString original = file;
     requireReadable(file);
     const std::optional<Plot3DText> text = openText(file);
-    if (fitsPlot3D(file, grids, text ? &*text : nullptr, isFunction))
+    const Plot3DFit fit = fitOfPlot3D(file, grids, text ? &*text : nullptr, isFunction);
+    if (fit == Plot3DFit::CutOff)
+        throw ReadFailure(original, QT_TRANSLATE_NOOP("ReadMessage", "it is cut off"));
+    if (fit == Plot3DFit::Fits)
         return;
     if (!step.areGuessed)
         throw ReadFailure(
-            original,
-            QT_TRANSLATE_NOOP("ReadMessage",
-                              "it does not belong to the grid file %1, or it is cut off"),
+            original, QT_TRANSLATE_NOOP("ReadMessage", "it does not belong to the grid file %1"),
             {step.grid});
     file.clear();
     m_notes.emplace_back(
-        QT_TRANSLATE_NOOP("ReadMessage",
-                          "%1 was left out: it does not fit the grid file, or it is cut off."),
+        QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out: it does not belong to the grid file."),
         std::initializer_list<QString> {QFileInfo(original).fileName()});
 }
 

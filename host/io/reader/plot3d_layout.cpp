@@ -129,18 +129,20 @@ static bool skipFunctions(Plot3DSource& source, const Plot3DGrids& grids,
     return true;
 }
 
-bool fitsPlot3D(const QString& path, const Plot3DGrids& grids, const Plot3DText* text,
-                bool isFunction)
+Plot3DFit fitOfPlot3D(const QString& path, const Plot3DGrids& grids, const Plot3DText* text,
+                      bool isFunction)
 {
     if (*grids.layout.ascii != (text != nullptr))
-        return false;
+        return Plot3DFit::OtherGrids;
     const auto source = sourceOf(path, grids.layout, text);
     std::vector<std::array<std::int64_t, 3>> sizes;
     std::vector<std::int64_t> counts;
     if (!readSizes(*source, grids.layout, isFunction ? 1 : 0, sizes, counts)
         || sizes != grids.sizes)
-        return false;
-    return isFunction ? skipFunctions(*source, grids, counts) : skipSolutions(*source, grids);
+        return Plot3DFit::OtherGrids;
+    const bool isWhole =
+        isFunction ? skipFunctions(*source, grids, counts) : skipSolutions(*source, grids);
+    return isWhole ? Plot3DFit::Fits : Plot3DFit::CutOff;
 }
 
 } // namespace corvala::host::io::reader

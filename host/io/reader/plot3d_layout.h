@@ -20,9 +20,12 @@ struct Plot3DGrids
 std::optional<Plot3DGrids> detectPlot3D(const QString& path, const Plot3DLayout& wanted,
                                         const Plot3DText* text);
 
-/// Whether a solution file (or, if `isFunction`, a function file) has the same layout and grids.
-/// More may follow: some are filled up to whole blocks, some have further values.
-bool fitsPlot3D(const QString& path, const Plot3DGrids& grids, const Plot3DText* text,
-                bool isFunction);
+/// How a solution or function file goes with a grid file.
+enum class Plot3DFit { Fits, OtherGrids, CutOff };
+
+/// Compares layout and grids of a solution file (or, if `isFunction`, a function file). More may
+/// follow the values: some files are filled up to whole blocks, some have further values.
+Plot3DFit fitOfPlot3D(const QString& path, const Plot3DGrids& grids, const Plot3DText* text,
+                      bool isFunction);
 
 } // namespace corvala::host::io::reader

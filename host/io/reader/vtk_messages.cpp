@@ -30,14 +30,18 @@ public:
     static MessageWindow* New();
     vtkTypeMacro(MessageWindow, vtkOutputWindow)
 
-    void DisplayText(const char* text) override
+        void DisplayText(const char* text) override
     {
         const MessageTypes type = this->GetCurrentMessageType();
-        if (type == MESSAGE_TYPE_ERROR && error.isEmpty())
-            error = essence(text);
         const bool isWarning = type == MESSAGE_TYPE_WARNING || type == MESSAGE_TYPE_GENERIC_WARNING;
-        if (isWarning && warnings.size() < kMostWarnings && !warnings.contains(essence(text)))
-            warnings << essence(text);
+        const QString message = essence(text);
+        // The legacy readers merely warn when the values end early.
+        const bool isError = type == MESSAGE_TYPE_ERROR
+            || (isWarning && message.startsWith(QLatin1String("Error ")));
+        if (isError && error.isEmpty())
+            error = message;
+        else if (isWarning && warnings.size() < kMostWarnings && !warnings.contains(message))
+            warnings << message;
     }
 
     QString error;
