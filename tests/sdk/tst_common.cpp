@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/document/document.h"
+#include "samples/demo_data.h"
+#include "sdk/base/cvl.h"
+#include "sdk/common/app_lock.h"
+#include "sdk/common/common.h"
+#include "tests/support/modal_responder.h"
+
+#include <QtTest>
+
+using namespace corvala;
+using host::Document;
+using tests::ModalResponder;
+
+class tst_Common : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { Document::instance().clear(); }
+    void names();
+    void activeZonesFollowTheirMaps();
+    void assignsTheScatterVariableOnce();
+    void assignsContourVariablesInOneStep();
+    void channelsMustAllBeSet();
+    void asksForTheLayer_data();
+    void asksForTheLayer();
+    void offersSurfaces();
+    void confirmsUnorderedZones();
+    void lockIsRecursive();
+
+private:
+    static void open(const char* name, std::int64_t scale = 0)
+    {
+        std::string error;
+        QVERIFY2(samples::openDemo(name, scale, error), error.c_str());
+    }
+    static int frameValue(const char* group, const char* name, CvlInt64 index = -1)
+    {
+        return toolbox::StyleValue(group, name).read<int>(0, index).value_or(-1);
+    }
+    static void setFrameValue(std::vector<std::string> path, double value)
+    {
+        host::StyleWrite request;
+        request.path = std::move(path);
+        request.value = value;
+        QCOMPARE(Document::instance().write(request), StyleWrite_Ok);
+    }
+};
+
+void tst_Common::names()
+{
+    open("kinds");
+    const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
+    QCOMPARE(sdk::zoneNameWithIndexFormattedForFrame(frame, 5), std::string("5: wing [upper]"));
+    QCOMPARE(sdk::variableNameWithIndexFormattedForAliasesForFrame(frame, 7),
+             std::string("7: Pressure"));
+    QCOMPARE(sdk::variableNameFormattedForAliases(7), std::string("Pressure"));
+    for (const CvlInt64 bad : {0, 9, -1}) {
+        QCOMPARE(sdk::zoneNameWithIndexFormattedForFrame(frame, bad), std::string());
+        QCOMPARE(sdk::variableNameFormattedForAliasesForFrame(frame, bad), std::string());
+    }
+    QCOMPARE(sdk::variableNameWithIndexFormattedForAliasesForFrame(frame + 1, 1), std::string());
+}
+
+void tst_Common::activeZonesFollowTheirMaps()
+{
+    open("transient");
+    QCOMPARE(sdk::getActiveZones().count(), CvlInt64(7));
+    host::StyleWrite request;
+    host::MapSet strand;
+    strand.add(2);
+    request.path = {"ActiveFieldMaps"};
+    request.value = strand;
+    request.op = toolbox::AssignOp_Remove;
+    Document::instance().write(request);
+    const toolbox::Set zones = sdk::getActiveZones();
+    QCOMPARE(zones.count(), CvlInt64(3));
+    QCOMPARE(zones.next(1), CvlInt64(6));
+    QVERIFY(!sdk::isVolumeZone(1));
+    open("kinds");
+    QVERIFY(sdk::isVolumeZone(1) && sdk::isVolumeZone(4) && !sdk::isVolumeZone(9));
+}
+
+void tst_Common::assignsTheScatterVariableOnce()
+{
+    QVERIFY(!sdk::autoAssignScatterVariable()); // no data
+    open("field2d", 2);
+    QVERIFY(sdk::autoAssignScatterVariable());
+    QCOMPARE(frameValue("GlobalScatter", "Var"), 3);
+    int events = 0;
+    const boost::signals2::scoped_connection counter =
+        Document::instance().events().connect([&](const host::StateEvent&) { ++events; });
+    QVERIFY(!sdk::autoAssignScatterVariable());
+    QCOMPARE(events, 0);
+}
+
+void tst_Common::assignsContourVariablesInOneStep()
+{
+    QVERIFY(!sdk::autoAssignAllContourGroupVariables(
+        ContourLevelsInitializationMode_ResetIfVariableIsNew));
+    open("field2d", 2);
+    QVERIFY(sdk::autoAssignAllContourGroupVariables(
+        ContourLevelsInitializationMode_ResetIfVariableIsNew));
+    QCOMPARE(frameValue("ContourGroups", "Var", 1), 5); // as it was
+    QVERIFY(frameValue("ContourGroups", "Var", 8) > 2); // no coordinate
+    QCOMPARE(Document::instance().undo().stepCount(), 1);
+}
+
+void tst_Common::channelsMustAllBeSet()
+{
+    open("field2d", 2);
+    const toolbox::StyleValue global("GlobalRGB");
+    setFrameValue({"GlobalRGB", "RedVar"}, 3);
+    setFrameValue({"GlobalRGB", "GreenVar"}, 4);
+    QVERIFY(!sdk::checkRGBChannelVars(global));
+    setFrameValue({"GlobalRGB", "BlueVar"}, 5);
+    QVERIFY(sdk::checkRGBChannelVars(global));
+}
+
+void tst_Common::asksForTheLayer_data()
+{
+    QTest::addColumn<QString>("layer");
+    QTest::addColumn<int>("answer"); // 0 none asked
+    QTest::addColumn<int>("chooser"); // -1 none, else what it says
+    QTest::addColumn<bool>("result");
+    QTest::newRow("on already") << "Mesh" << 0 << -1 << true;
+    QTest::newRow("edge has its own layer name") << "EdgeLayer" << 0 << -1 << true;
+    QTest::newRow("yes") << "Shade" << int(QMessageBox::Yes) << -1 << true;
+    QTest::newRow("no") << "Shade" << int(QMessageBox::No) << 1 << false;
+    QTest::newRow("chooser agrees") << "Contour" << int(QMessageBox::Yes) << 1 << true;
+    QTest::newRow("chooser refuses") << "Contour" << int(QMessageBox::Yes) << 0 << false;
+    QTest::newRow("unknown layer") << "UseLightingEffect" << 0 << -1 << false;
+}
+
+void tst_Common::asksForTheLayer()
+{
+    QFETCH(QString, layer);
+    QFETCH(int, answer);
+    QFETCH(int, chooser);
+    QFETCH(bool, result);
+    open("field3d", 4);
+    ModalResponder responder;
+    if (answer != 0)
+        responder.press(QMessageBox::StandardButton(answer));
+    boost::function<bool(PlotType_e)> function;
+    int asked = PlotType_None;
+    if (chooser >= 0)
+        function = [&](PlotType_e type) { return asked = type, chooser == 1; };
+    QCOMPARE(sdk::queryToActivateSidebarLayer(layer.toStdString(), function), result);
+    QVERIFY(responder.isSettled());
+    QCOMPARE(asked, answer == QMessageBox::Yes && chooser >= 0 ? PlotType_Field3D : PlotType_None);
+    if (layer != QLatin1String("UseLightingEffect")) {
+        const QByteArray name =
+            layer == QLatin1String("EdgeLayer") ? "ShowEdge" : "Show" + layer.toLatin1();
+        QCOMPARE(CvlUtilFieldLayerIsActiveForFrame(CvlUtilFrameGetUniqueID(), name) != 0, result);
+    }
+}
+
+void tst_Common::offersSurfaces()
+{
+    open("field3d", 4);
+    const toolbox::StyleValue surfaces("FieldMap", "Surfaces", "SurfacesToPlot");
+    ModalResponder responder;
+    responder.press(QMessageBox::No).press(QMessageBox::Yes);
+    QVERIFY(!sdk::queryToEnableSurfacePlotLayer("Mesh"));
+    QCOMPARE(surfaces.read<int>(1), std::optional<int>(SurfacesToPlot_None));
+    QVERIFY(sdk::queryToEnableSurfacePlotLayer("Mesh"));
+    QCOMPARE(surfaces.read<int>(1), std::optional<int>(SurfacesToPlot_BoundaryCellFaces));
+    QVERIFY(responder.isSettled());
+    QVERIFY(responder.takeSeen().first().contains(QStringLiteral("mesh layer")));
+}
+
+void tst_Common::confirmsUnorderedZones()
+{
+    open("xy");
+    ModalResponder responder;
+    QVERIFY(sdk::confirmLineMapZoneSelection(3));
+    QVERIFY(sdk::confirmLineMapZoneSelection(77));
+    responder.press(QMessageBox::No);
+    QVERIFY(!sdk::confirmLineMapZoneSelection(4));
+    responder.press(QMessageBox::Yes);
+    QVERIFY(sdk::confirmLineMapZoneSelection(4));
+    QVERIFY(responder.isSettled());
+}
+
+void tst_Common::lockIsRecursive()
+{
+    {
+        const sdk::AppLock outer;
+        const sdk::AppLock inner(ImplicitMacroRecording_None);
+        QVERIFY(Document::instance().isLocked());
+    }
+    QVERIFY(!Document::instance().isLocked());
+}
+
+QTEST_MAIN(tst_Common)
+#include "tst_common.moc"
