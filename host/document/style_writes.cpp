@@ -9,46 +9,23 @@ namespace corvala::host {
 
 namespace {
 
-/// Attributes that follow another one: what a write to the first sets the second to.
-struct Coupling
-{
-    const char* attribute;
-    bool isCharacter;
-    int onlyValue = -1; ///< the write must have this value
-    int exceptValue = -1; ///< ... or must not have this one
-};
-
-/// A symbol is a shape or a character, whichever was chosen last.
-constexpr Coupling kSymbolCouplings[] = {
-    {"GeomShape", false, -1, GeomShape_Character},
-    {"GeomShape", true, GeomShape_Character},
-    {"ASCIIChar", true},
-};
-
-/// The "IsASCII" attribute that goes with a symbol attribute, and the value that it takes.
+/// An attribute that follows another one, and the value that it takes.
 struct Follower
 {
     AttributeId attribute = kNoAttribute;
     bool value = false;
 };
 
+/// A symbol is a shape or a character, whichever was chosen last: "IsASCII" follows both choices.
 Follower followerOf(const Attribute& attribute, const ValueList::Value& value)
 {
-    if (attribute.names.size() < 4 || attribute.names[2] != "SymbolShape")
+    const std::string& name = attribute.names.back();
+    const bool isShape = name == "GeomShape";
+    if (!isShape && name != "ASCIIChar")
         return {};
-    const auto* const number = std::get_if<std::int32_t>(&value);
-    for (const Coupling& coupling : kSymbolCouplings) {
-        if (attribute.names.back() != coupling.attribute)
-            continue;
-        if (number && coupling.onlyValue >= 0 && *number != coupling.onlyValue)
-            continue;
-        if (number && coupling.exceptValue >= 0 && *number == coupling.exceptValue)
-            continue;
-        return {Schema::instance().find(
-                    {attribute.names[0], attribute.names[1], "SymbolShape", "IsASCII"}),
-                coupling.isCharacter};
-    }
-    return {};
+    return {
+        Schema::instance().find({attribute.names[0], attribute.names[1], "SymbolShape", "IsASCII"}),
+        !isShape || std::get<std::int32_t>(value) == GeomShape_Character};
 }
 
 /// Chunks of one attribute that a write replaces.
