@@ -4,6 +4,7 @@
 #include <sdk/dialogs_common/dialog_interface.h>
 #include <sdk/property/relevance_interface.h>
 
+#include <QAction>
 #include <QDialog>
 #include <QPointer>
 
@@ -12,7 +13,6 @@
 #include <optional>
 
 class QAbstractButton;
-class QAction;
 
 namespace corvala::dialogs::common {
 
