@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/io/data_reader.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace corvala::app {
+
+/// What the user asked for on the command line.
+struct Options
+{
+    QStringList files;
+    QString demo; ///< name of embedded data; empty for none
+    QString script;
+    QString report;
+    QString picture;
+    host::io::Plot3DLayout plot3d;
+    bool help = false;
+    bool version = false;
+
+    /// The program does its work and ends, without waiting for the user.
+    bool isBatch() const { return !script.isEmpty() || !report.isEmpty() || !picture.isEmpty(); }
+};
+
+/// Reads the arguments, without the name of the program. Empty on success, else what is wrong.
+QString parseCommandLine(const QStringList& arguments, Options& options);
+
+QString usageText();
+
+} // namespace corvala::app

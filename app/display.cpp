@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/display.h"
+
+#include <QCoreApplication>
+
+#include <X11/Xlib.h>
+
+namespace corvala::app {
+
+static const char* const kPlatform = "QT_QPA_PLATFORM";
+
+static bool hasXServer()
+{
+    ::Display* connection = ::XOpenDisplay(nullptr);
+    if (connection)
+        ::XCloseDisplay(connection);
+    return connection != nullptr;
+}
+
+QString Display::preparePicture(const QByteArray& platform)
+{
+    const bool mayUseServer = platform.isEmpty() || platform == "xcb";
+    if (!mayUseServer || !hasXServer()) {
+        const QString error = m_server.start();
+        if (!error.isEmpty())
+            return error;
+        qputenv("DISPLAY", m_server.display().toLatin1());
+    }
+    qputenv(kPlatform, "xcb");
+    return {};
+}
+
+QString Display::prepare(const Options& options)
+{
+    const QByteArray platform = qgetenv(kPlatform);
+    if (!options.picture.isEmpty())
+        return preparePicture(platform);
+    if (!platform.isEmpty())
+        return {};
+    const bool needsNoScreen = !options.report.isEmpty() && options.script.isEmpty();
+    if (!needsNoScreen && hasXServer()) {
+        qputenv(kPlatform, "xcb");
+        return {};
+    }
+    if (options.isBatch()) {
+        qputenv(kPlatform, "offscreen");
+        return {};
+    }
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        return {};
+    return QCoreApplication::translate(
+        "Display",
+        "there is no screen to show a window on; --play, --report and --render need none");
+}
+
+} // namespace corvala::app

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/command_line.h"
+#include "app/private_x_server.h"
+
+namespace corvala::app {
+
+/// Where the program shows its windows. Must outlive the QApplication.
+class Display
+{
+public:
+    /// Chooses the platform for what the options ask for, before there is a QApplication. Drawing a
+    /// picture needs an X server: a private one is started where there is none. Empty on success,
+    /// else the reason.
+    QString prepare(const Options& options);
+
+private:
+    QString preparePicture(const QByteArray& platform);
+
+    PrivateXServer m_server;
+};
+
+} // namespace corvala::app

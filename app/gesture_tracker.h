@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+
+namespace corvala::host {
+class UndoHistory;
+}
+
+namespace corvala::app {
+
+/// Makes one undo step of all changes that one gesture of the user (a click, a key) brings about,
+/// also through the menus and prompts that it opens: a gesture lasts until control is back in the
+/// event loop that delivered it.
+class GestureTracker : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Watches the application; the history must outlive the tracker.
+    explicit GestureTracker(host::UndoHistory& history, QObject* parent = nullptr);
+    ~GestureTracker() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    host::UndoHistory& m_history;
+};
+
+} // namespace corvala::app

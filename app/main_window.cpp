@@ -1,0 +1,353 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/main_window.h"
+
+#include "app/layer_bar.h"
+#include "app/notice_bar.h"
+#include "app/plot3d_dialog.h"
+#include "app/plot3d_layout.h"
+#include "app/plot_area.h"
+#include "app/recent_files.h"
+#include "app/style_dialog.h"
+#include "app/time_bar.h"
+#include "app/work_progress.h"
+#include "host/document/document.h"
+#include "host/io/sample_list.h"
+#include "plot/frame_view.h"
+#include "samples/demo_data.h"
+#include "sdk/common_ui/find_main_window.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace corvala::app {
+
+using namespace corvala::dialogs::common;
+using host::Document;
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent)
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    makeCentre();
+    m_styleDialog = makeStyleDialogAction(*this);
+    makeFileMenu();
+    makeEditMenu();
+    makeToolBars();
+    makePlotMenu();
+    makeHelpMenu();
+    connectOpener();
+    connectCanvas();
+    connect(&m_observer, &DocumentObserver::changed, this, &MainWindow::refresh);
+    connect(&Document::instance().undo().stack(), &QUndoStack::indexChanged, this,
+            &MainWindow::refreshUndo);
+    refresh();
+    ui::setMainWindow(this);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::makeCentre()
+{
+    auto* centre = new QWidget(this);
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    m_notice = new NoticeBar(centre);
+    m_plotArea = new PlotArea(centre);
+    layout->addWidget(m_notice);
+    layout->addWidget(m_plotArea, 1);
+    setCentralWidget(centre);
+    m_reading = new WorkProgress(this);
+    m_drawing = new WorkProgress(this);
+    statusBar()->addWidget(m_reading);
+    statusBar()->addWidget(m_drawing);
+}
+
+void MainWindow::makeFileMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&File"));
+    m_open = menu->addAction(style()->standardIcon(QStyle::SP_DialogOpenButton), tr("&Open..."),
+                             this, &MainWindow::chooseFiles, QKeySequence::Open);
+    menu->addAction(tr("Open &Plot3D..."), this, &MainWindow::choosePlot3DFiles);
+    addDataMenus(*menu);
+    menu->addSeparator();
+    m_savePicture = menu->addAction(tr("&Save Picture..."), this, &MainWindow::savePicture);
+    menu->addSeparator();
+    menu->addAction(tr("&Quit"), qApp, &QApplication::closeAllWindows, QKeySequence::Quit);
+}
+
+void MainWindow::addDataMenus(QMenu& menu)
+{
+    QMenu* recent = menu.addMenu(tr("Open &Recent"));
+    connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentMenu(*recent); });
+    const std::vector<host::io::Sample> samples = host::io::sampleList();
+    QMenu* sampleMenu = menu.addMenu(tr("Sa&mples"));
+    sampleMenu->setEnabled(!samples.empty());
+    for (const host::io::Sample& sample : samples)
+        sampleMenu->addAction(sample.title, this,
+                              [this, files = sample.files] { openFiles(files); });
+    QMenu* demos = menu.addMenu(tr("&Demonstration Data"));
+    for (const std::string& name : samples::demoNames()) {
+        const QString text = QString::fromStdString(name);
+        demos->addAction(text, this, [this, text] { openDemo(text); });
+    }
+}
+
+void MainWindow::fillRecentMenu(QMenu& menu)
+{
+    menu.clear();
+    const QList<QStringList> entries = recentFiles();
+    for (const QStringList& files : entries) {
+        QString text = QFileInfo(files.first()).fileName();
+        if (files.size() > 1)
+            text = tr("%1 and %n more", nullptr, files.size() - 1).arg(text);
+        QAction* action = menu.addAction(text.replace(QLatin1Char('&'), QLatin1String("&&")), this,
+                                         [this, files] { openFiles(files); });
+        action->setStatusTip(files.join(QStringLiteral(", ")));
+    }
+    if (entries.isEmpty())
+        menu.addAction(tr("No Files Yet"))->setEnabled(false);
+}
+
+void MainWindow::makeEditMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
+    m_undo = menu->addAction(style()->standardIcon(QStyle::SP_ArrowBack), tr("&Undo"), this,
+                             [] { Document::instance().undo().undo(); });
+    m_redo = menu->addAction(style()->standardIcon(QStyle::SP_ArrowForward), tr("&Redo"), this,
+                             [] { Document::instance().undo().redo(); });
+    m_undo->setShortcuts(QKeySequence::Undo);
+    m_redo->setShortcuts(QKeySequence::Redo);
+    for (QAction* action : {m_undo, m_redo})
+        action->setShortcutContext(Qt::ApplicationShortcut);
+}
+
+void MainWindow::makePlotMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Plot"));
+    menu->addAction(m_styleDialog);
+    menu->addSeparator();
+    menu->addActions(m_layerBar->layerActions());
+    menu->addSeparator();
+    m_fitView = menu->addAction(tr("&Fit View"), this, [this] {
+        if (m_plotArea->frameView())
+            m_plotArea->frameView()->fitView();
+    });
+    m_fitView->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
+}
+
+void MainWindow::makeHelpMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Help"));
+    menu->addAction(tr("&About corvala"), this, [this] {
+        auto* about =
+            new QMessageBox(QMessageBox::Information, tr("About corvala"),
+                            tr("corvala %1\nPlots field data and edits the style of their zones.\n"
+                               "Licence: GPL-3.0-or-later")
+                                .arg(QApplication::applicationVersion()),
+                            QMessageBox::Close, this);
+        about->setAttribute(Qt::WA_DeleteOnClose);
+        about->open();
+    });
+    menu->addAction(tr("About &Qt"), qApp, &QApplication::aboutQt);
+}
+
+void MainWindow::makeToolBars()
+{
+    QToolBar* main = addToolBar(tr("Main"));
+    main->setObjectName(QStringLiteral("mainBar"));
+    main->addActions({m_open, m_undo, m_redo});
+    main->addSeparator();
+    main->addAction(m_styleDialog);
+    m_layerBar = new LayerBar(this);
+    addToolBar(m_layerBar);
+    m_timeBar = new TimeBar(this);
+    addToolBar(Qt::BottomToolBarArea, m_timeBar);
+}
+
+void MainWindow::connectOpener()
+{
+    connect(&m_opener, &DataOpener::started, this, [this] {
+        m_open->setEnabled(false);
+        m_reading->begin(tr("Reading..."));
+    });
+    connect(&m_opener, &DataOpener::progress, m_reading, &WorkProgress::advance);
+    connect(m_reading, &WorkProgress::cancelled, &m_opener, &DataOpener::cancel);
+    connect(&m_opener, &DataOpener::ended, this, [this] {
+        m_open->setEnabled(true);
+        m_reading->end();
+    });
+    connect(&m_opener, &DataOpener::opened, this, &MainWindow::tellOpened);
+    connect(&m_opener, &DataOpener::failed, this, &MainWindow::showProblem);
+    connect(&m_opener, &DataOpener::opened, this, &MainWindow::openingEnded);
+    connect(&m_opener, &DataOpener::failed, this, &MainWindow::openingEnded);
+}
+
+void MainWindow::connectCanvas()
+{
+    plot::FrameView* view = m_plotArea->frameView();
+    if (!view)
+        return;
+    connect(view, &plot::Canvas::zonePicked, this, &MainWindow::pickZone);
+    connect(view, &plot::Canvas::lineMapPicked, this, &MainWindow::pickLineMap);
+    connect(m_drawing, &WorkProgress::cancelled, view, &plot::Canvas::cancelWork);
+    connect(view, &plot::Canvas::workEnded, m_drawing, &WorkProgress::end);
+    connect(view, &plot::Canvas::workProgressed, this, [this](CvlInt64 done, CvlInt64 total) {
+        if (m_drawing->isHidden())
+            m_drawing->begin(tr("Drawing..."));
+        m_drawing->advance(total > 0 ? static_cast<int>(100 * done / total) : -1,
+                           tr("Drawing zone %1 of %2").arg(done).arg(total));
+    });
+}
+
+void MainWindow::refresh()
+{
+    const host::Frame* frame = Document::instance().activeFrame();
+    const bool hasData = frame && frame->hasData();
+    const QString title = hasData ? QString::fromStdString(frame->data()->title) : QString();
+    setWindowTitle(title.isEmpty() ? tr("corvala") : tr("%1 - corvala").arg(title));
+    m_savePicture->setEnabled(hasData);
+    m_fitView->setEnabled(hasData && m_plotArea->frameView());
+    m_layerBar->refresh();
+    m_timeBar->refresh();
+    refreshUndo();
+}
+
+static QString commandText(const QString& command, QString step)
+{
+    step.replace(QLatin1Char('&'), QLatin1String("&&"));
+    return step.isEmpty() ? command : MainWindow::tr("%1 %2").arg(command, step);
+}
+
+void MainWindow::refreshUndo()
+{
+    const QUndoStack& stack = Document::instance().undo().stack();
+    m_undo->setEnabled(stack.canUndo());
+    m_undo->setText(commandText(tr("&Undo"), stack.undoText()));
+    m_redo->setEnabled(stack.canRedo());
+    m_redo->setText(commandText(tr("&Redo"), stack.redoText()));
+}
+
+void MainWindow::openFiles(const QStringList& files, const host::io::Plot3DLayout& plot3d)
+{
+    host::io::ReadRequest request;
+    request.files = files;
+    request.plot3d = plot3d;
+    m_opener.start(request);
+}
+
+void MainWindow::openDemo(const QString& name)
+{
+    std::string error;
+    if (samples::openDemo(name.toStdString(), 0, error))
+        m_notice->tell({});
+    else
+        showProblem(QString::fromStdString(error));
+}
+
+void MainWindow::chooseFiles()
+{
+    const QStringList files = QFileDialog::getOpenFileNames(this, tr("Open Data"), {},
+                                                            host::io::DataReader::nameFilters());
+    if (!files.isEmpty())
+        openFiles(files);
+}
+
+void MainWindow::choosePlot3DFiles()
+{
+    const QStringList files = QFileDialog::getOpenFileNames(this, tr("Open Plot3D Data"));
+    if (files.isEmpty())
+        return;
+    Plot3DDialog dialog({}, nullptr, this);
+    if (dialog.exec() == QDialog::Accepted)
+        openFiles(files, dialog.chosenLayout());
+}
+
+void MainWindow::changePlot3DLayout(const host::io::Plot3DLayout& detected)
+{
+    const QStringList files = m_opener.request().files;
+    Plot3DDialog dialog(m_opener.request().plot3d, &detected, this);
+    if (dialog.exec() == QDialog::Accepted)
+        openFiles(files, dialog.chosenLayout());
+}
+
+void MainWindow::tellOpened(const host::io::ReadResult& result)
+{
+    rememberFiles(m_opener.request().files);
+    QStringList notes;
+    for (const std::string& note : result.data->notes)
+        notes << QString::fromStdString(note);
+    if (!result.detectedPlot3D) {
+        m_notice->tell(notes.join(QLatin1Char(' ')));
+        return;
+    }
+    const host::io::Plot3DLayout detected = *result.detectedPlot3D;
+    notes.prepend(tr("Detected: %1.").arg(describePlot3DLayout(detected)));
+    m_notice->tell(notes.join(QLatin1Char(' ')), tr("Change..."),
+                   [this, detected] { changePlot3DLayout(detected); });
+}
+
+QImage MainWindow::canvasImage(QString* error)
+{
+    return m_plotArea->image(error);
+}
+
+void MainWindow::savePicture()
+{
+    const QString file = QFileDialog::getSaveFileName(
+        this, tr("Save Picture"), QStringLiteral("plot.png"), tr("Pictures (*.png *.jpg *.bmp)"));
+    if (file.isEmpty())
+        return;
+    QString error;
+    const QImage image = canvasImage(&error);
+    if (image.isNull())
+        showProblem(error);
+    else if (!image.save(file))
+        showProblem(tr("%1 cannot be written.").arg(file));
+}
+
+void MainWindow::openStyleDialog(DialogInitialization_e initialization)
+{
+    app::openStyleDialog(*this, initialization);
+}
+
+void MainWindow::openStyleDialogBeside()
+{
+    placeSideBySide(*this, app::openStyleDialog(*this, DialogInitialization_None));
+}
+
+void MainWindow::pick(int type, CvlInt64 number, bool activate)
+{
+    std::vector<host::Pick> picks;
+    if (number > 0)
+        picks.push_back({type, number});
+    Document::instance().setPicks(picks);
+    if (activate && number > 0)
+        openStyleDialog(DialogInitialization_SelectPickedObjects);
+}
+
+void MainWindow::pickZone(CvlInt64 zone, bool activate)
+{
+    pick(PickType_Zone, zone, activate);
+}
+
+void MainWindow::pickLineMap(CvlInt64 lineMap, bool activate)
+{
+    pick(PickType_LineMap, lineMap, activate);
+}
+
+void MainWindow::showProblem(const QString& text)
+{
+    auto* box = new QMessageBox(QMessageBox::Warning, tr("corvala"), text, QMessageBox::Ok, this);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+} // namespace corvala::app

@@ -1,0 +1,371 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/data_opening.h"
+#include "app/play/stage.h"
+#include "host/document/document.h"
+#include "samples/demo_data.h"
+#include "sdk/base/cvl.h"
+#include "zonestyle/dialog/zone_style_dialog.h"
+
+#include <cmath>
+
+namespace corvala::app::play {
+
+using Json = nlohmann::json;
+using corvala::sdk::ui::dialogs::ZoneStyleDialog;
+
+/// A style path of a script: names, and at most one index.
+struct PathWithIndex
+{
+    std::vector<std::string> names;
+    std::int64_t index = -1;
+};
+
+static PathWithIndex pathOf(const Arguments& arguments, const char* key)
+{
+    const Json& list = arguments.at(key);
+    PathWithIndex path;
+    for (const Json& element : list.is_array() ? list : Json::array()) {
+        if (element.is_string())
+            path.names.push_back(element.get<std::string>());
+        else if (element.is_number_integer() && path.index < 0)
+            path.index = element.get<std::int64_t>();
+        else
+            throw ScriptError(Text::tr("%1 is no style path").arg(shown(list)));
+    }
+    if (path.names.empty())
+        throw ScriptError(Text::tr("%1 is no style path").arg(shown(list)));
+    return path;
+}
+
+static void require(bool done, const QString& message)
+{
+    if (!done)
+        throw ScriptError(message);
+}
+
+static QString resultText(StyleWriteResult_e result)
+{
+    switch (result) {
+    case StyleWrite_Ok:
+    case StyleWrite_Unchanged: return {};
+    case StyleWrite_NoDocument: return Text::tr("there is no frame or no data for it");
+    case StyleWrite_UnknownPath: return Text::tr("no such style value");
+    case StyleWrite_NotALeaf: return Text::tr("the path names a group of style values");
+    case StyleWrite_WrongType: return Text::tr("the value has the wrong type");
+    case StyleWrite_OutOfRange: return Text::tr("the value is out of range");
+    case StyleWrite_BadObjects: return Text::tr("there are no such maps");
+    case StyleWrite_BadOperator: return Text::tr("the operation does not suit the value");
+    }
+    return Text::tr("the value was refused (%1)").arg(int(result));
+}
+
+static void write(Stage& stage, const host::StyleWrite& request, const Json& path)
+{
+    const QString reason = resultText(stage.document().write(request));
+    require(reason.isEmpty(), Text::tr("%1 cannot be set: %2").arg(shown(path), reason));
+}
+
+static host::StyleInput inputOf(const Json& value)
+{
+    if (value.is_boolean())
+        return value.get<bool>();
+    if (value.is_number())
+        return value.get<double>();
+    if (value.is_string())
+        return value.get<std::string>();
+    throw ScriptError(Text::tr("%1 is no style value").arg(shown(value)));
+}
+
+static void open(Stage& stage, const Arguments& arguments)
+{
+    stage.frame();
+    host::io::ReadRequest request;
+    for (const QString& file : arguments.texts("open"))
+        request.files << arguments.absolute(file);
+    const QString error = openAndWait(request).error;
+    require(error.isEmpty(), error);
+}
+
+static void demo(Stage&, const Arguments& arguments)
+{
+    require(!arguments.has("zones") || !arguments.has("maps"),
+            Text::tr("\"zones\" and \"maps\" exclude each other"));
+    const std::int64_t scale =
+        arguments.has("zones") ? arguments.integer("zones") : arguments.integer("maps", 0);
+    require(scale > 0 || (!arguments.has("zones") && !arguments.has("maps")),
+            Text::tr("the number of zones or maps must be 1 or more"));
+    std::string error;
+    require(samples::openDemo(arguments.text("demo").toStdString(), scale, error),
+            QString::fromStdString(error));
+}
+
+static void data(Stage& stage, const Arguments& arguments)
+{
+    require(arguments.text("data") == QLatin1String("none"), Text::tr("\"data\" must be \"none\""));
+    require(stage.document().detachDataSet(), Text::tr("the active frame has no data"));
+}
+
+static void rename(Stage& stage, const Arguments& arguments)
+{
+    const std::string name = arguments.text("rename").toStdString();
+    host::Document& document = stage.document();
+    bool done = false;
+    if (arguments.has("zone")) {
+        done = document.renameZone(arguments.integer("zone"), name);
+    } else if (arguments.has("variable")) {
+        done = document.renameVariable(arguments.integer("variable"), name);
+    } else {
+        const std::int64_t map = arguments.integer("lineMap");
+        host::MapSet maps;
+        if (map >= 1 && map <= stage.frame().lineMapCount())
+            maps.add(static_cast<std::uint32_t>(map));
+        done = !maps.isEmpty() && document.setLineMapName(maps, name);
+    }
+    require(done, Text::tr("there is nothing of that number to rename"));
+}
+
+static void plotType(Stage& stage, const Arguments& arguments)
+{
+    host::StyleWrite request;
+    request.path = {"PlotType"};
+    request.value = static_cast<double>(arguments.integer("plotType"));
+    write(stage, request, "PlotType");
+}
+
+static void frame(Stage& stage, const Arguments& arguments)
+{
+    host::Document& document = stage.document();
+    if (arguments.at("frame") == "new") {
+        document.addFrame();
+    } else if (arguments.at("frame") == "delete") {
+        document.deleteFrame(stage.frame().id());
+    } else {
+        const std::int64_t position = arguments.integer("frame");
+        host::Frame* wanted = document.frameAt(static_cast<int>(position) - 1);
+        require(wanted && document.activateFrame(wanted->id()),
+                Text::tr("there is no frame %1").arg(position));
+    }
+}
+
+static std::int64_t mapsOfPath(Stage& stage, const PathWithIndex& path)
+{
+    return path.names.front() == "LineMap" ? stage.frame().lineMapCount()
+                                           : stage.frame().fieldMapCount();
+}
+
+static void set(Stage& stage, const Arguments& arguments)
+{
+    const PathWithIndex path = pathOf(arguments, "set");
+    host::StyleWrite request;
+    request.path = path.names;
+    request.offset1 = path.index;
+    request.value = inputOf(arguments.at("value"));
+    host::MapSet maps;
+    if (arguments.has("maps")) {
+        maps = arguments.maps("maps", mapsOfPath(stage, path));
+        request.objects = &maps;
+    }
+    write(stage, request, arguments.at("set"));
+}
+
+static Json jsonOf(const host::ValueList::Value& value)
+{
+    return std::visit([](const auto& plain) { return Json(plain); }, value);
+}
+
+static Json mapValue(const host::MapTable& table, const host::Attribute& attribute,
+                     std::int64_t map)
+{
+    if (map < 1 || map > table.count())
+        throw ScriptError(Text::tr("there is no map %1").arg(map));
+    if (attribute.isText())
+        return table.text(attribute, map);
+    if (attribute.isReal())
+        return table.real(attribute, map);
+    return table.integer(attribute, map);
+}
+
+static Json storedValue(Stage& stage, const Arguments& arguments)
+{
+    const PathWithIndex path = pathOf(arguments, "get");
+    const host::Schema& schema = host::Schema::instance();
+    const host::AttributeId id = schema.find(path.names);
+    require(id >= 0, Text::tr("%1 is no style value").arg(shown(arguments.at("get"))));
+    const host::Attribute& attribute = schema.at(id);
+    if (attribute.type == host::ValueType::Maps) {
+        const bool isLine = path.names.front() == "ActiveLineMaps";
+        const host::Frame& frame = stage.frame();
+        return isLine ? host::toText(frame.activeLineMaps(), frame.lineMapCount())
+                      : host::toText(frame.activeFieldMaps(), frame.fieldMapCount());
+    }
+    require(attribute.indexCount == 0 || (path.index >= 1 && path.index <= attribute.indexCount),
+            Text::tr("%1 needs an index from 1 to %2")
+                .arg(shown(arguments.at("get")))
+                .arg(attribute.indexCount));
+    switch (attribute.scope) {
+    case host::Scope::FieldMap:
+        return mapValue(stage.frame().fieldStyle(), attribute, arguments.integer("map"));
+    case host::Scope::LineMap:
+        return mapValue(stage.frame().lineStyle(), attribute, arguments.integer("map"));
+    case host::Scope::Frame: return jsonOf(stage.frame().values().get(attribute, path.index));
+    case host::Scope::Document:
+        return jsonOf(stage.document().documentValues().get(attribute, path.index));
+    }
+    return nullptr;
+}
+
+static bool isSameValue(const Json& stored, const Json& wanted)
+{
+    const auto numberOf = [](const Json& value) {
+        return value.is_boolean() ? double(value.get<bool>()) : value.get<double>();
+    };
+    const auto isNumber = [](const Json& value) { return value.is_number() || value.is_boolean(); };
+    if (!isNumber(stored) || !isNumber(wanted))
+        return stored == wanted;
+    const double one = numberOf(stored);
+    const double two = numberOf(wanted);
+    return std::abs(one - two) <= 1e-9 * std::max(std::abs(one), std::abs(two));
+}
+
+static void get(Stage& stage, const Arguments& arguments)
+{
+    const Json stored = storedValue(stage, arguments);
+    const Json& wanted = arguments.at("is");
+    require(
+        isSameValue(stored, wanted),
+        Text::tr("%1 is %2, not %3").arg(shown(arguments.at("get")), shown(stored), shown(wanted)));
+}
+
+static void layer(Stage& stage, const Arguments& arguments)
+{
+    const std::string name = arguments.text("layer").toStdString();
+    host::StyleWrite request;
+    for (const char* group : {"FieldLayers", "LinePlotLayers"}) {
+        if (host::Schema::instance().find({group, name}) >= 0)
+            request.path = {group, name};
+    }
+    require(!request.path.empty(),
+            Text::tr("there is no layer \"%1\"").arg(arguments.text("layer")));
+    request.value = arguments.boolean("on");
+    write(stage, request, arguments.at("layer"));
+}
+
+static void active(Stage& stage, const Arguments& arguments)
+{
+    const QString name = arguments.text("active");
+    const bool isLine = name == QLatin1String("LineMaps");
+    require(isLine || name == QLatin1String("FieldMaps"),
+            Text::tr("\"active\" must be \"FieldMaps\" or \"LineMaps\""));
+    const QString op = arguments.text("op");
+    host::StyleWrite request;
+    request.path = {isLine ? "ActiveLineMaps" : "ActiveFieldMaps"};
+    if (op == QLatin1String("add"))
+        request.op = static_cast<int>(host::AssignOp::Add);
+    else if (op == QLatin1String("remove"))
+        request.op = static_cast<int>(host::AssignOp::Remove);
+    else
+        require(op == QLatin1String("assign"),
+                Text::tr("\"op\" must be \"add\", \"remove\" or \"assign\""));
+    const host::Frame& shown = stage.frame();
+    request.value = arguments.maps("maps", isLine ? shown.lineMapCount() : shown.fieldMapCount());
+    write(stage, request, request.path.front());
+}
+
+static host::Pick pickOf(const Json& element)
+{
+    const Arguments pick(element.is_object() ? element : Json::object(), {});
+    pick.allowOnly({"zone", "lineMap", "other"});
+    if (pick.has("zone"))
+        return {PickType_Zone, pick.integer("zone")};
+    if (pick.has("lineMap"))
+        return {PickType_LineMap, pick.integer("lineMap")};
+    return {static_cast<int>(pick.integer("other")), 0};
+}
+
+static void pick(Stage& stage, const Arguments& arguments)
+{
+    std::vector<host::Pick> picks;
+    for (const Json& element : arguments.at("pick"))
+        picks.push_back(pickOf(element));
+    stage.document().setPicks(std::move(picks));
+}
+
+static void time(Stage& stage, const Arguments& arguments)
+{
+    require(stage.document().setSolutionTime(arguments.number("time")),
+            Text::tr("the solution time cannot be set"));
+}
+
+static void event(Stage& stage, const Arguments& arguments)
+{
+    host::StateEvent event;
+    event.code = static_cast<StateCode_e>(arguments.integer("event"));
+    event.frame = stage.document().activeFrameId();
+    if (arguments.has("parameters")) {
+        for (const QString& parameter : arguments.texts("parameters"))
+            event.parameters.push_back(parameter.toStdString());
+    }
+    stage.document().raise(event);
+}
+
+static void deleteMaps(Stage& stage, const Arguments& arguments)
+{
+    const host::MapSet maps = arguments.maps("deleteMaps", stage.mapCount());
+    const bool done = stage.frame().isLinePlot() ? stage.document().deleteLineMaps(maps)
+                                                 : stage.document().deleteFieldMaps(maps);
+    require(done, Text::tr("these maps cannot be deleted"));
+}
+
+static void undo(Stage& stage, const Arguments& arguments)
+{
+    for (std::int64_t i = 0; i < arguments.integer("undo"); ++i)
+        require(stage.document().undo().undo(), Text::tr("there is nothing to undo"));
+}
+
+static void redo(Stage& stage, const Arguments& arguments)
+{
+    for (std::int64_t i = 0; i < arguments.integer("redo"); ++i)
+        require(stage.document().undo().redo(), Text::tr("there is nothing to redo"));
+}
+
+static void symbols(Stage&, const Arguments& arguments)
+{
+    const Arguments kinds = arguments.inner("symbols");
+    kinds.allowOnly({"pieChart", "extended"});
+    CvlAppSetScatterSymbolKinds(kinds.boolean("pieChart"), kinds.boolean("extended"));
+}
+
+static void mappingTabs(Stage&, const Arguments& arguments)
+{
+    std::set<ZoneStyleDialog::MappingStyleTab_e> tabs;
+    for (const Json& tab : arguments.at("mappingTabs")) {
+        require(tab.is_number_integer() && tab >= 0 && tab <= 6,
+                Text::tr("%1 is no tab number").arg(shown(tab)));
+        tabs.insert(static_cast<ZoneStyleDialog::MappingStyleTab_e>(tab.get<int>()));
+    }
+    ZoneStyleDialog::setAvailableMappingStyleTabs(tabs);
+}
+
+std::vector<Verb> documentVerbs()
+{
+    return {{"open", {}, open},
+            {"demo", {"zones", "maps"}, demo},
+            {"data", {}, data},
+            {"rename", {"zone", "variable", "lineMap"}, rename},
+            {"plotType", {}, plotType},
+            {"frame", {}, frame},
+            {"set", {"maps", "value"}, set},
+            {"get", {"map", "is"}, get},
+            {"layer", {"on"}, layer},
+            {"active", {"maps", "op"}, active},
+            {"pick", {}, pick},
+            {"time", {}, time},
+            {"event", {"parameters"}, event},
+            {"deleteMaps", {}, deleteMaps},
+            {"undo", {}, undo},
+            {"redo", {}, redo},
+            {"symbols", {}, symbols},
+            {"mappingTabs", {}, mappingTabs}};
+}
+
+} // namespace corvala::app::play

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/play/input.h"
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QTest>
+#include <QWidget>
+#include <QWindow>
+
+namespace corvala::app::play {
+
+/// The native window that gets the events of the widget, and where the widget's point lies in it.
+struct Target
+{
+    QWindow* window;
+    QPoint position;
+};
+
+static Target targetOf(QWidget* widget, const QPoint& position)
+{
+    QWidget* native = widget->nativeParentWidget() ? widget->nativeParentWidget() : widget;
+    if (widget->windowHandle())
+        native = widget;
+    return {native->windowHandle(), widget->mapTo(native, position)};
+}
+
+void click(QWidget* widget, const QPoint& position, Qt::MouseButton button,
+           Qt::KeyboardModifiers modifiers)
+{
+    const Target target = targetOf(widget, position);
+    if (!target.window)
+        return;
+    QTest::mouseMove(target.window, target.position);
+    QTest::mouseClick(target.window, button, modifiers, target.position);
+}
+
+void clickCentre(QWidget* widget)
+{
+    click(widget, widget->rect().center());
+}
+
+void doubleClick(QWidget* widget, const QPoint& position)
+{
+    const Target target = targetOf(widget, position);
+    if (target.window)
+        QTest::mouseDClick(target.window, Qt::LeftButton, Qt::NoModifier, target.position);
+}
+
+void drag(QWidget* widget, const QPoint& from, const QPoint& to)
+{
+    const Target start = targetOf(widget, from);
+    if (!start.window)
+        return;
+    const QPoint end = start.position + (to - from);
+    QTest::mouseMove(start.window, start.position);
+    QTest::mousePress(start.window, Qt::LeftButton, Qt::NoModifier, start.position);
+    QTest::mouseMove(start.window, (start.position + end) / 2);
+    QTest::mouseMove(start.window, end);
+    QTest::mouseRelease(start.window, Qt::LeftButton, Qt::NoModifier, end);
+}
+
+void pressKey(QWidget* window, int key, Qt::KeyboardModifiers modifiers)
+{
+    if (QWindow* handle = window->window()->windowHandle())
+        QTest::keyClick(handle, static_cast<Qt::Key>(key), modifiers);
+}
+
+void pressKeys(QWidget* window, const QKeySequence& keys)
+{
+    for (int i = 0; i < keys.count(); ++i) {
+        const int combination = keys[static_cast<uint>(i)];
+        pressKey(window, combination & ~Qt::KeyboardModifierMask,
+                 Qt::KeyboardModifiers(combination & Qt::KeyboardModifierMask));
+    }
+}
+
+static QWidget* focusOf(QWidget* window)
+{
+    QWidget* focus = window->window()->focusWidget();
+    return focus ? focus : window;
+}
+
+static bool hasKey(QChar character)
+{
+    return character.isPrint() || character.category() == QChar::Other_Format;
+}
+
+static void typeCharacter(QWidget* window, QChar character)
+{
+    QWindow* handle = window->window()->windowHandle();
+    const ushort code = character.toUpper().unicode();
+    QTest::sendKeyEvent(QTest::Click, handle, static_cast<Qt::Key>(code), QString(character),
+                        Qt::NoModifier);
+}
+
+void typeOver(QWidget* window, const QString& text)
+{
+    pressKeys(window, QKeySequence::SelectAll);
+    if (text.isEmpty())
+        pressKey(window, Qt::Key_Backspace);
+    for (int i = 0; i < text.size(); ++i) {
+        if (hasKey(text[i])) {
+            typeCharacter(window, text[i]);
+            continue;
+        }
+        const int length = text[i].isHighSurrogate() && i + 1 < text.size() ? 2 : 1;
+        QInputMethodEvent commit;
+        commit.setCommitString(text.mid(i, length));
+        QApplication::sendEvent(focusOf(window), &commit);
+        i += length - 1;
+    }
+}
+
+} // namespace corvala::app::play

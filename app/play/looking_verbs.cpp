@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/main_window.h"
+#include "app/play/expectations.h"
+#include "app/play/idle.h"
+#include "app/play/images.h"
+#include "app/play/style_report.h"
+#include "sdk/dialogs_common/qt_dialog_abstract.h"
+
+#include <QPixmap>
+
+namespace corvala::app::play {
+
+static void expect(Stage& stage, const Arguments& arguments)
+{
+    const Arguments wanted = arguments.inner("expect");
+    if (wanted.has("map"))
+        expectCell(stage, wanted);
+    else if (wanted.has("column"))
+        expectColumn(stage, wanted);
+    else
+        expectState(stage, wanted);
+}
+
+static void report(Stage& stage, const Arguments& arguments)
+{
+    const QString error = writeStyleReport(
+        stage.dialog(), arguments.text("maps", QStringLiteral("all")), arguments.file("report"));
+    if (!error.isEmpty())
+        throw ScriptError(error);
+}
+
+static QImage imageOf(Stage& stage, const QString& what)
+{
+    if (what == QLatin1String("dialog"))
+        return stage.dialog().dialog().grab().toImage();
+    if (what == QLatin1String("window"))
+        return stage.window().grab().toImage();
+    if (what != QLatin1String("canvas"))
+        throw ScriptError(Text::tr("\"of\" must be \"dialog\", \"canvas\" or \"window\""));
+    QString error;
+    const QImage image = stage.window().canvasImage(&error);
+    if (image.isNull())
+        throw ScriptError(Text::tr("no picture of the canvas: %1").arg(error));
+    return image;
+}
+
+static void screenshot(Stage& stage, const Arguments& arguments)
+{
+    const QImage image = imageOf(stage, arguments.text("of"));
+    const QString file = arguments.file("screenshot");
+    if (!image.save(file))
+        throw ScriptError(Text::tr("%1 cannot be written").arg(file));
+}
+
+static QString percent(double share)
+{
+    return QString::number(100.0 * share, 'f', 3);
+}
+
+static void differs(Stage&, const Arguments& arguments)
+{
+    const double share = shareOfChangedPixels(arguments.file("differs"), arguments.file("from"));
+    const double least = arguments.number("by", 0.0);
+    if (share <= 0.0 || share < least)
+        throw ScriptError(
+            Text::tr("the images differ in %1 % of their pixels only").arg(percent(share)));
+}
+
+static void same(Stage&, const Arguments& arguments)
+{
+    const double share = shareOfChangedPixels(arguments.file("same"), arguments.file("as"));
+    if (share > 0.0)
+        throw ScriptError(
+            Text::tr("the images differ in %1 % of their pixels").arg(percent(share)));
+}
+
+std::vector<Verb> lookingVerbs()
+{
+    return {{"expect", {}, expect},
+            {"report", {"maps"}, report},
+            {"screenshot", {"of"}, screenshot},
+            {"differs", {"from", "by"}, differs},
+            {"same", {"as"}, same}};
+}
+
+} // namespace corvala::app::play

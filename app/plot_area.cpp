@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/plot_area.h"
+
+#include "host/document/document.h"
+#include "plot/frame_view.h"
+#include "plot/render.h"
+
+#include <QGuiApplication>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace corvala::app {
+
+/// The canvases draw through an X server only.
+static bool canShowCanvas()
+{
+    return QGuiApplication::platformName() == QLatin1String("xcb");
+}
+
+PlotArea::PlotArea(QWidget* parent)
+    : QWidget(parent)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    if (canShowCanvas()) {
+        m_frameView = new plot::FrameView(this);
+        m_frameView->followActiveFrame();
+        layout->addWidget(m_frameView);
+        return;
+    }
+    auto* note = new QLabel(tr("Plots are drawn on X screens only."), this);
+    note->setAlignment(Qt::AlignCenter);
+    note->setWordWrap(true);
+    layout->addWidget(note);
+}
+
+QImage PlotArea::image(QString* error)
+{
+    if (m_frameView)
+        return m_frameView->render(m_frameView->size(), error);
+    *error = tr("the plot is drawn on an X screen only (QT_QPA_PLATFORM=xcb, for example under "
+                "xvfb-run)");
+    return {};
+}
+
+} // namespace corvala::app

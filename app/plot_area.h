@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+namespace corvala::plot {
+class FrameView;
+}
+
+namespace corvala::app {
+
+/// The middle of the main window: the canvas of the active frame, or a note where this screen
+/// cannot show one.
+class PlotArea : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PlotArea(QWidget* parent = nullptr);
+
+    /// Null where no canvas can be shown.
+    plot::FrameView* frameView() const { return m_frameView; }
+
+    /// The plot as it is on the screen. Null, with the reason in `error`, when it cannot be drawn.
+    QImage image(QString* error);
+
+    QSize sizeHint() const override { return {900, 700}; }
+
+private:
+    plot::FrameView* m_frameView = nullptr; // not owned
+};
+
+} // namespace corvala::app

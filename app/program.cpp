@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/program.h"
+
+#include "app/command_line.h"
+#include "app/data_opening.h"
+#include "app/display.h"
+#include "app/gesture_tracker.h"
+#include "app/main_window.h"
+#include "app/play/dialog_driver.h"
+#include "app/play/player.h"
+#include "app/play/style_report.h"
+#include "host/document/document.h"
+#include "plot/render.h"
+#include "samples/demo_data.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLocale>
+#include <QSurfaceFormat>
+#include <QTimer>
+
+#include <QVTKOpenGLNativeWidget.h>
+
+#include <clocale>
+#include <cstdio>
+
+namespace corvala::app {
+
+enum ExitCode { Success = 0, Failure = 1, WrongUsage = 2 };
+
+static constexpr QSize kPictureSize(1200, 900);
+
+struct Program
+{
+    Q_DECLARE_TR_FUNCTIONS(Program)
+};
+
+static int fail(const QString& message)
+{
+    std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+    return Failure;
+}
+
+static QString named(const QString& message)
+{
+    return QStringLiteral("corvala: ") + message;
+}
+
+static QStringList argumentsOf(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QFile::decodeName(argv[i]);
+    return arguments;
+}
+
+static QString openDataNow(const Options& options)
+{
+    if (!options.demo.isEmpty()) {
+        std::string error;
+        samples::openDemo(options.demo.toStdString(), 0, error);
+        return QString::fromStdString(error);
+    }
+    if (options.files.isEmpty())
+        return {};
+    host::io::ReadRequest request;
+    request.files = options.files;
+    request.plot3d = options.plot3d;
+    const OpenedData opened = openAndWait(request);
+    for (const QString& note : opened.notes)
+        std::fprintf(stderr, "%s\n", qUtf8Printable(named(note)));
+    return opened.error;
+}
+
+static QString writeReport(MainWindow& window, const QString& file)
+{
+    window.openStyleDialog(corvala::dialogs::common::DialogInitialization_None);
+    return play::writeStyleReport(play::DialogDriver(), QStringLiteral("all"), file);
+}
+
+static QString drawPicture(const QString& file)
+{
+    QString error;
+    const QImage image =
+        plot::renderToImage(host::Document::instance().activeFrameId(), kPictureSize, &error);
+    if (image.isNull())
+        return Program::tr("%1 cannot be drawn: %2").arg(file, error);
+    return image.save(file) ? QString() : Program::tr("%1 cannot be written").arg(file);
+}
+
+static int runBatch(MainWindow& window, const Options& options)
+{
+    QString error = openDataNow(options);
+    if (!error.isEmpty())
+        return fail(named(error));
+    if (!options.script.isEmpty()) {
+        window.show();
+        error = play::playScript(options.script, window);
+        if (!error.isEmpty())
+            return fail(error);
+    }
+    if (!options.report.isEmpty())
+        error = writeReport(window, options.report);
+    if (error.isEmpty() && !options.picture.isEmpty())
+        error = drawPicture(options.picture);
+    return error.isEmpty() ? Success : fail(named(error));
+}
+
+static void startInteractive(MainWindow& window, const Options& options)
+{
+    window.show();
+    if (!options.files.isEmpty()) {
+        QObject::connect(&window, &MainWindow::openingEnded, &window,
+                         [&window] { window.openStyleDialogBeside(); });
+        window.openFiles(options.files, options.plot3d);
+    } else if (!options.demo.isEmpty()) {
+        window.openDemo(options.demo);
+        window.openStyleDialogBeside();
+    }
+}
+
+static void setUpQt()
+{
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QSurfaceFormat::setDefaultFormat(QVTKOpenGLNativeWidget::defaultFormat());
+    QCoreApplication::setApplicationName(QStringLiteral("corvala"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(CORVALA_VERSION));
+}
+
+/// Numbers are written with a point whatever the language: in tables, prompts and files.
+static void setUpLocale()
+{
+    QLocale::setDefault(QLocale::c());
+    std::setlocale(LC_NUMERIC, "C");
+}
+
+static int runApplication(int argc, char** argv, const Options& options)
+{
+    QApplication application(argc, argv);
+    setUpLocale();
+    GestureTracker gestures(host::Document::instance().undo());
+    MainWindow window;
+    if (!options.isBatch()) {
+        startInteractive(window, options);
+        return QApplication::exec();
+    }
+    QTimer::singleShot(0, &window, [&] { QApplication::exit(runBatch(window, options)); });
+    return QApplication::exec();
+}
+
+int runProgram(int argc, char** argv)
+{
+    Options options;
+    const QString misuse = parseCommandLine(argumentsOf(argc, argv), options);
+    if (!misuse.isEmpty()) {
+        fail(named(misuse) + QLatin1Char('\n') + Program::tr("Try 'corvala --help'."));
+        return WrongUsage;
+    }
+    if (options.help || options.version) {
+        std::fputs(options.help ? qUtf8Printable(usageText()) : "corvala " CORVALA_VERSION "\n",
+                   stdout);
+        return Success;
+    }
+    setUpQt();
+    Display display;
+    const QString noDisplay = display.prepare(options);
+    return noDisplay.isEmpty() ? runApplication(argc, argv, options) : fail(named(noDisplay));
+}
+
+} // namespace corvala::app
