@@ -39,7 +39,6 @@ ComboBoxAutoFilter::ComboBoxAutoFilter(QWidget* parent)
     setMinimumContentsLength(kMinimumContentsLength);
     setMaxVisibleItems(kVisibleEntries);
     makeUniform(view());
-    view()->installEventFilter(this);
     connect(this, QOverload<int>::of(&QComboBox::activated), this,
             &ComboBoxAutoFilter::entryActivated);
     setEditable(true);
@@ -107,6 +106,12 @@ int ComboBoxAutoFilter::entryFor(const QString& text) const
             containing = row;
     }
     return sameIgnoringCase >= 0 ? sameIgnoringCase : containing;
+}
+
+void ComboBoxAutoFilter::showPopup()
+{
+    QComboBox::showPopup();
+    view()->installEventFilter(this); // last, to see the keys before the list's own filter
 }
 
 void ComboBoxAutoFilter::hidePopup()

@@ -34,6 +34,7 @@ public:
     /// the first that contains it, ignoring case. -1 when there is none or the text is empty.
     int entryFor(const QString& text) const;
 
+    void showPopup() override;
     void hidePopup() override;
 
 Q_SIGNALS:
