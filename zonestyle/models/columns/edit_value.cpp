@@ -13,7 +13,7 @@ static int rounded(double number)
 {
     constexpr double kLowest = std::numeric_limits<int>::lowest();
     constexpr double kHighest = std::numeric_limits<int>::max();
-    return std::isnan(number) ? 0 : qRound(std::clamp(number, kLowest, kHighest));
+    return std::isfinite(number) ? qRound(std::clamp(number, kLowest, kHighest)) : 0;
 }
 
 static bool isText(const QVariant& value)
