@@ -80,8 +80,9 @@ void TableColumnHeader::resizeEvent(QResizeEvent* event)
     if (m_spareWidthSection < 0 || m_spareWidthSection >= count())
         return;
     const int spare = width() - length();
-    resizeSection(m_spareWidthSection, qMax(sectionSizeHint(m_spareWidthSection),
-                                            sectionSize(m_spareWidthSection) + spare));
+    resizeSection(
+        m_spareWidthSection,
+        qMax(sectionSizeHint(m_spareWidthSection), sectionSize(m_spareWidthSection) + spare));
 }
 
 /// The header shows no selection.

@@ -131,10 +131,10 @@ const TableView::SelectedRows& TableView::selectedRows() const
         return m_selectedRows;
     const QItemSelection ranges = selectionModel()->selection();
     const int columns = model()->columnCount();
-    m_selectedRows.wholeRows
-        = std::all_of(ranges.cbegin(), ranges.cend(), [columns](const QItemSelectionRange& range) {
-              return range.left() == 0 && range.right() == columns - 1;
-          });
+    m_selectedRows.wholeRows =
+        std::all_of(ranges.cbegin(), ranges.cend(), [columns](const QItemSelectionRange& range) {
+            return range.left() == 0 && range.right() == columns - 1;
+        });
     m_selectedRows.rows = m_selectedRows.wholeRows ? RowBitmap(*selectionModel()) : RowBitmap();
     m_selectedRows.known = true;
     return m_selectedRows;

@@ -34,8 +34,7 @@ protected:
                                                          const QEvent* event) const override;
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
-    void setSelection(const QRect& rectangle,
-                      QItemSelectionModel::SelectionFlags command) override;
+    void setSelection(const QRect& rectangle, QItemSelectionModel::SelectionFlags command) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+#include <string>
+
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace corvala::sdk::ui::propertymanager {
+class MapSelectionByPatternPropertiesManager;
+}
+
+namespace corvala::sdk::ui::dialogs {
+
+/// What a pattern is compared with.
+enum SelectOption_s : int {
+    SelectOption_None = 0, ///< with nothing: the selection is cleared
+    SelectOption_Names = 1,
+    SelectOption_Groups = 2
+};
+
+namespace uicontrols {
+
+/// One line under a table that selects rows by a pattern. It does no matching: it sends the
+/// pattern, and lets it be sent again only after it was edited or the selection was changed.
+class MapSelectionByPattern : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MapSelectionByPattern(QWidget* parent = nullptr);
+    ~MapSelectionByPattern() override;
+
+    propertymanager::MapSelectionByPatternPropertiesManager& propertiesManager();
+    QPushButton& applyButton() { return *m_applyButton; }
+    QPushButton& groupsButton() { return *m_groupsButton; }
+
+Q_SIGNALS:
+    /// The pattern, in UTF-8.
+    void patternChanged(std::string const& pattern, SelectOption_s option);
+
+private Q_SLOTS:
+    void applyPattern();
+    void applyPatternToGroups();
+    void clearPattern();
+
+public Q_SLOTS:
+    /// To be called when the selection was changed by hand.
+    void selectionChanged();
+
+private:
+    struct Bindings;
+
+    void setupUi();
+    QPushButton* addButton(QHBoxLayout& layout, const char* objectName, const QString& text);
+    void send(SelectOption_s option);
+
+    QLabel* m_label;
+    QLineEdit* m_lineEdit;
+    QPushButton* m_applyButton;
+    QPushButton* m_groupsButton;
+    QPushButton* m_clearButton;
+    std::unique_ptr<propertymanager::MapSelectionByPatternPropertiesManager> m_properties;
+    std::unique_ptr<Bindings> m_bindings;
+};
+
+} // namespace uicontrols
+} // namespace corvala::sdk::ui::dialogs
+
+Q_DECLARE_METATYPE(corvala::sdk::ui::dialogs::SelectOption_s)

@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/controls/selected_rows.h"
+#include "zonestyle/dialog/selection_model_signal_suspender.h"
+#include "zonestyle/dialog/zone_style_dialog.h"
+#include "zonestyle/models/model_abstract.h"
+#include "zonestyle/views/style_table_view.h"
+
+#include <sdk/base/cvl.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace corvala::sdk::ui::dialogs {
+
+using uicontrols::RowBitmap;
+using zonestyle::intern::SelectionModelSignalSuspender;
+using zonestyle::intern::models::ModelAbstract;
+
+// Qt compares all pairs of ranges when it replaces a selection by another one, or widens it to
+// whole rows. Selections are therefore cleared first and set by whole rows that do not overlap.
+
+namespace {
+
+constexpr int kNoRow = 2147483646; // above every row
+
+QItemSelectionRange wholeRows(const QAbstractItemModel& model, int first, int last)
+{
+    return {model.index(first, 0), model.index(last, model.columnCount() - 1)};
+}
+
+bool isWholeRowsOf(const QAbstractItemModel& model, const QItemSelection& selection)
+{
+    const int rows = model.rowCount();
+    const int columns = model.columnCount();
+    return std::all_of(selection.cbegin(), selection.cend(), [=](const QItemSelectionRange& range) {
+        return range.left() == 0 && range.right() == columns - 1 && range.bottom() < rows;
+    });
+}
+
+/// The rows of a selection (of this model or of another one with rows like it) as ranges of whole
+/// rows of the model, in the same order, each row once. Rows that do not exist are left out.
+QItemSelection fitted(const QAbstractItemModel& model, const QItemSelection& selection)
+{
+    const int rows = model.rowCount();
+    QItemSelection result;
+    RowBitmap seen;
+    for (const QItemSelectionRange& range : selection) {
+        int first = -1;
+        const int end = qMin(range.bottom() + 1, rows);
+        for (int row = range.top(); row <= end; ++row) {
+            const bool isNew = row < end && seen.insert(row);
+            if (isNew && first < 0)
+                first = row;
+            if (!isNew && first >= 0) {
+                result.append(wholeRows(model, first, row - 1));
+                first = -1;
+            }
+        }
+    }
+    return result;
+}
+
+bool haveSameRows(const QItemSelection& left, const QItemSelection& right)
+{
+    return std::equal(left.cbegin(), left.cend(), right.cbegin(), right.cend(),
+                      [](const QItemSelectionRange& a, const QItemSelectionRange& b) {
+                          return a.top() == b.top() && a.bottom() == b.bottom();
+                      });
+}
+
+QVariant firstTitle(const QItemSelectionModel& selection)
+{
+    return selection.model()->headerData(0, Qt::Horizontal, Qt::DisplayRole);
+}
+
+/// Row of a picked object; -1 when it has none.
+CvlInt64 rowOfPick(CvlInt64 pick)
+{
+    switch (CvlUtilPickListGetType(pick)) {
+    case PickType_Zone: return CvlUtilZoneGetFieldMap(CvlUtilPickListGetZoneNumber(pick)) - 1;
+    case PickType_LineMap: return CvlUtilPickListGetLineMapNumber(pick) - 1;
+    default: return -1;
+    }
+}
+
+/// Rows of the picked objects in pick order, each once.
+std::vector<int> pickedRows(int rowCount)
+{
+    std::vector<int> rows;
+    RowBitmap seen;
+    for (CvlInt64 pick = 1; pick <= CvlUtilPickListGetCount(); ++pick) {
+        const CvlInt64 row = rowOfPick(pick);
+        if (row >= 0 && row < rowCount && seen.insert(static_cast<int>(row)))
+            rows.push_back(static_cast<int>(row));
+    }
+    return rows;
+}
+
+} // namespace
+
+QItemSelectionModel* ZoneStyleDialog::getSelectionModelFor(ModelAbstract* model)
+{
+    QItemSelectionModel*& selectionModel = m_selectionModels[model];
+    if (!selectionModel)
+        selectionModel = new QItemSelectionModel(model);
+    return selectionModel;
+}
+
+void ZoneStyleDialog::destroySelectionModels()
+{
+    for (const auto& entry : m_selectionModels)
+        delete entry.second;
+    m_selectionModels.clear();
+}
+
+/// Field tables share their first column, and so do line tables; a selection never carries from
+/// one kind to the other.
+void ZoneStyleDialog::copySelection(QItemSelectionModel* target, QItemSelectionModel* source)
+{
+    if (target->model()->rowCount() == 0 || source->model()->rowCount() == 0
+        || firstTitle(*target) != firstTitle(*source))
+        return;
+    const QItemSelection wanted = fitted(*target->model(), source->selection());
+    if (haveSameRows(wanted, target->selection()))
+        return;
+    target->clearSelection();
+    target->select(wanted, QItemSelectionModel::Select);
+}
+
+void ZoneStyleDialog::makeSelectionFitModel()
+{
+    QItemSelectionModel* selection = getSelectionModelFor(m_currentModel);
+    if (selection->currentIndex().row() >= m_currentModel->rowCount())
+        selection->clearCurrentIndex();
+    const QItemSelection saved = selection->selection();
+    if (isWholeRowsOf(*m_currentModel, saved))
+        return;
+    const SelectionModelSignalSuspender suspender(*m_mapSelection, *m_tableView);
+    selection->clearSelection();
+    selection->select(fitted(*m_currentModel, saved), QItemSelectionModel::Select);
+}
+
+void ZoneStyleDialog::scrollTableViewToSelection(int row)
+{
+    const QModelIndex index = m_currentModel->index(row, 0);
+    m_tableView->scrollTo(index, QAbstractItemView::PositionAtTop);
+    m_tableView->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+}
+
+void ZoneStyleDialog::selectPickedObjects()
+{
+    catchUp();
+    if (!m_currentModel)
+        return;
+    const SelectionModelSignalSuspender suspender(*m_mapSelection, *m_tableView);
+    m_tableView->clearSelection();
+    QItemSelection picked;
+    int smallest = kNoRow;
+    for (const int row : pickedRows(m_currentModel->rowCount())) {
+        picked.append(wholeRows(*m_currentModel, row, row));
+        smallest = qMin(smallest, row);
+    }
+    if (!picked.isEmpty()) {
+        m_tableView->selectionModel()->select(picked, QItemSelectionModel::Select);
+        scrollTableViewToSelection(smallest);
+    }
+    m_tableView->setFocus();
+}
+
+void ZoneStyleDialog::selectionPatternChanged(std::string const& pattern, SelectOption_s option)
+{
+    if (!m_currentModel)
+        return;
+    const SelectionModelSignalSuspender suspender(*m_mapSelection, *m_tableView);
+    m_tableView->clearSelection();
+    if (pattern.empty())
+        return;
+    const bool byName = option == SelectOption_Names;
+    const Qt::MatchFlags how =
+        byName ? Qt::MatchFlags(Qt::MatchWildcard | Qt::MatchWrap) : Qt::MatchFixedString;
+    const QModelIndexList matches =
+        m_currentModel->match(m_currentModel->index(0, byName ? 1 : 2), Qt::DisplayRole,
+                              QString::fromStdString(pattern), -1, how);
+    QItemSelection found;
+    int smallest = kNoRow;
+    for (int first = 0, last = 0; first < matches.size(); first = last + 1) {
+        last = first;
+        while (last + 1 < matches.size() && matches[last + 1].row() == matches[last].row() + 1)
+            ++last;
+        found.append(wholeRows(*m_currentModel, matches[first].row(), matches[last].row()));
+        smallest = qMin(smallest, matches[first].row());
+    }
+    if (smallest < m_currentModel->rowCount())
+        scrollTableViewToSelection(smallest);
+    m_tableView->selectionModel()->select(found, QItemSelectionModel::Select);
+    m_tableView->setFocus();
+}
+
+} // namespace corvala::sdk::ui::dialogs

@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/controls/map_selection_by_pattern.h"
+#include "zonestyle/controls/map_selection_by_pattern_properties_manager.h"
+#include "zonestyle/dialog/zone_style_dialog.h"
+#include "zonestyle/dialog/zone_style_form.h"
+#include "zonestyle/views/style_table_view.h"
+
+#include <sdk/base/cvl.h>
+#include <sdk/common/app_lock.h>
+#include <sdk/common/common.h>
+#include <sdk/dialogs_common/tab_widget_launch_help_action.h>
+
+#include <QDialogButtonBox>
+#include <QLayout>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTabWidget>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace corvala::sdk::ui::dialogs {
+
+std::set<ZoneStyleDialog::MappingStyleTab_e> ZoneStyleDialog::m_availableMappingTabs =
+    ZoneStyleDialog::defaultAvailableMappingTabs();
+
+/// The tab shown last, by plot type; outlives the dialog.
+static std::array<int, 6> lastTabs {};
+
+static PlotType_e activePlotType()
+{
+    return static_cast<PlotType_e>(CvlUtilFrameGetPlotType());
+}
+
+std::set<ZoneStyleDialog::MappingStyleTab_e> ZoneStyleDialog::defaultAvailableMappingTabs()
+{
+    return {MappingStyleTab_Definitions, MappingStyleTab_Lines,     MappingStyleTab_Curves,
+            MappingStyleTab_Symbols,     MappingStyleTab_ErrorBars, MappingStyleTab_BarCharts};
+}
+
+void ZoneStyleDialog::setAvailableMappingStyleTabs(std::set<MappingStyleTab_e> const& tabs)
+{
+    if (&tabs == &m_availableMappingTabs)
+        return;
+    m_availableMappingTabs = tabs;
+    if (!m_dialogInstance)
+        return;
+    m_dialogInstance->applyAvailableMappingTabs();
+    m_dialogInstance->updateTabs(activePlotType()); // a polar plot has no error bars and bar charts
+}
+
+void ZoneStyleDialog::updateZoneStyleDialog()
+{
+    const PlotType_e plotType = activePlotType();
+    m_mapSelection->propertiesManager().labelText().set(tr("S&election criteria:").toStdString());
+    if (plotType == PlotType_Field3D || plotType == PlotType_Field2D)
+        showFieldPage();
+    else
+        showLinePage();
+    updateTabs(plotType);
+    selectWantedTab();
+    setupTableView();
+}
+
+void ZoneStyleDialog::showFieldPage()
+{
+    m_form->plotTypeStackedWidget->setCurrentWidget(m_form->fieldMapPage);
+    setWindowTitle(tr("Zone Style"));
+    showOptionalButtonBoxButtons(false);
+    m_mapSelection->applyButton().setText(tr("&Zones"));
+    m_mapSelection->groupsButton().show();
+    m_helpAction->setTabWidget(m_form->fieldTabs);
+    confirmScatterVarAssignment();
+}
+
+void ZoneStyleDialog::showLinePage()
+{
+    m_form->plotTypeStackedWidget->setCurrentWidget(m_form->lineMapPage);
+    setWindowTitle(tr("Mapping Style"));
+    showOptionalButtonBoxButtons(true);
+    m_mapSelection->applyButton().setText(tr("&Select"));
+    m_mapSelection->groupsButton().hide();
+    m_helpAction->setTabWidget(m_form->lineTabs);
+}
+
+/// The box unparents the buttons that it removes; they go back to where they came from.
+void ZoneStyleDialog::showOptionalButtonBoxButtons(bool show)
+{
+    for (QPushButton* button : m_form->mapToolButtons) {
+        const bool isShown = m_form->buttonBox->buttonRole(button) != QDialogButtonBox::InvalidRole;
+        if (isShown == show)
+            continue;
+        if (show) {
+            m_form->buttonBox->addButton(button, QDialogButtonBox::ActionRole);
+        } else {
+            m_form->buttonBox->removeButton(button);
+            m_form->additionalButtonsPage->layout()->addWidget(button);
+        }
+    }
+}
+
+QTabWidget* ZoneStyleDialog::getCurrentTabWidget()
+{
+    switch (activePlotType()) {
+    case PlotType_Field3D:
+    case PlotType_Field2D: return m_form->fieldTabs;
+    case PlotType_LineXY:
+    case PlotType_LinePolar: return m_form->lineTabs;
+    default: return nullptr;
+    }
+}
+
+/// Place of a page among all pages of the form, shown or not; -1 for a page that is not of it.
+int ZoneStyleDialog::formPosition(const QWidget& page) const
+{
+    for (const std::vector<QWidget*>* pages : {&m_form->fieldPages, &m_form->linePages}) {
+        const auto found = std::find(pages->begin(), pages->end(), &page);
+        if (found != pages->end())
+            return static_cast<int>(found - pages->begin());
+    }
+    return -1;
+}
+
+/// A page comes back in front of the first one that follows it in the form: the place that it had
+/// among other pages that were hidden, too, says nothing.
+void ZoneStyleDialog::showTab(QTabWidget& tabWidget, QWidget& page, bool show)
+{
+    const int current = tabWidget.indexOf(&page);
+    if (show == (current >= 0))
+        return;
+    if (!show) {
+        const int position = formPosition(page);
+        m_removedTabPositions.emplace(&page, position >= 0 ? position : current);
+        m_removedTabTexts[&page] = tabWidget.tabText(current);
+        tabWidget.removeTab(current);
+        return;
+    }
+    int index = m_removedTabPositions[&page];
+    if (formPosition(page) >= 0) {
+        index = 0;
+        while (index < tabWidget.count()
+               && formPosition(*tabWidget.widget(index)) < formPosition(page))
+            ++index;
+    }
+    tabWidget.insertTab(index, &page, m_removedTabTexts[&page]);
+}
+
+void ZoneStyleDialog::applyAvailableMappingTabs()
+{
+    for (int tab = MappingStyleTab_Definitions; tab <= MappingStyleTab_Indices; ++tab) {
+        const bool isAvailable =
+            m_availableMappingTabs.count(static_cast<MappingStyleTab_e>(tab)) != 0;
+        showTab(*m_form->lineTabs, *m_form->linePages[static_cast<std::size_t>(tab)], isAvailable);
+    }
+}
+
+void ZoneStyleDialog::updateTabs(PlotType_e plotType)
+{
+    static constexpr std::size_t kVolume = 8;
+    QTabWidget& lineTabs = *m_form->lineTabs;
+    QWidget& errorBars = *m_form->linePages[MappingStyleTab_ErrorBars];
+    QWidget& barCharts = *m_form->linePages[MappingStyleTab_BarCharts];
+    const auto isAvailable = [](MappingStyleTab_e tab) {
+        return m_availableMappingTabs.count(tab) != 0;
+    };
+    switch (plotType) {
+    case PlotType_Field3D:
+    case PlotType_Field2D:
+        showTab(*m_form->fieldTabs, *m_form->fieldPages[kVolume], plotType == PlotType_Field3D);
+        break;
+    case PlotType_LineXY:
+        showTab(lineTabs, errorBars, isAvailable(MappingStyleTab_ErrorBars));
+        showTab(lineTabs, barCharts, isAvailable(MappingStyleTab_BarCharts));
+        break;
+    case PlotType_LinePolar:
+        showTab(lineTabs, barCharts, false);
+        showTab(lineTabs, errorBars, false);
+        break;
+    default: break;
+    }
+}
+
+void ZoneStyleDialog::restoreLastTab()
+{
+    QTabWidget* tabWidget = getCurrentTabWidget();
+    if (!tabWidget)
+        return;
+    m_wantedTab = {activePlotType(), lastTabs[activePlotType()]};
+    tabWidget->setCurrentIndex(m_wantedTab->index);
+}
+
+/// The tab to restore may have been hidden, or have had another index, when it was asked for.
+void ZoneStyleDialog::selectWantedTab()
+{
+    QTabWidget* tabWidget = getCurrentTabWidget();
+    const std::optional<WantedTab> wanted = std::exchange(m_wantedTab, std::nullopt);
+    if (tabWidget && wanted && wanted->plotType == activePlotType())
+        tabWidget->setCurrentIndex(wanted->index);
+}
+
+void ZoneStyleDialog::saveLastTab()
+{
+    const QTabWidget* tabWidget = getCurrentTabWidget();
+    if (tabWidget && tabWidget->currentIndex() >= 0)
+        lastTabs[activePlotType()] = tabWidget->currentIndex();
+}
+
+bool ZoneStyleDialog::isScatterTabCurrent() const
+{
+    static constexpr std::size_t kScatter = 3;
+    return m_form->fieldTabs->currentWidget() == m_form->fieldPages[kScatter];
+}
+
+/// The scatter table needs a variable to show.
+void ZoneStyleDialog::confirmScatterVarAssignment()
+{
+    if (!isScatterTabCurrent())
+        return;
+    const AppLock lock(ImplicitMacroRecording_None);
+    autoAssignScatterVariable();
+}
+
+void ZoneStyleDialog::on_plotAttr_FD_PageGroup_currentChanged(int)
+{
+    confirmScatterVarAssignment();
+    setupTableView();
+}
+
+void ZoneStyleDialog::on_plotAttr_LP_PageGroup_currentChanged(int)
+{
+    setupTableView();
+}
+
+} // namespace corvala::sdk::ui::dialogs

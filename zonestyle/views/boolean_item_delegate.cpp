@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/views/boolean_item_delegate.h"
+
+#include "zonestyle/controls/selected_rows.h"
+#include "zonestyle/models/model_abstract.h"
+
+#include <QMouseEvent>
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
+
+BooleanItemDelegate::BooleanItemDelegate(QAbstractItemView& view)
+    : ItemDelegate(view)
+{
+}
+
+/// Moves the cell so that the check box, which Qt puts at its side, lies in the middle.
+QStyleOptionViewItem BooleanItemDelegate::centredOption(const QStyleOptionViewItem& option,
+                                                        const QModelIndex& index) const
+{
+    QRect box = rect(option, index, Qt::CheckStateRole);
+    QRect none;
+    QRect text;
+    doLayout(option, &box, &none, &text, false);
+    QStyleOptionViewItem centred = option;
+    centred.rect.translate(option.rect.center().x() - box.center().x(), 0);
+    return centred;
+}
+
+bool BooleanItemDelegate::isOnCheckBox(const QStyleOptionViewItem& option, const QModelIndex& index,
+                                       const QPoint& position) const
+{
+    QRect box = rect(option, index, Qt::CheckStateRole);
+    box.moveCenter(option.rect.center());
+    return box.contains(position);
+}
+
+void BooleanItemDelegate::drawCheck(QPainter* painter, const QStyleOptionViewItem& option,
+                                    const QRect& rect, Qt::CheckState state) const
+{
+    QRect centred = rect;
+    centred.moveCenter(option.rect.center());
+    ItemDelegate::drawCheck(painter, option, centred, state);
+}
+
+bool BooleanItemDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
+                                      const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        return handlePress(*static_cast<QMouseEvent*>(event), *model, option, index);
+    case QEvent::MouseButtonRelease:
+        return handleRelease(*static_cast<QMouseEvent*>(event), option, index);
+    case QEvent::KeyPress: {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        return (key == Qt::Key_Space || key == Qt::Key_Select) && toggleSelectedRows(index);
+    }
+    default: return false;
+    }
+}
+
+/// The check box of a cell that is greyed works all the same.
+bool BooleanItemDelegate::handlePress(QMouseEvent& event, QAbstractItemModel& model,
+                                      const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    QStyleOptionViewItem enabled = centredOption(option, index);
+    enabled.state |= QStyle::State_Enabled;
+    const bool handled = QItemDelegate::editorEvent(&event, &model, enabled, index);
+    m_pressed = handled ? QPersistentModelIndex(index) : QPersistentModelIndex();
+    if (handled)
+        selectPressedRow(event.modifiers());
+    return handled;
+}
+
+/// The view leaves the selection alone when a press was handled; a check box in a row that is not
+/// selected would then do nothing.
+void BooleanItemDelegate::selectPressedRow(Qt::KeyboardModifiers modifiers)
+{
+    QItemSelectionModel* selection = view() ? view()->selectionModel() : nullptr;
+    if (!selection)
+        return;
+    selection->setCurrentIndex(m_pressed, QItemSelectionModel::NoUpdate);
+    if (selection->isSelected(m_pressed))
+        return;
+    const bool adds = modifiers.testFlag(Qt::ControlModifier);
+    selection->select(
+        m_pressed,
+        QItemSelectionModel::Rows
+            | (adds ? QItemSelectionModel::Select : QItemSelectionModel::ClearAndSelect));
+}
+
+bool BooleanItemDelegate::handleRelease(const QMouseEvent& event,
+                                        const QStyleOptionViewItem& option,
+                                        const QModelIndex& index)
+{
+    const bool counts = m_pressed.isValid() && m_pressed == index
+        && event.button() == Qt::LeftButton && isOnCheckBox(option, index, event.pos());
+    m_pressed = QPersistentModelIndex();
+    return counts && toggleSelectedRows(index);
+}
+
+/// False when the cell cannot be checked or is not selected.
+bool BooleanItemDelegate::toggleSelectedRows(const QModelIndex& index)
+{
+    auto* model = view() ? qobject_cast<models::ModelAbstract*>(view()->model()) : nullptr;
+    const QItemSelectionModel* selection = view() ? view()->selectionModel() : nullptr;
+    if (!model || !selection || !model->flags(index).testFlag(Qt::ItemIsUserCheckable)
+        || !selection->isSelected(index))
+        return false;
+    const bool isChecked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    const int state = isChecked ? Qt::Unchecked : Qt::Checked;
+    model->setDataForIndexes(uicontrols::selectedRows(*selection, index.column()), state,
+                             Qt::CheckStateRole);
+    return true;
+}
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::views

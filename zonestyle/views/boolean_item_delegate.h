@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "zonestyle/views/item_delegate.h"
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
+
+/// Cells with a check box in their middle. A click on it, or Space, switches all selected rows of
+/// the column to one state, the opposite of the cell's.
+class BooleanItemDelegate : public ItemDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit BooleanItemDelegate(QAbstractItemView& view);
+
+    bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
+                     const QModelIndex& index) override;
+
+protected:
+    void drawCheck(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,
+                   Qt::CheckState state) const override;
+
+private:
+    QStyleOptionViewItem centredOption(const QStyleOptionViewItem& option,
+                                       const QModelIndex& index) const;
+    bool isOnCheckBox(const QStyleOptionViewItem& option, const QModelIndex& index,
+                      const QPoint& position) const;
+    bool handlePress(QMouseEvent& event, QAbstractItemModel& model,
+                     const QStyleOptionViewItem& option, const QModelIndex& index);
+    void selectPressedRow(Qt::KeyboardModifiers modifiers);
+    bool handleRelease(const QMouseEvent& event, const QStyleOptionViewItem& option,
+                       const QModelIndex& index);
+    bool toggleSelectedRows(const QModelIndex& index);
+
+    QPersistentModelIndex m_pressed; ///< the cell whose check box the mouse button was pressed on
+};
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::views

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/views/item_delegate.h"
+
+#include "zonestyle/models/model_abstract.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPainter>
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
+
+static constexpr int kVerticalPadding = 2; // above and below the contents of every cell
+static constexpr char kFilledProperty[] = "zonestyleEditorFilled";
+
+static bool isRelevant(const QModelIndex& index)
+{
+    const auto* model = qobject_cast<const models::ModelAbstract*>(index.model());
+    return !model || model->isRelevant(index);
+}
+
+ItemDelegate::ItemDelegate(QAbstractItemView& view)
+    : QItemDelegate(&view)
+    , m_view(&view)
+    , m_blackPen(QColor(0, 0, 0, 255))
+    , m_darkGreyPen(QColor(64, 64, 64, 255))
+{
+}
+
+QStyleOptionViewItem ItemDelegate::cellOption(const QStyleOptionViewItem& option,
+                                              const QModelIndex& index) const
+{
+    QStyleOptionViewItem cell = option;
+    cell.showDecorationSelected = true;
+    cell.state.setFlag(QStyle::State_Enabled, isRelevant(index));
+    if (cell.state.testFlag(QStyle::State_Enabled))
+        return cell;
+    const bool isActive = cell.state.testFlag(QStyle::State_Active);
+    cell.palette.setBrush(QPalette::Disabled, QPalette::Highlight,
+                          option.palette.brush(isActive ? QPalette::Active : QPalette::Inactive,
+                                               QPalette::Highlight));
+    cell.palette.setBrush(QPalette::Disabled, QPalette::HighlightedText,
+                          option.palette.brush(QPalette::Disabled, QPalette::Text));
+    return cell;
+}
+
+void ItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return;
+    QStyleOptionViewItem cell = cellOption(option, index);
+    const bool hasFocus = cell.state.testFlag(QStyle::State_HasFocus);
+    cell.state.setFlag(QStyle::State_HasFocus, false);
+    QItemDelegate::paint(painter, cell, index);
+    cell.state.setFlag(QStyle::State_HasFocus, hasFocus);
+    drawFocus(painter, cell, cell.rect);
+}
+
+QSize ItemDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    return contentsSize(option, index) + QSize(0, 2 * kVerticalPadding);
+}
+
+QSize ItemDelegate::contentsSize(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    return QItemDelegate::sizeHint(option, index);
+}
+
+QWidget* ItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                    const QModelIndex& index) const
+{
+    return isRelevant(index) ? makeEditor(parent, index) : nullptr;
+}
+
+QWidget* ItemDelegate::makeEditor(QWidget* parent, const QModelIndex&) const
+{
+    auto* editor = new QLineEdit(parent);
+    editor->setFrame(false);
+    editor->setAutoFillBackground(true);
+    return editor;
+}
+
+void ItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    if (editor->property(kFilledProperty).toBool())
+        return;
+    editor->setProperty(kFilledProperty, true);
+    fillEditor(editor, index);
+}
+
+void ItemDelegate::fillEditor(QWidget* editor, const QModelIndex& index) const
+{
+    QItemDelegate::setEditorData(editor, index);
+}
+
+void ItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                const QModelIndex& index) const
+{
+    const QPersistentModelIndex written(index);
+    const QPointer<QAbstractItemView> view = m_view;
+    QItemDelegate::setModelData(editor, model, index); // may ask the user
+    if (view && view->model() == written.model() && view->selectionModel())
+        view->selectionModel()->setCurrentIndex(written, QItemSelectionModel::NoUpdate);
+}
+
+bool ItemDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
+                               const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    if (!model->flags(index).testFlag(Qt::ItemIsEditable))
+        return false;
+    const bool startsEditing =
+        event->type() == QEvent::MouseButtonDblClick || event->type() == QEvent::KeyPress;
+    if (startsEditing && m_view && m_view->selectionModel()) {
+        m_view->selectionModel()->select(
+            index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
+    return QItemDelegate::editorEvent(event, model, option, index);
+}
+
+void ItemDelegate::drawDisplay(QPainter* painter, const QStyleOptionViewItem& option,
+                               const QRect& rect, const QString& text) const
+{
+    if (rect.isEmpty())
+        return;
+    const QStyle& style = *(option.widget ? option.widget->style() : QApplication::style());
+    const int margin = style.pixelMetric(QStyle::PM_FocusFrameVMargin, &option, option.widget);
+    QItemDelegate::drawDisplay(painter, option, rect.translated(0, -(margin + 1) / 2), text);
+}
+
+void ItemDelegate::drawFocus(QPainter* painter, const QStyleOptionViewItem& option,
+                             const QRect& rect) const
+{
+    if (!option.state.testFlag(QStyle::State_HasFocus) || !rect.isValid())
+        return;
+    painter->save();
+    painter->setPen(option.state.testFlag(QStyle::State_Enabled) ? m_blackPen : m_darkGreyPen);
+    painter->drawRect(rect.adjusted(0, 0, -1, -1));
+    painter->restore();
+}
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::views

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/views/popup_dialog_base.h"
+
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QPointer>
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
+
+struct PopupDialogBase::Private
+{
+    Commit commit;
+    QEventLoop* loop = nullptr; ///< of run(), while it waits
+    int resultAtClose = QDialog::Rejected;
+    bool closeSeen = false;
+};
+
+PopupDialogBase::PopupDialogBase(const QPoint& globalPosition, QWidget* parent, Commit commit)
+    : QDialog(parent)
+    , d(std::make_unique<Private>())
+{
+    d->commit = std::move(commit);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setWindowFlags(Qt::Popup | Qt::FramelessWindowHint);
+    setResult(Accepted); // a click elsewhere closes the pop-up and commits
+    move(globalPosition);
+}
+
+PopupDialogBase::~PopupDialogBase()
+{
+    if (d->loop)
+        d->loop->quit();
+}
+
+void PopupDialogBase::run(PopupDialogBase* popup)
+{
+    const QPointer<PopupDialogBase> guard(popup);
+    QEventLoop loop; // QDialog::exec would reset the result
+    popup->d->loop = &loop;
+    popup->show();
+    if (guard && guard->isVisible())
+        loop.exec(QEventLoop::DialogExec);
+    if (!guard)
+        return;
+    guard->d->loop = nullptr;
+    guard->deleteLater();
+}
+
+/// The result must be known when the hide event comes.
+void PopupDialogBase::done(int result)
+{
+    setResult(result);
+    QDialog::done(result);
+}
+
+/// Qt closes a pop-up on a click elsewhere, and then rejects it.
+void PopupDialogBase::closeEvent(QCloseEvent* event)
+{
+    d->resultAtClose = result();
+    d->closeSeen = true;
+    QDialog::closeEvent(event);
+}
+
+void PopupDialogBase::hideEvent(QHideEvent* event)
+{
+    QDialog::hideEvent(event);
+    if (event->spontaneous())
+        return;
+    if (d->loop)
+        d->loop->quit();
+    const bool accepted = result() == Accepted || (d->closeSeen && d->resultAtClose == Accepted);
+    const Commit commit = std::move(d->commit);
+    d->commit = nullptr;
+    if (!accepted || !commit)
+        return;
+    if (const std::optional<QString> text = enteredText())
+        commit(*text);
+}
+
+void PopupDialogBase::keyPressEvent(QKeyEvent* event)
+{
+    QDialog::keyPressEvent(event);
+    if (!isVisible())
+        return;
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Tab: accept(); break;
+    case Qt::Key_Cancel: reject(); break;
+    default: break;
+    }
+}
+
+bool PopupDialogBase::focusNextPrevChild(bool next)
+{
+    if (!next)
+        return QDialog::focusNextPrevChild(next);
+    if (isVisible())
+        accept();
+    return true;
+}
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::views
