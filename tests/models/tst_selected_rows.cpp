@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/controls/selected_rows.h"
+
+#include <QItemSelectionModel>
+#include <QRandomGenerator>
+#include <QStandardItemModel>
+#include <QTest>
+
+using namespace corvala::sdk::ui::dialogs::uicontrols;
+
+namespace {
+
+constexpr int kRows = 200; // several words of a bitmap
+constexpr int kColumns = 5;
+
+QString rowsText(const QModelIndexList& indexes)
+{
+    QStringList rows;
+    for (const QModelIndex& index : indexes)
+        rows << QString("%1/%2").arg(index.row()).arg(index.column());
+    return rows.join(" ");
+}
+
+/// A selection of some blocks, whole rows or not, overlapping or not.
+QItemSelection randomBlocks(const QAbstractItemModel& model, QRandomGenerator& random)
+{
+    QItemSelection blocks;
+    for (int block = random.bounded(1, 4); block > 0; --block) {
+        const bool wholeRows = random.bounded(3) != 0;
+        const int top = random.bounded(kRows);
+        const int bottom = qMin(kRows - 1, top + random.bounded(30));
+        const int left = wholeRows ? 0 : random.bounded(kColumns);
+        const int right = wholeRows ? kColumns - 1 : random.bounded(left, kColumns);
+        blocks.append(QItemSelectionRange(model.index(top, left), model.index(bottom, right)));
+    }
+    return blocks;
+}
+
+} // namespace
+
+/// The rows of a selection, against what Qt finds in its own way.
+class tst_SelectedRows : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void equalsQt_data();
+    void equalsQt();
+    void keepsTheOrderOfSelection();
+    void bitmapOfRows();
+    void withoutModel();
+};
+
+void tst_SelectedRows::equalsQt_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= 20; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+void tst_SelectedRows::equalsQt()
+{
+    QFETCH(quint32, seed);
+    QRandomGenerator random(seed);
+    const QStandardItemModel model(kRows, kColumns);
+    QItemSelectionModel selection(const_cast<QStandardItemModel*>(&model));
+
+    static constexpr QItemSelectionModel::SelectionFlag kCommands[] {
+        QItemSelectionModel::Select, QItemSelectionModel::Toggle, QItemSelectionModel::Deselect,
+        QItemSelectionModel::ClearAndSelect};
+    for (int step = 0; step < 25; ++step) {
+        selection.select(randomBlocks(model, random), kCommands[random.bounded(4)]);
+        const QModelIndexList expected = selection.selectedRows(1);
+        QCOMPARE(rowsText(selectedRows(selection, 1)), rowsText(expected));
+        QCOMPARE(hasSelectedRows(selection), !expected.isEmpty());
+
+        const RowBitmap bitmap(selection);
+        QCOMPARE(bitmap.count(), expected.size());
+        for (int row = 0; row < kRows; ++row)
+            QCOMPARE(bitmap.contains(row), selection.isRowSelected(row, {}));
+    }
+}
+
+void tst_SelectedRows::keepsTheOrderOfSelection()
+{
+    QStandardItemModel model(kRows, kColumns);
+    QItemSelectionModel selection(&model);
+    for (const int row : {7, 2, 150})
+        selection.select(model.index(row, 0),
+                         QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    QCOMPARE(rowsText(selectedRows(selection)), QString("7/0 2/0 150/0"));
+}
+
+void tst_SelectedRows::bitmapOfRows()
+{
+    RowBitmap rows;
+    QVERIFY(rows.isEmpty());
+    QVERIFY(!rows.contains(-1) && !rows.contains(0) && !rows.contains(100000));
+    rows.insert(63, 128);
+    QCOMPARE(rows.count(), 66);
+    QVERIFY(!rows.contains(62) && rows.contains(63) && rows.contains(128) && !rows.contains(129));
+    QVERIFY(!rows.insert(64) && rows.insert(1000));
+    rows.insert(5, 4); // nothing
+    QCOMPARE(rows.count(), 67);
+
+    RowBitmap few;
+    few.insert(100);
+    few.insert(200);
+    rows.intersect(few);
+    QVERIFY(rows.contains(100) && !rows.contains(200) && rows.count() == 1);
+}
+
+void tst_SelectedRows::withoutModel()
+{
+    const QItemSelectionModel selection(nullptr);
+    QVERIFY(selectedRows(selection).isEmpty() && !hasSelectedRows(selection));
+    QVERIFY(RowBitmap(selection).isEmpty());
+}
+
+QTEST_GUILESS_MAIN(tst_SelectedRows)
+#include "tst_selected_rows.moc"

@@ -1,0 +1,519 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "tests/host/event_log.h"
+#include "tests/models/table_fixture.h"
+#include "tests/support/modal_responder.h"
+#include "zonestyle/actions/curve_fit_settings_action.h"
+#include "zonestyle/actions/enter_ascii_character_action.h"
+#include "zonestyle/actions/enter_single_value_action.h"
+#include "zonestyle/actions/enter_three_value_action.h"
+#include "zonestyle/actions/map_activate_action.h"
+#include "zonestyle/actions/map_rename_action.h"
+#include "zonestyle/actions/prompt_parent.h"
+#include "zonestyle/actions/select_color_action.h"
+#include "zonestyle/actions/size_actions.h"
+#include "zonestyle/actions/variable_select_action.h"
+#include "zonestyle/actions/zone_select_action.h"
+#include "zonestyle/models/field_static_area_model.h"
+#include "zonestyle/models/line_static_area_model.h"
+
+#include <sdk/dialogs_prompt/color_chooser_widget.h>
+#include <sdk/dialogs_prompt/enter_ascii_character_dialog.h>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QListView>
+#include <QMenu>
+#include <QSpinBox>
+#include <QTest>
+
+using namespace corvala::tests;
+using namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions;
+using namespace corvala::sdk::ui::dialogs::zonestyle::intern::models;
+using corvala::host::Document;
+
+using MakeAction = std::function<Action*(const QModelIndexList&)>;
+Q_DECLARE_METATYPE(MakeAction)
+
+/// Every action: what it asks, what it writes for which maps, and in how many steps.
+class tst_StyleActions : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void writesAllMapsAtOnce_data();
+    void writesAllMapsAtOnce();
+    void doesNothingWithoutRows();
+    void asksBeforeShowingALayer_data();
+    void asksBeforeShowingALayer();
+    void assignsContourVariables();
+    void survivesItsMenu();
+    void activatesMaps_data();
+    void activatesMaps();
+    void offersSizes();
+    void entersANumber_data();
+    void entersANumber();
+    void selectsAVariable();
+    void selectsAZone();
+    void entersThreeValues();
+    void entersACharacter();
+    void choosesAColor();
+    void renamesLineMaps();
+    void knowsCommonCurveFits_data();
+    void knowsCommonCurveFits();
+
+private:
+    QModelIndexList fieldRows(const QList<int>& rows, int column = 0);
+    QModelIndexList lineRows(const QList<int>& rows);
+
+    std::unique_ptr<ModelAbstract> m_model;
+    std::unique_ptr<ModalResponder> m_user;
+};
+
+void tst_StyleActions::init()
+{
+    m_user = std::make_unique<ModalResponder>();
+}
+
+void tst_StyleActions::cleanup()
+{
+    QVERIFY(m_user->isSettled());
+    m_user.reset();
+    m_model.reset();
+}
+
+QModelIndexList tst_StyleActions::fieldRows(const QList<int>& rows, int column)
+{
+    m_model.reset(makeChain<FieldStaticAreaModel>());
+    return cells(*m_model, rows, column);
+}
+
+QModelIndexList tst_StyleActions::lineRows(const QList<int>& rows)
+{
+    m_model.reset(makeChain<LineStaticAreaModel>());
+    return cells(*m_model, rows);
+}
+
+void tst_StyleActions::writesAllMapsAtOnce_data()
+{
+    QTest::addColumn<MakeAction>("make");
+    QTest::addColumn<QString>("written");
+
+    const auto row = [](const char* name, auto value, StylePath path, const char* written) {
+        QTest::newRow(name) << MakeAction([=](const QModelIndexList& rows) {
+            return new StyleAction<decltype(value)>("text", rows, value, path);
+        }) << written;
+    };
+    row("switch", char {0}, {"FieldMap", "Mesh", "Show"}, "FieldMap.Mesh.Show 3,4,8 = false");
+    row("integer", 3, {"FieldMap", "Group"}, "FieldMap.Group 3,4,8 = 3");
+    row("real", 0.25, {"FieldMap", "Mesh", "LineThickness"},
+        "FieldMap.Mesh.LineThickness 3,4,8 = 0.25");
+    row("enumeration", MeshType_HiddenLine, {"FieldMap", "Mesh", "MeshType"},
+        "FieldMap.Mesh.MeshType 3,4,8 = 2");
+    row("five names", FontOverride_Greek + 0,
+        {"FieldMap", "Scatter", "SymbolShape", "ASCIIShape", "FontOverride"},
+        "FieldMap.Scatter.SymbolShape.ASCIIShape.FontOverride 3,4,8 = 1");
+}
+
+void tst_StyleActions::writesAllMapsAtOnce()
+{
+    QFETCH(MakeAction, make);
+    QVERIFY(openDemo("field2d"));
+    EventLog events;
+    const std::unique_ptr<Action> action(make(fieldRows({7, 2, 3, 7})));
+    action->trigger();
+    QTEST(takeWrites(), "written");
+    QCOMPARE(events.take(), QString("7:FieldMap"));
+    QCOMPARE(Document::instance().undo().stepCount(), 1);
+}
+
+void tst_StyleActions::doesNothingWithoutRows()
+{
+    static constexpr ThreeValuePrompt kPrompt {
+        "t", {{"a", "b", "c"}}, {{"Min", "Max", "Skip"}}, {{1, 0, 1}}, ""};
+    QVERIFY(openDemo("xy"));
+    QList<Action*> actions {
+        new Action("a", {}),
+        new StyleAction<int>("a", {}, 1, {"LineMap", "Assign", "Zone"}),
+        new EnterSingleValueAction<int>("a", {}, "t", "l", 1, 2, {"LineMap", "Assign", "Zone"}),
+        new EnterThreeValueAction("a", {}, kPrompt, {"LineMap", "Indices", "IRange"}),
+        new EnterASCIICharacterAction({}, {"LineMap", "Symbols"}),
+        new VariableSelectAction("a", {}, "t", "l", {"LineMap", "Assign", "XAxisVar"}),
+        new ZoneSelectAction({}),
+        new MapRenameAction({}, "name"),
+        new CurveFitSettingsAction("a", {}),
+        new MapActivateAction({}, MapActivateMode_ShowSelectedOnly, "ActiveLineMaps"),
+    };
+    for (Action* action : qAsConst(actions)) {
+        action->setEnabled(true);
+        action->trigger();
+    }
+    qDeleteAll(actions);
+    QCOMPARE(takeWrites(), QString());
+    QCOMPARE(m_user->takeSeen(), QStringList());
+}
+
+namespace {
+
+/// A layer that is about to be shown: what is active and off, what is asked, answered and written.
+struct LayerCase
+{
+    const char* category;
+    char value = 1;
+    int zones = 1; ///< the first is a volume zone, the second is none
+    int surfaces = SurfacesToPlot_None;
+    int points = PointsToPlot_SurfaceNodes;
+    const char* attribute = "Show";
+    const char* answers = ""; ///< y and n
+    QStringList asked = {};
+    bool surfacesDrawn = false; ///< in the end
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(LayerCase)
+
+void tst_StyleActions::asksBeforeShowingALayer_data()
+{
+    const QString layer = "Show Layer";
+    const QString surfaces = "Show Surfaces";
+    QTest::addColumn<LayerCase>("c");
+    const auto row = [](const char* name, const LayerCase& c) { QTest::newRow(name) << c; };
+
+    LayerCase mesh {"Mesh"};
+    mesh.answers = "yy";
+    mesh.asked = QStringList {layer, surfaces};
+    mesh.surfacesDrawn = true;
+    row("volume zone without surfaces", mesh);
+
+    LayerCase noSurfaces = mesh;
+    noSurfaces.answers = "yn";
+    noSurfaces.surfacesDrawn = false;
+    row("surfaces refused", noSurfaces);
+
+    LayerCase refused {"Mesh"};
+    refused.answers = "n";
+    refused.asked = QStringList {layer};
+    row("layer refused", refused);
+
+    LayerCase mixed {"Mesh"};
+    mixed.zones = 2;
+    row("a zone that is no volume", mixed);
+
+    LayerCase hiding {"Mesh"};
+    hiding.value = 0;
+    row("hiding asks nothing", hiding);
+
+    LayerCase drawn {"Shade"};
+    drawn.surfaces = SurfacesToPlot_IPlanes;
+    drawn.answers = "y";
+    drawn.asked = QStringList {layer};
+    drawn.surfacesDrawn = true;
+    row("surfaces are drawn", drawn);
+
+    LayerCase edges {"EdgeLayer"};
+    edges.answers = "y";
+    edges.asked = QStringList {layer};
+    row("edges need no surfaces", edges);
+
+    LayerCase allPoints {"Vector"};
+    allPoints.points = PointsToPlot_AllNodes;
+    allPoints.answers = "y";
+    allPoints.asked = QStringList {layer};
+    row("vectors at all points", allPoints);
+
+    LayerCase surfacePoints {"Scatter"};
+    surfacePoints.points = PointsToPlot_SurfaceCellCenters;
+    surfacePoints.answers = "yn";
+    surfacePoints.asked = QStringList {layer, surfaces};
+    row("symbols at surface points", surfacePoints);
+
+    LayerCase meshPoints = mesh;
+    meshPoints.points = PointsToPlot_AllNodes;
+    row("points do not matter to meshes", meshPoints);
+
+    LayerCase lighting {"Shade"};
+    lighting.attribute = "UseLightingEffect";
+    row("lighting is no layer", lighting);
+}
+
+void tst_StyleActions::asksBeforeShowingALayer()
+{
+    QFETCH(LayerCase, c);
+    QVERIFY(openDemo("field3d", c.zones));
+    for (const char* name :
+         {"ShowMesh", "ShowContour", "ShowVector", "ShowScatter", "ShowShade", "ShowEdge"})
+        QVERIFY(setStyle(QString("FieldLayers.") + name, "", 0));
+    QVERIFY(setStyle("FieldMap.Surfaces.SurfacesToPlot", "1", c.surfaces));
+    QVERIFY(setStyle("FieldMap.Points.PointsToPlot", "1", c.points));
+    QVERIFY(setStyle(QString("FieldMap.%1.%2").arg(c.category, c.attribute), "1", c.value ? 0 : 1));
+    for (const char* answer = c.answers; *answer; ++answer)
+        m_user->press(*answer == 'y' ? QMessageBox::Yes : QMessageBox::No);
+
+    StyleAction<char> action("Yes", fieldRows({0}), c.value, {"FieldMap", c.category, c.attribute});
+    action.trigger();
+
+    QStringList asked;
+    for (const QString& seen : m_user->takeSeen())
+        asked << seen.section(':', 0, 0);
+    QCOMPARE(asked, c.asked);
+    const QString written =
+        QString("FieldMap.%1.%2 1 = %3").arg(c.category, c.attribute, c.value ? "true" : "false");
+    QVERIFY2(takeWrites().endsWith(written), "written last, whatever the answers");
+    const corvala::toolbox::StyleValue surfaces("FieldMap", "Surfaces", "SurfacesToPlot");
+    QCOMPARE(surfaces.read<int>(1).value_or(-1) != SurfacesToPlot_None, c.surfacesDrawn);
+    QVERIFY(!QGuiApplication::overrideCursor());
+    QVERIFY(!Document::instance().isLocked());
+}
+
+void tst_StyleActions::assignsContourVariables()
+{
+    QVERIFY(openDemo("field3d", 1));
+    m_user->press(QMessageBox::Yes).press(QMessageBox::No);
+    StyleAction<char> action("Yes", fieldRows({0}), 1, {"FieldMap", "Contour", "Show"});
+    action.trigger();
+    const corvala::toolbox::StyleValue variable("ContourGroups", "Var");
+    for (int group = 1; group <= 8; ++group)
+        QVERIFY(variable.read<int>(0, group).value_or(0) != 0);
+}
+
+void tst_StyleActions::survivesItsMenu()
+{
+    QVERIFY(openDemo("field3d", 1));
+    QVERIFY(setStyle("FieldLayers.ShowMesh", "", 0));
+    QVERIFY(setStyle("FieldMap.Mesh.Show", "1", 0));
+    auto* action = new StyleAction<char>("Yes", fieldRows({0}), 1, {"FieldMap", "Mesh", "Show"});
+    m_user->answer([action](QDialog& question) {
+        delete action;
+        question.reject();
+    });
+    action->trigger();
+    QCOMPARE(takeWrites(), QString());
+}
+
+void tst_StyleActions::activatesMaps_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QList<int>>("rows");
+    QTest::addColumn<QString>("written"); // of five maps, of which 4 and 5 are hidden
+
+    QTest::newRow("activate") << 0 << QList<int> {4, 2} << "ActiveFieldMaps + 3,5";
+    QTest::newRow("deactivate") << 1 << QList<int> {4, 2} << "ActiveFieldMaps - 3,5";
+    QTest::newRow("selected only")
+        << 2 << QList<int> {4, 2} << "ActiveFieldMaps + 3,5; ActiveFieldMaps - 1,2,4";
+    QTest::newRow("all selected") << 2 << QList<int> {0, 1, 2, 3, 4} << "ActiveFieldMaps + 1-5";
+    QTest::newRow("invert") << 3 << QList<int> {1, 4, 2, 3}
+                            << "ActiveFieldMaps - 2,3; ActiveFieldMaps + 4,5";
+    QTest::newRow("invert shown ones") << 3 << QList<int> {0} << "ActiveFieldMaps - 1";
+}
+
+void tst_StyleActions::activatesMaps()
+{
+    QFETCH(int, mode);
+    QFETCH(QList<int>, rows);
+    QVERIFY(openDemo("field2d", 5));
+    const auto allRows = fieldRows(rows, FieldStaticAreaModel::ShowZone);
+    MapActivateAction(cells(*m_model, {3, 4}), MapActivateMode_Deactivate, "ActiveFieldMaps")
+        .trigger();
+    takeWrites();
+
+    corvala::host::UndoHistory& undo = Document::instance().undo();
+    const int steps = undo.stepCount();
+    undo.beginGesture();
+    MapActivateAction(allRows, static_cast<MapActivateMode_e>(mode), "ActiveFieldMaps").trigger();
+    undo.endGesture();
+    QTEST(takeWrites(), "written");
+    QVERIFY(undo.stepCount() <= steps + 1);
+}
+
+void tst_StyleActions::offersSizes()
+{
+    static constexpr SizePrompt kPrompt {"SymbolSizes", "Title", "Label", 0.0, 100.0};
+    QVERIFY(openDemo("field2d"));
+    const QList<QAction*> actions =
+        sizeActions(fieldRows({1, 2}), kPrompt, {"FieldMap", "Scatter", "FrameSize"});
+    QStringList texts;
+    for (const QAction* action : actions)
+        texts << (action->isSeparator() ? "-" : action->text());
+    QCOMPARE(texts.join('|'), QString("0.50|1.00|2.00|3.00|5.00|-|Enter..."));
+
+    actions.at(3)->trigger();
+    m_user->enter(2.5);
+    actions.last()->trigger();
+    QCOMPARE(m_user->takeSeen(), QStringList {"Title: Label [3, 0 to 100]"});
+    QCOMPARE(takeWrites(),
+             QString("FieldMap.Scatter.FrameSize 2,3 = 3; FieldMap.Scatter.FrameSize 2,3 = 2.5"));
+    qDeleteAll(actions);
+}
+
+void tst_StyleActions::entersANumber_data()
+{
+    QTest::addColumn<double>("entered"); // nothing below 0
+    QTest::addColumn<QString>("written");
+    QTest::newRow("in range") << 0.07 << "FieldMap.Mesh.LineThickness 2,8 = 0.07";
+    QTest::newRow("too large") << 101.0 << "";
+    QTest::newRow("cancelled") << -1.0 << "";
+}
+
+void tst_StyleActions::entersANumber()
+{
+    QFETCH(double, entered);
+    QVERIFY(openDemo("field2d"));
+    QVERIFY(setStyle("FieldMap.Mesh.LineThickness", "8", 0.25));
+    EnterSingleValueAction<double> action("Enter...", fieldRows({7, 1}), "Title", "Label", 0.0001,
+                                          100.0, {"FieldMap", "Mesh", "LineThickness"});
+    m_user->enter(entered);
+    action.trigger();
+    QTEST(takeWrites(), "written");
+    const QString seen = m_user->takeSeen().join("");
+    QVERIFY2(seen.startsWith("Title: Label [0.25, ") && seen.endsWith(" to 100]"),
+             qPrintable(seen));
+}
+
+void tst_StyleActions::selectsAVariable()
+{
+    QVERIFY(openDemo("xy"));
+    corvala::host::MapSet enabled = corvala::host::allUpTo(7);
+    enabled.remove(2);
+    QVERIFY(Document::instance().enableVariables(enabled));
+    QVERIFY(setStyle("LineMap.Assign.XAxisVar", "3", 4));
+
+    VariableSelectAction action("Select Variable...", lineRows({2, 0}), "Choose", "The variable",
+                                {"LineMap", "Assign", "XAxisVar"});
+    m_user->choose("Gain").choose("no such variable");
+    action.trigger();
+    action.trigger();
+    QCOMPARE(
+        m_user->takeSeen(),
+        (QStringList {"Choose: The variable [Power of 6]", "Choose: The variable [Gain of 6]"}));
+    QCOMPARE(takeWrites(), QString("LineMap.Assign.XAxisVar 1,3 = 7"));
+}
+
+void tst_StyleActions::selectsAZone()
+{
+    QVERIFY(openDemo("xy"));
+    ZoneSelectAction action(lineRows({2, 0}));
+    QCOMPARE(action.text(), QString("Select Zone..."));
+    m_user->reject();
+    m_user->answer([](QDialog& dialog) {
+        auto* list = dialog.findChild<QListView*>();
+        list->setCurrentIndex(list->model()->index(2, 0));
+        dialog.accept();
+    });
+    action.trigger();
+    QCOMPARE(takeWrites(), QString());
+    action.trigger();
+    QCOMPARE(takeWrites(), QString("LineMap.Assign.Zone 1,3 = 3"));
+}
+
+void tst_StyleActions::entersThreeValues()
+{
+    static constexpr ThreeValuePrompt kPrompt {"Enter Range",
+                                               {{"&Begin", "&End", "&Skip"}},
+                                               {{"Min", "Max", "Skip"}},
+                                               {{1, 0, 1}},
+                                               "page.html#anchor"};
+    QVERIFY(openDemo("field3d"));
+    QVERIFY(setStyle("FieldMap.Surfaces.IRange.Max", "3", 6));
+    const int steps = Document::instance().undo().stepCount();
+    EnterThreeValueAction action("Enter range...", fieldRows({2, 0}), kPrompt,
+                                 {"FieldMap", "Surfaces", "IRange"});
+
+    QStringList asked;
+    m_user->answer([&asked](QDialog& dialog) {
+        const auto boxes = dialog.findChildren<QSpinBox*>();
+        for (const QLabel* label : dialog.findChildren<QLabel*>())
+            asked << label->text();
+        for (const QSpinBox* box : boxes)
+            asked << QString("%1 from %2").arg(box->value()).arg(box->minimum());
+        boxes.at(0)->setValue(2);
+        boxes.at(2)->setValue(3);
+        dialog.accept();
+    });
+    m_user->reject();
+    action.trigger();
+    action.trigger();
+    QCOMPARE(asked.join(' '), QString("&Begin &End &Skip 1 from 1 6 from 0 1 from 1"));
+    QCOMPARE(m_user->takeSeen().first(), QString("Enter Range: "));
+    QCOMPARE(takeWrites(),
+             QString("FieldMap.Surfaces.IRange.Min 1,3 = 2; FieldMap.Surfaces.IRange.Max 1,3 = 6; "
+                     "FieldMap.Surfaces.IRange.Skip 1,3 = 3"));
+    QCOMPARE(Document::instance().undo().stepCount(), steps + 1);
+    QVERIFY(!Document::instance().undo().isBracketOpen());
+    QVERIFY(!Document::instance().isLocked());
+}
+
+void tst_StyleActions::entersACharacter()
+{
+    using corvala::dialogs::prompt::EnterASCIICharacterDialog;
+    QVERIFY(openDemo("field2d"));
+    EnterASCIICharacterAction action(fieldRows({4, 0}), {"FieldMap", "Scatter"});
+    QString preset;
+    m_user->answer([&preset](QDialog& dialog) {
+        auto& prompt = static_cast<EnterASCIICharacterDialog&>(dialog);
+        preset = prompt.selectedChar() + (prompt.useBaseFont() ? " base" : " own");
+        prompt.setCharacter("b");
+        prompt.setUseBaseFont(false);
+        prompt.setTypeFaceOverride(FontOverride_Math);
+        prompt.accept();
+    });
+    action.trigger();
+    QCOMPARE(preset, QString("A base"));
+    const QString shape = "FieldMap.Scatter.SymbolShape.ASCIIShape.";
+    QCOMPARE(takeWrites(),
+             shape + "ASCIIChar 1,5 = \"b\"; " + shape + "UseBaseFont 1,5 = false; " + shape
+                 + "FontOverride 1,5 = 2");
+}
+
+void tst_StyleActions::choosesAColor()
+{
+    using corvala::dialogs::prompt::ColorChooserWidget;
+    QVERIFY(openDemo("field2d"));
+    QMenu menu;
+    auto* action = new SelectColorAction(fieldRows({4, 0}), false, {"FieldMap", "Shade", "Color"});
+    action->setParent(&menu);
+    menu.addAction(action);
+    menu.popup({0, 0});
+    auto* chooser = menu.findChild<ColorChooserWidget*>();
+    QVERIFY(chooser && !chooser->offersGroupColors());
+    chooser->colorButton(5)->click();
+    QCOMPARE(takeWrites(), QString("FieldMap.Shade.Color 1,5 = 5"));
+    QVERIFY(!menu.isVisible());
+}
+
+void tst_StyleActions::renamesLineMaps()
+{
+    QVERIFY(openDemo("xy"));
+    const QString name = QString::fromUtf8("Größe \"&ZN&\"");
+    MapRenameAction(lineRows({1, 3}), name).trigger();
+    QCOMPARE(columnText(*m_model, LineStaticAreaModel::MapName).split('|').at(3),
+             QString::fromUtf8("Größe \"Zone 1\""));
+    QCOMPARE(m_model->index(1, LineStaticAreaModel::MapName).data(Qt::EditRole).toString(), name);
+    QCOMPARE(Document::instance().undo().stepCount(), 1);
+    QVERIFY(!Document::instance().isLocked());
+}
+
+void tst_StyleActions::knowsCommonCurveFits_data()
+{
+    QTest::addColumn<QList<int>>("rows"); // curve types by row: 1, 1, 4, 0, ...
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("one fit") << QList<int> {0} << true;
+    QTest::newRow("same fit") << QList<int> {0, 1} << true;
+    QTest::newRow("different fits") << QList<int> {0, 2} << false;
+    QTest::newRow("no settings") << QList<int> {3} << false;
+    QTest::newRow("nothing selected") << QList<int> {} << false;
+}
+
+void tst_StyleActions::knowsCommonCurveFits()
+{
+    QFETCH(QList<int>, rows);
+    QVERIFY(openDemo("xy"));
+    QVERIFY(setStyle("LineMap.Curves.CurveType", "1-2", CurveType_PolynomialFit));
+    QVERIFY(setStyle("LineMap.Curves.CurveType", "3", CurveType_Spline));
+    QTEST(CurveFitSettingsAction("&Settings...", lineRows(rows)).isEnabled(), "enabled");
+}
+
+QTEST_MAIN(tst_StyleActions)
+#include "tst_style_actions.moc"
