@@ -9,6 +9,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <functional>
 
 namespace corvala::host::io {
 
@@ -31,6 +32,12 @@ static Sample sampleFrom(const nlohmann::json& value, const QDir& folder)
     return sample;
 }
 
+static bool isComplete(const Sample& sample)
+{
+    return std::all_of(sample.files.begin(), sample.files.end(),
+                       [](const QString& file) { return QFile::exists(file); });
+}
+
 std::vector<Sample> sampleList()
 {
     const QDir folder(samplesFolder());
@@ -38,14 +45,14 @@ std::vector<Sample> sampleList()
     if (!list.open(QIODevice::ReadOnly))
         return {};
     std::vector<Sample> result;
-    for (const nlohmann::json& value : nlohmann::json::parse(list.readAll().toStdString())) {
-        Sample sample = sampleFrom(value, folder);
-        const bool isComplete =
-            std::all_of(sample.files.begin(), sample.files.end(),
-                        [](const QString& file) { return QFile::exists(file); });
-        if (isComplete)
-            result.push_back(std::move(sample));
+    try {
+        for (const nlohmann::json& value : nlohmann::json::parse(list.readAll().toStdString()))
+            result.push_back(sampleFrom(value, folder));
+    } catch (const nlohmann::json::exception& fault) {
+        qWarning("%s: %s", qPrintable(list.fileName()), fault.what());
     }
+    result.erase(std::remove_if(result.begin(), result.end(), std::not_fn(isComplete)),
+                 result.end());
     return result;
 }
 

@@ -113,6 +113,7 @@ std::string Collection::blockName(const Entry& entry, std::map<QString, int>& us
 static vtkSmartPointer<vtkDataObject> readPart(const QString& path)
 {
     requireReadable(path);
+    requireXmlVtk(path);
     vtkNew<vtkXMLGenericDataObjectReader> reader;
     reader->SetFileName(QFile::encodeName(path).constData());
     reader->Update();

@@ -175,9 +175,9 @@ void DataSetBuilder::addLeaf(Block& block, vtkDataSet* data, double time)
     ZoneInfo info = zoneInfo(*zone);
     info.name = block.name;
     info.time = time;
-    info.sourceIndex = m_writer.write(*zone);
     m_variables.add(*zone);
     m_bounds.AddBounds(zone->GetBounds());
+    info.sourceIndex = m_writer.write(*zone);
     block.zones.push_back(info);
 }
 

@@ -13,6 +13,9 @@ namespace corvala::host::io::reader {
 
 std::unique_ptr<DataFile> openLegacyVtk(const QString& path);
 
+/// Throws ReadFailure unless the file is a VTK XML file of a kind that holds data.
+void requireXmlVtk(const QString& path);
+
 /// Serial and parallel VTK XML files of any kind.
 std::unique_ptr<DataFile> openXmlVtk(const QString& path);
 

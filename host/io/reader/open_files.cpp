@@ -59,9 +59,10 @@ QByteArray firstBytes(const QString& path, qint64 count)
 /// Of the formats that share an ending, Exodus files are netCDF or HDF5 files.
 static bool mayBe(Format format, const QString& path)
 {
+    if (format != Format::Plot3D)
+        return true;
     const QByteArray start = firstBytes(path, 4);
-    const bool isContainer = start.startsWith("CDF") || start.startsWith("\x89HDF");
-    return format == Format::Plot3D ? !isContainer : true;
+    return !start.startsWith("CDF") && !start.startsWith("\x89HDF");
 }
 
 static Format formatOf(const QString& path)
@@ -112,6 +113,7 @@ std::vector<std::unique_ptr<DataFile>> openFiles(const ReadRequest& request, con
         channel.report(path, 0,
                        ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "Opening %1"),
                                    {QFileInfo(path).fileName()}));
+        requireReadable(path, true);
         const Format format = formatOf(path);
         requireReadable(path, format == Format::Foam);
         if (format == Format::Plot3D)

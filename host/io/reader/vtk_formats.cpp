@@ -6,6 +6,7 @@
 #include <QFile>
 
 #include <vtkGenericDataObjectReader.h>
+#include <vtkNew.h>
 #include <vtkXMLGenericDataObjectReader.h>
 
 namespace corvala::host::io::reader {
@@ -34,8 +35,19 @@ std::unique_ptr<DataFile> openLegacyVtk(const QString& path)
     return std::make_unique<AlgorithmFile>(path, reader);
 }
 
+void requireXmlVtk(const QString& path)
+{
+    bool isParallel = false;
+    vtkNew<vtkXMLGenericDataObjectReader> reader;
+    if (reader->ReadOutputType(QFile::encodeName(path).constData(), isParallel) < 0)
+        throw ReadFailure(
+            path,
+            QT_TRANSLATE_NOOP("ReadMessage", "it is no VTK XML file of a kind that is known"));
+}
+
 std::unique_ptr<DataFile> openXmlVtk(const QString& path)
 {
+    requireXmlVtk(path);
     auto reader = vtkSmartPointer<vtkXMLGenericDataObjectReader>::New();
     reader->SetFileName(QFile::encodeName(path).constData());
     return std::make_unique<AlgorithmFile>(path, reader);

@@ -14,6 +14,7 @@
 #include <vtkFieldData.h>
 #include <vtkGenericCell.h>
 #include <vtkImageData.h>
+#include <vtkInformation.h>
 #include <vtkNew.h>
 #include <vtkPointData.h>
 #include <vtkRectilinearGrid.h>
@@ -24,19 +25,33 @@
 
 namespace corvala::host::io::reader {
 
-static void cleanAttributes(vtkDataSetAttributes& attributes, vtkIdType tuples,
-                            QSet<QString>& droppedArrays)
+/// The same values under clean names, so that the array of the reader stays as it is.
+static vtkSmartPointer<vtkDataArray> cleanArray(vtkDataArray& array, const std::string& name)
 {
-    for (int i = attributes.GetNumberOfArrays() - 1; i >= 0; --i) {
-        vtkAbstractArray* array = attributes.GetAbstractArray(i);
-        const std::string name = cleanName(array->GetName(), "Array " + std::to_string(i + 1));
-        array->SetName(name.c_str());
-        const bool fits = vtkDataArray::SafeDownCast(array) && array->GetNumberOfTuples() == tuples
-            && array->GetNumberOfComponents() > 0;
-        if (!fits) {
+    vtkSmartPointer<vtkDataArray> copy;
+    copy.TakeReference(array.NewInstance());
+    copy->ShallowCopy(&array);
+    if (copy->HasInformation())
+        copy->GetInformation()->Clear();
+    copy->SetName(name.c_str());
+    for (int c = 0; array.HasAComponentName() && c < array.GetNumberOfComponents(); ++c)
+        if (array.GetComponentName(c))
+            copy->SetComponentName(c, cleanName(array.GetComponentName(c), {}).c_str());
+    return copy;
+}
+
+static void cleanAttributes(vtkDataSetAttributes& source, vtkIdType tuples,
+                            vtkDataSetAttributes& target, QSet<QString>& droppedArrays)
+{
+    target.Initialize();
+    for (int i = 0; i < source.GetNumberOfArrays(); ++i) {
+        vtkAbstractArray* any = source.GetAbstractArray(i);
+        const std::string name = cleanName(any->GetName(), "Array " + std::to_string(i + 1));
+        auto* array = vtkDataArray::SafeDownCast(any);
+        if (array && array->GetNumberOfTuples() == tuples && array->GetNumberOfComponents() > 0)
+            target.AddArray(cleanArray(*array, name));
+        else
             droppedArrays.insert(QString::fromStdString(name));
-            attributes.RemoveArray(i);
-        }
     }
 }
 
@@ -48,10 +63,12 @@ vtkSmartPointer<vtkDataSet> cleanZone(vtkDataSet& zone, QSet<QString>& droppedAr
         copy = vtkSmartPointer<vtkImageData>::New();
     else
         copy.TakeReference(zone.NewInstance());
-    copy->ShallowCopy(&zone);
+    copy->CopyStructure(&zone);
     copy->SetFieldData(vtkNew<vtkFieldData>());
-    cleanAttributes(*copy->GetPointData(), zone.GetNumberOfPoints(), droppedArrays);
-    cleanAttributes(*copy->GetCellData(), zone.GetNumberOfCells(), droppedArrays);
+    cleanAttributes(*zone.GetPointData(), zone.GetNumberOfPoints(), *copy->GetPointData(),
+                    droppedArrays);
+    cleanAttributes(*zone.GetCellData(), zone.GetNumberOfCells(), *copy->GetCellData(),
+                    droppedArrays);
     return copy;
 }
 
@@ -96,6 +113,21 @@ ZoneInfo zoneInfo(vtkDataSet& zone)
     return info;
 }
 
+/// VTK's writers put names into the XML as they are.
+static void escapeNames(vtkDataSetAttributes& attributes)
+{
+    const auto escaped = [](const char* name) {
+        return QString::fromUtf8(name).toHtmlEscaped().toStdString();
+    };
+    for (int i = 0; i < attributes.GetNumberOfArrays(); ++i) {
+        vtkDataArray* array = attributes.GetArray(i);
+        array->SetName(escaped(array->GetName()).c_str());
+        for (int c = 0; array->HasAComponentName() && c < array->GetNumberOfComponents(); ++c)
+            if (array->GetComponentName(c))
+                array->SetComponentName(c, escaped(array->GetComponentName(c)).c_str());
+    }
+}
+
 ZoneWriter::ZoneWriter(const QString& folder)
     : m_folder(folder)
 {
@@ -106,6 +138,8 @@ std::int64_t ZoneWriter::write(vtkDataSet& zone)
     const auto index = static_cast<std::int64_t>(m_files.size());
     const QString name = QStringLiteral("zone-%1.xml").arg(index);
     const QString path = m_folder + QLatin1Char('/') + name;
+    escapeNames(*zone.GetPointData());
+    escapeNames(*zone.GetCellData());
     vtkNew<vtkXMLDataSetWriter> writer;
     writer->SetInputData(&zone);
     writer->SetFileName(QFile::encodeName(path).constData());

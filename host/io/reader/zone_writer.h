@@ -16,7 +16,7 @@ class vtkDataSetAttributes;
 namespace corvala::host::io::reader {
 
 /// A zone as it goes into a file: only arrays of numbers that fit its points or cells, under clean
-/// names. Nothing is copied but the bookkeeping.
+/// names. It shares points, cells and values with the original.
 vtkSmartPointer<vtkDataSet> cleanZone(vtkDataSet& zone, QSet<QString>& droppedArrays);
 
 /// Kind, dimensions and counts of a zone.
@@ -28,7 +28,8 @@ class ZoneWriter
 public:
     explicit ZoneWriter(const QString& folder);
 
-    /// Returns the source index of the zone. Throws ReadFailure when the folder's disk is full.
+    /// Writes a clean zone, whose arrays get other names thereby, and returns its source index.
+    /// Throws ReadFailure when the folder's disk is full.
     std::int64_t write(vtkDataSet& zone);
 
     const std::vector<std::string>& files() const { return m_files; }

@@ -1,0 +1,349 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "tests/io/io_support.h"
+
+#include <QEventLoop>
+#include <QSignalSpy>
+
+#include <csignal>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace corvala::host;
+using namespace corvala::host::io;
+
+static constexpr char kLegacy[] = "# vtk DataFile Version 3.0\ntitle\nASCII\n";
+
+/// The header of a classic netCDF file with one variable of eight doubles from byte 80.
+static QByteArray netcdf()
+{
+    const auto number = [](qint32 value) {
+        const qint32 swapped = qToBigEndian(value);
+        return QByteArray(reinterpret_cast<const char*>(&swapped), 4);
+    };
+    QByteArray file("CDF\1");
+    file += number(0); // records
+    file += number(10) + number(1) + number(1) + QByteArray("n\0\0\0", 4) + number(8);
+    file += number(0) + number(0); // attributes
+    file += number(11) + number(1) + number(1) + QByteArray("v\0\0\0", 4) + number(1) + number(0);
+    file += number(0) + number(0) + number(6) + number(64) + number(80);
+    return file;
+}
+
+static ReadResult waitFor(DataReader& reader)
+{
+    QSignalSpy spy(&reader, &DataReader::finished);
+    if (!spy.wait(60'000))
+        qFatal("the reader does not end");
+    QTest::qWait(20);
+    if (spy.count() != 1)
+        qFatal("finished came %d times", spy.count());
+    return spy[0][0].value<ReadResult>();
+}
+
+class TestReadFailures : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_folder = std::make_unique<DataFolder>(); }
+
+    void badFiles_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("reason");
+        const QByteArray claim = "<VTKFile type=\"ImageData\"><ImageData WholeExtent=\"0 99999 0 "
+                                 "99999 0 99999\" Origin=\"0 0 0\" Spacing=\"1 1 1\"><Piece "
+                                 "Extent=\"0 99999 0 99999 0 99999\"><PointData>";
+        const QByteArray end = "</PointData></Piece></ImageData></VTKFile>";
+        QTest::newRow("empty") << "a.vtu" << QByteArray() << "it is empty";
+        QTest::newRow("unknown ending") << "a.docx" << QByteArray("x") << "\"docx\" are not known";
+        QTest::newRow("no ending") << "a" << QByteArray("x") << "are not known";
+        QTest::newRow("not XML") << "a.vtu" << QByteArray("hello") << "no VTK XML file";
+        QTest::newRow("other XML") << "a.vtu" << QByteArray("<html></html>") << "no VTK XML file";
+        QTest::newRow("collection as grid")
+            << "a.vtu" << QByteArray("<VTKFile type=\"Collection\"/>") << "no VTK XML file";
+        QTest::newRow("XML ends early") << "a.vti" << claim.left(80) << "a.vti";
+        QTest::newRow("claims too many values")
+            << "a.vti"
+            << claim + "<DataArray type=\"Float64\" Name=\"p\" format=\"ascii\">1</DataArray>" + end
+            << "memory";
+        QTest::newRow("claims too many points") << "a.vti" << claim + end << "memory";
+        QTest::newRow("legacy without the first line")
+            << "a.vtk" << QByteArray("DATASET POLYDATA") << "# vtk DataFile";
+        QTest::newRow("UTF-16") << "a.vtk" << QByteArray("\xff\xfe#\0 \0v\0t\0k\0", 12)
+                                << "# vtk DataFile";
+        QTest::newRow("legacy without geometry")
+            << "a.vtk" << QByteArray(kLegacy) + "POINT_DATA 1\nSCALARS a float\n"
+            << "no geometry";
+        QTest::newRow("legacy ends in the points")
+            << "a.vtk" << QByteArray(kLegacy) + "DATASET POLYDATA\nPOINTS 9 float\n0 0 0 1 1"
+            << "a.vtk";
+        QTest::newRow("legacy ends in the values") << "a.vtk"
+                                                   << QByteArray(kLegacy)
+                + "DATASET STRUCTURED_POINTS\nDIMENSIONS 2 2 2\nORIGIN 0 0 0\nSPACING 1 1 1\n"
+                  "POINT_DATA 8\nSCALARS p float\nLOOKUP_TABLE default\n1 2 3"
+                                                   << "a.vtk";
+        QTest::newRow("legacy without points")
+            << "a.vtk" << QByteArray(kLegacy) + "DATASET POLYDATA\nPOINTS 0 float\n"
+            << "no zones with points";
+        QTest::newRow("legacy table")
+            << "a.vtk"
+            << QByteArray(kLegacy) + "DATASET TABLE\nROW_DATA 1\nFIELD f 1\np 1 1 float\n1\n"
+            << "no zones with points";
+        QTest::newRow("collection of nothing")
+            << "a.pvd" << QByteArray("<VTKFile type=\"Collection\"><Collection/></VTKFile>")
+            << "lists files";
+        QTest::newRow("collection with a fault")
+            << "a.pvd" << QByteArray("<VTKFile>\n<Collection>\n<DataSet></VTKFile>") << "line 3";
+        QTest::newRow("collection with a bad time")
+            << "a.pvd"
+            << QByteArray(
+                   "<VTKFile><Collection><DataSet timestep='soon' file='b.vtp'/></Collection>"
+                   "</VTKFile>")
+            << "\"soon\"";
+        QTest::newRow("collection of missing files")
+            << "a.pvd"
+            << QByteArray("<VTKFile><Collection><DataSet file='b.vtp'/></Collection></VTKFile>")
+            << "b.vtp could not be read: there is no such file";
+        QTest::newRow("collection that leads elsewhere")
+            << "a.pvd"
+            << QByteArray("<VTKFile><Collection><DataSet file='../../../../../etc/passwd'/>"
+                          "</Collection></VTKFile>")
+            << "/etc/passwd could not be read: ";
+        QTest::newRow("tree of missing files")
+            << "a.vtm"
+            << QByteArray("<VTKFile type=\"vtkMultiBlockDataSet\" version=\"1.0\">"
+                          "<vtkMultiBlockDataSet><DataSet index=\"0\" file=\"b.vtp\"/>"
+                          "</vtkMultiBlockDataSet></VTKFile>")
+            << "a.vtm";
+        QTest::newRow("not CGNS") << "a.cgns" << QByteArray(5000, 'x') << "a.cgns";
+        QTest::newRow("not EnSight") << "a.case" << QByteArray("x") << "no EnSight case file";
+        QTest::newRow("EnSight without files")
+            << "a.case" << QByteArray("FORMAT\ntype: ensight gold\nGEOMETRY\nmodel: \"b c.geo\"\n")
+            << "a.case";
+        QTest::newRow("netCDF that is cut off")
+            << "a.exo" << netcdf() + QByteArray(40, '\1') << "cut off: 120 of 144 bytes";
+        QTest::newRow("netCDF with half a header") << "a.exo" << netcdf().left(50) << "cut off";
+        QTest::newRow("netCDF that is not Exodus")
+            << "a.exo" << netcdf() + QByteArray(64, '\1') << "a.exo could not be read: ";
+        QTest::newRow("marker without a case") << "a.foam" << QByteArray() << "a.foam";
+        QTest::newRow("Plot3D with words") << "a.xyz" << QByteArray("1 2 3 D") << "no number";
+    }
+
+    void badFiles()
+    {
+        QFETCH(QString, file);
+        QFETCH(QByteArray, content);
+        QFETCH(QString, reason);
+        const QString path = m_folder->write("in/" + file, content);
+        const ReadResult result = read({path});
+        QVERIFY(!result.data);
+        QVERIFY(!result.cancelled);
+        QVERIFY2(result.error.contains(reason), qPrintable(result.error));
+        QVERIFY2(result.error.contains(" could not be read: "), qPrintable(result.error));
+        QVERIFY2(!result.error.contains('\n') && !result.error.contains("(0x"),
+                 qPrintable(result.error));
+        QCOMPARE(m_folder->leftovers(), QStringList());
+        QCOMPARE(QDir(m_folder->path("in")).entryList(QDir::Files), QStringList {file});
+    }
+
+    void cutSamples_data()
+    {
+        QTest::addColumn<QString>("opened");
+        QTest::addColumn<QString>("cut");
+        QTest::newRow("VTK XML") << "combustor_three_blocks/multicomb_0.vts"
+                                 << "combustor_three_blocks/multicomb_0.vts";
+        QTest::newRow("Exodus") << "exodus_biplane/biplane_rms_pressure_bs.exo"
+                                << "exodus_biplane/biplane_rms_pressure_bs.exo";
+        QTest::newRow("CGNS") << "cgns_hexa/cgnslib_vers-4400.cgns"
+                              << "cgns_hexa/cgnslib_vers-4400.cgns";
+        QTest::newRow("EnSight geometry") << "naca_transient/naca.bin.case"
+                                          << "naca_transient/naca.gold.bin.geo";
+        QTest::newRow("EnSight values") << "naca_transient/naca.bin.case"
+                                        << "naca_transient/naca.gold.bin.DENS_3";
+        QTest::newRow("OpenFOAM mesh") << "cavity_transient/case.foam"
+                                       << "cavity_transient/constant/polyMesh/points";
+        QTest::newRow("OpenFOAM values") << "cavity_transient/case.foam"
+                                         << "cavity_transient/2/U";
+        QTest::newRow("part of a collection")
+            << "two_spheres/dualSphereAnimation4.pvd"
+            << "two_spheres/dualSphereAnimation/dualSphereAnimation_P00T0002.vtp";
+    }
+
+    void cutSamples()
+    {
+        QFETCH(QString, opened);
+        QFETCH(QString, cut);
+        m_folder->copySample(opened.section('/', 0, 0));
+        QFile file(m_folder->path(cut));
+        QVERIFY(file.resize(file.size() / 2));
+        const ReadResult result = read({m_folder->path(opened)});
+        QVERIFY(!result.data);
+        const QString name = QFileInfo(opened).fileName();
+        QVERIFY2(result.error.contains(name) || result.error.contains(QFileInfo(cut).fileName()),
+                 qPrintable(result.error));
+        QCOMPARE(m_folder->leftovers(), QStringList());
+    }
+
+    void filesThatCannotBeOpened()
+    {
+        const ReadResult missing = read({m_folder->path("none.vtu")});
+        QCOMPARE(missing.error,
+                 m_folder->path("none.vtu") + " could not be read: there is no such file");
+        QVERIFY(read({m_folder->path("tmp")}).error.endsWith(": it is a folder"));
+        const QString pipe = m_folder->path("pipe.vtu");
+        QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+        QVERIFY(read({pipe}).error.endsWith(": it is not a regular file"));
+        QVERIFY(!read({}).error.isEmpty());
+        const ReadResult second =
+            read({DataFolder::sample("combustor_three_blocks/multicomb_0.vts"), pipe});
+        QVERIFY(!second.data && second.error.startsWith(pipe));
+        QCOMPARE(m_folder->leftovers(), QStringList());
+    }
+
+    void fileWithoutPermission()
+    {
+        if (geteuid() == 0)
+            QSKIP("root may read everything");
+        const QString path = m_folder->write("a.vtu", "x");
+        QVERIFY(QFile::setPermissions(path, {}));
+        QVERIFY(read({path}).error.contains("ermission"));
+    }
+
+    void deathOfTheReader()
+    {
+        DataReader reader;
+        ReadRequest request;
+        request.files = QStringList {DataFolder::sample("cavity_transient/case.foam")};
+        reader.start(request);
+        QVERIFY(reader.isRunning() && reader.processId() > 0);
+        QCOMPARE(kill(static_cast<pid_t>(reader.processId()), SIGKILL), 0);
+        const ReadResult result = waitFor(reader);
+        QVERIFY(!result.data && !reader.isRunning());
+        QCOMPARE(result.error,
+                 request.files[0]
+                     + " could not be read: the reader stopped unexpectedly (signal 9)");
+        QCOMPARE(m_folder->leftovers(), QStringList());
+
+        reader.start(request);
+        QVERIFY(waitFor(reader).data);
+    }
+
+    void readerThatHangs()
+    {
+        DataReader reader;
+        ReadRequest request;
+        request.files = QStringList {DataFolder::sample("cavity_transient/case.foam")};
+        request.limits.patienceMilliseconds = 300;
+        reader.start(request);
+        QCOMPARE(kill(static_cast<pid_t>(reader.processId()), SIGSTOP), 0);
+        const ReadResult result = waitFor(reader);
+        QVERIFY(!result.data);
+        QVERIFY2(result.error.contains("no progress"), qPrintable(result.error));
+        QCOMPARE(m_folder->leftovers(), QStringList());
+    }
+
+    void memoryLimit()
+    {
+        ReadRequest request;
+        request.files = QStringList {m_folder->write(
+            "a.vtk", QByteArray(kLegacy) + "DATASET POLYDATA\nPOINTS 300000000 double\n0 0 0\n")};
+        request.limits.memoryBytes = std::int64_t(3) << 30;
+        const ReadResult result = DataReader::read(request);
+        QVERIFY(!result.data);
+        QVERIFY2(result.error.contains("allocate") || result.error.contains("3 GiB"),
+                 qPrintable(result.error));
+    }
+
+    void cancelAndProgress()
+    {
+        DataReader reader;
+        ReadRequest request;
+        request.files = QStringList {DataFolder::sample("cavity_transient/case.foam")};
+        reader.start(request);
+        reader.cancel();
+        const ReadResult cancelled = waitFor(reader);
+        QVERIFY(cancelled.cancelled && !cancelled.data && cancelled.error.isEmpty());
+        QCOMPARE(m_folder->leftovers(), QStringList());
+
+        QSignalSpy progress(&reader, &DataReader::progress);
+        reader.start(request);
+        reader.start({});
+        QVERIFY(waitFor(reader).data);
+        QVERIFY(progress.count() > 0);
+        for (const QList<QVariant>& step : progress) {
+            QVERIFY(step[0].toInt() >= -1 && step[0].toInt() <= 100);
+            QVERIFY2(step[1].toString().contains("case.foam"), qPrintable(step[1].toString()));
+        }
+        reader.cancel();
+    }
+
+    void readerThatIsDeletedEndsItsProcess()
+    {
+        auto reader = std::make_unique<DataReader>();
+        ReadRequest request;
+        request.files = QStringList {DataFolder::sample("cavity_transient/case.foam")};
+        reader->start(request);
+        const auto process = static_cast<pid_t>(reader->processId());
+        reader.reset();
+        QCOMPARE(kill(process, 0), -1);
+        QCOMPARE(m_folder->leftovers(), QStringList());
+    }
+
+    void programThatSpeaksRubbish_data()
+    {
+        QTest::addColumn<QByteArray>("script");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("text") << QByteArray("echo hello") << "cannot be understood";
+        QTest::newRow("endless line")
+            << QByteArray("exec tr '\\0' x < /dev/zero") << "cannot be understood";
+        QTest::newRow("no index") << QByteArray("exit 0") << "cannot be understood";
+        QTest::newRow("rubbish as index")
+            << QByteArray("echo '{}' > \"$1/index.json\"") << "cannot be understood";
+        QTest::newRow("exit code") << QByteArray("exit 7") << "exit code 7";
+        QTest::newRow("last words")
+            << QByteArray("echo first >&2; echo the disk is full >&2; exit 7")
+            << "(the disk is full)";
+    }
+
+    void programThatSpeaksRubbish()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(QString, reason);
+        const QString program = m_folder->write("reader.sh", "#!/bin/sh\n" + script + '\n');
+        QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+        qputenv("CORVALA_READ", QFile::encodeName(program));
+        const ReadResult result = read({"/data/a.vtu"});
+        QVERIFY(!result.data);
+        QVERIFY2(result.error.startsWith("/data/a.vtu could not be read: the reader "),
+                 qPrintable(result.error));
+        QVERIFY2(result.error.contains(reason), qPrintable(result.error));
+        QCOMPARE(m_folder->leftovers(), QStringList());
+    }
+
+    void missingProgram()
+    {
+        qputenv("CORVALA_READ", "/nowhere/corvala-read");
+        QVERIFY(read({"/data/a.vtu"}).error.contains("corvala-read is missing"));
+    }
+
+    void dataOutlivesTheReader()
+    {
+        ReadResult result = read({DataFolder::sample("combustor_three_blocks/multicomb_0.vts")});
+        QVERIFY(result.data);
+        QCOMPARE(m_folder->leftovers().size(), 1);
+        const QFileInfo folder(m_folder->path("tmp/" + m_folder->leftovers()[0]));
+        QCOMPARE(folder.permissions() & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteOther),
+                 QFile::Permissions());
+        QVERIFY(result.data->geometry(1));
+        result.data.reset();
+        QCOMPARE(m_folder->leftovers(), QStringList());
+    }
+
+private:
+    std::unique_ptr<DataFolder> m_folder;
+};
+
+QTEST_GUILESS_MAIN(TestReadFailures)
+#include "tst_read_failures.moc"

@@ -1,0 +1,307 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "tests/io/io_support.h"
+
+using namespace corvala::host;
+using namespace corvala::host::io;
+
+static QByteArray xml(const QByteArray& type, const QByteArray& inner)
+{
+    return "<VTKFile type=\"" + type + "\" version=\"1.0\"><" + type + ' ' + inner + "</" + type
+        + "></VTKFile>";
+}
+
+static QByteArray array(const QByteArray& attributes, const QByteArray& numbers)
+{
+    return "<DataArray format=\"ascii\" " + attributes + ">" + numbers + "</DataArray>";
+}
+
+/// A surface of two triangles over four points.
+static QByteArray polyData(const QByteArray& pointArrays = {}, const QByteArray& cellArrays = {})
+{
+    return xml("PolyData",
+               "><Piece NumberOfPoints=\"4\" NumberOfPolys=\"2\"><PointData>" + pointArrays
+                   + "</PointData><CellData>" + cellArrays + "</CellData><Points>"
+                   + array("type=\"Float32\" NumberOfComponents=\"3\"", "0 0 0 1 0 0 1 1 0 0 1 5")
+                   + "</Points><Polys>"
+                   + array("type=\"Int64\" Name=\"connectivity\"", "0 1 2 0 2 3")
+                   + array("type=\"Int64\" Name=\"offsets\"", "3 6") + "</Polys></Piece>");
+}
+
+static QByteArray image(const QByteArray& extent, const QByteArray& pointArrays)
+{
+    return xml("ImageData",
+               "WholeExtent=\"" + extent
+                   + "\" Origin=\"1 2 3\" Spacing=\"0.5 1 1\"><Piece Extent=\"" + extent
+                   + "\"><PointData>" + pointArrays + "</PointData></Piece>");
+}
+
+static QByteArray collection(const QByteArray& entries)
+{
+    return "<VTKFile type=\"Collection\"><Collection>" + entries + "</Collection></VTKFile>";
+}
+
+static QByteArray legacy(const QByteArray& body)
+{
+    return "# vtk DataFile Version 3.0\ntitle\nASCII\n" + body;
+}
+
+class TestReadKinds : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_folder = std::make_unique<DataFolder>(); }
+
+    void kindsOfZones_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("ordered");
+        QTest::addColumn<QVector<int>>("dimensions");
+        QTest::addColumn<int>("cells");
+        QTest::addColumn<int>("cellDimension");
+        QTest::addColumn<bool>("planar");
+        QTest::newRow("image") << "a.vti" << image("0 2 0 1 0 0", {}) << true
+                               << QVector<int> {3, 2, 1} << 2 << 2 << true;
+        QTest::newRow("image that begins elsewhere") << "a.vti" << image("3 4 5 6 7 9", {}) << true
+                                                     << QVector<int> {2, 2, 3} << 2 << 3 << false;
+        QTest::newRow("rectilinear")
+            << "a.vtr"
+            << xml("RectilinearGrid",
+                   "WholeExtent=\"0 2 0 1 0 1\"><Piece Extent=\"0 2 0 1 0 1\"><Coordinates>"
+                       + array("type=\"Float64\"", "0 1 5") + array("type=\"Float64\"", "0 2")
+                       + array("type=\"Float64\"", "0 3") + "</Coordinates></Piece>")
+            << true << QVector<int> {3, 2, 2} << 2 << 3 << false;
+        QTest::newRow("surface") << "a.vtp" << polyData() << false << QVector<int> {0, 0, 0} << 2
+                                 << 2 << false;
+        QTest::newRow("lines") << "a.vtk"
+                               << legacy("DATASET POLYDATA\nPOINTS 3 float\n0 0 1 1 0 1 2 0 1\n"
+                                         "LINES 1 4\n3 0 1 2\n")
+                               << false << QVector<int> {0, 0, 0} << 1 << 1 << true;
+        QTest::newRow("points without cells")
+            << "a.vtk"
+            << legacy("DATASET UNSTRUCTURED_GRID\nPOINTS 2 float\n0 0 0 1 1 1\nCELLS 0 0\n"
+                      "CELL_TYPES 0\n")
+            << false << QVector<int> {0, 0, 0} << 0 << 0 << false;
+        QTest::newRow("mixed cells")
+            << "a.vtk"
+            << legacy("DATASET UNSTRUCTURED_GRID\nPOINTS 4 float\n0 0 0 1 0 0 0 1 0 0 0 1\n"
+                      "CELLS 2 9\n3 0 1 2\n4 0 1 2 3\nCELL_TYPES 2\n5\n10\n")
+            << false << QVector<int> {0, 0, 0} << 2 << 3 << false;
+        QTest::newRow("structured points")
+            << "a.vtk"
+            << legacy("DATASET STRUCTURED_POINTS\nDIMENSIONS 2 2 2\nORIGIN 0 0 0\nSPACING 1 1 1\n")
+            << true << QVector<int> {2, 2, 2} << 1 << 3 << false;
+        QTest::newRow("legacy structured grid of one line")
+            << "a.vtk"
+            << legacy("DATASET STRUCTURED_GRID\nDIMENSIONS 3 1 1\nPOINTS 3 double\n"
+                      "0 0 0 1 0 0 2 0 0\n")
+            << true << QVector<int> {3, 1, 1} << 2 << 1 << true;
+    }
+
+    void kindsOfZones()
+    {
+        QFETCH(QString, file);
+        QFETCH(QByteArray, content);
+        QFETCH(QVector<int>, dimensions);
+        const ReadResult result = read({m_folder->write(file, content)});
+        QVERIFY2(result.data, qPrintable(result.error));
+        const DataSet& data = *result.data;
+        QCOMPARE(zoneNames(data), QStringList {"a"});
+        QCOMPARE(QString::fromStdString(data.title), QString("a"));
+        const ZoneInfo& zone = data.zone(1);
+        QTEST(zone.ordered, "ordered");
+        for (std::size_t i = 0; i < 3; ++i)
+            QCOMPARE(static_cast<int>(zone.dimensions[i]), dimensions[static_cast<int>(i)]);
+        QTEST(static_cast<int>(zone.cellCount), "cells");
+        QTEST(zone.cellDimension, "cellDimension");
+        QTEST(data.isPlanar, "planar");
+        QCOMPARE(zone.strand, 0);
+        QCOMPARE(std::int64_t(data.geometry(1)->GetNumberOfPoints()), zone.pointCount);
+        QCOMPARE(m_folder->leftovers().size(), 1);
+    }
+
+    void parallelPiecesAreOneZone()
+    {
+        m_folder->write("piece.vtp", polyData());
+        const QString path = m_folder->write(
+            "all.pvtp",
+            "<VTKFile type=\"PPolyData\"><PPolyData GhostLevel=\"0\"><PPoints>"
+            "<PDataArray type=\"Float32\" NumberOfComponents=\"3\"/></PPoints>"
+            "<Piece Source=\"piece.vtp\"/><Piece Source=\"piece.vtp\"/></PPolyData></VTKFile>");
+        const ReadResult result = read({path});
+        QVERIFY2(result.data, qPrintable(result.error));
+        QCOMPARE(zoneNames(*result.data), QStringList {"all"});
+        QCOMPARE(result.data->zone(1).pointCount, std::int64_t(8));
+    }
+
+    void coordinatesOfAnImage()
+    {
+        const ReadResult result = read({m_folder->write("a.vti", image("1 2 0 1 0 0", {}))});
+        QVERIFY2(result.data, qPrintable(result.error));
+        QCOMPARE(values(*result.data, 1, "X"), (QVector<double> {1.5, 2, 1.5, 2}));
+        QCOMPARE(values(*result.data, 1, "Y"), (QVector<double> {2, 2, 3, 3}));
+        QCOMPARE(values(*result.data, 1, "Z"), QVector<double>(4, 3.0));
+    }
+
+    void arraysBecomeVariables()
+    {
+        const QByteArray nine = "1 2 3 4 5 6 7 8 9 ";
+        const QByteArray pointArrays =
+            array("type=\"Float64\" Name=\"p\"", "1 2 3 4")
+            + array("type=\"Float32\" Name=\"speed\" NumberOfComponents=\"2\"", "1 2 3 4 5 6 7 8")
+            + array("type=\"Float32\" Name=\"Stress\" NumberOfComponents=\"9\"", nine.repeated(4))
+            + array("type=\"Float32\" Name=\"Rate\" NumberOfComponents=\"6\" ComponentName0=\"XX\" "
+                    "ComponentName1=\"YY\"",
+                    "1 2 3 4 5 6 1 2 3 4 5 6 1 2 3 4 5 6 1 2 3 4 5 6")
+            + array(
+                "type=\"Float32\" Name=\"T\" NumberOfComponents=\"4\" ComponentName0=\"&lt;a&gt;\"",
+                "1 2 3 4 1 2 3 4 1 2 3 4 1 2 3 4")
+            + array("type=\"UInt8\" Name=\"vtkGhostType\"", "0 0 0 0")
+            + array("type=\"String\" Name=\"label\"", "97 0 98 0 99 0 100 0");
+        const QByteArray cellArrays = array("type=\"Int32\" Name=\"p\"", "7 8")
+            + array("type=\"Int32\" Name=\"q&lt;1&gt; \xc3\xa4\"", "5 6");
+        const ReadResult result =
+            read({m_folder->write("a.vtp", polyData(pointArrays, cellArrays))});
+        QVERIFY2(result.data, qPrintable(result.error));
+        QCOMPARE(variableNames(*result.data).join(","),
+                 QString::fromUtf8("X,Y,Z,p,speed X,speed Y,Stress 1,Stress 2,Stress 3,Stress 4,"
+                                   "Stress 5,Stress 6,Stress 7,Stress 8,Stress 9,Rate XX,Rate YY,"
+                                   "Rate 3,Rate 4,Rate 5,Rate 6,T <a>,T 2,T 3,T 4,q<1> \xc3\xa4"));
+        QCOMPARE(values(*result.data, 1, "p"), (QVector<double> {1, 2, 3, 4}));
+        QCOMPARE(values(*result.data, 1, "Stress 9"), QVector<double>(4, 9.0));
+        QCOMPARE(values(*result.data, 1, QString::fromUtf8("q<1> \xc3\xa4")),
+                 (QVector<double> {5, 6}));
+        QCOMPARE(result.data->vectorVariables, (std::array<int, 3> {{5, 6, 0}}));
+        QCOMPARE(result.data->contourVariables[0], 4);
+        QCOMPARE(result.data->notes.size(), std::size_t(1));
+        QVERIFY2(result.data->notes[0].find(": label.") != std::string::npos,
+                 result.data->notes[0].c_str());
+    }
+
+    void vectorProposal_data()
+    {
+        QTest::addColumn<QByteArray>("names");
+        QTest::addColumn<int>("first");
+        QTest::newRow("velocity wins") << QByteArray("Gradient Momentum Velocity") << 10;
+        QTest::newRow("momentum before others") << QByteArray("Gradient Momentum") << 7;
+        QTest::newRow("normals last") << QByteArray("Normals Gradient") << 7;
+        QTest::newRow("first of equals") << QByteArray("Gradient Force") << 4;
+        QTest::newRow("U is a velocity") << QByteArray("Force U") << 7;
+    }
+
+    void vectorProposal()
+    {
+        QFETCH(QByteArray, names);
+        QFETCH(int, first);
+        QByteArray arrays;
+        for (const QByteArray& name : names.split(' '))
+            arrays += array("type=\"Float32\" NumberOfComponents=\"3\" Name=\"" + name + '"',
+                            "1 2 3 4 5 6 7 8 9 10 11 12");
+        const ReadResult result = read({m_folder->write("a.vtp", polyData(arrays))});
+        QVERIFY2(result.data, qPrintable(result.error));
+        QCOMPARE(result.data->vectorVariables,
+                 (std::array<int, 3> {{first, first + 1, first + 2}}));
+    }
+
+    void namesOfBlocks()
+    {
+        m_folder->write("p.vtp", polyData());
+        const QString path = m_folder->write(
+            "tree.vtm",
+            "<VTKFile type=\"vtkMultiBlockDataSet\" version=\"1.0\"><vtkMultiBlockDataSet>"
+            "<Block index=\"0\" name=\"wing/left\"><DataSet index=\"0\" file=\"p.vtp\"/>"
+            "<DataSet index=\"1\" name=\"tip\" file=\"p.vtp\"/><DataSet index=\"2\"/></Block>"
+            "<DataSet index=\"1\" file=\"p.vtp\"/><Block index=\"2\" name=\"none\"/>"
+            "<Block index=\"3\" name=\"wing\"><DataSet index=\"0\" name=\"left/tip\" "
+            "file=\"p.vtp\"/></Block></vtkMultiBlockDataSet></VTKFile>");
+        const ReadResult one = read({path});
+        QVERIFY2(one.data, qPrintable(one.error));
+        QCOMPARE(zoneNames(*one.data),
+                 (QStringList {"wing/left/Block 1", "wing/left/tip", "Block 2", "wing/left/tip"}));
+        QCOMPARE(QString::fromStdString(one.data->notes.at(0)),
+                 QString("1 empty block was left out."));
+
+        const ReadResult two = read({path, m_folder->path("p.vtp")});
+        QVERIFY2(two.data, qPrintable(two.error));
+        QCOMPARE(zoneNames(*two.data).mid(3), (QStringList {"tree/wing/left/tip", "p"}));
+
+        m_folder->write("b/p.vtp", polyData());
+        m_folder->write("p.vtk",
+                        legacy("DATASET STRUCTURED_POINTS\nDIMENSIONS 2 2 2\n"
+                               "ORIGIN 0 0 0\nSPACING 1 1 1\n"));
+        const ReadResult same = read({m_folder->path("p.vtk"), m_folder->path("b/p.vtp")});
+        QVERIFY2(same.data, qPrintable(same.error));
+        QCOMPARE(zoneNames(*same.data), (QStringList {"p.vtk", "p.vtp"}));
+    }
+
+    void collectionsByTimeGroupAndPart_data()
+    {
+        QTest::addColumn<QByteArray>("entries");
+        QTest::addColumn<QString>("zones");
+        QTest::newRow("one part at one time") << QByteArray("<DataSet file='p.vtp'/>") << "all@0s0";
+        QTest::newRow("one part over time, not in order")
+            << QByteArray("<DataSet timestep='2e1' file='p.vtp'/><DataSet timestep='.5' "
+                          "file='p.vtp'/>")
+            << "all@0.5s1 all@20s1";
+        QTest::newRow("groups and parts")
+            << QByteArray("<DataSet timestep='1' group='wing' part='0' file='p.vtp'/>"
+                          "<DataSet timestep='1' group='wing' part='4' file='p.vtp'/>"
+                          "<DataSet timestep='1' group='hull' part='0' name='bow' file='p.vtp'/>"
+                          "<DataSet timestep='2' group='wing' part='4' file='p.vtp'/>")
+            << "wing/Part 1@1s1 wing/Part 5@1s2 wing/Part 5@2s2 hull/bow@1s3";
+        QTest::newRow("a tree as part") << QByteArray(
+            "<DataSet timestep='1' file='t.vtm'/><DataSet timestep='2' file='p.vtp'/>")
+                                        << "all/a@1s1 all@2s2";
+    }
+
+    void collectionsByTimeGroupAndPart()
+    {
+        QFETCH(QByteArray, entries);
+        m_folder->write("p.vtp", polyData());
+        m_folder->write("t.vtm",
+                        "<VTKFile type=\"vtkMultiBlockDataSet\" version=\"1.0\">"
+                        "<vtkMultiBlockDataSet><DataSet index=\"0\" name=\"a\" file=\"p.vtp\"/>"
+                        "</vtkMultiBlockDataSet></VTKFile>");
+        const ReadResult result = read({m_folder->write("all.pvd", collection(entries))});
+        QVERIFY2(result.data, qPrintable(result.error));
+        QStringList zones;
+        for (const ZoneInfo& zone : result.data->zones)
+            zones << QString("%1@%2s%3")
+                         .arg(QString::fromStdString(zone.name))
+                         .arg(zone.time)
+                         .arg(zone.strand);
+        QTEST(zones.join(" "), "zones");
+    }
+
+    void namesThatAreNoText()
+    {
+        const QString path = m_folder->write(
+            "a.vtk",
+            legacy("DATASET STRUCTURED_POINTS\nDIMENSIONS 2 1 1\nORIGIN 0 0 0\nSPACING 1 1 1\n"
+                   "POINT_DATA 2\nSCALARS Gr\xf6\xdf"
+                   "e float\nLOOKUP_TABLE default\n1 2\n"));
+        const ReadResult result = read({path});
+        QVERIFY2(result.data, qPrintable(result.error));
+        QCOMPARE(variableNames(*result.data).value(3),
+                 QString::fromUtf8("Gr\xc3\xb6\xc3\x9f"
+                                   "e"));
+        QCOMPARE(values(*result.data, 1,
+                        QString::fromUtf8("Gr\xc3\xb6\xc3\x9f"
+                                          "e")),
+                 (QVector<double> {1, 2}));
+    }
+
+    void filesWithUnusualNames()
+    {
+        const ReadResult result = read({m_folder->write("ein Flügel %1 \"#1\".vtp", polyData())});
+        QVERIFY2(result.data, qPrintable(result.error));
+        QCOMPARE(zoneNames(*result.data), QStringList {"ein Flügel %1 \"#1\""});
+    }
+
+private:
+    std::unique_ptr<DataFolder> m_folder;
+};
+
+QTEST_GUILESS_MAIN(TestReadKinds)
+#include "tst_read_kinds.moc"

@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/sample_list.h"
+#include "tests/io/io_support.h"
+
+#include <vtkFieldData.h>
+#include <vtkPolyData.h>
+#include <vtkStructuredGrid.h>
+#include <vtkUnstructuredGrid.h>
+
+#include <algorithm>
+
+using namespace corvala::host;
+using namespace corvala::host::io;
+
+class TestReadSamples : public QObject
+{
+    Q_OBJECT
+
+    DataFolder m_folder;
+
+private Q_SLOTS:
+    void zonesAndVariables_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<int>("zones");
+        QTest::addColumn<int>("strands");
+        QTest::addColumn<QString>("secondZone");
+        QTest::addColumn<QVector<int>>("dimensions");
+        QTest::addColumn<QString>("variables");
+        QTest::addColumn<QVector<int>>("vector");
+        QTest::addColumn<bool>("planar");
+
+        QTest::newRow("blocks in three files")
+            << QStringList {"combustor_three_blocks/multicomb_0.vts",
+                            "combustor_three_blocks/multicomb_1.vts",
+                            "combustor_three_blocks/multicomb_2.vts"}
+            << 3 << 0 << "multicomb_1" << QVector<int> {8, 12, 9}
+            << "X,Y,Z,Density,Momentum X,Momentum Y,Momentum Z,StagnationEnergy"
+            << QVector<int> {5, 6, 7} << false;
+        QTest::newRow("Plot3D")
+            << QStringList {"combustor_plot3d/multi-bin.xyz"} << 2 << 0 << "Block 2"
+            << QVector<int> {8, 12, 12}
+            << "X,Y,Z,Density,Momentum X,Momentum Y,Momentum Z,StagnationEnergy,Function0,Function1"
+            << QVector<int> {5, 6, 7} << false;
+        QTest::newRow("Plot3D by its index")
+            << QStringList {"combustor_plot3d/multi.p3d"} << 2 << 0 << "Block 2"
+            << QVector<int> {8, 12, 12}
+            << "X,Y,Z,Density,Momentum X,Momentum Y,Momentum Z,StagnationEnergy,Function0,Function1"
+            << QVector<int> {5, 6, 7} << false;
+        QTest::newRow("EnSight") << QStringList {"naca_transient/naca.bin.case"} << 6 << 3
+                                 << "block 1, Mins/Maxs=(I:1/73,J:1/65,K:1/1)"
+                                 << QVector<int> {73, 65, 1} << "X,Y,Z,DENS"
+                                 << QVector<int> {0, 0, 0} << true;
+        QTest::newRow("OpenFOAM by its marker")
+            << QStringList {"cavity_transient/case.foam"} << 24 << 4 << "internalMesh"
+            << QVector<int> {0, 0, 0} << "X,Y,Z,U X,U Y,U Z,p" << QVector<int> {4, 5, 6} << false;
+        QTest::newRow("OpenFOAM by its controlDict")
+            << QStringList {"cavity_transient/system/controlDict"} << 24 << 4 << "internalMesh"
+            << QVector<int> {0, 0, 0} << "X,Y,Z,U X,U Y,U Z,p" << QVector<int> {4, 5, 6} << false;
+        QTest::newRow("Exodus") << QStringList {"exodus_biplane/biplane_rms_pressure_bs.exo"} << 59
+                                << 0 << "Element Blocks/Unnamed block ID: 2"
+                                << QVector<int> {0, 0, 0} << "X,Y,Z,ObjectId,PressureRMS"
+                                << QVector<int> {0, 0, 0} << false;
+        QTest::newRow("collection of five times")
+            << QStringList {"two_spheres/dualSphereAnimation4.pvd"} << 10 << 2 << "Part 1"
+            << QVector<int> {0, 0, 0}
+            << "X,Y,Z,Normals X,Normals Y,Normals Z,cellNormals X,cellNormals Y,cellNormals Z"
+            << QVector<int> {4, 5, 6} << false;
+    }
+
+    void zonesAndVariables()
+    {
+        QFETCH(QStringList, files);
+        QFETCH(int, zones);
+        QFETCH(int, strands);
+        QFETCH(QString, secondZone);
+        QFETCH(QVector<int>, dimensions);
+        QFETCH(QVector<int>, vector);
+        for (QString& file : files)
+            file = DataFolder::sample(file);
+        const ReadResult result = read(files);
+        QVERIFY2(result.data, qPrintable(result.error));
+        const DataSet& data = *result.data;
+        QCOMPARE(static_cast<int>(data.zoneCount()), zones);
+        int lastStrand = 0;
+        for (const ZoneInfo& zone : data.zones)
+            lastStrand = std::max(lastStrand, zone.strand);
+        QCOMPARE(lastStrand, strands);
+        QCOMPARE(zoneNames(data)[1], secondZone);
+        for (std::size_t i = 0; i < 3; ++i)
+            QCOMPARE(static_cast<int>(data.zones[1].dimensions[i]),
+                     dimensions[static_cast<int>(i)]);
+        QTEST(variableNames(data).join(","), "variables");
+        for (std::size_t i = 0; i < 3; ++i)
+            QCOMPARE(data.vectorVariables[i], vector[static_cast<int>(i)]);
+        QTEST(data.isPlanar, "planar");
+        QVERIFY(!data.contourVariables.empty() && data.contourVariables[0] > 3);
+        QCOMPARE(static_cast<int>(data.files.size()), files.size());
+        QCOMPARE(data.notes, std::vector<std::string>());
+    }
+
+    void geometryIsWhatTheZonesSay_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        for (const Sample& sample : sampleList())
+            QTest::newRow(qPrintable(sample.title)) << sample.files;
+    }
+
+    void geometryIsWhatTheZonesSay()
+    {
+        QFETCH(QStringList, files);
+        const ReadResult result = read(files);
+        QVERIFY2(result.data, qPrintable(result.error));
+        const DataSet& data = *result.data;
+        for (std::int64_t number = 1; number <= data.zoneCount(); ++number) {
+            const ZoneInfo& zone = data.zone(number);
+            const vtkSmartPointer<vtkDataSet> geometry = data.geometry(number);
+            QVERIFY2(geometry, zone.name.c_str());
+            QCOMPARE(std::int64_t(geometry->GetNumberOfPoints()), zone.pointCount);
+            QCOMPARE(std::int64_t(geometry->GetNumberOfCells()), zone.cellCount);
+            const bool isCells =
+                vtkUnstructuredGrid::SafeDownCast(geometry) || vtkPolyData::SafeDownCast(geometry);
+            QCOMPARE(zone.ordered, !isCells);
+            QCOMPARE(geometry->GetFieldData()->GetNumberOfArrays(), 0);
+            int dimensions[3] = {0, 0, 0};
+            if (auto* grid = vtkStructuredGrid::SafeDownCast(geometry))
+                grid->GetDimensions(dimensions);
+            for (std::size_t i = 0; i < 3; ++i)
+                QCOMPARE(std::int64_t(dimensions[i]), zone.dimensions[i]);
+        }
+        for (std::int64_t variable = 1; variable <= data.variableCount(); ++variable) {
+            bool isAnywhere = false;
+            for (std::int64_t zone = 1; zone <= data.zoneCount() && !isAnywhere; ++zone)
+                isAnywhere = data.values(zone, variable).array != nullptr;
+            QVERIFY2(isAnywhere, data.variable(variable).name.c_str());
+        }
+    }
+
+    void strandsAndTimes()
+    {
+        const ReadResult cavity = read({DataFolder::sample("cavity_transient/case.foam")});
+        QVERIFY2(cavity.data, qPrintable(cavity.error));
+        QCOMPARE(cavity.data->solutionTimes(), (std::vector<double> {0, 0.5, 1, 1.5, 2, 2.5}));
+        QCOMPARE(zoneNames(*cavity.data).mid(0, 7).join(","),
+                 QString("internalMesh,internalMesh,internalMesh,internalMesh,internalMesh,"
+                         "internalMesh,boundary/movingWall"));
+
+        const ReadResult spheres =
+            read({DataFolder::sample("two_spheres/dualSphereAnimation4NoPart.pvd")});
+        QVERIFY2(spheres.data, qPrintable(spheres.error));
+        QCOMPARE(spheres.data->zoneCount(), std::int64_t(9));
+        QCOMPARE(spheres.data->zone(5).strand, 1);
+        QCOMPARE(spheres.data->zone(6).strand, 2);
+        QCOMPARE(spheres.data->zone(6).time, 1.0);
+    }
+
+    void valuesAreThoseOfTheFile()
+    {
+        const ReadResult result = read({DataFolder::sample("cavity_transient/case.foam")});
+        QVERIFY2(result.data, qPrintable(result.error));
+        const QVector<double> pressure = values(*result.data, 2, "p");
+        const QVector<double> u = values(*result.data, 2, "U X");
+        QCOMPARE(pressure.size(), 400);
+        QCOMPARE(static_cast<float>(pressure[1]), -0.0058199f);
+        QCOMPARE(static_cast<float>(u[2]), -0.0011771f);
+        QCOMPARE(result.data->values(2, 7).location, ValueLocation::Cells);
+        const QVector<double> lid = values(*result.data, 8, "U X");
+        QCOMPARE(lid, QVector<double>(20, 1.0));
+        QVERIFY(values(*result.data, 1, "U X") != u);
+    }
+
+    void quotedNamesInACaseFile()
+    {
+        const QDir sample(m_folder.copySample("naca_transient"));
+        QDir(sample).mkdir("my data");
+        for (const char* name :
+             {"naca.gold.bin.geo", "naca.gold.bin.DENS_1", "naca.gold.bin.DENS_3"})
+            QVERIFY(QFile::rename(sample.filePath(name), sample.filePath("my data/") + name));
+        const QString path = m_folder.write("naca_transient/quoted.case", R"(FORMAT
+type: ensight gold
+GEOMETRY
+model: "my data/naca.gold.bin.geo"
+VARIABLE
+scalar per node: 1 "DENS" "my data/naca.gold.bin.DENS_*"
+TIME
+time set: 1
+number of steps: 2
+filename numbers: 1 3
+time values: 0.1 3
+)");
+        const ReadResult result = read({path});
+        QVERIFY2(result.data, qPrintable(result.error));
+        const ReadResult plain = read({DataFolder::sample("naca_transient/naca.bin.case")});
+        QCOMPARE(result.data->zoneCount(), plain.data->zoneCount());
+        QCOMPARE(result.data->solutionTimes(), (std::vector<double> {0.1, 3.0}));
+        QCOMPARE(values(*result.data, 2, "DENS"), values(*plain.data, 2, "DENS"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestReadSamples)
+#include "tst_read_samples.moc"
