@@ -20,7 +20,7 @@ static std::uint64_t bitOf(int row)
 
 static bool isFlat(const QItemSelectionRange& range)
 {
-    return range.isValid() && !range.parent().isValid();
+    return !range.parent().isValid();
 }
 
 static bool coversAllColumns(const QItemSelectionRange& range, int columnCount)
