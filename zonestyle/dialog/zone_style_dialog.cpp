@@ -24,6 +24,8 @@
 
 #include <boost/make_shared.hpp>
 
+#include <utility>
+
 namespace corvala::sdk::ui::dialogs {
 
 using corvala::dialogs::common::TabWidgetLaunchHelpAction;
@@ -119,10 +121,21 @@ void ZoneStyleDialog::setVisible(bool visible)
 {
     if (visible && !isVisible()) {
         catchUp();
-        if (size() == zonestyle::intern::ZoneStyleForm::initialSize())
-            resize(sizeHint().expandedTo(minimumSizeHint()));
+        if (!std::exchange(m_hasBeenShown, true))
+            adoptPreferredSize();
     }
     QtDialogAbstract::setVisible(visible);
+}
+
+/// The sizes that the form had without a table are still remembered: tab widgets that are not
+/// visible do not hear that their pages want more room.
+void ZoneStyleDialog::adoptPreferredSize()
+{
+    for (QWidget* container : {static_cast<QWidget*>(m_form->fieldTabs),
+                               static_cast<QWidget*>(m_form->lineTabs),
+                               static_cast<QWidget*>(m_form->plotTypeStackedWidget)})
+        container->updateGeometry();
+    resize(sizeHint().expandedTo(minimumSizeHint()));
 }
 
 } // namespace corvala::sdk::ui::dialogs

@@ -124,6 +124,7 @@ private:
 
     // Pages and tabs
     void installHelpAction();
+    void adoptPreferredSize();
     void updateZoneStyleDialog();
     void showFieldPage();
     void showLinePage();
@@ -187,6 +188,7 @@ private:
     std::optional<WantedTab> m_wantedTab;
     bool m_changeMissed = false; ///< the document changed while the dialog was not open
     bool m_plotTypeChangeMissed = false;
+    bool m_hasBeenShown = false;
     int m_refreshCount = 0;
 };
 

@@ -59,7 +59,7 @@ std::vector<QWidget*> addTabs(QTabWidget& tabWidget, const Tabs& tabs)
 void ZoneStyleForm::setupUi(QDialog& dialog)
 {
     named(&dialog, "ZoneStyle");
-    dialog.resize(initialSize());
+    dialog.resize(661, 237);
     auto* vboxLayout = named(new QVBoxLayout(&dialog), "vboxLayout");
     plotTypeStackedWidget = named(new QStackedWidget(&dialog), "plotTypeStackedWidget");
     addFieldPage();

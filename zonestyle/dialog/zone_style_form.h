@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QSize>
-
 #include <array>
 #include <vector>
 
@@ -22,9 +20,6 @@ class ZoneStyleForm
 {
 public:
     static constexpr int kMapToolCount = 5;
-
-    /// The size before the tables are known.
-    static constexpr QSize initialSize() { return {661, 237}; }
 
     /// Builds the form and connects the dialog's slots by name. To be called once.
     void setupUi(QDialog& dialog);

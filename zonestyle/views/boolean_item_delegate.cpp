@@ -34,6 +34,11 @@ bool BooleanItemDelegate::isOnCheckBox(const QStyleOptionViewItem& option, const
     return box.contains(position);
 }
 
+void BooleanItemDelegate::drawDisplay(QPainter*, const QStyleOptionViewItem&, const QRect&,
+                                      const QString&) const
+{
+}
+
 void BooleanItemDelegate::drawCheck(QPainter* painter, const QStyleOptionViewItem& option,
                                     const QRect& rect, Qt::CheckState state) const
 {

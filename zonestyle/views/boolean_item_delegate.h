@@ -18,6 +18,9 @@ public:
                      const QModelIndex& index) override;
 
 protected:
+    /// Draws no text: it would cover the check box with the background of a selected cell.
+    void drawDisplay(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,
+                     const QString& text) const override;
     void drawCheck(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,
                    Qt::CheckState state) const override;
 

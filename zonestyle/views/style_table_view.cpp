@@ -13,10 +13,12 @@
 
 #include <sdk/base/cvl.h>
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMenu>
 
+#include <cmath>
 #include <map>
 #include <tuple>
 
@@ -36,6 +38,14 @@ std::map<std::tuple<CvlInt64, int, int>, int>& columnWidths()
 constexpr int kHeaderRoom = 34; // pixels
 constexpr int kLeastRows = 6;
 
+QColor blend(const QColor& from, const QColor& to, double share)
+{
+    const auto between
+        = [share](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * share)); };
+    return QColor(between(from.red(), to.red()), between(from.green(), to.green()),
+                  between(from.blue(), to.blue()));
+}
+
 } // namespace
 
 StyleTableView::StyleTableView(QWidget* parent)
@@ -49,6 +59,30 @@ StyleTableView::StyleTableView(QWidget* parent)
     setWordWrap(false);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    adoptPalette();
+}
+
+/// Selected rows are tinted, not filled: swatches, check boxes and greyed texts stay readable.
+void StyleTableView::adoptPalette()
+{
+    QPalette colors = QApplication::palette(this);
+    const QColor base = colors.color(QPalette::Active, QPalette::Base);
+    const QColor text = colors.color(QPalette::Active, QPalette::Text);
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        const QColor highlight = colors.color(group, QPalette::Highlight);
+        colors.setColor(group, QPalette::Highlight, blend(base, highlight, 0.3));
+        colors.setColor(group, QPalette::HighlightedText, text);
+    }
+    colors.setColor(QPalette::Disabled, QPalette::Text, blend(base, text, 0.5));
+    setPalette(colors);
+}
+
+void StyleTableView::changeEvent(QEvent* event)
+{
+    TableView::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::StyleChange)
+        adoptPalette();
 }
 
 void StyleTableView::setModel(ModelAbstract* newModel, int tabKey)

@@ -37,6 +37,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -48,6 +49,7 @@ private Q_SLOTS:
 private:
     enum class Sizing { Reset, KeepRemembered };
 
+    void adoptPalette();
     bool editColumnEvent(QContextMenuEvent* event);
     void openMenuAtCurrentCell();
     void showMenu(const QList<QAction*>& actions, const QPoint& globalPosition);
