@@ -55,6 +55,7 @@ private Q_SLOTS:
     void offersSizes();
     void entersANumber_data();
     void entersANumber();
+    void asksOverTheDialog();
     void selectsAVariable();
     void selectsAZone();
     void entersThreeValues();
@@ -157,18 +158,18 @@ void tst_StyleActions::doesNothingWithoutRows()
 
 namespace {
 
-/// A layer that is about to be shown: what is active and off, what is asked, answered and written.
+/// A layer that is about to be shown. Letters: l the layer, s the surfaces; y and n.
 struct LayerCase
 {
     const char* category;
-    char value = 1;
-    int zones = 1; ///< the first is a volume zone, the second is none
+    const char* asked = "";
+    const char* answers = "";
+    bool surfacesDrawn = false; ///< in the end
     int surfaces = SurfacesToPlot_None;
     int points = PointsToPlot_SurfaceNodes;
+    int zones = 1; ///< the first is a volume zone, the second is none
+    char value = 1;
     const char* attribute = "Show";
-    const char* answers = ""; ///< y and n
-    QStringList asked = {};
-    bool surfacesDrawn = false; ///< in the end
 };
 
 } // namespace
@@ -177,66 +178,26 @@ Q_DECLARE_METATYPE(LayerCase)
 
 void tst_StyleActions::asksBeforeShowingALayer_data()
 {
-    const QString layer = "Show Layer";
-    const QString surfaces = "Show Surfaces";
     QTest::addColumn<LayerCase>("c");
     const auto row = [](const char* name, const LayerCase& c) { QTest::newRow(name) << c; };
+    constexpr int none = SurfacesToPlot_None;
+    constexpr int planes = SurfacesToPlot_IPlanes;
+    constexpr int nodes = PointsToPlot_SurfaceNodes;
+    constexpr int allNodes = PointsToPlot_AllNodes;
+    constexpr int centers = PointsToPlot_SurfaceCellCenters;
 
-    LayerCase mesh {"Mesh"};
-    mesh.answers = "yy";
-    mesh.asked = QStringList {layer, surfaces};
-    mesh.surfacesDrawn = true;
-    row("volume zone without surfaces", mesh);
-
-    LayerCase noSurfaces = mesh;
-    noSurfaces.answers = "yn";
-    noSurfaces.surfacesDrawn = false;
-    row("surfaces refused", noSurfaces);
-
-    LayerCase refused {"Mesh"};
-    refused.answers = "n";
-    refused.asked = QStringList {layer};
-    row("layer refused", refused);
-
-    LayerCase mixed {"Mesh"};
-    mixed.zones = 2;
-    row("a zone that is no volume", mixed);
-
-    LayerCase hiding {"Mesh"};
-    hiding.value = 0;
-    row("hiding asks nothing", hiding);
-
-    LayerCase drawn {"Shade"};
-    drawn.surfaces = SurfacesToPlot_IPlanes;
-    drawn.answers = "y";
-    drawn.asked = QStringList {layer};
-    drawn.surfacesDrawn = true;
-    row("surfaces are drawn", drawn);
-
-    LayerCase edges {"EdgeLayer"};
-    edges.answers = "y";
-    edges.asked = QStringList {layer};
-    row("edges need no surfaces", edges);
-
-    LayerCase allPoints {"Vector"};
-    allPoints.points = PointsToPlot_AllNodes;
-    allPoints.answers = "y";
-    allPoints.asked = QStringList {layer};
-    row("vectors at all points", allPoints);
-
-    LayerCase surfacePoints {"Scatter"};
-    surfacePoints.points = PointsToPlot_SurfaceCellCenters;
-    surfacePoints.answers = "yn";
-    surfacePoints.asked = QStringList {layer, surfaces};
-    row("symbols at surface points", surfacePoints);
-
-    LayerCase meshPoints = mesh;
-    meshPoints.points = PointsToPlot_AllNodes;
-    row("points do not matter to meshes", meshPoints);
-
-    LayerCase lighting {"Shade"};
-    lighting.attribute = "UseLightingEffect";
-    row("lighting is no layer", lighting);
+    row("volume without surfaces", {"Mesh", "ls", "yy", true});
+    row("surfaces refused", {"Mesh", "ls", "yn"});
+    row("layer refused", {"Mesh", "l", "n"});
+    row("surfaces are drawn", {"Shade", "l", "y", true, planes});
+    row("edges need no surfaces", {"EdgeLayer", "l", "y"});
+    row("vectors at all points", {"Vector", "l", "y", false, none, allNodes});
+    row("symbols at surface points", {"Scatter", "ls", "yn", false, none, centers});
+    row("points do not matter to meshes", {"Mesh", "ls", "yy", true, none, allNodes});
+    row("a zone that is no volume", {"Mesh", "", "", false, none, nodes, 2});
+    row("such a zone after surfaces", {"Mesh", "", "", true, planes, nodes, 2});
+    row("hiding asks nothing", {"Mesh", "", "", false, none, nodes, 1, 0});
+    row("lighting is no layer", {"Shade", "", "", false, none, nodes, 1, 1, "UseLightingEffect"});
 }
 
 void tst_StyleActions::asksBeforeShowingALayer()
@@ -255,10 +216,12 @@ void tst_StyleActions::asksBeforeShowingALayer()
     StyleAction<char> action("Yes", fieldRows({0}), c.value, {"FieldMap", c.category, c.attribute});
     action.trigger();
 
-    QStringList asked;
+    QString asked;
     for (const QString& seen : m_user->takeSeen())
-        asked << seen.section(':', 0, 0);
-    QCOMPARE(asked, c.asked);
+        asked += seen.startsWith("Show Layer:") ? 'l'
+            : seen.startsWith("Show Surfaces:") ? 's'
+                                                : '?';
+    QCOMPARE(asked, QString(c.asked));
     const QString written =
         QString("FieldMap.%1.%2 1 = %3").arg(c.category, c.attribute, c.value ? "true" : "false");
     QVERIFY2(takeWrites().endsWith(written), "written last, whatever the answers");
@@ -370,6 +333,28 @@ void tst_StyleActions::entersANumber()
     const QString seen = m_user->takeSeen().join("");
     QVERIFY2(seen.startsWith("Title: Label [0.25, ") && seen.endsWith(" to 100]"),
              qPrintable(seen));
+}
+
+static QWidget* theDialog = nullptr;
+
+void tst_StyleActions::asksOverTheDialog()
+{
+    QVERIFY(openDemo("field2d"));
+    QWidget dialog;
+    theDialog = &dialog;
+    setPromptParentProvider([]() -> QWidget& { return *theDialog; });
+    EnterSingleValueAction<int> action("Enter...", fieldRows({0}), "Title", "Label", 1, 99,
+                                       {"FieldMap", "Effects", "SurfaceTranslucency"});
+    bool isOverDialog = false;
+    m_user->answer([&](QDialog& prompt) {
+        isOverDialog = prompt.parentWidget() == &dialog;
+        prompt.accept();
+    });
+    action.trigger();
+    setPromptParentProvider(nullptr);
+    QVERIFY(isOverDialog);
+    QCOMPARE(m_user->takeSeen(), QStringList {"Title: Label [50, 1 to 99]"});
+    QCOMPARE(takeWrites(), QString("FieldMap.Effects.SurfaceTranslucency 1 = 50"));
 }
 
 void tst_StyleActions::selectsAVariable()
