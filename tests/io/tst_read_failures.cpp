@@ -91,6 +91,35 @@ private Q_SLOTS:
             << "a.vtk"
             << QByteArray(kLegacy) + "DATASET TABLE\nROW_DATA 1\nFIELD f 1\np 1 1 float\n1\n"
             << "no zones with points";
+        QTest::newRow("corner that does not exist") << "a.vtk"
+                                                    << QByteArray(kLegacy)
+                + "DATASET POLYDATA\nPOINTS 2 float\n0 0 0 1 1 1\n"
+                  "POLYGONS 1 4\n3 0 1 2\n"
+                                                    << "points do not exist";
+        QTest::newRow("negative corner") << "a.vtk"
+                                         << QByteArray(kLegacy)
+                + "DATASET POLYDATA\nPOINTS 2 float\n0 0 0 1 1 1\n"
+                  "LINES 1 3\n2 0 -1\n"
+                                         << "points do not exist";
+        const QByteArray grid = QByteArray(kLegacy)
+            + "DATASET UNSTRUCTURED_GRID\nPOINTS 4 float\n0 0 0 1 0 0 0 1 0 0 0 1\n";
+        QTest::newRow("tetrahedron of three corners")
+            << "a.vtk" << grid + "CELLS 1 4\n3 0 1 2\nCELL_TYPES 1\n10\n"
+            << "unknown kind";
+        QTest::newRow("unknown cell") << "a.vtk" << grid + "CELLS 1 4\n3 0 1 2\nCELL_TYPES 1\n99\n"
+                                      << "unknown kind";
+        QTest::newRow("polyhedron with a face outside")
+            << "a.vtk" << grid + "CELLS 1 14\n13 3 3 0 1 2 3 0 1 3 3 1 2 9\nCELL_TYPES 1\n42\n"
+            << "points do not exist";
+        QTest::newRow("grid with too few points") << "a.vtk"
+                                                  << QByteArray(kLegacy)
+                + "DATASET STRUCTURED_GRID\nDIMENSIONS 3 1 1\nPOINTS 2 float\n0 1 2 3 4 5\n"
+                                                  << "coordinates are missing";
+        QTest::newRow("axis with too few coordinates") << "a.vtk"
+                                                       << QByteArray(kLegacy)
+                + "DATASET RECTILINEAR_GRID\nDIMENSIONS 3 1 1\nX_COORDINATES 2 float\n0 1\n"
+                  "Y_COORDINATES 1 float\n0\nZ_COORDINATES 1 float\n0\n"
+                                                       << "coordinates are missing";
         QTest::newRow("collection of nothing")
             << "a.pvd" << QByteArray("<VTKFile type=\"Collection\"><Collection/></VTKFile>")
             << "lists files";

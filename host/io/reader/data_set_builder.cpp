@@ -5,6 +5,7 @@
 #include "host/io/reader/channel.h"
 #include "host/io/reader/read_failure.h"
 #include "host/io/reader/vtk_messages.h"
+#include "host/io/reader/zone_check.h"
 
 #include <QFileInfo>
 
@@ -143,7 +144,8 @@ void DataSetBuilder::readTime(DataFile& file, std::size_t timeIndex, const std::
 
     std::map<std::string, int> uses;
     for (const LeafBlock& leaf : leafBlocks(root)) {
-        requireHandy(file, leaf.data);
+        if (leaf.data)
+            requireUsable(file, *leaf.data);
         const std::string path = joined(leaf.names);
         const BlockKey key(path, uses[path]++);
         const auto [place, isNew] = m_blockOfKey.try_emplace(key, m_blocks.size());
@@ -158,13 +160,16 @@ void DataSetBuilder::readTime(DataFile& file, std::size_t timeIndex, const std::
     }
 }
 
-void DataSetBuilder::requireHandy(const DataFile& file, vtkDataSet* data) const
+void DataSetBuilder::requireUsable(const DataFile& file, vtkDataSet& data) const
 {
-    if (data && data->GetNumberOfPoints() > m_mostPoints)
+    if (data.GetNumberOfPoints() > m_mostPoints)
         throw ReadFailure(
             file.path(),
             QT_TRANSLATE_NOOP("ReadMessage", "a zone of %1 points does not fit the memory"),
-            {QString::number(data->GetNumberOfPoints())});
+            {QString::number(data.GetNumberOfPoints())});
+    const ReadMessage fault = faultOf(data);
+    if (!fault.isEmpty())
+        throw ReadFailure(file.path(), fault);
 }
 
 void DataSetBuilder::addLeaf(Block& block, vtkDataSet* data, double time)

@@ -43,7 +43,7 @@ private:
 
     void readFile(DataFile& file, const std::string& prefix);
     void readTime(DataFile& file, std::size_t timeIndex, const std::string& prefix);
-    void requireHandy(const DataFile& file, vtkDataSet* data) const;
+    void requireUsable(const DataFile& file, vtkDataSet& data) const;
     void addLeaf(Block& block, vtkDataSet* data, double time);
     std::vector<std::size_t> timesInOrder(const DataFile& file);
     void noteWarnings(const DataFile& file);

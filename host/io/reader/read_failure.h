@@ -19,6 +19,12 @@ struct ReadFailure
     {
     }
 
+    ReadFailure(const QString& failedFile, const ReadMessage& reason)
+        : file(failedFile)
+        , message(reason)
+    {
+    }
+
     QString file;
     ReadMessage message;
 };
