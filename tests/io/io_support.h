@@ -44,19 +44,20 @@ public:
         return file.fileName();
     }
 
-    /// Copies a folder of the samples; returns the path of the copy.
-    QString copySample(const QString& name) const
+    /// Copies a folder of the samples, if wanted under another name; returns the path of the copy.
+    QString copySample(const QString& name, const QString& copyName = {}) const
     {
+        const QString target = copyName.isEmpty() ? name : copyName;
         const QDir source(sample(name));
         QDirIterator files(source.path(), QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             QFile file(files.next());
             if (!file.open(QIODevice::ReadOnly))
                 qFatal("%s cannot be read", qPrintable(file.fileName()));
-            write(name + QLatin1Char('/') + source.relativeFilePath(file.fileName()),
+            write(target + QLatin1Char('/') + source.relativeFilePath(file.fileName()),
                   file.readAll());
         }
-        return path(name);
+        return path(target);
     }
 
     static QString sample(const QString& name)
@@ -78,6 +79,12 @@ private:
 
     QTemporaryDir m_folder;
 };
+
+/// As QSKIP, which clang does not take under -Wpedantic; the caller returns.
+inline void skip(const char* reason, int line)
+{
+    QTest::qSkip(reason, __FILE__, line);
+}
 
 inline ReadResult read(const QStringList& files, const Plot3DLayout& layout = {})
 {

@@ -72,7 +72,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         if (origins().isEmpty())
-            QSKIP("there are no data folders beside the sources");
+            skip("there are no data folders beside the sources", __LINE__);
     }
 
     void init() { m_folder = std::make_unique<DataFolder>(); }

@@ -169,6 +169,17 @@ private Q_SLOTS:
         QVERIFY(values(*result.data, 1, "U X") != u);
     }
 
+    void decomposedCase()
+    {
+        m_folder.write("parts/system/controlDict", "FoamFile { }");
+        m_folder.copySample("cavity_transient", "parts/processor0");
+        m_folder.copySample("cavity_transient", "parts/processor1");
+        const ReadResult result = read({m_folder.write("parts/case.foam", {})});
+        QVERIFY2(result.data, qPrintable(result.error));
+        QCOMPARE(result.data->zoneCount(), std::int64_t(24));
+        QCOMPARE(result.data->zone(1).cellCount, std::int64_t(800));
+    }
+
     void quotedNamesInACaseFile()
     {
         const QDir sample(m_folder.copySample("naca_transient"));

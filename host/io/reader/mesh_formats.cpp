@@ -8,8 +8,9 @@
 #include <QFileInfo>
 
 #include <vtkCGNSReader.h>
+#include <vtkDummyController.h>
 #include <vtkExodusIIReader.h>
-#include <vtkOpenFOAMReader.h>
+#include <vtkNew.h>
 #include <vtkPOpenFOAMReader.h>
 
 namespace corvala::host::io::reader {
@@ -31,6 +32,9 @@ static void requireWhole(const QString& path)
 {
     const std::optional<std::int64_t> size = netcdfSize(path);
     const qint64 actual = QFileInfo(path).size();
+    if (size == kUnknownNetcdfSize)
+        throw ReadFailure(path,
+                          QT_TRANSLATE_NOOP("ReadMessage", "its header is cut off or damaged"));
     if (size && actual < *size)
         throw ReadFailure(
             path, QT_TRANSLATE_NOOP("ReadMessage", "it is cut off: %1 of %2 bytes are there"),
@@ -68,6 +72,8 @@ std::unique_ptr<DataFile> openFoam(const QString& path)
 {
     const QDir folder = caseFolder(path);
     auto reader = vtkSmartPointer<vtkPOpenFOAMReader>::New();
+    vtkNew<vtkDummyController> controller;
+    reader->SetController(controller);
     const bool isDecomposed = folder.exists(QStringLiteral("processor0"))
         && !folder.exists(QStringLiteral("constant/polyMesh"));
     reader->SetCaseType(isDecomposed ? vtkPOpenFOAMReader::DECOMPOSED_CASE

@@ -164,8 +164,7 @@ std::optional<std::int64_t> NetcdfHeader::fileSize()
     for (std::int64_t left = listLength(); left > 0 && !m_failed; --left)
         arrays.push_back(readArray());
     const std::int64_t end = endOf(arrays);
-    // A header that itself is cut off promises more than there is.
-    return m_failed ? m_file.size() + 1 : end;
+    return m_failed ? kUnknownNetcdfSize : end;
 }
 
 std::optional<std::int64_t> netcdfSize(const QString& path)
