@@ -110,6 +110,7 @@ int ComboBoxAutoFilter::entryFor(const QString& text) const
 
 void ComboBoxAutoFilter::showPopup()
 {
+    m_isListCancelled = false;
     QComboBox::showPopup();
     view()->installEventFilter(this); // last, to see the keys before the list's own filter
 }
@@ -149,7 +150,9 @@ void ComboBoxAutoFilter::keyPressEvent(QKeyEvent* event)
 
 bool ComboBoxAutoFilter::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == view() && event->type() == QEvent::KeyPress)
+    // The list closes by Escape when the key is offered to shortcuts, before it is pressed.
+    if (watched == view()
+        && (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress))
         m_isListCancelled = static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
     return QComboBox::eventFilter(watched, event);
 }

@@ -12,7 +12,10 @@ LaunchDialogAction::LaunchDialogAction(
     , m_relevance(std::move(relevance))
     , m_dialog(std::move(dialog))
 {
-    connect(this, &QAction::triggered, this, [this] { m_dialog().launch(); });
+    connect(this, &QAction::triggered, this, [this] {
+        if (isEnabled()) // a disabled action can be triggered by code
+            m_dialog().launch();
+    });
     if (m_relevance)
         m_connection = m_relevance->connectChanged([this] { updateEnabled(); });
     updateEnabled();

@@ -79,7 +79,7 @@ int NumberedNameListModel::rowCount(const QModelIndex& parent) const
 QVariant NumberedNameListModel::data(const QModelIndex& index, int role) const
 {
     // The edit role is what combo boxes and completers compare.
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)
+    if (!index.isValid() || index.row() >= rowCount()
         || (role != Qt::DisplayRole && role != Qt::EditRole))
         return {};
     return textOf(numberAt(index.row()));

@@ -6,10 +6,13 @@
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
 
+#include <algorithm>
 #include <limits>
 
 namespace corvala::dialogs::prompt {
@@ -29,6 +32,8 @@ EnterThreeIntValuesDialog::EnterThreeIntValuesDialog(QWidget* parent)
         m_spinBoxes[i] = new QSpinBox(this);
         m_spinBoxes[i]->setRange(1, std::numeric_limits<int>::max());
         m_spinBoxes[i]->setAccelerated(true);
+        m_spinBoxes[i]->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+        m_spinBoxes[i]->installEventFilter(this);
         m_labels[i] = new QLabel(this);
         m_labels[i]->setBuddy(m_spinBoxes[i]);
         form->addRow(m_labels[i], m_spinBoxes[i]);
@@ -37,9 +42,18 @@ EnterThreeIntValuesDialog::EnterThreeIntValuesDialog(QWidget* parent)
                                              | QDialogButtonBox::Help,
                                          Qt::Horizontal, this);
     form->addRow(buttons);
-    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    m_okButton = buttons->button(QDialogButtonBox::Ok);
+    m_okButton->setDefault(true);
     m_helpButton = buttons->button(QDialogButtonBox::Help);
+    m_helpButton->setShortcut(Qt::Key_F1);
     m_helpButton->hide();
+    for (const QSpinBox* spinBox : m_spinBoxes) {
+        connect(spinBox->findChild<QLineEdit*>(), &QLineEdit::textChanged, this,
+                &EnterThreeIntValuesDialog::updateOkButton);
+        // The text that a spin box corrects itself is not announced.
+        connect(spinBox, &QSpinBox::editingFinished, this,
+                &EnterThreeIntValuesDialog::updateOkButton);
+    }
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
@@ -65,8 +79,6 @@ void EnterThreeIntValuesDialog::setHelpReference(const QString& reference)
     if (reference.isEmpty())
         return;
     m_helpAction = new common::LaunchHelpAction(reference, this);
-    m_helpAction->setShortcut(Qt::Key_F1);
-    addAction(m_helpAction);
     connect(m_helpButton, &QPushButton::clicked, m_helpAction, &QAction::trigger);
 }
 
@@ -88,7 +100,30 @@ int EnterThreeIntValuesDialog::exec()
 {
     m_spinBoxes[0]->setFocus();
     m_spinBoxes[0]->selectAll();
+    updateOkButton();
     return QDialog::exec();
+}
+
+bool EnterThreeIntValuesDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && !m_okButton->isEnabled()) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        auto* spinBox = qobject_cast<QSpinBox*>(watched);
+        if (spinBox && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+            spinBox->interpretText();
+            spinBox->selectAll();
+            updateOkButton();
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void EnterThreeIntValuesDialog::updateOkButton()
+{
+    m_okButton->setEnabled(
+        std::all_of(m_spinBoxes.begin(), m_spinBoxes.end(),
+                    [](const QSpinBox* spinBox) { return spinBox->hasAcceptableInput(); }));
 }
 
 std::array<int, 3> EnterThreeIntValuesDialog::values() const

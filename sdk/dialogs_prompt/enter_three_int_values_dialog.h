@@ -15,7 +15,8 @@ class LaunchHelpAction;
 
 namespace corvala::dialogs::prompt {
 
-/// Asks for three integers. Set title, labels, help, ranges and values, then exec().
+/// Asks for three integers. Set title, labels, help, ranges and values, then exec(). Return in a
+/// field with a value out of range shows the nearest one inside and does not accept yet.
 class EnterThreeIntValuesDialog : public QDialog
 {
     Q_OBJECT
@@ -47,11 +48,17 @@ public:
     /// The three values as they are entered.
     std::array<int, 3> values() const;
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     explicit EnterThreeIntValuesDialog(QWidget* parent);
 
+    void updateOkButton();
+
     std::array<QLabel*, 3> m_labels;
     std::array<QSpinBox*, 3> m_spinBoxes;
+    QPushButton* m_okButton;
     QPushButton* m_helpButton;
     common::LaunchHelpAction* m_helpAction = nullptr;
 };
