@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/plot3d_format.h"
 
+#include "host/io/reader/algorithm_file.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/plot3d_layout.h"
 #include "host/io/reader/read_failure.h"
@@ -8,10 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <vtkCallbackCommand.h>
-#include <vtkMultiBlockDataSet.h>
 #include <vtkMultiBlockPLOT3DReader.h>
-#include <vtkNew.h>
 
 #include <algorithm>
 #include <cstring>
@@ -151,12 +149,6 @@ static void setLayout(vtkMultiBlockPLOT3DReader& reader, const Plot3DLayout& lay
         reader.SetByteOrderToLittleEndian();
 }
 
-static void reportProgress(vtkObject* caller, unsigned long, void* clientData, void*)
-{
-    const auto& progress = *static_cast<const ProgressCall*>(clientData);
-    progress(static_cast<vtkAlgorithm*>(caller)->GetProgress());
-}
-
 vtkSmartPointer<vtkDataObject> Plot3DFile::read(std::size_t timeIndex, const ProgressCall& progress)
 {
     const Plot3DStep& listed = m_series.steps[timeIndex];
@@ -164,11 +156,7 @@ vtkSmartPointer<vtkDataObject> Plot3DFile::read(std::size_t timeIndex, const Pro
     const Plot3DGrids grids = openGrid(step.grid);
     openCompanion(step.solution, grids, listed, false);
     openCompanion(step.function, grids, listed, true);
-    vtkNew<vtkMultiBlockPLOT3DReader> reader;
-    vtkNew<vtkCallbackCommand> observer;
-    observer->SetClientData(const_cast<ProgressCall*>(&progress));
-    observer->SetCallback(reportProgress);
-    reader->AddObserver(vtkCommand::ProgressEvent, observer);
+    auto reader = vtkSmartPointer<vtkMultiBlockPLOT3DReader>::New();
     setLayout(*reader, grids.layout);
     reader->SetXYZFileName(QFile::encodeName(step.grid).constData());
     if (!step.solution.isEmpty())
@@ -177,8 +165,7 @@ vtkSmartPointer<vtkDataObject> Plot3DFile::read(std::size_t timeIndex, const Pro
         reader->SetFunctionFileName(QFile::encodeName(step.function).constData());
     for (const QString& name : m_series.functionNames)
         reader->AddFunctionName(name.toStdString());
-    reader->Update();
-    return reader->GetOutput();
+    return AlgorithmFile(step.grid, reader).read(0, progress);
 }
 
 std::unique_ptr<DataFile> openPlot3D(const Plot3DSeries& series, const QDir& helperFolder)
