@@ -12,24 +12,20 @@
 
 namespace corvala::ui {
 
-namespace {
+static constexpr int kMinimumContentsLength = 12; // characters
+static constexpr int kVisibleEntries = 15;
 
-constexpr int kMinimumContentsLength = 12; // characters
-constexpr int kVisibleEntries = 15;
-
-bool isReturn(const QKeyEvent& event)
+static bool isReturn(const QKeyEvent& event)
 {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 /// Without this a list view measures every entry before it shows the first.
-void makeUniform(QAbstractItemView* view)
+static void makeUniform(QAbstractItemView* view)
 {
     if (auto* list = qobject_cast<QListView*>(view))
         list->setUniformItemSizes(true);
 }
-
-} // namespace
 
 ComboBoxAutoFilter::ComboBoxAutoFilter(QWidget* parent)
     : QComboBox(parent)

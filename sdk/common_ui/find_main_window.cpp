@@ -6,15 +6,11 @@
 
 namespace corvala::ui {
 
-namespace {
-
-QPointer<QWidget>& mainWindow()
+static QPointer<QWidget>& mainWindow()
 {
     static QPointer<QWidget> window;
     return window;
 }
-
-} // namespace
 
 QWidget& findMainWindow()
 {

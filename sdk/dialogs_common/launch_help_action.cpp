@@ -18,13 +18,15 @@ struct HelpState
     std::function<void(const QString&)> handler;
 };
 
-HelpState& helpState()
+} // namespace
+
+static HelpState& helpState()
 {
     static HelpState state;
     return state;
 }
 
-void openInstalledPage(const QString& reference)
+static void openInstalledPage(const QString& reference)
 {
     const QDir folder(QCoreApplication::applicationDirPath() + "/../share/corvala/help");
     const QString page = folder.absoluteFilePath(reference.section('#', 0, 0));
@@ -34,8 +36,6 @@ void openInstalledPage(const QString& reference)
     url.setFragment(reference.section('#', 1));
     QDesktopServices::openUrl(url);
 }
-
-} // namespace
 
 LaunchHelpAction::LaunchHelpAction(QString reference, QObject* parent)
     : QAction(QIcon(QStringLiteral(":/help.svg")), tr("Help"), parent)

@@ -10,21 +10,17 @@
 
 namespace corvala::dialogs::common {
 
-namespace {
-
-bool isReturn(const QKeyEvent& event)
+static bool isReturn(const QKeyEvent& event)
 {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 /// Keys of an editable combo box come to the box itself, not to its line edit.
-bool isTextField(const QWidget* widget)
+static bool isTextField(const QWidget* widget)
 {
     const auto* comboBox = qobject_cast<const QComboBox*>(widget);
     return qobject_cast<const QLineEdit*>(widget) || (comboBox && comboBox->isEditable());
 }
-
-} // namespace
 
 DialogInterface::~DialogInterface() = default;
 

@@ -7,10 +7,8 @@
 
 namespace corvala::dialogs::common {
 
-namespace {
-
 /// Length of the first `count` sections that show, from the left or top.
-int lengthOfSections(const QHeaderView& header, int count)
+static int lengthOfSections(const QHeaderView& header, int count)
 {
     int length = 0;
     int taken = 0;
@@ -24,15 +22,13 @@ int lengthOfSections(const QHeaderView& header, int count)
     return length + (count - taken) * header.defaultSectionSize();
 }
 
-int thickness(const QHeaderView& header)
+static int thickness(const QHeaderView& header)
 {
     if (header.isHidden())
         return 0;
     const QSize size = header.sizeHint();
     return header.orientation() == Qt::Horizontal ? size.height() : size.width();
 }
-
-} // namespace
 
 TableViewWithPreferredDimensions::TableViewWithPreferredDimensions(QWidget* parent)
     : QTableView(parent)

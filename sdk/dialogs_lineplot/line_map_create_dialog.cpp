@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
+#include <QShowEvent>
 
 #include <algorithm>
 #include <vector>
@@ -82,6 +83,8 @@ LineMapCreateDialog::LineMapCreateDialog(QWidget* parent)
 
 void LineMapCreateDialog::launch()
 {
+    if (!isVisible())
+        readDocument(); // before the size is chosen
     show();
     raise();
     activateWindow();
@@ -89,13 +92,14 @@ void LineMapCreateDialog::launch()
 
 void LineMapCreateDialog::showEvent(QShowEvent* event)
 {
-    readDocument();
     m_connections.disconnectAll();
     m_connections.add(signaling::StateChangeEventObservable::getInstance().connect(
         [this](const toolbox::StateChangeEventInterface& change) {
             if (concernsDialog(change))
                 m_refresh.enableNotification();
         }));
+    if (event->spontaneous())
+        m_refresh.enableNotification();
     QDialog::showEvent(event);
 }
 

@@ -60,7 +60,9 @@ private:
     QColor m_color;
 };
 
-QString nameOf(int color, const QColor& rgb)
+} // namespace
+
+static QString nameOf(int color, const QColor& rgb)
 {
     if (color == kRgbColor)
         return ColorChooserWidget::tr("By RGB");
@@ -69,14 +71,12 @@ QString nameOf(int color, const QColor& rgb)
     return QStringLiteral("%1: %2").arg(QString::number(color), rgb.name().toUpper());
 }
 
-QString labelOf(int color)
+static QString labelOf(int color)
 {
     if (color == kRgbColor)
         return ColorChooserWidget::tr("RGB");
     return color >= kFirstGroupColor ? QString::number(color - kFirstGroupColor + 1) : QString();
 }
-
-} // namespace
 
 ColorChooserWidget::ColorChooserWidget(QWidget* parent, bool offerGroupColors,
                                        ShowHelpButton_e showHelpButton)

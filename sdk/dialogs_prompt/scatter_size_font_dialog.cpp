@@ -11,6 +11,7 @@
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QShowEvent>
 
 namespace corvala::dialogs::prompt {
 
@@ -61,6 +62,8 @@ ScatterSizeFontDialog::ScatterSizeFontDialog(QWidget* parent)
 
 void ScatterSizeFontDialog::launch()
 {
+    if (!isVisible())
+        readDocument(); // before the size is chosen
     show();
     raise();
     activateWindow();
@@ -68,13 +71,14 @@ void ScatterSizeFontDialog::launch()
 
 void ScatterSizeFontDialog::showEvent(QShowEvent* event)
 {
-    readDocument();
     m_connections.disconnectAll();
     m_connections.add(signaling::StateChangeEventObservable::getInstance().connect(
         [this](const toolbox::StateChangeEventInterface& change) {
             if (concernsDialog(change))
                 m_refresh.enableNotification();
         }));
+    if (event->spontaneous())
+        m_refresh.enableNotification();
     QDialog::showEvent(event);
 }
 

@@ -6,11 +6,9 @@
 
 namespace corvala::propertymanager {
 
-namespace {
-
 /// Whether the event may have changed the active frame, its data set or its plot type; edits of
 /// style, which are the bulk of events, do not.
-bool concernsPlotType(const toolbox::StateChangeEventInterface& event)
+static bool concernsPlotType(const toolbox::StateChangeEventInterface& event)
 {
     switch (event.stateChange()) {
     case StateCode_Style: return event.styleParam(1) == "PlotType";
@@ -26,7 +24,7 @@ bool concernsPlotType(const toolbox::StateChangeEventInterface& event)
     }
 }
 
-boost::signals2::connection connectPlotTypeChanged(boost::function<void()> slot)
+static boost::signals2::connection connectPlotTypeChanged(boost::function<void()> slot)
 {
     return signaling::StateChangeEventObservable::getInstance().connect(
         [slot = std::move(slot)](const toolbox::StateChangeEventInterface& event) {
@@ -35,13 +33,11 @@ boost::signals2::connection connectPlotTypeChanged(boost::function<void()> slot)
         });
 }
 
-bool showsPlotType(CvlInt64 first, CvlInt64 second)
+static bool showsPlotType(CvlInt64 first, CvlInt64 second)
 {
     const CvlInt64 plotType = CvlUtilFrameGetPlotType();
     return (plotType == first || plotType == second) && CvlUtilDataSetIsAvailable();
 }
-
-} // namespace
 
 FieldPlotTypeDependentRelevance::FieldPlotTypeDependentRelevance(bool relevantForFieldPlots)
     : m_expected(relevantForFieldPlots)

@@ -47,14 +47,15 @@ private:
     boost::signals2::scoped_connection m_rightChanged;
 };
 
-RelevanceExpression join(const RelevanceExpression& left, JoinedRelevance::Operation operation,
-                         const RelevanceExpression& right)
+} // namespace
+
+static RelevanceExpression join(const RelevanceExpression& left,
+                                JoinedRelevance::Operation operation,
+                                const RelevanceExpression& right)
 {
     return Relevance(
         boost::make_shared<JoinedRelevance>(left.relevance(), operation, right.relevance()));
 }
-
-} // namespace
 
 RelevanceExpression::RelevanceExpression(Relevance relevance)
     : m_relevance(std::move(relevance))

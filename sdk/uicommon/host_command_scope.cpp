@@ -13,13 +13,13 @@ struct RunningCommands
     boost::signals2::signal<void(bool)> changed;
 };
 
-RunningCommands& runningCommands()
+} // namespace
+
+static RunningCommands& runningCommands()
 {
     static RunningCommands commands;
     return commands;
 }
-
-} // namespace
 
 HostCommandScope::HostCommandScope()
 {
