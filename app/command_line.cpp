@@ -15,7 +15,7 @@ struct CommandLine
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 };
 
-static const char* const kUsualDemo = "field3d";
+static const char* const kUsualDemo = "field2d";
 
 static QStringList demoNames()
 {

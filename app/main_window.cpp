@@ -212,6 +212,8 @@ void MainWindow::refresh()
     const bool hasData = frame && frame->hasData();
     const QString title = hasData ? QString::fromStdString(frame->data()->title) : QString();
     setWindowTitle(title.isEmpty() ? tr("corvala") : tr("%1 - corvala").arg(title));
+    m_styleDialog->setText(frame && frame->isLinePlot() ? tr("&Mapping Style...")
+                                                        : tr("&Zone Style..."));
     m_savePicture->setEnabled(hasData);
     m_fitView->setEnabled(hasData && m_plotArea->frameView());
     m_layerBar->refresh();

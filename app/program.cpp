@@ -23,6 +23,7 @@
 
 #include <clocale>
 #include <cstdio>
+#include <cstdlib>
 
 namespace corvala::app {
 
@@ -119,8 +120,20 @@ static void startInteractive(MainWindow& window, const Options& options)
     }
 }
 
+/// Complaints of the platform about what a run without a screen lacks are not the user's business.
+static void printMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (message.startsWith(QLatin1String("This plugin does not support "))
+        || message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+        return;
+    std::fprintf(stderr, "%s\n", qUtf8Printable(qFormatLogMessage(type, context, message)));
+    if (type == QtFatalMsg)
+        std::abort();
+}
+
 static void setUpQt()
 {
+    qInstallMessageHandler(printMessage);
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication::setHighDpiScaleFactorRoundingPolicy(

@@ -5,6 +5,7 @@
 #include "zonestyle/dialog/zone_style_dialog.h"
 
 #include <QCoreApplication>
+#include <QRect>
 #include <QScreen>
 
 #include <algorithm>
@@ -23,22 +24,28 @@ QWidget& openStyleDialog(QWidget& mainWindow, DialogInitialization_e initializat
     return dialog;
 }
 
+/// Gives a window its place in the height of an area, and a width with its frame.
+static void place(QWidget& window, const QRect& area, int left, int width)
+{
+    const QSize frame = window.frameGeometry().size() - window.size();
+    const int height = std::min(window.height(), area.height() - frame.height());
+    window.resize(width - frame.width(), height);
+    window.move(left, area.top() + (area.height() - height - frame.height()) / 2);
+}
+
 void placeSideBySide(QWidget& mainWindow, QWidget& dialog)
 {
     const QScreen* screen = mainWindow.screen();
     if (!screen)
         return;
     const QRect area = screen->availableGeometry();
-    const QSize frame = mainWindow.frameGeometry().size() - mainWindow.size();
-    const int dialogWidth = std::min(dialog.frameGeometry().width(), area.width() / 2);
-    const int most = area.width() - dialogWidth - frame.width();
-    const int width = std::max(kNarrowestWindow, std::min(mainWindow.width(), most));
-    mainWindow.resize(width, std::min(mainWindow.height(), area.height() - frame.height()));
-    const int left = area.left() + std::max(0, most - width) / 2;
-    const int top =
-        area.top() + std::max(0, area.height() - mainWindow.frameGeometry().height()) / 2;
-    mainWindow.move(left, top);
-    dialog.move(left + width + frame.width(), top);
+    const int dialogWidth =
+        std::min(dialog.frameGeometry().width(), area.width() - kNarrowestWindow);
+    const int windowWidth =
+        std::min(mainWindow.frameGeometry().width(), area.width() - dialogWidth);
+    const int left = area.left() + (area.width() - windowWidth - dialogWidth) / 2;
+    place(mainWindow, area, left, windowWidth);
+    place(dialog, area, left + windowWidth, dialogWidth);
 }
 
 QAction* makeStyleDialogAction(QWidget& mainWindow)

@@ -13,7 +13,7 @@ namespace corvala::app {
 QWidget& openStyleDialog(QWidget& mainWindow,
                          corvala::dialogs::common::DialogInitialization_e initialization);
 
-/// Moves the window and the dialog side by side, the dialog at the right, and makes the window
+/// Moves the window and the dialog side by side, the dialog at the right, and makes them
 /// narrower where the screen has no room for both.
 void placeSideBySide(QWidget& mainWindow, QWidget& dialog);
 

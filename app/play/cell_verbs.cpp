@@ -43,11 +43,24 @@ private:
     WindowWatcher::Kind m_kind;
 };
 
-static void rightClick(Stage& stage, const QModelIndex& cell)
+/// A right click on a cell. What it opens gets the release of the button, then goes to `answer`.
+static void rightClick(Stage& stage, const QModelIndex& cell, WindowWatcher::Kind kind,
+                       const WindowWatcher::Handler& answer)
 {
     const QPoint position = stage.dialog().show(cell).center();
-    click(stage.dialog().table().viewport(), position, Qt::RightButton);
+    QWidget* viewport = stage.dialog().table().viewport();
+    const QPoint place = viewport->mapToGlobal(position);
+    bool opened = false;
+    const HandlerScope scope(stage, kind, [&](QWidget& window) {
+        opened = true;
+        releaseRight(&window, window.mapFromGlobal(place));
+        answer(window);
+    });
+    pressRight(viewport, position);
+    if (!opened)
+        releaseRight(viewport, position);
     waitUntilIdle();
+    stage.watcher().check();
 }
 
 static void check(Stage& stage, const Arguments& arguments)
@@ -66,7 +79,7 @@ static void menu(Stage& stage, const Arguments& arguments)
     const auto color = static_cast<int>(arguments.integer("color", 0));
     const Json choice = choosesColor ? Json() : arguments.at("choose");
     bool opened = false;
-    const HandlerScope scope(stage, WindowWatcher::Menu, [&](QWidget& widget) {
+    rightClick(stage, cell, WindowWatcher::Menu, [&](QWidget& widget) {
         auto& shownMenu = static_cast<QMenu&>(widget);
         opened = true;
         stage.lastMenu = describeActions(shownMenu.actions(), &shownMenu);
@@ -75,8 +88,6 @@ static void menu(Stage& stage, const Arguments& arguments)
         else
             chooseInMenu(shownMenu, choice);
     });
-    rightClick(stage, cell);
-    stage.watcher().check();
     if (opened)
         return;
     stage.lastMenu = Json::array();
@@ -97,10 +108,8 @@ static void popup(Stage& stage, const Arguments& arguments)
             throw ScriptError(Text::tr("an editor opened"));
     };
     const auto dismiss = [&](QWidget& shownMenu) { pressKey(&shownMenu, Qt::Key_Escape); };
-    const HandlerScope popups(stage, WindowWatcher::Popup, fill);
     const HandlerScope menus(stage, WindowWatcher::Menu, dismiss);
-    rightClick(stage, cell);
-    stage.watcher().check();
+    rightClick(stage, cell, WindowWatcher::Popup, fill);
     if (!opened && edit.opens)
         throw ScriptError(Text::tr("no editor opened"));
 }

@@ -50,7 +50,7 @@ static void clickRow(Stage& stage, std::int64_t map, Qt::KeyboardModifiers modif
 {
     const QModelIndex cell = stage.dialog().cell(map, 0);
     const QRect area = stage.dialog().show(cell);
-    click(stage.dialog().table().viewport(), area.center(), Qt::LeftButton, modifiers);
+    click(stage.dialog().table().viewport(), area.center(), modifiers);
 }
 
 /// First and last map of one element of a set's text, such as "3" or "1-3".

@@ -185,6 +185,17 @@ static Json mapValue(const host::MapTable& table, const host::Attribute& attribu
     return table.integer(attribute, map);
 }
 
+static std::int64_t mapCount(const host::Frame& frame, bool isLine)
+{
+    return isLine ? frame.lineMapCount() : frame.fieldMapCount();
+}
+
+static Json activeMaps(const host::Frame& frame, bool isLine)
+{
+    return host::toText(isLine ? frame.activeLineMaps() : frame.activeFieldMaps(),
+                        mapCount(frame, isLine));
+}
+
 static Json storedValue(Stage& stage, const Arguments& arguments)
 {
     const PathWithIndex path = pathOf(arguments, "get");
@@ -192,12 +203,8 @@ static Json storedValue(Stage& stage, const Arguments& arguments)
     const host::AttributeId id = schema.find(path.names);
     require(id >= 0, Text::tr("%1 is no style value").arg(shown(arguments.at("get"))));
     const host::Attribute& attribute = schema.at(id);
-    if (attribute.type == host::ValueType::Maps) {
-        const bool isLine = path.names.front() == "ActiveLineMaps";
-        const host::Frame& frame = stage.frame();
-        return isLine ? host::toText(frame.activeLineMaps(), frame.lineMapCount())
-                      : host::toText(frame.activeFieldMaps(), frame.fieldMapCount());
-    }
+    if (attribute.type == host::ValueType::Maps)
+        return activeMaps(stage.frame(), path.names.front() == "ActiveLineMaps");
     require(attribute.indexCount == 0 || (path.index >= 1 && path.index <= attribute.indexCount),
             Text::tr("%1 needs an index from 1 to %2")
                 .arg(shown(arguments.at("get")))
@@ -225,6 +232,17 @@ static bool isSameValue(const Json& stored, const Json& wanted)
     const double one = numberOf(stored);
     const double two = numberOf(wanted);
     return std::abs(one - two) <= 1e-9 * std::max(std::abs(one), std::abs(two));
+}
+
+/// Two texts of one set, such as "2,3" and "2-3", are equal.
+static bool isSameSet(Stage& stage, const Arguments& arguments, const Json& stored)
+{
+    const std::string name = pathOf(arguments, "get").names.front();
+    if (name != "ActiveFieldMaps" && name != "ActiveLineMaps")
+        return false;
+    const std::int64_t count = mapCount(stage.frame(), name == "ActiveLineMaps");
+    return mapsFromText(QString::fromStdString(stored.get<std::string>()), count)
+        == arguments.maps("is", count);
 }
 
 static void get(Stage& stage, const Arguments& arguments)

@@ -16,22 +16,51 @@ struct Target
     QPoint position;
 };
 
+/// What the window manager does for a person: the window that is used is the active one.
+static void activate(QWidget* widget)
+{
+    QWidget* window = widget->window();
+    if (QApplication::activePopupWidget() || window->windowType() == Qt::Popup
+        || window->isActiveWindow())
+        return;
+    window->activateWindow();
+    QGuiApplication::sync();
+    if (!window->isActiveWindow())
+        QApplication::setActiveWindow(window);
+}
+
 static Target targetOf(QWidget* widget, const QPoint& position)
 {
+    activate(widget);
     QWidget* native = widget->nativeParentWidget() ? widget->nativeParentWidget() : widget;
     if (widget->windowHandle())
         native = widget;
     return {native->windowHandle(), widget->mapTo(native, position)};
 }
 
-void click(QWidget* widget, const QPoint& position, Qt::MouseButton button,
-           Qt::KeyboardModifiers modifiers)
+void click(QWidget* widget, const QPoint& position, Qt::KeyboardModifiers modifiers)
 {
     const Target target = targetOf(widget, position);
     if (!target.window)
         return;
     QTest::mouseMove(target.window, target.position);
-    QTest::mouseClick(target.window, button, modifiers, target.position);
+    QTest::mouseClick(target.window, Qt::LeftButton, modifiers, target.position);
+}
+
+void pressRight(QWidget* widget, const QPoint& position)
+{
+    const Target target = targetOf(widget, position);
+    if (!target.window)
+        return;
+    QTest::mouseMove(target.window, target.position);
+    QTest::mousePress(target.window, Qt::RightButton, Qt::NoModifier, target.position);
+}
+
+void releaseRight(QWidget* widget, const QPoint& position)
+{
+    const Target target = targetOf(widget, position);
+    if (target.window)
+        QTest::mouseRelease(target.window, Qt::RightButton, Qt::NoModifier, target.position);
 }
 
 void clickCentre(QWidget* widget)
@@ -61,6 +90,7 @@ void drag(QWidget* widget, const QPoint& from, const QPoint& to)
 
 void pressKey(QWidget* window, int key, Qt::KeyboardModifiers modifiers)
 {
+    activate(window);
     if (QWindow* handle = window->window()->windowHandle())
         QTest::keyClick(handle, static_cast<Qt::Key>(key), modifiers);
 }

@@ -12,12 +12,15 @@ class QWidget;
 /// pop-ups, modal windows, shortcuts and context menus behave as they do for a person.
 namespace corvala::app::play {
 
-/// Press and release; `position` is in the coordinates of the widget. A right click returns when
-/// the menu that it opened is closed.
-void click(QWidget* widget, const QPoint& position, Qt::MouseButton button = Qt::LeftButton,
+/// `position` is in the coordinates of the widget.
+void click(QWidget* widget, const QPoint& position,
            Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 void clickCentre(QWidget* widget);
 void doubleClick(QWidget* widget, const QPoint& position);
+/// The two halves of a right click. The first returns when the menu that it opened is closed; the
+/// second belongs to that menu, as a person lets go of the button before choosing.
+void pressRight(QWidget* widget, const QPoint& position);
+void releaseRight(QWidget* widget, const QPoint& position);
 void drag(QWidget* widget, const QPoint& from, const QPoint& to);
 
 /// To the widget of the window that has its focus.

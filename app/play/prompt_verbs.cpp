@@ -57,7 +57,7 @@ static void selectItems(QAbstractItemView& view, const Json& names)
         if (found.isEmpty())
             throw ScriptError(Text::tr("the list has no entry \"%1\"").arg(text));
         view.scrollTo(found.first());
-        click(view.viewport(), view.visualRect(found.first()).center(), Qt::LeftButton, modifiers);
+        click(view.viewport(), view.visualRect(found.first()).center(), modifiers);
         modifiers = Qt::ControlModifier;
     }
 }
@@ -113,7 +113,8 @@ static void window(Stage& stage, const Arguments& arguments)
         open.close();
         return;
     }
-    for (const auto& [name, value] : arguments.inner("window").object().items()) {
+    const Arguments fields = arguments.inner("window");
+    for (const auto& [name, value] : fields.object().items()) {
         fillField(fieldOf(open, QString::fromStdString(name)), value);
         stage.settle();
     }
