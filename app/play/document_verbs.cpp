@@ -250,7 +250,7 @@ static void get(Stage& stage, const Arguments& arguments)
     const Json stored = storedValue(stage, arguments);
     const Json& wanted = arguments.at("is");
     require(
-        isSameValue(stored, wanted),
+        isSameValue(stored, wanted) || isSameSet(stage, arguments, stored),
         Text::tr("%1 is %2, not %3").arg(shown(arguments.at("get")), shown(stored), shown(wanted)));
 }
 

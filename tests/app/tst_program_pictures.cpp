@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/private_x_server.h"
-#include "app/program_run.h"
+#include "tests/app/program_run.h"
 
 #include <QFile>
 #include <QImage>
