@@ -162,8 +162,6 @@ void ComboBoxAutoFilter::entryActivated()
 
 void ComboBoxAutoFilter::completeSelection()
 {
-    if (m_isComplete)
-        return;
     const bool isCurrentEntry = currentText() == itemText(currentIndex());
     const int entry = isCurrentEntry ? currentIndex() : entryFor(currentText());
     setCurrentIndex(entry >= 0 ? entry : currentIndex());
@@ -171,8 +169,6 @@ void ComboBoxAutoFilter::completeSelection()
         setEditText(itemText(currentIndex()));
         return;
     }
-    m_isComplete = true;
-    QTimer::singleShot(0, this, [this] { m_isComplete = false; });
     Q_EMIT selectionComplete();
 }
 

@@ -55,7 +55,6 @@ private:
     bool m_filtersWhileTyping = true;
     bool m_isListClosing = false;
     bool m_isListCancelled = false;
-    bool m_isComplete = false;
 };
 
 } // namespace corvala::ui

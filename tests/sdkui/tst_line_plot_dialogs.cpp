@@ -349,8 +349,9 @@ void TestLinePlotDialogs::settingsGoToAllLineMapsInOneStep()
     QCOMPARE(tests::lineValue("Curves", "PolyOrder", 1), 3.0);
 
     // A group that is off leaves its values as each line map has them.
-    range->setChecked(false);
     replaceText(fieldLabelled<QLineEdit>(dialog, "&To:"), "77");
+    QCOMPARE(fieldLabelled<QLineEdit>(dialog, "&To:")->text(), QString("77"));
+    range->setChecked(false);
     QTest::mouseClick(buttonNamed(dialog, "OK"), Qt::LeftButton);
     QVERIFY(!dialog.isVisible());
     QCOMPARE(tests::lineValue("Curves", "UseIndVarRange", 5), 0.0);

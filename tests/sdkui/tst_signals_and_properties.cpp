@@ -72,13 +72,13 @@ class TestSignalsAndProperties : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void observableComesBeforeTheEnginesOtherListeners(); // first: needs the observable unmade
     void performerRunsOnceWhenIdle();
     void performerMayBeEnabledOrDestroyedByItsAction();
     void performerRunsInsideAMenu();
     void collectionBlocksAsAState();
     void collectionDisconnects();
     void observableHandsOnEngineEvents();
-    void observableComesBeforeTheEnginesOtherListeners();
     void slotsMayConnectAndDisconnectOthers();
     void expressionsFollowTheirOperands_data();
     void expressionsFollowTheirOperands();
@@ -209,7 +209,7 @@ void TestSignalsAndProperties::observableComesBeforeTheEnginesOtherListeners()
     const CvlUniqueId first = document.activeFrameId();
     CvlUniqueId followed = 0;
     CvlUniqueId seenByListener = 1;
-    // The listener is there before anybody asks for the observable again.
+    // The listener is there before anybody asks for the observable.
     const boost::signals2::scoped_connection listener =
         document.events().connect([&](const host::StateEvent&) { seenByListener = followed; });
     const boost::signals2::scoped_connection follower =
