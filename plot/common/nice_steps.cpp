@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/common/nice_steps.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvala::plot {
+
+double niceStep(double range, int count)
+{
+    const double raw = range / count;
+    const double power = std::pow(10.0, std::floor(std::log10(raw)));
+    for (const double factor : {1.0, 2.0, 5.0})
+        if (factor * power >= raw * (1.0 - 1e-9))
+            return factor * power;
+    return 10.0 * power;
+}
+
+std::vector<double> niceTicks(double minimum, double maximum, int count)
+{
+    const double range = maximum - minimum;
+    const double magnitude = std::max(std::abs(minimum), std::abs(maximum));
+    if (!std::isfinite(range) || count < 1 || range <= magnitude * 1e-13)
+        return {};
+    const double step = niceStep(range, count);
+    std::vector<double> ticks;
+    const double first = std::ceil(minimum / step - 1e-9);
+    for (int i = 0; i <= count && (first + i) * step <= maximum + 1e-9 * step; ++i)
+        ticks.push_back((first + i) * step);
+    return ticks;
+}
+
+QString tickText(double value, double step)
+{
+    const double magnitude = std::max(std::abs(value), step);
+    if (std::abs(value) < 1e-9 * step)
+        return QStringLiteral("0");
+    if (magnitude >= 1e6 || magnitude < 1e-3) {
+        const int digits =
+            static_cast<int>(std::floor(std::log10(magnitude)) - std::floor(std::log10(step)));
+        return QString::number(value, 'e', std::clamp(digits, 0, 12));
+    }
+    const int decimals = static_cast<int>(std::ceil(-std::log10(step) - 1e-9));
+    return QString::number(value, 'f', std::clamp(decimals, 0, 12));
+}
+
+} // namespace corvala::plot

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/document/frame.h"
+
+#include <array>
+#include <vector>
+
+namespace corvala::plot {
+
+/// Where contour lines and the borders of colour bands lie: `bands` bands of equal width.
+struct ContourLevels
+{
+    double minimum = 0.0;
+    double step = 1.0;
+    int bands = 1;
+
+    double maximum() const { return minimum + step * bands; }
+    /// The levels between the bands.
+    std::vector<double> inner() const;
+    double fraction(double value) const { return (value - minimum) / (maximum() - minimum); }
+};
+
+bool operator==(const ContourLevels& left, const ContourLevels& right);
+
+/// Round levels that cover the range, in eight to twenty bands.
+ContourLevels levelsFor(double minimum, double maximum);
+
+/// The variables of a frame's contour groups and RGB channels, and the values that they span in
+/// what was drawn so far. Ranges grow but never shrink while the variable stays, so that a colour
+/// means the same value from one time to the next and whatever zones are shown.
+class ContourGroups
+{
+public:
+    static constexpr int kGroupCount = 8;
+    static constexpr int kRed = 9; ///< the three channels follow the groups
+    static constexpr int kCount = 11;
+
+    /// Takes the variables from the frame; a group whose variable is another than before starts
+    /// anew. True when there is such a group.
+    bool setVariables(const host::Frame& frame);
+    void clear();
+
+    /// Number of the variable, 0 when unassigned. `group` is 1 to kCount throughout.
+    CvlInt64 variable(int group) const { return at(group).variable; }
+    bool hasRgb() const;
+
+    /// Widens the group's range; true when its levels changed.
+    bool extend(int group, double minimum, double maximum);
+
+    const ContourLevels& levels(int group) const { return at(group).levels; }
+    /// Differs whenever variable or levels do.
+    int revision(int group) const { return at(group).revision; }
+
+    /// A value as texture coordinate. These do not change when the levels grow: the texture is
+    /// moved instead, by `textureScale` and `textureShift`.
+    double coordinate(int group, double value) const;
+    double textureScale(int group) const;
+    double textureShift(int group) const;
+
+    /// The range as it is, not rounded to levels.
+    double minimum(int group) const { return at(group).minimum; }
+    double maximum(int group) const { return at(group).maximum; }
+
+private:
+    struct Group
+    {
+        CvlInt64 variable = 0;
+        bool hasRange = false;
+        double minimum = 0.0;
+        double maximum = 0.0;
+        double reference = 0.0; ///< value at coordinate 0
+        double unit = 1.0; ///< change of value from coordinate 0 to 1
+        ContourLevels levels;
+        int revision = 0;
+    };
+
+    Group& at(int group) { return m_groups[static_cast<std::size_t>(group - 1)]; }
+    const Group& at(int group) const { return m_groups[static_cast<std::size_t>(group - 1)]; }
+
+    std::array<Group, kCount> m_groups;
+};
+
+} // namespace corvala::plot

@@ -1,0 +1,291 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/field_canvas.h"
+
+#include "host/document/document.h"
+#include "plot/field/offscreen.h"
+#include "plot/field/opengl_check.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <QVTKOpenGLNativeWidget.h>
+
+#include <vtkCallbackCommand.h>
+#include <vtkGenericOpenGLRenderWindow.h>
+#include <vtkInteractorStyleTrackballCamera.h>
+#include <vtkRenderWindowInteractor.h>
+
+#include <cmath>
+
+namespace corvala::plot {
+
+static constexpr int kSliceMilliseconds = 30;
+static constexpr CvlInt64 kFirstDrawing = 1000; ///< pieces of work before an unfinished picture
+static constexpr double kWheelStep = 1.15; ///< magnification of one notch
+
+/// Axes and legends over the picture; the mouse goes through.
+class FieldCanvas::Overlay : public QWidget
+{
+public:
+    Overlay(FieldView& view, QWidget* parent)
+        : QWidget(parent)
+        , m_view(view)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setAttribute(Qt::WA_NoSystemBackground);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.scale(1.0 / devicePixelRatioF(), 1.0 / devicePixelRatioF());
+        m_view.paintDecorations(painter);
+    }
+
+private:
+    FieldView& m_view;
+};
+
+FieldCanvas::FieldCanvas(QWidget* parent)
+    : Canvas(parent)
+    , m_problem(openGlProblem())
+    , m_cache(std::make_shared<SurfaceCache>())
+    , m_view(m_cache)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    if (m_problem.isEmpty()) {
+        makeWidgets();
+    } else {
+        auto* label = new QLabel(m_problem, this);
+        label->setAlignment(Qt::AlignCenter);
+        label->setWordWrap(true);
+        layout->addWidget(label);
+    }
+}
+
+FieldCanvas::~FieldCanvas()
+{
+    m_view.attach(nullptr);
+}
+
+void FieldCanvas::makeWidgets()
+{
+    m_widget = new QVTKOpenGLNativeWidget(this);
+    QSurfaceFormat format = QVTKOpenGLNativeWidget::defaultFormat();
+    format.setSamples(0);
+    m_widget->setFormat(format);
+    m_widget->setAccessibleName(tr("Field plot"));
+    m_widget->installEventFilter(this);
+    layout()->addWidget(m_widget);
+    vtkNew<vtkGenericOpenGLRenderWindow> window;
+    window->SetMultiSamples(4);
+    m_widget->setRenderWindow(window.Get());
+    m_view.attach(window);
+    // The canvas draws when it is idle, and not whenever the interactor wishes.
+    vtkRenderWindowInteractor* const interactor = window->GetInteractor();
+    interactor->EnableRenderOff();
+    interactor->SetInteractorStyle(vtkNew<vtkInteractorStyleTrackballCamera>());
+    vtkNew<vtkCallbackCommand> wish;
+    wish->SetClientData(this);
+    wish->SetCallback([](vtkObject*, unsigned long, void* canvas, void*) {
+        static_cast<FieldCanvas*>(canvas)->requestRedraw();
+    });
+    interactor->AddObserver(vtkCommand::RenderEvent, wish);
+    m_overlay = new Overlay(m_view, m_widget);
+}
+
+void FieldCanvas::resizeEvent(QResizeEvent* event)
+{
+    Canvas::resizeEvent(event);
+    if (m_widget) {
+        layout()->activate();
+        m_overlay->setGeometry(m_widget->rect());
+        requestRedraw();
+    }
+}
+
+QSize FieldCanvas::pixelSize() const
+{
+    const double ratio = devicePixelRatioF();
+    return {static_cast<int>(std::lround(width() * ratio)),
+            static_cast<int>(std::lround(height() * ratio))};
+}
+
+QPointF FieldCanvas::pixelOf(const QPointF& position) const
+{
+    return position * devicePixelRatioF();
+}
+
+void FieldCanvas::takePlotType()
+{
+    const host::Frame* const drawn = host::Document::instance().frame(frame());
+    const bool flat = drawn && drawn->plotType() == PlotType_Field2D;
+    m_view.setFlat(flat);
+    m_view.setCamera(m_cameras.value({frame(), flat}));
+}
+
+void FieldCanvas::frameChanged(CvlUniqueId previous)
+{
+    m_cameras[{previous, m_view.isFlat()}] = m_view.camera();
+    takePlotType();
+    m_view.scene().setFrame(frame());
+    m_nextDrawing = kFirstDrawing;
+}
+
+static bool namesPlotType(const host::StateEvent& event)
+{
+    const host::AttributeId plotType = host::Schema::instance().find({"PlotType"});
+    return std::any_of(event.styleChanges.begin(), event.styleChanges.end(),
+                       [&](const auto& change) { return change.attribute == plotType; });
+}
+
+void FieldCanvas::documentChanged(const host::StateEvent& event)
+{
+    const bool isOurs = event.frame == 0 || event.frame == frame();
+    if (isOurs && event.code == StateCode_DataSetAttached) {
+        m_cameras.remove({frame(), true});
+        m_cameras.remove({frame(), false});
+        takePlotType();
+    } else if (isOurs && namesPlotType(event)) {
+        m_cameras[{frame(), m_view.isFlat()}] = m_view.camera();
+        takePlotType();
+    }
+    if (m_view.scene().apply(event)) {
+        m_nextDrawing = kFirstDrawing;
+        requestRedraw();
+    }
+}
+
+void FieldCanvas::showEvent(QShowEvent* event)
+{
+    Canvas::showEvent(event);
+    requestRedraw();
+}
+
+void FieldCanvas::hideEvent(QHideEvent* event)
+{
+    Canvas::hideEvent(event);
+    if (m_view.scene().hasWork())
+        Q_EMIT workEnded(true);
+}
+
+bool FieldCanvas::redraw()
+{
+    if (!m_widget || !isVisible())
+        return false;
+    FieldScene& scene = m_view.scene();
+    const bool isLong = scene.progress().second > 0 && scene.hasWork();
+    const bool hasMore = scene.advance(kSliceMilliseconds);
+    const auto [done, total] = scene.progress();
+    if (hasMore) {
+        Q_EMIT workProgressed(done, total);
+        if (done < m_nextDrawing)
+            return true;
+        m_nextDrawing = 2 * done;
+    } else if (isLong) {
+        Q_EMIT workEnded(false);
+    }
+    draw();
+    return hasMore;
+}
+
+void FieldCanvas::draw()
+{
+    m_view.setSize(pixelSize());
+    m_view.prepare();
+    m_widget->renderWindow()->Render();
+    m_overlay->update();
+    countRedraw();
+}
+
+QImage FieldCanvas::render(const QSize& size, QString* error)
+{
+    return drawFieldImage(frame(), m_view.camera(), m_cache, size, error);
+}
+
+void FieldCanvas::fitView()
+{
+    m_view.fit();
+    requestRedraw();
+}
+
+void FieldCanvas::cancelWork()
+{
+    if (m_view.scene().hasWork()) {
+        m_view.scene().cancel();
+        Q_EMIT workEnded(true);
+        requestRedraw();
+    }
+}
+
+void FieldCanvas::resumeWork()
+{
+    m_view.scene().resume();
+    requestRedraw();
+}
+
+bool FieldCanvas::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        // The interactor would take letters for commands; here they belong to the window.
+        event->ignore();
+        return true;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+    case QEvent::Wheel: return handleMouse(event);
+    default: return Canvas::eventFilter(watched, event);
+    }
+}
+
+bool FieldCanvas::handleMouse(QEvent* event)
+{
+    if (event->type() == QEvent::Wheel) {
+        auto* const wheel = static_cast<QWheelEvent*>(event);
+        if (m_view.isFlat()) {
+            const double notches = wheel->angleDelta().y() / 120.0;
+            m_view.magnify(std::pow(kWheelStep, notches), pixelOf(wheel->position()));
+            requestRedraw();
+        }
+        m_view.setMoved();
+        return m_view.isFlat();
+    }
+    auto* const mouse = static_cast<QMouseEvent*>(event);
+    const QPointF position = mouse->localPos();
+    if (event->type() == QEvent::MouseMove) {
+        const QPointF moved = position - m_pressedAt;
+        m_isDragging = m_isDragging
+            || (mouse->buttons() && moved.manhattanLength() >= QApplication::startDragDistance());
+        if (m_isDragging && mouse->buttons()) {
+            m_view.setMoved();
+            if (m_view.isFlat()) {
+                m_view.pan(pixelOf(moved));
+                m_pressedAt = position;
+                requestRedraw();
+            }
+        }
+    } else if (event->type() == QEvent::MouseButtonRelease) {
+        if (!m_isDragging && mouse->button() == Qt::LeftButton)
+            click(position, m_isDoubleClick);
+        m_isDoubleClick = m_isDragging = false;
+    } else {
+        m_pressedAt = position;
+        m_isDragging = false;
+        m_isDoubleClick = event->type() == QEvent::MouseButtonDblClick;
+    }
+    return m_view.isFlat();
+}
+
+void FieldCanvas::click(const QPointF& position, bool activate)
+{
+    Q_EMIT zonePicked(m_view.zoneAt(pixelOf(position)), activate);
+}
+
+} // namespace corvala::plot

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/offscreen.h"
+
+#include "host/document/document.h"
+#include "plot/field/opengl_check.h"
+
+#include <QCoreApplication>
+#include <QPainter>
+
+#include <vtkRenderWindow.h>
+#include <vtkUnsignedCharArray.h>
+
+namespace corvala::plot {
+
+/// Pictures are drawn larger and made smaller, which gives smooth lines with every OpenGL: software
+/// renderers leave holes in lines when they smooth by samples.
+static constexpr int kMagnification = 2;
+static constexpr int kLargestSide = 8192;
+
+static QImage pixelsOf(vtkRenderWindow& window, const QSize& size)
+{
+    vtkNew<vtkUnsignedCharArray> pixels;
+    window.GetPixelData(0, 0, size.width() - 1, size.height() - 1, 0, pixels);
+    if (pixels->GetNumberOfTuples() < static_cast<vtkIdType>(size.width()) * size.height())
+        return {};
+    const QImage upsideDown(pixels->GetPointer(0), size.width(), size.height(), 3 * size.width(),
+                            QImage::Format_RGB888);
+    return upsideDown.mirrored().convertToFormat(QImage::Format_RGB32);
+}
+
+static QString findProblem(const QSize& size)
+{
+    if (size.isEmpty() || size.width() > kLargestSide || size.height() > kLargestSide) {
+        return QCoreApplication::translate(
+                   "corvala::plot",
+                   "An image of %1 by %2 pixels cannot be drawn; a side may "
+                   "have 1 to %3")
+            .arg(size.width())
+            .arg(size.height())
+            .arg(kLargestSide);
+    }
+    return openGlProblem();
+}
+
+QImage drawFieldImage(CvlUniqueId frame, const CameraState& camera,
+                      std::shared_ptr<SurfaceCache> cache, const QSize& size, QString* error)
+{
+    const QString problem = findProblem(size);
+    if (error)
+        *error = problem;
+    if (!problem.isEmpty())
+        return {};
+    vtkNew<vtkRenderWindow> window;
+    window->SetOffScreenRendering(1);
+    window->SetMultiSamples(0);
+    const QSize drawnSize = size * kMagnification;
+    window->SetSize(drawnSize.width(), drawnSize.height());
+    FieldView view(std::move(cache));
+    view.attach(window);
+    const host::Frame* const drawn = host::Document::instance().frame(frame);
+    view.setFlat(drawn && drawn->plotType() == PlotType_Field2D);
+    view.setCamera(camera);
+    view.setSize(drawnSize, kMagnification);
+    view.scene().setFrame(frame);
+    view.scene().advance(-1);
+    view.prepare();
+    window->Render();
+    QImage image =
+        pixelsOf(*window, drawnSize).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    view.setSize(size);
+    view.prepare();
+    QPainter painter(&image);
+    view.paintDecorations(painter);
+    return image;
+}
+
+} // namespace corvala::plot

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace corvala::plot {
+
+/// Why plots that need OpenGL cannot be drawn, for the user, naming the package to install; empty
+/// when they can. Needs the QApplication; looked at once.
+QString openGlProblem();
+
+} // namespace corvala::plot

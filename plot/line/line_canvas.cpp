@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/line/line_canvas.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QVBoxLayout>
+
+namespace corvala::plot {
+
+static constexpr double kPickPixels = 8.0;
+
+LineCanvas::LineCanvas(QWidget* parent)
+    : Canvas(parent)
+    , m_widget(new QCustomPlot(this))
+    , m_plot(*m_widget)
+    , m_notice(new QLabel(m_widget))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_widget);
+    m_widget->setAccessibleName(tr("Line plot"));
+    m_widget->installEventFilter(this);
+    m_notice->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_notice->move(8, 4);
+}
+
+void LineCanvas::frameChanged(CvlUniqueId previous)
+{
+    if (m_plot.isFitted())
+        m_views.remove(previous);
+    else
+        m_views[previous] = m_plot.chart().range();
+    m_plot.setFrame(frame());
+    const auto view = m_views.constFind(frame());
+    if (view != m_views.constEnd()) {
+        m_plot.setMoved();
+        m_plot.chart().setRange(*view);
+    }
+}
+
+void LineCanvas::documentChanged(const host::StateEvent& event)
+{
+    if (m_plot.apply(event))
+        requestRedraw();
+}
+
+bool LineCanvas::redraw()
+{
+    if (!isVisible())
+        return false;
+    m_plot.update();
+    m_widget->replot(QCustomPlot::rpImmediateRefresh);
+    m_notice->setText(m_plot.notice());
+    m_notice->adjustSize();
+    countRedraw();
+    return false;
+}
+
+void LineCanvas::resizeEvent(QResizeEvent* event)
+{
+    Canvas::resizeEvent(event);
+    m_plot.setFrameHeight(height());
+    requestRedraw();
+}
+
+void LineCanvas::showEvent(QShowEvent* event)
+{
+    Canvas::showEvent(event);
+    requestRedraw();
+}
+
+void LineCanvas::fitView()
+{
+    m_plot.fit();
+    requestRedraw();
+}
+
+bool LineCanvas::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* const mouse = static_cast<QMouseEvent*>(event);
+    const auto hasMoved = [this](const QPointF& to) {
+        return (to - m_pressedAt).manhattanLength() >= QApplication::startDragDistance();
+    };
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        m_pressedAt = mouse->localPos();
+        m_isDoubleClick = event->type() == QEvent::MouseButtonDblClick;
+        break;
+    case QEvent::MouseMove:
+        if (mouse->buttons() && hasMoved(mouse->localPos()))
+            m_plot.setMoved();
+        break;
+    case QEvent::MouseButtonRelease:
+        if (mouse->button() == Qt::LeftButton && !hasMoved(mouse->localPos())) {
+            Q_EMIT lineMapPicked(m_plot.chart().lineAt(mouse->localPos(), kPickPixels),
+                                 m_isDoubleClick);
+        }
+        break;
+    case QEvent::Wheel: m_plot.setMoved(); break;
+    default: break;
+    }
+    return Canvas::eventFilter(watched, event);
+}
+
+QImage LineCanvas::render(const QSize& size, QString* error)
+{
+    const ChartRange range = m_plot.chart().range();
+    return drawLineImage(frame(), m_plot.isFitted() ? nullptr : &range, size, error);
+}
+
+QImage drawLineImage(CvlUniqueId frame, const ChartRange* range, const QSize& size, QString* error)
+{
+    if (error)
+        error->clear();
+    if (size.isEmpty()) {
+        if (error) {
+            *error = QCoreApplication::translate("corvala::plot",
+                                                 "An image without pixels cannot be drawn");
+        }
+        return {};
+    }
+    QCustomPlot widget;
+    LinePlot plot(widget);
+    plot.setFrameHeight(size.height());
+    plot.setFrame(frame);
+    plot.update();
+    if (range)
+        plot.chart().setRange(*range);
+    return widget.toPixmap(size.width(), size.height()).toImage();
+}
+
+} // namespace corvala::plot

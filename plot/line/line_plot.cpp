@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/line/line_plot.h"
+
+#include "plot/common/line_patterns.h"
+#include "plot/line/line_data.h"
+
+#include <algorithm>
+
+namespace corvala::plot {
+
+/// Attributes of a line, looked up once.
+struct LineAttributes
+{
+    static const LineAttributes& instance()
+    {
+        static const LineAttributes attributes;
+        return attributes;
+    }
+
+    const host::Schema& schema = host::Schema::instance();
+    host::AttributeId show = schema.find({"LineMap", "Lines", "Show"});
+    host::AttributeId color = schema.find({"LineMap", "Lines", "Color"});
+    host::AttributeId thickness = schema.find({"LineMap", "Lines", "LineThickness"});
+    host::AttributeId pattern = schema.find({"LineMap", "Lines", "LinePattern"});
+    host::AttributeId length = schema.find({"LineMap", "Lines", "PatternLength"});
+};
+
+LinePlot::LinePlot(QCustomPlot& plot)
+    : m_plot(plot)
+    , m_chart(makeXyChart(plot))
+{
+}
+
+const host::Frame* LinePlot::frame() const
+{
+    const host::Frame* const frame = host::Document::instance().frame(m_frame);
+    return frame && frame->isLinePlot() && frame->hasData() ? frame : nullptr;
+}
+
+void LinePlot::setFrame(CvlUniqueId frame)
+{
+    m_frame = frame;
+    m_isFitted = true;
+    rebuild();
+}
+
+void LinePlot::rebuild()
+{
+    const host::Frame* const drawn = frame();
+    m_isPolar = drawn && drawn->plotType() == PlotType_LinePolar;
+    m_chart.reset();
+    m_plot.clearPlottables();
+    m_chart = m_isPolar ? makePolarChart(m_plot) : makeXyChart(m_plot);
+    m_shown = {};
+    m_refused = {};
+    m_stale = m_staleData = drawn ? drawn->activeLineMaps() : host::MapSet();
+    setFrameHeight(m_height);
+}
+
+void LinePlot::setFrameHeight(int height)
+{
+    m_height = height;
+    QFont font = m_plot.font();
+    font.setPixelSize(static_cast<int>(std::clamp(height / 45.0, 9.0, 40.0)));
+    m_chart->setFont(font);
+    m_stale |= m_shown;
+}
+
+bool LinePlot::apply(const host::StateEvent& event)
+{
+    if (event.frame != 0 && event.frame != m_frame)
+        return false;
+    switch (event.code) {
+    case StateCode_Style:
+    case StateCode_UndoApplied:
+    case StateCode_RedoApplied:
+        if (!event.structureChanged)
+            return applyStyle(event);
+        break;
+    case StateCode_ColorTableChanged: m_stale |= m_shown; return true;
+    case StateCode_VariableRenamed:
+    case StateCode_VariableListChanged: return true;
+    case StateCode_DocumentCleared:
+    case StateCode_DocumentLoaded:
+    case StateCode_DataSetAttached:
+    case StateCode_DataSetDetached:
+    case StateCode_DataValuesChanged:
+    case StateCode_LineMapListChanged:
+    case StateCode_ZonesAdded:
+    case StateCode_ZonesRemoved: break;
+    default: return false;
+    }
+    rebuild();
+    return true;
+}
+
+bool LinePlot::applyStyle(const host::StateEvent& event)
+{
+    bool changed = false;
+    for (const host::StyleChange& change : event.styleChanges) {
+        const host::Attribute& attribute = host::Schema::instance().at(change.attribute);
+        const std::string& group = attribute.names.front();
+        if (group == "PlotType") {
+            setFrame(m_frame);
+            return true;
+        }
+        if (group == "LinePlotLayers") {
+            rebuild();
+            changed = true;
+        } else if (group == "ActiveLineMaps"
+                   || (group == "LineMap"
+                       && (attribute.names[1] == "Lines" || attribute.names[1] == "Assign"))) {
+            m_stale |= change.maps;
+            if (group == "ActiveLineMaps" || attribute.names[1] == "Assign")
+                m_staleData |= change.maps;
+            changed = true;
+        }
+    }
+    return changed;
+}
+
+bool LinePlot::isDrawn(const host::Frame& drawn, CvlInt64 map) const
+{
+    return drawn.activeLineMaps().contains(static_cast<std::uint32_t>(map))
+        && drawn.lineInteger(LineAttributes::instance().show, map) != 0
+        && drawn.lineLayer("ShowLines");
+}
+
+QPen LinePlot::penOf(const host::Frame& drawn, CvlInt64 map) const
+{
+    const LineAttributes& ids = LineAttributes::instance();
+    const host::Rgb color = host::Document::instance().color(drawn.lineInteger(ids.color, map));
+    QPen pen(QColor(color.red, color.green, color.blue));
+    const double width = linePixels(drawn.lineReal(ids.thickness, map), m_height);
+    pen.setWidthF(width);
+    pen.setJoinStyle(Qt::RoundJoin);
+    const int pattern = drawn.lineInteger(ids.pattern, map);
+    if (pattern != LinePattern_Solid) {
+        const double period = drawn.lineReal(ids.length, map) / 100.0 * m_height;
+        QVector<qreal> dashes;
+        for (const double stroke : patternStrokes(pattern))
+            dashes.append(std::max(stroke * period / width, 0.01));
+        pen.setDashPattern(dashes);
+        pen.setCapStyle(Qt::FlatCap);
+    }
+    return pen;
+}
+
+void LinePlot::sync(const host::Frame& drawn, CvlInt64 map)
+{
+    const auto member = static_cast<std::uint32_t>(map);
+    ++m_syncs;
+    m_refused.remove(member);
+    if (!isDrawn(drawn, map)) {
+        m_chart->removeLine(map);
+        m_shown.remove(member);
+        return;
+    }
+    const bool isNew = !m_shown.contains(member);
+    if (isNew && static_cast<CvlInt64>(m_shown.cardinality()) >= kLargestPlot) {
+        m_refused.add(member);
+        return;
+    }
+    if (isNew || m_staleData.contains(member))
+        m_chart->setLine(map, lineData(drawn, map));
+    m_shown.add(member);
+    m_chart->setPen(map, penOf(drawn, map));
+}
+
+void LinePlot::update()
+{
+    const host::Frame* const drawn = frame();
+    if (drawn) {
+        const host::MapSet known = host::allUpTo(drawn->lineMapCount());
+        for (const std::uint32_t map : m_stale& known)
+            sync(*drawn, map);
+        m_stale = m_staleData = {};
+        if (!m_refused.isEmpty() && static_cast<CvlInt64>(m_shown.cardinality()) < kLargestPlot)
+            for (const std::uint32_t map : host::MapSet(m_refused))
+                sync(*drawn, map);
+        updateTitles(*drawn);
+    }
+    if (m_isFitted)
+        m_chart->fit();
+}
+
+static QString nameOf(const host::DataSet& data, CvlInt64 number)
+{
+    if (!data.hasVariable(number))
+        return {};
+    const host::Variable& variable = data.variable(number);
+    return QString::fromStdString(variable.alias.empty() ? variable.name : variable.alias);
+}
+
+void LinePlot::updateTitles(const host::Frame& drawn)
+{
+    constexpr int kMostNames = 4;
+    QStringList first;
+    QStringList second;
+    for (const std::uint32_t map : m_shown) {
+        const LineVariables variables = variablesOf(drawn, map);
+        const QString x = nameOf(*drawn.data(), variables.first);
+        const QString y = nameOf(*drawn.data(), variables.second);
+        if (!first.contains(x))
+            first.append(x);
+        if (!second.contains(y))
+            second.append(y);
+        if (first.size() > kMostNames || second.size() > kMostNames)
+            break;
+    }
+    const auto joined = [](QStringList names) {
+        if (names.size() > kMostNames)
+            names.back() = QStringLiteral("\u2026");
+        return names.join(QStringLiteral(", "));
+    };
+    m_chart->setTitles(joined(first), joined(second));
+}
+
+QString LinePlot::notice() const
+{
+    const auto shownCount = static_cast<CvlInt64>(m_shown.cardinality());
+    const auto refusedCount = static_cast<CvlInt64>(m_refused.cardinality());
+    return refusedCount == 0
+        ? QString()
+        : tr("Drawing %L1 of %L2 active maps").arg(shownCount).arg(shownCount + refusedCount);
+}
+
+} // namespace corvala::plot
