@@ -48,7 +48,7 @@ bool setStyle(const QString& path, const std::string& maps, double value, CvlInt
 static QString valueText(const host::StyleInput& value)
 {
     if (const auto* number = std::get_if<double>(&value))
-        return QString::number(*number);
+        return QString::number(*number, 'g', 10);
     if (const auto* isOn = std::get_if<bool>(&value))
         return *isOn ? "true" : "false";
     if (const auto* text = std::get_if<std::string>(&value))

@@ -331,6 +331,7 @@ void tst_TableModels::writeEdits_data()
     row("xy", "Zone", "3: Zone 3", "LineMap.Assign.Zone 2,3 = 3");
     row("xy", "Zone", 1, "LineMap.Assign.Zone 2,3 = 2");
     row("xy", "Zone", "", "");
+    row("xy", "Zone", 2147483647, "LineMap.Assign.Zone 2,3 = 2147483647 (6)");
     row("xy", "Sort", "By dependent variable", "LineMap.Assign.Sort 2,3 = 2");
     row("xy", "Sort", "By specific variable", "");
     row("xy", "Show in Legend", "Never", "LineMap.Assign.ShowInLegend 2,3 = 1");

@@ -3,6 +3,7 @@
 #include "zonestyle/models/columns/column_descriptor.h"
 #include "zonestyle/models/columns/edit_value.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
@@ -15,14 +16,19 @@ static std::optional<int> positionIn(const CellReader list, const EditRequest& e
     return editedPosition(edit.value, isText && list ? list(first).toStringList() : QStringList());
 }
 
+/// Stops at the highest number, which no list reaches.
+static int shifted(int position, int first)
+{
+    constexpr qint64 kHighest = std::numeric_limits<int>::max();
+    return static_cast<int>(std::min(qint64 {position} + first, kHighest));
+}
+
 std::optional<int> EditRequest::choice() const
 {
     if (!column.choices.isEmpty())
         return editedChoice(value, column.choices);
-    std::optional<int> position = positionIn(column.edit, *this);
-    if (position && *position < std::numeric_limits<int>::max())
-        *position += column.firstChoice;
-    return position;
+    const std::optional<int> position = positionIn(column.edit, *this);
+    return position ? std::optional<int>(shifted(*position, column.firstChoice)) : std::nullopt;
 }
 
 int EditRequest::number() const
