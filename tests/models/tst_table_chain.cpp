@@ -169,6 +169,15 @@ void tst_TableChain::refusesCellsThatDoNotExist()
     QVERIFY(!m_head->setDataForIndexes({m_head->index(1, 6), gone}, "v", Qt::EditRole));
     QCOMPARE(m_second->edits, QStringList());
     QCOMPARE(m_head->flags({}), Qt::ItemFlags());
+
+    for (const int column : {-1, 11}) { // beside the chain
+        const QModelIndex beside = m_head->index(1, column);
+        QVERIFY(!beside.data().isValid());
+        QVERIFY(!m_head->setData(beside, "v", Qt::EditRole));
+        QCOMPARE(m_head->flags(beside), Qt::ItemFlags());
+        QVERIFY(!m_head->headerData(column, Qt::Horizontal).isValid());
+    }
+    QCOMPARE(m_third->edits, QStringList());
 }
 
 void tst_TableChain::relaysSignals_data()

@@ -119,9 +119,9 @@ Qt::ItemFlags ItemSubModelAbstract::flags(const QModelIndex& index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    if (ownsColumn(index.column()) || !m_subModel)
+    if (ownsColumn(index.column()))
         return localFlags(index);
-    return m_subModel->flags(toSubModel(index));
+    return m_subModel ? m_subModel->flags(toSubModel(index)) : Qt::NoItemFlags;
 }
 
 QModelIndex ItemSubModelAbstract::toSubModel(const QModelIndex& index) const

@@ -52,7 +52,7 @@ public:
                                        int role);
 
 protected:
-    bool ownsColumn(int column) const { return column < localColumnCount({}); }
+    bool ownsColumn(int column) const { return column >= 0 && column < localColumnCount({}); }
     /// The index of the same cell in the sub model, which must exist.
     QModelIndex toSubModel(const QModelIndex& index) const;
 

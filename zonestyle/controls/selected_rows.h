@@ -29,7 +29,6 @@ public:
 
 private:
     using Word = std::uint64_t;
-    static constexpr int kWordBits = 64;
 
     void growTo(int row);
 
