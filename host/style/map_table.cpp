@@ -200,6 +200,8 @@ void MapTable::rearrangeAs(const Attribute& attribute, const std::vector<std::in
                            const MapTable& old)
 {
     auto& column = m_columns[static_cast<std::size_t>(attribute.slot)];
+    // What is default for the new number of a map may depend on maps that are still the old ones.
+    const bool isDefaultKnown = attribute.rule != DefaultRule::NoSurfacesForVolumes;
     for (std::size_t chunk = 0; chunk < column.size(); ++chunk) {
         const std::size_t first = chunk * kSize;
         const std::size_t last = std::min(first + kSize, newToOld.size());
@@ -208,7 +210,7 @@ void MapTable::rearrangeAs(const Attribute& attribute, const std::vector<std::in
             const auto map = static_cast<std::int64_t>(i + 1);
             const T fallback = defaultValue<T>(attribute, map);
             T moved = newToOld[i] > 0 ? old.value<T>(attribute, newToOld[i]) : fallback;
-            if (!values && moved != fallback) {
+            if (!values && (moved != fallback || !isDefaultKnown)) {
                 values = std::make_shared<Chunk<T>>();
                 for (std::size_t j = first; j < i; ++j)
                     (*values)[j - first] =
@@ -232,8 +234,8 @@ void MapTable::rearrange(const std::vector<std::int64_t>& newToOld)
         const auto& before = old.m_columns[slot];
         const bool allDefault =
             std::all_of(before.begin(), before.end(), [](const auto& chunk) { return !chunk; });
-        if (allDefault && attribute.rule == DefaultRule::Constant)
-            continue;
+        if (allDefault && attribute.rule != DefaultRule::CyclingColor)
+            continue; // the default goes with the map, not with its number
         if (attribute.isText())
             rearrangeAs<std::string>(attribute, newToOld, old);
         else if (attribute.isReal())

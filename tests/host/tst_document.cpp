@@ -23,6 +23,7 @@ private Q_SLOTS:
     void candidateZones();
     void renames();
     void deletedFieldMapsComeBack();
+    void keepsStyleAsDefaultsMove();
     void flatFunctionsAnswerNothing();
     void setsByHandle();
     void colors();
@@ -156,6 +157,18 @@ void tst_Document::deletedFieldMapsComeBack()
     QCOMPARE(frame.fieldInteger(group, 3), 5);
     QCOMPARE(frame.activeFieldMaps().cardinality(), std::uint64_t(3));
     QVERIFY(!Document::instance().deleteFieldMaps(allUpTo(4)));
+}
+
+void tst_Document::keepsStyleAsDefaultsMove()
+{
+    open("kinds"); // map 1 is a volume, which shows no surfaces by default; map 2 is none
+    const AttributeId surfaces =
+        Schema::instance().find({"FieldMap", "Surfaces", "SurfacesToPlot"});
+    const Frame& frame = *Document::instance().activeFrame();
+    writeStyle({"FieldMap", "Surfaces", "SurfacesToPlot"}, "2", double(SurfacesToPlot_None));
+    const MapSet others = allUpTo(frame.fieldMapCount()) - (allUpTo(2) - allUpTo(1));
+    QVERIFY(Document::instance().deleteFieldMaps(others));
+    QCOMPARE(frame.fieldInteger(surfaces, 1), int(SurfacesToPlot_None));
 }
 
 void tst_Document::flatFunctionsAnswerNothing()
