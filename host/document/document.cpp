@@ -196,10 +196,11 @@ bool Document::detachDataSet()
     return true;
 }
 
-void Document::perform(Change change)
+void Document::perform(Change change, bool undoable)
 {
     change.apply(true);
-    m_undo.record(std::move(change));
+    if (undoable)
+        m_undo.record(std::move(change));
 }
 
 bool Document::enableZones(const MapSet& zones)

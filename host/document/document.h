@@ -97,7 +97,7 @@ private:
     void proposeVariables(Frame& frame);
     void raiseCode(StateCode_e code);
     /// Applies the change and records it for undo; the caller raises its events.
-    void perform(Change change);
+    void perform(Change change, bool undoable = true);
     void raiseStyle(const Frame* frame, const Attribute& attribute,
                     std::vector<StyleChange> changes);
     StyleWriteResult_e writeNow(const StyleWrite& request);

@@ -163,7 +163,7 @@ StyleWriteResult_e Document::writeToList(Frame* frame, const Attribute& attribut
         if (isPlotType)
             frame->m_picks.clear(); // picks of zones mean nothing on a line plot, and vice versa
     };
-    perform(std::move(change));
+    perform(std::move(change), request.undoable);
     raiseStyle(frame, attribute, {{attribute.id, {}}});
     if (attribute.names.front() == "ContourGroups")
         raiseCode(StateCode_ContourGroupChanged);

@@ -26,6 +26,9 @@ struct StyleWrite
     std::int64_t offset2 = -1;
     int op = static_cast<int>(AssignOp::None);
     StyleInput value;
+    /// False for a value of the frame that the program itself fills in: then no undo step, which
+    /// would be filled in again as soon as it is undone.
+    bool undoable = true;
 };
 
 /// What became of a write; kept for tests and diagnosis.

@@ -18,7 +18,7 @@ namespace corvala::sdk {
 bool copyLineMaps(toolbox::Set lineMaps);
 
 /// Gives the frame a scatter size variable (the first enabled one that is no coordinate) if it has
-/// none. False when nothing was to do.
+/// none; no step of the undo list. False when nothing was to do.
 bool autoAssignScatterVariable();
 
 /// Gives every contour group without a variable one. True when group 1 has a variable afterwards.
@@ -40,8 +40,7 @@ bool queryToActivateSidebarLayer(const std::string& layer,
 /// the boundary cell faces and answers true.
 bool queryToEnableSurfacePlotLayer(const std::string& layer);
 
-/// Whether a line map may be given the zone; asks the user only when the zone is not ordered or
-/// lacks point values for the variables of the data set.
+/// Whether a line map may be given the zone; asks the user only when the zone is not ordered.
 bool confirmLineMapZoneSelection(CvlInt64 zone);
 
 /// All three channel variables of the given "GlobalRGB" value's frame are set.

@@ -59,16 +59,16 @@ bool queryToActivateSidebarLayer(const std::string& layer,
         return false;
     if (frame->fieldLayer(name->layer))
         return true;
+    const PlotType_e plotType = frame->plotType(); // the frame may go while the question is open
     const bool wanted =
         askYesNo(text(QT_TRANSLATE_NOOP("LayerQueries", "Show Layer")),
                  text(QT_TRANSLATE_NOOP("LayerQueries",
                                         "The %1 layer is off, so nothing of it is drawn.\n"
                                         "Do you want to switch it on?"))
                      .arg(text(name->shown)));
-    if (!wanted || (chooser && !chooser(frame->plotType())))
+    if (!wanted || (chooser && !chooser(plotType)))
         return false;
-    writeFrameValue({"FieldLayers", name->layer}, 1.0);
-    return true;
+    return writeFrameValue({"FieldLayers", name->layer}, 1.0) <= StyleWrite_Unchanged;
 }
 
 bool queryToEnableSurfacePlotLayer(const std::string& layer)
@@ -77,6 +77,7 @@ bool queryToEnableSurfacePlotLayer(const std::string& layer)
     const Frame* const frame = Document::instance().activeFrame();
     if (!name || !frame || frame->activeFieldMaps().isEmpty())
         return false;
+    const host::MapSet active = frame->activeFieldMaps(); // the frame may go meanwhile
     const bool wanted = askYesNo(
         text(QT_TRANSLATE_NOOP("LayerQueries", "Show Surfaces")),
         text(QT_TRANSLATE_NOOP("LayerQueries",
@@ -88,11 +89,9 @@ bool queryToEnableSurfacePlotLayer(const std::string& layer)
         return false;
     host::StyleWrite request;
     request.path = {"FieldMap", "Surfaces", "SurfacesToPlot"};
-    const host::MapSet active = frame->activeFieldMaps();
     request.objects = &active;
     request.value = double(SurfacesToPlot_BoundaryCellFaces);
-    Document::instance().write(request);
-    return true;
+    return Document::instance().write(request) <= StyleWrite_Unchanged;
 }
 
 bool confirmLineMapZoneSelection(CvlInt64 number)
@@ -100,8 +99,7 @@ bool confirmLineMapZoneSelection(CvlInt64 number)
     const Frame* const frame = Document::instance().activeFrame();
     if (!frame || !frame->hasData() || !frame->data()->hasZone(number))
         return true; // the write itself refuses the number
-    const host::ZoneInfo& zone = frame->data()->zone(number);
-    if (zone.ordered && zone.pointCount > 0)
+    if (frame->data()->zone(number).ordered)
         return true;
     return askYesNo(
         text(QT_TRANSLATE_NOOP("LayerQueries", "Zone")),

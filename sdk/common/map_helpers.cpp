@@ -38,8 +38,13 @@ bool autoAssignScatterVariable()
     if (!frame || readFrameValue({"GlobalScatter", "Var"}) != 0)
         return false;
     const std::vector<int> candidates = dataVariables(*frame);
-    return !candidates.empty()
-        && writeFrameValue({"GlobalScatter", "Var"}, candidates.front()) == StyleWrite_Ok;
+    if (candidates.empty())
+        return false;
+    host::StyleWrite request;
+    request.path = {"GlobalScatter", "Var"};
+    request.value = double(candidates.front());
+    request.undoable = false;
+    return Document::instance().write(request) == StyleWrite_Ok;
 }
 
 bool autoAssignAllContourGroupVariables(ContourLevelsInitializationMode_e)

@@ -88,6 +88,7 @@ void tst_Common::assignsTheScatterVariableOnce()
     open("field2d", 2);
     QVERIFY(sdk::autoAssignScatterVariable());
     QCOMPARE(frameValue("GlobalScatter", "Var"), 3);
+    QCOMPARE(Document::instance().undo().stepCount(), 0); // undone, it would only come again
     int events = 0;
     const boost::signals2::scoped_connection counter =
         Document::instance().events().connect([&](const host::StateEvent&) { ++events; });
