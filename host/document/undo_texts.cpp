@@ -39,7 +39,9 @@ static QString numberText(const Attribute& attribute, double number)
         break;
     default: break;
     }
-    return QString::number(number) + (attribute.isPercent ? QStringLiteral("%") : QString());
+    constexpr int kDigits = 10; // of the largest whole number
+    return QString::number(number, 'g', kDigits)
+        + (attribute.isPercent ? QStringLiteral("%") : QString());
 }
 
 static QString valueText(const Attribute& attribute, const StyleInput& value)

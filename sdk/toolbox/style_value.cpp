@@ -7,6 +7,7 @@
 #include "sdk/base/set_record.h"
 
 #include <algorithm>
+#include <limits>
 #include <type_traits>
 
 namespace corvala::toolbox {
@@ -121,15 +122,17 @@ std::optional<Set> readSet(const Attribute& attribute, CvlUniqueId frameId)
 }
 
 template<class T>
-T converted(double number)
+std::optional<T> converted(double number)
 {
-    return static_cast<T>(number);
-}
-
-template<>
-bool converted(double number)
-{
-    return number != 0.0;
+    if constexpr (std::is_same_v<T, bool>) {
+        return number != 0.0;
+    } else if constexpr (std::is_integral_v<T>) {
+        constexpr double kLowest = static_cast<double>(std::numeric_limits<T>::min());
+        return number >= kLowest && number < -kLowest ? std::optional<T>(static_cast<T>(number))
+                                                      : std::nullopt;
+    } else {
+        return number;
+    }
 }
 
 } // namespace

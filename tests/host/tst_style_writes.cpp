@@ -168,6 +168,12 @@ void tst_StyleWrites::raisesOneEventForAllMaps()
              QStringLiteral("2-4,9"));
     QCOMPARE(Document::instance().undo().undoText(),
              QStringLiteral("Mesh type = Wire frame (4 field maps)"));
+    writeStyle({"FieldMap", "Group"}, "2", 1234567.0);
+    QCOMPARE(Document::instance().undo().undoText(),
+             QStringLiteral("Group number = 1234567 (1 field map)"));
+    writeStyle({"FieldMap", "Mesh", "LineThickness"}, "2", 0.3);
+    QCOMPARE(Document::instance().undo().undoText(),
+             QStringLiteral("Mesh line thickness = 0.3% (1 field map)"));
 }
 
 void tst_StyleWrites::shapeAndCharacterExcludeEachOther()

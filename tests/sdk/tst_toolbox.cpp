@@ -22,6 +22,7 @@ private Q_SLOTS:
     void writesGoWhereTheArgumentsSay();
     void setValuedWrites();
     void readsSetsOfTheFrame();
+    void readsNumbersThatFit();
     void stringLists();
 };
 
@@ -122,6 +123,23 @@ void tst_Toolbox::readsSetsOfTheFrame()
     QCOMPARE(StyleValue("ActiveFieldZones").read<Set>()->count(), CvlInt64(7));
     QVERIFY(!StyleValue("ActiveFieldMaps").read<int>());
     QVERIFY(!StyleValue("PlotType").read<Set>());
+}
+
+void tst_Toolbox::readsNumbersThatFit()
+{
+    std::string error;
+    QVERIFY(samples::openDemo("xy", 2, error));
+    Set maps;
+    maps.add(1);
+    StyleValue end("LineMap", "Curves", "IndVarMax");
+    QCOMPARE(end.setFinalValue(-2147483648.0, addressOf(end, &maps)), StyleWrite_Ok);
+    QCOMPARE(end.read<int>(1), std::optional<int>(-2147483647 - 1));
+    QCOMPARE(end.setFinalValue(2147483648.0, addressOf(end, &maps)), StyleWrite_Ok);
+    QVERIFY(!end.read<int>(1));
+    QCOMPARE(end.read<CvlInt64>(1), std::optional<CvlInt64>(2147483648));
+    QCOMPARE(end.setFinalValue(1e300, addressOf(end, &maps)), StyleWrite_Ok);
+    QVERIFY(!end.read<CvlInt64>(1));
+    QCOMPARE(end.read<double>(1), std::optional<double>(1e300));
 }
 
 void tst_Toolbox::stringLists()
