@@ -4,6 +4,7 @@
 #include "host/document/undo_texts.h"
 
 #include <algorithm>
+#include <map>
 
 namespace corvala::host {
 
@@ -140,6 +141,49 @@ bool Document::shiftLineMaps(const MapSet& maps, bool toTop)
     return true;
 }
 
+/// The zones, ascending, whose field maps are in the set.
+static std::vector<std::int64_t> zonesOf(const FieldMapList& fieldMaps, std::int64_t zoneCount,
+                                         const MapSet& maps)
+{
+    std::vector<std::int64_t> zones;
+    for (std::int64_t zone = 1; zone <= zoneCount; ++zone)
+        if (maps.contains(static_cast<std::uint32_t>(fieldMaps.mapOfZone(zone))))
+            zones.push_back(zone);
+    return zones;
+}
+
+static std::shared_ptr<DataSet> withZones(const DataSet& data,
+                                          const std::vector<std::int64_t>& zones)
+{
+    auto reduced = std::make_shared<DataSet>(data);
+    reduced->zones.clear();
+    for (const std::int64_t zone : zones)
+        reduced->zones.push_back(data.zone(zone));
+    return reduced;
+}
+
+/// Line maps go on drawing their zones, under the new numbers; one whose zone is gone gets the
+/// first.
+static MapTable::Columns withZoneNumbers(MapTable lineStyle,
+                                         const std::vector<std::int64_t>& keptZones)
+{
+    const Attribute& zone =
+        Schema::instance().at(Schema::instance().find({"LineMap", "Assign", "Zone"}));
+    std::map<std::int32_t, MapSet> mapsByNumber;
+    for (std::int64_t map = 1; map <= lineStyle.count(); ++map) {
+        const std::int32_t before = lineStyle.integer(zone, map);
+        const auto kept = std::lower_bound(keptZones.begin(), keptZones.end(), before);
+        const bool isKept = kept != keptZones.end() && *kept == before;
+        const auto after =
+            isKept ? static_cast<std::int32_t>(kept - keptZones.begin() + 1) : std::int32_t {1};
+        if (after != before)
+            mapsByNumber[after].add(static_cast<std::uint32_t>(map));
+    }
+    for (const auto& [number, maps] : mapsByNumber)
+        lineStyle.apply(zone, lineStyle.plan(zone, maps, number), true);
+    return lineStyle.columns();
+}
+
 bool Document::deleteFieldMaps(const MapSet& maps)
 {
     if (!m_active || !m_active->hasData() || maps.isEmpty() || maps.minimum() < 1
@@ -148,15 +192,9 @@ bool Document::deleteFieldMaps(const MapSet& maps)
     Frame& frame = *m_active;
     const MapSet kept = allUpTo(frame.fieldMapCount()) - maps;
     const std::vector<std::int64_t> newToOld = membersOf(kept);
-
-    auto data = std::make_shared<DataSet>(*frame.m_data);
-    std::vector<std::int64_t> keptZones;
-    for (std::int64_t zone = 1; zone <= data->zoneCount(); ++zone)
-        if (kept.contains(static_cast<std::uint32_t>(frame.m_fieldMaps.mapOfZone(zone))))
-            keptZones.push_back(zone);
-    data->zones.clear();
-    for (const std::int64_t zone : keptZones)
-        data->zones.push_back(frame.m_data->zone(zone));
+    const std::vector<std::int64_t> keptZones =
+        zonesOf(frame.m_fieldMaps, frame.m_data->zoneCount(), kept);
+    const std::shared_ptr<DataSet> data = withZones(*frame.m_data, keptZones);
     MapTable table = frame.m_fieldStyle;
     table.rearrange(newToOld);
 
@@ -165,14 +203,16 @@ bool Document::deleteFieldMaps(const MapSet& maps)
         std::shared_ptr<DataSet> data;
         FieldMapList fieldMaps;
         MapTable::Columns columns;
+        MapTable::Columns lineColumns;
         MapSet active;
         MapSet enabledZones;
     };
     const auto before = std::make_shared<const State>(
         State {frame.m_data, frame.m_fieldMaps, frame.m_fieldStyle.columns(),
-               frame.m_activeFieldMaps, frame.m_enabledZones});
+               frame.m_lineStyle.columns(), frame.m_activeFieldMaps, frame.m_enabledZones});
     const auto after = std::make_shared<const State>(State {
-        data, FieldMapList(*data), table.columns(), renumbered(frame.m_activeFieldMaps, newToOld),
+        data, FieldMapList(*data), table.columns(), withZoneNumbers(frame.m_lineStyle, keptZones),
+        renumbered(frame.m_activeFieldMaps, newToOld),
         renumbered(frame.m_enabledZones, keptZones)});
     Change change;
     change.frame = frame.id();
@@ -183,6 +223,7 @@ bool Document::deleteFieldMaps(const MapSet& maps)
         frame.m_data = state.data;
         frame.m_fieldMaps = state.fieldMaps;
         frame.m_fieldStyle.restore(state.columns, state.fieldMaps.count());
+        frame.m_lineStyle.restore(state.lineColumns, frame.lineMapCount());
         frame.m_activeFieldMaps = state.active;
         frame.m_enabledZones = state.enabledZones;
         frame.m_picks.clear();

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void renames();
     void deletedFieldMapsComeBack();
     void keepsStyleAsDefaultsMove();
+    void lineMapsKeepTheirZones();
     void flatFunctionsAnswerNothing();
     void setsByHandle();
     void colors();
@@ -169,6 +170,27 @@ void tst_Document::keepsStyleAsDefaultsMove()
     const MapSet others = allUpTo(frame.fieldMapCount()) - (allUpTo(2) - allUpTo(1));
     QVERIFY(Document::instance().deleteFieldMaps(others));
     QCOMPARE(frame.fieldInteger(surfaces, 1), int(SurfacesToPlot_None));
+}
+
+void tst_Document::lineMapsKeepTheirZones()
+{
+    open("xy", 3);
+    for (int map = 1; map <= 3; ++map)
+        writeStyle({"LineMap", "Assign", "Zone"}, std::to_string(map), 5.0 - map); // 4, 3, 2
+    MapSet third;
+    third.add(3);
+    QVERIFY(Document::instance().deleteFieldMaps(third));
+    const Frame& frame = *Document::instance().activeFrame();
+    const auto zones = [&frame] {
+        const AttributeId zone = Schema::instance().find({"LineMap", "Assign", "Zone"});
+        QStringList numbers;
+        for (CvlInt64 map = 1; map <= 3; ++map)
+            numbers << QString::number(frame.lineInteger(zone, map));
+        return numbers.join(' ');
+    };
+    QCOMPARE(zones(), QStringLiteral("3 1 2")); // the second one's zone is gone
+    Document::instance().undo().undo();
+    QCOMPARE(zones(), QStringLiteral("4 3 2"));
 }
 
 void tst_Document::flatFunctionsAnswerNothing()
