@@ -18,8 +18,8 @@ public:
 
     void add(Change change)
     {
+        describe(change);
         m_changes.push_back(std::make_shared<Change>(std::move(change)));
-        describe();
     }
     bool isEmpty() const { return m_changes.empty(); }
     const std::vector<std::shared_ptr<Change>>& changes() const { return m_changes; }
@@ -30,8 +30,9 @@ public:
         const auto& later = static_cast<const Step&>(*other);
         if (later.m_gesture != m_gesture)
             return false;
+        for (const auto& change : later.m_changes)
+            describe(*change);
         m_changes.insert(m_changes.end(), later.m_changes.begin(), later.m_changes.end());
-        describe();
         return true;
     }
 
@@ -50,21 +51,22 @@ public:
     }
 
 private:
-    void describe()
+    /// Adds the change to the text of the step, which names the first few different ones.
+    void describe(const Change& change)
     {
         constexpr int kShown = 3;
-        QStringList texts;
-        for (const auto& change : m_changes)
-            if (!texts.contains(change->text))
-                texts << change->text;
-        const bool tooMany = texts.size() > kShown;
-        setText(texts.mid(0, kShown).join(QStringLiteral("; "))
+        if (m_texts.size() > kShown || m_texts.contains(change.text))
+            return;
+        m_texts << change.text;
+        const bool tooMany = m_texts.size() > kShown;
+        setText(m_texts.mid(0, kShown).join(QStringLiteral("; "))
                 + (tooMany ? QStringLiteral("; ...") : QString()));
     }
 
     std::uint64_t m_gesture;
     bool m_done = false;
     std::vector<std::shared_ptr<Change>> m_changes;
+    QStringList m_texts; ///< different ones, up to one more than are shown
 };
 
 UndoHistory::UndoHistory(Document& document)
