@@ -270,6 +270,8 @@ void tst_StyleActions::activatesMaps_data()
     QTest::newRow("invert") << 3 << QList<int> {1, 4, 2, 3}
                             << "ActiveFieldMaps - 2,3; ActiveFieldMaps + 4,5";
     QTest::newRow("invert shown ones") << 3 << QList<int> {0} << "ActiveFieldMaps - 1";
+    QTest::newRow("selected only, one gone") << 2 << QList<int> {1, 5} << "";
+    QTest::newRow("invert, one gone") << 3 << QList<int> {1, 5} << "";
 }
 
 void tst_StyleActions::activatesMaps()

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
@@ -25,6 +26,15 @@ static void assign(const char* activeSet, const QModelIndexList& indexes, toolbo
     writeStyle(style, nullptr, op, mapSet(indexes));
 }
 
+/// The host refuses a set with a map that is gone; where two sets are written, neither may be.
+static bool allExist(const QModelIndexList& indexes)
+{
+    const QAbstractItemModel* model = indexes.first().model();
+    const int rows = model ? model->rowCount() : 0;
+    return std::all_of(indexes.cbegin(), indexes.cend(),
+                       [rows](const QModelIndex& index) { return index.row() < rows; });
+}
+
 MapActivateAction::MapActivateAction(const QModelIndexList& selectedIndexes, MapActivateMode_e mode,
                                      const char* activeSet)
     : Action(textOf(mode), selectedIndexes)
@@ -35,7 +45,7 @@ MapActivateAction::MapActivateAction(const QModelIndexList& selectedIndexes, Map
 
 void MapActivateAction::invokeAction()
 {
-    if (selectedIndexes().isEmpty())
+    if (selectedIndexes().isEmpty() || !allExist(selectedIndexes()))
         return;
     switch (m_mode) {
     case MapActivateMode_Activate: return add(selectedIndexes());
