@@ -26,8 +26,8 @@ struct StyleWrite
     std::int64_t offset2 = -1;
     int op = static_cast<int>(AssignOp::None);
     StyleInput value;
-    /// False for a value of the frame that the program itself fills in: then no undo step, which
-    /// would be filled in again as soon as it is undone.
+    /// False for a value of the frame that the program fills in by itself, and would fill in again
+    /// as soon as a user took it back: such a write is no undo step.
     bool undoable = true;
 };
 

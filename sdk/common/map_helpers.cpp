@@ -68,15 +68,7 @@ bool autoAssignAllContourGroupVariables(ContourLevelsInitializationMode_e)
 
 toolbox::Set getActiveZones()
 {
-    host_access::countRead();
-    toolbox::Set zones;
-    const Frame* const frame = Document::instance().activeFrame();
-    if (!frame)
-        return zones;
-    for (const std::uint32_t map : frame->activeFieldMaps())
-        for (const std::int64_t zone : frame->fieldMaps().zones(map))
-            zones.add(zone);
-    return zones;
+    return toolbox::StyleValue("ActiveFieldZones").read<toolbox::Set>().value_or(toolbox::Set());
 }
 
 bool isVolumeZone(CvlInt64 zone)
