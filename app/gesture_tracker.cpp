@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QThread>
 
 namespace corvala::app {
 
@@ -36,16 +37,25 @@ static bool isGesture(QEvent::Type type)
     }
 }
 
-bool GestureTracker::eventFilter(QObject*, QEvent* event)
+/// Input comes to a window first. While a gesture lasts, input that comes to a window in a nested
+/// event loop belongs to it; in the loop of the gesture itself it begins the next one.
+bool GestureTracker::isNewGesture(const QObject& watched) const
 {
-    if (isGesture(event->type()) && !m_history.isInGesture()) {
-        m_history.beginGesture();
-        // Qt deletes it when control is back in the loop that runs now, not in a nested one: the
-        // only notice of that moment that there is.
-        auto* end = new QObject;
-        connect(end, &QObject::destroyed, this, [this] { m_history.endGesture(); });
-        end->deleteLater();
-    }
+    return !m_history.isInGesture()
+        || (watched.isWindowType() && QThread::currentThread()->loopLevel() <= m_loopLevel);
+}
+
+bool GestureTracker::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!isGesture(event->type()) || !isNewGesture(*watched))
+        return false;
+    delete m_end;
+    m_history.beginGesture();
+    m_loopLevel = QThread::currentThread()->loopLevel();
+    // Qt deletes it when control is back in the loop that runs now, not in a nested one.
+    m_end = new QObject;
+    connect(m_end, &QObject::destroyed, this, [this] { m_history.endGesture(); });
+    m_end->deleteLater();
     return false;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 namespace corvala::host {
 class UndoHistory;
@@ -24,7 +25,11 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool isNewGesture(const QObject& watched) const;
+
     host::UndoHistory& m_history;
+    int m_loopLevel = 0; ///< of the event loop that delivered the gesture
+    QPointer<QObject> m_end; ///< ends the gesture when it is deleted; deletes itself
 };
 
 } // namespace corvala::app

@@ -34,6 +34,13 @@ static void setMeshColor(int map, int color)
     QCOMPARE(Document::instance().write(request), StyleWrite_Ok);
 }
 
+/// As the window system would: a click that goes to the widget itself passes no event loop.
+static void click(QWidget& widget)
+{
+    QTest::mouseClick(widget.windowHandle(), Qt::LeftButton, {}, widget.rect().center());
+    QCoreApplication::processEvents();
+}
+
 static int steps()
 {
     return Document::instance().undo().stepCount();
@@ -57,7 +64,7 @@ void tst_GestureTracker::oneClickIsOneStep()
         setMeshColor(2, 8);
     });
     button.show();
-    QTest::mouseClick(&button, Qt::LeftButton);
+    click(button);
     QCOMPARE(steps(), 1);
     QVERIFY(Document::instance().undo().undo());
     QCOMPARE(steps(), 0);
@@ -70,9 +77,8 @@ void tst_GestureTracker::eachClickIsAStep()
     int color = 7;
     connect(&button, &QPushButton::clicked, [&color] { setMeshColor(1, color++); });
     button.show();
-    QTest::mouseClick(&button, Qt::LeftButton);
-    QCoreApplication::processEvents();
-    QTest::keyClick(&button, Qt::Key_Space);
+    click(button);
+    QTest::keyClick(button.windowHandle(), Qt::Key_Space);
     QCoreApplication::processEvents();
     QCOMPARE(steps(), 2);
 }
@@ -87,17 +93,16 @@ void tst_GestureTracker::changesAroundAPromptAreOneStep()
         QMessageBox box(QMessageBox::Question, {}, {}, QMessageBox::Yes);
         QTimer::singleShot(0, &box, [&box] {
             setMeshColor(2, 8);
-            QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+            QTest::keyClick(box.windowHandle(), Qt::Key_Return);
             QCoreApplication::processEvents();
         });
         box.exec();
         setMeshColor(3, 9);
     });
     button.show();
-    QTest::mouseClick(&button, Qt::LeftButton);
+    click(button);
     QCOMPARE(steps(), 1);
-    QCoreApplication::processEvents();
-    QVERIFY(!Document::instance().undo().isInGesture());
+    QTRY_VERIFY(!Document::instance().undo().isInGesture());
 }
 
 void tst_GestureTracker::changesWithoutAGestureAreStepsOfTheirOwn()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/play/arguments.h"
 #include "app/play/prompt_responder.h"
 #include "app/play/script.h"
 #include "app/play/window_watcher.h"
@@ -11,8 +12,11 @@
 using namespace corvala::app::play;
 using Json = nlohmann::json;
 
-/// What a prompt answered, as text; empty when it was refused.
-using Prompt = QString (*)();
+/// Asks for something; the answer as text, empty when the prompt was refused.
+struct Prompt
+{
+    QString (*ask)();
+};
 
 static QString askNumber()
 {
@@ -84,7 +88,7 @@ static QString run(Prompt prompt, PromptResponder& responder, QString* answer)
     WindowWatcher watcher(mainWindow);
     watcher.setHandler(WindowWatcher::Prompt,
                        [&responder](QWidget& window) { responder.answer(window); });
-    *answer = prompt();
+    *answer = prompt.ask();
     try {
         watcher.check();
     } catch (const ScriptError& error) {
@@ -99,33 +103,34 @@ void tst_PromptResponder::replies_data()
     QTest::addColumn<QString>("reply");
     QTest::addColumn<QString>("answer");
 
-    QTest::newRow("number as it stands") << &askNumber << R"("OK")"
+    QTest::newRow("number as it stands") << Prompt {askNumber} << R"("OK")"
                                          << "2.5";
-    QTest::newRow("number") << &askNumber << "7.25"
+    QTest::newRow("number") << Prompt {askNumber} << "7.25"
                             << "7.25";
-    QTest::newRow("number typed as text") << &askNumber << R"("3")"
+    QTest::newRow("number typed as text") << Prompt {askNumber} << R"("3")"
                                           << "3";
-    QTest::newRow("number cancelled") << &askNumber << R"("cancel")"
+    QTest::newRow("number cancelled") << Prompt {askNumber} << R"("cancel")"
                                       << "";
-    QTest::newRow("number that is too large") << &askNumber << R"({"refused": 101})"
+    QTest::newRow("number that is too large") << Prompt {askNumber} << R"({"refused": 101})"
                                               << "";
-    QTest::newRow("text") << &askText << R"("new")"
+    QTest::newRow("text") << Prompt {askText} << R"("new")"
                           << "new";
-    QTest::newRow("any character") << &askText << QStringLiteral(R"("Größe \ud83d\ude00 ñ")")
-                                   << QString::fromUtf8("Größe \xF0\x9F\x98\x80 ñ");
-    QTest::newRow("item by text") << &askItem << R"("Pressure")"
+    QTest::newRow("any character")
+        << Prompt {askText} << QStringLiteral(R"("Größe \ud83d\ude00 ñ")")
+        << QString::fromUtf8("Größe \xF0\x9F\x98\x80 ñ");
+    QTest::newRow("item by text") << Prompt {askItem} << R"("Pressure")"
                                   << "Pressure";
-    QTest::newRow("item by position") << &askItem << R"({"position": 1})"
+    QTest::newRow("item by position") << Prompt {askItem} << R"({"position": 1})"
                                       << "X";
-    QTest::newRow("item as it stands") << &askItem << R"("OK")"
+    QTest::newRow("item as it stands") << Prompt {askItem} << R"("OK")"
                                        << "Y";
-    QTest::newRow("yes") << &askQuestion << R"("OK")"
+    QTest::newRow("yes") << Prompt {askQuestion} << R"("OK")"
                          << "yes";
-    QTest::newRow("no") << &askQuestion << R"("cancel")"
+    QTest::newRow("no") << Prompt {askQuestion} << R"("cancel")"
                         << "";
-    QTest::newRow("several fields") << &askThreeNumbers << "[2, 9, 3]"
+    QTest::newRow("several fields") << Prompt {askThreeNumbers} << "[2, 9, 3]"
                                     << "2,9,3";
-    QTest::newRow("the first field") << &askThreeNumbers << "5"
+    QTest::newRow("the first field") << Prompt {askThreeNumbers} << "5"
                                      << "5,0,1";
 }
 
@@ -147,17 +152,17 @@ void tst_PromptResponder::refusesBadReplies_data()
     QTest::addColumn<QString>("reply");
     QTest::addColumn<QString>("named");
 
-    QTest::newRow("unknown item") << &askItem << R"("Density")"
+    QTest::newRow("unknown item") << Prompt {askItem} << R"("Density")"
                                   << "Density";
-    QTest::newRow("position outside") << &askItem << R"({"position": 4})"
+    QTest::newRow("position outside") << Prompt {askItem} << R"({"position": 4})"
                                       << "4";
-    QTest::newRow("value that is accepted") << &askNumber << R"({"refused": 50})"
+    QTest::newRow("value that is accepted") << Prompt {askNumber} << R"({"refused": 50})"
                                             << "50";
-    QTest::newRow("value for a question") << &askQuestion << "3"
+    QTest::newRow("value for a question") << Prompt {askQuestion} << "3"
                                           << "takes no value";
-    QTest::newRow("position without a list") << &askNumber << R"({"position": 1})"
+    QTest::newRow("position without a list") << Prompt {askNumber} << R"({"position": 1})"
                                              << "no list";
-    QTest::newRow("too many fields") << &askThreeNumbers << "[1, 2, 3, 4]"
+    QTest::newRow("too many fields") << Prompt {askThreeNumbers} << "[1, 2, 3, 4]"
                                      << "3 fields";
 }
 
@@ -179,15 +184,17 @@ void tst_PromptResponder::describesPrompts_data()
     QTest::addColumn<Prompt>("prompt");
     QTest::addColumn<QString>("description");
 
-    QTest::newRow("number") << &askNumber
+    QTest::newRow("number") << Prompt {askNumber}
                             << R"({"title": "Size", "label": "Size [%]", "value": 2.5, "min": 0.01,
                                    "max": 100.0, "decimals": 2, "default": "OK"})";
-    QTest::newRow("item") << &askItem
+    QTest::newRow("item") << Prompt {askItem}
                           << R"({"title": "Pick", "value": "Y", "items": ["X", "Y", "Pressure"]})";
-    QTest::newRow("question") << &askQuestion << R"({"title": "Layer", "label": "Switch it on?",
+    QTest::newRow("question") << Prompt {askQuestion}
+                              << R"({"title": "Layer", "label": "Switch it on?",
                                      "buttons": ["Yes", "No"], "default": "Yes"})";
     QTest::newRow("three numbers")
-        << &askThreeNumbers << R"({"title": "Enter Range", "labels": ["&Begin", "&End", "&Skip"],
+        << Prompt {askThreeNumbers}
+        << R"({"title": "Enter Range", "labels": ["&Begin", "&End", "&Skip"],
                "value": [1, 0, 1], "min": [1, 0, 1]})";
 }
 
@@ -199,15 +206,16 @@ void tst_PromptResponder::describesPrompts()
     responder.queue({"cancel"});
     QString answer;
     QCOMPARE(run(prompt, responder, &answer), QString());
-    for (const auto& [key, value] : Json::parse(description.toStdString()).items())
-        QCOMPARE(responder.lastPrompt().value(key, Json()).dump(), value.dump());
+    const Json wanted = Json::parse(description.toStdString());
+    for (const auto& [key, value] : wanted.items())
+        QCOMPARE(shown(responder.lastPrompt().value(key, Json())), shown(value));
 }
 
 void tst_PromptResponder::wantsAReplyForEveryPrompt()
 {
     PromptResponder responder;
     QString answer;
-    const QString error = run(&askNumber, responder, &answer);
+    const QString error = run({askNumber}, responder, &answer);
     QVERIFY2(error.contains(QLatin1String("\"Size\"")), qPrintable(error));
     QVERIFY(answer.isEmpty());
     for (const Json& bad : {Json({nullptr}), Json({{{"place", 3}}}), Json("OK"),
