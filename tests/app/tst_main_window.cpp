@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/main_window.h"
+#include "app/play/dialog_driver.h"
+#include "app/play/idle.h"
+#include "app/play/input.h"
+#include "app/play/style_report.h"
+#include "host/document/document.h"
+#include "plot/frame_view.h"
+#include "sdk/dialogs_common/qt_dialog_abstract.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTest>
+
+using namespace corvala;
+using namespace corvala::app;
+using host::Document;
+
+class tst_MainWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { qputenv("CORVALA_READ", CORVALA_READ); }
+    void init();
+    void cleanup();
+    void showsTheDocument();
+    void layersAndPlotTypeChangeTheDocument();
+    void undoIsNamedAndWorksByShortcut();
+    void sliderGoesThroughTheTimes();
+    void doubleClickOnAZoneOpensItsStyle();
+    void readsWhileTheWindowLives();
+    void cancelsReading();
+    void failureLeavesTheDocument();
+    void tellsWhatPlot3DWasDetected();
+
+private:
+    QAction& layer(const char* name) { return *m_window->findChild<QAction*>(QLatin1String(name)); }
+
+    std::unique_ptr<MainWindow> m_window;
+};
+
+static host::Frame& frame()
+{
+    return *Document::instance().activeFrame();
+}
+
+static QString sample(const char* file)
+{
+    return QStringLiteral(CORVALA_SAMPLES "/") + QLatin1String(file);
+}
+
+void tst_MainWindow::init()
+{
+    Document::instance().clear();
+    m_window = std::make_unique<MainWindow>();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void tst_MainWindow::cleanup()
+{
+    m_window.reset();
+}
+
+void tst_MainWindow::showsTheDocument()
+{
+    QCOMPARE(m_window->windowTitle(), QStringLiteral("corvala"));
+    QVERIFY(!layer("ShowMesh").isVisible());
+    m_window->openDemo(QStringLiteral("field2d"));
+    play::waitUntilIdle();
+    QVERIFY(m_window->windowTitle().endsWith(QLatin1String(" - corvala")));
+    QVERIFY(layer("ShowMesh").isVisible() && layer("ShowMesh").isChecked());
+    QVERIFY(!layer("ShowContour").isChecked());
+    QVERIFY(!layer("ShowLines").isVisible());
+    QVERIFY(!m_window->findChild<QSlider*>(QStringLiteral("solutionTime"))->isVisible());
+}
+
+void tst_MainWindow::layersAndPlotTypeChangeTheDocument()
+{
+    m_window->openDemo(QStringLiteral("field3d"));
+    layer("ShowContour").trigger();
+    QVERIFY(frame().fieldLayer("ShowContour"));
+    auto* types = m_window->findChild<QComboBox*>(QStringLiteral("plotType"));
+    play::waitUntilIdle();
+    QCOMPARE(types->currentText(), QStringLiteral("3D field plot"));
+    types->setFocus();
+    play::pressKey(types, Qt::Key_Up);
+    play::waitUntilIdle();
+    QCOMPARE(frame().plotType(), PlotType_Field2D);
+}
+
+void tst_MainWindow::undoIsNamedAndWorksByShortcut()
+{
+    m_window->openDemo(QStringLiteral("field2d"));
+    play::waitUntilIdle();
+    const QAction* edit = m_window->menuBar()->actions().value(1);
+    const QAction* undo = edit->menu()->actions().value(0);
+    QVERIFY(!undo->isEnabled());
+    layer("ShowShade").trigger();
+    play::waitUntilIdle();
+    QVERIFY2(undo->isEnabled() && undo->text().contains(QLatin1String("hade")),
+             qPrintable(undo->text()));
+    play::pressKeys(m_window.get(), QKeySequence(QKeySequence::Undo));
+    QVERIFY(!frame().fieldLayer("ShowShade"));
+    play::pressKeys(m_window.get(), QKeySequence(QKeySequence::Redo));
+    QVERIFY(frame().fieldLayer("ShowShade"));
+}
+
+void tst_MainWindow::sliderGoesThroughTheTimes()
+{
+    m_window->openDemo(QStringLiteral("transient"));
+    play::waitUntilIdle();
+    auto* slider = m_window->findChild<QSlider*>(QStringLiteral("solutionTime"));
+    QVERIFY(slider->isVisible());
+    QCOMPARE(slider->maximum(), 3);
+    slider->setFocus();
+    play::pressKey(slider, Qt::Key_End);
+    QCOMPARE(frame().solutionTime(), 3.0);
+    play::pressKey(slider, Qt::Key_Left);
+    QCOMPARE(frame().solutionTime(), 2.0);
+    Document::instance().setSolutionTime(1.5);
+    play::waitUntilIdle();
+    QCOMPARE(slider->value(), 1);
+    QCOMPARE(frame().solutionTime(), 1.5);
+}
+
+/// The zones of the data lie on a grid that fills the canvas; the middle is between four of them.
+void tst_MainWindow::doubleClickOnAZoneOpensItsStyle()
+{
+    m_window->openDemo(QStringLiteral("field2d"));
+    play::waitUntilIdle();
+    auto* view = m_window->findChild<plot::FrameView*>();
+    QVERIFY(view);
+    QSignalSpy picks(view, &plot::Canvas::zonePicked);
+    QWidget* target = view->childAt(view->rect().center());
+    play::doubleClick(target, target->rect().center() + QPoint(target->width() / 16, 5));
+    QTRY_VERIFY(!picks.isEmpty() && picks.last().at(1).toBool());
+    const auto zone = picks.last().at(0).toLongLong();
+    QVERIFY(zone > 0);
+    play::waitUntilIdle();
+    const play::DialogDriver driver;
+    QVERIFY(driver.instance() && driver.instance()->isVisible());
+    QCOMPARE(play::selectedMaps(driver), QString::number(zone));
+}
+
+void tst_MainWindow::readsWhileTheWindowLives()
+{
+    QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
+    m_window->openFiles({sample("naca_transient/naca.bin.case")});
+    QVERIFY(!frame().hasData());
+    QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
+    play::waitUntilIdle();
+    QVERIFY(frame().hasData());
+    QVERIFY(m_window->findChild<QSlider*>(QStringLiteral("solutionTime"))->isVisible());
+}
+
+void tst_MainWindow::cancelsReading()
+{
+    m_window->openDemo(QStringLiteral("kinds"));
+    m_window->openFiles({sample("naca_transient/naca.bin.case")});
+    QPushButton* cancel = nullptr;
+    for (QPushButton* button : m_window->findChildren<QPushButton*>()) {
+        if (button->isVisible() && button->text() == QLatin1String("Cancel"))
+            cancel = button;
+    }
+    QVERIFY(cancel);
+    cancel->click();
+    QTRY_VERIFY(!cancel->isVisible());
+    play::waitUntilIdle();
+    QCOMPARE(frame().fieldMapCount(), CvlInt64(8));
+    QVERIFY(!QApplication::activeModalWidget());
+}
+
+void tst_MainWindow::failureLeavesTheDocument()
+{
+    m_window->openDemo(QStringLiteral("kinds"));
+    QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
+    m_window->openFiles({QStringLiteral("/nowhere/wing.cgns")});
+    QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    QVERIFY(box);
+    QVERIFY2(box->text().contains(QLatin1String("wing.cgns")), qPrintable(box->text()));
+    box->close();
+    QCOMPARE(frame().fieldMapCount(), CvlInt64(8));
+}
+
+void tst_MainWindow::tellsWhatPlot3DWasDetected()
+{
+    QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
+    m_window->openFiles({sample("combustor_plot3d/multi-bin.xyz")});
+    QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
+    QStringList texts;
+    for (const QLabel* label : m_window->findChildren<QLabel*>()) {
+        if (label->isVisible())
+            texts << label->text();
+    }
+    const QString shown = texts.join(QLatin1Char('|'));
+    QVERIFY2(shown.contains(QLatin1String("Detected: binary, several grids")), qPrintable(shown));
+}
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_main_window.moc"
