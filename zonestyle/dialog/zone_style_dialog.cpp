@@ -121,8 +121,10 @@ void ZoneStyleDialog::setVisible(bool visible)
 {
     if (visible && !isVisible()) {
         catchUp();
-        if (!std::exchange(m_hasBeenShown, true))
+        if (!std::exchange(m_hasBeenShown, true)) {
             adoptPreferredSize();
+            m_tableView->setFocus();
+        }
     }
     QtDialogAbstract::setVisible(visible);
 }
