@@ -29,7 +29,7 @@ std::string toText(const MapSet& set, std::int64_t count)
             return;
         text += (text.empty() ? "" : ",") + std::to_string(first);
         if (last > first)
-            text += (last == first + 1 ? "," : "-") + std::to_string(last);
+            text += "-" + std::to_string(last);
     };
     for (const std::uint32_t member : set) {
         if (first == 0 || member != last + 1) {

@@ -107,15 +107,15 @@ void tst_StyleActions::writesAllMapsAtOnce_data()
             return new StyleAction<decltype(value)>("text", rows, value, path);
         }) << written;
     };
-    row("switch", char {0}, {"FieldMap", "Mesh", "Show"}, "FieldMap.Mesh.Show 3,4,8 = false");
-    row("integer", 3, {"FieldMap", "Group"}, "FieldMap.Group 3,4,8 = 3");
+    row("switch", char {0}, {"FieldMap", "Mesh", "Show"}, "FieldMap.Mesh.Show 3-4,8 = false");
+    row("integer", 3, {"FieldMap", "Group"}, "FieldMap.Group 3-4,8 = 3");
     row("real", 0.25, {"FieldMap", "Mesh", "LineThickness"},
-        "FieldMap.Mesh.LineThickness 3,4,8 = 0.25");
+        "FieldMap.Mesh.LineThickness 3-4,8 = 0.25");
     row("enumeration", MeshType_HiddenLine, {"FieldMap", "Mesh", "MeshType"},
-        "FieldMap.Mesh.MeshType 3,4,8 = 2");
+        "FieldMap.Mesh.MeshType 3-4,8 = 2");
     row("five names", FontOverride_Greek + 0,
         {"FieldMap", "Scatter", "SymbolShape", "ASCIIShape", "FontOverride"},
-        "FieldMap.Scatter.SymbolShape.ASCIIShape.FontOverride 3,4,8 = 1");
+        "FieldMap.Scatter.SymbolShape.ASCIIShape.FontOverride 3-4,8 = 1");
 }
 
 void tst_StyleActions::writesAllMapsAtOnce()
@@ -265,10 +265,10 @@ void tst_StyleActions::activatesMaps_data()
     QTest::newRow("activate") << 0 << QList<int> {4, 2} << "ActiveFieldMaps + 3,5";
     QTest::newRow("deactivate") << 1 << QList<int> {4, 2} << "ActiveFieldMaps - 3,5";
     QTest::newRow("selected only")
-        << 2 << QList<int> {4, 2} << "ActiveFieldMaps + 3,5; ActiveFieldMaps - 1,2,4";
+        << 2 << QList<int> {4, 2} << "ActiveFieldMaps + 3,5; ActiveFieldMaps - 1-2,4";
     QTest::newRow("all selected") << 2 << QList<int> {0, 1, 2, 3, 4} << "ActiveFieldMaps + 1-5";
     QTest::newRow("invert") << 3 << QList<int> {1, 4, 2, 3}
-                            << "ActiveFieldMaps - 2,3; ActiveFieldMaps + 4,5";
+                            << "ActiveFieldMaps - 2-3; ActiveFieldMaps + 4-5";
     QTest::newRow("invert shown ones") << 3 << QList<int> {0} << "ActiveFieldMaps - 1";
     QTest::newRow("selected only, one gone") << 2 << QList<int> {1, 5} << "";
     QTest::newRow("invert, one gone") << 3 << QList<int> {1, 5} << "";
@@ -309,7 +309,7 @@ void tst_StyleActions::offersSizes()
     actions.last()->trigger();
     QCOMPARE(m_user->takeSeen(), QStringList {"Title: Label [3, 0 to 100]"});
     QCOMPARE(takeWrites(),
-             QString("FieldMap.Scatter.FrameSize 2,3 = 3; FieldMap.Scatter.FrameSize 2,3 = 2.5"));
+             QString("FieldMap.Scatter.FrameSize 2-3 = 3; FieldMap.Scatter.FrameSize 2-3 = 2.5"));
     qDeleteAll(actions);
 }
 

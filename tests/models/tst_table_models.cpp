@@ -298,49 +298,49 @@ void tst_TableModels::writeEdits_data()
 
     row("mesh", "Zone Number", 5, "");
     row("mesh", "Zone Name", "x", "");
-    row("mesh", "Group Number", "3", "FieldMap.Group 2,3 = 3");
+    row("mesh", "Group Number", "3", "FieldMap.Group 2-3 = 3");
     row("mesh", "Group Number", "3", "", Qt::DisplayRole);
-    row("mesh", "Group Number", "", "FieldMap.Group 2,3 = 0 (6)");
-    row("mesh", "Show Zone", 0, "ActiveFieldMaps - 2,3", Qt::CheckStateRole);
+    row("mesh", "Group Number", "", "FieldMap.Group 2-3 = 0 (6)");
+    row("mesh", "Show Zone", 0, "ActiveFieldMaps - 2-3", Qt::CheckStateRole);
     row("mesh", "Show Zone", 0, "", Qt::EditRole);
 
-    row("mesh", "Show Mesh", 2, "FieldMap.Mesh.Show 2,3 = true", Qt::CheckStateRole);
-    row("mesh", "Show Mesh", 2, "FieldMap.Mesh.Show 2,3 = true", Qt::DisplayRole);
-    row("mesh", "Show Mesh", true, "FieldMap.Mesh.Show 2,3 = false", Qt::CheckStateRole);
-    row("mesh", "Mesh Type", "Hidden line", "FieldMap.Mesh.MeshType 2,3 = 2");
-    row("mesh", "Mesh Type", 2, "FieldMap.Mesh.MeshType 2,3 = 2");
+    row("mesh", "Show Mesh", 2, "FieldMap.Mesh.Show 2-3 = true", Qt::CheckStateRole);
+    row("mesh", "Show Mesh", 2, "FieldMap.Mesh.Show 2-3 = true", Qt::DisplayRole);
+    row("mesh", "Show Mesh", true, "FieldMap.Mesh.Show 2-3 = false", Qt::CheckStateRole);
+    row("mesh", "Mesh Type", "Hidden line", "FieldMap.Mesh.MeshType 2-3 = 2");
+    row("mesh", "Mesh Type", 2, "FieldMap.Mesh.MeshType 2-3 = 2");
     row("mesh", "Mesh Type", 2, "", Qt::DisplayRole);
     row("mesh", "Mesh Type", "Hidden", "");
-    row("mesh", "Mesh Type", 3, "FieldMap.Mesh.MeshType 2,3 = 3 (6)");
+    row("mesh", "Mesh Type", 3, "FieldMap.Mesh.MeshType 2-3 = 3 (6)");
     row("mesh", "Mesh Color", 5, "");
-    row("mesh", "Pattern Length", "0.50", "FieldMap.Mesh.PatternLength 2,3 = 1");
-    row("mesh", "Line Thickness", "0.30%", "FieldMap.Mesh.LineThickness 2,3 = 0 (6)");
+    row("mesh", "Pattern Length", "0.50", "FieldMap.Mesh.PatternLength 2-3 = 1");
+    row("mesh", "Line Thickness", "0.30%", "FieldMap.Mesh.LineThickness 2-3 = 0 (6)");
 
-    row("contour", "Contour Type", "lines", "FieldMap.Contour.ContourType 2,3 = 0", Qt::UserRole);
-    row("contour", "Flood By", "RGB", "FieldMap.Contour.FloodColoring 2,3 = 0");
-    row("contour", "Flood By", "C1: Pressure", "FieldMap.Contour.FloodColoring 2,3 = 1");
-    row("contour", "Lines By", "C2: Density", "FieldMap.Contour.LineContourGroup 2,3 = 2");
-    row("contour", "Lines By", "RGB", "FieldMap.Contour.LineContourGroup 2,3 = 0 (6)");
-    row("contour", "Pattern Length", 4, "FieldMap.Contour.PatternLength 2,3 = 4", Qt::DisplayRole);
-    row("contour 3D", "Use Lighting", 0, "FieldMap.Contour.UseLightingEffect 2,3 = false",
+    row("contour", "Contour Type", "lines", "FieldMap.Contour.ContourType 2-3 = 0", Qt::UserRole);
+    row("contour", "Flood By", "RGB", "FieldMap.Contour.FloodColoring 2-3 = 0");
+    row("contour", "Flood By", "C1: Pressure", "FieldMap.Contour.FloodColoring 2-3 = 1");
+    row("contour", "Lines By", "C2: Density", "FieldMap.Contour.LineContourGroup 2-3 = 2");
+    row("contour", "Lines By", "RGB", "FieldMap.Contour.LineContourGroup 2-3 = 0 (6)");
+    row("contour", "Pattern Length", 4, "FieldMap.Contour.PatternLength 2-3 = 4", Qt::DisplayRole);
+    row("contour 3D", "Use Lighting", 0, "FieldMap.Contour.UseLightingEffect 2-3 = false",
         Qt::CheckStateRole);
-    row("shade 3D", "Use Lighting", 0, "FieldMap.Shade.UseLightingEffect 2,3 = false",
+    row("shade 3D", "Use Lighting", 0, "FieldMap.Shade.UseLightingEffect 2-3 = false",
         Qt::CheckStateRole);
 
-    row("xy", "Show Map", 0, "ActiveLineMaps - 2,3", Qt::DisplayRole);
-    row("xy", "Zone", "3: Zone 3", "LineMap.Assign.Zone 2,3 = 3");
-    row("xy", "Zone", 1, "LineMap.Assign.Zone 2,3 = 2");
+    row("xy", "Show Map", 0, "ActiveLineMaps - 2-3", Qt::DisplayRole);
+    row("xy", "Zone", "3: Zone 3", "LineMap.Assign.Zone 2-3 = 3");
+    row("xy", "Zone", 1, "LineMap.Assign.Zone 2-3 = 2");
     row("xy", "Zone", "", "");
-    row("xy", "Zone", 2147483647, "LineMap.Assign.Zone 2,3 = 2147483647 (6)");
-    row("xy", "Sort", "By dependent variable", "LineMap.Assign.Sort 2,3 = 2");
+    row("xy", "Zone", 2147483647, "LineMap.Assign.Zone 2-3 = 2147483647 (6)");
+    row("xy", "Sort", "By dependent variable", "LineMap.Assign.Sort 2-3 = 2");
     row("xy", "Sort", "By specific variable", "");
-    row("xy", "Show in Legend", "Never", "LineMap.Assign.ShowInLegend 2,3 = 1");
-    row("xy", "X-Axis Variable", "4: Power", "LineMap.Assign.XAxisVar 2,3 = 4");
-    row("xy", "Y-Axis Variable", 0, "LineMap.Assign.YAxisVar 2,3 = 1");
-    row("xy", "Which X-Axis", "X5", "LineMap.Assign.XAxis 2,3 = 5");
-    row("xy", "Which Y-Axis", 0, "LineMap.Assign.YAxis 2,3 = 1");
-    row("polar", "Theta Variable", "7: Gain", "LineMap.Assign.ThetaAxisVar 2,3 = 7");
-    row("polar", "Radius Variable", 1, "LineMap.Assign.RAxisVar 2,3 = 2");
+    row("xy", "Show in Legend", "Never", "LineMap.Assign.ShowInLegend 2-3 = 1");
+    row("xy", "X-Axis Variable", "4: Power", "LineMap.Assign.XAxisVar 2-3 = 4");
+    row("xy", "Y-Axis Variable", 0, "LineMap.Assign.YAxisVar 2-3 = 1");
+    row("xy", "Which X-Axis", "X5", "LineMap.Assign.XAxis 2-3 = 5");
+    row("xy", "Which Y-Axis", 0, "LineMap.Assign.YAxis 2-3 = 1");
+    row("polar", "Theta Variable", "7: Gain", "LineMap.Assign.ThetaAxisVar 2-3 = 7");
+    row("polar", "Radius Variable", 1, "LineMap.Assign.RAxisVar 2-3 = 2");
 }
 
 void tst_TableModels::writeEdits()
@@ -536,7 +536,7 @@ void tst_TableModels::confirmZones()
     QVERIFY(!m_model->setDataForIndexes(zones, "4: Zone 4", Qt::EditRole)); // is not ordered
     QCOMPARE(takeWrites(), QString());
     QVERIFY(m_model->setDataForIndexes(zones, "4: Zone 4", Qt::EditRole));
-    QCOMPARE(takeWrites(), QString("LineMap.Assign.Zone 2,3 = 4"));
+    QCOMPARE(takeWrites(), QString("LineMap.Assign.Zone 2-3 = 4"));
     QVERIFY(user.isSettled());
 }
 

@@ -59,6 +59,7 @@ StyleTableView::StyleTableView(QWidget* parent)
     setWordWrap(false);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
+    setAccessibleName(tr("Style table"));
     setHorizontalScrollMode(ScrollPerPixel);
     adoptPalette();
 }

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "tests/models/table_fixture.h"
+#include "zonestyle/dialog/zone_style_dialog.h"
+#include "zonestyle/views/style_table_view.h"
+
+#include <QMainWindow>
+
+#include <functional>
+
+class QLineEdit;
+class QPushButton;
+class QTabWidget;
+
+namespace corvala::tests {
+
+using sdk::ui::dialogs::ZoneStyleDialog;
+using sdk::ui::dialogs::zonestyle::intern::views::StyleTableView;
+
+/// Lets everything that is pending happen, idle refreshes and repaints too.
+void runUntilIdle();
+
+/// A style value of a map of the active frame, or of the frame (map 0).
+int styleValue(const QString& path, int map);
+
+/// The value of an attribute for every map, such as "1 1 2".
+QString styleValues(const QString& path, int maps);
+
+/// A document with embedded data and the dialog open on it. Cells are addressed by map number and
+/// by column of the whole table; gestures are mouse and key events.
+class DialogFixture
+{
+public:
+    explicit DialogFixture(const char* demo, int scale = 0);
+    ~DialogFixture();
+
+    QMainWindow& mainWindow() { return m_window; }
+    ZoneStyleDialog& dialog();
+    StyleTableView& table();
+    ModelAbstract& model();
+    QTabWidget& tabWidget(); ///< of the page that is shown
+    QLineEdit& patternField();
+    QPushButton& button(const char* objectName);
+
+    QString tabs(); ///< the texts, "|" between them; "*" before the current one
+    void clickTab(const QString& text);
+
+    QString selected() const; ///< map numbers such as "1-3,7", or "none"
+    void select(const QList<int>& maps); ///< by clicks
+    void clickCell(int map, int column, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void doubleClickCell(int map, int column);
+    void clickCheckBox(int map, int column, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void rightClick(int map, int column);
+    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier); ///< to the table
+
+    int takeRefreshes(); ///< completed since the last call
+
+private:
+    QRect cellRect(int map, int column);
+
+    QMainWindow m_window;
+    int m_refreshes = 0;
+};
+
+/// Deals with the pop-up windows (menus, pop-up editors) that open while it lives, in order, from
+/// inside their event loops. One that nobody expects is closed.
+class PopupResponder : public QObject
+{
+public:
+    using Answer = std::function<void(QWidget&)>;
+
+    explicit PopupResponder(Answer answer);
+    ~PopupResponder() override;
+
+    PopupResponder& then(Answer answer);
+    int shown() const { return m_shown; }
+
+    static Answer chooseEntry(const QString& text); ///< of a menu, by a click; "" closes it
+    /// Replaces the text of an editor, then ends it by a key or, with 0, by a click elsewhere.
+    static Answer typeAndEnd(const QString& text, int endKey);
+    static Answer end(int endKey);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QList<Answer> m_answers;
+    int m_shown = 0;
+};
+
+} // namespace corvala::tests

@@ -1,0 +1,343 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "tests/views/dialog_fixture.h"
+
+#include "sdk/dialogs_common/tab_widget_launch_help_action.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QtTest>
+
+using namespace corvala::tests;
+using corvala::dialogs::common::LaunchHelpAction;
+
+namespace {
+
+constexpr const char* kMapTools[] = {
+    "plotAttr_MaptoolsCreateMap_Button", "plotAttr_MaptoolsCopyMap_Button",
+    "plotAttr_MaptoolsDeleteMap_Button", "plotAttr_MaptoolsMoveToTop_Button",
+    "plotAttr_MaptoolsMoveToBottom_Button"};
+
+constexpr int kZoneName = 1;
+constexpr int kMeshType = 5;
+
+using Tabs = std::set<ZoneStyleDialog::MappingStyleTab_e>;
+
+Tabs mappingTabs(const QList<int>& values)
+{
+    Tabs tabs;
+    for (const int value : values)
+        tabs.insert(static_cast<ZoneStyleDialog::MappingStyleTab_e>(value));
+    return tabs;
+}
+
+QString buttonTexts(DialogFixture& fixture)
+{
+    QStringList texts;
+    for (const QAbstractButton* button : fixture.dialog().findChild<QDialogButtonBox*>()->buttons())
+        texts << button->text().remove('&');
+    texts.sort();
+    return texts.join('|');
+}
+
+QString titlesInVisualOrder(const QHeaderView& header)
+{
+    QStringList titles;
+    for (int visual = 0; visual < header.count(); ++visual) {
+        titles << header.model()
+                      ->headerData(header.logicalIndex(visual), Qt::Horizontal)
+                      .toString()
+                      .replace('\n', ' ');
+    }
+    return titles.join('|');
+}
+
+} // namespace
+
+class tst_DialogTabs : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void showsThePageOfThePlotType_data();
+    void showsThePageOfThePlotType();
+    void showsTheIdentityColumnsEverywhere_data();
+    void showsTheIdentityColumnsEverywhere();
+    void remembersTheLastTabOfEachPlotType();
+    void comesBackOnTheTabShownLast();
+    void goesBackToAHiddenTabOfThePlotType();
+    void showsTheAvailableMappingTabs_data();
+    void showsTheAvailableMappingTabs();
+    void keepsTheOrderOfTheFormHoweverTabsGo();
+    void keepsTheMapToolButtons();
+    void ordersTheColumnsOfDefinitions();
+    void carriesColumnWidthsBetweenTabs();
+    void remembersColumnWidths();
+    void keepsHeadersAndSelectionModelsFew();
+};
+
+void tst_DialogTabs::cleanup()
+{
+    ZoneStyleDialog::setAvailableMappingStyleTabs(ZoneStyleDialog::defaultAvailableMappingTabs());
+    for (const int plotType : {1, 2, 3, 5}) { // the tabs shown last belong to the process
+        DialogFixture fixture("field3d");
+        setStyle("PlotType", "", plotType);
+        runUntilIdle();
+        fixture.tabWidget().setCurrentIndex(0);
+    }
+}
+
+void tst_DialogTabs::showsThePageOfThePlotType_data()
+{
+    QTest::addColumn<int>("plotType");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("tabs");
+    QTest::addColumn<QString>("buttons");
+    QTest::addColumn<QString>("apply");
+    QTest::addColumn<QString>("help");
+    const QString lineButtons = "Close|Copy Map|Create Map...|Delete Map|To Bottom|To Top";
+    QTest::newRow("3D") << 1 << "Zone Style"
+                        << "*Mesh|Contour|Vector|Scatter|Shade|Edge|Points|Surfaces|Volume|Effects"
+                        << "Close"
+                        << "&Zones"
+                        << "mesh-edge.html#mesh-edge/mesh/modification";
+    QTest::newRow("2D") << 2 << "Zone Style"
+                        << "*Mesh|Contour|Vector|Scatter|Shade|Edge|Points|Surfaces|Effects"
+                        << "Close"
+                        << "&Zones"
+                        << "mesh-edge.html#mesh-edge/mesh/modification";
+    QTest::newRow("XY") << 3 << "Mapping Style"
+                        << "*Definitions|Lines|Curves|Symbols|Error Bars|Bar Charts" << lineButtons
+                        << "&Select"
+                        << "polar.html#polar/mapping-style-and-creation/mapping-definitions";
+    QTest::newRow("polar") << 5 << "Mapping Style"
+                           << "*Definitions|Lines|Curves|Symbols" << lineButtons << "&Select"
+                           << "polar.html#polar/mapping-style-and-creation/mapping-definitions";
+}
+
+void tst_DialogTabs::showsThePageOfThePlotType()
+{
+    QFETCH(int, plotType);
+    QFETCH(QString, buttons);
+    DialogFixture fixture("field3d");
+    // By way of the others: nothing of them may stay.
+    for (const int step : {3, 1, 5, 2, plotType}) {
+        QVERIFY(setStyle("PlotType", "", step));
+        runUntilIdle();
+    }
+    QTEST(fixture.dialog().windowTitle(), "title");
+    QTEST(fixture.tabs(), "tabs");
+    QCOMPARE(buttonTexts(fixture), buttons);
+    QTEST(fixture.button("mapSelectionByPattern_apply_button").text(), "apply");
+    QCOMPARE(fixture.button("mapSelectionByPattern_groups_button").isVisible(), plotType <= 2);
+    QTEST(qobject_cast<LaunchHelpAction*>(fixture.dialog().helpAction())->reference(), "help");
+    QCOMPARE(fixture.table().parentWidget(), fixture.tabWidget().currentWidget());
+    QVERIFY(fixture.table().isVisible());
+    QVERIFY(fixture.patternField().isVisible());
+}
+
+void tst_DialogTabs::showsTheIdentityColumnsEverywhere_data()
+{
+    QTest::addColumn<QString>("demo");
+    QTest::addColumn<QString>("row");
+    QTest::newRow("field") << "field3d"
+                           << "Zone Number|Zone Name|Group Number|Show Zone";
+    QTest::newRow("line") << "xy"
+                          << "Map Number|Map Name|Show Map";
+}
+
+void tst_DialogTabs::showsTheIdentityColumnsEverywhere()
+{
+    QFETCH(QString, demo);
+    QFETCH(QString, row);
+    DialogFixture fixture(demo.toLatin1());
+    for (int tab = 0; tab < fixture.tabWidget().count(); ++tab) {
+        fixture.clickTab(fixture.tabWidget().tabText(tab));
+        QCOMPARE(fixture.tabWidget().currentIndex(), tab);
+        QVERIFY2(titlesInVisualOrder(*fixture.table().horizontalHeader()).startsWith(row),
+                 qPrintable(fixture.tabs()));
+        QCOMPARE(fixture.table().model()->rowCount(), fixture.table().verticalHeader()->count());
+    }
+}
+
+void tst_DialogTabs::remembersTheLastTabOfEachPlotType()
+{
+    DialogFixture fixture("field3d");
+    const QList<QPair<int, QString>> lastTabs {
+        {1, "Volume"}, {2, "Effects"}, {3, "Bar Charts"}, {5, "Curves"}};
+    for (const auto& [plotType, tab] : lastTabs) {
+        QVERIFY(setStyle("PlotType", "", plotType));
+        runUntilIdle();
+        fixture.clickTab(tab);
+    }
+    for (const auto& [plotType, tab] : lastTabs) {
+        QVERIFY(setStyle("PlotType", "", plotType));
+        runUntilIdle();
+        QVERIFY2(fixture.tabs().contains("*" + tab), qPrintable(tab + ": " + fixture.tabs()));
+    }
+}
+
+void tst_DialogTabs::comesBackOnTheTabShownLast()
+{
+    {
+        DialogFixture fixture("field2d");
+        fixture.clickTab("Effects");
+        QPointer<ZoneStyleDialog> dialog = &fixture.dialog();
+        delete dialog;
+        QVERIFY(!ZoneStyleDialog::m_dialogInstance);
+    }
+    DialogFixture fixture("field2d");
+    QVERIFY2(fixture.tabs().endsWith("*Effects"), qPrintable(fixture.tabs()));
+}
+
+/// The tab to come back to is not there yet when the plot type changes.
+void tst_DialogTabs::goesBackToAHiddenTabOfThePlotType()
+{
+    DialogFixture fixture("field3d");
+    fixture.clickTab("Volume");
+    setStyle("PlotType", "", 2);
+    runUntilIdle();
+    fixture.clickTab("Contour");
+    setStyle("PlotType", "", 1);
+    runUntilIdle();
+    QVERIFY2(fixture.tabs().contains("*Volume"), qPrintable(fixture.tabs()));
+    QCOMPARE(fixture.table().parentWidget(), fixture.tabWidget().currentWidget());
+}
+
+void tst_DialogTabs::showsTheAvailableMappingTabs_data()
+{
+    QTest::addColumn<int>("plotType");
+    QTest::addColumn<QList<int>>("available");
+    QTest::addColumn<QString>("tabs");
+    QTest::newRow("all, XY") << 3 << QList<int> {0, 1, 2, 3, 4, 5, 6}
+                             << "Definitions|Lines|Curves|Symbols|Error Bars|Bar Charts|Indices";
+    QTest::newRow("all, polar") << 5 << QList<int> {0, 1, 2, 3, 4, 5, 6}
+                                << "Definitions|Lines|Curves|Symbols|Indices";
+    QTest::newRow("some") << 3 << QList<int> {1, 5, 6} << "Lines|Bar Charts|Indices";
+    QTest::newRow("some, polar") << 5 << QList<int> {2, 4} << "Curves";
+    QTest::newRow("none") << 3 << QList<int> {} << "";
+}
+
+void tst_DialogTabs::showsTheAvailableMappingTabs()
+{
+    QFETCH(int, plotType);
+    QFETCH(QList<int>, available);
+    QFETCH(QString, tabs);
+    {
+        DialogFixture fixture("xy");
+        setStyle("PlotType", "", plotType);
+        runUntilIdle();
+        ZoneStyleDialog::setAvailableMappingStyleTabs(mappingTabs(available));
+        runUntilIdle();
+        QCOMPARE(fixture.tabs().remove('*'), tabs);
+    }
+    DialogFixture madeLater(plotType == 3 ? "xy" : "polar");
+    QCOMPARE(madeLater.tabs().remove('*'), tabs);
+}
+
+void tst_DialogTabs::keepsTheOrderOfTheFormHoweverTabsGo()
+{
+    DialogFixture fixture("xy");
+    for (const QList<int>& available :
+         {QList<int> {1, 2}, QList<int> {}, QList<int> {6, 0}, QList<int> {0, 1, 2, 3, 4, 5, 6}})
+        ZoneStyleDialog::setAvailableMappingStyleTabs(mappingTabs(available));
+    QCOMPARE(fixture.tabs().remove('*'),
+             "Definitions|Lines|Curves|Symbols|Error Bars|Bar Charts|Indices");
+}
+
+void tst_DialogTabs::keepsTheMapToolButtons()
+{
+    QList<QPointer<QPushButton>> buttons;
+    {
+        DialogFixture fixture("field3d");
+        for (const char* name : kMapTools)
+            buttons << &fixture.button(name);
+        for (const int plotType : {3, 2, 0, 1, 5, 1}) {
+            setStyle("PlotType", "", plotType);
+            runUntilIdle();
+            for (const auto& button : buttons) {
+                QVERIFY(fixture.dialog().isAncestorOf(button));
+                QCOMPARE(button->isVisible(), plotType != 1 && plotType != 2);
+            }
+        }
+    }
+    for (const auto& button : buttons)
+        QVERIFY(!button);
+}
+
+void tst_DialogTabs::ordersTheColumnsOfDefinitions()
+{
+    DialogFixture fixture("xy");
+    QCOMPARE(titlesInVisualOrder(*fixture.table().horizontalHeader()),
+             "Map Number|Map Name|Show Map|X-Axis Variable|Y-Axis Variable|Zone|Sort|Which X-Axis|"
+             "Which Y-Axis|Show in Legend");
+    fixture.clickTab("Lines");
+    fixture.clickTab("Definitions");
+    setStyle("PlotType", "", 5);
+    runUntilIdle();
+    QCOMPARE(titlesInVisualOrder(*fixture.table().horizontalHeader()),
+             "Map Number|Map Name|Show Map|Theta Variable|Radius Variable|Zone|Sort|"
+             "Show in Legend");
+    setStyle("PlotType", "", 3);
+    runUntilIdle();
+    QVERIFY(titlesInVisualOrder(*fixture.table().horizontalHeader()).endsWith("Show in Legend"));
+}
+
+void tst_DialogTabs::carriesColumnWidthsBetweenTabs()
+{
+    DialogFixture fixture("field2d");
+    fixture.table().setColumnWidth(kZoneName, 177);
+    fixture.table().setColumnWidth(kMeshType, 133);
+    fixture.clickTab("Contour");
+    QCOMPARE(fixture.table().columnWidth(kZoneName), 177);
+    QVERIFY(fixture.table().columnWidth(kMeshType) != 133);
+    fixture.table().setColumnWidth(kZoneName, 155);
+    fixture.clickTab("Mesh");
+    QCOMPARE(fixture.table().columnWidth(kZoneName), 155);
+    QCOMPARE(fixture.table().columnWidth(kMeshType), 133);
+}
+
+/// For the life of the process, but not when the number of rows changes.
+void tst_DialogTabs::remembersColumnWidths()
+{
+    {
+        DialogFixture fixture("field2d");
+        fixture.table().setColumnWidth(kMeshType, 201);
+    }
+    DialogFixture fixture("field2d");
+    QCOMPARE(fixture.table().columnWidth(kMeshType), 201);
+    fixture.table().setColumnWidth(kMeshType, 2);
+    const int title = fixture.table().columnWidth(kMeshType);
+    QVERIFY2(title > 20, "a column is never narrower than its title");
+    fixture.table().setColumnWidth(kMeshType, 201);
+    setStyle("FieldMap.Mesh.MeshType", "1", 0);
+    runUntilIdle();
+    QCOMPARE(fixture.table().columnWidth(kMeshType), 201);
+    QVERIFY(corvala::host::Document::instance().deleteFieldMaps(corvala::host::allUpTo(2)));
+    runUntilIdle();
+    QVERIFY(fixture.table().columnWidth(kMeshType) < 201);
+}
+
+/// Qt makes headers and selection models at every turn and keeps them.
+void tst_DialogTabs::keepsHeadersAndSelectionModelsFew()
+{
+    DialogFixture fixture("field2d");
+    const auto roundTrip = [&fixture] {
+        for (const char* tab : {"Contour", "Shade", "Mesh"})
+            fixture.clickTab(tab);
+    };
+    const auto objects = [&fixture] { return fixture.dialog().findChildren<QObject*>().size(); };
+    roundTrip();
+    const int before = objects();
+    for (int i = 0; i < 5; ++i)
+        roundTrip();
+    QCOMPARE(objects(), before);
+}
+
+QTEST_MAIN(tst_DialogTabs)
+#include "tst_dialog_tabs.moc"

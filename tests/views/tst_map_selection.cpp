@@ -1,0 +1,325 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "tests/views/dialog_fixture.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QtTest>
+
+using namespace corvala;
+using namespace corvala::tests;
+using dialogs::common::DialogInitialization_None;
+using dialogs::common::DialogInitialization_SelectPickedObjects;
+
+namespace {
+
+constexpr const char* kApply = "mapSelectionByPattern_apply_button";
+constexpr const char* kGroups = "mapSelectionByPattern_groups_button";
+constexpr const char* kClear = "mapSelectionByPattern_clear_button";
+
+host::MapSet maps(const std::string& text)
+{
+    host::MapSet set;
+    host::fromText(text, 0, set);
+    return set;
+}
+
+/// Every second row, in ranges of one row each.
+void selectAlternateRows(StyleTableView& table)
+{
+    const QAbstractItemModel& model = *table.model();
+    QItemSelection rows;
+    for (int row = 0; row < model.rowCount(); row += 2)
+        rows.append({model.index(row, 0), model.index(row, model.columnCount() - 1)});
+    table.clearSelection();
+    table.selectionModel()->select(rows, QItemSelectionModel::Select);
+}
+
+} // namespace
+
+class tst_MapSelection : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void goesFromTabToTab();
+    void staysOnItsPage();
+    void losesRowsThatAreGone_data();
+    void losesRowsThatAreGone();
+    void isWidenedToWholeRows();
+    void keepsItsOrder();
+    void isCarriedHoweverScattered();
+    void takesPickedObjects_data();
+    void takesPickedObjects();
+    void takesPickedLineMaps();
+    void followsThePattern_data();
+    void followsThePattern();
+    void scrollsToTheFirstMatch();
+    void asksForAPatternOnlyWhenItMatters();
+    void returnAppliesThePattern();
+};
+
+void tst_MapSelection::goesFromTabToTab()
+{
+    DialogFixture fixture("field2d");
+    fixture.select({2, 3, 7});
+    fixture.clickTab("Contour");
+    QCOMPARE(fixture.selected(), "2-3,7");
+    fixture.select({4});
+    fixture.clickTab("Volume"); // not there
+    fixture.clickTab("Mesh");
+    QCOMPARE(fixture.selected(), "4");
+    fixture.table().clearSelection();
+    fixture.clickTab("Contour");
+    QCOMPARE(fixture.selected(), "none");
+    fixture.clickTab("Mesh");
+}
+
+void tst_MapSelection::staysOnItsPage()
+{
+    DialogFixture fixture("field3d");
+    fixture.select({2, 3});
+    setStyle("PlotType", "", PlotType_LineXY);
+    runUntilIdle();
+    QCOMPARE(fixture.selected(), "none");
+    setStyle("PlotType", "", PlotType_Field3D);
+    runUntilIdle();
+    QCOMPARE(fixture.selected(), "2-3");
+}
+
+void tst_MapSelection::losesRowsThatAreGone_data()
+{
+    QTest::addColumn<QString>("deleted");
+    QTest::addColumn<QString>("selected");
+    QTest::newRow("one of them") << "12"
+                                 << "2,5-6";
+    QTest::newRow("before them") << "1-8"
+                                 << "2";
+    QTest::newRow("all but one") << "2-12"
+                                 << "none";
+}
+
+void tst_MapSelection::losesRowsThatAreGone()
+{
+    QFETCH(QString, deleted);
+    DialogFixture fixture("field2d");
+    fixture.select({2, 5, 6, 12});
+    QVERIFY(host::Document::instance().deleteFieldMaps(maps(deleted.toStdString())));
+    runUntilIdle();
+    QTEST(fixture.selected(), "selected");
+    fixture.clickTab("Contour");
+    QTEST(fixture.selected(), "selected");
+    fixture.clickTab("Mesh");
+}
+
+void tst_MapSelection::isWidenedToWholeRows()
+{
+    DialogFixture fixture("field2d");
+    fixture.table().selectionModel()->select(fixture.model().index(3, 5),
+                                             QItemSelectionModel::ClearAndSelect);
+    QCOMPARE(fixture.selected(), "none");
+    setStyle("FieldMap.Group", "1", 2);
+    runUntilIdle();
+    QCOMPARE(fixture.selected(), "4");
+}
+
+/// The row that was selected first is the one that prompts start from.
+void tst_MapSelection::keepsItsOrder()
+{
+    DialogFixture fixture("field2d");
+    fixture.select({7, 2, 9, 12});
+    const auto rows = [&fixture] {
+        QList<int> rows;
+        for (const QItemSelectionRange& range : fixture.table().selectionModel()->selection())
+            rows << range.top() + 1;
+        return rows;
+    };
+    setStyle("FieldMap.Group", "1", 2);
+    runUntilIdle();
+    QCOMPARE(rows(), (QList<int> {7, 2, 9, 12}));
+    fixture.clickTab("Contour");
+    QCOMPARE(rows(), (QList<int> {7, 2, 9, 12}));
+    QVERIFY(host::Document::instance().deleteFieldMaps(maps("12")));
+    runUntilIdle();
+    QCOMPARE(rows(), (QList<int> {7, 2, 9}));
+    fixture.clickTab("Mesh");
+    QCOMPARE(rows(), (QList<int> {7, 2, 9}));
+}
+
+/// With this many ranges anything that compares all pairs takes minutes.
+void tst_MapSelection::isCarriedHoweverScattered()
+{
+    static constexpr int kMaps = 40000;
+    DialogFixture fixture("field2d", kMaps);
+    selectAlternateRows(fixture.table());
+    const auto isAlternate = [&fixture] {
+        const QItemSelection ranges = fixture.table().selectionModel()->selection();
+        return ranges.size() == kMaps / 2 && ranges.first().model() == &fixture.model()
+            && ranges.last().top() == kMaps - 2 && ranges.last().bottom() == kMaps - 2;
+    };
+    fixture.clickTab("Contour");
+    QVERIFY(isAlternate());
+    setStyle("FieldMap.Group", "all", 2);
+    runUntilIdle();
+    QVERIFY(isAlternate());
+    fixture.clickTab("Mesh");
+    QVERIFY(isAlternate());
+    QVERIFY(host::Document::instance().deleteFieldMaps(maps(std::to_string(kMaps))));
+    runUntilIdle();
+    QVERIFY(isAlternate());
+    fixture.key(Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(fixture.table().selectionModel()->selection().size(), 1);
+    selectAlternateRows(fixture.table());
+    fixture.clickCell(1, 1);
+    fixture.key(Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(fixture.table().selectionModel()->selection().size(), 1);
+}
+
+void tst_MapSelection::takesPickedObjects_data()
+{
+    QTest::addColumn<QList<QPoint>>("picks"); // type and number
+    QTest::addColumn<QString>("selected");
+    QTest::addColumn<int>("top"); // map, 0 for no scrolling
+    const auto row = [](const char* name, const QList<QPoint>& picks, const QString& selected,
+                        int top) { QTest::newRow(name) << picks << selected << top; };
+    row("zones", {{15, 40}, {15, 7}, {15, 8}}, "7-8,40", 7);
+    row("the same zone twice", {{15, 40}, {15, 40}}, "40", 40);
+    row("others between", {{4, 1}, {15, 50}, {5, 2}}, "50", 50);
+    row("others only", {{4, 1}, {3, 2}}, "none", 0);
+    row("none", {}, "none", 0);
+    row("no such zone", {{15, 1000}}, "none", 0);
+}
+
+void tst_MapSelection::takesPickedObjects()
+{
+    QFETCH(QList<QPoint>, picks);
+    QFETCH(int, top);
+    DialogFixture fixture("field2d", 200);
+    fixture.select({1, 2});
+    fixture.table().scrollTo(fixture.model().index(99, 0), QAbstractItemView::PositionAtTop);
+    std::vector<host::Pick> list;
+    for (const QPoint& pick : picks)
+        list.push_back({pick.x(), pick.y()});
+    host::Document::instance().setPicks(list);
+    ZoneStyleDialog::getInstance(fixture.mainWindow(), DialogInitialization_None);
+    runUntilIdle();
+    QCOMPARE(fixture.selected(), "1-2");
+    ZoneStyleDialog::getInstance(fixture.mainWindow(), DialogInitialization_SelectPickedObjects);
+    QCOMPARE(fixture.selected(), "1-2"); // not before the idle moment
+    runUntilIdle();
+    QTEST(fixture.selected(), "selected");
+    QCOMPARE(fixture.table().rowAt(0), top > 0 ? top - 1 : 99);
+    if (top > 0)
+        QCOMPARE(fixture.table().currentIndex(), fixture.model().index(top - 1, 0));
+    QCOMPARE(fixture.dialog().focusWidget(), &fixture.table());
+}
+
+void tst_MapSelection::takesPickedLineMaps()
+{
+    DialogFixture fixture("xy");
+    fixture.dialog().close();
+    host::Document::instance().setPicks({{PickType_LineMap, 5}, {PickType_LineMap, 2}});
+    ZoneStyleDialog::getInstance(fixture.mainWindow(), DialogInitialization_SelectPickedObjects)
+        .launch();
+    runUntilIdle();
+    QCOMPARE(fixture.selected(), "2,5");
+}
+
+void tst_MapSelection::followsThePattern_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("selected");
+    const auto row = [](const char* name, const char* pattern, const char* button,
+                        const char* selected) {
+        QTest::newRow(name) << pattern << button << selected;
+    };
+    // Names: "Zone 1", "ZONE 12", "My zone", "body/tets", "wing [upper]", "Größe", "a*b?c", "x"
+    row("from the beginning, any case", "zone*", kApply, "1-2");
+    row("anywhere", "*zone*", kApply, "1-3");
+    row("across slashes", "b*s", kApply, "4");
+    row("one character", "?", kApply, "8");
+    row("brackets are characters", "*[upper]", kApply, "5");
+    row("umlauts", "grö?e", kApply, "6");
+    row("no match", "zone", kApply, "none");
+    row("group", "2", kGroups, "3,5");
+    row("group, not a part of it", "1", kGroups, "1-2,6-8");
+    row("group of two digits", "12", kGroups, "4");
+    row("clear", "zone*", kClear, "none");
+}
+
+void tst_MapSelection::followsThePattern()
+{
+    QFETCH(QString, pattern);
+    QFETCH(QString, button);
+    DialogFixture fixture("kinds");
+    setStyle("FieldMap.Group", "3,5", 2);
+    setStyle("FieldMap.Group", "4", 12);
+    runUntilIdle();
+    fixture.select({1, 7});
+    fixture.patternField().setFocus();
+    QTest::keyClicks(&fixture.patternField(), pattern);
+    QTest::mouseClick(&fixture.button(button.toLatin1()), Qt::LeftButton);
+    runUntilIdle();
+    QTEST(fixture.selected(), "selected");
+    QCOMPARE(fixture.patternField().text(), button == kClear ? QString() : pattern);
+    if (button != kClear)
+        QCOMPARE(fixture.dialog().focusWidget(), &fixture.table());
+}
+
+void tst_MapSelection::scrollsToTheFirstMatch()
+{
+    DialogFixture fixture("field2d", 200);
+    for (const int zone : {103, 104, 105, 109})
+        host::Document::instance().renameZone(zone, "inlet " + std::to_string(zone));
+    runUntilIdle();
+    QTest::keyClicks(&fixture.patternField(), "inlet*");
+    fixture.button(kApply).click();
+    QCOMPARE(fixture.selected(), "103-105,109");
+    QCOMPARE(fixture.table().selectionModel()->selection().size(), 2);
+    QCOMPARE(fixture.table().rowAt(0), 102);
+    fixture.button(kClear).click();
+    QCOMPARE(fixture.table().rowAt(0), 102);
+}
+
+void tst_MapSelection::asksForAPatternOnlyWhenItMatters()
+{
+    DialogFixture fixture("field2d");
+    const auto canApply = [&fixture] {
+        const bool canSelect = fixture.button(kApply).isEnabled();
+        return canSelect == fixture.button(kGroups).isEnabled() ? int(canSelect) : -1;
+    };
+    QCOMPARE(canApply(), 0);
+    QTest::keyClicks(&fixture.patternField(), "zone 1*");
+    QCOMPARE(canApply(), 1);
+    fixture.button(kApply).click();
+    QCOMPARE(canApply(), 0);
+    setStyle("FieldMap.Group", "1", 2); // a refresh is nothing that the user did
+    runUntilIdle();
+    fixture.clickTab("Contour");
+    QCOMPARE(canApply(), 0);
+    fixture.clickCell(2, 0);
+    QCOMPARE(canApply(), 1);
+    fixture.button(kApply).click();
+    QCOMPARE(canApply(), 0);
+    QVERIFY(fixture.button(kClear).isEnabled());
+    fixture.button(kClear).click();
+    QCOMPARE(canApply(), 0);
+    fixture.clickTab("Mesh");
+}
+
+void tst_MapSelection::returnAppliesThePattern()
+{
+    DialogFixture fixture("field2d");
+    fixture.patternField().setFocus();
+    QTest::keyClicks(&fixture.patternField(), "*2");
+    QTest::keyClick(&fixture.patternField(), Qt::Key_Return);
+    runUntilIdle();
+    QCOMPARE(fixture.selected(), "2,12");
+    QTest::keyClick(&fixture.patternField(), Qt::Key_Return); // nothing to apply again
+    QTest::keyClick(&fixture.patternField(), Qt::Key_Enter);
+    QVERIFY(fixture.dialog().isVisible());
+}
+
+QTEST_MAIN(tst_MapSelection)
+#include "tst_map_selection.moc"

@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "tests/views/dialog_fixture.h"
+
+#include "sdk/common_ui/combo_box_auto_filter.h"
+#include "zonestyle/views/combo_box_dialog.h"
+#include "zonestyle/views/dynamic_line_map_text_edit_dialog.h"
+#include "zonestyle/views/list_box_dialog.h"
+
+#include <QLineEdit>
+#include <QListView>
+#include <QListWidget>
+#include <QToolButton>
+#include <QtTest>
+
+using namespace corvala;
+using namespace corvala::tests;
+using namespace corvala::sdk::ui::dialogs::zonestyle::intern::views;
+
+namespace {
+
+constexpr int kClickElsewhere = 0;
+constexpr int kGroup = 2; // of a field table
+constexpr int kMapName = 1; // of a line table
+constexpr int kXAxisVariable = 6;
+
+QString mapName(DialogFixture& fixture, int map, Qt::ItemDataRole role)
+{
+    return fixture.model().index(map - 1, kMapName).data(role).toString();
+}
+
+} // namespace
+
+class tst_PopupEditors : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void endsByTheKeyOrClick_data();
+    void endsByTheKeyOrClick();
+    void commitsOnce();
+    void refusesWhatTheHostRefuses();
+    void takesTheRowsSelectedAtTheEnd();
+    void survivesRefreshesAndTheDialog();
+    void showsTheCurrentChoice();
+    void takesEntriesOfTheListOnly_data();
+    void takesEntriesOfTheListOnly();
+    void choosesFromTheOpenList();
+    void listBoxTakesAClick();
+    void editsNamesWithTokens();
+    void insertsTokens();
+};
+
+void tst_PopupEditors::endsByTheKeyOrClick_data()
+{
+    QTest::addColumn<int>("endKey");
+    QTest::addColumn<QString>("groups");
+    QTest::newRow("Return") << int(Qt::Key_Return) << "1 3 3 1 3";
+    QTest::newRow("Enter") << int(Qt::Key_Enter) << "1 3 3 1 3";
+    QTest::newRow("Tab") << int(Qt::Key_Tab) << "1 3 3 1 3";
+    QTest::newRow("click elsewhere") << kClickElsewhere << "1 3 3 1 3";
+    QTest::newRow("Escape") << int(Qt::Key_Escape) << "1 1 1 1 1";
+    QTest::newRow("Cancel") << int(Qt::Key_Cancel) << "1 1 1 1 1";
+}
+
+void tst_PopupEditors::endsByTheKeyOrClick()
+{
+    QFETCH(int, endKey);
+    DialogFixture fixture("field2d");
+    fixture.select({5, 2, 3});
+    PopupResponder popups(PopupResponder::typeAndEnd("3", endKey));
+    fixture.rightClick(2, kGroup);
+    QCOMPARE(popups.shown(), 1);
+    QTEST(styleValues("FieldMap.Group", 5), "groups");
+    QCOMPARE(fixture.selected(), "2-3,5");
+    QVERIFY(fixture.dialog().isVisible());
+    QVERIFY(fixture.dialog().findChildren<PopupDialogBase*>().isEmpty());
+}
+
+void tst_PopupEditors::commitsOnce()
+{
+    DialogFixture fixture("field2d");
+    fixture.select({1, 2});
+    takeWrites();
+    PopupResponder popups(PopupResponder::typeAndEnd("4", Qt::Key_Return));
+    popups.then(PopupResponder::end(kClickElsewhere));
+    fixture.rightClick(1, kGroup);
+    QCOMPARE(takeWrites(), "FieldMap.Group 1-2 = 4");
+    fixture.rightClick(1, kGroup); // only looked at: what it shows is committed
+    QCOMPARE(takeWrites(), "FieldMap.Group 1-2 = 4");
+}
+
+void tst_PopupEditors::refusesWhatTheHostRefuses()
+{
+    DialogFixture fixture("field2d");
+    fixture.select({1});
+    PopupResponder popups(PopupResponder::typeAndEnd("0", Qt::Key_Return));
+    popups.then(PopupResponder::typeAndEnd("none", Qt::Key_Return));
+    fixture.rightClick(1, kGroup);
+    fixture.rightClick(1, kGroup);
+    QCOMPARE(popups.shown(), 2);
+    QCOMPARE(styleValue("FieldMap.Group", 1), 1);
+}
+
+void tst_PopupEditors::takesTheRowsSelectedAtTheEnd()
+{
+    DialogFixture fixture("field2d");
+    fixture.select({2, 11, 12});
+    PopupResponder popups([](QWidget& popup) {
+        host::MapSet last;
+        last.add(12);
+        host::Document::instance().deleteFieldMaps(last);
+        runUntilIdle(); // the refresh comes while the pop-up is open
+        PopupResponder::typeAndEnd("6", Qt::Key_Return)(popup);
+    });
+    fixture.rightClick(2, kGroup);
+    QCOMPARE(styleValues("FieldMap.Group", 11), "1 6 1 1 1 1 1 1 1 1 6");
+}
+
+void tst_PopupEditors::survivesRefreshesAndTheDialog()
+{
+    DialogFixture fixture("field2d");
+    fixture.select({2});
+    takeWrites();
+    PopupResponder popups([](QWidget& popup) {
+        setStyle("PlotType", "", PlotType_LineXY); // another table
+        runUntilIdle();
+        PopupResponder::typeAndEnd("6", Qt::Key_Return)(popup);
+    });
+    popups.then([](QWidget&) { delete ZoneStyleDialog::m_dialogInstance; });
+    fixture.rightClick(2, kGroup);
+    QCOMPARE(takeWrites(), "");
+    setStyle("PlotType", "", PlotType_Field2D);
+    runUntilIdle();
+    QTest::mouseClick(fixture.table().viewport(), Qt::LeftButton, {},
+                      fixture.table().visualRect(fixture.model().index(1, kGroup)).center());
+    QContextMenuEvent event(QContextMenuEvent::Mouse,
+                            fixture.table().visualRect(fixture.model().index(1, kGroup)).center());
+    takeWrites();
+    QCoreApplication::sendEvent(fixture.table().viewport(), &event);
+    QVERIFY(!ZoneStyleDialog::m_dialogInstance);
+    QCOMPARE(popups.shown(), 2);
+    QCOMPARE(takeWrites(), "");
+}
+
+void tst_PopupEditors::showsTheCurrentChoice()
+{
+    DialogFixture fixture("xy");
+    fixture.select({1, 2});
+    QString shown;
+    PopupResponder popups([&shown](QWidget& popup) {
+        shown = popup.findChild<QComboBox*>()->currentText();
+        PopupResponder::end(kClickElsewhere)(popup);
+    });
+    setStyle("LineMap.Assign.XAxisVar", "2", 4);
+    runUntilIdle();
+    fixture.rightClick(2, kXAxisVariable);
+    QCOMPARE(shown, "4: Power");
+    QCOMPARE(styleValues("LineMap.Assign.XAxisVar", 3), "4 4 1");
+}
+
+void tst_PopupEditors::takesEntriesOfTheListOnly_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("endKey");
+    QTest::addColumn<QString>("values");
+    QTest::newRow("whole entry") << "3: Moment" << int(Qt::Key_Return) << "3 3";
+    QTest::newRow("part of an entry") << "mom" << int(Qt::Key_Return) << "3 3";
+    QTest::newRow("part, click elsewhere") << "mom" << kClickElsewhere << "3 3";
+    QTest::newRow("no entry") << "zzz" << kClickElsewhere << "1 1";
+    QTest::newRow("Escape") << "mom" << int(Qt::Key_Escape) << "1 1";
+}
+
+void tst_PopupEditors::takesEntriesOfTheListOnly()
+{
+    QFETCH(QString, typed);
+    QFETCH(int, endKey);
+    DialogFixture fixture("xy");
+    fixture.select({1, 2});
+    PopupResponder popups([&](QWidget& popup) {
+        auto* list = popup.findChild<corvala::ui::ComboBoxAutoFilter*>();
+        list->setFilterWhileTyping(false); // the list of matches is a pop-up of its own
+        list->lineEdit()->selectAll();
+        QTest::keyClicks(list->lineEdit(), typed);
+        if (endKey == kClickElsewhere)
+            PopupResponder::end(endKey)(popup);
+        else
+            QTest::keyClick(list, static_cast<Qt::Key>(endKey));
+    });
+    fixture.rightClick(1, kXAxisVariable);
+    QVERIFY(popups.shown() >= 1);
+    QTEST(styleValues("LineMap.Assign.XAxisVar", 2), "values");
+}
+
+void tst_PopupEditors::choosesFromTheOpenList()
+{
+    DialogFixture fixture("xy");
+    fixture.select({1, 3});
+    PopupResponder popups([](QWidget& popup) {
+        auto* box = popup.findChild<QComboBox*>();
+        box->showPopup();
+        runUntilIdle();
+        const QModelIndex entry = box->model()->index(4, 0);
+        const QPoint position = box->view()->visualRect(entry).center();
+        QTest::mouseMove(box->view()->viewport(), position);
+        QTest::mousePress(box->view()->viewport(), Qt::LeftButton, {}, position);
+        QTest::qWait(QApplication::doubleClickInterval() + 50); // the box ignores a first release
+        QTest::mouseRelease(box->view()->viewport(), Qt::LeftButton, {}, position);
+    });
+    popups.then([](QWidget&) {}); // the list itself
+    fixture.rightClick(1, kXAxisVariable);
+    QCOMPARE(styleValues("LineMap.Assign.XAxisVar", 3), "5 1 5");
+}
+
+void tst_PopupEditors::listBoxTakesAClick()
+{
+    QWidget parent;
+    QStringList committed;
+    const auto open = [&](const QString& current) {
+        return new ListBoxDialog(
+            {}, &parent, [&](const QString& text) { committed << text; }, {"one", "two", "three"},
+            current, 150);
+    };
+    PopupResponder popups([](QWidget& popup) {
+        auto* list = popup.findChild<QListWidget*>("listBox");
+        QCOMPARE(list->currentItem()->text(), "two");
+        QCOMPARE(list->width(), 150);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualItemRect(list->item(2)).center());
+    });
+    popups.then(PopupResponder::end(Qt::Key_Escape)).then(PopupResponder::end(kClickElsewhere));
+    PopupDialogBase::run(open("two"));
+    QCOMPARE(committed, QStringList {"three"});
+    PopupDialogBase::run(open("two"));
+    PopupDialogBase::run(open("none of them"));
+    QCOMPARE(committed, QStringList {"three"});
+}
+
+void tst_PopupEditors::editsNamesWithTokens()
+{
+    DialogFixture fixture("xy");
+    fixture.select({2, 3});
+    QString selectedText;
+    PopupResponder popups(PopupResponder::typeAndEnd("Flow &ZN&", Qt::Key_Tab));
+    popups.then([&selectedText](QWidget& popup) {
+        selectedText = popup.findChild<QLineEdit*>("lineEdit")->selectedText();
+        PopupResponder::end(Qt::Key_Escape)(popup);
+    });
+    fixture.rightClick(2, kMapName);
+    QCOMPARE(mapName(fixture, 2, Qt::DisplayRole), "Flow Zone 1");
+    QCOMPARE(mapName(fixture, 3, Qt::EditRole), "Flow &ZN&");
+    QCOMPARE(mapName(fixture, 1, Qt::EditRole), "&DV&");
+    fixture.rightClick(2, kMapName);
+    QCOMPARE(selectedText, "Flow &ZN&");
+}
+
+void tst_PopupEditors::insertsTokens()
+{
+    QWidget parent;
+    QString committed;
+    PopupResponder popups([](QWidget& popup) {
+        auto* field = popup.findChild<QLineEdit*>("lineEdit");
+        auto* tokens = popup.findChild<QListView*>("listView");
+        auto* insert = popup.findChild<QToolButton*>("insertToolButton");
+        QVERIFY(!insert->isEnabled());
+        QCOMPARE(tokens->model()->rowCount(), 9);
+        QVERIFY(tokens->viewport()->height() >= 9 * tokens->sizeHintForRow(0));
+        QTest::keyClick(field, Qt::Key_End);
+        QTest::mouseClick(tokens->viewport(), Qt::LeftButton, {},
+                          tokens->visualRect(tokens->model()->index(6, 0)).center());
+        QTest::mouseClick(insert, Qt::LeftButton);
+        QTest::keyClick(field, Qt::Key_Home);
+        const QPoint axis = tokens->visualRect(tokens->model()->index(8, 0)).center();
+        QTest::mouseClick(tokens->viewport(), Qt::LeftButton, {}, axis);
+        QTest::mouseDClick(tokens->viewport(), Qt::LeftButton, {}, axis);
+        QTest::keyClick(tokens, Qt::Key_Space);
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    PopupDialogBase::run(new DynamicLineMapTextEditDialog(
+        {}, &parent, [&](const QString& text) { committed = text; }, "map ", 3));
+    QCOMPARE(committed, "&Y#&&Y#&map &M#&");
+}
+
+QTEST_MAIN(tst_PopupEditors)
+#include "tst_popup_editors.moc"

@@ -1,0 +1,390 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "tests/views/dialog_fixture.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QtTest>
+
+using namespace corvala;
+using namespace corvala::tests;
+
+namespace {
+
+constexpr int kNumber = 0;
+constexpr int kName = 1;
+constexpr int kGroup = 2;
+constexpr int kShowZone = 3;
+constexpr int kShowMesh = 4;
+constexpr int kMeshType = 5;
+constexpr int kMeshColor = 6;
+
+QLineEdit* openEditor(DialogFixture& fixture)
+{
+    return fixture.table().viewport()->findChild<QLineEdit*>();
+}
+
+} // namespace
+
+class tst_TableGestures : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void checkBoxSwitchesSelectedRows_data();
+    void checkBoxSwitchesSelectedRows();
+    void checkBoxWorksWhereItIsGreyed();
+    void checkBoxNeedsPressAndReleaseOnIt();
+    void editsOneCellInPlace_data();
+    void editsOneCellInPlace();
+    void doesNotEditGreyedCellsInPlace();
+    void menuWritesToSelectedRows();
+    void menuOfAColumnWithoutEntriesDoesNotOpen();
+    void menuOfColors();
+    void keysMoveTheCurrentCell_data();
+    void keysMoveTheCurrentCell();
+    void keysOpenTheMenuAtTheCurrentCell_data();
+    void keysOpenTheMenuAtTheCurrentCell();
+    void keysActOnTheSelection();
+    void escapeClosesTheInnermostOnly();
+    void tableIsOneTabStop();
+    void paintsTheSelection_data();
+    void paintsTheSelection();
+    void hasRoomForSixRows();
+};
+
+void tst_TableGestures::checkBoxSwitchesSelectedRows_data()
+{
+    QTest::addColumn<QList<int>>("selected");
+    QTest::addColumn<int>("clicked");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("selectedAfter");
+    const auto row = [](const char* name, const QList<int>& selected, int clicked, int modifiers,
+                        const QString& shown, const QString& after) {
+        QTest::newRow(name) << selected << clicked << modifiers << shown << after;
+    };
+    // The mesh of map 3 is hidden at first.
+    row("all to the opposite of the clicked one", {2, 3, 5}, 2, 0, "1 0 0 1 0 1", "2-3,5");
+    row("the clicked one is off", {2, 3, 5}, 3, 0, "1 1 1 1 1 1", "2-3,5");
+    row("one row", {4}, 4, 0, "1 1 0 0 1 1", "4");
+    row("a row that is not selected", {1, 2}, 6, 0, "1 1 0 1 1 0", "6");
+    row("one more row", {1, 2}, 6, Qt::ControlModifier, "0 0 0 1 1 0", "1-2,6");
+}
+
+void tst_TableGestures::checkBoxSwitchesSelectedRows()
+{
+    QFETCH(QList<int>, selected);
+    QFETCH(int, clicked);
+    QFETCH(int, modifiers);
+    DialogFixture fixture("field2d");
+    setStyle("FieldMap.Mesh.Show", "1-12", 1);
+    setStyle("FieldMap.Mesh.Show", "3", 0);
+    runUntilIdle();
+    fixture.select(selected);
+    takeWrites();
+    fixture.clickCheckBox(clicked, kShowMesh, Qt::KeyboardModifiers(modifiers));
+    QTEST(styleValues("FieldMap.Mesh.Show", 6), "shown");
+    QTEST(fixture.selected(), "selectedAfter");
+    QVERIFY(!takeWrites().contains(';')); // one write for all
+    QCOMPARE(fixture.table().currentIndex(), fixture.model().index(clicked - 1, kShowMesh));
+}
+
+void tst_TableGestures::checkBoxWorksWhereItIsGreyed()
+{
+    DialogFixture fixture("field2d");
+    setStyle("FieldMap.Mesh.Show", "2", 0);
+    runUntilIdle();
+    QVERIFY(!fixture.model().isRelevant(fixture.model().index(1, kShowMesh)));
+    fixture.clickCheckBox(2, kShowMesh);
+    QCOMPARE(styleValue("FieldMap.Mesh.Show", 2), 1);
+}
+
+void tst_TableGestures::checkBoxNeedsPressAndReleaseOnIt()
+{
+    DialogFixture fixture("field2d");
+    QWidget* viewport = fixture.table().viewport();
+    const auto center = [&fixture](int map, int column) {
+        return fixture.table().visualRect(fixture.model().index(map - 1, column)).center();
+    };
+    takeWrites();
+    QTest::mousePress(viewport, Qt::LeftButton, {}, center(2, kShowMesh));
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, center(3, kShowMesh));
+    QTest::mousePress(viewport, Qt::LeftButton, {}, center(2, kShowZone));
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, center(2, kShowMesh));
+    QTest::mousePress(viewport, Qt::RightButton, {}, center(2, kShowMesh));
+    QTest::mouseRelease(viewport, Qt::RightButton, {}, center(2, kShowMesh));
+    fixture.clickCell(2, kShowMesh); // beside the box
+    QCOMPARE(takeWrites(), "");
+}
+
+void tst_TableGestures::editsOneCellInPlace_data()
+{
+    QTest::addColumn<bool>("byKey");
+    QTest::addColumn<int>("endKey");
+    QTest::addColumn<QString>("groups");
+    QTest::newRow("double click, Return") << false << int(Qt::Key_Return) << "1 1 5 1";
+    QTest::newRow("F2, Return") << true << int(Qt::Key_Return) << "1 1 5 1";
+    QTest::newRow("double click, Escape") << false << int(Qt::Key_Escape) << "1 1 1 1";
+    QTest::newRow("F2, Tab") << true << int(Qt::Key_Tab) << "1 1 5 1";
+}
+
+void tst_TableGestures::editsOneCellInPlace()
+{
+    QFETCH(bool, byKey);
+    QFETCH(int, endKey);
+    DialogFixture fixture("field2d");
+    fixture.select({2, 3});
+    if (byKey) {
+        fixture.clickCell(3, kGroup, Qt::ShiftModifier);
+        fixture.key(Qt::Key_F2);
+    } else {
+        fixture.doubleClickCell(3, kGroup);
+    }
+    QLineEdit* editor = openEditor(fixture);
+    QVERIFY(editor);
+    QCOMPARE(editor->text(), "1"); // though the cell has no value of its own for editing
+    QCOMPARE(fixture.selected(), "3");
+    editor->selectAll();
+    QTest::keyClicks(editor, "5");
+    QTest::keyClick(editor, static_cast<Qt::Key>(endKey));
+    runUntilIdle();
+    QTEST(styleValues("FieldMap.Group", 4), "groups");
+    QVERIFY(fixture.dialog().isVisible());
+}
+
+void tst_TableGestures::doesNotEditGreyedCellsInPlace()
+{
+    DialogFixture fixture("field2d");
+    fixture.clickCheckBox(3, kShowZone);
+    fixture.doubleClickCell(3, kGroup);
+    QVERIFY(!openEditor(fixture));
+    fixture.doubleClickCell(3, kName); // not editable at all
+    QVERIFY(!openEditor(fixture));
+    fixture.doubleClickCell(4, kGroup);
+    QVERIFY(openEditor(fixture));
+}
+
+void tst_TableGestures::menuWritesToSelectedRows()
+{
+    DialogFixture fixture("field2d");
+    setStyle("FieldMap.Mesh.MeshType", "1-12", 0);
+    runUntilIdle();
+    fixture.select({2, 5, 3});
+    PopupResponder menus(PopupResponder::chooseEntry("Hidden line"));
+    menus.then(PopupResponder::chooseEntry("Overlay")).then(PopupResponder::chooseEntry(""));
+    fixture.rightClick(5, kMeshType);
+    QCOMPARE(styleValues("FieldMap.Mesh.MeshType", 6), "0 2 2 0 2 0");
+    QCOMPARE(fixture.selected(), "2-3,5");
+    fixture.rightClick(6, kMeshType); // not selected: it becomes the selection
+    QCOMPARE(styleValues("FieldMap.Mesh.MeshType", 6), "0 2 2 0 2 1");
+    QCOMPARE(fixture.selected(), "6");
+    takeWrites();
+    fixture.rightClick(6, kMeshType);
+    QCOMPARE(takeWrites(), "");
+    QCOMPARE(menus.shown(), 3);
+    QVERIFY(fixture.table().findChildren<QMenu*>().isEmpty());
+}
+
+void tst_TableGestures::menuOfAColumnWithoutEntriesDoesNotOpen()
+{
+    DialogFixture fixture("field2d");
+    PopupResponder popups(PopupResponder::chooseEntry(""));
+    fixture.rightClick(2, kNumber);
+    fixture.rightClick(2, kName);
+    const QPoint below(5, fixture.table().viewport()->height() - 3);
+    QTest::mouseClick(fixture.dialog().windowHandle(), Qt::RightButton, {},
+                      fixture.table().viewport()->mapTo(&fixture.dialog(), below));
+    QCOMPARE(popups.shown(), 0);
+}
+
+void tst_TableGestures::menuOfColors()
+{
+    DialogFixture fixture("field2d");
+    fixture.select({1, 4});
+    PopupResponder menus([](QWidget& menu) {
+        auto* color = menu.findChild<QAbstractButton*>("color_5");
+        QTest::mouseClick(color, Qt::LeftButton);
+    });
+    fixture.rightClick(4, kMeshColor);
+    QCOMPARE(menus.shown(), 1);
+    QCOMPARE(styleValue("FieldMap.Mesh.Color", 1), 5);
+    QCOMPARE(styleValue("FieldMap.Mesh.Color", 4), 5);
+    QVERIFY(styleValue("FieldMap.Mesh.Color", 2) != 5);
+}
+
+void tst_TableGestures::keysMoveTheCurrentCell_data()
+{
+    QTest::addColumn<QPoint>("from"); // column and map
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QPoint>("to");
+    const auto row = [](const char* name, QPoint from, int key, int modifiers, QPoint to) {
+        QTest::newRow(name) << from << key << modifiers << to;
+    };
+    row("right", {3, 2}, Qt::Key_Right, 0, {4, 2});
+    row("left at the edge", {0, 2}, Qt::Key_Left, 0, {0, 2});
+    row("right at the edge", {9, 2}, Qt::Key_Right, 0, {9, 2});
+    row("up at the edge", {3, 1}, Qt::Key_Up, 0, {3, 1});
+    row("down at the edge", {3, 12}, Qt::Key_Down, 0, {3, 12});
+    row("home", {3, 5}, Qt::Key_Home, 0, {0, 5});
+    row("end", {3, 5}, Qt::Key_End, 0, {9, 5});
+    row("last cell", {3, 5}, Qt::Key_End, Qt::ControlModifier, {9, 12});
+    row("first cell", {3, 5}, Qt::Key_Home, Qt::ControlModifier, {0, 1});
+}
+
+void tst_TableGestures::keysMoveTheCurrentCell()
+{
+    QFETCH(QPoint, from);
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(QPoint, to);
+    DialogFixture fixture("field2d");
+    fixture.clickCell(from.y(), from.x());
+    fixture.key(key, Qt::KeyboardModifiers(modifiers));
+    const QModelIndex current = fixture.table().currentIndex();
+    QCOMPARE(QPoint(current.column(), current.row() + 1), to);
+}
+
+void tst_TableGestures::keysOpenTheMenuAtTheCurrentCell_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::newRow("Menu") << int(Qt::Key_Menu) << 0;
+    QTest::newRow("Shift+F10") << int(Qt::Key_F10) << int(Qt::ShiftModifier);
+}
+
+void tst_TableGestures::keysOpenTheMenuAtTheCurrentCell()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    DialogFixture fixture("field2d", 200);
+    fixture.select({1, 150});
+    fixture.table().selectionModel()->setCurrentIndex(fixture.model().index(149, kMeshType),
+                                                      QItemSelectionModel::NoUpdate);
+    fixture.table().scrollToTop();
+    QPoint position;
+    PopupResponder menus([&position](QWidget& menu) {
+        position = menu.pos();
+        QTest::keyClick(&menu, Qt::Key_Down);
+        QTest::keyClick(&menu, Qt::Key_Return);
+    });
+    fixture.key(key, Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(menus.shown(), 1);
+    const QRect cell = fixture.table().visualRect(fixture.table().currentIndex());
+    QVERIFY(fixture.table().viewport()->rect().contains(cell));
+    QVERIFY(cell.contains(fixture.table().viewport()->mapFromGlobal(position)));
+    QCOMPARE(styleValue("FieldMap.Mesh.MeshType", 1), 0);
+    QCOMPARE(styleValue("FieldMap.Mesh.MeshType", 150), 0);
+    QVERIFY(styleValue("FieldMap.Mesh.MeshType", 2) != 0);
+}
+
+void tst_TableGestures::keysActOnTheSelection()
+{
+    DialogFixture fixture("field2d");
+    setStyle("FieldMap.Mesh.Show", "1-12", 1);
+    runUntilIdle();
+    fixture.select({2, 4});
+    fixture.clickCell(4, kShowMesh, Qt::ControlModifier);
+    fixture.clickCell(4, kShowMesh, Qt::ControlModifier);
+    QCOMPARE(fixture.selected(), "2,4");
+    fixture.key(Qt::Key_Space);
+    QCOMPARE(styleValues("FieldMap.Mesh.Show", 5), "1 0 1 0 1");
+    fixture.key(Qt::Key_Space);
+    QCOMPARE(styleValues("FieldMap.Mesh.Show", 5), "1 1 1 1 1");
+    QCOMPARE(fixture.selected(), "2,4");
+    fixture.key(Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(fixture.selected(), "1-12");
+    fixture.key(Qt::Key_Down);
+    fixture.key(Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(fixture.selected(), "5-6");
+}
+
+void tst_TableGestures::escapeClosesTheInnermostOnly()
+{
+    DialogFixture fixture("field2d");
+    fixture.select({2});
+    PopupResponder menus([](QWidget& menu) { QTest::keyClick(&menu, Qt::Key_Escape); });
+    fixture.rightClick(2, kMeshType);
+    QCOMPARE(menus.shown(), 1);
+    QVERIFY(fixture.dialog().isVisible());
+    fixture.doubleClickCell(2, kGroup);
+    QTest::keyClick(openEditor(fixture), Qt::Key_Escape);
+    runUntilIdle();
+    QVERIFY(!openEditor(fixture));
+    QVERIFY(fixture.dialog().isVisible());
+    fixture.key(Qt::Key_Escape);
+    QVERIFY(!fixture.dialog().isVisible());
+}
+
+void tst_TableGestures::tableIsOneTabStop()
+{
+    DialogFixture fixture("field2d");
+    fixture.clickCell(2, kGroup);
+    fixture.table().setFocus();
+    QTest::keyClick(&fixture.table(), Qt::Key_Tab);
+    QVERIFY(!fixture.table().hasFocus());
+    QVERIFY(fixture.dialog().isAncestorOf(fixture.dialog().focusWidget()));
+    QCOMPARE(fixture.table().currentIndex(), fixture.model().index(1, kGroup));
+    QSet<QWidget*> stops;
+    for (QWidget* stop = fixture.dialog().focusWidget(); stop && !stops.contains(stop);
+         stop = fixture.dialog().focusWidget()) {
+        stops << stop;
+        QTest::keyClick(stop, Qt::Key_Tab);
+    }
+    QVERIFY(stops.contains(&fixture.table()));
+    QVERIFY(stops.contains(&fixture.patternField()));
+    QVERIFY(!fixture.table().accessibleName().isEmpty());
+    QVERIFY(!fixture.patternField().accessibleName().isEmpty());
+}
+
+void tst_TableGestures::paintsTheSelection_data()
+{
+    QTest::addColumn<QList<QRect>>("ranges"); // of columns and rows
+    QTest::newRow("whole rows") << QList<QRect> {{0, 1, 10, 2}, {0, 5, 10, 1}};
+    QTest::newRow("single cells") << QList<QRect> {{2, 1, 1, 2}, {0, 5, 10, 1}};
+    QTest::newRow("none") << QList<QRect> {};
+}
+
+void tst_TableGestures::paintsTheSelection()
+{
+    QFETCH(QList<QRect>, ranges);
+    DialogFixture fixture("field2d");
+    QItemSelectionModel& selection = *fixture.table().selectionModel();
+    fixture.key(Qt::Key_A, Qt::ControlModifier); // painted before, and outdated
+    fixture.table().viewport()->grab();
+    selection.clearSelection();
+    for (const QRect& range : ranges) {
+        selection.select({fixture.model().index(range.top(), range.left()),
+                          fixture.model().index(range.bottom(), range.right())},
+                         QItemSelectionModel::Select);
+    }
+    const QImage picture = fixture.table().viewport()->grab().toImage();
+    const auto background = [&](int row, int column) {
+        const QRect cell = fixture.table().visualRect(fixture.model().index(row, column));
+        return picture.pixelColor(cell.bottomRight() - QPoint(2, 2));
+    };
+    const QColor plain = fixture.table().palette().color(QPalette::Base);
+    for (int row = 0; row < 8; ++row) {
+        for (const int column : {kNumber, kGroup, kShowMesh, kMeshType}) {
+            const bool isSelected = selection.isSelected(fixture.model().index(row, column));
+            QCOMPARE(background(row, column) != plain, isSelected);
+        }
+    }
+}
+
+void tst_TableGestures::hasRoomForSixRows()
+{
+    DialogFixture fixture("field2d");
+    const int rowHeight = fixture.table().rowHeight(0);
+    const int rowWithGrid = rowHeight + 1;
+    QCOMPARE(fixture.table().minimumSizeHint(), QSize(1, 6 * rowWithGrid + 34));
+    QCOMPARE(fixture.table().rowHeight(11), rowHeight);
+    StyleTableView empty;
+    QCOMPARE(empty.minimumSizeHint(), QSize(1, 34));
+}
+
+QTEST_MAIN(tst_TableGestures)
+#include "tst_table_gestures.moc"
