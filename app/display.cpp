@@ -17,14 +17,17 @@ static bool hasXServer()
     return connection != nullptr;
 }
 
-QString Display::preparePicture(const QByteArray& platform)
+/// A script opens windows, which must not come to the user's screen when a picture is drawn.
+QString Display::preparePicture(const Options& options)
 {
-    const bool mayUseServer = platform.isEmpty() || platform == "xcb";
-    if (!mayUseServer || !hasXServer()) {
+    const QByteArray platform = qgetenv(kPlatform);
+    const bool canUseScreen = (platform.isEmpty() || platform == "xcb") && hasXServer();
+    if (!canUseScreen || !options.script.isEmpty()) {
         const QString error = m_server.start();
-        if (!error.isEmpty())
+        if (error.isEmpty())
+            qputenv("DISPLAY", m_server.display().toLatin1());
+        else if (!canUseScreen)
             return error;
-        qputenv("DISPLAY", m_server.display().toLatin1());
     }
     qputenv(kPlatform, "xcb");
     return {};
@@ -32,10 +35,9 @@ QString Display::preparePicture(const QByteArray& platform)
 
 QString Display::prepare(const Options& options)
 {
-    const QByteArray platform = qgetenv(kPlatform);
     if (!options.picture.isEmpty())
-        return preparePicture(platform);
-    if (!platform.isEmpty())
+        return preparePicture(options);
+    if (!qEnvironmentVariableIsEmpty(kPlatform))
         return {};
     const bool needsNoScreen = !options.report.isEmpty() && options.script.isEmpty();
     if (!needsNoScreen && hasXServer()) {

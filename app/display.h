@@ -16,7 +16,7 @@ public:
     QString prepare(const Options& options);
 
 private:
-    QString preparePicture(const QByteArray& platform);
+    QString preparePicture(const Options& options);
 
     PrivateXServer m_server;
 };

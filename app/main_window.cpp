@@ -19,6 +19,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStatusBar>
@@ -67,6 +68,8 @@ void MainWindow::makeCentre()
     m_drawing = new WorkProgress(this);
     statusBar()->addWidget(m_reading);
     statusBar()->addWidget(m_drawing);
+    m_summary = new QLabel(this);
+    statusBar()->addPermanentWidget(m_summary);
 }
 
 void MainWindow::makeFileMenu()
@@ -185,8 +188,8 @@ void MainWindow::connectOpener()
     });
     connect(&m_opener, &DataOpener::opened, this, &MainWindow::tellOpened);
     connect(&m_opener, &DataOpener::failed, this, &MainWindow::showProblem);
-    connect(&m_opener, &DataOpener::opened, this, &MainWindow::openingEnded);
-    connect(&m_opener, &DataOpener::failed, this, &MainWindow::openingEnded);
+    connect(&m_opener, &DataOpener::opened, this, [this] { Q_EMIT openingEnded(true); });
+    connect(&m_opener, &DataOpener::failed, this, [this] { Q_EMIT openingEnded(false); });
 }
 
 void MainWindow::connectCanvas()
@@ -206,6 +209,13 @@ void MainWindow::connectCanvas()
     });
 }
 
+static QString summaryOf(const host::DataSet& data)
+{
+    return MainWindow::tr("Zones: %1, variables: %2")
+        .arg(data.zoneCount())
+        .arg(data.variableCount());
+}
+
 void MainWindow::refresh()
 {
     const host::Frame* frame = Document::instance().activeFrame();
@@ -214,6 +224,7 @@ void MainWindow::refresh()
     setWindowTitle(title.isEmpty() ? tr("corvala") : tr("%1 - corvala").arg(title));
     m_styleDialog->setText(frame && frame->isLinePlot() ? tr("&Mapping Style...")
                                                         : tr("&Zone Style..."));
+    m_summary->setText(hasData ? summaryOf(*frame->data()) : QString());
     m_savePicture->setEnabled(hasData);
     m_fitView->setEnabled(hasData && m_plotArea->frameView());
     m_layerBar->refresh();
@@ -344,8 +355,17 @@ void MainWindow::pickLineMap(CvlInt64 lineMap, bool activate)
     pick(PickType_LineMap, lineMap, activate);
 }
 
+void MainWindow::setProblemHandler(std::function<void(const QString&)> handler)
+{
+    m_problemHandler = std::move(handler);
+}
+
 void MainWindow::showProblem(const QString& text)
 {
+    if (m_problemHandler) {
+        m_problemHandler(text);
+        return;
+    }
     auto* box = new QMessageBox(QMessageBox::Warning, tr("corvala"), text, QMessageBox::Ok, this);
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);

@@ -9,7 +9,10 @@
 #include <QImage>
 #include <QMainWindow>
 
+#include <functional>
+
 class QAction;
+class QLabel;
 class QMenu;
 
 namespace corvala::app {
@@ -36,12 +39,15 @@ public:
     /// Opens the style dialog beside the plot, as at the start of the program.
     void openStyleDialogBeside();
 
+    /// Who tells the user what went wrong; an empty handler is the message box of the window.
+    void setProblemHandler(std::function<void(const QString& text)> handler);
+
     /// The plot as it is on the screen. Null, with the reason in `error`, when it cannot be drawn.
     QImage canvasImage(QString* error);
 
 Q_SIGNALS:
     /// Files that openFiles was asked for are opened, or could not be.
-    void openingEnded();
+    void openingEnded(bool opened);
 
 private:
     void makeFileMenu();
@@ -70,6 +76,7 @@ private:
 
     DataOpener m_opener;
     DocumentObserver m_observer;
+    std::function<void(const QString&)> m_problemHandler;
     // Owned by Qt.
     PlotArea* m_plotArea = nullptr;
     NoticeBar* m_notice = nullptr;
@@ -77,6 +84,7 @@ private:
     TimeBar* m_timeBar = nullptr;
     WorkProgress* m_reading = nullptr;
     WorkProgress* m_drawing = nullptr;
+    QLabel* m_summary = nullptr;
     QAction* m_open = nullptr;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;

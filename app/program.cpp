@@ -107,13 +107,26 @@ static int runBatch(MainWindow& window, const Options& options)
     return error.isEmpty() ? Success : fail(named(error));
 }
 
+/// Data named on the command line that cannot be read end the program.
+static void openFirstFiles(MainWindow& window, const Options& options)
+{
+    window.setProblemHandler(
+        [](const QString& problem) { QApplication::exit(fail(named(problem))); });
+    auto* first = new QObject(&window);
+    QObject::connect(&window, &MainWindow::openingEnded, first, [&window, first](bool opened) {
+        first->deleteLater();
+        window.setProblemHandler({});
+        if (opened)
+            window.openStyleDialogBeside();
+    });
+    window.openFiles(options.files, options.plot3d);
+}
+
 static void startInteractive(MainWindow& window, const Options& options)
 {
     window.show();
     if (!options.files.isEmpty()) {
-        QObject::connect(&window, &MainWindow::openingEnded, &window,
-                         [&window] { window.openStyleDialogBeside(); });
-        window.openFiles(options.files, options.plot3d);
+        openFirstFiles(window, options);
     } else if (!options.demo.isEmpty()) {
         window.openDemo(options.demo);
         window.openStyleDialogBeside();

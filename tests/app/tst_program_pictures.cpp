@@ -21,6 +21,7 @@ private Q_SLOTS:
     void aScriptChangesThePicture();
     void namesTheMissingPackage();
     void endsItsServer();
+    void unreadableDataEndTheProgram();
 
 private:
     QTemporaryDir m_folder;
@@ -93,6 +94,18 @@ void tst_ProgramPictures::endsItsServer()
         QVERIFY2(QFile::exists(socket), qPrintable(server.display()));
     }
     QVERIFY(!QFile::exists(socket));
+}
+
+/// Also with a screen, where the window was to open.
+void tst_ProgramPictures::unreadableDataEndTheProgram()
+{
+    corvala::app::PrivateXServer server;
+    QCOMPARE(server.start(), QString());
+    QProcessEnvironment environment = environmentWithoutDisplay();
+    environment.insert(QStringLiteral("DISPLAY"), server.display());
+    const ProgramRun run = runProgram({"/nowhere/wing.cgns"}, environment);
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(QLatin1String("/nowhere/wing.cgns")), qPrintable(run.errors));
 }
 
 QTEST_GUILESS_MAIN(tst_ProgramPictures)
