@@ -59,7 +59,7 @@ Q_SIGNALS:
     void zonePicked(CvlInt64 zone, bool activate);
     /// As zonePicked, for line maps.
     void lineMapPicked(CvlInt64 lineMap, bool activate);
-    /// Work in slices goes on; `done` of `total` pieces are ready.
+    /// Work in slices that takes longer goes on; `done` of `total` pieces are ready.
     void workProgressed(CvlInt64 done, CvlInt64 total);
     /// The last of a series of workProgressed.
     void workEnded(bool cancelled);

@@ -192,15 +192,6 @@ Shape BlockBuilder::cellFlood(const BlockRecipe& recipe, const PlacedSurface& pl
     return result;
 }
 
-/// Gives lines their colours, where the recipe wants them and the zone has the values.
-static void setLineColors(vtkPolyData& lines, vtkDataArray* colors)
-{
-    if (colors) {
-        lines.GetPointData()->AddArray(colors);
-        lines.GetPointData()->SetActiveScalars(colors->GetName());
-    }
-}
-
 Shape BlockBuilder::contourLines(const BlockRecipe& recipe, const PlacedSurface& placed) const
 {
     const auto scalars = values(recipe.group, recipe, placed);
@@ -209,8 +200,9 @@ Shape BlockBuilder::contourLines(const BlockRecipe& recipe, const PlacedSurface&
     scalars->SetName("value");
     Shape shape = facesOf(placed.shape, false);
     const auto lineColors = recipe.colorGroup > 0 ? colors(recipe, placed) : nullptr;
-    setLineColors(*shape, lineColors);
     shape->GetPointData()->SetScalars(scalars);
+    if (lineColors)
+        shape->GetPointData()->AddArray(lineColors);
     vtkNew<vtkContourFilter> contours;
     contours->SetInputData(shape);
     contours->ComputeNormalsOff();
@@ -228,7 +220,7 @@ Shape BlockBuilder::mesh(const BlockRecipe& recipe, const PlacedSurface& placed)
 {
     Shape shape = copyOf(placed.shape, false);
     if (recipe.colorGroup > 0)
-        setLineColors(*shape, colors(recipe, placed));
+        shape->GetPointData()->SetScalars(colors(recipe, placed));
     Shape lines = meshLines(*shape);
     return recipe.arcLength ? withArcLength(*lines) : lines;
 }

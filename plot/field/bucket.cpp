@@ -59,8 +59,8 @@ void CompositeLayer::Bucket::setProperties()
     vtkProperty* property = m_actor->GetProperty();
     property->SetLighting(m_look.lit);
     property->SetInterpolation(m_look.smooth ? VTK_GOURAUD : VTK_FLAT);
-    property->SetAmbient(m_look.lit ? 0.25 : 1.0);
-    property->SetDiffuse(m_look.lit ? 0.75 : 0.0);
+    property->SetAmbient(m_look.lit ? 0.4 : 1.0);
+    property->SetDiffuse(m_look.lit ? 0.65 : 0.0);
     property->SetSpecular(m_look.shiny ? 0.35 : 0.0);
     property->SetSpecularPower(30.0);
     property->SetPointSize(kPointPixels);

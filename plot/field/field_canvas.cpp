@@ -17,13 +17,32 @@
 #include <vtkInteractorStyleTrackballCamera.h>
 #include <vtkRenderWindowInteractor.h>
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace corvala::plot {
 
 static constexpr int kSliceMilliseconds = 30;
+static constexpr int kQuietSlices = 8; ///< before work is reported as progress
 static constexpr CvlInt64 kFirstDrawing = 1000; ///< pieces of work before an unfinished picture
+static constexpr int kSamples = 8;
 static constexpr double kWheelStep = 1.15; ///< magnification of one notch
+
+/// Lets its interactor draw while Qt paints it, and at no other time.
+class FieldCanvas::Picture : public QVTKOpenGLNativeWidget
+{
+public:
+    using QVTKOpenGLNativeWidget::QVTKOpenGLNativeWidget;
+
+protected:
+    void paintGL() override
+    {
+        interactor()->EnableRenderOn();
+        QVTKOpenGLNativeWidget::paintGL();
+        interactor()->EnableRenderOff();
+    }
+};
 
 /// Axes and legends over the picture; the mouse goes through.
 class FieldCanvas::Overlay : public QWidget
@@ -74,7 +93,7 @@ FieldCanvas::~FieldCanvas()
 
 void FieldCanvas::makeWidgets()
 {
-    m_widget = new QVTKOpenGLNativeWidget(this);
+    m_widget = new Picture(this);
     QSurfaceFormat format = QVTKOpenGLNativeWidget::defaultFormat();
     format.setSamples(0);
     m_widget->setFormat(format);
@@ -82,7 +101,7 @@ void FieldCanvas::makeWidgets()
     m_widget->installEventFilter(this);
     layout()->addWidget(m_widget);
     vtkNew<vtkGenericOpenGLRenderWindow> window;
-    window->SetMultiSamples(4);
+    window->SetMultiSamples(isSoftwareOpenGl() ? 0 : kSamples);
     m_widget->setRenderWindow(window.Get());
     m_view.attach(window);
     // The canvas draws when it is idle, and not whenever the interactor wishes.
@@ -169,8 +188,7 @@ void FieldCanvas::showEvent(QShowEvent* event)
 void FieldCanvas::hideEvent(QHideEvent* event)
 {
     Canvas::hideEvent(event);
-    if (m_view.scene().hasWork())
-        Q_EMIT workEnded(true);
+    endReport(true);
 }
 
 bool FieldCanvas::redraw()
@@ -178,19 +196,26 @@ bool FieldCanvas::redraw()
     if (!m_widget || !isVisible())
         return false;
     FieldScene& scene = m_view.scene();
-    const bool isLong = scene.progress().second > 0 && scene.hasWork();
     const bool hasMore = scene.advance(kSliceMilliseconds);
-    const auto [done, total] = scene.progress();
-    if (hasMore) {
-        Q_EMIT workProgressed(done, total);
-        if (done < m_nextDrawing)
-            return true;
-        m_nextDrawing = 2 * done;
-    } else if (isLong) {
-        Q_EMIT workEnded(false);
+    if (!hasMore) {
+        endReport(false);
+        draw();
+        return false;
     }
-    draw();
-    return hasMore;
+    const auto [done, total] = scene.progress();
+    if (++m_slices > kQuietSlices)
+        Q_EMIT workProgressed(done, total);
+    if (done >= m_nextDrawing) {
+        m_nextDrawing = 2 * done;
+        draw();
+    }
+    return true;
+}
+
+void FieldCanvas::endReport(bool cancelled)
+{
+    if (std::exchange(m_slices, 0) > kQuietSlices)
+        Q_EMIT workEnded(cancelled);
 }
 
 void FieldCanvas::draw()
@@ -217,7 +242,7 @@ void FieldCanvas::cancelWork()
 {
     if (m_view.scene().hasWork()) {
         m_view.scene().cancel();
-        Q_EMIT workEnded(true);
+        endReport(true);
         requestRedraw();
     }
 }

@@ -44,11 +44,12 @@ protected:
 
 private:
     class Overlay;
-    class Style;
+    class Picture;
 
     void makeWidgets();
     void takePlotType();
     void draw();
+    void endReport(bool cancelled);
     QPointF pixelOf(const QPointF& position) const;
     QSize pixelSize() const;
     bool handleMouse(QEvent* event);
@@ -63,6 +64,7 @@ private:
     QPointF m_pressedAt;
     bool m_isDoubleClick = false;
     bool m_isDragging = false;
+    int m_slices = 0; ///< of work in a row
     CvlInt64 m_nextDrawing = 0; ///< pieces of work done when the picture is next refreshed
 };
 

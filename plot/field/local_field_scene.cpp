@@ -8,9 +8,14 @@
 #include <vtkRenderer.h>
 
 #include <algorithm>
+#include <limits>
 #include <set>
 
 namespace corvala::plot {
+
+/// Layers that may be coloured by the levels of a contour group.
+static constexpr LayerMask kColoredLayers =
+    maskOf(FieldLayer::Flood) | maskOf(FieldLayer::ContourLines) | maskOf(FieldLayer::Mesh);
 
 LocalFieldScene::LocalFieldScene(vtkRenderer& back, vtkRenderer& front,
                                  std::shared_ptr<SurfaceCache> cache, CvlInt64 largestScene)
@@ -61,14 +66,21 @@ void LocalFieldScene::rebuild()
     }
 }
 
-static bool changesWhatThereIs(const host::StateEvent& event)
+static bool changesData(const host::StateEvent& event)
 {
     switch (event.code) {
     case StateCode_DocumentCleared:
     case StateCode_DocumentLoaded:
     case StateCode_DataSetAttached:
     case StateCode_DataSetDetached:
-    case StateCode_DataValuesChanged:
+    case StateCode_DataValuesChanged: return true;
+    default: return false;
+    }
+}
+
+static bool changesMaps(const host::StateEvent& event)
+{
+    switch (event.code) {
     case StateCode_FieldMapListChanged:
     case StateCode_ZonesAdded:
     case StateCode_ZonesRemoved:
@@ -82,11 +94,13 @@ bool LocalFieldScene::apply(const host::StateEvent& event)
     const host::Frame* const drawn = frame();
     if (event.frame != 0 && event.frame != m_frame)
         return false;
-    if (changesWhatThereIs(event)) {
-        if (event.code == StateCode_DataSetAttached || event.code == StateCode_DataValuesChanged) {
-            m_cache->clear();
-            m_groups.clear();
-        }
+    if (changesData(event)) {
+        m_cache->clear();
+        m_groups.clear();
+        rebuild();
+        return true;
+    }
+    if (changesMaps(event)) {
         rebuild();
         return true;
     }
@@ -231,24 +245,42 @@ void LocalFieldScene::forget(CvlInt64 map)
     }
 }
 
-void LocalFieldScene::workOn(const host::Frame& drawn, std::size_t stage, CvlInt64 map)
+void LocalFieldScene::workOnValues(const host::Frame& drawn)
 {
+    host::MapSet& pending = m_pending[kGroupStage];
+    const std::uint32_t map = pending.minimum();
+    pending.remove(map);
+    ++m_done;
+    if (const std::optional<ShownMap> current = shown(drawn, map))
+        extendGroups(*current);
+    else
+        forget(map);
+    if (pending.isEmpty() && std::exchange(m_levelsChanged, false))
+        pend(kColoredLayers, m_shown);
+}
+
+void LocalFieldScene::workOnMap(const host::Frame& drawn)
+{
+    std::uint32_t map = std::numeric_limits<std::uint32_t>::max();
+    for (std::size_t i = 0; i < kFieldLayerCount; ++i)
+        if (!m_pending[i].isEmpty())
+            map = std::min(map, m_pending[i].minimum());
     const std::optional<ShownMap> current = shown(drawn, map);
     if (!current)
         forget(map);
-    if (stage == kGroupStage) {
-        if (current)
-            extendGroups(*current);
-        return;
-    }
-    const auto layer = static_cast<FieldLayer>(stage);
-    const std::optional<BlockLook> look =
-        current ? lookOf(layer, *current, m_groups) : std::nullopt;
-    const double height = static_cast<double>(map);
+    const double height = map;
     const BlockBuilder builder(*drawn.data(), m_groups, *m_cache);
-    m_layers[stage]->sync(map, look, [&](const BlockRecipe& recipe) {
-        return builder.build(recipe, m_flat ? &height : nullptr, m_surfaces[map]);
-    });
+    for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
+        if (!m_pending[i].contains(map))
+            continue;
+        m_pending[i].remove(map);
+        ++m_done;
+        const auto look =
+            current ? lookOf(static_cast<FieldLayer>(i), *current, m_groups) : std::nullopt;
+        m_layers[i]->sync(map, look, [&](const BlockRecipe& recipe) {
+            return builder.build(recipe, m_flat ? &height : nullptr, m_surfaces[map]);
+        });
+    }
 }
 
 const LocalFieldScene::ValueRange& LocalFieldScene::valueRange(const host::DataSet& data,
@@ -286,32 +318,16 @@ bool LocalFieldScene::advance(int milliseconds)
     clock.start();
     while (drawn && hasWork()) {
         // Values come first: levels have to be known before anything is coloured by them.
-        std::size_t stage = kGroupStage;
-        if (m_pending[stage].isEmpty()) {
-            stage = 0;
-            if (std::exchange(m_levelsChanged, false)) {
-                pend(maskOf(FieldLayer::ContourLines) | maskOf(FieldLayer::Mesh)
-                         | maskOf(FieldLayer::Flood),
-                     m_shown);
-            }
-            while (m_pending[stage].isEmpty())
-                ++stage;
-        }
-        const std::uint32_t map = m_pending[stage].minimum();
-        m_pending[stage].remove(map);
-        ++m_done;
-        workOn(*drawn, stage, map);
+        if (m_pending[kGroupStage].isEmpty())
+            workOnMap(*drawn);
+        else
+            workOnValues(*drawn);
         if (milliseconds >= 0 && clock.elapsed() >= milliseconds)
             break;
     }
-    finishSlice();
-    return hasWork();
-}
-
-void LocalFieldScene::finishSlice()
-{
     for (const auto& layer : m_layers)
         layer->updateLevels(m_groups);
+    return hasWork();
 }
 
 void LocalFieldScene::setScale(const ViewScale& scale)

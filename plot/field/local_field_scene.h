@@ -67,10 +67,10 @@ private:
     /// The map as it is to be drawn; nothing when it is not.
     std::optional<ShownMap> shown(const host::Frame& frame, CvlInt64 map);
     void forget(CvlInt64 map);
-    void workOn(const host::Frame& frame, std::size_t stage, CvlInt64 map);
+    void workOnValues(const host::Frame& frame); ///< of the next map
+    void workOnMap(const host::Frame& frame); ///< the next one, in all layers
     void extendGroups(const ShownMap& map);
     const ValueRange& valueRange(const host::DataSet& data, CvlInt64 zone, CvlInt64 variable);
-    void finishSlice();
 
     CvlInt64 nearestZone(const PickRay& ray, const std::vector<FieldLayer>& layers);
 

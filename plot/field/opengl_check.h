@@ -9,4 +9,7 @@ namespace corvala::plot {
 /// when they can. Needs the QApplication; looked at once.
 QString openGlProblem();
 
+/// Whether OpenGL is drawn by the processor: slowly, and without flawless smoothing by samples.
+bool isSoftwareOpenGl();
+
 } // namespace corvala::plot

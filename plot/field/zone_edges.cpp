@@ -4,9 +4,14 @@
 #include "plot/field/surface_builder.h"
 
 #include <vtkAppendPolyData.h>
+#include <vtkCellArray.h>
+#include <vtkCellArrayIterator.h>
 #include <vtkDataSet.h>
-#include <vtkFeatureEdges.h>
-#include <vtkPolyDataNormals.h>
+#include <vtkMath.h>
+#include <vtkPolygon.h>
+
+#include <algorithm>
+#include <cmath>
 
 namespace corvala::plot {
 
@@ -51,34 +56,76 @@ static vtkSmartPointer<vtkPolyData> indexBorders(vtkDataSet& data, const host::Z
     return builder.finish().shape;
 }
 
-/// The shape with its polygons turned to look to one side, so that a change of direction is a
-/// crease.
-static vtkSmartPointer<vtkPolyData> consistentlyOriented(vtkPolyData* shape)
+/// An edge of a face, in the direction in which the face goes round.
+struct FaceEdge
 {
-    vtkNew<vtkPolyDataNormals> orientation;
-    orientation->SetInputData(shape);
-    orientation->ConsistencyOn();
-    orientation->SplittingOff();
-    orientation->ComputePointNormalsOff();
-    orientation->Update();
-    return orientation->GetOutput();
+    std::array<vtkIdType, 2> ends; ///< ascending
+    bool isForward; ///< the face goes from the first end to the second
+    std::size_t face;
+};
+
+static std::array<double, 3> normalOf(vtkPoints& points, vtkIdType count, const vtkIdType* corners)
+{
+    std::array<double, 3> normal;
+    vtkPolygon::ComputeNormal(&points, static_cast<int>(count), corners, normal.data());
+    return normal;
 }
 
-static vtkSmartPointer<vtkPolyData> faceEdges(vtkPolyData* shape, bool borders, bool creases)
+/// All edges of the polygons, those of the same ends next to each other; normals by face.
+static std::vector<FaceEdge> sortedEdges(vtkPolyData& shape,
+                                         std::vector<std::array<double, 3>>& normals)
 {
-    vtkSmartPointer<vtkPolyData> faces = shape;
-    if (creases)
-        faces = consistentlyOriented(shape);
-    vtkNew<vtkFeatureEdges> edges;
-    edges->SetInputData(faces);
-    edges->SetBoundaryEdges(borders);
-    edges->SetFeatureEdges(creases);
-    edges->SetFeatureAngle(kCreaseAngle);
-    edges->NonManifoldEdgesOff();
-    edges->ManifoldEdgesOff();
-    edges->ColoringOff();
-    edges->Update();
-    return edges->GetOutput();
+    std::vector<FaceEdge> edges;
+    const auto cell = vtk::TakeSmartPointer(shape.GetPolys()->NewIterator());
+    for (cell->GoToFirstCell(); !cell->IsDoneWithTraversal(); cell->GoToNextCell()) {
+        vtkIdType count = 0;
+        const vtkIdType* corners = nullptr;
+        cell->GetCurrentCell(count, corners);
+        for (vtkIdType i = 0; i < count; ++i) {
+            const vtkIdType from = corners[i];
+            const vtkIdType to = corners[(i + 1) % count];
+            edges.push_back({{std::min(from, to), std::max(from, to)}, from < to, normals.size()});
+        }
+        normals.push_back(normalOf(*shape.GetPoints(), count, corners));
+    }
+    std::sort(edges.begin(), edges.end(),
+              [](const FaceEdge& left, const FaceEdge& right) { return left.ends < right.ends; });
+    return edges;
+}
+
+/// Whether two faces meet at a crease. Faces that go along their edge the same way look to opposite
+/// sides.
+static bool isCrease(const FaceEdge& one, const FaceEdge& other,
+                     const std::vector<std::array<double, 3>>& normals)
+{
+    static const double kCosine = std::cos(vtkMath::RadiansFromDegrees(kCreaseAngle));
+    const double cosine = vtkMath::Dot(normals[one.face].data(), normals[other.face].data());
+    return (one.isForward == other.isForward ? -cosine : cosine) < kCosine;
+}
+
+static vtkSmartPointer<vtkPolyData> faceEdges(vtkPolyData& shape, bool borders, bool creases)
+{
+    SurfaceBuilder builder(shape);
+    std::vector<std::array<double, 3>> normals;
+    const std::vector<FaceEdge> edges = sortedEdges(shape, normals);
+    for (std::size_t first = 0, last = 0; first < edges.size(); first = last) {
+        while (last < edges.size() && edges[last].ends == edges[first].ends)
+            ++last;
+        const std::size_t faces = last - first;
+        if ((borders && faces == 1)
+            || (creases && faces == 2 && isCrease(edges[first], edges[first + 1], normals)))
+            builder.addLine(edges[first].ends, 0);
+    }
+    return builder.finish().shape;
+}
+
+static vtkSmartPointer<vtkPolyData> joined(vtkPolyData* one, vtkPolyData* other)
+{
+    vtkNew<vtkAppendPolyData> both;
+    both->AddInputData(one);
+    both->AddInputData(other);
+    both->Update();
+    return both->GetOutput();
 }
 
 vtkSmartPointer<vtkPolyData> zoneEdges(vtkDataSet& data, const host::ZoneInfo& zone,
@@ -86,18 +133,16 @@ vtkSmartPointer<vtkPolyData> zoneEdges(vtkDataSet& data, const host::ZoneInfo& z
 {
     const bool borders = choice.type != EdgeType_Creases;
     const bool creases = choice.type != EdgeType_Borders && !(zone.ordered && zone.isVolume());
-    vtkNew<vtkAppendPolyData> all;
+    vtkSmartPointer<vtkPolyData> ofIndices;
     if (zone.ordered && borders)
-        all->AddInputData(indexBorders(data, zone, choice));
-    const bool hasFaces = surface.shape->GetNumberOfPolys() > 0;
-    if (hasFaces && (creases || (borders && !zone.ordered)))
-        all->AddInputData(faceEdges(surface.shape, borders && !zone.ordered, creases));
-    if (all->GetNumberOfInputConnections(0) == 0)
-        return vtkSmartPointer<vtkPolyData>::New();
-    all->Update();
-    auto result = vtkSmartPointer<vtkPolyData>::New();
-    result->CopyStructure(all->GetOutput());
-    return result;
+        ofIndices = indexBorders(data, zone, choice);
+    const bool bordersOfFaces = borders && !zone.ordered;
+    if (!creases && !bordersOfFaces)
+        return ofIndices ? ofIndices : vtkSmartPointer<vtkPolyData>::New();
+    const auto ofFaces = faceEdges(*surface.shape, bordersOfFaces, creases);
+    if (!ofIndices || ofFaces->GetNumberOfLines() == 0)
+        return ofIndices ? ofIndices : ofFaces;
+    return joined(ofIndices, ofFaces);
 }
 
 } // namespace corvala::plot

@@ -10,6 +10,7 @@
 #include <vtkIdTypeArray.h>
 #include <vtkPointData.h>
 #include <vtkPointSet.h>
+#include <vtkSMPTools.h>
 #include <vtkTriangleFilter.h>
 
 #include <algorithm>
@@ -18,6 +19,7 @@
 
 namespace corvala::plot {
 
+static constexpr vtkIdType kManyCells = 100'000;
 static constexpr const char* kZonePoint = "zone point";
 static constexpr const char* kZoneCell = "zone cell";
 
@@ -103,7 +105,11 @@ static ZoneSurface outerSurface(vtkDataSet& data)
     geometry->SetInputData(numberedStructure(data));
     // Mid-side points of quadratic faces are dropped: points made up by subdivision have no number.
     geometry->SetNonlinearSubdivisionLevel(0);
-    geometry->Update();
+    // Threads cost more than they save on a small zone.
+    const bool isSmall = data.GetNumberOfCells() < kManyCells;
+    const vtkSMPTools::Config threads =
+        isSmall ? vtkSMPTools::Config("Sequential") : vtkSMPTools::Config();
+    vtkSMPTools::LocalScope(threads, [&] { geometry->Update(); });
     return withoutValues(*withoutStrips(geometry->GetOutput()));
 }
 

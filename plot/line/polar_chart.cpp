@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_chart.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -10,6 +12,8 @@ namespace corvala::plot {
 /// Lines over an angle in degrees and a radius.
 class PolarChart : public LineChart
 {
+    Q_DECLARE_TR_FUNCTIONS(corvala::plot::PolarChart)
+
 public:
     explicit PolarChart(QCustomPlot& plot);
 
@@ -27,6 +31,7 @@ private:
     QCPPolarAxisRadial* radius() const { return m_angle->radialAxis(); }
 
     QCPPolarAxisAngular* m_angle; // owned by the plot
+    QCPTextElement* m_title; // owned by the plot
     std::map<std::int64_t, QCPPolarGraph*> m_graphs; // owned by the plot
 };
 
@@ -34,11 +39,14 @@ PolarChart::PolarChart(QCustomPlot& plot)
 {
     plot.plotLayout()->clear();
     m_angle = new QCPPolarAxisAngular(&plot);
+    m_title = new QCPTextElement(&plot);
     plot.plotLayout()->addElement(0, 0, m_angle);
+    plot.plotLayout()->addElement(1, 0, m_title);
     plot.setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
     m_angle->setRange(0.0, 360.0);
     m_angle->setRangeDrag(false);
     m_angle->setRangeZoom(false);
+    m_angle->setRangeReversed(true); // counted against the clock, from the right
     m_angle->setAngle(0.0);
     m_angle->grid()->setAngularPen(QPen(QColor(200, 200, 200), 0, Qt::DotLine));
     m_angle->grid()->setRadialPen(QPen(QColor(200, 200, 200), 0, Qt::DotLine));
@@ -67,8 +75,7 @@ void PolarChart::removeLine(std::int64_t map)
 
 void PolarChart::setTitles(const QString& first, const QString& second)
 {
-    m_angle->setLabel(first);
-    radius()->setLabel(second);
+    m_title->setText(first.isEmpty() ? QString() : tr("%1 over %2").arg(second, first));
 }
 
 void PolarChart::fit()
@@ -114,10 +121,9 @@ void PolarChart::setFont(const QFont& font)
 {
     QFont bold = font;
     bold.setBold(true);
+    m_title->setFont(bold);
     m_angle->setTickLabelFont(font);
-    m_angle->setLabelFont(bold);
     radius()->setTickLabelFont(font);
-    radius()->setLabelFont(bold);
 }
 
 std::unique_ptr<LineChart> makePolarChart(QCustomPlot& plot)
