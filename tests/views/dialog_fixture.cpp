@@ -25,6 +25,27 @@ void runUntilIdle()
     }
 }
 
+static void sendKey(QWidget& receiver, int key, const QString& text)
+{
+    const QPointer<QWidget> guard(&receiver);
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, Qt::NoModifier, text);
+        if (guard)
+            QCoreApplication::sendEvent(&receiver, &event);
+    }
+}
+
+void typeText(QWidget& receiver, const QString& text)
+{
+    for (const QChar character : text)
+        sendKey(receiver, 0, character);
+}
+
+void pressKey(QWidget& receiver, int key)
+{
+    sendKey(receiver, key, {});
+}
+
 static toolbox::StyleValue styleValueOf(const QString& path)
 {
     std::vector<std::string> names;
@@ -204,8 +225,7 @@ static void endBy(QWidget& popup, int endKey)
         QTest::mouseClick(popup.windowHandle(), Qt::LeftButton, {}, QPoint(-20, -20));
         return;
     }
-    QWidget* receiver = popup.focusWidget() ? popup.focusWidget() : &popup;
-    QTest::keyClick(receiver, static_cast<Qt::Key>(endKey));
+    pressKey(popup.focusWidget() ? *popup.focusWidget() : popup, endKey);
 }
 
 PopupResponder::Answer PopupResponder::chooseEntry(const QString& text)
@@ -227,7 +247,7 @@ PopupResponder::Answer PopupResponder::typeAndEnd(const QString& text, int endKe
     return [text, endKey](QWidget& popup) {
         auto* field = popup.findChild<QLineEdit*>();
         field->selectAll();
-        QTest::keyClicks(field, text);
+        typeText(*field, text);
         endBy(popup, endKey);
     };
 }

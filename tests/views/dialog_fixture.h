@@ -21,6 +21,10 @@ using sdk::ui::dialogs::zonestyle::intern::views::StyleTableView;
 /// Lets everything that is pending happen, idle refreshes and repaints too.
 void runUntilIdle();
 
+/// Key presses with any text and any key; Qt's own helpers know ASCII alone.
+void typeText(QWidget& receiver, const QString& text);
+void pressKey(QWidget& receiver, int key);
+
 /// A style value of a map of the active frame, or of the frame (map 0).
 int styleValue(const QString& path, int map);
 

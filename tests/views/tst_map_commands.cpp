@@ -5,6 +5,7 @@
 #include "sdk/dialogs_lineplot/line_map_create_dialog.h"
 #include "tests/support/modal_responder.h"
 
+#include <QHeaderView>
 #include <QPushButton>
 #include <QtTest>
 
@@ -21,7 +22,7 @@ constexpr const char* kBottom = "plotAttr_MaptoolsMoveToBottom_Button";
 constexpr const char* kQuestion =
     "Linemap Delete: Are you sure you want to\ndelete the selected mappings?";
 
-/// The maps as they were numbered at first (their group says), "-" before an inactive one.
+/// The maps as they were numbered at first (their colour says), "-" before an inactive one.
 QString order()
 {
     QStringList texts;
@@ -41,7 +42,6 @@ public:
     {
         for (int map = 1; map <= 6; ++map)
             setStyle("LineMap.Lines.Color", std::to_string(map), map);
-        corvala::sdk::ui::dialogs::ZoneStyleDialog::m_dialogInstance->setFocus();
         const QModelIndex inactive = model().index(3, 2);
         model().setData(inactive, Qt::Unchecked, Qt::CheckStateRole);
         runUntilIdle();
@@ -127,7 +127,7 @@ void tst_MapCommands::asksBeforeItDeletes()
     QString buttons;
     ModalResponder responder;
     responder.answer([&buttons](QDialog& dialog) {
-        auto& box = qobject_cast<QMessageBox&>(dialog);
+        auto& box = *qobject_cast<QMessageBox*>(&dialog);
         QCOMPARE(box.standardButtons(), QMessageBox::Ok | QMessageBox::Cancel);
         QCOMPARE(box.standardButton(box.defaultButton()), QMessageBox::Cancel);
         QCOMPARE(box.icon(), QMessageBox::Warning);

@@ -129,10 +129,10 @@ void tst_MapSelection::keepsItsOrder()
     DialogFixture fixture("field2d");
     fixture.select({7, 2, 9, 12});
     const auto rows = [&fixture] {
-        QList<int> rows;
+        QList<int> firstRows;
         for (const QItemSelectionRange& range : fixture.table().selectionModel()->selection())
-            rows << range.top() + 1;
-        return rows;
+            firstRows << range.top() + 1;
+        return firstRows;
     };
     setStyle("FieldMap.Group", "1", 2);
     runUntilIdle();
@@ -258,7 +258,7 @@ void tst_MapSelection::followsThePattern()
     runUntilIdle();
     fixture.select({1, 7});
     fixture.patternField().setFocus();
-    QTest::keyClicks(&fixture.patternField(), pattern);
+    typeText(fixture.patternField(), pattern);
     QTest::mouseClick(&fixture.button(button.toLatin1()), Qt::LeftButton);
     runUntilIdle();
     QTEST(fixture.selected(), "selected");

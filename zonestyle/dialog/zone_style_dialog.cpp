@@ -133,9 +133,9 @@ void ZoneStyleDialog::setVisible(bool visible)
 /// visible do not hear that their pages want more room.
 void ZoneStyleDialog::adoptPreferredSize()
 {
-    for (QWidget* container : {static_cast<QWidget*>(m_form->fieldTabs),
-                               static_cast<QWidget*>(m_form->lineTabs),
-                               static_cast<QWidget*>(m_form->plotTypeStackedWidget)})
+    for (QWidget* container :
+         {static_cast<QWidget*>(m_form->fieldTabs), static_cast<QWidget*>(m_form->lineTabs),
+          static_cast<QWidget*>(m_form->plotTypeStackedWidget)})
         container->updateGeometry();
     resize(sizeHint().expandedTo(minimumSizeHint()));
 }

@@ -51,10 +51,11 @@ void ListBoxDialog::fitToEntries(int width)
                             rows * m_listBox->sizeHintForRow(0) + frame);
 }
 
+/// The selected entry: the focus alone makes the first one current.
 std::optional<QString> ListBoxDialog::enteredText() const
 {
-    const QListWidgetItem* item = m_listBox->currentItem();
-    return item ? std::optional(item->text()) : std::nullopt;
+    const QList<QListWidgetItem*> selected = m_listBox->selectedItems();
+    return selected.isEmpty() ? std::nullopt : std::optional(selected.first()->text());
 }
 
 void ListBoxDialog::itemClicked(QListWidgetItem*)

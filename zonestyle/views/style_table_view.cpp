@@ -40,8 +40,9 @@ constexpr int kLeastRows = 6;
 
 QColor blend(const QColor& from, const QColor& to, double share)
 {
-    const auto between
-        = [share](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * share)); };
+    const auto between = [share](int a, int b) {
+        return static_cast<int>(std::lround(a + (b - a) * share));
+    };
     return QColor(between(from.red(), to.red()), between(from.green(), to.green()),
                   between(from.blue(), to.blue()));
 }
