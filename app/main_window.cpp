@@ -142,7 +142,7 @@ void MainWindow::makePlotMenu()
         if (m_plotArea->frameView())
             m_plotArea->frameView()->fitView();
     });
-    m_fitView->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
+    m_fitView->setShortcut(QKeySequence(QStringLiteral("Ctrl+0")));
 }
 
 void MainWindow::makeHelpMenu()

@@ -56,7 +56,7 @@ QAction* makeStyleDialogAction(QWidget& mainWindow)
             return ZoneStyleDialog::getInstance(mainWindow, DialogInitialization_None);
         },
         &mainWindow);
-    action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
+    action->setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));
     action->setShortcutContext(Qt::ApplicationShortcut);
     return action;
 }

@@ -97,10 +97,11 @@ void pressKey(QWidget* window, int key, Qt::KeyboardModifiers modifiers)
 
 void pressKeys(QWidget* window, const QKeySequence& keys)
 {
-    for (int i = 0; i < keys.count(); ++i) {
-        const int combination = keys[static_cast<uint>(i)];
-        pressKey(window, combination & ~Qt::KeyboardModifierMask,
-                 Qt::KeyboardModifiers(combination & Qt::KeyboardModifierMask));
+    constexpr auto modifierMask = static_cast<uint>(Qt::KeyboardModifierMask);
+    for (uint i = 0; i < static_cast<uint>(keys.count()); ++i) {
+        const auto combination = static_cast<uint>(keys[i]);
+        pressKey(window, static_cast<int>(combination & ~modifierMask),
+                 Qt::KeyboardModifiers(static_cast<int>(combination & modifierMask)));
     }
 }
 

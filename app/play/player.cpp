@@ -91,8 +91,8 @@ static ScriptProblem runSteps(const std::vector<Step>& steps, const QString& fol
         try {
             step.verb->run(stage, Arguments(step.object, folder));
             stage.settle();
-        } catch (const ScriptError& error) {
-            return {step.line, error.message()};
+        } catch (const std::exception& error) {
+            return {step.line, QString::fromUtf8(error.what())};
         }
     }
     if (stage.prompts().hasUnusedReplies())

@@ -88,8 +88,8 @@ void WindowWatcher::handle(Kind kind, QWidget& window)
         error.clear();
         try {
             m_handlers[kind](window);
-        } catch (const ScriptError& problem) {
-            error = problem.message();
+        } catch (const std::exception& problem) {
+            error = QString::fromUtf8(problem.what());
         }
     }
     if (error.isEmpty())

@@ -158,6 +158,10 @@ void tst_Program::wrongScriptsNameTheirLine_data()
                                       << "is 1, not 2";
     QTest::newRow("canvas without a screen") << R"({"screenshot": "c.png", "of": "canvas"})"
                                              << "X screen";
+    QTest::newRow("no pick") << R"({"pick": [3]})" << "\"other\" is missing";
+    QTest::newRow("value of another kind")
+        << R"({"set": ["FieldMap", "Mesh", "Show"], "maps": "1", "value": {"on": 1}})"
+        << "no style value";
     QTest::newRow("missing data") << R"({"open": "nowhere.cgns"})"
                                   << "nowhere.cgns";
     QTest::newRow("nothing to undo") << R"({"undo": 1})"
