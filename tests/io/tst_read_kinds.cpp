@@ -249,7 +249,7 @@ private Q_SLOTS:
                           "<DataSet timestep='1' group='wing' part='4' file='p.vtp'/>"
                           "<DataSet timestep='1' group='hull' part='0' name='bow' file='p.vtp'/>"
                           "<DataSet timestep='2' group='wing' part='4' file='p.vtp'/>")
-            << "wing/Part 1@1s1 wing/Part 5@1s2 wing/Part 5@2s2 hull/bow@1s3";
+            << "wing/Piece 1@1s1 wing/Piece 5@1s2 wing/Piece 5@2s2 hull/bow@1s3";
         QTest::newRow("a tree as part") << QByteArray(
             "<DataSet timestep='1' file='t.vtm'/><DataSet timestep='2' file='p.vtp'/>")
                                         << "all/a@1s1 all@2s2";

@@ -62,7 +62,7 @@ private Q_SLOTS:
                                 << QVector<int> {0, 0, 0} << "X,Y,Z,ObjectId,PressureRMS"
                                 << QVector<int> {0, 0, 0} << false;
         QTest::newRow("collection of five times")
-            << QStringList {"two_spheres/dualSphereAnimation4.pvd"} << 10 << 2 << "Part 1"
+            << QStringList {"two_spheres/dualSphereAnimation4.pvd"} << 10 << 2 << "Piece 1"
             << QVector<int> {0, 0, 0}
             << "X,Y,Z,Normals X,Normals Y,Normals Z,cellNormals X,cellNormals Y,cellNormals Z"
             << QVector<int> {4, 5, 6} << false;

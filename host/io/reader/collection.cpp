@@ -106,7 +106,7 @@ std::string Collection::blockName(const Entry& entry, std::map<QString, int>& us
     int number = entry.part.toInt(&isNumber) + 1;
     number += uses[entry.group + QLatin1Char('\n') + entry.part]++;
     const QString part =
-        isNumber || entry.part.isEmpty() ? QStringLiteral("Part %1").arg(number) : entry.part;
+        isNumber || entry.part.isEmpty() ? QStringLiteral("Piece %1").arg(number) : entry.part;
     return (entry.group.isEmpty() ? part : entry.group + QLatin1Char('/') + part).toStdString();
 }
 
