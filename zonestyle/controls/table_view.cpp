@@ -97,6 +97,12 @@ void TableView::mouseReleaseEvent(QMouseEvent* event)
     m_editingEvent = nullptr;
 }
 
+void TableView::keyPressEvent(QKeyEvent* event)
+{
+    TableViewWithPreferredDimensions::keyPressEvent(event);
+    m_editingEvent = nullptr;
+}
+
 /// Replaces Qt's own handling, which makes a region of all the ranges, and for a screen reader a
 /// list of all the cells.
 void TableView::selectionChanged(const QItemSelection& selected, const QItemSelection&)

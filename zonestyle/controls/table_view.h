@@ -36,6 +36,7 @@ protected:
                           const QItemSelection& deselected) override;
     void setSelection(const QRect& rectangle, QItemSelectionModel::SelectionFlags command) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private Q_SLOTS:
