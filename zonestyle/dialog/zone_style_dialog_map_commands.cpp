@@ -46,8 +46,10 @@ void ZoneStyleDialog::on_plotAttr_MaptoolsCreateMap_Button_clicked(bool)
 void ZoneStyleDialog::on_plotAttr_MaptoolsCopyMap_Button_clicked(bool)
 {
     const toolbox::Set maps = actions::mapSet(selectedRows(*m_tableView));
-    if (!maps.isEmpty())
-        copyLineMaps(maps);
+    if (maps.isEmpty())
+        return;
+    const AppLock lock(ImplicitMacroRecording_None);
+    copyLineMaps(maps);
 }
 
 void ZoneStyleDialog::on_plotAttr_MaptoolsDeleteMap_Button_clicked(bool)
