@@ -10,7 +10,7 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern {
 
 /// While it lives, the selection by pattern does not hear of changes of a view's selection: those
 /// are the dialog's own. Afterwards it hears of the changes that the user makes, also when the view
-/// has another selection model then. Suspenders may nest.
+/// has another selection model then.
 class SelectionModelSignalSuspender
 {
 public:
