@@ -238,7 +238,6 @@ void tst_DialogRefresh::leavesAnOpenEditorAlone()
     fixture.doubleClickCell(2, kGroup);
     auto* editor = fixture.table().viewport()->findChild<QLineEdit*>();
     QVERIFY(editor);
-    editor->selectAll();
     QTest::keyClicks(editor, "7");
     setStyle("FieldMap.Group", "1-12", 4);
     raise(StateCode_ZonesAdded);

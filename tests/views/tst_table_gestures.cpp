@@ -2,6 +2,7 @@
 #include "tests/views/dialog_fixture.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void checkBoxNeedsPressAndReleaseOnIt();
     void editsOneCellInPlace_data();
     void editsOneCellInPlace();
+    void choosesFromAListInPlace();
     void doesNotEditGreyedCellsInPlace();
     void menuWritesToSelectedRows();
     void menuOfAColumnWithoutEntriesDoesNotOpen();
@@ -147,11 +149,28 @@ void tst_TableGestures::editsOneCellInPlace()
     QVERIFY(editor);
     QCOMPARE(editor->text(), "1"); // though the cell has no value of its own for editing
     QCOMPARE(fixture.selected(), "3");
-    editor->selectAll();
-    QTest::keyClicks(editor, "5");
+    QTest::keyClicks(editor, "5"); // in place of it
     QTest::keyClick(editor, static_cast<Qt::Key>(endKey));
     runUntilIdle();
     QTEST(styleValues("FieldMap.Group", 4), "groups");
+    QVERIFY(fixture.dialog().isVisible());
+}
+
+void tst_TableGestures::choosesFromAListInPlace()
+{
+    static constexpr int kXAxisVariable = 6;
+    DialogFixture fixture("xy");
+    fixture.select({1, 2, 3});
+    fixture.doubleClickCell(2, kXAxisVariable);
+    auto* list = fixture.table().viewport()->findChild<QComboBox*>();
+    QVERIFY(list);
+    QCOMPARE(list->currentText(), "1: Time");
+    QCOMPARE(list->lineEdit()->selectedText(), "1: Time");
+    QTest::keyClicks(list, "3: Mom"); // filters, and Return takes the one that is left
+    QTest::keyClick(list, Qt::Key_Return);
+    runUntilIdle();
+    QCOMPARE(styleValues("LineMap.Assign.XAxisVar", 3), "1 3 1");
+    QVERIFY(!fixture.table().viewport()->findChild<QComboBox*>());
     QVERIFY(fixture.dialog().isVisible());
 }
 
@@ -208,11 +227,18 @@ void tst_TableGestures::menuOfColors()
         auto* color = menu.findChild<QAbstractButton*>("color_5");
         QTest::mouseClick(color, Qt::LeftButton);
     });
+    menus.then([](QWidget& menu) {
+        QTest::mouseClick(menu.findChild<QAbstractButton*>("color_103"), Qt::LeftButton);
+    });
     fixture.rightClick(4, kMeshColor);
-    QCOMPARE(menus.shown(), 1);
     QCOMPARE(styleValue("FieldMap.Mesh.Color", 1), 5);
     QCOMPARE(styleValue("FieldMap.Mesh.Color", 4), 5);
     QVERIFY(styleValue("FieldMap.Mesh.Color", 2) != 5);
+    const QModelIndex cell = fixture.model().index(3, kMeshColor);
+    QCOMPARE(cell.data(Qt::AccessibleTextRole), QVariant());
+    fixture.rightClick(4, kMeshColor);
+    QCOMPARE(cell.data(Qt::AccessibleTextRole).toString(), "C3");
+    QCOMPARE(menus.shown(), 2);
 }
 
 void tst_TableGestures::keysMoveTheCurrentCell_data()

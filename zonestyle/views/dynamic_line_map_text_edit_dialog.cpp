@@ -8,6 +8,7 @@
 #include <sdk/propertybindings/line_edit_property_binding.h>
 
 #include <QCoreApplication>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -72,10 +73,17 @@ DynamicLineMapTextEditDialog::~DynamicLineMapTextEditDialog() = default;
 
 void DynamicLineMapTextEditDialog::setupUi()
 {
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(0);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    auto* panel = new QFrame(this); // the window itself has no background
+    panel->setFrameShape(QFrame::StyledPanel);
+    panel->setAutoFillBackground(true);
+    outer->addWidget(panel);
+    auto* rows = new QVBoxLayout(panel);
+    rows->setContentsMargins(2, 2, 2, 2);
+    rows->setSpacing(2);
     auto* nameRow = new QHBoxLayout;
+    nameRow->setSpacing(0);
     m_lineEdit = new QLineEdit(this);
     m_lineEdit->setObjectName(QStringLiteral("lineEdit"));
     m_lineEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -96,7 +104,6 @@ void DynamicLineMapTextEditDialog::setupUi()
     rows->addWidget(m_listView);
     setUpTokenList();
     setTabOrder(m_lineEdit, m_listView);
-    setAutoFillBackground(true);
 }
 
 QToolButton* DynamicLineMapTextEditDialog::addToolButton(QHBoxLayout& layout,
@@ -134,6 +141,7 @@ void DynamicLineMapTextEditDialog::setUpTokenList()
     const int frame = 2 * m_listView->frameWidth();
     m_listView->setMinimumSize(m_listView->sizeHintForColumn(0) + frame,
                                tokens->rowCount() * m_listView->sizeHintForRow(0) + frame);
+    m_listView->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_listView->installEventFilter(this);
     connect(
         m_listView->selectionModel(), &QItemSelectionModel::currentChanged, this,

@@ -4,8 +4,10 @@
 #include "zonestyle/models/model_abstract.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPainter>
+#include <QTimer>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
 
@@ -80,12 +82,26 @@ QWidget* ItemDelegate::makeEditor(QWidget* parent, const QModelIndex&) const
     return editor;
 }
 
+/// The double click that opened the editor is handed on to it and sets the cursor.
+static void selectTextLater(QWidget* editor)
+{
+    auto* comboBox = qobject_cast<QComboBox*>(editor);
+    auto* lineEdit = comboBox ? comboBox->lineEdit() : qobject_cast<QLineEdit*>(editor);
+    if (!lineEdit)
+        return;
+    QTimer::singleShot(0, lineEdit, [lineEdit] {
+        if (!lineEdit->isModified())
+            lineEdit->selectAll();
+    });
+}
+
 void ItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
 {
     if (editor->property(kFilledProperty).toBool())
         return;
     editor->setProperty(kFilledProperty, true);
     fillEditor(editor, index);
+    selectTextLater(editor);
 }
 
 void ItemDelegate::fillEditor(QWidget* editor, const QModelIndex& index) const

@@ -5,8 +5,6 @@
 
 #include <sdk/common_ui/combo_box_auto_filter.h>
 
-#include <QLineEdit>
-
 #include <limits>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
@@ -78,8 +76,6 @@ void ListItemDelegate::fillEditor(QWidget* editor, const QModelIndex& index) con
         return;
     const QString shown = index.data(Qt::DisplayRole).toString();
     list->setCurrentIndex(list->findText(shown, m_editable ? Qt::MatchContains : Qt::MatchExactly));
-    if (list->lineEdit())
-        list->lineEdit()->selectAll();
 }
 
 void ListItemDelegate::onSelectionComplete()

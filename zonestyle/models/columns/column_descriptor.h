@@ -97,6 +97,7 @@ struct ColumnDescriptor
     CellReader edit = nullptr; ///< of a column of choices: the list of them
     CellReader check = nullptr;
     CellReader raw = nullptr; ///< for Qt::UserRole
+    CellReader hint = nullptr; ///< for Qt::AccessibleTextRole: what the display cannot say
     ChoiceNames choices = {};
     const SizePrompt* size = nullptr;
     const char* prompt = ""; ///< what a chooser asks, English, in the translation context "Prompt"

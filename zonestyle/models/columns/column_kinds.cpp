@@ -47,6 +47,17 @@ QVariant colorValue(const Cell& cell)
     return QColor(red, green, blue);
 }
 
+QVariant colorHint(const Cell& cell)
+{
+    static constexpr int kFirstGroup = 101;
+    static constexpr int kLastGroup = 108;
+    static constexpr int kByRgb = 109;
+    const int color = cell.value<int>();
+    if (color >= kFirstGroup && color <= kLastGroup)
+        return QString(QLatin1Char('C') + QString::number(color - kFirstGroup + 1));
+    return color == kByRgb ? QVariant(QStringLiteral("RGB")) : QVariant();
+}
+
 QVariant percentText(const Cell& cell)
 {
     return QString(actions::sizeText(cell.value<double>()) + QLatin1Char('%'));

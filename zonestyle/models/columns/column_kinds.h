@@ -13,6 +13,7 @@ QVariant integerValue(const Cell& cell);
 QVariant choiceName(const Cell& cell); ///< from the column's choice names
 QVariant choiceList(const Cell& cell);
 QVariant colorValue(const Cell& cell); ///< a QColor; empty for a colour that nothing draws
+QVariant colorHint(const Cell& cell); ///< "C1", "RGB" for a colour that follows those, else empty
 QVariant percentText(const Cell& cell); ///< "0.50%"
 QVariant presetList(const Cell& cell); ///< of the column's size prompt
 QVariant variableName(const Cell& cell); ///< with its number
@@ -76,6 +77,7 @@ constexpr ColumnDescriptor colorSwatch(const char* header, const StylePath& path
     ColumnDescriptor column {header, path};
     column.display = colorValue;
     column.edit = colorValue;
+    column.hint = colorHint;
     column.menu = colorMenu;
     return column.editor(EditorType_Color, 0);
 }

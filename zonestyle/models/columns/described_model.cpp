@@ -12,6 +12,7 @@ static CellReader readerFor(const ColumnDescriptor& column, int role)
     case Qt::EditRole: return column.edit;
     case Qt::CheckStateRole: return column.check;
     case Qt::UserRole: return column.raw;
+    case Qt::AccessibleTextRole: return column.hint;
     default: return nullptr;
     }
 }
