@@ -14,10 +14,14 @@ using namespace corvala::host;
 
 static std::size_t allocations = 0;
 
-void* operator new(std::size_t size)
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     ++allocations;
-    if (void* const memory = std::malloc(size))
+    return std::malloc(size);
+}
+void* operator new(std::size_t size)
+{
+    if (void* const memory = operator new(size, std::nothrow))
         return memory;
     throw std::bad_alloc();
 }
