@@ -265,7 +265,8 @@ std::vector<Ratio> ratios()
 
 int main(int argc, char** argv)
 {
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {}); // offscreen
+    qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString&) {}); // offscreen
     QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     RecordingReporter times;

@@ -158,7 +158,8 @@ void tst_Program::wrongScriptsNameTheirLine_data()
                                       << "is 1, not 2";
     QTest::newRow("canvas without a screen") << R"({"screenshot": "c.png", "of": "canvas"})"
                                              << "X screen";
-    QTest::newRow("no pick") << R"({"pick": [3]})" << "\"other\" is missing";
+    QTest::newRow("no pick") << R"({"pick": [3]})"
+                             << "\"other\" is missing";
     QTest::newRow("value of another kind")
         << R"({"set": ["FieldMap", "Mesh", "Show"], "maps": "1", "value": {"on": 1}})"
         << "no style value";
