@@ -51,7 +51,8 @@ void placeSideBySide(QWidget& mainWindow, QWidget& dialog)
 QAction* makeStyleDialogAction(QWidget& mainWindow)
 {
     auto* action = new LaunchDialogAction(
-        QCoreApplication::translate("MainWindow", "&Zone Style..."), ZoneStyleDialog::relevance(),
+        QCoreApplication::translate("corvala::app::MainWindow", "&Zone Style..."),
+        ZoneStyleDialog::relevance(),
         [&mainWindow]() -> DialogInterface& {
             return ZoneStyleDialog::getInstance(mainWindow, DialogInitialization_None);
         },
