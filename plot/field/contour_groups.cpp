@@ -80,7 +80,7 @@ bool ContourGroups::hasRgb() const
     return variable(kRed) > 0 && variable(kRed + 1) > 0 && variable(kRed + 2) > 0;
 }
 
-bool ContourGroups::extend(int number, double minimum, double maximum)
+bool ContourGroups::setRange(int number, double minimum, double maximum)
 {
     Group& group = at(number);
     if (!std::isfinite(minimum) || !std::isfinite(maximum) || minimum > maximum)
@@ -89,15 +89,16 @@ bool ContourGroups::extend(int number, double minimum, double maximum)
         group.reference = minimum;
         group.unit = maximum > minimum ? maximum - minimum : 1.0;
     }
-    group.minimum = group.hasRange ? std::min(group.minimum, minimum) : minimum;
-    group.maximum = group.hasRange ? std::max(group.maximum, maximum) : maximum;
+    const ContourLevels levels = levelsFor(minimum, maximum);
+    const bool isSame = group.hasRange && group.minimum == minimum && group.maximum == maximum;
+    // The channels of RGB are mixed over the range itself.
+    const bool changed = number < kRed ? !(levels == group.levels) : !isSame;
     group.hasRange = true;
-    const ContourLevels levels = levelsFor(group.minimum, group.maximum);
-    if (levels == group.levels)
-        return false;
+    group.minimum = minimum;
+    group.maximum = maximum;
     group.levels = levels;
-    ++group.revision;
-    return true;
+    group.revision += changed ? 1 : 0;
+    return changed;
 }
 
 double ContourGroups::coordinate(int group, double value) const

@@ -26,9 +26,7 @@ bool operator==(const ContourLevels& left, const ContourLevels& right);
 /// Round levels that cover the range, in eight to twenty bands.
 ContourLevels levelsFor(double minimum, double maximum);
 
-/// The variables of a frame's contour groups and RGB channels, and the values that they span in
-/// what was drawn so far. Ranges grow but never shrink while the variable stays, so that a colour
-/// means the same value from one time to the next and whatever zones are shown.
+/// The variables of a frame's contour groups and RGB channels, and the values that they span.
 class ContourGroups
 {
 public:
@@ -45,14 +43,14 @@ public:
     CvlInt64 variable(int group) const { return at(group).variable; }
     bool hasRgb() const;
 
-    /// Widens the group's range; true when its levels changed.
-    bool extend(int group, double minimum, double maximum);
+    /// Gives the group the range of its values; true when its levels changed.
+    bool setRange(int group, double minimum, double maximum);
 
     const ContourLevels& levels(int group) const { return at(group).levels; }
     /// Differs whenever variable or levels do.
     int revision(int group) const { return at(group).revision; }
 
-    /// A value as texture coordinate. These do not change when the levels grow: the texture is
+    /// A value as texture coordinate. These do not change with the levels: the texture is
     /// moved instead, by `textureScale` and `textureShift`.
     double coordinate(int group, double value) const;
     double textureScale(int group) const;

@@ -22,7 +22,7 @@ static QColor inkColor()
 FieldLayout layOut(const QSize& size, bool flat, std::size_t legendCount)
 {
     FieldLayout layout;
-    layout.font = std::clamp(size.height() / 45.0, 9.0, 40.0);
+    layout.font = std::clamp(std::min(size.height() / 45.0, size.width() / 50.0), 9.0, 40.0);
     const double font = layout.font;
     QRectF area(0, 0, size.width(), size.height());
     if (legendCount > 0) {

@@ -2,6 +2,7 @@
 #include "plot/field/field_canvas.h"
 
 #include "host/document/document.h"
+#include "plot/common/document_events.h"
 #include "plot/field/offscreen.h"
 #include "plot/field/opengl_check.h"
 
@@ -164,7 +165,7 @@ static bool namesPlotType(const host::StateEvent& event)
 
 void FieldCanvas::documentChanged(const host::StateEvent& event)
 {
-    const bool isOurs = event.frame == 0 || event.frame == frame();
+    const bool isOurs = concerns(event, frame());
     if (isOurs && event.code == StateCode_DataSetAttached) {
         m_cameras.remove({frame(), true});
         m_cameras.remove({frame(), false});

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/local_field_scene.h"
 
+#include "plot/common/document_events.h"
+
 #include <QElapsedTimer>
 
 #include <vtkBox.h>
@@ -83,8 +85,7 @@ static bool changesMaps(const host::StateEvent& event)
     switch (event.code) {
     case StateCode_FieldMapListChanged:
     case StateCode_ZonesAdded:
-    case StateCode_ZonesRemoved:
-    case StateCode_FrameListChanged: return true;
+    case StateCode_ZonesRemoved: return true;
     default: return event.structureChanged;
     }
 }
@@ -92,7 +93,7 @@ static bool changesMaps(const host::StateEvent& event)
 bool LocalFieldScene::apply(const host::StateEvent& event)
 {
     const host::Frame* const drawn = frame();
-    if (event.frame != 0 && event.frame != m_frame)
+    if (!concerns(event, m_frame))
         return false;
     if (changesData(event)) {
         m_cache->clear();
@@ -113,6 +114,10 @@ bool LocalFieldScene::apply(const host::StateEvent& event)
         if (drawn)
             pendTransient(*drawn);
         return drawn != nullptr;
+    case StateCode_FrameListChanged:
+        if (!drawn)
+            rebuild();
+        return !drawn;
     case StateCode_VariableListChanged:
     case StateCode_VariableRenamed: return true;
     default: return false;
@@ -241,6 +246,7 @@ void LocalFieldScene::forget(CvlInt64 map)
     if (m_shown.contains(member)) {
         m_shown.remove(member);
         m_surfaces.erase(map);
+        m_ranges.remove(map);
         pend(kAllLayers | kGroupValues, std::exchange(m_refused, {}));
     }
 }
@@ -251,11 +257,12 @@ void LocalFieldScene::workOnValues(const host::Frame& drawn)
     const std::uint32_t map = pending.minimum();
     pending.remove(map);
     ++m_done;
-    if (const std::optional<ShownMap> current = shown(drawn, map))
-        extendGroups(*current);
-    else
+    const std::optional<ShownMap> current = shown(drawn, map);
+    if (current && m_ranges.add(*current, m_groups))
+        pend(kGroupValues, m_shown); // a group is new: every map has to say what it has of it
+    if (!current)
         forget(map);
-    if (pending.isEmpty() && std::exchange(m_levelsChanged, false))
+    if (pending.isEmpty() && m_ranges.update(drawn, m_groups))
         pend(kColoredLayers, m_shown);
 }
 
@@ -280,34 +287,6 @@ void LocalFieldScene::workOnMap(const host::Frame& drawn)
         m_layers[i]->sync(map, look, [&](const BlockRecipe& recipe) {
             return builder.build(recipe, m_flat ? &height : nullptr, m_surfaces[map]);
         });
-    }
-}
-
-const LocalFieldScene::ValueRange& LocalFieldScene::valueRange(const host::DataSet& data,
-                                                               CvlInt64 zone, CvlInt64 variable)
-{
-    const ValueKey key {data.zone(zone).sourceIndex, variable};
-    const auto known = m_ranges.find(key);
-    if (known != m_ranges.end())
-        return known->second;
-    ValueRange range;
-    const host::ZoneValues values = data.values(zone, variable);
-    if (values.array && values.array->GetNumberOfTuples() > 0) {
-        double limits[2];
-        values.array->GetFiniteRange(limits, 0);
-        range = {limits[0] > limits[1], limits[0], limits[1]};
-    }
-    return m_ranges[key] = range;
-}
-
-void LocalFieldScene::extendGroups(const ShownMap& map)
-{
-    for (const int group : groupsShown(map, m_groups)) {
-        const ValueRange& range = valueRange(*map.frame.data(), map.zone, m_groups.variable(group));
-        if (!range.isEmpty) {
-            m_levelsChanged =
-                m_groups.extend(group, range.minimum, range.maximum) || m_levelsChanged;
-        }
     }
 }
 

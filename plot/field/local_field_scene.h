@@ -3,6 +3,7 @@
 
 #include "plot/field/block_builder.h"
 #include "plot/field/field_scene.h"
+#include "plot/field/group_ranges.h"
 
 #include <QCoreApplication>
 
@@ -48,14 +49,6 @@ public:
 private:
     /// Position of the group values among what is pending, after the layers.
     static constexpr std::size_t kGroupStage = kFieldLayerCount;
-    using ValueKey = std::pair<std::int64_t, CvlInt64>; ///< source index, variable
-    struct ValueRange
-    {
-        bool isEmpty = true;
-        double minimum = 0.0;
-        double maximum = 0.0;
-    };
-
     const host::Frame* frame() const;
     void rebuild();
     bool applyStyle(const host::StateEvent& event);
@@ -69,8 +62,6 @@ private:
     void forget(CvlInt64 map);
     void workOnValues(const host::Frame& frame); ///< of the next map
     void workOnMap(const host::Frame& frame); ///< the next one, in all layers
-    void extendGroups(const ShownMap& map);
-    const ValueRange& valueRange(const host::DataSet& data, CvlInt64 zone, CvlInt64 variable);
 
     CvlInt64 nearestZone(const PickRay& ray, const std::vector<FieldLayer>& layers);
 
@@ -82,10 +73,9 @@ private:
     CvlUniqueId m_frame = 0;
     bool m_flat = false;
     ContourGroups m_groups;
-    bool m_levelsChanged = false;
     std::array<std::unique_ptr<CompositeLayer>, kFieldLayerCount> m_layers;
     std::unordered_map<CvlInt64, std::vector<PlacedSurface>> m_surfaces;
-    std::map<ValueKey, ValueRange> m_ranges;
+    GroupRanges m_ranges;
     std::array<host::MapSet, kFieldLayerCount + 1> m_pending;
     std::array<host::MapSet, kFieldLayerCount> m_stale; ///< not brought up to date while invisible
     std::array<host::MapSet, kFieldLayerCount + 1> m_cancelled;

@@ -105,10 +105,10 @@ static ZoneSurface outerSurface(vtkDataSet& data)
     geometry->SetInputData(numberedStructure(data));
     // Mid-side points of quadratic faces are dropped: points made up by subdivision have no number.
     geometry->SetNonlinearSubdivisionLevel(0);
-    // Threads cost more than they save on a small zone.
+    // Threads cost more than they save on a small zone, and give its faces another order each time.
     const bool isSmall = data.GetNumberOfCells() < kManyCells;
     const vtkSMPTools::Config threads =
-        isSmall ? vtkSMPTools::Config("Sequential") : vtkSMPTools::Config();
+        isSmall ? vtkSMPTools::Config(std::string("Sequential")) : vtkSMPTools::Config();
     vtkSMPTools::LocalScope(threads, [&] { geometry->Update(); });
     return withoutValues(*withoutStrips(geometry->GetOutput()));
 }

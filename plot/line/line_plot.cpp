@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_plot.h"
 
+#include "plot/common/document_events.h"
 #include "plot/common/line_patterns.h"
 #include "plot/line/line_data.h"
 
@@ -68,7 +69,7 @@ void LinePlot::setFrameHeight(int height)
 
 bool LinePlot::apply(const host::StateEvent& event)
 {
-    if (event.frame != 0 && event.frame != m_frame)
+    if (!concerns(event, m_frame))
         return false;
     switch (event.code) {
     case StateCode_Style:
@@ -78,6 +79,10 @@ bool LinePlot::apply(const host::StateEvent& event)
             return applyStyle(event);
         break;
     case StateCode_ColorTableChanged: m_stale |= m_shown; return true;
+    case StateCode_FrameListChanged:
+        if (frame())
+            return false;
+        break;
     case StateCode_VariableRenamed:
     case StateCode_VariableListChanged: return true;
     case StateCode_DocumentCleared:

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/document/document.h"
+#include "samples/demo_data.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <stdexcept>
+
+namespace corvala::tests {
+
+inline host::Document& document()
+{
+    return host::Document::instance();
+}
+
+inline void openDemo(const char* name, std::int64_t scale = 0)
+{
+    std::string error;
+    document().clear();
+    if (!samples::openDemo(name, scale, error))
+        throw std::runtime_error(error);
+}
+
+inline host::MapSet mapsOf(const char* text)
+{
+    host::MapSet set;
+    if (!host::fromText(text, document().activeFrame()->shownMapCount(), set))
+        throw std::runtime_error(text);
+    return set;
+}
+
+/// Writes a style value; `path` is separated by slashes, `maps` as in "1-3,7" or "all", empty for a
+/// value of the frame. Fails the test program for a value that is not accepted.
+inline void write(const char* path, const char* maps, double value, std::int64_t offset = -1)
+{
+    host::StyleWrite request;
+    for (const QString& name : QString::fromUtf8(path).split(QLatin1Char('/')))
+        request.path.push_back(name.toStdString());
+    host::MapSet set;
+    if (*maps != '\0') {
+        set = mapsOf(maps);
+        request.objects = &set;
+    }
+    request.offset1 = offset;
+    request.value = value;
+    if (document().write(request) > StyleWrite_Unchanged)
+        throw std::runtime_error(path);
+}
+
+/// Adds maps to the active ones, or removes them.
+inline void activate(const char* maps, bool on)
+{
+    host::StyleWrite request;
+    request.path = {"ActiveFieldMaps"};
+    request.op = static_cast<int>(on ? host::AssignOp::Add : host::AssignOp::Remove);
+    request.value = mapsOf(maps);
+    if (document().write(request) > StyleWrite_Unchanged)
+        throw std::runtime_error(maps);
+}
+
+} // namespace corvala::tests

@@ -1,0 +1,473 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pictures.h"
+#include "plot/field/field_canvas.h"
+#include "plot/field/local_field_scene.h"
+#include "plot/frame_view.h"
+#include "plot/render.h"
+#include "plot_document.h"
+
+#include <QProcess>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <cstdio>
+
+using namespace corvala;
+using namespace corvala::plot;
+using namespace corvala::tests;
+
+static constexpr const char* kReportProblem = "CORVALA_REPORT_OPENGL";
+
+class tst_FieldCanvas : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void columnsShow_data();
+    void columnsShow();
+    void colorsAreTheirs();
+    void hiddenLinesAreRemoved();
+    void wireFrameIsSeenThroughFaces();
+    void thickLinesScaleWithThePicture();
+    void nothingIsClipped_data();
+    void nothingIsClipped();
+    void badPictures();
+    void windowShowsThePicture();
+    void oneRedrawPerIdleMoment();
+    void hiddenCanvasDoesNothing();
+    void clicksPickZones();
+    void dragAndWheelMoveTheView();
+    void viewsAreKeptByFrameAndPlotType();
+    void longWorkIsReported();
+    void missingOpenGlIsNamed();
+};
+
+static constexpr QSize kSize {480, 400};
+
+static QImage picture(const QSize& size = kSize)
+{
+    QString error;
+    const QImage image = renderToImage(document().activeFrameId(), size, &error);
+    if (image.isNull())
+        qWarning("%s", qPrintable(error));
+    return image;
+}
+
+/// A canvas in a window that has drawn what there is.
+struct ShownCanvas
+{
+    ShownCanvas()
+    {
+        canvas.resize(kSize);
+        canvas.setFrame(document().activeFrameId());
+        canvas.show();
+        if (!QTest::qWaitForWindowExposed(&canvas))
+            qWarning("the window does not appear");
+        settle();
+    }
+    void settle()
+    {
+        do {
+            QCoreApplication::processEvents();
+        } while (canvas.isBusy());
+        QCoreApplication::processEvents();
+    }
+    QWidget* target() { return canvas.childAt(canvas.rect().center()); }
+    void drag(const QPoint& from, const QPoint& to)
+    {
+        QTest::mousePress(target(), Qt::LeftButton, {}, from);
+        QMouseEvent move(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(target(), &move);
+        QTest::mouseRelease(target(), Qt::LeftButton, {}, to);
+        settle();
+    }
+
+    FieldCanvas canvas;
+};
+
+void tst_FieldCanvas::columnsShow_data()
+{
+    QTest::addColumn<QString>("demo");
+    QTest::addColumn<QString>("layer");
+    QTest::addColumn<QString>("before"); // path=value, separated by blanks
+    QTest::addColumn<QString>("edit");
+    const auto row = [](const char* name, const char* demo, const char* layer, const char* before,
+                        const char* edit) {
+        QTest::newRow(name) << demo << layer << before << edit;
+    };
+    const char* const solid3D = "Surfaces/SurfacesToPlot=0";
+    row("mesh off", "field2d", "ShowMesh", "", "Mesh/Show=0");
+    row("mesh type in the plane", "kinds", "ShowMesh", solid3D, "Mesh/MeshType=2");
+    row("mesh color", "field2d", "ShowMesh", "", "Mesh/Color=0");
+    row("mesh by group", "field2d", "ShowMesh", "Mesh/Color=0", "Mesh/Color=101");
+    row("mesh pattern", "field2d", "ShowMesh", "", "Mesh/LinePattern=1");
+    row("mesh pattern length", "field2d", "ShowMesh", "Mesh/LinePattern=1", "Mesh/PatternLength=7");
+    row("mesh thickness", "field2d", "ShowMesh", "", "Mesh/LineThickness=1");
+    row("shade off", "field2d", "ShowShade", "", "Shade/Show=0");
+    row("shade color", "field2d", "ShowShade", "", "Shade/Color=5");
+    row("shade light", "field3d", "ShowShade", solid3D, "Shade/UseLightingEffect=0");
+    row("contour off", "field2d", "ShowContour", "", "Contour/Show=0");
+    row("contour type", "field2d", "ShowContour", "", "Contour/ContourType=0");
+    row("flood by cell", "field2d", "ShowContour", "", "Contour/ContourType=3");
+    row("flood by", "field2d", "ShowContour", "", "Contour/FloodColoring=3");
+    row("lines by", "field2d", "ShowContour", "Contour/ContourType=0",
+        "Contour/LineContourGroup=3");
+    row("line color", "field2d", "ShowContour", "Contour/ContourType=0", "Contour/Color=3");
+    row("line color by group", "field2d", "ShowContour", "Contour/ContourType=0",
+        "Contour/Color=101");
+    row("line pattern", "field2d", "ShowContour", "Contour/ContourType=0", "Contour/LinePattern=1");
+    row("line pattern length", "field2d", "ShowContour",
+        "Contour/ContourType=0 Contour/LinePattern=1", "Contour/PatternLength=7");
+    row("line thickness", "field2d", "ShowContour", "Contour/ContourType=0",
+        "Contour/LineThickness=1");
+    row("contour light", "field3d", "ShowContour", solid3D, "Contour/UseLightingEffect=0");
+    row("surfaces", "field3d", "ShowMesh", "", "Surfaces/SurfacesToPlot=4");
+    row("range of planes", "field3d", "ShowMesh", "Surfaces/SurfacesToPlot=4",
+        "Surfaces/KRange/Max=1");
+    row("edges off", "field2d", "ShowEdge", "", "EdgeLayer/Show=0");
+    row("edge color", "field2d", "ShowEdge", "", "EdgeLayer/Color=3");
+    row("edge thickness", "field2d", "ShowEdge", "", "EdgeLayer/LineThickness=1.2");
+}
+
+static void writeAll(const QString& edits)
+{
+    for (const QString& edit : edits.split(' ', Qt::SkipEmptyParts)) {
+        const QStringList parts = edit.split('=');
+        write(("FieldMap/" + parts[0]).toUtf8().constData(), "all", parts[1].toDouble());
+    }
+}
+
+void tst_FieldCanvas::columnsShow()
+{
+    QFETCH(QString, demo);
+    QFETCH(QString, layer);
+    QFETCH(QString, before);
+    QFETCH(QString, edit);
+    openDemo(demo.toUtf8().constData());
+    write("FieldLayers/ShowMesh", "", 0);
+    write("FieldLayers/ShowEdge", "", 0);
+    write(("FieldLayers/" + layer).toUtf8().constData(), "", 1);
+    write("ContourGroups/Var", "", 4, 3); // the other two groups run alike
+    writeAll(before);
+    const QImage first = picture();
+    QVERIFY(shareOfChange(first, picture()) == 0.0);
+    writeAll(edit);
+    const double change = shareOfChange(first, picture());
+    QVERIFY2(change > 0.004, QByteArray::number(change));
+    document().undo().undo();
+    QCOMPARE(shareOfChange(first, picture()), 0.0);
+}
+
+void tst_FieldCanvas::colorsAreTheirs()
+{
+    openDemo("field2d", 4);
+    write("FieldLayers/ShowMesh", "", 0);
+    write("FieldLayers/ShowShade", "", 1);
+    write("FieldMap/Shade/Color", "all", 3);
+    const host::Rgb color = document().color(3);
+    const double share = shareOfColor(picture(), QColor(color.red, color.green, color.blue));
+    QVERIFY2(share > 0.3 && share < 0.8, QByteArray::number(share));
+    write("FieldMap/Shade/Show", "1-3", 0);
+    const double quarter = shareOfColor(picture(), QColor(color.red, color.green, color.blue));
+    QVERIFY2(quarter > share / 5 && quarter < share / 3, QByteArray::number(quarter));
+}
+
+void tst_FieldCanvas::hiddenLinesAreRemoved()
+{
+    openDemo("kinds");
+    write("FieldLayers/ShowEdge", "", 0);
+    activate("2-8", false);
+    write("FieldMap/Surfaces/SurfacesToPlot", "1", 0);
+    write("FieldMap/Mesh/Color", "1", 0);
+    const auto ink = [](int type) {
+        write("FieldMap/Mesh/MeshType", "1", type);
+        return 1.0 - shareOfColor(picture(), Qt::white);
+    };
+    const double overlay = ink(MeshType_Overlay);
+    const double hidden = ink(MeshType_HiddenLine);
+    QVERIFY2(hidden < 0.75 * overlay, QByteArray::number(hidden / overlay));
+    QVERIFY2(hidden > 0.3 * overlay, QByteArray::number(hidden / overlay)); // but whole
+}
+
+void tst_FieldCanvas::wireFrameIsSeenThroughFaces()
+{
+    openDemo("kinds");
+    write("FieldLayers/ShowEdge", "", 0);
+    write("FieldLayers/ShowShade", "", 1);
+    activate("2-8", false);
+    write("FieldMap/Surfaces/SurfacesToPlot", "1", 0);
+    write("FieldMap/Shade/Color", "1", 7);
+    write("FieldMap/Mesh/Color", "1", 0);
+    const QImage overlay = picture();
+    write("FieldMap/Mesh/MeshType", "1", MeshType_WireFrame);
+    const QImage wires = picture();
+    QVERIFY(shareOfColor(wires, Qt::black) > 1.2 * shareOfColor(overlay, Qt::black));
+}
+
+void tst_FieldCanvas::thickLinesScaleWithThePicture()
+{
+    openDemo("field2d", 4);
+    write("FieldLayers/ShowEdge", "", 0);
+    write("FieldMap/Mesh/Color", "all", 0);
+    write("FieldMap/Mesh/LineThickness", "all", 1.0);
+    const double small = shareOfColor(picture(), Qt::black);
+    const double large = shareOfColor(picture(3 * kSize), Qt::black);
+    QVERIFY2(qAbs(large / small - 1.0) < 0.15, QByteArray::number(large / small));
+}
+
+void tst_FieldCanvas::nothingIsClipped_data()
+{
+    QTest::addColumn<QString>("demo");
+    QTest::addColumn<QSize>("size");
+    for (const char* demo : {"field2d", "field3d", "kinds", "transient"}) {
+        QTest::addRow("%s, wide", demo) << demo << QSize(900, 300);
+        QTest::addRow("%s, tall", demo) << demo << QSize(300, 900);
+    }
+}
+
+void tst_FieldCanvas::nothingIsClipped()
+{
+    QFETCH(QString, demo);
+    QFETCH(QSize, size);
+    openDemo(demo.toUtf8().constData());
+    write("FieldMap/EdgeLayer/Color", "all", 3);
+    const host::Rgb edge = document().color(3);
+    const QImage image = picture(size);
+    const auto isEdge = [&](const QPoint& at) {
+        const QColor color = image.pixelColor(at);
+        return qAbs(color.red() - edge.red) + qAbs(color.green() - edge.green)
+            + qAbs(color.blue() - edge.blue)
+            < 40;
+    };
+    QRect seen;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (isEdge({x, y}))
+                seen |= QRect(x, y, 1, 1);
+    const int margin = 2;
+    QVERIFY(image.rect().adjusted(margin, margin, -margin, -margin).contains(seen));
+    // Fitted: it fills one direction but for axes and margins.
+    QVERIFY2(seen.width() > 0.6 * size.width() || seen.height() > 0.6 * size.height(),
+             qPrintable(QStringLiteral("%1 x %2").arg(seen.width()).arg(seen.height())));
+}
+
+void tst_FieldCanvas::badPictures()
+{
+    openDemo("field2d");
+    const CvlUniqueId frame = document().activeFrameId();
+    QString error;
+    QVERIFY(renderToImage(frame, {0, 100}, &error).isNull());
+    QVERIFY(error.contains("0") && error.contains("100"));
+    QVERIFY(renderToImage(frame, {100, 100000}, &error).isNull());
+    QVERIFY(!error.isEmpty());
+    QVERIFY(renderToImage(frame + 1, kSize, &error).isNull());
+    QVERIFY(!error.isEmpty());
+    QVERIFY(!renderToImage(frame, {1, 1}, &error).isNull());
+    QVERIFY(error.isEmpty());
+    document().detachDataSet();
+    QVERIFY(renderToImage(frame, kSize, &error).isNull());
+    QVERIFY(renderToImage(frame, kSize, nullptr).isNull());
+}
+
+void tst_FieldCanvas::windowShowsThePicture()
+{
+    openDemo("field2d");
+    write("FieldLayers/ShowContour", "", 1);
+    ShownCanvas shown;
+    const QImage window = shown.canvas.grab().toImage();
+    const double change = shareOfChange(window, shown.canvas.render(kSize, nullptr));
+    QVERIFY2(change < 0.2, QByteArray::number(change)); // lines are smoother in a picture
+    write("FieldMap/Contour/Show", "all", 0);
+    shown.settle();
+    QVERIFY(shareOfChange(window, shown.canvas.grab().toImage()) > 0.2);
+}
+
+void tst_FieldCanvas::oneRedrawPerIdleMoment()
+{
+    openDemo("field2d");
+    ShownCanvas shown;
+    const int before = shown.canvas.redrawCount();
+    for (int color = 0; color < 10; ++color)
+        write("FieldMap/Mesh/Color", "all", color);
+    document().undo().undo();
+    QCOMPARE(shown.canvas.redrawCount(), before);
+    shown.settle();
+    QCOMPARE(shown.canvas.redrawCount(), before + 1);
+    write("FieldMap/Group", "all", 3); // draws nothing
+    document().renameZone(1, "wing");
+    shown.settle();
+    QCOMPARE(shown.canvas.redrawCount(), before + 1);
+}
+
+void tst_FieldCanvas::hiddenCanvasDoesNothing()
+{
+    openDemo("field2d");
+    ShownCanvas shown;
+    shown.canvas.hide();
+    shown.settle();
+    const int before = shown.canvas.redrawCount();
+    const auto& scene = dynamic_cast<LocalFieldScene&>(shown.canvas.scene());
+    const std::int64_t built = scene.layer(FieldLayer::Mesh).counters().built;
+    write("FieldMap/Mesh/LinePattern", "all", 1);
+    shown.settle();
+    QCOMPARE(shown.canvas.redrawCount(), before);
+    QCOMPARE(scene.layer(FieldLayer::Mesh).counters().built, built);
+    shown.canvas.show();
+    QTRY_COMPARE(scene.layer(FieldLayer::Mesh).counters().built, built + 12);
+}
+
+void tst_FieldCanvas::clicksPickZones()
+{
+    openDemo("field2d"); // four columns, three rows, counted from the lower left
+    ShownCanvas shown;
+    QSignalSpy picked(&shown.canvas, &Canvas::zonePicked);
+    const QPoint middle = shown.canvas.rect().center();
+    QTest::mouseClick(shown.target(), Qt::LeftButton, {}, middle);
+    QCOMPARE(picked.size(), 1);
+    const CvlInt64 zone = picked[0][0].value<CvlInt64>();
+    QVERIFY(zone >= 1 && zone <= 12);
+    QCOMPARE(picked[0][1].toBool(), false);
+    activate(QByteArray::number(static_cast<qlonglong>(zone)), false);
+    shown.settle();
+    picked.clear();
+    QTest::mouseClick(shown.target(), Qt::LeftButton, {}, middle);
+    QVERIFY(picked[0][0].value<CvlInt64>() != zone);
+    document().undo().undo();
+    shown.settle();
+    picked.clear();
+    QTest::mouseDClick(shown.target(), Qt::LeftButton, {}, middle);
+    QTest::mouseRelease(shown.target(), Qt::LeftButton, {}, middle);
+    QCOMPARE(picked.last()[0].value<CvlInt64>(), zone);
+    QCOMPARE(picked.last()[1].toBool(), true);
+    picked.clear();
+    QTest::mouseClick(shown.target(), Qt::LeftButton, {}, {2, 2});
+    QCOMPARE(picked[0][0].value<CvlInt64>(), 0);
+    picked.clear();
+    shown.drag(middle, middle + QPoint(60, 30));
+    QCOMPARE(picked.size(), 0);
+}
+
+void tst_FieldCanvas::dragAndWheelMoveTheView()
+{
+    for (const char* demo : {"field2d", "field3d"}) {
+        openDemo(demo);
+        ShownCanvas shown;
+        const QImage fitted = shown.canvas.grab().toImage();
+        const QPoint middle = shown.canvas.rect().center();
+        shown.drag(middle, middle + QPoint(60, 30));
+        const QImage dragged = shown.canvas.grab().toImage();
+        QVERIFY(shareOfChange(fitted, dragged) > 0.01);
+        QWheelEvent wheel(middle, shown.target()->mapToGlobal(middle), {}, {0, 240}, Qt::NoButton,
+                          {}, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(shown.target(), &wheel);
+        shown.settle();
+        QVERIFY(shareOfChange(dragged, shown.canvas.grab().toImage()) > 0.01);
+        // The picture is of the view; letters are no commands.
+        QTest::keyClick(shown.target(), Qt::Key_R);
+        shown.settle();
+        QVERIFY(shareOfChange(fitted, shown.canvas.render(kSize, nullptr)) > 0.01);
+        shown.canvas.fitView();
+        shown.settle();
+        QVERIFY(shareOfChange(fitted, shown.canvas.grab().toImage()) < 0.001);
+    }
+}
+
+void tst_FieldCanvas::viewsAreKeptByFrameAndPlotType()
+{
+    openDemo("field3d");
+    ShownCanvas shown;
+    const QPoint middle = shown.canvas.rect().center();
+    shown.drag(middle, middle + QPoint(80, 40));
+    const QImage turned = shown.canvas.grab().toImage();
+    write("PlotType", "", PlotType_Field2D);
+    shown.settle();
+    const QImage flat = shown.canvas.grab().toImage();
+    QVERIFY(shareOfChange(flat, turned) > 0.02);
+    write("PlotType", "", PlotType_Field3D);
+    shown.settle();
+    QVERIFY(shareOfChange(shown.canvas.grab().toImage(), turned) < 0.001);
+
+    const CvlUniqueId first = document().activeFrameId();
+    document().addFrame();
+    std::string error;
+    QVERIFY(samples::openDemo("field2d", 0, error));
+    shown.canvas.setFrame(document().activeFrameId());
+    shown.settle();
+    QVERIFY(shareOfChange(shown.canvas.grab().toImage(), turned) > 0.02);
+    shown.canvas.setFrame(first);
+    shown.settle();
+    QVERIFY(shareOfChange(shown.canvas.grab().toImage(), turned) < 0.001);
+}
+
+void tst_FieldCanvas::longWorkIsReported()
+{
+    openDemo("field2d", 6000);
+    FieldCanvas canvas;
+    canvas.resize(kSize);
+    canvas.setFrame(document().activeFrameId());
+    QSignalSpy progressed(&canvas, &Canvas::workProgressed);
+    QSignalSpy ended(&canvas, &Canvas::workEnded);
+    canvas.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!progressed.isEmpty(), 60000);
+    QVERIFY(canvas.isBusy());
+    canvas.cancelWork();
+    QCOMPARE(ended.size(), 1);
+    QCOMPARE(ended[0][0].toBool(), true);
+    QTRY_VERIFY_WITH_TIMEOUT(!canvas.isBusy(), 60000);
+    QVERIFY(!canvas.scene().notice().isEmpty());
+    canvas.resumeWork();
+    QTRY_VERIFY_WITH_TIMEOUT(!canvas.isBusy(), 60000);
+    QVERIFY(canvas.scene().notice().isEmpty());
+    QCOMPARE(ended.last()[0].toBool(), false);
+}
+
+void tst_FieldCanvas::missingOpenGlIsNamed()
+{
+    const auto problemWith = [](const QString& variable, const QString& value) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(kReportProblem, "1");
+        environment.insert(variable, value);
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(QCoreApplication::applicationFilePath(), QStringList());
+        process.waitForFinished();
+        return process.exitStatus() == QProcess::NormalExit
+            ? QString::fromUtf8(process.readAllStandardOutput())
+            : QStringLiteral("crashed");
+    };
+    const QString old = problemWith("MESA_GL_VERSION_OVERRIDE", "2.1");
+    QVERIFY2(old.contains("OpenGL 3.2") && old.contains("libgl1-mesa-dri"), qPrintable(old));
+    QVERIFY(old.contains("no picture, no crash"));
+    const QString other = problemWith("QT_QPA_PLATFORM", "offscreen");
+    QVERIFY2(other.contains("X server") && other.contains("offscreen"), qPrintable(other));
+    const QString fine = problemWith("MESA_GL_VERSION_OVERRIDE", "");
+    QVERIFY2(fine.contains("a picture"), qPrintable(fine));
+}
+
+/// What a machine without OpenGL does, as a program of its own.
+static int reportOpenGl()
+{
+    openDemo("field2d");
+    FieldCanvas canvas;
+    canvas.setFrame(document().activeFrameId());
+    canvas.resize(kSize);
+    canvas.show();
+    QCoreApplication::processEvents();
+    QString error;
+    const bool hasPicture = !canvas.render(kSize, &error).isNull();
+    std::printf("%s %s %s\n", qPrintable(canvas.problem()), qPrintable(error),
+                hasPicture ? "a picture" : "no picture, no crash");
+    return 0;
+}
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    if (qEnvironmentVariableIsSet(kReportProblem))
+        return reportOpenGl();
+    tst_FieldCanvas test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_field_canvas.moc"

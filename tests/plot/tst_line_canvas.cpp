@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pictures.h"
+#include "plot/frame_view.h"
+#include "plot/line/line_canvas.h"
+#include "plot/render.h"
+#include "plot_document.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace corvala;
+using namespace corvala::plot;
+using namespace corvala::tests;
+
+class tst_LineCanvas : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void curvesOfActiveMaps();
+    void pens_data();
+    void pens();
+    void editsTouchWhatTheyName();
+    void zonesWithoutTheVariable();
+    void polarLines();
+    void titles();
+    void clickPicksALine();
+    void largestPlot();
+    void viewChoosesTheCanvas();
+};
+
+static constexpr QSize kSize {600, 500};
+
+struct ShownCanvas
+{
+    ShownCanvas()
+    {
+        canvas.resize(kSize);
+        canvas.setFrame(document().activeFrameId());
+        canvas.show();
+        settle();
+    }
+    void settle()
+    {
+        do {
+            QCoreApplication::processEvents();
+        } while (canvas.isBusy());
+    }
+    QCPCurve* curve(int position)
+    {
+        return qobject_cast<QCPCurve*>(canvas.plot().plottable(position));
+    }
+
+    LineCanvas canvas;
+};
+
+void tst_LineCanvas::curvesOfActiveMaps()
+{
+    openDemo("xy");
+    ShownCanvas shown;
+    QCOMPARE(shown.canvas.plot().plottableCount(), 6);
+    QCOMPARE(shown.curve(0)->data()->size(), 101);
+    write("LineMap/Lines/Show", "2", 0);
+    shown.settle();
+    QCOMPARE(shown.canvas.plot().plottableCount(), 5);
+    write("LinePlotLayers/ShowLines", "", 0);
+    shown.settle();
+    QCOMPARE(shown.canvas.plot().plottableCount(), 0);
+    document().undo().undo();
+    document().undo().undo();
+    shown.settle();
+    QCOMPARE(shown.canvas.plot().plottableCount(), 6);
+    document().deleteLineMaps(mapsOf("1-4"));
+    shown.settle();
+    QCOMPARE(shown.canvas.plot().plottableCount(), 2);
+    document().clear();
+    shown.settle();
+    QCOMPARE(shown.canvas.plot().plottableCount(), 0);
+}
+
+void tst_LineCanvas::pens_data()
+{
+    QTest::addColumn<double>("thickness");
+    QTest::addColumn<int>("pattern");
+    QTest::addColumn<double>("length");
+    QTest::addColumn<double>("width");
+    QTest::addColumn<int>("dashes");
+    QTest::newRow("thin lines have a pixel") << 0.01 << 0 << 2.0 << 1.0 << 0;
+    QTest::newRow("percent of the height") << 1.0 << 0 << 2.0 << 5.0 << 0;
+    QTest::newRow("dashed") << 0.4 << 1 << 4.0 << 2.0 << 2;
+    QTest::newRow("dash dot dot") << 0.4 << 5 << 4.0 << 2.0 << 6;
+}
+
+void tst_LineCanvas::pens()
+{
+    QFETCH(double, thickness);
+    QFETCH(int, pattern);
+    QFETCH(double, length);
+    QFETCH(double, width);
+    QFETCH(int, dashes);
+    openDemo("xy");
+    write("LineMap/Lines/Color", "1", 4);
+    write("LineMap/Lines/LineThickness", "1", thickness);
+    write("LineMap/Lines/LinePattern", "1", pattern);
+    write("LineMap/Lines/PatternLength", "1", length);
+    ShownCanvas shown;
+    const QPen pen = shown.curve(0)->pen();
+    const host::Rgb color = document().color(4);
+    QCOMPARE(pen.color(), QColor(color.red, color.green, color.blue));
+    QCOMPARE(pen.widthF(), width);
+    const QVector<qreal> strokes = dashes > 0 ? pen.dashPattern() : QVector<qreal>();
+    QCOMPARE(strokes.size(), dashes);
+    double period = 0.0;
+    for (const qreal stroke : strokes)
+        period += stroke * width;
+    QCOMPARE(period, dashes > 0 ? length / 100 * kSize.height() : 0.0);
+}
+
+void tst_LineCanvas::editsTouchWhatTheyName()
+{
+    openDemo("xy", 50);
+    ShownCanvas shown;
+    const std::int64_t before = shown.canvas.linePlot().syncCount();
+    const int redraws = shown.canvas.redrawCount();
+    write("LineMap/Lines/Color", "3,7", 9);
+    write("LineMap/Lines/LineThickness", "7", 1);
+    shown.settle();
+    QCOMPARE(shown.canvas.linePlot().syncCount() - before, 2);
+    QCOMPARE(shown.canvas.redrawCount(), redraws + 1);
+    write("LineMap/Curves/NumPts", "all", 100); // not drawn
+    write("FieldMap/Mesh/Color", "1", 3);
+    shown.settle();
+    QCOMPARE(shown.canvas.redrawCount(), redraws + 1);
+    write("LineMap/Assign/YAxisVar", "3", 5);
+    shown.settle();
+    QCOMPARE(shown.canvas.linePlot().syncCount() - before, 3);
+    QVERIFY(shown.curve(2)->data()->at(50)->value != shown.curve(8)->data()->at(50)->value);
+}
+
+void tst_LineCanvas::zonesWithoutTheVariable()
+{
+    openDemo("field2d");
+    document().createLineMaps(2);
+    write("PlotType", "", PlotType_LineXY);
+    ShownCanvas shown;
+    QCOMPARE(shown.canvas.plot().plottableCount(), 2);
+    QVERIFY(!shown.canvas.render(kSize, nullptr).isNull());
+    document().detachDataSet();
+    shown.settle();
+    QCOMPARE(shown.canvas.plot().plottableCount(), 0);
+}
+
+void tst_LineCanvas::polarLines()
+{
+    openDemo("polar");
+    write("LineMap/Lines/Color", "all", 2);
+    write("LineMap/Lines/LineThickness", "all", 1);
+    const host::Rgb color = document().color(2);
+    const QImage image = renderToImage(document().activeFrameId(), kSize, nullptr);
+    const double share = shareOfColor(image, QColor(color.red, color.green, color.blue));
+    QVERIFY2(share > 0.005, QByteArray::number(share));
+    write("LineMap/Lines/Show", "all", 0);
+    const QImage empty = renderToImage(document().activeFrameId(), kSize, nullptr);
+    QVERIFY(shareOfColor(empty, QColor(color.red, color.green, color.blue)) < share / 5);
+
+    // From one kind of axes to the other and back.
+    ShownCanvas shown;
+    QVERIFY(shown.canvas.linePlot().isPolar());
+    write("PlotType", "", PlotType_LineXY);
+    shown.settle();
+    QVERIFY(!shown.canvas.linePlot().isPolar());
+    QCOMPARE(shown.canvas.plot().plottableCount(), 0);
+    document().undo().undo();
+    document().undo().undo();
+    shown.settle();
+    QVERIFY(shown.canvas.linePlot().isPolar());
+}
+
+void tst_LineCanvas::titles()
+{
+    openDemo("xy");
+    ShownCanvas shown;
+    const auto title = [&](QCPAxis::AxisType side) {
+        return shown.canvas.plot().axisRect()->axis(side)->label();
+    };
+    QCOMPARE(title(QCPAxis::atBottom), QStringLiteral("Time"));
+    QCOMPARE(title(QCPAxis::atLeft), QStringLiteral("Force, Moment, Power"));
+    document().renameVariable(2, "Kraft");
+    write("LineMap/Lines/Show", "2-6", 0);
+    shown.settle();
+    QCOMPARE(title(QCPAxis::atLeft), QStringLiteral("Kraft"));
+}
+
+void tst_LineCanvas::clickPicksALine()
+{
+    openDemo("xy");
+    write("LineMap/Lines/Show", "2-6", 0);
+    ShownCanvas shown;
+    QSignalSpy picked(&shown.canvas, &Canvas::lineMapPicked);
+    const QPoint place = shown.curve(0)
+                             ->coordsToPixels(shown.curve(0)->data()->at(30)->key,
+                                              shown.curve(0)->data()->at(30)->value)
+                             .toPoint();
+    QTest::mouseClick(&shown.canvas.plot(), Qt::LeftButton, {}, place);
+    QCOMPARE(picked.size(), 1);
+    QCOMPARE(picked[0][0].value<CvlInt64>(), 1);
+    QTest::mouseDClick(&shown.canvas.plot(), Qt::LeftButton, {}, place);
+    QTest::mouseRelease(&shown.canvas.plot(), Qt::LeftButton, {}, place);
+    QCOMPARE(picked.last()[1].toBool(), true);
+    QTest::mouseClick(&shown.canvas.plot(), Qt::LeftButton, {}, {3, 3});
+    QCOMPARE(picked.last()[0].value<CvlInt64>(), 0);
+}
+
+void tst_LineCanvas::largestPlot()
+{
+    openDemo("xy", LinePlot::kLargestPlot + 5);
+    ShownCanvas shown;
+    QCOMPARE(shown.canvas.plot().plottableCount(), int(LinePlot::kLargestPlot));
+    QVERIFY(!shown.canvas.linePlot().notice().isEmpty());
+    write("LineMap/Lines/Show", "1-10", 0);
+    shown.settle();
+    QCOMPARE(shown.canvas.plot().plottableCount(), int(LinePlot::kLargestPlot) - 5);
+    QVERIFY(shown.canvas.linePlot().notice().isEmpty());
+}
+
+void tst_LineCanvas::viewChoosesTheCanvas()
+{
+    document().clear();
+    FrameView view;
+    view.resize(kSize);
+    view.followActiveFrame();
+    view.show();
+    QVERIFY(!view.canvas());
+    std::string error;
+    QVERIFY(samples::openDemo("xy", 0, error));
+    QVERIFY(qobject_cast<LineCanvas*>(view.canvas()));
+    QVERIFY(samples::openDemo("field2d", 0, error));
+    QCOMPARE(QByteArray(view.canvas()->metaObject()->className()),
+             QByteArray("corvala::plot::FieldCanvas"));
+    QVERIFY(!view.problem().isEmpty()); // this test runs without X
+    write("PlotType", "", PlotType_LinePolar);
+    QVERIFY(qobject_cast<LineCanvas*>(view.canvas()));
+    QVERIFY(view.problem().isEmpty());
+    write("PlotType", "", PlotType_Annotation);
+    QVERIFY(!view.canvas());
+    const CvlUniqueId first = document().activeFrameId();
+    document().undo().undo();
+    QVERIFY(view.canvas());
+    document().addFrame();
+    QVERIFY(!view.canvas());
+    document().activateFrame(first);
+    QCOMPARE(view.canvas()->frame(), first);
+}
+
+QTEST_MAIN(tst_LineCanvas)
+#include "tst_line_canvas.moc"
