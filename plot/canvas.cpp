@@ -17,12 +17,10 @@ Canvas::Canvas(QWidget* parent)
     qRegisterMetaType<CvlInt64>("CvlInt64");
     m_idle.setSingleShot(true);
     m_idle.setInterval(0);
-    connect(
-        &m_idle, &QTimer::timeout, this,
-        [this] {
-            if (redraw())
-                m_idle.start();
-        });
+    connect(&m_idle, &QTimer::timeout, this, [this] {
+        if (redraw())
+            m_idle.start();
+    });
     m_subscription->connection = host::Document::instance().events().connect(
         [this](const host::StateEvent& event) { documentChanged(event); });
 }

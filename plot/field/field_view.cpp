@@ -179,7 +179,7 @@ static std::array<std::array<double, 3>, 8> seenCorners(const vtkBoundingBox& bo
 static void centre(std::array<std::array<double, 3>, 8>& corners, double distance,
                    std::array<double, 2>& moved)
 {
-    for (const std::size_t part : {0, 1}) {
+    for (std::size_t part = 0; part < 2; ++part) {
         const auto slope = [&](const auto& corner) {
             return corner[part] / std::max(distance - corner[2], 1e-9 * distance);
         };

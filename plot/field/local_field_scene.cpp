@@ -203,9 +203,8 @@ void LocalFieldScene::pendTransient(const host::Frame& drawn)
 
 bool LocalFieldScene::hasWork() const
 {
-    return std::any_of(
-        m_pending.begin(), m_pending.end(),
-        [](const host::MapSet& maps) { return !maps.isEmpty(); });
+    return std::any_of(m_pending.begin(), m_pending.end(),
+                       [](const host::MapSet& maps) { return !maps.isEmpty(); });
 }
 
 void LocalFieldScene::cancel()
