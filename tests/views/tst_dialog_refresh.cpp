@@ -204,10 +204,11 @@ void tst_DialogRefresh::catchesUpWithThePlotType()
 {
     DialogFixture fixture("field3d");
     fixture.clickTab("Volume");
-    setStyle("PlotType", "", PlotType_LineXY);
+    setStyle("PlotType", "", PlotType_Field2D);
     runUntilIdle();
-    fixture.clickTab("Symbols");
+    fixture.clickTab("Contour");
     fixture.dialog().close();
+    setStyle("PlotType", "", PlotType_LineXY);
     setStyle("PlotType", "", PlotType_Field3D);
     runUntilIdle();
     fixture.dialog().launch();

@@ -208,6 +208,8 @@ void tst_MapSelection::takesPickedObjects()
     QCOMPARE(fixture.selected(), "1-2"); // not before the idle moment
     runUntilIdle();
     QTEST(fixture.selected(), "selected");
+    QCOMPARE(fixture.table().selectionModel()->selection().size(),
+             fixture.table().selectionModel()->selectedRows().size());
     QCOMPARE(fixture.table().rowAt(0), top > 0 ? top - 1 : 99);
     if (top > 0)
         QCOMPARE(fixture.table().currentIndex(), fixture.model().index(top - 1, 0));

@@ -119,10 +119,16 @@ void tst_PopupEditors::takesTheRowsSelectedAtTheEnd()
 void tst_PopupEditors::survivesRefreshesAndTheDialog()
 {
     DialogFixture fixture("field2d");
+    setStyle("PlotType", "", PlotType_LineXY);
+    host::Document::instance().createLineMaps(3);
+    runUntilIdle();
+    fixture.select({1, 2});
+    setStyle("PlotType", "", PlotType_Field2D);
+    runUntilIdle();
     fixture.select({2});
     takeWrites();
     PopupResponder popups([](QWidget& popup) {
-        setStyle("PlotType", "", PlotType_LineXY); // another table
+        setStyle("PlotType", "", PlotType_LineXY); // another table, with rows selected
         runUntilIdle();
         PopupResponder::typeAndEnd("6", Qt::Key_Return)(popup);
     });

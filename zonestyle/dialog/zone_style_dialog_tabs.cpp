@@ -111,7 +111,7 @@ QTabWidget* ZoneStyleDialog::getCurrentTabWidget()
     }
 }
 
-/// Place of a page among all pages of the form, shown or not; -1 for a page that is not of it.
+/// Place of a page among all pages of its tab widget, shown or not.
 int ZoneStyleDialog::formPosition(const QWidget& page) const
 {
     for (const std::vector<QWidget*>* pages : {&m_form->fieldPages, &m_form->linePages}) {
@@ -130,19 +130,15 @@ void ZoneStyleDialog::showTab(QTabWidget& tabWidget, QWidget& page, bool show)
     if (show == (current >= 0))
         return;
     if (!show) {
-        const int position = formPosition(page);
-        m_removedTabPositions.emplace(&page, position >= 0 ? position : current);
+        m_removedTabPositions.emplace(&page, formPosition(page));
         m_removedTabTexts[&page] = tabWidget.tabText(current);
         tabWidget.removeTab(current);
         return;
     }
-    int index = m_removedTabPositions[&page];
-    if (formPosition(page) >= 0) {
-        index = 0;
-        while (index < tabWidget.count()
-               && formPosition(*tabWidget.widget(index)) < formPosition(page))
-            ++index;
-    }
+    int index = 0;
+    while (index < tabWidget.count()
+           && formPosition(*tabWidget.widget(index)) < m_removedTabPositions[&page])
+        ++index;
     tabWidget.insertTab(index, &page, m_removedTabTexts[&page]);
 }
 

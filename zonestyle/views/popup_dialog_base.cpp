@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QPointer>
 
+#include <utility>
+
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
 
 struct PopupDialogBase::Private
@@ -47,13 +49,6 @@ void PopupDialogBase::run(PopupDialogBase* popup)
     guard->deleteLater();
 }
 
-/// The result must be known when the hide event comes.
-void PopupDialogBase::done(int result)
-{
-    setResult(result);
-    QDialog::done(result);
-}
-
 /// Qt closes a pop-up on a click elsewhere, and then rejects it.
 void PopupDialogBase::closeEvent(QCloseEvent* event)
 {
@@ -70,8 +65,7 @@ void PopupDialogBase::hideEvent(QHideEvent* event)
     if (d->loop)
         d->loop->quit();
     const bool accepted = result() == Accepted || (d->closeSeen && d->resultAtClose == Accepted);
-    const Commit commit = std::move(d->commit);
-    d->commit = nullptr;
+    const Commit commit = std::exchange(d->commit, nullptr);
     if (!accepted || !commit)
         return;
     if (const std::optional<QString> text = enteredText())

@@ -26,8 +26,6 @@ public:
     /// parent may be destroyed, and the pop-up with it, before this returns.
     static void run(PopupDialogBase* popup);
 
-    void done(int result) override;
-
 protected:
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
