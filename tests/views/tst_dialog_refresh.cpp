@@ -170,15 +170,18 @@ void tst_DialogRefresh::closesEvenWhileARefreshIsPending()
 void tst_DialogRefresh::readsNothingWhileClosed()
 {
     DialogFixture fixture("field2d", 1000);
+    setStyle("FieldMap.Group", "1", 2); // the refresh for this is dropped
     fixture.dialog().close();
-    runUntilIdle();
     const CvlInt64 before = CvlAppGetReadCount();
+    runUntilIdle();
     setStyle("FieldMap.Mesh.MeshType", "1-1000", 2);
     raise(StateCode_ZoneRenamed);
     raise(StateCode_LineMapRenamed);
     runUntilIdle();
     QCOMPARE(CvlAppGetReadCount() - before, CvlInt64 {0});
     QCOMPARE(fixture.takeRefreshes(), 0);
+    fixture.dialog().launch();
+    QCOMPARE(fixture.takeRefreshes(), 1);
 }
 
 void tst_DialogRefresh::catchesUpWhenShown()

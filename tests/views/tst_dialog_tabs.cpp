@@ -139,6 +139,7 @@ void tst_DialogTabs::showsThePageOfThePlotType()
     QCOMPARE(fixture.table().parentWidget(), fixture.tabWidget().currentWidget());
     QVERIFY(fixture.table().isVisible());
     QVERIFY(fixture.patternField().isVisible());
+    QCOMPARE(fixture.dialog().focusWidget(), &fixture.table());
 }
 
 void tst_DialogTabs::showsTheIdentityColumnsEverywhere_data()

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void isCarriedHoweverScattered();
     void takesPickedObjects_data();
     void takesPickedObjects();
+    void takesPickedLineMaps_data();
     void takesPickedLineMaps();
     void followsThePattern_data();
     void followsThePattern();
@@ -216,14 +217,29 @@ void tst_MapSelection::takesPickedObjects()
     QCOMPARE(fixture.dialog().focusWidget(), &fixture.table());
 }
 
+void tst_MapSelection::takesPickedLineMaps_data()
+{
+    QTest::addColumn<bool>("launchAtOnce");
+    QTest::newRow("launched at once") << true;
+    QTest::newRow("launched later") << false;
+}
+
+/// The table that the rows are of is not shown yet.
 void tst_MapSelection::takesPickedLineMaps()
 {
+    QFETCH(bool, launchAtOnce);
     DialogFixture fixture("xy");
-    fixture.dialog().close();
-    host::Document::instance().setPicks({{PickType_LineMap, 5}, {PickType_LineMap, 2}});
-    ZoneStyleDialog::getInstance(fixture.mainWindow(), DialogInitialization_SelectPickedObjects)
-        .launch();
+    setStyle("PlotType", "", PlotType_Field2D);
     runUntilIdle();
+    fixture.dialog().close();
+    setStyle("PlotType", "", PlotType_LineXY);
+    host::Document::instance().setPicks({{PickType_LineMap, 5}, {PickType_LineMap, 2}});
+    ZoneStyleDialog& dialog = ZoneStyleDialog::getInstance(
+        fixture.mainWindow(), DialogInitialization_SelectPickedObjects);
+    if (launchAtOnce)
+        dialog.launch();
+    runUntilIdle();
+    dialog.launch();
     QCOMPARE(fixture.selected(), "2,5");
 }
 

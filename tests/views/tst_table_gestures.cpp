@@ -47,6 +47,7 @@ private Q_SLOTS:
     void menuOfColors();
     void keysMoveTheCurrentCell_data();
     void keysMoveTheCurrentCell();
+    void keysWaitForDataOfTheFrame();
     void keysOpenTheMenuAtTheCurrentCell_data();
     void keysOpenTheMenuAtTheCurrentCell();
     void keysActOnTheSelection();
@@ -114,6 +115,8 @@ void tst_TableGestures::checkBoxNeedsPressAndReleaseOnIt()
     takeWrites();
     QTest::mousePress(viewport, Qt::LeftButton, {}, center(2, kShowMesh));
     QTest::mouseRelease(viewport, Qt::LeftButton, {}, center(3, kShowMesh));
+    QTest::mousePress(viewport, Qt::LeftButton, {}, center(2, kShowMesh));
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, center(2, kShowMesh) + QPoint(15, 0));
     QTest::mousePress(viewport, Qt::LeftButton, {}, center(2, kShowZone));
     QTest::mouseRelease(viewport, Qt::LeftButton, {}, center(2, kShowMesh));
     QTest::mousePress(viewport, Qt::RightButton, {}, center(2, kShowMesh));
@@ -272,6 +275,16 @@ void tst_TableGestures::keysMoveTheCurrentCell()
     fixture.key(key, Qt::KeyboardModifiers(modifiers));
     const QModelIndex current = fixture.table().currentIndex();
     QCOMPARE(QPoint(current.column(), current.row() + 1), to);
+}
+
+void tst_TableGestures::keysWaitForDataOfTheFrame()
+{
+    DialogFixture fixture("field2d");
+    fixture.clickCell(3, kGroup);
+    setStyle("FieldMap.Group", "1", 2); // a refresh is pending
+    host::Document::instance().detachDataSet();
+    QTest::keyClick(&fixture.table(), Qt::Key_Up);
+    QCOMPARE(fixture.table().currentIndex().row(), 2);
 }
 
 void tst_TableGestures::keysOpenTheMenuAtTheCurrentCell_data()

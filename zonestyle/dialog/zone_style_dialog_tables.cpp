@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/controls/table_column_header.h"
+#include "zonestyle/dialog/focus_keeper.h"
 #include "zonestyle/dialog/selection_model_signal_suspender.h"
 #include "zonestyle/dialog/view_models.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
@@ -14,6 +15,7 @@
 namespace corvala::sdk::ui::dialogs {
 
 using uicontrols::TableColumnHeader;
+using zonestyle::intern::FocusKeeper;
 using zonestyle::intern::SelectionModelSignalSuspender;
 using zonestyle::intern::ViewModel;
 using zonestyle::intern::models::ModelAbstract;
@@ -74,7 +76,7 @@ void ZoneStyleDialog::setupTableView()
 
 void ZoneStyleDialog::showTable(QWidget& page, ModelAbstract& model)
 {
-    const bool hadFocus = m_tableView->hasFocus();
+    const FocusKeeper focus(*this, *m_tableView);
     TableColumnHeader* header = getHeaderForModel(&model);
     replaceColumnHeader(header, &page);
     QItemSelectionModel* previous = m_tableView->selectionModel();
@@ -88,8 +90,6 @@ void ZoneStyleDialog::showTable(QWidget& page, ModelAbstract& model)
             copySelection(target, previous);
     }
     configureColumnHeader(header);
-    if (hadFocus)
-        m_tableView->setFocus();
 }
 
 /// Line pages are told apart by their place in the form, field pages by their place among the tabs.

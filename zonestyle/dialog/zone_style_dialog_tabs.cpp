@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/controls/map_selection_by_pattern.h"
 #include "zonestyle/controls/map_selection_by_pattern_properties_manager.h"
+#include "zonestyle/dialog/focus_keeper.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
 #include "zonestyle/dialog/zone_style_form.h"
 #include "zonestyle/views/style_table_view.h"
@@ -52,6 +53,7 @@ void ZoneStyleDialog::setAvailableMappingStyleTabs(std::set<MappingStyleTab_e> c
 
 void ZoneStyleDialog::updateZoneStyleDialog()
 {
+    const zonestyle::intern::FocusKeeper focus(*this, *m_tableView);
     const PlotType_e plotType = activePlotType();
     m_mapSelection->propertiesManager().labelText().set(tr("S&election criteria:").toStdString());
     if (plotType == PlotType_Field3D || plotType == PlotType_Field2D)
