@@ -124,9 +124,8 @@ void tst_MapCommands::asksBeforeItDeletes()
 {
     Maps fixture;
     fixture.select({2, 3});
-    QString buttons;
     ModalResponder responder;
-    responder.answer([&buttons](QDialog& dialog) {
+    responder.answer([](QDialog& dialog) {
         auto& box = *qobject_cast<QMessageBox*>(&dialog);
         QCOMPARE(box.standardButtons(), QMessageBox::Ok | QMessageBox::Cancel);
         QCOMPARE(box.standardButton(box.defaultButton()), QMessageBox::Cancel);

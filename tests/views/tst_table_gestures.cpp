@@ -47,7 +47,6 @@ private Q_SLOTS:
     void menuOfColors();
     void keysMoveTheCurrentCell_data();
     void keysMoveTheCurrentCell();
-    void keysWaitForDataOfTheFrame();
     void keysOpenTheMenuAtTheCurrentCell_data();
     void keysOpenTheMenuAtTheCurrentCell();
     void keysActOnTheSelection();
@@ -275,16 +274,6 @@ void tst_TableGestures::keysMoveTheCurrentCell()
     fixture.key(key, Qt::KeyboardModifiers(modifiers));
     const QModelIndex current = fixture.table().currentIndex();
     QCOMPARE(QPoint(current.column(), current.row() + 1), to);
-}
-
-void tst_TableGestures::keysWaitForDataOfTheFrame()
-{
-    DialogFixture fixture("field2d");
-    fixture.clickCell(3, kGroup);
-    setStyle("FieldMap.Group", "1", 2); // a refresh is pending
-    host::Document::instance().detachDataSet();
-    QTest::keyClick(&fixture.table(), Qt::Key_Up);
-    QCOMPARE(fixture.table().currentIndex().row(), 2);
 }
 
 void tst_TableGestures::keysOpenTheMenuAtTheCurrentCell_data()

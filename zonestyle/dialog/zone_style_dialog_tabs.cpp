@@ -26,8 +26,12 @@ namespace corvala::sdk::ui::dialogs {
 std::set<ZoneStyleDialog::MappingStyleTab_e> ZoneStyleDialog::m_availableMappingTabs =
     ZoneStyleDialog::defaultAvailableMappingTabs();
 
-/// The tab shown last, by plot type; outlives the dialog.
-static std::array<int, 6> lastTabs {};
+/// The tab shown last under a plot type; outlives the dialog.
+static int& lastTab(PlotType_e plotType)
+{
+    static std::array<int, 6> tabs {};
+    return tabs.at(static_cast<std::size_t>(plotType));
+}
 
 static PlotType_e activePlotType()
 {
@@ -184,7 +188,7 @@ void ZoneStyleDialog::restoreLastTab()
     QTabWidget* tabWidget = getCurrentTabWidget();
     if (!tabWidget)
         return;
-    m_wantedTab = {activePlotType(), lastTabs[activePlotType()]};
+    m_wantedTab = {activePlotType(), lastTab(activePlotType())};
     tabWidget->setCurrentIndex(m_wantedTab->index);
 }
 
@@ -201,7 +205,7 @@ void ZoneStyleDialog::saveLastTab()
 {
     const QTabWidget* tabWidget = getCurrentTabWidget();
     if (tabWidget && tabWidget->currentIndex() >= 0)
-        lastTabs[activePlotType()] = tabWidget->currentIndex();
+        lastTab(activePlotType()) = tabWidget->currentIndex();
 }
 
 bool ZoneStyleDialog::isScatterTabCurrent() const
