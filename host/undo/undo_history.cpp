@@ -100,19 +100,24 @@ void UndoHistory::begin(CvlInt64)
         m_open = std::make_unique<Step>(m_gesture);
 }
 
-void UndoHistory::end(bool discard)
+void UndoHistory::end(Closing closing)
 {
     if (m_depth == 0 || --m_depth > 0)
         return;
     std::unique_ptr<Step> step = std::move(m_open);
     if (step->isEmpty())
         return;
-    if (discard) {
+    switch (closing) {
+    case Closing::OneStep: m_stack.push(step.release()); break;
+    case Closing::SeparateSteps:
+        for (const auto& change : step->changes())
+            record(*change);
+        break;
+    case Closing::Discard:
         step->undo();
         announce(*step, false);
-        return;
+        break;
     }
-    m_stack.push(step.release());
 }
 
 void UndoHistory::beginGesture()

@@ -38,9 +38,13 @@ public:
 
     /// Brackets nest; the outermost decides.
     void begin(CvlInt64 kind);
-    /// Closes the bracket as one step, or with `discard` takes back and forgets what it recorded.
-    /// Without an open bracket nothing happens.
-    void end(bool discard);
+    enum class Closing {
+        OneStep,
+        SeparateSteps, ///< as if there had been no bracket
+        Discard ///< takes back and forgets what was recorded
+    };
+    /// Closes the bracket; without an open one nothing happens.
+    void end(Closing closing);
     bool isBracketOpen() const { return m_depth > 0; }
 
     /// Changes recorded from now on belong to a new gesture, until endGesture.

@@ -76,8 +76,7 @@ CvlInt64 CvlUtilLineMapGetCountForFrame(CvlUniqueId frame);
 CvlBool CvlUtilLineMapIsActiveForFrame(CvlUniqueId frame, CvlInt64 map);
 /** The name with its dynamic text filled in; null for a bad number. */
 char* CvlUtilLineMapGetNameForFrame(CvlUniqueId frame, CvlInt64 map);
-/** With "Name": the stored name, a char* for the caller. Else the value of "LineMap",name as an
-    integer. 0 on failure. */
+/** With "Name": the stored name, a char* for the caller. 0 for a bad number or any other name. */
 CvlArbValue CvlUtilLineMapStyleGetArbValueForFrame(CvlUniqueId frame, CvlInt64 map,
                                                    char const* name);
 /** Gives every map of the set the same stored name, in one undo step. */
@@ -119,8 +118,9 @@ void CvlUtilSetDealloc(CvlSetHandle* set);
 
 /** Opens a bracket: changes up to the matching end are one undo step. Brackets nest. */
 void CvlUtilUndoStateBegin(CvlInt64 kind);
-/** Closes the bracket: `discard` takes the recorded changes back and forgets them, `commit` keeps
-    them as one step (none when nothing was recorded). */
+/** Closes the bracket; of nested ones the outermost decides. `discard` takes the recorded changes
+    back and forgets them; else `commit` keeps them as one step (none when nothing was recorded),
+    without it each stays a step of its own, as if there had been no bracket. */
 void CvlUtilUndoStateEnd(CvlBool discard, CvlBool commit);
 
 /* Texts, colours, application */

@@ -109,9 +109,12 @@ void CvlUtilUndoStateBegin(CvlInt64 kind)
     Document::instance().undo().begin(kind);
 }
 
-void CvlUtilUndoStateEnd(CvlBool discard, CvlBool)
+void CvlUtilUndoStateEnd(CvlBool discard, CvlBool commit)
 {
-    Document::instance().undo().end(discard != 0);
+    using Closing = UndoHistory::Closing;
+    Document::instance().undo().end(discard      ? Closing::Discard
+                                        : commit ? Closing::OneStep
+                                                 : Closing::SeparateSteps);
 }
 
 /// A colour that stands for "as the contour group" in swatches: hues in group order.

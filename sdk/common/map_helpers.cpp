@@ -62,7 +62,7 @@ bool autoAssignAllContourGroupVariables(ContourLevelsInitializationMode_e)
                             candidates[static_cast<std::size_t>(group - 1) % candidates.size()],
                             group);
     }
-    undo.end(false);
+    undo.end(host::UndoHistory::Closing::OneStep);
     return readFrameValue({"ContourGroups", "Var"}, 1) != 0;
 }
 

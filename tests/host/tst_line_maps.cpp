@@ -161,7 +161,7 @@ void tst_LineMaps::deletionIsOneStepInItsBracket()
     document.undo().begin(UndoKind_LineMapsDeleted);
     writeStyle({"ActiveLineMaps"}, "", set("2,3"), 2);
     QVERIFY(document.deleteLineMaps(set("2,3")));
-    document.undo().end(false);
+    document.undo().end(UndoHistory::Closing::OneStep);
     QCOMPARE(log.take().section(' ', 0, 0), QStringLiteral("7:ActiveLineMaps"));
     QCOMPARE(document.undo().stepCount(), 1);
     document.undo().undo();

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void aGestureIsOneStep();
     void bracketsNestAndJoin();
     void discardTakesBack();
+    void withoutCommitNothingIsJoined();
     void emptyBracketsLeaveNothing();
     void undoInsideABracketIsRefused();
     void announcesWhatCameBack();
@@ -109,6 +110,19 @@ void tst_UndoHistory::discardTakesBack()
     QCOMPARE(group(2), 1);
     QCOMPARE(undo().stepCount(), 1);
     QVERIFY(log.take().endsWith(QStringLiteral("44")));
+}
+
+void tst_UndoHistory::withoutCommitNothingIsJoined()
+{
+    CvlUtilUndoStateBegin(UndoKind_StyleGroup);
+    setGroup("1", 2);
+    setGroup("1", 3);
+    CvlUtilUndoStateEnd(0, 0);
+    QCOMPARE(undo().stepCount(), 2);
+    QVERIFY(undo().undo());
+    QCOMPARE(group(1), 2);
+    QVERIFY(undo().redo());
+    QCOMPARE(group(1), 3);
 }
 
 void tst_UndoHistory::emptyBracketsLeaveNothing()
