@@ -40,8 +40,9 @@ bool queryToActivateSidebarLayer(const std::string& layer,
 /// the boundary cell faces and answers true.
 bool queryToEnableSurfacePlotLayer(const std::string& layer);
 
-/// Whether a line map may be given the zone; asks the user only when the zone is not ordered.
-bool confirmLineMapZoneSelection(CvlInt64 zone);
+/// Whether line maps may be given the zone. The user is asked only when the zone is not ordered, or
+/// has no point values of a variable that one of the maps draws (with no maps named, of none).
+bool confirmLineMapZoneSelection(CvlInt64 zone, const toolbox::Set& lineMaps = toolbox::Set());
 
 /// All three channel variables of the given "GlobalRGB" value's frame are set.
 bool checkRGBChannelVars(const toolbox::StyleValue& globalRGB);

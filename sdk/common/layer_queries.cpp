@@ -3,10 +3,9 @@
 
 #include "host/document/document.h"
 #include "sdk/common/frame_writes.h"
+#include "sdk/common/yes_no_question.h"
 
-#include <QApplication>
 #include <QCoreApplication>
-#include <QMessageBox>
 
 namespace corvala::sdk {
 
@@ -16,13 +15,6 @@ using host::Frame;
 static QString text(const char* source)
 {
     return QCoreApplication::translate("LayerQueries", source);
-}
-
-static bool askYesNo(const QString& title, const QString& question)
-{
-    return QMessageBox::question(QApplication::activeWindow(), title, question,
-                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes)
-        == QMessageBox::Yes;
 }
 
 /// "FieldLayers" name and shown name of a layer, by the name of its category.
@@ -92,21 +84,6 @@ bool queryToEnableSurfacePlotLayer(const std::string& layer)
     request.objects = &active;
     request.value = double(SurfacesToPlot_BoundaryCellFaces);
     return Document::instance().write(request) <= StyleWrite_Unchanged;
-}
-
-bool confirmLineMapZoneSelection(CvlInt64 number)
-{
-    const Frame* const frame = Document::instance().activeFrame();
-    if (!frame || !frame->hasData() || !frame->data()->hasZone(number))
-        return true; // the write itself refuses the number
-    if (frame->data()->zone(number).ordered)
-        return true;
-    return askYesNo(
-        text(QT_TRANSLATE_NOOP("LayerQueries", "Zone")),
-        text(QT_TRANSLATE_NOOP("LayerQueries",
-                               "Zone %1 is not ordered, so a line through its points follows no "
-                               "order.\nDo you want to use it anyway?"))
-            .arg(number));
 }
 
 } // namespace corvala::sdk

@@ -143,6 +143,7 @@ private Q_SLOTS:
     void describeColumns();
     void renameMapsForAnyRole();
     void confirmZones();
+    void confirmZonesForTheEditedMaps();
     void listEnabledOnly();
     void showStrands();
     void followTheActiveFrame();
@@ -537,6 +538,22 @@ void tst_TableModels::confirmZones()
     QCOMPARE(takeWrites(), QString());
     QVERIFY(m_model->setDataForIndexes(zones, "4: Zone 4", Qt::EditRole));
     QCOMPARE(takeWrites(), QString("LineMap.Assign.Zone 2-3 = 4"));
+    QVERIFY(user.isSettled());
+}
+
+void tst_TableModels::confirmZonesForTheEditedMaps()
+{
+    open("xy");
+    auto data =
+        std::make_shared<corvala::host::DataSet>(*Document::instance().activeFrame()->data());
+    data->variables.push_back({"Missing", {}, "no such array", 0});
+    Document::instance().attachDataSet(data, PlotType_LineXY, 3);
+    QVERIFY(setStyle("LineMap.Assign.YAxisVar", "2", 8));
+    ModalResponder user;
+    QVERIFY(m_model->setData(m_model->index(0, columnOf("Zone")), "2: Zone 2"));
+    user.press(QMessageBox::No);
+    QVERIFY(!m_model->setData(m_model->index(1, columnOf("Zone")), "2: Zone 2"));
+    QCOMPARE(takeWrites(), QString("LineMap.Assign.Zone 1 = 2"));
     QVERIFY(user.isSettled());
 }
 

@@ -8,9 +8,72 @@
 
 #include <QtTest>
 
+#include <vtkCellData.h>
+#include <vtkDoubleArray.h>
+#include <vtkImageData.h>
+#include <vtkPointData.h>
+
 using namespace corvala;
 using host::Document;
 using tests::ModalResponder;
+
+namespace {
+
+/// A line of three points.
+class LineSource : public host::ZoneSource
+{
+public:
+    vtkSmartPointer<vtkDataSet> zone(std::int64_t) const override
+    {
+        auto line = vtkSmartPointer<vtkImageData>::New();
+        line->SetDimensions(3, 1, 1);
+        const auto add = [](vtkFieldData* to, const char* name, int count) {
+            auto values = vtkSmartPointer<vtkDoubleArray>::New();
+            values->SetName(name);
+            for (int i = 0; i < count; ++i)
+                values->InsertNextValue(i);
+            to->AddArray(values);
+        };
+        add(line->GetPointData(), "points", 3);
+        add(line->GetCellData(), "cells", 2);
+        return line;
+    }
+};
+
+/// Line maps 1, 2 and 3 draw values at points, values in cells, and nothing, over the position.
+void openCellData()
+{
+    auto data = std::make_shared<host::DataSet>();
+    data->variables = {{"X", {}, {}, 0},
+                       {"P", {}, "points", 0},
+                       {"%1 in cells", {}, "cells", 0},
+                       {"gone", {}, "gone", 0}};
+    host::ZoneInfo zone;
+    zone.ordered = true;
+    zone.dimensions = {{3, 1, 1}};
+    zone.pointCount = 3;
+    data->zones = {zone};
+    data->source = std::make_shared<LineSource>();
+    Document::instance().attachDataSet(data, PlotType_LineXY, 3);
+    for (const int map : {1, 2, 3}) {
+        host::StyleWrite request;
+        const host::MapSet one = host::MapSet::bitmapOf(1, map);
+        request.path = {"LineMap", "Assign", "YAxisVar"};
+        request.objects = &one;
+        request.value = map + 1.0;
+        Document::instance().write(request);
+    }
+}
+
+toolbox::Set maps(std::initializer_list<CvlInt64> numbers)
+{
+    toolbox::Set set;
+    for (const CvlInt64 number : numbers)
+        set.add(number);
+    return set;
+}
+
+} // namespace
 
 class tst_Common : public QObject
 {
@@ -27,6 +90,7 @@ private Q_SLOTS:
     void asksForTheLayer();
     void offersSurfaces();
     void confirmsUnorderedZones();
+    void confirmsZonesWithoutPointValues();
     void lockIsRecursive();
 
 private:
@@ -183,6 +247,22 @@ void tst_Common::confirmsUnorderedZones()
     responder.press(QMessageBox::Yes);
     QVERIFY(sdk::confirmLineMapZoneSelection(4));
     QVERIFY(responder.isSettled());
+}
+
+void tst_Common::confirmsZonesWithoutPointValues()
+{
+    openCellData();
+    ModalResponder responder;
+    QVERIFY(sdk::confirmLineMapZoneSelection(1)); // for no map
+    QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({1, 99})));
+    responder.press(QMessageBox::No).press(QMessageBox::Yes);
+    QVERIFY(!sdk::confirmLineMapZoneSelection(1, maps({1, 2})));
+    QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({3})));
+    QVERIFY(responder.isSettled());
+    const QString question = QStringLiteral("Zone: Zone 1 has no values at its points of %1.\n"
+                                            "Do you want to use it anyway?");
+    QCOMPARE(responder.takeSeen(),
+             (QStringList {question.arg("%1 in cells"), question.arg("gone")}));
 }
 
 void tst_Common::lockIsRecursive()

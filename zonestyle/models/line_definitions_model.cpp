@@ -33,7 +33,7 @@ static bool writeConfirmedZone(const EditRequest& edit)
     const std::optional<int> zone = edit.choice();
     if (!zone)
         return true;
-    if (!confirmLineMapZoneSelection(*zone))
+    if (!confirmLineMapZoneSelection(*zone, ModelAbstract::toMapSet(edit.cells)))
         return false;
     edit.write(*zone);
     return true;
