@@ -3,24 +3,10 @@
 
 #include "zonestyle/actions/style_write.h"
 
-#include <sdk/base/cvl.h>
 #include <sdk/common/app_lock.h>
+#include <sdk/uicommon/style_writing.h>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
-
-namespace {
-
-/// One undo step for all changes while it lives.
-class UndoStep
-{
-public:
-    explicit UndoStep(UndoKind_e kind) { CvlUtilUndoStateBegin(kind); }
-    ~UndoStep() { CvlUtilUndoStateEnd(0, 1); }
-    UndoStep(const UndoStep&) = delete;
-    UndoStep& operator=(const UndoStep&) = delete;
-};
-
-} // namespace
 
 ThreeValueAction::ThreeValueAction(const QString& text, const QModelIndexList& selectedIndexes,
                                    const ThreeValues& values, const StylePath& group,
@@ -37,7 +23,7 @@ void ThreeValueAction::invokeAction()
     if (selectedIndexes().isEmpty())
         return;
     const AppLock lock;
-    const UndoStep step(UndoKind_StyleGroup);
+    const StyleUndoStep step;
     const toolbox::Set maps = selectedMaps();
     for (std::size_t i = 0; i < m_values.size(); ++i)
         writeStyle(m_group / m_names[i], maps, static_cast<double>(m_values[i]));
