@@ -7,6 +7,8 @@
 #include "sdk/base/read_count.h"
 #include "sdk/base/set_record.h"
 
+#include <cstring>
+
 using namespace corvala::host;
 using corvala::host_access::countRead;
 
@@ -40,15 +42,11 @@ char* CvlUtilLineMapGetNameForFrame(CvlUniqueId id, CvlInt64 map)
 CvlArbValue CvlUtilLineMapStyleGetArbValueForFrame(CvlUniqueId id, CvlInt64 map, char const* name)
 {
     const Frame* const frame = frameWithLineMap(id, map);
-    const char* const path[] = {"LineMap", name};
-    const AttributeId attribute = name ? Schema::instance().find(path, 2) : kNoAttribute;
-    if (!frame || attribute < 0)
+    if (!frame || !name || std::strcmp(name, "Name") != 0)
         return 0;
-    const Attribute& row = Schema::instance().at(attribute);
-    if (row.isText())
-        return reinterpret_cast<CvlArbValue>(cvlFlatText(frame->lineStyle().text(row, map)));
-    return row.isReal() ? static_cast<CvlArbValue>(frame->lineReal(attribute, map))
-                        : frame->lineInteger(attribute, map);
+    static const Attribute& stored =
+        Schema::instance().at(Schema::instance().find({"LineMap", "Name"}));
+    return reinterpret_cast<CvlArbValue>(cvlFlatText(frame->lineStyle().text(stored, map)));
 }
 
 CvlBool CvlUtilLineMapSetName(CvlSetHandle maps, char const* utf8Name)

@@ -25,8 +25,6 @@ private Q_SLOTS:
     void deletedFieldMapsComeBack();
     void keepsStyleAsDefaultsMove();
     void lineMapsKeepTheirZones();
-    void flatFunctionsAnswerNothing();
-    void setsByHandle();
     void colors();
 
 private:
@@ -191,51 +189,6 @@ void tst_Document::lineMapsKeepTheirZones()
     QCOMPARE(zones(), QStringLiteral("3 1 2")); // the second one's zone is gone
     Document::instance().undo().undo();
     QCOMPARE(zones(), QStringLiteral("4 3 2"));
-}
-
-void tst_Document::flatFunctionsAnswerNothing()
-{
-    open("field2d", 3);
-    const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
-    for (const CvlInt64 bad : {CvlInt64(-1), CvlInt64(0), CvlInt64(4), CvlInt64(1) << 40}) {
-        QVERIFY(!CvlUtilFieldMapIsActiveForFrame(frame, bad));
-        QCOMPARE(CvlUtilFieldMapGetCandidateZoneForFrame(frame, bad), CvlInt64(0));
-        QVERIFY(!CvlUtilZoneGetNameForFrame(frame, bad));
-        QVERIFY(!CvlUtilZoneIsOrderedForFrame(frame, bad));
-        QCOMPARE(CvlUtilZoneGetFieldMap(bad), CvlInt64(0));
-        QVERIFY(!CvlUtilLineMapGetNameForFrame(frame, bad));
-        QCOMPARE(CvlUtilLineMapStyleGetArbValueForFrame(frame, bad, "Name"), CvlArbValue(0));
-        QCOMPARE(CvlUtilPickListGetType(bad), CvlInt64(0));
-    }
-    const CvlUniqueId stale = frame + 100;
-    QCOMPARE(CvlUtilFieldMapGetCountForFrame(stale), CvlInt64(0));
-    QVERIFY(!CvlUtilDataSetIsAvailableForFrame(stale));
-    QVERIFY(!CvlUtilFieldLayerIsActiveForFrame(frame, nullptr));
-    QVERIFY(!CvlUtilFieldLayerIsActiveForFrame(frame, "ShowNothing"));
-    QVERIFY(CvlUtilFieldLayerIsActiveForFrame(frame, "ShowMesh"));
-    QVERIFY(!CvlUtilLineMapSetName(nullptr, "x"));
-    QVERIFY(!CvlUtilLineMapDelete(nullptr));
-    CvlInt64 points = 0;
-    QVERIFY(CvlUtilZoneGetInfoForFrame(frame, 2, &points, nullptr, nullptr)); // triangles
-    QCOMPARE(points, CvlInt64(63));
-}
-
-void tst_Document::setsByHandle()
-{
-    CvlSetHandle set = CvlUtilSetAlloc(1);
-    QVERIFY(CvlUtilSetIsEmpty(set));
-    QVERIFY(!CvlUtilSetAddMember(set, 0, 1));
-    for (const CvlInt64 member : {7, 3, 7})
-        QVERIFY(CvlUtilSetAddMember(set, member, 1));
-    QCOMPARE(CvlUtilSetGetMemberCount(set), CvlInt64(2));
-    QCOMPARE(CvlUtilSetGetNextMember(set, 0), CvlInt64(3));
-    QCOMPARE(CvlUtilSetGetNextMember(set, 3), CvlInt64(7));
-    QCOMPARE(CvlUtilSetGetNextMember(set, 7), CvlInt64(0));
-    CvlUtilSetDealloc(&set);
-    QVERIFY(!set);
-    CvlUtilSetDealloc(&set);
-    QVERIFY(CvlUtilSetIsEmpty(nullptr));
-    QCOMPARE(CvlUtilSetGetNextMember(nullptr, 0), CvlInt64(0));
 }
 
 void tst_Document::colors()
