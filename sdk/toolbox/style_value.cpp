@@ -213,15 +213,16 @@ static CvlInt64 numberOr(const ArgList& address, const char* key, CvlInt64 fallb
     return value ? *value : fallback;
 }
 
+/// `unresolved` are the names that an accessor without a value was made from.
 static StyleWriteResult_e write(host::StyleInput value, const ArgList& address,
-                                const std::vector<std::string>& names)
+                                const std::vector<std::string>& unresolved)
 {
     host::StyleWrite request;
     request.path = pathOf(address);
     const bool allKnown =
         std::find(request.path.begin(), request.path.end(), "?") == request.path.end();
-    if (!allKnown && names.size() == request.path.size())
-        request.path = names; // the names as typed, for the record
+    if (!allKnown && unresolved.size() == request.path.size())
+        request.path = unresolved; // the names as typed, for the record
     const auto* const objects = address.get<Set>(kObjectsKey);
     static const host::MapSet kNone;
     if (objects)
@@ -235,22 +236,22 @@ static StyleWriteResult_e write(host::StyleInput value, const ArgList& address,
 
 StyleWriteResult_e StyleValue::setFinalValue(double value, const ArgList& address)
 {
-    return write(value, address, names());
+    return write(value, address, m_unresolved);
 }
 
 StyleWriteResult_e StyleValue::setFinalValue(bool value, const ArgList& address)
 {
-    return write(value, address, names());
+    return write(value, address, m_unresolved);
 }
 
 StyleWriteResult_e StyleValue::setFinalValue(const std::string& value, const ArgList& address)
 {
-    return write(value, address, names());
+    return write(value, address, m_unresolved);
 }
 
 StyleWriteResult_e StyleValue::setFinalValue(const Set& value, const ArgList& address)
 {
-    return write(value.handle() ? value.handle()->members : host::MapSet(), address, names());
+    return write(value.handle() ? value.handle()->members : host::MapSet(), address, m_unresolved);
 }
 
 } // namespace corvala::toolbox

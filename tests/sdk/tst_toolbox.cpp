@@ -23,6 +23,7 @@ private Q_SLOTS:
     void setValuedWrites();
     void readsSetsOfTheFrame();
     void readsNumbersThatFit();
+    void readsNothingWhereNothingIs();
     void stringLists();
 };
 
@@ -91,6 +92,9 @@ void tst_Toolbox::writesGoWhereTheArgumentsSay()
     QCOMPARE(thickness.setFinalValue(std::string("1"), addressOf(thickness, &maps)),
              StyleWrite_WrongType);
     QCOMPARE(thickness.setFinalValue(0.4, ArgList()), StyleWrite_UnknownPath);
+    const StyleValue unknown("FieldMap", "Mesh", "Line");
+    QCOMPARE(thickness.setFinalValue(0.4, addressOf(unknown, &maps)), StyleWrite_UnknownPath);
+    QCOMPARE(thickness.read<double>(3), std::optional<double>(1.0));
     const Set moved = std::move(maps);
     QCOMPARE(thickness.setFinalValue(0.4, addressOf(thickness, &maps)), StyleWrite_BadObjects);
 
@@ -140,6 +144,28 @@ void tst_Toolbox::readsNumbersThatFit()
     QCOMPARE(end.setFinalValue(1e300, addressOf(end, &maps)), StyleWrite_Ok);
     QVERIFY(!end.read<CvlInt64>(1));
     QCOMPARE(end.read<double>(1), std::optional<double>(1e300));
+}
+
+void tst_Toolbox::readsNothingWhereNothingIs()
+{
+    std::string error;
+    QVERIFY(samples::openDemo("xy", 2, error));
+    const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
+    const StyleValue zone("LineMap", "Assign", "Zone");
+    const StyleValue variable("ContourGroups", "Var");
+    QVERIFY(zone.read<int>(2) && variable.read<int>(0, 8));
+    const CvlInt64 wrapsToOne = (CvlInt64(1) << 32) + 1;
+    for (const CvlInt64 bad : {CvlInt64(0), CvlInt64(-1), CvlInt64(9), wrapsToOne}) {
+        QVERIFY(!zone.read<int>(bad));
+        QVERIFY(!variable.read<int>(0, bad));
+    }
+    for (const CvlUniqueId gone : {CvlUniqueId(0), frame + 1})
+        QVERIFY(!toolbox::FrameStyleValue(gone, "LineMap", "Assign", "Zone").read<int>(1));
+    QVERIFY(!StyleValue("LineMap", "Assign").read<int>(1)); // a group
+    QVERIFY(!StyleValue("LineMap", "Assign", "Zones").read<int>(1));
+    QVERIFY(!StyleValue(nullptr).read<int>(1));
+    QVERIFY(!StyleValue("LineMap", "Name").read<int>(1));
+    QVERIFY(!zone.read<std::string>(1));
 }
 
 void tst_Toolbox::stringLists()
