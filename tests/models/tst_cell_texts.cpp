@@ -102,6 +102,7 @@ void tst_CellTexts::readsNumbers_data()
     QTest::newRow("half") << QVariant(0.5) << 1;
     QTest::newRow("real") << QVariant(2.5) << 3;
     QTest::newRow("huge real") << QVariant(1e300) << 2147483647;
+    QTest::newRow("lowest real") << QVariant(-1e300) << -2147483647 - 1;
     QTest::newRow("no real") << QVariant(qQNaN()) << 0;
     QTest::newRow("switch") << QVariant(true) << 1;
     QTest::newRow("preset") << QVariant("2.00") << 2;

@@ -41,7 +41,7 @@ static QModelIndexList indexesBeside(const QModelIndexList& selected)
     const int rowCount = model->rowCount();
     std::vector<bool> isSelected(static_cast<std::size_t>(rowCount));
     for (const QModelIndex& index : selected) {
-        if (index.row() < rowCount)
+        if (index.isValid() && index.row() < rowCount)
             isSelected[static_cast<std::size_t>(index.row())] = true;
     }
     QModelIndexList others;

@@ -20,7 +20,7 @@ inline constexpr Choice kLineMapSorts[] = {
     {LineMapSort_BySpecificVar, QT_TRANSLATE_NOOP("Choice", "By specific variable")},
 };
 
-// Three name tables for one enumeration: XY plots, polar plots, bar charts.
+// Deliberate: three name tables for one enumeration: XY plots, polar plots, bar charts.
 inline constexpr Choice kXYDependencies[] = {
     {FunctionDependency_YofX, QT_TRANSLATE_NOOP("Choice", "y=f(x)")},
     {FunctionDependency_XofY, QT_TRANSLATE_NOOP("Choice", "x=f(y)")},

@@ -58,7 +58,8 @@ struct EditRequest
     std::optional<int> choice() const;
     /// The whole number that the value stands for in a column of numbers.
     int number() const;
-    bool isChecked() const; ///< the value is Qt::Checked
+    /// The value is Qt::Checked. Deliberate: a plain true is not.
+    bool isChecked() const;
 
     /// Writes a number to all cells, where the column's edits go.
     void write(int number) const;

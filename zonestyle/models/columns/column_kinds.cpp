@@ -4,6 +4,7 @@
 #include "zonestyle/actions/select_color_action.h"
 #include "zonestyle/actions/variable_select_action.h"
 #include "zonestyle/models/columns/host_lists.h"
+#include "zonestyle/tables/contour_names.h"
 
 #include <sdk/base/cvl.h>
 #include <sdk/common/common.h>
@@ -55,7 +56,8 @@ QVariant colorHint(const Cell& cell)
     const int color = cell.value<int>();
     if (color >= kFirstGroup && color <= kLastGroup)
         return QString(QLatin1Char('C') + QString::number(color - kFirstGroup + 1));
-    return color == kByRgb ? QVariant(QStringLiteral("RGB")) : QVariant();
+    return color == kByRgb ? ChoiceNames(tables::kContourColorings).name(ContourColoring_RGB)
+                           : QVariant();
 }
 
 QVariant percentText(const Cell& cell)

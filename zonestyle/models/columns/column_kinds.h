@@ -45,7 +45,8 @@ QList<QAction*> choiceMenu(const MenuRequest& request)
     return entries;
 }
 
-// Kinds of columns
+// Kinds of columns. Deliberate: of these only a variable is editable. The editors of the others say
+// how wide the column is, and what an edit that comes from elsewhere means; users have the menus.
 
 /// A switch that is shown as a check box.
 constexpr ColumnDescriptor checkBox(const char* header, const StylePath& path)

@@ -13,7 +13,8 @@ static int rounded(double number)
 {
     constexpr double kLowest = std::numeric_limits<int>::lowest();
     constexpr double kHighest = std::numeric_limits<int>::max();
-    return std::isfinite(number) ? qRound(std::clamp(number, kLowest, kHighest)) : 0;
+    return std::isfinite(number) ? static_cast<int>(qRound64(std::clamp(number, kLowest, kHighest)))
+                                 : 0;
 }
 
 static bool isText(const QVariant& value)
