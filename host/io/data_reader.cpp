@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/data_reader.h"
 
+#include "host/io/read_folder.h"
 #include "host/io/read_protocol.h"
 #include "host/io/zone_file_source.h"
 
@@ -10,9 +11,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTimer>
 
+#include <csignal>
 #include <utility>
 
 namespace corvala::host::io {
@@ -44,11 +45,12 @@ private:
 
     DataReader* q;
     QTimer silence;
-    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<ReadFolder> folder;
     QString currentFile;
     QByteArray complaints; ///< the end of what libraries printed
     QString reason; ///< why it cannot be read, as far as known
     bool cancelled = false;
+    bool hasSpoken = false; ///< the reading program came to work
 };
 
 DataReader::Private::Private(DataReader* reader)
@@ -87,6 +89,7 @@ void DataReader::Private::start(const ReadRequest& request)
 {
     running = true;
     cancelled = false;
+    hasSpoken = false;
     reason.clear();
     complaints.clear();
     currentFile = QDir().absoluteFilePath(request.files.value(0));
@@ -103,7 +106,7 @@ void DataReader::Private::start(const ReadRequest& request)
 
 bool DataReader::Private::prepareFolder(const ReadRequest& request)
 {
-    folder = std::make_unique<QTemporaryDir>(QDir::tempPath() + QStringLiteral("/corvala-XXXXXX"));
+    folder = std::make_unique<ReadFolder>();
     if (!folder->isValid())
         return false;
     ReadRequest absolute = request;
@@ -148,6 +151,7 @@ void DataReader::Private::takeLine(const QByteArray& text)
         process.kill();
         return;
     }
+    hasSpoken = true;
     currentFile = QString::fromStdString(line->file);
     if (line->isError)
         reason = line->what.toString();
@@ -174,16 +178,24 @@ void DataReader::Private::processEnded(int code, QProcess::ExitStatus status)
     finish(result);
 }
 
+/// A library that meets what it does not expect crashes, or ends the program.
 QString DataReader::Private::reasonForEnd(int code, QProcess::ExitStatus status) const
 {
-    if (status == QProcess::CrashExit)
-        return DataReader::tr("the reader stopped unexpectedly (signal %1)").arg(code);
-    if (code == 0)
+    const bool crashed = status == QProcess::CrashExit;
+    if (code == 0 && !crashed)
         return {};
-    const QString lastLine =
+    if (crashed && code == SIGKILL)
+        return DataReader::tr("the reader was killed; perhaps the machine ran out of memory");
+    QString how =
         QString::fromUtf8(complaints.trimmed()).section(QLatin1Char('\n'), -1).simplified();
-    return DataReader::tr("the reader stopped unexpectedly (%1)")
-        .arg(lastLine.isEmpty() ? DataReader::tr("exit code %1").arg(code) : lastLine);
+    if (crashed)
+        how = DataReader::tr("signal %1").arg(code);
+    else if (how.isEmpty())
+        how = DataReader::tr("exit code %1").arg(code);
+    return hasSpoken ? DataReader::tr("the reader stopped unexpectedly (%1); the file, or one that "
+                                      "it names, is probably cut off or damaged")
+                           .arg(how)
+                     : DataReader::tr("the reader stopped unexpectedly (%1)").arg(how);
 }
 
 void DataReader::Private::takeResult()

@@ -9,8 +9,8 @@
 
 namespace corvala::host::io {
 
-ZoneFileSource::ZoneFileSource(std::unique_ptr<QTemporaryDir> folder,
-                               std::vector<std::string> files, std::int64_t cacheBytes)
+ZoneFileSource::ZoneFileSource(std::unique_ptr<ReadFolder> folder, std::vector<std::string> files,
+                               std::int64_t cacheBytes)
     : m_folder(std::move(folder))
     , m_files(std::move(files))
     , m_cacheBytes(cacheBytes)

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "host/document/data_set.h"
-
-#include <QTemporaryDir>
+#include "host/io/read_folder.h"
 
 #include <list>
 #include <memory>
@@ -22,7 +21,7 @@ public:
     static constexpr std::int64_t kUsualCacheBytes = std::int64_t(1) << 30;
 
     /// `files` are names in the folder, one per source index. The cache holds at least one zone.
-    ZoneFileSource(std::unique_ptr<QTemporaryDir> folder, std::vector<std::string> files,
+    ZoneFileSource(std::unique_ptr<ReadFolder> folder, std::vector<std::string> files,
                    std::int64_t cacheBytes = kUsualCacheBytes);
     ~ZoneFileSource() override;
 
@@ -40,7 +39,7 @@ private:
     vtkSmartPointer<vtkDataSet> load(std::int64_t sourceIndex) const;
     void keep(std::int64_t sourceIndex, const vtkSmartPointer<vtkDataSet>& data) const;
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<ReadFolder> m_folder;
     std::vector<std::string> m_files;
     std::int64_t m_cacheBytes;
     mutable std::mutex m_mutex;

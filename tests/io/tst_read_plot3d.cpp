@@ -85,7 +85,8 @@ static std::vector<Size> sizesFor(const Plot3DLayout& layout)
     return sizes;
 }
 
-static void writeSizes(Plot3DText& file, const Plot3DLayout& layout, int functions = 0)
+static void writeSizes(Plot3DText& file, const Plot3DLayout& layout, int functions = 0,
+                       std::initializer_list<int> atEnd = {})
 {
     const std::vector<Size> sizes = sizesFor(layout);
     if (*layout.multiGrid) {
@@ -100,6 +101,8 @@ static void writeSizes(Plot3DText& file, const Plot3DLayout& layout, int functio
         if (functions > 0)
             file.integer(functions);
     }
+    for (const int count : atEnd)
+        file.integer(count);
     file.endRecord();
 }
 
@@ -144,6 +147,26 @@ static QByteArray valueFile(const Plot3DLayout& layout, int equations, bool isFu
 static QByteArray solutionFile(const Plot3DLayout& layout)
 {
     return valueFile(layout, *layout.twoDimensional ? 4 : 5, false);
+}
+
+/// Five equations, a sixth and a gas, as OVERFLOW writes them; values as in any solution file.
+static QByteArray overflowFile(const Plot3DLayout& layout)
+{
+    constexpr int kEquations = 7;
+    Plot3DText file(layout);
+    writeSizes(file, layout, 0, {kEquations, 1});
+    int grid = 0;
+    for (const Size& size : sizesFor(layout)) {
+        for (int i = 0; i < 16; ++i)
+            i == 7 ? file.integer(2) : file.real(i);
+        file.endRecord();
+        for (int e = 0; e < kEquations; ++e)
+            for (int n = 0; n < size.points(); ++n)
+                file.real(1000.0 * grid + 10.0 * e + 0.25 * n);
+        file.endRecord();
+        ++grid;
+    }
+    return file.content();
 }
 
 /// Bit 0 iblank, 1 several grids, 2 two-dimensional, 3 double, 4 big-endian, 5 record marks.
@@ -285,6 +308,36 @@ private Q_SLOTS:
         QVERIFY(!asked.data);
         QVERIFY2(asked.error.contains("a.q could not be read: it does not belong to the grid file"),
                  qPrintable(asked.error));
+    }
+
+    void overflowSolutions_data()
+    {
+        QTest::addColumn<int>("bits");
+        for (const int bits : {0, 2, 16, 26, 32, 34, 40, 58})
+            QTest::addRow("binary %d", bits) << bits;
+    }
+
+    void overflowSolutions()
+    {
+        QFETCH(int, bits);
+        const Plot3DLayout layout = layoutOf(bits, false);
+        const QString grid = m_folder->write("flow.xyz", gridFile(layout));
+        const QByteArray content = overflowFile(layout);
+        const QString solution = m_folder->write("flow.q", content);
+        const ReadResult result = read({grid});
+        QVERIFY2(result.data, qPrintable(result.error));
+        if (*layout.byteCount) {
+            QCOMPARE(result.data->notes.size(), std::size_t(0));
+            const auto zone = static_cast<int>(result.data->zoneCount());
+            QCOMPARE(values(*result.data, zone, "Species Density #1").value(1),
+                     1000.0 * (zone - 1) + 60.25);
+            m_folder->write("flow.q", content.chopped(8));
+            QVERIFY(read({grid}).error.contains("flow.q could not be read: it is cut off"));
+        } else {
+            QCOMPARE(result.data->notes.size(), std::size_t(1));
+            QVERIFY(values(*result.data, 1, "Density").isEmpty());
+            QVERIFY(read({grid, solution}).error.contains("without record marks"));
+        }
     }
 
     void cutFilesAreRefused_data()

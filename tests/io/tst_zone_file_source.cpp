@@ -14,9 +14,9 @@ using namespace corvala::host::io;
 static constexpr int kZones = 3;
 
 /// A folder with images of 40, 41 and 42 points a side.
-static std::unique_ptr<QTemporaryDir> folderWithZones(std::vector<std::string>& files)
+static std::unique_ptr<ReadFolder> folderWithZones(std::vector<std::string>& files)
 {
-    auto folder = std::make_unique<QTemporaryDir>();
+    auto folder = std::make_unique<ReadFolder>();
     for (int i = 0; i < kZones; ++i) {
         vtkNew<vtkImageData> image;
         image->SetDimensions(40 + i, 40 + i, 40 + i);

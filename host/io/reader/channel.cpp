@@ -24,9 +24,10 @@ void Channel::report(const QString& file, int percent, const ReadMessage& what)
     write({percent, m_file, what, false});
 }
 
-void Channel::fail(const std::string& file, const ReadMessage& reason)
+void Channel::fail(const ReadFailure& failure)
 {
-    write({-1, file, reason, true});
+    write(
+        {-1, failure.file.isEmpty() ? m_file : failure.file.toStdString(), failure.message, true});
 }
 
 void Channel::write(const ReaderLine& line) const

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/io/read_protocol.h"
+#include "host/io/reader/read_failure.h"
 
 #include <chrono>
 
@@ -16,9 +17,7 @@ public:
 
     /// Tells what is done; at most some ten times a second reaches the program.
     void report(const QString& file, int percent, const ReadMessage& what);
-    void fail(const std::string& file, const ReadMessage& reason);
-    /// As `fail`, for the file that is being read.
-    void failCurrent(const ReadMessage& reason) { fail(m_file, reason); }
+    void fail(const ReadFailure& failure);
 
 private:
     void write(const ReaderLine& line) const;

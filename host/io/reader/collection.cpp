@@ -39,7 +39,7 @@ private:
     };
 
     void parse(QXmlStreamReader& xml);
-    void addEntry(const QXmlStreamAttributes& attributes);
+    void addEntry(const QXmlStreamReader& xml);
     std::string blockName(const Entry& entry, std::map<QString, int>& uses) const;
 
     QString m_path;
@@ -75,24 +75,29 @@ void Collection::parse(QXmlStreamReader& xml)
         if (xml.isStartElement() && xml.name() == QLatin1String("Collection"))
             inside = true;
         else if (xml.isStartElement() && inside && xml.name() == QLatin1String("DataSet"))
-            addEntry(xml.attributes());
+            addEntry(xml);
     }
 }
 
-void Collection::addEntry(const QXmlStreamAttributes& attributes)
+void Collection::addEntry(const QXmlStreamReader& xml)
 {
+    const QXmlStreamAttributes attributes = xml.attributes();
     const QString time = attributes.value(QLatin1String("timestep")).toString().trimmed();
     bool isNumber = true;
     const double value = time.isEmpty() ? 0.0 : time.toDouble(&isNumber);
     if (!isNumber)
         throw ReadFailure(m_path, QT_TRANSLATE_NOOP("ReadMessage", "\"%1\" is no time"), {time});
+    const QString file = attributes.value(QLatin1String("file")).toString();
+    if (file.isEmpty())
+        throw ReadFailure(m_path,
+                          QT_TRANSLATE_NOOP("ReadMessage", "line %1: the entry names no file"),
+                          {QString::number(xml.lineNumber())});
     Entry entry;
     entry.group = attributes.value(QLatin1String("group")).toString();
     entry.part = attributes.value(QLatin1String("name")).toString();
     if (entry.part.isEmpty())
         entry.part = attributes.value(QLatin1String("part")).toString();
-    entry.file = QFileInfo(m_path).dir().absoluteFilePath(
-        attributes.value(QLatin1String("file")).toString());
+    entry.file = QFileInfo(m_path).dir().absoluteFilePath(file);
     m_entries[value].push_back(entry);
 }
 
@@ -117,9 +122,9 @@ static vtkSmartPointer<vtkDataObject> readPart(const QString& path)
     vtkNew<vtkXMLGenericDataObjectReader> reader;
     reader->SetFileName(QFile::encodeName(path).constData());
     reader->Update();
-    const QString error = VtkMessages::takeError();
+    const ReadMessage error = VtkMessages::takeError();
     if (!error.isEmpty())
-        throw ReadFailure(path, "%1", {error});
+        throw ReadFailure(path, error);
     return reader->GetOutputDataObject(0);
 }
 

@@ -7,6 +7,7 @@
 #include "host/io/reader/vtk_messages.h"
 #include "host/io/reader/zone_check.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -25,9 +26,14 @@ DataSetBuilder::DataSetBuilder(const QString& folder, Channel& channel, std::int
 {
 }
 
+/// The file's name without its ending, or that of its case where all files have the same name.
 static std::string baseName(const DataFile& file)
 {
-    return QFileInfo(file.path()).completeBaseName().toStdString();
+    const QFileInfo info(file.path());
+    if (info.fileName() == QLatin1String("controlDict"))
+        return QFileInfo(info.path()).dir().dirName().toStdString();
+    const QString base = info.completeBaseName();
+    return (base.isEmpty() ? info.dir().dirName() : base).toStdString();
 }
 
 /// Shortest names of the files that tell them apart: without the ending where that is enough.
@@ -47,9 +53,9 @@ static std::vector<std::string> distinctNames(const std::vector<std::unique_ptr<
 
 static void throwPendingError(const DataFile& file)
 {
-    const QString error = VtkMessages::takeError();
+    const ReadMessage error = VtkMessages::takeError();
     if (!error.isEmpty())
-        throw ReadFailure(file.path(), "%1", {error});
+        throw ReadFailure(file.path(), error);
 }
 
 DataSetIndex DataSetBuilder::build(const std::vector<std::unique_ptr<DataFile>>& files)
@@ -73,8 +79,9 @@ void DataSetBuilder::readFile(DataFile& file, const std::string& prefix)
 {
     const std::size_t firstBlock = m_blocks.size();
     m_blockOfKey.clear();
-    for (const std::size_t timeIndex : timesInOrder(file))
-        readTime(file, timeIndex, prefix);
+    const std::vector<double> times = file.times();
+    for (const std::size_t timeIndex : timesInOrder(file, times))
+        readTime(file, times, timeIndex, prefix);
     const bool hasZones =
         std::any_of(m_blocks.begin() + static_cast<std::ptrdiff_t>(firstBlock), m_blocks.end(),
                     [](const Block& block) { return !block.zones.empty(); });
@@ -88,9 +95,9 @@ void DataSetBuilder::readFile(DataFile& file, const std::string& prefix)
 }
 
 /// Indices of the times, ascending; of equal times only the first, as VTK tells times by value.
-std::vector<std::size_t> DataSetBuilder::timesInOrder(const DataFile& file)
+std::vector<std::size_t> DataSetBuilder::timesInOrder(const DataFile& file,
+                                                      const std::vector<double>& times)
 {
-    const std::vector<double> times = file.times();
     if (!std::all_of(times.begin(), times.end(), [](double time) { return std::isfinite(time); }))
         throw ReadFailure(file.path(),
                           QT_TRANSLATE_NOOP("ReadMessage", "a solution time is not a number"));
@@ -126,9 +133,9 @@ static std::string joined(const std::vector<std::string>& names)
     return result;
 }
 
-void DataSetBuilder::readTime(DataFile& file, std::size_t timeIndex, const std::string& prefix)
+void DataSetBuilder::readTime(DataFile& file, const std::vector<double>& times,
+                              std::size_t timeIndex, const std::string& prefix)
 {
-    const std::vector<double> times = file.times();
     const auto timeCount = static_cast<double>(std::max<std::size_t>(times.size(), 1));
     const ReadMessage what = progressText(file, timeIndex, times.size());
     const auto report = [&](double part) {

@@ -42,10 +42,11 @@ private:
     using BlockKey = std::pair<std::string, int>; ///< path of names, and which of that path
 
     void readFile(DataFile& file, const std::string& prefix);
-    void readTime(DataFile& file, std::size_t timeIndex, const std::string& prefix);
+    void readTime(DataFile& file, const std::vector<double>& times, std::size_t timeIndex,
+                  const std::string& prefix);
     void requireUsable(const DataFile& file, vtkDataSet& data) const;
     void addLeaf(Block& block, vtkDataSet* data, double time);
-    std::vector<std::size_t> timesInOrder(const DataFile& file);
+    std::vector<std::size_t> timesInOrder(const DataFile& file, const std::vector<double>& times);
     void noteWarnings(const DataFile& file);
     void noteOmissions();
     void numberZones();

@@ -103,10 +103,9 @@ static QString unquoted(const QString& path, const QDir& folder)
         return path;
     const QString copyPath = folder.filePath(QStringLiteral("unquoted.case"));
     QFile copy(copyPath);
-    if (!copy.open(QIODevice::WriteOnly))
-        throw ReadFailure(copyPath,
-                          QT_TRANSLATE_NOOP("ReadMessage", "the file cannot be written there"));
-    copy.write(UnquotedCase(path, folder).rewritten(text));
+    const QByteArray plain = UnquotedCase(path, folder).rewritten(text);
+    if (!copy.open(QIODevice::WriteOnly) || copy.write(plain) != plain.size() || !copy.flush())
+        throw ReadFailure::ofFullDisk(folder.path());
     return copyPath;
 }
 

@@ -13,7 +13,8 @@ namespace corvala::host::io::reader {
 
 std::unique_ptr<DataFile> openLegacyVtk(const QString& path);
 
-/// Throws ReadFailure unless the file is a VTK XML file of a kind that holds data.
+/// Throws ReadFailure unless the file is a VTK XML file of a kind that holds data, and it and the
+/// files that it names have an end.
 void requireXmlVtk(const QString& path);
 
 /// Serial and parallel VTK XML files of any kind.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/read_folder.h"
 #include "host/io/reader/channel.h"
 #include "host/io/reader/data_set_builder.h"
 #include "host/io/reader/open_files.h"
@@ -8,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTextCodec>
 
 #include <clocale>
@@ -32,13 +34,13 @@ static void storeIndex(const QDir& folder, DataSetIndex index, const ReadRequest
     QFile file(folder.filePath(QString::fromLatin1(kIndexFile)));
     const QByteArray text = QByteArray::fromStdString(toJson(index));
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush())
-        throw reader::ReadFailure(
-            file.fileName(), QT_TRANSLATE_NOOP("ReadMessage", "the file cannot be written there"));
+        throw reader::ReadFailure::ofFullDisk(folder.path());
 }
 
 static void readAll(const QDir& folder, const ReadRequest& request, std::int64_t memoryBytes,
                     reader::Channel& channel)
 {
+    removeAbandonedFolders(QFileInfo(folder.path()).path());
     const auto files = reader::openFiles(request, folder, channel);
     reader::DataSetBuilder builder(folder.path(), channel, memoryBytes);
     storeIndex(folder, builder.build(files), request);
@@ -53,15 +55,15 @@ static int run(const QDir& folder, const ReadRequest& request)
         readAll(folder, request, memory, channel);
         return 0;
     } catch (const reader::ReadFailure& failure) {
-        channel.fail(failure.file.toStdString(), failure.message);
+        channel.fail(failure);
     } catch (const std::bad_alloc&) {
         const double gibibytes = static_cast<double>(memory) / (1 << 30);
-        channel.failCurrent(ReadMessage(
-            QT_TRANSLATE_NOOP("ReadMessage",
-                              "it needs more than %1 GiB of memory, which is the limit"),
-            {QString::number(gibibytes, 'g', 3)}));
+        channel.fail({{},
+                      QT_TRANSLATE_NOOP("ReadMessage",
+                                        "it needs more than %1 GiB of memory, which is the limit"),
+                      {QString::number(gibibytes, 'g', 3)}});
     } catch (const std::exception& exception) {
-        channel.failCurrent(ReadMessage("%1", {QString::fromUtf8(exception.what())}));
+        channel.fail({{}, "%1", {QString::fromUtf8(exception.what())}});
     }
     return 1;
 }

@@ -81,8 +81,7 @@ std::optional<Plot3DText> Plot3DFile::openText(QString& file)
         return text;
     const QString copy = m_helperFolder.filePath(QStringLiteral("plain%1").arg(m_copies++));
     if (!writePlainText(file, copy))
-        throw ReadFailure(copy,
-                          QT_TRANSLATE_NOOP("ReadMessage", "the file cannot be written there"));
+        throw ReadFailure::ofFullDisk(m_helperFolder.path());
     file = copy;
     return text;
 }
@@ -124,13 +123,22 @@ void Plot3DFile::openCompanion(QString& file, const Plot3DGrids& grids, const Pl
         throw ReadFailure(original, QT_TRANSLATE_NOOP("ReadMessage", "it is cut off"));
     if (fit == Plot3DFit::Fits)
         return;
+    const bool isUnmarked = fit == Plot3DFit::Unmarked;
     if (!step.areGuessed)
         throw ReadFailure(
-            original, QT_TRANSLATE_NOOP("ReadMessage", "it does not belong to the grid file %1"),
+            original,
+            isUnmarked ? QT_TRANSLATE_NOOP(
+                "ReadMessage", "a solution of OVERFLOW without record marks cannot be read")
+                       : QT_TRANSLATE_NOOP("ReadMessage", "it does not belong to the grid file %1"),
             {step.grid});
     file.clear();
     m_notes.emplace_back(
-        QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out: it does not belong to the grid file."),
+        isUnmarked
+            ? QT_TRANSLATE_NOOP("ReadMessage",
+                                "%1 was left out: a solution of OVERFLOW without record marks "
+                                "cannot be read.")
+            : QT_TRANSLATE_NOOP("ReadMessage",
+                                "%1 was left out: it does not belong to the grid file."),
         std::initializer_list<QString> {QFileInfo(original).fileName()});
 }
 

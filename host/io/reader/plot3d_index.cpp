@@ -68,7 +68,9 @@ Plot3DSeries readPlot3DIndex(const QString& path, const Plot3DLayout& wanted)
         for (const json& name : index.value("function-names", json::array()))
             series.functionNames << QString::fromStdString(name.get<std::string>());
     } catch (const json::exception& fault) {
-        throw ReadFailure(path, "%1", {QString::fromUtf8(fault.what())});
+        // The text begins with a name of the fault in brackets.
+        throw ReadFailure(path, "%1",
+                          {QString::fromUtf8(fault.what()).section(QStringLiteral("] "), 1)});
     }
     if (series.steps.empty())
         throw ReadFailure(path, QT_TRANSLATE_NOOP("ReadMessage", "it lists no files"));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/plot3d_layout.h"
 
+#include <algorithm>
+
 namespace corvala::host::io::reader {
 
 static constexpr std::int64_t kMostGrids = 1'000'000;
@@ -15,8 +17,15 @@ static std::int64_t pointCount(const std::array<std::int64_t, 3>& size)
     return result < (std::int64_t(1) << 48) ? result : 0;
 }
 
-/// Number of grids and their sizes; with `extra` further numbers per grid, which are skipped.
-static bool readSizes(Plot3DSource& source, const Plot3DLayout& layout, std::size_t extra,
+/// Whole numbers that follow the sizes in their record.
+struct ExtraCounts
+{
+    std::size_t perGrid = 0;
+    std::size_t atEnd = 0;
+};
+
+/// Number of grids, their sizes and what follows these.
+static bool readSizes(Plot3DSource& source, const Plot3DLayout& layout, const ExtraCounts& extra,
                       std::vector<std::array<std::int64_t, 3>>& sizes,
                       std::vector<std::int64_t>& extras)
 {
@@ -27,16 +36,18 @@ static bool readSizes(Plot3DSource& source, const Plot3DLayout& layout, std::siz
         return false;
     const std::size_t axes = *layout.twoDimensional ? 2 : 3;
     const auto grids = static_cast<std::size_t>(values[0]);
-    if (!source.readIntegers(grids * (axes + extra), values))
+    if (!source.readIntegers(grids * (axes + extra.perGrid) + extra.atEnd, values))
         return false;
+    const std::int64_t* next = values.data();
     for (std::size_t g = 0; g < grids; ++g) {
-        const std::int64_t* first = values.data() + g * (axes + extra);
-        sizes.push_back({first[0], first[1], axes == 3 ? first[2] : 1});
-        if (extra > 0)
-            extras.push_back(first[axes]);
+        sizes.push_back({next[0], next[1], axes == 3 ? next[2] : 1});
+        next += axes;
+        extras.insert(extras.end(), next, next + extra.perGrid);
+        next += extra.perGrid;
         if (pointCount(sizes.back()) == 0)
             return false;
     }
+    extras.insert(extras.end(), next, next + extra.atEnd);
     return true;
 }
 
@@ -49,7 +60,7 @@ static std::unique_ptr<Plot3DSource> sourceOf(const QString& path, const Plot3DL
 static bool fitsGrid(Plot3DSource& source, const Plot3DLayout& layout, Plot3DGrids& grids)
 {
     std::vector<std::int64_t> none;
-    if (!readSizes(source, layout, 0, grids.sizes, none))
+    if (!readSizes(source, layout, {}, grids.sizes, none))
         return false;
     for (const auto& size : grids.sizes) {
         const std::int64_t points = pointCount(size);
@@ -129,15 +140,43 @@ static bool skipFunctions(Plot3DSource& source, const Plot3DGrids& grids,
     return true;
 }
 
+/// A solution of OVERFLOW tells how many equations and gases it has, and has the gas constants in
+/// the headers of the grids. OtherGrids also for any other solution.
+static Plot3DFit fitOfOverflow(const QString& path, const Plot3DGrids& grids)
+{
+    constexpr std::int64_t kLeastEquations = 5; // and gases come after a sixth
+    constexpr std::int64_t kMostEquations = 1000;
+    if (*grids.layout.ascii || *grids.layout.twoDimensional)
+        return Plot3DFit::OtherGrids;
+    const auto source = binaryPlot3D(path, grids.layout);
+    std::vector<std::array<std::int64_t, 3>> sizes;
+    std::vector<std::int64_t> counts;
+    if (!readSizes(*source, grids.layout, {0, 2}, sizes, counts) || sizes != grids.sizes)
+        return Plot3DFit::OtherGrids;
+    const std::int64_t equations = counts[0];
+    const std::int64_t gases = counts[1];
+    if (equations > kMostEquations || gases < 0
+        || equations < kLeastEquations + (gases > 0 ? 1 + gases : 0))
+        return Plot3DFit::OtherGrids;
+    const std::int64_t headerReals = 13 + std::max<std::int64_t>(2, gases);
+    for (const auto& size : sizes)
+        if (!source->skip(headerReals, 1) || !source->skip(pointCount(size) * equations, 0))
+            return Plot3DFit::CutOff;
+    return *grids.layout.byteCount ? Plot3DFit::Fits : Plot3DFit::Unmarked;
+}
+
 Plot3DFit fitOfPlot3D(const QString& path, const Plot3DGrids& grids, const Plot3DText* text,
                       bool isFunction)
 {
     if (*grids.layout.ascii != (text != nullptr))
         return Plot3DFit::OtherGrids;
+    const Plot3DFit overflow = isFunction ? Plot3DFit::OtherGrids : fitOfOverflow(path, grids);
+    if (overflow != Plot3DFit::OtherGrids)
+        return overflow;
     const auto source = sourceOf(path, grids.layout, text);
     std::vector<std::array<std::int64_t, 3>> sizes;
     std::vector<std::int64_t> counts;
-    if (!readSizes(*source, grids.layout, isFunction ? 1 : 0, sizes, counts)
+    if (!readSizes(*source, grids.layout, {isFunction ? std::size_t(1) : 0, 0}, sizes, counts)
         || sizes != grids.sizes)
         return Plot3DFit::OtherGrids;
     const bool isWhole =

@@ -20,8 +20,9 @@ struct Plot3DGrids
 std::optional<Plot3DGrids> detectPlot3D(const QString& path, const Plot3DLayout& wanted,
                                         const Plot3DText* text);
 
-/// How a solution or function file goes with a grid file.
-enum class Plot3DFit { Fits, OtherGrids, CutOff };
+/// How a solution or function file goes with a grid file. Unmarked is a solution of OVERFLOW, which
+/// is like any other but for longer headers, without the record marks by which VTK knows it.
+enum class Plot3DFit { Fits, OtherGrids, CutOff, Unmarked };
 
 /// Compares layout and grids of a solution file (or, if `isFunction`, a function file). More may
 /// follow the values: some files are filled up to whole blocks, some have further values.

@@ -3,6 +3,7 @@
 
 #include "host/io/read_message.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <initializer_list>
@@ -25,7 +26,16 @@ struct ReadFailure
     {
     }
 
-    QString file;
+    /// Temporary files cannot be written in `folder`.
+    static ReadFailure ofFullDisk(const QString& folder)
+    {
+        return {{},
+                QT_TRANSLATE_NOOP("ReadMessage",
+                                  "no temporary files can be written in %1; its disk may be full"),
+                {folder}};
+    }
+
+    QString file; ///< empty for the one that is being read
     ReadMessage message;
 };
 

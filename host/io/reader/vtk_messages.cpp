@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/vtk_messages.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <vtkLogger.h>
@@ -23,6 +24,15 @@ static QString essence(const char* text)
     return message.simplified().left(kLongestMessage);
 }
 
+/// Says only that something went wrong, so that a later message may say it better. Pipelines pass
+/// on that a reader failed.
+static bool isVague(const char* text)
+{
+    static const QRegularExpression vague(
+        QStringLiteral("Pipeline \\(0x|: (Read|stat) failed\\.?\\s*$"));
+    return vague.match(QString::fromUtf8(text)).hasMatch();
+}
+
 /// VTK's sink for messages.
 class MessageWindow : public vtkOutputWindow
 {
@@ -38,13 +48,15 @@ public:
         // The legacy readers merely warn when the values end early.
         const bool isError = type == MESSAGE_TYPE_ERROR
             || (isWarning && message.startsWith(QLatin1String("Error ")));
-        if (isError && error.isEmpty())
+        if (isError && (error.isEmpty() || isErrorVague)) {
             error = message;
-        else if (isWarning && warnings.size() < kMostWarnings && !warnings.contains(message))
+            isErrorVague = isVague(text);
+        } else if (isWarning && warnings.size() < kMostWarnings && !warnings.contains(message))
             warnings << message;
     }
 
     QString error;
+    bool isErrorVague = false;
     QStringList warnings;
 };
 
@@ -61,9 +73,15 @@ static MessageWindow& window()
     return *static_cast<MessageWindow*>(vtkOutputWindow::GetInstance());
 }
 
-QString VtkMessages::takeError()
+ReadMessage VtkMessages::takeError()
 {
-    return std::exchange(window().error, {});
+    const QString error = std::exchange(window().error, {});
+    if (error.isEmpty())
+        return {};
+    if (window().isErrorVague)
+        return ReadMessage(
+            QT_TRANSLATE_NOOP("ReadMessage", "it, or a file that it names, is cut off or damaged"));
+    return ReadMessage("%1", {error});
 }
 
 QStringList VtkMessages::takeWarnings()

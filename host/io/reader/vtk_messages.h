@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QString>
+#include "host/io/read_message.h"
+
 #include <QStringList>
 
 namespace corvala::host::io::reader {
@@ -12,9 +13,9 @@ class VtkMessages
 public:
     VtkMessages(); ///< installs itself for the whole program; there is one
 
-    /// First error since the last call, without the place in VTK's source; empty when there was
-    /// none. Later errors mostly follow from the first.
-    static QString takeError();
+    /// First error since the last call that says something, without the place in VTK's source;
+    /// empty when there was none. Later errors mostly follow from the first.
+    static ReadMessage takeError();
     /// Distinct warnings since the last call.
     static QStringList takeWarnings();
 };

@@ -149,11 +149,8 @@ std::int64_t ZoneWriter::write(vtkDataSet& zone)
     writer->SetHeaderTypeToUInt64();
     writer->SetIdTypeToInt64();
     const bool written = writer->Write() != 0;
-    const QString error = VtkMessages::takeError();
-    if (!written || !error.isEmpty())
-        throw ReadFailure(path,
-                          QT_TRANSLATE_NOOP("ReadMessage", "the zone cannot be written there (%1)"),
-                          {error});
+    if (!written || !VtkMessages::takeError().isEmpty())
+        throw ReadFailure::ofFullDisk(m_folder);
     m_files.push_back(name.toStdString());
     return index;
 }
