@@ -78,6 +78,7 @@ private Q_SLOTS:
     void ordersTheColumnsOfDefinitions();
     void carriesColumnWidthsBetweenTabs();
     void remembersColumnWidths();
+    void keepsColumnWidthsOfPlotTypesApart();
     void keepsHeadersAndSelectionModelsFew();
 };
 
@@ -327,6 +328,31 @@ void tst_DialogTabs::remembersColumnWidths()
     QVERIFY(corvala::host::Document::instance().deleteFieldMaps(corvala::host::allUpTo(2)));
     runUntilIdle();
     QVERIFY(fixture.table().columnWidth(kMeshType) < 201);
+}
+
+/// Where one table serves several plot types, too.
+void tst_DialogTabs::keepsColumnWidthsOfPlotTypesApart()
+{
+    DialogFixture fixture("field3d");
+    const auto change = [](int plotType) {
+        setStyle("PlotType", "", plotType);
+        runUntilIdle();
+    };
+    const auto width = [&fixture] { return fixture.table().columnWidth(kMeshType); };
+    change(2);
+    fixture.table().setColumnWidth(kMeshType, 120);
+    change(1);
+    fixture.table().setColumnWidth(kMeshType, 200);
+    change(2); // without leaving the table
+    QCOMPARE(width(), 120);
+    change(1);
+    QCOMPARE(width(), 200);
+    fixture.clickTab("Contour");
+    change(2); // back from another table
+    QCOMPARE(width(), 120);
+    change(1);
+    fixture.clickTab("Mesh");
+    QCOMPARE(width(), 200);
 }
 
 /// Qt makes headers and selection models at every turn and keeps them.

@@ -3,6 +3,7 @@
 
 #include "zonestyle/actions/prompt_parent.h"
 #include "zonestyle/controls/map_selection_by_pattern.h"
+#include "zonestyle/controls/table_column_header.h"
 #include "zonestyle/dialog/zone_style_form.h"
 #include "zonestyle/dialog/zone_style_tabs.h"
 #include "zonestyle/models/model_abstract.h"

@@ -142,7 +142,6 @@ private:
 
     // Tables
     void createViewModels();
-    void orderDefinitionColumns();
     void setupTableView();
     void showTable(QWidget& page, ModelAbstract& model);
     int tabKey(QWidget& page);
@@ -180,8 +179,7 @@ private:
     std::unique_ptr<uicontrols::MapSelectionByPattern> m_mapSelection;
     std::map<ModelAbstract*, QItemSelectionModel*> m_selectionModels; ///< owned
     std::unique_ptr<zonestyle::intern::models::ModelForPageMap> m_modelForPageMap;
-    std::map<ModelAbstract*, TableColumnHeader*> m_headers; ///< owned
-    std::map<const QWidget*, int> m_removedTabPositions;
+    std::map<ModelAbstract*, std::unique_ptr<TableColumnHeader>> m_headers;
     std::map<const QWidget*, QString> m_removedTabTexts;
     std::unique_ptr<signaling::SignalConnectionCollection> m_connections;
 

@@ -70,6 +70,8 @@ void ZoneStyleDialog::setupTableView()
     m_currentModel = model;
     if (m_tableView->parentWidget() != page || m_tableView->model() != model)
         showTable(*page, *model);
+    else
+        m_tableView->adoptPlotType();
     makeSelectionFitModel();
     saveLastTab();
 }
@@ -100,7 +102,9 @@ int ZoneStyleDialog::tabKey(QWidget& page)
 }
 
 /// A header belongs to one model: it must not be attached to the view while that shows another
-/// one, and a header that is still a child of the view is deleted when the view gets the next.
+/// one, and a header that is still a child of the view is deleted when the view gets the next. What
+/// it recorded comes back before the view sizes its columns: the plot type may be another one
+/// since.
 void ZoneStyleDialog::replaceColumnHeader(TableColumnHeader* header, QWidget* page)
 {
     m_tableView->setParent(nullptr);
@@ -111,6 +115,7 @@ void ZoneStyleDialog::replaceColumnHeader(TableColumnHeader* header, QWidget* pa
         m_lastHeader->setParent(nullptr);
     }
     m_tableView->setHorizontalHeader(header);
+    header->restoreSections();
     header->show();
     m_mapSelection->setParent(nullptr);
     addTableViewAndFilterTo(page);
@@ -137,21 +142,21 @@ void ZoneStyleDialog::addTableViewAndFilterTo(QWidget* page)
 
 TableColumnHeader* ZoneStyleDialog::getHeaderForModel(ModelAbstract* model)
 {
-    TableColumnHeader*& header = m_headers[model];
+    std::unique_ptr<TableColumnHeader>& header = m_headers[model];
     if (header)
-        return header;
-    header = new TableColumnHeader(Qt::Horizontal);
+        return header.get();
+    header = std::make_unique<TableColumnHeader>(Qt::Horizontal);
     header->setModel(model);
     header->setStretchLastSection(false);
     header->setCascadingSectionResizes(false);
-    connect(header, &QHeaderView::sectionResized, this, &ZoneStyleDialog::headerSectionResized);
-    return header;
+    connect(header.get(), &QHeaderView::sectionResized, this,
+            &ZoneStyleDialog::headerSectionResized);
+    return header.get();
 }
 
 /// Columns that two tabs share by title keep the width that the user gave them.
 void ZoneStyleDialog::configureColumnHeader(TableColumnHeader* header)
 {
-    header->restoreSections();
     if (m_lastHeader && m_lastHeader != header)
         header->copySectionSizes(*m_lastHeader);
     m_lastHeader = header;
@@ -165,8 +170,6 @@ void ZoneStyleDialog::headerSectionResized(int logicalIndex, int, int)
 void ZoneStyleDialog::destroyHeaders()
 {
     m_lastHeader = nullptr;
-    for (const auto& entry : m_headers)
-        delete entry.second;
     m_headers.clear();
 }
 

@@ -136,14 +136,12 @@ void ZoneStyleDialog::showTab(QTabWidget& tabWidget, QWidget& page, bool show)
     if (show == (current >= 0))
         return;
     if (!show) {
-        m_removedTabPositions.emplace(&page, formPosition(page));
         m_removedTabTexts[&page] = tabWidget.tabText(current);
         tabWidget.removeTab(current);
         return;
     }
     int index = 0;
-    while (index < tabWidget.count()
-           && formPosition(*tabWidget.widget(index)) < m_removedTabPositions[&page])
+    while (index < tabWidget.count() && formPosition(*tabWidget.widget(index)) < formPosition(page))
         ++index;
     tabWidget.insertTab(index, &page, m_removedTabTexts[&page]);
 }

@@ -101,6 +101,12 @@ void StyleTableView::setModel(ModelAbstract* newModel, int tabKey)
             &StyleTableView::sectionCountChanged);
 }
 
+void StyleTableView::adoptPlotType()
+{
+    if (m_plotType != CvlUtilFrameGetPlotType())
+        sizeColumns(Sizing::KeepRemembered);
+}
+
 /// Rows get their height before they exist: changing it afterwards takes a signal for each.
 void StyleTableView::adoptRowHeight()
 {
@@ -144,6 +150,7 @@ void StyleTableView::installDelegates()
 /// stays.
 void StyleTableView::sizeColumns(Sizing sizing)
 {
+    m_plotType = CvlUtilFrameGetPlotType();
     const int rows = m_model ? m_model->rowCount() : 0;
     if (rows == 0)
         return;
@@ -196,15 +203,35 @@ QModelIndex StyleTableView::moveCursor(CursorAction action, Qt::KeyboardModifier
 }
 
 /// Not every platform turns these keys into a request for the context menu.
+static bool opensMenu(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Menu
+        || (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier)
+        || (event.key() == Qt::Key_Down && event.modifiers() == Qt::AltModifier);
+}
+
 void StyleTableView::keyPressEvent(QKeyEvent* event)
 {
-    const bool isShiftF10 = event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier;
-    if (event->key() != Qt::Key_Menu && !isShiftF10) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (state() == EditingState || (!isReturn && !opensMenu(*event))) {
         TableView::keyPressEvent(event);
         return;
     }
-    event->accept();
-    openMenuAtCurrentCell();
+    event->accept(); // Return would go on to the dialog and close it
+    if (isReturn)
+        editCurrentCell();
+    else
+        openMenuAtCurrentCell();
+}
+
+/// In place where the cell can be edited so, else by its menu.
+void StyleTableView::editCurrentCell()
+{
+    const QPointer<StyleTableView> self(this);
+    QKeyEvent editKey(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
+    TableView::keyPressEvent(&editKey);
+    if (self && !editKey.isAccepted())
+        openMenuAtCurrentCell();
 }
 
 void StyleTableView::openMenuAtCurrentCell()

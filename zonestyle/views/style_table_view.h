@@ -3,6 +3,8 @@
 
 #include "zonestyle/controls/table_view.h"
 
+#include <sdk/base/types.h>
+
 #include <QPointer>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
@@ -15,8 +17,8 @@ class ItemDelegate;
 class PopupDialogBase;
 
 /// The table of a tab. A right click (or the Menu key) on a cell opens the column's pop-up editor
-/// or its menu; both act on all selected rows. Column widths are remembered by plot type and tab
-/// for the life of the process.
+/// or its menu; both act on all selected rows. Return edits the cell in place or opens its menu.
+/// Column widths are remembered by plot type and tab for the life of the process.
 class StyleTableView : public uicontrols::TableView
 {
     Q_OBJECT
@@ -28,6 +30,10 @@ public:
     /// Shows a chain of models (the head is not owned). `tabKey` tells the tab apart from others of
     /// the same plot type.
     void setModel(models::ModelAbstract* model, int tabKey);
+
+    /// To be called when the plot type may be another one: gives the columns the widths that they
+    /// had under it.
+    void adoptPlotType();
 
     /// Notes the present width of a column, such as after the user dragged its border.
     void rememberColumnWidth(int column);
@@ -51,6 +57,7 @@ private:
 
     void adoptPalette();
     bool editColumnEvent(QContextMenuEvent* event);
+    void editCurrentCell();
     void openMenuAtCurrentCell();
     void showMenu(const QList<QAction*>& actions, const QPoint& globalPosition);
     PopupDialogBase* makePopup(const QModelIndex& index, const QPoint& globalPosition);
@@ -63,6 +70,7 @@ private:
 
     QPointer<models::ModelAbstract> m_model; ///< not owned
     int m_tabKey = 0;
+    CvlInt64 m_plotType = 0; ///< that the columns are sized for
 };
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::views
