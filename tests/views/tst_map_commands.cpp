@@ -65,6 +65,7 @@ private Q_SLOTS:
     void changesTheSelectedMaps();
     void doesNothingWithoutASelection();
     void asksBeforeItDeletes();
+    void deletesNothingOfAnotherTable();
     void opensTheDialogThatCreates();
 };
 
@@ -137,6 +138,28 @@ void tst_MapCommands::asksBeforeItDeletes()
     QVERIFY(responder.isSettled());
     QCOMPARE(order(), "1 2 3 -4 5 6");
     QCOMPARE(fixture.selected(), "2-3");
+}
+
+/// The rows selected when the answer comes may be those of another plot type.
+void tst_MapCommands::deletesNothingOfAnotherTable()
+{
+    Maps fixture;
+    setStyle("PlotType", "", PlotType_Field2D);
+    runUntilIdle();
+    fixture.select({1});
+    setStyle("PlotType", "", PlotType_LineXY);
+    runUntilIdle();
+    fixture.select({2, 3});
+    ModalResponder responder;
+    responder.answer([](QDialog& box) {
+        setStyle("PlotType", "", PlotType_Field2D);
+        runUntilIdle();
+        qobject_cast<QMessageBox*>(&box)->button(QMessageBox::Ok)->click();
+    });
+    fixture.press(kDelete);
+    QVERIFY(responder.isSettled());
+    QCOMPARE(order(), "1 2 3 -4 5 6");
+    QCOMPARE(takeWrites(), "");
 }
 
 void tst_MapCommands::opensTheDialogThatCreates()

@@ -57,11 +57,15 @@ void ZoneStyleDialog::on_plotAttr_MaptoolsDeleteMap_Button_clicked(bool)
     if (selectedRows(*m_tableView).isEmpty())
         return;
     const QPointer<ZoneStyleDialog> self(this);
+    const ModelAbstract* const askedFor = m_currentModel;
     const auto answer = QMessageBox::warning(
         this, tr("Linemap Delete"), tr("Are you sure you want to\ndelete the selected mappings?"),
         QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel);
-    if (self && answer == QMessageBox::Ok)
-        deleteLineMaps(actions::mapSet(selectedRows(*m_tableView)));
+    if (!self || answer != QMessageBox::Ok || m_currentModel != askedFor)
+        return;
+    const toolbox::Set maps = actions::mapSet(selectedRows(*m_tableView)); // that are left
+    if (!maps.isEmpty())
+        deleteLineMaps(maps);
 }
 
 /// One undo step: undoing it brings the maps back, active as they were.
