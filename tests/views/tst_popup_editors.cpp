@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
+#include <QScreen>
 #include <QToolButton>
 #include <QtTest>
 
@@ -221,12 +222,14 @@ void tst_PopupEditors::listBoxTakesAClick()
 {
     QWidget parent;
     QStringList committed;
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     const auto open = [&](const QString& current) {
         return new ListBoxDialog(
-            {}, &parent, [&](const QString& text) { committed << text; }, {"one", "two", "three"},
-            current, 150);
+            screen.bottomRight(), &parent, [&](const QString& text) { committed << text; },
+            {"one", "two", "three"}, current, 150);
     };
-    PopupResponder popups([](QWidget& popup) {
+    PopupResponder popups([&screen](QWidget& popup) {
+        QVERIFY(screen.contains(popup.geometry()));
         auto* list = popup.findChild<QListWidget*>("listBox");
         QCOMPARE(list->currentItem()->text(), "two");
         QCOMPARE(list->width(), 150);

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QToolTip>
 #include <QtTest>
 
 using namespace corvala;
@@ -55,6 +56,7 @@ private Q_SLOTS:
     void paintsTheSelection_data();
     void paintsTheSelection();
     void hasRoomForSixRows();
+    void showsCutTextsAsToolTips();
 };
 
 void tst_TableGestures::checkBoxSwitchesSelectedRows_data()
@@ -102,6 +104,17 @@ void tst_TableGestures::checkBoxWorksWhereItIsGreyed()
     QVERIFY(!fixture.model().isRelevant(fixture.model().index(1, kShowMesh)));
     fixture.clickCheckBox(2, kShowMesh);
     QCOMPARE(styleValue("FieldMap.Mesh.Show", 2), 1);
+
+    fixture.table().clearSelection();
+    const auto picture = [&fixture] {
+        const QRect cell = fixture.table().visualRect(fixture.model().index(2, kShowMesh));
+        return fixture.table().viewport()->grab(cell).toImage();
+    };
+    const QImage enabled = picture();
+    setStyle("FieldMap.Mesh.Show", "3", 1);
+    setStyle("FieldLayers.ShowMesh", "", 0);
+    runUntilIdle();
+    QVERIFY(picture() != enabled); // checked as before
 }
 
 void tst_TableGestures::checkBoxNeedsPressAndReleaseOnIt()
@@ -126,24 +139,25 @@ void tst_TableGestures::checkBoxNeedsPressAndReleaseOnIt()
 
 void tst_TableGestures::editsOneCellInPlace_data()
 {
-    QTest::addColumn<bool>("byKey");
+    QTest::addColumn<int>("startKey"); // 0: by a double click
     QTest::addColumn<int>("endKey");
     QTest::addColumn<QString>("groups");
-    QTest::newRow("double click, Return") << false << int(Qt::Key_Return) << "1 1 5 1";
-    QTest::newRow("F2, Return") << true << int(Qt::Key_Return) << "1 1 5 1";
-    QTest::newRow("double click, Escape") << false << int(Qt::Key_Escape) << "1 1 1 1";
-    QTest::newRow("F2, Tab") << true << int(Qt::Key_Tab) << "1 1 5 1";
+    QTest::newRow("double click, Return") << 0 << int(Qt::Key_Return) << "1 1 5 1";
+    QTest::newRow("F2, Return") << int(Qt::Key_F2) << int(Qt::Key_Return) << "1 1 5 1";
+    QTest::newRow("Return, Enter") << int(Qt::Key_Return) << int(Qt::Key_Enter) << "1 1 5 1";
+    QTest::newRow("double click, Escape") << 0 << int(Qt::Key_Escape) << "1 1 1 1";
+    QTest::newRow("F2, Tab") << int(Qt::Key_F2) << int(Qt::Key_Tab) << "1 1 5 1";
 }
 
 void tst_TableGestures::editsOneCellInPlace()
 {
-    QFETCH(bool, byKey);
+    QFETCH(int, startKey);
     QFETCH(int, endKey);
     DialogFixture fixture("field2d");
     fixture.select({2, 3});
-    if (byKey) {
+    if (startKey != 0) {
         fixture.clickCell(3, kGroup, Qt::ShiftModifier);
-        fixture.key(Qt::Key_F2);
+        fixture.key(startKey);
     } else {
         fixture.doubleClickCell(3, kGroup);
     }
@@ -282,6 +296,8 @@ void tst_TableGestures::keysOpenTheMenuAtTheCurrentCell_data()
     QTest::addColumn<int>("modifiers");
     QTest::newRow("Menu") << int(Qt::Key_Menu) << 0;
     QTest::newRow("Shift+F10") << int(Qt::Key_F10) << int(Qt::ShiftModifier);
+    QTest::newRow("Alt+Down") << int(Qt::Key_Down) << int(Qt::AltModifier);
+    QTest::newRow("Return") << int(Qt::Key_Return) << 0; // not editable in place
 }
 
 void tst_TableGestures::keysOpenTheMenuAtTheCurrentCell()
@@ -307,6 +323,11 @@ void tst_TableGestures::keysOpenTheMenuAtTheCurrentCell()
     QCOMPARE(styleValue("FieldMap.Mesh.MeshType", 1), 0);
     QCOMPARE(styleValue("FieldMap.Mesh.MeshType", 150), 0);
     QVERIFY(styleValue("FieldMap.Mesh.MeshType", 2) != 0);
+    fixture.table().selectionModel()->setCurrentIndex(fixture.model().index(149, kNumber),
+                                                      QItemSelectionModel::NoUpdate);
+    fixture.key(key, Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(menus.shown(), 1);
+    QVERIFY(fixture.dialog().isVisible());
 }
 
 void tst_TableGestures::keysActOnTheSelection()
@@ -322,7 +343,11 @@ void tst_TableGestures::keysActOnTheSelection()
     QCOMPARE(styleValues("FieldMap.Mesh.Show", 5), "1 0 1 0 1");
     fixture.key(Qt::Key_Space);
     QCOMPARE(styleValues("FieldMap.Mesh.Show", 5), "1 1 1 1 1");
+    fixture.key(Qt::Key_Space, Qt::ControlModifier); // the row, not the box
+    QCOMPARE(fixture.selected(), "2");
+    fixture.key(Qt::Key_Space, Qt::ControlModifier);
     QCOMPARE(fixture.selected(), "2,4");
+    QCOMPARE(styleValues("FieldMap.Mesh.Show", 5), "1 1 1 1 1");
     fixture.key(Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(fixture.selected(), "1-12");
     fixture.key(Qt::Key_Down);
@@ -412,6 +437,23 @@ void tst_TableGestures::hasRoomForSixRows()
     QCOMPARE(fixture.table().rowHeight(11), rowHeight);
     StyleTableView empty;
     QCOMPARE(empty.minimumSizeHint(), QSize(1, 34));
+}
+
+void tst_TableGestures::showsCutTextsAsToolTips()
+{
+    DialogFixture fixture("field2d");
+    const QString name = "<b>inlet</b>/" + QString(60, 'x');
+    QVERIFY(host::Document::instance().renameZone(2, name.toStdString()));
+    runUntilIdle();
+    const auto toolTip = [&fixture](int map) {
+        const QPoint cell =
+            fixture.table().visualRect(fixture.model().index(map - 1, kName)).center();
+        QHelpEvent event(QEvent::ToolTip, cell, fixture.table().viewport()->mapToGlobal(cell));
+        QCoreApplication::sendEvent(fixture.table().viewport(), &event);
+        return QToolTip::text();
+    };
+    QCOMPARE(toolTip(1), QString());
+    QVERIFY2(toolTip(2).contains(name.toHtmlEscaped()), qPrintable(toolTip(2)));
 }
 
 QTEST_MAIN(tst_TableGestures)

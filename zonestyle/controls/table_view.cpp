@@ -195,6 +195,18 @@ QStyleOptionViewItem TableView::cellOption(const QModelIndex& index,
     return option;
 }
 
+/// Fills the room for the grid, too: on a screen with a fractional scale its lines leave some of
+/// it.
+static void fillSelected(QPainter& painter, const QStyleOptionViewItem& option)
+{
+    if (!option.state.testFlag(QStyle::State_Selected))
+        return;
+    const bool isActive = option.state.testFlag(QStyle::State_Active);
+    painter.fillRect(option.rect.adjusted(0, 0, 1, 1),
+                     option.palette.brush(isActive ? QPalette::Active : QPalette::Inactive,
+                                          QPalette::Highlight));
+}
+
 void TableView::paintCells(QPainter& painter, const CellBlock& cells)
 {
     QStyleOptionViewItem base = viewOptions();
@@ -203,6 +215,7 @@ void TableView::paintCells(QPainter& painter, const CellBlock& cells)
         for (int visual = cells.left; visual <= cells.right; ++visual) {
             const QModelIndex index = model()->index(row, horizontalHeader()->logicalIndex(visual));
             const QStyleOptionViewItem option = cellOption(index, base);
+            fillSelected(painter, option);
             style()->drawPrimitive(QStyle::PE_PanelItemViewRow, &option, &painter, this);
             itemDelegate(index)->paint(&painter, option, index);
         }

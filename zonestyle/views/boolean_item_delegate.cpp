@@ -56,12 +56,17 @@ bool BooleanItemDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
         return handlePress(*static_cast<QMouseEvent*>(event), *model, option, index);
     case QEvent::MouseButtonRelease:
         return handleRelease(*static_cast<QMouseEvent*>(event), option, index);
-    case QEvent::KeyPress: {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        return (key == Qt::Key_Space || key == Qt::Key_Select) && toggleSelectedRows(index);
-    }
+    case QEvent::KeyPress: return handleKey(*static_cast<QKeyEvent*>(event), index);
     default: return false;
     }
+}
+
+/// With Ctrl or Shift these keys are the table's own: they select rows.
+bool BooleanItemDelegate::handleKey(const QKeyEvent& event, const QModelIndex& index)
+{
+    const bool toggles = event.key() == Qt::Key_Space || event.key() == Qt::Key_Select;
+    const bool selects = event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
+    return toggles && !selects && toggleSelectedRows(index);
 }
 
 /// The check box of a cell that is greyed works all the same.

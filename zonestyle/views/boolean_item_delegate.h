@@ -29,6 +29,7 @@ private:
                                        const QModelIndex& index) const;
     bool isOnCheckBox(const QStyleOptionViewItem& option, const QModelIndex& index,
                       const QPoint& position) const;
+    bool handleKey(const QKeyEvent& event, const QModelIndex& index);
     bool handlePress(QMouseEvent& event, QAbstractItemModel& model,
                      const QStyleOptionViewItem& option, const QModelIndex& index);
     void selectPressedRow(Qt::KeyboardModifiers modifiers);

@@ -5,9 +5,11 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QTimer>
+#include <QToolTip>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
 
@@ -36,6 +38,7 @@ QStyleOptionViewItem ItemDelegate::cellOption(const QStyleOptionViewItem& option
     cell.state.setFlag(QStyle::State_Enabled, isRelevant(index));
     if (cell.state.testFlag(QStyle::State_Enabled))
         return cell;
+    cell.palette.setCurrentColorGroup(QPalette::Disabled); // check marks take their colour from it
     const bool isActive = cell.state.testFlag(QStyle::State_Active);
     cell.palette.setBrush(QPalette::Disabled, QPalette::Highlight,
                           option.palette.brush(isActive ? QPalette::Active : QPalette::Inactive,
@@ -131,6 +134,20 @@ bool ItemDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
             index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     }
     return QItemDelegate::editorEvent(event, model, option, index);
+}
+
+bool ItemDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                             const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const QVariant shown = index.data(Qt::DisplayRole);
+    const bool isCut = shown.type() == QVariant::String
+        && QItemDelegate::sizeHint(option, index).width() > option.rect.width();
+    if (event->type() != QEvent::ToolTip || !isCut || index.data(Qt::ToolTipRole).isValid())
+        return QItemDelegate::helpEvent(event, view, option, index);
+    QToolTip::showText(event->globalPos(),
+                       QStringLiteral("<span>%1</span>").arg(shown.toString().toHtmlEscaped()),
+                       view, option.rect);
+    return true;
 }
 
 void ItemDelegate::drawDisplay(QPainter* painter, const QStyleOptionViewItem& option,

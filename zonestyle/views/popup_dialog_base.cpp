@@ -3,8 +3,10 @@
 
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QScreen>
 
 #include <utility>
 
@@ -40,6 +42,7 @@ void PopupDialogBase::run(PopupDialogBase* popup)
     const QPointer<PopupDialogBase> guard(popup);
     QEventLoop loop; // QDialog::exec would reset the result
     popup->d->loop = &loop;
+    popup->moveOntoScreen();
     popup->show();
     if (guard && guard->isVisible())
         loop.exec(QEventLoop::DialogExec);
@@ -47,6 +50,18 @@ void PopupDialogBase::run(PopupDialogBase* popup)
         return;
     guard->d->loop = nullptr;
     guard->deleteLater();
+}
+
+/// Near the right and bottom borders a pop-up opens towards the other side.
+void PopupDialogBase::moveOntoScreen()
+{
+    const QScreen* screen = QGuiApplication::screenAt(pos());
+    if (!screen)
+        return;
+    adjustSize();
+    const QRect room = screen->availableGeometry();
+    move(qMax(room.left(), qMin(x(), room.right() + 1 - width())),
+         qMax(room.top(), qMin(y(), room.bottom() + 1 - height())));
 }
 
 /// Qt closes a pop-up on a click elsewhere, and then rejects it.

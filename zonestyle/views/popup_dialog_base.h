@@ -18,7 +18,8 @@ class PopupDialogBase : public QDialog
 public:
     using Commit = std::function<void(const QString& text)>;
 
-    /// `commit` is called at most once, while the pop-up closes.
+    /// The position is that of the top left corner, as far as the screen has room there. `commit`
+    /// is called at most once, while the pop-up closes.
     PopupDialogBase(const QPoint& globalPosition, QWidget* parent, Commit commit);
     ~PopupDialogBase() override;
 
@@ -37,6 +38,8 @@ protected:
     virtual std::optional<QString> enteredText() const = 0;
 
 private:
+    void moveOntoScreen();
+
     struct Private;
     std::unique_ptr<Private> d;
 };
