@@ -114,7 +114,9 @@ QLineEdit* CurveFitSettingsForm::addNumber(QGroupBox& group, const QString& labe
 {
     auto* edit = new QLineEdit(&group);
     auto* validator = new QDoubleValidator(edit);
-    validator->setLocale(QLocale::c());
+    QLocale locale = QLocale::c();
+    locale.setNumberOptions(QLocale::RejectGroupSeparator); // which toDouble does not read
+    validator->setLocale(locale);
     edit->setValidator(validator);
     connect(edit, &QLineEdit::textChanged, this, &CurveFitSettingsForm::changed);
     static_cast<QFormLayout*>(group.layout())->addRow(label, edit);

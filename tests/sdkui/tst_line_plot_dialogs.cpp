@@ -369,6 +369,8 @@ void TestLinePlotDialogs::settingsRefuseIncompleteInput_data()
                                     << "2" << true;
     QTest::newRow("ends before it begins") << "2"
                                            << "1" << false;
+    QTest::newRow("commas do not get in") << "1,500"
+                                          << "2000" << true;
     QTest::newRow("half a number") << "1"
                                    << "3e" << false;
 }
@@ -387,6 +389,7 @@ void TestLinePlotDialogs::settingsRefuseIncompleteInput()
     QCOMPARE(buttonNamed(dialog, "Apply")->isEnabled(), accepted);
     QTest::keyClick(&dialog, Qt::Key_Return);
     QCOMPARE(dialog.isVisible(), !accepted);
+    from.remove(',');
     QCOMPARE(tests::lineValue("Curves", "IndVarMin", 1), accepted ? from.toDouble() : 0.0);
     dialog.close();
 }
