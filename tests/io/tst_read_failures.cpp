@@ -115,7 +115,7 @@ private Q_SLOTS:
                    "format=\"appended\" offset=\"0\"/></PointData></Piece></ImageData>"
                    "<AppendedData encoding=\"raw\">_")
                 + QByteArray("\x20\0\0\0\0\0\0\0", 8) + QByteArray(20, '\1')
-            << "a.vti could not be read: its end is missing";
+            << "a.vti could not be read: it is cut off";
         QTest::newRow("legacy without the first line")
             << "a.vtk" << QByteArray("DATASET POLYDATA") << "# vtk DataFile";
         QTest::newRow("UTF-16") << "a.vtk" << QByteArray("\xff\xfe#\0 \0v\0t\0k\0", 12)
@@ -201,7 +201,7 @@ private Q_SLOTS:
         QTest::newRow("not EnSight") << "a.case" << QByteArray("x") << "no EnSight case file";
         QTest::newRow("EnSight without files")
             << "a.case" << QByteArray("FORMAT\ntype: ensight gold\nGEOMETRY\nmodel: \"b c.geo\"\n")
-            << "a.case";
+            << "b c.geo could not be read: there is no such file";
         QTest::newRow("netCDF that is cut off")
             << "a.exo" << netcdf() + QByteArray(40, '\1') << "cut off: 120 of 144 bytes";
         QTest::newRow("netCDF with half a header")
@@ -209,6 +209,10 @@ private Q_SLOTS:
         QTest::newRow("netCDF that is not Exodus")
             << "a.exo" << netcdf() + QByteArray(64, '\1') << "a.exo could not be read: ";
         QTest::newRow("marker without a case") << "a.foam" << QByteArray() << "a.foam";
+        QTest::newRow("Plot3D that would fill the disk")
+            << "a.xyz"
+            << "1000000 1000000 3" + QByteArray(" 1000000000*0").repeated(9000)
+            << "9000000000003 numbers";
         QTest::newRow("Plot3D with words") << "a.xyz" << QByteArray("1 2 3 D") << "no number";
     }
 

@@ -87,6 +87,8 @@ QString UnquotedCase::alias(const QString& fileName)
 
 QString UnquotedCase::link(const QString& target)
 {
+    if (!QFileInfo::exists(target))
+        throw ReadFailure(target, QT_TRANSLATE_NOOP("ReadMessage", "there is no such file"));
     const QString name = QStringLiteral("link%1").arg(m_links++);
     QFile::link(target, m_folder.filePath(name));
     return name;

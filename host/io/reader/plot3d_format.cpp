@@ -16,6 +16,8 @@
 
 namespace corvala::host::io::reader {
 
+static constexpr std::int64_t kMostNumbers = 4'000'000'000; ///< of a text, with repeats
+
 /// Grid files with their solutions and functions, over time. VTK's own detection takes text for
 /// binary without an error, so the layout is found here and VTK's is off.
 class Plot3DFile : public DataFile
@@ -34,7 +36,8 @@ private:
     Plot3DGrids openGrid(QString& file);
     void openCompanion(QString& file, const Plot3DGrids& grids, const Plot3DStep& step,
                        bool isFunction);
-    std::optional<Plot3DText> openText(QString& file);
+    std::optional<Plot3DText> openText(const QString& file) const;
+    void makePlain(QString& file, const std::optional<Plot3DText>& text);
 
     Plot3DSeries m_series;
     QDir m_helperFolder;
@@ -66,24 +69,33 @@ static bool looksLikeText(const QString& path)
     });
 }
 
-/// The scan of a text file, and nothing for a binary one. Text in a form that VTK misreads is
-/// copied, and `file` becomes the copy.
-std::optional<Plot3DText> Plot3DFile::openText(QString& file)
+/// The scan of a text file, and nothing for a binary one.
+std::optional<Plot3DText> Plot3DFile::openText(const QString& file) const
 {
     if (!m_series.layout.ascii.value_or(looksLikeText(file)))
         return std::nullopt;
-    std::optional<Plot3DText> text = scanPlot3DText(file);
+    const std::optional<Plot3DText> text = scanPlot3DText(file);
     if (!text)
         throw ReadFailure(
             file,
             QT_TRANSLATE_NOOP("ReadMessage", "there is something in the text that is no number"));
-    if (text->isPlain)
-        return text;
+    if (text->count > kMostNumbers)
+        throw ReadFailure(
+            file, QT_TRANSLATE_NOOP("ReadMessage", "it has %1 numbers, which are more than fit"),
+            {QString::number(text->count)});
+    return text;
+}
+
+/// Text in a form that VTK misreads is copied, and `file` becomes the copy. To be called for a file
+/// that is known to be sound: a few repeat counts would fill any disk.
+void Plot3DFile::makePlain(QString& file, const std::optional<Plot3DText>& text)
+{
+    if (!text || text->isPlain)
+        return;
     const QString copy = m_helperFolder.filePath(QStringLiteral("plain%1").arg(m_copies++));
     if (!writePlainText(file, copy))
         throw ReadFailure::ofFullDisk(m_helperFolder.path());
     file = copy;
-    return text;
 }
 
 Plot3DGrids Plot3DFile::openGrid(QString& file)
@@ -106,6 +118,7 @@ Plot3DGrids Plot3DFile::openGrid(QString& file)
             std::initializer_list<QString> {QFileInfo(original).fileName(),
                                             describe(grids->layout)});
     m_layout = m_layout.value_or(grids->layout);
+    makePlain(file, text);
     return *grids;
 }
 
@@ -122,7 +135,7 @@ void Plot3DFile::openCompanion(QString& file, const Plot3DGrids& grids, const Pl
     if (fit == Plot3DFit::CutOff)
         throw ReadFailure(original, QT_TRANSLATE_NOOP("ReadMessage", "it is cut off"));
     if (fit == Plot3DFit::Fits)
-        return;
+        return makePlain(file, text);
     const bool isUnmarked = fit == Plot3DFit::Unmarked;
     if (!step.areGuessed)
         throw ReadFailure(

@@ -112,7 +112,8 @@ std::optional<Plot3DText> scanPlot3DText(const QString& path)
             return std::nullopt;
         leads = leads && number->isWhole && result.leading.size() < kMostLeading
             && std::abs(number->value) < 1e15;
-        for (std::int64_t i = 0; leads && i < number->repeats; ++i)
+        for (std::int64_t i = 0;
+             leads && i < number->repeats && result.leading.size() < kMostLeading; ++i)
             result.leading.push_back(static_cast<std::int64_t>(number->value));
         result.count += number->repeats;
         result.isPlain = result.isPlain && number->isPlain;

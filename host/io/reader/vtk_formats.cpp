@@ -81,7 +81,9 @@ static void requireEnds(const QString& path)
             continue;
         seen.insert(each);
         if (!lastBytes(each, kLongestEnd).contains("</VTKFile"))
-            throw ReadFailure(each, QT_TRANSLATE_NOOP("ReadMessage", "its end is missing"));
+            throw ReadFailure(
+                each,
+                QT_TRANSLATE_NOOP("ReadMessage", "it is cut off: the end of the XML is missing"));
         files += filesNamedIn(each);
     }
 }
