@@ -103,21 +103,29 @@ double numberAt(const Attribute& attribute, const Place& place)
                               : place.list->integer(attribute, place.number);
 }
 
+/// Zones of the active field maps; every zone belongs to one map.
+host::MapSet activeZones(const host::Frame& frame)
+{
+    const host::MapSet& maps = frame.activeFieldMaps();
+    if (frame.hasData() && static_cast<CvlInt64>(maps.cardinality()) == frame.fieldMapCount())
+        return host::allUpTo(frame.data()->zoneCount());
+    host::MapSet zones;
+    for (const std::uint32_t map : maps)
+        for (const std::int64_t zone : frame.fieldMaps().zones(map))
+            zones.add(static_cast<std::uint32_t>(zone));
+    return zones;
+}
+
 std::optional<Set> readSet(const Attribute& attribute, CvlUniqueId frameId)
 {
     const host::Frame* const frame = Document::instance().frame(frameId);
     if (!frame)
         return {};
     Set set;
-    if (attribute.names.front() == "ActiveLineMaps") {
-        set.handle()->members = frame->activeLineMaps();
-    } else if (attribute.names.front() == "ActiveFieldMaps") {
-        set.handle()->members = frame->activeFieldMaps();
-    } else {
-        for (const std::uint32_t map : frame->activeFieldMaps())
-            for (const std::int64_t zone : frame->fieldMaps().zones(map))
-                set.add(zone);
-    }
+    const std::string& name = attribute.names.front();
+    set.handle()->members = name == "ActiveLineMaps" ? frame->activeLineMaps()
+        : name == "ActiveFieldMaps"                  ? frame->activeFieldMaps()
+                                                     : activeZones(*frame);
     return set;
 }
 
