@@ -83,14 +83,14 @@ void DataOpener::start(const ReadRequest& request)
 void DataOpener::take(const ReadResult& result)
 {
     Q_EMIT ended();
-    if (result.cancelled)
-        return;
-    if (!result.data) {
+    if (result.cancelled) {
+        Q_EMIT cancelled();
+    } else if (!result.data) {
         Q_EMIT failed(result.error);
-        return;
+    } else {
+        attach(result);
+        Q_EMIT opened(result);
     }
-    attach(result);
-    Q_EMIT opened(result);
 }
 
 } // namespace corvala::app

@@ -41,6 +41,7 @@ Q_SIGNALS:
     /// `percent` is 0 to 100, or -1 when unknown.
     void progress(int percent, const QString& what);
     void ended();
+    void cancelled();
     void opened(const corvala::host::io::ReadResult& result);
     void failed(const QString& error);
 

@@ -9,20 +9,31 @@ namespace corvala::app {
 
 static const char* const kPlatform = "QT_QPA_PLATFORM";
 
-static bool hasXServer()
+Display::~Display()
 {
-    ::Display* connection = ::XOpenDisplay(nullptr);
-    if (connection)
-        ::XCloseDisplay(connection);
-    return connection != nullptr;
+    if (m_connection)
+        ::XCloseDisplay(m_connection);
 }
 
-/// A script opens windows, which must not come to the user's screen when a picture is drawn.
+bool Display::findXServer()
+{
+    if (!m_connection)
+        m_connection = ::XOpenDisplay(nullptr);
+    return m_connection != nullptr;
+}
+
+static QString message(const char* text)
+{
+    return QCoreApplication::translate("Display", text);
+}
+
+/// A script and a report open windows, which must not come to the user's screen when a picture is
+/// drawn.
 QString Display::preparePicture(const Options& options)
 {
     const QByteArray platform = qgetenv(kPlatform);
-    const bool canUseScreen = (platform.isEmpty() || platform == "xcb") && hasXServer();
-    if (!canUseScreen || !options.script.isEmpty()) {
+    const bool canUseScreen = (platform.isEmpty() || platform == "xcb") && findXServer();
+    if (!canUseScreen || !options.script.isEmpty() || !options.report.isEmpty()) {
         const QString error = m_server.start();
         if (error.isEmpty())
             qputenv("DISPLAY", m_server.display().toLatin1());
@@ -37,10 +48,11 @@ QString Display::prepare(const Options& options)
 {
     if (!options.picture.isEmpty())
         return preparePicture(options);
-    if (!qEnvironmentVariableIsEmpty(kPlatform))
+    const QByteArray platform = qgetenv(kPlatform);
+    if (!platform.isEmpty() && platform != "xcb")
         return {};
     const bool needsNoScreen = !options.report.isEmpty() && options.script.isEmpty();
-    if (!needsNoScreen && hasXServer()) {
+    if ((!platform.isEmpty() || !needsNoScreen) && findXServer()) {
         qputenv(kPlatform, "xcb");
         return {};
     }
@@ -49,10 +61,11 @@ QString Display::prepare(const Options& options)
         return {};
     }
     if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        return {};
-    return QCoreApplication::translate(
+        return message(QT_TRANSLATE_NOOP(
+            "Display", "plots are drawn through an X server: install the package xwayland"));
+    return message(QT_TRANSLATE_NOOP(
         "Display",
-        "there is no screen to show a window on; --play, --report and --render need none");
+        "there is no screen to show a window on; --play, --report and --render need none"));
 }
 
 } // namespace corvala::app

@@ -58,7 +58,7 @@ LayerBar::LayerBar(QWidget* parent)
 
 void LayerBar::addPlotTypes()
 {
-    auto* label = new QLabel(tr("&Plot type:"), this);
+    auto* label = new QLabel(tr("Plot t&ype:"), this);
     label->setBuddy(m_plotType);
     addWidget(label);
     addWidget(m_plotType);

@@ -3,6 +3,7 @@
 
 #include "app/layer_bar.h"
 #include "app/notice_bar.h"
+#include "app/picture_file.h"
 #include "app/plot3d_dialog.h"
 #include "app/plot3d_layout.h"
 #include "app/plot_area.h"
@@ -19,6 +20,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHash>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -72,34 +74,73 @@ void MainWindow::makeCentre()
     statusBar()->addPermanentWidget(m_summary);
 }
 
+/// The keys of a command work in the style dialog too.
+static void setKeys(QAction& action, const QKeySequence& keys)
+{
+    action.setShortcut(keys);
+    action.setShortcutContext(Qt::ApplicationShortcut);
+}
+
 void MainWindow::makeFileMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
-    m_open = menu->addAction(style()->standardIcon(QStyle::SP_DialogOpenButton), tr("&Open..."),
-                             this, &MainWindow::chooseFiles, QKeySequence::Open);
-    menu->addAction(tr("Open &Plot3D..."), this, &MainWindow::choosePlot3DFiles);
-    addDataMenus(*menu);
+    QAction* open = menu->addAction(style()->standardIcon(QStyle::SP_DialogOpenButton),
+                                    tr("&Open..."), this, &MainWindow::chooseFiles);
+    setKeys(*open, QKeySequence::Open);
+    QAction* plot3d = menu->addAction(tr("Open &Plot3D..."), this, &MainWindow::choosePlot3DFiles);
+    QMenu* recent = menu->addMenu(tr("Open &Recent"));
+    connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentMenu(*recent); });
+    m_openCommands << open << plot3d << recent->menuAction();
+    addSampleMenu(*menu);
+    addDemoMenu(*menu);
     menu->addSeparator();
     m_savePicture = menu->addAction(tr("&Save Picture..."), this, &MainWindow::savePicture);
     menu->addSeparator();
-    menu->addAction(tr("&Quit"), qApp, &QApplication::closeAllWindows, QKeySequence::Quit);
+    setKeys(*menu->addAction(tr("&Quit"), qApp, &QApplication::closeAllWindows),
+            QKeySequence::Quit);
 }
 
-void MainWindow::addDataMenus(QMenu& menu)
+void MainWindow::addSampleMenu(QMenu& menu)
 {
-    QMenu* recent = menu.addMenu(tr("Open &Recent"));
-    connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentMenu(*recent); });
     const std::vector<host::io::Sample> samples = host::io::sampleList();
+    if (samples.empty())
+        return;
     QMenu* sampleMenu = menu.addMenu(tr("Sa&mples"));
-    sampleMenu->setEnabled(!samples.empty());
     for (const host::io::Sample& sample : samples)
         sampleMenu->addAction(sample.title, this,
                               [this, files = sample.files] { openFiles(files); });
+    m_openCommands << sampleMenu->menuAction();
+}
+
+static QString demoTitle(const QString& name)
+{
+    static const QHash<QString, const char*> titles {
+        {"field2d", QT_TRANSLATE_NOOP("corvala::app::MainWindow", "2D field, 12 zones")},
+        {"field3d", QT_TRANSLATE_NOOP("corvala::app::MainWindow", "3D field, 12 zones")},
+        {"kinds", QT_TRANSLATE_NOOP("corvala::app::MainWindow", "Zones of all kinds")},
+        {"transient", QT_TRANSLATE_NOOP("corvala::app::MainWindow", "Transient zones")},
+        {"xy", QT_TRANSLATE_NOOP("corvala::app::MainWindow", "XY lines")},
+        {"polar", QT_TRANSLATE_NOOP("corvala::app::MainWindow", "Polar lines")}};
+    const char* title = titles.value(name);
+    return title ? MainWindow::tr(title) : name;
+}
+
+void MainWindow::addDemoMenu(QMenu& menu)
+{
     QMenu* demos = menu.addMenu(tr("&Demonstration Data"));
-    for (const std::string& name : samples::demoNames()) {
-        const QString text = QString::fromStdString(name);
-        demos->addAction(text, this, [this, text] { openDemo(text); });
+    for (const std::string& demo : samples::demoNames()) {
+        const QString name = QString::fromStdString(demo);
+        demos->addAction(demoTitle(name), this, [this, name] { openDemo(name); });
     }
+    m_openCommands << demos->menuAction();
+}
+
+/// Files that belong together, in a few words.
+static QString shownName(const QStringList& files)
+{
+    const QString name = QFileInfo(files.value(0)).fileName();
+    return files.size() > 1 ? MainWindow::tr("%1 and %n more", nullptr, files.size() - 1).arg(name)
+                            : name;
 }
 
 void MainWindow::fillRecentMenu(QMenu& menu)
@@ -107,9 +148,7 @@ void MainWindow::fillRecentMenu(QMenu& menu)
     menu.clear();
     const QList<QStringList> entries = recentFiles();
     for (const QStringList& files : entries) {
-        QString text = QFileInfo(files.first()).fileName();
-        if (files.size() > 1)
-            text = tr("%1 and %n more", nullptr, files.size() - 1).arg(text);
+        QString text = shownName(files);
         QAction* action = menu.addAction(text.replace(QLatin1Char('&'), QLatin1String("&&")), this,
                                          [this, files] { openFiles(files); });
         action->setStatusTip(files.join(QStringLiteral(", ")));
@@ -118,12 +157,18 @@ void MainWindow::fillRecentMenu(QMenu& menu)
         menu.addAction(tr("No Files Yet"))->setEnabled(false);
 }
 
+/// An icon of the desktop's theme, or of the style where the theme has none.
+static QIcon iconOf(const char* name, QStyle::StandardPixmap other)
+{
+    return QIcon::fromTheme(QLatin1String(name), QApplication::style()->standardIcon(other));
+}
+
 void MainWindow::makeEditMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Edit"));
-    m_undo = menu->addAction(style()->standardIcon(QStyle::SP_ArrowBack), tr("&Undo"), this,
+    m_undo = menu->addAction(iconOf("edit-undo", QStyle::SP_ArrowBack), tr("&Undo"), this,
                              [] { Document::instance().undo().undo(); });
-    m_redo = menu->addAction(style()->standardIcon(QStyle::SP_ArrowForward), tr("&Redo"), this,
+    m_redo = menu->addAction(iconOf("edit-redo", QStyle::SP_ArrowForward), tr("&Redo"), this,
                              [] { Document::instance().undo().redo(); });
     m_undo->setShortcuts(QKeySequence::Undo);
     m_redo->setShortcuts(QKeySequence::Redo);
@@ -142,7 +187,7 @@ void MainWindow::makePlotMenu()
         if (m_plotArea->frameView())
             m_plotArea->frameView()->fitView();
     });
-    m_fitView->setShortcut(QKeySequence(QStringLiteral("Ctrl+0")));
+    setKeys(*m_fitView, QKeySequence(QStringLiteral("Ctrl+0")));
 }
 
 void MainWindow::makeHelpMenu()
@@ -165,7 +210,7 @@ void MainWindow::makeToolBars()
 {
     QToolBar* main = addToolBar(tr("Main"));
     main->setObjectName(QStringLiteral("mainBar"));
-    main->addActions({m_open, m_undo, m_redo});
+    main->addActions({m_openCommands.first(), m_undo, m_redo});
     main->addSeparator();
     main->addAction(m_styleDialog);
     m_layerBar = new LayerBar(this);
@@ -176,20 +221,26 @@ void MainWindow::makeToolBars()
 
 void MainWindow::connectOpener()
 {
-    connect(&m_opener, &DataOpener::started, this, [this] {
-        m_open->setEnabled(false);
-        m_reading->begin(tr("Reading..."));
-    });
+    connect(&m_opener, &DataOpener::started, this, [this] { setReading(true); });
     connect(&m_opener, &DataOpener::progress, m_reading, &WorkProgress::advance);
     connect(m_reading, &WorkProgress::cancelled, &m_opener, &DataOpener::cancel);
-    connect(&m_opener, &DataOpener::ended, this, [this] {
-        m_open->setEnabled(true);
-        m_reading->end();
-    });
+    connect(&m_opener, &DataOpener::ended, this, [this] { setReading(false); });
     connect(&m_opener, &DataOpener::opened, this, &MainWindow::tellOpened);
     connect(&m_opener, &DataOpener::failed, this, &MainWindow::showProblem);
     connect(&m_opener, &DataOpener::opened, this, [this] { Q_EMIT openingEnded(true); });
     connect(&m_opener, &DataOpener::failed, this, [this] { Q_EMIT openingEnded(false); });
+    connect(&m_opener, &DataOpener::cancelled, this, [this] { Q_EMIT openingEnded(false); });
+}
+
+void MainWindow::setReading(bool isReading)
+{
+    for (QAction* command : m_openCommands)
+        command->setEnabled(!isReading);
+    m_notice->setEnabled(!isReading);
+    if (isReading)
+        m_reading->begin(tr("Reading %1...").arg(shownName(m_opener.request().files)));
+    else
+        m_reading->end();
 }
 
 void MainWindow::connectCanvas()
@@ -313,16 +364,18 @@ QImage MainWindow::canvasImage(QString* error)
 
 void MainWindow::savePicture()
 {
-    const QString file = QFileDialog::getSaveFileName(
-        this, tr("Save Picture"), QStringLiteral("plot.png"), tr("Pictures (*.png *.jpg *.bmp)"));
-    if (file.isEmpty())
+    QFileDialog dialog(this, tr("Save Picture"), {}, tr("Pictures (*.png *.jpg *.bmp)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("png"));
+    dialog.selectFile(QStringLiteral("plot.png"));
+    if (dialog.exec() != QDialog::Accepted)
         return;
     QString error;
     const QImage image = canvasImage(&error);
-    if (image.isNull())
+    if (!image.isNull())
+        error = writePicture(image, dialog.selectedFiles().value(0));
+    if (!error.isEmpty())
         showProblem(error);
-    else if (!image.save(file))
-        showProblem(tr("%1 cannot be written.").arg(file));
 }
 
 void MainWindow::openStyleDialog(DialogInitialization_e initialization)

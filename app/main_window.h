@@ -32,7 +32,8 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// Reads the files into the active frame while the window goes on.
+    /// Reads the files into the active frame while the window goes on. Ignored while a reading
+    /// runs; the commands that lead here are disabled then.
     void openFiles(const QStringList& files, const host::io::Plot3DLayout& plot3d = {});
     void openDemo(const QString& name);
     void openStyleDialog(corvala::dialogs::common::DialogInitialization_e initialization);
@@ -46,12 +47,13 @@ public:
     QImage canvasImage(QString* error);
 
 Q_SIGNALS:
-    /// Files that openFiles was asked for are opened, or could not be.
+    /// Files that openFiles was asked for are opened, or could not be, or the user cancelled.
     void openingEnded(bool opened);
 
 private:
     void makeFileMenu();
-    void addDataMenus(QMenu& menu);
+    void addSampleMenu(QMenu& menu);
+    void addDemoMenu(QMenu& menu);
     void fillRecentMenu(QMenu& menu);
     void makeEditMenu();
     void makePlotMenu();
@@ -59,6 +61,7 @@ private:
     void makeToolBars();
     void makeCentre();
     void connectOpener();
+    void setReading(bool isReading);
     void connectCanvas();
 
     void refresh();
@@ -85,7 +88,7 @@ private:
     WorkProgress* m_reading = nullptr;
     WorkProgress* m_drawing = nullptr;
     QLabel* m_summary = nullptr;
-    QAction* m_open = nullptr;
+    QList<QAction*> m_openCommands; ///< the first one is in the toolbar too
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
     QAction* m_fitView = nullptr;

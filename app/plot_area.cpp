@@ -28,7 +28,8 @@ PlotArea::PlotArea(QWidget* parent)
         layout->addWidget(m_frameView);
         return;
     }
-    auto* note = new QLabel(tr("Plots are drawn on X screens only."), this);
+    auto* note =
+        new QLabel(tr("Plots are drawn on X screens only: start with QT_QPA_PLATFORM=xcb."), this);
     note->setAlignment(Qt::AlignCenter);
     note->setWordWrap(true);
     layout->addWidget(note);

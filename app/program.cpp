@@ -6,6 +6,7 @@
 #include "app/display.h"
 #include "app/gesture_tracker.h"
 #include "app/main_window.h"
+#include "app/picture_file.h"
 #include "app/play/dialog_driver.h"
 #include "app/play/player.h"
 #include "app/play/style_report.h"
@@ -86,7 +87,7 @@ static QString drawPicture(const QString& file)
         plot::renderToImage(host::Document::instance().activeFrameId(), kPictureSize, &error);
     if (image.isNull())
         return Program::tr("%1 cannot be drawn: %2").arg(file, error);
-    return image.save(file) ? QString() : Program::tr("%1 cannot be written").arg(file);
+    return writePicture(image, file);
 }
 
 static int runBatch(MainWindow& window, const Options& options)

@@ -14,7 +14,7 @@ namespace corvala::plot {
 FrameView::FrameView(QWidget* parent)
     : Canvas(parent)
     , m_layout(new QStackedLayout(this))
-    , m_hint(new QLabel(tr("No data"), this))
+    , m_hint(new QLabel(this))
 {
     m_hint->setAlignment(Qt::AlignCenter);
     m_layout->addWidget(m_hint);
@@ -58,6 +58,10 @@ void FrameView::chooseCanvas()
         wanted->setFrame(frame());
         m_layout->setCurrentWidget(wanted);
     } else {
+        const bool hasData = drawn && drawn->hasData();
+        m_hint->setText(
+            hasData ? tr("Nothing is drawn for this plot type")
+                    : tr("No data: open a file, a sample or demonstration data in the File menu"));
         m_layout->setCurrentWidget(m_hint);
     }
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/main_window.h"
+#include "app/picture_file.h"
 #include "app/play/expectations.h"
 #include "app/play/idle.h"
 #include "app/play/images.h"
@@ -47,9 +48,9 @@ static QImage imageOf(Stage& stage, const QString& what)
 static void screenshot(Stage& stage, const Arguments& arguments)
 {
     const QImage image = imageOf(stage, arguments.text("of"));
-    const QString file = arguments.file("screenshot");
-    if (!image.save(file))
-        throw ScriptError(Text::tr("%1 cannot be written").arg(file));
+    const QString error = writePicture(image, arguments.file("screenshot"));
+    if (!error.isEmpty())
+        throw ScriptError(error);
 }
 
 static QString percent(double share)
