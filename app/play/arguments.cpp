@@ -94,6 +94,14 @@ QStringList Arguments::texts(const char* key) const
     return texts;
 }
 
+const Json& Arguments::list(const char* key) const
+{
+    const Json& value = at(key);
+    if (!value.is_array())
+        failKind(key, value, Text::tr("a list"));
+    return value;
+}
+
 QString Arguments::file(const char* key) const
 {
     const QString name = text(key);

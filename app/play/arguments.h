@@ -38,6 +38,7 @@ public:
     std::int64_t integer(const char* key) const; ///< a number without a fraction
     std::int64_t integer(const char* key, std::int64_t missing) const;
     QStringList texts(const char* key) const; ///< one text or a list of texts
+    const nlohmann::json& list(const char* key) const; ///< elements of any kind
     QString file(const char* key) const; ///< absolute path
     QString absolute(const QString& file) const { return QDir(m_folder).absoluteFilePath(file); }
     /// A set of maps such as "1-3,7"; `count` is what "all" means. The order is lost.
@@ -45,7 +46,7 @@ public:
 
     /// Throws for a key that is none of `known`.
     void allowOnly(std::initializer_list<const char*> known) const;
-    /// The same for an object inside the step, named in the message by `owner`.
+    /// The same for an object inside this one.
     Arguments inner(const char* key) const;
 
 private:

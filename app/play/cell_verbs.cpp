@@ -76,6 +76,8 @@ static void menu(Stage& stage, const Arguments& arguments)
 {
     const QModelIndex cell = cellOf(stage, arguments, "menu");
     const bool choosesColor = arguments.has("color");
+    if (choosesColor && arguments.has("choose"))
+        throw ScriptError(Text::tr("\"choose\" and \"color\" exclude each other"));
     const auto color = static_cast<int>(arguments.integer("color", 0));
     const Json choice = choosesColor ? Json() : arguments.at("choose");
     bool opened = false;
@@ -176,13 +178,27 @@ static void commit(Stage& stage, const Arguments& arguments)
         throw ScriptError(Text::tr("the table answered %1").arg(shown(answer)));
 }
 
+/// Whole rows, consecutive ones as one range.
+static QItemSelection rowsOf(const DialogDriver& dialog, const host::MapSet& maps)
+{
+    QItemSelection rows;
+    const int lastColumn = dialog.model().columnCount() - 1;
+    for (auto map = maps.begin(); map != maps.end();) {
+        const std::uint32_t first = *map;
+        std::uint32_t last = first;
+        while (++map != maps.end() && *map == last + 1)
+            last = *map;
+        rows.append({dialog.cell(first, 0), dialog.cell(last, lastColumn)});
+    }
+    return rows;
+}
+
 static void action(Stage& stage, const Arguments& arguments)
 {
     const int column = stage.dialog().column(arguments.at("column"));
     const host::MapSet maps = arguments.maps("action", stage.dialog().model().rowCount());
     QItemSelectionModel selection(&stage.dialog().model());
-    for (const QModelIndex& cell : stage.dialog().cells(maps, column))
-        selection.select(cell, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    selection.select(rowsOf(stage.dialog(), maps), QItemSelectionModel::Select);
     const QList<QAction*> actions = stage.dialog().actions(selection, column);
     QObject owner;
     for (QAction* entry : actions)

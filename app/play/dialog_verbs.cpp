@@ -90,7 +90,13 @@ static void select(Stage& stage, const Arguments& arguments)
     if (text == QLatin1String("none"))
         return clearSelection(stage);
     Qt::KeyboardModifiers modifiers = Qt::NoModifier;
+    host::MapSet clicked;
     for (const MapRange& range : rangesInOrder(text, stage.dialog().model().rowCount())) {
+        const auto first = static_cast<std::uint64_t>(range.first);
+        const auto end = static_cast<std::uint64_t>(range.last) + 1;
+        if (clicked.containsRange(first, end))
+            continue; // a click with Ctrl would take it away again
+        clicked.addRange(first, end);
         clickRow(stage, range.first, modifiers);
         modifiers = Qt::ControlModifier;
         if (range.last != range.first)

@@ -76,9 +76,8 @@ static host::StyleInput inputOf(const Json& value)
     throw ScriptError(Text::tr("%1 is no style value").arg(shown(value)));
 }
 
-static void open(Stage& stage, const Arguments& arguments)
+static void open(Stage&, const Arguments& arguments)
 {
-    stage.frame();
     host::io::ReadRequest request;
     for (const QString& file : arguments.texts("open"))
         request.files << arguments.absolute(file);
@@ -88,15 +87,16 @@ static void open(Stage& stage, const Arguments& arguments)
 
 static void demo(Stage&, const Arguments& arguments)
 {
-    require(!arguments.has("zones") || !arguments.has("maps"),
-            Text::tr("\"zones\" and \"maps\" exclude each other"));
-    const std::int64_t scale =
-        arguments.has("zones") ? arguments.integer("zones") : arguments.integer("maps", 0);
-    require(scale > 0 || (!arguments.has("zones") && !arguments.has("maps")),
-            Text::tr("the number of zones or maps must be 1 or more"));
+    const QString name = arguments.text("demo");
+    const bool isLine = name == QLatin1String("xy") || name == QLatin1String("polar");
+    const char* const key = isLine ? "maps" : "zones";
+    require(!arguments.has(isLine ? "zones" : "maps"),
+            Text::tr("\"%1\" is scaled by \"%2\"").arg(name, QLatin1String(key)));
+    const std::int64_t scale = arguments.integer(key, 0);
+    require(scale > 0 || !arguments.has(key),
+            Text::tr("\"%1\" must be 1 or more").arg(QLatin1String(key)));
     std::string error;
-    require(samples::openDemo(arguments.text("demo").toStdString(), scale, error),
-            QString::fromStdString(error));
+    require(samples::openDemo(name.toStdString(), scale, error), QString::fromStdString(error));
 }
 
 static void data(Stage& stage, const Arguments& arguments)
@@ -108,6 +108,8 @@ static void data(Stage& stage, const Arguments& arguments)
 static void rename(Stage& stage, const Arguments& arguments)
 {
     const std::string name = arguments.text("rename").toStdString();
+    require(arguments.has("zone") + arguments.has("variable") + arguments.has("lineMap") == 1,
+            Text::tr("\"rename\" takes one of \"zone\", \"variable\" and \"lineMap\""));
     host::Document& document = stage.document();
     bool done = false;
     if (arguments.has("zone")) {
@@ -205,6 +207,10 @@ static Json storedValue(Stage& stage, const Arguments& arguments)
     const host::Attribute& attribute = schema.at(id);
     if (attribute.type == host::ValueType::Maps)
         return activeMaps(stage.frame(), path.names.front() == "ActiveLineMaps");
+    const bool isOfMap =
+        attribute.scope == host::Scope::FieldMap || attribute.scope == host::Scope::LineMap;
+    require(isOfMap || !arguments.has("map"),
+            Text::tr("%1 is no value of a map").arg(shown(arguments.at("get"))));
     require(attribute.indexCount == 0 || (path.index >= 1 && path.index <= attribute.indexCount),
             Text::tr("%1 needs an index from 1 to %2")
                 .arg(shown(arguments.at("get")))
@@ -303,7 +309,7 @@ static host::Pick pickOf(const Json& element)
 static void pick(Stage& stage, const Arguments& arguments)
 {
     std::vector<host::Pick> picks;
-    for (const Json& element : arguments.at("pick"))
+    for (const Json& element : arguments.list("pick"))
         picks.push_back(pickOf(element));
     stage.document().setPicks(std::move(picks));
 }
@@ -334,15 +340,22 @@ static void deleteMaps(Stage& stage, const Arguments& arguments)
     require(done, Text::tr("these maps cannot be deleted"));
 }
 
+static std::int64_t stepsOf(const Arguments& arguments, const char* key)
+{
+    const std::int64_t steps = arguments.integer(key);
+    require(steps >= 1, Text::tr("\"%1\" must be 1 or more").arg(QLatin1String(key)));
+    return steps;
+}
+
 static void undo(Stage& stage, const Arguments& arguments)
 {
-    for (std::int64_t i = 0; i < arguments.integer("undo"); ++i)
+    for (std::int64_t i = 0; i < stepsOf(arguments, "undo"); ++i)
         require(stage.document().undo().undo(), Text::tr("there is nothing to undo"));
 }
 
 static void redo(Stage& stage, const Arguments& arguments)
 {
-    for (std::int64_t i = 0; i < arguments.integer("redo"); ++i)
+    for (std::int64_t i = 0; i < stepsOf(arguments, "redo"); ++i)
         require(stage.document().undo().redo(), Text::tr("there is nothing to redo"));
 }
 
@@ -356,7 +369,7 @@ static void symbols(Stage&, const Arguments& arguments)
 static void mappingTabs(Stage&, const Arguments& arguments)
 {
     std::set<ZoneStyleDialog::MappingStyleTab_e> tabs;
-    for (const Json& tab : arguments.at("mappingTabs")) {
+    for (const Json& tab : arguments.list("mappingTabs")) {
         require(tab.is_number_integer() && tab >= 0 && tab <= 6,
                 Text::tr("%1 is no tab number").arg(shown(tab)));
         tabs.insert(static_cast<ZoneStyleDialog::MappingStyleTab_e>(tab.get<int>()));

@@ -30,6 +30,14 @@ static bool isValue(const Json& value)
     return value.is_string() || value.is_number() || value.is_boolean();
 }
 
+static void checkCharacter(const Arguments& keys)
+{
+    keys.allowOnly({"character", "useBaseFont", "font"});
+    keys.text("character");
+    keys.boolean("useBaseFont", false);
+    keys.integer("font", 0);
+}
+
 static void checkReply(const Json& reply)
 {
     if (isValue(reply))
@@ -43,7 +51,7 @@ static void checkReply(const Json& reply)
         if (keys.has("refused"))
             return keys.allowOnly({"refused"});
         if (keys.has("character"))
-            return keys.allowOnly({"character", "useBaseFont", "font"});
+            return checkCharacter(keys);
     }
     throw ScriptError(Text::tr("%1 is no reply to a prompt").arg(shown(reply)));
 }
