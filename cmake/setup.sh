@@ -11,15 +11,22 @@ BENCH_PACKAGES="libbenchmark-dev"
 say() { printf '\n== %s\n' "$*"; }
 
 as_root() {
-  if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+  if [ "$(id -u)" -eq 0 ]; then
+    "$@"
+  elif command -v sudo > /dev/null; then
+    sudo "$@"
+  else
+    echo "There is no sudo here; run this as root: $*" >&2
+    return 1
+  fi
 }
 
 # require_packages PACKAGE...: installs those that are missing.
 require_packages() {
-  local missing=() package
+  local missing=() package present
+  present=" $(dpkg-query -W -f='${Package}:${db:Status-Status} ' "$@" 2> /dev/null || true)"
   for package in "$@"; do
-    dpkg-query -W -f='${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed \
-      || missing+=("$package")
+    [[ $present == *" $package:installed "* ]] || missing+=("$package")
   done
   [ ${#missing[@]} -eq 0 ] && return 0
   say "Installing: ${missing[*]}"
