@@ -2,6 +2,9 @@
 #pragma once
 
 #include "host/events/state_event.h"
+#include "host/style/schema.h"
+
+#include <algorithm>
 
 namespace corvala::plot {
 
@@ -11,6 +14,15 @@ inline bool concerns(const host::StateEvent& event, CvlUniqueId frame)
 {
     return event.frame == 0 || event.frame == frame || event.code == StateCode_DocumentCleared
         || event.code == StateCode_DocumentLoaded || event.code == StateCode_FrameListChanged;
+}
+
+/// Whether an event gives its frame another plot type, also by undo and redo.
+inline bool namesPlotType(const host::StateEvent& event)
+{
+    static const host::AttributeId kPlotType = host::Schema::instance().find({"PlotType"});
+    return std::any_of(
+        event.styleChanges.begin(), event.styleChanges.end(),
+        [](const host::StyleChange& change) { return change.attribute == kPlotType; });
 }
 
 } // namespace corvala::plot

@@ -3,6 +3,7 @@
 
 #include "plot/field/field_scene.h"
 
+#include <QColor>
 #include <QRectF>
 #include <QString>
 
@@ -13,16 +14,24 @@ class QPainter;
 
 namespace corvala::plot {
 
+/// Right, up and towards the viewer for each axis of the coordinates.
+using AxisDirections = std::array<std::array<double, 3>, 3>;
+
+/// The colour of axes and texts.
+QColor inkColor();
+
 /// Where the plot and what belongs to it lie in a picture, in pixels.
 struct FieldLayout
 {
     QRectF plot; ///< coordinates are drawn here
-    QRectF legends; ///< empty without legends
+    std::vector<QRectF> legends; ///< one for each
     double font = 12.0; ///< height of text
 };
 
-/// A flat plot leaves room for its axes; legends stand at the right.
-FieldLayout layOut(const QSize& size, bool flat, std::size_t legendCount);
+/// A flat plot leaves room for its axes, whose numbers at the left side are `yTexts` pixels wide;
+/// legends stand at the right, each as wide as its title and numbers need.
+FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>& legends,
+                   double yTexts = 0.0);
 
 /// The part of the plane that is seen.
 struct PlaneWindow
@@ -33,15 +42,16 @@ struct PlaneWindow
     double yMaximum = 1.0;
 };
 
+/// Width in pixels of the widest number at the left side of the plot.
+double yTextsWidth(const FieldLayout& layout, const PlaneWindow& window);
+
 /// Frame, ticks, numbers and titles round the plot.
 void paintPlaneAxes(QPainter& painter, const FieldLayout& layout, const PlaneWindow& window,
                     const QString& xTitle, const QString& yTitle);
 
-/// Small arrows that show how the coordinates X, Y and Z lie: right, up and towards the viewer for
-/// each of them.
+/// Small arrows that show how the coordinates X, Y and Z lie.
 void paintOrientation(QPainter& painter, const FieldLayout& layout,
-                      const std::array<std::array<double, 3>, 3>& directions,
-                      const std::array<QString, 3>& titles);
+                      const AxisDirections& directions, const std::array<QString, 3>& titles);
 
 void paintLegends(QPainter& painter, const FieldLayout& layout,
                   const std::vector<FieldLegend>& legends);

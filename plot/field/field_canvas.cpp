@@ -18,7 +18,6 @@
 #include <vtkInteractorStyleTrackballCamera.h>
 #include <vtkRenderWindowInteractor.h>
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -156,13 +155,6 @@ void FieldCanvas::frameChanged(CvlUniqueId previous)
     m_nextDrawing = kFirstDrawing;
 }
 
-static bool namesPlotType(const host::StateEvent& event)
-{
-    const host::AttributeId plotType = host::Schema::instance().find({"PlotType"});
-    return std::any_of(event.styleChanges.begin(), event.styleChanges.end(),
-                       [&](const auto& change) { return change.attribute == plotType; });
-}
-
 void FieldCanvas::documentChanged(const host::StateEvent& event)
 {
     const bool isOurs = concerns(event, frame());
@@ -173,6 +165,8 @@ void FieldCanvas::documentChanged(const host::StateEvent& event)
     } else if (isOurs && namesPlotType(event)) {
         m_cameras[{frame(), m_view.isFlat()}] = m_view.camera();
         takePlotType();
+    } else if (isOurs && event.code == StateCode_SolutionTimeChanged) {
+        m_view.widen();
     }
     if (m_view.scene().apply(event)) {
         m_nextDrawing = kFirstDrawing;

@@ -81,9 +81,17 @@ double FieldView::pixelsPerUnit() const
     return m_layout.plot.height() / (2.0 * std::max(halfHeight, 1e-300));
 }
 
+void FieldView::layOutPlot(double yTexts)
+{
+    m_layout = layOut(m_size, m_flat, m_legends, yTexts);
+    placeCamera();
+}
+
 void FieldView::setViewport()
 {
-    m_layout = layOut(m_size, m_flat, m_legends.size());
+    layOutPlot(0.0);
+    if (m_flat)
+        layOutPlot(yTextsWidth(m_layout, planeWindow()));
     const QRectF& plot = m_layout.plot;
     const double width = m_size.width();
     const double height = m_size.height();
@@ -93,16 +101,24 @@ void FieldView::setViewport()
     }
 }
 
+void FieldView::updateFitBox(const vtkBoundingBox& box)
+{
+    if (!m_isFitted || !box.IsValid())
+        return;
+    if (m_followsScene)
+        m_fitBox = box;
+    else if (m_widens)
+        m_fitBox.AddBox(box);
+    if (!m_scene->hasWork())
+        m_followsScene = m_widens = false;
+}
+
 void FieldView::prepare()
 {
     m_legends = m_scene->legends();
-    setViewport();
     const vtkBoundingBox box = m_scene->bounds();
-    if (m_isFitted && m_followsScene && box.IsValid()) {
-        m_fitBox = box;
-        m_followsScene = m_scene->hasWork();
-    }
-    placeCamera();
+    updateFitBox(box);
+    setViewport();
     if (box.IsValid()) {
         double bounds[6];
         box.GetBounds(bounds);
@@ -110,7 +126,8 @@ void FieldView::prepare()
         bounds[5] += m_flat ? 1.0 : 0.0;
         m_back->ResetCameraClippingRange(bounds);
     }
-    m_scene->setScale({m_size.height(), pixelsPerUnit(), static_cast<double>(m_magnification)});
+    m_scene->setScale({m_magnification * m_size.height(), m_magnification * pixelsPerUnit(),
+                       static_cast<double>(m_magnification)});
 }
 
 void FieldView::fit()
@@ -145,11 +162,10 @@ void FieldView::fitFlat(const vtkBoundingBox& box)
     camera->SetParallelScale(halfHeight > 0.0 ? kFitMargin * halfHeight : 1.0);
 }
 
-/// Right, up and towards the viewer for each axis of the coordinates.
-static std::array<std::array<double, 3>, 3> axisDirections(vtkCamera& camera)
+static AxisDirections axisDirections(vtkCamera& camera)
 {
     vtkMatrix4x4* const matrix = camera.GetViewTransformMatrix();
-    std::array<std::array<double, 3>, 3> directions;
+    AxisDirections directions;
     for (int axis = 0; axis < 3; ++axis) {
         for (int part = 0; part < 3; ++part) {
             directions[static_cast<std::size_t>(axis)][static_cast<std::size_t>(part)] =
@@ -163,7 +179,7 @@ static std::array<std::array<double, 3>, 3> axisDirections(vtkCamera& camera)
 static std::array<std::array<double, 3>, 8> seenCorners(const vtkBoundingBox& box,
                                                         vtkCamera& camera)
 {
-    const auto directions = axisDirections(camera);
+    const AxisDirections directions = axisDirections(camera);
     double lengths[3];
     box.GetLengths(lengths);
     std::array<std::array<double, 3>, 8> corners {};
@@ -196,6 +212,13 @@ static void centre(std::array<std::array<double, 3>, 8>& corners, double distanc
     }
 }
 
+/// Size of what is shown when axes stand round it.
+static QSizeF usedSize(const FieldLayout& layout)
+{
+    return (layout.plot.size() - 2.0 * spaceAxesMargin(layout.font))
+        .expandedTo(layout.plot.size() / 2.0);
+}
+
 void FieldView::fitSpace(const vtkBoundingBox& box)
 {
     constexpr int kRounds = 4;
@@ -204,7 +227,9 @@ void FieldView::fitSpace(const vtkBoundingBox& box)
     camera->SetPosition(0.5, -1.0, 0.6);
     camera->SetViewUp(0.0, 0.0, 1.0);
     const double slope = std::tan(vtkMath::RadiansFromDegrees(camera->GetViewAngle() / 2));
-    const double slopes[] = {slope * m_layout.plot.width() / m_layout.plot.height(), slope};
+    const QSizeF used = usedSize(m_layout);
+    const double slopes[] = {slope * used.width() / m_layout.plot.height(),
+                             slope * used.height() / m_layout.plot.height()};
     auto corners = seenCorners(box, *camera);
     double distance = 1.0;
     std::array<double, 2> moved {};
@@ -268,6 +293,17 @@ PlaneWindow FieldView::planeWindow() const
             center[1] + halfHeight};
 }
 
+SpaceView FieldView::spaceView() const
+{
+    vtkCamera* const camera = m_back->GetActiveCamera();
+    SpaceView view;
+    view.directions = axisDirections(*camera);
+    camera->GetPosition(view.eye.data());
+    view.pixelsPerSlope = m_layout.plot.height() / 2
+        / std::tan(vtkMath::RadiansFromDegrees(camera->GetViewAngle() / 2));
+    return view;
+}
+
 void FieldView::pan(const QPointF& pixels)
 {
     vtkCamera* const camera = m_back->GetActiveCamera();
@@ -293,11 +329,13 @@ void FieldView::paintDecorations(QPainter& painter)
 {
     painter.setRenderHint(QPainter::Antialiasing);
     const std::array<QString, 3> titles = m_scene->axisTitles();
-    if (m_scene->bounds().IsValid()) {
-        if (m_flat)
-            paintPlaneAxes(painter, m_layout, planeWindow(), titles[0], titles[1]);
-        else
-            paintOrientation(painter, m_layout, axisDirections(*m_back->GetActiveCamera()), titles);
+    const vtkBoundingBox box = m_scene->bounds();
+    if (box.IsValid() && m_flat) {
+        paintPlaneAxes(painter, m_layout, planeWindow(), titles[0], titles[1]);
+    } else if (box.IsValid()) {
+        const SpaceView view = spaceView();
+        paintSpaceAxes(painter, m_layout, box, view, titles);
+        paintOrientation(painter, m_layout, view.directions, titles);
     }
     paintLegends(painter, m_layout, m_legends);
     paintNotice(painter, m_layout, m_scene->notice());

@@ -3,6 +3,7 @@
 
 #include "plot/field/decorations.h"
 #include "plot/field/field_scene.h"
+#include "plot/field/space_axes.h"
 #include "plot/field/surface_cache.h"
 
 #include <QSize>
@@ -46,7 +47,8 @@ public:
     void setFlat(bool flat);
     bool isFlat() const { return m_flat; }
 
-    /// Pixels of the window; `magnification` is how many of them make one of the final picture.
+    /// Size of the final picture in pixels; each of them is drawn as `magnification` by
+    /// `magnification` pixels of the window.
     void setSize(const QSize& size, int magnification = 1);
     /// Shows everything that there is, and keeps showing it when the window's size changes.
     void fit();
@@ -57,6 +59,9 @@ public:
     void magnify(double factor, const QPointF& center);
     /// The user took hold of the camera.
     void setMoved() { m_isFitted = false; }
+    /// What is shown will be another time of the same things: a fitted view widens for what would
+    /// lie outside, and stays as it is otherwise.
+    void widen() { m_widens = true; }
 
     /// Brings what depends on scene and camera up to date; call before drawing.
     void prepare();
@@ -69,6 +74,9 @@ public:
 private:
     double pixelsPerUnit() const;
     void setViewport();
+    void updateFitBox(const vtkBoundingBox& box);
+    void layOutPlot(double yTexts);
+    SpaceView spaceView() const;
     PlaneWindow planeWindow() const;
     void placeCamera();
     void fitFlat(const vtkBoundingBox& box);
@@ -82,6 +90,7 @@ private:
     bool m_flat = false;
     bool m_isFitted = true; ///< as in CameraState
     bool m_followsScene = true; ///< the fit still grows with a scene that is being made
+    bool m_widens = false; ///< the same, but it keeps what it had
     vtkBoundingBox m_fitBox;
     QSize m_size {1, 1};
     int m_magnification = 1;

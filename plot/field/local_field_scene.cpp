@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/local_field_scene.h"
 
+#include "host/document/line_map_name.h"
 #include "plot/common/document_events.h"
 
 #include <QElapsedTimer>
@@ -126,16 +127,14 @@ bool LocalFieldScene::apply(const host::StateEvent& event)
 
 bool LocalFieldScene::applyStyle(const host::StateEvent& event)
 {
-    static const host::AttributeId kPlotType = host::Schema::instance().find({"PlotType"});
+    if (namesPlotType(event)) {
+        rebuild();
+        return true;
+    }
     const host::Frame* const drawn = frame();
     bool changed = false;
-    for (const host::StyleChange& change : event.styleChanges) {
-        if (change.attribute == kPlotType) {
-            rebuild();
-            return true;
-        }
+    for (const host::StyleChange& change : event.styleChanges)
         changed = (drawn && applyStyleChange(*drawn, change)) || changed;
-    }
     return changed;
 }
 
@@ -389,9 +388,9 @@ CvlInt64 LocalFieldScene::zoneAt(const PickRay& ray)
     return zone != 0 ? zone : nearestZone(ray, {FieldLayer::Edges});
 }
 
-static QString shownName(const host::Variable& variable)
+static QString shownName(const host::Frame& drawn, CvlInt64 variable)
 {
-    return QString::fromStdString(variable.alias.empty() ? variable.name : variable.alias);
+    return QString::fromStdString(host::shownVariableName(drawn.data(), variable));
 }
 
 std::vector<FieldLegend> LocalFieldScene::legends() const
@@ -407,8 +406,7 @@ std::vector<FieldLegend> LocalFieldScene::legends() const
     for (const int group : inUse) {
         const CvlInt64 variable = m_groups.variable(group);
         if (drawn && drawn->data()->hasVariable(variable)) {
-            result.push_back(
-                {shownName(drawn->data()->variable(variable)), m_groups.levels(group)});
+            result.push_back({shownName(*drawn, variable), m_groups.levels(group)});
         }
     }
     return result;
@@ -418,9 +416,11 @@ std::array<QString, 3> LocalFieldScene::axisTitles() const
 {
     std::array<QString, 3> titles = {"X", "Y", "Z"};
     if (const host::Frame* const drawn = frame()) {
-        for (const host::Variable& variable : drawn->data()->variables)
+        for (CvlInt64 number = 1; number <= drawn->data()->variableCount(); ++number) {
+            const host::Variable& variable = drawn->data()->variable(number);
             if (variable.isCoordinate())
-                titles[static_cast<std::size_t>(variable.component)] = shownName(variable);
+                titles[static_cast<std::size_t>(variable.component)] = shownName(*drawn, number);
+        }
     }
     return titles;
 }

@@ -2,9 +2,9 @@
 #include "plot/field/offscreen.h"
 
 #include "host/document/document.h"
+#include "plot/common/picture_size.h"
 #include "plot/field/opengl_check.h"
 
-#include <QCoreApplication>
 #include <QPainter>
 
 #include <vtkRenderWindow.h>
@@ -15,7 +15,6 @@ namespace corvala::plot {
 /// Pictures are drawn larger and made smaller, which gives smooth lines with every OpenGL: software
 /// renderers leave holes in lines when they smooth by samples.
 static constexpr int kMagnification = 2;
-static constexpr int kLargestSide = 8192;
 
 static QImage pixelsOf(vtkRenderWindow& window, const QSize& size)
 {
@@ -28,24 +27,12 @@ static QImage pixelsOf(vtkRenderWindow& window, const QSize& size)
     return upsideDown.mirrored().convertToFormat(QImage::Format_RGB32);
 }
 
-static QString findProblem(const QSize& size)
-{
-    if (size.isEmpty() || size.width() > kLargestSide || size.height() > kLargestSide) {
-        return QCoreApplication::translate(
-                   "corvala::plot",
-                   "An image of %1 by %2 pixels cannot be drawn; a side may "
-                   "have 1 to %3")
-            .arg(size.width())
-            .arg(size.height())
-            .arg(kLargestSide);
-    }
-    return openGlProblem();
-}
-
 QImage drawFieldImage(CvlUniqueId frame, const CameraState& camera,
                       std::shared_ptr<SurfaceCache> cache, const QSize& size, QString* error)
 {
-    const QString problem = findProblem(size);
+    QString problem = sizeProblem(size);
+    if (problem.isEmpty())
+        problem = openGlProblem();
     if (error)
         *error = problem;
     if (!problem.isEmpty())
@@ -60,15 +47,13 @@ QImage drawFieldImage(CvlUniqueId frame, const CameraState& camera,
     const host::Frame* const drawn = host::Document::instance().frame(frame);
     view.setFlat(drawn && drawn->plotType() == PlotType_Field2D);
     view.setCamera(camera);
-    view.setSize(drawnSize, kMagnification);
+    view.setSize(size, kMagnification);
     view.scene().setFrame(frame);
     view.scene().advance(-1);
     view.prepare();
     window->Render();
     QImage image =
         pixelsOf(*window, drawnSize).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    view.setSize(size);
-    view.prepare();
     QPainter painter(&image);
     view.paintDecorations(painter);
     return image;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_canvas.h"
 
+#include "plot/common/document_events.h"
+#include "plot/common/picture_size.h"
+
 #include <QApplication>
 #include <QLabel>
 #include <QMouseEvent>
@@ -25,24 +28,44 @@ LineCanvas::LineCanvas(QWidget* parent)
     m_notice->move(8, 4);
 }
 
-void LineCanvas::frameChanged(CvlUniqueId previous)
+void LineCanvas::keepView(CvlUniqueId frame)
 {
+    const QPair<CvlUniqueId, int> key {frame, m_plot.plotType()};
     if (m_plot.isFitted())
-        m_views.remove(previous);
+        m_views.remove(key);
     else
-        m_views[previous] = m_plot.chart().range();
-    m_plot.setFrame(frame());
-    const auto view = m_views.constFind(frame());
+        m_views[key] = m_plot.chart().range();
+}
+
+void LineCanvas::restoreView()
+{
+    const auto view = m_views.constFind({frame(), m_plot.plotType()});
     if (view != m_views.constEnd()) {
         m_plot.setMoved();
         m_plot.chart().setRange(*view);
     }
 }
 
+void LineCanvas::frameChanged(CvlUniqueId previous)
+{
+    keepView(previous);
+    m_plot.setFrame(frame());
+    restoreView();
+}
+
 void LineCanvas::documentChanged(const host::StateEvent& event)
 {
+    const bool changesType = concerns(event, frame()) && namesPlotType(event);
+    if (changesType)
+        keepView(frame());
+    if (concerns(event, frame()) && event.code == StateCode_DataSetAttached) {
+        for (const int plotType : {PlotType_LineXY, PlotType_LinePolar})
+            m_views.remove({frame(), plotType});
+    }
     if (m_plot.apply(event))
         requestRedraw();
+    if (changesType)
+        restoreView();
 }
 
 bool LineCanvas::redraw()
@@ -112,15 +135,11 @@ QImage LineCanvas::render(const QSize& size, QString* error)
 
 QImage drawLineImage(CvlUniqueId frame, const ChartRange* range, const QSize& size, QString* error)
 {
+    const QString problem = sizeProblem(size);
     if (error)
-        error->clear();
-    if (size.isEmpty()) {
-        if (error) {
-            *error = QCoreApplication::translate("corvala::plot",
-                                                 "An image without pixels cannot be drawn");
-        }
+        *error = problem;
+    if (!problem.isEmpty())
         return {};
-    }
     QCustomPlot widget;
     LinePlot plot(widget);
     plot.setFrameHeight(size.height());

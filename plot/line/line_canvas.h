@@ -39,16 +39,19 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void keepView(CvlUniqueId frame);
+    void restoreView();
+
     QCustomPlot* m_widget; // not owned
     LinePlot m_plot;
     QLabel* m_notice; // not owned
-    QHash<CvlUniqueId, ChartRange> m_views; ///< of frames that the user moved in
+    QHash<QPair<CvlUniqueId, int>, ChartRange> m_views; ///< by frame and plot type, where moved in
     QPointF m_pressedAt;
     bool m_isDoubleClick = false;
 };
 
 /// Draws a line frame as an image of `size` pixels, showing `range` of its axes, or all of it when
-/// null. Null, with the reason in `error` (may be null), for an empty size.
+/// null. Null, with the reason in `error` (may be null), for an empty size or one too large.
 QImage drawLineImage(CvlUniqueId frame, const ChartRange* range, const QSize& size, QString* error);
 
 } // namespace corvala::plot

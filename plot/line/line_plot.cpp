@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_plot.h"
 
+#include "host/document/line_map_name.h"
 #include "plot/common/document_events.h"
 #include "plot/common/line_patterns.h"
 #include "plot/line/line_data.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace corvala::plot {
 
@@ -48,10 +50,16 @@ void LinePlot::setFrame(CvlUniqueId frame)
 void LinePlot::rebuild()
 {
     const host::Frame* const drawn = frame();
-    m_isPolar = drawn && drawn->plotType() == PlotType_LinePolar;
+    const ChartRange range = m_chart->range();
+    const PlotType_e plotTypeBefore =
+        std::exchange(m_plotType, drawn ? drawn->plotType() : PlotType_None);
     m_chart.reset();
     m_plot.clearPlottables();
-    m_chart = m_isPolar ? makePolarChart(m_plot) : makeXyChart(m_plot);
+    m_chart = isPolar() ? makePolarChart(m_plot) : makeXyChart(m_plot);
+    if (m_plotType != plotTypeBefore)
+        fit();
+    else if (!m_isFitted)
+        m_chart->setRange(range);
     m_shown = {};
     m_refused = {};
     m_stale = m_staleData = drawn ? drawn->activeLineMaps() : host::MapSet();
@@ -88,7 +96,7 @@ bool LinePlot::apply(const host::StateEvent& event)
     case StateCode_DocumentCleared:
     case StateCode_DocumentLoaded:
     case StateCode_DataSetAttached:
-    case StateCode_DataSetDetached:
+    case StateCode_DataSetDetached: fit(); break;
     case StateCode_DataValuesChanged:
     case StateCode_LineMapListChanged:
     case StateCode_ZonesAdded:
@@ -101,16 +109,17 @@ bool LinePlot::apply(const host::StateEvent& event)
 
 bool LinePlot::applyStyle(const host::StateEvent& event)
 {
+    if (namesPlotType(event)) {
+        setFrame(m_frame);
+        return true;
+    }
+    const host::Frame* const drawn = frame();
     bool changed = false;
     for (const host::StyleChange& change : event.styleChanges) {
         const host::Attribute& attribute = host::Schema::instance().at(change.attribute);
         const std::string& group = attribute.names.front();
-        if (group == "PlotType") {
-            setFrame(m_frame);
-            return true;
-        }
-        if (group == "LinePlotLayers") {
-            rebuild();
+        if (group == "LinePlotLayers" && attribute.names[1] == "ShowLines") {
+            m_stale |= drawn ? drawn->activeLineMaps() | m_shown : host::MapSet();
             changed = true;
         } else if (group == "ActiveLineMaps"
                    || (group == "LineMap"
@@ -189,14 +198,6 @@ void LinePlot::update()
         m_chart->fit();
 }
 
-static QString nameOf(const host::DataSet& data, CvlInt64 number)
-{
-    if (!data.hasVariable(number))
-        return {};
-    const host::Variable& variable = data.variable(number);
-    return QString::fromStdString(variable.alias.empty() ? variable.name : variable.alias);
-}
-
 void LinePlot::updateTitles(const host::Frame& drawn)
 {
     constexpr int kMostNames = 4;
@@ -204,8 +205,10 @@ void LinePlot::updateTitles(const host::Frame& drawn)
     QStringList second;
     for (const std::uint32_t map : m_shown) {
         const LineVariables variables = variablesOf(drawn, map);
-        const QString x = nameOf(*drawn.data(), variables.first);
-        const QString y = nameOf(*drawn.data(), variables.second);
+        const QString x =
+            QString::fromStdString(host::shownVariableName(drawn.data(), variables.first));
+        const QString y =
+            QString::fromStdString(host::shownVariableName(drawn.data(), variables.second));
         if (!first.contains(x))
             first.append(x);
         if (!second.contains(y))

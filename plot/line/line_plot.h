@@ -33,7 +33,9 @@ public:
     void setMoved() { m_isFitted = false; }
     bool isFitted() const { return m_isFitted; }
     LineChart& chart() { return *m_chart; }
-    bool isPolar() const { return m_isPolar; }
+    /// What is drawn; PlotType_None without a line frame.
+    PlotType_e plotType() const { return m_plotType; }
+    bool isPolar() const { return m_plotType == PlotType_LinePolar; }
     /// A remark for the user on what is not shown; empty without one.
     QString notice() const;
     /// Lines brought up to date so far, to see what an edit costs.
@@ -51,7 +53,7 @@ private:
     QCustomPlot& m_plot;
     std::unique_ptr<LineChart> m_chart;
     CvlUniqueId m_frame = 0;
-    bool m_isPolar = false;
+    PlotType_e m_plotType = PlotType_None;
     bool m_isFitted = true;
     int m_height = 1;
     host::MapSet m_stale; ///< maps to look at again

@@ -16,6 +16,7 @@ class PolarChart : public LineChart
 
 public:
     explicit PolarChart(QCustomPlot& plot);
+    ~PolarChart() override;
 
     void setLine(std::int64_t map, const LineData& data) override;
     void setPen(std::int64_t map, const QPen& pen) override { m_graphs.at(map)->setPen(pen); }
@@ -53,6 +54,13 @@ PolarChart::PolarChart(QCustomPlot& plot)
     radius()->setAngle(90.0);
 }
 
+// Axes do not take their graphs along.
+PolarChart::~PolarChart()
+{
+    for (const auto& [map, graph] : m_graphs)
+        m_angle->removeGraph(graph);
+}
+
 void PolarChart::setLine(std::int64_t map, const LineData& data)
 {
     QCPPolarGraph*& graph = m_graphs[map];
@@ -68,7 +76,7 @@ void PolarChart::removeLine(std::int64_t map)
 {
     const auto found = m_graphs.find(map);
     if (found != m_graphs.end()) {
-        delete found->second;
+        m_angle->removeGraph(found->second);
         m_graphs.erase(found);
     }
 }

@@ -1,16 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures.h"
+#include "plot/common/axis_ticks.h"
 #include "plot/field/field_canvas.h"
 #include "plot/field/local_field_scene.h"
 #include "plot/frame_view.h"
 #include "plot/render.h"
 #include "plot_document.h"
 
+#include <QPainter>
+#include <QPainterPath>
 #include <QProcess>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <vtkImageData.h>
+
+#include <cmath>
 #include <cstdio>
 
 using namespace corvala;
@@ -32,6 +38,10 @@ private Q_SLOTS:
     void thickLinesScaleWithThePicture();
     void nothingIsClipped_data();
     void nothingIsClipped();
+    void numbersKeepClearOfTitles_data();
+    void numbersKeepClearOfTitles();
+    void spaceAxesCoverNothing_data();
+    void spaceAxesCoverNothing();
     void badPictures();
     void windowShowsThePicture();
     void oneRedrawPerIdleMoment();
@@ -39,6 +49,7 @@ private Q_SLOTS:
     void clicksPickZones();
     void dragAndWheelMoveTheView();
     void viewsAreKeptByFrameAndPlotType();
+    void viewWidensForOtherTimes();
     void longWorkIsReported();
     void missingOpenGlIsNamed();
 };
@@ -247,9 +258,120 @@ void tst_FieldCanvas::nothingIsClipped()
                 seen |= QRect(x, y, 1, 1);
     const int margin = 2;
     QVERIFY(image.rect().adjusted(margin, margin, -margin, -margin).contains(seen));
+    const bool isFlat = document().activeFrame()->plotType() == PlotType_Field2D;
+    QVERIFY(layOut(size, isFlat, {}).plot.contains(seen)); // inside of the axes that are painted
     // Fitted: it fills one direction but for axes and margins.
     QVERIFY2(seen.width() > 0.6 * size.width() || seen.height() > 0.6 * size.height(),
              qPrintable(QStringLiteral("%1 x %2").arg(seen.width()).arg(seen.height())));
+}
+
+/// Share of dark pixels within a rectangle.
+static double inkIn(const QImage& image, const QRectF& part)
+{
+    return 1.0 - shareOfColor(image.copy(part.toAlignedRect()), Qt::white);
+}
+
+void tst_FieldCanvas::numbersKeepClearOfTitles_data()
+{
+    QTest::addColumn<double>("from");
+    QTest::addColumn<double>("span");
+    QTest::newRow("short") << 0.0 << 4.0;
+    QTest::newRow("far from zero") << 4'523'000.0 << 3.0;
+    QTest::newRow("close together") << 1000.0001 << 0.0004;
+    QTest::newRow("small") << -1.2e-5 << 2e-5;
+}
+
+void tst_FieldCanvas::numbersKeepClearOfTitles()
+{
+    QFETCH(double, from);
+    QFETCH(double, span);
+    const PlaneWindow window {from, from + span, from, from + span};
+    FieldLayout layout = layOut(kSize, true, {});
+    layout = layOut(kSize, true, {}, yTextsWidth(layout, window));
+    QImage image(kSize, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paintPlaneAxes(painter, layout, window, "x", "y");
+    painter.end();
+    const QRectF& plot = layout.plot;
+    const double half = plot.height() / 2 - 2 * layout.font; // the title stands in the middle
+    const double title = 2.0 * layout.font;
+    QCOMPARE(inkIn(image, {0.0, 0.0, title, plot.top() + half}), 0.0);
+    QCOMPARE(inkIn(image, {0.0, plot.bottom() - half, title, half + 4 * layout.font}), 0.0);
+    const AxisTicks ticks =
+        axisTicks(from, from + span, plot.width(), layout.font, TickTexts::SideBySide);
+    QVERIFY(ticks.places.size() >= 2);
+    const double gap = (ticks.places[1] - ticks.places[0]) / span * plot.width();
+    QVERIFY2(ticks.widest < gap, QByteArray::number(ticks.widest / gap));
+}
+
+void tst_FieldCanvas::spaceAxesCoverNothing_data()
+{
+    QTest::addColumn<double>("azimuth");
+    QTest::addColumn<double>("elevation");
+    QTest::addColumn<int>("axes"); // that can be seen
+    for (const double azimuth : {-150.0, -60.0, 25.0, 100.0})
+        for (const double elevation : {-50.0, 20.0, 70.0})
+            QTest::addRow("from %g, %g", azimuth, elevation) << azimuth << elevation << 3;
+    QTest::newRow("along an axis") << 0.0 << 0.0 << 2;
+}
+
+/// A view of the origin from a direction, at a distance of ten.
+static SpaceView viewFrom(double azimuth, double elevation)
+{
+    const double a = qDegreesToRadians(azimuth);
+    const double e = qDegreesToRadians(elevation);
+    const std::array<double, 3> right = {-std::sin(a), std::cos(a), 0.0};
+    const std::array<double, 3> back = {std::cos(a) * std::cos(e), std::sin(a) * std::cos(e),
+                                        std::sin(e)};
+    SpaceView view;
+    for (std::size_t axis = 0; axis < 3; ++axis)
+        view.eye[axis] = 10.0 * back[axis];
+    const std::array<double, 3> up = {-std::cos(a) * std::sin(e), -std::sin(a) * std::sin(e),
+                                      std::cos(e)};
+    for (std::size_t axis = 0; axis < 3; ++axis)
+        view.directions[axis] = {right[axis], up[axis], back[axis]};
+    view.pixelsPerSlope = 600.0;
+    return view;
+}
+
+void tst_FieldCanvas::spaceAxesCoverNothing()
+{
+    QFETCH(double, azimuth);
+    QFETCH(double, elevation);
+    QFETCH(int, axes);
+    const vtkBoundingBox box(-1.0, 1.0, -1.2, 1.2, -0.7, 0.7);
+    const SpaceView view = viewFrom(azimuth, elevation);
+    const FieldLayout layout = layOut(kSize, false, {});
+    QPolygonF corners;
+    for (int corner = 0; corner < 8; ++corner) {
+        double point[3];
+        box.GetCorner(corner, point);
+        corners.append(*view.project({point[0], point[1], point[2]}, layout.plot));
+    }
+    QImage image(kSize, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paintSpaceAxes(painter, layout, box, view, {"I", "II", "III"});
+    painter.end();
+    const double ink = inkIn(image, image.rect());
+    QVERIFY2(ink > 0.0008 * axes, QByteArray::number(ink));
+    // Triangles of corners make up the whole of what the box covers.
+    QPainterPath covered;
+    for (int a = 0; a < 8; ++a)
+        for (int b = 0; b < a; ++b)
+            for (int c = 0; c < b; ++c)
+                covered = covered.united([&] {
+                    QPainterPath triangle;
+                    triangle.addPolygon(QPolygonF({corners[a], corners[b], corners[c]}));
+                    return triangle;
+                }());
+    painter.begin(&image);
+    painter.setClipPath(covered);
+    painter.setClipping(true);
+    painter.fillRect(image.rect(), Qt::white);
+    painter.end();
+    QCOMPARE(inkIn(image, image.rect()), ink);
 }
 
 void tst_FieldCanvas::badPictures()
@@ -398,6 +520,56 @@ void tst_FieldCanvas::viewsAreKeptByFrameAndPlotType()
     shown.canvas.setFrame(first);
     shown.settle();
     QVERIFY(shareOfChange(shown.canvas.grab().toImage(), turned) < 0.001);
+}
+
+/// A square that lies at another place at each time.
+class Wanderer : public host::ZoneSource
+{
+public:
+    vtkSmartPointer<vtkDataSet> zone(std::int64_t index) const override
+    {
+        auto square = vtkSmartPointer<vtkImageData>::New();
+        square->SetDimensions(2, 2, 1);
+        square->SetOrigin(10.0 * static_cast<double>(index), 0.0, 0.0);
+        return square;
+    }
+};
+
+void tst_FieldCanvas::viewWidensForOtherTimes()
+{
+    document().clear();
+    auto data = std::make_shared<host::DataSet>();
+    for (int i = 0; i < 3; ++i) {
+        host::ZoneInfo zone;
+        zone.ordered = true;
+        zone.dimensions = {2, 2, 1};
+        zone.pointCount = 4;
+        zone.cellDimension = 2;
+        zone.strand = 1;
+        zone.time = i;
+        zone.sourceIndex = i;
+        data->zones.push_back(zone);
+    }
+    data->source = std::make_shared<Wanderer>();
+    document().attachDataSet(data, PlotType_Field2D, 0);
+    ShownCanvas shown;
+    const auto right = [&] { return shown.canvas.view().camera().fitBox.GetMaxPoint()[0]; };
+    QCOMPARE(right(), 1.0);
+    document().setSolutionTime(2.0);
+    shown.settle();
+    QCOMPARE(right(), 21.0);
+    QCOMPARE(shown.canvas.view().camera().fitBox.GetMinPoint()[0], 0.0);
+    document().setSolutionTime(1.0); // inside of what is seen already
+    shown.settle();
+    QCOMPARE(right(), 21.0);
+    shown.canvas.fitView();
+    shown.settle();
+    QCOMPARE(right(), 11.0);
+    const QPoint middle = shown.canvas.rect().center();
+    shown.drag(middle, middle + QPoint(60, 30));
+    document().setSolutionTime(2.0); // the user's view stays
+    shown.settle();
+    QCOMPARE(right(), 11.0);
 }
 
 void tst_FieldCanvas::longWorkIsReported()

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void polarLines();
     void titles();
     void clickPicksALine();
+    void viewsAreKept();
+    void badPictures();
     void largestPlot();
     void viewChoosesTheCanvas();
 };
@@ -209,6 +211,51 @@ void tst_LineCanvas::clickPicksALine()
     QCOMPARE(picked.last()[1].toBool(), true);
     QTest::mouseClick(&shown.canvas.plot(), Qt::LeftButton, {}, {3, 3});
     QCOMPARE(picked.last()[0].value<CvlInt64>(), 0);
+}
+
+void tst_LineCanvas::viewsAreKept()
+{
+    openDemo("xy");
+    ShownCanvas shown;
+    const auto across = [&] {
+        return shown.canvas.plot().axisRect()->axis(QCPAxis::atBottom)->range();
+    };
+    const QCPRange fitted = across();
+    const QPoint middle = shown.canvas.plot().rect().center();
+    QWheelEvent wheel(middle, shown.canvas.plot().mapToGlobal(middle), {}, {0, 240}, Qt::NoButton,
+                      {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&shown.canvas.plot(), &wheel);
+    shown.settle();
+    const QCPRange moved = across();
+    QVERIFY(moved.size() < 0.9 * fitted.size());
+
+    // Whatever changes in the frame, and while another plot type is shown.
+    write("LinePlotLayers/ShowLines", "", 0);
+    write("LinePlotLayers/ShowSymbols", "", 1);
+    write("LinePlotLayers/ShowLines", "", 1);
+    document().createLineMaps(1);
+    shown.settle();
+    QCOMPARE(across(), moved);
+    for (const int plotType : {PlotType_LinePolar, PlotType_Field2D, PlotType_LineXY}) {
+        write("PlotType", "", plotType);
+        shown.settle();
+    }
+    QCOMPARE(across(), moved);
+    QVERIFY(shown.canvas.plot().findChildren<QCPPolarGraph*>().isEmpty());
+    std::string error;
+    QVERIFY(samples::openDemo("xy", 0, error));
+    shown.settle();
+    QCOMPARE(across(), fitted);
+}
+
+void tst_LineCanvas::badPictures()
+{
+    openDemo("xy");
+    for (const QSize& size : {QSize(0, 100), QSize(100'000, 100)}) {
+        QString error;
+        QVERIFY(renderToImage(document().activeFrameId(), size, &error).isNull());
+        QVERIFY2(error.contains(QString::number(size.width())), qPrintable(error));
+    }
 }
 
 void tst_LineCanvas::largestPlot()
