@@ -67,6 +67,14 @@ propertymanager::MapSelectionByPatternPropertiesManager& MapSelectionByPattern::
     return *m_properties;
 }
 
+void MapSelectionByPattern::setTabOrderAfter(QWidget& widget)
+{
+    setTabOrder(&widget, m_lineEdit);
+    setTabOrder(m_lineEdit, m_applyButton);
+    setTabOrder(m_applyButton, m_groupsButton);
+    setTabOrder(m_groupsButton, m_clearButton);
+}
+
 void MapSelectionByPattern::setupUi()
 {
     setObjectName(QStringLiteral("MapSelectionByPattern"));

@@ -40,6 +40,9 @@ public:
     QPushButton& applyButton() { return *m_applyButton; }
     QPushButton& groupsButton() { return *m_groupsButton; }
 
+    /// Puts the fields behind a widget of the same window in the order of the Tab key.
+    void setTabOrderAfter(QWidget& widget);
+
 Q_SIGNALS:
     /// The pattern, in UTF-8.
     void patternChanged(std::string const& pattern, SelectOption_s option);

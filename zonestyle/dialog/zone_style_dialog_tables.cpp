@@ -83,6 +83,7 @@ void ZoneStyleDialog::showTable(QWidget& page, ModelAbstract& model)
     replaceColumnHeader(header, &page);
     QItemSelectionModel* previous = m_tableView->selectionModel();
     setTabOrder(m_form->lineTabs, m_tableView.get());
+    m_mapSelection->setTabOrderAfter(*m_tableView);
     QItemSelectionModel* target = getSelectionModelFor(&model);
     {
         const SelectionModelSignalSuspender suspender(*m_mapSelection, *m_tableView);

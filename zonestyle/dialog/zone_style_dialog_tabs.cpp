@@ -90,7 +90,8 @@ void ZoneStyleDialog::showLinePage()
     m_helpAction->setTabWidget(m_form->lineTabs);
 }
 
-/// The box unparents the buttons that it removes; they go back to where they came from.
+/// The box unparents the buttons that it removes; they go back to where they came from. It would
+/// also go on handing the focus that Tab brings to the first of them.
 void ZoneStyleDialog::showOptionalButtonBoxButtons(bool show)
 {
     for (QPushButton* button : m_form->mapToolButtons) {
@@ -104,6 +105,8 @@ void ZoneStyleDialog::showOptionalButtonBoxButtons(bool show)
             m_form->additionalButtonsPage->layout()->addWidget(button);
         }
     }
+    if (!show)
+        m_form->buttonBox->setFocusProxy(m_form->buttonBox->button(QDialogButtonBox::Close));
 }
 
 QTabWidget* ZoneStyleDialog::getCurrentTabWidget()
