@@ -138,8 +138,7 @@ void Document::attachDataSet(std::shared_ptr<DataSet> data, PlotType_e plotType,
         addFrame();
     m_undo.clear();
     Frame& frame = *m_active;
-    const Attribute& plotTypeAttribute =
-        Schema::instance().at(Schema::instance().find({"PlotType"}));
+    const Attribute& plotTypeAttribute = Schema::instance().leaf({"PlotType"});
     const bool newPlotType = frame.plotType() != plotType;
 
     frame.m_data = std::move(data);
@@ -169,9 +168,9 @@ void Document::proposeVariables(Frame& frame)
     const Schema& schema = Schema::instance();
     static constexpr const char* kVectorNames[] = {"UVar", "VVar", "WVar"};
     for (std::size_t i = 0; i < 3; ++i)
-        frame.m_values.set(schema.at(schema.find({"GlobalVector", kVectorNames[i]})), -1,
+        frame.m_values.set(schema.leaf({"GlobalVector", kVectorNames[i]}), -1,
                            std::int32_t(frame.m_data->vectorVariables[i]));
-    const Attribute& groups = schema.at(schema.find({"ContourGroups", "Var"}));
+    const Attribute& groups = schema.leaf({"ContourGroups", "Var"});
     const auto& proposed = frame.m_data->contourVariables;
     for (std::size_t i = 0; i < proposed.size() && i < std::size_t(groups.indexCount); ++i)
         frame.m_values.set(groups, static_cast<std::int64_t>(i + 1), std::int32_t(proposed[i]));

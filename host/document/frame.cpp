@@ -5,8 +5,7 @@ namespace corvala::host {
 
 static const Attribute& plotTypeAttribute()
 {
-    static const Attribute& attribute =
-        Schema::instance().at(Schema::instance().find({"PlotType"}));
+    static const Attribute& attribute = Schema::instance().leaf({"PlotType"});
     return attribute;
 }
 

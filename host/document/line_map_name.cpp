@@ -78,8 +78,7 @@ std::string shownVariableName(const DataSet* data, CvlInt64 number)
 std::string shownLineMapName(const Frame& frame, CvlInt64 map)
 {
     constexpr std::size_t kTokenLength = 4;
-    static const Attribute& nameAttribute =
-        Schema::instance().at(Schema::instance().find({"LineMap", "Name"}));
+    static const Attribute& nameAttribute = Schema::instance().leaf({"LineMap", "Name"});
     const std::string& stored = frame.lineStyle().text(nameAttribute, map);
     const LineMapFacts facts(frame, map);
     std::string shown;

@@ -4,7 +4,6 @@
 #include "host/document/undo_texts.h"
 
 #include <algorithm>
-#include <map>
 
 namespace corvala::host {
 
@@ -16,8 +15,7 @@ bool Document::areLineMaps(const MapSet& maps) const
 
 static const Attribute& activeLineMapsAttribute()
 {
-    static const Attribute& attribute =
-        Schema::instance().at(Schema::instance().find({"ActiveLineMaps"}));
+    static const Attribute& attribute = Schema::instance().leaf({"ActiveLineMaps"});
     return attribute;
 }
 
@@ -88,7 +86,7 @@ static QString countedText(const char* text, const MapSet& maps, Scope scope = S
 CvlInt64 Document::createLineMaps(CvlInt64 count)
 {
     constexpr CvlInt64 kMost = 1000000;
-    if (!m_active || !m_active->hasData() || count < 1 || m_active->lineMapCount() + count > kMost)
+    if (!m_active || !m_active->hasData() || count < 1 || count > kMost - m_active->lineMapCount())
         return 0;
     const CvlInt64 first = m_active->lineMapCount() + 1;
     std::vector<std::int64_t> newToOld = numbersUpTo(first - 1);
@@ -167,20 +165,13 @@ static std::shared_ptr<DataSet> withZones(const DataSet& data,
 static MapTable::Columns withZoneNumbers(MapTable lineStyle,
                                          const std::vector<std::int64_t>& keptZones)
 {
-    const Attribute& zone =
-        Schema::instance().at(Schema::instance().find({"LineMap", "Assign", "Zone"}));
-    std::map<std::int32_t, MapSet> mapsByNumber;
-    for (std::int64_t map = 1; map <= lineStyle.count(); ++map) {
-        const std::int32_t before = lineStyle.integer(zone, map);
+    const Attribute& zone = Schema::instance().leaf({"LineMap", "Assign", "Zone"});
+    lineStyle.transform(zone, [&](std::int32_t before) {
         const auto kept = std::lower_bound(keptZones.begin(), keptZones.end(), before);
-        const bool isKept = kept != keptZones.end() && *kept == before;
-        const auto after =
-            isKept ? static_cast<std::int32_t>(kept - keptZones.begin() + 1) : std::int32_t {1};
-        if (after != before)
-            mapsByNumber[after].add(static_cast<std::uint32_t>(map));
-    }
-    for (const auto& [number, maps] : mapsByNumber)
-        lineStyle.apply(zone, lineStyle.plan(zone, maps, number), true);
+        return kept != keptZones.end() && *kept == before
+            ? static_cast<std::int32_t>(kept - keptZones.begin() + 1)
+            : std::int32_t {1};
+    });
     return lineStyle.columns();
 }
 
@@ -237,8 +228,7 @@ bool Document::deleteFieldMaps(const MapSet& maps)
 /// Whether the text is UTF-8.
 static bool isText(const std::string& text)
 {
-    static const Attribute& nameAttribute =
-        Schema::instance().at(Schema::instance().find({"LineMap", "Name"}));
+    static const Attribute& nameAttribute = Schema::instance().leaf({"LineMap", "Name"});
     ValueList::Value ignored;
     return convertValue(nameAttribute, text, nullptr, ignored) == StyleWrite_Ok;
 }
@@ -287,8 +277,7 @@ bool Document::setLineMapName(const MapSet& maps, const std::string& name)
     if (!areLineMaps(maps) || !isText(name))
         return false;
     Frame& frame = *m_active;
-    const Attribute& attribute =
-        Schema::instance().at(Schema::instance().find({"LineMap", "Name"}));
+    const Attribute& attribute = Schema::instance().leaf({"LineMap", "Name"});
     auto chunks = frame.m_lineStyle.plan(attribute, maps, name);
     if (chunks.empty())
         return true;

@@ -119,6 +119,12 @@ const std::string& MapTable::text(const Attribute& attribute, std::int64_t map) 
                  : attribute.defaultText;
 }
 
+MapTable::MapRange MapTable::mapsOf(std::size_t chunk) const
+{
+    const auto start = static_cast<std::int64_t>(chunk * kSize);
+    return {start + 1, std::min(start + static_cast<std::int64_t>(kSize), m_count)};
+}
+
 /// The chunk's values with the new one in the given places.
 template<class T>
 MapTable::ChunkPointer MapTable::chunkWith(const Attribute& attribute, MapRange range,
@@ -145,16 +151,14 @@ std::vector<MapTable::ChunkChange> MapTable::planAs(const Attribute& attribute, 
     const std::uint32_t* const last = members.data() + members.size();
     for (const std::uint32_t* begin = members.data(); begin != last;) {
         const std::size_t chunk = chunkIndex(*begin);
-        const auto chunkStart = static_cast<std::int64_t>(chunk * kSize);
-        const MapRange range {chunkStart + 1,
-                              std::min(chunkStart + static_cast<std::int64_t>(kSize), m_count)};
+        const MapRange range = mapsOf(chunk);
         const std::uint32_t* const end =
             std::find_if(begin, last, [&](std::uint32_t map) { return map > range.last; });
         const bool differs = std::any_of(
             begin, end, [&](std::uint32_t map) { return value<T>(attribute, map) != newValue; });
         if (differs) {
             ChunkPointer after;
-            if (end - begin == range.last - chunkStart) {
+            if (end - begin == range.last - range.first + 1) {
                 if (!uniform)
                     uniform = filledChunk(newValue);
                 after = uniform;
@@ -193,6 +197,25 @@ void MapTable::apply(const Attribute& attribute, const std::vector<ChunkChange>&
     auto& column = m_columns[static_cast<std::size_t>(attribute.slot)];
     for (const ChunkChange& change : changes)
         column[change.chunk] = forward ? change.after : change.before;
+}
+
+void MapTable::transform(const Attribute& attribute,
+                         const std::function<std::int32_t(std::int32_t)>& newValue)
+{
+    auto& column = m_columns[static_cast<std::size_t>(attribute.slot)];
+    for (std::size_t chunk = 0; chunk < column.size(); ++chunk) {
+        auto changed = std::make_shared<Chunk<std::int32_t>>();
+        bool differs = false;
+        const MapRange range = mapsOf(chunk);
+        for (std::int64_t map = range.first; map <= range.last; ++map) {
+            const std::int32_t before = integer(attribute, map);
+            const std::int32_t after = newValue(before);
+            (*changed)[placeInChunk(map)] = after;
+            differs = differs || after != before;
+        }
+        if (differs)
+            column[chunk] = std::move(changed);
+    }
 }
 
 template<class T>

@@ -53,6 +53,10 @@ public:
                                   const std::string& value) const;
     void apply(const Attribute& attribute, const std::vector<ChunkChange>& changes, bool forward);
 
+    /// Gives every map what the function makes of its value, without a way back.
+    void transform(const Attribute& attribute,
+                   const std::function<std::int32_t(std::int32_t)>& newValue);
+
     /// Makes map n of the result what map newToOld[n - 1] (0: a map with defaults) is now.
     void rearrange(const std::vector<std::int64_t>& newToOld);
 
@@ -72,6 +76,7 @@ private:
         std::int64_t first;
         std::int64_t last;
     };
+    MapRange mapsOf(std::size_t chunk) const;
     template<class T>
     ChunkPointer chunkWith(const Attribute& attribute, MapRange range, const std::uint32_t* begin,
                            const std::uint32_t* end, const T& value) const;

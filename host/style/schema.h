@@ -76,6 +76,8 @@ public:
     AttributeId find(const char* const* names, int count) const;
     AttributeId find(const std::vector<std::string>& names) const;
 
+    /// The attribute of a path that is known to name a value.
+    const Attribute& leaf(const std::vector<std::string>& names) const { return at(find(names)); }
     const Attribute& at(AttributeId id) const { return m_attributes[static_cast<std::size_t>(id)]; }
     const std::vector<Attribute>& all() const { return m_attributes; }
     /// Attributes of a scope by slot.

@@ -23,8 +23,7 @@ inline StyleWriteResult_e writeFrameValue(std::vector<std::string> path, double 
 inline std::int32_t readFrameValue(const std::vector<std::string>& path, CvlInt64 index = -1)
 {
     const host::Schema& schema = host::Schema::instance();
-    return host::Document::instance().activeFrame()->values().integer(schema.at(schema.find(path)),
-                                                                      index);
+    return host::Document::instance().activeFrame()->values().integer(schema.leaf(path), index);
 }
 
 } // namespace corvala::sdk

@@ -12,7 +12,7 @@ namespace corvala::propertybindings {
 CurveFitCollection::CurveFitCollection()
 {
     const host::Schema& schema = host::Schema::instance();
-    const host::Attribute& attribute = schema.at(schema.find({"LineMap", "Curves", "CurveType"}));
+    const host::Attribute& attribute = schema.leaf({"LineMap", "Curves", "CurveType"});
     for (auto* type = attribute.enumerators; type->name; ++type) {
         // A document says that a fit is extended, but not which one, so none can be offered.
         if (type->value != CurveType_Extended)

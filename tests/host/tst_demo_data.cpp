@@ -73,7 +73,7 @@ void tst_DemoData::assignsVariables()
     const Frame& frame = *Document::instance().activeFrame();
     const Schema& schema = Schema::instance();
     const auto value = [&](const std::vector<std::string>& path, std::int64_t index = -1) {
-        return frame.values().integer(schema.at(schema.find(path)), index);
+        return frame.values().integer(schema.leaf(path), index);
     };
     QCOMPARE(frame.data()->variable(value({"GlobalVector", "WVar"})).name, std::string("W"));
     QCOMPARE(frame.data()->variable(value({"ContourGroups", "Var"}, 2)).name,
