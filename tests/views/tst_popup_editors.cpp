@@ -274,6 +274,9 @@ void tst_PopupEditors::insertsTokens()
         QCOMPARE(tokens->model()->rowCount(), 9);
         QVERIFY(tokens->viewport()->height() >= 9 * tokens->sizeHintForRow(0));
         QTest::keyClick(field, Qt::Key_End);
+        QTest::keyClick(field, Qt::Key_Down);
+        QCOMPARE(popup.focusWidget(), tokens);
+        QTest::keyClick(tokens, Qt::Key_Space);
         QTest::mouseClick(tokens->viewport(), Qt::LeftButton, {},
                           tokens->visualRect(tokens->model()->index(6, 0)).center());
         QTest::mouseClick(insert, Qt::LeftButton);
@@ -286,7 +289,7 @@ void tst_PopupEditors::insertsTokens()
     });
     PopupDialogBase::run(new DynamicLineMapTextEditDialog(
         {}, &parent, [&](const QString& text) { committed = text; }, "map ", 3));
-    QCOMPARE(committed, "&Y#&&Y#&map &M#&");
+    QCOMPARE(committed, "&Y#&&Y#&map &ZN&&M#&");
 }
 
 QTEST_MAIN(tst_PopupEditors)

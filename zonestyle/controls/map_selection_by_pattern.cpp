@@ -49,12 +49,12 @@ MapSelectionByPattern::MapSelectionByPattern(QWidget* parent)
 {
     setupUi();
     m_properties->labelText().set(m_label->text().toStdString());
-    const auto relevance = m_properties->relevance();
     m_bindings.reset(new Bindings {
         {m_label, m_properties->labelText()},
         {m_lineEdit, m_properties->pattern()},
-        {m_applyButton, [this] { applyPattern(); }, relevance},
-        {m_groupsButton, [this] { applyPatternToGroups(); }, relevance},
+        {m_applyButton, [this] { applyPattern(); }, m_properties->relevanceOf(SelectOption_Names)},
+        {m_groupsButton, [this] { applyPatternToGroups(); },
+         m_properties->relevanceOf(SelectOption_Groups)},
         {m_clearButton, [this] { clearPattern(); }},
     });
     connect(m_lineEdit, &QLineEdit::returnPressed, m_applyButton, &QPushButton::click);
@@ -131,7 +131,7 @@ void MapSelectionByPattern::send(SelectOption_s option)
 {
     const std::string pattern = m_properties->pattern().get();
     Q_EMIT patternChanged(pattern, option);
-    m_properties->noteApplied();
+    m_properties->noteApplied(option);
 }
 
 void MapSelectionByPattern::selectionChanged()

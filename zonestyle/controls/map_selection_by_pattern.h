@@ -27,7 +27,8 @@ enum SelectOption_s : int {
 namespace uicontrols {
 
 /// One line under a table that selects rows by a pattern. It does no matching: it sends the
-/// pattern, and lets it be sent again only after it was edited or the selection was changed.
+/// pattern, and lets it be sent again with the same option only after it was edited or the
+/// selection was changed.
 class MapSelectionByPattern : public QWidget
 {
     Q_OBJECT

@@ -32,8 +32,19 @@ MapSelectionByPatternPropertiesManager::relevance() const
     return m_relevance;
 }
 
-void MapSelectionByPatternPropertiesManager::noteApplied()
+boost::shared_ptr<property::RelevanceInterface const>
+MapSelectionByPatternPropertiesManager::relevanceOf(int option) const
 {
+    const RelevanceExpression optionIsOther(boost::make_shared<PropertyPredicateDependentRelevance>(
+        std::vector<const property::PropertyAbstract*> {&m_lastAppliedOption}, [this, option] {
+            return m_lastAppliedOption.get() != 0 && m_lastAppliedOption.get() != option;
+        }));
+    return RelevanceExpression(m_relevance) || optionIsOther;
+}
+
+void MapSelectionByPatternPropertiesManager::noteApplied(int option)
+{
+    m_lastAppliedOption.set(option);
     m_selectionChanged.set(false);
     m_lastAppliedPattern.set(m_pattern.get());
 }

@@ -24,13 +24,18 @@ public:
 
     boost::shared_ptr<property::RelevanceInterface const> relevance() const override;
 
-    /// Notes that the pattern, as it is now, has been applied.
-    void noteApplied();
+    /// As relevance(), or while what was applied last is another option (0: the empty pattern of
+    /// Clear, which leaves nothing to apply): a pattern without a name like it may be a group's.
+    boost::shared_ptr<property::RelevanceInterface const> relevanceOf(int option) const;
+
+    /// Notes that the pattern, as it is now, has been applied with an option.
+    void noteApplied(int option);
 
 private:
     property::Property<std::string> m_pattern;
     property::Property<std::string> m_labelText;
     property::Property<std::string> m_lastAppliedPattern;
+    property::Property<int> m_lastAppliedOption;
     property::Property<bool> m_selectionChanged;
     boost::shared_ptr<property::RelevanceInterface const> m_relevance;
 };

@@ -89,6 +89,7 @@ void DynamicLineMapTextEditDialog::setupUi()
     m_lineEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_lineEdit->setStyleSheet(
         QStringLiteral("QLineEdit{\nborder:solid;\nborder-width:1px;\nborder-color:black;\n}"));
+    m_lineEdit->installEventFilter(this);
     nameRow->addWidget(m_lineEdit, 1);
     m_insertButton = addToolButton(*nameRow, QStringLiteral("insertToolButton"),
                                    QStringLiteral(":/icons/plus.svg"), tr("Insert token"));
@@ -157,9 +158,15 @@ void DynamicLineMapTextEditDialog::insertCurrentToken()
 
 bool DynamicLineMapTextEditDialog::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool isSpace = watched == m_listView && event->type() == QEvent::KeyPress
-        && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space;
-    if (!isSpace)
+    const int key =
+        event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : Qt::Key_unknown;
+    if (watched == m_lineEdit && key == Qt::Key_Down) {
+        if (!m_listView->currentIndex().isValid())
+            m_listView->setCurrentIndex(m_listView->model()->index(0, 0));
+        m_listView->setFocus();
+        return true;
+    }
+    if (watched != m_listView || key != Qt::Key_Space)
         return PopupDialogBase::eventFilter(watched, event);
     if (m_properties->tokenChosen().get())
         insertCurrentToken();

@@ -30,7 +30,7 @@ public:
 
 protected:
     std::optional<QString> enteredText() const override;
-    /// In the list of tokens, Space inserts the current one.
+    /// Down goes from the name to the list of tokens, where Space inserts the current one.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
