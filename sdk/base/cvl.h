@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <sdk/base/enums.h>
 #include <sdk/base/types.h>
+
+#ifdef __cplusplus
+#include <sdk/base/enums.h> /* in C the numbers have no names */
+#endif
 
 /*
  * Flat functions of the host: queries and commands on frames, maps, zones, variables, sets, undo.
