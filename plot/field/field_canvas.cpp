@@ -60,7 +60,6 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
-        painter.scale(1.0 / devicePixelRatioF(), 1.0 / devicePixelRatioF());
         m_view.paintDecorations(painter);
     }
 
@@ -125,18 +124,6 @@ void FieldCanvas::resizeEvent(QResizeEvent* event)
         m_overlay->setGeometry(m_widget->rect());
         requestRedraw();
     }
-}
-
-QSize FieldCanvas::pixelSize() const
-{
-    const double ratio = devicePixelRatioF();
-    return {static_cast<int>(std::lround(width() * ratio)),
-            static_cast<int>(std::lround(height() * ratio))};
-}
-
-QPointF FieldCanvas::pixelOf(const QPointF& position) const
-{
-    return position * devicePixelRatioF();
 }
 
 void FieldCanvas::takePlotType()
@@ -215,7 +202,7 @@ void FieldCanvas::endReport(bool cancelled)
 
 void FieldCanvas::draw()
 {
-    m_view.setSize(pixelSize());
+    m_view.setSize(size(), devicePixelRatioF());
     m_view.prepare();
     m_widget->renderWindow()->Render();
     m_overlay->update();
@@ -271,7 +258,7 @@ bool FieldCanvas::handleMouse(QEvent* event)
         auto* const wheel = static_cast<QWheelEvent*>(event);
         if (m_view.isFlat()) {
             const double notches = wheel->angleDelta().y() / 120.0;
-            m_view.magnify(std::pow(kWheelStep, notches), pixelOf(wheel->position()));
+            m_view.magnify(std::pow(kWheelStep, notches), wheel->position());
             requestRedraw();
         }
         m_view.setMoved();
@@ -286,7 +273,7 @@ bool FieldCanvas::handleMouse(QEvent* event)
         if (m_isDragging && mouse->buttons()) {
             m_view.setMoved();
             if (m_view.isFlat()) {
-                m_view.pan(pixelOf(moved));
+                m_view.pan(moved);
                 m_pressedAt = position;
                 requestRedraw();
             }
@@ -305,7 +292,7 @@ bool FieldCanvas::handleMouse(QEvent* event)
 
 void FieldCanvas::click(const QPointF& position, bool activate)
 {
-    Q_EMIT zonePicked(m_view.zoneAt(pixelOf(position)), activate);
+    Q_EMIT zonePicked(m_view.zoneAt(position), activate);
 }
 
 } // namespace corvala::plot

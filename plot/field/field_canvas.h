@@ -50,8 +50,6 @@ private:
     void takePlotType();
     void draw();
     void endReport(bool cancelled);
-    QPointF pixelOf(const QPointF& position) const;
-    QSize pixelSize() const;
     bool handleMouse(QEvent* event);
     void click(const QPointF& position, bool activate);
 

@@ -66,7 +66,7 @@ void FieldView::setFlat(bool flat)
     m_back->GetActiveCamera()->SetParallelProjection(flat);
 }
 
-void FieldView::setSize(const QSize& size, int magnification)
+void FieldView::setSize(const QSize& size, double magnification)
 {
     m_magnification = magnification;
     m_size = size.expandedTo({1, 1});
@@ -126,8 +126,8 @@ void FieldView::prepare()
         bounds[5] += m_flat ? 1.0 : 0.0;
         m_back->ResetCameraClippingRange(bounds);
     }
-    m_scene->setScale({m_magnification * m_size.height(), m_magnification * pixelsPerUnit(),
-                       static_cast<double>(m_magnification)});
+    m_scene->setScale({static_cast<int>(std::lround(m_magnification * m_size.height())),
+                       m_magnification * pixelsPerUnit(), m_magnification});
 }
 
 void FieldView::fit()
@@ -346,7 +346,8 @@ CvlInt64 FieldView::zoneAt(const QPointF& point)
     if (!m_layout.plot.contains(point))
         return 0;
     const auto worldAt = [&](double depth) {
-        m_back->SetDisplayPoint(point.x(), m_size.height() - 1.0 - point.y(), depth);
+        m_back->SetDisplayPoint(m_magnification * point.x(),
+                                m_magnification * (m_size.height() - point.y()) - 1.0, depth);
         m_back->DisplayToWorld();
         const double* const world = m_back->GetWorldPoint();
         return std::array<double, 3> {world[0] / world[3], world[1] / world[3],

@@ -47,14 +47,14 @@ public:
     void setFlat(bool flat);
     bool isFlat() const { return m_flat; }
 
-    /// Size of the final picture in pixels; each of them is drawn as `magnification` by
-    /// `magnification` pixels of the window.
-    void setSize(const QSize& size, int magnification = 1);
+    /// Size of the picture in its pixels, which every place and length here is given in; each is
+    /// drawn as `magnification` by `magnification` pixels of the window.
+    void setSize(const QSize& size, double magnification);
     /// Shows everything that there is, and keeps showing it when the window's size changes.
     void fit();
     CameraState camera() const;
     void setCamera(const CameraState& state);
-    /// Moves in a flat plot by pixels, and magnifies about a point of the window (from top left).
+    /// Moves in a flat plot by pixels, and magnifies about a point of the picture (from top left).
     void pan(const QPointF& pixels);
     void magnify(double factor, const QPointF& center);
     /// The user took hold of the camera.
@@ -68,7 +68,7 @@ public:
     /// Axes, legends and remarks, over the drawing.
     void paintDecorations(QPainter& painter);
 
-    /// The zone at a point of the window, from top left; 0 for none.
+    /// The zone at a point of the picture, from top left; 0 for none.
     CvlInt64 zoneAt(const QPointF& point);
 
 private:
@@ -93,7 +93,7 @@ private:
     bool m_widens = false; ///< the same, but it keeps what it had
     vtkBoundingBox m_fitBox;
     QSize m_size {1, 1};
-    int m_magnification = 1;
+    double m_magnification = 1.0;
     FieldLayout m_layout;
     std::vector<FieldLegend> m_legends;
 };

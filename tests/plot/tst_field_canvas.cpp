@@ -24,6 +24,7 @@ using namespace corvala::plot;
 using namespace corvala::tests;
 
 static constexpr const char* kReportProblem = "CORVALA_REPORT_OPENGL";
+static constexpr const char* kReportZones = "CORVALA_REPORT_ZONES";
 
 class tst_FieldCanvas : public QObject
 {
@@ -52,6 +53,7 @@ private Q_SLOTS:
     void viewWidensForOtherTimes();
     void longWorkIsReported();
     void missingOpenGlIsNamed();
+    void everyPixelRatioShowsTheSame();
 };
 
 static constexpr QSize kSize {480, 400};
@@ -594,19 +596,25 @@ void tst_FieldCanvas::longWorkIsReported()
     QCOMPARE(ended.last()[0].toBool(), false);
 }
 
+/// What this program prints with some variables of the environment set.
+static QString outputWith(const QMap<QString, QString>& variables)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (auto variable = variables.begin(); variable != variables.end(); ++variable)
+        environment.insert(variable.key(), variable.value());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QCoreApplication::applicationFilePath(), QStringList());
+    process.waitForFinished();
+    return process.exitStatus() == QProcess::NormalExit
+        ? QString::fromUtf8(process.readAllStandardOutput())
+        : QStringLiteral("crashed");
+}
+
 void tst_FieldCanvas::missingOpenGlIsNamed()
 {
     const auto problemWith = [](const QString& variable, const QString& value) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(kReportProblem, "1");
-        environment.insert(variable, value);
-        QProcess process;
-        process.setProcessEnvironment(environment);
-        process.start(QCoreApplication::applicationFilePath(), QStringList());
-        process.waitForFinished();
-        return process.exitStatus() == QProcess::NormalExit
-            ? QString::fromUtf8(process.readAllStandardOutput())
-            : QStringLiteral("crashed");
+        return outputWith({{kReportProblem, "1"}, {variable, value}});
     };
     const QString old = problemWith("MESA_GL_VERSION_OVERRIDE", "2.1");
     QVERIFY2(old.contains("OpenGL 3.2") && old.contains("libgl1-mesa-dri"), qPrintable(old));
@@ -615,6 +623,36 @@ void tst_FieldCanvas::missingOpenGlIsNamed()
     QVERIFY2(other.contains("X server") && other.contains("offscreen"), qPrintable(other));
     const QString fine = problemWith("MESA_GL_VERSION_OVERRIDE", "");
     QVERIFY2(fine.contains("a picture"), qPrintable(fine));
+}
+
+void tst_FieldCanvas::everyPixelRatioShowsTheSame()
+{
+    const auto zonesAt = [](const QString& ratio) {
+        return outputWith({{kReportZones, "1"}, {"QT_SCALE_FACTOR", ratio}}).split(' ');
+    };
+    const QStringList plain = zonesAt("1");
+    QVERIFY2(plain.size() > 500, qPrintable(plain.join(' ')));
+    for (const char* ratio : {"1.5", "2"}) {
+        const QStringList scaled = zonesAt(ratio);
+        QCOMPARE(scaled.size(), plain.size());
+        int different = 0; // at the rims of zones
+        for (int i = 0; i < plain.size(); ++i)
+            different += plain[i] != scaled[i] ? 1 : 0;
+        QVERIFY2(different < plain.size() / 50, QByteArray::number(different));
+    }
+}
+
+/// Which zones are seen in a small window, point by point, for everyPixelRatioShowsTheSame.
+static int reportZones()
+{
+    openDemo("field2d");
+    ShownCanvas shown;
+    shown.canvas.resize(300, 200);
+    shown.settle();
+    for (int y = 4; y < shown.canvas.height(); y += 8)
+        for (int x = 4; x < shown.canvas.width(); x += 8)
+            std::printf("%d ", static_cast<int>(shown.canvas.view().zoneAt(QPointF(x, y))));
+    return 0;
 }
 
 /// What a machine without OpenGL does, as a program of its own.
@@ -638,6 +676,8 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     if (qEnvironmentVariableIsSet(kReportProblem))
         return reportOpenGl();
+    if (qEnvironmentVariableIsSet(kReportZones))
+        return reportZones();
     tst_FieldCanvas test;
     return QTest::qExec(&test, argc, argv);
 }
