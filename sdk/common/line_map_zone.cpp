@@ -45,7 +45,9 @@ static std::set<int> drawnVariables(const Frame& frame, const host::MapSet& maps
 
 static bool hasPointValues(const DataSet& data, CvlInt64 zone, int variable)
 {
-    if (data.hasVariable(variable) && data.variable(variable).isCoordinate())
+    if (!data.hasVariable(variable))
+        return true; // no zone has values of it
+    if (data.variable(variable).isCoordinate())
         return data.zone(zone).pointCount > 0;
     const host::ZoneValues values = data.values(zone, variable);
     return values.array && values.location == host::ValueLocation::Points;

@@ -263,6 +263,11 @@ void tst_Common::confirmsZonesWithoutPointValues()
                                             "Do you want to use it anyway?");
     QCOMPARE(responder.takeSeen(),
              (QStringList {question.arg("%1 in cells"), question.arg("gone")}));
+
+    auto positions = std::make_shared<host::DataSet>(*Document::instance().activeFrame()->data());
+    positions->variables.resize(1);
+    Document::instance().attachDataSet(positions, PlotType_LineXY, 1);
+    QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({1}))); // its second variable is nowhere
 }
 
 void tst_Common::lockIsRecursive()
