@@ -76,6 +76,7 @@ void tst_TableGestures::checkBoxSwitchesSelectedRows_data()
     row("the clicked one is off", {2, 3, 5}, 3, 0, "1 1 1 1 1 1", "2-3,5");
     row("one row", {4}, 4, 0, "1 1 0 0 1 1", "4");
     row("a row that is not selected", {1, 2}, 6, 0, "1 1 0 1 1 0", "6");
+    row("up to there", {4, 5}, 2, Qt::ShiftModifier, "1 0 0 0 0 1", "2-5");
     row("one more row", {1, 2}, 6, Qt::ControlModifier, "0 0 0 1 1 0", "1-2,6");
 }
 

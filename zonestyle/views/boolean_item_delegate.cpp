@@ -83,18 +83,23 @@ bool BooleanItemDelegate::handlePress(QMouseEvent& event, QAbstractItemModel& mo
 }
 
 /// The view leaves the selection alone when a press was handled; a check box in a row that is not
-/// selected would then do nothing.
+/// selected would then do nothing. Shift selects from the current row on, as it does elsewhere.
 void BooleanItemDelegate::selectPressedRow(Qt::KeyboardModifiers modifiers)
 {
     QItemSelectionModel* selection = view() ? view()->selectionModel() : nullptr;
     if (!selection)
         return;
+    const QModelIndex current = selection->currentIndex();
+    const bool extends = modifiers.testFlag(Qt::ShiftModifier) && current.isValid();
+    const QModelIndex last(m_pressed);
+    const QModelIndex first = extends ? last.sibling(current.row(), last.column()) : last;
     selection->setCurrentIndex(m_pressed, QItemSelectionModel::NoUpdate);
     if (selection->isSelected(m_pressed))
         return;
     const bool adds = modifiers.testFlag(Qt::ControlModifier);
+    const bool isDownward = first.row() <= last.row();
     selection->select(
-        m_pressed,
+        QItemSelection(isDownward ? first : last, isDownward ? last : first),
         QItemSelectionModel::Rows
             | (adds ? QItemSelectionModel::Select : QItemSelectionModel::ClearAndSelect));
 }
