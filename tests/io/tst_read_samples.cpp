@@ -169,6 +169,22 @@ private Q_SLOTS:
         QVERIFY(values(*result.data, 1, "U X") != u);
     }
 
+    void manyWarningsAreCounted()
+    {
+        const QDir folder(m_folder.copySample("cavity_transient", "cut"));
+        for (const char* const time : {"0", "0.5", "1", "1.5", "2", "2.5"}) {
+            for (const char* const field : {"U", "p"}) {
+                QFile file(folder.filePath(QString("%1/%2").arg(time, field)));
+                QVERIFY(file.open(QIODevice::ReadWrite));
+                QVERIFY(file.resize(file.readAll().indexOf("frontAndBack")));
+            }
+        }
+        const ReadResult result = read({folder.filePath("case.foam")});
+        QVERIFY2(result.data, qPrintable(result.error));
+        QCOMPARE(result.data->notes.size(), std::size_t(6));
+        QCOMPARE(result.data->notes[5], std::string("There were 7 more warnings like these."));
+    }
+
     void decomposedCase()
     {
         m_folder.write("parts/system/controlDict", "FoamFile { }");

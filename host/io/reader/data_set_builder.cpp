@@ -17,6 +17,8 @@
 namespace corvala::host::io::reader {
 
 static constexpr double kFlatness = 1e-9; ///< Z range of planar data against their extent
+static constexpr double kPartOfReading = 0.5; ///< of the progress; the rest is handing over
+static constexpr std::size_t kMostWarnings = 5; ///< that are shown
 static constexpr std::int64_t kBytesOfPoint = 3 * sizeof(float);
 
 DataSetBuilder::DataSetBuilder(const QString& folder, Channel& channel, std::int64_t memoryBytes)
@@ -145,26 +147,38 @@ void DataSetBuilder::readTime(DataFile& file, const std::vector<double>& times,
         m_channel.report(file.path(), static_cast<int>(100 * ofAll), what);
     };
     report(0.0);
-    const vtkSmartPointer<vtkDataObject> root = file.read(timeIndex, report);
+    const vtkSmartPointer<vtkDataObject> root =
+        file.read(timeIndex, [&](double part) { report(kPartOfReading * part); });
     throwPendingError(file);
     noteWarnings(file);
 
     std::map<std::string, int> uses;
-    for (const LeafBlock& leaf : leafBlocks(root)) {
+    const std::vector<LeafBlock> leaves = leafBlocks(root);
+    for (std::size_t i = 0; i < leaves.size(); ++i) {
+        const LeafBlock& leaf = leaves[i];
+        report(kPartOfReading
+               + (1 - kPartOfReading) * static_cast<double>(i)
+                   / static_cast<double>(leaves.size()));
         if (leaf.data)
             requireUsable(file, *leaf.data);
         const std::string path = joined(leaf.names);
-        const BlockKey key(path, uses[path]++);
-        const auto [place, isNew] = m_blockOfKey.try_emplace(key, m_blocks.size());
-        if (isNew) {
-            const bool standsAlone = leaf.names.empty();
-            const std::string name = standsAlone ? prefix
-                : m_fileCount > 1                ? prefix + '/' + path
-                                                 : path;
-            m_blocks.push_back({name, times.size() > 1, {}});
-        }
-        addLeaf(m_blocks[place->second], leaf.data, times.empty() ? 0.0 : times[timeIndex]);
+        Block& block = blockAt({path, uses[path]++}, prefix, times.size() > 1);
+        addLeaf(block, leaf.data, times.empty() ? 0.0 : times[timeIndex]);
     }
+}
+
+DataSetBuilder::Block& DataSetBuilder::blockAt(const BlockKey& key, const std::string& prefix,
+                                               bool isTransient)
+{
+    const auto [place, isNew] = m_blockOfKey.try_emplace(key, m_blocks.size());
+    if (isNew) {
+        const std::string& path = key.first;
+        const std::string name = path.empty() ? prefix
+            : m_fileCount > 1                 ? prefix + '/' + path
+                                              : path;
+        m_blocks.push_back({name, isTransient, {}});
+    }
+    return m_blocks[place->second];
 }
 
 void DataSetBuilder::requireUsable(const DataFile& file, vtkDataSet& data) const
@@ -195,13 +209,21 @@ void DataSetBuilder::addLeaf(Block& block, vtkDataSet* data, double time)
 
 void DataSetBuilder::noteWarnings(const DataFile& file)
 {
-    for (const QString& warning : VtkMessages::takeWarnings())
-        m_index.notes.emplace_back(
-            "%1: %2", std::initializer_list<QString> {QFileInfo(file.path()).fileName(), warning});
+    const QString name = QFileInfo(file.path()).fileName();
+    for (const QString& warning : VtkMessages::takeWarnings()) {
+        if (!m_warnings.insert(name + QLatin1Char('\n') + warning).second
+            || m_warnings.size() > kMostWarnings)
+            continue;
+        m_index.notes.emplace_back("%1: %2", std::initializer_list<QString> {name, warning});
+    }
 }
 
 void DataSetBuilder::noteOmissions()
 {
+    if (m_warnings.size() > kMostWarnings)
+        m_index.notes.emplace_back(
+            QT_TRANSLATE_NOOP("ReadMessage", "There were %1 more warnings like these."),
+            std::initializer_list<QString> {QString::number(m_warnings.size() - kMostWarnings)});
     const auto empty = std::count_if(m_blocks.begin(), m_blocks.end(),
                                      [](const Block& block) { return block.zones.empty(); });
     if (empty == 1)

@@ -12,6 +12,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <vector>
 
 #include <vtkBoundingBox.h>
@@ -45,6 +46,7 @@ private:
     void readTime(DataFile& file, const std::vector<double>& times, std::size_t timeIndex,
                   const std::string& prefix);
     void requireUsable(const DataFile& file, vtkDataSet& data) const;
+    Block& blockAt(const BlockKey& key, const std::string& prefix, bool isTransient);
     void addLeaf(Block& block, vtkDataSet* data, double time);
     std::vector<std::size_t> timesInOrder(const DataFile& file, const std::vector<double>& times);
     void noteWarnings(const DataFile& file);
@@ -60,6 +62,7 @@ private:
     std::map<BlockKey, std::size_t> m_blockOfKey; ///< of the file that is being read
     vtkBoundingBox m_bounds;
     QSet<QString> m_droppedArrays;
+    std::set<QString> m_warnings; ///< with the names of the files
     std::size_t m_fileNumber = 0;
     std::size_t m_fileCount = 1;
 };

@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -28,6 +27,18 @@ static QString word(Role role)
     return QString::fromLatin1(words[static_cast<int>(role)]);
 }
 
+/// The neighbour of this name, if need be in other letter cases; empty when there is none.
+static QString named(const QStringList& neighbours, const QString& name)
+{
+    if (neighbours.contains(name))
+        return name;
+    const auto found =
+        std::find_if(neighbours.begin(), neighbours.end(), [&](const QString& neighbour) {
+            return neighbour.compare(name, Qt::CaseInsensitive) == 0;
+        });
+    return found == neighbours.end() ? QString() : *found;
+}
+
 /// The file of a role beside another file that has the same name but for what tells roles apart.
 static QString sibling(const QString& path, Role own, Role wanted)
 {
@@ -40,11 +51,9 @@ static QString sibling(const QString& path, Role own, Role wanted)
     if (base.endsWith(word(own), Qt::CaseInsensitive))
         names << base.chopped(word(own).size()) + word(wanted) + QLatin1Char('.') + info.suffix();
     for (const QString& name : names) {
-        const int found = neighbours.indexOf(QRegularExpression(
-            QRegularExpression::anchoredPattern(QRegularExpression::escape(name)),
-            QRegularExpression::CaseInsensitiveOption));
-        if (found >= 0 && neighbours[found] != info.fileName())
-            return info.dir().absoluteFilePath(neighbours[found]);
+        const QString found = named(neighbours, name);
+        if (!found.isEmpty() && found != info.fileName())
+            return info.dir().absoluteFilePath(found);
     }
     return {};
 }
