@@ -17,6 +17,9 @@ using corvala::sdk::ui::dialogs::ZoneStyleDialog;
 
 static constexpr int kNarrowestWindow = 480;
 
+/// The dialog becomes wider with the number of its tabs.
+static constexpr int kRoomToGrow = 40;
+
 QWidget& openStyleDialog(QWidget& mainWindow, DialogInitialization_e initialization)
 {
     ZoneStyleDialog& dialog = ZoneStyleDialog::getInstance(mainWindow, initialization);
@@ -38,7 +41,7 @@ void placeSideBySide(QWidget& mainWindow, QWidget& dialog)
     const QScreen* screen = mainWindow.screen();
     if (!screen)
         return;
-    const QRect area = screen->availableGeometry();
+    const QRect area = screen->availableGeometry().adjusted(0, 0, -kRoomToGrow, 0);
     const int dialogWidth =
         std::min(dialog.frameGeometry().width(), area.width() - kNarrowestWindow);
     const int windowWidth =

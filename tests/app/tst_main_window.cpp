@@ -14,9 +14,13 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QSet>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
+
+#include <algorithm>
 
 using namespace corvala;
 using namespace corvala::app;
@@ -31,16 +35,27 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void showsTheDocument();
+    void accessKeysAreUnique();
     void layersAndPlotTypeChangeTheDocument();
     void undoIsNamedAndWorksByShortcut();
     void sliderGoesThroughTheTimes();
     void doubleClickOnAZoneOpensItsStyle();
+    void dialogBesideThePlotStaysOnTheScreen();
+    void commandsHaveTheirKeysInTheDialogToo();
     void readsWhileTheWindowLives();
     void cancelsReading();
     void failureLeavesTheDocument();
     void tellsWhatPlot3DWasDetected();
 
 private:
+    /// Of the commands in the File menu that bring data.
+    int enabledOpenCommands() const
+    {
+        const QList<QAction*> commands =
+            m_window->menuBar()->actions().value(0)->menu()->actions().mid(0, 5);
+        return int(std::count_if(commands.begin(), commands.end(),
+                                 [](const QAction* command) { return command->isEnabled(); }));
+    }
     QAction& layer(const char* name) { return *m_window->findChild<QAction*>(QLatin1String(name)); }
 
     std::unique_ptr<MainWindow> m_window;
@@ -80,6 +95,23 @@ void tst_MainWindow::showsTheDocument()
     QVERIFY(!layer("ShowContour").isChecked());
     QVERIFY(!layer("ShowLines").isVisible());
     QVERIFY(!m_window->findChild<QSlider*>(QStringLiteral("solutionTime"))->isVisible());
+}
+
+void tst_MainWindow::accessKeysAreUnique()
+{
+    QStringList texts;
+    for (const QAction* menu : m_window->menuBar()->actions())
+        texts << menu->text();
+    for (const QLabel* label : m_window->findChildren<QLabel*>()) {
+        if (label->buddy())
+            texts << label->text();
+    }
+    QSet<QString> keys;
+    for (const QString& text : texts) {
+        const QString key = QKeySequence::mnemonic(text).toString();
+        QVERIFY2(!key.isEmpty() && !keys.contains(key), qPrintable(text));
+        keys << key;
+    }
 }
 
 void tst_MainWindow::layersAndPlotTypeChangeTheDocument()
@@ -150,6 +182,35 @@ void tst_MainWindow::doubleClickOnAZoneOpensItsStyle()
     QCOMPARE(play::selectedMaps(driver), QString::number(zone));
 }
 
+/// It becomes wider with the tabs of the other plot types.
+void tst_MainWindow::dialogBesideThePlotStaysOnTheScreen()
+{
+    const QRect screen = m_window->screen()->availableGeometry();
+    m_window->openDemo(QStringLiteral("field2d"));
+    m_window->openStyleDialogBeside();
+    for (const char* demo : {"field2d", "field3d", "xy"}) {
+        m_window->openDemo(QLatin1String(demo));
+        play::waitUntilIdle();
+        const QRect dialog = play::DialogDriver().dialog().frameGeometry();
+        QVERIFY2(screen.contains(dialog), demo);
+        QVERIFY2(!dialog.intersects(m_window->frameGeometry()), demo);
+    }
+}
+
+void tst_MainWindow::commandsHaveTheirKeysInTheDialogToo()
+{
+    m_window->openDemo(QStringLiteral("kinds"));
+    m_window->openStyleDialog(corvala::dialogs::common::DialogInitialization_None);
+    play::waitUntilIdle();
+    layer("ShowContour").trigger();
+    const play::DialogDriver driver;
+    play::pressKeys(&driver.dialog(), QKeySequence(QKeySequence::Undo));
+    QVERIFY(!frame().fieldLayer("ShowContour"));
+    play::pressKeys(&driver.dialog(), QKeySequence(QKeySequence::Quit));
+    play::waitUntilIdle();
+    QVERIFY(!m_window->isVisible());
+}
+
 void tst_MainWindow::readsWhileTheWindowLives()
 {
     QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
@@ -164,7 +225,9 @@ void tst_MainWindow::readsWhileTheWindowLives()
 void tst_MainWindow::cancelsReading()
 {
     m_window->openDemo(QStringLiteral("kinds"));
+    QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
     m_window->openFiles({sample("naca_transient/naca.bin.case")});
+    QCOMPARE(enabledOpenCommands(), 0);
     QPushButton* cancel = nullptr;
     for (QPushButton* button : m_window->findChildren<QPushButton*>()) {
         if (button->isVisible() && button->text() == QLatin1String("Cancel"))
@@ -174,6 +237,9 @@ void tst_MainWindow::cancelsReading()
     cancel->click();
     QTRY_VERIFY(!cancel->isVisible());
     play::waitUntilIdle();
+    QCOMPARE(ended.size(), 1);
+    QCOMPARE(ended.first().first().toBool(), false);
+    QCOMPARE(enabledOpenCommands(), 5);
     QCOMPARE(frame().fieldMapCount(), CvlInt64(8));
     QVERIFY(!QApplication::activeModalWidget());
 }

@@ -34,29 +34,36 @@ private:
 
 void tst_Program::answersAtOnce_data()
 {
-    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<QString>("variable"); // of the environment, "NAME=value"
     QTest::addColumn<int>("exitCode");
     QTest::addColumn<QString>("output");
     QTest::addColumn<QString>("errors");
 
-    QTest::newRow("help") << QStringList {"--help"} << 0 << "--render"
-                          << "";
-    QTest::newRow("version") << QStringList {"--version"} << 0 << "corvala "
-                             << "";
-    QTest::newRow("unknown option") << QStringList {"--hlep"} << 2 << ""
-                                    << "--hlep";
-    QTest::newRow("unknown demo") << QStringList {"--demo=none"} << 2 << ""
-                                  << "\"none\"";
-    QTest::newRow("no screen") << QStringList {"--demo"} << 1 << ""
-                               << "no screen";
+    const QString none;
+    QTest::newRow("help") << "--help" << none << 0 << "--render" << none;
+    QTest::newRow("version") << "--version" << none << 0 << "corvala " << none;
+    QTest::newRow("unknown option") << "--hlep" << none << 2 << none << "--hlep";
+    QTest::newRow("unknown demo") << "--demo=none" << none << 2 << none << "\"none\"";
+    QTest::newRow("no screen") << "--demo" << none << 1 << none << "no screen";
+    QTest::newRow("no X server") << "--demo"
+                                 << "QT_QPA_PLATFORM=xcb" << 1 << none << "no screen";
+    QTest::newRow("Wayland alone")
+        << "--demo"
+        << "WAYLAND_DISPLAY=wayland-0" << 1 << none << "install the package xwayland";
 }
 
 void tst_Program::answersAtOnce()
 {
-    QFETCH(QStringList, arguments);
+    QFETCH(QString, argument);
+    QFETCH(QString, variable);
     QFETCH(QString, output);
     QFETCH(QString, errors);
-    const ProgramRun run = runProgram(arguments);
+    QProcessEnvironment environment = environmentWithoutDisplay();
+    if (!variable.isEmpty())
+        environment.insert(variable.section(QLatin1Char('='), 0, 0),
+                           variable.section(QLatin1Char('='), 1));
+    const ProgramRun run = runProgram({argument}, environment);
     QTEST(run.exitCode, "exitCode");
     QVERIFY2(run.output.contains(output), qPrintable(run.output));
     QVERIFY2(run.errors.contains(errors), qPrintable(run.errors));
@@ -165,6 +172,21 @@ void tst_Program::wrongScriptsNameTheirLine_data()
         << "no style value";
     QTest::newRow("missing data") << R"({"open": "nowhere.cgns"})"
                                   << "nowhere.cgns";
+    QTest::newRow("no list") << R"({"pick": {"zone": 3}})"
+                             << "\"pick\" must be a list";
+    QTest::newRow("two choices")
+        << R"({"menu": 1, "column": "Mesh\nColor", "choose": null, "color": 3})"
+        << "exclude each other";
+    QTest::newRow("map for a value of the frame") << R"({"get": ["PlotType"], "map": 1, "is": 2})"
+                                                  << "no value of a map";
+    QTest::newRow("nothing to rename") << R"({"rename": "wing"})"
+                                       << "takes one of";
+    QTest::newRow("scale of another kind") << R"({"demo": "xy", "zones": 3})"
+                                           << "scaled by \"maps\"";
+    QTest::newRow("picture of no format") << R"({"screenshot": "d.foo", "of": "dialog"})"
+                                          << "picture format";
+    QTest::newRow("no steps") << R"({"undo": 0})"
+                              << "must be 1 or more";
     QTest::newRow("nothing to undo") << R"({"undo": 1})"
                                      << "nothing to undo";
 }
