@@ -68,23 +68,30 @@ void CompositeLayer::Bucket::setProperties()
                        m_look.floodGroup > 0 ? 1.0 : 0.0);
 }
 
+void CompositeLayer::Bucket::setDepthShader(const std::string& depth)
+{
+    m_actor->GetShaderProperty()->AddFragmentShaderReplacement(
+        "//VTK::Depth::Impl", true, "gl_FragDepth = " + depth + ";\n", false);
+}
+
 /// What lies in the same place is drawn in the order of the layers: by height in a flat plot, else
-/// by moving faces away from the viewer. They move by as much as they recede within some pixels, so
-/// that lines keep their width on faces that are seen at an angle; the renderer's own offset knows
-/// nothing of the angle.
+/// by moving what comes earlier away from the viewer. Lines move by next to nothing. Faces move by
+/// as much as they recede within some pixels, so that lines keep their width on faces that are seen
+/// at an angle; the renderer's own offset knows nothing of the angle.
 void CompositeLayer::Bucket::setDepth(FieldLayer layer, bool flat)
 {
     if (flat) {
         m_actor->SetPosition(0.0, 0.0, kLayerHeight * static_cast<double>(layer));
         return;
     }
-    if (layer > FieldLayer::Flood)
+    if (layer > FieldLayer::Flood) {
+        const auto layersInFront = static_cast<int>(FieldLayer::Edges) - static_cast<int>(layer);
+        if (layersInFront > 0)
+            setDepthShader("gl_FragCoord.z + " + std::to_string(layersInFront) + "e-6");
         return;
-    m_actor->GetShaderProperty()->AddFragmentShaderReplacement(
-        "//VTK::Depth::Impl", true,
-        "gl_FragDepth = gl_FragCoord.z + 1e-6\n"
-        "  + setBack * max(abs(dFdx(gl_FragCoord.z)), abs(dFdy(gl_FragCoord.z)));\n",
-        false);
+    }
+    setDepthShader("gl_FragCoord.z + 4e-6\n"
+                   "  + setBack * max(abs(dFdx(gl_FragCoord.z)), abs(dFdy(gl_FragCoord.z)))");
     m_layersInFront = static_cast<float>(FieldLayer::Flood) - static_cast<float>(layer);
     setWidestLine(1.0);
 }

@@ -11,6 +11,8 @@
 #include <vtkTexture.h>
 #include <vtkTransform.h>
 
+#include <string>
+
 namespace corvala::plot {
 
 /// One composite mapper with its actor, and the blocks that it draws.
@@ -36,6 +38,7 @@ public:
 private:
     void setProperties();
     void setDepth(FieldLayer layer, bool flat);
+    void setDepthShader(const std::string& depth);
 
     MapperLook m_look;
     vtkNew<vtkActor> m_actor;

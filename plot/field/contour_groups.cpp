@@ -25,9 +25,11 @@ bool operator==(const ContourLevels& left, const ContourLevels& right)
 
 ContourLevels levelsFor(double minimum, double maximum)
 {
-    const double magnitude = std::max({std::abs(minimum), std::abs(maximum), 1e-300});
-    if (maximum - minimum <= magnitude * 1e-12)
-        return {minimum - magnitude / 2, magnitude, 1};
+    const double magnitude = std::max(std::abs(minimum), std::abs(maximum));
+    if (maximum - minimum <= magnitude * 1e-12) {
+        const double step = magnitude > 0.0 ? niceStep(magnitude, 1) : 1.0;
+        return {std::floor(minimum / step) * step, step, 1};
+    }
     ContourLevels levels;
     levels.step = niceStep(maximum - minimum, kMostBands);
     const double first = std::floor(minimum / levels.step + 1e-9);

@@ -23,7 +23,7 @@ struct ContourLevels
 
 bool operator==(const ContourLevels& left, const ContourLevels& right);
 
-/// Round levels that cover the range, in eight to twenty bands.
+/// Round levels that cover the range, in eight to twenty bands; a single value lies in one band.
 ContourLevels levelsFor(double minimum, double maximum);
 
 /// The variables of a frame's contour groups and RGB channels, and the values that they span.

@@ -22,6 +22,7 @@ class tst_ContourGroups : public QObject
 private Q_SLOTS:
     void levels_data();
     void levels();
+    void levelsOfOneValue();
     void ticks_data();
     void ticks();
     void coordinatesOutliveLevels();
@@ -53,6 +54,18 @@ void tst_ContourGroups::levels()
     QVERIFY(levels.minimum > minimum - levels.step && levels.maximum() < maximum + levels.step);
     QVERIFY2(levels.bands >= 8 && levels.bands <= 21, QByteArray::number(levels.bands));
     QCOMPARE(levels.inner().size(), static_cast<std::size_t>(levels.bands - 1));
+}
+
+void tst_ContourGroups::levelsOfOneValue()
+{
+    for (const double value : {0.0, 0.867, 1.0, 101325.0, -4e-9}) {
+        const ContourLevels levels = levelsFor(value, value);
+        QCOMPARE(levels.bands, 1);
+        QVERIFY(levels.minimum <= value && value <= levels.maximum());
+        // Written beside a legend, the ends are what they say.
+        for (const double end : {levels.minimum, levels.maximum()})
+            QCOMPARE(tickText(end, levels.step).toDouble(), end);
+    }
 }
 
 void tst_ContourGroups::ticks_data()

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void colorsAreTheirs();
     void hiddenLinesAreRemoved();
     void wireFrameIsSeenThroughFaces();
+    void edgesLieOnTheMesh();
     void thickLinesScaleWithThePicture();
     void nothingIsClipped_data();
     void nothingIsClipped();
@@ -216,6 +217,19 @@ void tst_FieldCanvas::wireFrameIsSeenThroughFaces()
     write("FieldMap/Mesh/MeshType", "1", MeshType_WireFrame);
     const QImage wires = picture();
     QVERIFY(shareOfColor(wires, Qt::black) > 1.2 * shareOfColor(overlay, Qt::black));
+}
+
+void tst_FieldCanvas::edgesLieOnTheMesh()
+{
+    openDemo("field3d");
+    write("FieldMap/EdgeLayer/Color", "all", 0);
+    const auto ink = [](bool mesh) {
+        write("FieldLayers/ShowMesh", "", mesh ? 1 : 0);
+        return shareOfColor(picture({1200, 900}), Qt::black);
+    };
+    const double alone = ink(false);
+    const double together = ink(true);
+    QVERIFY2(together > 0.9 * alone, QByteArray::number(together / alone));
 }
 
 void tst_FieldCanvas::thickLinesScaleWithThePicture()
