@@ -56,6 +56,7 @@ private Q_SLOTS:
     void tabGoesThroughTheDialogInOrder();
     void paintsTheSelection_data();
     void paintsTheSelection();
+    void followsTheColorsOfTheDesktop();
     void hasRoomForSixRows();
     void showsCutTextsAsToolTips();
 };
@@ -451,6 +452,23 @@ void tst_TableGestures::paintsTheSelection()
             QCOMPARE(background(row, column) != plain, isSelected);
         }
     }
+}
+
+void tst_TableGestures::followsTheColorsOfTheDesktop()
+{
+    DialogFixture fixture("field2d");
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::Base, Qt::black);
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::Highlight, Qt::blue);
+    QApplication::setPalette(dark);
+    const QPalette colors = fixture.table().palette();
+    QApplication::setPalette(before);
+    QCOMPARE(colors.color(QPalette::Text), QColor(Qt::white));
+    QCOMPARE(colors.color(QPalette::HighlightedText), QColor(Qt::white));
+    QVERIFY(qGray(colors.color(QPalette::Highlight).rgb()) < 64);
+    QVERIFY(fixture.table().palette().color(QPalette::Text) != QColor(Qt::white));
 }
 
 void tst_TableGestures::hasRoomForSixRows()

@@ -63,12 +63,14 @@ StyleTableView::StyleTableView(QWidget* parent)
     setAccessibleName(tr("Style table"));
     setHorizontalScrollMode(ScrollPerPixel);
     adoptPalette();
+    connect(qApp, &QGuiApplication::paletteChanged, this, &StyleTableView::adoptPalette);
 }
 
 /// Selected rows are tinted, not filled: swatches, check boxes and greyed texts stay readable.
 void StyleTableView::adoptPalette()
 {
     QPalette colors = QApplication::palette(this);
+    colors.resolve(0); // the other roles stay those of the desktop
     const QColor base = colors.color(QPalette::Active, QPalette::Base);
     const QColor text = colors.color(QPalette::Active, QPalette::Text);
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
@@ -83,7 +85,7 @@ void StyleTableView::adoptPalette()
 void StyleTableView::changeEvent(QEvent* event)
 {
     TableView::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::StyleChange)
+    if (event->type() == QEvent::StyleChange)
         adoptPalette();
 }
 
