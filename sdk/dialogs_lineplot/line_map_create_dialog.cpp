@@ -67,7 +67,7 @@ LineMapCreateDialog::LineMapCreateDialog(QWidget* parent)
     m_createButton->setDefault(true);
 
     auto* form = new QFormLayout(this);
-    form->addRow(tr("&Zone"), m_zone);
+    form->addRow(tr("&Zone:"), m_zone);
     form->addRow(m_independentLabel, m_independent);
     form->addRow(m_dependentLabel, m_dependent);
     form->addRow(buttons);
@@ -127,8 +127,8 @@ void LineMapCreateDialog::readDocument()
     for (const CvlInt64 variable : dependent)
         m_dependent->selectionModel()->select(m_variables->index(m_variables->rowOf(variable), 0),
                                               QItemSelectionModel::Select);
-    m_independentLabel->setText(isPolar() ? tr("&Theta variable") : tr("&X-axis variable"));
-    m_dependentLabel->setText(isPolar() ? tr("R&adius variables") : tr("&Y-axis variables"));
+    m_independentLabel->setText(isPolar() ? tr("&Theta variable:") : tr("&X-axis variable:"));
+    m_dependentLabel->setText(isPolar() ? tr("R&adius variables:") : tr("&Y-axis variables:"));
     updateCreateButton();
 }
 

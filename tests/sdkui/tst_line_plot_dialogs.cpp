@@ -206,13 +206,13 @@ void TestLinePlotDialogs::createsOneLineMapPerVariable_data()
     QTest::addColumn<QString>("independent");
     QTest::addColumn<QString>("dependent");
     QTest::newRow("xy") << "xy"
-                        << "&X-axis variable"
-                        << "&Y-axis variables"
+                        << "&X-axis variable:"
+                        << "&Y-axis variables:"
                         << "XAxisVar"
                         << "YAxisVar";
     QTest::newRow("polar") << "polar"
-                           << "&Theta variable"
-                           << "R&adius variables"
+                           << "&Theta variable:"
+                           << "R&adius variables:"
                            << "ThetaAxisVar"
                            << "RAxisVar";
 }
@@ -229,7 +229,7 @@ void TestLinePlotDialogs::createsOneLineMapPerVariable()
     dialog.launch();
     QVERIFY(!dialog.isModal());
     QCOMPARE(dialog.windowTitle(), QString("Create Line Maps"));
-    tests::chooseEntry(*fieldLabelled<ui::ComboBoxAutoFilter>(dialog, "&Zone"), "Zone 2");
+    tests::chooseEntry(*fieldLabelled<ui::ComboBoxAutoFilter>(dialog, "&Zone:"), "Zone 2");
     tests::chooseEntry(*fieldLabelled<ui::ComboBoxAutoFilter>(dialog, independentLabel), "angle");
     QCOMPARE(CvlUtilLineMapGetCountForFrame(CvlUtilFrameGetUniqueID()), 6);
 
@@ -272,16 +272,16 @@ void TestLinePlotDialogs::createDialogFollowsTheDocument()
 {
     auto& dialog = LineMapCreateDialog::getInstance(m_window.get());
     dialog.launch();
-    auto* zone = fieldLabelled<ui::ComboBoxAutoFilter>(dialog, "&Zone");
+    auto* zone = fieldLabelled<ui::ComboBoxAutoFilter>(dialog, "&Zone:");
     tests::chooseEntry(*zone, "3:");
-    auto* list = fieldLabelled<QListView>(dialog, "&Y-axis variables");
+    auto* list = fieldLabelled<QListView>(dialog, "&Y-axis variables:");
     list->selectionModel()->select(list->model()->index(2, 0), QItemSelectionModel::Select);
     host::Document::instance().renameZone(3, "Outlet");
     QTRY_COMPARE(zone->currentText(), QString("3: Outlet")); // what was chosen stays chosen
     QCOMPARE(list->selectionModel()->selectedIndexes().size(), 1);
     QCOMPARE(list->selectionModel()->selectedIndexes().first().row(), 2);
     sdk::ui::writeStyle({"PlotType"}, nullptr, PlotType_LinePolar);
-    QTRY_VERIFY(fieldLabelled<QListView>(dialog, "R&adius variables"));
+    QTRY_VERIFY(fieldLabelled<QListView>(dialog, "R&adius variables:"));
     dialog.close();
 }
 
