@@ -32,16 +32,18 @@ std::vector<double> niceTicks(double minimum, double maximum, int count)
 
 QString tickText(double value, double step)
 {
+    constexpr int kMostDigits = 12;
     const double magnitude = std::max(std::abs(value), step);
     if (std::abs(value) < 1e-9 * step)
         return QStringLiteral("0");
-    if (magnitude >= 1e6 || magnitude < 1e-3) {
-        const int digits =
-            static_cast<int>(std::floor(std::log10(magnitude)) - std::floor(std::log10(step)));
-        return QString::number(value, 'e', std::clamp(digits, 0, 12));
-    }
     const int decimals = static_cast<int>(std::ceil(-std::log10(step) - 1e-9));
-    return QString::number(value, 'f', std::clamp(decimals, 0, 12));
+    const QString plain = QString::number(value, 'f', std::clamp(decimals, 0, kMostDigits));
+    if (magnitude < 1e6 && magnitude >= 1e-3)
+        return plain;
+    const int digits =
+        static_cast<int>(std::floor(std::log10(magnitude)) - std::floor(std::log10(step)));
+    const QString scientific = QString::number(value, 'e', std::clamp(digits, 0, kMostDigits));
+    return plain.size() < scientific.size() && magnitude >= 1e6 ? plain : scientific;
 }
 
 } // namespace corvala::plot

@@ -76,6 +76,9 @@ void tst_ContourGroups::ticks_data()
     QTest::newRow("unit") << 0.0 << 1.0 << "0 0.2 0.4 0.6 0.8 1.0";
     QTest::newRow("across zero") << -4.2 << 8.3 << "-4 -2 0 2 4 6 8";
     QTest::newRow("large") << 0.0 << 4e6 << "0 1e+06 2e+06 3e+06 4e+06";
+    QTest::newRow("far from zero")
+        << 4523000.0 << 4523000.2 << "4523000.00 4523000.05 4523000.10 4523000.15 4523000.20";
+    QTest::newRow("small") << 0.0 << 4e-6 << "0 1e-06 2e-06 3e-06 4e-06";
     QTest::newRow("close together")
         << 1000.0001 << 1000.0005 << "1000.0001 1000.0002 1000.0003 1000.0004 1000.0005";
     QTest::newRow("nothing") << 1.0 << 1.0 << "";
