@@ -333,12 +333,12 @@ void MainWindow::choosePlot3DFiles()
         openFiles(files, dialog.chosenLayout());
 }
 
-void MainWindow::changePlot3DLayout(const host::io::Plot3DLayout& detected)
+void MainWindow::changePlot3DLayout(const host::io::ReadRequest& request,
+                                    const host::io::Plot3DLayout& detected)
 {
-    const QStringList files = m_opener.request().files;
-    Plot3DDialog dialog(m_opener.request().plot3d, &detected, this);
+    Plot3DDialog dialog(request.plot3d, &detected, this);
     if (dialog.exec() == QDialog::Accepted)
-        openFiles(files, dialog.chosenLayout());
+        openFiles(request.files, dialog.chosenLayout());
 }
 
 void MainWindow::tellOpened(const host::io::ReadResult& result)
@@ -352,9 +352,10 @@ void MainWindow::tellOpened(const host::io::ReadResult& result)
         return;
     }
     const host::io::Plot3DLayout detected = *result.detectedPlot3D;
+    const host::io::ReadRequest request = m_opener.request();
     notes.prepend(tr("Detected: %1.").arg(describePlot3DLayout(detected)));
     m_notice->tell(notes.join(QLatin1Char(' ')), tr("Change..."),
-                   [this, detected] { changePlot3DLayout(detected); });
+                   [this, request, detected] { changePlot3DLayout(request, detected); });
 }
 
 QImage MainWindow::canvasImage(QString* error)

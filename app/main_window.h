@@ -69,7 +69,8 @@ private:
 
     void chooseFiles();
     void choosePlot3DFiles();
-    void changePlot3DLayout(const host::io::Plot3DLayout& detected);
+    void changePlot3DLayout(const host::io::ReadRequest& request,
+                            const host::io::Plot3DLayout& detected);
     void tellOpened(const host::io::ReadResult& result);
     void savePicture();
     void pickZone(CvlInt64 zone, bool activate);

@@ -19,6 +19,7 @@
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -269,6 +270,22 @@ void tst_MainWindow::tellsWhatPlot3DWasDetected()
     }
     const QString shown = texts.join(QLatin1Char('|'));
     QVERIFY2(shown.contains(QLatin1String("Detected: binary, several grids")), qPrintable(shown));
+
+    // Another file that fails in between does not take the place of these data.
+    m_window->openFiles({QStringLiteral("/nowhere/wing.cgns")});
+    QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 2, 60000);
+    QApplication::activeModalWidget()->close();
+    QPushButton* change = nullptr;
+    for (QPushButton* button : m_window->findChildren<QPushButton*>()) {
+        if (button->text() == QLatin1String("Change..."))
+            change = button;
+    }
+    QVERIFY(change && change->isVisible() && change->isEnabled());
+    QTimer::singleShot(0, m_window.get(),
+                       [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept(); });
+    change->click();
+    QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 3, 60000);
+    QCOMPARE(ended.last().first().toBool(), true);
 }
 
 QTEST_MAIN(tst_MainWindow)
