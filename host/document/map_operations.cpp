@@ -83,10 +83,16 @@ static QString countedText(const char* text, const MapSet& maps, Scope scope = S
     return undoText(text).arg(mapCountText(scope, maps.cardinality()));
 }
 
-CvlInt64 Document::createLineMaps(CvlInt64 count)
+/// Whether the frame may have that many more line maps.
+static bool hasRoomFor(const Frame& frame, CvlInt64 count)
 {
     constexpr CvlInt64 kMost = 1000000;
-    if (!m_active || !m_active->hasData() || count < 1 || count > kMost - m_active->lineMapCount())
+    return count <= kMost - frame.lineMapCount();
+}
+
+CvlInt64 Document::createLineMaps(CvlInt64 count)
+{
+    if (!m_active || !m_active->hasData() || count < 1 || !hasRoomFor(*m_active, count))
         return 0;
     const CvlInt64 first = m_active->lineMapCount() + 1;
     std::vector<std::int64_t> newToOld = numbersUpTo(first - 1);
@@ -100,7 +106,7 @@ CvlInt64 Document::createLineMaps(CvlInt64 count)
 
 bool Document::copyLineMaps(const MapSet& maps)
 {
-    if (!areLineMaps(maps))
+    if (!areLineMaps(maps) || !hasRoomFor(*m_active, static_cast<CvlInt64>(maps.cardinality())))
         return false;
     std::vector<std::int64_t> newToOld = numbersUpTo(m_active->lineMapCount());
     for (const std::uint32_t map : maps)

@@ -181,6 +181,9 @@ void tst_LineMaps::refusesBadSets()
     QCOMPARE(document.createLineMaps(0), CvlInt64(0));
     QCOMPARE(document.createLineMaps(2), CvlInt64(7));
     QCOMPARE(document.undo().stepCount(), 1);
+    QCOMPARE(document.createLineMaps(999'992), CvlInt64(9)); // a million are the most
+    QVERIFY(!document.copyLineMaps(set("1")));
+    QCOMPARE(document.createLineMaps(1), CvlInt64(0));
 }
 
 QTEST_GUILESS_MAIN(tst_LineMaps)
