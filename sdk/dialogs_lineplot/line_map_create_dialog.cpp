@@ -6,7 +6,6 @@
 #include <sdk/common_ui/combo_box_auto_filter.h>
 #include <sdk/dialogs_common/numbered_name_list_model.h>
 #include <sdk/dialogs_common/shared_instance.h>
-#include <sdk/signals/state_change_event_observable.h>
 #include <sdk/uicommon/host_command_scope.h>
 #include <sdk/uicommon/style_writing.h>
 
@@ -15,19 +14,11 @@
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
-#include <QShowEvent>
 
 #include <algorithm>
 #include <vector>
 
 namespace corvala::dialogs::lineplot {
-
-/// Edits of style leave the lists as they are; a change of plot type does not.
-static bool concernsDialog(const toolbox::StateChangeEventInterface& event)
-{
-    return event.stateChange() == StateCode_Style ? event.styleParam(1) == "PlotType"
-                                                  : event.stateChange() < StateCode_View;
-}
 
 static bool isPolar()
 {
@@ -42,7 +33,7 @@ LineMapCreateDialog& LineMapCreateDialog::getInstance(QWidget* parent)
 }
 
 LineMapCreateDialog::LineMapCreateDialog(QWidget* parent)
-    : QDialog(parent)
+    : DocumentDialog(parent)
     , m_zones(new common::NumberedNameListModel(this))
     , m_variables(new common::NumberedNameListModel(this))
     , m_zone(new ui::ComboBoxAutoFilter(this))
@@ -50,10 +41,8 @@ LineMapCreateDialog::LineMapCreateDialog(QWidget* parent)
     , m_independent(new ui::ComboBoxAutoFilter(this))
     , m_dependentLabel(new QLabel(this))
     , m_dependent(new QListView(this))
-    , m_refresh([this] { readDocument(); })
 {
     setWindowTitle(tr("Create Line Maps"));
-    setAttribute(Qt::WA_QuitOnClose, false);
     m_zone->setListModel(m_zones);
     m_independent->setListModel(m_variables);
     m_independentLabel->setBuddy(m_independent);
@@ -81,36 +70,13 @@ LineMapCreateDialog::LineMapCreateDialog(QWidget* parent)
             &LineMapCreateDialog::updateCreateButton);
 }
 
-void LineMapCreateDialog::launch()
+/// Edits of style leave the lists as they are; a change of plot type does not.
+bool LineMapCreateDialog::isConcernedBy(const toolbox::StateChangeEventInterface& event) const
 {
-    if (!isVisible())
-        readDocument(); // before the size is chosen
-    show();
-    raise();
-    activateWindow();
+    return event.stateChange() == StateCode_Style ? event.styleParam(1) == "PlotType"
+                                                  : event.stateChange() < StateCode_View;
 }
 
-void LineMapCreateDialog::showEvent(QShowEvent* event)
-{
-    m_connections.disconnectAll();
-    m_connections.add(signaling::StateChangeEventObservable::getInstance().connect(
-        [this](const toolbox::StateChangeEventInterface& change) {
-            if (concernsDialog(change))
-                m_refresh.enableNotification();
-        }));
-    if (event->spontaneous())
-        m_refresh.enableNotification();
-    QDialog::showEvent(event);
-}
-
-void LineMapCreateDialog::hideEvent(QHideEvent* event)
-{
-    m_connections.disconnectAll();
-    m_refresh.disableNotification();
-    QDialog::hideEvent(event);
-}
-
-/// Takes the lists anew and keeps what is chosen, as far as it is still there.
 void LineMapCreateDialog::readDocument()
 {
     const CvlInt64 zone = m_zones->numberAt(m_zone->currentIndex());

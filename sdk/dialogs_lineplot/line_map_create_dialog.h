@@ -2,10 +2,7 @@
 #pragma once
 
 #include <sdk/base/types.h>
-#include <sdk/signals/signal_connection_collection.h>
-#include <sdk/uicommon/on_idle_action_performer_single_shot.h>
-
-#include <QDialog>
+#include <sdk/dialogs_common/document_dialog.h>
 
 #include <vector>
 
@@ -22,9 +19,8 @@ class ComboBoxAutoFilter;
 
 namespace corvala::dialogs::lineplot {
 
-/// Creates line maps of a zone in the active frame, one per chosen dependent variable. Modeless;
-/// it follows the document while it is open.
-class LineMapCreateDialog : public QDialog
+/// Creates line maps of a zone in the active frame, one per chosen dependent variable.
+class LineMapCreateDialog : public common::DocumentDialog
 {
     Q_OBJECT
 
@@ -33,15 +29,10 @@ public:
     /// died or is another one.
     static LineMapCreateDialog& getInstance(QWidget* parent);
 
-    void launch(); ///< shows it, or brings it to the front
-
-protected:
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-
 private:
     explicit LineMapCreateDialog(QWidget* parent);
-    void readDocument();
+    void readDocument() override;
+    bool isConcernedBy(const toolbox::StateChangeEventInterface& change) const override;
     std::vector<CvlInt64> chosenDependentVariables() const; ///< ascending
     void createLineMaps();
     void updateCreateButton();
@@ -54,8 +45,6 @@ private:
     QLabel* m_dependentLabel;
     QListView* m_dependent;
     QPushButton* m_createButton;
-    sdk::ui::OnIdleActionPerformerSingleShot m_refresh;
-    signaling::SignalConnectionCollection m_connections;
 };
 
 } // namespace corvala::dialogs::lineplot

@@ -5,24 +5,13 @@
 #include <sdk/dialogs_common/numbered_name_list_model.h>
 #include <sdk/dialogs_common/shared_instance.h>
 #include <sdk/dialogs_prompt/font_choice.h>
-#include <sdk/signals/state_change_event_observable.h>
 #include <sdk/toolbox/style_value.h>
 #include <sdk/uicommon/style_writing.h>
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QShowEvent>
 
 namespace corvala::dialogs::prompt {
-
-static bool concernsDialog(const toolbox::StateChangeEventInterface& event)
-{
-    if (event.stateChange() != StateCode_Style)
-        return event.stateChange() < StateCode_View;
-    const std::string name = event.styleParam(1);
-    return name == "GlobalScatter" || name == "ActiveFieldMaps"
-        || (name == "FieldMap" && event.styleParam(3) == "SymbolShape");
-}
 
 static toolbox::StyleValue fontValue(const char* name)
 {
@@ -37,14 +26,12 @@ ScatterSizeFontDialog& ScatterSizeFontDialog::getInstance(QWidget* parent)
 }
 
 ScatterSizeFontDialog::ScatterSizeFontDialog(QWidget* parent)
-    : QDialog(parent)
+    : DocumentDialog(parent)
     , m_variables(new common::NumberedNameListModel(this))
     , m_variable(new ui::ComboBoxAutoFilter(this))
     , m_font(new FontChoice(this))
-    , m_refresh([this] { readDocument(); })
 {
     setWindowTitle(tr("Scatter Size and Font"));
-    setAttribute(Qt::WA_QuitOnClose, false);
     m_variable->setListModel(m_variables);
     auto* form = new QFormLayout(this);
     form->addRow(tr("&Size variable:"), m_variable);
@@ -60,33 +47,13 @@ ScatterSizeFontDialog::ScatterSizeFontDialog(QWidget* parent)
             [this](int fontOverride) { writeFont("FontOverride", fontOverride); });
 }
 
-void ScatterSizeFontDialog::launch()
+bool ScatterSizeFontDialog::isConcernedBy(const toolbox::StateChangeEventInterface& event) const
 {
-    if (!isVisible())
-        readDocument(); // before the size is chosen
-    show();
-    raise();
-    activateWindow();
-}
-
-void ScatterSizeFontDialog::showEvent(QShowEvent* event)
-{
-    m_connections.disconnectAll();
-    m_connections.add(signaling::StateChangeEventObservable::getInstance().connect(
-        [this](const toolbox::StateChangeEventInterface& change) {
-            if (concernsDialog(change))
-                m_refresh.enableNotification();
-        }));
-    if (event->spontaneous())
-        m_refresh.enableNotification();
-    QDialog::showEvent(event);
-}
-
-void ScatterSizeFontDialog::hideEvent(QHideEvent* event)
-{
-    m_connections.disconnectAll();
-    m_refresh.disableNotification();
-    QDialog::hideEvent(event);
+    if (event.stateChange() != StateCode_Style)
+        return event.stateChange() < StateCode_View;
+    const std::string name = event.styleParam(1);
+    return name == "GlobalScatter" || name == "ActiveFieldMaps"
+        || (name == "FieldMap" && event.styleParam(3) == "SymbolShape");
 }
 
 void ScatterSizeFontDialog::readDocument()
