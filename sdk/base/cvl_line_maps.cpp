@@ -44,8 +44,7 @@ CvlArbValue CvlUtilLineMapStyleGetArbValueForFrame(CvlUniqueId id, CvlInt64 map,
     const Frame* const frame = frameWithLineMap(id, map);
     if (!frame || !name || std::strcmp(name, "Name") != 0)
         return 0;
-    static const Attribute& stored =
-        Schema::instance().at(Schema::instance().find({"LineMap", "Name"}));
+    static const Attribute& stored = Schema::instance().leaf({"LineMap", "Name"});
     return reinterpret_cast<CvlArbValue>(cvlFlatText(frame->lineStyle().text(stored, map)));
 }
 
