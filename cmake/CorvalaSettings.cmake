@@ -16,12 +16,15 @@ if(CORVALA_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${CORVALA_CCACHE}")
 endif()
 
-# One include root per top folder: a target sees only the folders whose roots it is given, so a
-# forbidden include does not compile.
-foreach(folder zonestyle sdk host plot app samples tests)
-  file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/include-roots/${folder}")
-  file(CREATE_LINK "${CMAKE_SOURCE_DIR}/${folder}"
-    "${CMAKE_BINARY_DIR}/include-roots/${folder}/${folder}" SYMBOLIC)
+# One include root per top folder, and per room of a folder that has layers: a target sees only the
+# folders whose roots it is given, so a forbidden include does not compile.
+foreach(folder zonestyle sdk host plot plot/common plot/field/geometry plot/field/scene app samples
+    tests)
+  string(REPLACE "/" "-" root "${folder}")
+  set(link "${CMAKE_BINARY_DIR}/include-roots/${root}/${folder}")
+  cmake_path(GET link PARENT_PATH parent)
+  file(MAKE_DIRECTORY "${parent}")
+  file(CREATE_LINK "${CMAKE_SOURCE_DIR}/${folder}" "${link}" SYMBOLIC)
 endforeach()
 
 add_library(corvala_options INTERFACE)

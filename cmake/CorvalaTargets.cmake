@@ -10,7 +10,7 @@ endfunction()
 
 # corvala_part(name SOURCES ... [ROOTS folder...] [LINKS target...])
 # A folder of a shared library: an object library whose objects go into the library that links it.
-# ROOTS names the top folders whose headers it (and what links it) may include.
+# ROOTS names the folders whose headers it (and what links it) may include.
 function(corvala_part name)
   cmake_parse_arguments(P "" "" "SOURCES;ROOTS;LINKS" ${ARGN})
   _corvala_require_known(${name} "${P_UNPARSED_ARGUMENTS}")
@@ -34,7 +34,8 @@ function(corvala_static name)
 endfunction()
 
 function(_corvala_roots name)
-  foreach(root ${ARGN})
+  foreach(folder ${ARGN})
+    string(REPLACE "/" "-" root "${folder}")
     target_include_directories(${name} PUBLIC "${CMAKE_BINARY_DIR}/include-roots/${root}")
   endforeach()
 endfunction()

@@ -2,7 +2,7 @@
 #include "plot/frame_view.h"
 
 #include "host/document/document.h"
-#include "plot/field/field_canvas.h"
+#include "plot/field/view/field_canvas.h"
 #include "plot/line/line_canvas.h"
 #include "plot/render.h"
 

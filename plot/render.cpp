@@ -2,7 +2,7 @@
 #include "plot/render.h"
 
 #include "host/document/document.h"
-#include "plot/field/offscreen.h"
+#include "plot/field/view/offscreen.h"
 #include "plot/line/line_canvas.h"
 
 #include <QCoreApplication>

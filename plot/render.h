@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "plot/field/opengl_check.h"
+#include "plot/field/view/opengl_check.h"
 #include "sdk/base/types.h"
 
 #include <QImage>

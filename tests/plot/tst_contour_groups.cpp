@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/common/line_patterns.h"
 #include "plot/common/nice_steps.h"
-#include "plot/field/color_map.h"
-#include "plot/field/contour_groups.h"
-#include "plot/field/value_colors.h"
+#include "plot/field/geometry/color_map.h"
+#include "plot/field/geometry/contour_groups.h"
+#include "plot/field/geometry/value_colors.h"
 #include "plot_document.h"
 
 #include <QtTest>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures.h"
 #include "plot/common/axis_ticks.h"
-#include "plot/field/field_canvas.h"
-#include "plot/field/local_field_scene.h"
+#include "plot/field/scene/local_field_scene.h"
+#include "plot/field/view/field_canvas.h"
 #include "plot/frame_view.h"
 #include "plot/render.h"
 #include "plot_document.h"

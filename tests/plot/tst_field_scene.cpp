@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "plot/field/local_field_scene.h"
+#include "plot/field/scene/local_field_scene.h"
 #include "plot_document.h"
 
 #include <vtkActor.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "plot/field/block_builder.h"
-#include "plot/field/mesh_lines.h"
-#include "plot/field/surface_cache.h"
-#include "plot/field/surface_values.h"
-#include "plot/field/zone_edges.h"
+#include "plot/field/geometry/block_builder.h"
+#include "plot/field/geometry/mesh_lines.h"
+#include "plot/field/geometry/surface_cache.h"
+#include "plot/field/geometry/surface_values.h"
+#include "plot/field/geometry/zone_edges.h"
 #include "plot_document.h"
 
 #include <vtkCell.h>

@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/geometry/block_builder.h"
+
+#include "plot/field/geometry/mesh_lines.h"
+#include "plot/field/geometry/surface_values.h"
+#include "plot/field/geometry/value_colors.h"
+
+#include <vtkCellArray.h>
+#include <vtkContourFilter.h>
+#include <vtkDataSet.h>
+#include <vtkIdList.h>
+#include <vtkPointData.h>
+#include <vtkPolyDataNormals.h>
+
+#include <algorithm>
+
+namespace corvala::plot {
+
+using Shape = vtkSmartPointer<vtkPolyData>;
+
+/// The shape with all points at a height; as it is when `height` is null.
+static Shape laidDown(vtkPolyData* shape, const double* height)
+{
+    if (!height || !shape->GetPoints())
+        return shape;
+    vtkNew<vtkPoints> points;
+    points->SetDataType(VTK_DOUBLE);
+    points->SetNumberOfPoints(shape->GetNumberOfPoints());
+    double point[3];
+    for (vtkIdType i = 0; i < shape->GetNumberOfPoints(); ++i) {
+        shape->GetPoint(i, point);
+        points->SetPoint(i, point[0], point[1], *height);
+    }
+    auto result = Shape::New();
+    result->ShallowCopy(shape);
+    result->SetPoints(points);
+    return result;
+}
+
+const PlacedSurface* BlockBuilder::surface(const BlockRecipe& recipe, const double* height,
+                                           std::vector<PlacedSurface>& placed) const
+{
+    const auto isOld = [&](const PlacedSurface& known) { return known.zone != recipe.zone; };
+    placed.erase(std::remove_if(placed.begin(), placed.end(), isOld), placed.end());
+    const SurfaceChoice choice = recipe.surfaces.normalized(m_data.zone(recipe.zone));
+    for (const PlacedSurface& known : placed)
+        if (known.choice == choice)
+            return &known;
+    const auto surface = m_cache.surface(m_data, recipe.zone, choice);
+    if (!surface)
+        return nullptr;
+    placed.push_back({recipe.zone, choice, surface, laidDown(surface->shape, height), nullptr});
+    return &placed.back();
+}
+
+static vtkSmartPointer<vtkDataArray> normalsOf(vtkPolyData* shape)
+{
+    vtkNew<vtkPolyDataNormals> normals;
+    normals->SetInputData(shape);
+    normals->SplittingOff();
+    normals->ConsistencyOn();
+    normals->Update();
+    return normals->GetOutput()->GetPointData()->GetNormals();
+}
+
+static Shape copyOf(vtkPolyData* shape, bool withNormals)
+{
+    auto copy = Shape::New();
+    copy->CopyStructure(shape);
+    if (withNormals && shape->GetNumberOfPolys() > 0)
+        copy->GetPointData()->SetNormals(normalsOf(shape));
+    return copy;
+}
+
+static Shape facesOf(vtkPolyData* shape, bool withNormals)
+{
+    Shape faces = copyOf(shape, withNormals);
+    faces->SetVerts(nullptr);
+    faces->SetLines(nullptr);
+    return faces;
+}
+
+vtkSmartPointer<vtkPolyData> BlockBuilder::build(const BlockRecipe& recipe, const double* height,
+                                                 std::vector<PlacedSurface>& placed) const
+{
+    const PlacedSurface* const found = surface(recipe, height, placed);
+    if (!found || found->shape->GetNumberOfPoints() == 0)
+        return nullptr;
+    Shape result;
+    switch (recipe.kind) {
+    case BlockKind::Faces: result = facesOf(found->shape, recipe.normals); break;
+    case BlockKind::Flood: result = flood(recipe, *found); break;
+    case BlockKind::CellFlood: result = cellFlood(recipe, *found); break;
+    case BlockKind::ContourLines: result = contourLines(recipe, *found); break;
+    case BlockKind::Edges: result = edges(recipe, *found, height); break;
+    case BlockKind::MeshLines: result = mesh(recipe, *found); break;
+    }
+    return result && result->GetNumberOfCells() > 0 ? result : nullptr;
+}
+
+vtkSmartPointer<vtkDoubleArray> BlockBuilder::values(int group, const BlockRecipe& recipe,
+                                                     const PlacedSurface& placed) const
+{
+    const CvlInt64 variable = m_groups.variable(group);
+    if (recipe.kind == BlockKind::CellFlood) {
+        return cellValues(m_data, recipe.zone, variable, *placed.surface,
+                          recipe.primaryValues ? CellValue::Primary : CellValue::Average);
+    }
+    return pointValues(m_data, recipe.zone, variable, *placed.surface);
+}
+
+vtkSmartPointer<vtkDataArray> BlockBuilder::colors(const BlockRecipe& recipe,
+                                                   const PlacedSurface& placed) const
+{
+    if (recipe.colorGroup != ContourGroups::kRed) {
+        const auto single = values(recipe.colorGroup, recipe, placed);
+        return single ? groupColors(*single, recipe.colorGroup, m_groups) : nullptr;
+    }
+    std::array<vtkSmartPointer<vtkDoubleArray>, 3> channels;
+    for (int i = 0; i < 3; ++i) {
+        auto& channel = channels[static_cast<std::size_t>(i)];
+        channel = values(ContourGroups::kRed + i, recipe, placed);
+        if (!channel)
+            return nullptr;
+    }
+    return channelColors(channels, m_groups);
+}
+
+vtkSmartPointer<vtkDataArray> BlockBuilder::floodArray(const BlockRecipe& recipe,
+                                                       const PlacedSurface& placed) const
+{
+    if (recipe.colorGroup > 0)
+        return colors(recipe, placed);
+    const auto floodValues = values(recipe.group, recipe, placed);
+    return floodValues ? floodCoordinates(*floodValues, recipe.group, m_groups) : nullptr;
+}
+
+static void setFloodArray(const BlockRecipe& recipe, vtkPolyData& shape, vtkDataArray* array)
+{
+    if (recipe.colorGroup > 0)
+        shape.GetPointData()->SetScalars(array);
+    else
+        shape.GetPointData()->SetTCoords(array);
+}
+
+Shape BlockBuilder::flood(const BlockRecipe& recipe, const PlacedSurface& placed) const
+{
+    const auto array = floodArray(recipe, placed);
+    if (!array)
+        return nullptr;
+    Shape result = copyOf(placed.shape, recipe.normals);
+    setFloodArray(recipe, *result, array);
+    return result;
+}
+
+/// The shape with points of its own for every cell, which take the value of the cell.
+static Shape withOwnPoints(vtkPolyData& shape, vtkDataArray& cellArray, vtkDataArray& pointArray)
+{
+    auto result = Shape::New();
+    vtkNew<vtkPoints> points;
+    points->SetDataType(VTK_DOUBLE);
+    result->AllocateCopy(&shape);
+    result->GetPointData()->CopyAllocate(shape.GetPointData());
+    vtkNew<vtkIdList> corners;
+    vtkNew<vtkIdList> copies;
+    for (vtkIdType cell = 0; cell < shape.GetNumberOfCells(); ++cell) {
+        shape.GetCellPoints(cell, corners);
+        copies->Reset();
+        for (const vtkIdType corner : *corners) {
+            const vtkIdType copy = points->InsertNextPoint(shape.GetPoint(corner));
+            result->GetPointData()->CopyData(shape.GetPointData(), corner, copy);
+            pointArray.InsertNextTuple(cell, &cellArray);
+            copies->InsertNextId(copy);
+        }
+        result->InsertNextCell(shape.GetCellType(cell), copies);
+    }
+    result->SetPoints(points);
+    return result;
+}
+
+Shape BlockBuilder::cellFlood(const BlockRecipe& recipe, const PlacedSurface& placed) const
+{
+    const auto cellArray = floodArray(recipe, placed);
+    if (!cellArray)
+        return nullptr;
+    auto pointArray = vtkSmartPointer<vtkDataArray>::Take(cellArray->NewInstance());
+    pointArray->SetNumberOfComponents(cellArray->GetNumberOfComponents());
+    pointArray->SetName(cellArray->GetName());
+    const Shape shape = copyOf(placed.shape, recipe.normals);
+    Shape result = withOwnPoints(*shape, *cellArray, *pointArray);
+    setFloodArray(recipe, *result, pointArray);
+    return result;
+}
+
+Shape BlockBuilder::contourLines(const BlockRecipe& recipe, const PlacedSurface& placed) const
+{
+    const auto scalars = values(recipe.group, recipe, placed);
+    if (!scalars)
+        return nullptr;
+    scalars->SetName("value");
+    Shape shape = facesOf(placed.shape, false);
+    const auto lineColors = recipe.colorGroup > 0 ? colors(recipe, placed) : nullptr;
+    shape->GetPointData()->SetScalars(scalars);
+    if (lineColors)
+        shape->GetPointData()->AddArray(lineColors);
+    vtkNew<vtkContourFilter> contours;
+    contours->SetInputData(shape);
+    contours->ComputeNormalsOff();
+    const std::vector<double> levels = m_groups.levels(recipe.group).inner();
+    for (std::size_t i = 0; i < levels.size(); ++i)
+        contours->SetValue(static_cast<int>(i), levels[i]);
+    contours->Update();
+    Shape lines = contours->GetOutput();
+    if (lineColors)
+        lines->GetPointData()->SetActiveScalars(lineColors->GetName());
+    return recipe.arcLength && lines->GetNumberOfLines() > 0 ? withArcLength(*lines) : lines;
+}
+
+Shape BlockBuilder::mesh(const BlockRecipe& recipe, const PlacedSurface& placed) const
+{
+    Shape shape = copyOf(placed.shape, false);
+    if (recipe.colorGroup > 0)
+        shape->GetPointData()->SetScalars(colors(recipe, placed));
+    Shape lines = meshLines(*shape);
+    return recipe.arcLength ? withArcLength(*lines) : lines;
+}
+
+Shape BlockBuilder::edges(const BlockRecipe& recipe, const PlacedSurface& placed,
+                          const double* height) const
+{
+    const vtkSmartPointer<vtkDataSet> data = m_data.geometry(recipe.zone);
+    if (!data)
+        return nullptr;
+    return laidDown(zoneEdges(*data, m_data.zone(recipe.zone), *placed.surface, recipe.edges),
+                    height);
+}
+
+} // namespace corvala::plot

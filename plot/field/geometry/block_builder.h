@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/field/geometry/block_recipe.h"
+#include "plot/field/geometry/contour_groups.h"
+#include "plot/field/geometry/surface_cache.h"
+
+#include <vtkCellLocator.h>
+
+namespace corvala::plot {
+
+/// A surface in the place where it is drawn.
+struct PlacedSurface
+{
+    CvlInt64 zone = 0;
+    SurfaceChoice choice;
+    std::shared_ptr<const ZoneSurface> surface;
+    /// The surface's shape; in a flat plot laid down at the height of its map.
+    vtkSmartPointer<vtkPolyData> shape;
+    vtkSmartPointer<vtkCellLocator> locator; ///< null until something is picked
+};
+
+/// Makes the geometry of blocks from zones. The layers of a map share its surfaces.
+class BlockBuilder
+{
+public:
+    BlockBuilder(const host::DataSet& data, const ContourGroups& groups, SurfaceCache& cache)
+        : m_data(data)
+        , m_groups(groups)
+        , m_cache(cache)
+    {
+    }
+
+    /// The geometry of a block; null when there is nothing to draw. Surfaces are taken from
+    /// `placed`, or made and added to it; those of another zone are dropped. `height` lays the
+    /// block down at that height in a flat plot; null leaves it as it is.
+    vtkSmartPointer<vtkPolyData> build(const BlockRecipe& recipe, const double* height,
+                                       std::vector<PlacedSurface>& placed) const;
+
+private:
+    using Shape = vtkSmartPointer<vtkPolyData>;
+
+    const PlacedSurface* surface(const BlockRecipe& recipe, const double* height,
+                                 std::vector<PlacedSurface>& placed) const;
+    Shape flood(const BlockRecipe& recipe, const PlacedSurface& placed) const;
+    Shape cellFlood(const BlockRecipe& recipe, const PlacedSurface& placed) const;
+    Shape contourLines(const BlockRecipe& recipe, const PlacedSurface& placed) const;
+    Shape mesh(const BlockRecipe& recipe, const PlacedSurface& placed) const;
+    Shape edges(const BlockRecipe& recipe, const PlacedSurface& placed, const double* height) const;
+
+    vtkSmartPointer<vtkDoubleArray> values(int group, const BlockRecipe& recipe,
+                                           const PlacedSurface& placed) const;
+    /// Colours by the recipe's colour group; null when the zone lacks the variable.
+    vtkSmartPointer<vtkDataArray> colors(const BlockRecipe& recipe,
+                                         const PlacedSurface& placed) const;
+    /// What colours a flood: colours, or coordinates in the texture of the group's bands.
+    vtkSmartPointer<vtkDataArray> floodArray(const BlockRecipe& recipe,
+                                             const PlacedSurface& placed) const;
+
+    const host::DataSet& m_data;
+    const ContourGroups& m_groups;
+    SurfaceCache& m_cache;
+};
+
+} // namespace corvala::plot

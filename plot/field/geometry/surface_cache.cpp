@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/geometry/surface_cache.h"
+
+#include <vtkDataSet.h>
+
+namespace corvala::plot {
+
+static std::array<int, 9> planeNumbers(const SurfaceChoice& choice)
+{
+    std::array<int, 9> numbers;
+    std::size_t next = 0;
+    for (const IndexRange& range : choice.planes) {
+        numbers[next++] = range.minimum;
+        numbers[next++] = range.maximum;
+        numbers[next++] = range.skip;
+    }
+    return numbers;
+}
+
+std::shared_ptr<const ZoneSurface>
+SurfaceCache::surface(const host::DataSet& data, std::int64_t zone, const SurfaceChoice& choice)
+{
+    const host::ZoneInfo& info = data.zone(zone);
+    const SurfaceChoice normal = choice.normalized(info);
+    const Key key {data.source.get(), info.sourceIndex, normal.surfaces, planeNumbers(normal)};
+    const auto known = m_surfaces.find(key);
+    if (known != m_surfaces.end())
+        return known->second.surface;
+    const vtkSmartPointer<vtkDataSet> geometry = data.geometry(zone);
+    if (!geometry || geometry->GetNumberOfPoints() == 0)
+        return nullptr;
+    ++m_extractions;
+    auto surface = std::make_shared<ZoneSurface>(extractSurface(*geometry, info, normal));
+    m_memory += surface->memoryUse();
+    if (m_memory > m_budget)
+        dropUnused();
+    m_surfaces[key] = {data.source, surface};
+    return surface;
+}
+
+void SurfaceCache::dropUnused()
+{
+    for (auto entry = m_surfaces.begin(); entry != m_surfaces.end();) {
+        if (entry->second.surface.use_count() == 1) {
+            m_memory -= entry->second.surface->memoryUse();
+            entry = m_surfaces.erase(entry);
+        } else {
+            ++entry;
+        }
+    }
+}
+
+} // namespace corvala::plot

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/field/geometry/zone_surface.h"
+
+#include <map>
+#include <memory>
+#include <tuple>
+
+namespace corvala::plot {
+
+/// Surfaces of zones, extracted when they are first asked for. A zone belongs to one solution time,
+/// so the surfaces of several times are kept side by side. Surfaces that nobody holds are dropped
+/// when the cache outgrows its budget.
+class SurfaceCache
+{
+public:
+    explicit SurfaceCache(std::size_t budget = std::size_t {1} << 30) ///< bytes
+        : m_budget(budget)
+    {
+    }
+
+    /// Null when the zone has no points or cannot be read.
+    std::shared_ptr<const ZoneSurface> surface(const host::DataSet& data, std::int64_t zone,
+                                               const SurfaceChoice& choice);
+    void clear() { m_surfaces.clear(), m_memory = 0; }
+    std::int64_t extractionCount() const { return m_extractions; }
+
+private:
+    using Key = std::tuple<const host::ZoneSource*, std::int64_t, int, std::array<int, 9>>;
+    struct Entry
+    {
+        std::shared_ptr<const host::ZoneSource> source; ///< keeps the key's address in use
+        std::shared_ptr<const ZoneSurface> surface;
+    };
+
+    void dropUnused();
+
+    std::map<Key, Entry> m_surfaces;
+    std::size_t m_budget;
+    std::size_t m_memory = 0;
+    std::int64_t m_extractions = 0;
+};
+
+} // namespace corvala::plot

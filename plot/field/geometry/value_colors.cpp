@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/geometry/value_colors.h"
+
+#include "plot/field/geometry/color_map.h"
+
+#include <vtkFloatArray.h>
+#include <vtkUnsignedCharArray.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvala::plot {
+
+/// Rows of a flood texture: bands below, the colour of no value above.
+static constexpr double kBandRow = 0.25;
+static constexpr double kNoValueRow = 0.75;
+
+vtkSmartPointer<vtkDataArray> floodCoordinates(vtkDoubleArray& values, int group,
+                                               const ContourGroups& groups)
+{
+    auto result = vtkSmartPointer<vtkFloatArray>::New();
+    result->SetName("value");
+    result->SetNumberOfComponents(2);
+    result->SetNumberOfTuples(values.GetNumberOfTuples());
+    for (vtkIdType i = 0; i < values.GetNumberOfTuples(); ++i) {
+        const double value = values.GetValue(i);
+        const bool isValue = std::isfinite(value);
+        result->SetTuple2(i, isValue ? groups.coordinate(group, value) : 0.0,
+                          isValue ? kBandRow : kNoValueRow);
+    }
+    return result;
+}
+
+static vtkSmartPointer<vtkUnsignedCharArray> makeColors(vtkIdType count)
+{
+    auto colors = vtkSmartPointer<vtkUnsignedCharArray>::New();
+    colors->SetName("color");
+    colors->SetNumberOfComponents(3);
+    colors->SetNumberOfTuples(count);
+    return colors;
+}
+
+static void setColor(vtkUnsignedCharArray& colors, vtkIdType position, const host::Rgb& color)
+{
+    colors.SetTypedComponent(position, 0, color.red);
+    colors.SetTypedComponent(position, 1, color.green);
+    colors.SetTypedComponent(position, 2, color.blue);
+}
+
+vtkSmartPointer<vtkDataArray> groupColors(vtkDoubleArray& values, int group,
+                                          const ContourGroups& groups)
+{
+    const ContourLevels& levels = groups.levels(group);
+    auto colors = makeColors(values.GetNumberOfTuples());
+    for (vtkIdType i = 0; i < values.GetNumberOfTuples(); ++i) {
+        const double value = values.GetValue(i);
+        setColor(*colors, i,
+                 std::isfinite(value) ? mapColor(levels.fraction(value)) : noValueColor());
+    }
+    return colors;
+}
+
+vtkSmartPointer<vtkDataArray>
+channelColors(const std::array<vtkSmartPointer<vtkDoubleArray>, 3>& channels,
+              const ContourGroups& groups)
+{
+    const auto part = [&](std::size_t channel, vtkIdType position) {
+        const int group = ContourGroups::kRed + static_cast<int>(channel);
+        const double range = groups.maximum(group) - groups.minimum(group);
+        const double above = channels[channel]->GetValue(position) - groups.minimum(group);
+        const double share = range > 0.0 ? std::clamp(above / range, 0.0, 1.0) : 0.5;
+        return static_cast<std::uint8_t>(std::lround(255.0 * share));
+    };
+    const vtkIdType count = channels[0]->GetNumberOfTuples();
+    auto colors = makeColors(count);
+    for (vtkIdType i = 0; i < count; ++i) {
+        const bool isValue =
+            std::all_of(channels.begin(), channels.end(),
+                        [i](const auto& channel) { return std::isfinite(channel->GetValue(i)); });
+        setColor(*colors, i,
+                 isValue ? host::Rgb {part(0, i), part(1, i), part(2, i)} : noValueColor());
+    }
+    return colors;
+}
+
+} // namespace corvala::plot

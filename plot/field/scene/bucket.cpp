@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/scene/bucket.h"
+
+#include "plot/common/line_patterns.h"
+#include "plot/field/geometry/color_map.h"
+
+#include <vtkImageData.h>
+#include <vtkProperty.h>
+#include <vtkShaderProperty.h>
+#include <vtkUniforms.h>
+
+#include <cmath>
+
+namespace corvala::plot {
+
+/// Distance of the layers of a map in a flat plot, where maps lie one unit above each other.
+static constexpr double kLayerHeight = 0.1;
+static constexpr int kPatternTexels = 128;
+static constexpr float kPointPixels = 5.0F;
+
+/// One period of a pattern; gaps are transparent.
+static vtkSmartPointer<vtkImageData> patternImage(int pattern)
+{
+    auto image = vtkSmartPointer<vtkImageData>::New();
+    image->SetDimensions(kPatternTexels, 1, 1);
+    image->AllocateScalars(VTK_UNSIGNED_CHAR, 4);
+    for (int i = 0; i < kPatternTexels; ++i) {
+        auto* texel = static_cast<unsigned char*>(image->GetScalarPointer(i, 0, 0));
+        std::fill(texel, texel + 3, static_cast<unsigned char>(255));
+        texel[3] = isStrokeAt(pattern, (i + 0.5) / kPatternTexels) ? 255 : 0;
+    }
+    return image;
+}
+
+CompositeLayer::Bucket::Bucket(const MapperLook& look, FieldLayer layer, bool flat)
+    : m_look(look)
+{
+    m_mapper->SetInputDataObject(m_blocks);
+    m_mapper->SetCompositeDataDisplayAttributes(m_attributes);
+    m_mapper->SetScalarVisibility(look.ownColors);
+    m_actor->SetMapper(m_mapper);
+    setProperties();
+    setDepth(layer, flat);
+    if (look.patternLength > 0.0 || look.floodGroup > 0) {
+        m_texture = vtkSmartPointer<vtkTexture>::New();
+        m_texture->InterpolateOff();
+        m_texture->SetRepeat(look.floodGroup == 0);
+        m_texture->EdgeClampOn();
+        m_texture->SetTransform(m_textureTransform);
+        m_actor->SetTexture(m_texture);
+        m_actor->ForceOpaqueOn();
+    }
+    if (look.patternLength > 0.0)
+        m_texture->SetInputData(patternImage(look.pattern));
+}
+
+void CompositeLayer::Bucket::setProperties()
+{
+    vtkProperty* property = m_actor->GetProperty();
+    property->SetLighting(m_look.lit);
+    property->SetInterpolation(m_look.smooth ? VTK_GOURAUD : VTK_FLAT);
+    property->SetAmbient(m_look.lit ? 0.4 : 1.0);
+    property->SetDiffuse(m_look.lit ? 0.65 : 0.0);
+    property->SetSpecular(m_look.shiny ? 0.35 : 0.0);
+    property->SetSpecularPower(30.0);
+    property->SetPointSize(kPointPixels);
+    property->SetColor(m_look.floodGroup > 0 ? 1.0 : 0.0, m_look.floodGroup > 0 ? 1.0 : 0.0,
+                       m_look.floodGroup > 0 ? 1.0 : 0.0);
+}
+
+void CompositeLayer::Bucket::setDepthShader(const std::string& depth)
+{
+    m_actor->GetShaderProperty()->AddFragmentShaderReplacement(
+        "//VTK::Depth::Impl", true, "gl_FragDepth = " + depth + ";\n", false);
+}
+
+/// What lies in the same place is drawn in the order of the layers: by height in a flat plot, else
+/// by moving what comes earlier away from the viewer. Lines move by next to nothing. Faces move by
+/// as much as they recede within some pixels, so that lines keep their width on faces that are seen
+/// at an angle; the renderer's own offset knows nothing of the angle.
+void CompositeLayer::Bucket::setDepth(FieldLayer layer, bool flat)
+{
+    if (flat) {
+        m_actor->SetPosition(0.0, 0.0, kLayerHeight * static_cast<double>(layer));
+        return;
+    }
+    if (layer > FieldLayer::Flood) {
+        const auto layersInFront = static_cast<int>(FieldLayer::Edges) - static_cast<int>(layer);
+        if (layersInFront > 0)
+            setDepthShader("gl_FragCoord.z + " + std::to_string(layersInFront) + "e-6");
+        return;
+    }
+    setDepthShader("gl_FragCoord.z + 4e-6\n"
+                   "  + setBack * max(abs(dFdx(gl_FragCoord.z)), abs(dFdy(gl_FragCoord.z)))");
+    m_layersInFront = static_cast<float>(FieldLayer::Flood) - static_cast<float>(layer);
+    setWidestLine(1.0);
+}
+
+void CompositeLayer::Bucket::setWidestLine(double pixels)
+{
+    if (m_layersInFront >= 0.0F) {
+        constexpr double kMost = 6.0; // more, and what is hidden shows through at the rim of things
+        const float setBack =
+            1.0F + static_cast<float>(std::min(pixels / 2, kMost)) + m_layersInFront;
+        m_actor->GetShaderProperty()->GetFragmentCustomUniforms()->SetUniformf("setBack", setBack);
+    }
+}
+
+void CompositeLayer::Bucket::add(vtkPolyData* block, const host::Rgb& color)
+{
+    unsigned int slot = m_blocks->GetNumberOfBlocks();
+    if (!m_freeSlots.empty()) {
+        slot = m_freeSlots.back();
+        m_freeSlots.pop_back();
+    }
+    m_blocks->SetBlock(slot, block);
+    m_slots[block] = slot;
+    setColor(block, color);
+}
+
+void CompositeLayer::Bucket::remove(vtkPolyData* block)
+{
+    const auto found = m_slots.find(block);
+    m_attributes->RemoveBlockColor(block);
+    m_blocks->SetBlock(found->second, nullptr);
+    m_freeSlots.push_back(found->second);
+    m_slots.erase(found);
+}
+
+void CompositeLayer::Bucket::setColor(vtkPolyData* block, const host::Rgb& color)
+{
+    if (m_look.floodGroup > 0 || m_look.ownColors)
+        return;
+    const double parts[3] = {color.red / 255.0, color.green / 255.0, color.blue / 255.0};
+    m_attributes->SetBlockColor(block, parts);
+    m_mapper->Modified();
+}
+
+void CompositeLayer::Bucket::setScale(const ViewScale& scale)
+{
+    m_linePixels = std::max(m_look.thickness / 100.0 * scale.frameHeight, scale.thinnestLine);
+    m_actor->GetProperty()->SetLineWidth(static_cast<float>(m_linePixels));
+    if (m_look.patternLength > 0.0) {
+        const double period = std::max(m_look.patternLength / 100.0 * scale.frameHeight, 1.0);
+        m_textureTransform->Identity();
+        m_textureTransform->Scale(scale.pixelsPerUnit / period, 1.0, 1.0);
+    }
+}
+
+void CompositeLayer::Bucket::updateLevels(const ContourGroups& groups)
+{
+    if (m_look.floodGroup == 0)
+        return;
+    const ContourLevels& levels = groups.levels(m_look.floodGroup);
+    if (m_textureBands != levels.bands) {
+        m_texture->SetInputData(bandImage(levels.bands));
+        m_textureBands = levels.bands;
+    }
+    m_textureTransform->Identity();
+    m_textureTransform->Translate(groups.textureShift(m_look.floodGroup), 0.0, 0.0);
+    m_textureTransform->Scale(groups.textureScale(m_look.floodGroup), 1.0, 1.0);
+}
+
+} // namespace corvala::plot

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/field/scene/composite_layer.h"
+
+#include <vtkActor.h>
+#include <vtkCompositeDataDisplayAttributes.h>
+#include <vtkCompositePolyDataMapper2.h>
+#include <vtkMultiBlockDataSet.h>
+#include <vtkNew.h>
+#include <vtkTexture.h>
+#include <vtkTransform.h>
+
+#include <string>
+
+namespace corvala::plot {
+
+/// One composite mapper with its actor, and the blocks that it draws.
+class CompositeLayer::Bucket
+{
+public:
+    Bucket(const MapperLook& look, FieldLayer layer, bool flat);
+
+    const MapperLook& look() const { return m_look; }
+    vtkActor* actor() const { return m_actor; }
+    bool isEmpty() const { return m_slots.empty(); }
+
+    void add(vtkPolyData* block, const host::Rgb& color);
+    void remove(vtkPolyData* block);
+    void setColor(vtkPolyData* block, const host::Rgb& color);
+
+    void setScale(const ViewScale& scale);
+    void updateLevels(const ContourGroups& groups);
+    /// Moves faces far enough back for lines of this width to be whole.
+    void setWidestLine(double pixels);
+    double linePixels() const { return m_linePixels; }
+
+private:
+    void setProperties();
+    void setDepth(FieldLayer layer, bool flat);
+    void setDepthShader(const std::string& depth);
+
+    MapperLook m_look;
+    vtkNew<vtkActor> m_actor;
+    vtkNew<vtkCompositePolyDataMapper2> m_mapper;
+    vtkNew<vtkMultiBlockDataSet> m_blocks;
+    vtkNew<vtkCompositeDataDisplayAttributes> m_attributes;
+    vtkSmartPointer<vtkTexture> m_texture;
+    vtkNew<vtkTransform> m_textureTransform;
+    double m_linePixels = 1.0;
+    float m_layersInFront = -1.0F; ///< of faces, from this one to the last; negative for others
+    int m_textureBands = 0;
+    std::unordered_map<vtkPolyData*, unsigned int> m_slots;
+    std::vector<unsigned int> m_freeSlots;
+};
+
+} // namespace corvala::plot

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/field/geometry/contour_groups.h"
+#include "plot/field/scene/block_look.h"
+#include "plot/field/scene/layer_looks.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+class vtkActor;
+class vtkRenderer;
+
+namespace corvala::plot {
+
+/// Size of what is drawn on the paper.
+struct ViewScale
+{
+    int frameHeight = 1; ///< pixels
+    double pixelsPerUnit = 1.0; ///< of the coordinates, at the centre of what is looked at
+    double thinnestLine = 1.0; ///< pixels; above 1 when the picture is made smaller afterwards
+};
+
+/// Draws one layer of a field plot. The blocks of all maps with the same mapper look share one
+/// composite mapper; colours are attributes of the blocks.
+class CompositeLayer
+{
+public:
+    /// Work done since the layer was made, to see what an edit costs.
+    struct Counters
+    {
+        std::int64_t built = 0; ///< geometries made
+        std::int64_t moved = 0; ///< blocks given to another mapper
+        std::int64_t recolored = 0;
+        std::int64_t removed = 0;
+    };
+    /// Makes the geometry of a block; null when there is nothing to draw.
+    using Builder = std::function<vtkSmartPointer<vtkPolyData>(const BlockRecipe&)>;
+
+    CompositeLayer(FieldLayer layer, bool flat, vtkRenderer& back, vtkRenderer& front);
+    ~CompositeLayer();
+
+    /// Brings the block of a map in line with its look; touches nothing else, and of the block only
+    /// what differs.
+    void sync(CvlInt64 map, const std::optional<BlockLook>& look, const Builder& build);
+    void clear();
+
+    void setVisible(bool visible);
+    bool isVisible() const { return m_visible; }
+    /// Fits line widths and patterns to the view.
+    void setScale(const ViewScale& scale);
+    /// Fits the flood textures to the levels of the groups.
+    void updateLevels(const ContourGroups& groups);
+    /// Width in pixels of the widest line of the layer that faces can hide; 0 without.
+    double widestLine() const;
+    void setWidestLine(double pixels); ///< of all layers
+    /// Contour groups that colour something in this layer, ascending.
+    std::vector<int> groupsInUse() const;
+
+    bool hasBlocks() const { return m_blockCount > 0; }
+    bool draws(CvlInt64 map) const;
+    /// The geometry of a map's block; null without one.
+    vtkPolyData* geometry(CvlInt64 map) const;
+    const Counters& counters() const { return m_counters; }
+    /// One actor per mapper, in no order.
+    std::vector<vtkActor*> actors() const;
+
+private:
+    class Bucket;
+    struct Block
+    {
+        BlockLook look;
+        Bucket* bucket = nullptr; ///< null when there is nothing to draw
+        vtkSmartPointer<vtkPolyData> data;
+    };
+
+    Bucket& bucketOf(const MapperLook& look);
+    void place(Block& block);
+    void remove(Block& block);
+    void dropEmptyBuckets();
+
+    FieldLayer m_layer;
+    bool m_flat;
+    vtkRenderer& m_back;
+    vtkRenderer& m_front;
+    bool m_visible = true;
+    ViewScale m_scale;
+    std::map<MapperLook, std::unique_ptr<Bucket>> m_buckets;
+    std::unordered_map<CvlInt64, Block> m_blocks;
+    std::int64_t m_blockCount = 0;
+    Counters m_counters;
+};
+
+} // namespace corvala::plot

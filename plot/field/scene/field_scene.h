@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/events/state_event.h"
+#include "plot/field/scene/composite_layer.h"
+
+#include <QString>
+
+#include <vtkBoundingBox.h>
+
+#include <array>
+#include <vector>
+
+namespace corvala::plot {
+
+/// A line of sight through a point of the picture.
+struct PickRay
+{
+    std::array<double, 3> from; ///< nearest point that can be seen
+    std::array<double, 3> to;
+    double tolerance = 0.0; ///< distance that still counts as a hit, in the unit of the coordinates
+};
+
+/// Colours of a contour group that the scene shows.
+struct FieldLegend
+{
+    QString title; ///< name of the variable
+    ContourLevels levels;
+};
+
+/// What a field canvas shows of a frame. A canvas knows its scene through this class only, so that
+/// the geometry need not be made in this process. Changes are taken note of at once, and worked off
+/// in slices.
+class FieldScene
+{
+public:
+    virtual ~FieldScene() = default;
+
+    /// Shows this frame from now on, from scratch; 0 or the ID of no field frame shows nothing.
+    virtual void setFrame(CvlUniqueId frame) = 0;
+
+    /// Takes note of a change of the document; true when the picture may differ.
+    virtual bool apply(const host::StateEvent& event) = 0;
+
+    /// Works for about `milliseconds`; negative works until all is done. True while work is left.
+    virtual bool advance(int milliseconds) = 0;
+    virtual bool hasWork() const = 0;
+    /// Pieces of work since there was none, done and in all.
+    virtual std::pair<CvlInt64, CvlInt64> progress() const = 0;
+    /// Puts the work that is left aside; what it would have changed stays as it is.
+    virtual void cancel() = 0;
+    /// Takes up again what was put aside.
+    virtual void resume() = 0;
+
+    virtual void setScale(const ViewScale& scale) = 0;
+
+    /// Box round everything that is shown; invalid when nothing is.
+    virtual vtkBoundingBox bounds() const = 0;
+
+    /// The zone that is seen along a ray, nearest first; 0 for none. A zone is hit anywhere on its
+    /// surface, also where only lines are drawn of it, and a zone of which more than its edges are
+    /// drawn before one that shows nothing else.
+    virtual CvlInt64 zoneAt(const PickRay& ray) = 0;
+
+    virtual std::vector<FieldLegend> legends() const = 0;
+    /// Names of the coordinates X, Y, Z.
+    virtual std::array<QString, 3> axisTitles() const = 0;
+    /// A remark for the user on what is not shown; empty without one.
+    virtual QString notice() const = 0;
+};
+
+} // namespace corvala::plot

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/scene/group_ranges.h"
+
+#include <vtkDataArray.h>
+
+#include <algorithm>
+
+namespace corvala::plot {
+
+static std::size_t at(int group)
+{
+    return static_cast<std::size_t>(group);
+}
+
+void GroupRanges::clear()
+{
+    *this = GroupRanges();
+}
+
+std::vector<CvlInt64> GroupRanges::zonesOf(const host::Frame& frame, CvlInt64 map, CvlInt64 shown)
+{
+    if (m_transientPoints < 0) {
+        m_transientPoints = 0;
+        for (const host::ZoneInfo& zone : frame.data()->zones)
+            m_transientPoints += zone.strand > 0 ? zone.pointCount : 0;
+    }
+    const bool allTimes =
+        frame.fieldMaps().strand(map) > 0 && m_transientPoints <= kMostTransientPoints;
+    return allTimes ? frame.fieldMaps().zones(map) : std::vector<CvlInt64> {shown};
+}
+
+void GroupRanges::look(const host::DataSet& data, CvlInt64 zone, CvlInt64 variable)
+{
+    const auto [entry, isNew] = m_ranges.try_emplace({data.zone(zone).sourceIndex, variable});
+    if (!isNew)
+        return;
+    const host::ZoneValues values = data.values(zone, variable);
+    if (values.array && values.array->GetNumberOfTuples() > 0) {
+        double limits[2];
+        values.array->GetFiniteRange(limits, 0);
+        entry->second = {limits[0], limits[1]};
+    }
+}
+
+void GroupRanges::remove(CvlInt64 map)
+{
+    const auto found = m_maps.find(map);
+    if (found == m_maps.end())
+        return;
+    for (const int group : found->second.groups)
+        --m_users[at(group)];
+    m_maps.erase(found);
+}
+
+bool GroupRanges::add(const ShownMap& map, const ContourGroups& groups)
+{
+    const auto usersBefore = m_users;
+    remove(map.map);
+    Contribution& contribution = m_maps[map.map];
+    contribution = {map.zone, groupsShown(map, groups)};
+    bool isNewGroup = false;
+    for (const int group : contribution.groups) {
+        ++m_users[at(group)];
+        isNewGroup = usersBefore[at(group)] == 0 || isNewGroup;
+    }
+    for (int group = 1; group <= ContourGroups::kCount; ++group)
+        if (m_users[at(group)] > 0 && groups.variable(group) > 0)
+            for (const CvlInt64 zone : zonesOf(map.frame, map.map, map.zone))
+                look(*map.frame.data(), zone, groups.variable(group));
+    return isNewGroup;
+}
+
+bool GroupRanges::update(const host::Frame& frame, ContourGroups& groups)
+{
+    bool changed = false;
+    for (int group = 1; group <= ContourGroups::kCount; ++group) {
+        if (m_users[at(group)] == 0)
+            continue;
+        Range all;
+        for (const auto& [map, contribution] : m_maps) {
+            for (const CvlInt64 zone : zonesOf(frame, map, contribution.zone)) {
+                const auto found =
+                    m_ranges.find({frame.data()->zone(zone).sourceIndex, groups.variable(group)});
+                const Range range = found == m_ranges.end() ? Range() : found->second;
+                if (range.minimum > range.maximum)
+                    continue;
+                const bool isFirst = all.minimum > all.maximum;
+                all.minimum = isFirst ? range.minimum : std::min(all.minimum, range.minimum);
+                all.maximum = isFirst ? range.maximum : std::max(all.maximum, range.maximum);
+            }
+        }
+        changed = groups.setRange(group, all.minimum, all.maximum) || changed;
+    }
+    return changed;
+}
+
+} // namespace corvala::plot

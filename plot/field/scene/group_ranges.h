@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/field/geometry/contour_groups.h"
+#include "plot/field/scene/layer_looks.h"
+
+#include <map>
+#include <unordered_map>
+#include <utility>
+
+namespace corvala::plot {
+
+/// The ranges of the contour groups that are used, over all maps that are shown. A map counts with
+/// its zones of every solution time, so that a colour means the same value at all times, unless
+/// that takes looking at too many values; then it counts with the zone that it shows.
+class GroupRanges
+{
+public:
+    /// Points of transient zones up to which all times are looked at.
+    static constexpr std::int64_t kMostTransientPoints = 5'000'000;
+
+    void clear();
+
+    /// Looks at the values that a map has of the groups in use. True when the map uses a group that
+    /// nothing used before: then every shown map has to be added again.
+    bool add(const ShownMap& map, const ContourGroups& groups);
+    void remove(CvlInt64 map);
+
+    /// Gives the groups in use the ranges of what was added; true when levels changed.
+    bool update(const host::Frame& frame, ContourGroups& groups);
+
+private:
+    struct Range
+    {
+        double minimum = 0.0;
+        double maximum = -1.0; ///< below the minimum when there are no values
+    };
+    struct Contribution
+    {
+        CvlInt64 zone = 0; ///< shown at present
+        std::vector<int> groups; ///< that the map uses
+    };
+    using Key = std::pair<std::int64_t, CvlInt64>; ///< source index of the zone, variable
+
+    std::vector<CvlInt64> zonesOf(const host::Frame& frame, CvlInt64 map, CvlInt64 shown);
+    void look(const host::DataSet& data, CvlInt64 zone, CvlInt64 variable);
+
+    std::map<Key, Range> m_ranges;
+    std::unordered_map<CvlInt64, Contribution> m_maps;
+    std::array<CvlInt64, ContourGroups::kCount + 1> m_users {}; ///< by group: maps that use it
+    std::int64_t m_transientPoints = -1; ///< -1 until counted
+};
+
+} // namespace corvala::plot

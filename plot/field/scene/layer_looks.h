@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/field/geometry/contour_groups.h"
+#include "plot/field/scene/block_look.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+namespace corvala::plot {
+
+/// Layers of a field plot from back to front. They are independent of each other: what is drawn
+/// later covers what lies in the same place.
+enum class FieldLayer {
+    Background, ///< the faces of a hidden-line mesh, in the colour of the paper
+    Shade,
+    Flood,
+    ContourLines,
+    Mesh,
+    Edges
+};
+constexpr std::size_t kFieldLayerCount = 6;
+
+/// One bit for each layer, and for the values that the contour groups span.
+using LayerMask = std::uint8_t;
+constexpr LayerMask maskOf(FieldLayer layer)
+{
+    return static_cast<LayerMask>(1U << static_cast<unsigned>(layer));
+}
+constexpr LayerMask kAllLayers = (1U << kFieldLayerCount) - 1;
+constexpr LayerMask kGroupValues = 1U << kFieldLayerCount;
+
+/// A map of a frame with the zone that it shows.
+struct ShownMap
+{
+    const host::Frame& frame;
+    CvlInt64 map;
+    CvlInt64 zone;
+
+    bool is3D() const { return frame.plotType() == PlotType_Field3D; }
+};
+
+/// How the map looks in the layer by its style; nothing when it does not appear there. Whether the
+/// layer itself is on does not matter.
+std::optional<BlockLook> lookOf(FieldLayer layer, const ShownMap& map, const ContourGroups& groups);
+
+/// The contour groups (and channels) whose values the map shows, in the layers that are on.
+std::vector<int> groupsShown(const ShownMap& map, const ContourGroups& groups);
+
+bool isLayerOn(const host::Frame& frame, FieldLayer layer);
+
+/// What a change of the attribute affects; 0 for attributes that are not drawn.
+LayerMask affectedBy(host::AttributeId attribute);
+
+/// The colour of a number of the style tree; black for one that follows a contour group or RGB.
+host::Rgb paletteColor(std::int32_t color);
+
+} // namespace corvala::plot

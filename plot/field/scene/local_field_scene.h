@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/field/geometry/block_builder.h"
+#include "plot/field/scene/field_scene.h"
+#include "plot/field/scene/group_ranges.h"
+
+#include <QCoreApplication>
+
+#include <memory>
+#include <unordered_map>
+
+namespace corvala::plot {
+
+/// A scene whose geometry is made in this process, in two renderers: everything, and in front of it
+/// what is seen through it.
+class LocalFieldScene : public FieldScene
+{
+    Q_DECLARE_TR_FUNCTIONS(corvala::plot::LocalFieldScene)
+
+public:
+    /// Maps that are drawn at most; each costs memory for its blocks.
+    static constexpr CvlInt64 kLargestScene = 20'000;
+
+    LocalFieldScene(vtkRenderer& back, vtkRenderer& front, std::shared_ptr<SurfaceCache> cache,
+                    CvlInt64 largestScene = kLargestScene);
+    ~LocalFieldScene() override;
+
+    void setFrame(CvlUniqueId frame) override;
+    bool apply(const host::StateEvent& event) override;
+    bool advance(int milliseconds) override;
+    bool hasWork() const override;
+    std::pair<CvlInt64, CvlInt64> progress() const override { return {m_done, m_total}; }
+    void cancel() override;
+    void resume() override;
+    void setScale(const ViewScale& scale) override;
+    vtkBoundingBox bounds() const override;
+    CvlInt64 zoneAt(const PickRay& ray) override;
+    std::vector<FieldLegend> legends() const override;
+    std::array<QString, 3> axisTitles() const override;
+    QString notice() const override;
+
+    const CompositeLayer& layer(FieldLayer layer) const
+    {
+        return *m_layers[static_cast<std::size_t>(layer)];
+    }
+    const ContourGroups& groups() const { return m_groups; }
+
+private:
+    /// Position of the group values among what is pending, after the layers.
+    static constexpr std::size_t kGroupStage = kFieldLayerCount;
+    const host::Frame* frame() const;
+    void rebuild();
+    bool applyStyle(const host::StateEvent& event);
+    bool applyStyleChange(const host::Frame& frame, const host::StyleChange& change);
+    void pend(LayerMask layers, const host::MapSet& maps);
+    void pendTransient(const host::Frame& frame);
+    void updateVisibility(const host::Frame& frame);
+
+    /// The map as it is to be drawn; nothing when it is not.
+    std::optional<ShownMap> shown(const host::Frame& frame, CvlInt64 map);
+    void forget(CvlInt64 map);
+    void workOnValues(const host::Frame& frame); ///< of the next map
+    void workOnMap(const host::Frame& frame); ///< the next one, in all layers
+
+    CvlInt64 nearestZone(const PickRay& ray, const std::vector<FieldLayer>& layers);
+
+    std::shared_ptr<SurfaceCache> m_cache;
+    CvlInt64 m_largestScene;
+    vtkRenderer& m_back;
+    vtkRenderer& m_front;
+    ViewScale m_scale;
+    CvlUniqueId m_frame = 0;
+    bool m_flat = false;
+    ContourGroups m_groups;
+    std::array<std::unique_ptr<CompositeLayer>, kFieldLayerCount> m_layers;
+    std::unordered_map<CvlInt64, std::vector<PlacedSurface>> m_surfaces;
+    GroupRanges m_ranges;
+    std::array<host::MapSet, kFieldLayerCount + 1> m_pending;
+    std::array<host::MapSet, kFieldLayerCount> m_stale; ///< not brought up to date while invisible
+    std::array<host::MapSet, kFieldLayerCount + 1> m_cancelled;
+    host::MapSet m_shown;
+    host::MapSet m_refused; ///< active, but beyond the largest scene
+    CvlInt64 m_done = 0;
+    CvlInt64 m_total = 0;
+};
+
+} // namespace corvala::plot

@@ -1,0 +1,226 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/view/decorations.h"
+
+#include "plot/common/axis_ticks.h"
+#include "plot/common/nice_steps.h"
+#include "plot/field/geometry/color_map.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvala::plot {
+
+// Sizes are in heights of text.
+static constexpr double kNarrowestLegend = 7.5;
+static constexpr double kWidestLegend = 16.0;
+static constexpr double kLegendBar = 1.4;
+static constexpr double kTickLength = 0.4;
+static constexpr double kTextGap = 0.7; ///< from the axis to its numbers
+static constexpr double kTitleHeight = 1.6;
+static constexpr double kSmallestLeftMargin = 6.0;
+
+QColor inkColor()
+{
+    return {40, 40, 40};
+}
+
+static QString levelText(const ContourLevels& levels, int level)
+{
+    return tickText(levels.minimum + levels.step * level, levels.step);
+}
+
+static double legendWidth(const FieldLegend& legend, double font)
+{
+    const QFontMetricsF numbers(plotFont(font));
+    const double title =
+        QFontMetricsF(plotFont(1.1 * font, true)).horizontalAdvance(legend.title) + 0.5 * font;
+    double widest = 0.0;
+    for (const int level : {0, 1, legend.levels.bands})
+        widest = std::max(widest, numbers.horizontalAdvance(levelText(legend.levels, level)));
+    return std::clamp(std::max(title, widest + (kLegendBar + 1.1) * font), kNarrowestLegend * font,
+                      kWidestLegend * font);
+}
+
+FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>& legends,
+                   double yTexts)
+{
+    FieldLayout layout;
+    layout.font = std::clamp(std::min(size.height() / 45.0, size.width() / 50.0), 9.0, 40.0);
+    const double font = layout.font;
+    QRectF area(0, 0, size.width(), size.height());
+    double all = 0.0;
+    for (const FieldLegend& legend : legends)
+        all += legendWidth(legend, font);
+    const double shrink = all > 0.0 ? std::min(size.width() / 2.0 / all, 1.0) : 1.0;
+    double left = area.right() - all * shrink;
+    area.setRight(left);
+    for (const FieldLegend& legend : legends) {
+        const double width = legendWidth(legend, font) * shrink;
+        layout.legends.emplace_back(left, 1.5 * font, width, area.height() - 5.5 * font);
+        left += width;
+    }
+    const double leftMargin =
+        std::max(kSmallestLeftMargin * font, yTexts + (kTextGap + kTitleHeight + 0.6) * font);
+    layout.plot = flat ? area.adjusted(leftMargin, 1.5 * font, -1.5 * font, -4.0 * font) : area;
+    if (layout.plot.width() < 1.0 || layout.plot.height() < 1.0)
+        layout.plot = area;
+    return layout;
+}
+
+static AxisTicks xTicks(const FieldLayout& layout, const PlaneWindow& window)
+{
+    return axisTicks(window.xMinimum, window.xMaximum, layout.plot.width(), layout.font,
+                     TickTexts::SideBySide);
+}
+
+static AxisTicks yTicks(const FieldLayout& layout, const PlaneWindow& window)
+{
+    return axisTicks(window.yMinimum, window.yMaximum, layout.plot.height(), layout.font,
+                     TickTexts::Stacked);
+}
+
+double yTextsWidth(const FieldLayout& layout, const PlaneWindow& window)
+{
+    return yTicks(layout, window).widest;
+}
+
+/// Ticks and numbers of one axis; `along` places a value on the picture, `down` is the direction
+/// away from the plot.
+template<class Place>
+static void paintTicks(QPainter& painter, const AxisTicks& ticks, double font, const QPointF& down,
+                       int alignment, Place along)
+{
+    for (std::size_t i = 0; i < ticks.places.size(); ++i) {
+        const QPointF at = along(ticks.places[i]);
+        painter.drawLine(at, at + down * kTickLength * font);
+        const QPointF text = at + down * kTextGap * font;
+        QRectF box(-100.0 * font, -font, 200.0 * font, 2.0 * font);
+        box.moveCenter(text);
+        if (alignment & Qt::AlignRight)
+            box.moveRight(text.x());
+        if (alignment & Qt::AlignTop)
+            box.moveTop(text.y());
+        painter.drawText(box, alignment, ticks.texts[static_cast<int>(i)]);
+    }
+}
+
+void paintPlaneAxes(QPainter& painter, const FieldLayout& layout, const PlaneWindow& window,
+                    const QString& xTitle, const QString& yTitle)
+{
+    const QRectF& plot = layout.plot;
+    const double font = layout.font;
+    painter.save();
+    painter.setPen(QPen(inkColor(), std::max(1.0, font / 12.0)));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(plot);
+    painter.setFont(plotFont(font));
+    const double xSpan = window.xMaximum - window.xMinimum;
+    const double ySpan = window.yMaximum - window.yMinimum;
+    paintTicks(painter, xTicks(layout, window), font, {0.0, 1.0}, Qt::AlignHCenter | Qt::AlignTop,
+               [&](double x) {
+                   const double share = (x - window.xMinimum) / xSpan;
+                   return QPointF(plot.left() + share * plot.width(), plot.bottom());
+               });
+    paintTicks(painter, yTicks(layout, window), font, {-1.0, 0.0},
+               Qt::AlignRight | Qt::AlignVCenter, [&](double y) {
+                   const double share = (y - window.yMinimum) / ySpan;
+                   return QPointF(plot.left(), plot.bottom() - share * plot.height());
+               });
+    painter.setFont(plotFont(1.1 * font, true));
+    painter.drawText(
+        QRectF(plot.left(), plot.bottom() + 2.1 * font, plot.width(), kTitleHeight * font),
+        Qt::AlignHCenter | Qt::AlignTop, xTitle);
+    painter.translate(0.3 * font, plot.center().y());
+    painter.rotate(-90.0);
+    painter.drawText(QRectF(-plot.height() / 2, 0.0, plot.height(), kTitleHeight * font),
+                     Qt::AlignHCenter | Qt::AlignTop, yTitle);
+    painter.restore();
+}
+
+void paintOrientation(QPainter& painter, const FieldLayout& layout,
+                      const AxisDirections& directions, const std::array<QString, 3>& titles)
+{
+    static const QColor kColors[] = {{200, 40, 40}, {30, 140, 50}, {40, 70, 200}};
+    const double length = 3.2 * layout.font;
+    const QPointF origin(1.6 * length, layout.plot.bottom() - 1.6 * length);
+    std::array<std::size_t, 3> order = {0, 1, 2};
+    std::sort(order.begin(), order.end(), [&](std::size_t left, std::size_t right) {
+        return directions[left][2] < directions[right][2];
+    });
+    painter.save();
+    painter.setFont(plotFont(layout.font, true));
+    for (const std::size_t axis : order) {
+        const QPointF direction(directions[axis][0], -directions[axis][1]);
+        painter.setPen(QPen(kColors[axis], layout.font / 5.0, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(origin, origin + direction * length);
+        QRectF box(0.0, 0.0, 8.0 * layout.font, 1.6 * layout.font);
+        box.moveCenter(origin + direction * (length + 0.9 * layout.font));
+        painter.drawText(box, Qt::AlignCenter, titles[axis]);
+    }
+    painter.restore();
+}
+
+static void paintBands(QPainter& painter, const QRectF& bar, int bands)
+{
+    const std::vector<host::Rgb> colors = bandColors(bands);
+    const double height = bar.height() / bands;
+    for (int band = 0; band < bands; ++band) {
+        const host::Rgb& color = colors[static_cast<std::size_t>(band)];
+        painter.fillRect(
+            QRectF(bar.left(), bar.bottom() - height * (band + 1), bar.width(), height),
+            QColor(color.red, color.green, color.blue));
+    }
+    painter.drawRect(bar);
+}
+
+static void paintLegend(QPainter& painter, const QRectF& area, double font,
+                        const FieldLegend& legend)
+{
+    const ContourLevels& levels = legend.levels;
+    painter.setFont(plotFont(1.1 * font, true));
+    painter.drawText(QRectF(area.left(), area.top(), area.width(), kTitleHeight * font),
+                     Qt::AlignLeft | Qt::AlignTop,
+                     QFontMetricsF(painter.font())
+                         .elidedText(legend.title, Qt::ElideRight, area.width() - 0.3 * font));
+    const QRectF bar(area.left(), area.top() + 2.0 * font, kLegendBar * font,
+                     std::min(area.height() - 2.0 * font, 26.0 * font));
+    paintBands(painter, bar, levels.bands);
+    painter.setFont(plotFont(font));
+    const double height = bar.height() / levels.bands;
+    const int every = std::max(1, static_cast<int>(std::ceil(1.5 * font / height)));
+    for (int level = 0; level <= levels.bands; level += every) {
+        const double y = bar.bottom() - height * level;
+        painter.drawLine(QPointF(bar.right(), y), QPointF(bar.right() + 0.35 * font, y));
+        painter.drawText(QRectF(bar.right() + 0.6 * font, y - font, area.width(), 2.0 * font),
+                         Qt::AlignLeft | Qt::AlignVCenter, levelText(levels, level));
+    }
+}
+
+void paintLegends(QPainter& painter, const FieldLayout& layout,
+                  const std::vector<FieldLegend>& legends)
+{
+    painter.save();
+    painter.setPen(QPen(inkColor(), std::max(1.0, layout.font / 12.0)));
+    painter.setBrush(Qt::NoBrush);
+    for (std::size_t i = 0; i < legends.size(); ++i)
+        paintLegend(painter, layout.legends[i], layout.font, legends[i]);
+    painter.restore();
+}
+
+void paintNotice(QPainter& painter, const FieldLayout& layout, const QString& text)
+{
+    if (text.isEmpty())
+        return;
+    painter.save();
+    painter.setFont(plotFont(layout.font));
+    painter.setPen(inkColor());
+    const QRectF box(layout.plot.left() + layout.font / 2, layout.plot.top() + layout.font / 2,
+                     layout.plot.width() - layout.font, 2.0 * layout.font);
+    painter.drawText(box, Qt::AlignLeft | Qt::AlignTop, text);
+    painter.restore();
+}
+
+} // namespace corvala::plot

@@ -1,0 +1,298 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/view/field_canvas.h"
+
+#include "host/document/document.h"
+#include "plot/common/document_events.h"
+#include "plot/field/view/offscreen.h"
+#include "plot/field/view/opengl_check.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <QVTKOpenGLNativeWidget.h>
+
+#include <vtkCallbackCommand.h>
+#include <vtkGenericOpenGLRenderWindow.h>
+#include <vtkInteractorStyleTrackballCamera.h>
+#include <vtkRenderWindowInteractor.h>
+
+#include <cmath>
+#include <utility>
+
+namespace corvala::plot {
+
+static constexpr int kSliceMilliseconds = 30;
+static constexpr int kQuietSlices = 8; ///< before work is reported as progress
+static constexpr CvlInt64 kFirstDrawing = 1000; ///< pieces of work before an unfinished picture
+static constexpr int kSamples = 8;
+static constexpr double kWheelStep = 1.15; ///< magnification of one notch
+
+/// Lets its interactor draw while Qt paints it, and at no other time.
+class FieldCanvas::Picture : public QVTKOpenGLNativeWidget
+{
+public:
+    using QVTKOpenGLNativeWidget::QVTKOpenGLNativeWidget;
+
+protected:
+    void paintGL() override
+    {
+        interactor()->EnableRenderOn();
+        QVTKOpenGLNativeWidget::paintGL();
+        interactor()->EnableRenderOff();
+    }
+};
+
+/// Axes and legends over the picture; the mouse goes through.
+class FieldCanvas::Overlay : public QWidget
+{
+public:
+    Overlay(FieldView& view, QWidget* parent)
+        : QWidget(parent)
+        , m_view(view)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setAttribute(Qt::WA_NoSystemBackground);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        m_view.paintDecorations(painter);
+    }
+
+private:
+    FieldView& m_view;
+};
+
+FieldCanvas::FieldCanvas(QWidget* parent)
+    : Canvas(parent)
+    , m_problem(openGlProblem())
+    , m_cache(std::make_shared<SurfaceCache>())
+    , m_view(m_cache)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    if (m_problem.isEmpty()) {
+        makeWidgets();
+    } else {
+        auto* label = new QLabel(m_problem, this);
+        label->setAlignment(Qt::AlignCenter);
+        label->setWordWrap(true);
+        layout->addWidget(label);
+    }
+}
+
+FieldCanvas::~FieldCanvas()
+{
+    m_view.attach(nullptr);
+}
+
+void FieldCanvas::makeWidgets()
+{
+    m_widget = new Picture(this);
+    QSurfaceFormat format = QVTKOpenGLNativeWidget::defaultFormat();
+    format.setSamples(0);
+    m_widget->setFormat(format);
+    m_widget->setAccessibleName(tr("Field plot"));
+    m_widget->installEventFilter(this);
+    layout()->addWidget(m_widget);
+    vtkNew<vtkGenericOpenGLRenderWindow> window;
+    window->SetMultiSamples(isSoftwareOpenGl() ? 0 : kSamples);
+    m_widget->setRenderWindow(window.Get());
+    m_view.attach(window);
+    // The canvas draws when it is idle, and not whenever the interactor wishes.
+    vtkRenderWindowInteractor* const interactor = window->GetInteractor();
+    interactor->EnableRenderOff();
+    interactor->SetInteractorStyle(vtkNew<vtkInteractorStyleTrackballCamera>());
+    vtkNew<vtkCallbackCommand> wish;
+    wish->SetClientData(this);
+    wish->SetCallback([](vtkObject*, unsigned long, void* canvas, void*) {
+        static_cast<FieldCanvas*>(canvas)->requestRedraw();
+    });
+    interactor->AddObserver(vtkCommand::RenderEvent, wish);
+    m_overlay = new Overlay(m_view, m_widget);
+}
+
+void FieldCanvas::resizeEvent(QResizeEvent* event)
+{
+    Canvas::resizeEvent(event);
+    if (m_widget) {
+        layout()->activate();
+        m_overlay->setGeometry(m_widget->rect());
+        requestRedraw();
+    }
+}
+
+void FieldCanvas::takePlotType()
+{
+    const host::Frame* const drawn = host::Document::instance().frame(frame());
+    const bool flat = drawn && drawn->plotType() == PlotType_Field2D;
+    m_view.setFlat(flat);
+    m_view.setCamera(m_cameras.value({frame(), flat}));
+}
+
+void FieldCanvas::frameChanged(CvlUniqueId previous)
+{
+    m_cameras[{previous, m_view.isFlat()}] = m_view.camera();
+    takePlotType();
+    m_view.scene().setFrame(frame());
+    m_nextDrawing = kFirstDrawing;
+}
+
+void FieldCanvas::documentChanged(const host::StateEvent& event)
+{
+    const bool isOurs = concerns(event, frame());
+    if (isOurs && event.code == StateCode_DataSetAttached) {
+        m_cameras.remove({frame(), true});
+        m_cameras.remove({frame(), false});
+        takePlotType();
+    } else if (isOurs && namesPlotType(event)) {
+        m_cameras[{frame(), m_view.isFlat()}] = m_view.camera();
+        takePlotType();
+    } else if (isOurs && event.code == StateCode_SolutionTimeChanged) {
+        m_view.widen();
+    }
+    if (m_view.scene().apply(event)) {
+        m_nextDrawing = kFirstDrawing;
+        requestRedraw();
+    }
+}
+
+void FieldCanvas::showEvent(QShowEvent* event)
+{
+    Canvas::showEvent(event);
+    requestRedraw();
+}
+
+void FieldCanvas::hideEvent(QHideEvent* event)
+{
+    Canvas::hideEvent(event);
+    endReport(true);
+}
+
+bool FieldCanvas::redraw()
+{
+    if (!m_widget || !isVisible())
+        return false;
+    FieldScene& scene = m_view.scene();
+    const bool hasMore = scene.advance(kSliceMilliseconds);
+    if (!hasMore) {
+        endReport(false);
+        draw();
+        return false;
+    }
+    const auto [done, total] = scene.progress();
+    if (++m_slices > kQuietSlices)
+        Q_EMIT workProgressed(done, total);
+    if (done >= m_nextDrawing) {
+        m_nextDrawing = 2 * done;
+        draw();
+    }
+    return true;
+}
+
+void FieldCanvas::endReport(bool cancelled)
+{
+    if (std::exchange(m_slices, 0) > kQuietSlices)
+        Q_EMIT workEnded(cancelled);
+}
+
+void FieldCanvas::draw()
+{
+    m_view.setSize(size(), devicePixelRatioF());
+    m_view.prepare();
+    m_widget->renderWindow()->Render();
+    m_overlay->update();
+    countRedraw();
+}
+
+QImage FieldCanvas::render(const QSize& size, QString* error)
+{
+    return drawFieldImage(frame(), m_view.camera(), m_cache, size, error);
+}
+
+void FieldCanvas::fitView()
+{
+    m_view.fit();
+    requestRedraw();
+}
+
+void FieldCanvas::cancelWork()
+{
+    if (m_view.scene().hasWork()) {
+        m_view.scene().cancel();
+        endReport(true);
+        requestRedraw();
+    }
+}
+
+void FieldCanvas::resumeWork()
+{
+    m_view.scene().resume();
+    requestRedraw();
+}
+
+bool FieldCanvas::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        // The interactor would take letters for commands; here they belong to the window.
+        event->ignore();
+        return true;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+    case QEvent::Wheel: return handleMouse(event);
+    default: return Canvas::eventFilter(watched, event);
+    }
+}
+
+bool FieldCanvas::handleMouse(QEvent* event)
+{
+    if (event->type() == QEvent::Wheel) {
+        auto* const wheel = static_cast<QWheelEvent*>(event);
+        if (m_view.isFlat()) {
+            const double notches = wheel->angleDelta().y() / 120.0;
+            m_view.magnify(std::pow(kWheelStep, notches), wheel->position());
+            requestRedraw();
+        }
+        m_view.setMoved();
+        return m_view.isFlat();
+    }
+    auto* const mouse = static_cast<QMouseEvent*>(event);
+    const QPointF position = mouse->localPos();
+    if (event->type() == QEvent::MouseMove) {
+        const QPointF moved = position - m_pressedAt;
+        m_isDragging = m_isDragging
+            || (mouse->buttons() && moved.manhattanLength() >= QApplication::startDragDistance());
+        if (m_isDragging && mouse->buttons()) {
+            m_view.setMoved();
+            if (m_view.isFlat()) {
+                m_view.pan(moved);
+                m_pressedAt = position;
+                requestRedraw();
+            }
+        }
+    } else if (event->type() == QEvent::MouseButtonRelease) {
+        if (!m_isDragging && mouse->button() == Qt::LeftButton)
+            click(position, m_isDoubleClick);
+        m_isDoubleClick = m_isDragging = false;
+    } else {
+        m_pressedAt = position;
+        m_isDragging = false;
+        m_isDoubleClick = event->type() == QEvent::MouseButtonDblClick;
+    }
+    return m_view.isFlat();
+}
+
+void FieldCanvas::click(const QPointF& position, bool activate)
+{
+    Q_EMIT zonePicked(m_view.zoneAt(position), activate);
+}
+
+} // namespace corvala::plot

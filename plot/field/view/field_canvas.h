@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/canvas.h"
+#include "plot/field/view/field_view.h"
+
+#include <QHash>
+#include <QPointF>
+
+class QVTKOpenGLNativeWidget;
+
+namespace corvala::plot {
+
+/// Draws field plots of two and three dimensions with OpenGL. Without OpenGL it shows what to
+/// install instead.
+class FieldCanvas : public Canvas
+{
+    Q_OBJECT
+
+public:
+    explicit FieldCanvas(QWidget* parent = nullptr);
+    ~FieldCanvas() override;
+
+    QImage render(const QSize& size, QString* error) override;
+    QString problem() const override { return m_problem; }
+
+    /// The scene, for tests and diagnosis.
+    FieldScene& scene() { return m_view.scene(); }
+    FieldView& view() { return m_view; }
+
+public Q_SLOTS:
+    void fitView() override;
+    void cancelWork() override;
+    void resumeWork() override;
+
+protected:
+    void frameChanged(CvlUniqueId previous) override;
+    void documentChanged(const host::StateEvent& event) override;
+    bool redraw() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    class Overlay;
+    class Picture;
+
+    void makeWidgets();
+    void takePlotType();
+    void draw();
+    void endReport(bool cancelled);
+    bool handleMouse(QEvent* event);
+    void click(const QPointF& position, bool activate);
+
+    QString m_problem;
+    std::shared_ptr<SurfaceCache> m_cache;
+    FieldView m_view;
+    QVTKOpenGLNativeWidget* m_widget = nullptr; // not owned; null without OpenGL
+    QWidget* m_overlay = nullptr; // not owned
+    QHash<QPair<CvlUniqueId, bool>, CameraState> m_cameras; ///< by frame and flatness
+    QPointF m_pressedAt;
+    bool m_isDoubleClick = false;
+    bool m_isDragging = false;
+    int m_slices = 0; ///< of work in a row
+    CvlInt64 m_nextDrawing = 0; ///< pieces of work done when the picture is next refreshed
+};
+
+} // namespace corvala::plot

@@ -1,0 +1,359 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/view/field_view.h"
+
+#include "plot/field/scene/local_field_scene.h"
+
+#include <QPainter>
+
+#include <vtkCamera.h>
+#include <vtkLight.h>
+#include <vtkMath.h>
+#include <vtkMatrix4x4.h>
+#include <vtkRenderWindow.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvala::plot {
+
+static constexpr double kFitMargin = 1.06; ///< of what is shown, so that lines at the rim are whole
+static constexpr double kPickPixels = 4.0;
+
+/// A light over the viewer's left shoulder.
+static vtkSmartPointer<vtkLight> shoulderLight()
+{
+    auto light = vtkSmartPointer<vtkLight>::New();
+    light->SetLightTypeToCameraLight();
+    light->SetPosition(-0.5, 0.6, 1.0);
+    light->SetFocalPoint(0.0, 0.0, 0.0);
+    return light;
+}
+
+FieldView::FieldView(std::shared_ptr<SurfaceCache> cache)
+    : m_scene(std::make_unique<LocalFieldScene>(*m_back, *m_front, std::move(cache)))
+{
+    m_paper->SetBackground(1.0, 1.0, 1.0);
+    m_paper->SetInteractive(0);
+    m_back->AddLight(shoulderLight());
+    m_back->SetLayer(1);
+    m_front->SetLayer(2);
+    m_front->SetInteractive(0);
+    m_front->SetActiveCamera(m_back->GetActiveCamera());
+}
+
+FieldView::~FieldView()
+{
+    m_scene.reset();
+    attach(nullptr);
+}
+
+void FieldView::attach(vtkRenderWindow* window)
+{
+    for (vtkRenderer* const renderer : {m_paper.Get(), m_back.Get(), m_front.Get()}) {
+        if (m_window)
+            m_window->RemoveRenderer(renderer);
+        if (window) {
+            window->SetNumberOfLayers(3);
+            window->AddRenderer(renderer);
+        }
+    }
+    m_window = window;
+}
+
+void FieldView::setFlat(bool flat)
+{
+    m_flat = flat;
+    m_back->GetActiveCamera()->SetParallelProjection(flat);
+}
+
+void FieldView::setSize(const QSize& size, double magnification)
+{
+    m_magnification = magnification;
+    m_size = size.expandedTo({1, 1});
+}
+
+double FieldView::pixelsPerUnit() const
+{
+    vtkCamera* const camera = m_back->GetActiveCamera();
+    const double halfHeight = m_flat
+        ? camera->GetParallelScale()
+        : camera->GetDistance() * std::tan(vtkMath::RadiansFromDegrees(camera->GetViewAngle() / 2));
+    return m_layout.plot.height() / (2.0 * std::max(halfHeight, 1e-300));
+}
+
+void FieldView::layOutPlot(double yTexts)
+{
+    m_layout = layOut(m_size, m_flat, m_legends, yTexts);
+    placeCamera();
+}
+
+void FieldView::setViewport()
+{
+    layOutPlot(0.0);
+    if (m_flat)
+        layOutPlot(yTextsWidth(m_layout, planeWindow()));
+    const QRectF& plot = m_layout.plot;
+    const double width = m_size.width();
+    const double height = m_size.height();
+    for (vtkRenderer* const renderer : {m_back.Get(), m_front.Get()}) {
+        renderer->SetViewport(plot.left() / width, 1.0 - plot.bottom() / height,
+                              plot.right() / width, 1.0 - plot.top() / height);
+    }
+}
+
+void FieldView::updateFitBox(const vtkBoundingBox& box)
+{
+    if (!m_isFitted || !box.IsValid())
+        return;
+    if (m_followsScene)
+        m_fitBox = box;
+    else if (m_widens)
+        m_fitBox.AddBox(box);
+    if (!m_scene->hasWork())
+        m_followsScene = m_widens = false;
+}
+
+void FieldView::prepare()
+{
+    m_legends = m_scene->legends();
+    const vtkBoundingBox box = m_scene->bounds();
+    updateFitBox(box);
+    setViewport();
+    if (box.IsValid()) {
+        double bounds[6];
+        box.GetBounds(bounds);
+        bounds[4] -= m_flat ? 1.0 : 0.0;
+        bounds[5] += m_flat ? 1.0 : 0.0;
+        m_back->ResetCameraClippingRange(bounds);
+    }
+    m_scene->setScale({static_cast<int>(std::lround(m_magnification * m_size.height())),
+                       m_magnification * pixelsPerUnit(), m_magnification});
+}
+
+void FieldView::fit()
+{
+    m_isFitted = true;
+    m_followsScene = true;
+}
+
+void FieldView::placeCamera()
+{
+    if (!m_isFitted || !m_fitBox.IsValid())
+        return;
+    if (m_flat)
+        fitFlat(m_fitBox);
+    else
+        fitSpace(m_fitBox);
+}
+
+void FieldView::fitFlat(const vtkBoundingBox& box)
+{
+    double center[3];
+    double lengths[3];
+    box.GetCenter(center);
+    box.GetLengths(lengths);
+    const double aspect = m_layout.plot.width() / m_layout.plot.height();
+    const double halfHeight = std::max(lengths[1], lengths[0] / aspect) / 2;
+    const double top = box.GetMaxPoint()[2];
+    vtkCamera* const camera = m_back->GetActiveCamera();
+    camera->SetFocalPoint(center[0], center[1], 0.0);
+    camera->SetPosition(center[0], center[1], 2.0 * top + 10.0);
+    camera->SetViewUp(0.0, 1.0, 0.0);
+    camera->SetParallelScale(halfHeight > 0.0 ? kFitMargin * halfHeight : 1.0);
+}
+
+static AxisDirections axisDirections(vtkCamera& camera)
+{
+    vtkMatrix4x4* const matrix = camera.GetViewTransformMatrix();
+    AxisDirections directions;
+    for (int axis = 0; axis < 3; ++axis) {
+        for (int part = 0; part < 3; ++part) {
+            directions[static_cast<std::size_t>(axis)][static_cast<std::size_t>(part)] =
+                matrix->GetElement(part, axis);
+        }
+    }
+    return directions;
+}
+
+/// Corners of a box from its centre: to the right, up and towards the viewer.
+static std::array<std::array<double, 3>, 8> seenCorners(const vtkBoundingBox& box,
+                                                        vtkCamera& camera)
+{
+    const AxisDirections directions = axisDirections(camera);
+    double lengths[3];
+    box.GetLengths(lengths);
+    std::array<std::array<double, 3>, 8> corners {};
+    for (std::size_t corner = 0; corner < corners.size(); ++corner)
+        for (std::size_t axis = 0; axis < 3; ++axis)
+            for (std::size_t part = 0; part < 3; ++part)
+                corners[corner][part] +=
+                    directions[axis][part] * lengths[axis] * ((corner >> axis) & 1 ? 0.5 : -0.5);
+    return corners;
+}
+
+/// Moves the corners so that they lie in the middle of what is seen from `distance`.
+static void centre(std::array<std::array<double, 3>, 8>& corners, double distance,
+                   std::array<double, 2>& moved)
+{
+    for (std::size_t part = 0; part < 2; ++part) {
+        const auto slope = [&](const auto& corner) {
+            return corner[part] / std::max(distance - corner[2], 1e-9 * distance);
+        };
+        double lowest = slope(corners[0]);
+        double highest = lowest;
+        for (const auto& corner : corners) {
+            lowest = std::min(lowest, slope(corner));
+            highest = std::max(highest, slope(corner));
+        }
+        const double by = -distance * (lowest + highest) / 2;
+        moved[part] += by;
+        for (auto& corner : corners)
+            corner[part] += by;
+    }
+}
+
+/// Size of what is shown when axes stand round it.
+static QSizeF usedSize(const FieldLayout& layout)
+{
+    return (layout.plot.size() - 2.0 * spaceAxesMargin(layout.font))
+        .expandedTo(layout.plot.size() / 2.0);
+}
+
+void FieldView::fitSpace(const vtkBoundingBox& box)
+{
+    constexpr int kRounds = 4;
+    vtkCamera* const camera = m_back->GetActiveCamera();
+    camera->SetFocalPoint(0.0, 0.0, 0.0);
+    camera->SetPosition(0.5, -1.0, 0.6);
+    camera->SetViewUp(0.0, 0.0, 1.0);
+    const double slope = std::tan(vtkMath::RadiansFromDegrees(camera->GetViewAngle() / 2));
+    const QSizeF used = usedSize(m_layout);
+    const double slopes[] = {slope * used.width() / m_layout.plot.height(),
+                             slope * used.height() / m_layout.plot.height()};
+    auto corners = seenCorners(box, *camera);
+    double distance = 1.0;
+    std::array<double, 2> moved {};
+    for (int round = 0; round < kRounds; ++round) {
+        // Far enough away for each corner to lie inside the picture.
+        distance = box.GetMaxLength() > 0.0 ? 1e-6 * box.GetMaxLength() : 1.0;
+        for (const auto& corner : corners)
+            for (const int part : {0, 1})
+                distance =
+                    std::max(distance,
+                             corner[2]
+                                 + kFitMargin * std::abs(corner[static_cast<std::size_t>(part)])
+                                     / slopes[part]);
+        if (round + 1 < kRounds)
+            centre(corners, distance, moved);
+    }
+    const auto directions = axisDirections(*camera);
+    double focalPoint[3];
+    double position[3];
+    box.GetCenter(focalPoint);
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        focalPoint[axis] -= moved[0] * directions[axis][0] + moved[1] * directions[axis][1];
+        position[axis] = focalPoint[axis] + distance * directions[axis][2];
+    }
+    camera->SetFocalPoint(focalPoint);
+    camera->SetPosition(position);
+}
+
+CameraState FieldView::camera() const
+{
+    CameraState state;
+    state.isFitted = m_isFitted;
+    state.fitBox = m_fitBox;
+    vtkCamera* const camera = m_back->GetActiveCamera();
+    camera->GetPosition(state.position.data());
+    camera->GetFocalPoint(state.focalPoint.data());
+    camera->GetViewUp(state.viewUp.data());
+    state.parallelScale = camera->GetParallelScale();
+    return state;
+}
+
+void FieldView::setCamera(const CameraState& state)
+{
+    m_isFitted = state.isFitted;
+    m_fitBox = state.fitBox;
+    m_followsScene = !m_fitBox.IsValid();
+    vtkCamera* const camera = m_back->GetActiveCamera();
+    camera->SetPosition(state.position.data());
+    camera->SetFocalPoint(state.focalPoint.data());
+    camera->SetViewUp(state.viewUp.data());
+    camera->SetParallelScale(state.parallelScale);
+}
+
+PlaneWindow FieldView::planeWindow() const
+{
+    vtkCamera* const camera = m_back->GetActiveCamera();
+    const double* const center = camera->GetFocalPoint();
+    const double halfHeight = camera->GetParallelScale();
+    const double halfWidth = halfHeight * m_layout.plot.width() / m_layout.plot.height();
+    return {center[0] - halfWidth, center[0] + halfWidth, center[1] - halfHeight,
+            center[1] + halfHeight};
+}
+
+SpaceView FieldView::spaceView() const
+{
+    vtkCamera* const camera = m_back->GetActiveCamera();
+    SpaceView view;
+    view.directions = axisDirections(*camera);
+    camera->GetPosition(view.eye.data());
+    view.pixelsPerSlope = m_layout.plot.height() / 2
+        / std::tan(vtkMath::RadiansFromDegrees(camera->GetViewAngle() / 2));
+    return view;
+}
+
+void FieldView::pan(const QPointF& pixels)
+{
+    vtkCamera* const camera = m_back->GetActiveCamera();
+    const double unit = 1.0 / pixelsPerUnit();
+    double place[3];
+    camera->GetFocalPoint(place);
+    camera->SetFocalPoint(place[0] - pixels.x() * unit, place[1] + pixels.y() * unit, place[2]);
+    camera->GetPosition(place);
+    camera->SetPosition(place[0] - pixels.x() * unit, place[1] + pixels.y() * unit, place[2]);
+    m_isFitted = false;
+}
+
+void FieldView::magnify(double factor, const QPointF& center)
+{
+    const QPointF toCenter = m_layout.plot.center() - center;
+    pan(toCenter);
+    vtkCamera* const camera = m_back->GetActiveCamera();
+    camera->SetParallelScale(camera->GetParallelScale() / factor);
+    pan(-toCenter);
+}
+
+void FieldView::paintDecorations(QPainter& painter)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    const std::array<QString, 3> titles = m_scene->axisTitles();
+    const vtkBoundingBox box = m_scene->bounds();
+    if (box.IsValid() && m_flat) {
+        paintPlaneAxes(painter, m_layout, planeWindow(), titles[0], titles[1]);
+    } else if (box.IsValid()) {
+        const SpaceView view = spaceView();
+        paintSpaceAxes(painter, m_layout, box, view, titles);
+        paintOrientation(painter, m_layout, view.directions, titles);
+    }
+    paintLegends(painter, m_layout, m_legends);
+    paintNotice(painter, m_layout, m_scene->notice());
+}
+
+CvlInt64 FieldView::zoneAt(const QPointF& point)
+{
+    if (!m_layout.plot.contains(point))
+        return 0;
+    const auto worldAt = [&](double depth) {
+        m_back->SetDisplayPoint(m_magnification * point.x(),
+                                m_magnification * (m_size.height() - point.y()) - 1.0, depth);
+        m_back->DisplayToWorld();
+        const double* const world = m_back->GetWorldPoint();
+        return std::array<double, 3> {world[0] / world[3], world[1] / world[3],
+                                      world[2] / world[3]};
+    };
+    return m_scene->zoneAt({worldAt(0.0), worldAt(1.0), kPickPixels / pixelsPerUnit()});
+}
+
+} // namespace corvala::plot

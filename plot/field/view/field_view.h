@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/field/geometry/surface_cache.h"
+#include "plot/field/scene/field_scene.h"
+#include "plot/field/view/decorations.h"
+#include "plot/field/view/space_axes.h"
+
+#include <QSize>
+
+#include <vtkNew.h>
+#include <vtkRenderer.h>
+
+#include <memory>
+
+class QPainter;
+class vtkRenderWindow;
+
+namespace corvala::plot {
+
+/// From where a field plot is seen.
+struct CameraState
+{
+    bool isFitted = true; ///< shows all of `fitBox`, in a window of any size
+    vtkBoundingBox fitBox; ///< invalid: everything that there is
+    std::array<double, 3> position {{0, 0, 1}};
+    std::array<double, 3> focalPoint {{0, 0, 0}};
+    std::array<double, 3> viewUp {{0, 1, 0}};
+    double parallelScale = 1.0;
+};
+
+/// A scene with its camera, in a render window of its owner: the part of a field plot that is the
+/// same on the screen and in an image.
+class FieldView
+{
+public:
+    explicit FieldView(std::shared_ptr<SurfaceCache> cache);
+    ~FieldView();
+
+    FieldScene& scene() { return *m_scene; }
+    vtkRenderer& renderer() { return *m_back; }
+
+    /// The window must outlive the view, or be detached by passing null.
+    void attach(vtkRenderWindow* window);
+
+    /// A flat plot looks down on the X-Y plane and cannot be turned.
+    void setFlat(bool flat);
+    bool isFlat() const { return m_flat; }
+
+    /// Size of the picture in its pixels, which every place and length here is given in; each is
+    /// drawn as `magnification` by `magnification` pixels of the window.
+    void setSize(const QSize& size, double magnification);
+    /// Shows everything that there is, and keeps showing it when the window's size changes.
+    void fit();
+    CameraState camera() const;
+    void setCamera(const CameraState& state);
+    /// Moves in a flat plot by pixels, and magnifies about a point of the picture (from top left).
+    void pan(const QPointF& pixels);
+    void magnify(double factor, const QPointF& center);
+    /// The user took hold of the camera.
+    void setMoved() { m_isFitted = false; }
+    /// What is shown will be another time of the same things: a fitted view widens for what would
+    /// lie outside, and stays as it is otherwise.
+    void widen() { m_widens = true; }
+
+    /// Brings what depends on scene and camera up to date; call before drawing.
+    void prepare();
+    /// Axes, legends and remarks, over the drawing.
+    void paintDecorations(QPainter& painter);
+
+    /// The zone at a point of the picture, from top left; 0 for none.
+    CvlInt64 zoneAt(const QPointF& point);
+
+private:
+    double pixelsPerUnit() const;
+    void setViewport();
+    void updateFitBox(const vtkBoundingBox& box);
+    void layOutPlot(double yTexts);
+    SpaceView spaceView() const;
+    PlaneWindow planeWindow() const;
+    void placeCamera();
+    void fitFlat(const vtkBoundingBox& box);
+    void fitSpace(const vtkBoundingBox& box);
+
+    vtkNew<vtkRenderer> m_paper; ///< the whole window; the others draw in the plot only
+    vtkNew<vtkRenderer> m_back;
+    vtkNew<vtkRenderer> m_front;
+    std::unique_ptr<FieldScene> m_scene;
+    vtkRenderWindow* m_window = nullptr; // not owned
+    bool m_flat = false;
+    bool m_isFitted = true; ///< as in CameraState
+    bool m_followsScene = true; ///< the fit still grows with a scene that is being made
+    bool m_widens = false; ///< the same, but it keeps what it had
+    vtkBoundingBox m_fitBox;
+    QSize m_size {1, 1};
+    double m_magnification = 1.0;
+    FieldLayout m_layout;
+    std::vector<FieldLegend> m_legends;
+};
+
+} // namespace corvala::plot

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/view/space_axes.h"
+
+#include "plot/common/axis_ticks.h"
+
+#include <QFontMetricsF>
+#include <QLineF>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvala::plot {
+
+using Point = std::array<double, 3>;
+
+std::optional<QPointF> SpaceView::project(const Point& point, const QRectF& plot) const
+{
+    Point seen {}; // to the right, up and towards the viewer
+    for (std::size_t axis = 0; axis < 3; ++axis)
+        for (std::size_t part = 0; part < 3; ++part)
+            seen[part] += directions[axis][part] * (point[axis] - eye[axis]);
+    if (!(seen[2] < 0.0))
+        return std::nullopt;
+    return plot.center()
+        + QPointF(seen[0], -seen[1]) * (pixelsPerSlope / std::max(-seen[2], 1e-300));
+}
+
+QSizeF spaceAxesMargin(double font)
+{
+    return {5.0 * font, 3.5 * font};
+}
+
+/// An edge of the box that serves as axis.
+struct AxisEdge
+{
+    Point from;
+    Point to;
+    QLineF line; ///< on the picture
+};
+
+/// Whether the viewer looks at the face of the box at its lower or upper end of an axis.
+static bool isFaceSeen(const vtkBoundingBox& box, const Point& eye, std::size_t axis, bool upper)
+{
+    return upper ? eye[axis] > box.GetMaxPoint()[axis] : eye[axis] < box.GetMinPoint()[axis];
+}
+
+/// The edges along an axis between a face that is seen and one that is not.
+static std::vector<AxisEdge> outerEdges(const vtkBoundingBox& box, const SpaceView& view,
+                                        const QRectF& plot, std::size_t axis)
+{
+    const std::size_t first = (axis + 1) % 3;
+    const std::size_t second = (axis + 2) % 3;
+    std::vector<AxisEdge> edges;
+    for (const bool firstUpper : {false, true}) {
+        for (const bool secondUpper : {false, true}) {
+            if (isFaceSeen(box, view.eye, first, firstUpper)
+                == isFaceSeen(box, view.eye, second, secondUpper))
+                continue;
+            AxisEdge edge;
+            edge.from[axis] = box.GetMinPoint()[axis];
+            edge.from[first] = (firstUpper ? box.GetMaxPoint() : box.GetMinPoint())[first];
+            edge.from[second] = (secondUpper ? box.GetMaxPoint() : box.GetMinPoint())[second];
+            edge.to = edge.from;
+            edge.to[axis] = box.GetMaxPoint()[axis];
+            const auto from = view.project(edge.from, plot);
+            const auto to = view.project(edge.to, plot);
+            if (from && to) {
+                edge.line = {*from, *to};
+                edges.push_back(edge);
+            }
+        }
+    }
+    return edges;
+}
+
+/// The edge that lies lowest on the picture; the leftmost of upright ones.
+static const AxisEdge& bestEdge(const std::vector<AxisEdge>& edges)
+{
+    const auto rank = [&](const AxisEdge& edge) {
+        const bool isUpright = std::abs(edge.line.dy()) > 2.0 * std::abs(edge.line.dx());
+        return isUpright ? edge.line.center().x() : -edge.line.center().y();
+    };
+    return *std::min_element(
+        edges.begin(), edges.end(),
+        [&](const AxisEdge& left, const AxisEdge& right) { return rank(left) < rank(right); });
+}
+
+/// Away from a point, across the line.
+static QPointF outward(const QLineF& line, const QPointF& inside)
+{
+    const double length = std::max(line.length(), 1e-6);
+    const QPointF across(-line.dy() / length, line.dx() / length);
+    return QPointF::dotProduct(across, line.center() - inside) < 0.0 ? -across : across;
+}
+
+/// Writes a text beside a place, so that it keeps clear by `gap`. Returns how far it reaches.
+static double paintBeside(QPainter& painter, const QPointF& place, const QPointF& direction,
+                          double gap, const QString& text)
+{
+    const QFontMetricsF metrics(painter.font());
+    QRectF box(0.0, 0.0, metrics.horizontalAdvance(text) + 2.0, metrics.height());
+    const double reach =
+        (std::abs(direction.x()) * box.width() + std::abs(direction.y()) * box.height()) / 2;
+    box.moveCenter(place + direction * (gap + reach));
+    painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip, text);
+    return gap + 2.0 * reach;
+}
+
+static void paintAxis(QPainter& painter, const FieldLayout& layout, const SpaceView& view,
+                      const AxisEdge& edge, std::size_t axis, const QPointF& inside,
+                      const QString& title)
+{
+    const double font = layout.font;
+    const QPointF away = outward(edge.line, inside);
+    painter.drawLine(edge.line);
+    painter.setFont(plotFont(font));
+    double reach = 0.5 * font;
+    const AxisTicks ticks =
+        axisTicks(edge.from[axis], edge.to[axis], edge.line.length(), font,
+                  std::abs(edge.line.dy()) > std::abs(edge.line.dx()) ? TickTexts::Stacked
+                                                                      : TickTexts::SideBySide);
+    for (std::size_t i = 0; i < ticks.places.size() && edge.line.length() > 4.0 * font; ++i) {
+        Point place = edge.from;
+        place[axis] = ticks.places[i];
+        const auto at = view.project(place, layout.plot);
+        if (!at || !layout.plot.contains(*at))
+            continue;
+        painter.drawLine(*at, *at + away * 0.4 * font);
+        reach = std::max(
+            reach, paintBeside(painter, *at, away, 0.5 * font, ticks.texts[static_cast<int>(i)]));
+    }
+    painter.setFont(plotFont(1.1 * font, true));
+    if (layout.plot.contains(edge.line.center()))
+        paintBeside(painter, edge.line.center(), away, reach + 0.1 * font, title);
+}
+
+void paintSpaceAxes(QPainter& painter, const FieldLayout& layout, const vtkBoundingBox& shown,
+                    const SpaceView& view, const std::array<QString, 3>& titles)
+{
+    constexpr double kDistance = 0.02;
+    vtkBoundingBox box = shown;
+    box.Inflate(kDistance * shown.GetMaxLength());
+    Point middle;
+    box.GetCenter(middle.data());
+    const std::optional<QPointF> inside = view.project(middle, layout.plot);
+    if (!inside)
+        return;
+    painter.save();
+    painter.setPen(QPen(inkColor(), std::max(1.0, layout.font / 12.0)));
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        const auto edges = outerEdges(box, view, layout.plot, axis);
+        if (!edges.empty() && shown.GetLength(static_cast<int>(axis)) > 0.0)
+            paintAxis(painter, layout, view, bestEdge(edges), axis, *inside, titles[axis]);
+    }
+    painter.restore();
+}
+
+} // namespace corvala::plot
