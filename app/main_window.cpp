@@ -3,7 +3,6 @@
 
 #include "app/layer_bar.h"
 #include "app/notice_bar.h"
-#include "app/picture_file.h"
 #include "app/plot3d_dialog.h"
 #include "app/plot3d_layout.h"
 #include "app/plot_area.h"
@@ -13,6 +12,7 @@
 #include "app/work_progress.h"
 #include "host/document/document.h"
 #include "host/io/sample_list.h"
+#include "play/picture_file.h"
 #include "plot/frame_view.h"
 #include "samples/demo_data.h"
 #include "sdk/common_ui/find_main_window.h"
@@ -374,7 +374,7 @@ void MainWindow::savePicture()
     QString error;
     const QImage image = canvasImage(&error);
     if (!image.isNull())
-        error = writePicture(image, dialog.selectedFiles().value(0));
+        error = play::writePicture(image, dialog.selectedFiles().value(0));
     if (!error.isEmpty())
         showProblem(error);
 }

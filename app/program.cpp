@@ -4,13 +4,14 @@
 #include "app/command_line.h"
 #include "app/data_opening.h"
 #include "app/display.h"
-#include "app/gesture_tracker.h"
 #include "app/main_window.h"
-#include "app/picture_file.h"
-#include "app/play/dialog_driver.h"
-#include "app/play/player.h"
-#include "app/play/style_report.h"
+#include "app/program_stage.h"
 #include "host/document/document.h"
+#include "host/undo/gesture_tracker.h"
+#include "play/dialog_driver.h"
+#include "play/picture_file.h"
+#include "play/player.h"
+#include "play/style_report.h"
 #include "plot/render.h"
 #include "samples/demo_data.h"
 
@@ -87,7 +88,7 @@ static QString drawPicture(const QString& file)
         plot::renderToImage(host::Document::instance().activeFrameId(), kPictureSize, &error);
     if (image.isNull())
         return Program::tr("%1 cannot be drawn: %2").arg(file, error);
-    return writePicture(image, file);
+    return play::writePicture(image, file);
 }
 
 static int runBatch(MainWindow& window, const Options& options)
@@ -97,7 +98,8 @@ static int runBatch(MainWindow& window, const Options& options)
         return fail(named(error));
     if (!options.script.isEmpty()) {
         window.show();
-        error = play::playScript(options.script, window);
+        ProgramStage stage(window);
+        error = play::playScript(options.script, stage);
         if (!error.isEmpty())
             return fail(error);
     }
@@ -168,7 +170,7 @@ static int runApplication(int argc, char** argv, const Options& options)
 {
     QApplication application(argc, argv);
     setUpLocale();
-    GestureTracker gestures(host::Document::instance().undo());
+    const host::GestureTracker gestures(host::Document::instance().undo());
     MainWindow window;
     if (!options.isBatch()) {
         startInteractive(window, options);

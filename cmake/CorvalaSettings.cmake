@@ -18,8 +18,8 @@ endif()
 
 # One include root per top folder, and per room of a folder that has layers: a target sees only the
 # folders whose roots it is given, so a forbidden include does not compile.
-foreach(folder zonestyle sdk host plot plot/common plot/field/geometry plot/field/scene app samples
-    tests)
+foreach(folder zonestyle sdk host play plot plot/common plot/field/geometry plot/field/scene app
+    samples tests)
   string(REPLACE "/" "-" root "${folder}")
   set(link "${CMAKE_BINARY_DIR}/include-roots/${root}/${folder}")
   cmake_path(GET link PARENT_PATH parent)

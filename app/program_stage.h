@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "play/stage.h"
+
+namespace corvala::app {
+
+class MainWindow;
+
+/// Plays scripts in the program's own window.
+class ProgramStage : public play::Stage
+{
+public:
+    /// The window must outlive the stage.
+    explicit ProgramStage(MainWindow& window)
+        : m_window(window)
+    {
+    }
+
+    QWidget& window() override;
+    QString openFiles(const QStringList& files) override;
+    QImage canvasImage(QString* error) override;
+
+private:
+    MainWindow& m_window;
+};
+
+} // namespace corvala::app

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <deque>
+
+class QWidget;
+
+namespace corvala::play {
+
+/// Answers modal prompts with the replies that a script has queued, by keys and clicks.
+class PromptResponder
+{
+public:
+    /// Appends replies, as the "answers" verb takes them. Throws a ScriptError for a reply of
+    /// another form, and then queues none of them.
+    void queue(const nlohmann::json& replies);
+
+    /// Answers an open prompt with the next reply. Throws a ScriptError when there is none, or
+    /// when the prompt does not take it; the prompt may then still be open.
+    void answer(QWidget& prompt);
+
+    /// What the last prompt showed before its reply; null before the first.
+    const nlohmann::json& lastPrompt() const { return m_lastPrompt; }
+
+    bool hasUnusedReplies() const { return !m_replies.empty(); }
+    nlohmann::json unusedReplies() const { return nlohmann::json(m_replies); }
+
+private:
+    std::deque<nlohmann::json> m_replies;
+    nlohmann::json m_lastPrompt;
+};
+
+} // namespace corvala::play
