@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/main_window.h"
+#include "host/document/document.h"
 #include "play/dialog_driver.h"
 #include "play/idle.h"
 #include "play/input.h"
 #include "play/style_report.h"
-#include "host/document/document.h"
 #include "plot/frame_view.h"
 #include "sdk/dialogs_common/qt_dialog_abstract.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "host/undo/gesture_tracker.h"
 #include "host/document/document.h"
+#include "host/undo/gesture_tracker.h"
 #include "samples/demo_data.h"
 
 #include <QMessageBox>
