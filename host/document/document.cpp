@@ -62,12 +62,12 @@ void Document::raise(const StateEvent& event)
     m_events(event);
 }
 
-void Document::raiseCode(StateCode_e code)
+StateEvent Document::eventOf(StateCode_e code) const
 {
     StateEvent event;
     event.code = code;
     event.frame = activeFrameId();
-    raise(event);
+    return event;
 }
 
 void Document::clear()
@@ -159,7 +159,7 @@ void Document::attachDataSet(std::shared_ptr<DataSet> data, PlotType_e plotType,
     proposeVariables(frame);
 
     if (newPlotType)
-        raiseStyle(&frame, plotTypeAttribute, {{plotTypeAttribute.id, {}}});
+        raise(styleEvent(&frame, plotTypeAttribute, {{plotTypeAttribute.id, {}}}));
     raiseCode(StateCode_DataSetAttached);
 }
 
@@ -198,8 +198,11 @@ bool Document::detachDataSet()
 void Document::perform(Change change, bool undoable)
 {
     change.apply(true);
+    const std::vector<StateEvent> events = change.events;
     if (undoable)
         m_undo.record(std::move(change));
+    for (const StateEvent& event : events)
+        raise(event);
 }
 
 bool Document::enableZones(const MapSet& zones)

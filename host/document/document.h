@@ -95,11 +95,12 @@ private:
 
     Frame* makeFrame();
     void proposeVariables(Frame& frame);
-    void raiseCode(StateCode_e code);
-    /// Applies the change and records it for undo; the caller raises its events.
+    StateEvent eventOf(StateCode_e code) const; ///< of the active frame
+    static StateEvent styleEvent(const Frame* frame, const Attribute& attribute,
+                                 std::vector<StyleChange> changes);
+    void raiseCode(StateCode_e code) { raise(eventOf(code)); }
+    /// Applies the change, records it for undo and raises its events.
     void perform(Change change, bool undoable = true);
-    void raiseStyle(const Frame* frame, const Attribute& attribute,
-                    std::vector<StyleChange> changes);
     StyleWriteResult_e writeNow(const StyleWrite& request);
     StyleWriteResult_e writeToMaps(Frame& frame, const Attribute& attribute,
                                    const StyleWrite& request);

@@ -37,18 +37,17 @@ void Document::rearrangeLineMaps(const std::vector<std::int64_t>& newToOld, MapS
     Change change;
     change.frame = frame.id();
     change.text = text;
-    change.structureChanged = true;
+    const Attribute& activeAttribute = activeLineMapsAttribute();
+    if (!(before.active == after.active))
+        change.events = {styleEvent(&frame, activeAttribute, {{activeAttribute.id, {}}})};
+    change.events.push_back(eventOf(StateCode_LineMapListChanged));
     change.apply = [&frame, before, after](bool forward) {
         const State& state = forward ? after : before;
         frame.m_lineStyle.restore(state.columns, state.count);
         frame.m_activeLineMaps = state.active;
         frame.m_picks.clear();
     };
-    const bool activeChanged = !(before.active == after.active);
     perform(std::move(change));
-    if (activeChanged)
-        raiseStyle(&frame, activeLineMapsAttribute(), {{activeLineMapsAttribute().id, {}}});
-    raiseCode(StateCode_LineMapListChanged);
 }
 
 /// The set after the maps moved: map n is what newToOld[n - 1] was.
@@ -214,7 +213,7 @@ bool Document::deleteFieldMaps(const MapSet& maps)
     Change change;
     change.frame = frame.id();
     change.text = countedText(QT_TRANSLATE_NOOP("UndoTexts", "Delete %1"), maps, Scope::FieldMap);
-    change.structureChanged = true;
+    change.events = {eventOf(StateCode_FieldMapListChanged), eventOf(StateCode_ZonesRemoved)};
     change.apply = [&frame, before, after](bool forward) {
         const State& state = forward ? *after : *before;
         frame.m_data = state.data;
@@ -226,8 +225,6 @@ bool Document::deleteFieldMaps(const MapSet& maps)
         frame.m_picks.clear();
     };
     perform(std::move(change));
-    raiseCode(StateCode_FieldMapListChanged);
-    raiseCode(StateCode_ZonesRemoved);
     return true;
 }
 
@@ -241,10 +238,11 @@ static bool isText(const std::string& text)
 
 /// A change of a text in the data set. The data set is shared by the states of deleted maps, where
 /// the name belongs to the same zone, so it is changed in place.
-static Change renaming(const Frame& frame, std::string& name, const std::string& newName)
+static Change renaming(StateEvent event, std::string& name, const std::string& newName)
 {
     Change change;
-    change.frame = frame.id();
+    change.frame = event.frame;
+    change.events = {std::move(event)};
     change.text = undoText(QT_TRANSLATE_NOOP("UndoTexts", "Rename \"%1\" to \"%2\""))
                       .arg(QString::fromStdString(name), QString::fromStdString(newName));
     change.apply = [&name, before = name, newName](bool forward) {
@@ -260,8 +258,7 @@ bool Document::renameZone(CvlInt64 zone, const std::string& name)
     std::string& current = m_active->m_data->zones[static_cast<std::size_t>(zone - 1)].name;
     if (current == name)
         return true;
-    perform(renaming(*m_active, current, name));
-    raiseCode(StateCode_ZoneRenamed);
+    perform(renaming(eventOf(StateCode_ZoneRenamed), current, name));
     return true;
 }
 
@@ -273,8 +270,7 @@ bool Document::renameVariable(CvlInt64 variable, const std::string& name)
     std::string& current = m_active->m_data->variables[static_cast<std::size_t>(variable - 1)].name;
     if (current == name)
         return true;
-    perform(renaming(*m_active, current, name));
-    raiseCode(StateCode_VariableRenamed);
+    perform(renaming(eventOf(StateCode_VariableRenamed), current, name));
     return true;
 }
 
@@ -290,12 +286,11 @@ bool Document::setLineMapName(const MapSet& maps, const std::string& name)
     Change change;
     change.frame = frame.id();
     change.text = assignmentText(attribute, name, maps.cardinality());
-    change.styleChanges = {{attribute.id, maps}};
+    change.events = {eventOf(StateCode_LineMapRenamed)};
     change.apply = [&frame, &attribute, chunks = std::move(chunks)](bool forward) {
         frame.m_lineStyle.apply(attribute, chunks, forward);
     };
     perform(std::move(change));
-    raiseCode(StateCode_LineMapRenamed);
     return true;
 }
 

@@ -84,15 +84,15 @@ StyleWriteResult_e Document::writeNow(const StyleWrite& request)
     return writeToMaps(*m_active, attribute, request);
 }
 
-void Document::raiseStyle(const Frame* frame, const Attribute& attribute,
-                          std::vector<StyleChange> changes)
+StateEvent Document::styleEvent(const Frame* frame, const Attribute& attribute,
+                                std::vector<StyleChange> changes)
 {
     StateEvent event;
     event.code = StateCode_Style;
     event.frame = frame ? frame->id() : 0;
     event.parameters = attribute.names;
     event.styleChanges = std::move(changes);
-    raise(event);
+    return event;
 }
 
 StyleWriteResult_e Document::writeToMaps(Frame& frame, const Attribute& attribute,
@@ -122,15 +122,15 @@ StyleWriteResult_e Document::writeToMaps(Frame& frame, const Attribute& attribut
     Change change;
     change.frame = frame.id();
     change.text = assignmentText(attribute, request.value, maps.cardinality());
+    std::vector<StyleChange> styleChanges;
     for (const ColumnChange& column : columns)
-        change.styleChanges.push_back({column.attribute, maps});
-    const std::vector<StyleChange> styleChanges = change.styleChanges;
+        styleChanges.push_back({column.attribute, maps});
+    change.events = {styleEvent(&frame, attribute, std::move(styleChanges))};
     change.apply = [&table, columns = std::move(columns)](bool forward) {
         for (const ColumnChange& column : columns)
             table.apply(Schema::instance().at(column.attribute), column.chunks, forward);
     };
     perform(std::move(change));
-    raiseStyle(&frame, attribute, styleChanges);
     return StyleWrite_Ok;
 }
 
@@ -156,7 +156,9 @@ StyleWriteResult_e Document::writeToList(Frame* frame, const Attribute& attribut
     Change change;
     change.frame = frame ? frame->id() : 0;
     change.text = assignmentText(attribute, request.value);
-    change.styleChanges = {{attribute.id, {}}};
+    change.events = {styleEvent(frame, attribute, {{attribute.id, {}}})};
+    if (attribute.names.front() == "ContourGroups")
+        change.events.push_back(eventOf(StateCode_ContourGroupChanged));
     change.apply = [&list, &attribute, frame, isPlotType, index = request.offset1, before,
                     value](bool forward) {
         list.set(attribute, index, forward ? value : before);
@@ -164,9 +166,6 @@ StyleWriteResult_e Document::writeToList(Frame* frame, const Attribute& attribut
             frame->m_picks.clear(); // picks of zones mean nothing on a line plot, and vice versa
     };
     perform(std::move(change), request.undoable);
-    raiseStyle(frame, attribute, {{attribute.id, {}}});
-    if (attribute.names.front() == "ContourGroups")
-        raiseCode(StateCode_ContourGroupChanged);
     return StyleWrite_Ok;
 }
 
@@ -206,11 +205,9 @@ StyleWriteResult_e Document::writeSet(Frame& frame, const Attribute& attribute,
     change.frame = frame.id();
     change.text = activationText(isLines ? Scope::LineMap : Scope::FieldMap, request.op,
                                  operand.cardinality());
-    change.styleChanges = {{attribute.id, before ^ after}};
-    const std::vector<StyleChange> styleChanges = change.styleChanges;
+    change.events = {styleEvent(&frame, attribute, {{attribute.id, before ^ after}})};
     change.apply = [&active, before, after](bool forward) { active = forward ? after : before; };
     perform(std::move(change));
-    raiseStyle(&frame, attribute, styleChanges);
     return StyleWrite_Ok;
 }
 

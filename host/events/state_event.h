@@ -26,11 +26,7 @@ struct StateEvent
     StateCode_e code = StateCode_Style;
     std::vector<std::string> parameters; ///< of StateCode_Style: the names of the path
     CvlUniqueId frame = 0;
-    /// What changed in the style tree: one entry for StateCode_Style, all entries of the step for
-    /// StateCode_UndoApplied and StateCode_RedoApplied.
-    std::vector<StyleChange> styleChanges;
-    /// The list of maps itself may differ (undo and redo of deletions and moves).
-    bool structureChanged = false;
+    std::vector<StyleChange> styleChanges; ///< of StateCode_Style: one entry per attribute
 };
 
 /// Delivers events synchronously, in order of connection, on the calling thread.

@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 namespace corvala::host {
 
 /// Changes that are undone and redone together.
@@ -68,6 +70,49 @@ private:
     std::vector<std::shared_ptr<Change>> m_changes;
     QStringList m_texts; ///< different ones, up to one more than are shown
 };
+
+static bool renumbersMaps(const StateEvent& event)
+{
+    return event.code == StateCode_FieldMapListChanged
+        || event.code == StateCode_LineMapListChanged;
+}
+
+static void addStyleChanges(std::vector<StyleChange>& changes, const std::vector<StyleChange>& more)
+{
+    for (const StyleChange& change : more) {
+        const auto known =
+            std::find_if(changes.begin(), changes.end(), [&](const StyleChange& other) {
+                return other.attribute == change.attribute;
+            });
+        if (known == changes.end())
+            changes.push_back(change);
+        else
+            known->maps |= change.maps;
+    }
+}
+
+/// Adds an event to those of a step, which are raised when all of the step is visible. Events that
+/// say the same become one, so a step costs its listeners what one change of each kind costs.
+static void addEvent(std::vector<StateEvent>& events, const StateEvent& event)
+{
+    if (renumbersMaps(event)) // numbers from before mean other maps, and all are announced anyway
+        for (StateEvent& earlier : events)
+            for (StyleChange& change : earlier.styleChanges)
+                change.maps = MapSet();
+    const auto known = std::find_if(events.begin(), events.end(), [&](const StateEvent& other) {
+        return other.code == event.code && other.frame == event.frame
+            && other.parameters == event.parameters;
+    });
+    if (known == events.end())
+        events.push_back(event);
+    else
+        addStyleChanges(known->styleChanges, event.styleChanges);
+}
+
+static bool isPlotType(const StateEvent& event)
+{
+    return !event.parameters.empty() && event.parameters.front() == "PlotType";
+}
 
 UndoHistory::UndoHistory(Document& document)
     : m_document(document)
@@ -150,19 +195,25 @@ bool UndoHistory::redo()
 
 void UndoHistory::announce(const Step& step, bool forward)
 {
-    StateEvent event;
-    event.code = forward ? StateCode_RedoApplied : StateCode_UndoApplied;
-    event.frame = m_document.activeFrameId();
-    for (const auto& change : step.changes()) {
+    StateEvent applied;
+    applied.code = forward ? StateCode_RedoApplied : StateCode_UndoApplied;
+    applied.frame = m_document.activeFrameId();
+    std::vector<StateEvent> events;
+    std::vector<std::shared_ptr<Change>> changes = step.changes();
+    if (!forward)
+        std::reverse(changes.begin(), changes.end());
+    for (const auto& change : changes) {
         if (change->frame != 0)
-            event.frame = change->frame;
-        event.structureChanged = event.structureChanged || change->structureChanged;
-        event.styleChanges.insert(event.styleChanges.end(), change->styleChanges.begin(),
-                                  change->styleChanges.end());
+            applied.frame = change->frame;
+        for (const StateEvent& event : change->events)
+            addEvent(events, event);
     }
-    if (event.frame != m_document.activeFrameId())
-        m_document.activateFrame(event.frame);
-    m_document.raise(event);
+    std::stable_partition(events.begin(), events.end(), isPlotType);
+    events.push_back(applied);
+    if (applied.frame != m_document.activeFrameId())
+        m_document.activateFrame(applied.frame);
+    for (const StateEvent& event : events)
+        m_document.raise(event);
 }
 
 int UndoHistory::stepCount() const

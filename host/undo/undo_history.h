@@ -20,8 +20,7 @@ struct Change
 {
     CvlUniqueId frame = 0; ///< frame that it changes; 0 for the document
     QString text; ///< such as "Mesh type = Overlay (3 field maps)"
-    std::vector<StyleChange> styleChanges; ///< for the event that announces its undo or redo
-    bool structureChanged = false; ///< the list of maps differs
+    std::vector<StateEvent> events; ///< that announce it, done or taken back
     std::function<void(bool forward)> apply; ///< does it again, or takes it back
 };
 
@@ -52,8 +51,10 @@ public:
     void endGesture() { m_gesture = 0; }
     bool isInGesture() const { return m_gesture != 0; }
 
-    bool undo(); ///< raises StateCode_UndoApplied; false when there is nothing
-    bool redo(); ///< raises StateCode_RedoApplied; false when there is nothing
+    /// Raise what the changes of the step raised when they were made, one event per kind, then
+    /// StateCode_UndoApplied or StateCode_RedoApplied. False when there is nothing.
+    bool undo();
+    bool redo();
     int stepCount() const; ///< steps that can be undone
     QString undoText() const;
 

@@ -16,7 +16,7 @@ inline bool concerns(const host::StateEvent& event, CvlUniqueId frame)
         || event.code == StateCode_DocumentLoaded || event.code == StateCode_FrameListChanged;
 }
 
-/// Whether an event gives its frame another plot type, also by undo and redo.
+/// Whether an event gives its frame another plot type.
 inline bool namesPlotType(const host::StateEvent& event)
 {
     static const host::AttributeId kPlotType = host::Schema::instance().find({"PlotType"});

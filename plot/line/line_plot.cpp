@@ -80,12 +80,7 @@ bool LinePlot::apply(const host::StateEvent& event)
     if (!concerns(event, m_frame))
         return false;
     switch (event.code) {
-    case StateCode_Style:
-    case StateCode_UndoApplied:
-    case StateCode_RedoApplied:
-        if (!event.structureChanged)
-            return applyStyle(event);
-        break;
+    case StateCode_Style: return applyStyle(event);
     case StateCode_ColorTableChanged: m_stale |= m_shown; return true;
     case StateCode_FrameListChanged:
         if (frame())

@@ -16,8 +16,6 @@ static bool concernsPlotType(const toolbox::StateChangeEventInterface& event)
     case StateCode_DocumentLoaded:
     case StateCode_DataSetAttached:
     case StateCode_DataSetDetached:
-    case StateCode_UndoApplied:
-    case StateCode_RedoApplied:
     case StateCode_FrameListChanged:
     case StateCode_ActiveFrameChanged: return true;
     default: return false;

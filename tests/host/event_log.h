@@ -22,12 +22,13 @@ public:
         m_texts.clear();
         return text;
     }
-    const corvala::host::StateEvent& last() const { return m_last; }
+    const corvala::host::StateEvent& lastStyle() const { return m_style; }
 
 private:
     void note(const corvala::host::StateEvent& event)
     {
-        m_last = event;
+        if (event.code == StateCode_Style)
+            m_style = event;
         QString text = QString::number(event.code);
         if (!event.parameters.empty())
             text += QLatin1Char(':') + QString::fromStdString(event.parameters.front());
@@ -35,7 +36,7 @@ private:
     }
 
     QStringList m_texts;
-    corvala::host::StateEvent m_last;
+    corvala::host::StateEvent m_style;
     boost::signals2::scoped_connection m_connection;
 };
 

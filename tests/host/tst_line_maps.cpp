@@ -165,7 +165,7 @@ void tst_LineMaps::deletionIsOneStepInItsBracket()
     QCOMPARE(log.take().section(' ', 0, 0), QStringLiteral("7:ActiveLineMaps"));
     QCOMPARE(document.undo().stepCount(), 1);
     document.undo().undo();
-    QCOMPARE(log.take(), QStringLiteral("44"));
+    QCOMPARE(log.take(), QStringLiteral("7:ActiveLineMaps 3 44"));
     QCOMPARE(document.activeFrame()->activeLineMaps().cardinality(), std::uint64_t(6));
 }
 

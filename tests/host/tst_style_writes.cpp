@@ -166,9 +166,9 @@ void tst_StyleWrites::raisesOneEventForAllMaps()
     EventLog log;
     QCOMPARE(writeStyle({"FieldMap", "Mesh", "MeshType"}, "2-4,9", 0.0), StyleWrite_Ok);
     QCOMPARE(log.take(), QStringLiteral("7:FieldMap"));
-    QCOMPARE(log.last().parameters, Path({"FieldMap", "Mesh", "MeshType"}));
-    QCOMPARE(log.last().styleChanges.size(), std::size_t(1));
-    QCOMPARE(QString::fromStdString(toText(log.last().styleChanges[0].maps, 12)),
+    QCOMPARE(log.lastStyle().parameters, Path({"FieldMap", "Mesh", "MeshType"}));
+    QCOMPARE(log.lastStyle().styleChanges.size(), std::size_t(1));
+    QCOMPARE(QString::fromStdString(toText(log.lastStyle().styleChanges[0].maps, 12)),
              QStringLiteral("2-4,9"));
     QCOMPARE(Document::instance().undo().undoText(),
              QStringLiteral("Mesh type = Wire frame (4 field maps)"));

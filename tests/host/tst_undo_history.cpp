@@ -8,6 +8,9 @@
 using namespace corvala;
 using namespace corvala::host;
 
+using Steps = std::function<void()>;
+Q_DECLARE_METATYPE(Steps)
+
 class tst_UndoHistory : public QObject
 {
     Q_OBJECT
@@ -21,7 +24,9 @@ private Q_SLOTS:
     void withoutCommitNothingIsJoined();
     void emptyBracketsLeaveNothing();
     void undoInsideABracketIsRefused();
+    void announcesWhatCameBack_data();
     void announcesWhatCameBack();
+    void aLargeStepIsAnnouncedOnce();
     void undoGoesToItsFrame();
     void openingForgets();
 
@@ -144,18 +149,64 @@ void tst_UndoHistory::undoInsideABracketIsRefused()
     QVERIFY(undo().undo());
 }
 
+void tst_UndoHistory::announcesWhatCameBack_data()
+{
+    QTest::addColumn<Steps>("make");
+    QTest::addColumn<QString>("events");
+    QTest::addColumn<QString>("again"); // of undo and redo, if another order
+    const auto document = []() -> Document& { return Document::instance(); };
+    QTest::newRow("style") << Steps([] { setGroup("3-5", 2); }) << "7:FieldMap"
+                           << "";
+    QTest::newRow("contour group") << Steps([] {
+        writeStyle({"ContourGroups", "Var"}, "", 4.0, 255, 3);
+    }) << "7:ContourGroups 21"
+                                   << "";
+    QTest::newRow("zone name") << Steps([=] { document().renameZone(2, "x"); }) << "14"
+                               << "";
+    QTest::newRow("variable name") << Steps([=] { document().renameVariable(2, "x"); }) << "16"
+                                   << "";
+    QTest::newRow("fewer field maps")
+        << Steps([=] { document().deleteFieldMaps(allUpTo(2)); }) << "2 10"
+        << "";
+    QTest::newRow("more line maps")
+        << Steps([=] { document().createLineMaps(2); }) << "7:ActiveLineMaps 3"
+        << "";
+    QTest::newRow("a plot type comes first") << Steps([] {
+        setGroup("1", 2);
+        writeStyle({"PlotType"}, "", double(PlotType_LineXY));
+    }) << "7:FieldMap 7:PlotType"
+                                             << "7:PlotType 7:FieldMap";
+}
+
 void tst_UndoHistory::announcesWhatCameBack()
 {
-    setGroup("3-5", 2);
+    QFETCH(Steps, make);
+    QFETCH(QString, events);
+    QFETCH(QString, again);
+    EventLog log;
+    undo().begin(UndoKind_StyleGroup);
+    make();
+    undo().end(UndoHistory::Closing::OneStep);
+    QCOMPARE(log.take(), events);
+    undo().undo();
+    QCOMPARE(log.take(), (again.isEmpty() ? events : again) + QStringLiteral(" 44"));
+    undo().redo();
+    QCOMPARE(log.take(), (again.isEmpty() ? events : again) + QStringLiteral(" 56"));
+}
+
+void tst_UndoHistory::aLargeStepIsAnnouncedOnce()
+{
+    undo().begin(UndoKind_StyleGroup);
+    setGroup("5", 3);
+    Document::instance().deleteFieldMaps(allUpTo(10));
+    for (int i = 0; i < 1000; ++i)
+        setGroup(std::to_string(i % 2 + 1), i + 2);
+    undo().end(UndoHistory::Closing::OneStep);
     EventLog log;
     undo().undo();
-    QCOMPARE(log.take(), QStringLiteral("44"));
-    QCOMPARE(log.last().styleChanges.size(), std::size_t(1));
-    QCOMPARE(QString::fromStdString(toText(log.last().styleChanges[0].maps, 12)),
-             QStringLiteral("3-5"));
-    QVERIFY(!log.last().structureChanged);
+    QCOMPARE(log.take(), QStringLiteral("7:FieldMap 2 10 44"));
     undo().redo();
-    QCOMPARE(log.take(), QStringLiteral("56"));
+    QCOMPARE(toText(log.lastStyle().styleChanges[0].maps, 12), std::string("1-2")); // of those left
 }
 
 void tst_UndoHistory::undoGoesToItsFrame()
@@ -165,7 +216,7 @@ void tst_UndoHistory::undoGoesToItsFrame()
     Document::instance().addFrame();
     EventLog log;
     undo().undo();
-    QCOMPARE(log.take(), QStringLiteral("51 44"));
+    QCOMPARE(log.take(), QStringLiteral("51 7:FieldMap 44"));
     QCOMPARE(Document::instance().activeFrameId(), first);
     QCOMPARE(group(1), 1);
 }

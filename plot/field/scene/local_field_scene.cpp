@@ -87,7 +87,7 @@ static bool changesMaps(const host::StateEvent& event)
     case StateCode_FieldMapListChanged:
     case StateCode_ZonesAdded:
     case StateCode_ZonesRemoved: return true;
-    default: return event.structureChanged;
+    default: return false;
     }
 }
 
@@ -107,9 +107,7 @@ bool LocalFieldScene::apply(const host::StateEvent& event)
         return true;
     }
     switch (event.code) {
-    case StateCode_Style:
-    case StateCode_UndoApplied:
-    case StateCode_RedoApplied: return applyStyle(event);
+    case StateCode_Style: return applyStyle(event);
     case StateCode_ColorTableChanged: pend(kAllLayers, m_shown); return true;
     case StateCode_SolutionTimeChanged:
         if (drawn)
