@@ -4,7 +4,7 @@
 #include "play/idle.h"
 #include "play/input.h"
 #include "play/menu_entries.h"
-#include "play/script_run.h"
+#include "play/verbs.h"
 #include "sdk/dialogs_common/qt_dialog_abstract.h"
 
 #include <QAction>
@@ -31,16 +31,17 @@ public:
     HandlerScope(ScriptRun& run, WindowWatcher::Kind kind, WindowWatcher::Handler handler)
         : m_run(run)
         , m_kind(kind)
+        , m_before(run.watcher().setHandler(kind, std::move(handler)))
     {
-        m_run.watcher().setHandler(m_kind, std::move(handler));
     }
-    ~HandlerScope() { m_run.watcher().setHandler(m_kind, {}); }
+    ~HandlerScope() { m_run.watcher().setHandler(m_kind, std::move(m_before)); }
     HandlerScope(const HandlerScope&) = delete;
     HandlerScope& operator=(const HandlerScope&) = delete;
 
 private:
     ScriptRun& m_run;
     WindowWatcher::Kind m_kind;
+    WindowWatcher::Handler m_before;
 };
 
 /// A right click on a cell. What it opens gets the release of the button, then goes to `answer`.
@@ -53,12 +54,12 @@ static void rightClick(ScriptRun& run, const QModelIndex& cell, WindowWatcher::K
     bool opened = false;
     const HandlerScope scope(run, kind, [&](QWidget& window) {
         opened = true;
-        releaseRight(&window, window.mapFromGlobal(place));
+        releaseMouse(&window, window.mapFromGlobal(place), Qt::RightButton);
         answer(window);
     });
-    pressRight(viewport, position);
+    pressMouse(viewport, position, Qt::RightButton);
     if (!opened)
-        releaseRight(viewport, position);
+        releaseMouse(viewport, position, Qt::RightButton);
     waitUntilIdle();
     run.watcher().check();
 }
@@ -79,12 +80,15 @@ static void menu(ScriptRun& run, const Arguments& arguments)
     if (choosesColor && arguments.has("choose"))
         throw ScriptError(Text::tr("\"choose\" and \"color\" exclude each other"));
     const auto color = static_cast<int>(arguments.integer("color", 0));
-    const Json choice = choosesColor ? Json() : arguments.at("choose");
+    const bool needsChoice = !choosesColor && !ScriptRun::expectsDrop(arguments);
+    const Json choice = needsChoice ? arguments.at("choose") : Json();
     bool opened = false;
     rightClick(run, cell, WindowWatcher::Menu, [&](QWidget& widget) {
         auto& shownMenu = static_cast<QMenu&>(widget);
         opened = true;
         run.lastMenu = describeActions(shownMenu.actions(), &shownMenu);
+        if (!run.playDuring(arguments, shownMenu))
+            return;
         if (choosesColor)
             chooseColorInMenu(shownMenu, color);
         else
@@ -93,7 +97,7 @@ static void menu(ScriptRun& run, const Arguments& arguments)
     if (opened)
         return;
     run.lastMenu = Json::array();
-    if (choosesColor || !choice.is_null())
+    if (choosesColor || !choice.is_null() || ScriptRun::expectsDrop(arguments))
         throw ScriptError(Text::tr("the cell has no menu"));
 }
 
@@ -104,10 +108,10 @@ static void popup(ScriptRun& run, const Arguments& arguments)
     bool opened = false;
     const auto fill = [&](QWidget& editor) {
         opened = true;
-        if (edit.opens)
-            finishEdit(editor, edit, run.dialog().dialog());
-        else
+        if (!edit.opens)
             throw ScriptError(Text::tr("an editor opened"));
+        if (run.playDuring(arguments, editor))
+            finishEdit(editor, edit, run.dialog().dialog());
     };
     const auto dismiss = [&](QWidget& shownMenu) { pressKey(&shownMenu, Qt::Key_Escape); };
     const HandlerScope menus(run, WindowWatcher::Menu, dismiss);
@@ -132,7 +136,7 @@ static void doubleClickCell(ScriptRun& run, const Arguments& arguments)
     }
     if (!editor && edit.opens)
         throw ScriptError(Text::tr("no editor opened"));
-    if (editor)
+    if (editor && run.playDuring(arguments, *editor))
         finishEdit(*editor, edit, run.dialog().dialog());
 }
 
@@ -214,9 +218,11 @@ static void action(ScriptRun& run, const Arguments& arguments)
 std::vector<Verb> cellVerbs()
 {
     return {{"check", {"column"}, check},
-            {"menu", {"column", "choose", "color"}, menu},
-            {"popup", {"column", "type", "choose", "end", "opens"}, popup},
-            {"doubleClick", {"column", "type", "choose", "end", "opens"}, doubleClickCell},
+            {"menu", {"column", "choose", "color", "during", "dropped"}, menu},
+            {"popup", {"column", "type", "choose", "end", "opens", "during", "dropped"}, popup},
+            {"doubleClick",
+             {"column", "type", "choose", "end", "opens", "during", "dropped"},
+             doubleClickCell},
             {"commit", {"column", "value", "role", "returns"}, commit},
             {"action", {"column", "choose"}, action}};
 }

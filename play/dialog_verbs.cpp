@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "play/idle.h"
 #include "play/input.h"
-#include "play/script_run.h"
+#include "play/verbs.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
 
 #include <QAbstractButton>

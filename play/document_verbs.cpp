@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/document/document.h"
-#include "play/script_run.h"
+#include "play/verbs.h"
 #include "samples/demo_data.h"
 #include "sdk/base/cvl.h"
 #include "zonestyle/dialog/zone_style_dialog.h"

@@ -4,6 +4,7 @@
 #include "play/images.h"
 #include "play/picture_file.h"
 #include "play/style_report.h"
+#include "play/verbs.h"
 #include "sdk/dialogs_common/qt_dialog_abstract.h"
 
 #include <QPixmap>

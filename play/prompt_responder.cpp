@@ -38,6 +38,16 @@ static void checkCharacter(const Arguments& keys)
     keys.integer("font", 0);
 }
 
+static void checkReply(const Json& reply);
+
+static void checkInterlude(const Arguments& keys)
+{
+    keys.allowOnly({"during", "dropped", "reply"});
+    keys.list("during");
+    if (!keys.boolean("dropped", false))
+        checkReply(keys.at("reply"));
+}
+
 static void checkReply(const Json& reply)
 {
     if (isValue(reply))
@@ -46,6 +56,8 @@ static void checkReply(const Json& reply)
         return;
     if (reply.is_object()) {
         const Arguments keys(reply, {});
+        if (keys.has("during"))
+            return checkInterlude(keys);
         if (keys.has("position"))
             return keys.allowOnly({"position"}), void(keys.integer("position"));
         if (keys.has("refused"))
@@ -54,6 +66,11 @@ static void checkReply(const Json& reply)
             return checkCharacter(keys);
     }
     throw ScriptError(Text::tr("%1 is no reply to a prompt").arg(shown(reply)));
+}
+
+PromptResponder::PromptResponder(PlayInterlude playInterlude)
+    : m_playInterlude(std::move(playInterlude))
+{
 }
 
 void PromptResponder::queue(const Json& replies)
@@ -85,7 +102,8 @@ static void refuse(QWidget& prompt)
         pressKey(&prompt, Qt::Key_Escape);
 }
 
-/// Moves to an entry of a closed combo box or a list by the keyboard; `position` is from 0.
+/// Moves to an entry of a closed combo box or a list by the keyboard;
+/// `position` is from 0.
 static void moveToItem(QWidget& prompt, QWidget& field, int position)
 {
     field.setFocus(Qt::TabFocusReason);
@@ -229,10 +247,15 @@ void PromptResponder::answer(QWidget& prompt)
         throw ScriptError(Text::tr("no reply is queued for the prompt \"%1\" (%2)")
                               .arg(prompt.windowTitle(),
                                    plainText(m_lastPrompt.value("label", Json(std::string())))));
-    const Json reply = m_replies.front();
+    Json reply = m_replies.front();
     m_replies.pop_front();
     const QString title = prompt.windowTitle();
     const QPointer<QWidget> open = &prompt;
+    if (reply.is_object() && reply.contains("during")) {
+        if (!m_playInterlude(prompt, reply))
+            return;
+        reply = Json(reply["reply"]);
+    }
     perform(prompt, reply);
     if (open && open->isVisible())
         throw ScriptError(Text::tr("the prompt \"%1\" did not take %2").arg(title, shown(reply)));

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include <deque>
+#include <functional>
 
 class QWidget;
 
@@ -13,12 +14,17 @@ namespace corvala::play {
 class PromptResponder
 {
 public:
+    /// Plays the interlude of a reply that has one; false when that closed the prompt.
+    using PlayInterlude = std::function<bool(QWidget& prompt, const nlohmann::json& reply)>;
+
+    explicit PromptResponder(PlayInterlude playInterlude = {});
+
     /// Appends replies, as the "answers" verb takes them. Throws a ScriptError for a reply of
     /// another form, and then queues none of them.
     void queue(const nlohmann::json& replies);
 
-    /// Answers an open prompt with the next reply. Throws a ScriptError when there is none, or
-    /// when the prompt does not take it; the prompt may then still be open.
+    /// Answers an open prompt with the next reply. Throws a ScriptError when there is none, or when
+    /// the prompt does not take it; the prompt may then still be open.
     void answer(QWidget& prompt);
 
     /// What the last prompt showed before its reply; null before the first.
@@ -28,6 +34,7 @@ public:
     nlohmann::json unusedReplies() const { return nlohmann::json(m_replies); }
 
 private:
+    PlayInterlude m_playInterlude;
     std::deque<nlohmann::json> m_replies;
     nlohmann::json m_lastPrompt;
 };

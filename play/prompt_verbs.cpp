@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "play/input.h"
-#include "play/script_run.h"
+#include "play/verbs.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

@@ -7,7 +7,7 @@
 #include "play/stage.h"
 #include "play/window_watcher.h"
 
-#include <vector>
+#include <boost/signals2/connection.hpp>
 
 namespace corvala::host {
 class Document;
@@ -20,7 +20,8 @@ namespace corvala::play {
 class ScriptRun
 {
 public:
-    explicit ScriptRun(Stage& stage);
+    /// File names in lines are relative to `folder`.
+    ScriptRun(Stage& stage, const QString& folder);
 
     Stage& stage() { return m_stage; }
     host::Document& document() const;
@@ -31,6 +32,15 @@ public:
     WindowWatcher& watcher() { return m_watcher; }
     PromptResponder& prompts() { return m_prompts; }
 
+    /// Plays one line of a script, then settles.
+    void play(const nlohmann::json& line);
+
+    /// Plays the lines of "during", which may close what a line or a prompt has opened. Whether
+    /// the script goes on with it; false when it is "dropped", and must not change the document
+    /// until the line ends. Throws a ScriptError when it is closed or open against expectation.
+    bool playDuring(const Arguments& arguments, QWidget& opened);
+    static bool expectsDrop(const Arguments& arguments);
+
     /// Waits until idle, then throws what a window handler had to say.
     void settle();
 
@@ -39,23 +49,12 @@ public:
 
 private:
     Stage& m_stage;
+    QString m_folder;
+    boost::signals2::scoped_connection m_afterDrop;
+    int m_changesAfterDrop = 0;
     DialogDriver m_dialog;
     PromptResponder m_prompts;
     WindowWatcher m_watcher;
 };
-
-/// One thing that a line of a script can say.
-struct Verb
-{
-    const char* name;
-    std::vector<const char*> keys; ///< what may stand beside the verb
-    void (*play)(ScriptRun& run, const Arguments& arguments);
-};
-
-std::vector<Verb> documentVerbs();
-std::vector<Verb> dialogVerbs();
-std::vector<Verb> cellVerbs();
-std::vector<Verb> promptVerbs();
-std::vector<Verb> lookingVerbs();
 
 } // namespace corvala::play

@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QTimer>
 
+#include <utility>
+
 namespace corvala::play {
 
 WindowWatcher::WindowWatcher(QWidget& mainWindow)
@@ -20,9 +22,9 @@ WindowWatcher::~WindowWatcher()
     qApp->removeEventFilter(this);
 }
 
-void WindowWatcher::setHandler(Kind kind, Handler handler)
+WindowWatcher::Handler WindowWatcher::setHandler(Kind kind, Handler handler)
 {
-    m_handlers[kind] = std::move(handler);
+    return std::exchange(m_handlers[kind], std::move(handler));
 }
 
 void WindowWatcher::check()
@@ -84,10 +86,10 @@ void WindowWatcher::handle(Kind kind, QWidget& window)
         QT_TRANSLATE_NOOP("Script", "a prompt opened that the script does not expect")};
     const QPointer<QWidget> guard = &window;
     QString error = Text::tr(names[kind]);
-    if (m_handlers[kind]) {
+    if (const Handler handler = m_handlers[kind]) { // which may set another one
         error.clear();
         try {
-            m_handlers[kind](window);
+            handler(window);
         } catch (const std::exception& problem) {
             error = QString::fromUtf8(problem.what());
         }

@@ -27,8 +27,8 @@ public:
     ~WindowWatcher() override;
 
     /// Handles windows of the kind until the next call. An empty handler lets none open: it is
-    /// closed, and an error.
-    void setHandler(Kind kind, Handler handler);
+    /// closed, and an error. Gives back the handler before it.
+    Handler setHandler(Kind kind, Handler handler);
 
     /// Throws what a handler threw since the last call.
     void check();

@@ -4,44 +4,19 @@
 #include "play/player.h"
 #include "host/document/document.h"
 #include "host/undo/gesture_tracker.h"
-#include "play/stage.h"
+#include "tests/play/bare_stage.h"
 
 #include <QApplication>
 #include <QLocale>
-#include <QMainWindow>
 #include <QTimer>
 
 #include <cstdio>
 
 using namespace corvala;
 
-namespace {
-
-class BareStage : public play::Stage
-{
-public:
-    BareStage() { m_window.show(); }
-
-    QWidget& window() override { return m_window; }
-    QString openFiles(const QStringList&) override
-    {
-        return QStringLiteral("this player reads no files");
-    }
-    QImage canvasImage(QString* error) override
-    {
-        *error = QStringLiteral("this player has no canvas");
-        return {};
-    }
-
-private:
-    QMainWindow m_window;
-};
-
-} // namespace
-
 static int playInWindow(const QString& script)
 {
-    BareStage stage;
+    tests::BareStage stage;
     const QString problem = play::playScript(script, stage);
     if (!problem.isEmpty())
         std::fprintf(stderr, "%s\n", qUtf8Printable(problem));
