@@ -300,7 +300,10 @@ private Q_SLOTS:
         const ReadResult missing = read({m_folder->path("none.vtu")});
         QCOMPARE(missing.error,
                  m_folder->path("none.vtu") + " could not be read: there is no such file");
-        QVERIFY(read({m_folder->path("tmp")}).error.endsWith(": it is a folder"));
+        QVERIFY(read({m_folder->path("tmp")}).error.endsWith("a folder that holds no data files"));
+        QVERIFY(read({DataFolder::sample("two_spheres")})
+                    .error.endsWith("open some of them: dualSphereAnimation4.pvd, "
+                                    "dualSphereAnimation4NoPart.pvd"));
         const QString pipe = m_folder->path("pipe.vtu");
         QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
         QVERIFY(read({pipe}).error.endsWith(": it is not a regular file"));

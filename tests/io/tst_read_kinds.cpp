@@ -204,6 +204,40 @@ private Q_SLOTS:
                  (std::array<int, 3> {{first, first + 1, first + 2}}));
     }
 
+    /// Of each file, the first names that all its blocks with points share are left out.
+    void sharedNamesOfBlocks_data()
+    {
+        QTest::addColumn<QByteArray>("blocks");
+        QTest::addColumn<QString>("zones");
+        const QByteArray tip = "<DataSet index='0' name='tip' file='p.vtp'/>";
+        const auto block = [](const char* number, const char* name, const QByteArray& inner) {
+            return QByteArray("<Block index='") + number + "' name='" + name + "'>" + inner
+                + "</Block>";
+        };
+        QTest::newRow("one block") << block("0", "a", block("0", "b", tip)) << "tip";
+        QTest::newRow("two levels, beside an empty block")
+            << block("0", "a", block("0", "b", tip) + block("1", "c", tip)) + block("1", "d", {})
+            << "b/tip,c/tip";
+        QTest::newRow("parts only")
+            << block("0", "a b", tip) + block("1", "a c", tip) << "a b/tip,a c/tip";
+        QTest::newRow("one in the other")
+            << block("0", "a", tip + block("1", "tip", tip)) << "tip,tip/tip";
+    }
+
+    void sharedNamesOfBlocks()
+    {
+        QFETCH(QByteArray, blocks);
+        QFETCH(QString, zones);
+        m_folder->write("p.vtp", polyData());
+        const QString path = m_folder->write("t.vtm", xml("vtkMultiBlockDataSet", ">" + blocks));
+        const ReadResult result = read({path});
+        QVERIFY2(result.data, qPrintable(result.error));
+        QCOMPARE(zoneNames(*result.data).join(','), zones);
+        const ReadResult two = read({path, m_folder->path("p.vtp")});
+        QVERIFY2(two.data, qPrintable(two.error));
+        QCOMPARE(zoneNames(*two.data).join(','), "t/" + zones.replace(",", ",t/") + ",p");
+    }
+
     void namesOfBlocks()
     {
         m_folder->write("p.vtp", polyData());

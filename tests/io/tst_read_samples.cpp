@@ -42,9 +42,8 @@ private Q_SLOTS:
             << QVector<int> {8, 12, 12}
             << "X,Y,Z,Density,Momentum X,Momentum Y,Momentum Z,StagnationEnergy,Function0,Function1"
             << QVector<int> {5, 6, 7} << false;
-        QTest::newRow("Plot3D by its index")
-            << QStringList {"combustor_plot3d/multi.p3d"} << 2 << 0 << "Block 2"
-            << QVector<int> {8, 12, 12}
+        QTest::newRow("Plot3D by the index in its folder")
+            << QStringList {"combustor_plot3d"} << 2 << 0 << "Block 2" << QVector<int> {8, 12, 12}
             << "X,Y,Z,Density,Momentum X,Momentum Y,Momentum Z,StagnationEnergy,Function0,Function1"
             << QVector<int> {5, 6, 7} << false;
         QTest::newRow("EnSight") << QStringList {"naca_transient/naca.bin.case"} << 6 << 3
@@ -57,10 +56,12 @@ private Q_SLOTS:
         QTest::newRow("OpenFOAM by its controlDict")
             << QStringList {"cavity_transient/system/controlDict"} << 24 << 4 << "internalMesh"
             << QVector<int> {0, 0, 0} << "X,Y,Z,U X,U Y,U Z,p" << QVector<int> {4, 5, 6} << false;
+        QTest::newRow("OpenFOAM by its folder")
+            << QStringList {"cavity_transient"} << 24 << 4 << "internalMesh"
+            << QVector<int> {0, 0, 0} << "X,Y,Z,U X,U Y,U Z,p" << QVector<int> {4, 5, 6} << false;
         QTest::newRow("Exodus") << QStringList {"exodus_biplane/biplane_rms_pressure_bs.exo"} << 59
-                                << 0 << "Element Blocks/Unnamed block ID: 2"
-                                << QVector<int> {0, 0, 0} << "X,Y,Z,ObjectId,PressureRMS"
-                                << QVector<int> {0, 0, 0} << false;
+                                << 0 << "Unnamed block ID: 2" << QVector<int> {0, 0, 0}
+                                << "X,Y,Z,ObjectId,PressureRMS" << QVector<int> {0, 0, 0} << false;
         QTest::newRow("collection of five times")
             << QStringList {"two_spheres/dualSphereAnimation4.pvd"} << 10 << 2 << "Piece 1"
             << QVector<int> {0, 0, 0}

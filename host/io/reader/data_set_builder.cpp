@@ -77,19 +77,20 @@ DataSetIndex DataSetBuilder::build(const std::vector<std::unique_ptr<DataFile>>&
     return std::move(m_index);
 }
 
-void DataSetBuilder::readFile(DataFile& file, const std::string& prefix)
+void DataSetBuilder::readFile(DataFile& file, const std::string& fileName)
 {
     const std::size_t firstBlock = m_blocks.size();
     m_blockOfKey.clear();
     const std::vector<double> times = file.times();
     for (const std::size_t timeIndex : timesInOrder(file, times))
-        readTime(file, times, timeIndex, prefix);
+        readTime(file, times, timeIndex);
     const bool hasZones =
         std::any_of(m_blocks.begin() + static_cast<std::ptrdiff_t>(firstBlock), m_blocks.end(),
                     [](const Block& block) { return !block.zones.empty(); });
     if (!hasZones)
         throw ReadFailure(file.path(),
                           QT_TRANSLATE_NOOP("ReadMessage", "there are no zones with points in it"));
+    nameZones(firstBlock, fileName);
     const std::vector<ReadMessage> notes = file.notes();
     m_index.notes.insert(m_index.notes.end(), notes.begin(), notes.end());
     if (!m_index.plot3d)
@@ -127,16 +128,8 @@ static ReadMessage progressText(const DataFile& file, std::size_t timeIndex, std
                        {name, QString::number(timeIndex + 1), QString::number(timeCount)});
 }
 
-static std::string joined(const std::vector<std::string>& names)
-{
-    std::string result;
-    for (const std::string& name : names)
-        result += (result.empty() ? "" : "/") + name;
-    return result;
-}
-
 void DataSetBuilder::readTime(DataFile& file, const std::vector<double>& times,
-                              std::size_t timeIndex, const std::string& prefix)
+                              std::size_t timeIndex)
 {
     const auto timeCount = static_cast<double>(std::max<std::size_t>(times.size(), 1));
     const ReadMessage what = progressText(file, timeIndex, times.size());
@@ -152,7 +145,7 @@ void DataSetBuilder::readTime(DataFile& file, const std::vector<double>& times,
     throwPendingError(file);
     noteWarnings(file);
 
-    std::map<std::string, int> uses;
+    std::map<std::vector<std::string>, int> uses;
     const std::vector<LeafBlock> leaves = leafBlocks(root);
     for (std::size_t i = 0; i < leaves.size(); ++i) {
         const LeafBlock& leaf = leaves[i];
@@ -161,24 +154,44 @@ void DataSetBuilder::readTime(DataFile& file, const std::vector<double>& times,
                    / static_cast<double>(leaves.size()));
         if (leaf.data)
             requireUsable(file, *leaf.data);
-        const std::string path = joined(leaf.names);
-        Block& block = blockAt({path, uses[path]++}, prefix, times.size() > 1);
+        Block& block = blockAt(leaf.names, uses[leaf.names]++, times.size() > 1);
         addLeaf(block, leaf.data, times.empty() ? 0.0 : times[timeIndex]);
     }
 }
 
-DataSetBuilder::Block& DataSetBuilder::blockAt(const BlockKey& key, const std::string& prefix,
+DataSetBuilder::Block& DataSetBuilder::blockAt(const std::vector<std::string>& names, int use,
                                                bool isTransient)
 {
-    const auto [place, isNew] = m_blockOfKey.try_emplace(key, m_blocks.size());
-    if (isNew) {
-        const std::string& path = key.first;
-        const std::string name = path.empty() ? prefix
-            : m_fileCount > 1                 ? prefix + '/' + path
-                                              : path;
-        m_blocks.push_back({name, isTransient, {}});
-    }
+    const auto [place, isNew] = m_blockOfKey.try_emplace({names, use}, m_blocks.size());
+    if (isNew)
+        m_blocks.push_back({names, isTransient, {}});
     return m_blocks[place->second];
+}
+
+/// Blocks are named by what tells them from each other: the parts of their paths from the first one
+/// that differs, but always the last one.
+void DataSetBuilder::nameZones(std::size_t firstBlock, const std::string& fileName)
+{
+    const auto first = m_blocks.begin() + static_cast<std::ptrdiff_t>(firstBlock);
+    const std::vector<std::string>* some = nullptr;
+    std::ptrdiff_t shared = 0;
+    for (auto block = first; block != m_blocks.end(); ++block) {
+        const std::vector<std::string>& names = block->names;
+        if (block->zones.empty() || names.empty())
+            continue;
+        const std::ptrdiff_t most = static_cast<std::ptrdiff_t>(names.size()) - 1;
+        shared = some ? std::min(shared, most) : most;
+        some = some ? some : &names;
+        shared = std::mismatch(names.begin(), names.begin() + shared, some->begin()).first
+            - names.begin();
+    }
+    for (auto block = first; block != m_blocks.end(); ++block) {
+        std::string name = block->names.empty() || m_fileCount > 1 ? fileName : std::string();
+        for (std::size_t i = static_cast<std::size_t>(shared); i < block->names.size(); ++i)
+            name += (name.empty() ? "" : "/") + block->names[i];
+        for (ZoneInfo& zone : block->zones)
+            zone.name = name;
+    }
 }
 
 void DataSetBuilder::requireUsable(const DataFile& file, vtkDataSet& data) const
@@ -199,7 +212,6 @@ void DataSetBuilder::addLeaf(Block& block, vtkDataSet* data, double time)
         return;
     const vtkSmartPointer<vtkDataSet> zone = cleanZone(*data, m_droppedArrays);
     ZoneInfo info = zoneInfo(*zone);
-    info.name = block.name;
     info.time = time;
     m_variables.add(*zone);
     m_bounds.AddBounds(zone->GetBounds());

@@ -36,18 +36,19 @@ private:
     /// A leaf block of a file, at all its times.
     struct Block
     {
-        std::string name;
+        std::vector<std::string> names; ///< from the root of its file down
         bool isTransient;
         std::vector<ZoneInfo> zones; ///< in the order of the times
     };
-    using BlockKey = std::pair<std::string, int>; ///< path of names, and which of that path
+    /// The names of a block, and which of the blocks of these names it is.
+    using BlockKey = std::pair<std::vector<std::string>, int>;
 
-    void readFile(DataFile& file, const std::string& prefix);
-    void readTime(DataFile& file, const std::vector<double>& times, std::size_t timeIndex,
-                  const std::string& prefix);
+    void readFile(DataFile& file, const std::string& fileName);
+    void readTime(DataFile& file, const std::vector<double>& times, std::size_t timeIndex);
     void requireUsable(const DataFile& file, vtkDataSet& data) const;
-    Block& blockAt(const BlockKey& key, const std::string& prefix, bool isTransient);
+    Block& blockAt(const std::vector<std::string>& names, int use, bool isTransient);
     void addLeaf(Block& block, vtkDataSet* data, double time);
+    void nameZones(std::size_t firstBlock, const std::string& fileName);
     std::vector<std::size_t> timesInOrder(const DataFile& file, const std::vector<double>& times);
     void noteWarnings(const DataFile& file);
     void noteOmissions();

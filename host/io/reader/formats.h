@@ -38,7 +38,4 @@ std::unique_ptr<DataFile> openFoam(const QString& path);
 /// is allowed, is not empty.
 void requireReadable(const QString& path, bool mayBeEmpty = false);
 
-/// The first bytes of a readable file.
-QByteArray firstBytes(const QString& path, qint64 count);
-
 } // namespace corvala::host::io::reader

@@ -8,10 +8,15 @@
 #include <QFileInfo>
 
 #include <vtkCGNSReader.h>
+#include <vtkCompositeDataSet.h>
 #include <vtkDummyController.h>
 #include <vtkExodusIIReader.h>
+#include <vtkInformation.h>
+#include <vtkMultiBlockDataSet.h>
 #include <vtkNew.h>
 #include <vtkPOpenFOAMReader.h>
+
+#include <cstring>
 
 namespace corvala::host::io::reader {
 
@@ -41,6 +46,44 @@ static void requireWhole(const QString& path)
             {QString::number(actual), QString::number(*size)});
 }
 
+/// VTK puts blocks and sets into groups by kind. Element blocks, which are what the file is about,
+/// come without their group.
+class ExodusFile : public AlgorithmFile
+{
+public:
+    using AlgorithmFile::AlgorithmFile;
+
+    vtkSmartPointer<vtkDataObject> read(std::size_t timeIndex,
+                                        const ProgressCall& progress) override
+    {
+        const vtkSmartPointer<vtkDataObject> tree = AlgorithmFile::read(timeIndex, progress);
+        auto* const groups = vtkMultiBlockDataSet::SafeDownCast(tree);
+        if (!groups)
+            return tree;
+        auto result = vtkSmartPointer<vtkMultiBlockDataSet>::New();
+        for (unsigned int i = 0; i < groups->GetNumberOfBlocks(); ++i) {
+            auto* const group = vtkMultiBlockDataSet::SafeDownCast(groups->GetBlock(i));
+            const char* const name = groups->GetMetaData(i)->Get(vtkCompositeDataSet::NAME());
+            if (group && name && std::strcmp(name, "Element Blocks") == 0)
+                append(*group, 0, group->GetNumberOfBlocks(), *result);
+            else
+                append(*groups, i, i + 1, *result);
+        }
+        return result;
+    }
+
+private:
+    static void append(vtkMultiBlockDataSet& from, unsigned int first, unsigned int end,
+                       vtkMultiBlockDataSet& to)
+    {
+        for (unsigned int i = first; i < end; ++i) {
+            const unsigned int place = to.GetNumberOfBlocks();
+            to.SetBlock(place, from.GetBlock(i));
+            to.GetMetaData(place)->Copy(from.GetMetaData(i));
+        }
+    }
+};
+
 std::unique_ptr<DataFile> openExodus(const QString& path)
 {
     requireWhole(path);
@@ -56,7 +99,7 @@ std::unique_ptr<DataFile> openExodus(const QString& path)
         reader->SetAllArrayStatus(kind, 1);
     }
     reader->SetAllArrayStatus(vtkExodusIIReader::NODAL, 1);
-    return std::make_unique<AlgorithmFile>(path, reader);
+    return std::make_unique<ExodusFile>(path, reader);
 }
 
 /// The folder of a case, which holds the folders "constant" and "system".

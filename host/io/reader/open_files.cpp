@@ -2,6 +2,7 @@
 #include "host/io/reader/open_files.h"
 
 #include "host/io/reader/channel.h"
+#include "host/io/reader/file_format.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/plot3d_format.h"
 #include "host/io/reader/read_failure.h"
@@ -13,25 +14,6 @@
 #include <cstring>
 
 namespace corvala::host::io::reader {
-
-enum class Format { Unknown, LegacyVtk, XmlVtk, Collection, Cgns, EnSight, Exodus, Foam, Plot3D };
-
-struct FormatEndings
-{
-    Format format;
-    const char* endings;
-};
-
-static constexpr FormatEndings kFormats[] = {
-    {Format::LegacyVtk, "vtk"},
-    {Format::XmlVtk, "vtm vtmb vtu vtp vts vtr vti pvtu pvtp pvts pvtr pvti"},
-    {Format::Collection, "pvd"},
-    {Format::Cgns, "cgns"},
-    {Format::EnSight, "case encas"},
-    {Format::Exodus, "exo e ex2 exii exoii g gen"},
-    {Format::Foam, "foam openfoam"},
-    {Format::Plot3D, "xyz x xy p3d grd g bin q f fun fmt"},
-};
 
 void requireReadable(const QString& path, bool mayBeEmpty)
 {
@@ -47,36 +29,6 @@ void requireReadable(const QString& path, bool mayBeEmpty)
         throw ReadFailure(path, "%1", {file.errorString()});
     if (info.size() == 0 && !mayBeEmpty)
         throw ReadFailure(path, QT_TRANSLATE_NOOP("ReadMessage", "it is empty"));
-}
-
-QByteArray firstBytes(const QString& path, qint64 count)
-{
-    QFile file(path);
-    file.open(QIODevice::ReadOnly);
-    return file.read(count);
-}
-
-/// Of the formats that share an ending, Exodus files are netCDF or HDF5 files.
-static bool mayBe(Format format, const QString& path)
-{
-    if (format != Format::Plot3D)
-        return true;
-    const QByteArray start = firstBytes(path, 4);
-    return !start.startsWith("CDF") && !start.startsWith("\x89HDF");
-}
-
-static Format formatOf(const QString& path)
-{
-    if (QFileInfo(path).fileName() == QLatin1String("controlDict"))
-        return Format::Foam;
-    const QString ending = QFileInfo(path).suffix();
-    Format result = Format::Unknown;
-    for (const FormatEndings& each : kFormats) {
-        const QStringList endings = QString::fromLatin1(each.endings).split(QLatin1Char(' '));
-        if (endings.contains(ending, Qt::CaseInsensitive) && mayBe(each.format, path))
-            result = each.format;
-    }
-    return result;
 }
 
 static QDir newHelperFolder(const QDir& folder, std::size_t number)
@@ -109,7 +61,8 @@ std::vector<std::unique_ptr<DataFile>> openFiles(const ReadRequest& request, con
 {
     std::vector<std::unique_ptr<DataFile>> result;
     QStringList plot3d;
-    for (const QString& path : request.files) {
+    for (const QString& named : request.files) {
+        const QString path = QFileInfo(named).isDir() ? mainFileIn(named) : named;
         channel.report(path, 0,
                        ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "Opening %1"),
                                    {QFileInfo(path).fileName()}));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/plot3d_files.h"
 
+#include "host/io/reader/file_format.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/read_failure.h"
 

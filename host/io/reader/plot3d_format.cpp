@@ -2,6 +2,7 @@
 #include "host/io/reader/plot3d_format.h"
 
 #include "host/io/reader/algorithm_file.h"
+#include "host/io/reader/file_format.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/plot3d_layout.h"
 #include "host/io/reader/read_failure.h"

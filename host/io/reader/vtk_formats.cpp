@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/algorithm_file.h"
+#include "host/io/reader/file_format.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/read_failure.h"
 

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/file_format.h"
+
+#include "host/io/reader/read_failure.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace corvala::host::io::reader {
+
+/// Which of the files in a folder stand for the others, first ones first.
+enum Rank { Case, Index, Part, RankCount };
+
+struct FormatEndings
+{
+    Format format;
+    Rank rank;
+    const char* endings;
+};
+
+static constexpr FormatEndings kFormats[] = {
+    {Format::LegacyVtk, Part, "vtk"},
+    {Format::XmlVtk, Part, "vtu vtp vts vtr vti"},
+    {Format::XmlVtk, Index, "vtm vtmb pvtu pvtp pvts pvtr pvti"},
+    {Format::Collection, Case, "pvd"},
+    {Format::Cgns, Part, "cgns"},
+    {Format::EnSight, Case, "case encas"},
+    {Format::Exodus, Part, "exo e ex2 exii exoii g gen"},
+    {Format::Foam, Case, "foam openfoam"},
+    {Format::Plot3D, Part, "xyz x xy grd g bin q f fun fmt"},
+    {Format::Plot3D, Index, "p3d"},
+};
+
+static constexpr FormatEndings kControlDict {Format::Foam, Case, ""};
+static constexpr char kControlDictPath[] = "system/controlDict";
+static constexpr int kMostNames = 5; ///< in a message
+
+QByteArray firstBytes(const QString& path, qint64 count)
+{
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    return file.read(count);
+}
+
+/// Of the formats that share an ending, Exodus files are netCDF or HDF5 files.
+static bool mayBe(Format format, const QString& path)
+{
+    if (format != Format::Plot3D)
+        return true;
+    const QByteArray start = firstBytes(path, 4);
+    return !start.startsWith("CDF") && !start.startsWith("\x89HDF");
+}
+
+/// Null for a file of no known format.
+static const FormatEndings* kindOf(const QString& path)
+{
+    if (QFileInfo(path).fileName() == QLatin1String("controlDict"))
+        return &kControlDict;
+    const QString ending = QFileInfo(path).suffix();
+    const FormatEndings* result = nullptr;
+    for (const FormatEndings& each : kFormats) {
+        const QStringList endings = QString::fromLatin1(each.endings).split(QLatin1Char(' '));
+        if (endings.contains(ending, Qt::CaseInsensitive) && mayBe(each.format, path))
+            result = &each;
+    }
+    return result;
+}
+
+Format formatOf(const QString& path)
+{
+    const FormatEndings* kind = kindOf(path);
+    return kind ? kind->format : Format::Unknown;
+}
+
+QString mainFileIn(const QString& folder)
+{
+    const QDir files(folder);
+    const bool isFoamCase = files.exists(QLatin1String(kControlDictPath));
+    QStringList found[RankCount];
+    if (isFoamCase)
+        found[Case] << QLatin1String(kControlDictPath);
+    for (const QString& name : files.entryList(QDir::Files, QDir::Name)) {
+        const FormatEndings* kind = kindOf(files.filePath(name));
+        if (kind && !(isFoamCase && kind->format == Format::Foam)) // markers of the same case
+            found[kind->rank] << name;
+    }
+    const auto* best = std::find_if(std::begin(found), std::end(found),
+                                    [](const QStringList& names) { return !names.isEmpty(); });
+    if (best == std::end(found))
+        throw ReadFailure(
+            folder, QT_TRANSLATE_NOOP("ReadMessage", "it is a folder that holds no data files"));
+    if (best->size() == 1)
+        return files.filePath(best->first());
+    QStringList names = best->mid(0, kMostNames);
+    if (best->size() > kMostNames)
+        names << QStringLiteral("...");
+    throw ReadFailure(
+        folder,
+        QT_TRANSLATE_NOOP("ReadMessage",
+                          "it is a folder that holds several data files; open some of them: %1"),
+        {names.join(QStringLiteral(", "))});
+}
+
+} // namespace corvala::host::io::reader
