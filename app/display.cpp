@@ -34,7 +34,7 @@ QString Display::preparePicture(const Options& options)
     const QByteArray platform = qgetenv(kPlatform);
     const bool canUseScreen = (platform.isEmpty() || platform == "xcb") && findXServer();
     if (!canUseScreen || !options.script.isEmpty() || !options.report.isEmpty()) {
-        const QString error = m_server.start();
+        const QString error = m_server.launch();
         if (error.isEmpty())
             qputenv("DISPLAY", m_server.display().toLatin1());
         else if (!canUseScreen)

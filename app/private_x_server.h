@@ -1,31 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
-
-#include <sys/types.h>
+#include <QProcess>
 
 namespace corvala::app {
 
 /// An X server without a screen (Xvfb) for this process alone; it ends with the object, and with
-/// the process however that ends. Needs no QApplication.
-class PrivateXServer
+/// the process however that ends, which xvfb-run would not do. Needs no QApplication.
+class PrivateXServer : private QProcess
 {
 public:
     PrivateXServer() = default;
-    ~PrivateXServer();
-    PrivateXServer(const PrivateXServer&) = delete;
-    PrivateXServer& operator=(const PrivateXServer&) = delete;
+    ~PrivateXServer() override;
 
     /// Starts the server and waits until it takes connections. Empty on success, else the reason,
     /// naming the package to install when the server is missing.
-    QString start();
+    QString launch();
 
-    /// Such as ":99"; empty before start.
+    /// Such as ":99"; empty before launch.
     QString display() const { return m_display; }
 
+protected:
+    void setupChildProcess() override;
+
 private:
-    pid_t m_process = 0;
     QString m_display;
 };
 
