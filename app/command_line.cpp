@@ -4,9 +4,10 @@
 #include "app/plot3d_layout.h"
 #include "samples/demo_data.h"
 
+#include <QCommandLineParser>
 #include <QCoreApplication>
 
-#include <algorithm>
+#include <utility>
 
 namespace corvala::app {
 
@@ -25,131 +26,123 @@ static QStringList demoNames()
     return names;
 }
 
-QString usageText()
+static QString otherDemoNames()
 {
-    return CommandLine::tr("Usage: corvala [OPTIONS] [FILES]\n"
-                           "Plots field data and lets you edit the style of its zones and lines.\n"
-                           "\n"
-                           "  FILES             data files, opened together\n"
-                           "  --demo [NAME]     embedded data: %1\n"
-                           "  --play SCRIPT     play a script, then end\n"
-                           "  --report FILE     write what the style dialog shows, then end\n"
-                           "  --render FILE     write a picture of the plot, then end\n"
-                           "  --plot3d LAYOUT   layout of Plot3D files, such as\n"
-                           "                    format=binary,grids=many,endian=big\n"
-                           "  --help            show this text\n"
-                           "  --version         show the version\n"
-                           "\n"
-                           "Data are opened first; then a script is played, a report written, a\n"
-                           "picture drawn. Exit codes: 0 success, 1 failure, 2 wrong usage.\n")
-        .arg(demoNames().join(QStringLiteral(", ")));
+    QStringList names = demoNames();
+    names.removeOne(QLatin1String(kUsualDemo));
+    return names.join(QStringLiteral(", "));
 }
 
-/// Goes through the arguments; an option's value stands behind it or behind "=".
-class ArgumentReader
+/// The name of the demonstration data may be missing.
+static QStringList withDemoNamed(QStringList arguments)
+{
+    const QString demo = QStringLiteral("--demo");
+    for (int i = 0; i < arguments.size() && arguments[i] != QLatin1String("--"); ++i) {
+        if (arguments[i] == demo && arguments.value(i + 1, demo).startsWith(QLatin1Char('-')))
+            arguments[i] += QLatin1Char('=') + QLatin1String(kUsualDemo);
+    }
+    return arguments;
+}
+
+/// The options of the program.
+class Parser : public QCommandLineParser
 {
 public:
-    ArgumentReader(const QStringList& arguments, Options& options)
-        : m_arguments(arguments)
-        , m_options(options)
-    {
-    }
+    Parser();
 
-    QString read()
-    {
-        while (m_next < m_arguments.size()) {
-            const QString error = readOne(m_arguments[m_next++]);
-            if (!error.isEmpty())
-                return error;
-        }
-        return m_options.demo.isEmpty() || m_options.files.isEmpty()
-            ? QString()
-            : CommandLine::tr("give either files or --demo");
-    }
+    /// Empty on success, else what is wrong.
+    QString read(const QStringList& arguments, Options& options);
 
 private:
-    QString readOne(const QString& argument)
-    {
-        if (m_onlyFiles || !argument.startsWith(QLatin1Char('-')) || argument.size() == 1) {
-            m_options.files << argument;
-            return {};
-        }
-        if (argument == QLatin1String("--")) {
-            m_onlyFiles = true;
-            return {};
-        }
-        const QString name = argument.section(QLatin1Char('='), 0, 0);
-        m_inlineValue =
-            argument.contains(QLatin1Char('=')) ? argument.section(QLatin1Char('='), 1) : QString();
-        return readOption(name);
-    }
+    using Option = QCommandLineOption;
 
-    QString readOption(const QString& name)
-    {
-        if (name == QLatin1String("--demo"))
-            return readDemo();
-        if (name == QLatin1String("--play"))
-            return readText(name, m_options.script);
-        if (name == QLatin1String("--report"))
-            return readText(name, m_options.report);
-        if (name == QLatin1String("--render"))
-            return readText(name, m_options.picture);
-        if (name == QLatin1String("--plot3d"))
-            return readPlot3D(name);
-        if (!m_inlineValue.isNull())
-            return CommandLine::tr("unknown option %1").arg(name);
-        if (name == QLatin1String("--help") || name == QLatin1String("-h"))
-            m_options.help = true;
-        else if (name == QLatin1String("--version"))
-            m_options.version = true;
-        else
-            return CommandLine::tr("unknown option %1").arg(name);
-        return {};
-    }
+    QString text(const Option& option, QString& value) const;
+    QString check(const Options& options) const;
 
-    QString readText(const QString& name, QString& value)
-    {
-        if (!value.isEmpty())
-            return CommandLine::tr("%1 is given twice").arg(name);
-        if (!m_inlineValue.isNull())
-            value = m_inlineValue;
-        else if (m_next < m_arguments.size() && !m_arguments[m_next].startsWith("--"))
-            value = m_arguments[m_next++];
-        return value.isEmpty() ? CommandLine::tr("%1 needs a value").arg(name) : QString();
-    }
-
-    /// The name may be missing: the next argument is one when it is no option.
-    QString readDemo()
-    {
-        const bool hasNext =
-            m_next < m_arguments.size() && !m_arguments[m_next].startsWith(QLatin1Char('-'));
-        QString name = m_inlineValue;
-        if (name.isNull())
-            name = hasNext ? m_arguments[m_next++] : QString::fromLatin1(kUsualDemo);
-        if (!demoNames().contains(name))
-            return CommandLine::tr("there is no embedded data \"%1\"; there are %2")
-                .arg(name, demoNames().join(QStringLiteral(", ")));
-        m_options.demo = name;
-        return {};
-    }
-
-    QString readPlot3D(const QString& name)
-    {
-        QString text;
-        const QString error = readText(name, text);
-        return error.isEmpty() ? parsePlot3DLayout(text, m_options.plot3d) : error;
-    }
-
-    const QStringList& m_arguments;
-    Options& m_options;
-    int m_next = 0;
-    bool m_onlyFiles = false;
-    QString m_inlineValue; ///< null without "="
+    const Option m_help = addHelpOption();
+    const Option m_version = addVersionOption();
+    const Option m_demo {QStringLiteral("demo"),
+                         CommandLine::tr("Open embedded data: %1 (when no name is given), %2.")
+                             .arg(QLatin1String(kUsualDemo), otherDemoNames()),
+                         CommandLine::tr("name")};
+    const Option m_play {QStringLiteral("play"), CommandLine::tr("Play a script, then end."),
+                         CommandLine::tr("script")};
+    const Option m_report {QStringLiteral("report"),
+                           CommandLine::tr("Write what the style dialog shows, then end."),
+                           CommandLine::tr("file")};
+    const Option m_render {QStringLiteral("render"),
+                           CommandLine::tr("Write a picture of the plot, then end."),
+                           CommandLine::tr("file")};
+    const Option m_plot3d {QStringLiteral("plot3d"),
+                           CommandLine::tr("Layout of Plot3D files, such as "
+                                           "format=binary,grids=many,endian=big."),
+                           CommandLine::tr("layout")};
 };
+
+Parser::Parser()
+{
+    setSingleDashWordOptionMode(ParseAsLongOptions);
+    setApplicationDescription(
+        CommandLine::tr("Plots field data and lets you edit the style of its zones and lines.\n"
+                        "Data are opened first; then a script is played, a report written, a "
+                        "picture drawn.\n"
+                        "Exit codes: 0 success, 1 failure, 2 wrong usage."));
+    addOptions({m_demo, m_play, m_report, m_render, m_plot3d});
+    addPositionalArgument(QStringLiteral("files"),
+                          CommandLine::tr("Data files, opened together, or the folder of a case."),
+                          QStringLiteral("[files...]"));
+}
+
+QString Parser::text(const Option& option, QString& value) const
+{
+    const QString name = QStringLiteral("--") + option.names().constFirst();
+    if (values(option).size() > 1)
+        return CommandLine::tr("%1 is given twice").arg(name);
+    value = this->value(option);
+    const bool isMissing = value.isEmpty() || value.startsWith(QLatin1String("--"));
+    return isSet(option) && isMissing ? CommandLine::tr("%1 needs a value").arg(name) : QString();
+}
+
+QString Parser::check(const Options& options) const
+{
+    if (!options.demo.isEmpty() && !demoNames().contains(options.demo))
+        return CommandLine::tr("there is no embedded data \"%1\"; there are %2")
+            .arg(options.demo, demoNames().join(QStringLiteral(", ")));
+    return options.demo.isEmpty() || options.files.isEmpty()
+        ? QString()
+        : CommandLine::tr("give either files or --demo");
+}
+
+QString Parser::read(const QStringList& arguments, Options& options)
+{
+    if (!parse(QStringList(QStringLiteral("corvala")) + withDemoNamed(arguments)))
+        return errorText();
+    QString layout;
+    const std::pair<const Option&, QString&> texts[] = {{m_demo, options.demo},
+                                                        {m_play, options.script},
+                                                        {m_report, options.report},
+                                                        {m_render, options.picture},
+                                                        {m_plot3d, layout}};
+    for (const auto& [option, value] : texts) {
+        const QString error = text(option, value);
+        if (!error.isEmpty())
+            return error;
+    }
+    options.files = positionalArguments();
+    options.help = isSet(m_help);
+    options.version = isSet(m_version);
+    const QString error = parsePlot3DLayout(layout, options.plot3d);
+    return error.isEmpty() ? check(options) : error;
+}
 
 QString parseCommandLine(const QStringList& arguments, Options& options)
 {
-    return ArgumentReader(arguments, options).read();
+    return Parser().read(arguments, options);
+}
+
+QString usageText()
+{
+    return Parser().helpText();
 }
 
 } // namespace corvala::app

@@ -27,6 +27,7 @@ struct Options
 /// Reads the arguments, without the name of the program. Empty on success, else what is wrong.
 QString parseCommandLine(const QStringList& arguments, Options& options);
 
+/// Needs a QCoreApplication.
 QString usageText();
 
 } // namespace corvala::app

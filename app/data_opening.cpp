@@ -82,15 +82,13 @@ void DataOpener::start(const ReadRequest& request)
 
 void DataOpener::take(const ReadResult& result)
 {
-    Q_EMIT ended();
-    if (result.cancelled) {
-        Q_EMIT cancelled();
-    } else if (!result.data) {
-        Q_EMIT failed(result.error);
-    } else {
+    if (result.data) {
         attach(result);
         Q_EMIT opened(result);
+    } else if (!result.cancelled) {
+        Q_EMIT failed(result.error);
     }
+    Q_EMIT ended(result.data != nullptr);
 }
 
 } // namespace corvala::app

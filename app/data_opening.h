@@ -40,10 +40,10 @@ Q_SIGNALS:
     void started();
     /// `percent` is 0 to 100, or -1 when unknown.
     void progress(int percent, const QString& what);
-    void ended();
-    void cancelled();
+    /// The result of a reading that was not cancelled; `ended` follows.
     void opened(const corvala::host::io::ReadResult& result);
     void failed(const QString& error);
+    void ended(bool opened);
 
 private:
     void take(const host::io::ReadResult& result);

@@ -76,8 +76,9 @@ void LayerBar::addLayers()
         QAction* action = addAction(tr(layer.text));
         action->setCheckable(true);
         action->setObjectName(QLatin1String(layer.name));
-        connect(action, &QAction::triggered, this, [&layer](bool on) {
+        connect(action, &QAction::triggered, this, [this, &layer, action](bool on) {
             write({layer.group, layer.name}, on);
+            Q_EMIT layerSwitched(action);
         });
         m_layers << action;
     }

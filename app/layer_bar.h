@@ -21,6 +21,10 @@ public:
 
     const QList<QAction*>& layerActions() const { return m_layers; }
 
+Q_SIGNALS:
+    /// The user switched a layer on or off, which is done.
+    void layerSwitched(QAction* layer);
+
 private:
     void addPlotTypes();
     void addLayers();

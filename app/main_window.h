@@ -1,23 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/data_opening.h"
 #include "app/document_observer.h"
+#include "host/io/read_request.h"
 #include "sdk/base/types.h"
 #include "sdk/dialogs_common/dialog_initialization.h"
 
 #include <QImage>
 #include <QMainWindow>
+#include <QTimer>
 
-#include <functional>
-
-class QAction;
 class QLabel;
-class QMenu;
 
 namespace corvala::app {
 
+class DataCommands;
 class LayerBar;
+class LayerNotes;
+class MainMenus;
 class NoticeBar;
 class PlotArea;
 class TimeBar;
@@ -32,16 +32,13 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// Reads the files into the active frame while the window goes on. Ignored while a reading
-    /// runs; the commands that lead here are disabled then.
+    /// Reads the files, or the data in a folder, into the active frame while the window goes on.
+    /// Ignored while a reading runs; the commands that lead here are disabled then.
     void openFiles(const QStringList& files, const host::io::Plot3DLayout& plot3d = {});
     void openDemo(const QString& name);
     void openStyleDialog(corvala::dialogs::common::DialogInitialization_e initialization);
     /// Opens the style dialog beside the plot, as at the start of the program.
     void openStyleDialogBeside();
-
-    /// Who tells the user what went wrong; an empty handler is the message box of the window.
-    void setProblemHandler(std::function<void(const QString& text)> handler);
 
     /// The plot as it is on the screen. Null, with the reason in `error`, when it cannot be drawn.
     QImage canvasImage(QString* error);
@@ -50,51 +47,36 @@ Q_SIGNALS:
     /// Files that openFiles was asked for are opened, or could not be, or the user cancelled.
     void openingEnded(bool opened);
 
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
 private:
-    void makeFileMenu();
-    void addSampleMenu(QMenu& menu);
-    void addDemoMenu(QMenu& menu);
-    void fillRecentMenu(QMenu& menu);
-    void makeEditMenu();
-    void makePlotMenu();
-    void makeHelpMenu();
-    void makeToolBars();
     void makeCentre();
+    void makeBars();
     void connectOpener();
-    void setReading(bool isReading);
     void connectCanvas();
 
     void refresh();
-    void refreshUndo();
+    void begin(const QString& work);
+    void awaitPicture();
+    void cancelWork();
 
-    void chooseFiles();
-    void choosePlot3DFiles();
-    void changePlot3DLayout(const host::io::ReadRequest& request,
-                            const host::io::Plot3DLayout& detected);
-    void tellOpened(const host::io::ReadResult& result);
-    void savePicture();
-    void pickZone(CvlInt64 zone, bool activate);
-    void pickLineMap(CvlInt64 lineMap, bool activate);
     void pick(int type, CvlInt64 number, bool activate);
     void showProblem(const QString& text);
 
-    DataOpener m_opener;
     DocumentObserver m_observer;
-    std::function<void(const QString&)> m_problemHandler;
+    QTimer m_picture; ///< runs until the picture is complete
     // Owned by Qt.
     PlotArea* m_plotArea = nullptr;
     NoticeBar* m_notice = nullptr;
+    LayerNotes* m_layerNotes = nullptr;
     LayerBar* m_layerBar = nullptr;
     TimeBar* m_timeBar = nullptr;
-    WorkProgress* m_reading = nullptr;
-    WorkProgress* m_drawing = nullptr;
+    DataCommands* m_data = nullptr;
+    MainMenus* m_menus = nullptr;
+    WorkProgress* m_work = nullptr; ///< of reading and drawing
     QLabel* m_summary = nullptr;
-    QList<QAction*> m_openCommands; ///< the first one is in the toolbar too
-    QAction* m_undo = nullptr;
-    QAction* m_redo = nullptr;
-    QAction* m_fitView = nullptr;
-    QAction* m_savePicture = nullptr;
-    QAction* m_styleDialog = nullptr;
 };
 
 } // namespace corvala::app

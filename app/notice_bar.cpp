@@ -28,20 +28,21 @@ NoticeBar::NoticeBar(QWidget* parent)
     layout->addWidget(close);
     connect(close, &QToolButton::clicked, this, &QWidget::hide);
     connect(m_button, &QPushButton::clicked, this, [this] {
-        if (m_command)
-            m_command();
+        if (const auto command = m_command) // which may tell something else
+            command();
     });
     hide();
 }
 
-void NoticeBar::tell(const QString& text, const QString& caption,
-                     const std::function<void()>& command)
+int NoticeBar::tell(const QString& text, const QString& caption,
+                    const std::function<void()>& command)
 {
     m_text->setText(text);
     m_button->setText(caption);
     m_button->setVisible(!caption.isEmpty());
     m_command = command;
     setVisible(!text.isEmpty());
+    return ++m_note;
 }
 
 } // namespace corvala::app

@@ -18,14 +18,18 @@ class NoticeBar : public QFrame
 public:
     explicit NoticeBar(QWidget* parent = nullptr);
 
-    /// Shows the text, and a button when it has a caption; an empty text hides the bar.
-    void tell(const QString& text, const QString& caption = {},
-              const std::function<void()>& command = {});
+    /// Shows the text, and a button when it has a caption; an empty text hides the bar. Returns the
+    /// number of the note.
+    int tell(const QString& text, const QString& caption = {},
+             const std::function<void()>& command = {});
+    /// The note with this number is the last one, and the user has not closed it.
+    bool isShown(int note) const { return note == m_note && !isHidden(); }
 
 private:
     QLabel* m_text; // not owned
     QPushButton* m_button; // not owned
     std::function<void()> m_command;
+    int m_note = 0;
 };
 
 } // namespace corvala::app

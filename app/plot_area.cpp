@@ -2,9 +2,11 @@
 #include "app/plot_area.h"
 
 #include "host/document/document.h"
+#include "play/picture_file.h"
 #include "plot/frame_view.h"
 #include "plot/render.h"
 
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -42,6 +44,19 @@ QImage PlotArea::image(QString* error)
     *error = tr("the plot is drawn on an X screen only (QT_QPA_PLATFORM=xcb, for example under "
                 "xvfb-run)");
     return {};
+}
+
+QString PlotArea::savePicture()
+{
+    QFileDialog dialog(this, tr("Save Picture"), {}, tr("Pictures (*.png *.jpg *.bmp)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("png"));
+    dialog.selectFile(QStringLiteral("plot.png"));
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    QString error;
+    const QImage picture = image(&error);
+    return picture.isNull() ? error : play::writePicture(picture, dialog.selectedFiles().value(0));
 }
 
 } // namespace corvala::app

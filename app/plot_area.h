@@ -25,6 +25,9 @@ public:
     /// The plot as it is on the screen. Null, with the reason in `error`, when it cannot be drawn.
     QImage image(QString* error);
 
+    /// Asks for a file and writes the plot to it; empty, or what went wrong.
+    QString savePicture();
+
     QSize sizeHint() const override { return {900, 700}; }
 
 private:

@@ -110,26 +110,17 @@ static int runBatch(MainWindow& window, const Options& options)
     return error.isEmpty() ? Success : fail(named(error));
 }
 
-/// Data named on the command line that cannot be read end the program.
-static void openFirstFiles(MainWindow& window, const Options& options)
-{
-    window.setProblemHandler(
-        [](const QString& problem) { QApplication::exit(fail(named(problem))); });
-    auto* first = new QObject(&window);
-    QObject::connect(&window, &MainWindow::openingEnded, first, [&window, first](bool opened) {
-        first->deleteLater();
-        window.setProblemHandler({});
-        if (opened)
-            window.openStyleDialogBeside();
-    });
-    window.openFiles(options.files, options.plot3d);
-}
-
-static void startInteractive(MainWindow& window, const Options& options)
+void startInteractive(MainWindow& window, const Options& options)
 {
     window.show();
     if (!options.files.isEmpty()) {
-        openFirstFiles(window, options);
+        auto* first = new QObject(&window);
+        QObject::connect(&window, &MainWindow::openingEnded, first, [&window, first](bool opened) {
+            first->deleteLater();
+            if (opened)
+                window.openStyleDialogBeside();
+        });
+        window.openFiles(options.files, options.plot3d);
     } else if (!options.demo.isEmpty()) {
         window.openDemo(options.demo);
         window.openStyleDialogBeside();
@@ -189,6 +180,7 @@ int runProgram(int argc, char** argv)
         return WrongUsage;
     }
     if (options.help || options.version) {
+        const QCoreApplication application(argc, argv);
         std::fputs(options.help ? qUtf8Printable(usageText()) : "corvala " CORVALA_VERSION "\n",
                    stdout);
         return Success;

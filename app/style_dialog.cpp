@@ -54,7 +54,7 @@ void placeSideBySide(QWidget& mainWindow, QWidget& dialog)
 QAction* makeStyleDialogAction(QWidget& mainWindow)
 {
     auto* action = new LaunchDialogAction(
-        QCoreApplication::translate("corvala::app::MainWindow", "&Zone Style..."),
+        QCoreApplication::translate("corvala::app::MainMenus", "&Zone Style..."),
         ZoneStyleDialog::relevance(),
         [&mainWindow]() -> DialogInterface& {
             return ZoneStyleDialog::getInstance(mainWindow, DialogInitialization_None);

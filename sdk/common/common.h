@@ -30,6 +30,10 @@ toolbox::Set getActiveZones();
 /// An ordered zone with I, J and K above 1, or one with volume cells.
 bool isVolumeZone(CvlInt64 zone);
 
+/// The field map draws some of its surfaces; with `orPoints` also when it draws points that do not
+/// come from a surface.
+bool drawsSurfaces(CvlInt64 map, bool orPoints);
+
 /// `layer` is "Mesh", "Contour", "Vector", "Scatter", "EdgeLayer" or "Shade". A layer that is on
 /// answers true at once. Else the user is asked whether to switch it on; on yes the chooser, if
 /// any, is run with the plot type, and if it agrees the layer is switched on: true.

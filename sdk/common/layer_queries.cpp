@@ -2,6 +2,7 @@
 #include "sdk/common/common.h"
 
 #include "host/document/document.h"
+#include "host/document/layer_facts.h"
 #include "sdk/common/frame_writes.h"
 #include "sdk/common/yes_no_question.h"
 
@@ -79,11 +80,7 @@ bool queryToEnableSurfacePlotLayer(const std::string& layer)
             .arg(text(name->shown)));
     if (!wanted)
         return false;
-    host::StyleWrite request;
-    request.path = {"FieldMap", "Surfaces", "SurfacesToPlot"};
-    request.objects = &active;
-    request.value = double(SurfacesToPlot_BoundaryCellFaces);
-    return Document::instance().write(request) <= StyleWrite_Unchanged;
+    return host::drawBoundaryFaces(active) <= StyleWrite_Unchanged;
 }
 
 } // namespace corvala::sdk

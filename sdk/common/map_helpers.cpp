@@ -2,6 +2,7 @@
 #include "sdk/common/common.h"
 
 #include "host/document/document.h"
+#include "host/document/layer_facts.h"
 #include "sdk/base/read_count.h"
 #include "sdk/base/set_record.h"
 #include "sdk/common/frame_writes.h"
@@ -76,6 +77,13 @@ bool isVolumeZone(CvlInt64 zone)
     host_access::countRead();
     const Frame* const frame = frameWithData();
     return frame && frame->data()->hasZone(zone) && frame->data()->zone(zone).isVolume();
+}
+
+bool drawsSurfaces(CvlInt64 map, bool orPoints)
+{
+    host_access::countRead();
+    const Frame* const frame = frameWithData();
+    return frame && frame->fieldMaps().has(map) && host::drawsSurfaces(*frame, map, orPoints);
 }
 
 bool checkRGBChannelVars(const toolbox::StyleValue& globalRGB)

@@ -18,7 +18,6 @@ private Q_SLOTS:
     void readsPlot3DLayouts();
     void refusesPlot3DLayouts_data();
     void refusesPlot3DLayouts();
-    void usageNamesEveryOption();
 };
 
 static QString summary(const Options& options)
@@ -88,9 +87,9 @@ void tst_CommandLine::refuses_data()
     QTest::addColumn<QString>("named");
 
     QTest::newRow("unknown option") << "--fast"
-                                    << "--fast";
+                                    << "'fast'";
     QTest::newRow("unknown option with value") << "--fast=1"
-                                               << "--fast";
+                                               << "'fast'";
     QTest::newRow("flag with value") << "--help=1"
                                      << "--help";
     QTest::newRow("missing value at the end") << "--play"
@@ -153,13 +152,6 @@ void tst_CommandLine::refusesPlot3DLayouts()
     const QString error = parsePlot3DLayout(text, layout);
     QVERIFY2(error.contains(named), qPrintable(error));
     QVERIFY2(!layout.ascii, "a refused layout changes nothing");
-}
-
-void tst_CommandLine::usageNamesEveryOption()
-{
-    for (const char* option :
-         {"--demo", "--play", "--report", "--render", "--plot3d", "--help", "--version"})
-        QVERIFY2(usageText().contains(QLatin1String(option)), option);
 }
 
 QTEST_GUILESS_MAIN(tst_CommandLine)

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/command_line.h"
 #include "app/main_window.h"
+#include "app/program.h"
 #include "host/document/document.h"
 #include "play/dialog_driver.h"
 #include "play/idle.h"
@@ -10,9 +12,11 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QSet>
@@ -38,6 +42,7 @@ private Q_SLOTS:
     void showsTheDocument();
     void accessKeysAreUnique();
     void layersAndPlotTypeChangeTheDocument();
+    void layersThatShowNothingSayWhy();
     void undoIsNamedAndWorksByShortcut();
     void sliderGoesThroughTheTimes();
     void doubleClickOnAZoneOpensItsStyle();
@@ -53,9 +58,25 @@ private:
     int enabledOpenCommands() const
     {
         const QList<QAction*> commands =
-            m_window->menuBar()->actions().value(0)->menu()->actions().mid(0, 5);
+            m_window->menuBar()->actions().value(0)->menu()->actions().mid(0, 6);
         return int(std::count_if(commands.begin(), commands.end(),
                                  [](const QAction* command) { return command->isEnabled(); }));
+    }
+    /// The visible one; null when there is none.
+    QPushButton* button(const char* text) const
+    {
+        for (QPushButton* button : m_window->findChildren<QPushButton*>())
+            if (button->isVisible() && button->text() == QLatin1String(text))
+                return button;
+        return nullptr;
+    }
+    QString shownTexts() const
+    {
+        QStringList texts;
+        for (const QLabel* label : m_window->findChildren<QLabel*>())
+            if (label->isVisible())
+                texts << label->text();
+        return texts.join(QLatin1Char('|'));
     }
     QAction& layer(const char* name) { return *m_window->findChild<QAction*>(QLatin1String(name)); }
 
@@ -127,6 +148,59 @@ void tst_MainWindow::layersAndPlotTypeChangeTheDocument()
     play::pressKey(types, Qt::Key_Up);
     play::waitUntilIdle();
     QCOMPARE(frame().plotType(), PlotType_Field2D);
+}
+
+static void write(std::vector<std::string> path, const host::MapSet* maps, host::StyleInput value,
+                  int group = -1)
+{
+    host::StyleWrite request;
+    request.path = std::move(path);
+    request.objects = maps;
+    request.offset1 = group;
+    request.value = std::move(value);
+    QVERIFY(Document::instance().write(request) <= StyleWrite_Unchanged);
+}
+
+/// Each button mends what its note says, and then comes what else there is to say.
+void tst_MainWindow::layersThatShowNothingSayWhy()
+{
+    m_window->openDemo(QStringLiteral("field3d"));
+    play::waitUntilIdle();
+    host::MapSet flat;
+    for (const std::uint32_t map : frame().activeFieldMaps())
+        if (!frame().fieldMaps().hasVolumeZones(map))
+            flat.add(map);
+    QVERIFY(Document::instance().deleteFieldMaps(flat));
+    const host::MapSet maps = frame().activeFieldMaps();
+    for (int group = 1; group <= 8; ++group)
+        write({"ContourGroups", "Var"}, nullptr, 0.0, group);
+    write({"FieldMap", "Contour", "Show"}, &maps, false);
+    write({"ActiveFieldMaps"}, nullptr, host::MapSet());
+    layer("ShowContour").trigger();
+    for (const auto& [text, caption] : {std::pair("No zone is active", "Activate All Zones"),
+                                        std::pair("no active zone shows it", "Show in All Zones"),
+                                        std::pair("No zone draws its surfaces", "Draw Surfaces"),
+                                        std::pair("No variable is chosen", "Choose Variables")}) {
+        QVERIFY2(shownTexts().contains(QLatin1String(text)), qPrintable(shownTexts()));
+        QVERIFY2(button(caption), caption);
+        button(caption)->click();
+        play::waitUntilIdle();
+        QVERIFY2(!button(caption), caption);
+    }
+    QCOMPARE(frame().activeFieldMaps(), maps);
+    QVERIFY(!shownTexts().contains(QLatin1String("layer")));
+
+    // A note goes when it is true no longer.
+    write({"FieldMap", "Mesh", "Show"}, &maps, false);
+    layer("ShowMesh").trigger();
+    QVERIFY(!button("Show in All Zones"));
+    layer("ShowMesh").trigger();
+    QVERIFY(button("Show in All Zones"));
+    Document::instance().undo().undo();
+    Document::instance().undo().undo();
+    Document::instance().undo().undo();
+    play::waitUntilIdle();
+    QVERIFY(!button("Show in All Zones"));
 }
 
 void tst_MainWindow::undoIsNamedAndWorksByShortcut()
@@ -214,9 +288,17 @@ void tst_MainWindow::commandsHaveTheirKeysInTheDialogToo()
 
 void tst_MainWindow::readsWhileTheWindowLives()
 {
+    m_window->openDemo(QStringLiteral("field2d"));
+    play::waitUntilIdle();
     QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
-    m_window->openFiles({sample("naca_transient/naca.bin.case")});
-    QVERIFY(!frame().hasData());
+    QMimeData dragged;
+    dragged.setUrls({QUrl::fromLocalFile(sample("naca_transient"))});
+    QWidget* canvas = m_window->childAt(m_window->rect().center());
+    QDragEnterEvent enter({}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(canvas, &enter);
+    QDropEvent drop({}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(canvas, &drop);
+    QVERIFY(ended.isEmpty());
     QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
     play::waitUntilIdle();
     QVERIFY(frame().hasData());
@@ -229,32 +311,32 @@ void tst_MainWindow::cancelsReading()
     QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
     m_window->openFiles({sample("naca_transient/naca.bin.case")});
     QCOMPARE(enabledOpenCommands(), 0);
-    QPushButton* cancel = nullptr;
-    for (QPushButton* button : m_window->findChildren<QPushButton*>()) {
-        if (button->isVisible() && button->text() == QLatin1String("Cancel"))
-            cancel = button;
-    }
+    QPushButton* cancel = button("Cancel");
     QVERIFY(cancel);
     cancel->click();
     QTRY_VERIFY(!cancel->isVisible());
     play::waitUntilIdle();
     QCOMPARE(ended.size(), 1);
     QCOMPARE(ended.first().first().toBool(), false);
-    QCOMPARE(enabledOpenCommands(), 5);
+    QCOMPARE(enabledOpenCommands(), 6);
     QCOMPARE(frame().fieldMapCount(), CvlInt64(8));
     QVERIFY(!QApplication::activeModalWidget());
 }
 
+/// Also of a file that was named when the program was started.
 void tst_MainWindow::failureLeavesTheDocument()
 {
     m_window->openDemo(QStringLiteral("kinds"));
     QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
-    m_window->openFiles({QStringLiteral("/nowhere/wing.cgns")});
+    Options options;
+    options.files << QStringLiteral("/nowhere/wing.cgns");
+    startInteractive(*m_window, options);
     QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     QVERIFY(box);
     QVERIFY2(box->text().contains(QLatin1String("wing.cgns")), qPrintable(box->text()));
     box->close();
+    QVERIFY(m_window->isVisible());
     QCOMPARE(frame().fieldMapCount(), CvlInt64(8));
 }
 
@@ -263,24 +345,15 @@ void tst_MainWindow::tellsWhatPlot3DWasDetected()
     QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
     m_window->openFiles({sample("combustor_plot3d/multi-bin.xyz")});
     QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
-    QStringList texts;
-    for (const QLabel* label : m_window->findChildren<QLabel*>()) {
-        if (label->isVisible())
-            texts << label->text();
-    }
-    const QString shown = texts.join(QLatin1Char('|'));
+    const QString shown = shownTexts();
     QVERIFY2(shown.contains(QLatin1String("Detected: binary, several grids")), qPrintable(shown));
 
     // Another file that fails in between does not take the place of these data.
     m_window->openFiles({QStringLiteral("/nowhere/wing.cgns")});
     QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 2, 60000);
     QApplication::activeModalWidget()->close();
-    QPushButton* change = nullptr;
-    for (QPushButton* button : m_window->findChildren<QPushButton*>()) {
-        if (button->text() == QLatin1String("Change..."))
-            change = button;
-    }
-    QVERIFY(change && change->isVisible() && change->isEnabled());
+    QPushButton* change = button("Change...");
+    QVERIFY(change && change->isEnabled());
     QTimer::singleShot(0, m_window.get(),
                        [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept(); });
     change->click();

@@ -43,7 +43,7 @@ void tst_Program::answersAtOnce_data()
     const QString none;
     QTest::newRow("help") << "--help" << none << 0 << "--render" << none;
     QTest::newRow("version") << "--version" << none << 0 << "corvala " << none;
-    QTest::newRow("unknown option") << "--hlep" << none << 2 << none << "--hlep";
+    QTest::newRow("unknown option") << "--hlep" << none << 2 << none << "'hlep'";
     QTest::newRow("unknown demo") << "--demo=none" << none << 2 << none << "\"none\"";
     QTest::newRow("no screen") << "--demo" << none << 1 << none << "no screen";
     QTest::newRow("no X server") << "--demo"

@@ -47,8 +47,6 @@ LayerCheck::LayerCheck(const StylePath& path)
     : m_layerQuery(showsLayer(path))
     , m_layer(m_layerQuery ? path[1] : "")
     , m_plotTypeChooser(plotTypeChooser(m_layer))
-    , m_surfacesToPlot("FieldMap", "Surfaces", "SurfacesToPlot")
-    , m_pointsToPlot("FieldMap", "Points", "PointsToPlot")
     , m_pointsMatter(isNamed(path[1], "Vector") || isNamed(path[1], "Scatter"))
 {
 }
@@ -80,19 +78,9 @@ LayerCheck::ActiveZones LayerCheck::examineActiveZones() const
         found.allVolume = isVolumeZone(zone);
         // Once one map draws surfaces the walk goes on for the volume test alone.
         if (found.allVolume && found.noSurfaces)
-            found.noSurfaces = !drawsSurfaces(CvlUtilZoneGetFieldMap(zone));
+            found.noSurfaces = !drawsSurfaces(CvlUtilZoneGetFieldMap(zone), m_pointsMatter);
     }
     return found;
-}
-
-/// Also true of points, where they matter, that do not come from a surface.
-bool LayerCheck::drawsSurfaces(CvlInt64 map) const
-{
-    if (m_surfacesToPlot.read<int>(map).value_or(0) != SurfacesToPlot_None)
-        return true;
-    const int points = m_pointsToPlot.read<int>(map).value_or(0);
-    return m_pointsMatter && points != PointsToPlot_SurfaceNodes
-        && points != PointsToPlot_SurfaceCellCenters;
 }
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

@@ -4,7 +4,6 @@
 #include "zonestyle/actions/style_path.h"
 
 #include <sdk/base/enums.h>
-#include <sdk/toolbox/style_value.h>
 
 #include <boost/function.hpp>
 
@@ -35,14 +34,11 @@ private:
     };
 
     ActiveZones examineActiveZones() const;
-    bool drawsSurfaces(CvlInt64 map) const;
 
     bool m_layerQuery;
     std::string m_layer; ///< empty unless m_layerQuery
     boost::function<bool(PlotType_e)> m_plotTypeChooser; ///< empty for layers without variables
-    toolbox::StyleValue m_surfacesToPlot;
-    toolbox::StyleValue m_pointsToPlot;
-    bool m_pointsMatter;
+    bool m_pointsMatter; ///< that come from no surface
 };
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/layer_notes.h"
+
+#include "app/notice_bar.h"
+#include "host/document/document.h"
+#include "host/document/layer_facts.h"
+#include "sdk/common/common.h"
+
+#include <QAction>
+
+namespace corvala::app {
+
+using host::Document;
+using host::Frame;
+using host::LayerFacts;
+using host::LayerGap;
+
+/// Category of the maps' values that belong to a layer; null for lighting, which has none.
+static const char* categoryOf(const QString& layer)
+{
+    static constexpr struct
+    {
+        const char* layer;
+        const char* category;
+    } kCategories[] = {{"ShowMesh", "Mesh"},
+                       {"ShowContour", "Contour"},
+                       {"ShowShade", "Shade"},
+                       {"ShowEdge", "EdgeLayer"},
+                       {"ShowLines", "Lines"}};
+    for (const auto& each : kCategories)
+        if (layer == QLatin1String(each.layer))
+            return each.category;
+    return nullptr;
+}
+
+static bool isLine(const char* category)
+{
+    return qstrcmp(category, "Lines") == 0;
+}
+
+/// Text, and caption of the button that mends it.
+struct Note
+{
+    QString text;
+    QString caption;
+};
+
+static Note noteOf(LayerGap gap, const QString& layer, bool ofLines)
+{
+    switch (gap) {
+    case LayerGap::NoActiveMaps:
+        return ofLines ? Note {LayerNotes::tr("No line map is active, so the layer \"%1\" shows "
+                                              "nothing.")
+                                   .arg(layer),
+                               LayerNotes::tr("Activate All Line Maps")}
+                       : Note {LayerNotes::tr("No zone is active, so the layer \"%1\" shows "
+                                              "nothing.")
+                                   .arg(layer),
+                               LayerNotes::tr("Activate All Zones")};
+    case LayerGap::NotShown:
+        return ofLines
+            ? Note {LayerNotes::tr("The layer \"%1\" is on, but no active line map "
+                                   "shows it.")
+                        .arg(layer),
+                    LayerNotes::tr("Show in All Line Maps")}
+            : Note {
+                LayerNotes::tr("The layer \"%1\" is on, but no active zone shows it.").arg(layer),
+                LayerNotes::tr("Show in All Zones")};
+    case LayerGap::NoSurfaces:
+        return {LayerNotes::tr("No zone draws its surfaces, so the layer \"%1\" shows nothing.")
+                    .arg(layer),
+                LayerNotes::tr("Draw Surfaces")};
+    case LayerGap::NoVariable:
+        return {LayerNotes::tr("No variable is chosen for the contours, so the layer \"%1\" shows "
+                               "nothing.")
+                    .arg(layer),
+                LayerNotes::tr("Choose Variables")};
+    case LayerGap::None: break;
+    }
+    return {};
+}
+
+LayerNotes::LayerNotes(NoticeBar& bar, QObject* parent)
+    : QObject(parent)
+    , m_bar(bar)
+{
+}
+
+void LayerNotes::explain(QAction& layer)
+{
+    if (!categoryOf(layer.objectName()))
+        return;
+    m_layer = &layer;
+    tell();
+}
+
+static LayerFacts factsOf(const QAction& layer)
+{
+    const Frame* frame = Document::instance().activeFrame();
+    if (!frame || !frame->hasData() || !layer.isVisible() || !layer.isChecked())
+        return {};
+    return host::layerFacts(*frame, categoryOf(layer.objectName()));
+}
+
+void LayerNotes::refresh()
+{
+    if (m_layer && m_bar.isShown(m_note))
+        tell();
+    else
+        m_layer = nullptr;
+}
+
+/// Takes an earlier note about layers away when there is nothing to say.
+void LayerNotes::tell()
+{
+    const LayerGap gap = factsOf(*m_layer).gap;
+    const Note note = noteOf(gap, m_layer->text(), isLine(categoryOf(m_layer->objectName())));
+    if (gap != LayerGap::None || m_bar.isShown(m_note))
+        m_note = m_bar.tell(note.text, note.caption, [this] { mend(); });
+}
+
+static void writeMaps(std::vector<std::string> path, const host::MapSet& maps,
+                      host::StyleInput value)
+{
+    host::StyleWrite request;
+    request.path = std::move(path);
+    request.objects = &maps;
+    request.value = std::move(value);
+    Document::instance().write(request);
+}
+
+void LayerNotes::mend()
+{
+    if (!m_layer)
+        return;
+    const char* const category = categoryOf(m_layer->objectName());
+    const LayerFacts facts = factsOf(*m_layer);
+    const Frame* frame = Document::instance().activeFrame();
+    switch (facts.gap) {
+    case LayerGap::NoActiveMaps: {
+        host::StyleWrite request;
+        request.path = {isLine(category) ? "ActiveLineMaps" : "ActiveFieldMaps"};
+        request.value = host::allUpTo(frame->shownMapCount());
+        Document::instance().write(request);
+        break;
+    }
+    case LayerGap::NotShown:
+        writeMaps({isLine(category) ? "LineMap" : "FieldMap", category, "Show"}, facts.maps, true);
+        break;
+    case LayerGap::NoSurfaces: host::drawBoundaryFaces(facts.maps); break;
+    case LayerGap::NoVariable:
+        if (!sdk::autoAssignAllContourGroupVariables(
+                ContourLevelsInitializationMode_ResetIfVariableIsNew))
+            m_bar.tell(tr("The data have no variable that contours could show."));
+        break;
+    case LayerGap::None: break;
+    }
+    refresh();
+}
+
+} // namespace corvala::app

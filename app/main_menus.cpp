@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/main_menus.h"
+
+#include "app/recent_files.h"
+#include "host/document/document.h"
+#include "host/io/sample_list.h"
+#include "samples/demo_data.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QHash>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStyle>
+#include <QToolBar>
+
+namespace corvala::app {
+
+using host::Document;
+
+MainMenus::MainMenus(QMainWindow& window, QAction& styleDialog, const QList<QAction*>& layers)
+    : QObject(&window)
+    , m_window(window)
+    , m_styleDialog(styleDialog)
+{
+    makeFileMenu();
+    makeEditMenu();
+    makePlotMenu(layers);
+    makeHelpMenu();
+    makeToolBar();
+    connect(&Document::instance().undo().stack(), &QUndoStack::indexChanged, this,
+            &MainMenus::refreshUndo);
+}
+
+/// The keys of a command work in the style dialog too.
+static void setKeys(QAction& action, const QKeySequence& keys)
+{
+    action.setShortcut(keys);
+    action.setShortcutContext(Qt::ApplicationShortcut);
+}
+
+/// An icon of the desktop's theme, or of the style where the theme has none.
+static QIcon iconOf(const char* name, QStyle::StandardPixmap other)
+{
+    return QIcon::fromTheme(QLatin1String(name), QApplication::style()->standardIcon(other));
+}
+
+void MainMenus::makeFileMenu()
+{
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&File"));
+    QAction* open = menu->addAction(iconOf("document-open", QStyle::SP_DialogOpenButton),
+                                    tr("&Open..."), this, &MainMenus::openWanted);
+    setKeys(*open, QKeySequence::Open);
+    QAction* folder = menu->addAction(tr("Open Case &Folder..."), this, &MainMenus::folderWanted);
+    QAction* plot3d = menu->addAction(tr("Open &Plot3D..."), this, &MainMenus::plot3DWanted);
+    QMenu* recent = menu->addMenu(tr("Open &Recent"));
+    connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentMenu(*recent); });
+    m_openCommands << open << folder << plot3d << recent->menuAction();
+    addSampleMenu(*menu);
+    addDemoMenu(*menu);
+    menu->addSeparator();
+    m_savePicture = menu->addAction(tr("&Save Picture..."), this, &MainMenus::pictureWanted);
+    menu->addSeparator();
+    setKeys(*menu->addAction(tr("&Quit"), qApp, &QApplication::closeAllWindows),
+            QKeySequence::Quit);
+}
+
+void MainMenus::addSampleMenu(QMenu& menu)
+{
+    const std::vector<host::io::Sample> samples = host::io::sampleList();
+    if (samples.empty())
+        return;
+    QMenu* sampleMenu = menu.addMenu(tr("Sa&mples"));
+    for (const host::io::Sample& sample : samples)
+        sampleMenu->addAction(sample.title, this,
+                              [this, files = sample.files] { Q_EMIT filesWanted(files); });
+    m_openCommands << sampleMenu->menuAction();
+}
+
+static QString demoTitle(const QString& name)
+{
+    static const QHash<QString, const char*> titles {
+        {"field2d", QT_TRANSLATE_NOOP("corvala::app::MainMenus", "2D field, 12 zones")},
+        {"field3d", QT_TRANSLATE_NOOP("corvala::app::MainMenus", "3D field, 12 zones")},
+        {"kinds", QT_TRANSLATE_NOOP("corvala::app::MainMenus", "Zones of all kinds")},
+        {"transient", QT_TRANSLATE_NOOP("corvala::app::MainMenus", "Transient zones")},
+        {"xy", QT_TRANSLATE_NOOP("corvala::app::MainMenus", "XY lines")},
+        {"polar", QT_TRANSLATE_NOOP("corvala::app::MainMenus", "Polar lines")}};
+    const char* title = titles.value(name);
+    return title ? MainMenus::tr(title) : name;
+}
+
+void MainMenus::addDemoMenu(QMenu& menu)
+{
+    QMenu* demos = menu.addMenu(tr("&Demonstration Data"));
+    for (const std::string& demo : samples::demoNames()) {
+        const QString name = QString::fromStdString(demo);
+        demos->addAction(demoTitle(name), this, [this, name] { Q_EMIT demoWanted(name); });
+    }
+    m_openCommands << demos->menuAction();
+}
+
+QString shownName(const QStringList& files)
+{
+    const QFileInfo file(files.value(0));
+    // A case is known by its folder.
+    const QString name = file.fileName() == QLatin1String("controlDict")
+        ? QFileInfo(QFileInfo(file.path()).path()).fileName()
+        : file.fileName();
+    return files.size() > 1 ? MainMenus::tr("%1 and %n more", nullptr, files.size() - 1).arg(name)
+                            : name;
+}
+
+static QString withoutAccessKey(QString text)
+{
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+void MainMenus::fillRecentMenu(QMenu& menu)
+{
+    menu.clear();
+    const QList<QStringList> entries = recentFiles();
+    for (const QStringList& files : entries) {
+        QAction* action = menu.addAction(withoutAccessKey(shownName(files)), this,
+                                         [this, files] { Q_EMIT filesWanted(files); });
+        action->setStatusTip(files.join(QStringLiteral(", ")));
+    }
+    if (entries.isEmpty())
+        menu.addAction(tr("No Files Yet"))->setEnabled(false);
+}
+
+void MainMenus::makeEditMenu()
+{
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&Edit"));
+    m_undo = menu->addAction(iconOf("edit-undo", QStyle::SP_ArrowBack), tr("&Undo"), this,
+                             [] { Document::instance().undo().undo(); });
+    m_redo = menu->addAction(iconOf("edit-redo", QStyle::SP_ArrowForward), tr("&Redo"), this,
+                             [] { Document::instance().undo().redo(); });
+    m_undo->setShortcuts(QKeySequence::Undo);
+    m_redo->setShortcuts(QKeySequence::Redo);
+    for (QAction* action : {m_undo, m_redo})
+        action->setShortcutContext(Qt::ApplicationShortcut);
+}
+
+void MainMenus::makePlotMenu(const QList<QAction*>& layers)
+{
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&Plot"));
+    menu->addAction(&m_styleDialog);
+    menu->addSeparator();
+    menu->addActions(layers);
+    menu->addSeparator();
+    m_fitView = menu->addAction(tr("&Fit View"), this, &MainMenus::fitWanted);
+    setKeys(*m_fitView, QKeySequence(QStringLiteral("Ctrl+0")));
+}
+
+void MainMenus::makeHelpMenu()
+{
+    QMenu* menu = m_window.menuBar()->addMenu(tr("&Help"));
+    menu->addAction(tr("&About corvala"), this, [this] {
+        auto* about =
+            new QMessageBox(QMessageBox::Information, tr("About corvala"),
+                            tr("corvala %1\nPlots field data and edits the style of their zones.\n"
+                               "Licence: GPL-3.0-or-later")
+                                .arg(QApplication::applicationVersion()),
+                            QMessageBox::Close, &m_window);
+        about->setAttribute(Qt::WA_DeleteOnClose);
+        about->open();
+    });
+    menu->addAction(tr("About &Qt"), qApp, &QApplication::aboutQt);
+}
+
+void MainMenus::makeToolBar()
+{
+    QToolBar* bar = m_window.addToolBar(tr("Main"));
+    bar->setObjectName(QStringLiteral("mainBar"));
+    bar->addActions({m_openCommands.first(), m_undo, m_redo});
+    bar->addSeparator();
+    bar->addAction(&m_styleDialog);
+}
+
+void MainMenus::enableOpening(bool enabled)
+{
+    for (QAction* command : m_openCommands)
+        command->setEnabled(enabled);
+}
+
+void MainMenus::refresh(bool hasPlot)
+{
+    const host::Frame* frame = Document::instance().activeFrame();
+    m_styleDialog.setText(frame && frame->isLinePlot() ? tr("&Mapping Style...")
+                                                       : tr("&Zone Style..."));
+    m_savePicture->setEnabled(frame && frame->hasData());
+    m_fitView->setEnabled(hasPlot);
+    refreshUndo();
+}
+
+static QString commandText(const QString& command, const QString& step)
+{
+    return step.isEmpty() ? command : MainMenus::tr("%1 %2").arg(command, withoutAccessKey(step));
+}
+
+void MainMenus::refreshUndo()
+{
+    const QUndoStack& stack = Document::instance().undo().stack();
+    m_undo->setEnabled(stack.canUndo());
+    m_undo->setText(commandText(tr("&Undo"), stack.undoText()));
+    m_redo->setEnabled(stack.canRedo());
+    m_redo->setText(commandText(tr("&Redo"), stack.redoText()));
+}
+
+} // namespace corvala::app

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+
+class QAction;
+class QMainWindow;
+class QMenu;
+
+namespace corvala::app {
+
+/// The menus of the main window and its toolbar of common commands. Says what the user wants; the
+/// window does it.
+class MainMenus : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Fills the menu bar and adds the toolbar. `styleDialog` opens the style dialog; `layers` are
+    /// the layers of the plot.
+    MainMenus(QMainWindow& window, QAction& styleDialog, const QList<QAction*>& layers);
+
+    /// The commands that bring other data.
+    void enableOpening(bool enabled);
+    /// Shows what the document says.
+    void refresh(bool hasPlot);
+
+Q_SIGNALS:
+    void openWanted();
+    void plot3DWanted();
+    void folderWanted();
+    void filesWanted(const QStringList& files);
+    void demoWanted(const QString& name);
+    void pictureWanted();
+    void fitWanted();
+
+private:
+    void makeFileMenu();
+    void addSampleMenu(QMenu& menu);
+    void addDemoMenu(QMenu& menu);
+    void fillRecentMenu(QMenu& menu);
+    void makeEditMenu();
+    void makePlotMenu(const QList<QAction*>& layers);
+    void makeHelpMenu();
+    void makeToolBar();
+    void refreshUndo();
+
+    QMainWindow& m_window;
+    QAction& m_styleDialog;
+    // Owned by the menus.
+    QList<QAction*> m_openCommands; ///< the first one is in the toolbar too
+    QAction* m_undo = nullptr;
+    QAction* m_redo = nullptr;
+    QAction* m_fitView = nullptr;
+    QAction* m_savePicture = nullptr;
+};
+
+/// Files that belong together, in a few words.
+QString shownName(const QStringList& files);
+
+} // namespace corvala::app

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/style/map_set.h"
+#include "sdk/base/enums.h"
+#include "sdk/base/types.h"
+
+namespace corvala::host {
+
+class Frame;
+
+/// Why a plot layer that is on shows nothing.
+enum class LayerGap {
+    None, ///< it shows something
+    NoActiveMaps,
+    NotShown, ///< its "Show" value is off in all active maps
+    NoSurfaces, ///< the maps that show it are volumes that draw no surfaces
+    NoVariable ///< no contour group that the maps follow has a variable
+};
+
+struct LayerFacts
+{
+    LayerGap gap = LayerGap::None;
+    MapSet maps; ///< active maps that show the layer; all active maps when none does
+};
+
+/// What there is to see of a field layer, named by its category of the maps ("Mesh", "Contour",
+/// "Shade", "EdgeLayer"), or of the line layer "Lines".
+LayerFacts layerFacts(const Frame& frame, const char* category);
+
+/// The field map draws some of its surfaces; with `orPoints` also when it draws points that do not
+/// come from a surface.
+bool drawsSurfaces(const Frame& frame, CvlInt64 map, bool orPoints);
+
+/// Makes the field maps of the active frame draw their boundary cell faces.
+StyleWriteResult_e drawBoundaryFaces(const MapSet& maps);
+
+} // namespace corvala::host
