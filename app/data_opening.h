@@ -2,15 +2,11 @@
 #pragma once
 
 #include "host/io/data_reader.h"
-#include "sdk/base/enums.h"
 
 #include <QObject>
 #include <QStringList>
 
 namespace corvala::app {
-
-/// Two or three dimensions, by where the points of the zones lie.
-PlotType_e proposedPlotType(const host::DataSet& data);
 
 /// What to tell the user about data that were read.
 struct OpenedData

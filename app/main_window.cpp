@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -218,7 +219,8 @@ void MainWindow::openStyleDialog(DialogInitialization_e initialization)
 
 void MainWindow::openStyleDialogBeside()
 {
-    placeSideBySide(*this, app::openStyleDialog(*this, DialogInitialization_None));
+    placeSideBySide(*this, app::openStyleDialog(*this, DialogInitialization_None),
+                    screen()->availableGeometry());
 }
 
 void MainWindow::pick(int type, CvlInt64 number, bool activate)

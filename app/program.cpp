@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/program.h"
 
+#include "app/busy_cursor.h"
 #include "app/command_line.h"
 #include "app/data_opening.h"
 #include "app/display.h"
@@ -164,6 +165,7 @@ static int runApplication(int argc, char** argv, const Options& options)
     const host::GestureTracker gestures(host::Document::instance().undo());
     MainWindow window;
     if (!options.isBatch()) {
+        const BusyCursor busy;
         startInteractive(window, options);
         return QApplication::exec();
     }

@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QRect>
-#include <QScreen>
 
 #include <algorithm>
 
@@ -27,28 +26,38 @@ QWidget& openStyleDialog(QWidget& mainWindow, DialogInitialization_e initializat
     return dialog;
 }
 
-/// Gives a window its place in the height of an area, and a width with its frame.
+/// The least size of a window, with its frame.
+static QSize leastSize(const QWidget& window)
+{
+    return window.minimumSizeHint().expandedTo(window.minimumSize()) + window.frameGeometry().size()
+        - window.size();
+}
+
+/// Gives a window a width with its frame, and its place in the height of an area.
 static void place(QWidget& window, const QRect& area, int left, int width)
 {
     const QSize frame = window.frameGeometry().size() - window.size();
     const int height = std::min(window.height(), area.height() - frame.height());
     window.resize(width - frame.width(), height);
-    window.move(left, area.top() + (area.height() - height - frame.height()) / 2);
+    const int free = std::max(area.height() - window.height() - frame.height(), 0);
+    window.move(left, area.top() + free / 2);
 }
 
-void placeSideBySide(QWidget& mainWindow, QWidget& dialog)
+void placeSideBySide(QWidget& mainWindow, QWidget& dialog, const QRect& screen)
 {
-    const QScreen* screen = mainWindow.screen();
-    if (!screen)
-        return;
-    const QRect area = screen->availableGeometry().adjusted(0, 0, -kRoomToGrow, 0);
-    const int dialogWidth =
-        std::min(dialog.frameGeometry().width(), area.width() - kNarrowestWindow);
+    const QRect area = screen.adjusted(0, 0, -kRoomToGrow, 0);
+    const int leastOfDialog = std::min(leastSize(dialog).width(), screen.width());
+    const int dialogWidth = std::max(
+        leastOfDialog, std::min(dialog.frameGeometry().width(), area.width() - kNarrowestWindow));
     const int windowWidth =
-        std::min(mainWindow.frameGeometry().width(), area.width() - dialogWidth);
-    const int left = area.left() + (area.width() - windowWidth - dialogWidth) / 2;
-    place(mainWindow, area, left, windowWidth);
-    place(dialog, area, left + windowWidth, dialogWidth);
+        std::min(mainWindow.frameGeometry().width(),
+                 std::max(area.width() - dialogWidth, std::min(kNarrowestWindow, area.width())));
+    const int free = area.width() - windowWidth - dialogWidth;
+    const int left = area.left() + std::max(free, 0) / 2;
+    place(mainWindow, screen, left, windowWidth);
+    // Where there is no room for both the dialog lies over the window.
+    const int right = std::min(left + windowWidth, screen.left() + screen.width() - dialogWidth);
+    place(dialog, screen, right, dialogWidth);
 }
 
 QAction* makeStyleDialogAction(QWidget& mainWindow)

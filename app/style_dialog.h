@@ -5,6 +5,7 @@
 
 class QAction;
 class QObject;
+class QRect;
 class QWidget;
 
 namespace corvala::app {
@@ -13,9 +14,10 @@ namespace corvala::app {
 QWidget& openStyleDialog(QWidget& mainWindow,
                          corvala::dialogs::common::DialogInitialization_e initialization);
 
-/// Moves the window and the dialog side by side, the dialog at the right, and makes them
-/// narrower where the screen has no room for both.
-void placeSideBySide(QWidget& mainWindow, QWidget& dialog);
+/// Moves the window and the dialog side by side, the dialog at the right, and makes them narrower
+/// where the screen has no room for both; where they cannot be that narrow the dialog lies over
+/// the window.
+void placeSideBySide(QWidget& mainWindow, QWidget& dialog, const QRect& screen);
 
 /// The command that opens the dialog; enabled while the active frame has styles to edit.
 QAction* makeStyleDialogAction(QWidget& mainWindow);

@@ -3,7 +3,7 @@
 
 #include "host/io/read_folder.h"
 #include "host/io/read_protocol.h"
-#include "host/io/zone_file_source.h"
+#include "host/io/read_result.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -13,7 +13,9 @@
 #include <QProcess>
 #include <QTimer>
 
+#include <atomic>
 #include <csignal>
+#include <thread>
 #include <utility>
 
 namespace corvala::host::io {
@@ -40,7 +42,9 @@ private:
     void takeLine(const QByteArray& text);
     void processEnded(int code, QProcess::ExitStatus status);
     QString reasonForEnd(int code, QProcess::ExitStatus status) const;
-    void takeResult();
+    void startLoading();
+    void takeLoaded(const LoadedData& loaded);
+    void giveUp();
     void finish(const ReadResult& result);
 
     DataReader* q;
@@ -49,7 +53,8 @@ private:
     QString currentFile;
     QByteArray complaints; ///< the end of what libraries printed
     QString reason; ///< why it cannot be read, as far as known
-    bool cancelled = false;
+    std::atomic<bool> cancelled {false};
+    std::thread loader; ///< runs while the folder of the reading program is loaded
     bool hasSpoken = false; ///< the reading program came to work
 };
 
@@ -78,6 +83,9 @@ DataReader::Private::Private(DataReader* reader)
 
 DataReader::Private::~Private()
 {
+    cancelled = true;
+    if (loader.joinable())
+        loader.join();
     process.disconnect();
     if (process.state() != QProcess::NotRunning) {
         process.kill();
@@ -169,7 +177,13 @@ void DataReader::Private::processEnded(int code, QProcess::ExitStatus status)
     if (reason.isEmpty() && !cancelled)
         reason = reasonForEnd(code, status);
     if (reason.isEmpty() && !cancelled)
-        return takeResult();
+        startLoading();
+    else
+        giveUp();
+}
+
+void DataReader::Private::giveUp()
+{
     ReadResult result;
     result.cancelled = cancelled;
     if (!cancelled)
@@ -198,23 +212,32 @@ QString DataReader::Private::reasonForEnd(int code, QProcess::ExitStatus status)
                      : DataReader::tr("the reader stopped unexpectedly (%1)").arg(how);
 }
 
-void DataReader::Private::takeResult()
+/// On a thread of its own, so that the program goes on meanwhile.
+void DataReader::Private::startLoading()
 {
-    QFile file(folder->filePath(QString::fromLatin1(kIndexFile)));
-    std::optional<DataSetIndex> index;
-    if (file.open(QIODevice::ReadOnly))
-        index = indexFromJson(file.readAll().toStdString());
-    if (!index) {
+    const QString what = DataReader::tr("Loading %1").arg(QFileInfo(currentFile).fileName());
+    const auto report = [this, what](int percent) {
+        QMetaObject::invokeMethod(
+            q, [this, what, percent] { Q_EMIT q->progress(percent, what); }, Qt::QueuedConnection);
+        return !cancelled;
+    };
+    loader = std::thread([this, report, taken = folder.release()] {
+        const LoadedData loaded = loadData(std::unique_ptr<ReadFolder>(taken), report);
+        QMetaObject::invokeMethod(
+            q, [this, loaded] { takeLoaded(loaded); }, Qt::QueuedConnection);
+    });
+}
+
+void DataReader::Private::takeLoaded(const LoadedData& loaded)
+{
+    loader.join();
+    if (!loaded.data && !cancelled)
         reason = DataReader::tr("the reader gave an answer that cannot be understood");
-        return processEnded(0, QProcess::NormalExit);
-    }
+    if (!loaded.data || cancelled)
+        return giveUp();
     ReadResult result;
-    result.detectedPlot3D = index->plot3d;
-    result.data = std::make_shared<DataSet>(std::move(index->data));
-    for (const ReadMessage& note : index->notes)
-        result.data->notes.push_back(note.toString().toStdString());
-    result.data->source =
-        std::make_shared<ZoneFileSource>(std::move(folder), std::move(index->zoneFiles));
+    result.data = loaded.data;
+    result.detectedPlot3D = loaded.plot3d;
     finish(result);
 }
 

@@ -35,6 +35,12 @@ vtkSmartPointer<vtkDataSet> ZoneFileSource::zone(std::int64_t sourceIndex) const
     return data;
 }
 
+bool ZoneFileSource::hasRoom() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_bytesUsed < m_cacheBytes;
+}
+
 vtkSmartPointer<vtkDataSet> ZoneFileSource::load(std::int64_t sourceIndex) const
 {
     const QString path =

@@ -27,6 +27,9 @@ public:
 
     vtkSmartPointer<vtkDataSet> zone(std::int64_t sourceIndex) const override;
 
+    /// The cache takes more zones without giving others up.
+    bool hasRoom() const;
+
 private:
     struct CachedZone
     {

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/busy_cursor.h"
 #include "app/command_line.h"
 #include "app/main_window.h"
 #include "app/program.h"
+#include "app/style_dialog.h"
 #include "host/document/document.h"
 #include "play/dialog_driver.h"
 #include "play/idle.h"
@@ -23,6 +25,7 @@
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
@@ -47,6 +50,9 @@ private Q_SLOTS:
     void sliderGoesThroughTheTimes();
     void doubleClickOnAZoneOpensItsStyle();
     void dialogBesideThePlotStaysOnTheScreen();
+    void smallScreensHoldBothWindows_data();
+    void smallScreensHoldBothWindows();
+    void waitCursorShowsWhileTheLoopIsHeldUp();
     void commandsHaveTheirKeysInTheDialogToo();
     void readsWhileTheWindowLives();
     void cancelsReading();
@@ -270,6 +276,41 @@ void tst_MainWindow::dialogBesideThePlotStaysOnTheScreen()
         QVERIFY2(screen.contains(dialog), demo);
         QVERIFY2(!dialog.intersects(m_window->frameGeometry()), demo);
     }
+}
+
+void tst_MainWindow::smallScreensHoldBothWindows_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("large") << QSize(1280, 900);
+    QTest::newRow("small") << QSize(1024, 700);
+    QTest::newRow("scaled by two") << QSize(800, 500);
+}
+
+void tst_MainWindow::smallScreensHoldBothWindows()
+{
+    QFETCH(QSize, size);
+    m_window->openDemo(QStringLiteral("field3d"));
+    m_window->openStyleDialog(corvala::dialogs::common::DialogInitialization_None);
+    play::waitUntilIdle();
+    QWidget& dialog = play::DialogDriver().dialog();
+    const QRect screen(QPoint(10, 20), size);
+    placeSideBySide(*m_window, dialog, screen);
+    play::waitUntilIdle();
+    for (const QWidget* window : {static_cast<QWidget*>(m_window.get()), &dialog})
+        QVERIFY2(screen.contains(window->frameGeometry()),
+                 QTest::toString(window->frameGeometry()));
+    QCOMPARE(dialog.frameGeometry().intersects(m_window->frameGeometry()), size.width() < 1200);
+}
+
+void tst_MainWindow::waitCursorShowsWhileTheLoopIsHeldUp()
+{
+    BusyCursor cursor;
+    play::waitUntilIdle();
+    QVERIFY(!cursor.isShown());
+    for (int i = 0; i < 1000 && !cursor.isShown(); ++i)
+        QThread::msleep(10);
+    QVERIFY(cursor.isShown());
+    QTRY_VERIFY(!cursor.isShown());
 }
 
 void tst_MainWindow::commandsHaveTheirKeysInTheDialogToo()

@@ -16,7 +16,8 @@
 
 namespace corvala::host::io::reader {
 
-static constexpr double kFlatness = 1e-9; ///< Z range of planar data against their extent
+/// Z range of planar data against their extent: rounding in a file must not make a plane thick.
+static constexpr double kFlatness = 1e-6;
 static constexpr double kPartOfReading = 0.5; ///< of the progress; the rest is handing over
 static constexpr std::size_t kMostWarnings = 5; ///< that are shown
 static constexpr std::int64_t kBytesOfPoint = 3 * sizeof(float);
