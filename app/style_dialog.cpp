@@ -49,13 +49,14 @@ void placeSideBySide(QWidget& mainWindow, QWidget& dialog, const QRect& screen)
     const int leastOfDialog = std::min(leastSize(dialog).width(), screen.width());
     const int dialogWidth = std::max(
         leastOfDialog, std::min(dialog.frameGeometry().width(), area.width() - kNarrowestWindow));
-    const int windowWidth =
-        std::min(mainWindow.frameGeometry().width(),
-                 std::max(area.width() - dialogWidth, std::min(kNarrowestWindow, area.width())));
+    // Where there is no room for both the dialog lies over the window, which is as wide as it
+    // likes.
+    const int room = area.width() - dialogWidth;
+    const int windowWidth = std::min(mainWindow.frameGeometry().width(),
+                                     room >= kNarrowestWindow ? room : screen.width());
     const int free = area.width() - windowWidth - dialogWidth;
     const int left = area.left() + std::max(free, 0) / 2;
     place(mainWindow, screen, left, windowWidth);
-    // Where there is no room for both the dialog lies over the window.
     const int right = std::min(left + windowWidth, screen.left() + screen.width() - dialogWidth);
     place(dialog, screen, right, dialogWidth);
 }
