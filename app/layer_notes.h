@@ -20,7 +20,7 @@ public:
     /// The notice bar must outlive the notes.
     explicit LayerNotes(NoticeBar& bar, QObject* parent = nullptr);
 
-    /// The user switched a layer on or off; the action has its name and text.
+    /// A layer was switched on or off, or comes with new data; the action has its name and text.
     void explain(QAction& layer);
     /// The document changed, perhaps so that the note is true no longer.
     void refresh();

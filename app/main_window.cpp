@@ -101,6 +101,8 @@ void MainWindow::connectOpener()
         m_menus->enableOpening(true);
         m_notice->setEnabled(true);
         awaitPicture();
+        if (opened)
+            showOpened();
         Q_EMIT openingEnded(opened);
     });
     connect(m_data, &DataCommands::failed, this, &MainWindow::showProblem);
@@ -178,6 +180,16 @@ void MainWindow::refresh()
     m_layerBar->refresh();
     m_layerNotes->refresh();
     m_timeBar->refresh();
+}
+
+/// Before the first picture, which may take its time.
+void MainWindow::showOpened()
+{
+    refresh();
+    for (QAction* layer : m_layerBar->layerActions())
+        if (!m_notice->isVisible())
+            m_layerNotes->explain(*layer);
+    repaint();
 }
 
 void MainWindow::openFiles(const QStringList& files, const host::io::Plot3DLayout& plot3d)

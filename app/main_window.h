@@ -58,6 +58,7 @@ private:
     void connectCanvas();
 
     void refresh();
+    void showOpened();
     void begin(const QString& work);
     void awaitPicture();
     void cancelWork();

@@ -170,6 +170,8 @@ static void write(std::vector<std::string> path, const host::MapSet* maps, host:
 /// Each button mends what its note says, and then comes what else there is to say.
 void tst_MainWindow::layersThatShowNothingSayWhy()
 {
+    m_window->openFiles({sample("cgns_hexa")});
+    QTRY_VERIFY_WITH_TIMEOUT(button("Draw Surfaces"), 60000);
     m_window->openDemo(QStringLiteral("field3d"));
     play::waitUntilIdle();
     host::MapSet flat;
