@@ -71,6 +71,7 @@ void MainWindow::makeBars()
     m_layerBar = new LayerBar(this);
     m_timeBar = new TimeBar(this);
     m_menus = new MainMenus(*this, *makeStyleDialogAction(*this), m_layerBar->layerActions());
+    addToolBarBreak(); // all layers show beside the style dialog, too
     addToolBar(m_layerBar);
     addToolBar(Qt::BottomToolBarArea, m_timeBar);
     connect(m_menus, &MainMenus::openWanted, m_data, &DataCommands::chooseFiles);

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QRect>
+#include <QScreen>
 
 #include <algorithm>
 
@@ -19,9 +20,23 @@ static constexpr int kNarrowestWindow = 480;
 /// The dialog becomes wider with the number of its tabs.
 static constexpr int kRoomToGrow = 40;
 
-QWidget& openStyleDialog(QWidget& mainWindow, DialogInitialization_e initialization)
+/// When it is first shown it covers the main window as little as the screen allows.
+static ZoneStyleDialog& styleDialog(QWidget& mainWindow, DialogInitialization_e initialization)
 {
     ZoneStyleDialog& dialog = ZoneStyleDialog::getInstance(mainWindow, initialization);
+    if (!dialog.testAttribute(Qt::WA_Moved)) {
+        const QRect screen = mainWindow.screen()->availableGeometry();
+        const QRect window = mainWindow.frameGeometry();
+        const int width = dialog.sizeHint().expandedTo(dialog.minimumSize()).width();
+        const int right = std::min(window.right() + 1, screen.right() - width - kRoomToGrow);
+        dialog.move(std::max(right, screen.left()), std::max(window.top(), screen.top()));
+    }
+    return dialog;
+}
+
+QWidget& openStyleDialog(QWidget& mainWindow, DialogInitialization_e initialization)
+{
+    ZoneStyleDialog& dialog = styleDialog(mainWindow, initialization);
     dialog.launch();
     return dialog;
 }
@@ -67,7 +82,7 @@ QAction* makeStyleDialogAction(QWidget& mainWindow)
         QCoreApplication::translate("corvala::app::MainMenus", "&Zone Style..."),
         ZoneStyleDialog::relevance(),
         [&mainWindow]() -> DialogInterface& {
-            return ZoneStyleDialog::getInstance(mainWindow, DialogInitialization_None);
+            return styleDialog(mainWindow, DialogInitialization_None);
         },
         &mainWindow);
     action->setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));

@@ -27,6 +27,7 @@
 #include <QTest>
 #include <QThread>
 #include <QTimer>
+#include <QToolBar>
 
 #include <algorithm>
 
@@ -263,6 +264,7 @@ void tst_MainWindow::doubleClickOnAZoneOpensItsStyle()
     const play::DialogDriver driver;
     QVERIFY(driver.instance() && driver.instance()->isVisible());
     QCOMPARE(play::selectedMaps(driver), QString::number(zone));
+    QVERIFY2(driver.dialog().x() > m_window->geometry().center().x(), "the plot stays in view");
 }
 
 /// It becomes wider with the tabs of the other plot types.
@@ -277,6 +279,9 @@ void tst_MainWindow::dialogBesideThePlotStaysOnTheScreen()
         const QRect dialog = play::DialogDriver().dialog().frameGeometry();
         QVERIFY2(screen.contains(dialog), demo);
         QVERIFY2(!dialog.intersects(m_window->frameGeometry()), demo);
+        auto* bar = m_window->findChild<QToolBar*>(QStringLiteral("plotBar"));
+        QAction& last = layer(frame().isFieldPlot() ? "UseLightingEffect" : "ShowLines");
+        QVERIFY2(bar->widgetForAction(&last)->isVisible(), demo);
     }
 }
 
