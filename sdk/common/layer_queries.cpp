@@ -4,7 +4,7 @@
 #include "host/document/document.h"
 #include "host/document/layer_facts.h"
 #include "sdk/common/frame_writes.h"
-#include "sdk/common/yes_no_question.h"
+#include "sdk/uicommon/question.h"
 
 #include <QCoreApplication>
 
@@ -54,11 +54,11 @@ bool queryToActivateSidebarLayer(const std::string& layer,
         return true;
     const PlotType_e plotType = frame->plotType(); // the frame may go while the question is open
     const bool wanted =
-        askYesNo(text(QT_TRANSLATE_NOOP("LayerQueries", "Show Layer")),
-                 text(QT_TRANSLATE_NOOP("LayerQueries",
-                                        "The %1 layer is off, so nothing of it is drawn.\n"
-                                        "Do you want to switch it on?"))
-                     .arg(text(name->shown)));
+        ui::askYesNo(text(QT_TRANSLATE_NOOP("LayerQueries", "Show Layer")),
+                     text(QT_TRANSLATE_NOOP("LayerQueries",
+                                            "The %1 layer is off, so nothing of it is drawn.\n"
+                                            "Do you want to switch it on?"))
+                         .arg(text(name->shown)));
     if (!wanted || (chooser && !chooser(plotType)))
         return false;
     return writeFrameValue({"FieldLayers", name->layer}, 1.0) <= StyleWrite_Unchanged;
@@ -71,7 +71,7 @@ bool queryToEnableSurfacePlotLayer(const std::string& layer)
     if (!name || !frame || frame->activeFieldMaps().isEmpty())
         return false;
     const host::MapSet active = frame->activeFieldMaps(); // the frame may go meanwhile
-    const bool wanted = askYesNo(
+    const bool wanted = ui::askYesNo(
         text(QT_TRANSLATE_NOOP("LayerQueries", "Show Surfaces")),
         text(QT_TRANSLATE_NOOP("LayerQueries",
                                "No active zone draws its surfaces, so the %1 layer shows "

@@ -4,7 +4,7 @@
 #include "host/document/document.h"
 #include "host/document/line_map_name.h"
 #include "sdk/base/set_record.h"
-#include "sdk/common/yes_no_question.h"
+#include "sdk/uicommon/question.h"
 
 #include <vtkDataArray.h>
 
@@ -89,9 +89,10 @@ bool confirmLineMapZoneSelection(CvlInt64 zone, const toolbox::Set& lineMaps)
     const QStringList found =
         objections(*frame, zone, lineMaps.handle() ? lineMaps.handle()->members : host::MapSet());
     return found.isEmpty()
-        || askYesNo(text(QT_TRANSLATE_NOOP("LineMapZone", "Zone")),
-                    found.join(QLatin1Char('\n')) + QLatin1Char('\n')
-                        + text(QT_TRANSLATE_NOOP("LineMapZone", "Do you want to use it anyway?")));
+        || ui::askYesNo(
+               text(QT_TRANSLATE_NOOP("LineMapZone", "Zone")),
+               found.join(QLatin1Char('\n')) + QLatin1Char('\n')
+                   + text(QT_TRANSLATE_NOOP("LineMapZone", "Do you want to use it anyway?")));
 }
 
 } // namespace corvala::sdk

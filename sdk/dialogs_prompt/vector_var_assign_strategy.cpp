@@ -5,6 +5,7 @@
 #include <sdk/common_ui/find_main_window.h>
 #include <sdk/dialogs_common/numbered_name_list_model.h>
 #include <sdk/toolbox/style_value.h>
+#include <sdk/uicommon/edit_session.h>
 #include <sdk/uicommon/style_writing.h>
 
 #include <QApplication>
@@ -113,7 +114,7 @@ bool VectorVarAssignStrategy::operator()(PlotType_e plotType) const
     QWidget* window = QApplication::activeWindow();
     const QPointer<VectorVariablesDialog> dialog(
         new VectorVariablesDialog(window ? window : &ui::findMainWindow(), components));
-    const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog;
+    const bool isAccepted = sdk::ui::execInEditSession(*dialog) == QDialog::Accepted;
     if (isAccepted)
         dialog->write();
     delete dialog;

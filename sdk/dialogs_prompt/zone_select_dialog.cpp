@@ -3,6 +3,7 @@
 
 #include <sdk/dialogs_common/numbered_name_list_model.h>
 #include <sdk/dialogs_common/shared_instance.h>
+#include <sdk/uicommon/edit_session.h>
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>
@@ -89,7 +90,7 @@ bool ZoneSelectDialog::selectZone(CvlInt64 current)
     m_model->listZones();
     makeCurrent(m_model->rowOf(current));
     m_filter->setFocus();
-    return exec() == QDialog::Accepted;
+    return sdk::ui::execInEditSession(*this) == QDialog::Accepted;
 }
 
 void ZoneSelectDialog::done(int result)

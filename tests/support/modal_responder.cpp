@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "tests/support/modal_responder.h"
 
+#include "sdk/common_ui/number_field.h"
+
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QEvent>
 #include <QInputDialog>
+#include <QLabel>
 #include <QPointer>
+#include <QPushButton>
 
 namespace corvala::tests {
 
@@ -21,10 +26,6 @@ static QString question(const QInputDialog& prompt)
     if (!prompt.comboBoxItems().isEmpty())
         text += QStringLiteral(" [%1 of %2]")
                     .arg(prompt.textValue(), QString::number(prompt.comboBoxItems().size()));
-    else if (prompt.inputMode() == QInputDialog::DoubleInput)
-        text += rangeText(prompt.doubleValue(), prompt.doubleMinimum(), prompt.doubleMaximum());
-    else if (prompt.inputMode() == QInputDialog::IntInput)
-        text += rangeText(prompt.intValue(), prompt.intMinimum(), prompt.intMaximum());
     return text;
 }
 
@@ -32,22 +33,11 @@ static QString textOf(const QDialog& dialog)
 {
     if (const auto* box = qobject_cast<const QMessageBox*>(&dialog))
         return box->text();
+    if (const auto* number = dialog.findChild<ui::NumberField*>())
+        return dialog.findChild<QLabel*>()->text()
+            + rangeText(number->value(), number->lowest(), number->highest());
     const auto* prompt = qobject_cast<const QInputDialog*>(&dialog);
     return prompt ? question(*prompt) : QString();
-}
-
-static void enterNumber(QInputDialog& prompt, double value)
-{
-    const bool isReal = prompt.inputMode() == QInputDialog::DoubleInput;
-    const double minimum = isReal ? prompt.doubleMinimum() : prompt.intMinimum();
-    const double maximum = isReal ? prompt.doubleMaximum() : prompt.intMaximum();
-    if (value < minimum || value > maximum)
-        return prompt.reject();
-    if (isReal)
-        prompt.setDoubleValue(value);
-    else
-        prompt.setIntValue(qRound(value));
-    prompt.accept();
 }
 
 ModalResponder::ModalResponder()
@@ -78,8 +68,12 @@ ModalResponder& ModalResponder::press(QMessageBox::StandardButton button)
 ModalResponder& ModalResponder::enter(double value)
 {
     return answer([value](QDialog& dialog) {
-        if (auto* prompt = qobject_cast<QInputDialog*>(&dialog))
-            enterNumber(*prompt, value);
+        auto* field = dialog.findChild<ui::NumberField*>();
+        if (field)
+            field->setNumber(value);
+        auto* buttons = dialog.findChild<QDialogButtonBox*>();
+        if (field && buttons->button(QDialogButtonBox::Ok)->isEnabled())
+            dialog.accept();
         else
             dialog.reject();
     });

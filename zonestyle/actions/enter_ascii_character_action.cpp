@@ -5,6 +5,7 @@
 #include "zonestyle/actions/style_write.h"
 
 #include <sdk/dialogs_prompt/enter_ascii_character_dialog.h>
+#include <sdk/uicommon/edit_session.h>
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -41,7 +42,7 @@ void EnterASCIICharacterAction::invokeAction()
     dialog->setCharacter(QString::fromStdString(valueOf<std::string>(m_shape / kCharacter, map)));
     dialog->setUseBaseFont(valueOf<bool>(m_shape / kUseBaseFont, map));
     dialog->setTypeFaceOverride(valueOf<int>(m_shape / kFontOverride, map));
-    if (dialog->exec() != QDialog::Accepted || !self || !dialog)
+    if (corvala::sdk::ui::execInEditSession(*dialog) != QDialog::Accepted || !self || !dialog)
         return;
     const toolbox::Set maps = selectedMaps();
     writeStyle(m_shape / kCharacter, maps, dialog->selectedChar().toStdString());

@@ -3,31 +3,16 @@
 
 #include "zonestyle/actions/prompt_parent.h"
 
-#include <QInputDialog>
+#include <sdk/dialogs_prompt/enter_number_dialog.h>
+
 #include <QPointer>
 
-#include <optional>
+#include <type_traits>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 
-static constexpr int kDecimals = 2;
-
-static bool prompt(const QString& title, const QString& label, double minimum, double maximum,
-                   double& value)
-{
-    bool accepted = false;
-    value = QInputDialog::getDouble(&promptParent(), title, label, value, minimum, maximum,
-                                    kDecimals, &accepted);
-    return accepted;
-}
-
-static bool prompt(const QString& title, const QString& label, int minimum, int maximum, int& value)
-{
-    bool accepted = false;
-    value =
-        QInputDialog::getInt(&promptParent(), title, label, value, minimum, maximum, 1, &accepted);
-    return accepted;
-}
+template<class T>
+constexpr int kDecimals = std::is_integral_v<T> ? 0 : 2;
 
 template<class T>
 EnterSingleValueAction<T>::EnterSingleValueAction(const QString& text,
@@ -48,9 +33,11 @@ void EnterSingleValueAction<T>::invokeAction()
     if (this->selectedIndexes().isEmpty())
         return;
     const QPointer<Action> self(this);
-    T value = this->firstValue();
-    if (prompt(m_title, m_label, m_minimum, m_maximum, value) && self)
-        this->write(value);
+    const std::optional<double> value = corvala::dialogs::prompt::enterNumber(
+        promptParent(), {m_title, m_label, double(m_minimum), double(m_maximum), kDecimals<T>},
+        this->firstValue());
+    if (value && self)
+        this->write(static_cast<T>(*value));
 }
 
 template class EnterSingleValueAction<double>;

@@ -17,6 +17,7 @@ public:
                            const StylePath& path);
 
     void invokeAction() override;
+    bool isPresentValue() const override { return false; }
 
 private:
     QString m_title;

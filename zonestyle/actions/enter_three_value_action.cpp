@@ -5,6 +5,7 @@
 #include "zonestyle/actions/style_write.h"
 
 #include <sdk/dialogs_prompt/enter_three_int_values_dialog.h>
+#include <sdk/uicommon/edit_session.h>
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -61,7 +62,7 @@ void EnterThreeValueAction::invokeAction()
         return;
     const QPointer<Action> self(this);
     const QPointer<EnterThreeIntValuesDialog> dialog(&preparedDialog(m_prompt, firstValues()));
-    if (dialog->exec() == QDialog::Accepted && self && dialog)
+    if (corvala::sdk::ui::execInEditSession(*dialog) == QDialog::Accepted && self && dialog)
         runAction<ThreeValueAction>(text(), selectedIndexes(), dialog->values(), m_group,
                                     m_prompt.names);
 }

@@ -3,8 +3,11 @@
 
 #include "zonestyle/actions/style_write.h"
 
+#include <sdk/uicommon/edit_session.h>
+
 #include <QPointer>
 
+#include <algorithm>
 #include <type_traits>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
@@ -40,6 +43,16 @@ void StyleAction<T>::invokeAction()
 }
 
 template<class T>
+bool StyleAction<T>::isPresentValue() const
+{
+    const QModelIndexList& rows = selectedIndexes();
+    return !rows.isEmpty() && std::all_of(rows.begin(), rows.end(), [this](const QModelIndex& row) {
+        const auto present = m_styleValue->template read<HostRead<T>>(row.row() + 1);
+        return present && static_cast<T>(*present) == m_value;
+    });
+}
+
+template<class T>
 T StyleAction<T>::firstValue() const
 {
     return static_cast<T>(
@@ -52,8 +65,9 @@ void StyleAction<T>::write(T value)
     const toolbox::Set maps = selectedMaps();
     if (value != T {} && m_layerCheck.applies()) {
         const QPointer<Action> self(this);
+        const EditSession session([] {});
         LayerCheck(m_layerCheck).run(); // a copy: the action may go while a question is open
-        if (!self)
+        if (!self || !session.isValid())
             return;
     }
     writeStyle(*m_styleValue, &maps, toolbox::AssignOp_None, static_cast<HostValue<T>>(value));

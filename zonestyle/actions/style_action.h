@@ -23,6 +23,7 @@ public:
     ~StyleAction() override;
 
     void invokeAction() override;
+    bool isPresentValue() const override;
 
 protected:
     /// The present value of the first selected map, of which there must be one; a failed read

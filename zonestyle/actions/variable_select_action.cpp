@@ -5,6 +5,7 @@
 
 #include <sdk/base/cvl.h>
 #include <sdk/common/common.h>
+#include <sdk/uicommon/edit_session.h>
 
 #include <QInputDialog>
 #include <QPointer>
@@ -47,11 +48,16 @@ void VariableSelectAction::invokeAction()
         return;
     const QStringList names = variableNames(variables);
     const QPointer<Action> self(this);
-    bool accepted = false;
-    const QString name = QInputDialog::getItem(&promptParent(), m_title, m_label, names,
-                                               variables.indexOf(firstValue()), false, &accepted);
+    const QPointer<QInputDialog> prompt(new QInputDialog(&promptParent()));
+    prompt->setWindowTitle(m_title);
+    prompt->setLabelText(m_label);
+    prompt->setComboBoxItems(names);
+    prompt->setTextValue(names.value(variables.indexOf(firstValue())));
+    const bool isAccepted = execInEditSession(*prompt) == QDialog::Accepted;
+    const QString name = isAccepted ? prompt->textValue() : QString();
+    delete prompt;
     // Of variables with the same name only the first can be chosen.
-    if (accepted && self)
+    if (isAccepted && self)
         write(variables.at(names.indexOf(name)));
 }
 

@@ -13,6 +13,7 @@ public:
                          const QString& title, const QString& label, const StylePath& path);
 
     void invokeAction() override;
+    bool isPresentValue() const override { return false; }
 
 private:
     QString m_title;

@@ -12,6 +12,7 @@ public:
     explicit ZoneSelectAction(const QModelIndexList& selectedIndexes);
 
     void invokeAction() override;
+    bool isPresentValue() const override { return false; }
 };
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "sdk/common_ui/number_field.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace corvala::ui {
+
+static constexpr int kMostDecimals = 15;
+
+static std::optional<double> readIn(QLocale locale, const QString& text)
+{
+    locale.setNumberOptions(QLocale::RejectGroupSeparator);
+    bool isNumber = false;
+    const double number = locale.toDouble(text, &isNumber);
+    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+
+NumberField::NumberField(int decimals, QWidget* parent)
+    : QDoubleSpinBox(parent)
+    , m_decimals(decimals)
+{
+    constexpr double kLargest = std::numeric_limits<double>::max();
+    setDecimals(decimals == 0 ? 0 : kMostDecimals); // of the base class, which rounds to them
+    QDoubleSpinBox::setRange(-kLargest, kLargest); // that it would correct texts to
+    setKeyboardTracking(false);
+    connect(lineEdit(), &QLineEdit::textChanged, this, &NumberField::textChanged);
+}
+
+void NumberField::setLimits(double lowest, double highest)
+{
+    m_lowest = lowest;
+    m_highest = highest;
+    textChanged();
+}
+
+void NumberField::setNumber(double number)
+{
+    setValue(number);
+    m_set = number;
+    m_setText = textFromValue(number);
+    lineEdit()->setText(m_setText);
+    textChanged();
+}
+
+std::optional<double> NumberField::number() const
+{
+    const QString text = lineEdit()->text();
+    const std::optional<double> number = text == m_setText ? m_set : read(text);
+    return number && *number >= m_lowest && *number <= m_highest ? number : std::nullopt;
+}
+
+/// A number without another one's mark: the locale's own notation, or the one of programs.
+std::optional<double> NumberField::read(const QString& text) const
+{
+    const QString trimmed = text.trimmed();
+    std::optional<double> number = readIn(QLocale::c(), trimmed);
+    if (!number)
+        number = readIn(locale(), trimmed);
+    const bool isWhole = number && *number == std::floor(*number);
+    return m_decimals == 0 && !isWhole ? std::nullopt : number;
+}
+
+QString NumberField::rangeText() const
+{
+    QLocale plain = locale();
+    plain.setNumberOptions(QLocale::OmitGroupSeparator);
+    const auto shown = [&plain](double limit) { return plain.toString(limit, 'g', 10); };
+    return tr("%1 to %2").arg(shown(m_lowest), shown(m_highest));
+}
+
+QValidator::State NumberField::validate(QString& text, int&) const
+{
+    const std::optional<double> number = text == m_setText ? m_set : read(text);
+    return number && *number >= m_lowest && *number <= m_highest ? QValidator::Acceptable
+                                                                 : QValidator::Intermediate;
+}
+
+double NumberField::valueFromText(const QString& text) const
+{
+    return read(text).value_or(value());
+}
+
+QString NumberField::textFromValue(double value) const
+{
+    QLocale plain = locale();
+    plain.setNumberOptions(QLocale::OmitGroupSeparator);
+    const QString rounded = plain.toString(value, 'f', m_decimals);
+    const std::optional<double> shown = readIn(plain, rounded);
+    const bool isInside = value >= m_lowest && value <= m_highest;
+    const bool looksOutside = shown && (*shown < m_lowest || *shown > m_highest);
+    return isInside && looksOutside ? plain.toString(value, 'g', kMostDecimals) : rounded;
+}
+
+void NumberField::fixup(QString&) const { }
+
+void NumberField::stepBy(int steps)
+{
+    const double from = number().value_or(m_set);
+    setNumber(std::clamp(from + steps * singleStep(), m_lowest, m_highest));
+    selectAll();
+}
+
+/// The base class replaces a text that does not fit by the number before.
+void NumberField::focusOutEvent(QFocusEvent* event)
+{
+    const QString text = lineEdit()->text();
+    QDoubleSpinBox::focusOutEvent(event);
+    lineEdit()->setText(text);
+}
+
+void NumberField::hideEvent(QHideEvent* event)
+{
+    const QString text = lineEdit()->text();
+    QDoubleSpinBox::hideEvent(event);
+    lineEdit()->setText(text);
+}
+
+/// Return is for the window, which accepts the number or does not.
+void NumberField::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->ignore();
+    else
+        QDoubleSpinBox::keyPressEvent(event);
+}
+
+void NumberField::textChanged()
+{
+    const bool fits = number().has_value();
+    if (fits == m_fits)
+        return;
+    m_fits = fits;
+    QPalette colors;
+    if (!fits) {
+        const QColor base = colors.color(QPalette::Base);
+        constexpr int kShare = 4; // of the warning colour
+        const QColor warning(220, 60, 40);
+        const auto mixed = [](int from, int to) { return from + (to - from) / kShare; };
+        colors.setColor(QPalette::Base,
+                        QColor(mixed(base.red(), warning.red()),
+                               mixed(base.green(), warning.green()),
+                               mixed(base.blue(), warning.blue())));
+    }
+    setPalette(colors);
+    setToolTip(fits ? QString() : rangeText());
+    setAccessibleDescription(toolTip());
+    Q_EMIT fitChanged(fits);
+}
+
+} // namespace corvala::ui
