@@ -244,7 +244,7 @@ void tst_DialogRefresh::leavesAnOpenEditorAlone()
     QVERIFY(editor);
     QTest::keyClicks(editor, "7");
     setStyle("FieldMap.Group", "1-12", 4);
-    raise(StateCode_ZonesAdded);
+    raise(StateCode_ZoneRenamed);
     runUntilIdle();
     QCOMPARE(fixture.takeRefreshes(), 1);
     Q_EMIT fixture.model().dataChanged(fixture.model().index(1, kGroup),

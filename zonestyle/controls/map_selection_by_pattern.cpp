@@ -89,15 +89,34 @@ void MapSelectionByPattern::setupUi()
     m_lineEdit->setObjectName(QStringLiteral("mapSelectionByPattern_pattern_lineEdit"));
     m_lineEdit->setMinimumWidth(200);
     m_lineEdit->setAccessibleName(tr("Selection criteria"));
-    m_lineEdit->setToolTip(tr("* stands for any text, ? for one character"));
+    m_lineEdit->setPlaceholderText(QStringLiteral("wing*, */inlet"));
+    m_lineEdit->setToolTip(
+        tr("* stands for any text, ? for one character: wing* finds what begins with \"wing\", "
+           "*/inlet what ends with \"/inlet\""));
     m_lineEdit->setAccessibleDescription(m_lineEdit->toolTip());
     m_label->setBuddy(m_lineEdit);
     layout->addWidget(m_lineEdit);
     m_applyButton = addButton(*layout, "mapSelectionByPattern_apply_button", tr("&Zones"));
     m_groupsButton = addButton(*layout, "mapSelectionByPattern_groups_button", tr("&Groups"));
     m_clearButton = addButton(*layout, "mapSelectionByPattern_clear_button", tr("C&lear"));
-    layout->addStretch();
+    m_counts = new QLabel(this);
+    m_counts->setObjectName(QStringLiteral("mapSelectionByPattern_counts_label"));
+    m_counts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_counts->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    layout->addWidget(m_counts);
     layout->setStretch(5, 1);
+}
+
+void MapSelectionByPattern::showCounts(int selectedRows, int rows)
+{
+    const QString selected = tr("%L1 of %L2 selected").arg(selectedRows).arg(rows);
+    if (!m_foundRows)
+        m_counts->setText(selected);
+    else if (*m_foundRows == 0)
+        m_counts->setText(tr("Nothing found, %1").arg(selected));
+    else
+        m_counts->setText(tr("%L1 found, %2").arg(*m_foundRows).arg(selected));
+    m_counts->setToolTip(m_counts->text());
 }
 
 QPushButton* MapSelectionByPattern::addButton(QHBoxLayout& layout, const char* objectName,
@@ -136,6 +155,7 @@ void MapSelectionByPattern::send(SelectOption_s option)
 
 void MapSelectionByPattern::selectionChanged()
 {
+    m_foundRows.reset();
     m_properties->selectionChanged().set(true);
 }
 

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 class QHBoxLayout;
@@ -41,6 +42,11 @@ public:
     QPushButton& applyButton() { return *m_applyButton; }
     QPushButton& groupsButton() { return *m_groupsButton; }
 
+    /// Tells beside the buttons how many rows are selected; after a pattern, also how many it
+    /// found.
+    void showCounts(int selectedRows, int rows);
+    void setFoundRows(std::optional<int> rows) { m_foundRows = rows; } ///< nothing: no pattern
+
     /// Puts the fields behind a widget of the same window in the order of the Tab key.
     void setTabOrderAfter(QWidget& widget);
 
@@ -69,6 +75,8 @@ private:
     QPushButton* m_applyButton;
     QPushButton* m_groupsButton;
     QPushButton* m_clearButton;
+    QLabel* m_counts;
+    std::optional<int> m_foundRows; ///< by the last pattern, until the selection changes by hand
     std::unique_ptr<propertymanager::MapSelectionByPatternPropertiesManager> m_properties;
     std::unique_ptr<Bindings> m_bindings;
 };

@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -129,6 +130,24 @@ void TableView::rowsInsertedSlot(const QModelIndex&, int, int)
 {
     m_selectedRows.known = false;
     updateGeometries();
+}
+
+/// A header that was scrolled while another view state was shown comes with that offset.
+void TableView::updateGeometries()
+{
+    TableViewWithPreferredDimensions::updateGeometries();
+    if (horizontalScrollMode() == ScrollPerPixel)
+        horizontalHeader()->setOffset(horizontalScrollBar()->value());
+}
+
+/// On a screen with a fractional scale the frame round the current cell reaches beyond it.
+void TableView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    TableViewWithPreferredDimensions::currentChanged(current, previous);
+    for (const QModelIndex& index : {current, previous}) {
+        if (index.isValid())
+            viewport()->update(visualRect(index).adjusted(-2, -2, 2, 2));
+    }
 }
 
 const TableView::SelectedRows& TableView::selectedRows() const

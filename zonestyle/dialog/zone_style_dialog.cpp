@@ -16,10 +16,12 @@
 #include <sdk/propertymanager/relevance_expression.h>
 #include <sdk/signals/signal_connection_collection.h>
 #include <sdk/signals/state_change_event_observable.h>
+#include <sdk/uicommon/edit_session.h>
 #include <sdk/uicommon/on_idle_action_performer_single_shot.h>
 
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QTabWidget>
 
@@ -41,6 +43,10 @@ static QWidget& promptParent()
     return ZoneStyleDialog::getInstance(corvala::ui::findMainWindow(),
                                         corvala::dialogs::common::DialogInitialization_None);
 }
+
+/// From the start: an action may be used before the dialog was ever asked for.
+[[maybe_unused]] static const bool kIsPromptParent =
+    (zonestyle::intern::actions::setPromptParentProvider(promptParent), true);
 
 ZoneStyleDialog& ZoneStyleDialog::getInstance(QWidget& parent,
                                               DialogInitialization_e initialization)
@@ -68,12 +74,13 @@ ZoneStyleDialog::ZoneStyleDialog(QWidget& parent)
           std::make_unique<OnIdleActionPerformerSingleShot>([this] { processStateChange(); }))
     , m_pickPerformer(
           std::make_unique<OnIdleActionPerformerSingleShot>([this] { selectPickedObjects(); }))
+    , m_countPerformer(
+          std::make_unique<OnIdleActionPerformerSingleShot>([this] { showSelectionCounts(); }))
     , m_tableView(std::make_unique<StyleTableView>())
     , m_mapSelection(std::make_unique<MapSelectionByPattern>())
     , m_modelForPageMap(std::make_unique<ModelForPageMap>())
     , m_connections(std::make_unique<signaling::SignalConnectionCollection>())
 {
-    zonestyle::intern::actions::setPromptParentProvider(promptParent);
     m_tableView->setPreferredNumberOfRows(24);
     m_tableView->setPreferredNumberOfColumns(10);
     m_tableView->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -95,6 +102,7 @@ ZoneStyleDialog::ZoneStyleDialog(QWidget& parent)
 /// The view must go at once after the header that it shows.
 ZoneStyleDialog::~ZoneStyleDialog()
 {
+    EditSession::closeAll();
     destroyHeaders();
     destroySelectionModels();
     m_tableView.reset();
@@ -127,7 +135,26 @@ void ZoneStyleDialog::setVisible(bool visible)
             m_tableView->setFocus();
         }
     }
+    if (!visible && isVisible())
+        finishEditing();
     QtDialogAbstract::setVisible(visible);
+}
+
+/// An editor in the table commits as it does when the focus goes elsewhere; what is open over the
+/// dialog goes with it.
+void ZoneStyleDialog::finishEditing()
+{
+    if (m_tableView->isVisible())
+        m_tableView->setFocus();
+    EditSession::closeAll();
+}
+
+/// What is left of the screen beside the frame of a window.
+static QSize roomOnScreen(const QWidget& window)
+{
+    constexpr QSize kFrame(16, 48);
+    const QWidget& place = window.parentWidget() ? *window.parentWidget() : window;
+    return place.screen()->availableSize() - kFrame;
 }
 
 /// The sizes that the form had without a table are still remembered: tab widgets that are not
@@ -138,7 +165,12 @@ void ZoneStyleDialog::adoptPreferredSize()
          {static_cast<QWidget*>(m_form->fieldTabs), static_cast<QWidget*>(m_form->lineTabs),
           static_cast<QWidget*>(m_form->plotTypeStackedWidget)})
         container->updateGeometry();
-    resize(sizeHint().expandedTo(minimumSizeHint()));
+    const QSize room = roomOnScreen(*this);
+    if (minimumSizeHint().width() > room.width()) {
+        m_form->fieldTabs->setUsesScrollButtons(true);
+        m_form->lineTabs->setUsesScrollButtons(true);
+    }
+    resize(sizeHint().expandedTo(minimumSizeHint()).boundedTo(room));
 }
 
 } // namespace corvala::sdk::ui::dialogs

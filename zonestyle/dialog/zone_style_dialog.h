@@ -7,6 +7,8 @@
 #include <sdk/dialogs_common/dialog_initialization.h>
 #include <sdk/dialogs_common/qt_dialog_abstract.h>
 
+#include <QModelIndexList>
+
 #include <map>
 #include <memory>
 #include <optional>
@@ -124,6 +126,7 @@ private:
 
     // Pages and tabs
     void installHelpAction();
+    void finishEditing();
     void adoptPreferredSize();
     void updateZoneStyleDialog();
     void showFieldPage();
@@ -134,6 +137,7 @@ private:
     int formPosition(const QWidget& page) const;
     void applyAvailableMappingTabs();
     void updateTabs(PlotType_e plotType);
+    void adoptAvailableMappingTabs();
     void restoreLastTab();
     void selectWantedTab();
     void saveLastTab();
@@ -148,7 +152,7 @@ private:
     void addTableViewAndFilterTo(QWidget* page);
     TableColumnHeader* getHeaderForModel(ModelAbstract* model);
     void configureColumnHeader(TableColumnHeader* header);
-    void replaceColumnHeader(TableColumnHeader* header, QWidget* page);
+    void replaceColumnHeader(TableColumnHeader* header);
     void destroyHeaders();
 
     // Selection
@@ -158,11 +162,14 @@ private:
     void makeSelectionFitModel();
     void scrollTableViewToSelection(int row);
     void selectPickedObjects();
+    void showSelectionCounts();
 
     // Map commands
+    QModelIndexList selectedLineMapRows();
     void deleteLineMaps(toolbox::Set const& lineMaps);
 
     // Following the document
+    void noteMissed(toolbox::StateChangeEventInterface const& event);
     void stateChanged(toolbox::StateChangeEventInterface const& event);
     void processStateChangeOnIdle();
     void processStateChange();
@@ -172,6 +179,7 @@ private:
     std::unique_ptr<zonestyle::intern::ZoneStyleForm> m_form;
     std::unique_ptr<OnIdleActionPerformerSingleShot> m_stateChangePerformer;
     std::unique_ptr<OnIdleActionPerformerSingleShot> m_pickPerformer;
+    std::unique_ptr<OnIdleActionPerformerSingleShot> m_countPerformer;
     corvala::dialogs::common::TabWidgetLaunchHelpAction* m_helpAction = nullptr; ///< owned by Qt
     std::unique_ptr<zonestyle::intern::views::StyleTableView> m_tableView;
     ModelAbstract* m_currentModel = nullptr; ///< not owned

@@ -3,35 +3,41 @@
 #include "zonestyle/actions/style_write.h"
 #include "zonestyle/controls/selected_rows.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
+#include "zonestyle/dialog/zone_style_form.h"
 #include "zonestyle/views/style_table_view.h"
 
 #include <sdk/base/cvl.h>
 #include <sdk/common/app_lock.h>
 #include <sdk/common/common.h>
 #include <sdk/dialogs_lineplot/line_map_create_dialog.h>
+#include <sdk/uicommon/question.h>
 
-#include <QMessageBox>
 #include <QPointer>
+#include <QTabWidget>
 
 namespace corvala::sdk::ui::dialogs {
 
 namespace actions = zonestyle::intern::actions;
 
-static QModelIndexList selectedRows(const QTableView& view)
+/// None while no table of line maps is shown: the table may still have the rows of zones selected.
+QModelIndexList ZoneStyleDialog::selectedLineMapRows()
 {
-    return view.selectionModel() ? uicontrols::selectedRows(*view.selectionModel())
-                                 : QModelIndexList();
+    const bool showsLineMaps = getCurrentTabWidget() == m_form->lineTabs
+        && m_form->lineTabs->currentWidget() == m_tableView->parentWidget()
+        && m_tableView->selectionModel();
+    return showsLineMaps ? uicontrols::selectedRows(*m_tableView->selectionModel())
+                         : QModelIndexList();
 }
 
-/// Hands the line maps of the selected rows to a host function.
-static void applyToSelectedMaps(const QTableView& view, CvlBool (*apply)(CvlSetHandle))
+/// Hands the line maps of some rows to a host function.
+static void applyToMaps(const QModelIndexList& rows, CvlBool (*apply)(CvlSetHandle))
 {
     const AppLock lock(ImplicitMacroRecording_None);
     CvlSetHandle maps = CvlUtilSetAlloc(true);
     if (!maps)
         return;
     bool complete = true;
-    for (const QModelIndex& row : selectedRows(view))
+    for (const QModelIndex& row : rows)
         complete = CvlUtilSetAddMember(maps, row.row() + 1, true) != 0;
     if (complete && !CvlUtilSetIsEmpty(maps))
         apply(maps);
@@ -45,7 +51,7 @@ void ZoneStyleDialog::on_plotAttr_MaptoolsCreateMap_Button_clicked(bool)
 
 void ZoneStyleDialog::on_plotAttr_MaptoolsCopyMap_Button_clicked(bool)
 {
-    const toolbox::Set maps = actions::mapSet(selectedRows(*m_tableView));
+    const toolbox::Set maps = actions::mapSet(selectedLineMapRows());
     if (maps.isEmpty())
         return;
     const AppLock lock(ImplicitMacroRecording_None);
@@ -54,17 +60,14 @@ void ZoneStyleDialog::on_plotAttr_MaptoolsCopyMap_Button_clicked(bool)
 
 void ZoneStyleDialog::on_plotAttr_MaptoolsDeleteMap_Button_clicked(bool)
 {
-    if (selectedRows(*m_tableView).isEmpty())
+    const toolbox::Set maps = actions::mapSet(selectedLineMapRows());
+    if (maps.isEmpty())
         return;
     const QPointer<ZoneStyleDialog> self(this);
-    const ModelAbstract* const askedFor = m_currentModel;
-    const auto answer = QMessageBox::warning(
-        this, tr("Linemap Delete"), tr("Are you sure you want to\ndelete the selected mappings?"),
-        QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel);
-    if (!self || answer != QMessageBox::Ok || m_currentModel != askedFor)
-        return;
-    const toolbox::Set maps = actions::mapSet(selectedRows(*m_tableView)); // that are left
-    if (!maps.isEmpty())
+    const bool isConfirmed = ask(this, QMessageBox::Warning, tr("Linemap Delete"),
+                                 tr("Are you sure you want to\ndelete the selected mappings?"),
+                                 QMessageBox::Ok, QMessageBox::Cancel, QMessageBox::Cancel);
+    if (self && isConfirmed)
         deleteLineMaps(maps);
 }
 
@@ -81,12 +84,12 @@ void ZoneStyleDialog::deleteLineMaps(toolbox::Set const& lineMaps)
 
 void ZoneStyleDialog::on_plotAttr_MaptoolsMoveToTop_Button_clicked(bool)
 {
-    applyToSelectedMaps(*m_tableView, CvlUtilLineMapShiftToTop);
+    applyToMaps(selectedLineMapRows(), CvlUtilLineMapShiftToTop);
 }
 
 void ZoneStyleDialog::on_plotAttr_MaptoolsMoveToBottom_Button_clicked(bool)
 {
-    applyToSelectedMaps(*m_tableView, CvlUtilLineMapShiftToBottom);
+    applyToMaps(selectedLineMapRows(), CvlUtilLineMapShiftToBottom);
 }
 
 } // namespace corvala::sdk::ui::dialogs

@@ -82,14 +82,20 @@ private:
 
 /// A dialog that is not open asks the host nothing: which kind of plot it would show is found out
 /// when it is.
+void ZoneStyleDialog::noteMissed(StateChangeEventInterface const& event)
+{
+    m_changeMissed = m_changeMissed || isRelevant(event, true);
+    m_plotTypeChangeMissed = m_plotTypeChangeMissed || isPlotTypeChange(event);
+}
+
 void ZoneStyleDialog::stateChanged(StateChangeEventInterface const& event)
 {
     if (!isVisible()) {
-        m_changeMissed = m_changeMissed || isRelevant(event, true);
-        m_plotTypeChangeMissed = m_plotTypeChangeMissed || isPlotTypeChange(event);
+        noteMissed(event);
         return;
     }
     if (hasNothingToShow()) {
+        noteMissed(event); // the dialog closes on what it shows
         close();
         return;
     }
@@ -126,6 +132,7 @@ void ZoneStyleDialog::refresh()
     updateZoneStyleDialog();
     if (before && before == m_currentModel)
         Q_EMIT m_currentModel->layoutChanged();
+    m_countPerformer->enableNotification();
     ++m_refreshCount;
 }
 

@@ -6,6 +6,7 @@
 #include "zonestyle/views/style_table_view.h"
 
 #include <sdk/base/cvl.h>
+#include <sdk/uicommon/on_idle_action_performer_single_shot.h>
 
 #include <algorithm>
 #include <vector>
@@ -101,8 +102,11 @@ std::vector<int> pickedRows(int rowCount)
 QItemSelectionModel* ZoneStyleDialog::getSelectionModelFor(ModelAbstract* model)
 {
     QItemSelectionModel*& selectionModel = m_selectionModels[model];
-    if (!selectionModel)
+    if (!selectionModel) {
         selectionModel = new QItemSelectionModel(model);
+        connect(selectionModel, &QItemSelectionModel::selectionChanged, this,
+                [this] { m_countPerformer->enableNotification(); });
+    }
     return selectionModel;
 }
 
@@ -147,6 +151,13 @@ void ZoneStyleDialog::scrollTableViewToSelection(int row)
     m_tableView->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
 }
 
+void ZoneStyleDialog::showSelectionCounts()
+{
+    const QItemSelectionModel* selection = m_tableView->selectionModel();
+    if (selection && m_currentModel)
+        m_mapSelection->showCounts(RowBitmap(*selection).count(), m_currentModel->rowCount());
+}
+
 void ZoneStyleDialog::selectPickedObjects()
 {
     catchUp();
@@ -173,6 +184,8 @@ void ZoneStyleDialog::selectionPatternChanged(std::string const& pattern, Select
         return;
     const SelectionModelSignalSuspender suspender(*m_mapSelection, *m_tableView);
     m_tableView->clearSelection();
+    m_mapSelection->setFoundRows(std::nullopt);
+    m_countPerformer->enableNotification();
     if (pattern.empty())
         return;
     const bool byName = option == SelectOption_Names;
@@ -181,6 +194,7 @@ void ZoneStyleDialog::selectionPatternChanged(std::string const& pattern, Select
     const QModelIndexList matches =
         m_currentModel->match(m_currentModel->index(0, byName ? 1 : 2), Qt::DisplayRole,
                               QString::fromStdString(pattern), -1, how);
+    m_mapSelection->setFoundRows(matches.size());
     QItemSelection found;
     int smallest = kNoRow;
     for (int first = 0, last = 0; first < matches.size(); first = last + 1) {

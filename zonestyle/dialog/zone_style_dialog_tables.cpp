@@ -9,6 +9,9 @@
 #include "zonestyle/models/model_for_page_map.h"
 #include "zonestyle/views/style_table_view.h"
 
+#include <sdk/uicommon/edit_session.h>
+#include <sdk/uicommon/on_idle_action_performer_single_shot.h>
+
 #include <QGridLayout>
 #include <QTabWidget>
 
@@ -76,14 +79,15 @@ void ZoneStyleDialog::setupTableView()
     saveLastTab();
 }
 
+/// The view is on no page while its header, model and selection model are exchanged: a layout that
+/// measured it in between would ask a header for columns that the model does not have.
 void ZoneStyleDialog::showTable(QWidget& page, ModelAbstract& model)
 {
     const FocusKeeper focus(*this, *m_tableView);
+    EditSession::closeAll();
     TableColumnHeader* header = getHeaderForModel(&model);
-    replaceColumnHeader(header, &page);
+    replaceColumnHeader(header);
     QItemSelectionModel* previous = m_tableView->selectionModel();
-    setTabOrder(m_form->lineTabs, m_tableView.get());
-    m_mapSelection->setTabOrderAfter(*m_tableView);
     QItemSelectionModel* target = getSelectionModelFor(&model);
     {
         const SelectionModelSignalSuspender suspender(*m_mapSelection, *m_tableView);
@@ -93,6 +97,10 @@ void ZoneStyleDialog::showTable(QWidget& page, ModelAbstract& model)
             copySelection(target, previous);
     }
     configureColumnHeader(header);
+    m_countPerformer->enableNotification();
+    addTableViewAndFilterTo(&page);
+    setTabOrder(m_form->lineTabs, m_tableView.get());
+    m_mapSelection->setTabOrderAfter(*m_tableView);
 }
 
 /// Line pages are told apart by their place in the form, field pages by their place among the tabs.
@@ -106,7 +114,7 @@ int ZoneStyleDialog::tabKey(QWidget& page)
 /// one, and a header that is still a child of the view is deleted when the view gets the next. What
 /// it recorded comes back before the view sizes its columns: the plot type may be another one
 /// since.
-void ZoneStyleDialog::replaceColumnHeader(TableColumnHeader* header, QWidget* page)
+void ZoneStyleDialog::replaceColumnHeader(TableColumnHeader* header)
 {
     m_tableView->setParent(nullptr);
     header->setModel(m_currentModel);
@@ -119,7 +127,6 @@ void ZoneStyleDialog::replaceColumnHeader(TableColumnHeader* header, QWidget* pa
     header->restoreSections();
     header->show();
     m_mapSelection->setParent(nullptr);
-    addTableViewAndFilterTo(page);
 }
 
 /// The layout makes them children of the page; shown before, they would be windows of their own.

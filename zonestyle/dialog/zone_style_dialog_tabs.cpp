@@ -38,6 +38,32 @@ static PlotType_e activePlotType()
     return static_cast<PlotType_e>(CvlUtilFrameGetPlotType());
 }
 
+using LineTabs = std::vector<ZoneStyleDialog::MappingStyleTab_e>;
+
+/// In the order of the form.
+static LineTabs shownTabs(PlotType_e plotType,
+                          const std::set<ZoneStyleDialog::MappingStyleTab_e>& available)
+{
+    LineTabs shown;
+    for (const auto tab : available) {
+        const bool isOfXY = tab == ZoneStyleDialog::MappingStyleTab_ErrorBars
+            || tab == ZoneStyleDialog::MappingStyleTab_BarCharts;
+        if (plotType == PlotType_LineXY || !isOfXY)
+            shown.push_back(tab);
+    }
+    return shown;
+}
+
+/// Where the tab of an index is among other tabs; the first when it is not there.
+static int movedTab(int index, const LineTabs& before, const LineTabs& after)
+{
+    if (index < 0 || index >= static_cast<int>(before.size()))
+        return index;
+    const auto found =
+        std::find(after.begin(), after.end(), before[static_cast<std::size_t>(index)]);
+    return found == after.end() ? 0 : static_cast<int>(found - after.begin());
+}
+
 std::set<ZoneStyleDialog::MappingStyleTab_e> ZoneStyleDialog::defaultAvailableMappingTabs()
 {
     return {MappingStyleTab_Definitions, MappingStyleTab_Lines,     MappingStyleTab_Curves,
@@ -48,11 +74,25 @@ void ZoneStyleDialog::setAvailableMappingStyleTabs(std::set<MappingStyleTab_e> c
 {
     if (&tabs == &m_availableMappingTabs)
         return;
+    for (const PlotType_e plotType : {PlotType_LineXY, PlotType_LinePolar})
+        lastTab(plotType) = movedTab(lastTab(plotType), shownTabs(plotType, m_availableMappingTabs),
+                                     shownTabs(plotType, tabs));
     m_availableMappingTabs = tabs;
-    if (!m_dialogInstance)
+    if (m_dialogInstance)
+        m_dialogInstance->adoptAvailableMappingTabs();
+}
+
+/// A closed dialog reads nothing of the document: it catches up when it is shown.
+void ZoneStyleDialog::adoptAvailableMappingTabs()
+{
+    applyAvailableMappingTabs();
+    if (!isVisible()) {
+        m_changeMissed = true;
+        m_plotTypeChangeMissed = true;
         return;
-    m_dialogInstance->applyAvailableMappingTabs();
-    m_dialogInstance->updateTabs(activePlotType()); // a polar plot has no error bars and bar charts
+    }
+    updateTabs(activePlotType()); // a polar plot has no error bars and bar charts
+    saveLastTab(); // its index may be another one
 }
 
 void ZoneStyleDialog::updateZoneStyleDialog()
@@ -224,14 +264,20 @@ void ZoneStyleDialog::confirmScatterVarAssignment()
     autoAssignScatterVariable();
 }
 
+// The tabs of a closed dialog change when it adopts the document, which shows the table itself.
+
 void ZoneStyleDialog::on_plotAttr_FD_PageGroup_currentChanged(int)
 {
+    if (!isVisible())
+        return;
     confirmScatterVarAssignment();
     setupTableView();
 }
 
 void ZoneStyleDialog::on_plotAttr_LP_PageGroup_currentChanged(int)
 {
+    if (!isVisible())
+        return;
     setupTableView();
 }
 

@@ -60,6 +60,11 @@ int ModelAbstract::localEditorType(int) const
     return EditorType_None;
 }
 
+bool ModelAbstract::localHasActions(int) const
+{
+    return false;
+}
+
 int ModelAbstract::localEditorOption(int) const
 {
     return 0;
@@ -80,6 +85,12 @@ QList<QAction*> ModelAbstract::columnActions(QItemSelectionModel* selection, int
 {
     const ModelAbstract* link = linkOf(column);
     return link ? link->localActions(selection, column) : QList<QAction*>();
+}
+
+bool ModelAbstract::columnHasActions(int column) const
+{
+    const ModelAbstract* link = linkOf(column);
+    return link && link->localHasActions(column);
 }
 
 int ModelAbstract::columnEditorType(int column) const

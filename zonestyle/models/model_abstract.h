@@ -42,6 +42,8 @@ public:
     Q_INVOKABLE virtual bool isRelevant(const QModelIndex& index) const;
     // New entries for the menu of a column, for the rows selected now. The caller owns them.
     virtual QList<QAction*> localActions(QItemSelectionModel* selection, int column) const = 0;
+    // Whether localActions gives any, for whatever rows; cheaper than to ask it.
+    virtual bool localHasActions(int column) const;
     // Whether one of the link's own cells applies.
     virtual bool isLocalRelevant(const QModelIndex& index) const = 0;
     // An EditorType_e.
@@ -54,6 +56,7 @@ public:
     Q_INVOKABLE QList<QAction*> columnActions(QItemSelectionModel* selection, int column) const;
     Q_INVOKABLE int columnEditorType(int column) const;
     Q_INVOKABLE int columnEditorOption(int column) const;
+    bool columnHasActions(int column) const;
 
     /// The maps whose rows the indexes are in.
     static toolbox::Set toMapSet(const QModelIndexList& indexes);

@@ -11,6 +11,7 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
 BooleanItemDelegate::BooleanItemDelegate(QAbstractItemView& view)
     : ItemDelegate(view)
 {
+    view.viewport()->installEventFilter(this);
 }
 
 /// Moves the cell so that the check box, which Qt puts at its side, lies in the middle.
@@ -61,6 +62,34 @@ bool BooleanItemDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
     }
 }
 
+bool BooleanItemDelegate::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!view() || watched != view()->viewport())
+        return ItemDelegate::eventFilter(watched, event); // of an editor
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        m_pressed = QPersistentModelIndex(); // of a press that never was released here
+        return false;
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease: return holdsPress(*static_cast<QMouseEvent*>(event));
+    default: return false;
+    }
+}
+
+/// Whether the event goes no further than to the check box that is held. A release over another
+/// cell lets go of it.
+bool BooleanItemDelegate::holdsPress(const QMouseEvent& event)
+{
+    if (!m_pressed.isValid())
+        return false;
+    if (event.type() == QEvent::MouseMove)
+        return event.buttons().testFlag(Qt::LeftButton);
+    if (event.button() != Qt::LeftButton || view()->indexAt(event.pos()) == m_pressed)
+        return false;
+    m_pressed = QPersistentModelIndex();
+    return true;
+}
+
 /// With Ctrl or Shift these keys are the table's own: they select rows.
 bool BooleanItemDelegate::handleKey(const QKeyEvent& event, const QModelIndex& index)
 {
@@ -104,14 +133,16 @@ void BooleanItemDelegate::selectPressedRow(Qt::KeyboardModifiers modifiers)
             | (adds ? QItemSelectionModel::Select : QItemSelectionModel::ClearAndSelect));
 }
 
+/// A release beside the box changes nothing, and must not make the view select the one row either.
 bool BooleanItemDelegate::handleRelease(const QMouseEvent& event,
                                         const QStyleOptionViewItem& option,
                                         const QModelIndex& index)
 {
-    const bool counts = m_pressed.isValid() && m_pressed == index
-        && event.button() == Qt::LeftButton && isOnCheckBox(option, index, event.pos());
+    const bool isHeld = m_pressed.isValid() && m_pressed == index;
     m_pressed = QPersistentModelIndex();
-    return counts && toggleSelectedRows(index);
+    if (isHeld && event.button() == Qt::LeftButton && isOnCheckBox(option, index, event.pos()))
+        toggleSelectedRows(index);
+    return isHeld;
 }
 
 /// False when the cell cannot be checked or is not selected.

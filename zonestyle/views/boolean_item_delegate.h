@@ -16,6 +16,9 @@ public:
 
     bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
                      const QModelIndex& index) override;
+    /// While the button is held on a check box, what the mouse does belongs to that box alone: the
+    /// view would select the rows that it moves over.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     /// Draws no text: it would cover the check box with the background of a selected cell.
@@ -29,6 +32,7 @@ private:
                                        const QModelIndex& index) const;
     bool isOnCheckBox(const QStyleOptionViewItem& option, const QModelIndex& index,
                       const QPoint& position) const;
+    bool holdsPress(const QMouseEvent& event);
     bool handleKey(const QKeyEvent& event, const QModelIndex& index);
     bool handlePress(QMouseEvent& event, QAbstractItemModel& model,
                      const QStyleOptionViewItem& option, const QModelIndex& index);

@@ -3,10 +3,13 @@
 
 #include "zonestyle/models/model_abstract.h"
 
+#include <sdk/uicommon/edit_session.h>
+
 #include <QApplication>
 #include <QComboBox>
 #include <QHelpEvent>
 #include <QLineEdit>
+#include <QMetaProperty>
 #include <QPainter>
 #include <QTimer>
 #include <QToolTip>
@@ -21,6 +24,26 @@ static bool isRelevant(const QModelIndex& index)
     const auto* model = qobject_cast<const models::ModelAbstract*>(index.model());
     return !model || model->isRelevant(index);
 }
+
+namespace {
+
+/// Lives as long as an editor, and closes it without an edit when the cell may be another one.
+class EditorSession : public QObject
+{
+public:
+    EditorSession(ItemDelegate& delegate, QWidget& editor)
+        : QObject(&editor)
+        , m_session([&delegate, &editor] {
+            Q_EMIT delegate.closeEditor(&editor, QAbstractItemDelegate::RevertModelCache);
+        })
+    {
+    }
+
+private:
+    EditSession m_session;
+};
+
+} // namespace
 
 ItemDelegate::ItemDelegate(QAbstractItemView& view)
     : QItemDelegate(&view)
@@ -66,6 +89,11 @@ QSize ItemDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInd
     return contentsSize(option, index) + QSize(0, 2 * kVerticalPadding);
 }
 
+int ItemDelegate::fittingWidth(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    return QItemDelegate::sizeHint(option, index).width();
+}
+
 QSize ItemDelegate::contentsSize(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     return QItemDelegate::sizeHint(option, index);
@@ -74,7 +102,10 @@ QSize ItemDelegate::contentsSize(const QStyleOptionViewItem& option, const QMode
 QWidget* ItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
                                     const QModelIndex& index) const
 {
-    return isRelevant(index) ? makeEditor(parent, index) : nullptr;
+    QWidget* editor = isRelevant(index) ? makeEditor(parent, index) : nullptr;
+    if (editor)
+        new EditorSession(*const_cast<ItemDelegate*>(this), *editor);
+    return editor;
 }
 
 QWidget* ItemDelegate::makeEditor(QWidget* parent, const QModelIndex&) const
@@ -115,11 +146,23 @@ void ItemDelegate::fillEditor(QWidget* editor, const QModelIndex& index) const
 void ItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                 const QModelIndex& index) const
 {
-    const QPersistentModelIndex written(index);
-    const QPointer<QAbstractItemView> view = m_view;
-    QItemDelegate::setModelData(editor, model, index); // may ask the user
-    if (view && view->model() == written.model() && view->selectionModel())
-        view->selectionModel()->setCurrentIndex(written, QItemSelectionModel::NoUpdate);
+    const QVariant value = editedValue(*editor);
+    if (!value.isValid())
+        return;
+    const auto write = [model, value, written = QPersistentModelIndex(index), view = m_view,
+                        generation = EditSession::documentGeneration()] {
+        if (!written.isValid() || generation != EditSession::documentGeneration())
+            return;
+        if (view && view->model() == model && view->selectionModel())
+            view->selectionModel()->setCurrentIndex(written, QItemSelectionModel::NoUpdate);
+        model->setData(written, value, Qt::EditRole);
+    };
+    QTimer::singleShot(0, model, write);
+}
+
+QVariant ItemDelegate::editedValue(const QWidget& editor) const
+{
+    return editor.property(editor.metaObject()->userProperty().name());
 }
 
 bool ItemDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
@@ -140,8 +183,8 @@ bool ItemDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                              const QStyleOptionViewItem& option, const QModelIndex& index)
 {
     const QVariant shown = index.data(Qt::DisplayRole);
-    const bool isCut = shown.type() == QVariant::String
-        && QItemDelegate::sizeHint(option, index).width() > option.rect.width();
+    const bool isCut =
+        shown.type() == QVariant::String && fittingWidth(option, index) > option.rect.width();
     if (event->type() != QEvent::ToolTip || !isCut || index.data(Qt::ToolTipRole).isValid())
         return QItemDelegate::helpEvent(event, view, option, index);
     QToolTip::showText(event->globalPos(),
@@ -166,7 +209,13 @@ void ItemDelegate::drawFocus(QPainter* painter, const QStyleOptionViewItem& opti
     if (!option.state.testFlag(QStyle::State_HasFocus) || !rect.isValid())
         return;
     painter->save();
-    painter->setPen(option.state.testFlag(QStyle::State_Enabled) ? m_blackPen : m_darkGreyPen);
+    const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
+    constexpr int kDark = 128;
+    if (option.palette.color(QPalette::Base).lightness() < kDark)
+        painter->setPen(option.palette.color(isEnabled ? QPalette::Active : QPalette::Disabled,
+                                             QPalette::Text));
+    else
+        painter->setPen(isEnabled ? m_blackPen : m_darkGreyPen);
     painter->drawRect(rect.adjusted(0, 0, -1, -1));
     painter->restore();
 }

@@ -21,11 +21,15 @@ public:
                const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
+    /// Width in which the contents of the cell are not cut.
+    int fittingWidth(const QStyleOptionViewItem& option, const QModelIndex& index) const;
+
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
     /// Fills the editor once; a refresh of the table does not touch what the user has typed since.
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
-    /// Writes to this one cell and makes it the current one.
+    /// Writes to this one cell, and makes it the current one, as soon as the view is done with the
+    /// editor: a write may ask the user.
     void setModelData(QWidget* editor, QAbstractItemModel* model,
                       const QModelIndex& index) const override;
     bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
@@ -46,6 +50,8 @@ protected:
     virtual QWidget* makeEditor(QWidget* parent, const QModelIndex& index) const;
     // Shows the value of the cell in a new editor.
     virtual void fillEditor(QWidget* editor, const QModelIndex& index) const;
+    // What an editor is to write; an invalid value writes nothing.
+    virtual QVariant editedValue(const QWidget& editor) const;
 
     QAbstractItemView* view() const { return m_view; }
     const QPen& framePen() const { return m_darkGreyPen; }

@@ -78,6 +78,13 @@ void ListItemDelegate::fillEditor(QWidget* editor, const QModelIndex& index) con
     list->setCurrentIndex(list->findText(shown, m_editable ? Qt::MatchContains : Qt::MatchExactly));
 }
 
+QVariant ListItemDelegate::editedValue(const QWidget& editor) const
+{
+    const auto& list = dynamic_cast<const corvala::ui::ComboBoxAutoFilter&>(editor);
+    const int entry = list.entryFor(list.currentText());
+    return entry < 0 ? QVariant() : list.itemText(entry);
+}
+
 void ListItemDelegate::onSelectionComplete()
 {
     auto* editor = qobject_cast<QWidget*>(sender());

@@ -22,6 +22,8 @@ protected:
     QSize contentsSize(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     QWidget* makeEditor(QWidget* parent, const QModelIndex& index) const override;
     void fillEditor(QWidget* editor, const QModelIndex& index) const override;
+    /// The entry that the text stands for, however the editing ended; nothing for any other text.
+    QVariant editedValue(const QWidget& editor) const override;
 
 private Q_SLOTS:
     void onSelectionComplete();

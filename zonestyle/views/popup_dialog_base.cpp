@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/views/popup_dialog_base.h"
 
+#include <sdk/uicommon/edit_session.h>
+
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QGuiApplication>
@@ -15,6 +17,7 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
 struct PopupDialogBase::Private
 {
     Commit commit;
+    std::optional<QString> entered; ///< to be committed
     QEventLoop* loop = nullptr; ///< of run(), while it waits
     int resultAtClose = QDialog::Rejected;
     bool closeSeen = false;
@@ -40,16 +43,37 @@ PopupDialogBase::~PopupDialogBase()
 void PopupDialogBase::run(PopupDialogBase* popup)
 {
     const QPointer<PopupDialogBase> guard(popup);
-    QEventLoop loop; // QDialog::exec would reset the result
-    popup->d->loop = &loop;
-    popup->moveOntoScreen();
-    popup->show();
-    if (guard && guard->isVisible())
-        loop.exec(QEventLoop::DialogExec);
+    waitFor(*popup);
     if (!guard)
         return;
-    guard->d->loop = nullptr;
-    guard->deleteLater();
+    guard->commitEntered();
+    if (guard) // a commit may ask the user
+        guard->deleteLater();
+}
+
+void PopupDialogBase::waitFor(PopupDialogBase& popup)
+{
+    const QPointer<PopupDialogBase> guard(&popup);
+    const EditSession session([guard] {
+        if (guard)
+            guard->reject();
+    });
+    QEventLoop loop; // QDialog::exec would reset the result
+    popup.d->loop = &loop;
+    popup.moveOntoScreen();
+    popup.show();
+    if (guard && guard->isVisible())
+        loop.exec(QEventLoop::DialogExec);
+    if (guard)
+        guard->d->loop = nullptr;
+}
+
+void PopupDialogBase::commitEntered()
+{
+    const Commit commit = std::exchange(d->commit, nullptr);
+    const std::optional<QString> text = std::exchange(d->entered, std::nullopt);
+    if (commit && text)
+        commit(*text);
 }
 
 /// Near the right and bottom borders a pop-up opens towards the other side.
@@ -77,14 +101,12 @@ void PopupDialogBase::hideEvent(QHideEvent* event)
     QDialog::hideEvent(event);
     if (event->spontaneous())
         return;
+    if (result() == Accepted || (d->closeSeen && d->resultAtClose == Accepted))
+        d->entered = enteredText();
     if (d->loop)
-        d->loop->quit();
-    const bool accepted = result() == Accepted || (d->closeSeen && d->resultAtClose == Accepted);
-    const Commit commit = std::exchange(d->commit, nullptr);
-    if (!accepted || !commit)
-        return;
-    if (const std::optional<QString> text = enteredText())
-        commit(*text);
+        d->loop->quit(); // commits when this is over: the pop-up may go while the user is asked
+    else
+        commitEntered();
 }
 
 void PopupDialogBase::keyPressEvent(QKeyEvent* event)

@@ -19,7 +19,7 @@ public:
     using Commit = std::function<void(const QString& text)>;
 
     /// The position is that of the top left corner, as far as the screen has room there. `commit`
-    /// is called at most once, while the pop-up closes.
+    /// is called at most once, when the pop-up has closed.
     PopupDialogBase(const QPoint& globalPosition, QWidget* parent, Commit commit);
     ~PopupDialogBase() override;
 
@@ -38,6 +38,8 @@ protected:
     virtual std::optional<QString> enteredText() const = 0;
 
 private:
+    static void waitFor(PopupDialogBase& popup);
+    void commitEntered();
     void moveOntoScreen();
 
     struct Private;

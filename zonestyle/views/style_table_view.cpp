@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/views/style_table_view.h"
 
+#include "zonestyle/actions/action.h"
 #include "zonestyle/models/model_abstract.h"
 #include "zonestyle/views/boolean_item_delegate.h"
 #include "zonestyle/views/color_item_delegate.h"
@@ -12,13 +13,22 @@
 #include "zonestyle/views/text_item_delegate.h"
 
 #include <sdk/base/cvl.h>
+#include <sdk/uicommon/edit_session.h>
 
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QHoverEvent>
 #include <QMenu>
+#include <QPainter>
+#include <QStyleOption>
+#include <QTimer>
+#include <QToolTip>
+#include <QWindow>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <map>
 #include <tuple>
 
@@ -62,6 +72,8 @@ StyleTableView::StyleTableView(QWidget* parent)
     setCornerButtonEnabled(false);
     setAccessibleName(tr("Style table"));
     setHorizontalScrollMode(ScrollPerPixel);
+    setTextElideMode(Qt::ElideMiddle); // what tells long names apart is at their end
+    viewport()->setAttribute(Qt::WA_Hover);
     adoptPalette();
     connect(qApp, &QGuiApplication::paletteChanged, this, &StyleTableView::adoptPalette);
 }
@@ -97,6 +109,7 @@ void StyleTableView::setModel(ModelAbstract* newModel, int tabKey)
     m_tabKey = tabKey;
     adoptRowHeight();
     TableView::setModel(newModel);
+    horizontalHeader()->viewport()->installEventFilter(this);
     installDelegates();
     sizeColumns(Sizing::KeepRemembered);
     connect(verticalHeader(), &QHeaderView::sectionCountChanged, this,
@@ -105,8 +118,13 @@ void StyleTableView::setModel(ModelAbstract* newModel, int tabKey)
 
 void StyleTableView::adoptPlotType()
 {
-    if (m_plotType != CvlUtilFrameGetPlotType())
-        sizeColumns(Sizing::KeepRemembered);
+    if (!m_model || m_plotType == CvlUtilFrameGetPlotType())
+        return;
+    m_plotType = CvlUtilFrameGetPlotType();
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        if (rememberedColumnWidth(column) == 0)
+            rememberColumnWidth(column);
+    }
 }
 
 /// Rows get their height before they exist: changing it afterwards takes a signal for each.
@@ -191,10 +209,12 @@ int StyleTableView::rememberedColumnWidth(int column) const
     return found == columnWidths().end() ? 0 : found->second;
 }
 
+/// All rows are equally high; QTableView::sizeHintForRow would measure the cells of one.
 QSize StyleTableView::minimumSizeHint() const
 {
     const bool hasRows = m_model && m_model->rowCount() > 0;
-    return {1, hasRows ? kLeastRows * sizeHintForRow(0) + kHeaderRoom : kHeaderRoom};
+    const int rowHeight = verticalHeader()->defaultSectionSize() + (showGrid() ? 1 : 0);
+    return {1, hasRows ? kLeastRows * rowHeight + kHeaderRoom : kHeaderRoom};
 }
 
 QModelIndex StyleTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
@@ -236,14 +256,155 @@ void StyleTableView::editCurrentCell()
         openMenuAtCurrentCell();
 }
 
+/// Without a selected row the menu would act on nothing: the one of the cell is selected.
 void StyleTableView::openMenuAtCurrentCell()
 {
     if (!currentIndex().isValid())
         return;
+    if (!uicontrols::hasSelectedRows(*selectionModel()))
+        selectionModel()->select(currentIndex(),
+                                 QItemSelectionModel::Select | QItemSelectionModel::Rows);
     scrollTo(currentIndex());
     const QPoint center = visualRect(currentIndex()).center();
     QContextMenuEvent event(QContextMenuEvent::Other, center, viewport()->mapToGlobal(center));
     contextMenuEvent(&event);
+}
+
+bool StyleTableView::opensOnRightClick(const QModelIndex& index) const
+{
+    if (!index.isValid() || !m_model)
+        return false;
+    static constexpr int kPopups[] = {EditorType_TextPopup, EditorType_ListPopup,
+                                      EditorType_ComboPopup, EditorType_DynamicTextPopup};
+    const int type = m_model->columnEditorType(index.column());
+    const bool hasPopup =
+        std::find(std::begin(kPopups), std::end(kPopups), type) != std::end(kPopups);
+    return (hasPopup && m_model->flags(index).testFlag(Qt::ItemIsEditable))
+        || m_model->columnHasActions(index.column());
+}
+
+/// The arrow of the cell under the mouse and of the current one; empty for any other cell, and for
+/// one that opens nothing or has no room beside its contents.
+QRect StyleTableView::arrowOf(const QModelIndex& index) const
+{
+    constexpr int kSide = 13;
+    constexpr int kLeastWidth = 3 * kSide;
+    const bool isCurrent = index == currentIndex() && (hasFocus() || viewport()->hasFocus());
+    const bool isHovered = m_mouse.x() >= 0 && index == indexAt(m_mouse);
+    const QRect cell = visualRect(index).adjusted(0, 0, -1, -1);
+    if ((!isCurrent && !isHovered) || cell.width() < kLeastWidth || !opensOnRightClick(index))
+        return {};
+    const int side = qMin(kSide, cell.height() - 2);
+    const QRect arrow(cell.right() - side, cell.top() + (cell.height() - side) / 2, side, side);
+    return QStyle::visualRect(layoutDirection(), cell, arrow);
+}
+
+void StyleTableView::paintArrow(QPainter& painter, const QModelIndex& index) const
+{
+    QStyleOption option;
+    option.initFrom(this);
+    option.rect = arrowOf(index);
+    if (option.rect.isEmpty())
+        return;
+    painter.setPen(option.palette.color(QPalette::Mid));
+    painter.setBrush(option.palette.button());
+    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+    option.rect.adjust(2, 2, -2, -2);
+    style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &option, &painter, this);
+}
+
+void StyleTableView::paintEvent(QPaintEvent* event)
+{
+    TableView::paintEvent(event);
+    if (!m_model)
+        return;
+    QPainter painter(viewport());
+    paintArrow(painter, currentIndex());
+    if (m_mouse.x() >= 0 && indexAt(m_mouse) != currentIndex())
+        paintArrow(painter, indexAt(m_mouse));
+}
+
+bool StyleTableView::viewportEvent(QEvent* event)
+{
+    const bool isInside = event->type() == QEvent::HoverMove || event->type() == QEvent::HoverEnter;
+    if (isInside || event->type() == QEvent::HoverLeave) {
+        const QModelIndex before = indexAt(m_mouse);
+        m_mouse = isInside ? static_cast<QHoverEvent*>(event)->pos() : QPoint(-1, -1);
+        const QModelIndex after = indexAt(m_mouse);
+        if (before != after) {
+            viewport()->update(visualRect(before));
+            viewport()->update(visualRect(after));
+        }
+    }
+    return TableView::viewportEvent(event);
+}
+
+void StyleTableView::mousePressEvent(QMouseEvent* event)
+{
+    const QModelIndex index = indexAt(event->pos());
+    if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier
+        && arrowOf(index).contains(event->pos()))
+        openAtArrow(index);
+    else
+        TableView::mousePressEvent(event);
+}
+
+/// As a right click: a row that is not selected becomes the only one that is.
+void StyleTableView::openAtArrow(const QModelIndex& index)
+{
+    if (!isCellSelected(index))
+        selectionModel()->select(index,
+                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    const auto open = [this, cell = QPersistentModelIndex(index)] {
+        if (!cell.isValid() || cell.model() != m_model)
+            return;
+        const QRect place = visualRect(cell);
+        QContextMenuEvent event(QContextMenuEvent::Other, place.center(),
+                                viewport()->mapToGlobal(place.bottomLeft()));
+        contextMenuEvent(&event);
+    };
+    QTimer::singleShot(0, this, open); // the press is over by then
+}
+
+/// The keys stand where the eye begins, on the first header.
+bool StyleTableView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != horizontalHeader()->viewport() || event->type() != QEvent::ToolTip)
+        return TableView::eventFilter(watched, event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    if (horizontalHeader()->logicalIndexAt(help->pos()) == 0)
+        QToolTip::showText(help->globalPos(),
+                           tr("Space switches the check boxes of all selected rows.\n"
+                              "Return or F2 edits the current cell.\n"
+                              "Alt+Down, Menu or Shift+F10 opens its menu.\n"
+                              "Ctrl+A selects all rows; Shift and Ctrl extend the selection.\n"
+                              "A double click on the border of a column fits its width."),
+                           horizontalHeader());
+    return true;
+}
+
+int StyleTableView::fittingWidth(const QModelIndex& index) const
+{
+    const auto* delegate = qobject_cast<const ItemDelegate*>(itemDelegate(index));
+    return delegate ? delegate->fittingWidth(viewOptions(), index) : 0;
+}
+
+int StyleTableView::sizeHintForColumn(int column) const
+{
+    constexpr int kSample = 500;
+    const int rows = m_model ? m_model->rowCount() : 0;
+    int widest = 0;
+    const auto measure = [&](int row) {
+        widest = qMax(widest, fittingWidth(m_model->index(row, column)));
+    };
+    const int first = qMax(0, rowAt(0));
+    const int last = rowAt(viewport()->height() - 1);
+    for (int row = first; row <= (last < 0 ? rows - 1 : last); ++row)
+        measure(row);
+    for (int row = 0; row < rows; row += qMax(1, rows / kSample))
+        measure(row);
+    return widest + (showGrid() ? 1 : 0);
 }
 
 void StyleTableView::contextMenuEvent(QContextMenuEvent* event)
@@ -265,16 +426,26 @@ void StyleTableView::contextMenuEvent(QContextMenuEvent* event)
     showMenu(actions, event->globalPos());
 }
 
-/// The menu and its actions go when it closes, or with the view if that goes first.
+/// The menu and its actions go when it has closed. It is no child of the view, which may be
+/// destroyed while an action of the menu asks the user: the menu would then go in the middle of the
+/// click that chose the action.
 void StyleTableView::showMenu(const QList<QAction*>& actions, const QPoint& globalPosition)
 {
-    const QPointer<QMenu> menu = new QMenu(this);
+    QMenu menu;
     for (QAction* action : actions) {
-        menu->addAction(action);
-        action->setParent(menu);
+        menu.addAction(action);
+        action->setParent(&menu);
+        const auto* entry = qobject_cast<const actions::Action*>(action);
+        if (entry && entry->isPresentValue()) {
+            action->setCheckable(true);
+            action->setChecked(true);
+        }
     }
-    menu->exec(globalPosition);
-    delete menu;
+    menu.winId();
+    menu.windowHandle()->setTransientParent(window()->windowHandle());
+    connect(this, &QObject::destroyed, &menu, &QMenu::close);
+    const EditSession session([&menu] { menu.close(); });
+    menu.exec(globalPosition);
 }
 
 bool StyleTableView::editColumnEvent(QContextMenuEvent* event)

@@ -16,9 +16,10 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
 class ItemDelegate;
 class PopupDialogBase;
 
-/// The table of a tab. A right click (or the Menu key) on a cell opens the column's pop-up editor
-/// or its menu; both act on all selected rows. Return edits the cell in place or opens its menu.
-/// Column widths are remembered by plot type and tab for the life of the process.
+/// The table of a tab. A right click (or the Menu key, or a click on the arrow that the cell under
+/// the mouse and the current one show) opens the column's pop-up editor or its menu; both act on
+/// all selected rows. Return edits the cell in place or opens its menu. Column widths are
+/// remembered by plot type and tab for the life of the process.
 class StyleTableView : public uicontrols::TableView
 {
     Q_OBJECT
@@ -31,8 +32,8 @@ public:
     /// the same plot type.
     void setModel(models::ModelAbstract* model, int tabKey);
 
-    /// To be called when the plot type may be another one: gives the columns the widths that they
-    /// had under it.
+    /// To be called when the plot type may be another one while the table stays: its widths stay,
+    /// too, and are remembered for columns that had none under this plot type.
     void adoptPlotType();
 
     /// Notes the present width of a column, such as after the user dragged its border.
@@ -44,6 +45,13 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    /// What a double click on the border of a column fits it to: the widest of the rows that are
+    /// seen and of a sample of the others.
+    int sizeHintForColumn(int column) const override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -59,6 +67,11 @@ private:
     bool editColumnEvent(QContextMenuEvent* event);
     void editCurrentCell();
     void openMenuAtCurrentCell();
+    bool opensOnRightClick(const QModelIndex& index) const;
+    QRect arrowOf(const QModelIndex& index) const;
+    void paintArrow(QPainter& painter, const QModelIndex& index) const;
+    void openAtArrow(const QModelIndex& index);
+    int fittingWidth(const QModelIndex& index) const;
     void showMenu(const QList<QAction*>& actions, const QPoint& globalPosition);
     PopupDialogBase* makePopup(const QModelIndex& index, const QPoint& globalPosition);
     void commitToSelectedRows(int column, const QString& text);
@@ -71,6 +84,7 @@ private:
     QPointer<models::ModelAbstract> m_model; ///< not owned
     int m_tabKey = 0;
     CvlInt64 m_plotType = 0; ///< that the columns are sized for
+    QPoint m_mouse = {-1, -1}; ///< outside while the mouse is not over the cells
 };
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::views

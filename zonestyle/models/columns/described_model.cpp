@@ -80,6 +80,12 @@ QList<QAction*> DescribedModel<Base>::localActions(QItemSelectionModel* selectio
 }
 
 template<class Base>
+bool DescribedModel<Base>::localHasActions(int column) const
+{
+    return at(column).menu != nullptr;
+}
+
+template<class Base>
 bool DescribedModel<Base>::isLocalRelevant(const QModelIndex& index) const
 {
     if (!Base::isLocalRelevant(index) || !rowApplies(index.row()))

@@ -26,6 +26,7 @@ public:
 
     bool isRelevant(const QModelIndex& index) const override;
     QList<QAction*> localActions(QItemSelectionModel* selection, int column) const override;
+    bool localHasActions(int column) const override;
     bool isLocalRelevant(const QModelIndex& index) const override;
     int localEditorType(int column) const override;
     int localEditorOption(int column) const override;
