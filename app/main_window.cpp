@@ -128,8 +128,7 @@ void MainWindow::connectCanvas()
             return;
         if (m_work->isHidden())
             begin(tr("Drawing..."));
-        m_work->advance(total > 0 ? static_cast<int>(100 * done / total) : -1,
-                        tr("Drawing zone %1 of %2").arg(done).arg(total));
+        m_work->advance(total > 0 ? static_cast<int>(100 * done / total) : -1, tr("Drawing..."));
         m_picture.start();
     });
 }

@@ -12,6 +12,9 @@
 namespace corvala::plot {
 
 static constexpr double kPickPixels = 8.0;
+static constexpr int kSliceMilliseconds = 30;
+static constexpr int kQuietMilliseconds = 250; ///< before work is reported as progress
+static constexpr int kFirstDrawing = 100; ///< milliseconds of work before an unfinished picture
 
 LineCanvas::LineCanvas(QWidget* parent)
     : Canvas(parent)
@@ -26,6 +29,11 @@ LineCanvas::LineCanvas(QWidget* parent)
     m_widget->installEventFilter(this);
     m_notice->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_notice->move(8, 4);
+    // Moved by the mouse, the plot draws itself as far as it can at once.
+    connect(m_widget, &QCustomPlot::afterReplot, this, [this] {
+        if (m_plot.hasWork())
+            requestRedraw();
+    });
 }
 
 void LineCanvas::keepView(CvlUniqueId frame)
@@ -72,12 +80,66 @@ bool LineCanvas::redraw()
 {
     if (!isVisible())
         return false;
-    m_plot.update();
+    if (!m_isWorking) {
+        m_isWorking = true;
+        m_work.start();
+        m_nextDrawing = kFirstDrawing;
+    }
+    if (!m_plot.advance(kSliceMilliseconds)) {
+        draw();
+        if (!m_plot.hasWork()) {
+            endReport(false);
+            return false;
+        }
+    }
+    const qint64 elapsed = m_work.elapsed();
+    if (elapsed >= kQuietMilliseconds) {
+        const auto [done, total] = m_plot.progress();
+        m_isReporting = true;
+        Q_EMIT workProgressed(done, total);
+    }
+    if (elapsed >= m_nextDrawing) {
+        m_nextDrawing = 2 * elapsed;
+        draw();
+    }
+    return true;
+}
+
+void LineCanvas::draw()
+{
+    m_plot.prepare();
     m_widget->replot(QCustomPlot::rpImmediateRefresh);
     m_notice->setText(m_plot.notice());
     m_notice->adjustSize();
     countRedraw();
-    return false;
+}
+
+void LineCanvas::endReport(bool cancelled)
+{
+    m_isWorking = false;
+    if (std::exchange(m_isReporting, false))
+        Q_EMIT workEnded(cancelled);
+}
+
+void LineCanvas::cancelWork()
+{
+    if (m_plot.hasWork()) {
+        m_plot.cancel();
+        endReport(true);
+        requestRedraw();
+    }
+}
+
+void LineCanvas::resumeWork()
+{
+    m_plot.resume();
+    requestRedraw();
+}
+
+void LineCanvas::hideEvent(QHideEvent* event)
+{
+    Canvas::hideEvent(event);
+    endReport(true);
 }
 
 void LineCanvas::resizeEvent(QResizeEvent* event)
@@ -142,9 +204,11 @@ QImage drawLineImage(CvlUniqueId frame, const ChartRange* range, const QSize& si
         return {};
     QCustomPlot widget;
     LinePlot plot(widget);
+    plot.setPatience(-1);
     plot.setFrameHeight(size.height());
     plot.setFrame(frame);
-    plot.update();
+    plot.advance(-1);
+    plot.prepare();
     if (range)
         plot.chart().setRange(*range);
     return widget.toPixmap(size.width(), size.height()).toImage();

@@ -4,6 +4,7 @@
 #include "plot/canvas.h"
 #include "plot/line/line_plot.h"
 
+#include <QElapsedTimer>
 #include <QHash>
 #include <QPointF>
 
@@ -29,6 +30,8 @@ public:
 
 public Q_SLOTS:
     void fitView() override;
+    void cancelWork() override;
+    void resumeWork() override;
 
 protected:
     void frameChanged(CvlUniqueId previous) override;
@@ -37,8 +40,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
+    void draw();
+    void endReport(bool cancelled);
     void keepView(CvlUniqueId frame);
     void restoreView();
 
@@ -48,6 +54,10 @@ private:
     QHash<QPair<CvlUniqueId, int>, ChartRange> m_views; ///< by frame and plot type, where moved in
     QPointF m_pressedAt;
     bool m_isDoubleClick = false;
+    QElapsedTimer m_work; ///< since slices began
+    bool m_isWorking = false;
+    bool m_isReporting = false;
+    qint64 m_nextDrawing = 0; ///< milliseconds of work when the picture is next refreshed
 };
 
 /// Draws a line frame as an image of `size` pixels, showing `range` of its axes, or all of it when

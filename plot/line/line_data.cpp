@@ -16,11 +16,11 @@ LineVariables variablesOf(const host::Frame& frame, CvlInt64 map)
     return {frame.lineInteger(ids[0], map), frame.lineInteger(ids[1], map)};
 }
 
-static QVector<double> toVector(vtkDataArray& array)
+static std::vector<double> toVector(vtkDataArray& array)
 {
-    QVector<double> values(static_cast<int>(array.GetNumberOfTuples()));
-    for (int i = 0; i < values.size(); ++i)
-        values[i] = array.GetTuple1(i);
+    std::vector<double> values(static_cast<std::size_t>(array.GetNumberOfTuples()));
+    for (std::size_t i = 0; i < values.size(); ++i)
+        values[i] = array.GetComponent(static_cast<vtkIdType>(i), 0);
     return values;
 }
 

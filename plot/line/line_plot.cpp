@@ -6,6 +6,8 @@
 #include "plot/common/line_patterns.h"
 #include "plot/line/line_data.h"
 
+#include <QElapsedTimer>
+
 #include <algorithm>
 #include <utility>
 
@@ -54,14 +56,16 @@ void LinePlot::rebuild()
     const PlotType_e plotTypeBefore =
         std::exchange(m_plotType, drawn ? drawn->plotType() : PlotType_None);
     m_chart.reset();
-    m_plot.clearPlottables();
     m_chart = isPolar() ? makePolarChart(m_plot) : makeXyChart(m_plot);
     if (m_plotType != plotTypeBefore)
         fit();
     else if (!m_isFitted)
         m_chart->setRange(range);
+    m_chart->setPatience(m_patience);
     m_shown = {};
     m_refused = {};
+    m_cancelled = {};
+    m_synced = 0;
     m_stale = m_staleData = drawn ? drawn->activeLineMaps() : host::MapSet();
     setFrameHeight(m_height);
 }
@@ -72,7 +76,14 @@ void LinePlot::setFrameHeight(int height)
     QFont font = m_plot.font();
     font.setPixelSize(static_cast<int>(std::clamp(height / 45.0, 9.0, 40.0)));
     m_chart->setFont(font);
-    m_stale |= m_shown;
+    pend(m_shown);
+}
+
+void LinePlot::pend(const host::MapSet& maps)
+{
+    if (m_stale.isEmpty())
+        m_synced = 0;
+    m_stale |= maps;
 }
 
 bool LinePlot::apply(const host::StateEvent& event)
@@ -81,7 +92,7 @@ bool LinePlot::apply(const host::StateEvent& event)
         return false;
     switch (event.code) {
     case StateCode_Style: return applyStyle(event);
-    case StateCode_ColorTableChanged: m_stale |= m_shown; return true;
+    case StateCode_ColorTableChanged: pend(m_shown); return true;
     case StateCode_FrameListChanged:
         if (frame())
             return false;
@@ -114,12 +125,12 @@ bool LinePlot::applyStyle(const host::StateEvent& event)
         const host::Attribute& attribute = host::Schema::instance().at(change.attribute);
         const std::string& group = attribute.names.front();
         if (group == "LinePlotLayers" && attribute.names[1] == "ShowLines") {
-            m_stale |= drawn ? drawn->activeLineMaps() | m_shown : host::MapSet();
+            pend(drawn ? drawn->activeLineMaps() | m_shown : host::MapSet());
             changed = true;
         } else if (group == "ActiveLineMaps"
                    || (group == "LineMap"
                        && (attribute.names[1] == "Lines" || attribute.names[1] == "Assign"))) {
-            m_stale |= change.maps;
+            pend(change.maps);
             if (group == "ActiveLineMaps" || attribute.names[1] == "Assign")
                 m_staleData |= change.maps;
             changed = true;
@@ -135,24 +146,19 @@ bool LinePlot::isDrawn(const host::Frame& drawn, CvlInt64 map) const
         && drawn.lineLayer("ShowLines");
 }
 
-QPen LinePlot::penOf(const host::Frame& drawn, CvlInt64 map) const
+LineLook LinePlot::lookOf(const host::Frame& drawn, CvlInt64 map) const
 {
     const LineAttributes& ids = LineAttributes::instance();
     const host::Rgb color = host::Document::instance().color(drawn.lineInteger(ids.color, map));
-    QPen pen(QColor(color.red, color.green, color.blue));
-    const double width = linePixels(drawn.lineReal(ids.thickness, map), m_height);
-    pen.setWidthF(width);
-    pen.setJoinStyle(Qt::RoundJoin);
+    LineLook look;
+    look.color = QColor(color.red, color.green, color.blue);
+    look.width = linePixels(drawn.lineReal(ids.thickness, map), m_height);
     const int pattern = drawn.lineInteger(ids.pattern, map);
-    if (pattern != LinePattern_Solid) {
-        const double period = drawn.lineReal(ids.length, map) / 100.0 * m_height;
-        QVector<qreal> dashes;
+    const double period = drawn.lineReal(ids.length, map) / 100.0 * m_height;
+    if (pattern != LinePattern_Solid)
         for (const double stroke : patternStrokes(pattern))
-            dashes.append(std::max(stroke * period / width, 0.01));
-        pen.setDashPattern(dashes);
-        pen.setCapStyle(Qt::FlatCap);
-    }
-    return pen;
+            look.pattern.push_back(stroke * period);
+    return look;
 }
 
 void LinePlot::sync(const host::Frame& drawn, CvlInt64 map)
@@ -173,24 +179,69 @@ void LinePlot::sync(const host::Frame& drawn, CvlInt64 map)
     if (isNew || m_staleData.contains(member))
         m_chart->setLine(map, lineData(drawn, map));
     m_shown.add(member);
-    m_chart->setPen(map, penOf(drawn, map));
+    m_chart->ink().setLook(map, lookOf(drawn, map));
 }
 
-void LinePlot::update()
+bool LinePlot::hasWork() const
+{
+    return !m_stale.isEmpty() || m_chart->ink().hasWork();
+}
+
+bool LinePlot::advance(int milliseconds)
 {
     const host::Frame* const drawn = frame();
-    if (drawn) {
-        const host::MapSet known = host::allUpTo(drawn->lineMapCount());
-        for (const std::uint32_t map : m_stale& known)
-            sync(*drawn, map);
-        m_stale = m_staleData = {};
-        if (!m_refused.isEmpty() && static_cast<CvlInt64>(m_shown.cardinality()) < kLargestPlot)
-            for (const std::uint32_t map : host::MapSet(m_refused))
-                sync(*drawn, map);
-        updateTitles(*drawn);
+    QElapsedTimer clock;
+    clock.start();
+    const auto isOver = [&] { return milliseconds >= 0 && clock.elapsed() >= milliseconds; };
+    m_stale &= drawn ? host::allUpTo(drawn->lineMapCount()) : host::MapSet();
+    if (m_stale.isEmpty()) {
+        m_chart->ink().advance(milliseconds);
+        return hasWork();
     }
+    while (!m_stale.isEmpty() && !isOver()) {
+        const std::uint32_t map = m_stale.minimum();
+        sync(*drawn, map);
+        ++m_synced;
+        m_stale.remove(map);
+        m_staleData.remove(map);
+        if (m_stale.isEmpty() && static_cast<CvlInt64>(m_shown.cardinality()) < kLargestPlot)
+            m_stale = std::exchange(m_refused, {});
+    }
+    return !m_stale.isEmpty();
+}
+
+void LinePlot::prepare()
+{
+    if (const host::Frame* const drawn = frame())
+        updateTitles(*drawn);
     if (m_isFitted)
         m_chart->fit();
+}
+
+void LinePlot::setPatience(int milliseconds)
+{
+    m_patience = milliseconds;
+    m_chart->setPatience(milliseconds);
+}
+
+std::pair<CvlInt64, CvlInt64> LinePlot::progress() const
+{
+    constexpr int kSyncing = 100; // as much as drawing a line
+    const auto pending = static_cast<CvlInt64>(m_stale.cardinality());
+    const auto [done, total] = m_chart->ink().progress();
+    return {kSyncing * m_synced + done, kSyncing * (m_synced + pending) + total};
+}
+
+void LinePlot::cancel()
+{
+    m_cancelled |= std::exchange(m_stale, {});
+    m_chart->ink().cancel();
+}
+
+void LinePlot::resume()
+{
+    pend(std::exchange(m_cancelled, {}));
+    m_chart->ink().resume();
 }
 
 void LinePlot::updateTitles(const host::Frame& drawn)
@@ -223,9 +274,15 @@ QString LinePlot::notice() const
 {
     const auto shownCount = static_cast<CvlInt64>(m_shown.cardinality());
     const auto refusedCount = static_cast<CvlInt64>(m_refused.cardinality());
-    return refusedCount == 0
-        ? QString()
-        : tr("Drawing %L1 of %L2 active maps").arg(shownCount).arg(shownCount + refusedCount);
+    const auto missing =
+        static_cast<CvlInt64>(m_cancelled.cardinality()) + m_chart->ink().missingCount();
+    if (refusedCount > 0)
+        return tr("Drawing %L1 of %L2 active maps").arg(shownCount).arg(shownCount + refusedCount);
+    if (missing > 0)
+        return tr("Drawing was cancelled: %Ln map(s) missing", nullptr, static_cast<int>(missing));
+    if (const int thinned = m_chart->ink().thinnedCount())
+        return tr("%Ln line(s) too dense to show more than thin strokes", nullptr, thinned);
+    return {};
 }
 
 } // namespace corvala::plot

@@ -6,12 +6,12 @@
 
 #include <QCoreApplication>
 
-#include <optional>
+#include <utility>
 
 namespace corvala::plot {
 
 /// Keeps a QCustomPlot in line with the line maps of a frame. Changes are taken note of at once and
-/// worked off by `update`, which touches only the maps that they name.
+/// worked off in slices, which touch only the maps that they name.
 class LinePlot
 {
     Q_DECLARE_TR_FUNCTIONS(corvala::plot::LinePlot)
@@ -27,12 +27,24 @@ public:
     bool apply(const host::StateEvent& event);
     /// Pixels; thicknesses and pattern lengths are a share of it.
     void setFrameHeight(int height);
-    void update();
+    /// Works for about `milliseconds`, negative until all is done: first on the lines, and once
+    /// they have been drawn, on what is missing of the picture. True while such work is left.
+    bool advance(int milliseconds);
+    bool hasWork() const;
+    /// Pieces of work since there was none, done and in all.
+    std::pair<CvlInt64, CvlInt64> progress() const;
+    void cancel();
+    void resume();
+    /// Brings titles and range up to date before the plot is drawn.
+    void prepare();
+    /// How long drawing the plot itself may draw lines; negative until all is done.
+    void setPatience(int milliseconds);
 
     void fit() { m_isFitted = true; }
     void setMoved() { m_isFitted = false; }
     bool isFitted() const { return m_isFitted; }
     LineChart& chart() { return *m_chart; }
+    const LineChart& chart() const { return *m_chart; }
     /// What is drawn; PlotType_None without a line frame.
     PlotType_e plotType() const { return m_plotType; }
     bool isPolar() const { return m_plotType == PlotType_LinePolar; }
@@ -48,7 +60,8 @@ private:
     bool isDrawn(const host::Frame& frame, CvlInt64 map) const;
     void sync(const host::Frame& frame, CvlInt64 map);
     void updateTitles(const host::Frame& frame);
-    QPen penOf(const host::Frame& frame, CvlInt64 map) const;
+    LineLook lookOf(const host::Frame& frame, CvlInt64 map) const;
+    void pend(const host::MapSet& maps);
 
     QCustomPlot& m_plot;
     std::unique_ptr<LineChart> m_chart;
@@ -59,7 +72,10 @@ private:
     host::MapSet m_stale; ///< maps to look at again
     host::MapSet m_staleData; ///< those whose points may differ
     host::MapSet m_shown;
-    host::MapSet m_refused;
+    host::MapSet m_refused; ///< active, but beyond the largest plot
+    host::MapSet m_cancelled; ///< to look at when work is resumed
+    CvlInt64 m_synced = 0; ///< lines brought up to date since there was none to look at
+    int m_patience = 60;
     std::int64_t m_syncs = 0;
 };
 

@@ -2,41 +2,49 @@
 #include "plot/line/line_chart.h"
 
 #include <QCoreApplication>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <utility>
+#include <vector>
 
 namespace corvala::plot {
 
-/// Lines over an angle in degrees and a radius.
+/// Lines over an angle in degrees and a radius. They are joined straight, in the plane whose origin
+/// is the middle of the chart.
 class PolarChart : public LineChart
 {
     Q_DECLARE_TR_FUNCTIONS(corvala::plot::PolarChart)
 
 public:
     explicit PolarChart(QCustomPlot& plot);
-    ~PolarChart() override;
 
-    void setLine(std::int64_t map, const LineData& data) override;
-    void setPen(std::int64_t map, const QPen& pen) override { m_graphs.at(map)->setPen(pen); }
+    void setLine(std::int64_t map, LineData data) override;
     void removeLine(std::int64_t map) override;
     void setTitles(const QString& first, const QString& second) override;
     void fit() override;
     ChartRange range() const override;
     void setRange(const ChartRange& range) override;
-    std::int64_t lineAt(const QPointF& pixel, double tolerance) const override;
     void setFont(const QFont& font) override;
+
+protected:
+    LineView view() override;
+    QRegion outline() const override { return m_angle->exactClipRegion(); }
 
 private:
     QCPPolarAxisRadial* radius() const { return m_angle->radialAxis(); }
+    Polyline unrolled(const LineData& data) const;
 
     QCPPolarAxisAngular* m_angle; // owned by the plot
     QCPTextElement* m_title; // owned by the plot
-    std::map<std::int64_t, QCPPolarGraph*> m_graphs; // owned by the plot
+    std::map<std::int64_t, LineData> m_data;
+    double m_middle = 0.0; ///< radius at the middle, for which the lines are made
 };
 
 PolarChart::PolarChart(QCustomPlot& plot)
+    : LineChart(plot)
 {
     plot.plotLayout()->clear();
     m_angle = new QCPPolarAxisAngular(&plot);
@@ -54,31 +62,28 @@ PolarChart::PolarChart(QCustomPlot& plot)
     radius()->setAngle(90.0);
 }
 
-// Axes do not take their graphs along.
-PolarChart::~PolarChart()
+Polyline PolarChart::unrolled(const LineData& data) const
 {
-    for (const auto& [map, graph] : m_graphs)
-        m_angle->removeGraph(graph);
+    std::vector<double> x(data.first.size());
+    std::vector<double> y(data.first.size());
+    for (std::size_t i = 0; i < x.size(); ++i) {
+        const double angle = qDegreesToRadians(data.first[i]);
+        x[i] = (data.second[i] - m_middle) * std::cos(angle);
+        y[i] = (data.second[i] - m_middle) * std::sin(angle);
+    }
+    return {std::move(x), std::move(y)};
 }
 
-void PolarChart::setLine(std::int64_t map, const LineData& data)
+void PolarChart::setLine(std::int64_t map, LineData data)
 {
-    QCPPolarGraph*& graph = m_graphs[map];
-    if (!graph) {
-        graph = new QCPPolarGraph(m_angle, radius());
-        graph->setPeriodic(false);
-    }
-    // Sorted by angle, the points would be joined in another order.
-    graph->setData(data.first, data.second, true);
+    ink().setLine(map, unrolled(data));
+    m_data[map] = std::move(data);
 }
 
 void PolarChart::removeLine(std::int64_t map)
 {
-    const auto found = m_graphs.find(map);
-    if (found != m_graphs.end()) {
-        m_angle->removeGraph(found->second);
-        m_graphs.erase(found);
-    }
+    LineChart::removeLine(map);
+    m_data.erase(map);
 }
 
 void PolarChart::setTitles(const QString& first, const QString& second)
@@ -90,16 +95,30 @@ void PolarChart::fit()
 {
     double lowest = 0.0;
     double highest = 0.0;
-    for (const auto& [map, graph] : m_graphs) {
-        for (const QCPGraphData& point : *graph->data()) {
-            if (std::isfinite(point.value)) {
-                lowest = std::min(lowest, point.value);
-                highest = std::max(highest, point.value);
+    for (const auto& [map, data] : m_data) {
+        for (const double value : data.second) {
+            if (std::isfinite(value)) {
+                lowest = std::min(lowest, value);
+                highest = std::max(highest, value);
             }
         }
     }
     radius()->setRange(lowest,
                        highest > lowest ? highest + 0.05 * (highest - lowest) : lowest + 1.0);
+}
+
+LineView PolarChart::view()
+{
+    const QCPRange range = radius()->range();
+    if (range.lower != m_middle) {
+        m_middle = range.lower;
+        for (const auto& [map, data] : m_data)
+            ink().setLine(map, unrolled(data));
+    }
+    LineView view;
+    view.x = {0.0, m_angle->center().x(), m_angle->radius() / range.size()};
+    view.y = {0.0, m_angle->center().y(), -m_angle->radius() / range.size()};
+    return view;
 }
 
 ChartRange PolarChart::range() const
@@ -110,19 +129,6 @@ ChartRange PolarChart::range() const
 void PolarChart::setRange(const ChartRange& range)
 {
     radius()->setRange(range.secondMinimum, range.secondMaximum);
-}
-
-std::int64_t PolarChart::lineAt(const QPointF& pixel, double tolerance) const
-{
-    std::int64_t nearest = 0;
-    for (const auto& [map, graph] : m_graphs) {
-        const double distance = graph->selectTest(pixel, false);
-        if (distance >= 0.0 && distance <= tolerance) {
-            nearest = map;
-            tolerance = distance;
-        }
-    }
-    return nearest;
 }
 
 void PolarChart::setFont(const QFont& font)

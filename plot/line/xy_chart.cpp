@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_chart.h"
 
-#include <map>
+#include <utility>
 
 namespace corvala::plot {
 
@@ -11,23 +11,26 @@ class XyChart : public LineChart
 public:
     explicit XyChart(QCustomPlot& plot);
 
-    void setLine(std::int64_t map, const LineData& data) override;
-    void setPen(std::int64_t map, const QPen& pen) override { m_curves.at(map)->setPen(pen); }
-    void removeLine(std::int64_t map) override;
+    void setLine(std::int64_t map, LineData data) override;
     void setTitles(const QString& first, const QString& second) override;
     void fit() override;
     ChartRange range() const override;
     void setRange(const ChartRange& range) override;
-    std::int64_t lineAt(const QPointF& pixel, double tolerance) const override;
     void setFont(const QFont& font) override;
 
+protected:
+    LineView view() override;
+    QRegion outline() const override { return m_plot.axisRect()->rect(); }
+
 private:
+    QCPAxis& axis(QCPAxis::AxisType side) const { return *m_plot.axisRect()->axis(side); }
+
     QCustomPlot& m_plot;
-    std::map<std::int64_t, QCPCurve*> m_curves; // owned by the plot
 };
 
 XyChart::XyChart(QCustomPlot& plot)
-    : m_plot(plot)
+    : LineChart(plot)
+    , m_plot(plot)
 {
     plot.plotLayout()->clear();
     auto* axes = new QCPAxisRect(&plot);
@@ -41,73 +44,61 @@ XyChart::XyChart(QCustomPlot& plot)
     axes->setRangeDragAxes(axes->axis(QCPAxis::atBottom), axes->axis(QCPAxis::atLeft));
 }
 
-void XyChart::setLine(std::int64_t map, const LineData& data)
+void XyChart::setLine(std::int64_t map, LineData data)
 {
-    QCPCurve*& curve = m_curves[map];
-    if (!curve) {
-        const QCPAxisRect* const axes = m_plot.axisRect();
-        curve = new QCPCurve(axes->axis(QCPAxis::atBottom), axes->axis(QCPAxis::atLeft));
-        curve->setSelectable(QCP::stNone);
-        curve->setAntialiased(true);
-    }
-    curve->setData(data.first, data.second);
-}
-
-void XyChart::removeLine(std::int64_t map)
-{
-    const auto found = m_curves.find(map);
-    if (found != m_curves.end()) {
-        m_plot.removePlottable(found->second);
-        m_curves.erase(found);
-    }
+    ink().setLine(map, Polyline(std::move(data.first), std::move(data.second)));
 }
 
 void XyChart::setTitles(const QString& first, const QString& second)
 {
-    m_plot.axisRect()->axis(QCPAxis::atBottom)->setLabel(first);
-    m_plot.axisRect()->axis(QCPAxis::atLeft)->setLabel(second);
+    axis(QCPAxis::atBottom).setLabel(first);
+    axis(QCPAxis::atLeft).setLabel(second);
 }
 
-static void addMargin(QCPAxis& axis)
+/// Shows an interval with a margin; from 0 to 1 when it is empty.
+static void show(QCPAxis& axis, double minimum, double maximum)
 {
-    const QCPRange range = axis.range();
-    const double margin = range.size() > 0.0 ? 0.05 * range.size() : 0.5;
-    axis.setRange(range.lower - margin, range.upper + margin);
+    if (minimum > maximum) {
+        axis.setRange(0.0, 1.0);
+        return;
+    }
+    const double margin = maximum > minimum ? 0.05 * (maximum - minimum) : 0.5;
+    axis.setRange(minimum - margin, maximum + margin);
 }
 
 void XyChart::fit()
 {
-    for (const auto side : {QCPAxis::atBottom, QCPAxis::atLeft}) {
-        QCPAxis* const axis = m_plot.axisRect()->axis(side);
-        axis->rescale();
-        addMargin(*axis);
-    }
+    const LineBox box = ink().bounds();
+    show(axis(QCPAxis::atBottom), box.left, box.right);
+    show(axis(QCPAxis::atLeft), box.low, box.high);
 }
 
 ChartRange XyChart::range() const
 {
-    const QCPRange x = m_plot.axisRect()->axis(QCPAxis::atBottom)->range();
-    const QCPRange y = m_plot.axisRect()->axis(QCPAxis::atLeft)->range();
+    const QCPRange x = axis(QCPAxis::atBottom).range();
+    const QCPRange y = axis(QCPAxis::atLeft).range();
     return {x.lower, x.upper, y.lower, y.upper};
 }
 
 void XyChart::setRange(const ChartRange& range)
 {
-    m_plot.axisRect()->axis(QCPAxis::atBottom)->setRange(range.firstMinimum, range.firstMaximum);
-    m_plot.axisRect()->axis(QCPAxis::atLeft)->setRange(range.secondMinimum, range.secondMaximum);
+    axis(QCPAxis::atBottom).setRange(range.firstMinimum, range.firstMaximum);
+    axis(QCPAxis::atLeft).setRange(range.secondMinimum, range.secondMaximum);
 }
 
-std::int64_t XyChart::lineAt(const QPointF& pixel, double tolerance) const
+static LineScale scaleOf(const QCPAxis& axis)
 {
-    std::int64_t nearest = 0;
-    for (const auto& [map, curve] : m_curves) {
-        const double distance = curve->selectTest(pixel, false);
-        if (distance >= 0.0 && distance <= tolerance) {
-            nearest = map;
-            tolerance = distance;
-        }
-    }
-    return nearest;
+    const QCPRange range = axis.range();
+    const double first = axis.coordToPixel(range.lower);
+    return {range.lower, first, (axis.coordToPixel(range.upper) - first) / range.size()};
+}
+
+LineView XyChart::view()
+{
+    LineView view;
+    view.x = scaleOf(axis(QCPAxis::atBottom));
+    view.y = scaleOf(axis(QCPAxis::atLeft));
+    return view;
 }
 
 void XyChart::setFont(const QFont& font)

@@ -8,6 +8,13 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <vtkDataArray.h>
+#include <vtkPoints.h>
+#include <vtkPolyData.h>
+
+#include <numeric>
+#include <random>
+
 using namespace corvala;
 using namespace corvala::plot;
 using namespace corvala::tests;
@@ -28,10 +35,18 @@ private Q_SLOTS:
     void viewsAreKept();
     void badPictures();
     void largestPlot();
+    void longWorkIsReported();
     void viewChoosesTheCanvas();
 };
 
 static constexpr QSize kSize {600, 500};
+
+static void turnWheel(QWidget& widget, const QPointF& at)
+{
+    QWheelEvent wheel(at, widget.mapToGlobal(at.toPoint()), {}, {0, 240}, Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&widget, &wheel);
+}
 
 struct ShownCanvas
 {
@@ -48,10 +63,8 @@ struct ShownCanvas
             QCoreApplication::processEvents();
         } while (canvas.isBusy());
     }
-    QCPCurve* curve(int position)
-    {
-        return qobject_cast<QCPCurve*>(canvas.plot().plottable(position));
-    }
+    const LineInk& ink() const { return canvas.linePlot().chart().ink(); }
+    int lineCount() const { return static_cast<int>(ink().lineCount()); }
 
     LineCanvas canvas;
 };
@@ -60,24 +73,24 @@ void tst_LineCanvas::curvesOfActiveMaps()
 {
     openDemo("xy");
     ShownCanvas shown;
-    QCOMPARE(shown.canvas.plot().plottableCount(), 6);
-    QCOMPARE(shown.curve(0)->data()->size(), 101);
+    QCOMPARE(shown.lineCount(), 6);
+    QCOMPARE(shown.ink().line(1).size(), std::size_t(101));
     write("LineMap/Lines/Show", "2", 0);
     shown.settle();
-    QCOMPARE(shown.canvas.plot().plottableCount(), 5);
+    QCOMPARE(shown.lineCount(), 5);
     write("LinePlotLayers/ShowLines", "", 0);
     shown.settle();
-    QCOMPARE(shown.canvas.plot().plottableCount(), 0);
+    QCOMPARE(shown.lineCount(), 0);
     document().undo().undo();
     document().undo().undo();
     shown.settle();
-    QCOMPARE(shown.canvas.plot().plottableCount(), 6);
+    QCOMPARE(shown.lineCount(), 6);
     document().deleteLineMaps(mapsOf("1-4"));
     shown.settle();
-    QCOMPARE(shown.canvas.plot().plottableCount(), 2);
+    QCOMPARE(shown.lineCount(), 2);
     document().clear();
     shown.settle();
-    QCOMPARE(shown.canvas.plot().plottableCount(), 0);
+    QCOMPARE(shown.lineCount(), 0);
 }
 
 void tst_LineCanvas::pens_data()
@@ -106,15 +119,12 @@ void tst_LineCanvas::pens()
     write("LineMap/Lines/LinePattern", "1", pattern);
     write("LineMap/Lines/PatternLength", "1", length);
     ShownCanvas shown;
-    const QPen pen = shown.curve(0)->pen();
+    const LineLook look = shown.ink().look(1);
     const host::Rgb color = document().color(4);
-    QCOMPARE(pen.color(), QColor(color.red, color.green, color.blue));
-    QCOMPARE(pen.widthF(), width);
-    const QVector<qreal> strokes = dashes > 0 ? pen.dashPattern() : QVector<qreal>();
-    QCOMPARE(strokes.size(), dashes);
-    double period = 0.0;
-    for (const qreal stroke : strokes)
-        period += stroke * width;
+    QCOMPARE(look.color, QColor(color.red, color.green, color.blue));
+    QCOMPARE(look.width, width);
+    QCOMPARE(look.pattern.size(), std::size_t(dashes));
+    const double period = std::accumulate(look.pattern.begin(), look.pattern.end(), 0.0);
     QCOMPARE(period, dashes > 0 ? length / 100 * kSize.height() : 0.0);
 }
 
@@ -136,7 +146,7 @@ void tst_LineCanvas::editsTouchWhatTheyName()
     write("LineMap/Assign/YAxisVar", "3", 5);
     shown.settle();
     QCOMPARE(shown.canvas.linePlot().syncCount() - before, 3);
-    QVERIFY(shown.curve(2)->data()->at(50)->value != shown.curve(8)->data()->at(50)->value);
+    QVERIFY(shown.ink().line(3).y(50) != shown.ink().line(9).y(50));
 }
 
 void tst_LineCanvas::zonesWithoutTheVariable()
@@ -145,11 +155,11 @@ void tst_LineCanvas::zonesWithoutTheVariable()
     document().createLineMaps(2);
     write("PlotType", "", PlotType_LineXY);
     ShownCanvas shown;
-    QCOMPARE(shown.canvas.plot().plottableCount(), 2);
+    QCOMPARE(shown.lineCount(), 2);
     QVERIFY(!shown.canvas.render(kSize, nullptr).isNull());
     document().detachDataSet();
     shown.settle();
-    QCOMPARE(shown.canvas.plot().plottableCount(), 0);
+    QCOMPARE(shown.lineCount(), 0);
 }
 
 void tst_LineCanvas::polarLines()
@@ -171,7 +181,7 @@ void tst_LineCanvas::polarLines()
     write("PlotType", "", PlotType_LineXY);
     shown.settle();
     QVERIFY(!shown.canvas.linePlot().isPolar());
-    QCOMPARE(shown.canvas.plot().plottableCount(), 0);
+    QCOMPARE(shown.lineCount(), 0);
     document().undo().undo();
     document().undo().undo();
     shown.settle();
@@ -199,10 +209,11 @@ void tst_LineCanvas::clickPicksALine()
     write("LineMap/Lines/Show", "2-6", 0);
     ShownCanvas shown;
     QSignalSpy picked(&shown.canvas, &Canvas::lineMapPicked);
-    const QPoint place = shown.curve(0)
-                             ->coordsToPixels(shown.curve(0)->data()->at(30)->key,
-                                              shown.curve(0)->data()->at(30)->value)
-                             .toPoint();
+    const QCPAxisRect& axes = *shown.canvas.plot().axisRect();
+    const QPoint place =
+        QPointF(axes.axis(QCPAxis::atBottom)->coordToPixel(shown.ink().line(1).x(30)),
+                axes.axis(QCPAxis::atLeft)->coordToPixel(shown.ink().line(1).y(30)))
+            .toPoint();
     QTest::mouseClick(&shown.canvas.plot(), Qt::LeftButton, {}, place);
     QCOMPARE(picked.size(), 1);
     QCOMPARE(picked[0][0].value<CvlInt64>(), 1);
@@ -211,6 +222,22 @@ void tst_LineCanvas::clickPicksALine()
     QCOMPARE(picked.last()[1].toBool(), true);
     QTest::mouseClick(&shown.canvas.plot(), Qt::LeftButton, {}, {3, 3});
     QCOMPARE(picked.last()[0].value<CvlInt64>(), 0);
+
+    // In a polar plot, also after another radius has come to its middle.
+    std::string error;
+    QVERIFY(samples::openDemo("polar", 0, error));
+    shown.settle();
+    turnWheel(shown.canvas.plot(), shown.canvas.plot().rect().center() + QPoint(100, 0));
+    shown.settle();
+    const auto* angle =
+        qobject_cast<QCPPolarAxisAngular*>(shown.canvas.plot().plotLayout()->element(0, 0));
+    QVERIFY(angle && angle->radialAxis()->range().lower > 0.1);
+    const auto value = [](CvlInt64 variable) {
+        return document().activeFrame()->data()->values(1, variable).array->GetComponent(30, 0);
+    };
+    const QPointF point = angle->radialAxis()->coordToPixel(value(6), value(7));
+    QTest::mouseClick(&shown.canvas.plot(), Qt::LeftButton, {}, point.toPoint());
+    QCOMPARE(picked.last()[0].value<CvlInt64>(), 1);
 }
 
 void tst_LineCanvas::viewsAreKept()
@@ -221,10 +248,7 @@ void tst_LineCanvas::viewsAreKept()
         return shown.canvas.plot().axisRect()->axis(QCPAxis::atBottom)->range();
     };
     const QCPRange fitted = across();
-    const QPoint middle = shown.canvas.plot().rect().center();
-    QWheelEvent wheel(middle, shown.canvas.plot().mapToGlobal(middle), {}, {0, 240}, Qt::NoButton,
-                      {}, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&shown.canvas.plot(), &wheel);
+    turnWheel(shown.canvas.plot(), shown.canvas.plot().rect().center());
     shown.settle();
     const QCPRange moved = across();
     QVERIFY(moved.size() < 0.9 * fitted.size());
@@ -241,7 +265,6 @@ void tst_LineCanvas::viewsAreKept()
         shown.settle();
     }
     QCOMPARE(across(), moved);
-    QVERIFY(shown.canvas.plot().findChildren<QCPPolarGraph*>().isEmpty());
     std::string error;
     QVERIFY(samples::openDemo("xy", 0, error));
     shown.settle();
@@ -262,12 +285,64 @@ void tst_LineCanvas::largestPlot()
 {
     openDemo("xy", LinePlot::kLargestPlot + 5);
     ShownCanvas shown;
-    QCOMPARE(shown.canvas.plot().plottableCount(), int(LinePlot::kLargestPlot));
+    QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot));
     QVERIFY(!shown.canvas.linePlot().notice().isEmpty());
     write("LineMap/Lines/Show", "1-10", 0);
     shown.settle();
-    QCOMPARE(shown.canvas.plot().plottableCount(), int(LinePlot::kLargestPlot) - 5);
+    QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot) - 5);
     QVERIFY(shown.canvas.linePlot().notice().isEmpty());
+}
+
+/// A zone of points without any order.
+class Cloud : public host::ZoneSource
+{
+public:
+    static constexpr int kPoints = 800'000;
+    vtkSmartPointer<vtkDataSet> zone(std::int64_t) const override
+    {
+        std::mt19937 generator(1);
+        const vtkNew<vtkPoints> points;
+        for (int i = 0; i < kPoints; ++i) {
+            const auto x = static_cast<double>(generator());
+            points->InsertNextPoint(x, static_cast<double>(generator()), 0.0);
+        }
+        auto cloud = vtkSmartPointer<vtkPolyData>::New();
+        cloud->SetPoints(points);
+        return cloud;
+    }
+};
+
+void tst_LineCanvas::longWorkIsReported()
+{
+    document().clear();
+    auto data = std::make_shared<host::DataSet>();
+    data->variables = {{"X", {}, {}, 0}, {"Y", {}, {}, 1}};
+    host::ZoneInfo zone;
+    zone.pointCount = Cloud::kPoints;
+    data->zones = {zone};
+    data->source = std::make_shared<Cloud>();
+    document().attachDataSet(data, PlotType_LineXY, 1);
+    LineCanvas canvas;
+    canvas.resize(kSize);
+    canvas.setFrame(document().activeFrameId());
+    QSignalSpy progressed(&canvas, &Canvas::workProgressed);
+    QSignalSpy ended(&canvas, &Canvas::workEnded);
+    canvas.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!progressed.isEmpty(), 60000);
+    canvas.cancelWork();
+    QTRY_VERIFY(!canvas.isBusy());
+    QCOMPARE(ended.takeFirst()[0].toBool(), true);
+    const LineInk& ink = canvas.linePlot().chart().ink();
+    QCOMPARE(ink.missingCount(), std::int64_t(1));
+    QVERIFY(!canvas.linePlot().notice().isEmpty());
+    canvas.resumeWork();
+    QTRY_VERIFY_WITH_TIMEOUT(!canvas.isBusy(), 60000);
+    QCOMPARE(ended.takeFirst()[0].toBool(), false);
+    QCOMPARE(ink.progress().first, ink.progress().second);
+    const QImage drawn = ink.picture();
+    canvas.plot().replot(); // for the same view nothing is drawn again
+    QVERIFY(!canvas.isBusy());
+    QCOMPARE(ink.picture(), drawn);
 }
 
 void tst_LineCanvas::viewChoosesTheCanvas()

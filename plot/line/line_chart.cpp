@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/line/line_chart.h"
+
+#include <cmath>
+
+namespace corvala::plot {
+
+/// What the plot knows of the lines: something to draw between its grid and its axes.
+class LineChart::Sheet : public QCPLayerable
+{
+public:
+    Sheet(QCustomPlot& plot, LineChart& chart)
+        : QCPLayerable(&plot, QStringLiteral("main"))
+        , m_chart(chart)
+    {
+    }
+
+protected:
+    void applyDefaultAntialiasingHint(QCPPainter*) const override { }
+    QRect clipRect() const override { return m_chart.outline().boundingRect(); }
+    void draw(QCPPainter* painter) override { m_chart.draw(*painter); }
+
+private:
+    LineChart& m_chart;
+};
+
+LineChart::LineChart(QCustomPlot& plot)
+    : m_sheet(std::make_unique<Sheet>(plot, *this))
+{
+}
+
+LineChart::~LineChart() = default;
+
+void LineChart::draw(QCPPainter& painter)
+{
+    const QRegion shape = outline();
+    const QRect place = shape.boundingRect();
+    const double ratio = painter.device()->devicePixelRatioF();
+    LineView seen = view();
+    seen.visible = {static_cast<double>(place.left()), place.left() + place.width() + 0.0,
+                    static_cast<double>(place.top()), place.top() + place.height() + 0.0};
+    const QSize size(static_cast<int>(std::ceil(place.width() * ratio)),
+                     static_cast<int>(std::ceil(place.height() * ratio)));
+    m_ink.setView(seen.seenFrom(place.topLeft(), ratio), size, ratio);
+    if (m_ink.isStale())
+        m_ink.advance(m_patience);
+    QImage picture = m_ink.picture();
+    picture.setDevicePixelRatio(ratio);
+    painter.setClipRegion(shape, Qt::IntersectClip);
+    painter.drawImage(place.topLeft(), picture);
+}
+
+std::int64_t LineChart::lineAt(const QPointF& pixel, double tolerance)
+{
+    return outline().contains(pixel.toPoint()) ? m_ink.lineAt(view(), pixel, tolerance) : 0;
+}
+
+} // namespace corvala::plot

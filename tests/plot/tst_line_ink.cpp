@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/line/line_ink.h"
+
+#include <QPainter>
+#include <QtTest>
+
+#include <cmath>
+#include <functional>
+#include <random>
+
+using namespace corvala::plot;
+
+class tst_LineInk : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void reducedLikeFull_data();
+    void reducedLikeFull();
+    void slicesDrawTheSame();
+    void denseLinesAreThinned();
+};
+
+static constexpr QSize kSize {400, 300};
+
+/// The whole picture is x and y from 0 to 1, magnified about its middle.
+static LineView viewOf(double zoom)
+{
+    LineView view;
+    view.x = {0.5, kSize.width() / 2.0, zoom * kSize.width()};
+    view.y = {0.5, kSize.height() / 2.0, -zoom * kSize.height()};
+    view.visible = {0.0, double(kSize.width()), 0.0, double(kSize.height())};
+    return view;
+}
+
+using Curve = std::function<QPointF(double)>; // of a place along the line, 0 to 1
+Q_DECLARE_METATYPE(Curve)
+
+static Polyline sampled(const Curve& curve, int count)
+{
+    std::vector<double> x;
+    std::vector<double> y;
+    for (int i = 0; i < count; ++i) {
+        const QPointF point = curve(i / (count - 1.0));
+        x.push_back(point.x());
+        y.push_back(point.y());
+    }
+    return {std::move(x), std::move(y)};
+}
+
+static double noise()
+{
+    static std::mt19937 generator(1);
+    return static_cast<double>(generator()) / generator.max();
+}
+
+/// Every point drawn by Qt, in single strokes; many times as large and made smaller, so that
+/// strokes that meet do not darken each other's edges.
+static QImage fullPicture(const Polyline& line, const LineView& view, const LineLook& look)
+{
+    constexpr int kTimes = 4;
+    QImage image(kTimes * kSize, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.scale(kTimes, kTimes);
+    const bool isSolid = look.pattern.empty();
+    QPen pen(look.color, look.width, Qt::SolidLine, isSolid ? Qt::RoundCap : Qt::FlatCap,
+             Qt::RoundJoin);
+    QVector<qreal> dashes;
+    for (const double part : look.pattern)
+        dashes.append(part / look.width);
+    if (!isSolid)
+        pen.setDashPattern(dashes);
+    painter.setPen(pen);
+    QPolygonF part;
+    const int longest = isSolid ? 2 : 1'000'000; // long solid parts take Qt minutes
+    for (std::size_t i = 0; i <= line.size(); ++i) {
+        const bool isPoint = i < line.size() && line.isFinite(i);
+        if (isPoint)
+            part.append(view.pixel(line.x(i), line.y(i)));
+        if (part.size() == longest || !isPoint) {
+            painter.drawPolyline(part);
+            part = isPoint ? QPolygonF({part.back()}) : QPolygonF();
+        }
+    }
+    return image.scaled(kSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+static QImage inkPicture(Polyline line, const LineView& view, const LineLook& look, int slice = -1)
+{
+    LineInk ink;
+    ink.setLine(1, std::move(line));
+    ink.setLook(1, look);
+    ink.setView(view, kSize, 1.0);
+    while (ink.advance(slice)) { }
+    return ink.picture();
+}
+
+/// Share of pixels whose coverage differs by more than half.
+static double shareOfDifference(const QImage& one, const QImage& other)
+{
+    int count = 0;
+    for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x)
+            count += std::abs(qAlpha(one.pixel(x, y)) - qAlpha(other.pixel(x, y))) > 127 ? 1 : 0;
+    return double(count) / (one.width() * one.height());
+}
+
+static QPointF wave(double t)
+{
+    return {t, 0.5 + 0.45 * std::sin(20 * t)};
+}
+
+void tst_LineInk::reducedLikeFull_data()
+{
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    QTest::addColumn<Curve>("curve");
+    QTest::addColumn<int>("points");
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<double>("width");
+    QTest::addColumn<QVector<double>>("pattern");
+    const auto row = [](const char* name, Curve curve, int points, double zoom, double width,
+                        QVector<double> pattern = {}) {
+        QTest::newRow(name) << curve << points << zoom << width << pattern;
+    };
+    row("few points", wave, 60, 1.0, 1.0);
+    row("smooth", wave, 50'000, 1.0, 3.0);
+    row("smooth, wide", wave, 50'000, 1.0, 30.0);
+    row("smooth, magnified", wave, 50'000, 300.0, 3.0);
+    row(
+        "noise", [](double t) { return QPointF(t, noise()); }, 20'000, 1.0, 2.0);
+    row(
+        "noise, magnified", [](double t) { return QPointF(t, noise()); }, 20'000, 80.0, 2.0);
+    row(
+        "upwards", [](double t) { return QPointF(0.5 + 0.1 * noise(), t); }, 20'000, 1.0, 2.0);
+    row(
+        "there and back", [](double t) { return QPointF(0.5 + 0.4 * std::cos(300 * t), t); },
+        20'000, 1.0, 1.5);
+    row(
+        "unsorted", [](double) { return QPointF(noise(), noise()); }, 150, 1.0, 2.0);
+    row(
+        "far beyond", [](double t) { return QPointF(t, noise() < 0.02 ? 1e300 : 0.5); }, 500, 1.0,
+        2.0);
+    row(
+        "gaps", [nan](double t) { return QPointF(t, std::sin(40 * t) > 0.5 ? nan : t); }, 20'000,
+        1.0, 4.0);
+    row(
+        "gaps of infinity",
+        [](double t) { return QPointF(std::fmod(t, 0.2) < 0.05 ? INFINITY : t, t); }, 20'000, 1.0,
+        4.0);
+    row("dashes", wave, 50, 1.0, 3.0, {12, 8});
+    row("dashes of many points", wave, 5'000, 1.0, 3.0, {12, 8});
+    row("dash dot, magnified", wave, 2'000, 6.0, 2.0, {20, 8, 4, 8});
+    row("wide dashes round corners",
+        [](double t) { return QPointF(t, 0.2 + 0.5 * (int(t * 9.0) % 2)); }, 10, 1.0, 9.0,
+        {30, 20});
+}
+
+void tst_LineInk::reducedLikeFull()
+{
+    QFETCH(Curve, curve);
+    QFETCH(int, points);
+    QFETCH(double, zoom);
+    QFETCH(double, width);
+    QFETCH(QVector<double>, pattern);
+    const LineLook look {Qt::black, width, {pattern.begin(), pattern.end()}};
+    const Polyline line = sampled(curve, points);
+    const LineView view = viewOf(zoom);
+    const QImage full = fullPicture(line, view, look);
+    const QImage reduced = inkPicture(line, view, look);
+    const double ink = 1.0 - shareOfDifference(full, QImage(full.size(), full.format()));
+    const double difference = shareOfDifference(full, reduced);
+    if (qEnvironmentVariableIsSet("CORVALA_KEEP_PICTURES")) {
+        full.save(QStringLiteral("%1-full.png").arg(QTest::currentDataTag()));
+        reduced.save(QStringLiteral("%1-reduced.png").arg(QTest::currentDataTag()));
+    }
+    QVERIFY2(difference < 0.005, qPrintable(QStringLiteral("%1 of %2").arg(difference).arg(ink)));
+}
+
+void tst_LineInk::slicesDrawTheSame()
+{
+    const Polyline line = sampled([](double) { return QPointF(noise(), noise()); }, 5'000);
+    const LineLook look {Qt::blue, 3.0, {10.0, 5.0}};
+    QCOMPARE(inkPicture(line, viewOf(1.0), look, 0), inkPicture(line, viewOf(1.0), look));
+}
+
+void tst_LineInk::denseLinesAreThinned()
+{
+    LineInk ink;
+    ink.setLine(1, sampled([](double) { return QPointF(noise(), noise()); }, 400'000));
+    ink.setLine(2, sampled(wave, 400'000));
+    for (const int map : {1, 2})
+        ink.setLook(map, {Qt::blue, 5.0, {10.0, 5.0}});
+    ink.setView(viewOf(1.0), kSize, 1.0);
+    ink.advance(-1);
+    QCOMPARE(ink.thinnedCount(), 1);
+    ink.remove(1);
+    ink.advance(-1);
+    QCOMPARE(ink.thinnedCount(), 0);
+}
+
+QTEST_APPLESS_MAIN(tst_LineInk)
+#include "tst_line_ink.moc"
