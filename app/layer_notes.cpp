@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/layer_notes.h"
 
+#include "app/layer_bar.h"
 #include "app/notice_bar.h"
 #include "host/document/document.h"
 #include "host/document/layer_facts.h"
@@ -15,7 +16,7 @@ using host::Frame;
 using host::LayerFacts;
 using host::LayerGap;
 
-/// Category of the maps' values that belong to a layer; null for lighting, which has none.
+/// What the engine calls a layer.
 static const char* categoryOf(const QString& layer)
 {
     static constexpr struct
@@ -30,12 +31,12 @@ static const char* categoryOf(const QString& layer)
     for (const auto& each : kCategories)
         if (layer == QLatin1String(each.layer))
             return each.category;
-    return nullptr;
+    return "Lighting";
 }
 
-static bool isLine(const char* category)
+static bool isLine(const LayerFacts& facts)
 {
-    return qstrcmp(category, "Lines") == 0;
+    return qstrcmp(facts.category, "Lines") == 0;
 }
 
 /// Text, and caption of the button that mends it.
@@ -75,6 +76,11 @@ static Note noteOf(LayerGap gap, const QString& layer, bool ofLines)
                                "nothing.")
                     .arg(layer),
                 LayerNotes::tr("Choose Variables")};
+    case LayerGap::NotInSpace:
+        return {LayerNotes::tr("Lighting shows in 3D field plots only."), {}};
+    case LayerGap::NoFaces:
+        return {LayerNotes::tr("Neither shade nor contours show, so lighting changes nothing."),
+                LayerNotes::tr("Show Shade")};
     case LayerGap::None: break;
     }
     return {};
@@ -88,8 +94,6 @@ LayerNotes::LayerNotes(NoticeBar& bar, QObject* parent)
 
 void LayerNotes::explain(QAction& layer)
 {
-    if (!categoryOf(layer.objectName()))
-        return;
     m_layer = &layer;
     tell();
 }
@@ -113,18 +117,20 @@ void LayerNotes::refresh()
 /// Takes an earlier note about layers away when there is nothing to say.
 void LayerNotes::tell()
 {
-    const LayerGap gap = factsOf(*m_layer).gap;
-    const Note note = noteOf(gap, m_layer->text(), isLine(categoryOf(m_layer->objectName())));
-    if (gap != LayerGap::None || m_bar.isShown(m_note))
+    const LayerFacts facts = factsOf(*m_layer);
+    const bool isShade = qstrcmp(facts.category, "Shade") == 0; // of lighting, too
+    const Note note =
+        noteOf(facts.gap, isShade ? LayerBar::tr("Shade") : m_layer->text(), isLine(facts));
+    if (facts.gap != LayerGap::None || m_bar.isShown(m_note))
         m_note = m_bar.tell(note.text, note.caption, [this] { mend(); });
 }
 
-static void writeMaps(std::vector<std::string> path, const host::MapSet& maps,
-                      host::StyleInput value)
+static void write(std::vector<std::string> path, host::StyleInput value,
+                  const host::MapSet* maps = nullptr)
 {
     host::StyleWrite request;
     request.path = std::move(path);
-    request.objects = &maps;
+    request.objects = maps;
     request.value = std::move(value);
     Document::instance().write(request);
 }
@@ -133,19 +139,15 @@ void LayerNotes::mend()
 {
     if (!m_layer)
         return;
-    const char* const category = categoryOf(m_layer->objectName());
     const LayerFacts facts = factsOf(*m_layer);
     const Frame* frame = Document::instance().activeFrame();
     switch (facts.gap) {
-    case LayerGap::NoActiveMaps: {
-        host::StyleWrite request;
-        request.path = {isLine(category) ? "ActiveLineMaps" : "ActiveFieldMaps"};
-        request.value = host::allUpTo(frame->shownMapCount());
-        Document::instance().write(request);
+    case LayerGap::NoActiveMaps:
+        write({isLine(facts) ? "ActiveLineMaps" : "ActiveFieldMaps"},
+              host::allUpTo(frame->shownMapCount()));
         break;
-    }
     case LayerGap::NotShown:
-        writeMaps({isLine(category) ? "LineMap" : "FieldMap", category, "Show"}, facts.maps, true);
+        write({isLine(facts) ? "LineMap" : "FieldMap", facts.category, "Show"}, true, &facts.maps);
         break;
     case LayerGap::NoSurfaces: host::drawBoundaryFaces(facts.maps); break;
     case LayerGap::NoVariable:
@@ -153,6 +155,8 @@ void LayerNotes::mend()
                 ContourLevelsInitializationMode_ResetIfVariableIsNew))
             m_bar.tell(tr("The data have no variable that contours could show."));
         break;
+    case LayerGap::NoFaces: write({"FieldLayers", "ShowShade"}, true); break;
+    case LayerGap::NotInSpace:
     case LayerGap::None: break;
     }
     refresh();

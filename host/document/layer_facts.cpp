@@ -40,26 +40,40 @@ static bool hasContourVariable(const Frame& frame, CvlInt64 map)
             && hasVariable(kLines));
 }
 
+static LayerGap gapOf(const Frame& frame, CvlInt64 map, bool needsSurfaces, bool needsVariable)
+{
+    if (needsSurfaces && frame.fieldMaps().hasVolumeZones(map) && !drawsSurfaces(frame, map, false))
+        return LayerGap::NoSurfaces;
+    return needsVariable && !hasContourVariable(frame, map) ? LayerGap::NoVariable : LayerGap::None;
+}
+
+static LayerFacts lightingFacts(const Frame& frame)
+{
+    if (frame.plotType() != PlotType_Field3D)
+        return {LayerGap::NotInSpace, {}, ""};
+    if (frame.fieldLayer("ShowContour") && layerFacts(frame, "Contour").gap == LayerGap::None)
+        return {};
+    return frame.fieldLayer("ShowShade") ? layerFacts(frame, "Shade")
+                                         : LayerFacts {LayerGap::NoFaces, {}, ""};
+}
+
 LayerFacts layerFacts(const Frame& frame, const char* category)
 {
+    if (std::strcmp(category, "Lighting") == 0)
+        return lightingFacts(frame);
     const bool isLines = std::strcmp(category, "Lines") == 0;
     const MapSet& active = isLines ? frame.activeLineMaps() : frame.activeFieldMaps();
     if (active.isEmpty())
-        return {LayerGap::NoActiveMaps, active};
+        return {LayerGap::NoActiveMaps, active, category};
     const AttributeId show =
         Schema::instance().find({isLines ? "LineMap" : "FieldMap", category, "Show"});
     const bool needsSurfaces = !isLines && std::strcmp(category, "EdgeLayer") != 0;
     const bool needsVariable = std::strcmp(category, "Contour") == 0;
-    LayerFacts facts {LayerGap::NotShown, {}};
+    LayerFacts facts {LayerGap::NotShown, {}, category};
     for (const std::uint32_t map : active) {
         if (!(isLines ? frame.lineInteger(show, map) : frame.fieldInteger(show, map)))
             continue;
-        LayerGap gap = LayerGap::None;
-        if (needsSurfaces && frame.fieldMaps().hasVolumeZones(map)
-            && !drawsSurfaces(frame, map, false))
-            gap = LayerGap::NoSurfaces;
-        else if (needsVariable && !hasContourVariable(frame, map))
-            gap = LayerGap::NoVariable;
+        const LayerGap gap = gapOf(frame, map, needsSurfaces, needsVariable);
         if (gap == LayerGap::None)
             return {};
         facts.gap = std::max(gap, facts.gap);

@@ -15,17 +15,21 @@ enum class LayerGap {
     NoActiveMaps,
     NotShown, ///< its "Show" value is off in all active maps
     NoSurfaces, ///< the maps that show it are volumes that draw no surfaces
-    NoVariable ///< no contour group that the maps follow has a variable
+    NoVariable, ///< no contour group that the maps follow has a variable
+    NotInSpace, ///< lighting of a 2D plot
+    NoFaces ///< lighting, and neither contours nor shade are on
 };
 
 struct LayerFacts
 {
     LayerGap gap = LayerGap::None;
     MapSet maps; ///< active maps that show the layer; all active maps when none does
+    const char* category = ""; ///< that the gap is in: of lighting, that of the shade
 };
 
 /// What there is to see of a field layer, named by its category of the maps ("Mesh", "Contour",
-/// "Shade", "EdgeLayer"), or of the line layer "Lines".
+/// "Shade", "EdgeLayer"), of "Lighting", which takes contours or shade, or of the line layer
+/// "Lines".
 LayerFacts layerFacts(const Frame& frame, const char* category);
 
 /// The field map draws some of its surfaces; with `orPoints` also when it draws points that do not

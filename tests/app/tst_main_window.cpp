@@ -199,6 +199,13 @@ void tst_MainWindow::layersThatShowNothingSayWhy()
     QCOMPARE(frame().activeFieldMaps(), maps);
     QVERIFY(!shownTexts().contains(QLatin1String("layer")));
 
+    layer("ShowContour").trigger();
+    layer("UseLightingEffect").trigger();
+    QVERIFY(button("Show Shade"));
+    button("Show Shade")->click();
+    play::waitUntilIdle();
+    QVERIFY(frame().fieldLayer("ShowShade") && !button("Show Shade"));
+
     // A note goes when it is true no longer.
     write({"FieldMap", "Mesh", "Show"}, &maps, false);
     layer("ShowMesh").trigger();
