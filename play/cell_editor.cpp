@@ -15,17 +15,12 @@ namespace corvala::play {
 
 using Json = nlohmann::json;
 
-static CellEdit::End endOf(const QString& text)
+static QKeySequence endOf(const QString& text)
 {
-    if (text == QLatin1String("Return"))
-        return CellEdit::Return;
-    if (text == QLatin1String("Tab"))
-        return CellEdit::Tab;
-    if (text == QLatin1String("Escape"))
-        return CellEdit::Escape;
-    if (text == QLatin1String("outside"))
-        return CellEdit::Outside;
-    throw ScriptError(Text::tr("\"end\" must be \"Return\", \"Tab\", \"Escape\" or \"outside\""));
+    const QKeySequence key(text, QKeySequence::PortableText);
+    if (text != QLatin1String("outside") && (key.isEmpty() || key[0] == Qt::Key_unknown))
+        throw ScriptError(Text::tr("\"end\" must be \"outside\" or a key such as \"Return\""));
+    return text == QLatin1String("outside") ? QKeySequence() : key;
 }
 
 CellEdit cellEditOf(const Arguments& arguments)
@@ -94,14 +89,10 @@ static void enter(QWidget& editor, const CellEdit& edit)
     throw ScriptError(Text::tr("the editor has no list"));
 }
 
-static void end(QWidget& editor, CellEdit::End how, QWidget& dialog)
+static void end(QWidget& editor, const QKeySequence& key, QWidget& dialog)
 {
-    switch (how) {
-    case CellEdit::Return: return pressKey(&editor, Qt::Key_Return);
-    case CellEdit::Tab: return pressKey(&editor, Qt::Key_Tab);
-    case CellEdit::Escape: return pressKey(&editor, Qt::Key_Escape);
-    case CellEdit::Outside: break;
-    }
+    if (!key.isEmpty())
+        return pressKeys(&editor, key);
     auto* field =
         dialog.findChild<QLineEdit*>(QStringLiteral("mapSelectionByPattern_pattern_lineEdit"));
     if (field)

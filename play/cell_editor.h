@@ -3,6 +3,8 @@
 
 #include "play/arguments.h"
 
+#include <QKeySequence>
+
 class QWidget;
 
 namespace corvala::play {
@@ -10,12 +12,10 @@ namespace corvala::play {
 /// What a script does in the editor of a cell.
 struct CellEdit
 {
-    enum End { Return, Tab, Escape, Outside };
-
     bool opens = true; ///< false: the script expects that no editor comes
     nlohmann::json type; ///< text to type, or null
     nlohmann::json choose; ///< text or position of an entry, or null
-    End end = Return;
+    QKeySequence end; ///< a key, or empty for a click elsewhere
 };
 
 /// From the keys "opens", "type", "choose" and "end" of a line.

@@ -169,4 +169,11 @@ void typeOver(QWidget* window, const QString& text)
     }
 }
 
+void enter(QWidget& field, const QString& text)
+{
+    field.setFocus(Qt::TabFocusReason);
+    typeOver(&field, text);
+    pressKey(&field, Qt::Key_Return);
+}
+
 } // namespace corvala::play

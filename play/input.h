@@ -41,4 +41,7 @@ void pressKeys(QWidget* window, const QKeySequence& keys);
 /// an input method would commit them.
 void typeOver(QWidget* window, const QString& text);
 
+/// Goes to the field, types over its content and presses Return.
+void enter(QWidget& field, const QString& text);
+
 } // namespace corvala::play

@@ -20,6 +20,9 @@ namespace corvala::play {
 
 using Json = nlohmann::json;
 
+/// Longer lists are not described.
+static constexpr int kMostItems = 1000;
+
 static std::string withoutMnemonic(QString text)
 {
     return text.remove(QLatin1Char('&')).toStdString();
@@ -81,6 +84,14 @@ QAbstractButton* acceptButton(const QWidget& prompt)
 QAbstractButton* refuseButton(const QWidget& prompt)
 {
     return buttonWithRole(prompt, {QDialogButtonBox::RejectRole, QDialogButtonBox::NoRole});
+}
+
+static int itemCountOf(const QWidget& field)
+{
+    if (const auto* combo = qobject_cast<const QComboBox*>(&field))
+        return combo->count();
+    const auto* view = qobject_cast<const QAbstractItemView*>(&field);
+    return view && view->model() ? view->model()->rowCount() : 0;
 }
 
 QStringList itemsOf(const QWidget& field)
@@ -187,6 +198,8 @@ Json describePrompt(const QWidget& prompt)
     addFieldValues(description, "decimals", fields,
                    [](const QWidget& field) { return propertyOf(field, "decimals"); });
     for (const QWidget* field : fields) {
+        if (itemCountOf(*field) > kMostItems)
+            continue;
         for (const QString& item : itemsOf(*field))
             description["items"].push_back(item.toStdString());
     }

@@ -67,11 +67,9 @@ static void pickEntry(QComboBox& combo, const QString& text)
     const int position = combo.findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (position < 0)
         throw ScriptError(Text::tr("the list has no entry \"%1\"").arg(text));
+    if (combo.isEditable())
+        return enter(combo, text);
     combo.setFocus(Qt::TabFocusReason);
-    if (combo.isEditable()) {
-        typeOver(&combo, text);
-        return pressKey(&combo, Qt::Key_Return);
-    }
     pressKey(&combo, Qt::Key_Home);
     for (int i = 0; i < position; ++i)
         pressKey(&combo, Qt::Key_Down);

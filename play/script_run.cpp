@@ -18,7 +18,7 @@ ScriptRun::ScriptRun(Stage& stage, const QString& folder)
     , m_prompts([this](QWidget& prompt, const Json& reply) {
         return playDuring(Arguments(reply, m_folder), prompt);
     })
-    , m_watcher(stage.window())
+    , m_watcher(&stage.window())
 {
     m_watcher.setHandler(WindowWatcher::Prompt,
                          [this](QWidget& prompt) { m_prompts.answer(prompt); });

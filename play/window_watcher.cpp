@@ -11,7 +11,7 @@
 
 namespace corvala::play {
 
-WindowWatcher::WindowWatcher(QWidget& mainWindow)
+WindowWatcher::WindowWatcher(const QWidget* mainWindow)
     : m_mainWindow(mainWindow)
 {
     qApp->installEventFilter(this);
@@ -45,7 +45,7 @@ bool WindowWatcher::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Show && watched->isWidgetType()) {
         auto& widget = static_cast<QWidget&>(*watched);
-        if (widget.isWindow() && &widget != &m_mainWindow)
+        if (widget.isWindow() && &widget != m_mainWindow)
             noteShown(widget);
     }
     return false;

@@ -23,7 +23,8 @@ public:
     enum Kind { Menu, Popup, Prompt, KindCount };
     using Handler = std::function<void(QWidget&)>;
 
-    explicit WindowWatcher(QWidget& mainWindow);
+    /// The main window, if any, is none of those that open.
+    explicit WindowWatcher(const QWidget* mainWindow = nullptr);
     ~WindowWatcher() override;
 
     /// Handles windows of the kind until the next call. An empty handler lets none open: it is
@@ -43,7 +44,7 @@ private:
     void handle(Kind kind, QWidget& window);
     void noteShown(QWidget& window);
 
-    QWidget& m_mainWindow;
+    const QWidget* m_mainWindow;
     Handler m_handlers[KindCount];
     QPointer<QWidget> m_modeless;
     QString m_error;

@@ -43,25 +43,16 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void writesAllMapsAtOnce_data();
-    void writesAllMapsAtOnce();
     void doesNothingWithoutRows();
     void asksBeforeShowingALayer_data();
     void asksBeforeShowingALayer();
-    void assignsContourVariables();
     void survivesItsMenu();
     void activatesMaps_data();
     void activatesMaps();
-    void offersSizes();
-    void entersANumber_data();
-    void entersANumber();
     void asksOverTheDialog();
     void selectsAVariable();
-    void selectsAZone();
     void entersThreeValues();
     void entersACharacter();
-    void choosesAColor();
-    void renamesLineMaps();
     void knowsCommonCurveFits_data();
     void knowsCommonCurveFits();
 
@@ -95,39 +86,6 @@ QModelIndexList tst_StyleActions::lineRows(const QList<int>& rows)
 {
     m_model.reset(makeChain<LineStaticAreaModel>());
     return cells(*m_model, rows);
-}
-
-void tst_StyleActions::writesAllMapsAtOnce_data()
-{
-    QTest::addColumn<MakeAction>("make");
-    QTest::addColumn<QString>("written");
-
-    const auto row = [](const char* name, auto value, StylePath path, const char* written) {
-        QTest::newRow(name) << MakeAction([=](const QModelIndexList& rows) {
-            return new StyleAction<decltype(value)>("text", rows, value, path);
-        }) << written;
-    };
-    row("switch", char {0}, {"FieldMap", "Mesh", "Show"}, "FieldMap.Mesh.Show 3-4,8 = false");
-    row("integer", 3, {"FieldMap", "Group"}, "FieldMap.Group 3-4,8 = 3");
-    row("real", 0.25, {"FieldMap", "Mesh", "LineThickness"},
-        "FieldMap.Mesh.LineThickness 3-4,8 = 0.25");
-    row("enumeration", MeshType_HiddenLine, {"FieldMap", "Mesh", "MeshType"},
-        "FieldMap.Mesh.MeshType 3-4,8 = 2");
-    row("five names", FontOverride_Greek + 0,
-        {"FieldMap", "Scatter", "SymbolShape", "ASCIIShape", "FontOverride"},
-        "FieldMap.Scatter.SymbolShape.ASCIIShape.FontOverride 3-4,8 = 1");
-}
-
-void tst_StyleActions::writesAllMapsAtOnce()
-{
-    QFETCH(MakeAction, make);
-    QVERIFY(openDemo("field2d"));
-    EventLog events;
-    const std::unique_ptr<Action> action(make(fieldRows({7, 2, 3, 7})));
-    action->trigger();
-    QTEST(takeWrites(), "written");
-    QCOMPARE(events.take(), QString("7:FieldMap"));
-    QCOMPARE(Document::instance().undo().stepCount(), 1);
 }
 
 void tst_StyleActions::doesNothingWithoutRows()
@@ -211,7 +169,7 @@ void tst_StyleActions::asksBeforeShowingALayer()
     QVERIFY(setStyle("FieldMap.Points.PointsToPlot", "1", c.points));
     QVERIFY(setStyle(QString("FieldMap.%1.%2").arg(c.category, c.attribute), "1", c.value ? 0 : 1));
     for (const char* answer = c.answers; *answer; ++answer)
-        m_user->press(*answer == 'y' ? QMessageBox::Yes : QMessageBox::No);
+        m_user->reply(*answer == 'y' ? "OK" : "cancel");
 
     StyleAction<char> action("Yes", fieldRows({0}), c.value, {"FieldMap", c.category, c.attribute});
     action.trigger();
@@ -229,17 +187,6 @@ void tst_StyleActions::asksBeforeShowingALayer()
     QCOMPARE(surfaces.read<int>(1).value_or(-1) != SurfacesToPlot_None, c.surfacesDrawn);
     QVERIFY(!QGuiApplication::overrideCursor());
     QVERIFY(!Document::instance().isLocked());
-}
-
-void tst_StyleActions::assignsContourVariables()
-{
-    QVERIFY(openDemo("field3d", 1));
-    m_user->press(QMessageBox::Yes).press(QMessageBox::No);
-    StyleAction<char> action("Yes", fieldRows({0}), 1, {"FieldMap", "Contour", "Show"});
-    action.trigger();
-    const corvala::toolbox::StyleValue variable("ContourGroups", "Var");
-    for (int group = 1; group <= 8; ++group)
-        QVERIFY(variable.read<int>(0, group).value_or(0) != 0);
 }
 
 void tst_StyleActions::survivesItsMenu()
@@ -293,50 +240,6 @@ void tst_StyleActions::activatesMaps()
     QVERIFY(undo.stepCount() <= steps + 1);
 }
 
-void tst_StyleActions::offersSizes()
-{
-    static constexpr SizePrompt kPrompt {"SymbolSizes", "Title", "Label", 0.0, 100.0};
-    QVERIFY(openDemo("field2d"));
-    const QList<QAction*> actions =
-        sizeActions(fieldRows({1, 2}), kPrompt, {"FieldMap", "Scatter", "FrameSize"});
-    QStringList texts;
-    for (const QAction* action : actions)
-        texts << (action->isSeparator() ? "-" : action->text());
-    QCOMPARE(texts.join('|'), QString("0.50|1.00|2.00|3.00|5.00|-|Enter..."));
-
-    actions.at(3)->trigger();
-    m_user->enter(2.5);
-    actions.last()->trigger();
-    QCOMPARE(m_user->takeSeen(), QStringList {"Title: Label [3, 0 to 100]"});
-    QCOMPARE(takeWrites(),
-             QString("FieldMap.Scatter.FrameSize 2-3 = 3; FieldMap.Scatter.FrameSize 2-3 = 2.5"));
-    qDeleteAll(actions);
-}
-
-void tst_StyleActions::entersANumber_data()
-{
-    QTest::addColumn<double>("entered"); // nothing below 0
-    QTest::addColumn<QString>("written");
-    QTest::newRow("in range") << 0.07 << "FieldMap.Mesh.LineThickness 2,8 = 0.07";
-    QTest::newRow("too large") << 101.0 << "";
-    QTest::newRow("cancelled") << -1.0 << "";
-}
-
-void tst_StyleActions::entersANumber()
-{
-    QFETCH(double, entered);
-    QVERIFY(openDemo("field2d"));
-    QVERIFY(setStyle("FieldMap.Mesh.LineThickness", "8", 0.25));
-    EnterSingleValueAction<double> action("Enter...", fieldRows({7, 1}), "Title", "Label", 0.0001,
-                                          100.0, {"FieldMap", "Mesh", "LineThickness"});
-    m_user->enter(entered);
-    action.trigger();
-    QTEST(takeWrites(), "written");
-    const QString seen = m_user->takeSeen().join("");
-    QVERIFY2(seen.startsWith("Title: Label [0.25, ") && seen.endsWith(" to 100]"),
-             qPrintable(seen));
-}
-
 static QWidget* theDialog = nullptr;
 
 void tst_StyleActions::asksOverTheDialog()
@@ -369,30 +272,13 @@ void tst_StyleActions::selectsAVariable()
 
     VariableSelectAction action("Select Variable...", lineRows({2, 0}), "Choose", "The variable",
                                 {"LineMap", "Assign", "XAxisVar"});
-    m_user->choose("Gain").choose("no such variable");
+    m_user->reply("Gain").reject();
     action.trigger();
     action.trigger();
     QCOMPARE(
         m_user->takeSeen(),
         (QStringList {"Choose: The variable [Power of 6]", "Choose: The variable [Gain of 6]"}));
     QCOMPARE(takeWrites(), QString("LineMap.Assign.XAxisVar 1,3 = 7"));
-}
-
-void tst_StyleActions::selectsAZone()
-{
-    QVERIFY(openDemo("xy"));
-    ZoneSelectAction action(lineRows({2, 0}));
-    QCOMPARE(action.text(), QString("Select Zone..."));
-    m_user->reject();
-    m_user->answer([](QDialog& dialog) {
-        auto* list = dialog.findChild<QListView*>();
-        list->setCurrentIndex(list->model()->index(2, 0));
-        dialog.accept();
-    });
-    action.trigger();
-    QCOMPARE(takeWrites(), QString());
-    action.trigger();
-    QCOMPARE(takeWrites(), QString("LineMap.Assign.Zone 1,3 = 3"));
 }
 
 void tst_StyleActions::entersThreeValues()
@@ -423,7 +309,7 @@ void tst_StyleActions::entersThreeValues()
     action.trigger();
     action.trigger();
     QCOMPARE(asked.join(' '), QString("&Begin &End &Skip 1 from 1 6 from 0 1 from 1"));
-    QCOMPARE(m_user->takeSeen().first(), QString("Enter Range: "));
+    QCOMPARE(m_user->takeSeen().first(), QString("Enter Range: &Begin"));
     QCOMPARE(takeWrites(),
              QString("FieldMap.Surfaces.IRange.Min 1,3 = 2; FieldMap.Surfaces.IRange.Max 1,3 = 6; "
                      "FieldMap.Surfaces.IRange.Skip 1,3 = 3"));
@@ -452,34 +338,6 @@ void tst_StyleActions::entersACharacter()
     QCOMPARE(takeWrites(),
              shape + "ASCIIChar 1,5 = \"b\"; " + shape + "UseBaseFont 1,5 = false; " + shape
                  + "FontOverride 1,5 = 2");
-}
-
-void tst_StyleActions::choosesAColor()
-{
-    using corvala::dialogs::prompt::ColorChooserWidget;
-    QVERIFY(openDemo("field2d"));
-    QMenu menu;
-    auto* action = new SelectColorAction(fieldRows({4, 0}), false, {"FieldMap", "Shade", "Color"});
-    action->setParent(&menu);
-    menu.addAction(action);
-    menu.popup({0, 0});
-    auto* chooser = menu.findChild<ColorChooserWidget*>();
-    QVERIFY(chooser && !chooser->offersGroupColors());
-    chooser->colorButton(5)->click();
-    QCOMPARE(takeWrites(), QString("FieldMap.Shade.Color 1,5 = 5"));
-    QVERIFY(!menu.isVisible());
-}
-
-void tst_StyleActions::renamesLineMaps()
-{
-    QVERIFY(openDemo("xy"));
-    const QString name = QString::fromUtf8("Größe \"&ZN&\"");
-    MapRenameAction(lineRows({1, 3}), name).trigger();
-    QCOMPARE(columnText(*m_model, LineStaticAreaModel::MapName).split('|').at(3),
-             QString::fromUtf8("Größe \"Zone 1\""));
-    QCOMPARE(m_model->index(1, LineStaticAreaModel::MapName).data(Qt::EditRole).toString(), name);
-    QCOMPARE(Document::instance().undo().stepCount(), 1);
-    QVERIFY(!Document::instance().isLocked());
 }
 
 void tst_StyleActions::knowsCommonCurveFits_data()

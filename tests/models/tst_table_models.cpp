@@ -428,7 +428,7 @@ void tst_TableModels::offerMenus()
     open(chain);
     ModalResponder user;
     if (chosen == "Select Variable...")
-        user.choose("Gain");
+        user.reply("Gain");
     ColumnMenu menu(*m_model, {2, 0}, columnOf(column));
     QTEST(menu.text(), "entries");
     if (!chosen.isEmpty())
@@ -533,7 +533,7 @@ void tst_TableModels::confirmZones()
     open("xy");
     const QModelIndexList zones = cells(*m_model, {1, 2}, columnOf("Zone"));
     ModalResponder user;
-    user.press(QMessageBox::No).press(QMessageBox::Yes);
+    user.reject().accept();
     QVERIFY(!m_model->setDataForIndexes(zones, "4: Zone 4", Qt::EditRole)); // is not ordered
     QCOMPARE(takeWrites(), QString());
     QVERIFY(m_model->setDataForIndexes(zones, "4: Zone 4", Qt::EditRole));
@@ -551,7 +551,7 @@ void tst_TableModels::confirmZonesForTheEditedMaps()
     QVERIFY(setStyle("LineMap.Assign.YAxisVar", "2", 8));
     ModalResponder user;
     QVERIFY(m_model->setData(m_model->index(0, columnOf("Zone")), "2: Zone 2"));
-    user.press(QMessageBox::No);
+    user.reject();
     QVERIFY(!m_model->setData(m_model->index(1, columnOf("Zone")), "2: Zone 2"));
     QCOMPARE(takeWrites(), QString("LineMap.Assign.Zone 1 = 2"));
     QVERIFY(user.isSettled());

@@ -1,17 +1,24 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "host/document/document.h"
 #include "play/stage.h"
 
+#include <QAction>
 #include <QMainWindow>
 
 namespace corvala::tests {
 
-/// A stage without canvas and readers.
+/// A stage without canvas and readers; its window undoes and redoes by keys.
 class BareStage : public play::Stage
 {
 public:
-    BareStage() { m_window.show(); }
+    BareStage()
+    {
+        addCommand(QKeySequence::Undo, [](auto& history) { history.undo(); });
+        addCommand(QKeySequence::Redo, [](auto& history) { history.redo(); });
+        m_window.show();
+    }
 
     QWidget& window() override { return m_window; }
     QString openFiles(const QStringList&) override
@@ -25,6 +32,20 @@ public:
     }
 
 private:
+    template<class Command>
+    void addCommand(const QKeySequence& keys, Command command)
+    {
+        auto* action = new QAction(&m_window);
+        action->setShortcut(keys);
+        action->setShortcutContext(Qt::ApplicationShortcut);
+        QObject::connect(action, &QAction::triggered, [command] {
+            host::UndoHistory& history = host::Document::instance().undo();
+            if (!history.isBracketOpen())
+                command(history);
+        });
+        m_window.addAction(action);
+    }
+
     QMainWindow m_window;
 };
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "host/document/document.h"
 #include "play/arguments.h"
-#include "play/script.h"
+#include "play/player.h"
+#include "tests/play/bare_stage.h"
 
+#include <QTemporaryFile>
 #include <QTest>
 
 using namespace corvala::play;
@@ -18,6 +21,8 @@ private Q_SLOTS:
     void argumentsRefuseOtherKinds_data();
     void argumentsRefuseOtherKinds();
     void filesLieRelativeToTheScript();
+    void playerComplains_data();
+    void playerComplains();
 };
 
 void tst_Script::skipsBlankLinesAndComments()
@@ -110,5 +115,61 @@ void tst_Script::filesLieRelativeToTheScript()
     QCOMPARE(arguments.file("far"), QStringLiteral("/c.png"));
 }
 
-QTEST_GUILESS_MAIN(tst_Script)
+void tst_Script::playerComplains_data()
+{
+    QTest::addColumn<QByteArray>("lines");
+    QTest::addColumn<QString>("problem");
+    const auto row = [](const char* name, const char* lines, const char* problem) {
+        QTest::newRow(name) << QByteArray(lines) << problem;
+    };
+    row("unknown verb", R"({"sit": 1})", "3: unknown verb \"sit\"");
+    row("two verbs", R"({"undo": 1, "redo": 1})", "3: two verbs");
+    row("key of another verb", R"({"undo": 1, "map": 1})", "3: \"undo\" has no key \"map\"");
+    row("bad line inside", R"({"menu": 1, "column": 4, "during": [{"sit": 1}]})",
+        "3: unknown verb");
+    row("refused by the engine", R"({"set": ["FieldMap", "Group"], "maps": "1", "value": 0})",
+        "3: ");
+    row("wrong value", R"({"get": ["FieldMap", "Group"], "map": 1, "is": 2})", "is 1, not 2");
+    row("wrong cell", R"({"expect": {"map": 1, "column": 2, "display": "2"}})", "is 1, not \"2\"");
+    row("no editor", R"({"popup": 1, "column": 1, "type": "x"})", "3: no editor opened");
+    row("an editor", R"({"popup": 1, "column": 2, "opens": false})", "3: an editor opened");
+    row("no menu", R"({"menu": 1, "column": 1, "choose": 1})", "3: the cell has no menu");
+    row("no such entry", R"({"menu": 1, "column": 5, "choose": "Thick"})", "no entry \"Thick\"");
+    row("prompt without a reply", R"({"menu": 1, "column": 9, "choose": "Enter..."})",
+        "no reply is queued");
+    row("reply without a prompt", R"({"answers": ["OK"]})", "3: replies are left");
+    row("no reply", R"({"answers": [{"place": 3}]})", "is no reply to a prompt");
+    row("taken against expectation", R"({"answers": [{"refused": 50}]}
+{"menu": 1, "column": 9, "choose": "Enter..."})",
+        "4: the prompt \"Enter the value for the line thickness\" accepts 50");
+    row("too many fields", R"({"answers": [[2, 3]]}
+{"menu": 1, "column": 9, "choose": "Enter..."})",
+        "has 1 fields, not 2");
+    row("not dropped", R"({"menu": 1, "column": 5, "dropped": true, "during": []})",
+        "was not dropped");
+    row("closed meanwhile",
+        R"({"popup": 1, "column": 2, "type": "2", "during": [{"dialog": "destroy"}]})",
+        "3: what was open is closed");
+}
+
+/// A check that cannot fail would be worthless.
+void tst_Script::playerComplains()
+{
+    QFETCH(QByteArray, lines);
+    QFETCH(QString, problem);
+    corvala::host::Document::instance().clear();
+    QTemporaryFile script;
+    QVERIFY(script.open());
+    script.write(R"({"demo": "field2d"})"
+                 "\n"
+                 R"({"dialog": "open"})"
+                 "\n"
+                 + lines + '\n');
+    script.close();
+    corvala::tests::BareStage stage;
+    const QString seen = playScript(script.fileName(), stage);
+    QVERIFY2(seen.startsWith(script.fileName()) && seen.contains(problem), qPrintable(seen));
+}
+
+QTEST_MAIN(tst_Script)
 #include "tst_script.moc"

@@ -6,6 +6,7 @@
 #include "sdk/common/common.h"
 #include "tests/support/modal_responder.h"
 
+#include <QMessageBox>
 #include <QtTest>
 
 #include <vtkCellData.h>
@@ -207,7 +208,7 @@ void tst_Common::asksForTheLayer()
     open("field3d", 4);
     ModalResponder responder;
     if (answer != 0)
-        responder.press(QMessageBox::StandardButton(answer));
+        responder.reply(answer == QMessageBox::Yes ? "OK" : "cancel");
     boost::function<bool(PlotType_e)> function;
     int asked = PlotType_None;
     if (chooser >= 0)
@@ -227,7 +228,7 @@ void tst_Common::offersSurfaces()
     open("field3d", 4);
     const toolbox::StyleValue surfaces("FieldMap", "Surfaces", "SurfacesToPlot");
     ModalResponder responder;
-    responder.press(QMessageBox::No).press(QMessageBox::Yes);
+    responder.reject().accept();
     QVERIFY(!sdk::queryToEnableSurfacePlotLayer("Mesh"));
     QCOMPARE(surfaces.read<int>(1), std::optional<int>(SurfacesToPlot_None));
     QVERIFY(sdk::queryToEnableSurfacePlotLayer("Mesh"));
@@ -242,9 +243,9 @@ void tst_Common::confirmsUnorderedZones()
     ModalResponder responder;
     QVERIFY(sdk::confirmLineMapZoneSelection(3));
     QVERIFY(sdk::confirmLineMapZoneSelection(77));
-    responder.press(QMessageBox::No);
+    responder.reject();
     QVERIFY(!sdk::confirmLineMapZoneSelection(4));
-    responder.press(QMessageBox::Yes);
+    responder.accept();
     QVERIFY(sdk::confirmLineMapZoneSelection(4));
     QVERIFY(responder.isSettled());
 }
@@ -255,7 +256,7 @@ void tst_Common::confirmsZonesWithoutPointValues()
     ModalResponder responder;
     QVERIFY(sdk::confirmLineMapZoneSelection(1)); // for no map
     QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({1, 99})));
-    responder.press(QMessageBox::No).press(QMessageBox::Yes);
+    responder.reject().accept();
     QVERIFY(!sdk::confirmLineMapZoneSelection(1, maps({1, 2})));
     QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({3})));
     QVERIFY(responder.isSettled());

@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "play/input.h"
 #include "tests/sdkui/document_fixture.h"
-#include "tests/sdkui/widget_driver.h"
+
+#include <sdk/common_ui/combo_box_auto_filter.h>
 
 #include <sdk/base/cvl.h>
 #include <sdk/dialogs_lineplot/curve_fit_settings_dialog.h>
 #include <sdk/dialogs_lineplot/line_map_create_dialog.h>
 #include <sdk/propertybindings/curve_fit_collection.h>
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QSpinBox>
@@ -229,8 +233,8 @@ void TestLinePlotDialogs::createsOneLineMapPerVariable()
     dialog.launch();
     QVERIFY(!dialog.isModal());
     QCOMPARE(dialog.windowTitle(), QString("Create Line Maps"));
-    tests::chooseEntry(*fieldLabelled<ui::ComboBoxAutoFilter>(dialog, "&Zone:"), "Zone 2");
-    tests::chooseEntry(*fieldLabelled<ui::ComboBoxAutoFilter>(dialog, independentLabel), "angle");
+    play::enter(*fieldLabelled<ui::ComboBoxAutoFilter>(dialog, "&Zone:"), "Zone 2");
+    play::enter(*fieldLabelled<ui::ComboBoxAutoFilter>(dialog, independentLabel), "angle");
     QCOMPARE(CvlUtilLineMapGetCountForFrame(CvlUtilFrameGetUniqueID()), 6);
 
     auto* list = fieldLabelled<QListView>(dialog, dependentLabel);
@@ -273,7 +277,7 @@ void TestLinePlotDialogs::createDialogFollowsTheDocument()
     auto& dialog = LineMapCreateDialog::getInstance(m_window.get());
     dialog.launch();
     auto* zone = fieldLabelled<ui::ComboBoxAutoFilter>(dialog, "&Zone:");
-    tests::chooseEntry(*zone, "3:");
+    play::enter(*zone, "3:");
     auto* list = fieldLabelled<QListView>(dialog, "&Y-axis variables:");
     list->selectionModel()->select(list->model()->index(2, 0), QItemSelectionModel::Select);
     host::Document::instance().renameZone(3, "Outlet");
@@ -289,7 +293,7 @@ CurveFitSettingsDialog& TestLinePlotDialogs::launchSettings(const toolbox::Set& 
 {
     auto& dialog = CurveFitSettingsDialog::getInstance(m_window.get());
     dialog.launch(CvlUtilFrameGetUniqueID(), maps);
-    tests::activate(dialog);
+    QApplication::setActiveWindow(&dialog);
     return dialog;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "play/input.h"
 #include "tests/sdkui/document_fixture.h"
-#include "tests/sdkui/widget_driver.h"
+
 #include "tests/support/modal_responder.h"
 
 #include <sdk/common_ui/combo_box_auto_filter.h>
@@ -12,6 +13,7 @@
 #include <sdk/dialogs_prompt/vector_var_assign_strategy.h>
 #include <sdk/dialogs_prompt/zone_select_dialog.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -69,7 +71,7 @@ static ModalResponder::Answer ending(Answer answer)
 {
     return [answer](QDialog& shown) {
         const QPointer<QDialog> guard(&shown);
-        tests::activate(shown);
+        QApplication::setActiveWindow(&shown);
         answer(shown);
         if (guard && guard->isVisible())
             guard->reject();
@@ -588,10 +590,10 @@ void TestPrompts::vectorVariablesAreAskedForOnce()
         const auto boxes = shown.findChildren<ui::ComboBoxAutoFilter*>();
         QCOMPARE(boxes.size(), components);
         QVERIFY(!okButton(shown)->isEnabled()); // V is not chosen
-        tests::chooseEntry(*boxes.at(1), "density");
+        play::enter(*boxes.at(1), "density");
         QVERIFY(okButton(shown)->isEnabled());
         QVERIFY(shown.isVisible()); // Return chose the entry only
-        tests::chooseEntry(*boxes.at(0), "pressure");
+        play::enter(*boxes.at(0), "pressure");
         QTest::mouseClick(okButton(shown), Qt::LeftButton);
     }));
     QVERIFY(strategy(type));
@@ -621,10 +623,10 @@ void TestPrompts::scatterDialogWritesAndFollows()
 {
     auto& dialog = ScatterSizeFontDialog::getInstance(m_window.get());
     dialog.launch();
-    tests::activate(dialog);
+    QApplication::setActiveWindow(&dialog);
     auto* variable = dialog.findChild<ui::ComboBoxAutoFilter*>();
     QCOMPARE(variable->currentText(), QString("None"));
-    tests::chooseEntry(*variable, "pressure");
+    play::enter(*variable, "pressure");
     QCOMPARE(tests::frameValue("GlobalScatter", "Var"), 5.0);
     QVERIFY(dialog.isVisible());
 
@@ -652,7 +654,7 @@ void TestPrompts::hiddenPromptsReadNothing()
 {
     auto& scatter = ScatterSizeFontDialog::getInstance(m_window.get());
     scatter.launch();
-    tests::activate(scatter);
+    QApplication::setActiveWindow(&scatter);
     scatter.close();
     ColorChooserWidget chooser(nullptr, true, ShowHelpButton_Yes);
     ZoneSelectDialog::getInstance(m_window.get());

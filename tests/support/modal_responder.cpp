@@ -1,51 +1,35 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "tests/support/modal_responder.h"
 
-#include "sdk/common_ui/number_field.h"
+#include "play/prompt_description.h"
 
-#include <QAbstractButton>
-#include <QCoreApplication>
 #include <QDialog>
-#include <QDialogButtonBox>
-#include <QEvent>
-#include <QInputDialog>
-#include <QLabel>
-#include <QPointer>
-#include <QPushButton>
 
 namespace corvala::tests {
 
-static QString rangeText(double value, double minimum, double maximum)
-{
-    return QStringLiteral(" [%1, %2 to %3]").arg(value).arg(minimum).arg(maximum);
-}
+using Json = nlohmann::json;
 
-static QString question(const QInputDialog& prompt)
+static QString textOf(const Json& prompt)
 {
-    QString text = prompt.labelText();
-    if (!prompt.comboBoxItems().isEmpty())
-        text += QStringLiteral(" [%1 of %2]")
-                    .arg(prompt.textValue(), QString::number(prompt.comboBoxItems().size()));
+    const auto number = [&prompt](const char* key) {
+        return QString::number(prompt[key].get<double>());
+    };
+    QString text = QString::fromStdString(prompt["title"].get<std::string>() + ": "
+                                          + prompt.value("label", std::string()));
+    if (prompt.contains("items") && prompt["value"].is_string())
+        text += QString(" [%1 of %2]")
+                    .arg(QString::fromStdString(prompt["value"].get<std::string>()))
+                    .arg(prompt["items"].size());
+    else if (prompt.contains("min") && prompt["min"].is_number())
+        text += QString(" [%1, %2 to %3]").arg(number("value"), number("min"), number("max"));
     return text;
-}
-
-static QString textOf(const QDialog& dialog)
-{
-    if (const auto* box = qobject_cast<const QMessageBox*>(&dialog))
-        return box->text();
-    if (const auto* number = dialog.findChild<ui::NumberField*>())
-        return dialog.findChild<QLabel*>()->text()
-            + rangeText(number->value(), number->lowest(), number->highest());
-    const auto* prompt = qobject_cast<const QInputDialog*>(&dialog);
-    return prompt ? question(*prompt) : QString();
 }
 
 ModalResponder::ModalResponder()
 {
-    qApp->installEventFilter(this);
+    m_watcher.setHandler(play::WindowWatcher::Prompt,
+                         [this](QWidget& prompt) { respond(static_cast<QDialog&>(prompt)); });
 }
-
-ModalResponder::~ModalResponder() = default;
 
 ModalResponder& ModalResponder::answer(Answer answer)
 {
@@ -53,88 +37,39 @@ ModalResponder& ModalResponder::answer(Answer answer)
     return *this;
 }
 
-ModalResponder& ModalResponder::press(QMessageBox::StandardButton button)
+ModalResponder& ModalResponder::reply(const Json& reply)
 {
-    return answer([button](QDialog& dialog) {
-        auto* box = qobject_cast<QMessageBox*>(&dialog);
-        QAbstractButton* pressed = box ? box->button(button) : nullptr;
-        if (pressed)
-            pressed->click();
-        else
-            dialog.reject();
+    return answer([reply](QDialog& prompt) {
+        play::PromptResponder responder;
+        responder.queue(Json::array({reply}));
+        responder.answer(prompt);
     });
-}
-
-ModalResponder& ModalResponder::enter(double value)
-{
-    return answer([value](QDialog& dialog) {
-        auto* field = dialog.findChild<ui::NumberField*>();
-        if (field)
-            field->setNumber(value);
-        auto* buttons = dialog.findChild<QDialogButtonBox*>();
-        if (field && buttons->button(QDialogButtonBox::Ok)->isEnabled())
-            dialog.accept();
-        else
-            dialog.reject();
-    });
-}
-
-ModalResponder& ModalResponder::choose(const QString& item)
-{
-    return answer([item](QDialog& dialog) {
-        auto* prompt = qobject_cast<QInputDialog*>(&dialog);
-        if (!prompt || !prompt->comboBoxItems().contains(item))
-            return dialog.reject();
-        prompt->setTextValue(item);
-        prompt->accept();
-    });
-}
-
-ModalResponder& ModalResponder::accept()
-{
-    return answer([](QDialog& dialog) { dialog.accept(); });
-}
-
-ModalResponder& ModalResponder::reject()
-{
-    return answer([](QDialog& dialog) { dialog.reject(); });
 }
 
 QStringList ModalResponder::takeSeen()
 {
-    QStringList seen;
-    seen.swap(m_seen);
-    return seen;
+    return std::exchange(m_seen, {});
 }
 
-bool ModalResponder::eventFilter(QObject* watched, QEvent* event)
+bool ModalResponder::isSettled()
 {
-    auto* dialog = qobject_cast<QDialog*>(watched);
-    if (dialog && event->type() == QEvent::Show && dialog->isModal()) {
-        // Queued: the answer is given from inside the dialog's own event loop.
-        const QPointer<QDialog> shown(dialog);
-        QMetaObject::invokeMethod(
-            this,
-            [this, shown] {
-                if (shown)
-                    respond(*shown);
-            },
-            Qt::QueuedConnection);
+    try {
+        m_watcher.check();
+    } catch (const play::ScriptError& error) {
+        qWarning("%s", error.what());
+        return false;
     }
-    return QObject::eventFilter(watched, event);
+    return m_answers.empty();
 }
 
-void ModalResponder::respond(QDialog& dialog)
+void ModalResponder::respond(QDialog& prompt)
 {
-    m_seen.append(dialog.windowTitle() + QStringLiteral(": ") + textOf(dialog));
-    if (m_answers.empty()) {
-        ++m_unanswered;
-        dialog.reject();
-        return;
-    }
+    m_seen.append(textOf(play::describePrompt(prompt)));
+    if (m_answers.empty())
+        throw play::ScriptError("no answer is left for " + m_seen.last());
     const Answer answer = m_answers.front();
     m_answers.pop_front();
-    answer(dialog);
+    answer(prompt);
 }
 
 } // namespace corvala::tests

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QMessageBox>
-#include <QObject>
+#include "play/prompt_responder.h"
+#include "play/window_watcher.h"
+
 #include <QStringList>
 
 #include <deque>
@@ -12,39 +13,33 @@ class QDialog;
 
 namespace corvala::tests {
 
-/// Answers the modal dialogs that open while it lives, in the order in which the answers were
-/// given. A dialog without an answer is rejected. Neither timers nor the focus play a part.
-class ModalResponder : public QObject
+/// The robot's answers to the modal prompts that open while it lives, in the order in which they
+/// were given. A prompt without an answer is refused.
+class ModalResponder
 {
 public:
-    using Answer = std::function<void(QDialog&)>; ///< must end the dialog
+    using Answer = std::function<void(QDialog&)>; ///< must end the prompt
 
     ModalResponder();
-    ~ModalResponder() override;
 
     ModalResponder& answer(Answer answer);
-    ModalResponder& press(QMessageBox::StandardButton button); ///< of a message box
-    ModalResponder& enter(double value); ///< into a prompt for a number, if it takes it
-    ModalResponder& choose(const QString& item); ///< of a prompt for an item
-    ModalResponder& accept();
-    ModalResponder& reject();
+    ModalResponder& reply(const nlohmann::json& reply); ///< as scripts give it
+    ModalResponder& accept() { return reply("OK"); } ///< a question too: yes
+    ModalResponder& reject() { return reply("cancel"); }
 
-    /// What the dialogs since the last call asked, each as "title: text"; a prompt for a number
+    /// What the prompts since the last call asked, each as "title: label"; a prompt for a number
     /// adds "[value, minimum to maximum]", one for an item "[current of count]".
     QStringList takeSeen();
 
-    /// Every dialog had an answer and every answer a dialog.
-    bool isSettled() const { return m_answers.empty() && m_unanswered == 0; }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    /// Every prompt had an answer, which it took, and every answer a prompt.
+    bool isSettled();
 
 private:
-    void respond(QDialog& dialog);
+    void respond(QDialog& prompt);
 
     std::deque<Answer> m_answers;
     QStringList m_seen;
-    int m_unanswered = 0;
+    play::WindowWatcher m_watcher;
 };
 
 } // namespace corvala::tests

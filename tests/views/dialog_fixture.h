@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "play/dialog_driver.h"
+#include "play/window_watcher.h"
 #include "tests/models/table_fixture.h"
+#include "tests/play/bare_stage.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
 #include "zonestyle/views/style_table_view.h"
-
-#include <QMainWindow>
 
 #include <functional>
 
@@ -21,31 +22,30 @@ using sdk::ui::dialogs::zonestyle::intern::views::StyleTableView;
 /// Lets everything that is pending happen, idle refreshes and repaints too.
 void runUntilIdle();
 
-/// Key presses with any text and any key; Qt's own helpers know ASCII alone.
-void typeText(QWidget& receiver, const QString& text);
-void pressKey(QWidget& receiver, int key);
-
 /// A style value of a map of the active frame, or of the frame (map 0).
 int styleValue(const QString& path, int map);
 
 /// The value of an attribute for every map, such as "1 1 2".
 QString styleValues(const QString& path, int maps);
 
-/// A document with embedded data and the dialog open on it. Cells are addressed by map number and
-/// by column of the whole table; gestures are mouse and key events.
+/// A document with embedded data and the dialog open on it, driven by the robot. Cells are
+/// addressed by map number and by column of the whole table.
 class DialogFixture
 {
 public:
     explicit DialogFixture(const char* demo, int scale = 0);
     ~DialogFixture();
 
-    QMainWindow& mainWindow() { return m_window; }
+    QWidget& mainWindow() { return m_stage.window(); }
     ZoneStyleDialog& dialog();
     StyleTableView& table();
     ModelAbstract& model();
-    QTabWidget& tabWidget(); ///< of the page that is shown
+    QTabWidget& tabWidget() { return m_driver.tabs(); } ///< of the page that is shown
     QLineEdit& patternField();
     QPushButton& button(const char* objectName);
+
+    /// Plays a line of a script. Throws a ScriptError.
+    void play(const nlohmann::json& line);
 
     QString tabs(); ///< the texts, "|" between them; "*" before the current one
     void clickTab(const QString& text);
@@ -63,19 +63,19 @@ public:
 private:
     QRect cellRect(int map, int column);
 
-    QMainWindow m_window;
+    BareStage m_stage;
+    play::DialogDriver m_driver;
     int m_refreshes = 0;
 };
 
-/// Deals with the pop-up windows (menus, pop-up editors) that open while it lives, in order, from
-/// inside their event loops. One that nobody expects is closed.
-class PopupResponder : public QObject
+/// Deals with the menus and pop-up editors that open while it lives, in order, from inside their
+/// event loops. One that nobody expects is closed.
+class PopupResponder
 {
 public:
     using Answer = std::function<void(QWidget&)>;
 
     explicit PopupResponder(Answer answer);
-    ~PopupResponder() override;
 
     PopupResponder& then(Answer answer);
     int shown() const { return m_shown; }
@@ -85,12 +85,12 @@ public:
     static Answer typeAndEnd(const QString& text, int endKey);
     static Answer end(int endKey);
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
+    void respond(QWidget& popup);
+
     QList<Answer> m_answers;
     int m_shown = 0;
+    play::WindowWatcher m_watcher;
 };
 
 } // namespace corvala::tests

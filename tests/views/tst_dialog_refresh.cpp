@@ -34,19 +34,14 @@ class tst_DialogRefresh : public QObject
 private Q_SLOTS:
     void followsRelevantChangesOnly_data();
     void followsRelevantChangesOnly();
-    void refreshesOncePerBurst();
     void showsWhatTheRefreshFound();
-    void closesWhenThereIsNothingToShow_data();
-    void closesWhenThereIsNothingToShow();
     void closesEvenWhileARefreshIsPending();
     void readsNothingWhileClosed();
     void catchesUpWhenShown();
-    void catchesUpWithThePlotType();
     void assignsTheScatterVariable();
     void leavesAnOpenEditorAlone();
     void survivesAnEditorWhoseRowIsGone();
     void keepsTheCurrentCellAndTheScrollPosition();
-    void isMadeAgainAfterItsDestruction();
 };
 
 void tst_DialogRefresh::followsRelevantChangesOnly_data()
@@ -91,19 +86,6 @@ void tst_DialogRefresh::followsRelevantChangesOnly()
     }
 }
 
-void tst_DialogRefresh::refreshesOncePerBurst()
-{
-    DialogFixture fixture("field2d");
-    for (int i = 0; i < 50; ++i)
-        setStyle("FieldMap.Group", "1-5", 1 + i % 3);
-    host::Document::instance().undo().undo();
-    QCOMPARE(fixture.takeRefreshes(), 0);
-    runUntilIdle();
-    QCOMPARE(fixture.takeRefreshes(), 1);
-    runUntilIdle();
-    QCOMPARE(fixture.takeRefreshes(), 0);
-}
-
 void tst_DialogRefresh::showsWhatTheRefreshFound()
 {
     DialogFixture fixture("field2d");
@@ -121,13 +103,6 @@ void tst_DialogRefresh::showsWhatTheRefreshFound()
     QCOMPARE(fixture.table().rowAt(fixture.table().viewport()->height() - 1), -1);
 }
 
-void tst_DialogRefresh::closesWhenThereIsNothingToShow_data()
-{
-    QTest::addColumn<QString>("how");
-    for (const char* how : {"data", "frame", "plot type"})
-        QTest::newRow(how) << how;
-}
-
 static void takeAwayWhatIsShown(const QString& how)
 {
     host::Document& document = host::Document::instance();
@@ -137,24 +112,6 @@ static void takeAwayWhatIsShown(const QString& how)
         QVERIFY(document.deleteFrame(document.activeFrameId()));
     else
         QVERIFY(setStyle("PlotType", "", PlotType_Annotation));
-}
-
-void tst_DialogRefresh::closesWhenThereIsNothingToShow()
-{
-    QFETCH(QString, how);
-    DialogFixture fixture("field2d");
-    takeAwayWhatIsShown(how);
-    QVERIFY(!fixture.dialog().isVisible());
-    runUntilIdle();
-    QVERIFY(ZoneStyleDialog::m_dialogInstance);
-    fixture.dialog().launch(); // empty, but it comes
-    runUntilIdle();
-    QVERIFY(fixture.dialog().isVisible());
-    QVERIFY(openDemo("xy")); // by way of a frame without data, so it closes
-    QVERIFY(!fixture.dialog().isVisible());
-    fixture.dialog().launch();
-    runUntilIdle();
-    QCOMPARE(fixture.model().rowCount(), 6);
 }
 
 void tst_DialogRefresh::closesEvenWhileARefreshIsPending()
@@ -201,23 +158,6 @@ void tst_DialogRefresh::catchesUpWhenShown()
     raise(StateCode_PickList); // nothing that is shown
     fixture.dialog().launch();
     QCOMPARE(fixture.takeRefreshes(), 0);
-}
-
-void tst_DialogRefresh::catchesUpWithThePlotType()
-{
-    DialogFixture fixture("field3d");
-    fixture.clickTab("Volume");
-    setStyle("PlotType", "", PlotType_Field2D);
-    runUntilIdle();
-    fixture.clickTab("Contour");
-    fixture.dialog().close();
-    setStyle("PlotType", "", PlotType_LineXY);
-    setStyle("PlotType", "", PlotType_Field3D);
-    runUntilIdle();
-    fixture.dialog().launch();
-    QVERIFY2(fixture.tabs().contains("*Volume"), qPrintable(fixture.tabs()));
-    QCOMPARE(fixture.dialog().windowTitle(), "Zone Style");
-    fixture.clickTab("Mesh");
 }
 
 void tst_DialogRefresh::assignsTheScatterVariable()
@@ -287,23 +227,6 @@ void tst_DialogRefresh::keepsTheCurrentCellAndTheScrollPosition()
     QCOMPARE(fixture.table().verticalScrollBar()->value(), scrolled);
     fixture.clickTab("Contour");
     QCOMPARE(fixture.table().verticalScrollBar()->value(), scrolled);
-}
-
-void tst_DialogRefresh::isMadeAgainAfterItsDestruction()
-{
-    auto parent = std::make_unique<QMainWindow>();
-    DialogFixture fixture("field2d");
-    delete &fixture.dialog();
-    QVERIFY(!ZoneStyleDialog::m_dialogInstance);
-    raise(StateCode_ZoneRenamed); // nobody listens
-    ZoneStyleDialog::getInstance(*parent, dialogs::common::DialogInitialization_None).launch();
-    setStyle("FieldMap.Group", "1", 2);
-    parent.reset(); // with a refresh pending
-    QVERIFY(!ZoneStyleDialog::m_dialogInstance);
-    runUntilIdle();
-    fixture.dialog().launch();
-    runUntilIdle();
-    QCOMPARE(fixture.model().rowCount(), 12);
 }
 
 QTEST_MAIN(tst_DialogRefresh)

@@ -66,17 +66,11 @@ private Q_SLOTS:
     void cleanup();
     void showsThePageOfThePlotType_data();
     void showsThePageOfThePlotType();
-    void showsTheIdentityColumnsEverywhere_data();
-    void showsTheIdentityColumnsEverywhere();
-    void remembersTheLastTabOfEachPlotType();
-    void comesBackOnTheTabShownLast();
-    void goesBackToAHiddenTabOfThePlotType();
     void showsTheAvailableMappingTabs_data();
     void showsTheAvailableMappingTabs();
     void keepsTheOrderOfTheFormHoweverTabsGo();
     void keepsTheMapToolButtons();
     void ordersTheColumnsOfDefinitions();
-    void carriesColumnWidthsBetweenTabs();
     void remembersColumnWidths();
     void keepsColumnWidthsOfPlotTypesApart();
     void keepsHeadersAndSelectionModelsFew();
@@ -141,74 +135,6 @@ void tst_DialogTabs::showsThePageOfThePlotType()
     QVERIFY(fixture.table().isVisible());
     QVERIFY(fixture.patternField().isVisible());
     QCOMPARE(fixture.dialog().focusWidget(), &fixture.table());
-}
-
-void tst_DialogTabs::showsTheIdentityColumnsEverywhere_data()
-{
-    QTest::addColumn<QString>("demo");
-    QTest::addColumn<QString>("row");
-    QTest::newRow("field") << "field3d"
-                           << "Zone Number|Zone Name|Group Number|Show Zone";
-    QTest::newRow("line") << "xy"
-                          << "Map Number|Map Name|Show Map";
-}
-
-void tst_DialogTabs::showsTheIdentityColumnsEverywhere()
-{
-    QFETCH(QString, demo);
-    QFETCH(QString, row);
-    DialogFixture fixture(demo.toLatin1());
-    for (int tab = 0; tab < fixture.tabWidget().count(); ++tab) {
-        fixture.clickTab(fixture.tabWidget().tabText(tab));
-        QCOMPARE(fixture.tabWidget().currentIndex(), tab);
-        QVERIFY2(titlesInVisualOrder(*fixture.table().horizontalHeader()).startsWith(row),
-                 qPrintable(fixture.tabs()));
-        QCOMPARE(fixture.table().model()->rowCount(), fixture.table().verticalHeader()->count());
-    }
-}
-
-void tst_DialogTabs::remembersTheLastTabOfEachPlotType()
-{
-    DialogFixture fixture("field3d");
-    const QList<QPair<int, QString>> lastTabs {
-        {1, "Volume"}, {2, "Effects"}, {3, "Bar Charts"}, {5, "Curves"}};
-    for (const auto& [plotType, tab] : lastTabs) {
-        QVERIFY(setStyle("PlotType", "", plotType));
-        runUntilIdle();
-        fixture.clickTab(tab);
-    }
-    for (const auto& [plotType, tab] : lastTabs) {
-        QVERIFY(setStyle("PlotType", "", plotType));
-        runUntilIdle();
-        QVERIFY2(fixture.tabs().contains("*" + tab), qPrintable(tab + ": " + fixture.tabs()));
-    }
-}
-
-void tst_DialogTabs::comesBackOnTheTabShownLast()
-{
-    {
-        DialogFixture fixture("field2d");
-        fixture.clickTab("Effects");
-        QPointer<ZoneStyleDialog> dialog = &fixture.dialog();
-        delete dialog;
-        QVERIFY(!ZoneStyleDialog::m_dialogInstance);
-    }
-    DialogFixture fixture("field2d");
-    QVERIFY2(fixture.tabs().endsWith("*Effects"), qPrintable(fixture.tabs()));
-}
-
-/// The tab to come back to is not there yet when the plot type changes.
-void tst_DialogTabs::goesBackToAHiddenTabOfThePlotType()
-{
-    DialogFixture fixture("field3d");
-    fixture.clickTab("Volume");
-    setStyle("PlotType", "", 2);
-    runUntilIdle();
-    fixture.clickTab("Contour");
-    setStyle("PlotType", "", 1);
-    runUntilIdle();
-    QVERIFY2(fixture.tabs().contains("*Volume"), qPrintable(fixture.tabs()));
-    QCOMPARE(fixture.table().parentWidget(), fixture.tabWidget().currentWidget());
 }
 
 void tst_DialogTabs::showsTheAvailableMappingTabs_data()
@@ -293,20 +219,6 @@ void tst_DialogTabs::ordersTheColumnsOfDefinitions()
     setStyle("PlotType", "", 3);
     runUntilIdle();
     QVERIFY(titlesInVisualOrder(*fixture.table().horizontalHeader()).endsWith("Show in Legend"));
-}
-
-void tst_DialogTabs::carriesColumnWidthsBetweenTabs()
-{
-    DialogFixture fixture("field2d");
-    fixture.table().setColumnWidth(kZoneName, 177);
-    fixture.table().setColumnWidth(kMeshType, 133);
-    fixture.clickTab("Contour");
-    QCOMPARE(fixture.table().columnWidth(kZoneName), 177);
-    QVERIFY(fixture.table().columnWidth(kMeshType) != 133);
-    fixture.table().setColumnWidth(kZoneName, 155);
-    fixture.clickTab("Mesh");
-    QCOMPARE(fixture.table().columnWidth(kZoneName), 155);
-    QCOMPARE(fixture.table().columnWidth(kMeshType), 133);
 }
 
 /// For the life of the process, but not when the number of rows changes.

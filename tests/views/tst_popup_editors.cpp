@@ -21,13 +21,7 @@ namespace {
 
 constexpr int kClickElsewhere = 0;
 constexpr int kGroup = 2; // of a field table
-constexpr int kMapName = 1; // of a line table
 constexpr int kXAxisVariable = 6;
-
-QString mapName(DialogFixture& fixture, int map, Qt::ItemDataRole role)
-{
-    return fixture.model().index(map - 1, kMapName).data(role).toString();
-}
 
 } // namespace
 
@@ -36,46 +30,15 @@ class tst_PopupEditors : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void endsByTheKeyOrClick_data();
-    void endsByTheKeyOrClick();
     void commitsOnce();
-    void refusesWhatTheHostRefuses();
     void closesWithoutAnEditWhenItsMapsChange();
     void survivesRefreshesAndTheDialog();
-    void showsTheCurrentChoice();
     void takesEntriesOfTheListOnly_data();
     void takesEntriesOfTheListOnly();
     void choosesFromTheOpenList();
     void listBoxTakesAClick();
-    void editsNamesWithTokens();
     void insertsTokens();
 };
-
-void tst_PopupEditors::endsByTheKeyOrClick_data()
-{
-    QTest::addColumn<int>("endKey");
-    QTest::addColumn<QString>("groups");
-    QTest::newRow("Return") << int(Qt::Key_Return) << "1 3 3 1 3";
-    QTest::newRow("Enter") << int(Qt::Key_Enter) << "1 3 3 1 3";
-    QTest::newRow("Tab") << int(Qt::Key_Tab) << "1 3 3 1 3";
-    QTest::newRow("click elsewhere") << kClickElsewhere << "1 3 3 1 3";
-    QTest::newRow("Escape") << int(Qt::Key_Escape) << "1 1 1 1 1";
-    QTest::newRow("Cancel") << int(Qt::Key_Cancel) << "1 1 1 1 1";
-}
-
-void tst_PopupEditors::endsByTheKeyOrClick()
-{
-    QFETCH(int, endKey);
-    DialogFixture fixture("field2d");
-    fixture.select({5, 2, 3});
-    PopupResponder popups(PopupResponder::typeAndEnd("3", endKey));
-    fixture.rightClick(2, kGroup);
-    QCOMPARE(popups.shown(), 1);
-    QTEST(styleValues("FieldMap.Group", 5), "groups");
-    QCOMPARE(fixture.selected(), "2-3,5");
-    QVERIFY(fixture.dialog().isVisible());
-    QVERIFY(fixture.dialog().findChildren<PopupDialogBase*>().isEmpty());
-}
 
 void tst_PopupEditors::commitsOnce()
 {
@@ -88,18 +51,6 @@ void tst_PopupEditors::commitsOnce()
     QCOMPARE(takeWrites(), "FieldMap.Group 1-2 = 4");
     fixture.rightClick(1, kGroup); // only looked at: what it shows is committed
     QCOMPARE(takeWrites(), "FieldMap.Group 1-2 = 4");
-}
-
-void tst_PopupEditors::refusesWhatTheHostRefuses()
-{
-    DialogFixture fixture("field2d");
-    fixture.select({1});
-    PopupResponder popups(PopupResponder::typeAndEnd("0", Qt::Key_Return));
-    popups.then(PopupResponder::typeAndEnd("none", Qt::Key_Return));
-    fixture.rightClick(1, kGroup);
-    fixture.rightClick(1, kGroup);
-    QCOMPARE(popups.shown(), 2);
-    QCOMPARE(styleValue("FieldMap.Group", 1), 1);
 }
 
 void tst_PopupEditors::closesWithoutAnEditWhenItsMapsChange()
@@ -147,22 +98,6 @@ void tst_PopupEditors::survivesRefreshesAndTheDialog()
     QVERIFY(!ZoneStyleDialog::m_dialogInstance);
     QCOMPARE(popups.shown(), 2);
     QCOMPARE(takeWrites(), "");
-}
-
-void tst_PopupEditors::showsTheCurrentChoice()
-{
-    DialogFixture fixture("xy");
-    fixture.select({1, 2});
-    QString shown;
-    PopupResponder popups([&shown](QWidget& popup) {
-        shown = popup.findChild<QComboBox*>()->currentText();
-        PopupResponder::end(kClickElsewhere)(popup);
-    });
-    setStyle("LineMap.Assign.XAxisVar", "2", 4);
-    runUntilIdle();
-    fixture.rightClick(2, kXAxisVariable);
-    QCOMPARE(shown, "4: Power");
-    QCOMPARE(styleValues("LineMap.Assign.XAxisVar", 3), "4 4 1");
 }
 
 void tst_PopupEditors::takesEntriesOfTheListOnly_data()
@@ -242,24 +177,6 @@ void tst_PopupEditors::listBoxTakesAClick()
     PopupDialogBase::run(open("two"));
     PopupDialogBase::run(open("none of them"));
     QCOMPARE(committed, QStringList {"three"});
-}
-
-void tst_PopupEditors::editsNamesWithTokens()
-{
-    DialogFixture fixture("xy");
-    fixture.select({2, 3});
-    QString selectedText;
-    PopupResponder popups(PopupResponder::typeAndEnd("Flow &ZN&", Qt::Key_Tab));
-    popups.then([&selectedText](QWidget& popup) {
-        selectedText = popup.findChild<QLineEdit*>("lineEdit")->selectedText();
-        PopupResponder::end(Qt::Key_Escape)(popup);
-    });
-    fixture.rightClick(2, kMapName);
-    QCOMPARE(mapName(fixture, 2, Qt::DisplayRole), "Flow Zone 1");
-    QCOMPARE(mapName(fixture, 3, Qt::EditRole), "Flow &ZN&");
-    QCOMPARE(mapName(fixture, 1, Qt::EditRole), "&DV&");
-    fixture.rightClick(2, kMapName);
-    QCOMPARE(selectedText, "Flow &ZN&");
 }
 
 void tst_PopupEditors::insertsTokens()

@@ -37,21 +37,15 @@ class tst_TableGestures : public QObject
 private Q_SLOTS:
     void checkBoxSwitchesSelectedRows_data();
     void checkBoxSwitchesSelectedRows();
-    void checkBoxWorksWhereItIsGreyed();
     void checkBoxNeedsPressAndReleaseOnIt();
     void editsOneCellInPlace_data();
     void editsOneCellInPlace();
-    void choosesFromAListInPlace();
-    void doesNotEditGreyedCellsInPlace();
-    void menuWritesToSelectedRows();
     void menuOfAColumnWithoutEntriesDoesNotOpen();
-    void menuOfColors();
     void keysMoveTheCurrentCell_data();
     void keysMoveTheCurrentCell();
     void keysOpenTheMenuAtTheCurrentCell_data();
     void keysOpenTheMenuAtTheCurrentCell();
     void keysActOnTheSelection();
-    void escapeClosesTheInnermostOnly();
     void tableIsOneTabStop();
     void tabGoesThroughTheDialogInOrder();
     void paintsTheSelection_data();
@@ -97,27 +91,6 @@ void tst_TableGestures::checkBoxSwitchesSelectedRows()
     QTEST(fixture.selected(), "selectedAfter");
     QVERIFY(!takeWrites().contains(';')); // one write for all
     QCOMPARE(fixture.table().currentIndex(), fixture.model().index(clicked - 1, kShowMesh));
-}
-
-void tst_TableGestures::checkBoxWorksWhereItIsGreyed()
-{
-    DialogFixture fixture("field2d");
-    setStyle("FieldMap.Mesh.Show", "2", 0);
-    runUntilIdle();
-    QVERIFY(!fixture.model().isRelevant(fixture.model().index(1, kShowMesh)));
-    fixture.clickCheckBox(2, kShowMesh);
-    QCOMPARE(styleValue("FieldMap.Mesh.Show", 2), 1);
-
-    fixture.table().clearSelection();
-    const auto picture = [&fixture] {
-        const QRect cell = fixture.table().visualRect(fixture.model().index(2, kShowMesh));
-        return fixture.table().viewport()->grab(cell).toImage();
-    };
-    const QImage enabled = picture();
-    setStyle("FieldMap.Mesh.Show", "3", 1);
-    setStyle("FieldLayers.ShowMesh", "", 0);
-    runUntilIdle();
-    QVERIFY(picture() != enabled); // checked as before
 }
 
 void tst_TableGestures::checkBoxNeedsPressAndReleaseOnIt()
@@ -175,57 +148,6 @@ void tst_TableGestures::editsOneCellInPlace()
     QVERIFY(fixture.dialog().isVisible());
 }
 
-void tst_TableGestures::choosesFromAListInPlace()
-{
-    static constexpr int kXAxisVariable = 6;
-    DialogFixture fixture("xy");
-    fixture.select({1, 2, 3});
-    fixture.doubleClickCell(2, kXAxisVariable);
-    auto* list = fixture.table().viewport()->findChild<QComboBox*>();
-    QVERIFY(list);
-    QCOMPARE(list->currentText(), "1: Time");
-    QCOMPARE(list->lineEdit()->selectedText(), "1: Time");
-    QTest::keyClicks(list, "3: Mom"); // filters, and Return takes the one that is left
-    QTest::keyClick(list, Qt::Key_Return);
-    runUntilIdle();
-    QCOMPARE(styleValues("LineMap.Assign.XAxisVar", 3), "1 3 1");
-    QVERIFY(!fixture.table().viewport()->findChild<QComboBox*>());
-    QVERIFY(fixture.dialog().isVisible());
-}
-
-void tst_TableGestures::doesNotEditGreyedCellsInPlace()
-{
-    DialogFixture fixture("field2d");
-    fixture.clickCheckBox(3, kShowZone);
-    fixture.doubleClickCell(3, kGroup);
-    QVERIFY(!openEditor(fixture));
-    fixture.doubleClickCell(3, kName); // not editable at all
-    QVERIFY(!openEditor(fixture));
-    fixture.doubleClickCell(4, kGroup);
-    QVERIFY(openEditor(fixture));
-}
-
-void tst_TableGestures::menuWritesToSelectedRows()
-{
-    DialogFixture fixture("field2d");
-    setStyle("FieldMap.Mesh.MeshType", "1-12", 0);
-    runUntilIdle();
-    fixture.select({2, 5, 3});
-    PopupResponder menus(PopupResponder::chooseEntry("Hidden line"));
-    menus.then(PopupResponder::chooseEntry("Overlay")).then(PopupResponder::chooseEntry(""));
-    fixture.rightClick(5, kMeshType);
-    QCOMPARE(styleValues("FieldMap.Mesh.MeshType", 6), "0 2 2 0 2 0");
-    QCOMPARE(fixture.selected(), "2-3,5");
-    fixture.rightClick(6, kMeshType); // not selected: it becomes the selection
-    QCOMPARE(styleValues("FieldMap.Mesh.MeshType", 6), "0 2 2 0 2 1");
-    QCOMPARE(fixture.selected(), "6");
-    takeWrites();
-    fixture.rightClick(6, kMeshType);
-    QCOMPARE(takeWrites(), "");
-    QCOMPARE(menus.shown(), 3);
-    QVERIFY(fixture.table().findChildren<QMenu*>().isEmpty());
-}
-
 void tst_TableGestures::menuOfAColumnWithoutEntriesDoesNotOpen()
 {
     DialogFixture fixture("field2d");
@@ -236,28 +158,6 @@ void tst_TableGestures::menuOfAColumnWithoutEntriesDoesNotOpen()
     QTest::mouseClick(fixture.dialog().windowHandle(), Qt::RightButton, {},
                       fixture.table().viewport()->mapTo(&fixture.dialog(), below));
     QCOMPARE(popups.shown(), 0);
-}
-
-void tst_TableGestures::menuOfColors()
-{
-    DialogFixture fixture("field2d");
-    fixture.select({1, 4});
-    PopupResponder menus([](QWidget& menu) {
-        auto* color = menu.findChild<QAbstractButton*>("color_5");
-        QTest::mouseClick(color, Qt::LeftButton);
-    });
-    menus.then([](QWidget& menu) {
-        QTest::mouseClick(menu.findChild<QAbstractButton*>("color_103"), Qt::LeftButton);
-    });
-    fixture.rightClick(4, kMeshColor);
-    QCOMPARE(styleValue("FieldMap.Mesh.Color", 1), 5);
-    QCOMPARE(styleValue("FieldMap.Mesh.Color", 4), 5);
-    QVERIFY(styleValue("FieldMap.Mesh.Color", 2) != 5);
-    const QModelIndex cell = fixture.model().index(3, kMeshColor);
-    QCOMPARE(cell.data(Qt::AccessibleTextRole), QVariant());
-    fixture.rightClick(4, kMeshColor);
-    QCOMPARE(cell.data(Qt::AccessibleTextRole).toString(), "C3");
-    QCOMPARE(menus.shown(), 2);
 }
 
 void tst_TableGestures::keysMoveTheCurrentCell_data()
@@ -352,27 +252,10 @@ void tst_TableGestures::keysActOnTheSelection()
     QCOMPARE(fixture.selected(), "2,4");
     QCOMPARE(styleValues("FieldMap.Mesh.Show", 5), "1 1 1 1 1");
     fixture.key(Qt::Key_A, Qt::ControlModifier);
-    QCOMPARE(fixture.selected(), "1-12");
+    QCOMPARE(fixture.selected(), "all");
     fixture.key(Qt::Key_Down);
     fixture.key(Qt::Key_Down, Qt::ShiftModifier);
     QCOMPARE(fixture.selected(), "5-6");
-}
-
-void tst_TableGestures::escapeClosesTheInnermostOnly()
-{
-    DialogFixture fixture("field2d");
-    fixture.select({2});
-    PopupResponder menus([](QWidget& menu) { QTest::keyClick(&menu, Qt::Key_Escape); });
-    fixture.rightClick(2, kMeshType);
-    QCOMPARE(menus.shown(), 1);
-    QVERIFY(fixture.dialog().isVisible());
-    fixture.doubleClickCell(2, kGroup);
-    QTest::keyClick(openEditor(fixture), Qt::Key_Escape);
-    runUntilIdle();
-    QVERIFY(!openEditor(fixture));
-    QVERIFY(fixture.dialog().isVisible());
-    fixture.key(Qt::Key_Escape);
-    QVERIFY(!fixture.dialog().isVisible());
 }
 
 void tst_TableGestures::tableIsOneTabStop()
