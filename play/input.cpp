@@ -49,6 +49,19 @@ static void send(QTest::MouseAction action, const Target& target, Qt::MouseButto
         QTest::mouseEvent(action, target.window, button, modifiers, target.position);
 }
 
+static Target movedBy(const Target& target, const QPoint& way)
+{
+    return {target.window, target.position + way};
+}
+
+/// Where a hand that is not quite still moves the mouse while it holds a
+/// button.
+static QPoint tremble(const QWidget* widget, const QPoint& position)
+{
+    const QPoint right(1, 0);
+    return widget->rect().contains(position + right) ? right : -right;
+}
+
 void pressMouse(QWidget* widget, const QPoint& position, Qt::MouseButton button,
                 Qt::KeyboardModifiers modifiers)
 {
@@ -65,7 +78,9 @@ void moveMouse(QWidget* widget, const QPoint& position, Qt::KeyboardModifiers mo
 void releaseMouse(QWidget* widget, const QPoint& position, Qt::MouseButton button,
                   Qt::KeyboardModifiers modifiers)
 {
-    send(QTest::MouseRelease, targetOf(widget, position), button, modifiers);
+    const Target target = movedBy(targetOf(widget, position), tremble(widget, position));
+    send(QTest::MouseMove, target, Qt::NoButton, modifiers);
+    send(QTest::MouseRelease, target, button, modifiers);
 }
 
 void click(QWidget* widget, const QPoint& position, Qt::KeyboardModifiers modifiers)

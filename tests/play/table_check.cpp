@@ -46,7 +46,6 @@ static const std::vector<Shown>& shownValues()
         {"Contour", "Line\nThickness", {"FieldMap", "Contour", "LineThickness"}, Kind::Percent},
         {"Shade", "Show\nShade", {"FieldMap", "Shade", "Show"}, Kind::Check},
         {"Shade", "Shade\nColor", {"FieldMap", "Shade", "Color"}, Kind::Color},
-        {"Definitions", "Show in\nLegend", {"LineMap", "Assign", "ShowInLegend"}, Kind::Check},
     };
     return all;
 }
