@@ -4,6 +4,7 @@
 #include "plot/field/geometry/color_map.h"
 #include "plot/field/geometry/contour_groups.h"
 #include "plot/field/geometry/value_colors.h"
+#include "plot/field/view/legend.h"
 #include "plot_document.h"
 
 #include <QtTest>
@@ -23,6 +24,8 @@ private Q_SLOTS:
     void levels_data();
     void levels();
     void levelsOfOneValue();
+    void legends_data();
+    void legends();
     void ticks_data();
     void ticks();
     void coordinatesOutliveLevels();
@@ -60,12 +63,37 @@ void tst_ContourGroups::levelsOfOneValue()
 {
     for (const double value : {0.0, 0.867, 1.0, 101325.0, -4e-9}) {
         const ContourLevels levels = levelsFor(value, value);
-        QCOMPARE(levels.bands, 1);
-        QVERIFY(levels.minimum <= value && value <= levels.maximum());
-        // Written beside a legend, the ends are what they say.
-        for (const double end : {levels.minimum, levels.maximum()})
-            QCOMPARE(tickText(end, levels.step).toDouble(), end);
+        QVERIFY(levels.isSingleValue());
+        QCOMPARE(levels.fraction(value), 0.5);
     }
+}
+
+void tst_ContourGroups::legends_data()
+{
+    QTest::addColumn<double>("minimum");
+    QTest::addColumn<double>("maximum");
+    QTest::addColumn<double>("gap");
+    QTest::addColumn<QString>("texts");
+    QTest::newRow("every level")
+        << 0.0 << 8.0 << 1.0 << "0 0.5 1.0 1.5 2.0 2.5 3.0 3.5 4.0 4.5 5.0 5.5 6.0 6.5 7.0 7.5 8.0";
+    QTest::newRow("round between odd ends")
+        << -0.7 << 1.1 << 1.2 << "-0.7 -0.4 -0.2 0 0.2 0.4 0.6 0.8 1.1";
+    QTest::newRow("little room") << 3.0 << 20.0 << 4.0 << "3 10 15 20";
+    QTest::newRow("ends only") << 0.0 << 8.0 << 30.0 << "0 8.0";
+    QTest::newRow("one value") << -0.0625 << -0.0625 << 1.0 << "-0.0625";
+    QTest::newRow("no values") << 1.0 << 0.0 << 1.0 << "no values";
+}
+
+void tst_ContourGroups::legends()
+{
+    QFETCH(double, minimum);
+    QFETCH(double, maximum);
+    QFETCH(double, gap);
+    QStringList texts;
+    for (const LegendText& text : legendTexts(
+             minimum <= maximum ? std::optional(levelsFor(minimum, maximum)) : std::nullopt, gap))
+        texts.append(text.text);
+    QTEST(texts.join(' '), "texts");
 }
 
 void tst_ContourGroups::ticks_data()

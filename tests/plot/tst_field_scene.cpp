@@ -52,7 +52,11 @@ private:
                    CvlInt64 largest = LocalFieldScene::kLargestScene);
     const CompositeLayer& layer(FieldLayer layer) { return m_scene->layer(layer); }
     CompositeLayer::Counters counters(FieldLayer layer) { return m_scene->layer(layer).counters(); }
-    void work() { m_scene->advance(-1); }
+    void work()
+    {
+        m_scene->advance(-1);
+        m_scene->setScale({800, 10.0, 1.0});
+    }
     CvlInt64 zoneBelow(double x, double y);
 
     vtkNew<vtkRenderer> m_back;
@@ -192,13 +196,13 @@ void tst_FieldScene::attributesReachActors()
     write("FieldMap/Mesh/LineThickness", "all", 1.5);
     write("FieldMap/Mesh/Color", "2", 5);
     work();
-    m_scene->setScale({800, 10.0, 1.0});
     vtkActor* const actor = layer(FieldLayer::Mesh).actors().front();
     QCOMPARE(actor->GetProperty()->GetLineWidth(), 12.0F);
     QVERIFY(!actor->GetTexture());
+    auto* const drawn =
+        vtkMultiBlockDataSet::SafeDownCast(mapperOf(actor)->GetInputDataObject(0, 0));
     double color[3];
-    mapperOf(actor)->GetCompositeDataDisplayAttributes()->GetBlockColor(
-        layer(FieldLayer::Mesh).geometry(2), color);
+    mapperOf(actor)->GetCompositeDataDisplayAttributes()->GetBlockColor(drawn->GetBlock(1), color);
     const host::Rgb palette = document().color(5);
     QCOMPARE(qRound(color[0] * 255), int(palette.red));
     QCOMPARE(qRound(color[1] * 255), int(palette.green));
@@ -207,7 +211,6 @@ void tst_FieldScene::attributesReachActors()
     write("FieldMap/Mesh/LinePattern", "all", 3);
     write("FieldMap/Mesh/PatternLength", "all", 5);
     work();
-    m_scene->setScale({800, 10.0, 1.0});
     vtkActor* const dashed = layer(FieldLayer::Mesh).actors().front();
     QCOMPARE(dashed->GetProperty()->GetLineWidth(), 1.0F);
     QVERIFY(dashed->GetTexture()->GetRepeat());
@@ -437,6 +440,22 @@ static QStringList contents(const LocalFieldScene& scene)
     return result;
 }
 
+/// What covers what: by actor the width of its lines and the number of its blocks.
+static QStringList drawnOrder(vtkRenderer& renderer)
+{
+    QStringList result;
+    vtkCollectionSimpleIterator position;
+    renderer.GetActors()->InitTraversal(position);
+    while (vtkActor* const actor = renderer.GetActors()->GetNextActor(position)) {
+        auto* const blocks =
+            vtkMultiBlockDataSet::SafeDownCast(mapperOf(actor)->GetInputDataObject(0, 0));
+        result << QStringLiteral("%1 %2")
+                      .arg(actor->GetProperty()->GetLineWidth())
+                      .arg(blocks->GetNumberOfBlocks());
+    }
+    return result;
+}
+
 void tst_FieldScene::samePictureAsFromScratch()
 {
     makeScene("field3d");
@@ -452,6 +471,9 @@ void tst_FieldScene::samePictureAsFromScratch()
     write("FieldMap/Shade/Show", "3-5", 0);
     activate("1,8", false);
     write("FieldMap/Mesh/MeshType", "5-7", MeshType_HiddenLine);
+    write("FieldMap/Mesh/LineThickness", "9-10", 2);
+    work();
+    write("FieldMap/Mesh/LineThickness", "5-6", 3);
     work();
     document().undo().undo();
     work();
@@ -460,7 +482,9 @@ void tst_FieldScene::samePictureAsFromScratch()
     LocalFieldScene fresh(*back, *front, std::make_shared<SurfaceCache>());
     fresh.setFrame(document().activeFrameId());
     fresh.advance(-1);
+    fresh.setScale({800, 10.0, 1.0});
     QCOMPARE(contents(*m_scene), contents(fresh));
+    QCOMPARE(drawnOrder(*m_back), drawnOrder(*back));
     QVERIFY(m_scene->groups().levels(1) == fresh.groups().levels(1));
 }
 

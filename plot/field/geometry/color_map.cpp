@@ -36,12 +36,22 @@ host::Rgb mapColor(double fraction)
             blend(from.blue, to.blue, share)};
 }
 
+static host::Rgb colorOfBand(int band, int count)
+{
+    return mapColor(count == 1 ? 0.5 : static_cast<double>(band) / (count - 1));
+}
+
 std::vector<host::Rgb> bandColors(int count)
 {
     std::vector<host::Rgb> colors;
     for (int i = 0; i < count; ++i)
-        colors.push_back(mapColor(count == 1 ? 0.5 : static_cast<double>(i) / (count - 1)));
+        colors.push_back(colorOfBand(i, count));
     return colors;
+}
+
+host::Rgb bandColor(double fraction, int count)
+{
+    return colorOfBand(static_cast<int>(std::clamp(fraction * count, 0.0, count - 1.0)), count);
 }
 
 host::Rgb noValueColor()
@@ -51,14 +61,17 @@ host::Rgb noValueColor()
 
 vtkSmartPointer<vtkImageData> bandImage(int count)
 {
-    const std::vector<host::Rgb> colors = bandColors(count);
+    std::vector<host::Rgb> colors = bandColors(count);
+    if (count == 1) // an image one texel wide is taken for one that lies in another plane
+        colors.push_back(colors.front());
     auto image = vtkSmartPointer<vtkImageData>::New();
-    image->SetDimensions(count, 2, 1);
+    image->SetDimensions(static_cast<int>(colors.size()), 2, 1);
     image->AllocateScalars(VTK_UNSIGNED_CHAR, 3);
     for (int row = 0; row < 2; ++row) {
-        for (int i = 0; i < count; ++i) {
-            const host::Rgb color = row == 0 ? colors[static_cast<std::size_t>(i)] : noValueColor();
-            auto* texel = static_cast<unsigned char*>(image->GetScalarPointer(i, row, 0));
+        for (std::size_t i = 0; i < colors.size(); ++i) {
+            const host::Rgb color = row == 0 ? colors[i] : noValueColor();
+            auto* texel =
+                static_cast<unsigned char*>(image->GetScalarPointer(static_cast<int>(i), row, 0));
             texel[0] = color.red;
             texel[1] = color.green;
             texel[2] = color.blue;

@@ -18,6 +18,9 @@ host::Rgb mapColor(double fraction);
 /// The colours of `count` bands of equal width.
 std::vector<host::Rgb> bandColors(int count);
 
+/// The colour of the band in which a fraction of the way lies.
+host::Rgb bandColor(double fraction, int count);
+
 /// The colour of what has no value.
 host::Rgb noValueColor();
 

@@ -28,7 +28,7 @@ ContourLevels levelsFor(double minimum, double maximum)
     const double magnitude = std::max(std::abs(minimum), std::abs(maximum));
     if (maximum - minimum <= magnitude * 1e-12) {
         const double step = magnitude > 0.0 ? niceStep(magnitude, 1) : 1.0;
-        return {std::floor(minimum / step) * step, step, 1};
+        return {minimum - step / 2, step, 1};
     }
     ContourLevels levels;
     levels.step = niceStep(maximum - minimum, kMostBands);

@@ -8,7 +8,8 @@
 
 namespace corvala::plot {
 
-/// Where contour lines and the borders of colour bands lie: `bands` bands of equal width.
+/// Where contour lines and the borders of colour bands lie: `bands` bands of equal width. One band
+/// stands for a single value, in its middle.
 struct ContourLevels
 {
     double minimum = 0.0;
@@ -16,6 +17,7 @@ struct ContourLevels
     int bands = 1;
 
     double maximum() const { return minimum + step * bands; }
+    bool isSingleValue() const { return bands == 1; }
     /// The levels between the bands.
     std::vector<double> inner() const;
     double fraction(double value) const { return (value - minimum) / (maximum() - minimum); }
@@ -42,6 +44,8 @@ public:
     /// Number of the variable, 0 when unassigned. `group` is 1 to kCount throughout.
     CvlInt64 variable(int group) const { return at(group).variable; }
     bool hasRgb() const;
+    /// False while no value of the group is known.
+    bool hasRange(int group) const { return at(group).hasRange; }
 
     /// Gives the group the range of its values; true when its levels changed.
     bool setRange(int group, double minimum, double maximum);

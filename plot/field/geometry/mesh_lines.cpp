@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/geometry/mesh_lines.h"
 
+#include "plot/field/geometry/edge_order.h"
+
 #include <vtkCellArray.h>
 #include <vtkCellArrayIterator.h>
 #include <vtkFloatArray.h>
@@ -39,9 +41,11 @@ static void collectEdges(vtkCellArray* cells, bool closed, std::vector<Edge>& ed
 static std::vector<Edge> uniqueEdges(vtkPolyData& shape)
 {
     std::vector<Edge> edges;
+    edges.reserve(static_cast<std::size_t>(shape.GetPolys()->GetNumberOfConnectivityIds()
+                                           + shape.GetLines()->GetNumberOfConnectivityIds()));
     collectEdges(shape.GetPolys(), true, edges);
     collectEdges(shape.GetLines(), false, edges);
-    std::sort(edges.begin(), edges.end());
+    sortByEnds(edges, shape.GetNumberOfPoints(), [](const Edge& edge) { return edge; });
     edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
     return edges;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/geometry/zone_edges.h"
 
+#include "plot/field/geometry/edge_order.h"
 #include "plot/field/geometry/surface_builder.h"
 
 #include <vtkAppendPolyData.h>
@@ -76,6 +77,8 @@ static std::vector<FaceEdge> sortedEdges(vtkPolyData& shape,
                                          std::vector<std::array<double, 3>>& normals)
 {
     std::vector<FaceEdge> edges;
+    edges.reserve(static_cast<std::size_t>(shape.GetPolys()->GetNumberOfConnectivityIds()));
+    normals.reserve(static_cast<std::size_t>(shape.GetNumberOfPolys()));
     const auto cell = vtk::TakeSmartPointer(shape.GetPolys()->NewIterator());
     for (cell->GoToFirstCell(); !cell->IsDoneWithTraversal(); cell->GoToNextCell()) {
         vtkIdType count = 0;
@@ -88,8 +91,7 @@ static std::vector<FaceEdge> sortedEdges(vtkPolyData& shape,
         }
         normals.push_back(normalOf(*shape.GetPoints(), count, corners));
     }
-    std::sort(edges.begin(), edges.end(),
-              [](const FaceEdge& left, const FaceEdge& right) { return left.ends < right.ends; });
+    sortByEnds(edges, shape.GetNumberOfPoints(), [](const FaceEdge& edge) { return edge.ends; });
     return edges;
 }
 

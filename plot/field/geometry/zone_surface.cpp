@@ -19,7 +19,6 @@
 
 namespace corvala::plot {
 
-static constexpr vtkIdType kManyCells = 100'000;
 static constexpr const char* kZonePoint = "zone point";
 static constexpr const char* kZoneCell = "zone cell";
 
@@ -105,11 +104,11 @@ static ZoneSurface outerSurface(vtkDataSet& data)
     geometry->SetInputData(numberedStructure(data));
     // Mid-side points of quadratic faces are dropped: points made up by subdivision have no number.
     geometry->SetNonlinearSubdivisionLevel(0);
-    // Threads cost more than they save on a small zone, and give its faces another order each time.
-    const bool isSmall = data.GetNumberOfCells() < kManyCells;
-    const vtkSMPTools::Config threads =
-        isSmall ? vtkSMPTools::Config(std::string("Sequential")) : vtkSMPTools::Config();
-    vtkSMPTools::LocalScope(threads, [&] { geometry->Update(); });
+    // Threads within the filter would give the faces another order, and with it another picture,
+    // each time.
+    static const bool isSequential = vtkSMPTools::SetBackend("Sequential");
+    static_cast<void>(isSequential);
+    geometry->Update();
     return withoutValues(*withoutStrips(geometry->GetOutput()));
 }
 

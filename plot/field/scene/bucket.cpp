@@ -9,14 +9,17 @@
 #include <vtkShaderProperty.h>
 #include <vtkUniforms.h>
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
+#include <utility>
 
 namespace corvala::plot {
 
 /// Distance of the layers of a map in a flat plot, where maps lie one unit above each other.
 static constexpr double kLayerHeight = 0.1;
 static constexpr int kPatternTexels = 128;
-static constexpr float kPointPixels = 5.0F;
+static constexpr double kPointPixels = 5.0;
 
 /// One period of a pattern; gaps are transparent.
 static vtkSmartPointer<vtkImageData> patternImage(int pattern)
@@ -35,7 +38,7 @@ static vtkSmartPointer<vtkImageData> patternImage(int pattern)
 CompositeLayer::Bucket::Bucket(const MapperLook& look, FieldLayer layer, bool flat)
     : m_look(look)
 {
-    m_mapper->SetInputDataObject(m_blocks);
+    m_mapper->SetInputDataObject(m_drawn);
     m_mapper->SetCompositeDataDisplayAttributes(m_attributes);
     m_mapper->SetScalarVisibility(look.ownColors);
     m_actor->SetMapper(m_mapper);
@@ -63,7 +66,6 @@ void CompositeLayer::Bucket::setProperties()
     property->SetDiffuse(m_look.lit ? 0.65 : 0.0);
     property->SetSpecular(m_look.shiny ? 0.35 : 0.0);
     property->SetSpecularPower(30.0);
-    property->SetPointSize(kPointPixels);
     property->SetColor(m_look.floodGroup > 0 ? 1.0 : 0.0, m_look.floodGroup > 0 ? 1.0 : 0.0,
                        m_look.floodGroup > 0 ? 1.0 : 0.0);
 }
@@ -106,33 +108,52 @@ void CompositeLayer::Bucket::setWidestLine(double pixels)
     }
 }
 
-void CompositeLayer::Bucket::add(vtkPolyData* block, const host::Rgb& color)
+void CompositeLayer::Bucket::add(CvlInt64 map, vtkPolyData* data, const host::Rgb& color)
 {
-    unsigned int slot = m_blocks->GetNumberOfBlocks();
-    if (!m_freeSlots.empty()) {
-        slot = m_freeSlots.back();
-        m_freeSlots.pop_back();
-    }
-    m_blocks->SetBlock(slot, block);
-    m_slots[block] = slot;
-    setColor(block, color);
+    m_blocks[map] = {data, color};
+    m_isArranged = false;
 }
 
-void CompositeLayer::Bucket::remove(vtkPolyData* block)
+void CompositeLayer::Bucket::remove(CvlInt64 map)
 {
-    const auto found = m_slots.find(block);
-    m_attributes->RemoveBlockColor(block);
-    m_blocks->SetBlock(found->second, nullptr);
-    m_freeSlots.push_back(found->second);
-    m_slots.erase(found);
+    m_blocks.erase(map);
+    m_isArranged = false;
 }
 
-void CompositeLayer::Bucket::setColor(vtkPolyData* block, const host::Rgb& color)
+void CompositeLayer::Bucket::setColor(CvlInt64 map, const host::Rgb& color)
 {
-    if (m_look.floodGroup > 0 || m_look.ownColors)
+    m_blocks.at(map).color = color;
+    m_isArranged = false;
+}
+
+/// The mapper draws its blocks in the order of their addresses, and what is drawn later covers what
+/// lies in the same place. So the mapper gets shells, and the maps take them in ascending order.
+void CompositeLayer::Bucket::arrange()
+{
+    if (std::exchange(m_isArranged, true))
         return;
-    const double parts[3] = {color.red / 255.0, color.green / 255.0, color.blue / 255.0};
-    m_attributes->SetBlockColor(block, parts);
+    const std::size_t count = m_blocks.size();
+    while (m_shells.size() < count)
+        m_shells.push_back({vtkSmartPointer<vtkPolyData>::New(), nullptr});
+    m_shells.resize(count);
+    std::sort(m_shells.begin(), m_shells.end(), [](const Shell& left, const Shell& right) {
+        return std::less<>()(left.data.Get(), right.data.Get());
+    });
+    m_attributes->RemoveBlockColors();
+    m_drawn->SetNumberOfBlocks(static_cast<unsigned int>(count));
+    unsigned int position = 0;
+    for (const auto& [map, block] : m_blocks) {
+        Shell& shell = m_shells[position];
+        if (shell.source != block.data) {
+            shell.source = block.data;
+            shell.data->ShallowCopy(block.data);
+        }
+        const host::Rgb& color = block.color;
+        const double parts[3] = {color.red / 255.0, color.green / 255.0, color.blue / 255.0};
+        if (hasBlockColors())
+            m_attributes->SetBlockColor(shell.data, parts);
+        m_drawn->SetBlock(position++, shell.data);
+    }
     m_mapper->Modified();
 }
 
@@ -140,6 +161,7 @@ void CompositeLayer::Bucket::setScale(const ViewScale& scale)
 {
     m_linePixels = std::max(m_look.thickness / 100.0 * scale.frameHeight, scale.thinnestLine);
     m_actor->GetProperty()->SetLineWidth(static_cast<float>(m_linePixels));
+    m_actor->GetProperty()->SetPointSize(static_cast<float>(kPointPixels * scale.thinnestLine));
     if (m_look.patternLength > 0.0) {
         const double period = std::max(m_look.patternLength / 100.0 * scale.frameHeight, 1.0);
         m_textureTransform->Identity();

@@ -11,7 +11,9 @@
 #include <vtkTexture.h>
 #include <vtkTransform.h>
 
+#include <map>
 #include <string>
+#include <vector>
 
 namespace corvala::plot {
 
@@ -23,11 +25,15 @@ public:
 
     const MapperLook& look() const { return m_look; }
     vtkActor* actor() const { return m_actor; }
-    bool isEmpty() const { return m_slots.empty(); }
+    bool isEmpty() const { return m_blocks.empty(); }
+    CvlInt64 lowestMap() const { return m_blocks.begin()->first; }
 
-    void add(vtkPolyData* block, const host::Rgb& color);
-    void remove(vtkPolyData* block);
-    void setColor(vtkPolyData* block, const host::Rgb& color);
+    void add(CvlInt64 map, vtkPolyData* data, const host::Rgb& color);
+    void remove(CvlInt64 map);
+    void setColor(CvlInt64 map, const host::Rgb& color);
+    /// Brings the order in which blocks are drawn in line with the numbers of their maps; call
+    /// before drawing.
+    void arrange();
 
     void setScale(const ViewScale& scale);
     void updateLevels(const ContourGroups& groups);
@@ -36,6 +42,19 @@ public:
     double linePixels() const { return m_linePixels; }
 
 private:
+    struct Block
+    {
+        vtkSmartPointer<vtkPolyData> data;
+        host::Rgb color;
+    };
+    /// What the mapper is given: a shallow copy of the data of a block.
+    struct Shell
+    {
+        vtkSmartPointer<vtkPolyData> data;
+        vtkSmartPointer<vtkPolyData> source;
+    };
+
+    bool hasBlockColors() const { return m_look.floodGroup == 0 && !m_look.ownColors; }
     void setProperties();
     void setDepth(FieldLayer layer, bool flat);
     void setDepthShader(const std::string& depth);
@@ -43,15 +62,16 @@ private:
     MapperLook m_look;
     vtkNew<vtkActor> m_actor;
     vtkNew<vtkCompositePolyDataMapper2> m_mapper;
-    vtkNew<vtkMultiBlockDataSet> m_blocks;
+    vtkNew<vtkMultiBlockDataSet> m_drawn;
     vtkNew<vtkCompositeDataDisplayAttributes> m_attributes;
     vtkSmartPointer<vtkTexture> m_texture;
     vtkNew<vtkTransform> m_textureTransform;
     double m_linePixels = 1.0;
     float m_layersInFront = -1.0F; ///< of faces, from this one to the last; negative for others
     int m_textureBands = 0;
-    std::unordered_map<vtkPolyData*, unsigned int> m_slots;
-    std::vector<unsigned int> m_freeSlots;
+    std::map<CvlInt64, Block> m_blocks;
+    std::vector<Shell> m_shells;
+    bool m_isArranged = true;
 };
 
 } // namespace corvala::plot

@@ -27,6 +27,7 @@ void CompositeLayer::clear()
 {
     m_blocks.clear();
     m_blockCount = 0;
+    m_cellCount = 0;
     for (const auto& [look, bucket] : m_buckets)
         (look.inFront ? m_front : m_back).RemoveActor(bucket->actor());
     m_buckets.clear();
@@ -38,7 +39,7 @@ CompositeLayer::Bucket& CompositeLayer::bucketOf(const MapperLook& look)
     if (!bucket) {
         bucket = std::make_unique<Bucket>(look, m_layer, m_flat);
         bucket->setScale(m_scale);
-        bucket->actor()->SetVisibility(m_visible);
+        bucket->actor()->SetVisibility(m_visible && !m_hidden);
         (look.inFront ? m_front : m_back).AddActor(bucket->actor());
     }
     return *bucket;
@@ -48,17 +49,19 @@ void CompositeLayer::place(Block& block)
 {
     if (block.data) {
         block.bucket = &bucketOf(block.look.mapper);
-        block.bucket->add(block.data, block.look.color);
+        block.bucket->add(block.map, block.data, block.look.color);
         ++m_blockCount;
+        m_cellCount += block.data->GetNumberOfCells();
     }
 }
 
 void CompositeLayer::remove(Block& block)
 {
     if (block.bucket) {
-        block.bucket->remove(block.data);
+        block.bucket->remove(block.map);
         block.bucket = nullptr;
         --m_blockCount;
+        m_cellCount -= block.data->GetNumberOfCells();
     }
 }
 
@@ -103,6 +106,7 @@ void CompositeLayer::sync(CvlInt64 map, const std::optional<BlockLook>& look, co
     const bool recolors = !isSameColor(block.look.color, look->color);
     if (moves)
         remove(block);
+    block.map = map;
     block.look = *look;
     if (rebuilds) {
         block.data = build(look->recipe);
@@ -113,7 +117,7 @@ void CompositeLayer::sync(CvlInt64 map, const std::optional<BlockLook>& look, co
         m_counters.moved += rebuilds ? 0 : 1;
         dropEmptyBuckets();
     } else if (recolors && block.bucket) {
-        block.bucket->setColor(block.data, look->color);
+        block.bucket->setColor(map, look->color);
         ++m_counters.recolored;
     }
 }
@@ -121,15 +125,28 @@ void CompositeLayer::sync(CvlInt64 map, const std::optional<BlockLook>& look, co
 void CompositeLayer::setVisible(bool visible)
 {
     m_visible = visible;
+    updateVisibility();
+}
+
+void CompositeLayer::setHidden(bool hidden)
+{
+    m_hidden = hidden;
+    updateVisibility();
+}
+
+void CompositeLayer::updateVisibility()
+{
     for (const auto& [look, bucket] : m_buckets)
-        bucket->actor()->SetVisibility(visible);
+        bucket->actor()->SetVisibility(m_visible && !m_hidden);
 }
 
 void CompositeLayer::setScale(const ViewScale& scale)
 {
     m_scale = scale;
-    for (const auto& [look, bucket] : m_buckets)
+    for (const auto& [look, bucket] : m_buckets) {
         bucket->setScale(scale);
+        bucket->arrange();
+    }
 }
 
 void CompositeLayer::updateLevels(const ContourGroups& groups)
@@ -179,8 +196,14 @@ vtkPolyData* CompositeLayer::geometry(CvlInt64 map) const
 
 std::vector<vtkActor*> CompositeLayer::actors() const
 {
-    std::vector<vtkActor*> result;
+    std::vector<const Bucket*> buckets;
     for (const auto& [look, bucket] : m_buckets)
+        buckets.push_back(bucket.get());
+    std::stable_sort(buckets.begin(), buckets.end(), [](const auto* left, const auto* right) {
+        return left->lowestMap() < right->lowestMap();
+    });
+    std::vector<vtkActor*> result;
+    for (const Bucket* bucket : buckets)
         result.push_back(bucket->actor());
     return result;
 }

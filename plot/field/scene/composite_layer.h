@@ -22,7 +22,7 @@ struct ViewScale
 {
     int frameHeight = 1; ///< pixels
     double pixelsPerUnit = 1.0; ///< of the coordinates, at the centre of what is looked at
-    double thinnestLine = 1.0; ///< pixels; above 1 when the picture is made smaller afterwards
+    double thinnestLine = 1.0; ///< pixels; above 1 when one pixel of the picture has several
 };
 
 /// Draws one layer of a field plot. The blocks of all maps with the same mapper look share one
@@ -51,7 +51,9 @@ public:
 
     void setVisible(bool visible);
     bool isVisible() const { return m_visible; }
-    /// Fits line widths and patterns to the view.
+    /// Takes what is visible out of the picture for a while.
+    void setHidden(bool hidden);
+    /// Fits line widths and patterns to the view, and puts what is drawn in the order of the maps.
     void setScale(const ViewScale& scale);
     /// Fits the flood textures to the levels of the groups.
     void updateLevels(const ContourGroups& groups);
@@ -62,17 +64,21 @@ public:
     std::vector<int> groupsInUse() const;
 
     bool hasBlocks() const { return m_blockCount > 0; }
+    std::int64_t cellCount() const { return m_cellCount; }
     bool draws(CvlInt64 map) const;
     /// The geometry of a map's block; null without one.
     vtkPolyData* geometry(CvlInt64 map) const;
+    /// How the block of a map looks that has one.
+    const BlockLook& look(CvlInt64 map) const { return m_blocks.at(map).look; }
     const Counters& counters() const { return m_counters; }
-    /// One actor per mapper, in no order.
+    /// One actor per mapper, in the order of the lowest map that each draws.
     std::vector<vtkActor*> actors() const;
 
 private:
     class Bucket;
     struct Block
     {
+        CvlInt64 map = 0;
         BlockLook look;
         Bucket* bucket = nullptr; ///< null when there is nothing to draw
         vtkSmartPointer<vtkPolyData> data;
@@ -82,16 +88,19 @@ private:
     void place(Block& block);
     void remove(Block& block);
     void dropEmptyBuckets();
+    void updateVisibility();
 
     FieldLayer m_layer;
     bool m_flat;
     vtkRenderer& m_back;
     vtkRenderer& m_front;
     bool m_visible = true;
+    bool m_hidden = false;
     ViewScale m_scale;
     std::map<MapperLook, std::unique_ptr<Bucket>> m_buckets;
     std::unordered_map<CvlInt64, Block> m_blocks;
     std::int64_t m_blockCount = 0;
+    std::int64_t m_cellCount = 0; ///< of all blocks
     Counters m_counters;
 };
 

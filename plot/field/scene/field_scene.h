@@ -9,6 +9,7 @@
 #include <vtkBoundingBox.h>
 
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace corvala::plot {
@@ -25,7 +26,7 @@ struct PickRay
 struct FieldLegend
 {
     QString title; ///< name of the variable
-    ContourLevels levels;
+    std::optional<ContourLevels> levels; ///< nothing when no value is shown
 };
 
 /// What a field canvas shows of a frame. A canvas knows its scene through this class only, so that
@@ -45,6 +46,8 @@ public:
     /// Works for about `milliseconds`; negative works until all is done. True while work is left.
     virtual bool advance(int milliseconds) = 0;
     virtual bool hasWork() const = 0;
+    /// Cells to be drawn, which say how long drawing may take.
+    virtual std::int64_t cellCount() const = 0;
     /// Pieces of work since there was none, done and in all.
     virtual std::pair<CvlInt64, CvlInt64> progress() const = 0;
     /// Puts the work that is left aside; what it would have changed stays as it is.
@@ -52,7 +55,12 @@ public:
     /// Takes up again what was put aside.
     virtual void resume() = 0;
 
+    /// Fits what is drawn to the view; call before drawing.
     virtual void setScale(const ViewScale& scale) = 0;
+
+    /// Draws a few points in place of everything, until this is taken back: for a scene that takes
+    /// too long to be drawn while it is moved.
+    virtual void setStandIn(bool standsIn) = 0;
 
     /// Box round everything that is shown; invalid when nothing is.
     virtual vtkBoundingBox bounds() const = 0;

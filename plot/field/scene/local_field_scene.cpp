@@ -6,8 +6,10 @@
 
 #include <QElapsedTimer>
 
+#include <vtkActor.h>
 #include <vtkBox.h>
 #include <vtkMath.h>
+#include <vtkPropCollection.h>
 #include <vtkRenderer.h>
 
 #include <algorithm>
@@ -49,6 +51,7 @@ void LocalFieldScene::rebuild()
 {
     const host::Frame* const drawn = frame();
     m_flat = drawn && drawn->plotType() == PlotType_Field2D;
+    setStandIn(false);
     m_surfaces.clear();
     m_ranges.clear();
     m_pending = {};
@@ -315,6 +318,60 @@ void LocalFieldScene::setScale(const ViewScale& scale)
     }
     for (const auto& layer : m_layers)
         layer->setWidestLine(widest);
+    orderActors(m_back);
+    orderActors(m_front);
+}
+
+/// What lies in the same place is covered by what is drawn later: actors are drawn in the order of
+/// layers and maps, and not in that of the edits which made them.
+void LocalFieldScene::orderActors(vtkRenderer& renderer) const
+{
+    vtkPropCollection& props = *renderer.GetViewProps();
+    std::vector<vtkProp*> wanted;
+    for (const auto& layer : m_layers)
+        for (vtkActor* const actor : layer->actors())
+            if (props.IsItemPresent(actor))
+                wanted.push_back(actor);
+    if (m_standIn && props.IsItemPresent(m_standIn->actor()))
+        wanted.push_back(m_standIn->actor());
+    std::vector<vtkProp*> present;
+    vtkCollectionSimpleIterator position;
+    props.InitTraversal(position);
+    while (vtkProp* const prop = props.GetNextProp(position))
+        present.push_back(prop);
+    if (wanted == present)
+        return;
+    props.RemoveAllItems(); // the renderer's own way would release what the actors have uploaded
+    for (vtkProp* const prop : wanted)
+        props.AddItem(prop);
+}
+
+std::int64_t LocalFieldScene::cellCount() const
+{
+    std::int64_t count = 0;
+    for (const auto& layer : m_layers)
+        count += layer->isVisible() ? layer->cellCount() : 0;
+    return count;
+}
+
+void LocalFieldScene::setStandIn(bool standsIn)
+{
+    if (!standsIn && !m_standIn)
+        return;
+    if (!standsIn) {
+        m_back.RemoveActor(m_standIn->actor());
+        m_standIn.reset();
+    } else if (!m_standIn) {
+        std::vector<const CompositeLayer*> layers;
+        for (const auto layer : {FieldLayer::Flood, FieldLayer::Shade, FieldLayer::ContourLines,
+                                 FieldLayer::Mesh, FieldLayer::Background, FieldLayer::Edges})
+            layers.push_back(m_layers[static_cast<std::size_t>(layer)].get());
+        m_standIn = std::make_unique<StandIn>();
+        m_standIn->take(layers, m_shown, m_groups);
+        m_back.AddActor(m_standIn->actor());
+    }
+    for (const auto& layer : m_layers)
+        layer->setHidden(standsIn);
 }
 
 vtkBoundingBox LocalFieldScene::bounds() const
@@ -404,7 +461,10 @@ std::vector<FieldLegend> LocalFieldScene::legends() const
     for (const int group : inUse) {
         const CvlInt64 variable = m_groups.variable(group);
         if (drawn && drawn->data()->hasVariable(variable)) {
-            result.push_back({shownName(*drawn, variable), m_groups.levels(group)});
+            FieldLegend& legend = result.emplace_back();
+            legend.title = shownName(*drawn, variable);
+            if (m_groups.hasRange(group))
+                legend.levels = m_groups.levels(group);
         }
     }
     return result;

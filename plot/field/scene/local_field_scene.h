@@ -4,6 +4,7 @@
 #include "plot/field/geometry/block_builder.h"
 #include "plot/field/scene/field_scene.h"
 #include "plot/field/scene/group_ranges.h"
+#include "plot/field/scene/stand_in.h"
 
 #include <QCoreApplication>
 
@@ -34,6 +35,8 @@ public:
     void cancel() override;
     void resume() override;
     void setScale(const ViewScale& scale) override;
+    void setStandIn(bool standsIn) override;
+    std::int64_t cellCount() const override;
     vtkBoundingBox bounds() const override;
     CvlInt64 zoneAt(const PickRay& ray) override;
     std::vector<FieldLegend> legends() const override;
@@ -63,6 +66,8 @@ private:
     void workOnValues(const host::Frame& frame); ///< of the next map
     void workOnMap(const host::Frame& frame); ///< the next one, in all layers
 
+    void orderActors(vtkRenderer& renderer) const;
+
     CvlInt64 nearestZone(const PickRay& ray, const std::vector<FieldLayer>& layers);
 
     std::shared_ptr<SurfaceCache> m_cache;
@@ -76,6 +81,7 @@ private:
     std::array<std::unique_ptr<CompositeLayer>, kFieldLayerCount> m_layers;
     std::unordered_map<CvlInt64, std::vector<PlacedSurface>> m_surfaces;
     GroupRanges m_ranges;
+    std::unique_ptr<StandIn> m_standIn; ///< null until it is needed, and after a change
     std::array<host::MapSet, kFieldLayerCount + 1> m_pending;
     std::array<host::MapSet, kFieldLayerCount> m_stale; ///< not brought up to date while invisible
     std::array<host::MapSet, kFieldLayerCount + 1> m_cancelled;

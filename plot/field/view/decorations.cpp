@@ -2,8 +2,7 @@
 #include "plot/field/view/decorations.h"
 
 #include "plot/common/axis_ticks.h"
-#include "plot/common/nice_steps.h"
-#include "plot/field/geometry/color_map.h"
+#include "plot/field/view/legend.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -14,9 +13,6 @@
 namespace corvala::plot {
 
 // Sizes are in heights of text.
-static constexpr double kNarrowestLegend = 7.5;
-static constexpr double kWidestLegend = 16.0;
-static constexpr double kLegendBar = 1.4;
 static constexpr double kTickLength = 0.4;
 static constexpr double kTextGap = 0.7; ///< from the axis to its numbers
 static constexpr double kTitleHeight = 1.6;
@@ -25,23 +21,6 @@ static constexpr double kSmallestLeftMargin = 6.0;
 QColor inkColor()
 {
     return {40, 40, 40};
-}
-
-static QString levelText(const ContourLevels& levels, int level)
-{
-    return tickText(levels.minimum + levels.step * level, levels.step);
-}
-
-static double legendWidth(const FieldLegend& legend, double font)
-{
-    const QFontMetricsF numbers(plotFont(font));
-    const double title =
-        QFontMetricsF(plotFont(1.1 * font, true)).horizontalAdvance(legend.title) + 0.5 * font;
-    double widest = 0.0;
-    for (const int level : {0, 1, legend.levels.bands})
-        widest = std::max(widest, numbers.horizontalAdvance(levelText(legend.levels, level)));
-    return std::clamp(std::max(title, widest + (kLegendBar + 1.1) * font), kNarrowestLegend * font,
-                      kWidestLegend * font);
 }
 
 FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>& legends,
@@ -160,53 +139,6 @@ void paintOrientation(QPainter& painter, const FieldLayout& layout,
         box.moveCenter(origin + direction * (length + 0.9 * layout.font));
         painter.drawText(box, Qt::AlignCenter, titles[axis]);
     }
-    painter.restore();
-}
-
-static void paintBands(QPainter& painter, const QRectF& bar, int bands)
-{
-    const std::vector<host::Rgb> colors = bandColors(bands);
-    const double height = bar.height() / bands;
-    for (int band = 0; band < bands; ++band) {
-        const host::Rgb& color = colors[static_cast<std::size_t>(band)];
-        painter.fillRect(
-            QRectF(bar.left(), bar.bottom() - height * (band + 1), bar.width(), height),
-            QColor(color.red, color.green, color.blue));
-    }
-    painter.drawRect(bar);
-}
-
-static void paintLegend(QPainter& painter, const QRectF& area, double font,
-                        const FieldLegend& legend)
-{
-    const ContourLevels& levels = legend.levels;
-    painter.setFont(plotFont(1.1 * font, true));
-    painter.drawText(QRectF(area.left(), area.top(), area.width(), kTitleHeight * font),
-                     Qt::AlignLeft | Qt::AlignTop,
-                     QFontMetricsF(painter.font())
-                         .elidedText(legend.title, Qt::ElideRight, area.width() - 0.3 * font));
-    const QRectF bar(area.left(), area.top() + 2.0 * font, kLegendBar * font,
-                     std::min(area.height() - 2.0 * font, 26.0 * font));
-    paintBands(painter, bar, levels.bands);
-    painter.setFont(plotFont(font));
-    const double height = bar.height() / levels.bands;
-    const int every = std::max(1, static_cast<int>(std::ceil(1.5 * font / height)));
-    for (int level = 0; level <= levels.bands; level += every) {
-        const double y = bar.bottom() - height * level;
-        painter.drawLine(QPointF(bar.right(), y), QPointF(bar.right() + 0.35 * font, y));
-        painter.drawText(QRectF(bar.right() + 0.6 * font, y - font, area.width(), 2.0 * font),
-                         Qt::AlignLeft | Qt::AlignVCenter, levelText(levels, level));
-    }
-}
-
-void paintLegends(QPainter& painter, const FieldLayout& layout,
-                  const std::vector<FieldLegend>& legends)
-{
-    painter.save();
-    painter.setPen(QPen(inkColor(), std::max(1.0, layout.font / 12.0)));
-    painter.setBrush(Qt::NoBrush);
-    for (std::size_t i = 0; i < legends.size(); ++i)
-        paintLegend(painter, layout.legends[i], layout.font, legends[i]);
     painter.restore();
 }
 

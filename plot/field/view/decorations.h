@@ -53,9 +53,6 @@ void paintPlaneAxes(QPainter& painter, const FieldLayout& layout, const PlaneWin
 void paintOrientation(QPainter& painter, const FieldLayout& layout,
                       const AxisDirections& directions, const std::array<QString, 3>& titles);
 
-void paintLegends(QPainter& painter, const FieldLayout& layout,
-                  const std::vector<FieldLegend>& legends);
-
 /// A remark in the upper left corner; nothing when it is empty.
 void paintNotice(QPainter& painter, const FieldLayout& layout, const QString& text);
 

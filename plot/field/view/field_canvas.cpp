@@ -7,6 +7,7 @@
 #include "plot/field/view/opengl_check.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -27,6 +28,13 @@ static constexpr int kSliceMilliseconds = 30;
 static constexpr int kQuietSlices = 8; ///< before work is reported as progress
 static constexpr CvlInt64 kFirstDrawing = 1000; ///< pieces of work before an unfinished picture
 static constexpr int kSamples = 8;
+static constexpr int kRestMilliseconds = 200; ///< without a movement, until the hand rests
+static constexpr double kMovingSeconds = 0.12; ///< for a picture while the view is moved
+static constexpr double kBusySeconds = 0.3; ///< without a sign that the program works
+static constexpr std::int64_t kManyCells = 200'000; ///< may take that long at first
+/// Software renderers leave holes in lines when they smooth by samples; there the picture at rest
+/// is drawn with twice the pixels each way, and made smaller.
+static constexpr int kSoftwareSamples = 2;
 static constexpr double kWheelStep = 1.15; ///< magnification of one notch
 
 /// Lets its interactor draw while Qt paints it, and at no other time.
@@ -73,6 +81,9 @@ FieldCanvas::FieldCanvas(QWidget* parent)
     , m_cache(std::make_shared<SurfaceCache>())
     , m_view(m_cache)
 {
+    m_hand.setSingleShot(true);
+    m_hand.setInterval(kRestMilliseconds);
+    connect(&m_hand, &QTimer::timeout, this, &Canvas::requestRedraw);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     if (m_problem.isEmpty()) {
@@ -156,6 +167,7 @@ void FieldCanvas::documentChanged(const host::StateEvent& event)
         m_view.widen();
     }
     if (m_view.scene().apply(event)) {
+        m_quickTime = m_restTime = 0.0;
         m_nextDrawing = kFirstDrawing;
         requestRedraw();
     }
@@ -200,13 +212,49 @@ void FieldCanvas::endReport(bool cancelled)
         Q_EMIT workEnded(cancelled);
 }
 
+/// Whether a full picture takes too long for a hand that moves the view.
+bool FieldCanvas::isSlow() const
+{
+    constexpr double kSmoothing = 4.0; // times the work, at most
+    return m_quickTime > 0.0 ? m_quickTime > kMovingSeconds
+                             : m_restTime > kSmoothing * kMovingSeconds;
+}
+
+/// A full smooth picture when the hand rests, else a quick one.
 void FieldCanvas::draw()
 {
-    m_view.setSize(size(), devicePixelRatioF());
-    m_view.prepare();
-    m_widget->renderWindow()->Render();
+    FieldScene& scene = m_view.scene();
+    const bool isQuick = m_hand.isActive() || scene.hasWork();
+    const bool standsIn = m_hand.isActive() && isSlow();
+    const bool isLong = !standsIn && (m_restTime > kBusySeconds || scene.cellCount() > kManyCells);
+    scene.setStandIn(standsIn);
+    if (isLong)
+        QApplication::setOverrideCursor(Qt::BusyCursor);
+    QElapsedTimer clock;
+    clock.start();
+    drawSamples(isQuick || !isSoftwareOpenGl() ? 1 : kSoftwareSamples);
+    if (!standsIn)
+        (isQuick ? m_quickTime : m_restTime) = static_cast<double>(clock.nsecsElapsed()) * 1e-9;
+    if (isLong)
+        QApplication::restoreOverrideCursor();
     m_overlay->update();
     countRedraw();
+}
+
+/// Draws each pixel of the screen as `samples` by `samples`, which the widget makes smaller when it
+/// is painted.
+void FieldCanvas::drawSamples(int samples)
+{
+    vtkRenderWindow* const window = m_widget->renderWindow();
+    const QSize drawn(window->GetSize()[0], window->GetSize()[1]);
+    m_view.setSize(size(), samples * devicePixelRatioF());
+    window->SetSize(samples * drawn.width(), samples * drawn.height());
+    m_view.prepare();
+    window->Render();
+    window->WaitForCompletion();
+    // Between drawings, places are those of the screen: the mouse goes by them.
+    window->SetSize(drawn.width(), drawn.height());
+    m_view.setSize(size(), devicePixelRatioF());
 }
 
 QImage FieldCanvas::render(const QSize& size, QString* error)
@@ -261,6 +309,7 @@ bool FieldCanvas::handleMouse(QEvent* event)
             m_view.magnify(std::pow(kWheelStep, notches), wheel->position());
             requestRedraw();
         }
+        m_hand.start();
         m_view.setMoved();
         return m_view.isFlat();
     }
@@ -272,6 +321,7 @@ bool FieldCanvas::handleMouse(QEvent* event)
             || (mouse->buttons() && moved.manhattanLength() >= QApplication::startDragDistance());
         if (m_isDragging && mouse->buttons()) {
             m_view.setMoved();
+            m_hand.start();
             if (m_view.isFlat()) {
                 m_view.pan(moved);
                 m_pressedAt = position;

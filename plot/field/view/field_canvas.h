@@ -23,6 +23,7 @@ public:
 
     QImage render(const QSize& size, QString* error) override;
     QString problem() const override { return m_problem; }
+    bool isBusy() const override { return Canvas::isBusy() || m_hand.isActive(); }
 
     /// The scene, for tests and diagnosis.
     FieldScene& scene() { return m_view.scene(); }
@@ -49,6 +50,8 @@ private:
     void makeWidgets();
     void takePlotType();
     void draw();
+    void drawSamples(int samples);
+    bool isSlow() const;
     void endReport(bool cancelled);
     bool handleMouse(QEvent* event);
     void click(const QPointF& position, bool activate);
@@ -59,6 +62,9 @@ private:
     QVTKOpenGLNativeWidget* m_widget = nullptr; // not owned; null without OpenGL
     QWidget* m_overlay = nullptr; // not owned
     QHash<QPair<CvlUniqueId, bool>, CameraState> m_cameras; ///< by frame and flatness
+    QTimer m_hand; ///< runs while the view is being moved, and until the hand rests
+    double m_quickTime = 0.0; ///< of a full picture without smoothing, in seconds; 0 when unknown
+    double m_restTime = 0.0; ///< of one with it
     QPointF m_pressedAt;
     bool m_isDoubleClick = false;
     bool m_isDragging = false;

@@ -2,6 +2,7 @@
 #include "plot/field/view/field_view.h"
 
 #include "plot/field/scene/local_field_scene.h"
+#include "plot/field/view/legend.h"
 
 #include <QPainter>
 

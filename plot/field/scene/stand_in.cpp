@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/scene/stand_in.h"
+
+#include "plot/field/geometry/color_map.h"
+
+#include <vtkCellArray.h>
+#include <vtkPointData.h>
+#include <vtkPolyDataMapper.h>
+#include <vtkProperty.h>
+#include <vtkUnsignedCharArray.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvala::plot {
+
+static constexpr float kPointPixels = 4.0F;
+
+StandIn::StandIn()
+{
+    vtkNew<vtkPolyDataMapper> mapper;
+    mapper->SetInputData(m_cloud);
+    m_actor->SetMapper(mapper);
+    m_actor->GetProperty()->SetLighting(false);
+    m_actor->GetProperty()->SetPointSize(kPointPixels);
+}
+
+/// The colour of a point of a block, as the block's mapper would show it.
+static host::Rgb colorOf(vtkPolyData& block, const BlockLook& look, vtkIdType point,
+                         const ContourGroups& groups)
+{
+    vtkPointData& values = *block.GetPointData();
+    if (look.mapper.ownColors && values.GetScalars()) {
+        double parts[3];
+        values.GetScalars()->GetTuple(point, parts);
+        return {static_cast<std::uint8_t>(parts[0]), static_cast<std::uint8_t>(parts[1]),
+                static_cast<std::uint8_t>(parts[2])};
+    }
+    const int group = look.mapper.floodGroup;
+    if (group == 0 || !values.GetTCoords())
+        return look.color;
+    double place[3] = {};
+    values.GetTCoords()->GetTuple(point, place);
+    if (place[1] > 0.5)
+        return noValueColor();
+    const double share = place[0] * groups.textureScale(group) + groups.textureShift(group);
+    return bandColor(share, groups.levels(group).bands);
+}
+
+void StandIn::take(const std::vector<const CompositeLayer*>& layers, const host::MapSet& maps,
+                   const ContourGroups& groups)
+{
+    constexpr double kGoldenRatio = 0.6180339887498949;
+    constexpr vtkIdType kFewest = 8;
+    const auto drawnBy = [&](CvlInt64 map) {
+        const auto found = std::find_if(layers.begin(), layers.end(),
+                                        [map](const auto* layer) { return layer->draws(map); });
+        return found == layers.end() ? nullptr : *found;
+    };
+    vtkIdType all = 0;
+    for (const std::uint32_t map : maps)
+        if (const CompositeLayer* layer = drawnBy(map))
+            all += layer->geometry(map)->GetNumberOfPoints();
+    vtkNew<vtkPoints> points;
+    vtkNew<vtkCellArray> vertices;
+    vtkNew<vtkUnsignedCharArray> colors;
+    colors->SetNumberOfComponents(3);
+    for (const std::uint32_t map : maps) {
+        const CompositeLayer* const layer = drawnBy(map);
+        if (!layer)
+            continue;
+        vtkPolyData& block = *layer->geometry(map);
+        const vtkIdType count = block.GetNumberOfPoints();
+        const double share = static_cast<double>(count) / static_cast<double>(all);
+        const auto taken =
+            std::min(count, kFewest + static_cast<vtkIdType>(share * static_cast<double>(kPoints)));
+        // Steps of the golden ratio spread evenly, whatever the order of the points is.
+        double place = 0.5;
+        for (vtkIdType i = 0; i < taken; ++i) {
+            place = std::fmod(place + kGoldenRatio, 1.0);
+            const auto source = static_cast<vtkIdType>(place * static_cast<double>(count));
+            const host::Rgb color = colorOf(block, layer->look(map), source, groups);
+            const vtkIdType point = points->InsertNextPoint(block.GetPoint(source));
+            vertices->InsertNextCell(1, &point);
+            colors->InsertNextTuple3(color.red, color.green, color.blue);
+        }
+    }
+    m_cloud->SetPoints(points);
+    m_cloud->SetVerts(vertices);
+    m_cloud->GetPointData()->SetScalars(colors);
+}
+
+} // namespace corvala::plot

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/view/legend.h"
+
+#include "plot/common/axis_ticks.h"
+#include "plot/common/nice_steps.h"
+#include "plot/field/geometry/color_map.h"
+
+#include <QCoreApplication>
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvala::plot {
+
+// Sizes are in heights of text.
+static constexpr double kNarrowest = 7.5;
+static constexpr double kWidest = 16.0;
+static constexpr double kBarWidth = 1.4;
+static constexpr double kTallestBar = 26.0;
+static constexpr double kSingleBand = 3.0;
+static constexpr double kTitleHeight = 1.6;
+
+std::vector<LegendText> legendTexts(const std::optional<ContourLevels>& levels, double gap)
+{
+    if (!levels)
+        return {{0.5, QCoreApplication::translate("corvala::plot", "no values")}};
+    if (levels->isSingleValue())
+        return {{0.5, QString::number(levels->minimum + levels->step / 2, 'g', 7)}};
+    const int bands = levels->bands;
+    const auto textAt = [&](int level) {
+        return LegendText {static_cast<double>(level),
+                           tickText(levels->minimum + levels->step * level, levels->step)};
+    };
+    static constexpr int kStrides[] = {1, 2, 5, 10};
+    const auto* const found = std::find_if(std::begin(kStrides), std::end(kStrides),
+                                           [gap](int stride) { return stride >= gap; });
+    const int stride = found == std::end(kStrides) ? bands : *found;
+    // Multiples of the stride count from zero, so that these are the roundest of the levels.
+    const auto first = std::llround(levels->minimum / levels->step) % stride;
+    std::vector<LegendText> texts = {textAt(0)};
+    for (int level = 1; level < bands; ++level)
+        if ((level + first) % stride == 0 && level >= gap && bands - level >= gap)
+            texts.push_back(textAt(level));
+    texts.push_back(textAt(bands));
+    return texts;
+}
+
+double legendWidth(const FieldLegend& legend, double font)
+{
+    const QFontMetricsF numbers(plotFont(font));
+    const double title =
+        QFontMetricsF(plotFont(1.1 * font, true)).horizontalAdvance(legend.title) + 0.5 * font;
+    double widest = 0.0;
+    for (const LegendText& text : legendTexts(legend.levels, 1.0))
+        widest = std::max(widest, numbers.horizontalAdvance(text.text));
+    return std::clamp(std::max(title, widest + (kBarWidth + 1.1) * font), kNarrowest * font,
+                      kWidest * font);
+}
+
+static void paintBands(QPainter& painter, const QRectF& bar, const std::vector<host::Rgb>& colors)
+{
+    const double height = bar.height() / static_cast<double>(colors.size());
+    double bottom = bar.bottom();
+    for (const host::Rgb& color : colors) {
+        bottom -= height;
+        painter.fillRect(QRectF(bar.left(), bottom, bar.width(), height),
+                         QColor(color.red, color.green, color.blue));
+    }
+    painter.drawRect(bar);
+}
+
+static void paintLegend(QPainter& painter, const QRectF& area, double font,
+                        const FieldLegend& legend)
+{
+    painter.setFont(plotFont(1.1 * font, true));
+    painter.drawText(QRectF(area.left(), area.top(), area.width(), kTitleHeight * font),
+                     Qt::AlignLeft | Qt::AlignTop,
+                     QFontMetricsF(painter.font())
+                         .elidedText(legend.title, Qt::ElideRight, area.width() - 0.3 * font));
+    const int bands = legend.levels ? legend.levels->bands : 1;
+    const double tallest = (bands > 1 ? kTallestBar : kSingleBand) * font;
+    const QRectF bar(area.left(), area.top() + 2.0 * font, kBarWidth * font,
+                     std::min(area.height() - 2.0 * font, tallest));
+    paintBands(painter, bar,
+               legend.levels ? bandColors(bands) : std::vector<host::Rgb> {noValueColor()});
+    painter.setFont(plotFont(font));
+    const double height = bar.height() / bands;
+    for (const LegendText& text : legendTexts(legend.levels, 1.4 * font / height)) {
+        const double y = bar.bottom() - height * text.place;
+        painter.drawLine(QPointF(bar.right(), y), QPointF(bar.right() + 0.35 * font, y));
+        painter.drawText(QRectF(bar.right() + 0.6 * font, y - font, area.width(), 2.0 * font),
+                         Qt::AlignLeft | Qt::AlignVCenter, text.text);
+    }
+}
+
+void paintLegends(QPainter& painter, const FieldLayout& layout,
+                  const std::vector<FieldLegend>& legends)
+{
+    painter.save();
+    painter.setPen(QPen(inkColor(), std::max(1.0, layout.font / 12.0)));
+    painter.setBrush(Qt::NoBrush);
+    for (std::size_t i = 0; i < legends.size(); ++i)
+        paintLegend(painter, layout.legends[i], layout.font, legends[i]);
+    painter.restore();
+}
+
+} // namespace corvala::plot

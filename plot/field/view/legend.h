@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/field/view/decorations.h"
+
+namespace corvala::plot {
+
+/// A text beside the bar of a legend, and where: in bands from its lower end.
+struct LegendText
+{
+    double place = 0.0;
+    QString text;
+};
+
+/// Both ends, and between them the roundest levels that leave at least `gap` bands between two
+/// texts. A single value is named in the middle of its band.
+std::vector<LegendText> legendTexts(const std::optional<ContourLevels>& levels, double gap);
+
+/// Width in pixels that a legend needs with texts `font` pixels high.
+double legendWidth(const FieldLegend& legend, double font);
+
+/// Draws the legends where the layout has them.
+void paintLegends(QPainter& painter, const FieldLayout& layout,
+                  const std::vector<FieldLegend>& legends);
+
+} // namespace corvala::plot
