@@ -206,7 +206,7 @@ void tst_FieldCanvas::constantFieldHasAColor()
         return shareOfColor(image, QColor(color.red, color.green, color.blue));
     };
     QVERIFY(shareOf(mapColor(0.5)) > 0.05);
-    QCOMPARE(shareOf(noValueColor()), 0.0);
+    QVERIFY(shareOf(noValueColor()) < 0.01); // some of the pixels of smooth lines
 }
 
 void tst_FieldCanvas::hiddenLinesAreRemoved()

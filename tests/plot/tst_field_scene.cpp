@@ -5,13 +5,19 @@
 #include <vtkActor.h>
 #include <vtkCompositeDataDisplayAttributes.h>
 #include <vtkCompositePolyDataMapper2.h>
+#include <vtkImageData.h>
 #include <vtkMultiBlockDataSet.h>
+#include <vtkPointData.h>
+#include <vtkPolyData.h>
 #include <vtkProperty.h>
 #include <vtkRenderer.h>
 #include <vtkTexture.h>
 #include <vtkTransform.h>
 
+#include <QThread>
 #include <QtTest>
+
+#include <atomic>
 
 using namespace corvala;
 using namespace corvala::plot;
@@ -43,6 +49,8 @@ private Q_SLOTS:
     void changesOfTheDocument();
     void samePictureAsFromScratch();
     void workInSlices();
+    void largeZonesAreMadeElsewhere();
+    void standIn();
     void cancelledWork();
     void largestScene();
     void picks();
@@ -503,6 +511,81 @@ void tst_FieldScene::workInSlices()
     }
     QVERIFY(slices > 100);
     QCOMPARE(counters(FieldLayer::Mesh).built, 600);
+}
+
+/// A plane of 300 by 300 points; tells whether the main thread asked for it.
+class LargeZone : public host::ZoneSource
+{
+public:
+    vtkSmartPointer<vtkDataSet> zone(std::int64_t) const override
+    {
+        m_askedHere = m_askedHere || QThread::currentThread() == qApp->thread();
+        auto plane = vtkSmartPointer<vtkImageData>::New();
+        plane->SetDimensions(300, 300, 1);
+        return plane;
+    }
+    mutable std::atomic<bool> m_askedHere {false};
+};
+
+void tst_FieldScene::largeZonesAreMadeElsewhere()
+{
+    const auto source = std::make_shared<LargeZone>();
+    const auto data = std::make_shared<host::DataSet>();
+    data->source = source;
+    data->zones = {{"large", true, {300, 300, 1}, 90'000, 89'401, 2}};
+    data->variables = {{"X", {}, {}, 0}, {"Y", {}, {}, 1}};
+    data->contourVariables = {1};
+    document().clear();
+    document().addFrame();
+    document().attachDataSet(data, PlotType_Field2D, 0);
+    write("FieldLayers/ShowContour", "", 1);
+    m_scene->setFrame(document().activeFrameId());
+    m_scene->advance(0);
+    m_scene->cancel();
+    QVERIFY(!m_scene->notice().isEmpty());
+    m_scene->resume();
+    QTRY_VERIFY(m_scene->advance(1) && m_scene->progress().first > 1); // the values are known
+    write("ContourGroups/Var", "", 2, 1); // and are others, while something is being made
+    QTRY_VERIFY(!m_scene->advance(1));
+    QVERIFY(!source->m_askedHere);
+    m_scene->setScale({800, 10.0, 1.0});
+    vtkNew<vtkRenderer> back;
+    vtkNew<vtkRenderer> front;
+    LocalFieldScene waited(*back, *front, std::make_shared<SurfaceCache>());
+    waited.setFrame(document().activeFrameId());
+    waited.advance(-1);
+    waited.setScale({800, 10.0, 1.0});
+    QCOMPARE(contents(*m_scene), contents(waited));
+    QVERIFY(m_scene->groups().levels(1) == waited.groups().levels(1));
+    write("FieldMap/Mesh/LinePattern", "1", 1);
+    m_scene->advance(0);
+    m_scene.reset(); // while something is being made for it
+}
+
+void tst_FieldScene::standIn()
+{
+    write("FieldLayers/ShowContour", "", 1);
+    work();
+    const auto visibleActors = [&] {
+        std::vector<vtkActor*> visible;
+        vtkCollectionSimpleIterator position;
+        m_back->GetActors()->InitTraversal(position);
+        while (vtkActor* const actor = m_back->GetActors()->GetNextActor(position))
+            if (actor->GetVisibility())
+                visible.push_back(actor);
+        return visible;
+    };
+    const std::vector<vtkActor*> before = visibleActors();
+    m_scene->setStandIn(true);
+    QCOMPARE(visibleActors().size(), std::size_t {1});
+    auto* const cloud =
+        vtkPolyData::SafeDownCast(visibleActors().front()->GetMapper()->GetInputDataObject(0, 0));
+    QVERIFY(cloud->GetNumberOfVerts() >= 12 * 8);
+    double range[2]; // of what is red in the colours of the map
+    cloud->GetPointData()->GetScalars()->GetRange(range, 0);
+    QVERIFY(range[1] - range[0] > 100);
+    m_scene->setStandIn(false);
+    QVERIFY(visibleActors() == before);
 }
 
 void tst_FieldScene::cancelledWork()

@@ -19,7 +19,9 @@ void SurfaceBuilder::add(vtkCellArray& cells, const vtkIdType* corners, vtkIdTyp
     for (vtkIdType i = 0; i < count; ++i) {
         vtkIdType& number = m_newNumbers[static_cast<std::size_t>(corners[i])];
         if (number < 0) {
-            number = m_points->InsertNextPoint(m_data.GetPoint(corners[i]));
+            double point[3]; // and not the data set's own: threads may share it
+            m_data.GetPoint(corners[i], point);
+            number = m_points->InsertNextPoint(point);
             m_surface.pointIds.push_back(corners[i]);
         }
         cells.InsertCellPoint(number);

@@ -23,19 +23,36 @@ SurfaceCache::surface(const host::DataSet& data, std::int64_t zone, const Surfac
     const host::ZoneInfo& info = data.zone(zone);
     const SurfaceChoice normal = choice.normalized(info);
     const Key key {data.source.get(), info.sourceIndex, normal.surfaces, planeNumbers(normal)};
-    const auto known = m_surfaces.find(key);
-    if (known != m_surfaces.end())
-        return known->second.surface;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        const auto known = m_surfaces.find(key);
+        if (known != m_surfaces.end())
+            return known->second.surface;
+    }
     const vtkSmartPointer<vtkDataSet> geometry = data.geometry(zone);
     if (!geometry || geometry->GetNumberOfPoints() == 0)
         return nullptr;
-    ++m_extractions;
     auto surface = std::make_shared<ZoneSurface>(extractSurface(*geometry, info, normal));
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    ++m_extractions;
     m_memory += surface->memoryUse();
     if (m_memory > m_budget)
         dropUnused();
     m_surfaces[key] = {data.source, surface};
     return surface;
+}
+
+void SurfaceCache::clear()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_surfaces.clear();
+    m_memory = 0;
+}
+
+std::int64_t SurfaceCache::extractionCount() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_extractions;
 }
 
 void SurfaceCache::dropUnused()

@@ -5,13 +5,14 @@
 
 #include <map>
 #include <memory>
+#include <mutex>
 #include <tuple>
 
 namespace corvala::plot {
 
-/// Surfaces of zones, extracted when they are first asked for. A zone belongs to one solution time,
-/// so the surfaces of several times are kept side by side. Surfaces that nobody holds are dropped
-/// when the cache outgrows its budget.
+/// Surfaces of zones, extracted when they are first asked for, by any thread. A zone belongs to one
+/// solution time, so the surfaces of several times are kept side by side. Surfaces that nobody
+/// holds are dropped when the cache outgrows its budget.
 class SurfaceCache
 {
 public:
@@ -23,8 +24,8 @@ public:
     /// Null when the zone has no points or cannot be read.
     std::shared_ptr<const ZoneSurface> surface(const host::DataSet& data, std::int64_t zone,
                                                const SurfaceChoice& choice);
-    void clear() { m_surfaces.clear(), m_memory = 0; }
-    std::int64_t extractionCount() const { return m_extractions; }
+    void clear();
+    std::int64_t extractionCount() const;
 
 private:
     using Key = std::tuple<const host::ZoneSource*, std::int64_t, int, std::array<int, 9>>;
@@ -34,8 +35,9 @@ private:
         std::shared_ptr<const ZoneSurface> surface;
     };
 
-    void dropUnused();
+    void dropUnused(); // with the lock
 
+    mutable std::mutex m_mutex;
     std::map<Key, Entry> m_surfaces;
     std::size_t m_budget;
     std::size_t m_memory = 0;

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/geometry/surface_values.h"
 
+#include <vtkCellArray.h>
+#include <vtkCellArrayIterator.h>
 #include <vtkCellData.h>
 #include <vtkCellDataToPointData.h>
-#include <vtkIdList.h>
 #include <vtkNew.h>
 #include <vtkPointData.h>
 
@@ -50,14 +51,19 @@ static vtkSmartPointer<vtkDoubleArray> fromCorners(vtkDoubleArray& points, vtkPo
 {
     auto values = vtkSmartPointer<vtkDoubleArray>::New();
     values->SetNumberOfTuples(shape.GetNumberOfCells());
-    vtkNew<vtkIdList> corners;
-    for (vtkIdType cell = 0; cell < shape.GetNumberOfCells(); ++cell) {
-        shape.GetCellPoints(cell, corners);
-        const vtkIdType used = rule == CellValue::Primary ? 1 : corners->GetNumberOfIds();
-        double sum = 0.0;
-        for (vtkIdType i = 0; i < used; ++i)
-            sum += points.GetValue(corners->GetId(i));
-        values->SetValue(cell, sum / static_cast<double>(used));
+    vtkIdType next = 0;
+    for (vtkCellArray* const cells : {shape.GetVerts(), shape.GetLines(), shape.GetPolys()}) {
+        const auto cell = vtk::TakeSmartPointer(cells->NewIterator());
+        for (cell->GoToFirstCell(); !cell->IsDoneWithTraversal(); cell->GoToNextCell()) {
+            vtkIdType count = 0;
+            const vtkIdType* corners = nullptr;
+            cell->GetCurrentCell(count, corners);
+            const vtkIdType used = rule == CellValue::Primary ? 1 : count;
+            double sum = 0.0;
+            for (vtkIdType i = 0; i < used; ++i)
+                sum += points.GetValue(corners[i]);
+            values->SetValue(next++, sum / static_cast<double>(used));
+        }
     }
     return values;
 }

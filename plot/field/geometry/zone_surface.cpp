@@ -113,8 +113,12 @@ static ZoneSurface outerSurface(vtkDataSet& data)
 }
 
 /// Every face of every volume cell, once, and the cells of two dimensions.
-static ZoneSurface allFaces(vtkDataSet& data)
+static ZoneSurface allFaces(vtkDataSet& shared)
 {
+    // Cells are handed out in a data set's own storage, which threads must not share.
+    const auto own = vtkSmartPointer<vtkDataSet>::Take(shared.NewInstance());
+    own->CopyStructure(&shared);
+    vtkDataSet& data = *own;
     SurfaceBuilder builder(data);
     std::set<std::vector<vtkIdType>> known;
     const auto addFace = [&](vtkCell& face, vtkIdType zoneCell) {

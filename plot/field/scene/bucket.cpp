@@ -62,8 +62,10 @@ void CompositeLayer::Bucket::setProperties()
     vtkProperty* property = m_actor->GetProperty();
     property->SetLighting(m_look.lit);
     property->SetInterpolation(m_look.smooth ? VTK_GOURAUD : VTK_FLAT);
-    property->SetAmbient(m_look.lit ? 0.4 : 1.0);
-    property->SetDiffuse(m_look.lit ? 0.65 : 0.0);
+    // Colours that stand for values stay recognizable on faces that look away from the light.
+    const double ambient = m_look.floodGroup > 0 || m_look.ownColors ? 0.65 : 0.4;
+    property->SetAmbient(m_look.lit ? ambient : 1.0);
+    property->SetDiffuse(m_look.lit ? 1.05 - ambient : 0.0);
     property->SetSpecular(m_look.shiny ? 0.35 : 0.0);
     property->SetSpecularPower(30.0);
     property->SetColor(m_look.floodGroup > 0 ? 1.0 : 0.0, m_look.floodGroup > 0 ? 1.0 : 0.0,

@@ -27,7 +27,6 @@ void CompositeLayer::clear()
 {
     m_blocks.clear();
     m_blockCount = 0;
-    m_cellCount = 0;
     for (const auto& [look, bucket] : m_buckets)
         (look.inFront ? m_front : m_back).RemoveActor(bucket->actor());
     m_buckets.clear();
@@ -51,7 +50,6 @@ void CompositeLayer::place(Block& block)
         block.bucket = &bucketOf(block.look.mapper);
         block.bucket->add(block.map, block.data, block.look.color);
         ++m_blockCount;
-        m_cellCount += block.data->GetNumberOfCells();
     }
 }
 
@@ -61,7 +59,6 @@ void CompositeLayer::remove(Block& block)
         block.bucket->remove(block.map);
         block.bucket = nullptr;
         --m_blockCount;
-        m_cellCount -= block.data->GetNumberOfCells();
     }
 }
 
@@ -87,6 +84,12 @@ static bool isSameColor(const host::Rgb& left, const host::Rgb& right)
     return left.red == right.red && left.green == right.green && left.blue == right.blue;
 }
 
+bool CompositeLayer::builds(CvlInt64 map, const std::optional<BlockLook>& look) const
+{
+    const auto found = m_blocks.find(map);
+    return look && (found == m_blocks.end() || !(found->second.look.recipe == look->recipe));
+}
+
 void CompositeLayer::sync(CvlInt64 map, const std::optional<BlockLook>& look, const Builder& build)
 {
     const auto found = m_blocks.find(map);
@@ -99,9 +102,8 @@ void CompositeLayer::sync(CvlInt64 map, const std::optional<BlockLook>& look, co
         }
         return;
     }
-    const bool isNew = found == m_blocks.end();
-    Block& block = isNew ? m_blocks[map] : found->second;
-    const bool rebuilds = isNew || !(block.look.recipe == look->recipe);
+    const bool rebuilds = builds(map, look);
+    Block& block = m_blocks[map];
     const bool moves = rebuilds || !isSameMapper(block.look.mapper, look->mapper);
     const bool recolors = !isSameColor(block.look.color, look->color);
     if (moves)

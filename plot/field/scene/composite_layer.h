@@ -47,6 +47,8 @@ public:
     /// Brings the block of a map in line with its look; touches nothing else, and of the block only
     /// what differs.
     void sync(CvlInt64 map, const std::optional<BlockLook>& look, const Builder& build);
+    /// Whether `sync` would make geometry.
+    bool builds(CvlInt64 map, const std::optional<BlockLook>& look) const;
     void clear();
 
     void setVisible(bool visible);
@@ -64,7 +66,6 @@ public:
     std::vector<int> groupsInUse() const;
 
     bool hasBlocks() const { return m_blockCount > 0; }
-    std::int64_t cellCount() const { return m_cellCount; }
     bool draws(CvlInt64 map) const;
     /// The geometry of a map's block; null without one.
     vtkPolyData* geometry(CvlInt64 map) const;
@@ -100,7 +101,6 @@ private:
     std::map<MapperLook, std::unique_ptr<Bucket>> m_buckets;
     std::unordered_map<CvlInt64, Block> m_blocks;
     std::int64_t m_blockCount = 0;
-    std::int64_t m_cellCount = 0; ///< of all blocks
     Counters m_counters;
 };
 

@@ -46,8 +46,6 @@ public:
     /// Works for about `milliseconds`; negative works until all is done. True while work is left.
     virtual bool advance(int milliseconds) = 0;
     virtual bool hasWork() const = 0;
-    /// Cells to be drawn, which say how long drawing may take.
-    virtual std::int64_t cellCount() const = 0;
     /// Pieces of work since there was none, done and in all.
     virtual std::pair<CvlInt64, CvlInt64> progress() const = 0;
     /// Puts the work that is left aside; what it would have changed stays as it is.

@@ -29,17 +29,37 @@ std::vector<CvlInt64> GroupRanges::zonesOf(const host::Frame& frame, CvlInt64 ma
     return allTimes ? frame.fieldMaps().zones(map) : std::vector<CvlInt64> {shown};
 }
 
-void GroupRanges::look(const host::DataSet& data, CvlInt64 zone, CvlInt64 variable)
+std::vector<GroupRanges::Unknown> GroupRanges::unknown(const ShownMap& map,
+                                                       const ContourGroups& groups)
 {
-    const auto [entry, isNew] = m_ranges.try_emplace({data.zone(zone).sourceIndex, variable});
-    if (!isNew)
-        return;
-    const host::ZoneValues values = data.values(zone, variable);
-    if (values.array && values.array->GetNumberOfTuples() > 0) {
-        double limits[2];
-        values.array->GetFiniteRange(limits, 0);
-        entry->second = {limits[0], limits[1]};
+    auto users = m_users;
+    for (const int group : groupsShown(map, groups))
+        ++users[at(group)];
+    std::vector<Unknown> result;
+    for (int group = 1; group <= ContourGroups::kCount; ++group) {
+        const CvlInt64 variable = users[at(group)] > 0 ? groups.variable(group) : 0;
+        if (variable == 0)
+            continue;
+        for (const CvlInt64 zone : zonesOf(map.frame, map.map, map.zone))
+            if (m_ranges.count({map.frame.data()->zone(zone).sourceIndex, variable}) == 0)
+                result.push_back({zone, variable});
     }
+    return result;
+}
+
+GroupRanges::Range GroupRanges::rangeOf(const host::DataSet& data, const Unknown& wanted)
+{
+    const host::ZoneValues values = data.values(wanted.zone, wanted.variable);
+    if (!values.array || values.array->GetNumberOfTuples() == 0)
+        return {};
+    double limits[2];
+    values.array->GetFiniteRange(limits, 0);
+    return {limits[0], limits[1]};
+}
+
+void GroupRanges::learn(const host::DataSet& data, const Unknown& values, const Range& range)
+{
+    m_ranges[{data.zone(values.zone).sourceIndex, values.variable}] = range;
 }
 
 void GroupRanges::remove(CvlInt64 map)
@@ -56,6 +76,8 @@ bool GroupRanges::add(const ShownMap& map, const ContourGroups& groups)
 {
     const auto usersBefore = m_users;
     remove(map.map);
+    for (const Unknown& values : unknown(map, groups))
+        learn(*map.frame.data(), values, rangeOf(*map.frame.data(), values));
     Contribution& contribution = m_maps[map.map];
     contribution = {map.zone, groupsShown(map, groups)};
     bool isNewGroup = false;
@@ -63,10 +85,6 @@ bool GroupRanges::add(const ShownMap& map, const ContourGroups& groups)
         ++m_users[at(group)];
         isNewGroup = usersBefore[at(group)] == 0 || isNewGroup;
     }
-    for (int group = 1; group <= ContourGroups::kCount; ++group)
-        if (m_users[at(group)] > 0 && groups.variable(group) > 0)
-            for (const CvlInt64 zone : zonesOf(map.frame, map.map, map.zone))
-                look(*map.frame.data(), zone, groups.variable(group));
     return isNewGroup;
 }
 

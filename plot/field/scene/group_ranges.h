@@ -19,7 +19,25 @@ public:
     /// Points of transient zones up to which all times are looked at.
     static constexpr std::int64_t kMostTransientPoints = 5'000'000;
 
+    struct Range
+    {
+        double minimum = 0.0;
+        double maximum = -1.0; ///< below the minimum when there are no values
+    };
+    /// Values that have not been looked at.
+    struct Unknown
+    {
+        CvlInt64 zone = 0;
+        CvlInt64 variable = 0;
+    };
+
     void clear();
+
+    /// What `add` would have to look at.
+    std::vector<Unknown> unknown(const ShownMap& map, const ContourGroups& groups);
+    static Range rangeOf(const host::DataSet& data, const Unknown& values);
+    /// Spares `add` looking at these values.
+    void learn(const host::DataSet& data, const Unknown& values, const Range& range);
 
     /// Looks at the values that a map has of the groups in use. True when the map uses a group that
     /// nothing used before: then every shown map has to be added again.
@@ -30,11 +48,6 @@ public:
     bool update(const host::Frame& frame, ContourGroups& groups);
 
 private:
-    struct Range
-    {
-        double minimum = 0.0;
-        double maximum = -1.0; ///< below the minimum when there are no values
-    };
     struct Contribution
     {
         CvlInt64 zone = 0; ///< shown at present
@@ -43,8 +56,6 @@ private:
     using Key = std::pair<std::int64_t, CvlInt64>; ///< source index of the zone, variable
 
     std::vector<CvlInt64> zonesOf(const host::Frame& frame, CvlInt64 map, CvlInt64 shown);
-    void look(const host::DataSet& data, CvlInt64 zone, CvlInt64 variable);
-
     std::map<Key, Range> m_ranges;
     std::unordered_map<CvlInt64, Contribution> m_maps;
     std::array<CvlInt64, ContourGroups::kCount + 1> m_users {}; ///< by group: maps that use it

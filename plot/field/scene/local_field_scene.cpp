@@ -52,6 +52,8 @@ void LocalFieldScene::rebuild()
     const host::Frame* const drawn = frame();
     m_flat = drawn && drawn->plotType() == PlotType_Field2D;
     setStandIn(false);
+    m_task.reset();
+    m_piece = {};
     m_surfaces.clear();
     m_ranges.clear();
     m_pending = {};
@@ -211,6 +213,7 @@ void LocalFieldScene::cancel()
 {
     for (std::size_t i = 0; i < m_pending.size(); ++i)
         m_cancelled[i] |= std::exchange(m_pending[i], {});
+    m_task.reset();
     m_done = m_total = 0;
 }
 
@@ -250,13 +253,83 @@ void LocalFieldScene::forget(CvlInt64 map)
     }
 }
 
+/// Zones with as many points or cells take longer than a slice of work.
+static bool isLarge(const host::ZoneInfo& zone)
+{
+    constexpr std::int64_t kMany = 50'000;
+    return std::max(zone.pointCount, zone.cellCount) >= kMany;
+}
+
+bool LocalFieldScene::handOverValues(const host::Frame& drawn, const ShownMap& map)
+{
+    auto wanted = m_ranges.unknown(map, m_groups);
+    const auto data = drawn.sharedData();
+    if (m_mayWait || std::none_of(wanted.begin(), wanted.end(), [&](const auto& values) {
+            return isLarge(data->zone(values.zone));
+        }))
+        return false;
+    m_task = std::make_unique<BackgroundTask<Piece>>([data, wanted = std::move(wanted)] {
+        Piece piece;
+        for (const GroupRanges::Unknown& values : wanted)
+            piece.ranges.emplace_back(values, GroupRanges::rangeOf(*data, values));
+        return piece;
+    });
+    return true;
+}
+
+bool LocalFieldScene::handOverBlock(const host::Frame& drawn, CvlInt64 map,
+                                    const BlockRecipe& recipe)
+{
+    if (m_mayWait || !isLarge(drawn.data()->zone(recipe.zone)) || hasPiece(map, recipe))
+        return false;
+    std::vector<PlacedSurface> surfaces = m_surfaces[map];
+    for (PlacedSurface& placed : surfaces) {
+        // What belongs to this thread stays here: it may be asked for cells meanwhile.
+        auto shape = vtkSmartPointer<vtkPolyData>::New();
+        shape->CopyStructure(placed.shape);
+        placed.shape = shape;
+        placed.locator = nullptr;
+    }
+    m_task = std::make_unique<BackgroundTask<Piece>>([data = drawn.sharedData(), groups = m_groups,
+                                                      cache = m_cache, recipe, map, flat = m_flat,
+                                                      surfaces = std::move(surfaces)] {
+        Piece piece;
+        piece.map = map;
+        piece.recipe = recipe;
+        const auto height = static_cast<double>(map);
+        piece.surfaces = surfaces;
+        piece.block = BlockBuilder(*data, groups, *cache)
+                          .build(recipe, flat ? &height : nullptr, piece.surfaces);
+        for (const PlacedSurface& placed : piece.surfaces)
+            placed.shape->GetBounds(); // are kept
+        return piece;
+    });
+    return true;
+}
+
+/// Takes what another thread has made, when it is there in time. True while none works.
+bool LocalFieldScene::takePiece(const host::Frame& drawn, int milliseconds)
+{
+    if (!m_task)
+        return true;
+    if (!m_task->wait(milliseconds))
+        return false;
+    m_piece = m_task->take();
+    m_task.reset();
+    for (const auto& [values, range] : m_piece.ranges)
+        m_ranges.learn(*drawn.data(), values, range);
+    return true;
+}
+
 void LocalFieldScene::workOnValues(const host::Frame& drawn)
 {
     host::MapSet& pending = m_pending[kGroupStage];
     const std::uint32_t map = pending.minimum();
+    const std::optional<ShownMap> current = shown(drawn, map);
+    if (current && handOverValues(drawn, *current))
+        return;
     pending.remove(map);
     ++m_done;
-    const std::optional<ShownMap> current = shown(drawn, map);
     if (current && m_ranges.add(*current, m_groups))
         pend(kGroupValues, m_shown); // a group is new: every map has to say what it has of it
     if (!current)
@@ -279,11 +352,17 @@ void LocalFieldScene::workOnMap(const host::Frame& drawn)
     for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
         if (!m_pending[i].contains(map))
             continue;
-        m_pending[i].remove(map);
-        ++m_done;
         const auto look =
             current ? lookOf(static_cast<FieldLayer>(i), *current, m_groups) : std::nullopt;
+        if (m_layers[i]->builds(map, look) && handOverBlock(drawn, map, look->recipe))
+            return;
+        m_pending[i].remove(map);
+        ++m_done;
         m_layers[i]->sync(map, look, [&](const BlockRecipe& recipe) {
+            if (hasPiece(map, recipe)) {
+                m_surfaces[map] = std::move(m_piece.surfaces);
+                return std::exchange(m_piece, {}).block;
+            }
             return builder.build(recipe, m_flat ? &height : nullptr, m_surfaces[map]);
         });
     }
@@ -294,17 +373,23 @@ bool LocalFieldScene::advance(int milliseconds)
     const host::Frame* const drawn = frame();
     QElapsedTimer clock;
     clock.start();
-    while (drawn && hasWork()) {
+    m_mayWait = milliseconds < 0;
+    const auto left = [&] {
+        return m_mayWait ? -1 : std::max(milliseconds - static_cast<int>(clock.elapsed()), 0);
+    };
+    while (drawn && hasWork() && takePiece(*drawn, left())) {
         // Values come first: levels have to be known before anything is coloured by them.
         if (m_pending[kGroupStage].isEmpty())
             workOnMap(*drawn);
         else
             workOnValues(*drawn);
-        if (milliseconds >= 0 && clock.elapsed() >= milliseconds)
+        if (left() == 0)
             break;
     }
     for (const auto& layer : m_layers)
         layer->updateLevels(m_groups);
+    if (!hasWork())
+        m_piece = {};
     return hasWork();
 }
 
@@ -344,14 +429,6 @@ void LocalFieldScene::orderActors(vtkRenderer& renderer) const
     props.RemoveAllItems(); // the renderer's own way would release what the actors have uploaded
     for (vtkProp* const prop : wanted)
         props.AddItem(prop);
-}
-
-std::int64_t LocalFieldScene::cellCount() const
-{
-    std::int64_t count = 0;
-    for (const auto& layer : m_layers)
-        count += layer->isVisible() ? layer->cellCount() : 0;
-    return count;
 }
 
 void LocalFieldScene::setStandIn(bool standsIn)

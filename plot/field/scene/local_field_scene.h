@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "plot/common/background_task.h"
 #include "plot/field/geometry/block_builder.h"
 #include "plot/field/scene/field_scene.h"
 #include "plot/field/scene/group_ranges.h"
@@ -36,7 +37,6 @@ public:
     void resume() override;
     void setScale(const ViewScale& scale) override;
     void setStandIn(bool standsIn) override;
-    std::int64_t cellCount() const override;
     vtkBoundingBox bounds() const override;
     CvlInt64 zoneAt(const PickRay& ray) override;
     std::vector<FieldLegend> legends() const override;
@@ -63,8 +63,28 @@ private:
     /// The map as it is to be drawn; nothing when it is not.
     std::optional<ShownMap> shown(const host::Frame& frame, CvlInt64 map);
     void forget(CvlInt64 map);
+    /// What another thread makes of a large zone: ranges of values, or the geometry of one block.
+    struct Piece
+    {
+        std::vector<std::pair<GroupRanges::Unknown, GroupRanges::Range>> ranges;
+        CvlInt64 map = 0;
+        std::optional<BlockRecipe> recipe;
+        vtkSmartPointer<vtkPolyData> block;
+        std::vector<PlacedSurface> surfaces; ///< of the block's map
+    };
+
     void workOnValues(const host::Frame& frame); ///< of the next map
     void workOnMap(const host::Frame& frame); ///< the next one, in all layers
+    /// True when the values of the map were given to another thread.
+    bool handOverValues(const host::Frame& frame, const ShownMap& map);
+    /// True when the block of the map was given to another thread.
+    bool handOverBlock(const host::Frame& frame, CvlInt64 map, const BlockRecipe& recipe);
+    /// Whether the last piece that came back is this block.
+    bool hasPiece(CvlInt64 map, const BlockRecipe& recipe) const
+    {
+        return m_piece.map == map && m_piece.recipe && *m_piece.recipe == recipe;
+    }
+    bool takePiece(const host::Frame& frame, int milliseconds);
 
     void orderActors(vtkRenderer& renderer) const;
 
@@ -81,6 +101,9 @@ private:
     std::array<std::unique_ptr<CompositeLayer>, kFieldLayerCount> m_layers;
     std::unordered_map<CvlInt64, std::vector<PlacedSurface>> m_surfaces;
     GroupRanges m_ranges;
+    bool m_mayWait = false; ///< at present, for as long as it takes: nothing is handed over
+    std::unique_ptr<BackgroundTask<Piece>> m_task; ///< null while nothing is handed over
+    Piece m_piece; ///< the last that came back
     std::unique_ptr<StandIn> m_standIn; ///< null until it is needed, and after a change
     std::array<host::MapSet, kFieldLayerCount + 1> m_pending;
     std::array<host::MapSet, kFieldLayerCount> m_stale; ///< not brought up to date while invisible

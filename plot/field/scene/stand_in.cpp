@@ -10,7 +10,7 @@
 #include <vtkUnsignedCharArray.h>
 
 #include <algorithm>
-#include <cmath>
+#include <random>
 
 namespace corvala::plot {
 
@@ -50,7 +50,6 @@ static host::Rgb colorOf(vtkPolyData& block, const BlockLook& look, vtkIdType po
 void StandIn::take(const std::vector<const CompositeLayer*>& layers, const host::MapSet& maps,
                    const ContourGroups& groups)
 {
-    constexpr double kGoldenRatio = 0.6180339887498949;
     constexpr vtkIdType kFewest = 8;
     const auto drawnBy = [&](CvlInt64 map) {
         const auto found = std::find_if(layers.begin(), layers.end(),
@@ -74,11 +73,11 @@ void StandIn::take(const std::vector<const CompositeLayer*>& layers, const host:
         const double share = static_cast<double>(count) / static_cast<double>(all);
         const auto taken =
             std::min(count, kFewest + static_cast<vtkIdType>(share * static_cast<double>(kPoints)));
-        // Steps of the golden ratio spread evenly, whatever the order of the points is.
-        double place = 0.5;
+        // Random points, each time the same: regular steps would beat with the rows of the points.
+        std::mt19937 random;
         for (vtkIdType i = 0; i < taken; ++i) {
-            place = std::fmod(place + kGoldenRatio, 1.0);
-            const auto source = static_cast<vtkIdType>(place * static_cast<double>(count));
+            const auto source =
+                static_cast<vtkIdType>(random() % static_cast<std::uint64_t>(count));
             const host::Rgb color = colorOf(block, layer->look(map), source, groups);
             const vtkIdType point = points->InsertNextPoint(block.GetPoint(source));
             vertices->InsertNextCell(1, &point);

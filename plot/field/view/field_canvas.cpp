@@ -30,8 +30,6 @@ static constexpr CvlInt64 kFirstDrawing = 1000; ///< pieces of work before an un
 static constexpr int kSamples = 8;
 static constexpr int kRestMilliseconds = 200; ///< without a movement, until the hand rests
 static constexpr double kMovingSeconds = 0.12; ///< for a picture while the view is moved
-static constexpr double kBusySeconds = 0.3; ///< without a sign that the program works
-static constexpr std::int64_t kManyCells = 200'000; ///< may take that long at first
 /// Software renderers leave holes in lines when they smooth by samples; there the picture at rest
 /// is drawn with twice the pixels each way, and made smaller.
 static constexpr int kSoftwareSamples = 2;
@@ -226,17 +224,12 @@ void FieldCanvas::draw()
     FieldScene& scene = m_view.scene();
     const bool isQuick = m_hand.isActive() || scene.hasWork();
     const bool standsIn = m_hand.isActive() && isSlow();
-    const bool isLong = !standsIn && (m_restTime > kBusySeconds || scene.cellCount() > kManyCells);
     scene.setStandIn(standsIn);
-    if (isLong)
-        QApplication::setOverrideCursor(Qt::BusyCursor);
     QElapsedTimer clock;
     clock.start();
     drawSamples(isQuick || !isSoftwareOpenGl() ? 1 : kSoftwareSamples);
     if (!standsIn)
         (isQuick ? m_quickTime : m_restTime) = static_cast<double>(clock.nsecsElapsed()) * 1e-9;
-    if (isLong)
-        QApplication::restoreOverrideCursor();
     m_overlay->update();
     countRedraw();
 }
