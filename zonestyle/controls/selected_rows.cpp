@@ -129,38 +129,104 @@ void RowBitmap::growTo(int row)
         m_words.resize(wordOf(row) + 1);
 }
 
-QModelIndexList selectedRows(const QItemSelectionModel& selection, int column)
+SelectedRows& SelectedRows::of(const QItemSelectionModel& selection)
 {
-    QModelIndexList rows;
-    const QAbstractItemModel* model = selection.model();
-    if (!model)
-        return rows;
-    const QItemSelection ranges = selection.selection();
-    const RowBitmap full = fullRows(ranges, model->columnCount());
-    rows.reserve(full.count());
+    auto* known = selection.findChild<SelectedRows*>(QString(), Qt::FindDirectChildrenOnly);
+    return known ? *known : *new SelectedRows(const_cast<QItemSelectionModel&>(selection));
+}
+
+SelectedRows::SelectedRows(QItemSelectionModel& selection)
+    : QObject(&selection)
+    , m_selection(selection)
+{
+    connect(&selection, &QItemSelectionModel::selectionChanged, this, &SelectedRows::forget);
+    connect(&selection, &QItemSelectionModel::modelChanged, this, &SelectedRows::forget);
+    if (const QAbstractItemModel* model = selection.model()) {
+        connect(model, &QAbstractItemModel::modelReset, this, &SelectedRows::forget);
+        connect(model, &QAbstractItemModel::layoutChanged, this, &SelectedRows::forget);
+        connect(model, &QAbstractItemModel::rowsInserted, this, &SelectedRows::forget);
+        connect(model, &QAbstractItemModel::rowsRemoved, this, &SelectedRows::forget);
+        connect(model, &QAbstractItemModel::columnsInserted, this, &SelectedRows::forget);
+        connect(model, &QAbstractItemModel::columnsRemoved, this, &SelectedRows::forget);
+    }
+}
+
+/// The runs of a range of rows that are in `full` and not yet in `seen`, which they are added to.
+static void appendRuns(std::vector<RowRange>& runs, const QItemSelectionRange& range,
+                       const RowBitmap& full, RowBitmap& seen)
+{
+    int first = -1;
+    for (int row = range.top(); row <= range.bottom() + 1; ++row) {
+        const bool isNew = row <= range.bottom() && full.contains(row) && seen.insert(row);
+        if (isNew && first < 0)
+            first = row;
+        if (!isNew && first >= 0) {
+            runs.push_back({first, row - 1});
+            first = -1;
+        }
+    }
+}
+
+void SelectedRows::find()
+{
+    if (m_isKnown)
+        return;
+    m_isKnown = true;
+    m_ranges.clear();
+    m_bitmap = RowBitmap();
+    m_areAll = true;
+    if (!m_selection.model())
+        return;
+    const QItemSelection ranges = m_selection.selection();
+    const int columnCount = m_selection.model()->columnCount();
+    m_bitmap = fullRows(ranges, columnCount);
+    m_areAll = !hasPartialRanges(ranges, columnCount);
     RowBitmap seen;
     for (const QItemSelectionRange& range : ranges) {
-        if (!isFlat(range))
-            continue;
-        for (int row = range.top(); row <= range.bottom(); ++row) {
-            if (full.contains(row) && seen.insert(row))
-                rows.append(model->index(row, column));
-        }
+        if (isFlat(range))
+            appendRuns(m_ranges, range, m_bitmap, seen);
+    }
+}
+
+const RowBitmap& SelectedRows::bitmap()
+{
+    find();
+    return m_bitmap;
+}
+
+const std::vector<RowRange>& SelectedRows::ranges()
+{
+    find();
+    return m_ranges;
+}
+
+bool SelectedRows::areAll()
+{
+    find();
+    return m_areAll;
+}
+
+int SelectedRows::count()
+{
+    find();
+    return m_bitmap.count();
+}
+
+QModelIndexList selectedRows(const QItemSelectionModel& selection, int column)
+{
+    SelectedRows& selected = SelectedRows::of(selection);
+    QModelIndexList rows;
+    rows.reserve(selected.count());
+    for (const RowRange& range : selected.ranges()) {
+        for (int row = range.first; row <= range.last; ++row)
+            rows.append(selection.model()->index(row, column));
     }
     return rows;
 }
 
 bool hasSelectedRows(const QItemSelectionModel& selection)
 {
-    if (!selection.model())
-        return false;
-    const QItemSelection ranges = selection.selection();
-    const int columnCount = selection.model()->columnCount();
-    for (const QItemSelectionRange& range : ranges) {
-        if (isFlat(range) && coversAllColumns(range, columnCount))
-            return true;
-    }
-    return !fullRows(ranges, columnCount).isEmpty();
+    return !SelectedRows::of(selection).ranges().empty();
 }
 
 } // namespace corvala::sdk::ui::dialogs::uicontrols

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QModelIndexList>
+#include <QObject>
 
 #include <cstdint>
 #include <vector>
@@ -35,12 +36,53 @@ private:
     std::vector<Word> m_words;
 };
 
+/// Neighbouring rows, both ends included.
+struct RowRange
+{
+    int first;
+    int last;
+
+    friend bool operator==(const RowRange& left, const RowRange& right)
+    {
+        return left.first == right.first && left.last == right.last;
+    }
+};
+
+/// The rows of a selection model of which every column is selected, found out once for each change
+/// of the selection: Qt copies all its ranges for every question. Lives with the selection model.
+class SelectedRows : public QObject
+{
+    Q_OBJECT
+
+public:
+    static SelectedRows& of(const QItemSelectionModel& selection);
+
+    const RowBitmap& bitmap();
+    /// In the order in which they were selected, each row once.
+    const std::vector<RowRange>& ranges();
+    bool areAll(); ///< nothing else is selected, such as single cells
+    int count();
+
+    /// To be called for what the selection model does not announce, such as its reset.
+    void forget() { m_isKnown = false; }
+
+private:
+    explicit SelectedRows(QItemSelectionModel& selection);
+    void find();
+
+    QItemSelectionModel& m_selection;
+    RowBitmap m_bitmap;
+    std::vector<RowRange> m_ranges;
+    bool m_areAll = true;
+    bool m_isKnown = false;
+};
+
 /// The rows of which every column is selected, as indexes of one column, in the order in which
 /// they were selected, each once: what QItemSelectionModel::selectedRows gives for a flat table of
 /// selectable cells, at a cost that grows with the selected rows alone.
 QModelIndexList selectedRows(const QItemSelectionModel& selection, int column = 0);
 
-/// Whether selectedRows would not be empty; stops at the first row when whole rows are selected.
+/// Whether selectedRows would not be empty.
 bool hasSelectedRows(const QItemSelectionModel& selection);
 
 } // namespace corvala::sdk::ui::dialogs::uicontrols

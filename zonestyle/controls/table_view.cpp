@@ -40,7 +40,7 @@ void TableView::setModel(QAbstractItemModel* newModel)
 void TableView::setSelectionModel(QItemSelectionModel* selectionModel)
 {
     TableViewWithPreferredDimensions::setSelectionModel(selectionModel);
-    m_selectedRows.known = false;
+    m_selectedRows = &SelectedRows::of(*selectionModel);
     deleteUnusedSelectionModels(*this);
     deleteUnusedSelectionModels(*horizontalHeader());
     deleteUnusedSelectionModels(*verticalHeader());
@@ -49,16 +49,17 @@ void TableView::setSelectionModel(QItemSelectionModel* selectionModel)
 
 void TableView::reset()
 {
-    m_selectedRows.known = false;
     TableViewWithPreferredDimensions::reset();
+    if (m_selectedRows)
+        m_selectedRows->forget(); // a selection model is reset without a word
 }
 
 /// Replacing a scattered selection by another one compares all pairs of their ranges; replacing an
 /// empty one does not.
 void TableView::clearScatteredSelection()
 {
-    static constexpr int kFewRanges = 16;
-    if (selectionModel() && selectionModel()->selection().size() > kFewRanges)
+    static constexpr std::size_t kFewRanges = 16;
+    if (m_selectedRows && m_selectedRows->ranges().size() > kFewRanges)
         clearSelection();
 }
 
@@ -108,7 +109,6 @@ void TableView::keyPressEvent(QKeyEvent* event)
 /// list of all the cells.
 void TableView::selectionChanged(const QItemSelection& selected, const QItemSelection&)
 {
-    m_selectedRows.known = false;
     viewport()->update();
     announceSelection(selected);
 }
@@ -128,7 +128,6 @@ void TableView::announceSelection(const QItemSelection& selected)
 
 void TableView::rowsInsertedSlot(const QModelIndex&, int, int)
 {
-    m_selectedRows.known = false;
     updateGeometries();
 }
 
@@ -150,28 +149,12 @@ void TableView::currentChanged(const QModelIndex& current, const QModelIndex& pr
     }
 }
 
-const TableView::SelectedRows& TableView::selectedRows() const
-{
-    if (m_selectedRows.known)
-        return m_selectedRows;
-    const QItemSelection ranges = selectionModel()->selection();
-    const int columns = model()->columnCount();
-    m_selectedRows.wholeRows =
-        std::all_of(ranges.cbegin(), ranges.cend(), [columns](const QItemSelectionRange& range) {
-            return range.left() == 0 && range.right() == columns - 1;
-        });
-    m_selectedRows.rows = m_selectedRows.wholeRows ? RowBitmap(*selectionModel()) : RowBitmap();
-    m_selectedRows.known = true;
-    return m_selectedRows;
-}
-
 bool TableView::isCellSelected(const QModelIndex& index) const
 {
-    if (!selectionModel() || !index.isValid())
+    if (!m_selectedRows || !index.isValid())
         return false;
-    const SelectedRows& selected = selectedRows();
-    return selected.wholeRows ? selected.rows.contains(index.row())
-                              : selectionModel()->isSelected(index);
+    return m_selectedRows->areAll() ? m_selectedRows->bitmap().contains(index.row())
+                                    : selectionModel()->isSelected(index);
 }
 
 TableView::CellBlock TableView::cellsIn(const QRect& area) const

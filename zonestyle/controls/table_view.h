@@ -6,6 +6,8 @@
 #include <sdk/dialogs_common/table_view_with_preferred_dimensions.h>
 #include <sdk/propertybindings/widget_update_deferrer_on_busy.h>
 
+#include <QPointer>
+
 namespace corvala::sdk::ui::dialogs::uicontrols {
 
 /// A table view whose clicks that edit leave the selection alone, and whose painting costs the same
@@ -45,13 +47,6 @@ private Q_SLOTS:
     void rowsInsertedSlot(const QModelIndex& parent, int first, int last);
 
 private:
-    /// Selected rows as painting sees them. Brought up to date when asked for.
-    struct SelectedRows
-    {
-        bool known = false;
-        bool wholeRows = true; ///< else single cells are selected, and Qt is asked about each
-        RowBitmap rows;
-    };
     /// Rows and visual columns, both ends included; empty when an end is negative.
     struct CellBlock
     {
@@ -61,7 +56,6 @@ private:
         int right;
     };
 
-    const SelectedRows& selectedRows() const;
     CellBlock cellsIn(const QRect& area) const;
     QStyleOptionViewItem cellOption(const QModelIndex& index,
                                     const QStyleOptionViewItem& base) const;
@@ -71,7 +65,7 @@ private:
     void clearScatteredSelection();
 
     mutable const QEvent* m_editingEvent = nullptr; ///< compared only, never dereferenced
-    mutable SelectedRows m_selectedRows;
+    QPointer<SelectedRows> m_selectedRows; ///< of the selection model
     propertybindings::WidgetUpdateDeferrerOnBusy m_updateDeferrer;
 };
 

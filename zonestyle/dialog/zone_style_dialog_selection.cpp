@@ -14,6 +14,8 @@
 namespace corvala::sdk::ui::dialogs {
 
 using uicontrols::RowBitmap;
+using uicontrols::RowRange;
+using uicontrols::SelectedRows;
 using zonestyle::intern::SelectionModelSignalSuspender;
 using zonestyle::intern::models::ModelAbstract;
 
@@ -29,44 +31,40 @@ QItemSelectionRange wholeRows(const QAbstractItemModel& model, int first, int la
     return {model.index(first, 0), model.index(last, model.columnCount() - 1)};
 }
 
-bool isWholeRowsOf(const QAbstractItemModel& model, const QItemSelection& selection)
+/// Rows of a table as a selection of whole rows of a model; rows that it does not have are left
+/// out.
+QItemSelection selectionOf(const QAbstractItemModel& model, const std::vector<RowRange>& ranges)
 {
-    const int rows = model.rowCount();
-    const int columns = model.columnCount();
-    return std::all_of(selection.cbegin(), selection.cend(), [=](const QItemSelectionRange& range) {
-        return range.left() == 0 && range.right() == columns - 1 && range.bottom() < rows;
-    });
-}
-
-/// The rows of a selection (of this model or of another one with rows like it) as ranges of whole
-/// rows of the model, in the same order, each row once. Rows that do not exist are left out.
-QItemSelection fitted(const QAbstractItemModel& model, const QItemSelection& selection)
-{
-    const int rows = model.rowCount();
+    const int lastRow = model.rowCount() - 1;
     QItemSelection result;
-    RowBitmap seen;
-    for (const QItemSelectionRange& range : selection) {
-        int first = -1;
-        const int end = qMin(range.bottom() + 1, rows);
-        for (int row = range.top(); row <= end; ++row) {
-            const bool isNew = row < end && seen.insert(row);
-            if (isNew && first < 0)
-                first = row;
-            if (!isNew && first >= 0) {
-                result.append(wholeRows(model, first, row - 1));
-                first = -1;
-            }
-        }
+    for (const RowRange& range : ranges) {
+        if (range.first <= lastRow)
+            result.append(wholeRows(model, range.first, qMin(range.last, lastRow)));
     }
     return result;
 }
 
-bool haveSameRows(const QItemSelection& left, const QItemSelection& right)
+/// Every row of which anything is selected, in the order of selection, each once.
+std::vector<RowRange> touchedRows(const QItemSelectionModel& selection)
 {
-    return std::equal(left.cbegin(), left.cend(), right.cbegin(), right.cend(),
-                      [](const QItemSelectionRange& a, const QItemSelectionRange& b) {
-                          return a.top() == b.top() && a.bottom() == b.bottom();
-                      });
+    SelectedRows& selected = SelectedRows::of(selection);
+    if (selected.areAll())
+        return selected.ranges();
+    std::vector<RowRange> touched;
+    RowBitmap seen;
+    for (const QItemSelectionRange& range : selection.selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            if (seen.insert(row))
+                touched.push_back({row, row});
+        }
+    }
+    return touched;
+}
+
+bool isWithin(const std::vector<RowRange>& ranges, int rows)
+{
+    return std::all_of(ranges.begin(), ranges.end(),
+                       [rows](const RowRange& range) { return range.last < rows; });
 }
 
 QVariant firstTitle(const QItemSelectionModel& selection)
@@ -124,11 +122,12 @@ void ZoneStyleDialog::copySelection(QItemSelectionModel* target, QItemSelectionM
     if (target->model()->rowCount() == 0 || source->model()->rowCount() == 0
         || firstTitle(*target) != firstTitle(*source))
         return;
-    const QItemSelection wanted = fitted(*target->model(), source->selection());
-    if (haveSameRows(wanted, target->selection()))
+    const std::vector<RowRange> wanted = touchedRows(*source);
+    SelectedRows& present = SelectedRows::of(*target);
+    if (present.areAll() && present.ranges() == wanted)
         return;
     target->clearSelection();
-    target->select(wanted, QItemSelectionModel::Select);
+    target->select(selectionOf(*target->model(), wanted), QItemSelectionModel::Select);
 }
 
 void ZoneStyleDialog::makeSelectionFitModel()
@@ -136,12 +135,13 @@ void ZoneStyleDialog::makeSelectionFitModel()
     QItemSelectionModel* selection = getSelectionModelFor(m_currentModel);
     if (selection->currentIndex().row() >= m_currentModel->rowCount())
         selection->clearCurrentIndex();
-    const QItemSelection saved = selection->selection();
-    if (isWholeRowsOf(*m_currentModel, saved))
+    SelectedRows& selected = SelectedRows::of(*selection);
+    if (selected.areAll() && isWithin(selected.ranges(), m_currentModel->rowCount()))
         return;
     const SelectionModelSignalSuspender suspender(*m_mapSelection, *m_tableView);
+    const QItemSelection fitting = selectionOf(*m_currentModel, touchedRows(*selection));
     selection->clearSelection();
-    selection->select(fitted(*m_currentModel, saved), QItemSelectionModel::Select);
+    selection->select(fitting, QItemSelectionModel::Select);
 }
 
 void ZoneStyleDialog::scrollTableViewToSelection(int row)
@@ -155,7 +155,8 @@ void ZoneStyleDialog::showSelectionCounts()
 {
     const QItemSelectionModel* selection = m_tableView->selectionModel();
     if (selection && m_currentModel)
-        m_mapSelection->showCounts(RowBitmap(*selection).count(), m_currentModel->rowCount());
+        m_mapSelection->showCounts(SelectedRows::of(*selection).count(),
+                                   m_currentModel->rowCount());
 }
 
 void ZoneStyleDialog::selectPickedObjects()

@@ -31,6 +31,7 @@
 #include <iterator>
 #include <map>
 #include <tuple>
+#include <utility>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
 
@@ -342,11 +343,27 @@ bool StyleTableView::viewportEvent(QEvent* event)
 void StyleTableView::mousePressEvent(QMouseEvent* event)
 {
     const QModelIndex index = indexAt(event->pos());
-    if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier
-        && arrowOf(index).contains(event->pos()))
-        openAtArrow(index);
-    else
+    const bool isOnArrow = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier
+        && arrowOf(index).contains(event->pos());
+    m_pressedArrow = isOnArrow ? QPersistentModelIndex(index) : QPersistentModelIndex();
+    if (!isOnArrow)
         TableView::mousePressEvent(event);
+}
+
+void StyleTableView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_pressedArrow.isValid() || !event->buttons().testFlag(Qt::LeftButton))
+        TableView::mouseMoveEvent(event);
+}
+
+/// Opened by the press already, a menu would take the release for a click outside it.
+void StyleTableView::mouseReleaseEvent(QMouseEvent* event)
+{
+    const QPersistentModelIndex pressed = std::exchange(m_pressedArrow, QPersistentModelIndex());
+    if (!pressed.isValid())
+        TableView::mouseReleaseEvent(event);
+    else if (arrowOf(pressed).contains(event->pos()))
+        openAtArrow(pressed);
 }
 
 /// As a right click: a row that is not selected becomes the only one that is.
@@ -364,7 +381,7 @@ void StyleTableView::openAtArrow(const QModelIndex& index)
                                 viewport()->mapToGlobal(place.bottomLeft()));
         contextMenuEvent(&event);
     };
-    QTimer::singleShot(0, this, open); // the press is over by then
+    QTimer::singleShot(0, this, open); // the release is over by then
 }
 
 /// The keys stand where the eye begins, on the first header.

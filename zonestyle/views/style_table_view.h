@@ -49,6 +49,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     /// What a double click on the border of a column fits it to: the widest of the rows that are
     /// seen and of a sample of the others.
     int sizeHintForColumn(int column) const override;
@@ -85,6 +87,7 @@ private:
     int m_tabKey = 0;
     CvlInt64 m_plotType = 0; ///< that the columns are sized for
     QPoint m_mouse = {-1, -1}; ///< outside while the mouse is not over the cells
+    QPersistentModelIndex m_pressedArrow; ///< the cell whose arrow the button was pressed on
 };
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::views
