@@ -60,8 +60,10 @@ std::optional<double> NumberField::read(const QString& text) const
 {
     const QString trimmed = text.trimmed();
     std::optional<double> number = readIn(QLocale::c(), trimmed);
-    if (!number)
-        number = readIn(locale(), trimmed);
+    for (const QLocale& notation : {locale(), QLocale::system()}) { // a program may run in "C"
+        if (!number)
+            number = readIn(notation, trimmed);
+    }
     const bool isWhole = number && *number == std::floor(*number);
     return m_decimals == 0 && !isWhole ? std::nullopt : number;
 }

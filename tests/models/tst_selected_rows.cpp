@@ -70,6 +70,8 @@ void tst_SelectedRows::equalsQt()
         QItemSelectionModel::ClearAndSelect};
     for (int step = 0; step < 25; ++step) {
         selection.select(randomBlocks(model, random), kCommands[random.bounded(4)]);
+        SelectedRows::of(selection)
+            .forget(); // Qt is silent about some changes by overlapping blocks
         const QModelIndexList expected = selection.selectedRows(1);
         QCOMPARE(rowsText(selectedRows(selection, 1)), rowsText(expected));
         QCOMPARE(hasSelectedRows(selection), !expected.isEmpty());
@@ -85,10 +87,13 @@ void tst_SelectedRows::keepsTheOrderOfSelection()
 {
     QStandardItemModel model(kRows, kColumns);
     QItemSelectionModel selection(&model);
-    for (const int row : {7, 2, 150})
+    QString expected;
+    for (const int row : {7, 2, 150}) {
         selection.select(model.index(row, 0),
                          QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    QCOMPARE(rowsText(selectedRows(selection)), QString("7/0 2/0 150/0"));
+        expected += QString(expected.isEmpty() ? "%1/0" : " %1/0").arg(row);
+        QCOMPARE(rowsText(selectedRows(selection)), expected); // what was found before is forgotten
+    }
 }
 
 void tst_SelectedRows::bitmapOfRows()
