@@ -75,6 +75,11 @@ void MapSelectionByPattern::setTabOrderAfter(QWidget& widget)
     setTabOrder(m_groupsButton, m_clearButton);
 }
 
+void MapSelectionByPattern::setLeastWidths()
+{
+    m_lineEdit->setMinimumWidth(fontMetrics().averageCharWidth() * 10);
+}
+
 void MapSelectionByPattern::setupUi()
 {
     setObjectName(QStringLiteral("MapSelectionByPattern"));

@@ -47,6 +47,8 @@ public:
     void showCounts(int selectedRows, int rows);
     void setFoundRows(std::optional<int> rows) { m_foundRows = rows; } ///< nothing: no pattern
 
+    void setLeastWidths(); ///< for narrow screens
+
     /// Puts the fields behind a widget of the same window in the order of the Tab key.
     void setTabOrderAfter(QWidget& widget);
 

@@ -157,6 +157,17 @@ static QSize roomOnScreen(const QWidget& window)
     return place.screen()->availableSize() - kFrame;
 }
 
+/// Tabs scroll, and what has a comfortable width gets by with what it shows.
+void ZoneStyleDialog::fitNarrowScreen()
+{
+    m_form->fieldTabs->setUsesScrollButtons(true);
+    m_form->lineTabs->setUsesScrollButtons(true);
+    m_mapSelection->setLeastWidths();
+    constexpr int kMargin = 16;
+    for (QPushButton* button : findChildren<QPushButton*>())
+        button->setMinimumWidth(button->fontMetrics().horizontalAdvance(button->text()) + kMargin);
+}
+
 /// The sizes that the form had without a table are still remembered: tab widgets that are not
 /// visible do not hear that their pages want more room.
 void ZoneStyleDialog::adoptPreferredSize()
@@ -166,10 +177,9 @@ void ZoneStyleDialog::adoptPreferredSize()
           static_cast<QWidget*>(m_form->plotTypeStackedWidget)})
         container->updateGeometry();
     const QSize room = roomOnScreen(*this);
-    if (minimumSizeHint().width() > room.width()) {
-        m_form->fieldTabs->setUsesScrollButtons(true);
-        m_form->lineTabs->setUsesScrollButtons(true);
-    }
+    constexpr int kRoomy = 110; // characters
+    if (room.width() < kRoomy * fontMetrics().averageCharWidth())
+        fitNarrowScreen();
     resize(sizeHint().expandedTo(minimumSizeHint()).boundedTo(room));
 }
 

@@ -128,6 +128,7 @@ private:
     void installHelpAction();
     void finishEditing();
     void adoptPreferredSize();
+    void fitNarrowScreen();
     void updateZoneStyleDialog();
     void showFieldPage();
     void showLinePage();
