@@ -177,7 +177,7 @@ void ZoneStyleDialog::adoptPreferredSize()
           static_cast<QWidget*>(m_form->plotTypeStackedWidget)})
         container->updateGeometry();
     const QSize room = roomOnScreen(*this);
-    constexpr int kRoomy = 110; // characters
+    constexpr int kRoomy = 90; // characters
     if (room.width() < kRoomy * fontMetrics().averageCharWidth())
         fitNarrowScreen();
     resize(sizeHint().expandedTo(minimumSizeHint()).boundedTo(room));
