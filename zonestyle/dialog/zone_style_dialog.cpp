@@ -23,7 +23,9 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStackedWidget>
+#include <QTabBar>
 #include <QTabWidget>
+#include <QToolButton>
 
 #include <boost/make_shared.hpp>
 
@@ -160,8 +162,11 @@ static QSize roomOnScreen(const QWidget& window)
 /// Tabs scroll, and what has a comfortable width gets by with what it shows.
 void ZoneStyleDialog::fitNarrowScreen()
 {
-    m_form->fieldTabs->setUsesScrollButtons(true);
-    m_form->lineTabs->setUsesScrollButtons(true);
+    for (QTabWidget* tabs : {m_form->fieldTabs, m_form->lineTabs}) {
+        tabs->setUsesScrollButtons(true);
+        for (QToolButton* arrow : tabs->tabBar()->findChildren<QToolButton*>())
+            arrow->setFocusPolicy(Qt::NoFocus); // the arrow keys scroll
+    }
     m_mapSelection->setLeastWidths();
     constexpr int kMargin = 16;
     for (QPushButton* button : findChildren<QPushButton*>())
@@ -177,8 +182,7 @@ void ZoneStyleDialog::adoptPreferredSize()
           static_cast<QWidget*>(m_form->plotTypeStackedWidget)})
         container->updateGeometry();
     const QSize room = roomOnScreen(*this);
-    constexpr int kRoomy = 90; // characters
-    if (room.width() < kRoomy * fontMetrics().averageCharWidth())
+    if (minimumSizeHint().width() > room.width())
         fitNarrowScreen();
     resize(sizeHint().expandedTo(minimumSizeHint()).boundedTo(room));
 }
