@@ -126,7 +126,7 @@ void LayerNotes::tell()
 }
 
 static void write(std::vector<std::string> path, host::StyleInput value,
-                  const host::MapSet* maps = nullptr)
+                  const host::NumberSet* maps = nullptr)
 {
     host::StyleWrite request;
     request.path = std::move(path);

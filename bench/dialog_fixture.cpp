@@ -91,7 +91,7 @@ void DialogFixture::undo() const
 void DialogFixture::changeOneValue()
 {
     m_value = m_value == 2.0 ? 0.0 : 2.0;
-    const host::MapSet first = host::allUpTo(1);
+    const host::NumberSet first = host::allUpTo(1);
     host::StyleWrite request;
     request.path = {"FieldMap", "Mesh", "MeshType"};
     request.objects = &first;

@@ -110,7 +110,7 @@ QString Arguments::file(const char* key) const
     return absolute(name);
 }
 
-host::MapSet Arguments::maps(const char* key, std::int64_t count) const
+host::NumberSet Arguments::maps(const char* key, std::int64_t count) const
 {
     return mapsFromText(text(key), count);
 }
@@ -132,9 +132,9 @@ Arguments Arguments::inner(const char* key) const
     return Arguments(value, m_folder);
 }
 
-host::MapSet mapsFromText(const QString& text, std::int64_t count)
+host::NumberSet mapsFromText(const QString& text, std::int64_t count)
 {
-    host::MapSet set;
+    host::NumberSet set;
     if (!host::fromText(text.toStdString(), count, set))
         throw ScriptError(Text::tr("\"%1\" is no set of maps").arg(text));
     return set;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "host/style/map_set.h"
+#include "host/style/number_set.h"
 #include "play/script.h"
 
 #include <QDir>
@@ -42,7 +42,7 @@ public:
     QString file(const char* key) const; ///< absolute path
     QString absolute(const QString& file) const { return QDir(m_folder).absoluteFilePath(file); }
     /// A set of maps such as "1-3,7"; `count` is what "all" means. The order is lost.
-    host::MapSet maps(const char* key, std::int64_t count) const;
+    host::NumberSet maps(const char* key, std::int64_t count) const;
 
     /// Throws for a key that is none of `known`.
     void allowOnly(std::initializer_list<const char*> known) const;
@@ -55,7 +55,7 @@ private:
 };
 
 /// A set of maps from its text; throws a ScriptError that names the text.
-host::MapSet mapsFromText(const QString& text, std::int64_t count);
+host::NumberSet mapsFromText(const QString& text, std::int64_t count);
 
 /// A JSON value as it would stand in a script, for messages.
 QString shown(const nlohmann::json& value);

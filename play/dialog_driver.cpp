@@ -135,7 +135,7 @@ QModelIndex DialogDriver::cell(std::int64_t map, int column) const
     return cells.index(static_cast<int>(map) - 1, column);
 }
 
-QModelIndexList DialogDriver::cells(const host::MapSet& maps, int column) const
+QModelIndexList DialogDriver::cells(const host::NumberSet& maps, int column) const
 {
     QModelIndexList cells;
     for (const std::uint32_t map : maps)

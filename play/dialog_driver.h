@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "host/style/map_set.h"
+#include "host/style/number_set.h"
 #include "play/script.h"
 
 #include <QAbstractItemModel>
@@ -43,7 +43,7 @@ public:
     /// A column by its header text or its number from 0.
     int column(const nlohmann::json& name) const;
     QModelIndex cell(std::int64_t map, int column) const;
-    QModelIndexList cells(const host::MapSet& maps, int column) const;
+    QModelIndexList cells(const host::NumberSet& maps, int column) const;
     bool isRelevant(const QModelIndex& cell) const;
     int editorType(int column) const;
     int editorOption(int column) const;

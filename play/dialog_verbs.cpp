@@ -66,7 +66,7 @@ static std::vector<MapRange> rangesInOrder(const QString& text, std::int64_t cou
         return count > 0 ? std::vector<MapRange> {{1, count}} : std::vector<MapRange> {};
     std::vector<MapRange> ranges;
     for (const QString& part : text.split(QLatin1Char(','))) {
-        const host::MapSet maps = mapsFromText(part.trimmed(), count);
+        const host::NumberSet maps = mapsFromText(part.trimmed(), count);
         if (maps.isEmpty())
             throw ScriptError(Text::tr("\"%1\" is no set of maps").arg(text));
         ranges.push_back({maps.minimum(), maps.maximum()});
@@ -90,7 +90,7 @@ static void select(ScriptRun& run, const Arguments& arguments)
     if (text == QLatin1String("none"))
         return clearSelection(run);
     Qt::KeyboardModifiers modifiers = Qt::NoModifier;
-    host::MapSet clicked;
+    host::NumberSet clicked;
     for (const MapRange& range : rangesInOrder(text, run.dialog().model().rowCount())) {
         const auto first = static_cast<std::uint64_t>(range.first);
         const auto end = static_cast<std::uint64_t>(range.last) + 1;

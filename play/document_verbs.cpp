@@ -117,7 +117,7 @@ static void rename(ScriptRun& run, const Arguments& arguments)
         done = document.renameVariable(arguments.integer("variable"), name);
     } else {
         const std::int64_t map = arguments.integer("lineMap");
-        host::MapSet maps;
+        host::NumberSet maps;
         if (map >= 1 && map <= run.frame().lineMapCount())
             maps.add(static_cast<std::uint32_t>(map));
         done = !maps.isEmpty() && document.setLineMapName(maps, name);
@@ -161,7 +161,7 @@ static void set(ScriptRun& run, const Arguments& arguments)
     request.path = path.names;
     request.offset1 = path.index;
     request.value = inputOf(arguments.at("value"));
-    host::MapSet maps;
+    host::NumberSet maps;
     if (arguments.has("maps")) {
         maps = arguments.maps("maps", mapsOfPath(run, path));
         request.objects = &maps;
@@ -333,7 +333,7 @@ static void event(ScriptRun& run, const Arguments& arguments)
 
 static void deleteMaps(ScriptRun& run, const Arguments& arguments)
 {
-    const host::MapSet maps = arguments.maps("deleteMaps", run.mapCount());
+    const host::NumberSet maps = arguments.maps("deleteMaps", run.mapCount());
     const bool done = run.frame().isLinePlot() ? run.document().deleteLineMaps(maps)
                                                : run.document().deleteFieldMaps(maps);
     require(done, Text::tr("these maps cannot be deleted"));

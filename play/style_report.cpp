@@ -105,7 +105,7 @@ static Json describeRow(const DialogDriver& dialog, std::int64_t map)
     return {{"map", map}, {"cells", cells}};
 }
 
-static Json describeTable(const DialogDriver& dialog, const host::MapSet& maps)
+static Json describeTable(const DialogDriver& dialog, const host::NumberSet& maps)
 {
     Json table {{"columns", Json::array()}, {"rows", Json::array()}, {"menus", Json::array()}};
     for (int column = 0; column < dialog.model().columnCount(); ++column) {
@@ -122,7 +122,7 @@ static Json describeTable(const DialogDriver& dialog, const host::MapSet& maps)
 
 QString selectedMaps(const DialogDriver& dialog)
 {
-    host::MapSet maps;
+    host::NumberSet maps;
     for (const QItemSelectionRange& range : dialog.table().selectionModel()->selection())
         maps.addRange(static_cast<std::uint64_t>(range.top()) + 1,
                       static_cast<std::uint64_t>(range.bottom()) + 2);
@@ -132,7 +132,7 @@ QString selectedMaps(const DialogDriver& dialog)
 Json styleReport(const DialogDriver& dialog, const QString& maps)
 {
     const host::Frame* frame = host::Document::instance().activeFrame();
-    const host::MapSet shownMaps = mapsFromText(maps, dialog.model().rowCount());
+    const host::NumberSet shownMaps = mapsFromText(maps, dialog.model().rowCount());
     QTabWidget& tabs = dialog.tabs();
     const int current = tabs.currentIndex();
     Json report;

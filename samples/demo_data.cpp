@@ -215,7 +215,7 @@ std::shared_ptr<DataSet> makeSignals(const std::string& title)
     return data;
 }
 
-void assign(const char* name, const host::MapSet& maps, int variable)
+void assign(const char* name, const host::NumberSet& maps, int variable)
 {
     if (maps.isEmpty())
         return;
@@ -232,7 +232,7 @@ void assignLineVariables(std::int64_t maps)
     constexpr std::int64_t kCurves = 3;
     constexpr int kAngle = 6;
     for (std::int64_t curve = 0; curve < kCurves; ++curve) {
-        host::MapSet members;
+        host::NumberSet members;
         for (std::int64_t map = curve + 1; map <= maps; map += kCurves)
             members.add(static_cast<std::uint32_t>(map));
         assign("YAxisVar", members, static_cast<int>(curve) + 2);

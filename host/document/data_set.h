@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "host/style/map_set.h"
+#include "host/style/number_set.h"
 #include "sdk/base/enums.h"
 
 #include <vtkSmartPointer.h>

@@ -186,10 +186,10 @@ bool Document::detachDataSet()
     frame.m_fieldMaps = FieldMapList();
     frame.m_fieldStyle.setCount(0);
     frame.m_lineStyle.setCount(0);
-    frame.m_activeFieldMaps = MapSet();
-    frame.m_activeLineMaps = MapSet();
-    frame.m_enabledZones = MapSet();
-    frame.m_enabledVariables = MapSet();
+    frame.m_activeFieldMaps = NumberSet();
+    frame.m_activeLineMaps = NumberSet();
+    frame.m_enabledZones = NumberSet();
+    frame.m_enabledVariables = NumberSet();
     frame.m_picks.clear();
     raiseCode(StateCode_DataSetDetached);
     return true;
@@ -205,7 +205,7 @@ void Document::perform(Change change, bool undoable)
         raise(event);
 }
 
-bool Document::enableZones(const MapSet& zones)
+bool Document::enableZones(const NumberSet& zones)
 {
     if (!m_active || !m_active->hasData()
         || (!zones.isEmpty() && !m_active->data()->hasZone(zones.maximum())) || zones.contains(0))
@@ -215,7 +215,7 @@ bool Document::enableZones(const MapSet& zones)
     return true;
 }
 
-bool Document::enableVariables(const MapSet& variables)
+bool Document::enableVariables(const NumberSet& variables)
 {
     if (!m_active || !m_active->hasData()
         || (!variables.isEmpty() && !m_active->data()->hasVariable(variables.maximum()))

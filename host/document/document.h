@@ -3,7 +3,7 @@
 
 #include "host/document/frame.h"
 #include "host/events/state_event.h"
-#include "host/style/style_value.h"
+#include "host/style/style_request.h"
 #include "host/undo/undo_history.h"
 
 #include <deque>
@@ -65,19 +65,19 @@ public:
     // Active frame. Answer false for bad numbers and without a frame.
     bool renameZone(CvlInt64 zone, const std::string& name);
     bool renameVariable(CvlInt64 variable, const std::string& name);
-    bool setLineMapName(const MapSet& maps, const std::string& name);
-    bool enableZones(const MapSet& zones); ///< the set of enabled zones; not undoable
-    bool enableVariables(const MapSet& variables); ///< not undoable
+    bool setLineMapName(const NumberSet& maps, const std::string& name);
+    bool enableZones(const NumberSet& zones); ///< the set of enabled zones; not undoable
+    bool enableVariables(const NumberSet& variables); ///< not undoable
     bool setSolutionTime(double time); ///< not undoable
     void setPicks(std::vector<Pick> picks); ///< not undoable
 
     // Maps of the active frame. `maps` must be existing maps and not empty.
     CvlInt64 createLineMaps(
         CvlInt64 count); ///< appended, active, default style; number of the first, 0 on failure
-    bool copyLineMaps(const MapSet& maps);
-    bool deleteLineMaps(const MapSet& maps);
-    bool shiftLineMaps(const MapSet& maps, bool toTop);
-    bool deleteFieldMaps(const MapSet& maps); ///< with their zones
+    bool copyLineMaps(const NumberSet& maps);
+    bool deleteLineMaps(const NumberSet& maps);
+    bool shiftLineMaps(const NumberSet& maps, bool toTop);
+    bool deleteFieldMaps(const NumberSet& maps); ///< with their zones
 
     Rgb color(int palette) const; ///< fixed palette, 0 to 63
     bool setPaletteColor(int palette, Rgb color); ///< not undoable
@@ -108,8 +108,8 @@ private:
                                    const StyleWrite& request);
     StyleWriteResult_e writeSet(Frame& frame, const Attribute& attribute,
                                 const StyleWrite& request);
-    bool areLineMaps(const MapSet& maps) const;
-    void rearrangeLineMaps(const std::vector<std::int64_t>& newToOld, MapSet active,
+    bool areLineMaps(const NumberSet& maps) const;
+    void rearrangeLineMaps(const std::vector<std::int64_t>& newToOld, NumberSet active,
                            const QString& text);
 
     StateEventSignal m_events;

@@ -40,10 +40,10 @@ public:
     /// Maps of the kind that the frame shows; 0 for other plot types.
     CvlInt64 shownMapCount() const;
 
-    const MapSet& activeFieldMaps() const { return m_activeFieldMaps; }
-    const MapSet& activeLineMaps() const { return m_activeLineMaps; }
-    const MapSet& enabledZones() const { return m_enabledZones; }
-    const MapSet& enabledVariables() const { return m_enabledVariables; }
+    const NumberSet& activeFieldMaps() const { return m_activeFieldMaps; }
+    const NumberSet& activeLineMaps() const { return m_activeLineMaps; }
+    const NumberSet& enabledZones() const { return m_enabledZones; }
+    const NumberSet& enabledVariables() const { return m_enabledVariables; }
 
     double solutionTime() const { return m_solutionTime; }
     CvlInt64 candidateZone(CvlInt64 map) const
@@ -75,10 +75,10 @@ private:
     MapTable m_fieldStyle;
     MapTable m_lineStyle;
     ValueList m_values;
-    MapSet m_activeFieldMaps;
-    MapSet m_activeLineMaps;
-    MapSet m_enabledZones;
-    MapSet m_enabledVariables;
+    NumberSet m_activeFieldMaps;
+    NumberSet m_activeLineMaps;
+    NumberSet m_enabledZones;
+    NumberSet m_enabledVariables;
     double m_solutionTime = 0.0;
     std::vector<Pick> m_picks;
 };

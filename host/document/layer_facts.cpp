@@ -62,7 +62,7 @@ LayerFacts layerFacts(const Frame& frame, const char* category)
     if (std::strcmp(category, "Lighting") == 0)
         return lightingFacts(frame);
     const bool isLines = std::strcmp(category, "Lines") == 0;
-    const MapSet& active = isLines ? frame.activeLineMaps() : frame.activeFieldMaps();
+    const NumberSet& active = isLines ? frame.activeLineMaps() : frame.activeFieldMaps();
     if (active.isEmpty())
         return {LayerGap::NoActiveMaps, active, category};
     const AttributeId show =
@@ -84,7 +84,7 @@ LayerFacts layerFacts(const Frame& frame, const char* category)
     return facts;
 }
 
-StyleWriteResult_e drawBoundaryFaces(const MapSet& maps)
+StyleWriteResult_e drawBoundaryFaces(const NumberSet& maps)
 {
     StyleWrite request;
     request.path = {"FieldMap", "Surfaces", "SurfacesToPlot"};

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "host/style/map_set.h"
+#include "host/style/number_set.h"
 #include "sdk/base/enums.h"
 #include "sdk/base/types.h"
 
@@ -23,7 +23,7 @@ enum class LayerGap {
 struct LayerFacts
 {
     LayerGap gap = LayerGap::None;
-    MapSet maps; ///< active maps that show the layer; all active maps when none does
+    NumberSet maps; ///< active maps that show the layer; all active maps when none does
     const char* category = ""; ///< that the gap is in: of lighting, that of the shade
 };
 
@@ -37,6 +37,6 @@ LayerFacts layerFacts(const Frame& frame, const char* category);
 bool drawsSurfaces(const Frame& frame, CvlInt64 map, bool orPoints);
 
 /// Makes the field maps of the active frame draw their boundary cell faces.
-StyleWriteResult_e drawBoundaryFaces(const MapSet& maps);
+StyleWriteResult_e drawBoundaryFaces(const NumberSet& maps);
 
 } // namespace corvala::host

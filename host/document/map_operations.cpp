@@ -7,7 +7,7 @@
 
 namespace corvala::host {
 
-bool Document::areLineMaps(const MapSet& maps) const
+bool Document::areLineMaps(const NumberSet& maps) const
 {
     return m_active && !maps.isEmpty() && maps.minimum() >= 1
         && static_cast<CvlInt64>(maps.maximum()) <= m_active->lineMapCount();
@@ -19,7 +19,7 @@ static const Attribute& activeLineMapsAttribute()
     return attribute;
 }
 
-void Document::rearrangeLineMaps(const std::vector<std::int64_t>& newToOld, MapSet active,
+void Document::rearrangeLineMaps(const std::vector<std::int64_t>& newToOld, NumberSet active,
                                  const QString& text)
 {
     Frame& frame = *m_active;
@@ -30,7 +30,7 @@ void Document::rearrangeLineMaps(const std::vector<std::int64_t>& newToOld, MapS
     {
         MapTable::Columns columns;
         CvlInt64 count;
-        MapSet active;
+        NumberSet active;
     };
     const State before {frame.m_lineStyle.columns(), frame.lineMapCount(), frame.m_activeLineMaps};
     const State after {table.columns(), table.count(), std::move(active)};
@@ -51,16 +51,16 @@ void Document::rearrangeLineMaps(const std::vector<std::int64_t>& newToOld, MapS
 }
 
 /// The set after the maps moved: map n is what newToOld[n - 1] was.
-static MapSet renumbered(const MapSet& set, const std::vector<std::int64_t>& newToOld)
+static NumberSet renumbered(const NumberSet& set, const std::vector<std::int64_t>& newToOld)
 {
-    MapSet result;
+    NumberSet result;
     for (std::size_t i = 0; i < newToOld.size(); ++i)
         if (newToOld[i] > 0 && set.contains(static_cast<std::uint32_t>(newToOld[i])))
             result.add(static_cast<std::uint32_t>(i + 1));
     return result;
 }
 
-static std::vector<std::int64_t> membersOf(const MapSet& set)
+static std::vector<std::int64_t> membersOf(const NumberSet& set)
 {
     std::vector<std::int64_t> members;
     members.reserve(static_cast<std::size_t>(set.cardinality()));
@@ -77,7 +77,7 @@ static std::vector<std::int64_t> numbersUpTo(CvlInt64 count)
     return numbers;
 }
 
-static QString countedText(const char* text, const MapSet& maps, Scope scope = Scope::LineMap)
+static QString countedText(const char* text, const NumberSet& maps, Scope scope = Scope::LineMap)
 {
     return undoText(text).arg(mapCountText(scope, maps.cardinality()));
 }
@@ -96,14 +96,14 @@ CvlInt64 Document::createLineMaps(CvlInt64 count)
     const CvlInt64 first = m_active->lineMapCount() + 1;
     std::vector<std::int64_t> newToOld = numbersUpTo(first - 1);
     newToOld.resize(newToOld.size() + static_cast<std::size_t>(count), 0);
-    MapSet created;
+    NumberSet created;
     created.addRange(static_cast<std::uint64_t>(first), static_cast<std::uint64_t>(first + count));
     rearrangeLineMaps(newToOld, m_active->m_activeLineMaps | created,
                       countedText(QT_TRANSLATE_NOOP("UndoTexts", "Create %1"), created));
     return first;
 }
 
-bool Document::copyLineMaps(const MapSet& maps)
+bool Document::copyLineMaps(const NumberSet& maps)
 {
     if (!areLineMaps(maps) || !hasRoomFor(*m_active, static_cast<CvlInt64>(maps.cardinality())))
         return false;
@@ -115,18 +115,18 @@ bool Document::copyLineMaps(const MapSet& maps)
     return true;
 }
 
-bool Document::deleteLineMaps(const MapSet& maps)
+bool Document::deleteLineMaps(const NumberSet& maps)
 {
     if (!areLineMaps(maps))
         return false;
-    const MapSet kept = allUpTo(m_active->lineMapCount()) - maps;
+    const NumberSet kept = allUpTo(m_active->lineMapCount()) - maps;
     const std::vector<std::int64_t> newToOld = membersOf(kept);
     rearrangeLineMaps(newToOld, renumbered(m_active->m_activeLineMaps, newToOld),
                       countedText(QT_TRANSLATE_NOOP("UndoTexts", "Delete %1"), maps));
     return true;
 }
 
-bool Document::shiftLineMaps(const MapSet& maps, bool toTop)
+bool Document::shiftLineMaps(const NumberSet& maps, bool toTop)
 {
     if (!areLineMaps(maps))
         return false;
@@ -146,7 +146,7 @@ bool Document::shiftLineMaps(const MapSet& maps, bool toTop)
 
 /// The zones, ascending, whose field maps are in the set.
 static std::vector<std::int64_t> zonesOf(const FieldMapList& fieldMaps, std::int64_t zoneCount,
-                                         const MapSet& maps)
+                                         const NumberSet& maps)
 {
     std::vector<std::int64_t> zones;
     for (std::int64_t zone = 1; zone <= zoneCount; ++zone)
@@ -180,13 +180,13 @@ static MapTable::Columns withZoneNumbers(MapTable lineStyle,
     return lineStyle.columns();
 }
 
-bool Document::deleteFieldMaps(const MapSet& maps)
+bool Document::deleteFieldMaps(const NumberSet& maps)
 {
     if (!m_active || !m_active->hasData() || maps.isEmpty() || maps.minimum() < 1
         || static_cast<CvlInt64>(maps.maximum()) > m_active->fieldMapCount())
         return false;
     Frame& frame = *m_active;
-    const MapSet kept = allUpTo(frame.fieldMapCount()) - maps;
+    const NumberSet kept = allUpTo(frame.fieldMapCount()) - maps;
     const std::vector<std::int64_t> newToOld = membersOf(kept);
     const std::vector<std::int64_t> keptZones =
         zonesOf(frame.m_fieldMaps, frame.m_data->zoneCount(), kept);
@@ -200,8 +200,8 @@ bool Document::deleteFieldMaps(const MapSet& maps)
         FieldMapList fieldMaps;
         MapTable::Columns columns;
         MapTable::Columns lineColumns;
-        MapSet active;
-        MapSet enabledZones;
+        NumberSet active;
+        NumberSet enabledZones;
     };
     const auto before = std::make_shared<const State>(
         State {frame.m_data, frame.m_fieldMaps, frame.m_fieldStyle.columns(),
@@ -274,7 +274,7 @@ bool Document::renameVariable(CvlInt64 variable, const std::string& name)
     return true;
 }
 
-bool Document::setLineMapName(const MapSet& maps, const std::string& name)
+bool Document::setLineMapName(const NumberSet& maps, const std::string& name)
 {
     if (!areLineMaps(maps) || !isText(name))
         return false;

@@ -75,7 +75,7 @@ StyleWriteResult_e convertValue(const Attribute& attribute, const StyleInput& in
 {
     if (const auto* text = std::get_if<std::string>(&input))
         return attribute.isText() ? convertText(attribute, *text, result) : StyleWrite_WrongType;
-    if (attribute.isText() || std::holds_alternative<MapSet>(input))
+    if (attribute.isText() || std::holds_alternative<NumberSet>(input))
         return StyleWrite_WrongType;
     const double number = std::holds_alternative<bool>(input) ? (std::get<bool>(input) ? 1.0 : 0.0)
                                                               : std::get<double>(input);

@@ -35,14 +35,14 @@ struct ColumnChange
     std::vector<MapTable::ChunkChange> chunks;
 };
 
-ColumnChange planColumn(const MapTable& table, const Attribute& attribute, const MapSet& maps,
+ColumnChange planColumn(const MapTable& table, const Attribute& attribute, const NumberSet& maps,
                         const ValueList::Value& value)
 {
     return {attribute.id,
             std::visit([&](const auto& v) { return table.plan(attribute, maps, v); }, value)};
 }
 
-bool areExisting(const MapSet& numbers, CvlInt64 count)
+bool areExisting(const NumberSet& numbers, CvlInt64 count)
 {
     return !numbers.isEmpty() && numbers.minimum() >= 1
         && static_cast<CvlInt64>(numbers.maximum()) <= count;
@@ -54,7 +54,7 @@ StyleWriteResult_e Document::write(const StyleWrite& request)
 {
     constexpr std::size_t kKept = 1000;
     const StyleWriteResult_e result = writeNow(request);
-    m_writeRecords.push_back({request.path, request.objects ? *request.objects : MapSet(),
+    m_writeRecords.push_back({request.path, request.objects ? *request.objects : NumberSet(),
                               request.offset1, request.offset2, request.op, request.value, result});
     if (m_writeRecords.size() > kKept)
         m_writeRecords.pop_front();
@@ -108,7 +108,7 @@ StyleWriteResult_e Document::writeToMaps(Frame& frame, const Attribute& attribut
         result != StyleWrite_Ok)
         return result;
 
-    const MapSet& maps = *request.objects;
+    const NumberSet& maps = *request.objects;
     std::vector<ColumnChange> columns {planColumn(table, attribute, maps, value)};
     if (const Follower follower = followerOf(attribute, value); follower.attribute >= 0)
         columns.push_back(planColumn(table, Schema::instance().at(follower.attribute), maps,
@@ -172,7 +172,7 @@ StyleWriteResult_e Document::writeToList(Frame* frame, const Attribute& attribut
 StyleWriteResult_e Document::writeSet(Frame& frame, const Attribute& attribute,
                                       const StyleWrite& request)
 {
-    const auto* const given = std::get_if<MapSet>(&request.value);
+    const auto* const given = std::get_if<NumberSet>(&request.value);
     if (!given)
         return StyleWrite_WrongType;
     const bool isZones = attribute.names.front() == "ActiveFieldZones";
@@ -187,15 +187,15 @@ StyleWriteResult_e Document::writeSet(Frame& frame, const Attribute& attribute,
     if (!areExisting(*given, count) && !(assigns && given->isEmpty()))
         return StyleWrite_BadObjects;
 
-    MapSet operand = *given;
+    NumberSet operand = *given;
     if (isZones) {
-        operand = MapSet();
+        operand = NumberSet();
         for (const std::uint32_t zone : *given)
             operand.add(static_cast<std::uint32_t>(frame.fieldMaps().mapOfZone(zone)));
     }
-    MapSet& active = isLines ? frame.m_activeLineMaps : frame.m_activeFieldMaps;
-    const MapSet before = active;
-    const MapSet after = assigns                        ? operand
+    NumberSet& active = isLines ? frame.m_activeLineMaps : frame.m_activeFieldMaps;
+    const NumberSet before = active;
+    const NumberSet after = assigns                     ? operand
         : request.op == static_cast<int>(AssignOp::Add) ? before | operand
                                                         : before - operand;
     if (after == before)

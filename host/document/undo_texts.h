@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/style/schema.h"
-#include "host/style/style_value.h"
+#include "host/style/style_request.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "host/style/map_set.h"
+#include "host/style/number_set.h"
 #include "host/style/schema.h"
 #include "sdk/base/enums.h"
 #include "sdk/base/types.h"
@@ -17,7 +17,7 @@ namespace corvala::host {
 struct StyleChange
 {
     AttributeId attribute = kNoAttribute;
-    MapSet maps;
+    NumberSet maps;
 };
 
 /// A change of the document, announced after it is visible.

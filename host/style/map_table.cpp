@@ -140,8 +140,8 @@ MapTable::ChunkPointer MapTable::chunkWith(const Attribute& attribute, MapRange 
 }
 
 template<class T>
-std::vector<MapTable::ChunkChange> MapTable::planAs(const Attribute& attribute, const MapSet& maps,
-                                                    const T& newValue) const
+std::vector<MapTable::ChunkChange> MapTable::planAs(const Attribute& attribute,
+                                                    const NumberSet& maps, const T& newValue) const
 {
     std::vector<ChunkChange> changes;
     std::vector<std::uint32_t> members(static_cast<std::size_t>(maps.cardinality()));
@@ -173,19 +173,19 @@ std::vector<MapTable::ChunkChange> MapTable::planAs(const Attribute& attribute, 
     return changes;
 }
 
-std::vector<MapTable::ChunkChange> MapTable::plan(const Attribute& attribute, const MapSet& maps,
+std::vector<MapTable::ChunkChange> MapTable::plan(const Attribute& attribute, const NumberSet& maps,
                                                   std::int32_t newValue) const
 {
     return planAs(attribute, maps, newValue);
 }
 
-std::vector<MapTable::ChunkChange> MapTable::plan(const Attribute& attribute, const MapSet& maps,
+std::vector<MapTable::ChunkChange> MapTable::plan(const Attribute& attribute, const NumberSet& maps,
                                                   double newValue) const
 {
     return planAs(attribute, maps, newValue);
 }
 
-std::vector<MapTable::ChunkChange> MapTable::plan(const Attribute& attribute, const MapSet& maps,
+std::vector<MapTable::ChunkChange> MapTable::plan(const Attribute& attribute, const NumberSet& maps,
                                                   const std::string& newValue) const
 {
     return planAs(attribute, maps, newValue);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "host/style/map_set.h"
+#include "host/style/number_set.h"
 #include "host/style/schema.h"
 
 #include <array>
@@ -45,11 +45,11 @@ public:
 
     /// Gives every map of the set the value and returns the changed chunks, not yet applied; empty
     /// when all maps have the value already.
-    std::vector<ChunkChange> plan(const Attribute& attribute, const MapSet& maps,
+    std::vector<ChunkChange> plan(const Attribute& attribute, const NumberSet& maps,
                                   std::int32_t value) const;
-    std::vector<ChunkChange> plan(const Attribute& attribute, const MapSet& maps,
+    std::vector<ChunkChange> plan(const Attribute& attribute, const NumberSet& maps,
                                   double value) const;
-    std::vector<ChunkChange> plan(const Attribute& attribute, const MapSet& maps,
+    std::vector<ChunkChange> plan(const Attribute& attribute, const NumberSet& maps,
                                   const std::string& value) const;
     void apply(const Attribute& attribute, const std::vector<ChunkChange>& changes, bool forward);
 
@@ -81,7 +81,7 @@ private:
     ChunkPointer chunkWith(const Attribute& attribute, MapRange range, const std::uint32_t* begin,
                            const std::uint32_t* end, const T& value) const;
     template<class T>
-    std::vector<ChunkChange> planAs(const Attribute& attribute, const MapSet& maps,
+    std::vector<ChunkChange> planAs(const Attribute& attribute, const NumberSet& maps,
                                     const T& value) const;
     template<class T>
     void rearrangeAs(const Attribute& attribute, const std::vector<std::int64_t>& newToOld,

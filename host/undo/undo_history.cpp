@@ -98,7 +98,7 @@ static void addEvent(std::vector<StateEvent>& events, const StateEvent& event)
     if (renumbersMaps(event)) // numbers from before mean other maps, and all are announced anyway
         for (StateEvent& earlier : events)
             for (StyleChange& change : earlier.styleChanges)
-                change.maps = MapSet();
+                change.maps = NumberSet();
     const auto known = std::find_if(events.begin(), events.end(), [&](const StateEvent& other) {
         return other.code == event.code && other.frame == event.frame
             && other.parameters == event.parameters;

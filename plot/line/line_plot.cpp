@@ -66,7 +66,7 @@ void LinePlot::rebuild()
     m_refused = {};
     m_cancelled = {};
     m_synced = 0;
-    m_stale = m_staleData = drawn ? drawn->activeLineMaps() : host::MapSet();
+    m_stale = m_staleData = drawn ? drawn->activeLineMaps() : host::NumberSet();
     setFrameHeight(m_height);
 }
 
@@ -79,7 +79,7 @@ void LinePlot::setFrameHeight(int height)
     pend(m_shown);
 }
 
-void LinePlot::pend(const host::MapSet& maps)
+void LinePlot::pend(const host::NumberSet& maps)
 {
     if (m_stale.isEmpty())
         m_synced = 0;
@@ -125,7 +125,7 @@ bool LinePlot::applyStyle(const host::StateEvent& event)
         const host::Attribute& attribute = host::Schema::instance().at(change.attribute);
         const std::string& group = attribute.names.front();
         if (group == "LinePlotLayers" && attribute.names[1] == "ShowLines") {
-            pend(drawn ? drawn->activeLineMaps() | m_shown : host::MapSet());
+            pend(drawn ? drawn->activeLineMaps() | m_shown : host::NumberSet());
             changed = true;
         } else if (group == "ActiveLineMaps"
                    || (group == "LineMap"
@@ -193,7 +193,7 @@ bool LinePlot::advance(int milliseconds)
     QElapsedTimer clock;
     clock.start();
     const auto isOver = [&] { return milliseconds >= 0 && clock.elapsed() >= milliseconds; };
-    m_stale &= drawn ? host::allUpTo(drawn->lineMapCount()) : host::MapSet();
+    m_stale &= drawn ? host::allUpTo(drawn->lineMapCount()) : host::NumberSet();
     if (m_stale.isEmpty()) {
         m_chart->ink().advance(milliseconds);
         return hasWork();

@@ -61,7 +61,7 @@ private:
     void sync(const host::Frame& frame, CvlInt64 map);
     void updateTitles(const host::Frame& frame);
     LineLook lookOf(const host::Frame& frame, CvlInt64 map) const;
-    void pend(const host::MapSet& maps);
+    void pend(const host::NumberSet& maps);
 
     QCustomPlot& m_plot;
     std::unique_ptr<LineChart> m_chart;
@@ -69,11 +69,11 @@ private:
     PlotType_e m_plotType = PlotType_None;
     bool m_isFitted = true;
     int m_height = 1;
-    host::MapSet m_stale; ///< maps to look at again
-    host::MapSet m_staleData; ///< those whose points may differ
-    host::MapSet m_shown;
-    host::MapSet m_refused; ///< active, but beyond the largest plot
-    host::MapSet m_cancelled; ///< to look at when work is resumed
+    host::NumberSet m_stale; ///< maps to look at again
+    host::NumberSet m_staleData; ///< those whose points may differ
+    host::NumberSet m_shown;
+    host::NumberSet m_refused; ///< active, but beyond the largest plot
+    host::NumberSet m_cancelled; ///< to look at when work is resumed
     CvlInt64 m_synced = 0; ///< lines brought up to date since there was none to look at
     int m_patience = 60;
     std::int64_t m_syncs = 0;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "host/style/map_set.h"
+#include "host/style/number_set.h"
 
 /// What a set handle points to.
 struct CvlSetRecord
 {
-    corvala::host::MapSet members;
+    corvala::host::NumberSet members;
 };

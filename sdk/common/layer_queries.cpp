@@ -70,7 +70,7 @@ bool queryToEnableSurfacePlotLayer(const std::string& layer)
     const Frame* const frame = Document::instance().activeFrame();
     if (!name || !frame || frame->activeFieldMaps().isEmpty())
         return false;
-    const host::MapSet active = frame->activeFieldMaps(); // the frame may go meanwhile
+    const host::NumberSet active = frame->activeFieldMaps(); // the frame may go meanwhile
     const bool wanted = ui::askYesNo(
         text(QT_TRANSLATE_NOOP("LayerQueries", "Show Surfaces")),
         text(QT_TRANSLATE_NOOP("LayerQueries",

@@ -25,7 +25,7 @@ static QString text(const char* source)
 }
 
 /// Variables that the line maps draw; numbers that are no line map are skipped.
-static std::set<int> drawnVariables(const Frame& frame, const host::MapSet& maps)
+static std::set<int> drawnVariables(const Frame& frame, const host::NumberSet& maps)
 {
     const host::Schema& schema = host::Schema::instance();
     const bool isPolar = frame.plotType() == PlotType_LinePolar;
@@ -54,7 +54,7 @@ static bool hasPointValues(const DataSet& data, CvlInt64 zone, int variable)
 }
 
 static QStringList variablesWithoutPointValues(const Frame& frame, CvlInt64 zone,
-                                               const host::MapSet& maps)
+                                               const host::NumberSet& maps)
 {
     QStringList names;
     for (const int variable : drawnVariables(frame, maps)) {
@@ -65,7 +65,7 @@ static QStringList variablesWithoutPointValues(const Frame& frame, CvlInt64 zone
 }
 
 /// What speaks against the zone, one sentence each.
-static QStringList objections(const Frame& frame, CvlInt64 zone, const host::MapSet& maps)
+static QStringList objections(const Frame& frame, CvlInt64 zone, const host::NumberSet& maps)
 {
     QStringList found;
     if (!frame.data()->zone(zone).ordered)
@@ -86,8 +86,8 @@ bool confirmLineMapZoneSelection(CvlInt64 zone, const toolbox::Set& lineMaps)
     const Frame* const frame = Document::instance().activeFrame();
     if (!frame || !frame->hasData() || !frame->data()->hasZone(zone))
         return true; // the write itself refuses the number
-    const QStringList found =
-        objections(*frame, zone, lineMaps.handle() ? lineMaps.handle()->members : host::MapSet());
+    const QStringList found = objections(
+        *frame, zone, lineMaps.handle() ? lineMaps.handle()->members : host::NumberSet());
     return found.isEmpty()
         || ui::askYesNo(
                text(QT_TRANSLATE_NOOP("LineMapZone", "Zone")),

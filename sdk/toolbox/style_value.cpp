@@ -104,12 +104,12 @@ double numberAt(const Attribute& attribute, const Place& place)
 }
 
 /// Zones of the active field maps; every zone belongs to one map.
-host::MapSet activeZones(const host::Frame& frame)
+host::NumberSet activeZones(const host::Frame& frame)
 {
-    const host::MapSet& maps = frame.activeFieldMaps();
+    const host::NumberSet& maps = frame.activeFieldMaps();
     if (frame.hasData() && static_cast<CvlInt64>(maps.cardinality()) == frame.fieldMapCount())
         return host::allUpTo(frame.data()->zoneCount());
-    host::MapSet zones;
+    host::NumberSet zones;
     for (const std::uint32_t map : maps)
         for (const std::int64_t zone : frame.fieldMaps().zones(map))
             zones.add(static_cast<std::uint32_t>(zone));
@@ -232,7 +232,7 @@ static StyleWriteResult_e write(host::StyleInput value, const ArgList& address,
     if (!allKnown && unresolved.size() == request.path.size())
         request.path = unresolved; // the names as typed, for the record
     const auto* const objects = address.get<Set>(kObjectsKey);
-    static const host::MapSet kNone;
+    static const host::NumberSet kNone;
     if (objects)
         request.objects = objects->handle() ? &objects->handle()->members : &kNone;
     request.offset1 = numberOr(address, kOffset1Key, -1);
@@ -259,7 +259,8 @@ StyleWriteResult_e StyleValue::setFinalValue(const std::string& value, const Arg
 
 StyleWriteResult_e StyleValue::setFinalValue(const Set& value, const ArgList& address)
 {
-    return write(value.handle() ? value.handle()->members : host::MapSet(), address, m_unresolved);
+    return write(value.handle() ? value.handle()->members : host::NumberSet(), address,
+                 m_unresolved);
 }
 
 } // namespace corvala::toolbox

@@ -157,7 +157,7 @@ void tst_MainWindow::layersAndPlotTypeChangeTheDocument()
     QCOMPARE(frame().plotType(), PlotType_Field2D);
 }
 
-static void write(std::vector<std::string> path, const host::MapSet* maps, host::StyleInput value,
+static void write(std::vector<std::string> path, const host::NumberSet* maps, host::StyleInput value,
                   int group = -1)
 {
     host::StyleWrite request;
@@ -175,16 +175,16 @@ void tst_MainWindow::layersThatShowNothingSayWhy()
     QTRY_VERIFY_WITH_TIMEOUT(button("Draw Surfaces"), 60000);
     m_window->openDemo(QStringLiteral("field3d"));
     play::waitUntilIdle();
-    host::MapSet flat;
+    host::NumberSet flat;
     for (const std::uint32_t map : frame().activeFieldMaps())
         if (!frame().fieldMaps().hasVolumeZones(map))
             flat.add(map);
     QVERIFY(Document::instance().deleteFieldMaps(flat));
-    const host::MapSet maps = frame().activeFieldMaps();
+    const host::NumberSet maps = frame().activeFieldMaps();
     for (int group = 1; group <= 8; ++group)
         write({"ContourGroups", "Var"}, nullptr, 0.0, group);
     write({"FieldMap", "Contour", "Show"}, &maps, false);
-    write({"ActiveFieldMaps"}, nullptr, host::MapSet());
+    write({"ActiveFieldMaps"}, nullptr, host::NumberSet());
     layer("ShowContour").trigger();
     for (const auto& [text, caption] : {std::pair("No zone is active", "Activate All Zones"),
                                         std::pair("no active zone shows it", "Show in All Zones"),

@@ -46,7 +46,7 @@ inline StyleWriteResult_e writeStyle(const std::vector<std::string>& path, const
                                      CvlInt64 index = -1)
 {
     using namespace corvala::host;
-    MapSet set;
+    NumberSet set;
     fromText(maps.empty() ? "none" : maps, 1000000, set);
     StyleWrite request;
     request.path = path;

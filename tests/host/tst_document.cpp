@@ -138,7 +138,7 @@ void tst_Document::deletedFieldMapsComeBack()
 {
     open("transient");
     writeStyle({"FieldMap", "Group"}, "3", 5.0);
-    MapSet strand;
+    NumberSet strand;
     strand.add(2);
     EventLog log;
     QVERIFY(Document::instance().deleteFieldMaps(strand));
@@ -164,7 +164,7 @@ void tst_Document::keepsStyleAsDefaultsMove()
         Schema::instance().find({"FieldMap", "Surfaces", "SurfacesToPlot"});
     const Frame& frame = *Document::instance().activeFrame();
     writeStyle({"FieldMap", "Surfaces", "SurfacesToPlot"}, "2", double(SurfacesToPlot_None));
-    const MapSet others = allUpTo(frame.fieldMapCount()) - (allUpTo(2) - allUpTo(1));
+    const NumberSet others = allUpTo(frame.fieldMapCount()) - (allUpTo(2) - allUpTo(1));
     QVERIFY(Document::instance().deleteFieldMaps(others));
     QCOMPARE(frame.fieldInteger(surfaces, 1), int(SurfacesToPlot_None));
 }
@@ -174,7 +174,7 @@ void tst_Document::lineMapsKeepTheirZones()
     open("xy", 3);
     for (int map = 1; map <= 3; ++map)
         writeStyle({"LineMap", "Assign", "Zone"}, std::to_string(map), 5.0 - map); // 4, 3, 2
-    MapSet third;
+    NumberSet third;
     third.add(3);
     QVERIFY(Document::instance().deleteFieldMaps(third));
     const Frame& frame = *Document::instance().activeFrame();

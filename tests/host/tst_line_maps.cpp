@@ -25,9 +25,9 @@ private Q_SLOTS:
 private:
     static QString name(CvlInt64 map);
     static QString rawNames();
-    static MapSet set(const char* text)
+    static NumberSet set(const char* text)
     {
-        MapSet members;
+        NumberSet members;
         fromText(text, 1000, members);
         return members;
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "host/style/map_set.h"
 #include "host/style/map_table.h"
+#include "host/style/number_set.h"
 #include "host/style/schema.h"
 
 #include <QtTest>
@@ -134,7 +134,7 @@ void tst_StyleTable::readsSetTexts()
 {
     QFETCH(QString, text);
     QFETCH(QString, shortest);
-    MapSet set = allUpTo(2);
+    NumberSet set = allUpTo(2);
     const bool ok = fromText(text.toStdString(), 9, set);
     QCOMPARE(ok, !shortest.isEmpty());
     if (ok)
@@ -158,7 +158,7 @@ void tst_StyleTable::behavesLikePlainVectors()
     std::vector<std::string> characters(kMaps, "A");
 
     for (int round = 0; round < 60; ++round) {
-        MapSet maps;
+        NumberSet maps;
         const auto first = static_cast<std::uint32_t>(1 + random() % kMaps);
         const auto last =
             std::min<std::uint32_t>(kMaps, first + static_cast<std::uint32_t>(random() % 2500));

@@ -89,7 +89,7 @@ void tst_StyleWrites::answers_data()
     const Path character {"FieldMap", "Scatter", "SymbolShape", "ASCIIShape", "ASCIIChar"};
     const Path group {"ContourGroups", "Var"};
     const Path active {"ActiveFieldMaps"};
-    const MapSet two = allUpTo(2);
+    const NumberSet two = allUpTo(2);
 
     QTest::addColumn<WriteCase>("c");
     const auto row = [](const char* name) -> QTestData& { return QTest::newRow(name); };
@@ -135,7 +135,7 @@ void tst_StyleWrites::answers_data()
     row("set for a set") << WriteCase {active, "", two, StyleWrite_Ok, 2};
     row("number for a set") << WriteCase {active, "", 1.0, StyleWrite_WrongType, 1};
     row("unknown set operator") << WriteCase {active, "", two, StyleWrite_BadOperator, 3};
-    row("empty set to add") << WriteCase {active, "", MapSet(), StyleWrite_BadObjects, 1};
+    row("empty set to add") << WriteCase {active, "", NumberSet(), StyleWrite_BadObjects, 1};
     row("active already") << WriteCase {active, "", two, StyleWrite_Unchanged, 1};
     row("a member too many") << WriteCase {active, "", allUpTo(13), StyleWrite_BadObjects, 2};
 }
@@ -205,14 +205,14 @@ void tst_StyleWrites::surfacesDefaultDependsOnTheZone()
 void tst_StyleWrites::activeSets()
 {
     const Frame& frame = *Document::instance().activeFrame();
-    MapSet set;
+    NumberSet set;
     fromText("2-4", 12, set);
     EventLog log;
     QCOMPARE(writeStyle({"ActiveFieldMaps"}, "", set, 2), StyleWrite_Ok);
     QCOMPARE(log.take(), QStringLiteral("7:ActiveFieldMaps"));
     QCOMPARE(QString::fromStdString(toText(frame.activeFieldMaps(), 12)), QStringLiteral("1,5-12"));
     QCOMPARE(Document::instance().undo().undoText(), QStringLiteral("Deactivate 3 field maps"));
-    QCOMPARE(writeStyle({"ActiveFieldMaps"}, "", MapSet()), StyleWrite_Ok);
+    QCOMPARE(writeStyle({"ActiveFieldMaps"}, "", NumberSet()), StyleWrite_Ok);
     QVERIFY(frame.activeFieldMaps().isEmpty());
     Document::instance().undo().undo();
     Document::instance().undo().undo();
@@ -223,7 +223,7 @@ void tst_StyleWrites::zoneViewOfActiveMaps()
 {
     std::string error;
     QVERIFY(samples::openDemo("transient", 0, error));
-    MapSet zones;
+    NumberSet zones;
     zones.add(3); // of strand 1, field map 2
     EventLog log;
     QCOMPARE(writeStyle({"ActiveFieldZones"}, "", zones, 2), StyleWrite_Ok);

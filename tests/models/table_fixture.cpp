@@ -33,7 +33,7 @@ static std::vector<std::string> names(const QString& path)
 
 bool setStyle(const QString& path, const std::string& maps, double value, CvlInt64 index)
 {
-    host::MapSet set;
+    host::NumberSet set;
     host::StyleWrite request;
     request.path = names(path);
     if (!maps.empty() && host::fromText(maps, 1000000, set))
@@ -53,7 +53,7 @@ static QString valueText(const host::StyleInput& value)
         return *isOn ? "true" : "false";
     if (const auto* text = std::get_if<std::string>(&value))
         return '"' + QString::fromStdString(*text) + '"';
-    return QString::fromStdString(host::toText(std::get<host::MapSet>(value), 0));
+    return QString::fromStdString(host::toText(std::get<host::NumberSet>(value), 0));
 }
 
 static QString writeText(const host::StyleWriteRecord& record)

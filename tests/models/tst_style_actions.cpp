@@ -265,7 +265,7 @@ void tst_StyleActions::asksOverTheDialog()
 void tst_StyleActions::selectsAVariable()
 {
     QVERIFY(openDemo("xy"));
-    corvala::host::MapSet enabled = corvala::host::allUpTo(7);
+    corvala::host::NumberSet enabled = corvala::host::allUpTo(7);
     enabled.remove(2);
     QVERIFY(Document::instance().enableVariables(enabled));
     QVERIFY(setStyle("LineMap.Assign.XAxisVar", "3", 4));

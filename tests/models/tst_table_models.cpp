@@ -560,7 +560,7 @@ void tst_TableModels::confirmZonesForTheEditedMaps()
 void tst_TableModels::listEnabledOnly()
 {
     open("xy");
-    corvala::host::MapSet some = corvala::host::allUpTo(4);
+    corvala::host::NumberSet some = corvala::host::allUpTo(4);
     some.remove(1);
     QVERIFY(Document::instance().enableZones(some) && Document::instance().enableVariables(some));
     const QModelIndex zone = m_model->index(0, columnOf("Zone"));

@@ -111,7 +111,7 @@ static QString cellDifference(const Frame& frame, const QModelIndex& cell, const
     const bool isShowColumn =
         header == QLatin1String("Show\nZone") || header == QLatin1String("Show\nMap");
     if (isShowColumn) {
-        const host::MapSet& active =
+        const host::NumberSet& active =
             frame.isLinePlot() ? frame.activeLineMaps() : frame.activeFieldMaps();
         return report(seen(cell, Kind::Check),
                       storedCheck(active.contains(static_cast<std::uint32_t>(map))));

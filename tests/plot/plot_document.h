@@ -24,9 +24,9 @@ inline void openDemo(const char* name, std::int64_t scale = 0)
         throw std::runtime_error(error);
 }
 
-inline host::MapSet mapsOf(const char* text)
+inline host::NumberSet mapsOf(const char* text)
 {
-    host::MapSet set;
+    host::NumberSet set;
     if (!host::fromText(text, document().activeFrame()->shownMapCount(), set))
         throw std::runtime_error(text);
     return set;
@@ -39,7 +39,7 @@ inline void write(const char* path, const char* maps, double value, std::int64_t
     host::StyleWrite request;
     for (const QString& name : QString::fromUtf8(path).split(QLatin1Char('/')))
         request.path.push_back(name.toStdString());
-    host::MapSet set;
+    host::NumberSet set;
     if (*maps != '\0') {
         set = mapsOf(maps);
         request.objects = &set;

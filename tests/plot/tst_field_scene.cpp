@@ -287,7 +287,7 @@ void tst_FieldScene::activeMapsOnly()
     activate("3", true);
     work();
     QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 9);
-    host::MapSet zones = host::allUpTo(12);
+    host::NumberSet zones = host::allUpTo(12);
     zones.remove(1);
     document().enableZones(zones);
     work();

@@ -58,7 +58,7 @@ void openCellData()
     Document::instance().attachDataSet(data, PlotType_LineXY, 3);
     for (const int map : {1, 2, 3}) {
         host::StyleWrite request;
-        const host::MapSet one = host::MapSet::bitmapOf(1, map);
+        const host::NumberSet one = host::NumberSet::bitmapOf(1, map);
         request.path = {"LineMap", "Assign", "YAxisVar"};
         request.objects = &one;
         request.value = map + 1.0;
@@ -133,7 +133,7 @@ void tst_Common::activeZonesFollowTheirMaps()
     open("transient");
     QCOMPARE(sdk::getActiveZones().count(), CvlInt64(7));
     host::StyleWrite request;
-    host::MapSet strand;
+    host::NumberSet strand;
     strand.add(2);
     request.path = {"ActiveFieldMaps"};
     request.value = strand;

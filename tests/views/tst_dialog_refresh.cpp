@@ -204,7 +204,7 @@ void tst_DialogRefresh::survivesAnEditorWhoseRowIsGone()
     auto* editor = fixture.table().viewport()->findChild<QLineEdit*>();
     QVERIFY(editor);
     QTest::keyClicks(editor, "7");
-    host::MapSet last;
+    host::NumberSet last;
     last.add(12);
     QVERIFY(host::Document::instance().deleteFieldMaps(last));
     runUntilIdle();

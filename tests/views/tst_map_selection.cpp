@@ -17,9 +17,9 @@ constexpr const char* kApply = "mapSelectionByPattern_apply_button";
 constexpr const char* kGroups = "mapSelectionByPattern_groups_button";
 constexpr const char* kClear = "mapSelectionByPattern_clear_button";
 
-host::MapSet maps(const std::string& text)
+host::NumberSet maps(const std::string& text)
 {
-    host::MapSet set;
+    host::NumberSet set;
     host::fromText(text, 0, set);
     return set;
 }

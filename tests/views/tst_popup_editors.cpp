@@ -59,7 +59,7 @@ void tst_PopupEditors::closesWithoutAnEditWhenItsMapsChange()
     fixture.select({2, 11, 12});
     PopupResponder popups([](QWidget& popup) {
         popup.findChild<QLineEdit*>()->setText("6");
-        host::MapSet last;
+        host::NumberSet last;
         last.add(12);
         host::Document::instance().deleteFieldMaps(last);
         QVERIFY(!popup.isVisible());

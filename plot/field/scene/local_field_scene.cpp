@@ -167,20 +167,20 @@ void LocalFieldScene::updateVisibility(const host::Frame& drawn)
         const bool isOn = isLayerOn(drawn, static_cast<FieldLayer>(i));
         m_layers[i]->setVisible(isOn);
         if (isOn && !m_stale[i].isEmpty()) {
-            const host::MapSet stale = std::exchange(m_stale[i], {});
+            const host::NumberSet stale = std::exchange(m_stale[i], {});
             pend(maskOf(static_cast<FieldLayer>(i)), stale);
         }
     }
 }
 
-void LocalFieldScene::pend(LayerMask layers, const host::MapSet& maps)
+void LocalFieldScene::pend(LayerMask layers, const host::NumberSet& maps)
 {
     const host::Frame* const drawn = frame();
     if (!drawn || maps.isEmpty())
         return;
     if (!hasWork())
         m_done = m_total = 0;
-    const host::MapSet relevant = maps & (m_shown | drawn->activeFieldMaps());
+    const host::NumberSet relevant = maps & (m_shown | drawn->activeFieldMaps());
     for (std::size_t i = 0; i < m_pending.size(); ++i) {
         if (!(layers & (1U << i)))
             continue;
@@ -196,7 +196,7 @@ void LocalFieldScene::pend(LayerMask layers, const host::MapSet& maps)
 
 void LocalFieldScene::pendTransient(const host::Frame& drawn)
 {
-    host::MapSet transient;
+    host::NumberSet transient;
     for (const std::uint32_t map : drawn.activeFieldMaps())
         if (drawn.fieldMaps().strand(map) > 0)
             transient.add(map);
@@ -206,7 +206,7 @@ void LocalFieldScene::pendTransient(const host::Frame& drawn)
 bool LocalFieldScene::hasWork() const
 {
     return std::any_of(m_pending.begin(), m_pending.end(),
-                       [](const host::MapSet& maps) { return !maps.isEmpty(); });
+                       [](const host::NumberSet& maps) { return !maps.isEmpty(); });
 }
 
 void LocalFieldScene::cancel()
@@ -323,7 +323,7 @@ bool LocalFieldScene::takePiece(const host::Frame& drawn, int milliseconds)
 
 void LocalFieldScene::workOnValues(const host::Frame& drawn)
 {
-    host::MapSet& pending = m_pending[kGroupStage];
+    host::NumberSet& pending = m_pending[kGroupStage];
     const std::uint32_t map = pending.minimum();
     const std::optional<ShownMap> current = shown(drawn, map);
     if (current && handOverValues(drawn, *current))
@@ -567,8 +567,8 @@ QString LocalFieldScene::notice() const
         const CvlInt64 all = shownCount + static_cast<CvlInt64>(m_refused.cardinality());
         return tr("Drawing %L1 of %L2 active maps").arg(shownCount).arg(all);
     }
-    host::MapSet missing;
-    for (const host::MapSet& maps : m_cancelled)
+    host::NumberSet missing;
+    for (const host::NumberSet& maps : m_cancelled)
         missing |= maps;
     return missing.isEmpty() ? QString()
                              : tr("Drawing was cancelled: %Ln map(s) missing", nullptr,

@@ -56,7 +56,7 @@ private:
     void rebuild();
     bool applyStyle(const host::StateEvent& event);
     bool applyStyleChange(const host::Frame& frame, const host::StyleChange& change);
-    void pend(LayerMask layers, const host::MapSet& maps);
+    void pend(LayerMask layers, const host::NumberSet& maps);
     void pendTransient(const host::Frame& frame);
     void updateVisibility(const host::Frame& frame);
 
@@ -105,11 +105,11 @@ private:
     std::unique_ptr<BackgroundTask<Piece>> m_task; ///< null while nothing is handed over
     Piece m_piece; ///< the last that came back
     std::unique_ptr<StandIn> m_standIn; ///< null until it is needed, and after a change
-    std::array<host::MapSet, kFieldLayerCount + 1> m_pending;
-    std::array<host::MapSet, kFieldLayerCount> m_stale; ///< not brought up to date while invisible
-    std::array<host::MapSet, kFieldLayerCount + 1> m_cancelled;
-    host::MapSet m_shown;
-    host::MapSet m_refused; ///< active, but beyond the largest scene
+    std::array<host::NumberSet, kFieldLayerCount + 1> m_pending;
+    std::array<host::NumberSet, kFieldLayerCount> m_stale; ///< not brought up to date while invisible
+    std::array<host::NumberSet, kFieldLayerCount + 1> m_cancelled;
+    host::NumberSet m_shown;
+    host::NumberSet m_refused; ///< active, but beyond the largest scene
     CvlInt64 m_done = 0;
     CvlInt64 m_total = 0;
 };

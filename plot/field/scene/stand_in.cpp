@@ -47,7 +47,7 @@ static host::Rgb colorOf(vtkPolyData& block, const BlockLook& look, vtkIdType po
     return bandColor(share, groups.levels(group).bands);
 }
 
-void StandIn::take(const std::vector<const CompositeLayer*>& layers, const host::MapSet& maps,
+void StandIn::take(const std::vector<const CompositeLayer*>& layers, const host::NumberSet& maps,
                    const ContourGroups& groups)
 {
     constexpr vtkIdType kFewest = 8;

@@ -20,7 +20,7 @@ public:
     StandIn();
 
     /// Takes of each map the points of the first layer that draws it.
-    void take(const std::vector<const CompositeLayer*>& layers, const host::MapSet& maps,
+    void take(const std::vector<const CompositeLayer*>& layers, const host::NumberSet& maps,
               const ContourGroups& groups);
 
     vtkActor* actor() const { return m_actor; }

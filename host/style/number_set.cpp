@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "host/style/map_set.h"
+#include "host/style/number_set.h"
 
 #include <charconv>
 #include <limits>
 
 namespace corvala::host {
 
-MapSet allUpTo(std::int64_t count)
+NumberSet allUpTo(std::int64_t count)
 {
-    MapSet set;
+    NumberSet set;
     if (count > 0)
         set.addRange(1, static_cast<std::uint64_t>(count) + 1);
     return set;
 }
 
-std::string toText(const MapSet& set, std::int64_t count)
+std::string toText(const NumberSet& set, std::int64_t count)
 {
     if (set.isEmpty())
         return "none";
@@ -52,13 +52,13 @@ static bool readNumber(const char*& position, const char* end, std::uint32_t& nu
     return true;
 }
 
-bool fromText(const std::string& text, std::int64_t count, MapSet& set)
+bool fromText(const std::string& text, std::int64_t count, NumberSet& set)
 {
     if (text == "none" || text == "all") {
-        set = text == "all" ? allUpTo(count) : MapSet();
+        set = text == "all" ? allUpTo(count) : NumberSet();
         return true;
     }
-    MapSet read;
+    NumberSet read;
     const char* position = text.data();
     const char* const end = position + text.size();
     for (;;) {

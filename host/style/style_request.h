@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "host/style/map_set.h"
+#include "host/style/number_set.h"
 #include "sdk/base/enums.h"
 
 #include <cstdint>
@@ -12,7 +12,7 @@
 namespace corvala::host {
 
 /// A value on its way into the style tree.
-using StyleInput = std::variant<double, bool, std::string, MapSet>;
+using StyleInput = std::variant<double, bool, std::string, NumberSet>;
 
 /// How a set-valued leaf takes its value.
 enum class AssignOp : int { Add = 1, Remove = 2, None = 255 };
@@ -21,7 +21,8 @@ enum class AssignOp : int { Add = 1, Remove = 2, None = 255 };
 struct StyleWrite
 {
     std::vector<std::string> path;
-    const MapSet* objects = nullptr; ///< maps to write; null for a value of the frame or document
+    const NumberSet* objects =
+        nullptr; ///< maps to write; null for a value of the frame or document
     std::int64_t offset1 = -1;
     std::int64_t offset2 = -1;
     int op = static_cast<int>(AssignOp::None);
@@ -35,7 +36,7 @@ struct StyleWrite
 struct StyleWriteRecord
 {
     std::vector<std::string> path;
-    MapSet objects;
+    NumberSet objects;
     std::int64_t offset1 = -1;
     std::int64_t offset2 = -1;
     int op = 0;
