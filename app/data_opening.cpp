@@ -10,7 +10,8 @@ using host::io::ReadResult;
 
 static void attach(const ReadResult& result)
 {
-    host::Document::instance().attachDataSet(result.data, result.data->suggestedPlotType(), 1);
+    host::Document::instance().execute(host::AttachData {
+        {result.data->files, {}}, result.data, result.data->suggestedPlotType(), 1});
 }
 
 static QStringList notesOf(const host::DataSet& data)

@@ -39,10 +39,7 @@ static constexpr struct
 
 static void write(std::vector<std::string> path, host::StyleInput value)
 {
-    host::StyleWrite request;
-    request.path = std::move(path);
-    request.value = std::move(value);
-    host::Document::instance().write(request);
+    host::Document::instance().execute(host::SetStyle {std::move(path), std::move(value)});
 }
 
 LayerBar::LayerBar(QWidget* parent)

@@ -126,13 +126,10 @@ void LayerNotes::tell()
 }
 
 static void write(std::vector<std::string> path, host::StyleInput value,
-                  const host::NumberSet* maps = nullptr)
+                  std::optional<host::NumberSet> maps = {})
 {
-    host::StyleWrite request;
-    request.path = std::move(path);
-    request.objects = maps;
-    request.value = std::move(value);
-    Document::instance().write(request);
+    Document::instance().execute(
+        host::SetStyle {std::move(path), std::move(value), std::move(maps)});
 }
 
 void LayerNotes::mend()
@@ -147,9 +144,11 @@ void LayerNotes::mend()
               host::allUpTo(frame->shownMapCount()));
         break;
     case LayerGap::NotShown:
-        write({isLine(facts) ? "LineMap" : "FieldMap", facts.category, "Show"}, true, &facts.maps);
+        write({isLine(facts) ? "LineMap" : "FieldMap", facts.category, "Show"}, true, facts.maps);
         break;
-    case LayerGap::NoSurfaces: host::drawBoundaryFaces(facts.maps); break;
+    case LayerGap::NoSurfaces:
+        Document::instance().execute(host::drawBoundaryFaces(facts.maps));
+        break;
     case LayerGap::NoVariable:
         if (!sdk::autoAssignAllContourGroupVariables(
                 ContourLevelsInitializationMode_ResetIfVariableIsNew))

@@ -240,7 +240,7 @@ void MainWindow::pick(int type, CvlInt64 number, bool activate)
     std::vector<host::Pick> picks;
     if (number > 0)
         picks.push_back({type, number});
-    Document::instance().setPicks(picks);
+    Document::instance().execute(host::SetPicks {picks});
     if (activate && number > 0)
         openStyleDialog(DialogInitialization_SelectPickedObjects);
 }

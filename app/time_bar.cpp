@@ -56,7 +56,8 @@ int TimeBar::positionOf(double time) const
 void TimeBar::goTo(int position)
 {
     if (position >= 0 && position < static_cast<int>(m_times.size()))
-        host::Document::instance().setSolutionTime(m_times[static_cast<std::size_t>(position)]);
+        host::Document::instance().execute(
+            host::SetSolutionTime {m_times[static_cast<std::size_t>(position)]});
 }
 
 void TimeBar::refresh()

@@ -92,11 +92,8 @@ void DialogFixture::changeOneValue()
 {
     m_value = m_value == 2.0 ? 0.0 : 2.0;
     const host::NumberSet first = host::allUpTo(1);
-    host::StyleWrite request;
-    request.path = {"FieldMap", "Mesh", "MeshType"};
-    request.objects = &first;
-    request.value = m_value;
-    host::Document::instance().write(request);
+    host::Document::instance().execute(
+        host::SetStyle {{"FieldMap", "Mesh", "MeshType"}, m_value, first});
     runUntilIdle();
 }
 

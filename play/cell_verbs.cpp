@@ -173,7 +173,7 @@ static QVariant variantOf(const Json& value)
 static void commit(ScriptRun& run, const Arguments& arguments)
 {
     const int column = run.dialog().column(arguments.at("column"));
-    const host::NumberSet maps = arguments.maps("commit", run.dialog().model().rowCount());
+    const host::NumberSet maps = arguments.numbers("commit", run.dialog().model().rowCount());
     const QModelIndexList cells = run.dialog().cells(maps, column);
     const auto role = static_cast<int>(arguments.integer("role", Qt::EditRole));
     const Gesture gesture(run.document().undo());
@@ -200,7 +200,7 @@ static QItemSelection rowsOf(const DialogDriver& dialog, const host::NumberSet& 
 static void action(ScriptRun& run, const Arguments& arguments)
 {
     const int column = run.dialog().column(arguments.at("column"));
-    const host::NumberSet maps = arguments.maps("action", run.dialog().model().rowCount());
+    const host::NumberSet maps = arguments.numbers("action", run.dialog().model().rowCount());
     QItemSelectionModel selection(&run.dialog().model());
     selection.select(rowsOf(run.dialog(), maps), QItemSelectionModel::Select);
     const QList<QAction*> actions = run.dialog().actions(selection, column);

@@ -66,7 +66,7 @@ static std::vector<MapRange> rangesInOrder(const QString& text, std::int64_t cou
         return count > 0 ? std::vector<MapRange> {{1, count}} : std::vector<MapRange> {};
     std::vector<MapRange> ranges;
     for (const QString& part : text.split(QLatin1Char(','))) {
-        const host::NumberSet maps = mapsFromText(part.trimmed(), count);
+        const host::NumberSet maps = host::numbersFromText(part.trimmed(), count);
         if (maps.isEmpty())
             throw ScriptError(Text::tr("\"%1\" is no set of maps").arg(text));
         ranges.push_back({maps.minimum(), maps.maximum()});

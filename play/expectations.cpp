@@ -206,7 +206,7 @@ static void expectSelected(ScriptRun& run, const Arguments& wanted)
     const int rows = run.dialog().model().rowCount();
     const QString text = wanted.text("selected");
     const QString seen = selectedMaps(run.dialog());
-    if (!(mapsFromText(seen, rows) == mapsFromText(text, rows)))
+    if (!(host::numbersFromText(seen, rows) == host::numbersFromText(text, rows)))
         throw ScriptError(Text::tr("selected is \"%1\", not \"%2\"").arg(seen, text));
 }
 

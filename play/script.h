@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "host/operations/json_object.h"
+
 #include <QCoreApplication>
 #include <QString>
 
 #include <nlohmann/json.hpp>
 
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -19,15 +20,7 @@ struct Text
 };
 
 /// Why a script cannot be read or a step fails; the text goes behind "SCRIPT:LINE: ".
-class ScriptError : public std::runtime_error
-{
-public:
-    explicit ScriptError(const QString& message)
-        : std::runtime_error(message.toStdString())
-    {
-    }
-    QString message() const { return QString::fromUtf8(what()); }
-};
+using ScriptError = host::TextError;
 
 /// One line of a script that is not blank and no comment.
 struct ScriptLine

@@ -132,7 +132,7 @@ QString selectedMaps(const DialogDriver& dialog)
 Json styleReport(const DialogDriver& dialog, const QString& maps)
 {
     const host::Frame* frame = host::Document::instance().activeFrame();
-    const host::NumberSet shownMaps = mapsFromText(maps, dialog.model().rowCount());
+    const host::NumberSet shownMaps = host::numbersFromText(maps, dialog.model().rowCount());
     QTabWidget& tabs = dialog.tabs();
     const int current = tabs.currentIndex();
     Json report;

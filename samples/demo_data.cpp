@@ -219,11 +219,8 @@ void assign(const char* name, const host::NumberSet& maps, int variable)
 {
     if (maps.isEmpty())
         return;
-    host::StyleWrite request;
-    request.path = {"LineMap", "Assign", name};
-    request.objects = &maps;
-    request.value = double(variable);
-    Document::instance().write(request);
+    Document::instance().execute(
+        host::SetStyle {{"LineMap", "Assign", name}, double(variable), maps});
 }
 
 /// Map n plots variable 2 + (n - 1) mod 3 over "Time", and "Gain" over "Angle" on a polar plot.
@@ -240,7 +237,6 @@ void assignLineVariables(std::int64_t maps)
     assign("ThetaAxisVar", host::allUpTo(maps), kAngle);
     assign("RAxisVar", host::allUpTo(maps), kAngle + 1);
     Document::instance().undo().clear();
-    Document::instance().clearWriteRecords();
 }
 
 } // namespace
@@ -261,20 +257,22 @@ bool openDemo(const std::string& name, std::int64_t scale, std::string& error)
             : "\"" + name + "\" has a fixed size";
         return false;
     }
-    Document& document = Document::instance();
+    const auto attach = [&](std::shared_ptr<DataSet> data, PlotType_e plotType, CvlInt64 lineMaps) {
+        Document::instance().execute(
+            host::AttachData {{{}, name, scale}, std::move(data), plotType, lineMaps});
+    };
     if (isField) {
         const bool planar = name == "field2d";
-        document.attachDataSet(makeField(scale > 0 ? scale : 12, planar),
-                               planar ? PlotType_Field2D : PlotType_Field3D, 0);
+        attach(makeField(scale > 0 ? scale : 12, planar),
+               planar ? PlotType_Field2D : PlotType_Field3D, 0);
     } else if (isLine) {
         const std::int64_t maps = scale > 0 ? scale : 6;
-        document.attachDataSet(makeSignals(name),
-                               name == "xy" ? PlotType_LineXY : PlotType_LinePolar, maps);
+        attach(makeSignals(name), name == "xy" ? PlotType_LineXY : PlotType_LinePolar, maps);
         assignLineVariables(maps);
     } else if (name == "kinds") {
-        document.attachDataSet(makeKinds(), PlotType_Field3D, 0);
+        attach(makeKinds(), PlotType_Field3D, 0);
     } else if (name == "transient") {
-        document.attachDataSet(makeTransient(), PlotType_Field2D, 0);
+        attach(makeTransient(), PlotType_Field2D, 0);
     } else {
         error = "there is no embedded data named \"" + name + "\"";
         return false;

@@ -11,11 +11,10 @@ static const Attribute& plotTypeAttribute()
 
 Frame::Frame(CvlUniqueId id)
     : m_id(id)
-    , m_fieldStyle(Scope::FieldMap)
-    , m_lineStyle(Scope::LineMap)
     , m_values(Scope::Frame)
 {
-    m_fieldStyle.setVolumeQuery([this](CvlInt64 map) { return m_fieldMaps.hasVolumeZones(map); });
+    m_maps.fieldStyle.setVolumeQuery(
+        [this](CvlInt64 map) { return fieldMaps().hasVolumeZones(map); });
 }
 
 PlotType_e Frame::plotType() const
@@ -57,22 +56,22 @@ bool Frame::lineLayer(const char* layer) const
 
 std::int32_t Frame::fieldInteger(AttributeId attribute, CvlInt64 map) const
 {
-    return m_fieldStyle.integer(Schema::instance().at(attribute), map);
+    return m_maps.fieldStyle.integer(Schema::instance().at(attribute), map);
 }
 
 double Frame::fieldReal(AttributeId attribute, CvlInt64 map) const
 {
-    return m_fieldStyle.real(Schema::instance().at(attribute), map);
+    return m_maps.fieldStyle.real(Schema::instance().at(attribute), map);
 }
 
 std::int32_t Frame::lineInteger(AttributeId attribute, CvlInt64 map) const
 {
-    return m_lineStyle.integer(Schema::instance().at(attribute), map);
+    return m_maps.lineStyle.integer(Schema::instance().at(attribute), map);
 }
 
 double Frame::lineReal(AttributeId attribute, CvlInt64 map) const
 {
-    return m_lineStyle.real(Schema::instance().at(attribute), map);
+    return m_maps.lineStyle.real(Schema::instance().at(attribute), map);
 }
 
 } // namespace corvala::host

@@ -3,6 +3,7 @@
 
 #include "host/document/data_set.h"
 #include "host/document/field_map_list.h"
+#include "host/operations/operation.h"
 #include "host/style/map_table.h"
 #include "host/style/value_list.h"
 #include "sdk/base/enums.h"
@@ -13,14 +14,21 @@
 
 namespace corvala::host {
 
-/// An object that the user picked on the plot.
-struct Pick
+/// The data of a frame and its maps with their style. Copies are cheap: style is shared until it is
+/// written to.
+struct FrameMaps
 {
-    int type = 0; ///< PickType_e, or another code
-    CvlInt64 number = 0; ///< zone or line map
+    std::shared_ptr<DataSet> data;
+    std::shared_ptr<const FieldMapList> fieldMaps = std::make_shared<FieldMapList>();
+    MapTable fieldStyle {Scope::FieldMap};
+    MapTable lineStyle {Scope::LineMap};
+    NumberSet activeFieldMaps;
+    NumberSet activeLineMaps;
+    NumberSet enabledZones;
+    NumberSet enabledVariables;
 };
 
-/// One plot: a data set, its field maps and line maps, and their style. Changed by Document only.
+/// One plot: a data set, its field maps and line maps, and their style. Changed by operations only.
 class Frame
 {
 public:
@@ -30,30 +38,30 @@ public:
     PlotType_e plotType() const;
     bool isFieldPlot() const; ///< plot types 1 and 2
     bool isLinePlot() const; ///< plot types 3 and 5
-    bool hasData() const { return m_data != nullptr; }
-    const DataSet* data() const { return m_data.get(); } ///< null without data
-    std::shared_ptr<const DataSet> sharedData() const { return m_data; }
+    bool hasData() const { return m_maps.data != nullptr; }
+    const DataSet* data() const { return m_maps.data.get(); } ///< null without data
+    std::shared_ptr<const DataSet> sharedData() const { return m_maps.data; }
 
-    const FieldMapList& fieldMaps() const { return m_fieldMaps; }
-    CvlInt64 fieldMapCount() const { return m_fieldMaps.count(); }
-    CvlInt64 lineMapCount() const { return m_lineStyle.count(); }
+    const FieldMapList& fieldMaps() const { return *m_maps.fieldMaps; }
+    CvlInt64 fieldMapCount() const { return fieldMaps().count(); }
+    CvlInt64 lineMapCount() const { return lineStyle().count(); }
     /// Maps of the kind that the frame shows; 0 for other plot types.
     CvlInt64 shownMapCount() const;
 
-    const NumberSet& activeFieldMaps() const { return m_activeFieldMaps; }
-    const NumberSet& activeLineMaps() const { return m_activeLineMaps; }
-    const NumberSet& enabledZones() const { return m_enabledZones; }
-    const NumberSet& enabledVariables() const { return m_enabledVariables; }
+    const NumberSet& activeFieldMaps() const { return m_maps.activeFieldMaps; }
+    const NumberSet& activeLineMaps() const { return m_maps.activeLineMaps; }
+    const NumberSet& enabledZones() const { return m_maps.enabledZones; }
+    const NumberSet& enabledVariables() const { return m_maps.enabledVariables; }
 
     double solutionTime() const { return m_solutionTime; }
     CvlInt64 candidateZone(CvlInt64 map) const
     {
-        return m_fieldMaps.candidateZone(map, m_solutionTime);
+        return fieldMaps().candidateZone(map, m_solutionTime);
     }
     const std::vector<Pick>& picks() const { return m_picks; }
 
-    const MapTable& fieldStyle() const { return m_fieldStyle; }
-    const MapTable& lineStyle() const { return m_lineStyle; }
+    const MapTable& fieldStyle() const { return m_maps.fieldStyle; }
+    const MapTable& lineStyle() const { return m_maps.lineStyle; }
     const ValueList& values() const { return m_values; }
 
     /// "FieldLayers" or "LinePlotLayers" value of that name; false for an unknown name.
@@ -68,17 +76,11 @@ public:
 
 private:
     friend class Document;
+    friend class Executor;
 
     CvlUniqueId m_id;
-    std::shared_ptr<DataSet> m_data;
-    FieldMapList m_fieldMaps;
-    MapTable m_fieldStyle;
-    MapTable m_lineStyle;
+    FrameMaps m_maps;
     ValueList m_values;
-    NumberSet m_activeFieldMaps;
-    NumberSet m_activeLineMaps;
-    NumberSet m_enabledZones;
-    NumberSet m_enabledVariables;
     double m_solutionTime = 0.0;
     std::vector<Pick> m_picks;
 };

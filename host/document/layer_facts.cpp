@@ -84,13 +84,10 @@ LayerFacts layerFacts(const Frame& frame, const char* category)
     return facts;
 }
 
-StyleWriteResult_e drawBoundaryFaces(const NumberSet& maps)
+SetStyle drawBoundaryFaces(const NumberSet& maps)
 {
-    StyleWrite request;
-    request.path = {"FieldMap", "Surfaces", "SurfacesToPlot"};
-    request.objects = &maps;
-    request.value = double(SurfacesToPlot_BoundaryCellFaces);
-    return Document::instance().write(request);
+    return {
+        {"FieldMap", "Surfaces", "SurfacesToPlot"}, double(SurfacesToPlot_BoundaryCellFaces), maps};
 }
 
 } // namespace corvala::host

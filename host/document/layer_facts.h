@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "host/style/number_set.h"
+#include "host/operations/operation.h"
 #include "sdk/base/enums.h"
 #include "sdk/base/types.h"
 
@@ -37,6 +37,6 @@ LayerFacts layerFacts(const Frame& frame, const char* category);
 bool drawsSurfaces(const Frame& frame, CvlInt64 map, bool orPoints);
 
 /// Makes the field maps of the active frame draw their boundary cell faces.
-StyleWriteResult_e drawBoundaryFaces(const NumberSet& maps);
+SetStyle drawBoundaryFaces(const NumberSet& maps);
 
 } // namespace corvala::host

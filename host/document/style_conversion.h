@@ -3,7 +3,7 @@
 
 #include "host/document/frame.h"
 #include "host/style/schema.h"
-#include "host/style/style_request.h"
+#include "host/style/style_input.h"
 #include "host/style/value_list.h"
 
 namespace corvala::host {

@@ -67,13 +67,11 @@ QString assignmentText(const Attribute& attribute, const StyleInput& value, std:
              mapCountText(attribute.scope, maps));
 }
 
-QString activationText(Scope scope, int op, std::uint64_t maps)
+QString activationText(Scope scope, AssignOp_e op, std::uint64_t maps)
 {
-    const char* const text = op == static_cast<int>(AssignOp::Add)
-        ? QT_TRANSLATE_NOOP("UndoTexts", "Activate %1")
-        : op == static_cast<int>(AssignOp::Remove)
-        ? QT_TRANSLATE_NOOP("UndoTexts", "Deactivate %1")
-        : QT_TRANSLATE_NOOP("UndoTexts", "Activate only %1");
+    const char* const text = op == AssignOp_Add ? QT_TRANSLATE_NOOP("UndoTexts", "Activate %1")
+        : op == AssignOp_Remove                 ? QT_TRANSLATE_NOOP("UndoTexts", "Deactivate %1")
+                                : QT_TRANSLATE_NOOP("UndoTexts", "Activate only %1");
     return undoText(text).arg(mapCountText(scope, maps));
 }
 

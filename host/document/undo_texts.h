@@ -2,7 +2,8 @@
 #pragma once
 
 #include "host/style/schema.h"
-#include "host/style/style_request.h"
+#include "host/style/style_input.h"
+#include "sdk/base/enums.h"
 
 #include <QString>
 
@@ -18,7 +19,7 @@ QString assignmentText(const Attribute& attribute, const StyleInput& value);
 QString assignmentText(const Attribute& attribute, const StyleInput& value, std::uint64_t maps);
 
 /// "Activate 3 field maps", "Deactivate 1 line map", "Activate only 2 field maps".
-QString activationText(Scope scope, int op, std::uint64_t maps);
+QString activationText(Scope scope, AssignOp_e op, std::uint64_t maps);
 
 /// A text of the undo list.
 QString undoText(const char* text);

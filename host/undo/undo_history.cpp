@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/undo/undo_history.h"
 
+#include "host/document/change.h"
 #include "host/document/document.h"
 
 #include <QStringList>
@@ -13,8 +14,9 @@ namespace corvala::host {
 class UndoHistory::Step : public QUndoCommand
 {
 public:
-    explicit Step(std::uint64_t gesture)
-        : m_gesture(gesture)
+    Step(Document& document, std::uint64_t gesture)
+        : m_document(document)
+        , m_gesture(gesture)
     {
     }
 
@@ -41,14 +43,14 @@ public:
     void undo() override
     {
         for (auto change = m_changes.rbegin(); change != m_changes.rend(); ++change)
-            (*change)->apply(false);
+            m_document.apply(**change, false);
     }
     /// The stack redoes a command when it is pushed; what it holds is done by then.
     void redo() override
     {
         if (m_done)
             for (const auto& change : m_changes)
-                change->apply(true);
+                m_document.apply(*change, true);
         m_done = true;
     }
 
@@ -65,6 +67,7 @@ private:
                 + (tooMany ? QStringLiteral("; ...") : QString()));
     }
 
+    Document& m_document;
     std::uint64_t m_gesture;
     bool m_done = false;
     std::vector<std::shared_ptr<Change>> m_changes;
@@ -127,7 +130,7 @@ void UndoHistory::record(Change change)
         m_open->add(std::move(change));
         return;
     }
-    auto step = std::make_unique<Step>(m_gesture);
+    auto step = std::make_unique<Step>(m_document, m_gesture);
     step->add(std::move(change));
     m_stack.push(step.release());
 }
@@ -142,7 +145,7 @@ void UndoHistory::clear()
 void UndoHistory::begin(CvlInt64)
 {
     if (m_depth++ == 0)
-        m_open = std::make_unique<Step>(m_gesture);
+        m_open = std::make_unique<Step>(m_document, m_gesture);
 }
 
 void UndoHistory::end(Closing closing)
@@ -210,8 +213,7 @@ void UndoHistory::announce(const Step& step, bool forward)
     }
     std::stable_partition(events.begin(), events.end(), isPlotType);
     events.push_back(applied);
-    if (applied.frame != m_document.activeFrameId())
-        m_document.activateFrame(applied.frame);
+    m_document.activate(applied.frame);
     for (const StateEvent& event : events)
         m_document.raise(event);
 }

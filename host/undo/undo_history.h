@@ -7,22 +7,13 @@
 #include <QString>
 #include <QUndoStack>
 
-#include <functional>
 #include <memory>
 #include <vector>
 
 namespace corvala::host {
 
+struct Change;
 class Document;
-
-/// One reversible change of the document, made as it is first applied.
-struct Change
-{
-    CvlUniqueId frame = 0; ///< frame that it changes; 0 for the document
-    QString text; ///< such as "Mesh type = Overlay (3 field maps)"
-    std::vector<StateEvent> events; ///< that announce it, done or taken back
-    std::function<void(bool forward)> apply; ///< does it again, or takes it back
-};
 
 /// The undo list of the document. A change is a step of its own unless a bracket is open, or it
 /// belongs to the same gesture of the user as the step before it.

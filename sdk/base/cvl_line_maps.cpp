@@ -20,6 +20,11 @@ static const Frame* frameWithLineMap(CvlUniqueId id, CvlInt64 map)
     return frame && map >= 1 && map <= frame->lineMapCount() ? frame : nullptr;
 }
 
+static bool isDone(const Operation& operation)
+{
+    return Document::instance().execute(operation).isDone();
+}
+
 CvlInt64 CvlUtilLineMapGetCountForFrame(CvlUniqueId id)
 {
     countRead();
@@ -44,31 +49,32 @@ CvlArbValue CvlUtilLineMapStyleGetArbValueForFrame(CvlUniqueId id, CvlInt64 map,
     const Frame* const frame = frameWithLineMap(id, map);
     if (!frame || !name || std::strcmp(name, "Name") != 0)
         return 0;
-    static const Attribute& stored = Schema::instance().leaf({"LineMap", "Name"});
-    return reinterpret_cast<CvlArbValue>(cvlFlatText(frame->lineStyle().text(stored, map)));
+    static const AttributeId stored = Schema::instance().find({"LineMap", "Name"});
+    const auto text = Document::instance().read(id, stored, map);
+    return text ? reinterpret_cast<CvlArbValue>(cvlFlatText(std::get<std::string>(*text))) : 0;
 }
 
 CvlBool CvlUtilLineMapSetName(CvlSetHandle maps, char const* utf8Name)
 {
-    return maps && utf8Name && Document::instance().setLineMapName(maps->members, utf8Name);
+    return maps && utf8Name && isDone(RenameLineMaps {maps->members, utf8Name});
 }
 
 CvlInt64 CvlUtilLineMapCreate(CvlInt64 count)
 {
-    return Document::instance().createLineMaps(count);
+    return Document::instance().execute(CreateLineMaps {count}).firstMap;
 }
 
 CvlBool CvlUtilLineMapDelete(CvlSetHandle maps)
 {
-    return maps && Document::instance().deleteLineMaps(maps->members);
+    return maps && isDone(DeleteMaps {maps->members, MapKind::Line});
 }
 
 CvlBool CvlUtilLineMapShiftToTop(CvlSetHandle maps)
 {
-    return maps && Document::instance().shiftLineMaps(maps->members, true);
+    return maps && isDone(MoveLineMaps {maps->members, true});
 }
 
 CvlBool CvlUtilLineMapShiftToBottom(CvlSetHandle maps)
 {
-    return maps && Document::instance().shiftLineMaps(maps->members, false);
+    return maps && isDone(MoveLineMaps {maps->members, false});
 }

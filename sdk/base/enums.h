@@ -163,6 +163,9 @@ enum ErrorBar_e : int {
 
 enum IJKLines_e : int { IJKLines_I = 0, IJKLines_J = 1, IJKLines_K = 2 };
 
+/// How a set-valued style value takes a set; AssignOp_None assigns.
+enum AssignOp_e : int { AssignOp_Add = 1, AssignOp_Remove = 2, AssignOp_None = 255 };
+
 /// Result of a style write. Anything above StyleWrite_Unchanged left the document as it was.
 enum StyleWriteResult_e : int {
     StyleWrite_Ok = 0,

@@ -12,18 +12,15 @@ namespace corvala::sdk {
 inline StyleWriteResult_e writeFrameValue(std::vector<std::string> path, double value,
                                           CvlInt64 index = -1)
 {
-    host::StyleWrite request;
-    request.path = std::move(path);
-    request.offset1 = index;
-    request.value = value;
-    return host::Document::instance().write(request);
+    return host::Document::instance()
+        .execute(host::SetStyle {std::move(path), value, {}, index})
+        .result;
 }
 
-/// Reads an integer value of the active frame, which must exist.
+/// Reads an integer value of the active frame; both must exist.
 inline std::int32_t readFrameValue(const std::vector<std::string>& path, CvlInt64 index = -1)
 {
-    const host::Schema& schema = host::Schema::instance();
-    return host::Document::instance().activeFrame()->values().integer(schema.leaf(path), index);
+    return std::get<std::int32_t>(host::Document::instance().read(path, 0, index).value());
 }
 
 } // namespace corvala::sdk

@@ -80,7 +80,7 @@ bool queryToEnableSurfacePlotLayer(const std::string& layer)
             .arg(text(name->shown)));
     if (!wanted)
         return false;
-    return host::drawBoundaryFaces(active) <= StyleWrite_Unchanged;
+    return Document::instance().execute(host::drawBoundaryFaces(active)).isDone();
 }
 
 } // namespace corvala::sdk

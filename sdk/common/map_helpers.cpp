@@ -14,7 +14,8 @@ using host::Frame;
 
 bool copyLineMaps(toolbox::Set lineMaps)
 {
-    return lineMaps.handle() && Document::instance().copyLineMaps(lineMaps.handle()->members);
+    return lineMaps.handle()
+        && Document::instance().execute(host::CopyLineMaps {lineMaps.handle()->members}).isDone();
 }
 
 /// Enabled variables of the frame that are no coordinates, ascending.
@@ -41,11 +42,9 @@ bool autoAssignScatterVariable()
     const std::vector<int> candidates = dataVariables(*frame);
     if (candidates.empty())
         return false;
-    host::StyleWrite request;
-    request.path = {"GlobalScatter", "Var"};
-    request.value = double(candidates.front());
-    request.undoable = false;
-    return Document::instance().write(request) == StyleWrite_Ok;
+    host::SetStyle write {{"GlobalScatter", "Var"}, double(candidates.front())};
+    write.undoable = false;
+    return Document::instance().execute(write).result == StyleWrite_Ok;
 }
 
 bool autoAssignAllContourGroupVariables(ContourLevelsInitializationMode_e)

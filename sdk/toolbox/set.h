@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include <sdk/base/enums.h>
 #include <sdk/base/types.h>
 
 namespace corvala::toolbox {
 
-/// How a set-valued style value takes a set.
-enum AssignOp_e { AssignOp_Add = 1, AssignOp_Remove = 2, AssignOp_None = 255 };
+using ::AssignOp_Add;
+using ::AssignOp_e;
+using ::AssignOp_None;
+using ::AssignOp_Remove;
 
 /// A set of map numbers (1 to 4294967295), ascending, compressed: ranges cost next to nothing.
 class Set

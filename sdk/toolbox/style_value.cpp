@@ -12,10 +12,8 @@
 
 namespace corvala::toolbox {
 
-using host::Attribute;
 using host::Document;
 using host::Schema;
-using host::Scope;
 
 static constexpr char kPathKey[] = "PATH";
 static constexpr char kObjectsKey[] = "OBJECTS";
@@ -65,67 +63,10 @@ FrameStyleValue::FrameStyleValue(CvlUniqueId frame, const char* n1, const char* 
 
 namespace {
 
-/// Where a style value is: a row of a map table, or a place of a list.
-struct Place
+Set setOf(const host::NumberSet& members)
 {
-    const host::MapTable* table = nullptr;
-    const host::ValueList* list = nullptr;
-    CvlInt64 number = -1; ///< map, or index
-
-    explicit operator bool() const { return table || list; }
-};
-
-Place placeOf(const Attribute& attribute, CvlUniqueId frameId, CvlInt64 object, CvlInt64 offset1)
-{
-    Document& document = Document::instance();
-    const host::Frame* const frame =
-        attribute.scope == Scope::Document ? nullptr : document.frame(frameId);
-    if (attribute.scope != Scope::Document && !frame)
-        return {};
-    if (attribute.scope == Scope::FieldMap || attribute.scope == Scope::LineMap) {
-        const host::MapTable& table =
-            attribute.scope == Scope::FieldMap ? frame->fieldStyle() : frame->lineStyle();
-        return object >= 1 && object <= table.count() ? Place {&table, nullptr, object} : Place();
-    }
-    const bool indexExists =
-        attribute.indexCount == 0 || (offset1 >= 1 && offset1 <= attribute.indexCount);
-    return indexExists
-        ? Place {nullptr, frame ? &frame->values() : &document.documentValues(), offset1}
-        : Place();
-}
-
-double numberAt(const Attribute& attribute, const Place& place)
-{
-    if (place.table)
-        return attribute.isReal() ? place.table->real(attribute, place.number)
-                                  : place.table->integer(attribute, place.number);
-    return attribute.isReal() ? place.list->real(attribute, place.number)
-                              : place.list->integer(attribute, place.number);
-}
-
-/// Zones of the active field maps; every zone belongs to one map.
-host::NumberSet activeZones(const host::Frame& frame)
-{
-    const host::NumberSet& maps = frame.activeFieldMaps();
-    if (frame.hasData() && static_cast<CvlInt64>(maps.cardinality()) == frame.fieldMapCount())
-        return host::allUpTo(frame.data()->zoneCount());
-    host::NumberSet zones;
-    for (const std::uint32_t map : maps)
-        for (const std::int64_t zone : frame.fieldMaps().zones(map))
-            zones.add(static_cast<std::uint32_t>(zone));
-    return zones;
-}
-
-std::optional<Set> readSet(const Attribute& attribute, CvlUniqueId frameId)
-{
-    const host::Frame* const frame = Document::instance().frame(frameId);
-    if (!frame)
-        return {};
     Set set;
-    const std::string& name = attribute.names.front();
-    set.handle()->members = name == "ActiveLineMaps" ? frame->activeLineMaps()
-        : name == "ActiveFieldMaps"                  ? frame->activeFieldMaps()
-                                                     : activeZones(*frame);
+    set.handle()->members = members;
     return set;
 }
 
@@ -149,24 +90,20 @@ template<class T>
 std::optional<T> StyleValue::read(CvlInt64 object, CvlInt64 offset1, CvlInt64) const
 {
     host_access::countRead();
-    if (!isResolved())
+    const std::optional<host::StyleOutput> value =
+        Document::instance().read(frame(), m_attribute, object, offset1);
+    if (!value)
         return {};
-    const Attribute& attribute = Schema::instance().at(m_attribute);
     if constexpr (std::is_same_v<T, Set>) {
-        return attribute.type == host::ValueType::Maps ? readSet(attribute, frame())
-                                                       : std::optional<Set>();
+        const auto* const members = std::get_if<host::NumberSet>(&*value);
+        return members ? std::optional<Set>(setOf(*members)) : std::nullopt;
+    } else if constexpr (std::is_same_v<T, std::string>) {
+        const auto* const text = std::get_if<std::string>(&*value);
+        return text ? std::optional<std::string>(*text) : std::nullopt;
     } else {
-        if (attribute.type == host::ValueType::Maps
-            || attribute.isText() != std::is_same_v<T, std::string>)
-            return {};
-        const Place place = placeOf(attribute, frame(), object, offset1);
-        if (!place)
-            return {};
-        if constexpr (std::is_same_v<T, std::string>)
-            return place.table ? place.table->text(attribute, place.number)
-                               : std::get<std::string>(place.list->get(attribute, place.number));
-        else
-            return converted<T>(numberAt(attribute, place));
+        const auto* const real = std::get_if<double>(&*value);
+        const auto* const integer = std::get_if<std::int32_t>(&*value);
+        return real ? converted<T>(*real) : integer ? converted<T>(*integer) : std::nullopt;
     }
 }
 
@@ -225,21 +162,15 @@ static CvlInt64 numberOr(const ArgList& address, const char* key, CvlInt64 fallb
 static StyleWriteResult_e write(host::StyleInput value, const ArgList& address,
                                 const std::vector<std::string>& unresolved)
 {
-    host::StyleWrite request;
-    request.path = pathOf(address);
-    const bool allKnown =
-        std::find(request.path.begin(), request.path.end(), "?") == request.path.end();
-    if (!allKnown && unresolved.size() == request.path.size())
-        request.path = unresolved; // the names as typed, for the record
-    const auto* const objects = address.get<Set>(kObjectsKey);
-    static const host::NumberSet kNone;
-    if (objects)
-        request.objects = objects->handle() ? &objects->handle()->members : &kNone;
-    request.offset1 = numberOr(address, kOffset1Key, -1);
-    request.offset2 = numberOr(address, kOffset2Key, -1);
-    request.op = static_cast<int>(numberOr(address, kOperatorKey, AssignOp_None));
-    request.value = std::move(value);
-    return Document::instance().write(request);
+    host::SetStyle write {pathOf(address), std::move(value)};
+    const bool allKnown = std::find(write.path.begin(), write.path.end(), "?") == write.path.end();
+    if (!allKnown && unresolved.size() == write.path.size())
+        write.path = unresolved; // the names as typed, for whoever looks on
+    if (const auto* const maps = address.get<Set>(kObjectsKey))
+        write.maps = maps->handle() ? maps->handle()->members : host::NumberSet();
+    write.index = numberOr(address, kOffset1Key, -1);
+    write.op = static_cast<AssignOp_e>(numberOr(address, kOperatorKey, AssignOp_None));
+    return Document::instance().execute(std::move(write)).result;
 }
 
 StyleWriteResult_e StyleValue::setFinalValue(double value, const ArgList& address)

@@ -157,15 +157,9 @@ void tst_MainWindow::layersAndPlotTypeChangeTheDocument()
     QCOMPARE(frame().plotType(), PlotType_Field2D);
 }
 
-static void write(std::vector<std::string> path, const host::NumberSet* maps, host::StyleInput value,
-                  int group = -1)
+static void write(const host::SetStyle& style)
 {
-    host::StyleWrite request;
-    request.path = std::move(path);
-    request.objects = maps;
-    request.offset1 = group;
-    request.value = std::move(value);
-    QVERIFY(Document::instance().write(request) <= StyleWrite_Unchanged);
+    QVERIFY(Document::instance().execute(style).isDone());
 }
 
 /// Each button mends what its note says, and then comes what else there is to say.
@@ -179,12 +173,12 @@ void tst_MainWindow::layersThatShowNothingSayWhy()
     for (const std::uint32_t map : frame().activeFieldMaps())
         if (!frame().fieldMaps().hasVolumeZones(map))
             flat.add(map);
-    QVERIFY(Document::instance().deleteFieldMaps(flat));
+    QVERIFY(Document::instance().execute(host::DeleteMaps {flat}).isDone());
     const host::NumberSet maps = frame().activeFieldMaps();
     for (int group = 1; group <= 8; ++group)
-        write({"ContourGroups", "Var"}, nullptr, 0.0, group);
-    write({"FieldMap", "Contour", "Show"}, &maps, false);
-    write({"ActiveFieldMaps"}, nullptr, host::NumberSet());
+        write({{"ContourGroups", "Var"}, 0.0, {}, group});
+    write({{"FieldMap", "Contour", "Show"}, false, maps});
+    write({{"ActiveFieldMaps"}, host::NumberSet()});
     layer("ShowContour").trigger();
     for (const auto& [text, caption] : {std::pair("No zone is active", "Activate All Zones"),
                                         std::pair("no active zone shows it", "Show in All Zones"),
@@ -207,7 +201,7 @@ void tst_MainWindow::layersThatShowNothingSayWhy()
     QVERIFY(frame().fieldLayer("ShowShade") && !button("Show Shade"));
 
     // A note goes when it is true no longer.
-    write({"FieldMap", "Mesh", "Show"}, &maps, false);
+    write({{"FieldMap", "Mesh", "Show"}, false, maps});
     layer("ShowMesh").trigger();
     QVERIFY(!button("Show in All Zones"));
     layer("ShowMesh").trigger();
@@ -248,7 +242,7 @@ void tst_MainWindow::sliderGoesThroughTheTimes()
     QCOMPARE(frame().solutionTime(), 3.0);
     play::pressKey(slider, Qt::Key_Left);
     QCOMPARE(frame().solutionTime(), 2.0);
-    Document::instance().setSolutionTime(1.5);
+    Document::instance().execute(host::SetSolutionTime {1.5});
     play::waitUntilIdle();
     QCOMPARE(slider->value(), 1);
     QCOMPARE(frame().solutionTime(), 1.5);

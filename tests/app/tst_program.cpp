@@ -129,8 +129,8 @@ void tst_Program::wrongScriptsNameTheirLine_data()
                                  << "no map 99";
     QTest::newRow("no check box") << R"({"check": 1, "column": 0})"
                                   << "no check box";
-    QTest::newRow("no set of maps") << R"({"select": "3-1"})"
-                                    << "\"3-1\" is no set of maps";
+    QTest::newRow("no set of numbers") << R"({"select": "3-1"})"
+                                       << "\"3-1\" is no set of numbers";
     QTest::newRow("no such button") << R"({"button": "Delete Map"})"
                                     << "\"Delete Map\"";
     QTest::newRow("disabled button") << R"({"button": "Groups"})"
@@ -166,7 +166,7 @@ void tst_Program::wrongScriptsNameTheirLine_data()
     QTest::newRow("canvas without a screen") << R"({"screenshot": "c.png", "of": "canvas"})"
                                              << "X screen";
     QTest::newRow("no pick") << R"({"pick": [3]})"
-                             << "\"other\" is missing";
+                             << "3 is no pick";
     QTest::newRow("value of another kind")
         << R"({"set": ["FieldMap", "Mesh", "Show"], "maps": "1", "value": {"on": 1}})"
         << "no style value";

@@ -39,20 +39,3 @@ private:
     corvala::host::StateEvent m_style;
     boost::signals2::scoped_connection m_connection;
 };
-
-/// One style write; `maps` as in "1-3", empty for a value of the frame.
-inline StyleWriteResult_e writeStyle(const std::vector<std::string>& path, const std::string& maps,
-                                     corvala::host::StyleInput value, int op = 255,
-                                     CvlInt64 index = -1)
-{
-    using namespace corvala::host;
-    NumberSet set;
-    fromText(maps.empty() ? "none" : maps, 1000000, set);
-    StyleWrite request;
-    request.path = path;
-    request.objects = maps.empty() ? nullptr : &set;
-    request.value = std::move(value);
-    request.op = op;
-    request.offset1 = index;
-    return Document::instance().write(request);
-}

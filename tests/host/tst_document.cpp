@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "event_log.h"
-#include "samples/demo_data.h"
 #include "sdk/base/cvl.h"
+#include "tests/host/document_driver.h"
+#include "tests/host/event_log.h"
 
 #include <vtkDataSet.h>
 
@@ -9,84 +9,59 @@
 
 using namespace corvala;
 using namespace corvala::host;
+using namespace corvala::tests;
 
 class tst_Document : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { document().clear(); }
     void framesAnnounceThemselvesFirst();
-    void identifiersAreNeverUsedAgain();
     void openingRaisesThePlotTypeFirst();
     void candidateZones_data();
     void candidateZones();
-    void renames();
-    void deletedFieldMapsComeBack();
-    void keepsStyleAsDefaultsMove();
-    void lineMapsKeepTheirZones();
+    void facts_data();
+    void facts();
+    void deletedZonesLeaveTheOthersTheirData();
+    void lineMaps_data();
+    void lineMaps();
+    void fillsInNames_data();
+    void fillsInNames();
     void colors();
-
-private:
-    static void open(const char* name, std::int64_t scale = 0)
-    {
-        std::string error;
-        QVERIFY2(samples::openDemo(name, scale, error), error.c_str());
-    }
-    static QString zoneName(CvlInt64 zone)
-    {
-        char* text = CvlUtilZoneGetNameForFrame(CvlUtilFrameGetUniqueID(), zone);
-        const QString name = QString::fromUtf8(text);
-        CvlUtilStringDealloc(&text);
-        return name;
-    }
 };
-
-void tst_Document::init()
-{
-    Document::instance().clear();
-}
 
 void tst_Document::framesAnnounceThemselvesFirst()
 {
     EventLog log;
-    Document& document = Document::instance();
-    const CvlUniqueId first = document.activeFrameId();
-    const CvlUniqueId second = document.addFrame();
+    const CvlUniqueId first = document().activeFrameId();
+    execute(R"({"frame": "new"})");
+    const CvlUniqueId second = document().activeFrameId();
     QCOMPARE(log.take(), QStringLiteral("51 50"));
-    QVERIFY(document.activateFrame(first));
+    execute(R"({"frame": 1})");
     QCOMPARE(log.take(), QStringLiteral("51"));
-    QVERIFY(document.activateFrame(first));
-    QCOMPARE(log.take(), QString());
-    QVERIFY(!document.activateFrame(12345));
-    QVERIFY(document.deleteFrame(second)); // not the active one
-    QCOMPARE(log.take(), QStringLiteral("50"));
-    QVERIFY(document.deleteFrame(first));
-    QCOMPARE(log.take(), QStringLiteral("51 50"));
+    QCOMPARE(execute(R"({"frame": 1})"), StyleWrite_Unchanged);
+    execute(R"({"frame": "delete"})");
+    QCOMPARE(document().activeFrameId(), second);
+    execute(R"({"frame": "delete"})");
+    QCOMPARE(log.take(), QStringLiteral("51 50 51 50"));
     QCOMPARE(CvlUtilFrameGetUniqueID(), CvlUniqueId(0));
     QCOMPARE(CvlUtilFrameGetPlotType(), CvlInt64(PlotType_None));
-    document.clear();
+    document().clear();
     QCOMPARE(log.take(), QStringLiteral("51 0"));
-}
-
-void tst_Document::identifiersAreNeverUsedAgain()
-{
-    Document& document = Document::instance();
-    const CvlUniqueId first = document.activeFrameId();
-    document.deleteFrame(first);
-    QVERIFY(document.addFrame() != first);
+    QVERIFY(document().activeFrameId() != first && document().activeFrameId() != second);
 }
 
 void tst_Document::openingRaisesThePlotTypeFirst()
 {
     EventLog log;
-    open("field3d", 4);
+    std::string error;
+    QVERIFY(samples::openDemo("field3d", 4, error));
     QCOMPARE(log.take(), QStringLiteral("7:PlotType 5"));
-    open("field3d", 8);
+    QVERIFY(samples::openDemo("field3d", 8, error));
     QCOMPARE(log.take(), QStringLiteral("5"));
-    QVERIFY(Document::instance().detachDataSet());
+    execute(R"({"data": "none"})");
     QCOMPARE(log.take(), QStringLiteral("8"));
-    QVERIFY(!Document::instance().detachDataSet());
 }
 
 void tst_Document::candidateZones_data()
@@ -105,89 +80,151 @@ void tst_Document::candidateZones()
 {
     QFETCH(double, time);
     QFETCH(QString, zones);
-    open("transient");
+    openOnly("transient");
     EventLog log;
-    QVERIFY(Document::instance().setSolutionTime(time));
+    document().execute(SetSolutionTime {time});
     QCOMPARE(log.take(), time == 0.0 ? QString() : QStringLiteral("29"));
     QStringList found;
-    const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
-    for (CvlInt64 map = 1; map <= CvlUtilFieldMapGetCountForFrame(frame); ++map)
-        found << QString::number(CvlUtilFieldMapGetCandidateZoneForFrame(frame, map));
+    const CvlUniqueId id = frame().id();
+    for (CvlInt64 map = 1; map <= frame().fieldMapCount(); ++map)
+        found << QString::number(CvlUtilFieldMapGetCandidateZoneForFrame(id, map));
     QCOMPARE(found.join(' '), zones);
-    QCOMPARE(CvlUtilFieldMapGetStrandID(frame, 3), CvlInt64(7));
-    QCOMPARE(CvlUtilFieldMapGetModeForFrame(frame, 3), CvlInt64(FieldMapMode_Strand));
-    QCOMPARE(CvlUtilFieldMapGetModeForFrame(frame, 1), CvlInt64(FieldMapMode_Static));
+    QCOMPARE(CvlUtilFieldMapGetStrandID(id, 3), CvlInt64(7));
+    QCOMPARE(CvlUtilFieldMapGetModeForFrame(id, 3), CvlInt64(FieldMapMode_Strand));
+    QCOMPARE(CvlUtilFieldMapGetModeForFrame(id, 1), CvlInt64(FieldMapMode_Static));
 }
 
-void tst_Document::renames()
+void tst_Document::facts_data()
 {
-    open("kinds");
-    EventLog log;
-    QVERIFY(Document::instance().renameZone(2, "wing/upper"));
-    QCOMPARE(zoneName(2), QStringLiteral("wing/upper"));
-    QVERIFY(Document::instance().renameVariable(1, "x [m]"));
-    QCOMPARE(log.take(), QStringLiteral("14 16"));
-    QVERIFY(!Document::instance().renameZone(9, "none"));
-    QVERIFY(!Document::instance().renameZone(1, "\xc3"));
-    Document::instance().undo().undo();
-    Document::instance().undo().undo();
-    QCOMPARE(zoneName(2), QStringLiteral("ZONE 12"));
-}
-
-void tst_Document::deletedFieldMapsComeBack()
-{
-    open("transient");
-    writeStyle({"FieldMap", "Group"}, "3", 5.0);
-    NumberSet strand;
-    strand.add(2);
-    EventLog log;
-    QVERIFY(Document::instance().deleteFieldMaps(strand));
-    QCOMPARE(log.take(), QStringLiteral("2 10"));
-    const Frame& frame = *Document::instance().activeFrame();
-    const AttributeId group = Schema::instance().find({"FieldMap", "Group"});
-    QCOMPARE(frame.fieldMapCount(), CvlInt64(2));
-    QCOMPARE(frame.data()->zoneCount(), std::int64_t(3));
-    QCOMPARE(frame.fieldMaps().strand(2), 7);
-    QCOMPARE(frame.fieldInteger(group, 2), 5);
-    QVERIFY(frame.data()->geometry(2)); // still the strand's own zone
-    Document::instance().undo().undo();
-    QCOMPARE(frame.fieldMapCount(), CvlInt64(3));
-    QCOMPARE(frame.fieldInteger(group, 3), 5);
-    QCOMPARE(frame.activeFieldMaps().cardinality(), std::uint64_t(3));
-    QVERIFY(!Document::instance().deleteFieldMaps(allUpTo(4)));
-}
-
-void tst_Document::keepsStyleAsDefaultsMove()
-{
-    open("kinds"); // map 1 is a volume, which shows no surfaces by default; map 2 is none
-    const AttributeId surfaces =
-        Schema::instance().find({"FieldMap", "Surfaces", "SurfacesToPlot"});
-    const Frame& frame = *Document::instance().activeFrame();
-    writeStyle({"FieldMap", "Surfaces", "SurfacesToPlot"}, "2", double(SurfacesToPlot_None));
-    const NumberSet others = allUpTo(frame.fieldMapCount()) - (allUpTo(2) - allUpTo(1));
-    QVERIFY(Document::instance().deleteFieldMaps(others));
-    QCOMPARE(frame.fieldInteger(surfaces, 1), int(SurfacesToPlot_None));
-}
-
-void tst_Document::lineMapsKeepTheirZones()
-{
-    open("xy", 3);
-    for (int map = 1; map <= 3; ++map)
-        writeStyle({"LineMap", "Assign", "Zone"}, std::to_string(map), 5.0 - map); // 4, 3, 2
-    NumberSet third;
-    third.add(3);
-    QVERIFY(Document::instance().deleteFieldMaps(third));
-    const Frame& frame = *Document::instance().activeFrame();
-    const auto zones = [&frame] {
-        const AttributeId zone = Schema::instance().find({"LineMap", "Assign", "Zone"});
-        QStringList numbers;
-        for (CvlInt64 map = 1; map <= 3; ++map)
-            numbers << QString::number(frame.lineInteger(zone, map));
-        return numbers.join(' ');
+    QTest::addColumn<QString>("demo");
+    QTest::addColumn<QStringList>("operations");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<int>("map");
+    QTest::addColumn<QString>("value");
+    const auto row = [](const char* name, const char* demo, const QStringList& operations,
+                        const char* path, int map, const char* value) {
+        QTest::newRow(name) << demo << operations << path << map << value;
     };
-    QCOMPARE(zones(), QStringLiteral("3 1 2")); // the second one's zone is gone
-    Document::instance().undo().undo();
-    QCOMPARE(zones(), QStringLiteral("4 3 2"));
+    const char* const isCharacter = "FieldMap Scatter SymbolShape IsASCII";
+    const QString character = R"({"set": ["FieldMap", "Scatter", "SymbolShape", "ASCIIShape",
+                                          "ASCIIChar"], "maps": "1-2", "value": "A"})";
+    const QString shape = R"({"set": ["FieldMap", "Scatter", "SymbolShape", "GeomShape"],
+                              "maps": "2", "value": 0})";
+    row("a character is chosen", "field2d", {character}, isCharacter, 2, "1");
+    row("a shape instead", "field2d", {character, shape}, isCharacter, 2, "0");
+    row("for one map", "field2d", {character, shape}, isCharacter, 1, "1");
+
+    const char* const surfaces = "FieldMap Surfaces SurfacesToPlot";
+    row("volumes have no surfaces", "kinds", {}, surfaces, 1, "10");
+    row("others have", "kinds", {}, surfaces, 2, "0");
+    row("a value stays as defaults move", "kinds",
+        {R"({"set": ["FieldMap", "Surfaces", "SurfacesToPlot"], "maps": "2", "value": 10})",
+         R"({"deleteMaps": "1,3-8"})"},
+        surfaces, 1, "10");
+    row("style goes with its map", "transient",
+        {R"({"set": ["FieldMap", "Group"], "maps": "3", "value": 5})", R"({"deleteMaps": "2"})"},
+        "FieldMap Group", 2, "5");
+    row("a zone stands for its map", "transient",
+        {R"({"active": "FieldZones", "maps": "3", "op": "remove"})"}, "ActiveFieldMaps", 0,
+        "\"1,3\"");
+
+    const QStringList zones {R"({"set": ["LineMap", "Assign", "Zone"], "maps": "1", "value": 4})",
+                             R"({"set": ["LineMap", "Assign", "Zone"], "maps": "2", "value": 3})",
+                             R"({"deleteMaps": "3", "of": "FieldMaps"})"};
+    row("a line map keeps its zone", "xy", zones, "LineMap Assign Zone", 1, "3");
+    row("or takes the first", "xy", zones, "LineMap Assign Zone", 2, "1");
+}
+
+void tst_Document::facts()
+{
+    QFETCH(QString, demo);
+    QFETCH(QStringList, operations);
+    QFETCH(QString, path);
+    QFETCH(int, map);
+    openOnly(qPrintable(demo));
+    for (const QString& operation : operations)
+        QCOMPARE(execute(operation.toUtf8()), StyleWrite_Ok);
+    std::vector<std::string> names;
+    for (const QString& name : path.split(' '))
+        names.push_back(name.toStdString());
+    QTEST(QString::fromStdString(toJson(document().read(names, map).value()).dump()), "value");
+}
+
+void tst_Document::deletedZonesLeaveTheOthersTheirData()
+{
+    openOnly("transient");
+    execute(R"({"pick": [{"zone": 3}]})");
+    execute(R"({"deleteMaps": "2"})");
+    QCOMPARE(frame().data()->zoneCount(), std::int64_t(3));
+    QCOMPARE(frame().fieldMaps().strand(2), 7);
+    QVERIFY(frame().data()->geometry(2)); // still the strand's own zone
+    QVERIFY(frame().picks().empty());
+}
+
+void tst_Document::lineMaps_data()
+{
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<QString>("names"); // were a b- c d e f, the second one not active
+    const auto row = [](const char* operation, const char* names) {
+        QTest::newRow(operation) << operation << names;
+    };
+    row(R"({"moveMaps": "3,5", "to": "top"})", "ceab-df");
+    row(R"({"moveMaps": "1,2", "to": "bottom"})", "cdefab-");
+    row(R"({"moveMaps": "1,2", "to": "top"})", "ab-cdef");
+    row(R"({"deleteMaps": "1,4-5"})", "b-cf");
+    row(R"({"deleteMaps": "all"})", "");
+    row(R"({"copyMaps": "2,6"})", "ab-cdefb-f");
+    row(R"({"createMaps": 1})", "ab-cdef&DV&");
+    row(R"({"rename": "x", "lineMap": "1-2"})", "xx-cdef");
+}
+
+void tst_Document::lineMaps()
+{
+    QFETCH(QString, operation);
+    openOnly("xy", 6);
+    for (std::uint32_t map = 1; map <= 6; ++map)
+        document().execute(
+            RenameLineMaps {NumberSet::bitmapOf(1, map), std::string(1, char('a' + map - 1))});
+    execute(R"({"active": "LineMaps", "maps": "2", "op": "remove"})");
+    execute(operation.toUtf8());
+    QString names;
+    for (CvlInt64 map = 1; map <= frame().lineMapCount(); ++map) {
+        names += QString::fromStdString(
+            std::get<std::string>(document().read({"LineMap", "Name"}, map).value()));
+        if (!frame().activeLineMaps().contains(static_cast<std::uint32_t>(map)))
+            names += '-';
+    }
+    QTEST(names, "names");
+}
+
+void tst_Document::fillsInNames_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("shown"); // of map 2: Moment over Time
+    QTest::addColumn<int>("plotType");
+    const auto row = [](const char* name, const char* stored, const char* shown, int plotType = 3) {
+        QTest::newRow(name) << stored << shown << plotType;
+    };
+    row("dependent", "&DV&", "Moment");
+    row("numbers", "&D#&/&I#&/&Z#&/&M#&/&X#&/&Y#&", "3/1/1/2/1/1");
+    row("independent and zone", "&IV& in &ZN&", "Time in Zone 1");
+    row("polar", "&DV& of &IV&", "Gain of Angle", 5);
+    row("unknown token", "&QQ& &dv& &DV", "&QQ& &dv& &DV");
+    row("ampersand before a token", "&&DV&&", "&Moment&");
+    row("empty", "", "");
+    row("unicode", "ζ &M#&", "ζ 2");
+}
+
+void tst_Document::fillsInNames()
+{
+    QFETCH(QString, stored);
+    QFETCH(int, plotType);
+    openOnly("xy", 6);
+    document().execute(SetStyle {{"PlotType"}, double(plotType)});
+    document().execute(RenameLineMaps {NumberSet::bitmapOf(1, 2), stored.toStdString()});
+    char* text = CvlUtilLineMapGetNameForFrame(frame().id(), 2);
+    QTEST(QString::fromUtf8(text), "shown");
+    CvlUtilStringDealloc(&text);
 }
 
 void tst_Document::colors()
@@ -199,7 +236,7 @@ void tst_Document::colors()
     QVERIFY(!CvlUtilColorGetRGB(64, &r, &g, &b));
     QCOMPARE(int(r), 0);
     EventLog log;
-    QVERIFY(Document::instance().setPaletteColor(5, {1, 2, 3}));
+    execute(R"({"paletteColor": 5, "rgb": [1, 2, 3]})");
     QCOMPARE(log.take(), QStringLiteral("22"));
     QVERIFY(CvlUtilColorGetRGB(5, &r, &g, &b));
     QCOMPARE(int(b), 3);

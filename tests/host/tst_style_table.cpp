@@ -22,7 +22,6 @@ private Q_SLOTS:
     void readsSetTexts_data();
     void readsSetTexts();
     void behavesLikePlainVectors();
-    void undoRestoresSharedChunks();
     void rearrangesLikePlainVectors();
     void defaultsCostNextToNothing();
 };
@@ -182,25 +181,6 @@ void tst_StyleTable::behavesLikePlainVectors()
         QCOMPARE(table.real(length, map), lengths[i]);
         QCOMPARE(table.text(character, map), characters[i]);
     }
-}
-
-void tst_StyleTable::undoRestoresSharedChunks()
-{
-    MapTable table(Scope::FieldMap);
-    table.setCount(5000);
-    const Attribute& group = attributeOf({"FieldMap", "Group"});
-    const auto whole = table.plan(group, allUpTo(5000), std::int32_t(4));
-    table.apply(group, whole, true);
-    QCOMPARE(whole.front().after, whole[1].after); // one chunk serves all that are filled whole
-    const auto one = table.plan(group, allUpTo(1), std::int32_t(5));
-    QCOMPARE(one.size(), std::size_t(1));
-    table.apply(group, one, true);
-    QCOMPARE(table.integer(group, 1), 5);
-    QCOMPARE(table.integer(group, 1025), 4);
-    table.apply(group, one, false);
-    table.apply(group, whole, false);
-    QCOMPARE(table.integer(group, 1), 1);
-    QCOMPARE(table.integer(group, 5000), 1);
 }
 
 void tst_StyleTable::rearrangesLikePlainVectors()

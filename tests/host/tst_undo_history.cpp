@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "event_log.h"
-#include "samples/demo_data.h"
 #include "sdk/base/cvl.h"
+#include "tests/host/document_driver.h"
+#include "tests/host/event_log.h"
 
 #include <QtTest>
 
 using namespace corvala;
 using namespace corvala::host;
-
-using Steps = std::function<void()>;
-Q_DECLARE_METATYPE(Steps)
+using namespace corvala::tests;
 
 class tst_UndoHistory : public QObject
 {
@@ -17,190 +15,155 @@ class tst_UndoHistory : public QObject
 
 private Q_SLOTS:
     void init();
-    void changesOutsideGesturesAreSteps();
-    void aGestureIsOneStep();
-    void bracketsNestAndJoin();
-    void discardTakesBack();
-    void withoutCommitNothingIsJoined();
-    void emptyBracketsLeaveNothing();
-    void undoInsideABracketIsRefused();
+    void steps_data();
+    void steps();
+    void textsOfSteps();
     void announcesWhatCameBack_data();
     void announcesWhatCameBack();
     void aLargeStepIsAnnouncedOnce();
     void undoGoesToItsFrame();
-    void openingForgets();
 
 private:
-    static int group(CvlInt64 map);
-    static void setGroup(const std::string& maps, int value)
+    static UndoHistory& undo() { return document().undo(); }
+    static void setGroup(const char* maps, int value)
     {
-        QCOMPARE(writeStyle({"FieldMap", "Group"}, maps, double(value)), StyleWrite_Ok);
+        const NumberSet set = numbersFromText(maps, 0);
+        QVERIFY(document().execute(SetStyle {{"FieldMap", "Group"}, double(value), set}).isDone());
     }
-    static UndoHistory& undo() { return Document::instance().undo(); }
+    static void play(char command, int value);
 };
 
 void tst_UndoHistory::init()
 {
-    Document::instance().clear();
+    openOnly("field2d", 12);
     undo().endGesture();
+}
+
+void tst_UndoHistory::steps_data()
+{
+    QTest::addColumn<QString>("script"); // see play
+    QTest::addColumn<int>("steps");
+    QTest::addColumn<QString>("groups"); // of maps 1 to 5, which were 1
+    const auto row = [](const char* name, const char* script, int steps, const char* groups) {
+        QTest::newRow(name) << script << steps << groups;
+    };
+    row("each is a step", "12", 2, "23111");
+    row("undone", "12u", 1, "21111");
+    row("redone, and nothing else is", "12urr", 2, "23111");
+    row("a gesture is one step", "4g12g3.5", 4, "34526");
+    row("and undone as one", "4g12g3.5uuu", 1, "11121");
+    row("and redone as one", "4g12g3.5uuur", 2, "34121");
+    row("an open bracket", "(1(2)3", 0, "23411");
+    row("brackets nest and join", "(1(2)3)", 1, "23411");
+    row("and are undone as one", "(1(2)3)u", 0, "11111");
+    row("discarded", "1(121!", 1, "21111");
+    row("not joined", "(11/", 2, "31111");
+    row("not joined, undone", "(11/u", 1, "21111");
+    row("empty brackets, and one too many", "())1", 1, "21111");
+    row("no undo in a bracket", "1(u)", 1, "21111");
+    row("opening forgets", "1o", 0, "11111");
+}
+
+/// A digit gives the map of that number a group; u, r: undo, redo; g, .: a gesture begins, ends;
+/// (: a bracket; ), /, !: it ends as one step, separate steps, discarded; o: data are opened.
+void tst_UndoHistory::play(char command, int value)
+{
     std::string error;
-    QVERIFY(samples::openDemo("field2d", 12, error));
+    switch (command) {
+    case 'u': undo().undo(); break;
+    case 'r': undo().redo(); break;
+    case 'g': undo().beginGesture(); break;
+    case '.': undo().endGesture(); break;
+    case '(': CvlUtilUndoStateBegin(UndoKind_StyleGroup); break;
+    case ')': CvlUtilUndoStateEnd(0, 1); break;
+    case '/': CvlUtilUndoStateEnd(0, 0); break;
+    case '!': CvlUtilUndoStateEnd(1, 0); break;
+    case 'o': QVERIFY(samples::openDemo("field2d", 12, error)); break;
+    default: setGroup(std::string(1, command).c_str(), value);
+    }
 }
 
-int tst_UndoHistory::group(CvlInt64 map)
+void tst_UndoHistory::steps()
 {
-    static const AttributeId attribute = Schema::instance().find({"FieldMap", "Group"});
-    return Document::instance().activeFrame()->fieldInteger(attribute, map);
+    QFETCH(QString, script);
+    int value = 1;
+    for (const char command : script.toStdString())
+        play(command, std::isdigit(command) ? ++value : 0);
+    QString groups;
+    for (CvlInt64 map = 1; map <= 5; ++map)
+        groups += QString::number(fieldValue({"FieldMap", "Group"}, map));
+    QTEST(groups, "groups");
+    QTEST(undo().stepCount(), "steps");
 }
 
-void tst_UndoHistory::changesOutsideGesturesAreSteps()
+void tst_UndoHistory::textsOfSteps()
 {
-    setGroup("1", 2);
-    setGroup("2", 3);
-    QCOMPARE(undo().stepCount(), 2);
-    QVERIFY(undo().undo());
-    QCOMPARE(group(1), 2);
-    QCOMPARE(group(2), 1);
-    QVERIFY(undo().redo());
-    QCOMPARE(group(2), 3);
-    QVERIFY(!undo().redo());
-}
-
-void tst_UndoHistory::aGestureIsOneStep()
-{
-    setGroup("4", 9);
     undo().beginGesture();
     setGroup("1", 2);
+    setGroup("2", 2); // the same text
     setGroup("2", 3);
-    undo().beginGesture();
-    setGroup("3", 4);
-    undo().endGesture();
-    setGroup("5", 5);
-    QCOMPARE(undo().stepCount(), 4);
-    for (int i = 0; i < 3; ++i)
-        undo().undo();
-    QCOMPARE(group(1) + group(2) + group(3) + group(5), 4);
-    QCOMPARE(group(4), 9);
-    undo().redo();
-    QCOMPARE(group(1), 2);
-    QCOMPARE(group(2), 3);
-    QCOMPARE(undo().undoText(),
-             QStringLiteral("Group number = 2 (1 field map); Group number = 3 (1 field map)"));
-}
-
-void tst_UndoHistory::bracketsNestAndJoin()
-{
-    CvlUtilUndoStateBegin(UndoKind_StyleGroup);
-    setGroup("1", 2);
-    CvlUtilUndoStateBegin(UndoKind_StyleGroup);
-    setGroup("2", 2);
-    CvlUtilUndoStateEnd(0, 1);
-    setGroup("3", 2);
-    QCOMPARE(undo().stepCount(), 0);
-    CvlUtilUndoStateEnd(0, 1);
-    QCOMPARE(undo().stepCount(), 1);
-    undo().undo();
-    QCOMPARE(group(1) + group(2) + group(3), 3);
-}
-
-void tst_UndoHistory::discardTakesBack()
-{
-    setGroup("1", 7);
-    EventLog log;
-    CvlUtilUndoStateBegin(UndoKind_StyleGroup);
-    setGroup("1,2", 2);
-    setGroup("1", 3);
-    CvlUtilUndoStateEnd(1, 0);
-    QCOMPARE(group(1), 7);
-    QCOMPARE(group(2), 1);
-    QCOMPARE(undo().stepCount(), 1);
-    QVERIFY(log.take().endsWith(QStringLiteral("44")));
-}
-
-void tst_UndoHistory::withoutCommitNothingIsJoined()
-{
-    CvlUtilUndoStateBegin(UndoKind_StyleGroup);
-    setGroup("1", 2);
-    setGroup("1", 3);
-    CvlUtilUndoStateEnd(0, 0);
-    QCOMPARE(undo().stepCount(), 2);
-    QVERIFY(undo().undo());
-    QCOMPARE(group(1), 2);
-    QVERIFY(undo().redo());
-    QCOMPARE(group(1), 3);
-}
-
-void tst_UndoHistory::emptyBracketsLeaveNothing()
-{
-    CvlUtilUndoStateBegin(UndoKind_StyleGroup);
-    CvlUtilUndoStateEnd(0, 1);
-    CvlUtilUndoStateEnd(0, 1); // none is open
-    QCOMPARE(undo().stepCount(), 0);
-    setGroup("1", 2);
-    QCOMPARE(undo().stepCount(), 1);
-}
-
-void tst_UndoHistory::undoInsideABracketIsRefused()
-{
-    setGroup("1", 2);
-    CvlUtilUndoStateBegin(UndoKind_StyleGroup);
-    QVERIFY(!undo().undo());
-    CvlUtilUndoStateEnd(0, 1);
-    QVERIFY(undo().undo());
+    const QString two = "Group number = 2 (1 field map); Group number = 3 (1 field map)";
+    QCOMPARE(undo().undoText(), two);
+    setGroup("1-2", 4);
+    setGroup("1-2", 5);
+    QCOMPARE(undo().undoText(), two + "; Group number = 4 (2 field maps); ...");
 }
 
 void tst_UndoHistory::announcesWhatCameBack_data()
 {
-    QTest::addColumn<Steps>("make");
+    QTest::addColumn<QStringList>("operations");
     QTest::addColumn<QString>("events");
-    QTest::addColumn<QString>("again"); // of undo and redo, if another order
-    const auto document = []() -> Document& { return Document::instance(); };
-    QTest::newRow("style") << Steps([] { setGroup("3-5", 2); }) << "7:FieldMap"
-                           << "";
-    QTest::newRow("contour group") << Steps([] {
-        writeStyle({"ContourGroups", "Var"}, "", 4.0, 255, 3);
-    }) << "7:ContourGroups 21"
-                                   << "";
-    QTest::newRow("zone name") << Steps([=] { document().renameZone(2, "x"); }) << "14"
-                               << "";
-    QTest::newRow("variable name") << Steps([=] { document().renameVariable(2, "x"); }) << "16"
-                                   << "";
-    QTest::newRow("fewer field maps")
-        << Steps([=] { document().deleteFieldMaps(allUpTo(2)); }) << "2 10"
-        << "";
-    QTest::newRow("more line maps")
-        << Steps([=] { document().createLineMaps(2); }) << "7:ActiveLineMaps 3"
-        << "";
-    QTest::newRow("a plot type comes first") << Steps([] {
-        setGroup("1", 2);
-        writeStyle({"PlotType"}, "", double(PlotType_LineXY));
-    }) << "7:FieldMap 7:PlotType"
-                                             << "7:PlotType 7:FieldMap";
+    QTest::addColumn<QString>("undone");
+    QTest::addColumn<QString>("redone");
+    const auto row = [](const char* name, const QStringList& operations, const char* events,
+                        const char* undone = nullptr, const char* redone = nullptr) {
+        QTest::newRow(name) << operations << events << (undone ? undone : events)
+                            << (redone ? redone : events);
+    };
+    const QString style = R"({"set": ["FieldMap", "Group"], "maps": "3-5", "value": 2})";
+    row("style", {style}, "7:FieldMap");
+    row("active maps", {R"({"active": "FieldZones", "maps": "3", "op": "remove"})"},
+        "7:ActiveFieldZones");
+    row("contour group", {R"({"set": ["ContourGroups", "Var", 3], "value": 4})"},
+        "7:ContourGroups 21");
+    row("zone name", {R"({"rename": "x", "zone": 2})"}, "14");
+    row("variable name", {R"({"rename": "x", "variable": 2})"}, "16");
+    row("enabled zones", {R"({"enableZones": "2"})"}, "10");
+    row("enabled variables", {R"({"enableVariables": "2"})"}, "11");
+    row("colour", {R"({"paletteColor": 5, "rgb": [1, 2, 3]})"}, "22");
+    row("fewer field maps", {R"({"deleteMaps": "1-2"})"}, "2 10");
+    row("more line maps", {R"({"createMaps": 2})"}, "7:ActiveLineMaps 3");
+    row("name of line maps", {R"({"createMaps": 2})", R"({"rename": "x", "lineMap": 2})"},
+        "7:ActiveLineMaps 3 17", "17 7:ActiveLineMaps 3");
+    row("a plot type comes first", {style, R"({"plotType": 3})"}, "7:FieldMap 7:PlotType",
+        "7:PlotType 7:FieldMap", "7:PlotType 7:FieldMap");
 }
 
 void tst_UndoHistory::announcesWhatCameBack()
 {
-    QFETCH(Steps, make);
+    QFETCH(QStringList, operations);
     QFETCH(QString, events);
-    QFETCH(QString, again);
+    QFETCH(QString, undone);
+    QFETCH(QString, redone);
     EventLog log;
     undo().begin(UndoKind_StyleGroup);
-    make();
+    for (const QString& operation : operations)
+        QCOMPARE(execute(operation.toUtf8()), StyleWrite_Ok);
     undo().end(UndoHistory::Closing::OneStep);
     QCOMPARE(log.take(), events);
     undo().undo();
-    QCOMPARE(log.take(), (again.isEmpty() ? events : again) + QStringLiteral(" 44"));
+    QCOMPARE(log.take(), undone + QStringLiteral(" 44"));
     undo().redo();
-    QCOMPARE(log.take(), (again.isEmpty() ? events : again) + QStringLiteral(" 56"));
+    QCOMPARE(log.take(), redone + QStringLiteral(" 56"));
 }
 
 void tst_UndoHistory::aLargeStepIsAnnouncedOnce()
 {
     undo().begin(UndoKind_StyleGroup);
     setGroup("5", 3);
-    Document::instance().deleteFieldMaps(allUpTo(10));
+    document().execute(DeleteMaps {allUpTo(10)});
     for (int i = 0; i < 1000; ++i)
-        setGroup(std::to_string(i % 2 + 1), i + 2);
+        setGroup(i % 2 ? "1" : "2", i + 2);
     undo().end(UndoHistory::Closing::OneStep);
     EventLog log;
     undo().undo();
@@ -211,22 +174,14 @@ void tst_UndoHistory::aLargeStepIsAnnouncedOnce()
 
 void tst_UndoHistory::undoGoesToItsFrame()
 {
-    const CvlUniqueId first = Document::instance().activeFrameId();
+    const CvlUniqueId first = document().activeFrameId();
     setGroup("1", 2);
-    Document::instance().addFrame();
+    document().execute(AddFrame {});
     EventLog log;
     undo().undo();
     QCOMPARE(log.take(), QStringLiteral("51 7:FieldMap 44"));
-    QCOMPARE(Document::instance().activeFrameId(), first);
-    QCOMPARE(group(1), 1);
-}
-
-void tst_UndoHistory::openingForgets()
-{
-    setGroup("1", 2);
-    std::string error;
-    QVERIFY(samples::openDemo("field3d", 4, error));
-    QCOMPARE(undo().stepCount(), 0);
+    QCOMPARE(document().activeFrameId(), first);
+    QCOMPARE(fieldValue({"FieldMap", "Group"}, 1), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_UndoHistory)

@@ -33,16 +33,12 @@ static std::vector<std::string> names(const QString& path)
 
 bool setStyle(const QString& path, const std::string& maps, double value, CvlInt64 index)
 {
-    host::NumberSet set;
-    host::StyleWrite request;
-    request.path = names(path);
-    if (!maps.empty() && host::fromText(maps, 1000000, set))
-        request.objects = &set;
-    request.value = value;
-    request.offset1 = index;
-    const StyleWriteResult_e result = Document::instance().write(request);
+    host::SetStyle set {names(path), value, {}, index};
+    if (host::NumberSet numbers; host::fromText(maps, 1000000, numbers))
+        set.maps = numbers;
+    const bool isDone = Document::instance().execute(set).isDone();
     takeWrites();
-    return result <= StyleWrite_Unchanged;
+    return isDone;
 }
 
 static QString valueText(const host::StyleInput& value)
@@ -56,26 +52,31 @@ static QString valueText(const host::StyleInput& value)
     return QString::fromStdString(host::toText(std::get<host::NumberSet>(value), 0));
 }
 
-static QString writeText(const host::StyleWriteRecord& record)
+static QString writeText(const host::SetStyle& write, const host::Outcome& outcome)
 {
     QStringList names;
-    for (const std::string& name : record.path)
+    for (const std::string& name : write.path)
         names << QString::fromStdString(name);
     QString text = names.join('.');
-    if (!record.objects.isEmpty())
-        text += ' ' + QString::fromStdString(host::toText(record.objects, 0));
-    text += record.op == 1 ? " + " : record.op == 2 ? " - " : " = ";
-    text += valueText(record.value);
-    return record.result > StyleWrite_Unchanged ? text + QString(" (%1)").arg(record.result) : text;
+    if (write.maps && !write.maps->isEmpty())
+        text += ' ' + QString::fromStdString(host::toText(*write.maps, 0));
+    text += write.op == AssignOp_Add ? " + " : write.op == AssignOp_Remove ? " - " : " = ";
+    text += valueText(write.value);
+    return outcome.isDone() ? text : text + QString(" (%1)").arg(outcome.result);
 }
 
 QString takeWrites()
 {
-    QStringList texts;
-    for (const host::StyleWriteRecord& record : Document::instance().writeRecords())
-        texts << writeText(record);
-    Document::instance().clearWriteRecords();
-    return texts.join("; ");
+    static QStringList texts;
+    static const boost::signals2::scoped_connection recorder =
+        Document::instance().executed().connect(
+            [](const host::Operation& operation, const host::Outcome& outcome) {
+                if (const auto* write = std::get_if<host::SetStyle>(&operation))
+                    texts << writeText(*write, outcome);
+            });
+    const QString taken = texts.join("; ");
+    texts.clear();
+    return taken;
 }
 
 QString cellText(const ModelAbstract& model, int row, int column)

@@ -267,7 +267,7 @@ void tst_StyleActions::selectsAVariable()
     QVERIFY(openDemo("xy"));
     corvala::host::NumberSet enabled = corvala::host::allUpTo(7);
     enabled.remove(2);
-    QVERIFY(Document::instance().enableVariables(enabled));
+    QVERIFY(Document::instance().execute(corvala::host::EnableVariables {enabled}).isDone());
     QVERIFY(setStyle("LineMap.Assign.XAxisVar", "3", 4));
 
     VariableSelectAction action("Select Variable...", lineRows({2, 0}), "Choose", "The variable",

@@ -189,11 +189,11 @@ void tst_TableModels::areWellBehaved()
     m_model->setData(m_model->index(1, m_model->columnCount() - 1), Qt::Checked,
                      Qt::CheckStateRole);
     test();
-    Document::instance().detachDataSet();
+    Document::instance().execute(corvala::host::DetachData {});
     QCOMPARE(m_model->rowCount(), 0);
     test();
     while (Document::instance().frameCount() > 0)
-        Document::instance().deleteFrame(Document::instance().activeFrameId());
+        Document::instance().execute(corvala::host::DeleteFrame {});
     QCOMPARE(m_model->rowCount(), 0);
     test();
 }
@@ -547,7 +547,7 @@ void tst_TableModels::confirmZonesForTheEditedMaps()
     auto data =
         std::make_shared<corvala::host::DataSet>(*Document::instance().activeFrame()->data());
     data->variables.push_back({"Missing", {}, "no such array", 0});
-    Document::instance().attachDataSet(data, PlotType_LineXY, 3);
+    Document::instance().execute(corvala::host::AttachData {{}, data, PlotType_LineXY, 3});
     QVERIFY(setStyle("LineMap.Assign.YAxisVar", "2", 8));
     ModalResponder user;
     QVERIFY(m_model->setData(m_model->index(0, columnOf("Zone")), "2: Zone 2"));
@@ -562,7 +562,8 @@ void tst_TableModels::listEnabledOnly()
     open("xy");
     corvala::host::NumberSet some = corvala::host::allUpTo(4);
     some.remove(1);
-    QVERIFY(Document::instance().enableZones(some) && Document::instance().enableVariables(some));
+    QVERIFY(Document::instance().execute(corvala::host::EnableZones {some}).isDone()
+            && Document::instance().execute(corvala::host::EnableVariables {some}).isDone());
     const QModelIndex zone = m_model->index(0, columnOf("Zone"));
     const QModelIndex variable = m_model->index(0, columnOf("X-Axis Variable"));
     QCOMPARE(zone.data(Qt::EditRole).toStringList().join('|'),
@@ -587,22 +588,21 @@ void tst_TableModels::showStrands()
         QVERIFY(!m_model->index(1, column).data(Qt::ToolTipRole).isValid());
         QVERIFY(!m_model->index(3, column).data(Qt::ToolTipRole).isValid());
     }
-    QVERIFY(Document::instance().setSolutionTime(2));
+    QVERIFY(Document::instance().execute(corvala::host::SetSolutionTime {2}).isDone());
     QCOMPARE(columnText(*m_model, FieldStaticAreaModel::ZoneNumber), QString("1|4*|6*"));
 }
 
 void tst_TableModels::followTheActiveFrame()
 {
     open("mesh");
-    const CvlUniqueId first = Document::instance().activeFrameId();
     QVERIFY(m_model->isForCurrentFrame());
-    Document::instance().addFrame();
+    Document::instance().execute(corvala::host::AddFrame {});
     QCOMPARE(m_model->rowCount(), 0);
     QVERIFY(!m_model->isForCurrentFrame()); // no data
     std::string error;
     QVERIFY(corvala::samples::openDemo("field2d", 5, error));
     QCOMPARE(m_model->rowCount(), 5);
-    QVERIFY(Document::instance().activateFrame(first));
+    Document::instance().execute(corvala::host::ActivateFrame {1});
     QCOMPARE(m_model->rowCount(), 12);
     QVERIFY(m_model->isForCurrentFrame());
 }

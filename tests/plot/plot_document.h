@@ -36,28 +36,22 @@ inline host::NumberSet mapsOf(const char* text)
 /// value of the frame. Fails the test program for a value that is not accepted.
 inline void write(const char* path, const char* maps, double value, std::int64_t offset = -1)
 {
-    host::StyleWrite request;
+    host::SetStyle set {{}, value, {}, offset};
     for (const QString& name : QString::fromUtf8(path).split(QLatin1Char('/')))
-        request.path.push_back(name.toStdString());
-    host::NumberSet set;
-    if (*maps != '\0') {
-        set = mapsOf(maps);
-        request.objects = &set;
-    }
-    request.offset1 = offset;
-    request.value = value;
-    if (document().write(request) > StyleWrite_Unchanged)
+        set.path.push_back(name.toStdString());
+    if (*maps != '\0')
+        set.maps = mapsOf(maps);
+    if (!document().execute(set).isDone())
         throw std::runtime_error(path);
 }
 
 /// Adds maps to the active ones, or removes them.
 inline void activate(const char* maps, bool on)
 {
-    host::StyleWrite request;
-    request.path = {"ActiveFieldMaps"};
-    request.op = static_cast<int>(on ? host::AssignOp::Add : host::AssignOp::Remove);
-    request.value = mapsOf(maps);
-    if (document().write(request) > StyleWrite_Unchanged)
+    const AssignOp_e op = on ? AssignOp_Add : AssignOp_Remove;
+    if (!document()
+             .execute(host::SetStyle {{"ActiveFieldMaps"}, mapsOf(maps), {}, -1, op})
+             .isDone())
         throw std::runtime_error(maps);
 }
 

@@ -425,7 +425,7 @@ void tst_FieldCanvas::badPictures()
     QVERIFY(!error.isEmpty());
     QVERIFY(!renderToImage(frame, {1, 1}, &error).isNull());
     QVERIFY(error.isEmpty());
-    document().detachDataSet();
+    document().execute(host::DetachData {});
     QVERIFY(renderToImage(frame, kSize, &error).isNull());
     QVERIFY(renderToImage(frame, kSize, nullptr).isNull());
 }
@@ -455,7 +455,7 @@ void tst_FieldCanvas::oneRedrawPerIdleMoment()
     shown.settle();
     QCOMPARE(shown.canvas.redrawCount(), before + 1);
     write("FieldMap/Group", "all", 3); // draws nothing
-    document().renameZone(1, "wing");
+    document().execute(host::RenameZone {1, "wing"});
     shown.settle();
     QCOMPARE(shown.canvas.redrawCount(), before + 1);
 }
@@ -549,7 +549,7 @@ void tst_FieldCanvas::viewsAreKeptByFrameAndPlotType()
     QVERIFY(shareOfChange(shown.canvas.grab().toImage(), turned) < 0.001);
 
     const CvlUniqueId first = document().activeFrameId();
-    document().addFrame();
+    document().execute(host::AddFrame {});
     std::string error;
     QVERIFY(samples::openDemo("field2d", 0, error));
     shown.canvas.setFrame(document().activeFrameId());
@@ -589,15 +589,15 @@ void tst_FieldCanvas::viewWidensForOtherTimes()
         data->zones.push_back(zone);
     }
     data->source = std::make_shared<Wanderer>();
-    document().attachDataSet(data, PlotType_Field2D, 0);
+    document().execute(host::AttachData {{}, data, PlotType_Field2D, 0});
     ShownCanvas shown;
     const auto right = [&] { return shown.canvas.view().camera().fitBox.GetMaxPoint()[0]; };
     QCOMPARE(right(), 1.0);
-    document().setSolutionTime(2.0);
+    document().execute(host::SetSolutionTime {2.0});
     shown.settle();
     QCOMPARE(right(), 21.0);
     QCOMPARE(shown.canvas.view().camera().fitBox.GetMinPoint()[0], 0.0);
-    document().setSolutionTime(1.0); // inside of what is seen already
+    document().execute(host::SetSolutionTime {1.0}); // inside of what is seen already
     shown.settle();
     QCOMPARE(right(), 21.0);
     shown.canvas.fitView();
@@ -605,7 +605,7 @@ void tst_FieldCanvas::viewWidensForOtherTimes()
     QCOMPARE(right(), 11.0);
     const QPoint middle = shown.canvas.rect().center();
     shown.drag(middle, middle + QPoint(60, 30));
-    document().setSolutionTime(2.0); // the user's view stays
+    document().execute(host::SetSolutionTime {2.0}); // the user's view stays
     shown.settle();
     QCOMPARE(right(), 11.0);
 }
@@ -709,7 +709,7 @@ static int reportPictures()
         const host::io::ReadResult read = host::io::DataReader::read(request);
         if (!read.data)
             return 1;
-        document().attachDataSet(read.data, read.data->suggestedPlotType(), 0);
+        document().execute(host::AttachData {{}, read.data, read.data->suggestedPlotType(), 0});
         report(qPrintable(sample.title));
     }
     return 0;

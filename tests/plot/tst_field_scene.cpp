@@ -289,7 +289,7 @@ void tst_FieldScene::activeMapsOnly()
     QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 9);
     host::NumberSet zones = host::allUpTo(12);
     zones.remove(1);
-    document().enableZones(zones);
+    document().execute(host::EnableZones {zones});
     work();
     QVERIFY(!layer(FieldLayer::Mesh).geometry(1));
 }
@@ -378,7 +378,7 @@ void tst_FieldScene::levelsDoNotDependOnTime()
     const int revision = m_scene->groups().revision(1);
     const double maximum = m_scene->groups().maximum(1);
     for (const double time : {1.0, 3.0, 2.0}) {
-        document().setSolutionTime(time);
+        document().execute(host::SetSolutionTime {time});
         work();
         QCOMPARE(m_scene->groups().revision(1), revision);
     }
@@ -395,34 +395,33 @@ void tst_FieldScene::timeShowsOtherZones()
     QVERIFY(!layer(FieldLayer::Mesh).geometry(3));
     vtkPolyData* const fixed = layer(FieldLayer::Mesh).geometry(1);
     vtkPolyData* const first = layer(FieldLayer::Mesh).geometry(2);
-    document().setSolutionTime(2.0);
+    document().execute(host::SetSolutionTime {2.0});
     work();
     QCOMPARE(layer(FieldLayer::Mesh).geometry(1), fixed);
     QVERIFY(layer(FieldLayer::Mesh).geometry(2) != first);
     QVERIFY(layer(FieldLayer::Mesh).geometry(3));
-    document().setSolutionTime(0.0);
+    document().execute(host::SetSolutionTime {0.0});
     work();
     QVERIFY(!layer(FieldLayer::Mesh).geometry(3));
 }
 
 void tst_FieldScene::changesOfTheDocument()
 {
-    document().deleteFieldMaps(mapsOf("2-3"));
+    document().execute(host::DeleteMaps {mapsOf("2-3")});
     work();
     QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 10);
     document().undo().undo();
     work();
     QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 12);
-    document().setPaletteColor(1, {12, 34, 56});
+    document().execute(host::SetPaletteColor {1, {12, 34, 56}});
     write("FieldMap/Mesh/Color", "all", 1);
     work();
-    const CvlUniqueId frame = document().activeFrameId();
-    document().addFrame();
-    document().activateFrame(frame);
+    document().execute(host::AddFrame {});
+    document().execute(host::ActivateFrame {1});
     QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 12);
-    document().renameVariable(1, "East");
+    document().execute(host::RenameVariable {1, "East"});
     QCOMPARE(m_scene->axisTitles()[0], QStringLiteral("East"));
-    document().detachDataSet();
+    document().execute(host::DetachData {});
     work();
     QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 0);
     QVERIFY(!m_scene->bounds().IsValid());
@@ -536,8 +535,8 @@ void tst_FieldScene::largeZonesAreMadeElsewhere()
     data->variables = {{"X", {}, {}, 0}, {"Y", {}, {}, 1}};
     data->contourVariables = {1};
     document().clear();
-    document().addFrame();
-    document().attachDataSet(data, PlotType_Field2D, 0);
+    document().execute(host::AddFrame {});
+    document().execute(host::AttachData {{}, data, PlotType_Field2D, 0});
     write("FieldLayers/ShowContour", "", 1);
     m_scene->setFrame(document().activeFrameId());
     m_scene->advance(0);

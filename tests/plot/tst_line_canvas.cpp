@@ -85,7 +85,7 @@ void tst_LineCanvas::curvesOfActiveMaps()
     document().undo().undo();
     shown.settle();
     QCOMPARE(shown.lineCount(), 6);
-    document().deleteLineMaps(mapsOf("1-4"));
+    document().execute(host::DeleteMaps {mapsOf("1-4")});
     shown.settle();
     QCOMPARE(shown.lineCount(), 2);
     document().clear();
@@ -152,12 +152,12 @@ void tst_LineCanvas::editsTouchWhatTheyName()
 void tst_LineCanvas::zonesWithoutTheVariable()
 {
     openDemo("field2d");
-    document().createLineMaps(2);
+    document().execute(host::CreateLineMaps {2});
     write("PlotType", "", PlotType_LineXY);
     ShownCanvas shown;
     QCOMPARE(shown.lineCount(), 2);
     QVERIFY(!shown.canvas.render(kSize, nullptr).isNull());
-    document().detachDataSet();
+    document().execute(host::DetachData {});
     shown.settle();
     QCOMPARE(shown.lineCount(), 0);
 }
@@ -197,7 +197,7 @@ void tst_LineCanvas::titles()
     };
     QCOMPARE(title(QCPAxis::atBottom), QStringLiteral("Time"));
     QCOMPARE(title(QCPAxis::atLeft), QStringLiteral("Force, Moment, Power"));
-    document().renameVariable(2, "Kraft");
+    document().execute(host::RenameVariable {2, "Kraft"});
     write("LineMap/Lines/Show", "2-6", 0);
     shown.settle();
     QCOMPARE(title(QCPAxis::atLeft), QStringLiteral("Kraft"));
@@ -257,7 +257,7 @@ void tst_LineCanvas::viewsAreKept()
     write("LinePlotLayers/ShowLines", "", 0);
     write("LinePlotLayers/ShowSymbols", "", 1);
     write("LinePlotLayers/ShowLines", "", 1);
-    document().createLineMaps(1);
+    document().execute(host::CreateLineMaps {1});
     shown.settle();
     QCOMPARE(across(), moved);
     for (const int plotType : {PlotType_LinePolar, PlotType_Field2D, PlotType_LineXY}) {
@@ -321,7 +321,7 @@ void tst_LineCanvas::longWorkIsReported()
     zone.pointCount = Cloud::kPoints;
     data->zones = {zone};
     data->source = std::make_shared<Cloud>();
-    document().attachDataSet(data, PlotType_LineXY, 1);
+    document().execute(host::AttachData {{}, data, PlotType_LineXY, 1});
     LineCanvas canvas;
     canvas.resize(kSize);
     canvas.setFrame(document().activeFrameId());
@@ -368,9 +368,9 @@ void tst_LineCanvas::viewChoosesTheCanvas()
     const CvlUniqueId first = document().activeFrameId();
     document().undo().undo();
     QVERIFY(view.canvas());
-    document().addFrame();
+    document().execute(host::AddFrame {});
     QVERIFY(!view.canvas());
-    document().activateFrame(first);
+    document().execute(host::ActivateFrame {1});
     QCOMPARE(view.canvas()->frame(), first);
 }
 

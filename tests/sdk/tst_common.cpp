@@ -55,14 +55,11 @@ void openCellData()
     zone.pointCount = 3;
     data->zones = {zone};
     data->source = std::make_shared<LineSource>();
-    Document::instance().attachDataSet(data, PlotType_LineXY, 3);
+    Document::instance().execute(host::AttachData {{}, data, PlotType_LineXY, 3});
     for (const int map : {1, 2, 3}) {
-        host::StyleWrite request;
         const host::NumberSet one = host::NumberSet::bitmapOf(1, map);
-        request.path = {"LineMap", "Assign", "YAxisVar"};
-        request.objects = &one;
-        request.value = map + 1.0;
-        Document::instance().write(request);
+        Document::instance().execute(
+            host::SetStyle {{"LineMap", "Assign", "YAxisVar"}, map + 1.0, one});
     }
 }
 
@@ -106,10 +103,7 @@ private:
     }
     static void setFrameValue(std::vector<std::string> path, double value)
     {
-        host::StyleWrite request;
-        request.path = std::move(path);
-        request.value = value;
-        QCOMPARE(Document::instance().write(request), StyleWrite_Ok);
+        QVERIFY(Document::instance().execute(host::SetStyle {std::move(path), value}).isDone());
     }
 };
 
@@ -132,13 +126,9 @@ void tst_Common::activeZonesFollowTheirMaps()
 {
     open("transient");
     QCOMPARE(sdk::getActiveZones().count(), CvlInt64(7));
-    host::StyleWrite request;
-    host::NumberSet strand;
-    strand.add(2);
-    request.path = {"ActiveFieldMaps"};
-    request.value = strand;
-    request.op = toolbox::AssignOp_Remove;
-    Document::instance().write(request);
+    const host::NumberSet strand = host::NumberSet::bitmapOf(1, 2);
+    Document::instance().execute(
+        host::SetStyle {{"ActiveFieldMaps"}, strand, {}, -1, AssignOp_Remove});
     const toolbox::Set zones = sdk::getActiveZones();
     QCOMPARE(zones.count(), CvlInt64(3));
     QCOMPARE(zones.next(1), CvlInt64(6));
@@ -267,7 +257,7 @@ void tst_Common::confirmsZonesWithoutPointValues()
 
     auto positions = std::make_shared<host::DataSet>(*Document::instance().activeFrame()->data());
     positions->variables.resize(1);
-    Document::instance().attachDataSet(positions, PlotType_LineXY, 1);
+    Document::instance().execute(host::AttachData {{}, positions, PlotType_LineXY, 1});
     QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({1}))); // its second variable is nowhere
 }
 

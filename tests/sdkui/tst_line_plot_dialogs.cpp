@@ -280,7 +280,7 @@ void TestLinePlotDialogs::createDialogFollowsTheDocument()
     play::enter(*zone, "3:");
     auto* list = fieldLabelled<QListView>(dialog, "&Y-axis variables:");
     list->selectionModel()->select(list->model()->index(2, 0), QItemSelectionModel::Select);
-    host::Document::instance().renameZone(3, "Outlet");
+    host::Document::instance().execute(host::RenameZone {3, "Outlet"});
     QTRY_COMPARE(zone->currentText(), QString("3: Outlet")); // what was chosen stays chosen
     QCOMPARE(list->selectionModel()->selectedIndexes().size(), 1);
     QCOMPARE(list->selectionModel()->selectedIndexes().first().row(), 2);
@@ -434,7 +434,7 @@ void TestLinePlotDialogs::settingsCloseWhenTheirLineMapsAreGone()
     QVERIFY(dialog.isVisible());
     host::Document& document = host::Document::instance();
     if (change == "frame")
-        document.addFrame();
+        document.execute(host::AddFrame {});
     else if (change == "delete")
         CvlUtilLineMapDelete(tests::setOf({4}).handle());
     else if (change == "clear")
@@ -465,7 +465,7 @@ void TestLinePlotDialogs::hiddenDialogsReadNothing()
     create.close();
     const CurveFitCollection fits;
     const CvlInt64 reads = CvlAppGetReadCount();
-    host::Document::instance().renameZone(1, "Inlet");
+    host::Document::instance().execute(host::RenameZone {1, "Inlet"});
     host::Document::instance().undo().undo();
     QTest::qWait(10);
     QCOMPARE(CvlAppGetReadCount(), reads);

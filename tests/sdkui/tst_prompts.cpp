@@ -487,7 +487,7 @@ void TestPrompts::colorByKeyboard()
 
 void TestPrompts::colorByMouseAndItsNames()
 {
-    host::Document::instance().setPaletteColor(12, {0x0a, 0xbc, 0xde});
+    host::Document::instance().execute(host::SetPaletteColor {12, {0x0a, 0xbc, 0xde}});
     ColorChooserWidget chooser(m_window.get(), false, ShowHelpButton_No);
     chooser.show();
     QAbstractButton* button = chooser.colorButton(12);
@@ -645,7 +645,7 @@ void TestPrompts::scatterDialogWritesAndFollows()
 
     sdk::ui::writeStyle({"GlobalScatter", "Var"}, nullptr, 6);
     QTRY_COMPARE(variable->currentText(), QString("6: Density"));
-    host::Document::instance().renameVariable(6, "Rho");
+    host::Document::instance().execute(host::RenameVariable {6, "Rho"});
     QTRY_COMPARE(variable->currentText(), QString("6: Rho"));
     dialog.close();
 }
@@ -659,7 +659,7 @@ void TestPrompts::hiddenPromptsReadNothing()
     ColorChooserWidget chooser(nullptr, true, ShowHelpButton_Yes);
     ZoneSelectDialog::getInstance(m_window.get());
     const CvlInt64 reads = CvlAppGetReadCount();
-    host::Document::instance().renameVariable(6, "Rho");
+    host::Document::instance().execute(host::RenameVariable {6, "Rho"});
     sdk::ui::writeStyle({"GlobalScatter", "Var"}, nullptr, 6);
     QTest::qWait(10);
     QCOMPARE(CvlAppGetReadCount(), reads);

@@ -218,10 +218,11 @@ void TestSignalsAndProperties::observableComesBeforeTheEnginesOtherListeners()
                 if (event.stateChange() == StateCode_ActiveFrameChanged)
                     followed = CvlUtilFrameGetUniqueID();
             });
-    const CvlUniqueId second = document.addFrame();
+    document.execute(host::AddFrame {});
+    const CvlUniqueId second = document.activeFrameId();
     QVERIFY(second != first);
     QCOMPARE(seenByListener, second);
-    document.activateFrame(first);
+    document.execute(host::ActivateFrame {1});
     QCOMPARE(seenByListener, first);
 }
 

@@ -97,7 +97,7 @@ void tst_DialogRefresh::showsWhatTheRefreshFound()
     setStyle("FieldMap.Mesh.MeshType", "3", 2);
     runUntilIdle();
     QVERIFY(cellPicture() != before);
-    QVERIFY(host::Document::instance().deleteFieldMaps(host::allUpTo(4)));
+    QVERIFY(host::Document::instance().execute(host::DeleteMaps {host::allUpTo(4)}).isDone());
     runUntilIdle();
     QCOMPARE(fixture.table().verticalScrollBar()->maximum(), 0);
     QCOMPARE(fixture.table().rowAt(fixture.table().viewport()->height() - 1), -1);
@@ -107,9 +107,9 @@ static void takeAwayWhatIsShown(const QString& how)
 {
     host::Document& document = host::Document::instance();
     if (how == "data")
-        QVERIFY(document.detachDataSet());
+        QVERIFY(document.execute(host::DetachData {}).isDone());
     else if (how == "frame")
-        QVERIFY(document.deleteFrame(document.activeFrameId()));
+        QVERIFY(document.execute(host::DeleteFrame {}).isDone());
     else
         QVERIFY(setStyle("PlotType", "", PlotType_Annotation));
 }
@@ -146,7 +146,7 @@ void tst_DialogRefresh::catchesUpWhenShown()
     DialogFixture fixture("field2d");
     fixture.select({2, 3, 11});
     fixture.dialog().close();
-    QVERIFY(host::Document::instance().deleteFieldMaps(host::allUpTo(2)));
+    QVERIFY(host::Document::instance().execute(host::DeleteMaps {host::allUpTo(2)}).isDone());
     raise(StateCode_PickList);
     runUntilIdle();
     fixture.dialog().launch();
@@ -206,7 +206,7 @@ void tst_DialogRefresh::survivesAnEditorWhoseRowIsGone()
     QTest::keyClicks(editor, "7");
     host::NumberSet last;
     last.add(12);
-    QVERIFY(host::Document::instance().deleteFieldMaps(last));
+    QVERIFY(host::Document::instance().execute(host::DeleteMaps {last}).isDone());
     runUntilIdle();
     takeWrites();
     if (fixture.table().viewport()->findChild<QLineEdit*>() == editor)

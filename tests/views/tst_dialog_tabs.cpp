@@ -237,7 +237,9 @@ void tst_DialogTabs::remembersColumnWidths()
     setStyle("FieldMap.Mesh.MeshType", "1", 0);
     runUntilIdle();
     QCOMPARE(fixture.table().columnWidth(kMeshType), 201);
-    QVERIFY(corvala::host::Document::instance().deleteFieldMaps(corvala::host::allUpTo(2)));
+    QVERIFY(corvala::host::Document::instance()
+                .execute(corvala::host::DeleteMaps {corvala::host::allUpTo(2)})
+                .isDone());
     runUntilIdle();
     QVERIFY(fixture.table().columnWidth(kMeshType) < 201);
 }

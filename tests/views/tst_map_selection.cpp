@@ -72,7 +72,9 @@ void tst_MapSelection::losesRowsThatAreGone()
     QFETCH(QString, deleted);
     DialogFixture fixture("field2d");
     fixture.select({2, 5, 6, 12});
-    QVERIFY(host::Document::instance().deleteFieldMaps(maps(deleted.toStdString())));
+    QVERIFY(host::Document::instance()
+                .execute(host::DeleteMaps {maps(deleted.toStdString())})
+                .isDone());
     runUntilIdle();
     QTEST(fixture.selected(), "selected");
     fixture.clickTab("Contour");
@@ -107,7 +109,7 @@ void tst_MapSelection::keepsItsOrder()
     QCOMPARE(rows(), (QList<int> {7, 2, 9, 12}));
     fixture.clickTab("Contour");
     QCOMPARE(rows(), (QList<int> {7, 2, 9, 12}));
-    QVERIFY(host::Document::instance().deleteFieldMaps(maps("12")));
+    QVERIFY(host::Document::instance().execute(host::DeleteMaps {maps("12")}).isDone());
     runUntilIdle();
     QCOMPARE(rows(), (QList<int> {7, 2, 9}));
     fixture.clickTab("Mesh");
@@ -132,7 +134,9 @@ void tst_MapSelection::isCarriedHoweverScattered()
     QVERIFY(isAlternate());
     fixture.clickTab("Mesh");
     QVERIFY(isAlternate());
-    QVERIFY(host::Document::instance().deleteFieldMaps(maps(std::to_string(kMaps))));
+    QVERIFY(host::Document::instance()
+                .execute(host::DeleteMaps {maps(std::to_string(kMaps))})
+                .isDone());
     runUntilIdle();
     QVERIFY(isAlternate());
     fixture.key(Qt::Key_A, Qt::ControlModifier);
@@ -168,7 +172,7 @@ void tst_MapSelection::takesPickedObjects()
     std::vector<host::Pick> list;
     for (const QPoint& pick : picks)
         list.push_back({pick.x(), pick.y()});
-    host::Document::instance().setPicks(list);
+    host::Document::instance().execute(host::SetPicks {list});
     ZoneStyleDialog::getInstance(fixture.mainWindow(), DialogInitialization_None);
     runUntilIdle();
     QCOMPARE(fixture.selected(), "1-2");
@@ -200,7 +204,8 @@ void tst_MapSelection::takesPickedLineMaps()
     runUntilIdle();
     fixture.dialog().close();
     setStyle("PlotType", "", PlotType_LineXY);
-    host::Document::instance().setPicks({{PickType_LineMap, 5}, {PickType_LineMap, 2}});
+    host::Document::instance().execute(
+        host::SetPicks {{{PickType_LineMap, 5}, {PickType_LineMap, 2}}});
     ZoneStyleDialog& dialog = ZoneStyleDialog::getInstance(
         fixture.mainWindow(), DialogInitialization_SelectPickedObjects);
     if (launchAtOnce)
@@ -214,7 +219,8 @@ void tst_MapSelection::scrollsToTheFirstMatch()
 {
     DialogFixture fixture("field2d", 200);
     for (const int zone : {103, 104, 105, 109})
-        host::Document::instance().renameZone(zone, "inlet " + std::to_string(zone));
+        host::Document::instance().execute(
+            host::RenameZone {zone, "inlet " + std::to_string(zone)});
     runUntilIdle();
     QTest::keyClicks(&fixture.patternField(), "inlet*");
     fixture.button(kApply).click();

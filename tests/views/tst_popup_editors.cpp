@@ -61,7 +61,7 @@ void tst_PopupEditors::closesWithoutAnEditWhenItsMapsChange()
         popup.findChild<QLineEdit*>()->setText("6");
         host::NumberSet last;
         last.add(12);
-        host::Document::instance().deleteFieldMaps(last);
+        host::Document::instance().execute(host::DeleteMaps {last});
         QVERIFY(!popup.isVisible());
     });
     fixture.rightClick(2, kGroup);
@@ -72,7 +72,7 @@ void tst_PopupEditors::survivesRefreshesAndTheDialog()
 {
     DialogFixture fixture("field2d");
     setStyle("PlotType", "", PlotType_LineXY);
-    host::Document::instance().createLineMaps(3);
+    host::Document::instance().execute(host::CreateLineMaps {3});
     runUntilIdle();
     fixture.select({1, 2});
     setStyle("PlotType", "", PlotType_Field2D);

@@ -272,7 +272,7 @@ void tst_TableGestures::tableIsOneTabStop()
 void tst_TableGestures::tabGoesThroughTheDialogInOrder()
 {
     DialogFixture fixture("field2d");
-    host::Document::instance().createLineMaps(3);
+    host::Document::instance().execute(host::CreateLineMaps {3});
     runUntilIdle();
     const auto stops = [&fixture] {
         fixture.select({1}); // enables the buttons of the pattern
@@ -369,7 +369,7 @@ void tst_TableGestures::showsCutTextsAsToolTips()
 {
     DialogFixture fixture("field2d");
     const QString name = "<b>inlet</b>/" + QString(60, 'x');
-    QVERIFY(host::Document::instance().renameZone(2, name.toStdString()));
+    QVERIFY(host::Document::instance().execute(host::RenameZone {2, name.toStdString()}).isDone());
     runUntilIdle();
     const auto toolTip = [&fixture](int map) {
         const QPoint cell =

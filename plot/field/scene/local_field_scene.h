@@ -106,7 +106,8 @@ private:
     Piece m_piece; ///< the last that came back
     std::unique_ptr<StandIn> m_standIn; ///< null until it is needed, and after a change
     std::array<host::NumberSet, kFieldLayerCount + 1> m_pending;
-    std::array<host::NumberSet, kFieldLayerCount> m_stale; ///< not brought up to date while invisible
+    std::array<host::NumberSet, kFieldLayerCount>
+        m_stale; ///< not brought up to date while invisible
     std::array<host::NumberSet, kFieldLayerCount + 1> m_cancelled;
     host::NumberSet m_shown;
     host::NumberSet m_refused; ///< active, but beyond the largest scene

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/document/document.h"
+
+#include <vector>
+
+namespace corvala::host {
+
+/// Does one operation: checks all of it, then changes the document and records the way back.
+class Executor
+{
+public:
+    explicit Executor(Document& document);
+
+    Outcome operator()(const SetStyle& operation);
+    Outcome operator()(const RenameZone& operation);
+    Outcome operator()(const RenameVariable& operation);
+    Outcome operator()(const RenameLineMaps& operation);
+    Outcome operator()(const CreateLineMaps& operation);
+    Outcome operator()(const CopyLineMaps& operation);
+    Outcome operator()(const MoveLineMaps& operation);
+    Outcome operator()(const DeleteMaps& operation);
+    Outcome operator()(const EnableZones& operation);
+    Outcome operator()(const EnableVariables& operation);
+    Outcome operator()(const SetSolutionTime& operation);
+    Outcome operator()(const SetPicks& operation);
+    Outcome operator()(const SetPaletteColor& operation);
+    Outcome operator()(const AddFrame& operation);
+    Outcome operator()(const ActivateFrame& operation);
+    Outcome operator()(const DeleteFrame& operation);
+    Outcome operator()(const AttachData& operation);
+    Outcome operator()(const DetachData& operation);
+
+    /// What is to be announced when everything else has been done.
+    const std::vector<StateEvent>& events() const { return m_events; }
+
+private:
+    bool hasData() const { return m_frame && m_frame->hasData(); }
+    FrameMaps& maps() { return m_frame->m_maps; }
+    StateEvent eventOf(StateCode_e code) const; ///< of the active frame
+    void announce(StateCode_e code) { m_events.push_back(eventOf(code)); }
+    Outcome perform(Change change, bool undoable = true);
+
+    /// Raises the style event unless another one is given.
+    Outcome writeMaps(const Attribute& attribute, const SetStyle& operation,
+                      std::optional<StateEvent> event = {});
+    Outcome writeValue(Frame* frame, const Attribute& attribute, const SetStyle& operation);
+    Outcome writeSet(const Attribute& attribute, const SetStyle& operation);
+
+    Outcome rename(bool isZone, CvlInt64 number, const std::string& name);
+    Outcome enable(NumberSet FrameMaps::*set, const NumberSet& members, CvlInt64 count,
+                   StateCode_e code, const char* text);
+    Outcome deleteFieldMaps(const NumberSet& deleted);
+    Outcome deleteLineMaps(const NumberSet& deleted);
+    Outcome rearrangeLineMaps(const std::vector<std::int64_t>& newToOld, const QString& text);
+    Outcome replaceMaps(FrameMaps after, const QString& text, std::vector<StateEvent> events);
+
+    Document& m_document;
+    Frame* m_frame; ///< the active one; null without frames
+    std::vector<StateEvent> m_events;
+};
+
+/// Whether the set is not empty and holds numbers from 1 to `count` only.
+bool areExisting(const NumberSet& numbers, CvlInt64 count);
+
+/// Event of one style value of a frame (null: of the document).
+StateEvent styleEvent(const Frame* frame, const Attribute& attribute,
+                      std::vector<StyleChange> changes);
+
+} // namespace corvala::host
