@@ -133,8 +133,11 @@ void turnWheel(QWidget* widget, const QPoint& position, const QPoint& steps,
 void pressKey(QWidget* window, int key, Qt::KeyboardModifiers modifiers)
 {
     activate(window);
-    if (QWindow* handle = window->window()->windowHandle())
-        QTest::keyClick(handle, static_cast<Qt::Key>(key), modifiers);
+    const QPointer<QWindow> handle = window->window()->windowHandle();
+    if (handle)
+        QTest::keyPress(handle, static_cast<Qt::Key>(key), modifiers);
+    if (handle) // which the key may have destroyed
+        QTest::keyRelease(handle, static_cast<Qt::Key>(key), modifiers);
 }
 
 void pressKeys(QWidget* window, const QKeySequence& keys)
@@ -160,10 +163,12 @@ static bool hasKey(QChar character)
 
 static void typeCharacter(QWidget* window, QChar character)
 {
-    QWindow* handle = window->window()->windowHandle();
-    const ushort code = character.toUpper().unicode();
-    QTest::sendKeyEvent(QTest::Click, handle, static_cast<Qt::Key>(code), QString(character),
-                        Qt::NoModifier);
+    const QPointer<QWindow> handle = window->window()->windowHandle();
+    const auto key = static_cast<Qt::Key>(character.toUpper().unicode());
+    for (const auto action : {QTest::Press, QTest::Release}) {
+        if (handle)
+            QTest::sendKeyEvent(action, handle, key, QString(character), Qt::NoModifier);
+    }
 }
 
 void typeOver(QWidget* window, const QString& text)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 /// Drives the dialog with random gestures and compares it with the document now and then:
-///     random_gestures [--gestures N] [--seed S]
+///     random_gestures [--gestures N] [--seed S] [--trace]
 #include "host/document/document.h"
 #include "host/undo/gesture_tracker.h"
 #include "play/idle.h"
@@ -61,13 +61,14 @@ int main(int argc, char** argv)
     QCommandLineParser parser;
     parser.addOption({"gestures", "How many.", "N", "2000"});
     parser.addOption({"seed", "Of the random numbers; another one each time if missing.", "S"});
+    parser.addOption({"trace", "Print every gesture."});
     parser.addHelpOption();
     parser.process(application);
     const unsigned seed =
         parser.isSet("seed") ? parser.value("seed").toUInt() : std::random_device()();
     std::printf("seed %u\n", seed);
     std::fflush(stdout);
-    Watchdog::start();
+    Watchdog::start(parser.isSet("trace"));
     const host::GestureTracker tracker(host::Document::instance().undo());
     QTimer::singleShot(0,
                        [&] { QApplication::exit(drive(parser.value("gestures").toInt(), seed)); });

@@ -183,9 +183,11 @@ QString tableDifference(const DialogDriver& dialog)
         return {};
     const auto* view = DialogDriver::instance()->findChild<QTableView*>();
     const Frame* frame = Document::instance().activeFrame();
-    if (!view || !view->isVisible() || !view->model())
+    const bool hasTables =
+        frame && frame->plotType() != PlotType_None && frame->plotType() != PlotType_Annotation;
+    if (!view || !view->isVisible() || !view->model() || !hasTables)
         return {};
-    const auto maps = frame ? static_cast<int>(frame->shownMapCount()) : 0;
+    const auto maps = static_cast<int>(frame->shownMapCount());
     if (view->model()->rowCount() != maps)
         return QStringLiteral("the table has %1 rows for %2 maps")
             .arg(view->model()->rowCount())
@@ -194,7 +196,7 @@ QString tableDifference(const DialogDriver& dialog)
         if (!difference.isEmpty())
             return difference;
     }
-    return frame ? visibleCellsDifference(*frame, dialog) : QString();
+    return visibleCellsDifference(*frame, dialog);
 }
 
 } // namespace corvala::tests

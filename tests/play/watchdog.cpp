@@ -8,11 +8,10 @@
 #include <ctime>
 #include <thread>
 
+#include <dlfcn.h>
 #include <execinfo.h>
 #include <pthread.h>
 #include <unistd.h>
-
-extern "C" __attribute__((weak)) void __sanitizer_set_death_callback(void (*callback)());
 
 namespace corvala::tests {
 
@@ -26,6 +25,7 @@ char s_about[200];
 char s_gesture[1000];
 std::atomic<int> s_number {0}; ///< of the gesture that runs; odd from begin() to end()
 pthread_t s_watched;
+bool s_traces = false;
 
 } // namespace
 
@@ -56,6 +56,21 @@ static void crash(int signal)
     printGesture();
     std::signal(signal, SIG_DFL);
     std::raise(signal);
+}
+
+/// Each of the sanitizers has a copy of the function that is called before it ends the program.
+static bool followSanitizers()
+{
+    using SetCallback = void (*)(void (*callback)());
+    bool hasOne = false;
+    for (const char* library : {"libasan.so.8", "libubsan.so.1"}) {
+        void* loaded = dlopen(library, RTLD_LAZY | RTLD_NOLOAD);
+        void* function = loaded ? dlsym(loaded, "__sanitizer_set_death_callback") : nullptr;
+        if (function)
+            reinterpret_cast<SetCallback>(function)(printGesture);
+        hasOne = hasOne || function;
+    }
+    return hasOne;
 }
 
 static double secondsOf(clockid_t clock)
@@ -91,22 +106,22 @@ void Watchdog::setAbout(const std::string& about)
     std::snprintf(s_about, sizeof s_about, "%s", about.c_str());
 }
 
-void Watchdog::start()
+void Watchdog::start(bool traces)
 {
+    s_traces = traces;
     s_watched = pthread_self();
     std::signal(SIGUSR1, printStackAndExit);
-    if (__sanitizer_set_death_callback) {
-        __sanitizer_set_death_callback(printGesture);
-    } else {
+    std::signal(SIGABRT, crash);
+    if (!followSanitizers())
         std::signal(SIGSEGV, crash);
-        std::signal(SIGABRT, crash);
-    }
     std::thread(watch).detach();
 }
 
 void Watchdog::begin(const std::string& gesture)
 {
     std::snprintf(s_gesture, sizeof s_gesture, "%s", gesture.c_str());
+    if (s_traces)
+        printGesture();
     if (s_number % 2 == 0)
         ++s_number;
 }

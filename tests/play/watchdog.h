@@ -10,8 +10,8 @@ namespace corvala::tests {
 class Watchdog
 {
 public:
-    /// Begins to watch the calling thread.
-    static void start();
+    /// Begins to watch the calling thread. With `traces` every gesture is printed.
+    static void start(bool traces);
 
     /// What stands before the name of the gesture.
     static void setAbout(const std::string& about);

@@ -10,6 +10,7 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
 
 BooleanItemDelegate::BooleanItemDelegate(QAbstractItemView& view)
     : ItemDelegate(view)
+    , m_viewport(view.viewport())
 {
     view.viewport()->installEventFilter(this);
 }
@@ -64,7 +65,7 @@ bool BooleanItemDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
 
 bool BooleanItemDelegate::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!view() || watched != view()->viewport())
+    if (watched != m_viewport)
         return ItemDelegate::eventFilter(watched, event); // of an editor
     switch (event->type()) {
     case QEvent::MouseButtonPress:

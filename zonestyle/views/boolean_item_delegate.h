@@ -41,6 +41,8 @@ private:
                        const QModelIndex& index);
     bool toggleSelectedRows(const QModelIndex& index);
 
+    /// Only to be compared: it still gets events while its view is being destroyed.
+    const QObject* m_viewport;
     QPersistentModelIndex m_pressed; ///< the cell whose check box the mouse button was pressed on
 };
 

@@ -387,7 +387,8 @@ void StyleTableView::openAtArrow(const QModelIndex& index)
 /// The keys stand where the eye begins, on the first header.
 bool StyleTableView::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched != horizontalHeader()->viewport() || event->type() != QEvent::ToolTip)
+    // The type first: other events come from a header that is being destroyed, too.
+    if (event->type() != QEvent::ToolTip || watched != horizontalHeader()->viewport())
         return TableView::eventFilter(watched, event);
     const auto* help = static_cast<QHelpEvent*>(event);
     if (horizontalHeader()->logicalIndexAt(help->pos()) == 0)
