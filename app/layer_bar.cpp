@@ -2,28 +2,30 @@
 #include "app/layer_bar.h"
 
 #include "host/document/document.h"
+#include "vocabulary/layers.h"
 
 #include <QAction>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QLabel>
 
 namespace corvala::app {
 
-/// A layer value of the style tree that the canvases draw.
-struct Layer
+/// A switch of the frame that the canvases draw by.
+struct LayerButton
 {
-    const char* group;
-    const char* name;
-    const char* text;
+    style::SwitchKey key;
+    const char* text; ///< in the translation context "StyleValues"
 };
 
-static constexpr Layer kLayers[] = {
-    {"FieldLayers", "ShowMesh", QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Mesh")},
-    {"FieldLayers", "ShowContour", QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Contour")},
-    {"FieldLayers", "ShowShade", QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Shade")},
-    {"FieldLayers", "ShowEdge", QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Edge")},
-    {"FieldLayers", "UseLightingEffect", QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Lighting")},
-    {"LinePlotLayers", "ShowLines", QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Lines")},
+static constexpr LayerButton kLayers[] = {
+    {style::kMeshLayer.shown, style::kMeshLayer.name},
+    {style::kContourLayer.shown, style::kContourLayer.name},
+    {style::kShadeLayer.shown, style::kShadeLayer.name},
+    {style::kEdgeLayer.shown, style::kEdgeLayer.name},
+    {style::fieldLayers.useLightingEffect,
+     style::entryOf(style::fieldLayers.useLightingEffect).label},
+    {style::kLinesLayer.shown, style::kLinesLayer.name},
 };
 
 static constexpr struct
@@ -37,9 +39,9 @@ static constexpr struct
     {PlotType_LinePolar, QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Polar line plot")},
 };
 
-static void write(std::vector<std::string> path, host::StyleInput value)
+static void write(style::Key key, host::StyleInput value)
 {
-    host::Document::instance().execute(host::SetStyle {std::move(path), std::move(value)});
+    host::Document::instance().execute(host::SetStyle {host::pathOf(key), std::move(value)});
 }
 
 LayerBar::LayerBar(QWidget* parent)
@@ -63,18 +65,18 @@ void LayerBar::addPlotTypes()
     for (const auto& [type, text] : kPlotTypes)
         m_plotType->addItem(tr(text), int(type));
     connect(m_plotType, QOverload<int>::of(&QComboBox::activated), this, [this](int position) {
-        write({"PlotType"}, double(m_plotType->itemData(position).toInt()));
+        write(style::plotType, double(m_plotType->itemData(position).toInt()));
     });
 }
 
 void LayerBar::addLayers()
 {
-    for (const Layer& layer : kLayers) {
-        QAction* action = addAction(tr(layer.text));
+    for (const LayerButton& layer : kLayers) {
+        QAction* action = addAction(QCoreApplication::translate("StyleValues", layer.text));
         action->setCheckable(true);
-        action->setObjectName(QLatin1String(layer.name));
+        action->setObjectName(QLatin1String(style::entryOf(layer.key).path[1]));
         connect(action, &QAction::triggered, this, [this, &layer, action](bool on) {
-            write({layer.group, layer.name}, on);
+            write(layer.key, on);
             Q_EMIT layerSwitched(action);
         });
         m_layers << action;
@@ -88,12 +90,11 @@ void LayerBar::refresh()
     m_plotType->setEnabled(hasData);
     m_plotType->setCurrentIndex(frame ? m_plotType->findData(int(frame->plotType())) : -1);
     for (int i = 0; i < m_layers.size(); ++i) {
-        const Layer& layer = kLayers[i];
-        const bool isField = qstrcmp(layer.group, "FieldLayers") == 0;
+        const style::SwitchKey key = kLayers[i].key;
+        const bool isField = style::isInGroupOf(key, style::fieldLayers.showMesh);
         const bool isShown = hasData && (isField ? frame->isFieldPlot() : frame->isLinePlot());
         m_layers[i]->setVisible(isShown);
-        m_layers[i]->setChecked(
-            isShown && (isField ? frame->fieldLayer(layer.name) : frame->lineLayer(layer.name)));
+        m_layers[i]->setChecked(isShown && frame->isOn(key));
     }
 }
 

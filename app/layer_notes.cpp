@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/layer_notes.h"
 
-#include "app/layer_bar.h"
 #include "app/notice_bar.h"
 #include "host/document/document.h"
 #include "host/document/layer_facts.h"
 #include "sdk/common/common.h"
 
 #include <QAction>
+#include <QCoreApplication>
 
 namespace corvala::app {
 
@@ -16,27 +16,15 @@ using host::Frame;
 using host::LayerFacts;
 using host::LayerGap;
 
-/// What the engine calls a layer.
-static const char* categoryOf(const QString& layer)
+/// Null for lighting, which is no layer.
+static const style::Layer* layerOf(const QAction& action)
 {
-    static constexpr struct
-    {
-        const char* layer;
-        const char* category;
-    } kCategories[] = {{"ShowMesh", "Mesh"},
-                       {"ShowContour", "Contour"},
-                       {"ShowShade", "Shade"},
-                       {"ShowEdge", "EdgeLayer"},
-                       {"ShowLines", "Lines"}};
-    for (const auto& each : kCategories)
-        if (layer == QLatin1String(each.layer))
-            return each.category;
-    return "Lighting";
+    return style::layerNamed(action.objectName().toStdString());
 }
 
-static bool isLine(const LayerFacts& facts)
+static bool isOfLines(const LayerFacts& facts)
 {
-    return qstrcmp(facts.category, "Lines") == 0;
+    return facts.layer && facts.layer->isOfLines();
 }
 
 /// Text, and caption of the button that mends it.
@@ -103,7 +91,8 @@ static LayerFacts factsOf(const QAction& layer)
     const Frame* frame = Document::instance().activeFrame();
     if (!frame || !frame->hasData() || !layer.isVisible() || !layer.isChecked())
         return {};
-    return host::layerFacts(*frame, categoryOf(layer.objectName()));
+    const style::Layer* const known = layerOf(layer);
+    return known ? host::layerFacts(*frame, *known) : host::lightingFacts(*frame);
 }
 
 void LayerNotes::refresh()
@@ -118,18 +107,17 @@ void LayerNotes::refresh()
 void LayerNotes::tell()
 {
     const LayerFacts facts = factsOf(*m_layer);
-    const bool isShade = qstrcmp(facts.category, "Shade") == 0; // of lighting, too
-    const Note note =
-        noteOf(facts.gap, isShade ? LayerBar::tr("Shade") : m_layer->text(), isLine(facts));
+    const QString name = facts.layer ? QCoreApplication::translate("StyleValues", facts.layer->name)
+                                     : m_layer->text();
+    const Note note = noteOf(facts.gap, name, isOfLines(facts));
     if (facts.gap != LayerGap::None || m_bar.isShown(m_note))
         m_note = m_bar.tell(note.text, note.caption, [this] { mend(); });
 }
 
-static void write(std::vector<std::string> path, host::StyleInput value,
-                  std::optional<host::NumberSet> maps = {})
+static void write(style::Key key, host::StyleInput value, std::optional<host::NumberSet> maps = {})
 {
     Document::instance().execute(
-        host::SetStyle {std::move(path), std::move(value), std::move(maps)});
+        host::SetStyle {host::pathOf(key), std::move(value), std::move(maps)});
 }
 
 void LayerNotes::mend()
@@ -140,12 +128,10 @@ void LayerNotes::mend()
     const Frame* frame = Document::instance().activeFrame();
     switch (facts.gap) {
     case LayerGap::NoActiveMaps:
-        write({isLine(facts) ? "ActiveLineMaps" : "ActiveFieldMaps"},
+        write(isOfLines(facts) ? style::activeLineMaps : style::activeFieldMaps,
               host::allUpTo(frame->shownMapCount()));
         break;
-    case LayerGap::NotShown:
-        write({isLine(facts) ? "LineMap" : "FieldMap", facts.category, "Show"}, true, facts.maps);
-        break;
+    case LayerGap::NotShown: write(facts.layer->shownForMap, true, facts.maps); break;
     case LayerGap::NoSurfaces:
         Document::instance().execute(host::drawBoundaryFaces(facts.maps));
         break;
@@ -154,7 +140,7 @@ void LayerNotes::mend()
                 ContourLevelsInitializationMode_ResetIfVariableIsNew))
             m_bar.tell(tr("The data have no variable that contours could show."));
         break;
-    case LayerGap::NoFaces: write({"FieldLayers", "ShowShade"}, true); break;
+    case LayerGap::NoFaces: write(style::kShadeLayer.shown, true); break;
     case LayerGap::NotInSpace:
     case LayerGap::None: break;
     }

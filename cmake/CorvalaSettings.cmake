@@ -18,14 +18,30 @@ endif()
 
 # One include root per top folder, and per room of a folder that has layers: a target sees only the
 # folders whose roots it is given, so a forbidden include does not compile.
-foreach(folder zonestyle sdk host play plot plot/common plot/field/geometry plot/field/scene app
-    samples tests)
+function(corvala_include_root root)
+  foreach(folder ${ARGN})
+    set(link "${CMAKE_BINARY_DIR}/include-roots/${root}/${folder}")
+    cmake_path(GET link PARENT_PATH parent)
+    if(IS_SYMLINK "${parent}") # of a former root, which showed the whole folder
+      file(REMOVE "${parent}")
+    endif()
+    file(MAKE_DIRECTORY "${parent}")
+    file(CREATE_LINK "${CMAKE_SOURCE_DIR}/${folder}" "${link}" SYMBOLIC)
+  endforeach()
+endfunction()
+foreach(folder vocabulary host samples sdk/private
+    zonestyle/controls zonestyle/tables zonestyle/actions zonestyle/models zonestyle/views
+    zonestyle/dialog
+    play plot plot/common plot/field/geometry plot/field/scene app tests)
   string(REPLACE "/" "-" root "${folder}")
-  set(link "${CMAKE_BINARY_DIR}/include-roots/${root}/${folder}")
-  cmake_path(GET link PARENT_PATH parent)
-  file(MAKE_DIRECTORY "${parent}")
-  file(CREATE_LINK "${CMAKE_SOURCE_DIR}/${folder}" "${link}" SYMBOLIC)
+  corvala_include_root(${root} "${folder}")
 endforeach()
+
+# The libraries of the SDK share one root, which does not show what is private to them.
+set(CV_SDK_LIBRARIES base toolbox common signals property uicommon common_ui propertymanager
+  propertybindings dialogs_common dialogs_prompt dialogs_lineplot)
+list(TRANSFORM CV_SDK_LIBRARIES PREPEND "sdk/" OUTPUT_VARIABLE folders)
+corvala_include_root(sdk ${folders})
 
 add_library(corvala_options INTERFACE)
 target_compile_definitions(corvala_options INTERFACE

@@ -40,8 +40,11 @@ static Json jsonOf(const QVariant& value)
     case QMetaType::UInt:
     case QMetaType::LongLong:
     case QMetaType::ULongLong: return value.toLongLong();
-    default: return value.toString().toStdString();
+    default: break;
     }
+    const bool isEnumeration =
+        QMetaType::typeFlags(value.userType()).testFlag(QMetaType::IsEnumeration);
+    return isEnumeration ? Json(value.toInt()) : Json(value.toString().toStdString());
 }
 
 static bool isEmpty(const QVariant& value)

@@ -215,12 +215,11 @@ std::shared_ptr<DataSet> makeSignals(const std::string& title)
     return data;
 }
 
-void assign(const char* name, const host::NumberSet& maps, int variable)
+void assign(style::VariableKey key, const host::NumberSet& maps, int variable)
 {
     if (maps.isEmpty())
         return;
-    Document::instance().execute(
-        host::SetStyle {{"LineMap", "Assign", name}, double(variable), maps});
+    Document::instance().execute(host::SetStyle {host::pathOf(key), double(variable), maps});
 }
 
 /// Map n plots variable 2 + (n - 1) mod 3 over "Time", and "Gain" over "Angle" on a polar plot.
@@ -232,10 +231,10 @@ void assignLineVariables(std::int64_t maps)
         host::NumberSet members;
         for (std::int64_t map = curve + 1; map <= maps; map += kCurves)
             members.add(static_cast<std::uint32_t>(map));
-        assign("YAxisVar", members, static_cast<int>(curve) + 2);
+        assign(style::lineMap.assign.yAxisVar, members, static_cast<int>(curve) + 2);
     }
-    assign("ThetaAxisVar", host::allUpTo(maps), kAngle);
-    assign("RAxisVar", host::allUpTo(maps), kAngle + 1);
+    assign(style::lineMap.assign.thetaAxisVar, host::allUpTo(maps), kAngle);
+    assign(style::lineMap.assign.rAxisVar, host::allUpTo(maps), kAngle + 1);
     Document::instance().undo().clear();
 }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/style/number_set.h"
-#include "sdk/base/enums.h"
+#include "vocabulary/enums.h"
 
 #include <vtkSmartPointer.h>
 

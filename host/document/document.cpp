@@ -136,7 +136,7 @@ void Document::apply(const Change& change, bool forward)
         [&](const ValueDelta& delta) {
             const Attribute& attribute = Schema::instance().at(delta.attribute);
             (changed ? changed->m_values : m_values).set(attribute, delta.index, result(delta));
-            if (changed && attribute.names.front() == "PlotType")
+            if (changed && attribute.id == style::plotType)
                 changed->m_picks.clear(); // zones mean nothing on a line plot, and vice versa
         },
         [&](const SetDelta& delta) { changed->m_maps.*delta.set = result(delta); },

@@ -56,7 +56,7 @@ std::optional<StyleOutput> Document::read(CvlUniqueId frameId, AttributeId id, C
     const Frame* const asked = frame(frameId);
     if (!asked)
         return {};
-    if (attribute.type == ValueType::Maps)
+    if (attribute.type == ValueType::Numbers)
         return activeSet(*asked, attribute);
     if (attribute.scope == Scope::Frame)
         return readList(asked->values(), attribute, index);

@@ -3,12 +3,6 @@
 
 namespace corvala::host {
 
-static const Attribute& plotTypeAttribute()
-{
-    static const Attribute& attribute = Schema::instance().leaf({"PlotType"});
-    return attribute;
-}
-
 Frame::Frame(CvlUniqueId id)
     : m_id(id)
     , m_values(Scope::Frame)
@@ -19,7 +13,7 @@ Frame::Frame(CvlUniqueId id)
 
 PlotType_e Frame::plotType() const
 {
-    return static_cast<PlotType_e>(m_values.integer(plotTypeAttribute()));
+    return static_cast<PlotType_e>(m_values.integer(Schema::instance().at(style::plotType)));
 }
 
 bool Frame::isFieldPlot() const
@@ -37,21 +31,9 @@ CvlInt64 Frame::shownMapCount() const
     return isFieldPlot() ? fieldMapCount() : isLinePlot() ? lineMapCount() : 0;
 }
 
-static bool flagNamed(const ValueList& values, const char* group, const char* name)
+bool Frame::isOn(style::SwitchKey key) const
 {
-    const char* const path[] = {group, name};
-    const AttributeId id = Schema::instance().find(path, 2);
-    return id >= 0 && values.integer(Schema::instance().at(id)) != 0;
-}
-
-bool Frame::fieldLayer(const char* layer) const
-{
-    return layer && flagNamed(m_values, "FieldLayers", layer);
-}
-
-bool Frame::lineLayer(const char* layer) const
-{
-    return layer && flagNamed(m_values, "LinePlotLayers", layer);
+    return m_values.integer(Schema::instance().at(key)) != 0;
 }
 
 std::int32_t Frame::fieldInteger(AttributeId attribute, CvlInt64 map) const

@@ -6,8 +6,8 @@
 #include "host/operations/operation.h"
 #include "host/style/map_table.h"
 #include "host/style/value_list.h"
-#include "sdk/base/enums.h"
-#include "sdk/base/types.h"
+#include "vocabulary/enums.h"
+#include "vocabulary/types.h"
 
 #include <memory>
 #include <vector>
@@ -64,9 +64,8 @@ public:
     const MapTable& lineStyle() const { return m_maps.lineStyle; }
     const ValueList& values() const { return m_values; }
 
-    /// "FieldLayers" or "LinePlotLayers" value of that name; false for an unknown name.
-    bool fieldLayer(const char* layer) const;
-    bool lineLayer(const char* layer) const;
+    /// A switch of the frame, such as a layer.
+    bool isOn(style::SwitchKey key) const;
 
     // Style of one map by attribute; the map must exist and the attribute have that scope and type.
     std::int32_t fieldInteger(AttributeId attribute, CvlInt64 map) const;

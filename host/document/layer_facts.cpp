@@ -5,39 +5,30 @@
 #include "host/style/schema.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace corvala::host {
 
-static AttributeId fieldAttribute(const char* category, const char* name)
-{
-    return Schema::instance().find({"FieldMap", category, name});
-}
-
 bool drawsSurfaces(const Frame& frame, CvlInt64 map, bool orPoints)
 {
-    static const AttributeId kSurfaces = fieldAttribute("Surfaces", "SurfacesToPlot");
-    static const AttributeId kPoints = fieldAttribute("Points", "PointsToPlot");
-    if (frame.fieldInteger(kSurfaces, map) != SurfacesToPlot_None)
+    if (frame.fieldInteger(style::fieldMap.surfaces.surfacesToPlot, map) != SurfacesToPlot_None)
         return true;
-    const int points = orPoints ? frame.fieldInteger(kPoints, map) : PointsToPlot_SurfaceNodes;
+    const int points = orPoints ? frame.fieldInteger(style::fieldMap.points.pointsToPlot, map)
+                                : PointsToPlot_SurfaceNodes;
     return points != PointsToPlot_SurfaceNodes && points != PointsToPlot_SurfaceCellCenters;
 }
 
 static bool hasContourVariable(const Frame& frame, CvlInt64 map)
 {
-    static const AttributeId kType = fieldAttribute("Contour", "ContourType");
-    static const AttributeId kFlood = fieldAttribute("Contour", "FloodColoring");
-    static const AttributeId kLines = fieldAttribute("Contour", "LineContourGroup");
-    static const Attribute& kVariable = Schema::instance().leaf({"ContourGroups", "Var"});
-    const int type = frame.fieldInteger(kType, map);
+    const auto& contour = style::fieldMap.contour;
+    const Attribute& variable = Schema::instance().at(style::contourGroups.var);
+    const int type = frame.fieldInteger(contour.contourType, map);
     const auto hasVariable = [&](AttributeId group) { // of RGB colours nothing is said here
         const int number = frame.fieldInteger(group, map);
-        return number < 1 || frame.values().integer(kVariable, number) > 0;
+        return number < 1 || frame.values().integer(variable, number) > 0;
     };
-    return (type != ContourType_Lines && hasVariable(kFlood))
+    return (type != ContourType_Lines && hasVariable(contour.floodColoring))
         || ((type == ContourType_Lines || type == ContourType_LinesAndFlood)
-            && hasVariable(kLines));
+            && hasVariable(contour.lineContourGroup));
 }
 
 static LayerGap gapOf(const Frame& frame, CvlInt64 map, bool needsSurfaces, bool needsVariable)
@@ -47,29 +38,27 @@ static LayerGap gapOf(const Frame& frame, CvlInt64 map, bool needsSurfaces, bool
     return needsVariable && !hasContourVariable(frame, map) ? LayerGap::NoVariable : LayerGap::None;
 }
 
-static LayerFacts lightingFacts(const Frame& frame)
+LayerFacts lightingFacts(const Frame& frame)
 {
     if (frame.plotType() != PlotType_Field3D)
-        return {LayerGap::NotInSpace, {}, ""};
-    if (frame.fieldLayer("ShowContour") && layerFacts(frame, "Contour").gap == LayerGap::None)
+        return {LayerGap::NotInSpace, {}, nullptr};
+    if (frame.isOn(style::kContourLayer.shown)
+        && layerFacts(frame, style::kContourLayer).gap == LayerGap::None)
         return {};
-    return frame.fieldLayer("ShowShade") ? layerFacts(frame, "Shade")
-                                         : LayerFacts {LayerGap::NoFaces, {}, ""};
+    return frame.isOn(style::kShadeLayer.shown) ? layerFacts(frame, style::kShadeLayer)
+                                                : LayerFacts {LayerGap::NoFaces, {}, nullptr};
 }
 
-LayerFacts layerFacts(const Frame& frame, const char* category)
+LayerFacts layerFacts(const Frame& frame, const style::Layer& layer)
 {
-    if (std::strcmp(category, "Lighting") == 0)
-        return lightingFacts(frame);
-    const bool isLines = std::strcmp(category, "Lines") == 0;
+    const bool isLines = layer.isOfLines();
     const NumberSet& active = isLines ? frame.activeLineMaps() : frame.activeFieldMaps();
     if (active.isEmpty())
-        return {LayerGap::NoActiveMaps, active, category};
-    const AttributeId show =
-        Schema::instance().find({isLines ? "LineMap" : "FieldMap", category, "Show"});
-    const bool needsSurfaces = !isLines && std::strcmp(category, "EdgeLayer") != 0;
-    const bool needsVariable = std::strcmp(category, "Contour") == 0;
-    LayerFacts facts {LayerGap::NotShown, {}, category};
+        return {LayerGap::NoActiveMaps, active, &layer};
+    const AttributeId show = layer.shownForMap;
+    const bool needsSurfaces = !isLines && layer != style::kEdgeLayer;
+    const bool needsVariable = layer == style::kContourLayer;
+    LayerFacts facts {LayerGap::NotShown, {}, &layer};
     for (const std::uint32_t map : active) {
         if (!(isLines ? frame.lineInteger(show, map) : frame.fieldInteger(show, map)))
             continue;
@@ -86,8 +75,8 @@ LayerFacts layerFacts(const Frame& frame, const char* category)
 
 SetStyle drawBoundaryFaces(const NumberSet& maps)
 {
-    return {
-        {"FieldMap", "Surfaces", "SurfacesToPlot"}, double(SurfacesToPlot_BoundaryCellFaces), maps};
+    return {pathOf(style::fieldMap.surfaces.surfacesToPlot),
+            double(SurfacesToPlot_BoundaryCellFaces), maps};
 }
 
 } // namespace corvala::host

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "host/operations/operation.h"
-#include "sdk/base/enums.h"
-#include "sdk/base/types.h"
+#include "vocabulary/layers.h"
+#include "vocabulary/types.h"
 
 namespace corvala::host {
 
@@ -24,13 +24,13 @@ struct LayerFacts
 {
     LayerGap gap = LayerGap::None;
     NumberSet maps; ///< active maps that show the layer; all active maps when none does
-    const char* category = ""; ///< that the gap is in: of lighting, that of the shade
+    const style::Layer* layer = nullptr; ///< that the gap is in
 };
 
-/// What there is to see of a field layer, named by its category of the maps ("Mesh", "Contour",
-/// "Shade", "EdgeLayer"), of "Lighting", which takes contours or shade, or of the line layer
-/// "Lines".
-LayerFacts layerFacts(const Frame& frame, const char* category);
+/// What there is to see of a layer that the canvases draw.
+LayerFacts layerFacts(const Frame& frame, const style::Layer& layer);
+/// What there is to see of lighting, which takes contours or shade; a gap may be that of the shade.
+LayerFacts lightingFacts(const Frame& frame);
 
 /// The field map draws some of its surfaces; with `orPoints` also when it draws points that do not
 /// come from a surface.

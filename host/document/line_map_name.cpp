@@ -21,7 +21,7 @@ public:
     bool textOf(std::string_view token, std::string& text) const
     {
         const DataSet* const data = m_frame.data();
-        const CvlInt64 zone = assigned("Zone");
+        const CvlInt64 zone = assigned(style::lineMap.assign.zone);
         if (token == "&ZN&")
             text = data && data->hasZone(zone) ? data->zone(zone).name : std::string();
         else if (token == "&Z#&")
@@ -37,28 +37,26 @@ public:
         else if (token == "&M#&")
             text = std::to_string(m_map);
         else if (token == "&X#&")
-            text = std::to_string(assigned("XAxis"));
+            text = std::to_string(assigned(style::lineMap.assign.xAxis));
         else if (token == "&Y#&")
-            text = std::to_string(assigned("YAxis"));
+            text = std::to_string(assigned(style::lineMap.assign.yAxis));
         else
             return false;
         return true;
     }
 
 private:
-    std::int32_t assigned(const char* name) const
-    {
-        const char* const path[] = {"LineMap", "Assign", name};
-        return m_frame.lineInteger(Schema::instance().find(path, 3), m_map);
-    }
+    std::int32_t assigned(style::Key key) const { return m_frame.lineInteger(key, m_map); }
 
     CvlInt64 variable(bool dependent) const
     {
         const bool isPolar = m_frame.plotType() == PlotType_LinePolar;
-        const bool swapped = assigned("FunctionDependency") == FunctionDependency_XofY;
+        const bool swapped =
+            assigned(style::lineMap.assign.functionDependency) == FunctionDependency_XofY;
         const bool isFirst = dependent == swapped; // x or theta
-        return isFirst ? assigned(isPolar ? "ThetaAxisVar" : "XAxisVar")
-                       : assigned(isPolar ? "RAxisVar" : "YAxisVar");
+        const auto& keys = style::lineMap.assign;
+        return isFirst ? assigned(isPolar ? keys.thetaAxisVar : keys.xAxisVar)
+                       : assigned(isPolar ? keys.rAxisVar : keys.yAxisVar);
     }
 
     const Frame& m_frame;
@@ -78,7 +76,7 @@ std::string shownVariableName(const DataSet* data, CvlInt64 number)
 std::string shownLineMapName(const Frame& frame, CvlInt64 map)
 {
     constexpr std::size_t kTokenLength = 4;
-    static const Attribute& nameAttribute = Schema::instance().leaf({"LineMap", "Name"});
+    static const Attribute& nameAttribute = Schema::instance().at(style::lineMap.name);
     const std::string& stored = frame.lineStyle().text(nameAttribute, map);
     const LineMapFacts facts(frame, map);
     std::string shown;

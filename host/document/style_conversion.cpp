@@ -4,16 +4,15 @@
 #include <QString>
 #include <QTextCodec>
 
+#include <algorithm>
 #include <cmath>
 
 namespace corvala::host {
 
 static bool isEnumerator(const Attribute& attribute, double number)
 {
-    for (const EnumeratorName* e = attribute.enumerators; e->name; ++e)
-        if (e->value == number)
-            return true;
-    return false;
+    return std::any_of(attribute.choices.begin(), attribute.choices.end(),
+                       [&](const style::Choice& choice) { return choice.value == number; });
 }
 
 static bool isColor(const Attribute& attribute, double number)

@@ -33,9 +33,9 @@ static QString numberText(const Attribute& attribute, double number)
         return number != 0.0 ? undoText(QT_TRANSLATE_NOOP("UndoTexts", "on"))
                              : undoText(QT_TRANSLATE_NOOP("UndoTexts", "off"));
     case ValueType::Enumeration:
-        for (const EnumeratorName* e = attribute.enumerators; e->name; ++e)
-            if (e->value == number)
-                return styleName(e->name);
+        for (const style::Choice& choice : attribute.choices)
+            if (choice.value == number)
+                return styleName(choice.name);
         break;
     default: break;
     }

@@ -3,7 +3,7 @@
 
 #include "host/style/schema.h"
 #include "host/style/style_input.h"
-#include "sdk/base/enums.h"
+#include "vocabulary/enums.h"
 
 #include <QString>
 

@@ -3,8 +3,8 @@
 
 #include "host/style/number_set.h"
 #include "host/style/schema.h"
-#include "sdk/base/enums.h"
-#include "sdk/base/types.h"
+#include "vocabulary/enums.h"
+#include "vocabulary/types.h"
 
 #include <boost/signals2/signal.hpp>
 

@@ -62,11 +62,11 @@ static FrameMaps mapsFor(FrameMaps maps, std::shared_ptr<DataSet> data, CvlInt64
 static void proposeVariables(const DataSet& data, ValueList& values)
 {
     const Schema& schema = Schema::instance();
-    static constexpr const char* kVectorNames[] = {"UVar", "VVar", "WVar"};
+    constexpr style::VariableKey kVector[] = {style::globalVector.uVar, style::globalVector.vVar,
+                                              style::globalVector.wVar};
     for (std::size_t i = 0; i < 3; ++i)
-        values.set(schema.leaf({"GlobalVector", kVectorNames[i]}), -1,
-                   std::int32_t(data.vectorVariables[i]));
-    const Attribute& groups = schema.leaf({"ContourGroups", "Var"});
+        values.set(schema.at(kVector[i]), -1, std::int32_t(data.vectorVariables[i]));
+    const Attribute& groups = schema.at(style::contourGroups.var);
     const auto& proposed = data.contourVariables;
     for (std::size_t i = 0; i < proposed.size() && i < std::size_t(groups.indexCount); ++i)
         values.set(groups, static_cast<std::int64_t>(i + 1), std::int32_t(proposed[i]));
@@ -79,7 +79,7 @@ Outcome Executor::operator()(const AttachData& operation)
     if (!m_frame)
         (*this)(AddFrame {});
     m_document.undo().clear();
-    const Attribute& plotType = Schema::instance().leaf({"PlotType"});
+    const Attribute& plotType = Schema::instance().at(style::plotType);
     const bool newPlotType = m_frame->plotType() != operation.plotType;
     maps() = mapsFor(std::move(maps()), operation.data, operation.lineMaps);
     m_frame->m_values = ValueList(Scope::Frame);

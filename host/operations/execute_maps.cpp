@@ -58,7 +58,7 @@ Outcome Executor::replaceMaps(FrameMaps after, const QString& text, std::vector<
 
 Outcome Executor::rearrangeLineMaps(const NewToOld& newToOld, const QString& text)
 {
-    static const Attribute& active = Schema::instance().leaf({"ActiveLineMaps"});
+    static const Attribute& active = Schema::instance().at(style::activeLineMaps);
     FrameMaps after = maps();
     after.lineStyle.rearrange(newToOld);
     after.activeLineMaps = renumbered(maps().activeLineMaps, newToOld);
@@ -175,7 +175,7 @@ static std::shared_ptr<DataSet> withZones(const DataSet& data, const NewToOld& z
 static void renumberZones(MapTable& lineStyle, const NewToOld& keptZones)
 {
     lineStyle.transform(
-        Schema::instance().leaf({"LineMap", "Assign", "Zone"}), [&](std::int32_t before) {
+        Schema::instance().at(style::lineMap.assign.zone), [&](std::int32_t before) {
             const auto kept = std::lower_bound(keptZones.begin(), keptZones.end(), before);
             return kept != keptZones.end() && *kept == before
                 ? static_cast<std::int32_t>(kept - keptZones.begin() + 1)
@@ -205,7 +205,7 @@ Outcome Executor::operator()(const RenameLineMaps& operation)
 {
     if (const auto wrong = checkLineMaps(m_frame, operation.maps))
         return {wrong};
-    static const Attribute& name = Schema::instance().leaf({"LineMap", "Name"});
+    static const Attribute& name = Schema::instance().at(style::lineMap.name);
     return writeMaps(name, {name.names, operation.name, operation.maps},
                      eventOf(StateCode_LineMapRenamed));
 }

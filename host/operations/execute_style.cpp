@@ -36,13 +36,14 @@ struct Follower
 /// A symbol is a shape or a character, whichever was chosen last: "IsASCII" follows both choices.
 Follower followerOf(const Attribute& attribute, const ValueList::Value& value)
 {
-    const std::string& name = attribute.names.back();
-    const bool isShape = name == "GeomShape";
-    if (!isShape && name != "ASCIIChar")
-        return {};
-    return {
-        Schema::instance().find({attribute.names[0], attribute.names[1], "SymbolShape", "IsASCII"}),
-        !isShape || std::get<std::int32_t>(value) == GeomShape_Character};
+    for (const style::SymbolShape* symbol :
+         {&style::fieldMap.scatter.symbolShape, &style::lineMap.symbols.symbolShape}) {
+        if (attribute.id == symbol->geomShape)
+            return {symbol->isAscii, std::get<std::int32_t>(value) == GeomShape_Character};
+        if (attribute.id == symbol->asciiShape.asciiChar)
+            return {symbol->isAscii, true};
+    }
+    return {};
 }
 
 void addColumn(StyleDelta& delta, const MapTable& table, const Attribute& attribute,
@@ -65,11 +66,11 @@ Outcome Executor::operator()(const SetStyle& operation)
     const Attribute& attribute = Schema::instance().at(id);
     if (attribute.scope == Scope::Document)
         return writeValue(nullptr, attribute, operation);
-    const bool needsData = attribute.scope != Scope::Frame || attribute.type == ValueType::Maps
+    const bool needsData = attribute.scope != Scope::Frame || attribute.type == ValueType::Numbers
         || attribute.type == ValueType::Variable;
     if (!m_frame || (needsData && !hasData()))
         return {StyleWrite_NoDocument};
-    if (attribute.type == ValueType::Maps)
+    if (attribute.type == ValueType::Numbers)
         return writeSet(attribute, operation);
     if (attribute.scope == Scope::Frame)
         return writeValue(m_frame, attribute, operation);
@@ -130,7 +131,7 @@ Outcome Executor::writeValue(Frame* frame, const Attribute& attribute, const Set
     change.frame = frame ? frame->id() : 0;
     change.text = assignmentText(attribute, operation.value);
     change.events = {styleEvent(frame, attribute, {{attribute.id, {}}})};
-    if (attribute.names.front() == "ContourGroups")
+    if (attribute.id == style::contourGroups.var)
         change.events.push_back(eventOf(StateCode_ContourGroupChanged));
     change.delta = ValueDelta {attribute.id, operation.index, before, value};
     return perform(std::move(change), operation.undoable);
@@ -152,8 +153,8 @@ Outcome Executor::writeSet(const Attribute& attribute, const SetStyle& operation
     const auto* const given = std::get_if<NumberSet>(&operation.value);
     if (!given)
         return {StyleWrite_WrongType};
-    const bool areZones = attribute.names.front() == "ActiveFieldZones";
-    const bool areLines = attribute.names.front() == "ActiveLineMaps";
+    const bool areZones = attribute.id == style::activeFieldZones;
+    const bool areLines = attribute.id == style::activeLineMaps;
     const CvlInt64 count = areZones ? m_frame->data()->zoneCount()
         : areLines                  ? m_frame->lineMapCount()
                                     : m_frame->fieldMapCount();

@@ -35,7 +35,7 @@ Outcome Executor::perform(Change change, bool undoable)
 /// Whether the text is UTF-8.
 static bool isText(const std::string& text)
 {
-    static const Attribute& nameAttribute = Schema::instance().leaf({"LineMap", "Name"});
+    static const Attribute& nameAttribute = Schema::instance().at(style::lineMap.name);
     ValueList::Value ignored;
     return convertValue(nameAttribute, text, nullptr, ignored) == StyleWrite_Ok;
 }

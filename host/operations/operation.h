@@ -4,8 +4,8 @@
 #include "host/document/data_set.h"
 #include "host/style/number_set.h"
 #include "host/style/style_input.h"
-#include "sdk/base/enums.h"
-#include "sdk/base/types.h"
+#include "vocabulary/enums.h"
+#include "vocabulary/types.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/style/schema.h"
 
-#include "host/style/schema_table.h"
-
 #include <algorithm>
 #include <cstring>
 
@@ -27,15 +25,19 @@ const Schema& Schema::instance()
 Schema::Schema()
 {
     m_buckets.resize(1024);
-    for (Attribute& attribute : schemaTable())
-        add(std::move(attribute));
+    for (const style::Entry& entry : style::allEntries)
+        add(entry);
     std::sort(m_names.begin(), m_names.end());
     m_names.erase(std::unique(m_names.begin(), m_names.end()), m_names.end());
 }
 
-void Schema::add(Attribute attribute)
+void Schema::add(const style::Entry& entry)
 {
+    Attribute attribute;
+    static_cast<style::Facts&>(attribute) = entry;
     attribute.id = static_cast<AttributeId>(m_attributes.size());
+    attribute.names.assign(entry.path.begin(), entry.path.begin() + entry.length());
+    attribute.defaultText = entry.defaultText;
     auto& scope = m_scopes[static_cast<std::size_t>(attribute.scope)];
     attribute.slot = static_cast<int>(scope.size());
     scope.push_back(attribute.id);

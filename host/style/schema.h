@@ -1,71 +1,35 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "vocabulary/style.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 namespace corvala::host {
 
-/// What a style value belongs to.
-enum class Scope : std::uint8_t { Document, Frame, FieldMap, LineMap };
+using style::DefaultRule;
+using style::Scope;
+using style::ValueType;
 
-enum class ValueType : std::uint8_t {
-    Bool,
-    Integer,
-    Enumeration,
-    Color, ///< 0 to 63 palette, 101 to 108 contour group, 109 RGB
-    Real,
-    Text,
-    Variable, ///< variable number, limited by the data set
-    Zone, ///< zone number, limited by the data set
-    Maps ///< a set of map or zone numbers
-};
-
-/// How a per-map attribute gets its default.
-enum class DefaultRule : std::uint8_t {
-    Constant,
-    CyclingColor, ///< palette colours in turn, by map number
-    NoSurfacesForVolumes ///< 10 ("None") for maps with volume zones, else the constant
-};
-
-struct EnumeratorName
-{
-    int value;
-    const char* name; ///< untranslated English, in the translation context "StyleValues"
-};
-
-/// Index of a leaf in the schema; stable for the life of the process.
-using AttributeId = int;
-constexpr AttributeId kNoAttribute = -1; ///< unknown path
+/// Index of a leaf in the schema: the Id of the value in the dictionary.
+using AttributeId = style::Id;
+constexpr AttributeId kNoAttribute = style::kNoValue; ///< unknown path
 constexpr AttributeId kGroupAttribute = -2; ///< the path names a group, not a value
 
 /// One style value of the tree.
-struct Attribute
+struct Attribute : style::Facts
 {
     AttributeId id = kNoAttribute;
     std::vector<std::string> names; ///< the path, two to five names, or one
-    Scope scope = Scope::Frame;
-    ValueType type = ValueType::Bool;
-    double minimum = 0.0;
-    double maximum = 0.0;
-    double defaultNumber = 0.0;
     std::string defaultText;
-    DefaultRule rule = DefaultRule::Constant;
-    int indexCount = 0; ///< offset 1 runs from 1 to this; 0 takes no offset
-    bool isPercent = false; ///< a Real in percent of the frame height
-    bool groupColors = false; ///< a Color that may follow a contour group or RGB
-    const EnumeratorName* enumerators = nullptr; ///< ends with a null name
-    const char* label = ""; ///< untranslated English, as in "Mesh type"; context "StyleValues"
     int slot = 0; ///< position among the attributes of its scope
-
-    bool isText() const { return type == ValueType::Text; }
-    bool isReal() const { return type == ValueType::Real; }
 };
 
-/// The one table of every style value: path, scope, type, range, default. Immutable.
+/// The dictionary of style values as the engine needs it: found by path, numbered within its scope.
+/// Immutable.
 class Schema
 {
 public:
@@ -76,8 +40,7 @@ public:
     AttributeId find(const char* const* names, int count) const;
     AttributeId find(const std::vector<std::string>& names) const;
 
-    /// The attribute of a path that is known to name a value.
-    const Attribute& leaf(const std::vector<std::string>& names) const { return at(find(names)); }
+    /// The id must be that of a value; a key of the dictionary is one.
     const Attribute& at(AttributeId id) const { return m_attributes[static_cast<std::size_t>(id)]; }
     const std::vector<Attribute>& all() const { return m_attributes; }
     /// Attributes of a scope by slot.
@@ -93,7 +56,7 @@ public:
 
 private:
     Schema();
-    void add(Attribute attribute);
+    void add(const style::Entry& entry);
 
     struct Bucket
     {
@@ -108,5 +71,11 @@ private:
     std::vector<Bucket> m_buckets;
     std::vector<std::string> m_names;
 };
+
+/// The names of a value, as requests and events have them.
+inline const std::vector<std::string>& pathOf(style::Key key)
+{
+    return Schema::instance().at(key).names;
+}
 
 } // namespace corvala::host

@@ -114,7 +114,9 @@ static void addEvent(std::vector<StateEvent>& events, const StateEvent& event)
 
 static bool isPlotType(const StateEvent& event)
 {
-    return !event.parameters.empty() && event.parameters.front() == "PlotType";
+    return std::any_of(
+        event.styleChanges.begin(), event.styleChanges.end(),
+        [](const StyleChange& change) { return change.attribute == style::plotType.id; });
 }
 
 UndoHistory::UndoHistory(Document& document)

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/events/state_event.h"
-#include "sdk/base/types.h"
+#include "vocabulary/types.h"
 
 #include <QString>
 #include <QUndoStack>

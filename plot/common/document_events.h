@@ -19,10 +19,9 @@ inline bool concerns(const host::StateEvent& event, CvlUniqueId frame)
 /// Whether an event gives its frame another plot type.
 inline bool namesPlotType(const host::StateEvent& event)
 {
-    static const host::AttributeId kPlotType = host::Schema::instance().find({"PlotType"});
     return std::any_of(
         event.styleChanges.begin(), event.styleChanges.end(),
-        [](const host::StyleChange& change) { return change.attribute == kPlotType; });
+        [](const host::StyleChange& change) { return change.attribute == style::plotType; });
 }
 
 } // namespace corvala::plot

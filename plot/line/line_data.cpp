@@ -7,13 +7,10 @@ namespace corvala::plot {
 
 LineVariables variablesOf(const host::Frame& frame, CvlInt64 map)
 {
-    const host::Schema& schema = host::Schema::instance();
-    static const host::AttributeId kXy[] = {schema.find({"LineMap", "Assign", "XAxisVar"}),
-                                            schema.find({"LineMap", "Assign", "YAxisVar"})};
-    static const host::AttributeId kPolar[] = {schema.find({"LineMap", "Assign", "ThetaAxisVar"}),
-                                               schema.find({"LineMap", "Assign", "RAxisVar"})};
-    const auto& ids = frame.plotType() == PlotType_LinePolar ? kPolar : kXy;
-    return {frame.lineInteger(ids[0], map), frame.lineInteger(ids[1], map)};
+    const auto& keys = style::lineMap.assign;
+    const bool isPolar = frame.plotType() == PlotType_LinePolar;
+    return {frame.lineInteger(isPolar ? keys.thetaAxisVar : keys.xAxisVar, map),
+            frame.lineInteger(isPolar ? keys.rAxisVar : keys.yAxisVar, map)};
 }
 
 static std::vector<double> toVector(vtkDataArray& array)
@@ -26,9 +23,7 @@ static std::vector<double> toVector(vtkDataArray& array)
 
 LineData lineData(const host::Frame& frame, CvlInt64 map)
 {
-    static const host::AttributeId kZone =
-        host::Schema::instance().find({"LineMap", "Assign", "Zone"});
-    const CvlInt64 zone = frame.lineInteger(kZone, map);
+    const CvlInt64 zone = frame.lineInteger(style::lineMap.assign.zone, map);
     const LineVariables variables = variablesOf(frame, map);
     const host::ZoneValues first = frame.data()->values(zone, variables.first);
     const host::ZoneValues second = frame.data()->values(zone, variables.second);

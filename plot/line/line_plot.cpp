@@ -13,22 +13,7 @@
 
 namespace corvala::plot {
 
-/// Attributes of a line, looked up once.
-struct LineAttributes
-{
-    static const LineAttributes& instance()
-    {
-        static const LineAttributes attributes;
-        return attributes;
-    }
-
-    const host::Schema& schema = host::Schema::instance();
-    host::AttributeId show = schema.find({"LineMap", "Lines", "Show"});
-    host::AttributeId color = schema.find({"LineMap", "Lines", "Color"});
-    host::AttributeId thickness = schema.find({"LineMap", "Lines", "LineThickness"});
-    host::AttributeId pattern = schema.find({"LineMap", "Lines", "LinePattern"});
-    host::AttributeId length = schema.find({"LineMap", "Lines", "PatternLength"});
-};
+static constexpr const auto& kLines = style::lineMap.lines;
 
 LinePlot::LinePlot(QCustomPlot& plot)
     : m_plot(plot)
@@ -122,16 +107,15 @@ bool LinePlot::applyStyle(const host::StateEvent& event)
     const host::Frame* const drawn = frame();
     bool changed = false;
     for (const host::StyleChange& change : event.styleChanges) {
-        const host::Attribute& attribute = host::Schema::instance().at(change.attribute);
-        const std::string& group = attribute.names.front();
-        if (group == "LinePlotLayers" && attribute.names[1] == "ShowLines") {
+        const style::Key key {change.attribute};
+        const bool isActivation = key == style::activeLineMaps;
+        const bool isAssignment = style::isInGroupOf(key, style::lineMap.assign.zone);
+        if (key == style::linePlotLayers.showLines) {
             pend(drawn ? drawn->activeLineMaps() | m_shown : host::NumberSet());
             changed = true;
-        } else if (group == "ActiveLineMaps"
-                   || (group == "LineMap"
-                       && (attribute.names[1] == "Lines" || attribute.names[1] == "Assign"))) {
+        } else if (isActivation || isAssignment || style::isInGroupOf(key, kLines.show)) {
             pend(change.maps);
-            if (group == "ActiveLineMaps" || attribute.names[1] == "Assign")
+            if (isActivation || isAssignment)
                 m_staleData |= change.maps;
             changed = true;
         }
@@ -142,19 +126,17 @@ bool LinePlot::applyStyle(const host::StateEvent& event)
 bool LinePlot::isDrawn(const host::Frame& drawn, CvlInt64 map) const
 {
     return drawn.activeLineMaps().contains(static_cast<std::uint32_t>(map))
-        && drawn.lineInteger(LineAttributes::instance().show, map) != 0
-        && drawn.lineLayer("ShowLines");
+        && drawn.lineInteger(kLines.show, map) != 0 && drawn.isOn(style::linePlotLayers.showLines);
 }
 
 LineLook LinePlot::lookOf(const host::Frame& drawn, CvlInt64 map) const
 {
-    const LineAttributes& ids = LineAttributes::instance();
-    const host::Rgb color = host::Document::instance().color(drawn.lineInteger(ids.color, map));
+    const host::Rgb color = host::Document::instance().color(drawn.lineInteger(kLines.color, map));
     LineLook look;
     look.color = QColor(color.red, color.green, color.blue);
-    look.width = linePixels(drawn.lineReal(ids.thickness, map), m_height);
-    const int pattern = drawn.lineInteger(ids.pattern, map);
-    const double period = drawn.lineReal(ids.length, map) / 100.0 * m_height;
+    look.width = linePixels(drawn.lineReal(kLines.lineThickness, map), m_height);
+    const int pattern = drawn.lineInteger(kLines.linePattern, map);
+    const double period = drawn.lineReal(kLines.patternLength, map) / 100.0 * m_height;
     if (pattern != LinePattern_Solid)
         for (const double stroke : patternStrokes(pattern))
             look.pattern.push_back(stroke * period);

@@ -2,13 +2,14 @@
 #include "sdk/base/cvl.h"
 
 #include "host/document/document.h"
-#include "sdk/base/flat_text.h"
-#include "sdk/base/read_count.h"
-#include "sdk/base/set_record.h"
+#include "sdk/private/flat_text.h"
+#include "sdk/private/read_count.h"
+#include "sdk/private/set_record.h"
 
 using corvala::host::DataSet;
 using corvala::host::Document;
 using corvala::host::Frame;
+using corvala::host::Schema;
 using corvala::host_access::countRead;
 
 static Frame* frameFor(CvlUniqueId id)
@@ -117,16 +118,25 @@ CvlBool CvlUtilFieldMapHasIJKOrderedZonesForFrame(CvlUniqueId id, CvlInt64 map)
     return frame && frame->fieldMaps().hasIJKOrderedZones(map);
 }
 
-CvlBool CvlUtilFieldLayerIsActiveForFrame(CvlUniqueId id, char const* layer)
+static CvlBool isOn(CvlUniqueId id, const char* group, const char* layer)
 {
     const Frame* const frame = frameFor(id);
-    return frame && frame->fieldLayer(layer);
+    if (!frame || !layer)
+        return 0;
+    const char* const path[] = {group, layer};
+    const Schema& schema = Schema::instance();
+    const corvala::style::Id found = schema.find(path, 2);
+    return found >= 0 && frame->values().integer(schema.at(found)) != 0;
+}
+
+CvlBool CvlUtilFieldLayerIsActiveForFrame(CvlUniqueId id, char const* layer)
+{
+    return isOn(id, "FieldLayers", layer);
 }
 
 CvlBool CvlUtilLinePlotLayerIsActiveForFrame(CvlUniqueId id, char const* layer)
 {
-    const Frame* const frame = frameFor(id);
-    return frame && frame->lineLayer(layer);
+    return isOn(id, "LinePlotLayers", layer);
 }
 
 char* CvlUtilZoneGetNameForFrame(CvlUniqueId id, CvlInt64 zone)

@@ -3,9 +3,9 @@
 
 #include "host/document/document.h"
 #include "host/document/line_map_name.h"
-#include "sdk/base/flat_text.h"
-#include "sdk/base/read_count.h"
-#include "sdk/base/set_record.h"
+#include "sdk/private/flat_text.h"
+#include "sdk/private/read_count.h"
+#include "sdk/private/set_record.h"
 
 #include <cstring>
 
@@ -49,7 +49,7 @@ CvlArbValue CvlUtilLineMapStyleGetArbValueForFrame(CvlUniqueId id, CvlInt64 map,
     const Frame* const frame = frameWithLineMap(id, map);
     if (!frame || !name || std::strcmp(name, "Name") != 0)
         return 0;
-    static const AttributeId stored = Schema::instance().find({"LineMap", "Name"});
+    constexpr AttributeId stored = corvala::style::lineMap.name;
     const auto text = Document::instance().read(id, stored, map);
     return text ? reinterpret_cast<CvlArbValue>(cvlFlatText(std::get<std::string>(*text))) : 0;
 }

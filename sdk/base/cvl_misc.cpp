@@ -2,9 +2,9 @@
 #include "sdk/base/cvl.h"
 
 #include "host/document/document.h"
-#include "sdk/base/flat_text.h"
-#include "sdk/base/read_count.h"
-#include "sdk/base/set_record.h"
+#include "sdk/private/flat_text.h"
+#include "sdk/private/read_count.h"
+#include "sdk/private/set_record.h"
 
 #include <cstdlib>
 #include <cstring>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "sdk/base/read_count.h"
+#include "sdk/private/read_count.h"
 
 #include "sdk/base/cvl.h"
 

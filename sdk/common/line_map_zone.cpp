@@ -3,7 +3,7 @@
 
 #include "host/document/document.h"
 #include "host/document/line_map_name.h"
-#include "sdk/base/set_record.h"
+#include "sdk/private/set_record.h"
 #include "sdk/uicommon/question.h"
 
 #include <vtkDataArray.h>
@@ -27,12 +27,10 @@ static QString text(const char* source)
 /// Variables that the line maps draw; numbers that are no line map are skipped.
 static std::set<int> drawnVariables(const Frame& frame, const host::NumberSet& maps)
 {
-    const host::Schema& schema = host::Schema::instance();
     const bool isPolar = frame.plotType() == PlotType_LinePolar;
-    const host::AttributeId first =
-        schema.find({"LineMap", "Assign", isPolar ? "ThetaAxisVar" : "XAxisVar"});
-    const host::AttributeId second =
-        schema.find({"LineMap", "Assign", isPolar ? "RAxisVar" : "YAxisVar"});
+    const auto& keys = style::lineMap.assign;
+    const style::VariableKey first = isPolar ? keys.thetaAxisVar : keys.xAxisVar;
+    const style::VariableKey second = isPolar ? keys.rAxisVar : keys.yAxisVar;
     std::set<int> variables;
     for (const std::uint32_t map : maps) {
         if (map < 1 || map > frame.lineMapCount())

@@ -3,9 +3,9 @@
 
 #include "host/document/document.h"
 #include "host/document/layer_facts.h"
-#include "sdk/base/read_count.h"
-#include "sdk/base/set_record.h"
-#include "sdk/common/frame_writes.h"
+#include "sdk/private/frame_writes.h"
+#include "sdk/private/read_count.h"
+#include "sdk/private/set_record.h"
 
 namespace corvala::sdk {
 
@@ -37,38 +37,39 @@ static const Frame* frameWithData()
 bool autoAssignScatterVariable()
 {
     const Frame* const frame = frameWithData();
-    if (!frame || readFrameValue({"GlobalScatter", "Var"}) != 0)
+    if (!frame || readFrameValue(style::globalScatter.var) != 0)
         return false;
     const std::vector<int> candidates = dataVariables(*frame);
     if (candidates.empty())
         return false;
-    host::SetStyle write {{"GlobalScatter", "Var"}, double(candidates.front())};
+    host::SetStyle write {host::pathOf(style::globalScatter.var), double(candidates.front())};
     write.undoable = false;
     return Document::instance().execute(write).result == StyleWrite_Ok;
 }
 
 bool autoAssignAllContourGroupVariables(ContourLevelsInitializationMode_e)
 {
-    constexpr int kGroups = 8;
     const Frame* const frame = frameWithData();
     if (!frame)
         return false;
     const std::vector<int> candidates = dataVariables(*frame);
     host::UndoHistory& undo = Document::instance().undo();
     undo.begin(UndoKind_StyleGroup);
-    for (int group = 1; group <= kGroups && !candidates.empty(); ++group) {
-        if (readFrameValue({"ContourGroups", "Var"}, group) == 0)
-            writeFrameValue({"ContourGroups", "Var"},
+    for (int group = 1; group <= style::ContourGroups::kCount && !candidates.empty(); ++group) {
+        if (readFrameValue(style::contourGroups.var, group) == 0)
+            writeFrameValue(style::contourGroups.var,
                             candidates[static_cast<std::size_t>(group - 1) % candidates.size()],
                             group);
     }
     undo.end(host::UndoHistory::Closing::OneStep);
-    return readFrameValue({"ContourGroups", "Var"}, 1) != 0;
+    return readFrameValue(style::contourGroups.var, 1) != 0;
 }
 
 toolbox::Set getActiveZones()
 {
-    return toolbox::StyleValue("ActiveFieldZones").read<toolbox::Set>().value_or(toolbox::Set());
+    return toolbox::StyleValue(style::activeFieldZones)
+        .read<toolbox::Set>()
+        .value_or(toolbox::Set());
 }
 
 bool isVolumeZone(CvlInt64 zone)
@@ -90,8 +91,10 @@ bool checkRGBChannelVars(const toolbox::StyleValue& globalRGB)
     const Frame* const frame = Document::instance().frame(globalRGB.frame());
     if (!frame)
         return false;
-    for (const char* channel : {"RedVar", "GreenVar", "BlueVar"}) {
-        const toolbox::FrameStyleValue variable(frame->id(), "GlobalRGB", channel);
+    const auto& channels = style::globalRgb;
+    for (const style::VariableKey channel :
+         {channels.redVar, channels.greenVar, channels.blueVar}) {
+        const toolbox::FrameStyleValue variable(frame->id(), channel);
         if (variable.read<int>().value_or(0) == 0)
             return false;
     }

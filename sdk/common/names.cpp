@@ -3,7 +3,7 @@
 
 #include "host/document/document.h"
 #include "host/document/line_map_name.h"
-#include "sdk/base/read_count.h"
+#include "sdk/private/read_count.h"
 
 namespace corvala::sdk {
 

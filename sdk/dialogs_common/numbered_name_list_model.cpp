@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "sdk/dialogs_common/numbered_name_list_model.h"
+#include "sdk/private/numbered_name_list_model.h"
 
 #include <sdk/common/common.h>
 

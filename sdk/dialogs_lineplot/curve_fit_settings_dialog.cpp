@@ -2,8 +2,8 @@
 #include "sdk/dialogs_lineplot/curve_fit_settings_dialog.h"
 
 #include <sdk/base/cvl.h>
-#include <sdk/dialogs_common/shared_instance.h>
-#include <sdk/dialogs_lineplot/curve_fit_settings_form.h>
+#include <sdk/private/curve_fit_settings_form.h>
+#include <sdk/private/shared_instance.h>
 #include <sdk/signals/state_change_event_observable.h>
 #include <sdk/toolbox/style_value.h>
 #include <sdk/uicommon/host_command_scope.h>
@@ -23,7 +23,7 @@ namespace corvala::dialogs::lineplot {
 /// exist, or there are none.
 static std::optional<CurveType_e> commonCurveType(const toolbox::Set& lineMaps)
 {
-    const toolbox::StyleValue curveType("LineMap", "Curves", "CurveType");
+    const toolbox::StyleValue curveType(style::lineMap.curves.curveType);
     const auto type = curveType.read<int>(lineMaps.next(0));
     for (CvlInt64 map = lineMaps.next(0); type && map != 0; map = lineMaps.next(map)) {
         if (curveType.read<int>(map) != type)

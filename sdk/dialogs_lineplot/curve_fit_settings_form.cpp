@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "sdk/dialogs_lineplot/curve_fit_settings_form.h"
+#include "sdk/private/curve_fit_settings_form.h"
 
 #include <sdk/common_ui/combo_box_auto_filter.h>
-#include <sdk/dialogs_common/numbered_name_list_model.h>
+#include <sdk/private/numbered_name_list_model.h>
 #include <sdk/toolbox/style_value.h>
 #include <sdk/uicommon/style_writing.h>
 
@@ -29,11 +29,12 @@ static bool isSpline(CurveType_e type)
     return type == CurveType_Spline || type == CurveType_ParametricSpline;
 }
 
+static constexpr const auto& kCurves = style::lineMap.curves;
+
 template<class T>
-static T setting(const char* name, CvlInt64 lineMap)
+static T setting(style::Key key, CvlInt64 lineMap)
 {
-    const toolbox::StyleValue value("LineMap", "Curves", name);
-    return value.read<T>(lineMap).value_or(T());
+    return toolbox::StyleValue(key).read<T>(lineMap).value_or(T());
 }
 
 static void setNumber(QLineEdit& edit, double number)
@@ -130,16 +131,17 @@ void CurveFitSettingsForm::read(CurveType_e type, CvlInt64 lineMap)
     m_weight->setVisible(isFit(type));
     m_clamp->setVisible(isSpline(type));
 
-    m_order->setValue(setting<int>("PolyOrder", lineMap));
-    m_range->setChecked(setting<bool>("UseIndVarRange", lineMap));
-    setNumber(*m_rangeBegin, setting<double>("IndVarMin", lineMap));
-    setNumber(*m_rangeEnd, setting<double>("IndVarMax", lineMap));
-    m_weight->setChecked(setting<bool>("UseWeightVar", lineMap));
+    m_order->setValue(setting<int>(kCurves.polyOrder, lineMap));
+    m_range->setChecked(setting<bool>(kCurves.useIndVarRange, lineMap));
+    setNumber(*m_rangeBegin, setting<double>(kCurves.indVarMin, lineMap));
+    setNumber(*m_rangeEnd, setting<double>(kCurves.indVarMax, lineMap));
+    m_weight->setChecked(setting<bool>(kCurves.useWeightVar, lineMap));
     m_variables->listVariables();
-    m_weightVariable->setCurrentIndex(m_variables->rowOf(setting<CvlInt64>("WeightVar", lineMap)));
-    m_clamp->setChecked(setting<bool>("ClampSpline", lineMap));
-    setNumber(*m_startDerivative, setting<double>("SplineDerivativeAtStart", lineMap));
-    setNumber(*m_endDerivative, setting<double>("SplineDerivativeAtEnd", lineMap));
+    m_weightVariable->setCurrentIndex(
+        m_variables->rowOf(setting<CvlInt64>(kCurves.weightVar, lineMap)));
+    m_clamp->setChecked(setting<bool>(kCurves.clampSpline, lineMap));
+    setNumber(*m_startDerivative, setting<double>(kCurves.splineDerivativeAtStart, lineMap));
+    setNumber(*m_endDerivative, setting<double>(kCurves.splineDerivativeAtEnd, lineMap));
 }
 
 bool CurveFitSettingsForm::isAcceptable() const
@@ -159,28 +161,28 @@ bool CurveFitSettingsForm::isAcceptable() const
 
 void CurveFitSettingsForm::write(const toolbox::Set& lineMaps) const
 {
-    const auto assign = [&lineMaps](const char* name, double value) {
-        sdk::ui::writeStyle({"LineMap", "Curves", name}, &lineMaps, value);
+    const auto assign = [&lineMaps](style::Key key, double value) {
+        sdk::ui::writeStyle(key, &lineMaps, value);
     };
     // What a switch leaves without effect stays as each line map has it.
-    const auto assignSwitch = [&assign](const char* name, const QGroupBox* group) {
+    const auto assignSwitch = [&assign](style::SwitchKey key, const QGroupBox* group) {
         if (group->isHidden())
             return false;
-        assign(name, group->isChecked() ? 1.0 : 0.0);
+        assign(key, group->isChecked() ? 1.0 : 0.0);
         return group->isChecked();
     };
     if (!m_orderRow->isHidden())
-        assign("PolyOrder", m_order->value());
-    if (assignSwitch("UseIndVarRange", m_range)) {
-        assign("IndVarMin", number(*m_rangeBegin));
-        assign("IndVarMax", number(*m_rangeEnd));
+        assign(kCurves.polyOrder, m_order->value());
+    if (assignSwitch(kCurves.useIndVarRange, m_range)) {
+        assign(kCurves.indVarMin, number(*m_rangeBegin));
+        assign(kCurves.indVarMax, number(*m_rangeEnd));
     }
-    if (assignSwitch("UseWeightVar", m_weight))
-        assign("WeightVar",
+    if (assignSwitch(kCurves.useWeightVar, m_weight))
+        assign(kCurves.weightVar,
                static_cast<double>(m_variables->numberAt(m_weightVariable->currentIndex())));
-    if (assignSwitch("ClampSpline", m_clamp)) {
-        assign("SplineDerivativeAtStart", number(*m_startDerivative));
-        assign("SplineDerivativeAtEnd", number(*m_endDerivative));
+    if (assignSwitch(kCurves.clampSpline, m_clamp)) {
+        assign(kCurves.splineDerivativeAtStart, number(*m_startDerivative));
+        assign(kCurves.splineDerivativeAtEnd, number(*m_endDerivative));
     }
 }
 

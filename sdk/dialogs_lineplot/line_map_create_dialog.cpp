@@ -4,8 +4,8 @@
 #include <sdk/base/cvl.h>
 #include <sdk/common/app_lock.h>
 #include <sdk/common_ui/combo_box_auto_filter.h>
-#include <sdk/dialogs_common/numbered_name_list_model.h>
-#include <sdk/dialogs_common/shared_instance.h>
+#include <sdk/private/numbered_name_list_model.h>
+#include <sdk/private/shared_instance.h>
 #include <sdk/uicommon/host_command_scope.h>
 #include <sdk/uicommon/style_writing.h>
 
@@ -121,15 +121,16 @@ void LineMapCreateDialog::createLineMaps()
     const CvlInt64 first = CvlUtilLineMapCreate(count);
     if (first == 0)
         return;
-    const auto assign = [](const char* name, CvlInt64 firstMap, CvlInt64 lastMap, CvlInt64 value) {
+    const auto assign = [](style::Key key, CvlInt64 firstMap, CvlInt64 lastMap, CvlInt64 value) {
         toolbox::Set maps;
         maps.addRange(firstMap, lastMap);
-        sdk::ui::writeStyle({"LineMap", "Assign", name}, &maps, static_cast<double>(value));
+        sdk::ui::writeStyle(key, &maps, static_cast<double>(value));
     };
-    assign("Zone", first, first + count - 1, zone);
-    assign(isPolar() ? "ThetaAxisVar" : "XAxisVar", first, first + count - 1, independent);
+    const auto& keys = style::lineMap.assign;
+    assign(keys.zone, first, first + count - 1, zone);
+    assign(isPolar() ? keys.thetaAxisVar : keys.xAxisVar, first, first + count - 1, independent);
     for (CvlInt64 i = 0; i < count; ++i)
-        assign(isPolar() ? "RAxisVar" : "YAxisVar", first + i, first + i,
+        assign(isPolar() ? keys.rAxisVar : keys.yAxisVar, first + i, first + i,
                dependent[static_cast<std::size_t>(i)]);
 }
 

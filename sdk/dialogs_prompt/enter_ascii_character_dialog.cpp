@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "sdk/dialogs_prompt/enter_ascii_character_dialog.h"
 
-#include <sdk/dialogs_common/shared_instance.h>
-#include <sdk/dialogs_prompt/font_choice.h>
+#include <sdk/private/font_choice.h>
+#include <sdk/private/shared_instance.h>
 
 #include <QCheckBox>
 #include <QDialogButtonBox>

@@ -2,7 +2,7 @@
 #include "sdk/dialogs_prompt/enter_three_int_values_dialog.h"
 
 #include <sdk/dialogs_common/launch_help_action.h>
-#include <sdk/dialogs_common/shared_instance.h>
+#include <sdk/private/shared_instance.h>
 
 #include <QDialogButtonBox>
 #include <QFormLayout>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "sdk/dialogs_prompt/font_choice.h"
+#include "sdk/private/font_choice.h"
 
 #include <sdk/base/enums.h>
 

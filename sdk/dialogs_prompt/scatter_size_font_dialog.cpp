@@ -2,9 +2,9 @@
 #include "sdk/dialogs_prompt/scatter_size_font_dialog.h"
 
 #include <sdk/common_ui/combo_box_auto_filter.h>
-#include <sdk/dialogs_common/numbered_name_list_model.h>
-#include <sdk/dialogs_common/shared_instance.h>
-#include <sdk/dialogs_prompt/font_choice.h>
+#include <sdk/private/font_choice.h>
+#include <sdk/private/numbered_name_list_model.h>
+#include <sdk/private/shared_instance.h>
 #include <sdk/toolbox/style_value.h>
 #include <sdk/uicommon/style_writing.h>
 
@@ -13,10 +13,7 @@
 
 namespace corvala::dialogs::prompt {
 
-static toolbox::StyleValue fontValue(const char* name)
-{
-    return {"FieldMap", "Scatter", "SymbolShape", "ASCIIShape", name};
-}
+static constexpr const auto& kCharacter = style::fieldMap.scatter.symbolShape.asciiShape;
 
 ScatterSizeFontDialog& ScatterSizeFontDialog::getInstance(QWidget* parent)
 {
@@ -42,9 +39,9 @@ ScatterSizeFontDialog::ScatterSizeFontDialog(QWidget* parent)
     connect(m_variable, &ui::ComboBoxAutoFilter::selectionComplete, this,
             &ScatterSizeFontDialog::writeVariable);
     connect(m_font, &FontChoice::useBaseFontClicked, this,
-            [this](bool useBaseFont) { writeFont("UseBaseFont", useBaseFont ? 1 : 0); });
+            [this](bool useBaseFont) { writeFont(kCharacter.useBaseFont, useBaseFont ? 1 : 0); });
     connect(m_font, &FontChoice::fontOverrideActivated, this,
-            [this](int fontOverride) { writeFont("FontOverride", fontOverride); });
+            [this](int fontOverride) { writeFont(kCharacter.fontOverride, fontOverride); });
 }
 
 bool ScatterSizeFontDialog::isConcernedBy(const toolbox::StateChangeEventInterface& event) const
@@ -60,27 +57,28 @@ void ScatterSizeFontDialog::readDocument()
 {
     m_variables->listVariables(true);
     m_variable->setEnabled(CvlUtilDataSetIsAvailable() != 0);
-    const toolbox::StyleValue sizeVariable("GlobalScatter", "Var");
+    const toolbox::StyleValue sizeVariable(style::globalScatter.var);
     m_variable->setCurrentIndex(m_variables->rowOf(sizeVariable.read<CvlInt64>().value_or(0)));
 
-    const toolbox::StyleValue active("ActiveFieldMaps");
+    const toolbox::StyleValue active(style::activeFieldMaps);
     m_activeMaps = active.read<toolbox::Set>().value_or(toolbox::Set());
     m_font->setEnabled(!m_activeMaps.isEmpty());
     const CvlInt64 first = m_activeMaps.next(0);
-    m_font->setUseBaseFont(fontValue("UseBaseFont").read<bool>(first).value_or(true));
-    m_font->setFontOverride(fontValue("FontOverride").read<int>(first).value_or(FontOverride_None));
+    const toolbox::StyleValue useBaseFont(kCharacter.useBaseFont);
+    m_font->setUseBaseFont(useBaseFont.read<bool>(first).value_or(true));
+    const toolbox::StyleValue fontOverride(kCharacter.fontOverride);
+    m_font->setFontOverride(fontOverride.read<int>(first).value_or(FontOverride_None));
 }
 
 void ScatterSizeFontDialog::writeVariable()
 {
     const CvlInt64 variable = m_variables->numberAt(m_variable->currentIndex());
-    sdk::ui::writeStyle({"GlobalScatter", "Var"}, nullptr, static_cast<double>(variable));
+    sdk::ui::writeStyle(style::globalScatter.var, nullptr, static_cast<double>(variable));
 }
 
-void ScatterSizeFontDialog::writeFont(const char* name, int value)
+void ScatterSizeFontDialog::writeFont(style::Key key, int value)
 {
-    sdk::ui::writeStyle({"FieldMap", "Scatter", "SymbolShape", "ASCIIShape", name}, &m_activeMaps,
-                        value);
+    sdk::ui::writeStyle(key, &m_activeMaps, value);
 }
 
 } // namespace corvala::dialogs::prompt

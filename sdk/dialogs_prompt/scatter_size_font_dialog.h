@@ -3,6 +3,7 @@
 
 #include <sdk/dialogs_common/document_dialog.h>
 #include <sdk/toolbox/set.h>
+#include <vocabulary/entry.h>
 
 namespace corvala::dialogs::common {
 class NumberedNameListModel;
@@ -31,7 +32,7 @@ private:
     void readDocument() override;
     bool isConcernedBy(const toolbox::StateChangeEventInterface& change) const override;
     void writeVariable();
-    void writeFont(const char* name, int value);
+    void writeFont(style::Key key, int value);
 
     common::NumberedNameListModel* m_variables;
     ui::ComboBoxAutoFilter* m_variable;

@@ -3,7 +3,7 @@
 
 #include <sdk/common_ui/combo_box_auto_filter.h>
 #include <sdk/common_ui/find_main_window.h>
-#include <sdk/dialogs_common/numbered_name_list_model.h>
+#include <sdk/private/numbered_name_list_model.h>
 #include <sdk/toolbox/style_value.h>
 #include <sdk/uicommon/edit_session.h>
 #include <sdk/uicommon/style_writing.h>
@@ -20,7 +20,8 @@
 
 namespace corvala::dialogs::prompt {
 
-static constexpr const char* kComponents[] = {"UVar", "VVar", "WVar"};
+static constexpr style::VariableKey kComponents[] = {
+    style::globalVector.uVar, style::globalVector.vVar, style::globalVector.wVar};
 
 /// Number of components that the vectors of a plot have.
 static int componentCount(PlotType_e plotType)
@@ -30,7 +31,7 @@ static int componentCount(PlotType_e plotType)
 
 static CvlInt64 assignedVariable(int component)
 {
-    const toolbox::StyleValue value("GlobalVector", kComponents[component]);
+    const toolbox::StyleValue value(kComponents[component]);
     return value.read<CvlInt64>().value_or(0);
 }
 
@@ -93,8 +94,7 @@ void VectorVariablesDialog::write() const
     const sdk::ui::StyleUndoStep step;
     for (std::size_t i = 0; i < m_boxes.size(); ++i) {
         const CvlInt64 variable = m_variables->numberAt(m_boxes[i]->currentIndex());
-        sdk::ui::writeStyle({"GlobalVector", kComponents[i]}, nullptr,
-                            static_cast<double>(variable));
+        sdk::ui::writeStyle(kComponents[i], nullptr, static_cast<double>(variable));
     }
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "sdk/dialogs_prompt/zone_select_dialog.h"
 
-#include <sdk/dialogs_common/numbered_name_list_model.h>
-#include <sdk/dialogs_common/shared_instance.h>
+#include <sdk/private/numbered_name_list_model.h>
+#include <sdk/private/shared_instance.h>
 #include <sdk/uicommon/edit_session.h>
 
 #include <QCoreApplication>

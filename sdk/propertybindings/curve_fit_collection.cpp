@@ -3,7 +3,7 @@
 
 #include <sdk/toolbox/style_value.h>
 
-#include "host/style/schema.h"
+#include <vocabulary/style.h>
 
 #include <QCoreApplication>
 
@@ -11,13 +11,11 @@ namespace corvala::propertybindings {
 
 CurveFitCollection::CurveFitCollection()
 {
-    const host::Schema& schema = host::Schema::instance();
-    const host::Attribute& attribute = schema.leaf({"LineMap", "Curves", "CurveType"});
-    for (auto* type = attribute.enumerators; type->name; ++type) {
+    for (const style::Choice& type : style::entryOf(style::lineMap.curves.curveType).choices) {
         // A document says that a fit is extended, but not which one, so none can be offered.
-        if (type->value != CurveType_Extended)
-            m_fits.emplace_back(static_cast<CurveType_e>(type->value),
-                                QCoreApplication::translate("StyleValues", type->name));
+        if (type.value != CurveType_Extended)
+            m_fits.emplace_back(static_cast<CurveType_e>(type.value),
+                                QCoreApplication::translate("StyleValues", type.name));
     }
 }
 
@@ -28,7 +26,7 @@ CurveFitInfo CurveFitCollection::get(int index) const
 
 CurveFitInfo CurveFitCollection::curveFitForLineMap(CvlUniqueId frame, CvlInt64 lineMap) const
 {
-    const toolbox::FrameStyleValue curveType(frame, "LineMap", "Curves", "CurveType");
+    const toolbox::FrameStyleValue curveType(frame, style::lineMap.curves.curveType);
     const auto type = curveType.read<int>(lineMap);
     if (!type)
         return {};

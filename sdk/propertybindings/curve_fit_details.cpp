@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "sdk/propertybindings/curve_fit_details.h"
+#include "sdk/private/curve_fit_details.h"
 
 #include <sdk/common/common.h>
+#include <vocabulary/style.h>
 
 #include <QCoreApplication>
 
 namespace corvala::propertybindings {
 
 namespace {
+
+constexpr const auto& kCurves = style::lineMap.curves;
 
 /// Puts the settings of one line map into words.
 class Details
@@ -21,29 +24,30 @@ public:
     {
     }
 
-    QString order() const { return tr("Order=%1").arg(setting<int>("PolyOrder")); }
+    QString order() const { return tr("Order=%1").arg(setting<int>(kCurves.polyOrder)); }
 
     QString range() const
     {
-        return setting<bool>("UseIndVarRange")
-            ? tr("Points range=%1,%2").arg(number("IndVarMin"), number("IndVarMax"))
+        return setting<bool>(kCurves.useIndVarRange)
+            ? tr("Points range=%1,%2").arg(number(kCurves.indVarMin), number(kCurves.indVarMax))
             : tr("Using all points");
     }
 
     QString weighting() const
     {
-        return setting<bool>("UseWeightVar")
+        return setting<bool>(kCurves.useWeightVar)
             ? tr("Weighting variable=%1")
                   .arg(QString::fromStdString(sdk::variableNameFormattedForAliasesForFrame(
-                      m_frame, setting<CvlInt64>("WeightVar"))))
+                      m_frame, setting<CvlInt64>(kCurves.weightVar))))
             : tr("Not using weighting variable");
     }
 
     QString clamping() const
     {
-        return setting<bool>("ClampSpline")
+        return setting<bool>(kCurves.clampSpline)
             ? tr("Clamped: D1=%1, D2=%2")
-                  .arg(number("SplineDerivativeAtStart"), number("SplineDerivativeAtEnd"))
+                  .arg(number(kCurves.splineDerivativeAtStart),
+                       number(kCurves.splineDerivativeAtEnd))
             : tr("Not clamped");
     }
 
@@ -51,13 +55,13 @@ public:
 
 private:
     template<class T>
-    T setting(const char* name) const
+    T setting(style::Key key) const
     {
-        const toolbox::FrameStyleValue value(m_frame, "LineMap", "Curves", name);
+        const toolbox::FrameStyleValue value(m_frame, key);
         return value.read<T>(m_lineMap).value_or(T());
     }
 
-    QString number(const char* name) const { return QString::number(setting<double>(name)); }
+    QString number(style::RealKey key) const { return QString::number(setting<double>(key)); }
 
     CvlUniqueId m_frame;
     CvlInt64 m_lineMap;

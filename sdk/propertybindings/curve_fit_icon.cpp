@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "sdk/propertybindings/curve_fit_icon.h"
+#include "sdk/private/curve_fit_icon.h"
 
 #include <QPainter>
 #include <QPainterPath>

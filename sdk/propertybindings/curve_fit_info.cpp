@@ -3,8 +3,8 @@
 
 #include <sdk/base/cvl.h>
 #include <sdk/dialogs_lineplot/curve_fit_settings_dialog.h>
-#include <sdk/propertybindings/curve_fit_details.h>
-#include <sdk/propertybindings/curve_fit_icon.h>
+#include <sdk/private/curve_fit_details.h>
+#include <sdk/private/curve_fit_icon.h>
 #include <sdk/uicommon/style_writing.h>
 
 namespace corvala::propertybindings {
@@ -33,7 +33,7 @@ boost::function<void(const toolbox::Set&)> CurveFitInfo::curveFitAssigner() cons
     if (!m_isValid)
         return {};
     return [type = m_type](const toolbox::Set& lineMaps) {
-        sdk::ui::writeStyle({"LineMap", "Curves", "CurveType"}, &lineMaps, type);
+        sdk::ui::writeStyle(style::lineMap.curves.curveType, &lineMaps, type);
     };
 }
 

@@ -2,7 +2,7 @@
 #include "sdk/toolbox/set.h"
 
 #include "sdk/base/cvl.h"
-#include "sdk/base/set_record.h"
+#include "sdk/private/set_record.h"
 
 #include <limits>
 #include <utility>

@@ -3,8 +3,8 @@
 
 #include "host/document/document.h"
 #include "sdk/base/cvl.h"
-#include "sdk/base/read_count.h"
-#include "sdk/base/set_record.h"
+#include "sdk/private/read_count.h"
+#include "sdk/private/set_record.h"
 
 #include <algorithm>
 #include <limits>

@@ -4,6 +4,7 @@
 #include <sdk/base/enums.h>
 #include <sdk/toolbox/arg_list.h>
 #include <sdk/toolbox/set.h>
+#include <vocabulary/entry.h>
 
 #include <optional>
 #include <string>
@@ -11,10 +12,11 @@
 
 namespace corvala::toolbox {
 
-/// Accessor of one style value of the active frame, named by a path of up to five names such as
-/// "FieldMap", "Mesh", "Color". Making one resolves the path; for a known path neither that nor
-/// reading an integer, bool or real allocates memory. An unknown path is kept: reads fail, writes
-/// answer StyleWrite_UnknownPath.
+/// Accessor of one style value of the active frame, named by a key of the dictionary (see
+/// vocabulary/style.h) or by a path of up to five names such as "FieldMap", "Mesh", "Color". Making
+/// one resolves the path; a key is resolved. For a known path neither that nor reading an integer,
+/// bool or real allocates memory. An unknown path is kept: reads fail, writes answer
+/// StyleWrite_UnknownPath.
 class StyleValue
 {
 public:
@@ -22,6 +24,10 @@ public:
     StyleValue(const char* n1, const char* n2 = nullptr, const char* n3 = nullptr,
                const char* n4 = nullptr, const char* n5 = nullptr);
     explicit StyleValue(std::vector<std::string> names);
+    explicit StyleValue(style::Key key)
+        : m_attribute(key)
+    {
+    }
     virtual ~StyleValue();
 
     const std::vector<std::string>& names() const;
@@ -65,6 +71,11 @@ class FrameStyleValue : public StyleValue
 public:
     FrameStyleValue(CvlUniqueId frame, const char* n1, const char* n2 = nullptr,
                     const char* n3 = nullptr, const char* n4 = nullptr, const char* n5 = nullptr);
+    FrameStyleValue(CvlUniqueId frame, style::Key key)
+        : StyleValue(key)
+        , m_frame(frame)
+    {
+    }
     CvlUniqueId frame() const override { return m_frame; }
 
 private:

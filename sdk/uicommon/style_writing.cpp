@@ -5,11 +5,10 @@
 
 namespace corvala::sdk::ui {
 
-StyleWriteResult_e writeStyle(const std::vector<std::string>& path, const toolbox::Set* maps,
-                              double value)
+StyleWriteResult_e writeStyle(style::Key key, const toolbox::Set* maps, double value)
 {
-    toolbox::StyleValue styleValue(path);
-    auto ids = toolbox::StyleValue::initMacroIDsfromStyleValueNames(path);
+    toolbox::StyleValue styleValue(key);
+    auto ids = toolbox::StyleValue::initMacroIDsfromStyleValueNames(styleValue.names());
     ids.push_back(-1);
     toolbox::ArgList address;
     toolbox::StyleValue::setupSetValueArgList(ids.data(), maps, -1, -1, toolbox::AssignOp_None,

@@ -3,15 +3,12 @@
 
 #include <sdk/base/cvl.h>
 #include <sdk/toolbox/set.h>
-
-#include <string>
-#include <vector>
+#include <vocabulary/style.h>
 
 namespace corvala::sdk::ui {
 
 /// Writes a number or switch of the active frame, for maps or (null) of the frame itself.
-StyleWriteResult_e writeStyle(const std::vector<std::string>& path, const toolbox::Set* maps,
-                              double value);
+StyleWriteResult_e writeStyle(style::Key key, const toolbox::Set* maps, double value);
 
 /// What is written while it lives is one undo step.
 class StyleUndoStep

@@ -147,7 +147,7 @@ void tst_MainWindow::layersAndPlotTypeChangeTheDocument()
 {
     m_window->openDemo(QStringLiteral("field3d"));
     layer("ShowContour").trigger();
-    QVERIFY(frame().fieldLayer("ShowContour"));
+    QVERIFY(frame().isOn(style::fieldLayers.showContour));
     auto* types = m_window->findChild<QComboBox*>(QStringLiteral("plotType"));
     play::waitUntilIdle();
     QCOMPARE(types->currentText(), QStringLiteral("3D field plot"));
@@ -198,7 +198,7 @@ void tst_MainWindow::layersThatShowNothingSayWhy()
     QVERIFY(button("Show Shade"));
     button("Show Shade")->click();
     play::waitUntilIdle();
-    QVERIFY(frame().fieldLayer("ShowShade") && !button("Show Shade"));
+    QVERIFY(frame().isOn(style::fieldLayers.showShade) && !button("Show Shade"));
 
     // A note goes when it is true no longer.
     write({{"FieldMap", "Mesh", "Show"}, false, maps});
@@ -225,9 +225,9 @@ void tst_MainWindow::undoIsNamedAndWorksByShortcut()
     QVERIFY2(undo->isEnabled() && undo->text().contains(QLatin1String("hade")),
              qPrintable(undo->text()));
     play::pressKeys(m_window.get(), QKeySequence(QKeySequence::Undo));
-    QVERIFY(!frame().fieldLayer("ShowShade"));
+    QVERIFY(!frame().isOn(style::fieldLayers.showShade));
     play::pressKeys(m_window.get(), QKeySequence(QKeySequence::Redo));
-    QVERIFY(frame().fieldLayer("ShowShade"));
+    QVERIFY(frame().isOn(style::fieldLayers.showShade));
 }
 
 void tst_MainWindow::sliderGoesThroughTheTimes()
@@ -329,7 +329,7 @@ void tst_MainWindow::commandsHaveTheirKeysInTheDialogToo()
     layer("ShowContour").trigger();
     const play::DialogDriver driver;
     play::pressKeys(&driver.dialog(), QKeySequence(QKeySequence::Undo));
-    QVERIFY(!frame().fieldLayer("ShowContour"));
+    QVERIFY(!frame().isOn(style::fieldLayers.showContour));
     play::pressKeys(&driver.dialog(), QKeySequence(QKeySequence::Quit));
     play::waitUntilIdle();
     QVERIFY(!m_window->isVisible());

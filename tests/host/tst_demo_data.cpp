@@ -71,19 +71,18 @@ void tst_DemoData::assignsVariables()
     std::string error;
     QVERIFY(samples::openDemo("field3d", 4, error));
     const Frame& frame = *Document::instance().activeFrame();
-    const Schema& schema = Schema::instance();
-    const auto value = [&](const std::vector<std::string>& path, std::int64_t index = -1) {
-        return frame.values().integer(schema.leaf(path), index);
+    const auto value = [&](style::VariableKey key, std::int64_t index = -1) {
+        return frame.values().integer(Schema::instance().at(key), index);
     };
-    QCOMPARE(frame.data()->variable(value({"GlobalVector", "WVar"})).name, std::string("W"));
-    QCOMPARE(frame.data()->variable(value({"ContourGroups", "Var"}, 2)).name,
+    QCOMPARE(frame.data()->variable(value(style::globalVector.wVar)).name, std::string("W"));
+    QCOMPARE(frame.data()->variable(value(style::contourGroups.var, 2)).name,
              std::string("Density"));
-    QCOMPARE(value({"ContourGroups", "Var"}, 3), 0);
-    QCOMPARE(value({"GlobalScatter", "Var"}), 0);
+    QCOMPARE(value(style::contourGroups.var, 3), 0);
+    QCOMPARE(value(style::globalScatter.var), 0);
 
     QVERIFY(samples::openDemo("xy", 5, error));
-    const AttributeId y = schema.find({"LineMap", "Assign", "YAxisVar"});
-    const AttributeId radius = schema.find({"LineMap", "Assign", "RAxisVar"});
+    const AttributeId y = style::lineMap.assign.yAxisVar;
+    const AttributeId radius = style::lineMap.assign.rAxisVar;
     QCOMPARE(frame.lineInteger(y, 4), 2);
     QCOMPARE(frame.lineInteger(y, 5), 3);
     QCOMPARE(frame.data()->variable(frame.lineInteger(radius, 1)).name, std::string("Gain"));

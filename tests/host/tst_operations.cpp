@@ -35,7 +35,7 @@ private Q_SLOTS:
 };
 
 /// A style write; the path is separated by blanks, a number in it is the index.
-static Operation style(const char* path, const char* maps, const char* value)
+static Operation styled(const char* path, const char* maps, const char* value)
 {
     nlohmann::json object {{"value", nlohmann::json::parse(value)}};
     for (const QString& name : QString(path).split(' '))
@@ -60,48 +60,48 @@ void tst_Operations::answers_data()
     const auto row = [](const char* name, const Operation& operation, StyleWriteResult_e result) {
         QTest::newRow(name) << operation << int(result);
     };
-    row("written", style(type, "1-3", "2"), StyleWrite_Ok);
-    row("all maps", style(type, "all", "2"), StyleWrite_Ok);
-    row("there already", style(type, "1-3", "1"), StyleWrite_Unchanged);
-    row("one of them differs", style("FieldMap Shade Color", "2,3", "2"), StyleWrite_Ok);
-    row("unknown path", style("FieldMap Scatter KRange", "1", "1"), StyleWrite_UnknownPath);
-    row("group", style("FieldMap Surfaces IRange", "1", "1"), StyleWrite_NotALeaf);
-    row("text for a number", style(type, "1", "\"2\""), StyleWrite_WrongType);
-    row("fraction for an enumeration", style(type, "1", "0.5"), StyleWrite_WrongType);
+    row("written", styled(type, "1-3", "2"), StyleWrite_Ok);
+    row("all maps", styled(type, "all", "2"), StyleWrite_Ok);
+    row("there already", styled(type, "1-3", "1"), StyleWrite_Unchanged);
+    row("one of them differs", styled("FieldMap Shade Color", "2,3", "2"), StyleWrite_Ok);
+    row("unknown path", styled("FieldMap Scatter KRange", "1", "1"), StyleWrite_UnknownPath);
+    row("group", styled("FieldMap Surfaces IRange", "1", "1"), StyleWrite_NotALeaf);
+    row("text for a number", styled(type, "1", "\"2\""), StyleWrite_WrongType);
+    row("fraction for an enumeration", styled(type, "1", "0.5"), StyleWrite_WrongType);
     row("NaN for an enumeration", SetStyle {typePath, std::nan(""), one}, StyleWrite_WrongType);
-    row("bool for an enumeration", style(type, "1", "false"), StyleWrite_Ok);
-    row("number for a bool", style("FieldMap Mesh Show", "1", "0"), StyleWrite_Ok);
+    row("bool for an enumeration", styled(type, "1", "false"), StyleWrite_Ok);
+    row("number for a bool", styled("FieldMap Mesh Show", "1", "0"), StyleWrite_Ok);
     row("NaN for a bool is true", SetStyle {{"FieldMap", "Mesh", "Show"}, std::nan(""), one},
         StyleWrite_Unchanged);
-    row("no such enumerator", style(type, "1", "3"), StyleWrite_OutOfRange);
-    row("below the range", style(thickness, "1", "0"), StyleWrite_OutOfRange);
-    row("smallest", style(thickness, "1", "0.0001"), StyleWrite_Ok);
-    row("above the range", style(thickness, "1", "100.5"), StyleWrite_OutOfRange);
+    row("no such enumerator", styled(type, "1", "3"), StyleWrite_OutOfRange);
+    row("below the range", styled(thickness, "1", "0"), StyleWrite_OutOfRange);
+    row("smallest", styled(thickness, "1", "0.0001"), StyleWrite_Ok);
+    row("above the range", styled(thickness, "1", "100.5"), StyleWrite_OutOfRange);
     row("NaN for a real", SetStyle {{"FieldMap", "Mesh", "LineThickness"}, std::nan(""), one},
         StyleWrite_OutOfRange);
     row("infinite", SetStyle {{"FieldMap", "Mesh", "LineThickness"}, HUGE_VAL, one},
         StyleWrite_OutOfRange);
-    row("group 0", style("FieldMap Group", "1", "0"), StyleWrite_OutOfRange);
-    row("group colour", style("FieldMap Mesh Color", "1", "101"), StyleWrite_Ok);
-    row("group colour for a shade", style("FieldMap Shade Color", "1", "101"),
+    row("group 0", styled("FieldMap Group", "1", "0"), StyleWrite_OutOfRange);
+    row("group colour", styled("FieldMap Mesh Color", "1", "101"), StyleWrite_Ok);
+    row("group colour for a shade", styled("FieldMap Shade Color", "1", "101"),
         StyleWrite_OutOfRange);
-    row("colour between", style("FieldMap Mesh Color", "1", "64"), StyleWrite_OutOfRange);
-    row("one wide character", style(character, "1", R"("𝄞")"), StyleWrite_Ok);
-    row("two characters", style(character, "1", R"("AB")"), StyleWrite_OutOfRange);
+    row("colour between", styled("FieldMap Mesh Color", "1", "64"), StyleWrite_OutOfRange);
+    row("one wide character", styled(character, "1", R"("𝄞")"), StyleWrite_Ok);
+    row("two characters", styled(character, "1", R"("AB")"), StyleWrite_OutOfRange);
     row("no UTF-8", RenameZone {1, "\xff"}, StyleWrite_WrongType);
-    row("no maps", style(type, "none", "2"), StyleWrite_BadObjects);
-    row("no set", style(type, "", "2"), StyleWrite_BadObjects);
-    row("a map too many", style(type, "1-13", "2"), StyleWrite_BadObjects);
+    row("no maps", styled(type, "none", "2"), StyleWrite_BadObjects);
+    row("no set", styled(type, "", "2"), StyleWrite_BadObjects);
+    row("a map too many", styled(type, "1-13", "2"), StyleWrite_BadObjects);
     row("operator for a number", SetStyle {typePath, 2.0, one, -1, AssignOp_Add},
         StyleWrite_BadOperator);
-    row("maps for a frame value", style("FieldLayers ShowShade", "1", "true"),
+    row("maps for a frame value", styled("FieldLayers ShowShade", "1", "true"),
         StyleWrite_BadObjects);
-    row("no such variable", style("GlobalScatter Var", "", "7"), StyleWrite_OutOfRange);
-    row("last variable", style("GlobalScatter Var", "", "6"), StyleWrite_Ok);
-    row("group without index", style("ContourGroups Var", "", "3"), StyleWrite_OutOfRange);
-    row("ninth group", style("ContourGroups Var 9", "", "3"), StyleWrite_OutOfRange);
-    row("eighth group", style("ContourGroups Var 8", "", "3"), StyleWrite_Ok);
-    row("number for a set", style("ActiveFieldMaps", "", "1"), StyleWrite_WrongType);
+    row("no such variable", styled("GlobalScatter Var", "", "7"), StyleWrite_OutOfRange);
+    row("last variable", styled("GlobalScatter Var", "", "6"), StyleWrite_Ok);
+    row("group without index", styled("ContourGroups Var", "", "3"), StyleWrite_OutOfRange);
+    row("ninth group", styled("ContourGroups Var 9", "", "3"), StyleWrite_OutOfRange);
+    row("eighth group", styled("ContourGroups Var 8", "", "3"), StyleWrite_Ok);
+    row("number for a set", styled("ActiveFieldMaps", "", "1"), StyleWrite_WrongType);
     row("unknown set operator", SetStyle {{"ActiveFieldMaps"}, one, {}, -1, AssignOp_e(3)},
         StyleWrite_BadOperator);
     const auto run = [&](const char* operation, StyleWriteResult_e result) {
@@ -279,9 +279,9 @@ void tst_Operations::undoTexts_data()
     const auto row = [](const Operation& operation, const char* text) {
         QTest::newRow(text) << operation << text;
     };
-    row(style("FieldMap Mesh MeshType", "2-4,9", "0"), "Mesh type = Wire frame (4 field maps)");
-    row(style("FieldMap Group", "2", "1234567"), "Group number = 1234567 (1 field map)");
-    row(style("FieldMap Mesh LineThickness", "2", "0.3"),
+    row(styled("FieldMap Mesh MeshType", "2-4,9", "0"), "Mesh type = Wire frame (4 field maps)");
+    row(styled("FieldMap Group", "2", "1234567"), "Group number = 1234567 (1 field map)");
+    row(styled("FieldMap Mesh LineThickness", "2", "0.3"),
         "Mesh line thickness = 0.3% (1 field map)");
     row(operationOf(R"({"active": "FieldMaps", "maps": "2-4", "op": "remove"})"),
         "Deactivate 3 field maps");
@@ -330,7 +330,7 @@ public:
         case 12:
             return SetPaletteColor {below(66) - 1, {static_cast<std::uint8_t>(below(256)), 2, 3}};
         case 13: return ActivateFrame {below(4)};
-        default: return style();
+        default: return styled();
         }
     }
 
@@ -346,13 +346,13 @@ private:
         return set;
     }
 
-    SetStyle style()
+    SetStyle styled()
     {
         const Schema& schema = Schema::instance();
         const Attribute& attribute = schema.at(below(int(schema.all().size())));
         SetStyle set {attribute.names, 0.0};
         const auto op = std::array {AssignOp_Add, AssignOp_Remove, AssignOp_None};
-        if (attribute.type == ValueType::Maps) {
+        if (attribute.type == ValueType::Numbers) {
             set.value = some(attribute.names[0] == "ActiveLineMaps" ? frame().lineMapCount()
                                                                     : frame().fieldMapCount());
             set.op = op[static_cast<std::size_t>(below(3))];

@@ -18,7 +18,6 @@ private Q_SLOTS:
     void findsPaths_data();
     void findsPaths();
     void namesHaveIdentifiers();
-    void defaultsAreInRange();
     void readsSetTexts_data();
     void readsSetTexts();
     void behavesLikePlainVectors();
@@ -75,24 +74,6 @@ void tst_StyleTable::namesHaveIdentifiers()
     QCOMPARE(schema.nameOf(schema.nameId("LineThickness")), "LineThickness");
     QCOMPARE(schema.nameId("NoSuchName"), -2);
     QVERIFY(!schema.nameOf(-2));
-}
-
-void tst_StyleTable::defaultsAreInRange()
-{
-    for (const Attribute& attribute : Schema::instance().all()) {
-        const QByteArray name = QByteArray::fromStdString(attribute.names.back());
-        QVERIFY2(*attribute.label != 0, name);
-        if (attribute.type == ValueType::Enumeration) {
-            bool isKnown = false;
-            for (const EnumeratorName* e = attribute.enumerators; e->name; ++e)
-                isKnown = isKnown || e->value == attribute.defaultNumber;
-            QVERIFY2(isKnown, name);
-        } else if (attribute.type == ValueType::Integer || attribute.isReal()) {
-            QVERIFY2(attribute.defaultNumber >= attribute.minimum
-                         && attribute.defaultNumber <= attribute.maximum,
-                     name);
-        }
-    }
 }
 
 void tst_StyleTable::readsSetTexts_data()

@@ -16,7 +16,8 @@
 #include "zonestyle/models/field_static_area_model.h"
 #include "zonestyle/models/line_static_area_model.h"
 
-#include <sdk/dialogs_prompt/color_chooser_widget.h>
+#include <sdk/dialogs_common/launch_help_action.h>
+#include <sdk/dialogs_lineplot/curve_fit_settings_dialog.h>
 #include <sdk/dialogs_prompt/enter_ascii_character_dialog.h>
 
 #include <QAbstractButton>
@@ -30,9 +31,7 @@ using namespace corvala::tests;
 using namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions;
 using namespace corvala::sdk::ui::dialogs::zonestyle::intern::models;
 using corvala::host::Document;
-
-using MakeAction = std::function<Action*(const QModelIndexList&)>;
-Q_DECLARE_METATYPE(MakeAction)
+namespace style = corvala::style;
 
 /// Every action: what it asks, what it writes for which maps, and in how many steps.
 class tst_StyleActions : public QObject
@@ -46,11 +45,13 @@ private Q_SLOTS:
     void doesNothingWithoutRows();
     void asksBeforeShowingALayer_data();
     void asksBeforeShowingALayer();
+    void asksForVectorVariables();
     void survivesItsMenu();
     void activatesMaps_data();
     void activatesMaps();
     void asksOverTheDialog();
     void selectsAVariable();
+    void startsFromTheFirstZone();
     void entersThreeValues();
     void entersACharacter();
     void knowsCommonCurveFits_data();
@@ -90,20 +91,20 @@ QModelIndexList tst_StyleActions::lineRows(const QList<int>& rows)
 
 void tst_StyleActions::doesNothingWithoutRows()
 {
-    static constexpr ThreeValuePrompt kPrompt {
-        "t", {{"a", "b", "c"}}, {{"Min", "Max", "Skip"}}, {{1, 0, 1}}, ""};
+    static constexpr ThreeValuePrompt kPrompt {"t", {{"a", "b", "c"}}, ""};
+    const auto& assign = style::lineMap.assign;
     QVERIFY(openDemo("xy"));
     QList<Action*> actions {
         new Action("a", {}),
-        new StyleAction<int>("a", {}, 1, {"LineMap", "Assign", "Zone"}),
-        new EnterSingleValueAction<int>("a", {}, "t", "l", 1, 2, {"LineMap", "Assign", "Zone"}),
-        new EnterThreeValueAction("a", {}, kPrompt, {"LineMap", "Indices", "IRange"}),
-        new EnterASCIICharacterAction({}, {"LineMap", "Symbols"}),
-        new VariableSelectAction("a", {}, "t", "l", {"LineMap", "Assign", "XAxisVar"}),
+        new StyleAction<int>("a", {}, 1, assign.zone),
+        new EnterSingleValueAction<int>("a", {}, "t", "l", 1, 2, assign.zone),
+        new EnterThreeValueAction("a", {}, kPrompt, keysOf(style::lineMap.indices.ranges.iRange)),
+        new EnterASCIICharacterAction({}, style::lineMap.symbols.symbolShape.asciiShape),
+        new VariableSelectAction("a", {}, "t", "l", assign.xAxisVar),
         new ZoneSelectAction({}),
         new MapRenameAction({}, "name"),
         new CurveFitSettingsAction("a", {}),
-        new MapActivateAction({}, MapActivateMode_ShowSelectedOnly, "ActiveLineMaps"),
+        new MapActivateAction({}, MapActivateMode_ShowSelectedOnly, style::activeLineMaps),
     };
     for (Action* action : qAsConst(actions)) {
         action->setEnabled(true);
@@ -133,6 +134,11 @@ struct LayerCase
 } // namespace
 
 Q_DECLARE_METATYPE(LayerCase)
+
+static style::Key keyOf(const LayerCase& c)
+{
+    return {corvala::host::Schema::instance().find({"FieldMap", c.category, c.attribute})};
+}
 
 void tst_StyleActions::asksBeforeShowingALayer_data()
 {
@@ -171,7 +177,7 @@ void tst_StyleActions::asksBeforeShowingALayer()
     for (const char* answer = c.answers; *answer; ++answer)
         m_user->reply(*answer == 'y' ? "OK" : "cancel");
 
-    StyleAction<char> action("Yes", fieldRows({0}), c.value, {"FieldMap", c.category, c.attribute});
+    StyleAction<char> action("Yes", fieldRows({0}), c.value, keyOf(c));
     action.trigger();
 
     QString asked;
@@ -183,10 +189,21 @@ void tst_StyleActions::asksBeforeShowingALayer()
     const QString written =
         QString("FieldMap.%1.%2 1 = %3").arg(c.category, c.attribute, c.value ? "true" : "false");
     QVERIFY2(takeWrites().endsWith(written), "written last, whatever the answers");
-    const corvala::toolbox::StyleValue surfaces("FieldMap", "Surfaces", "SurfacesToPlot");
+    const corvala::toolbox::StyleValue surfaces(style::fieldMap.surfaces.surfacesToPlot);
     QCOMPARE(surfaces.read<int>(1).value_or(-1) != SurfacesToPlot_None, c.surfacesDrawn);
     QVERIFY(!QGuiApplication::overrideCursor());
     QVERIFY(!Document::instance().isLocked());
+}
+
+void tst_StyleActions::asksForVectorVariables()
+{
+    QVERIFY(openDemo("field3d", 1));
+    QVERIFY(setStyle("GlobalVector.UVar", "", 0));
+    StyleAction<char> action("Yes", fieldRows({0}), 1, style::fieldMap.vector.show);
+    m_user->accept().reject();
+    action.trigger();
+    QVERIFY(m_user->takeSeen().last().startsWith("Select Vector Variables: "));
+    QVERIFY(!Document::instance().activeFrame()->isOn(style::fieldLayers.showVector));
 }
 
 void tst_StyleActions::survivesItsMenu()
@@ -194,7 +211,7 @@ void tst_StyleActions::survivesItsMenu()
     QVERIFY(openDemo("field3d", 1));
     QVERIFY(setStyle("FieldLayers.ShowMesh", "", 0));
     QVERIFY(setStyle("FieldMap.Mesh.Show", "1", 0));
-    auto* action = new StyleAction<char>("Yes", fieldRows({0}), 1, {"FieldMap", "Mesh", "Show"});
+    auto* action = new StyleAction<char>("Yes", fieldRows({0}), 1, style::fieldMap.mesh.show);
     m_user->answer([action](QDialog& question) {
         delete action;
         question.reject();
@@ -226,15 +243,16 @@ void tst_StyleActions::activatesMaps()
     QFETCH(int, mode);
     QFETCH(QList<int>, rows);
     QVERIFY(openDemo("field2d", 5));
-    const auto allRows = fieldRows(rows, FieldStaticAreaModel::ShowZone);
-    MapActivateAction(cells(*m_model, {3, 4}), MapActivateMode_Deactivate, "ActiveFieldMaps")
+    const auto allRows = fieldRows(rows, 3);
+    MapActivateAction(cells(*m_model, {3, 4}), MapActivateMode_Deactivate, style::activeFieldMaps)
         .trigger();
     takeWrites();
 
     corvala::host::UndoHistory& undo = Document::instance().undo();
     const int steps = undo.stepCount();
     undo.beginGesture();
-    MapActivateAction(allRows, static_cast<MapActivateMode_e>(mode), "ActiveFieldMaps").trigger();
+    MapActivateAction(allRows, static_cast<MapActivateMode_e>(mode), style::activeFieldMaps)
+        .trigger();
     undo.endGesture();
     QTEST(takeWrites(), "written");
     QVERIFY(undo.stepCount() <= steps + 1);
@@ -249,7 +267,7 @@ void tst_StyleActions::asksOverTheDialog()
     theDialog = &dialog;
     setPromptParentProvider([]() -> QWidget& { return *theDialog; });
     EnterSingleValueAction<int> action("Enter...", fieldRows({0}), "Title", "Label", 1, 99,
-                                       {"FieldMap", "Effects", "SurfaceTranslucency"});
+                                       style::fieldMap.effects.surfaceTranslucency);
     bool isOverDialog = false;
     m_user->answer([&](QDialog& prompt) {
         isOverDialog = prompt.parentWidget() == &dialog;
@@ -257,8 +275,12 @@ void tst_StyleActions::asksOverTheDialog()
     });
     action.trigger();
     setPromptParentProvider(nullptr);
-    QVERIFY(isOverDialog);
-    QCOMPARE(m_user->takeSeen(), QStringList {"Title: Label [50, 1 to 99]"});
+    QVERIFY(isOverDialog && action.wasAccepted());
+    m_user->reject();
+    action.trigger();
+    QVERIFY(!action.wasAccepted());
+    QCOMPARE(m_user->takeSeen(),
+             (QStringList {"Title: Label [50, 1 to 99]", "Title: Label [50, 1 to 99]"}));
     QCOMPARE(takeWrites(), QString("FieldMap.Effects.SurfaceTranslucency 1 = 50"));
 }
 
@@ -271,7 +293,7 @@ void tst_StyleActions::selectsAVariable()
     QVERIFY(setStyle("LineMap.Assign.XAxisVar", "3", 4));
 
     VariableSelectAction action("Select Variable...", lineRows({2, 0}), "Choose", "The variable",
-                                {"LineMap", "Assign", "XAxisVar"});
+                                style::lineMap.assign.xAxisVar);
     m_user->reply("Gain").reject();
     action.trigger();
     action.trigger();
@@ -281,24 +303,36 @@ void tst_StyleActions::selectsAVariable()
     QCOMPARE(takeWrites(), QString("LineMap.Assign.XAxisVar 1,3 = 7"));
 }
 
+void tst_StyleActions::startsFromTheFirstZone()
+{
+    QVERIFY(openDemo("xy"));
+    QVERIFY(setStyle("LineMap.Assign.Zone", "3", 4));
+    int preset = -1;
+    m_user->answer([&preset](QDialog& dialog) {
+        preset = dialog.findChild<QListView*>()->currentIndex().row();
+        dialog.reject();
+    });
+    ZoneSelectAction(lineRows({2, 0})).trigger();
+    QCOMPARE(preset, 3);
+    QCOMPARE(takeWrites(), QString());
+}
+
 void tst_StyleActions::entersThreeValues()
 {
-    static constexpr ThreeValuePrompt kPrompt {"Enter Range",
-                                               {{"&Begin", "&End", "&Skip"}},
-                                               {{"Min", "Max", "Skip"}},
-                                               {{1, 0, 1}},
-                                               "page.html#anchor"};
+    static constexpr ThreeValuePrompt kPrompt {
+        "Enter Range", {{"&Begin", "&End", "&Skip"}}, "page.html#anchor"};
     QVERIFY(openDemo("field3d"));
     QVERIFY(setStyle("FieldMap.Surfaces.IRange.Max", "3", 6));
     const int steps = Document::instance().undo().stepCount();
     EnterThreeValueAction action("Enter range...", fieldRows({2, 0}), kPrompt,
-                                 {"FieldMap", "Surfaces", "IRange"});
+                                 keysOf(style::fieldMap.surfaces.ranges.iRange));
 
     QStringList asked;
     m_user->answer([&asked](QDialog& dialog) {
         const auto boxes = dialog.findChildren<QSpinBox*>();
         for (const QLabel* label : dialog.findChildren<QLabel*>())
             asked << label->text();
+        dialog.findChild<corvala::dialogs::common::LaunchHelpAction*>()->trigger();
         for (const QSpinBox* box : boxes)
             asked << QString("%1 from %2").arg(box->value()).arg(box->minimum());
         boxes.at(0)->setValue(2);
@@ -310,6 +344,8 @@ void tst_StyleActions::entersThreeValues()
     action.trigger();
     QCOMPARE(asked.join(' '), QString("&Begin &End &Skip 1 from 1 6 from 0 1 from 1"));
     QCOMPARE(m_user->takeSeen().first(), QString("Enter Range: &Begin"));
+    QCOMPARE(corvala::dialogs::common::LaunchHelpAction::lastRequest(),
+             QString("page.html#anchor"));
     QCOMPARE(takeWrites(),
              QString("FieldMap.Surfaces.IRange.Min 1,3 = 2; FieldMap.Surfaces.IRange.Max 1,3 = 6; "
                      "FieldMap.Surfaces.IRange.Skip 1,3 = 3"));
@@ -322,22 +358,29 @@ void tst_StyleActions::entersACharacter()
 {
     using corvala::dialogs::prompt::EnterASCIICharacterDialog;
     QVERIFY(openDemo("field2d"));
-    EnterASCIICharacterAction action(fieldRows({4, 0}), {"FieldMap", "Scatter"});
+    const QString character = "FieldMap.Scatter.SymbolShape.ASCIIShape.";
+    QVERIFY(setStyle(character + "FontOverride", "5", FontOverride_Greek));
+    QVERIFY(setStyle(character + "UseBaseFont", "5", 0));
+    EnterASCIICharacterAction action(fieldRows({4, 0}),
+                                     style::fieldMap.scatter.symbolShape.asciiShape);
+    m_user->reject();
     QString preset;
     m_user->answer([&preset](QDialog& dialog) {
         auto& prompt = static_cast<EnterASCIICharacterDialog&>(dialog);
-        preset = prompt.selectedChar() + (prompt.useBaseFont() ? " base" : " own");
+        preset = prompt.selectedChar() + (prompt.useBaseFont() ? " base " : " own ")
+            + QString::number(prompt.typeFaceOverride());
         prompt.setCharacter("b");
         prompt.setUseBaseFont(false);
         prompt.setTypeFaceOverride(FontOverride_Math);
         prompt.accept();
     });
     action.trigger();
-    QCOMPARE(preset, QString("A base"));
-    const QString shape = "FieldMap.Scatter.SymbolShape.ASCIIShape.";
+    QCOMPARE(takeWrites(), QString());
+    action.trigger();
+    QCOMPARE(preset, QString("A own 1"));
     QCOMPARE(takeWrites(),
-             shape + "ASCIIChar 1,5 = \"b\"; " + shape + "UseBaseFont 1,5 = false; " + shape
-                 + "FontOverride 1,5 = 2");
+             character + "ASCIIChar 1,5 = \"b\"; " + character + "UseBaseFont 1,5 = false; "
+                 + character + "FontOverride 1,5 = 2");
 }
 
 void tst_StyleActions::knowsCommonCurveFits_data()
@@ -357,7 +400,12 @@ void tst_StyleActions::knowsCommonCurveFits()
     QVERIFY(openDemo("xy"));
     QVERIFY(setStyle("LineMap.Curves.CurveType", "1-2", CurveType_PolynomialFit));
     QVERIFY(setStyle("LineMap.Curves.CurveType", "3", CurveType_Spline));
-    QTEST(CurveFitSettingsAction("&Settings...", lineRows(rows)).isEnabled(), "enabled");
+    CurveFitSettingsAction action("&Settings...", lineRows(rows));
+    QTEST(action.isEnabled(), "enabled");
+    action.trigger();
+    auto& dialog = corvala::dialogs::lineplot::CurveFitSettingsDialog::getInstance(&promptParent());
+    QTEST(dialog.isVisible(), "enabled");
+    dialog.close();
 }
 
 QTEST_MAIN(tst_StyleActions)

@@ -2,6 +2,7 @@
 #include "samples/demo_data.h"
 #include "tests/models/table_fixture.h"
 #include "tests/support/modal_responder.h"
+#include "zonestyle/models/columns/column_kinds.h"
 #include "zonestyle/models/field_contour_3d_model.h"
 #include "zonestyle/models/field_contour_model.h"
 #include "zonestyle/models/field_mesh_model.h"
@@ -13,6 +14,10 @@
 #include "zonestyle/models/line_definitions_xy_model.h"
 #include "zonestyle/models/line_static_area_model.h"
 #include "zonestyle/models/model_for_page_map.h"
+#include "zonestyle/models/name_pattern.h"
+#include "zonestyle/tables/dependency_names.h"
+
+#include <sdk/base/cvl.h>
 
 #include <QAbstractItemModelTester>
 #include <QPointer>
@@ -23,7 +28,82 @@ using namespace corvala::tests;
 using namespace corvala::sdk::ui::dialogs::zonestyle::intern::models;
 using corvala::host::Document;
 
+namespace style = corvala::style;
+namespace tables = corvala::sdk::ui::dialogs::zonestyle::intern::tables;
+using corvala::sdk::ui::dialogs::zonestyle::intern::actions::keysOf;
+
+Q_DECLARE_METATYPE(FunctionDependency_e)
+
 namespace {
+
+/// Kinds and calls that no table of the dialog needs yet.
+class KindsModel : public DescribedModel<LineModelAbstract>
+{
+public:
+    using DescribedModel::DescribedModel;
+
+    const int firstUnowned = 2; ///< a table may own something that its cells ask for
+
+protected:
+    const ColumnTable& columnTable() const override;
+};
+
+QVariant contourVariable(const Cell& cell)
+{
+    return cell.value(style::contourGroups.var, cell.map);
+}
+
+bool isOwned(const Cell& cell)
+{
+    return cell.map < static_cast<const KindsModel&>(cell.model).firstUnowned;
+}
+
+Choices dependencies(CvlUniqueId frame)
+{
+    switch (CvlUtilFrameGetPlotTypeForFrame(frame)) {
+    case PlotType_LineXY: return style::kFunctionDependencies;
+    case PlotType_LinePolar: return tables::kPolarDependencies;
+    default: return {};
+    }
+}
+
+constexpr int kCounts[] = {250, 500, 1000};
+constexpr ThreeValuePrompt kRangePrompt {"Enter Range", {{"&Begin", "&End", "&Skip"}}, "anchor"};
+
+constexpr ColumnDescriptor kKindColumns[] = {
+    kinds::listedNumber("Points", style::lineMap.curves.numPts, kCounts, {"Number", "Points"}),
+    kinds::triple("Range", keysOf(style::lineMap.indices.ranges.iRange), kRangePrompt),
+    kinds::choice("Dependency", style::lineMap.assign.functionDependency)
+        .namedBy(dependencies)
+        .rawValue(kinds::enumValue<FunctionDependency_e>),
+    kinds::checkBox("Owned", style::lineMap.lines.show).existsWhere(isOwned),
+    kinds::percent("Thickness", style::lineMap.lines.lineThickness, {"Thickness", "[%]"})
+        .editWrites(StyleTarget::noValue("FieldMap", "Lines", "LineThickness"))
+        .relevantWhileOn(style::linePlotLayers.showLines),
+    ColumnDescriptor {"Contour"}.shows(contourVariable),
+    kinds::listedNumber("Order", style::lineMap.curves.polyOrder, kCounts, {"Order", "Order"})
+        .offers(kinds::plainNumberMenu),
+};
+constexpr ColumnTable kKindTable {kKindColumns};
+
+const ColumnTable& KindsModel::columnTable() const
+{
+    return kKindTable;
+}
+
+/// The same columns, which take no edits.
+class RefusingModel : public KindsModel
+{
+public:
+    using KindsModel::KindsModel;
+
+protected:
+    const ColumnTable& columnTable() const override
+    {
+        static constexpr ColumnTable kTable = kKindTable.refusesEdits();
+        return kTable;
+    }
+};
 
 using Make = ModelAbstract* (*)();
 
@@ -49,6 +129,8 @@ const std::map<QString, Chain>& chains()
         {"polar",
          {"polar",
           makeChain<LineStaticAreaModel, LineDefinitionsModel, LineDefinitionsPolarModel>}},
+        {"kinds", {"xy", makeChain<KindsModel>}},
+        {"polar kinds", {"polar", makeChain<KindsModel>}},
     };
     return all;
 }
@@ -87,25 +169,26 @@ public:
     }
 
 private:
-    static QString pathText(const StylePath& path)
+    static QString pathText(const StyleTarget& target)
     {
         QStringList names;
-        for (std::size_t i = 0; i < path.size(); ++i)
-            names << path[i];
+        for (const char* name : target.path())
+            if (name)
+                names << name;
         return names.join('.');
     }
     static QStringList odditiesOf(const ColumnDescriptor& column)
     {
         const QString header = QString(column.header).replace('\n', ' ');
         QStringList texts;
-        if (!column.editPath.isEmpty())
-            texts << header + " edits " + pathText(column.editPath);
-        if (!column.menuPath.isEmpty())
-            texts << header + " menu writes " + pathText(column.menuPath);
+        if (!column.editOther.isEmpty())
+            texts << header + " edits " + pathText(column.editOther);
+        if (column.menuOther.isValid())
+            texts << header + " menu writes " + pathText(column.menuOther);
         if (column.editRole != ColumnDescriptor::kAnyRole)
             texts << header + QString(" takes role %1").arg(column.editRole);
-        if (column.editorType == EditorType_Color && !column.offerGroupColors)
-            texts << header + " without group colors";
+        if (column.isAlwaysRelevant)
+            texts << header + " is always relevant";
         const bool editable = column.flags.testFlag(Qt::ItemIsEditable);
         const bool opens = column.editorType == EditorType_TextPopup
             || column.editorType == EditorType_ComboPopup
@@ -141,6 +224,7 @@ private Q_SLOTS:
     void haveTheseOdditiesOnly();
     void describeColumns_data();
     void describeColumns();
+    void giveWhatTheirModelsNeed();
     void renameMapsForAnyRole();
     void confirmZones();
     void confirmZonesForTheEditedMaps();
@@ -148,6 +232,7 @@ private Q_SLOTS:
     void showStrands();
     void followTheActiveFrame();
     void matchNames();
+    void matchPatterns();
     void registerByPage();
 
 private:
@@ -257,6 +342,12 @@ void tst_TableModels::showRows_data()
         {{"LineMap.Assign.Sort", "1", 3}, {"LineMap.Assign.SortVar", "1", 5}},
         "1|Force|[x]|1: Zone 1|Error|Always|1: Time|2: Force|X1|Y1");
     row("polar definitions", "polar", {}, "1|Gain|[x]|1: Zone 1|None|Always|6: Angle|7: Gain");
+
+    row("kinds", "kinds",
+        {{"LineMap.Indices.IRange.Skip", "1", 3}, {"LinePlotLayers.ShowLines", "", 0}},
+        "500|1,0,3|y=f(x)|[x]|(0.15%)|0|3");
+    row("names by plot type", "polar kinds", {{"LineMap.Assign.FunctionDependency", "1", 1}},
+        "500|1,0,1|Theta=f(R)|[x]|0.15%|0|3");
 }
 
 void tst_TableModels::showRows()
@@ -267,18 +358,23 @@ void tst_TableModels::showRows()
     for (const Setting& setting : settings)
         QVERIFY(setStyle(setting.path, setting.maps, setting.value));
     QTEST(rowText(*m_model, 0), "row");
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        const QModelIndex cell = m_model->index(0, column);
+        if (cell.data().userType() == QMetaType::QColor)
+            QCOMPARE(cell.data(Qt::EditRole), cell.data());
+    }
 }
 
 void tst_TableModels::greyInactiveMaps()
 {
     open("mesh");
-    QVERIFY(m_model->setData(m_model->index(0, FieldStaticAreaModel::ShowZone), Qt::Unchecked,
+    QVERIFY(m_model->setData(m_model->index(0, columnOf("Show Zone")), Qt::Unchecked,
                              Qt::CheckStateRole));
     QVERIFY(rowText(*m_model, 0).startsWith("(1)|(Zone 1)|(1)|([ ])|([x])|("));
     QVERIFY(rowText(*m_model, 1).startsWith("2|Zone 2|1|[x]|[x]|"));
 
     open("xy");
-    QVERIFY(m_model->setData(m_model->index(0, LineStaticAreaModel::ShowMap), Qt::Unchecked,
+    QVERIFY(m_model->setData(m_model->index(0, columnOf("Show Map")), Qt::Unchecked,
                              Qt::CheckStateRole));
     QCOMPARE(rowText(*m_model, 0),
              QString("(1)|(Force)|([ ])|(1: Zone 1)|(None)|Always|(1: Time)|(2: Force)|(X1)|(Y1)"));
@@ -342,6 +438,30 @@ void tst_TableModels::writeEdits_data()
     row("xy", "Which Y-Axis", 0, "LineMap.Assign.YAxis 2-3 = 1");
     row("polar", "Theta Variable", "7: Gain", "LineMap.Assign.ThetaAxisVar 2-3 = 7");
     row("polar", "Radius Variable", 1, "LineMap.Assign.RAxisVar 2-3 = 2");
+
+    row("kinds", "Points", "250", "LineMap.Curves.NumPts 2-3 = 250");
+    row("kinds", "Range", "1,2,3", "");
+    row("polar kinds", "Dependency", "theta=f(r)", "LineMap.Assign.FunctionDependency 2-3 = 1");
+    row("kinds", "Thickness", 2, "FieldMap.Lines.LineThickness 2-3 = 2 (3)");
+
+    // What an edit of numbers and of choices stands for.
+    const auto group = [&](const QVariant& value, const char* number) {
+        row("mesh", "Group Number", value, qPrintable(QString("FieldMap.Group 2-3 = ") + number));
+    };
+    group(0.5, "1");
+    group(2.5, "3");
+    group(1e300, "2147483647");
+    group(-1e300, "-2147483648 (6)");
+    group(qQNaN(), "0 (6)");
+    group(true, "1");
+    group("  12.4 % ", "12");
+    group("1,5", "0 (6)");
+    group("inf", "0 (6)");
+    group(QVariant(), "0 (6)");
+    row("contour", "Line Pattern", "Dash dot", "FieldMap.Contour.LinePattern 2-3 = 2");
+    row("contour", "Line Pattern", "Dash", "");
+    row("contour", "Line Pattern", " 4 ", "FieldMap.Contour.LinePattern 2-3 = 4");
+    row("contour", "Line Pattern", "1.5", "");
 }
 
 void tst_TableModels::writeEdits()
@@ -418,6 +538,12 @@ void tst_TableModels::offerMenus_data()
         "LineMap.Assign.XAxisVar 1,3 = 7");
     row("polar", "Radius Variable", "Select Variable...", "Select Variable...",
         "LineMap.Assign.YAxisVar 1,3 = 7");
+
+    row("kinds", "Points", "250|500|1000|-|Enter...", "1000", "LineMap.Curves.NumPts 1,3 = 1000");
+    row("kinds", "Order", "250|500|1000|Enter...");
+    row("kinds", "Range", "Enter range...");
+    row("polar kinds", "Dependency", "R=f(Theta)|Theta=f(R)", "Theta=f(R)",
+        "LineMap.Assign.FunctionDependency 1,3 = 1");
 }
 
 void tst_TableModels::offerMenus()
@@ -468,7 +594,7 @@ void tst_TableModels::haveTheseOdditiesOnly()
         "Line Pattern takes role 2",
         "Pattern Length takes role 2",
         "Line Thickness takes role 2",
-        "Shade Color without group colors",
+        "Show in Legend is always relevant",
         "Theta Variable menu writes LineMap.Assign.XAxisVar",
         "Radius Variable menu writes LineMap.Assign.YAxisVar",
     };
@@ -518,10 +644,27 @@ void tst_TableModels::describeColumns()
     QTEST(texts.join(", "), "columns");
 }
 
+void tst_TableModels::giveWhatTheirModelsNeed()
+{
+    open("kinds");
+    QVERIFY(setStyle("ContourGroups.Var", "", 4, 2));
+    QCOMPARE(rowText(*m_model, 1), QString("500|1,0,1|y=f(x)|(N/A)|0.15%|4|3"));
+    const QModelIndex unowned = m_model->index(1, columnOf("Owned"));
+    QVERIFY(!unowned.data(Qt::CheckStateRole).isValid());
+    const QVariant raw = m_model->index(1, columnOf("Dependency")).data(Qt::UserRole);
+    QVERIFY(raw.canConvert<FunctionDependency_e>() && raw.toInt() == FunctionDependency_YofX);
+    QCOMPARE(m_model->index(0, columnOf("Points")).data(Qt::EditRole).toStringList().join('|'),
+             QString("250|500|1000"));
+
+    m_model.reset(new RefusingModel(nullptr));
+    QVERIFY(!m_model->setData(m_model->index(0, columnOf("Points")), 250));
+    QCOMPARE(takeWrites(), QString());
+}
+
 void tst_TableModels::renameMapsForAnyRole()
 {
     open("xy");
-    const int column = LineStaticAreaModel::MapName;
+    const int column = columnOf("Map Name");
     QVERIFY(
         m_model->setDataForIndexes(cells(*m_model, {1, 2}, column), "Run &M#&", Qt::DisplayRole));
     QCOMPARE(columnText(*m_model, column).section('|', 0, 2), QString("Force|Run 2|Run 3"));
@@ -578,8 +721,8 @@ void tst_TableModels::showStrands()
 {
     QVERIFY(openDemo("transient"));
     m_model.reset(makeChain<FieldStaticAreaModel, FieldMeshModel>());
-    QCOMPARE(columnText(*m_model, FieldStaticAreaModel::ZoneNumber), QString("1|2*|(N/A)"));
-    QCOMPARE(columnText(*m_model, FieldStaticAreaModel::ZoneName).section('|', 2),
+    QCOMPARE(columnText(*m_model, columnOf("Zone Number")), QString("1|2*|(N/A)"));
+    QCOMPARE(columnText(*m_model, columnOf("Zone Name")).section('|', 2),
              QString("(Strand ID 7 has no relevant zones at the current solution time)"));
     for (const int column : {0, m_model->columnCount() - 1}) {
         const QString tip = m_model->index(2, column).data(Qt::ToolTipRole).toString();
@@ -589,7 +732,7 @@ void tst_TableModels::showStrands()
         QVERIFY(!m_model->index(3, column).data(Qt::ToolTipRole).isValid());
     }
     QVERIFY(Document::instance().execute(corvala::host::SetSolutionTime {2}).isDone());
-    QCOMPARE(columnText(*m_model, FieldStaticAreaModel::ZoneNumber), QString("1|4*|6*"));
+    QCOMPARE(columnText(*m_model, columnOf("Zone Number")), QString("1|4*|6*"));
 }
 
 void tst_TableModels::followTheActiveFrame()
@@ -612,7 +755,8 @@ void tst_TableModels::matchNames()
     QVERIFY(openDemo("kinds"));
     m_model.reset(makeChain<FieldStaticAreaModel, FieldMeshModel>());
     const auto matches = [this](const QString& pattern, int row, int hits, Qt::MatchFlags flags,
-                                int column = FieldStaticAreaModel::ZoneName) {
+                                const char* header = "Zone Name") {
+        const int column = columnOf(header);
         QStringList rows;
         for (const QModelIndex& index :
              m_model->match(m_model->index(row, column), Qt::DisplayRole, pattern, hits, flags))
@@ -627,11 +771,49 @@ void tst_TableModels::matchNames()
     QCOMPARE(matches("body?tets", 0, -1, Qt::MatchWildcard), QString("3"));
     QCOMPARE(matches("wing [upper]", 0, -1, Qt::MatchWildcard), QString("4"));
     QCOMPARE(matches("*", 8, -1, Qt::MatchWildcard), QString());
-    QCOMPARE(matches("overlay", 6, -1, Qt::MatchWildcard, columnOf("Mesh Type")), QString("6 7"));
+    QCOMPARE(matches("overlay", 6, -1, Qt::MatchWildcard, "Mesh Type"), QString("6 7"));
     QCOMPARE(matches("My", 0, -1, Qt::MatchStartsWith), QString("2")); // Qt's own
     QVERIFY(setStyle("FieldMap.Group", "4", 2));
-    QCOMPARE(matches("2", 0, -1, Qt::MatchFixedString, FieldStaticAreaModel::GroupNumber),
-             QString("3"));
+    QCOMPARE(matches("2", 0, -1, Qt::MatchFixedString, "Group Number"), QString("3"));
+}
+
+void tst_TableModels::matchPatterns()
+{
+    const struct
+    {
+        QString pattern, name;
+        bool matches;
+    } rows[] = {
+        {"zone 1", "Zone 1", true},
+        {"zone", "Zone 1", false},
+        {"zone*", "My zone", false},
+        {"zone 1*", "zone 1", true},
+        {"body*", "body/left/wing", true},
+        {"a*c", "a\nb\nc", true},
+        {"*ab*b", "aab abb", true},
+        {"*ab*c", "aab abb", false},
+        {"a***b", "ab", true},
+        {"a?b", "a/b", true},
+        {"zone 1?", "Zone 1", false},
+        {"a?b",
+         QString::fromUtf8("a\xF0\x9F\x98\x80"
+                           "b"),
+         true},
+        {"wing [u]", "wing u", false},
+        {"a\\*", "a\\b", true},
+        {"a.b", "axb", false},
+        {QString::fromUtf8("GR\xC3\x96*"),
+         QString::fromUtf8("gr\xC3\xB6\xC3\x9F"
+                           "e"),
+         true},
+        {"", "x", false},
+        {"*", "", true},
+        {QString("a*").repeated(60) + "b", QString("a").repeated(2000), false}, // and is quick
+    };
+    for (const auto& row : rows)
+        QVERIFY2(NamePattern(row.pattern, Qt::CaseInsensitive).matches(row.name) == row.matches,
+                 qPrintable(row.pattern));
+    QVERIFY(!NamePattern("zone 1", Qt::CaseSensitive).matches("Zone 1"));
 }
 
 void tst_TableModels::registerByPage()

@@ -224,7 +224,7 @@ void tst_Common::offersSurfaces()
     QVERIFY(sdk::queryToEnableSurfacePlotLayer("Mesh"));
     QCOMPARE(surfaces.read<int>(1), std::optional<int>(SurfacesToPlot_BoundaryCellFaces));
     QVERIFY(responder.isSettled());
-    QVERIFY(responder.takeSeen().first().contains(QStringLiteral("mesh layer")));
+    QVERIFY(responder.takeSeen().first().contains(QStringLiteral("Mesh layer")));
 }
 
 void tst_Common::confirmsUnorderedZones()

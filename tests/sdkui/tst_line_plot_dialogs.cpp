@@ -33,7 +33,8 @@ Q_DECLARE_METATYPE(Settings)
 
 static void setCurve(const toolbox::Set& maps, const char* name, double value)
 {
-    sdk::ui::writeStyle({"LineMap", "Curves", name}, &maps, value);
+    const style::Key key {host::Schema::instance().find({"LineMap", "Curves", name})};
+    sdk::ui::writeStyle(key, &maps, value);
 }
 
 static QPushButton* buttonNamed(const QDialog& dialog, const QString& text)
@@ -284,7 +285,7 @@ void TestLinePlotDialogs::createDialogFollowsTheDocument()
     QTRY_COMPARE(zone->currentText(), QString("3: Outlet")); // what was chosen stays chosen
     QCOMPARE(list->selectionModel()->selectedIndexes().size(), 1);
     QCOMPARE(list->selectionModel()->selectedIndexes().first().row(), 2);
-    sdk::ui::writeStyle({"PlotType"}, nullptr, PlotType_LinePolar);
+    sdk::ui::writeStyle(style::plotType, nullptr, PlotType_LinePolar);
     QTRY_VERIFY(fieldLabelled<QListView>(dialog, "R&adius variables:"));
     dialog.close();
 }

@@ -584,7 +584,7 @@ void TestPrompts::vectorVariablesAreAskedForOnce()
     QVERIFY(strategy(type)); // assigned
     QCOMPARE(responder.takeSeen(), QStringList());
 
-    sdk::ui::writeStyle({"GlobalVector", "VVar"}, nullptr, 0);
+    sdk::ui::writeStyle(style::globalVector.vVar, nullptr, 0);
     const int steps = tests::undoSteps();
     responder.answer(ending([components](QDialog& shown) {
         const auto boxes = shown.findChildren<ui::ComboBoxAutoFilter*>();
@@ -606,7 +606,7 @@ void TestPrompts::vectorVariablesAreAskedForOnce()
 
 void TestPrompts::vectorVariablesCancelled()
 {
-    sdk::ui::writeStyle({"GlobalVector", "UVar"}, nullptr, 0);
+    sdk::ui::writeStyle(style::globalVector.uVar, nullptr, 0);
     const int steps = tests::undoSteps();
     ModalResponder responder;
     responder.answer(ending([](QDialog& shown) { press(shown, Qt::Key_Escape); }));
@@ -643,7 +643,7 @@ void TestPrompts::scatterDialogWritesAndFollows()
     QTest::keyClick(fonts, Qt::Key_Down);
     QCOMPARE(font("FontOverride"), int(FontOverride_Greek));
 
-    sdk::ui::writeStyle({"GlobalScatter", "Var"}, nullptr, 6);
+    sdk::ui::writeStyle(style::globalScatter.var, nullptr, 6);
     QTRY_COMPARE(variable->currentText(), QString("6: Density"));
     host::Document::instance().execute(host::RenameVariable {6, "Rho"});
     QTRY_COMPARE(variable->currentText(), QString("6: Rho"));
@@ -660,7 +660,7 @@ void TestPrompts::hiddenPromptsReadNothing()
     ZoneSelectDialog::getInstance(m_window.get());
     const CvlInt64 reads = CvlAppGetReadCount();
     host::Document::instance().execute(host::RenameVariable {6, "Rho"});
-    sdk::ui::writeStyle({"GlobalScatter", "Var"}, nullptr, 6);
+    sdk::ui::writeStyle(style::globalScatter.var, nullptr, 6);
     QTest::qWait(10);
     QCOMPARE(CvlAppGetReadCount(), reads);
 }

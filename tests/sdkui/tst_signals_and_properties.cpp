@@ -195,7 +195,7 @@ void TestSignalsAndProperties::observableHandsOnEngineEvents()
                 seen << parts.join('|');
             });
     const toolbox::Set map = tests::setOf({1});
-    sdk::ui::writeStyle({"FieldMap", "Mesh", "MeshType"}, &map, MeshType_HiddenLine);
+    sdk::ui::writeStyle(style::fieldMap.mesh.meshType, &map, MeshType_HiddenLine);
     host::StateEvent bare;
     bare.code = StateCode_ColorTableChanged;
     host::Document::instance().raise(bare);
@@ -328,9 +328,9 @@ void TestSignalsAndProperties::plotTypeRelevanceIgnoresEditsOfStyle()
     const boost::signals2::scoped_connection connection =
         field.connectChanged([&changes] { ++changes; });
     const toolbox::Set map = tests::setOf({1});
-    sdk::ui::writeStyle({"FieldMap", "Group"}, &map, 4);
+    sdk::ui::writeStyle(style::fieldMap.group, &map, 4);
     QCOMPARE(changes, 0);
-    sdk::ui::writeStyle({"PlotType"}, nullptr, PlotType_LineXY);
+    sdk::ui::writeStyle(style::plotType, nullptr, PlotType_LineXY);
     QCOMPARE(changes, 1);
     QVERIFY(!field.isRelevant());
 }

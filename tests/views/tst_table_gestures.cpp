@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "tests/views/dialog_fixture.h"
+#include "zonestyle/models/columns/column_kinds.h"
+#include "zonestyle/models/columns/described_model.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -12,6 +14,8 @@
 
 using namespace corvala;
 using namespace corvala::tests;
+namespace models = corvala::sdk::ui::dialogs::zonestyle::intern::models;
+namespace views = corvala::sdk::ui::dialogs::zonestyle::intern::views;
 
 namespace {
 
@@ -22,6 +26,27 @@ constexpr int kShowZone = 3;
 constexpr int kShowMesh = 4;
 constexpr int kMeshType = 5;
 constexpr int kMeshColor = 6;
+
+bool isNotTheSecond(const models::Cell& cell)
+{
+    return cell.map != 2;
+}
+
+/// A check box that the second map has not.
+class PartlyModel : public models::DescribedModel<models::FieldModelAbstract>
+{
+public:
+    using DescribedModel::DescribedModel;
+
+protected:
+    const models::ColumnTable& columnTable() const override
+    {
+        static constexpr models::ColumnDescriptor kColumns[] = {
+            models::kinds::checkBox("Mesh", style::fieldMap.mesh.show).existsWhere(isNotTheSecond)};
+        static constexpr models::ColumnTable kTable {kColumns};
+        return kTable;
+    }
+};
 
 QLineEdit* openEditor(DialogFixture& fixture)
 {
@@ -38,6 +63,7 @@ private Q_SLOTS:
     void checkBoxSwitchesSelectedRows_data();
     void checkBoxSwitchesSelectedRows();
     void checkBoxNeedsPressAndReleaseOnIt();
+    void checkBoxIsMissingWhereTheModelSaysSo();
     void editsOneCellInPlace_data();
     void editsOneCellInPlace();
     void menuOfAColumnWithoutEntriesDoesNotOpen();
@@ -111,6 +137,31 @@ void tst_TableGestures::checkBoxNeedsPressAndReleaseOnIt()
     QTest::mouseRelease(viewport, Qt::RightButton, {}, center(2, kShowMesh));
     fixture.clickCell(2, kShowMesh); // beside the box
     QCOMPARE(takeWrites(), "");
+}
+
+void tst_TableGestures::checkBoxIsMissingWhereTheModelSaysSo()
+{
+    QVERIFY(openDemo("field2d", 3));
+    PartlyModel model(nullptr);
+    views::StyleTableView view;
+    view.setModel(&model, 0);
+    view.show();
+    const auto picture = [&](int row) {
+        const QRect cell = view.visualRect(model.index(row, 0));
+        return view.viewport()->grab(cell).toImage();
+    };
+    QImage empty = picture(1);
+    empty.fill(empty.pixel(0, 0));
+    QVERIFY(picture(1) != empty && picture(1) != picture(2)); // a text
+    takeWrites();
+    for (const int row : {1, 2}) {
+        view.setCurrentIndex(model.index(row, 0));
+        view.selectRow(row);
+        QTest::keyClick(&view, Qt::Key_Space);
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
+                          view.visualRect(model.index(row, 0)).center());
+    }
+    QCOMPARE(takeWrites(), "FieldMap.Mesh.Show 3 = false; FieldMap.Mesh.Show 3 = true");
 }
 
 void tst_TableGestures::editsOneCellInPlace_data()

@@ -14,20 +14,16 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 
 using corvala::dialogs::prompt::EnterASCIICharacterDialog;
 
-static constexpr const char* kCharacter = "ASCIIChar";
-static constexpr const char* kUseBaseFont = "UseBaseFont";
-static constexpr const char* kFontOverride = "FontOverride";
-
 template<class T>
-static T valueOf(const StylePath& path, CvlInt64 map)
+static T valueOf(style::Key key, CvlInt64 map)
 {
-    return accessor<toolbox::StyleValue>(path).read<T>(map).value_or(T {});
+    return toolbox::StyleValue(key).read<T>(map).value_or(T {});
 }
 
 EnterASCIICharacterAction::EnterASCIICharacterAction(const QModelIndexList& selectedIndexes,
-                                                     const StylePath& category)
+                                                     const style::AsciiShape& character)
     : Action(QCoreApplication::translate("Menu", "Enter character..."), selectedIndexes)
-    , m_shape(category / "SymbolShape" / "ASCIIShape")
+    , m_character(character)
 {
 }
 
@@ -39,15 +35,15 @@ void EnterASCIICharacterAction::invokeAction()
     const QPointer<EnterASCIICharacterDialog> dialog(
         &EnterASCIICharacterDialog::getInstance(&promptParent()));
     const CvlInt64 map = firstMap();
-    dialog->setCharacter(QString::fromStdString(valueOf<std::string>(m_shape / kCharacter, map)));
-    dialog->setUseBaseFont(valueOf<bool>(m_shape / kUseBaseFont, map));
-    dialog->setTypeFaceOverride(valueOf<int>(m_shape / kFontOverride, map));
+    dialog->setCharacter(QString::fromStdString(valueOf<std::string>(m_character.asciiChar, map)));
+    dialog->setUseBaseFont(valueOf<bool>(m_character.useBaseFont, map));
+    dialog->setTypeFaceOverride(valueOf<int>(m_character.fontOverride, map));
     if (corvala::sdk::ui::execInEditSession(*dialog) != QDialog::Accepted || !self || !dialog)
         return;
     const toolbox::Set maps = selectedMaps();
-    writeStyle(m_shape / kCharacter, maps, dialog->selectedChar().toStdString());
-    writeStyle(m_shape / kUseBaseFont, maps, dialog->useBaseFont());
-    writeStyle(m_shape / kFontOverride, maps, static_cast<double>(dialog->typeFaceOverride()));
+    writeStyle(m_character.asciiChar, maps, dialog->selectedChar().toStdString());
+    writeStyle(m_character.useBaseFont, maps, dialog->useBaseFont());
+    writeStyle(m_character.fontOverride, maps, static_cast<double>(dialog->typeFaceOverride()));
 }
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

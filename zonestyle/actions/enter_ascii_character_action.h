@@ -2,7 +2,7 @@
 #pragma once
 
 #include "zonestyle/actions/action.h"
-#include "zonestyle/actions/style_path.h"
+#include <vocabulary/style.h>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 
@@ -11,13 +11,13 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 class EnterASCIICharacterAction : public Action
 {
 public:
-    /// `category` is the path above "SymbolShape".
-    EnterASCIICharacterAction(const QModelIndexList& selectedIndexes, const StylePath& category);
+    EnterASCIICharacterAction(const QModelIndexList& selectedIndexes,
+                              const style::AsciiShape& character);
 
     void invokeAction() override;
 
 private:
-    StylePath m_shape; ///< the group of the character and its font
+    const style::AsciiShape& m_character;
 };
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

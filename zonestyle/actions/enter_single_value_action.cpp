@@ -18,8 +18,8 @@ template<class T>
 EnterSingleValueAction<T>::EnterSingleValueAction(const QString& text,
                                                   const QModelIndexList& selectedIndexes,
                                                   const QString& title, const QString& label,
-                                                  T minimum, T maximum, const StylePath& path)
-    : StyleAction<T>(text, selectedIndexes, minimum, path)
+                                                  T minimum, T maximum, const StyleTarget& target)
+    : StyleAction<T>(text, selectedIndexes, minimum, target)
     , m_title(title)
     , m_label(label)
     , m_minimum(minimum)
@@ -30,14 +30,17 @@ EnterSingleValueAction<T>::EnterSingleValueAction(const QString& text,
 template<class T>
 void EnterSingleValueAction<T>::invokeAction()
 {
+    m_wasAccepted = false;
     if (this->selectedIndexes().isEmpty())
         return;
     const QPointer<Action> self(this);
     const std::optional<double> value = corvala::dialogs::prompt::enterNumber(
         promptParent(), {m_title, m_label, double(m_minimum), double(m_maximum), kDecimals<T>},
         this->firstValue());
-    if (value && self)
-        this->write(static_cast<T>(*value));
+    if (!value || !self)
+        return;
+    m_wasAccepted = true;
+    this->write(static_cast<T>(*value));
 }
 
 template class EnterSingleValueAction<double>;

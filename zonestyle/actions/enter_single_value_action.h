@@ -14,16 +14,20 @@ public:
     /// Title and label are shown as they are; both limits can be entered.
     EnterSingleValueAction(const QString& text, const QModelIndexList& selectedIndexes,
                            const QString& title, const QString& label, T minimum, T maximum,
-                           const StylePath& path);
+                           const StyleTarget& target);
 
     void invokeAction() override;
     bool isPresentValue() const override { return false; }
+
+    /// The prompt was accepted, not cancelled, when the action was triggered last.
+    bool wasAccepted() const { return m_wasAccepted; }
 
 private:
     QString m_title;
     QString m_label;
     T m_minimum;
     T m_maximum;
+    bool m_wasAccepted = false;
 };
 
 extern template class EnterSingleValueAction<double>;

@@ -2,15 +2,12 @@
 #include "zonestyle/actions/enter_three_value_action.h"
 
 #include "zonestyle/actions/prompt_parent.h"
-#include "zonestyle/actions/style_write.h"
 
 #include <sdk/dialogs_prompt/enter_three_int_values_dialog.h>
 #include <sdk/uicommon/edit_session.h>
 
 #include <QCoreApplication>
 #include <QPointer>
-
-#include <limits>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 
@@ -21,28 +18,31 @@ static QString translated(const char* text)
     return QCoreApplication::translate("Prompt", text);
 }
 
-static EnterThreeIntValuesDialog& preparedDialog(const ThreeValuePrompt& prompt,
-                                                 const ThreeValues& values)
+static EnterThreeIntValuesDialog::Range rangeOf(style::IntegerKey key)
 {
-    const auto range = [&](std::size_t i) {
-        return EnterThreeIntValuesDialog::Range {prompt.minima[i], std::numeric_limits<int>::max()};
-    };
+    const style::Entry& entry = style::entryOf(key);
+    return {static_cast<int>(entry.minimum), static_cast<int>(entry.maximum)};
+}
+
+static EnterThreeIntValuesDialog& preparedDialog(const ThreeValuePrompt& prompt,
+                                                 const ThreeKeys& keys, const ThreeValues& values)
+{
     auto& dialog = EnterThreeIntValuesDialog::getInstance(&promptParent());
     dialog.setTitle(translated(prompt.title));
     dialog.setLabels(translated(prompt.labels[0]), translated(prompt.labels[1]),
                      translated(prompt.labels[2]));
     dialog.setHelpReference(QString::fromLatin1(prompt.helpReference));
-    dialog.setRanges(range(0), range(1), range(2));
+    dialog.setRanges(rangeOf(keys[0]), rangeOf(keys[1]), rangeOf(keys[2]));
     dialog.setValues(values[0], values[1], values[2]);
     return dialog;
 }
 
 EnterThreeValueAction::EnterThreeValueAction(const QString& text,
                                              const QModelIndexList& selectedIndexes,
-                                             const ThreeValuePrompt& prompt, const StylePath& group)
+                                             const ThreeValuePrompt& prompt, const ThreeKeys& keys)
     : Action(text, selectedIndexes)
     , m_prompt(prompt)
-    , m_group(group)
+    , m_keys(keys)
 {
 }
 
@@ -50,8 +50,8 @@ ThreeValues EnterThreeValueAction::firstValues() const
 {
     ThreeValues values {};
     for (std::size_t i = 0; i < values.size(); ++i) {
-        const auto style = accessor<toolbox::StyleValue>(m_group / m_prompt.names[i]);
-        values[i] = style.read<int>(firstMap()).value_or(m_prompt.minima[i]);
+        const toolbox::StyleValue value(m_keys[i]);
+        values[i] = value.read<int>(firstMap()).value_or(rangeOf(m_keys[i]).minimum);
     }
     return values;
 }
@@ -61,10 +61,10 @@ void EnterThreeValueAction::invokeAction()
     if (selectedIndexes().isEmpty())
         return;
     const QPointer<Action> self(this);
-    const QPointer<EnterThreeIntValuesDialog> dialog(&preparedDialog(m_prompt, firstValues()));
+    const QPointer<EnterThreeIntValuesDialog> dialog(
+        &preparedDialog(m_prompt, m_keys, firstValues()));
     if (corvala::sdk::ui::execInEditSession(*dialog) == QDialog::Accepted && self && dialog)
-        runAction<ThreeValueAction>(text(), selectedIndexes(), dialog->values(), m_group,
-                                    m_prompt.names);
+        runAction<ThreeValueAction>(text(), selectedIndexes(), dialog->values(), m_keys);
 }
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

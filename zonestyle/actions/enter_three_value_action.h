@@ -5,14 +5,12 @@
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 
-/// What a prompt for three integers asks for. Title and labels are English, in the translation
-/// context "Prompt".
+/// How three integers are asked for. Title and labels are English, in the translation context
+/// "Prompt".
 struct ThreeValuePrompt
 {
     const char* title;
-    ThreeNames labels;
-    ThreeNames names; ///< of the style values below the group
-    ThreeValues minima; ///< there is no upper limit
+    std::array<const char*, 3> labels;
     const char* helpReference;
 };
 
@@ -23,7 +21,7 @@ class EnterThreeValueAction : public Action
 public:
     /// The prompt must outlive the action.
     EnterThreeValueAction(const QString& text, const QModelIndexList& selectedIndexes,
-                          const ThreeValuePrompt& prompt, const StylePath& group);
+                          const ThreeValuePrompt& prompt, const ThreeKeys& keys);
 
     void invokeAction() override;
 
@@ -31,7 +29,7 @@ private:
     ThreeValues firstValues() const;
 
     const ThreeValuePrompt& m_prompt;
-    StylePath m_group;
+    ThreeKeys m_keys;
 };
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

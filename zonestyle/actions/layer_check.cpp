@@ -9,45 +9,32 @@
 #include <QCursor>
 #include <QGuiApplication>
 
-#include <algorithm>
-#include <array>
-#include <string_view>
-
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
-
-static bool isNamed(const char* name, std::string_view text)
-{
-    return name && text == name;
-}
-
-static bool showsLayer(const StylePath& path)
-{
-    static constexpr std::array<std::string_view, 6> kLayers {"Mesh",    "Contour",   "Vector",
-                                                              "Scatter", "EdgeLayer", "Shade"};
-    return isNamed(path[0], "FieldMap") && isNamed(path[2], "Show")
-        && std::any_of(kLayers.begin(), kLayers.end(),
-                       [&](std::string_view layer) { return isNamed(path[1], layer); });
-}
 
 static bool assignContourVariables(PlotType_e)
 {
     return autoAssignAllContourGroupVariables(ContourLevelsInitializationMode_ResetIfVariableIsNew);
 }
 
-static boost::function<bool(PlotType_e)> plotTypeChooser(const std::string& layer)
+static bool isLayer(const style::Layer* layer, const style::Layer& other)
 {
-    if (layer == "Vector")
+    return layer && *layer == other;
+}
+
+static boost::function<bool(PlotType_e)> plotTypeChooser(const style::Layer* layer)
+{
+    if (isLayer(layer, style::kVectorLayer))
         return corvala::dialogs::prompt::VectorVarAssignStrategy();
-    if (layer == "Contour")
+    if (isLayer(layer, style::kContourLayer))
         return &assignContourVariables;
     return {};
 }
 
-LayerCheck::LayerCheck(const StylePath& path)
-    : m_layerQuery(showsLayer(path))
-    , m_layer(m_layerQuery ? path[1] : "")
+LayerCheck::LayerCheck(style::Key key)
+    : m_layer(style::fieldLayerShownBy(key))
     , m_plotTypeChooser(plotTypeChooser(m_layer))
-    , m_pointsMatter(isNamed(path[1], "Vector") || isNamed(path[1], "Scatter"))
+    , m_pointsMatter(isLayer(m_layer, style::kVectorLayer)
+                     || isLayer(m_layer, style::kScatterLayer))
 {
 }
 
@@ -58,9 +45,9 @@ void LayerCheck::run() const
     // Deliberate: with any zone that is no volume among the active ones nothing is asked.
     if (!zones.some || !zones.allVolume)
         return;
-    if (queryToActivateSidebarLayer(m_layer, m_plotTypeChooser) && zones.noSurfaces
-        && m_layer != "EdgeLayer")
-        queryToEnableSurfacePlotLayer(m_layer);
+    if (queryToActivateSidebarLayer(m_layer->category, m_plotTypeChooser) && zones.noSurfaces
+        && !isLayer(m_layer, style::kEdgeLayer))
+        queryToEnableSurfacePlotLayer(m_layer->category);
 }
 
 LayerCheck::ActiveZones LayerCheck::examineActiveZones() const

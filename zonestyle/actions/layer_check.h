@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "zonestyle/actions/style_path.h"
-
 #include <sdk/base/enums.h>
+#include <vocabulary/layers.h>
 
 #include <boost/function.hpp>
-
-#include <string>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 
@@ -16,10 +13,10 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 class LayerCheck
 {
 public:
-    /// For the value of a path; only the "Show" value of a field layer is a matter of layers.
-    explicit LayerCheck(const StylePath& path);
+    /// For writes to this value; only the switch of a field layer is a matter of layers.
+    explicit LayerCheck(style::Key key);
 
-    bool applies() const { return m_layerQuery; }
+    bool applies() const { return m_layer != nullptr; }
 
     /// Asks the user, as far as there is something to ask. The answers change the frame, not what
     /// the caller is about to write.
@@ -35,8 +32,7 @@ private:
 
     ActiveZones examineActiveZones() const;
 
-    bool m_layerQuery;
-    std::string m_layer; ///< empty unless m_layerQuery
+    const style::Layer* m_layer; ///< null when there is nothing to ask
     boost::function<bool(PlotType_e)> m_plotTypeChooser; ///< empty for layers without variables
     bool m_pointsMatter; ///< that come from no surface
 };

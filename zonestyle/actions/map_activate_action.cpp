@@ -18,7 +18,8 @@ static QString textOf(MapActivateMode_e mode)
     return QCoreApplication::translate("Menu", kTexts[mode]);
 }
 
-static void assign(const char* activeSet, const QModelIndexList& indexes, toolbox::AssignOp_e op)
+static void assign(style::NumbersKey activeSet, const QModelIndexList& indexes,
+                   toolbox::AssignOp_e op)
 {
     if (indexes.isEmpty())
         return;
@@ -36,7 +37,7 @@ static bool allExist(const QModelIndexList& indexes)
 }
 
 MapActivateAction::MapActivateAction(const QModelIndexList& selectedIndexes, MapActivateMode_e mode,
-                                     const char* activeSet)
+                                     style::NumbersKey activeSet)
     : Action(textOf(mode), selectedIndexes)
     , m_mode(mode)
     , m_activeSet(activeSet)

@@ -3,6 +3,8 @@
 
 #include "zonestyle/actions/action.h"
 
+#include <vocabulary/style.h>
+
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 
 /// What to do with the set of active maps.
@@ -17,10 +19,9 @@ enum MapActivateMode_e {
 class MapActivateAction : public Action
 {
 public:
-    /// `activeSet` names the set, "ActiveFieldMaps" or "ActiveLineMaps"; it must be a literal. To
-    /// invert, the indexes must be of the column whose check state says which maps are active.
+    /// To invert, the indexes must be of the column whose check state says which maps are active.
     MapActivateAction(const QModelIndexList& selectedIndexes, MapActivateMode_e mode,
-                      const char* activeSet);
+                      style::NumbersKey activeSet);
 
     void invokeAction() override;
 
@@ -31,7 +32,7 @@ private:
     void remove(const QModelIndexList& indexes) const;
 
     MapActivateMode_e m_mode;
-    const char* m_activeSet;
+    style::NumbersKey m_activeSet;
 };
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

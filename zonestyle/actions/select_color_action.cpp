@@ -22,14 +22,14 @@ public:
     SelectColorAction* q;
     QModelIndexList selectedIndexes;
     bool offerGroupColors;
-    StylePath path;
+    StyleTarget target;
     signaling::SignalConnectionCollection connections;
 };
 
 void SelectColorAction::Private::colorSelected(int color)
 {
     const QPointer<SelectColorAction> self(q);
-    runAction<StyleAction<int>>(QString(), selectedIndexes, color, path);
+    runAction<StyleAction<int>>(QString(), selectedIndexes, color, target);
     if (self)
         closeMenus();
 }
@@ -44,9 +44,9 @@ void SelectColorAction::Private::closeMenus()
 }
 
 SelectColorAction::SelectColorAction(const QModelIndexList& selectedIndexes, bool offerGroupColors,
-                                     const StylePath& path)
+                                     const StyleTarget& target)
     : QWidgetAction(nullptr)
-    , d(new Private {this, selectedIndexes, offerGroupColors, path, {}})
+    , d(new Private {this, selectedIndexes, offerGroupColors, target, {}})
 {
 }
 

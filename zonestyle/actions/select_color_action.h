@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "zonestyle/actions/style_path.h"
+#include "zonestyle/actions/style_target.h"
 
 #include <QModelIndexList>
 #include <QWidgetAction>
@@ -19,7 +19,7 @@ class SelectColorAction : public QWidgetAction
 public:
     /// `offerGroupColors` adds the colours that follow a contour group or RGB.
     SelectColorAction(const QModelIndexList& selectedIndexes, bool offerGroupColors,
-                      const StylePath& path);
+                      const StyleTarget& target);
     ~SelectColorAction() override;
 
     bool offersGroupColors() const;

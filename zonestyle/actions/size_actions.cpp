@@ -8,13 +8,13 @@
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 
-QList<double> presetSizes(const char* presets)
+QList<double> presetSizes(style::RealKey key)
 {
+    constexpr int kCount = 5;
+    const style::Id first = style::entryOf(key).presets;
     QList<double> sizes;
-    for (const char* name : {"Tiny", "Small", "Medium", "Large", "Huge"}) {
-        const toolbox::StyleValue size("BasicSize", presets, name);
-        sizes.append(size.read<double>().value_or(0.0));
-    }
+    for (style::Id size = first; size < first + kCount; ++size)
+        sizes.append(toolbox::StyleValue(style::Key {size}).read<double>().value_or(0.0));
     return sizes;
 }
 
@@ -30,17 +30,18 @@ QAction* separator()
     return action;
 }
 
-QList<QAction*> sizeActions(const QModelIndexList& selectedIndexes, const SizePrompt& prompt,
-                            const StylePath& path)
+QList<QAction*> sizeActions(const QModelIndexList& selectedIndexes, const PromptTexts& prompt,
+                            style::RealKey key)
 {
+    const style::Entry& entry = style::entryOf(key);
     QList<QAction*> actions;
-    for (const double size : presetSizes(prompt.presets))
-        actions.append(new StyleAction<double>(sizeText(size), selectedIndexes, size, path));
+    for (const double size : presetSizes(key))
+        actions.append(new StyleAction<double>(sizeText(size), selectedIndexes, size, key));
     actions.append(separator());
     actions.append(new EnterSingleValueAction<double>(
         QCoreApplication::translate("Menu", "Enter..."), selectedIndexes,
         QCoreApplication::translate("Prompt", prompt.title),
-        QCoreApplication::translate("Prompt", prompt.label), prompt.minimum, prompt.maximum, path));
+        QCoreApplication::translate("Prompt", prompt.label), entry.minimum, entry.maximum, key));
     return actions;
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "zonestyle/actions/style_path.h"
+#include <vocabulary/style.h>
 
 #include <QList>
 #include <QModelIndexList>
@@ -11,20 +11,15 @@ class QAction;
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 
-/// What a menu for a size-like value offers. The texts are English, in the translation context
-/// "Prompt".
-struct SizePrompt
+/// What a prompt for one number says, English, in the translation context "Prompt".
+struct PromptTexts
 {
-    const char* presets; ///< a list of the host's basic sizes: "LineThicknesses", ...
     const char* title;
     const char* label;
-    double minimum;
-    double maximum;
 };
 
-/// The five sizes of a list of the host's basic sizes, smallest first; 0 for a size that the host
-/// does not have.
-QList<double> presetSizes(const char* presets);
+/// The five sizes that are offered for a size-like value, smallest first.
+QList<double> presetSizes(style::RealKey key);
 
 /// A size as lists and menus show it: "0.50".
 QString sizeText(double size);
@@ -32,9 +27,9 @@ QString sizeText(double size);
 /// A line between the entries of a menu; the caller owns it.
 QAction* separator();
 
-/// The menu of a size-like value: the five presets, a separator, and a prompt. The caller owns the
-/// actions.
-QList<QAction*> sizeActions(const QModelIndexList& selectedIndexes, const SizePrompt& prompt,
-                            const StylePath& path);
+/// The menu of a size-like value: the five presets, a separator, and a prompt within the range of
+/// the value. The caller owns the actions.
+QList<QAction*> sizeActions(const QModelIndexList& selectedIndexes, const PromptTexts& prompt,
+                            style::RealKey key);
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

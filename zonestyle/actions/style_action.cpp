@@ -23,12 +23,12 @@ using HostRead = std::conditional_t<std::is_same_v<T, char>, bool,
 
 template<class T>
 StyleAction<T>::StyleAction(const QString& text, const QModelIndexList& selectedIndexes, T value,
-                            const StylePath& path)
+                            const StyleTarget& target)
     : Action(text, selectedIndexes)
-    , m_styleValue(
-          std::make_unique<toolbox::CheckedStyleValue>(accessor<toolbox::CheckedStyleValue>(path)))
+    , m_styleValue(std::make_unique<toolbox::CheckedStyleValue>(
+          accessor<toolbox::CheckedStyleValue>(target)))
     , m_value(value)
-    , m_layerCheck(path)
+    , m_layerCheck(target.key())
 {
 }
 

@@ -3,7 +3,7 @@
 
 #include "zonestyle/actions/action.h"
 #include "zonestyle/actions/layer_check.h"
-#include "zonestyle/actions/style_path.h"
+#include "zonestyle/actions/style_target.h"
 
 #include <sdk/base/enums.h>
 #include <sdk/toolbox/style_value.h>
@@ -19,7 +19,7 @@ class StyleAction : public Action
 {
 public:
     StyleAction(const QString& text, const QModelIndexList& selectedIndexes, T value,
-                const StylePath& path);
+                const StyleTarget& target);
     ~StyleAction() override;
 
     void invokeAction() override;

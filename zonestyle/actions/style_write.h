@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "zonestyle/actions/style_path.h"
+#include "zonestyle/actions/style_target.h"
 
 #include <sdk/toolbox/style_value.h>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 
-/// The same path for a host accessor: StyleValue, CheckedStyleValue.
+/// A host accessor for it: StyleValue, CheckedStyleValue.
 template<class Accessor>
-Accessor accessor(const StylePath& path)
+Accessor accessor(const StyleTarget& target)
 {
-    return Accessor(path[0], path[1], path[2], path[3], path[4]);
+    const StyleTarget::Path& path = target.path();
+    return target.key().isValid() ? Accessor(target.key())
+                                  : Accessor(path[0], path[1], path[2], path[3], path[4]);
 }
 
 /// Writes one value of the active frame in one host call, for all maps of the set (null: a value of
@@ -29,11 +31,11 @@ void writeStyle(toolbox::StyleValue& style, const toolbox::Set* maps, toolbox::A
     style.setFinalValue(value, address);
 }
 
-/// The same for the value of a path, without an operator.
+/// The same for maps, without an operator.
 template<class Value>
-void writeStyle(const StylePath& path, const toolbox::Set& maps, const Value& value)
+void writeStyle(const StyleTarget& target, const toolbox::Set& maps, const Value& value)
 {
-    auto style = accessor<toolbox::StyleValue>(path);
+    auto style = accessor<toolbox::StyleValue>(target);
     writeStyle(style, &maps, toolbox::AssignOp_None, value);
 }
 

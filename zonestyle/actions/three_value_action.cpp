@@ -9,12 +9,10 @@
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 
 ThreeValueAction::ThreeValueAction(const QString& text, const QModelIndexList& selectedIndexes,
-                                   const ThreeValues& values, const StylePath& group,
-                                   const ThreeNames& names)
-    : StyleAction<int>(text, selectedIndexes, values[0], group)
-    , m_group(group)
+                                   const ThreeValues& values, const ThreeKeys& keys)
+    : StyleAction<int>(text, selectedIndexes, values[0], keys[0])
     , m_values(values)
-    , m_names(names)
+    , m_keys(keys)
 {
 }
 
@@ -26,7 +24,7 @@ void ThreeValueAction::invokeAction()
     const StyleUndoStep step;
     const toolbox::Set maps = selectedMaps();
     for (std::size_t i = 0; i < m_values.size(); ++i)
-        writeStyle(m_group / m_names[i], maps, static_cast<double>(m_values[i]));
+        writeStyle(m_keys[i], maps, static_cast<double>(m_values[i]));
 }
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

@@ -8,22 +8,30 @@
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 
 using ThreeValues = std::array<int, 3>;
-using ThreeNames = std::array<const char*, 3>; ///< literals
+using ThreeKeys = std::array<style::IntegerKey, 3>;
 
-/// Writes three integers to three values of one group, such as an index range, as one undo step.
+constexpr ThreeKeys keysOf(const style::IndexRange& range)
+{
+    return {{range.min, range.max, range.skip}};
+}
+
+constexpr ThreeKeys keysOf(const style::IndexSkip& skip)
+{
+    return {{skip.i, skip.j, skip.k}};
+}
+
+/// Writes three integers to three values, such as those of an index range, as one undo step.
 class ThreeValueAction : public StyleAction<int>
 {
 public:
-    /// `group` is the path above the three names.
     ThreeValueAction(const QString& text, const QModelIndexList& selectedIndexes,
-                     const ThreeValues& values, const StylePath& group, const ThreeNames& names);
+                     const ThreeValues& values, const ThreeKeys& keys);
 
     void invokeAction() override;
 
 private:
-    StylePath m_group;
     ThreeValues m_values;
-    ThreeNames m_names;
+    ThreeKeys m_keys;
 };
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

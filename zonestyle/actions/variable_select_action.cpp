@@ -34,8 +34,8 @@ static QStringList variableNames(const QList<int>& variables)
 VariableSelectAction::VariableSelectAction(const QString& text,
                                            const QModelIndexList& selectedIndexes,
                                            const QString& title, const QString& label,
-                                           const StylePath& path)
-    : StyleAction<int>(text, selectedIndexes, 0, path)
+                                           const StyleTarget& target)
+    : StyleAction<int>(text, selectedIndexes, 0, target)
     , m_title(title)
     , m_label(label)
 {

@@ -10,7 +10,7 @@ class VariableSelectAction : public StyleAction<int>
 {
 public:
     VariableSelectAction(const QString& text, const QModelIndexList& selectedIndexes,
-                         const QString& title, const QString& label, const StylePath& path);
+                         const QString& title, const QString& label, const StyleTarget& target);
 
     void invokeAction() override;
     bool isPresentValue() const override { return false; }

@@ -14,7 +14,7 @@ using corvala::dialogs::prompt::ZoneSelectDialog;
 
 ZoneSelectAction::ZoneSelectAction(const QModelIndexList& selectedIndexes)
     : StyleAction<int>(QCoreApplication::translate("Menu", "Select Zone..."), selectedIndexes, 0,
-                       {"LineMap", "Assign", "Zone"})
+                       style::lineMap.assign.zone)
 {
 }
 

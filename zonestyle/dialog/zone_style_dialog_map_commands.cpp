@@ -76,7 +76,7 @@ void ZoneStyleDialog::deleteLineMaps(toolbox::Set const& lineMaps)
 {
     const AppLock lock(ImplicitMacroRecording_None);
     CvlUtilUndoStateBegin(UndoKind_LineMapsDeleted);
-    toolbox::CheckedStyleValue activeMaps("ActiveLineMaps");
+    toolbox::CheckedStyleValue activeMaps(style::activeLineMaps);
     actions::writeStyle(activeMaps, nullptr, toolbox::AssignOp_Remove, lineMaps);
     CvlUtilLineMapDelete(lineMaps.handle());
     CvlUtilUndoStateEnd(false, true);

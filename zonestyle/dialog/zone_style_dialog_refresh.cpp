@@ -17,8 +17,17 @@ using toolbox::StateChangeEventInterface;
 
 namespace {
 
-constexpr int kAlwaysRelevant[] = {2, 3, 14, 16, 21, 22, 29, 50, 51};
-constexpr int kRelevantUnlessRenaming[] = {0, 1, 5, 8, 9, 10, 11, 19, 44, 56};
+constexpr int kAlwaysRelevant[] = {
+    StateCode_FieldMapListChanged, StateCode_LineMapListChanged,  StateCode_ZoneRenamed,
+    StateCode_VariableRenamed,     StateCode_ContourGroupChanged, StateCode_ColorTableChanged,
+    StateCode_SolutionTimeChanged, StateCode_FrameListChanged,    StateCode_ActiveFrameChanged,
+};
+constexpr int kRelevantUnlessRenaming[] = {
+    StateCode_DocumentCleared,     StateCode_DocumentLoaded,    StateCode_DataSetAttached,
+    StateCode_DataSetDetached,     StateCode_ZonesAdded,        StateCode_ZonesRemoved,
+    StateCode_VariableListChanged, StateCode_DataValuesChanged, StateCode_UndoApplied,
+    StateCode_RedoApplied,
+};
 constexpr const char* kRelevantStyles[] = {
     "ActiveFieldMaps", "ActiveFieldZones", "ActiveLineMaps", "FieldMap",
     "FieldLayers",     "GlobalScatter",    "Linking",        "LineMap",

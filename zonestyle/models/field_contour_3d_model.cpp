@@ -9,7 +9,7 @@ using namespace kinds;
 
 static constexpr ColumnDescriptor kColumns[] = {
     checkBox(QT_TRANSLATE_NOOP("Column", "Use\nLighting"),
-             {"FieldMap", "Contour", "UseLightingEffect"}),
+             style::fieldMap.contour.useLightingEffect),
 };
 
 // Deliberate: no layer of its own, the contour columns before it govern it.

@@ -2,10 +2,7 @@
 #include "zonestyle/models/field_contour_model.h"
 
 #include "zonestyle/models/columns/column_kinds.h"
-#include "zonestyle/models/columns/relevance_rules.h"
 #include "zonestyle/models/columns/size_prompts.h"
-#include "zonestyle/tables/contour_names.h"
-#include "zonestyle/tables/line_names.h"
 
 #include <sdk/common/common.h>
 
@@ -16,19 +13,19 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 using namespace kinds;
 using actions::StyleAction;
 
-static constexpr StylePath kContour {"FieldMap", "Contour"};
-static constexpr int kGroups = 8;
+static constexpr const auto& kContour = style::fieldMap.contour;
+static constexpr int kGroups = style::ContourGroups::kCount;
 
 static QString rgbText()
 {
-    return ChoiceNames(tables::kContourColorings).name(ContourColoring_RGB);
+    return tables::nameOf(style::kContourColorings, ContourColoring_RGB);
 }
 
 /// Such as "C1: Pressure".
 static QString groupLabel(CvlUniqueId frame, int group)
 {
-    const toolbox::FrameStyleValue style(frame, "ContourGroups", "Var");
-    const int variable = style.read<int>(0, group).value_or(0);
+    const toolbox::FrameStyleValue value(frame, style::contourGroups.var);
+    const int variable = value.read<int>(0, group).value_or(0);
     const QString name = variable == 0
         ? QCoreApplication::translate("Cell", "unassigned")
         : QString::fromStdString(variableNameFormattedForAliasesForFrame(frame, variable));
@@ -37,12 +34,12 @@ static QString groupLabel(CvlUniqueId frame, int group)
 
 static QVariant groupName(const Cell& cell)
 {
-    return groupLabel(cell.frame, cell.value<int>());
+    return groupLabel(cell.frame, cell.own<int>());
 }
 
 static QVariant floodName(const Cell& cell)
 {
-    return cell.value<int>() == ContourColoring_RGB ? rgbText() : groupName(cell);
+    return cell.own<int>() == ContourColoring_RGB ? rgbText() : groupName(cell);
 }
 
 static QVariant rgbAndGroups(const Cell& cell)
@@ -77,9 +74,9 @@ static QList<QAction*> floodMenu(const MenuRequest& request)
     return groupEntries(request, rows) << actions::separator() << rgb;
 }
 
-static constexpr ColumnDescriptor contourGroup(const char* header, const StylePath& path)
+static constexpr ColumnDescriptor contourGroup(const char* header, style::Key key)
 {
-    ColumnDescriptor column {header, path};
+    ColumnDescriptor column {header, key};
     return column.shows(groupName)
         .lists(rgbAndGroups)
         .writes(writeChoice)
@@ -87,55 +84,37 @@ static constexpr ColumnDescriptor contourGroup(const char* header, const StylePa
         .editor(EditorType_ListPopup, 4);
 }
 
-static ContourType_e contourType(const Cell& cell)
+/// What shows on lines alone.
+static constexpr ColumnDescriptor ofLines(ColumnDescriptor column)
 {
-    return static_cast<ContourType_e>(cell.sibling<int>("ContourType"));
-}
-
-static bool isFlooded(const Cell& cell)
-{
-    return contourType(cell) != ContourType_Lines;
-}
-
-static bool drawsLines(const Cell& cell)
-{
-    const ContourType_e type = contourType(cell);
-    return type == ContourType_Lines || type == ContourType_LinesAndFlood;
-}
-
-static bool drawsLinesWithGaps(const Cell& cell)
-{
-    return drawsLines(cell) && rules::patternHasGaps(cell);
+    return column.relevantFor(kContour.contourType, {ContourType_Lines, ContourType_LinesAndFlood});
 }
 
 static constexpr ColumnDescriptor kColumns[] = {
-    checkBox(QT_TRANSLATE_NOOP("Column", "Show\nContour"), kContour / "Show"),
-    choice<ContourType_e>(QT_TRANSLATE_NOOP("Column", "Contour\nType"), kContour / "ContourType",
-                          tables::kContourTypes)
+    checkBox(QT_TRANSLATE_NOOP("Column", "Show\nContour"), kContour.show),
+    choice(QT_TRANSLATE_NOOP("Column", "Contour\nType"), kContour.contourType)
         .rawValue(integerValue),
-    contourGroup(QT_TRANSLATE_NOOP("Column", "Flood\nBy"), kContour / "FloodColoring")
+    contourGroup(QT_TRANSLATE_NOOP("Column", "Flood\nBy"), kContour.floodColoring)
         .shows(floodName)
         .offers(floodMenu)
-        .relevantWhen(isFlooded),
+        .relevantUnless(kContour.contourType, {ContourType_Lines}),
     // Deliberate: the editor offers RGB, which lines cannot have, the menu does not.
-    contourGroup(QT_TRANSLATE_NOOP("Column", "Lines\nBy"), kContour / "LineContourGroup")
-        .relevantWhen(drawsLines),
-    colorSwatch(QT_TRANSLATE_NOOP("Column", "Line\nColor"), kContour / "Color")
-        .relevantWhen(drawsLines),
-    choice<LinePattern_e>(QT_TRANSLATE_NOOP("Column", "Line\nPattern"), kContour / "LinePattern",
-                          tables::kLinePatterns)
-        .rawValue(integerValue)
-        .relevantWhen(drawsLines),
-    percent(QT_TRANSLATE_NOOP("Column", "Pattern\nLength"), kContour / "PatternLength",
-            prompts::kFieldPatternLength)
-        .relevantWhen(drawsLinesWithGaps),
-    percent(QT_TRANSLATE_NOOP("Column", "Line\nThickness"), kContour / "LineThickness",
-            prompts::kFieldLineThickness)
-        .relevantWhen(drawsLines),
+    ofLines(contourGroup(QT_TRANSLATE_NOOP("Column", "Lines\nBy"), kContour.lineContourGroup)),
+    ofLines(colorSwatch(QT_TRANSLATE_NOOP("Column", "Line\nColor"), kContour.color)),
+    ofLines(choice(QT_TRANSLATE_NOOP("Column", "Line\nPattern"), kContour.linePattern))
+        .rawValue(integerValue),
+    ofLines(percent(QT_TRANSLATE_NOOP("Column", "Pattern\nLength"), kContour.patternLength,
+                    prompts::kFieldPatternLength))
+        .relevantUnless(kContour.linePattern, {LinePattern_Solid}),
+    ofLines(percent(QT_TRANSLATE_NOOP("Column", "Line\nThickness"), kContour.lineThickness,
+                    prompts::kFieldLineThickness)),
 };
 
-static constexpr ColumnTable kTable =
-    ColumnTable(kColumns).primary(4).layer("ShowContour").rowMustBeShown().governsFollowing();
+static constexpr ColumnTable kTable = ColumnTable(kColumns)
+                                          .primary(4)
+                                          .layer(style::fieldLayers.showContour)
+                                          .rowMustBeShown()
+                                          .governsFollowing();
 
 const ColumnTable& FieldContourModel::columnTable() const
 {

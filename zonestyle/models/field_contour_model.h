@@ -9,17 +9,6 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 class FieldContourModel : public DescribedModel<FieldModelAbstract>
 {
 public:
-    enum Column {
-        Show,
-        ContourType,
-        FloodBy,
-        LinesBy,
-        LineColor,
-        LinePattern,
-        PatternLength,
-        LineThickness
-    };
-
     using DescribedModel::DescribedModel;
 
 protected:

@@ -9,8 +9,6 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 class FieldMeshModel : public DescribedModel<FieldModelAbstract>
 {
 public:
-    enum Column { Show, MeshType, MeshColor, LinePattern, PatternLength, LineThickness };
-
     using DescribedModel::DescribedModel;
 
 protected:

@@ -39,9 +39,4 @@ bool FieldModelAbstract::isLocalRelevant(const QModelIndex& index) const
         && CvlUtilFieldMapGetCandidateZoneForFrame(frameId(), map) != 0;
 }
 
-bool FieldModelAbstract::isLayerActive(const char* layer) const
-{
-    return CvlUtilFieldLayerIsActiveForFrame(frameId(), layer) != 0;
-}
-
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models

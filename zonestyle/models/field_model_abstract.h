@@ -15,10 +15,6 @@ public:
     /// A row whose map shows no zone at the solution time says so in its tool tip.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     bool isLocalRelevant(const QModelIndex& index) const override;
-
-protected:
-    /// "ShowMesh", "UseTranslucency" and so on: what the frame shows of all maps.
-    bool isLayerActive(const char* layer) const;
 };
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models

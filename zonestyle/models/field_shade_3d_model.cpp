@@ -8,11 +8,11 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 using namespace kinds;
 
 static constexpr ColumnDescriptor kColumns[] = {
-    checkBox(QT_TRANSLATE_NOOP("Column", "Use\nLighting"),
-             {"FieldMap", "Shade", "UseLightingEffect"}),
+    checkBox(QT_TRANSLATE_NOOP("Column", "Use\nLighting"), style::fieldMap.shade.useLightingEffect),
 };
 
-static constexpr ColumnTable kTable = ColumnTable(kColumns).layer("ShowShade");
+// The shade columns before it govern it, with their layer.
+static constexpr ColumnTable kTable {kColumns};
 
 const ColumnTable& FieldShade3DModel::columnTable() const
 {

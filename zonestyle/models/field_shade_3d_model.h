@@ -9,8 +9,6 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 class FieldShade3DModel : public DescribedModel<FieldModelAbstract>
 {
 public:
-    enum Column { UseLighting };
-
     using DescribedModel::DescribedModel;
 
 protected:

@@ -7,16 +7,18 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 
 using namespace kinds;
 
-static constexpr StylePath kShade {"FieldMap", "Shade"};
+static constexpr const auto& kShade = style::fieldMap.shade;
 
 static constexpr ColumnDescriptor kColumns[] = {
-    checkBox(QT_TRANSLATE_NOOP("Column", "Show\nShade"), kShade / "Show"),
-    // Deliberate: a shade cannot follow a contour group or RGB.
-    colorSwatch(QT_TRANSLATE_NOOP("Column", "Shade\nColor"), kShade / "Color").withoutGroupColors(),
+    checkBox(QT_TRANSLATE_NOOP("Column", "Show\nShade"), kShade.show),
+    colorSwatch(QT_TRANSLATE_NOOP("Column", "Shade\nColor"), kShade.color),
 };
 
-static constexpr ColumnTable kTable =
-    ColumnTable(kColumns).primary(2).layer("ShowShade").rowMustBeShown().governsFollowing();
+static constexpr ColumnTable kTable = ColumnTable(kColumns)
+                                          .primary(2)
+                                          .layer(style::fieldLayers.showShade)
+                                          .rowMustBeShown()
+                                          .governsFollowing();
 
 const ColumnTable& FieldShadeModel::columnTable() const
 {

@@ -9,8 +9,6 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 class FieldShadeModel : public DescribedModel<FieldModelAbstract>
 {
 public:
-    enum Column { Show, ShadeColor };
-
     using DescribedModel::DescribedModel;
 
 protected:

@@ -51,7 +51,7 @@ static constexpr ColumnDescriptor column(const char* header, CellReader display)
 
 static constexpr ColumnDescriptor group(const char* header)
 {
-    ColumnDescriptor descriptor {header, {"FieldMap", "Group"}};
+    ColumnDescriptor descriptor {header, style::fieldMap.group};
     return descriptor.shows(integerValue)
         .writes(writeNumber)
         .editsOnly(Qt::EditRole)
@@ -64,7 +64,7 @@ static constexpr ColumnDescriptor kColumns[] = {
     // Deliberate: a text editor without the editable flag. The name is shown, not edited, here.
     column(QT_TRANSLATE_NOOP("Column", "Zone\nName"), zoneName).editor(EditorType_TextPopup, 2),
     group(QT_TRANSLATE_NOOP("Column", "Group\nNumber")),
-    activeBox(QT_TRANSLATE_NOOP("Column", "Show\nZone"), "ActiveFieldMaps", isActive)
+    activeBox(QT_TRANSLATE_NOOP("Column", "Show\nZone"), style::activeFieldMaps, isActive)
         .editsOnly(Qt::CheckStateRole),
 };
 

@@ -9,8 +9,6 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 class FieldStaticAreaModel : public DescribedModel<FieldModelAbstract>
 {
 public:
-    enum Column { ZoneNumber, ZoneName, GroupNumber, ShowZone };
-
     using DescribedModel::DescribedModel;
 
 protected:

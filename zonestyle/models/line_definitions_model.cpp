@@ -4,23 +4,19 @@
 #include "zonestyle/actions/zone_select_action.h"
 #include "zonestyle/models/columns/column_kinds.h"
 #include "zonestyle/models/columns/host_lists.h"
-#include "zonestyle/tables/line_map_names.h"
 
 #include <sdk/base/cvl.h>
 #include <sdk/common/common.h>
-
-#include <QCoreApplication>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 
 using namespace kinds;
 
-static constexpr StylePath kAssign {"LineMap", "Assign"};
+static constexpr const auto& kAssign = style::lineMap.assign;
 
 static QVariant zoneName(const Cell& cell)
 {
-    return QString::fromStdString(
-        zoneNameWithIndexFormattedForFrame(cell.frame, cell.value<int>()));
+    return QString::fromStdString(zoneNameWithIndexFormattedForFrame(cell.frame, cell.own<int>()));
 }
 
 static QVariant zoneList(const Cell& cell)
@@ -47,7 +43,7 @@ static QList<QAction*> zoneMenu(const MenuRequest& request)
 // Deliberate: as in a list of variables, the position is written; and the menu does not confirm.
 static constexpr ColumnDescriptor zone(const char* header)
 {
-    ColumnDescriptor column {header, kAssign / "Zone"};
+    ColumnDescriptor column {header, kAssign.zone};
     return column.shows(zoneName)
         .lists(zoneList)
         .writes(writeConfirmedZone)
@@ -57,36 +53,29 @@ static constexpr ColumnDescriptor zone(const char* header)
         .editor(EditorType_ComboPopup, 2);
 }
 
-static std::optional<int> curveType(const Cell& cell)
-{
-    return cell.read<int>({"LineMap", "Curves", "CurveType"});
-}
-
 static QVariant sortName(const Cell& cell)
 {
-    if (curveType(cell) == CurveType_Spline)
-        return QCoreApplication::translate("Cell", "N/A");
-    if (cell.value<int>() != LineMapSort_BySpecificVar)
+    if (cell.own<int>() != LineMapSort_BySpecificVar)
         return choiceName(cell);
     return QString::fromStdString(
-        variableNameFormattedForAliasesForFrame(cell.frame, cell.sibling<int>("SortVar")));
+        variableNameFormattedForAliasesForFrame(cell.frame, cell.value(kAssign.sortVar)));
 }
 
 static bool canBeSorted(const Cell& cell)
 {
-    const std::optional<int> type = curveType(cell);
+    const std::optional<CurveType_e> type = cell.read(style::lineMap.curves.curveType);
     return type && *type != CurveType_Spline;
 }
 
 static constexpr ColumnDescriptor kColumns[] = {
     zone(QT_TRANSLATE_NOOP("Column", "Zone")),
     // Deliberate: sorting by a specific variable is shown, but neither listed nor in the menu.
-    choice<LineMapSort_e>(QT_TRANSLATE_NOOP("Column", "Sort"), kAssign / "Sort",
-                          ChoiceNames(tables::kLineMapSorts).first(3))
+    choice(QT_TRANSLATE_NOOP("Column", "Sort"), kAssign.sort)
+        .offersFirst(3)
         .shows(sortName)
-        .relevantWhen(canBeSorted),
-    choice<LegendShow_e>(QT_TRANSLATE_NOOP("Column", "Show in\nLegend"), kAssign / "ShowInLegend",
-                         tables::kLegendModes),
+        .existsWhere(canBeSorted),
+    // Deliberate: the legend may show a map that the plot does not.
+    choice(QT_TRANSLATE_NOOP("Column", "Show in\nLegend"), kAssign.showInLegend).alwaysRelevant(),
 };
 
 static constexpr ColumnTable kTable = ColumnTable(kColumns).primary(1);
@@ -94,12 +83,6 @@ static constexpr ColumnTable kTable = ColumnTable(kColumns).primary(1);
 const ColumnTable& LineDefinitionsModel::columnTable() const
 {
     return kTable;
-}
-
-bool LineDefinitionsModel::isLocalRelevant(const QModelIndex& index) const
-{
-    // Deliberate: the legend may show a map that the plot does not.
-    return index.column() == ShowInLegend || DescribedModel::isLocalRelevant(index);
 }
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models

@@ -9,11 +9,7 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 class LineDefinitionsModel : public DescribedModel<LineModelAbstract>
 {
 public:
-    enum Column { Zone, Sort, ShowInLegend };
-
     using DescribedModel::DescribedModel;
-
-    bool isLocalRelevant(const QModelIndex& index) const override;
 
 protected:
     const ColumnTable& columnTable() const override;

@@ -9,8 +9,6 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 class LineDefinitionsPolarModel : public DescribedModel<LineModelAbstract>
 {
 public:
-    enum Column { ThetaVariable, RadiusVariable };
-
     using DescribedModel::DescribedModel;
 
 protected:

@@ -7,9 +7,9 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 
 using namespace kinds;
 
-static constexpr StylePath kAssign {"LineMap", "Assign"};
+static constexpr const auto& kAssign = style::lineMap.assign;
 static constexpr const char* kPrompt = QT_TRANSLATE_NOOP("Prompt", "Choose the variable");
-static constexpr int kAxes = 5;
+static constexpr int kAxes = style::LineAssign::kAxes;
 
 /// Such as "X1".
 template<char Letter>
@@ -21,7 +21,7 @@ static QString axisText(int axis)
 template<char Letter>
 static QVariant axisName(const Cell& cell)
 {
-    return axisText<Letter>(cell.value<int>());
+    return axisText<Letter>(cell.own<int>());
 }
 
 template<char Letter>
@@ -45,9 +45,9 @@ static QList<QAction*> axisMenu(const MenuRequest& request)
 }
 
 template<char Letter>
-static constexpr ColumnDescriptor axis(const char* header, const StylePath& path)
+static constexpr ColumnDescriptor axis(const char* header, style::IntegerKey key)
 {
-    ColumnDescriptor column {header, path};
+    ColumnDescriptor column {header, key};
     return column.shows(axisName<Letter>)
         .lists(axisList<Letter>)
         .writes(writeChoice)
@@ -57,10 +57,10 @@ static constexpr ColumnDescriptor axis(const char* header, const StylePath& path
 }
 
 static constexpr ColumnDescriptor kColumns[] = {
-    variable(QT_TRANSLATE_NOOP("Column", "X-Axis\nVariable"), kAssign / "XAxisVar", kPrompt),
-    variable(QT_TRANSLATE_NOOP("Column", "Y-Axis\nVariable"), kAssign / "YAxisVar", kPrompt),
-    axis<'X'>(QT_TRANSLATE_NOOP("Column", "Which\nX-Axis"), kAssign / "XAxis"),
-    axis<'Y'>(QT_TRANSLATE_NOOP("Column", "Which\nY-Axis"), kAssign / "YAxis"),
+    variable(QT_TRANSLATE_NOOP("Column", "X-Axis\nVariable"), kAssign.xAxisVar, kPrompt),
+    variable(QT_TRANSLATE_NOOP("Column", "Y-Axis\nVariable"), kAssign.yAxisVar, kPrompt),
+    axis<'X'>(QT_TRANSLATE_NOOP("Column", "Which\nX-Axis"), kAssign.xAxis),
+    axis<'Y'>(QT_TRANSLATE_NOOP("Column", "Which\nY-Axis"), kAssign.yAxis),
 };
 
 static constexpr ColumnTable kTable = ColumnTable(kColumns).primary(2);

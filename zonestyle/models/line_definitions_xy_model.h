@@ -9,8 +9,6 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 class LineDefinitionsXYModel : public DescribedModel<LineModelAbstract>
 {
 public:
-    enum Column { XAxisVariable, YAxisVariable, XAxis, YAxis };
-
     using DescribedModel::DescribedModel;
 
 protected:

@@ -18,9 +18,4 @@ bool LineModelAbstract::isLocalRelevant(const QModelIndex& index) const
     return CvlUtilLineMapIsActiveForFrame(frameId(), index.row() + 1) != 0;
 }
 
-bool LineModelAbstract::isLayerActive(const char* layer) const
-{
-    return CvlUtilLinePlotLayerIsActiveForFrame(frameId(), layer) != 0;
-}
-
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models

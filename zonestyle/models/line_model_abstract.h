@@ -13,10 +13,6 @@ public:
 
     int rowCount(const QModelIndex& parent = {}) const override;
     bool isLocalRelevant(const QModelIndex& index) const override;
-
-protected:
-    /// "ShowLines", "ShowSymbols" and so on: what the frame shows of all maps.
-    bool isLayerActive(const char* layer) const;
 };
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models

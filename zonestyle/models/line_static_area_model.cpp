@@ -52,7 +52,7 @@ static constexpr ColumnDescriptor name(const char* header)
 {
     ColumnDescriptor descriptor {header};
     return descriptor.shows(mapName)
-        .lists(storedMapName)
+        .editsText(storedMapName)
         .writes(rename)
         .editable()
         .editor(EditorType_DynamicTextPopup, 2);
@@ -62,7 +62,7 @@ static constexpr ColumnDescriptor name(const char* header)
 static constexpr ColumnDescriptor kColumns[] = {
     number(QT_TRANSLATE_NOOP("Column", "Map\nNumber")),
     name(QT_TRANSLATE_NOOP("Column", "Map\nName")),
-    activeBox(QT_TRANSLATE_NOOP("Column", "Show\nMap"), "ActiveLineMaps", isActive),
+    activeBox(QT_TRANSLATE_NOOP("Column", "Show\nMap"), style::activeLineMaps, isActive),
 };
 
 static constexpr ColumnTable kTable = ColumnTable(kColumns).identity();

@@ -9,8 +9,6 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 class LineStaticAreaModel : public DescribedModel<LineModelAbstract>
 {
 public:
-    enum Column { MapNumber, MapName, ShowMap };
-
     using DescribedModel::DescribedModel;
 
 protected:

@@ -7,30 +7,29 @@
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::tables {
 
-QString Choice::text() const
+QString textOf(const Choice& choice)
 {
-    return QCoreApplication::translate("Choice", name);
+    return QCoreApplication::translate("StyleValues", choice.name);
 }
 
-QString ChoiceNames::name(int value) const
+QString nameOf(const Choices& choices, int value)
 {
-    const Choice* found =
-        std::find_if(begin(), end(), [&](const Choice& choice) { return choice.value == value; });
-    return found == end() ? QString() : found->text();
+    const char* const name = choices.nameOf(value);
+    return name ? textOf({value, name}) : QString();
 }
 
-QStringList ChoiceNames::names() const
+QStringList namesOf(const Choices& choices)
 {
     QStringList names;
-    for (const Choice& choice : *this)
-        names.append(choice.text());
+    for (const Choice& choice : choices)
+        names.append(textOf(choice));
     return names;
 }
 
-std::optional<int> ChoiceNames::valueOf(const QString& name) const
+std::optional<int> valueOf(const Choices& choices, const QString& name)
 {
-    const int position = positionOf(name, names());
-    return position < 0 ? std::nullopt : std::optional<int>(begin()[position].value);
+    const int position = positionOf(name, namesOf(choices));
+    return position < 0 ? std::nullopt : std::optional<int>(choices.begin()[position].value);
 }
 
 int positionOf(const QString& entry, const QStringList& entries)

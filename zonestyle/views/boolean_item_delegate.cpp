@@ -36,9 +36,11 @@ bool BooleanItemDelegate::isOnCheckBox(const QStyleOptionViewItem& option, const
     return box.contains(position);
 }
 
-void BooleanItemDelegate::drawDisplay(QPainter*, const QStyleOptionViewItem&, const QRect&,
-                                      const QString&) const
+void BooleanItemDelegate::drawDisplay(QPainter* painter, const QStyleOptionViewItem& option,
+                                      const QRect& rect, const QString& text) const
 {
+    if (!text.isEmpty())
+        ItemDelegate::drawDisplay(painter, option, rect, text);
 }
 
 void BooleanItemDelegate::drawCheck(QPainter* painter, const QStyleOptionViewItem& option,
@@ -146,7 +148,7 @@ bool BooleanItemDelegate::handleRelease(const QMouseEvent& event,
     return isHeld;
 }
 
-/// False when the cell cannot be checked or is not selected.
+/// False when the cell cannot be checked, shows no check box or is not selected.
 bool BooleanItemDelegate::toggleSelectedRows(const QModelIndex& index)
 {
     auto* model = view() ? qobject_cast<models::ModelAbstract*>(view()->model()) : nullptr;
@@ -154,7 +156,10 @@ bool BooleanItemDelegate::toggleSelectedRows(const QModelIndex& index)
     if (!model || !selection || !model->flags(index).testFlag(Qt::ItemIsUserCheckable)
         || !selection->isSelected(index))
         return false;
-    const bool isChecked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    const QVariant shown = index.data(Qt::CheckStateRole);
+    if (!shown.isValid())
+        return false;
+    const bool isChecked = shown.toInt() == Qt::Checked;
     const int state = isChecked ? Qt::Unchecked : Qt::Checked;
     model->setDataForIndexes(uicontrols::selectedRows(*selection, index.column()), state,
                              Qt::CheckStateRole);

@@ -21,7 +21,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
-    /// Draws no text: it would cover the check box with the background of a selected cell.
+    /// Of a cell without a check box, as one of "N/A". An empty text is not drawn: it would cover
+    /// the check box with the background of a selected cell.
     void drawDisplay(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,
                      const QString& text) const override;
     void drawCheck(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,

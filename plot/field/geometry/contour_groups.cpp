@@ -46,14 +46,11 @@ static CvlInt64 variableOf(const host::Frame& frame, host::AttributeId id, int i
 
 bool ContourGroups::setVariables(const host::Frame& frame)
 {
-    const host::Schema& schema = host::Schema::instance();
-    static const host::AttributeId kGroups = schema.find({"ContourGroups", "Var"});
-    static const host::AttributeId kChannels[] = {schema.find({"GlobalRGB", "RedVar"}),
-                                                  schema.find({"GlobalRGB", "GreenVar"}),
-                                                  schema.find({"GlobalRGB", "BlueVar"})};
+    constexpr style::VariableKey kChannels[] = {style::globalRgb.redVar, style::globalRgb.greenVar,
+                                                style::globalRgb.blueVar};
     bool changed = false;
     for (int group = 1; group <= kCount; ++group) {
-        CvlInt64 variable = group < kRed ? variableOf(frame, kGroups, group)
+        CvlInt64 variable = group < kRed ? variableOf(frame, style::contourGroups.var, group)
                                          : variableOf(frame, kChannels[group - kRed], -1);
         if (!frame.data() || !frame.data()->hasVariable(variable))
             variable = 0;

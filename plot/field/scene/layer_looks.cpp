@@ -8,65 +8,11 @@ namespace corvala::plot {
 static constexpr int kFirstGroupColor = 101;
 static constexpr int kRgbColor = 109;
 
-/// Attributes that field layers are drawn from, looked up once.
-struct FieldAttributes
-{
-    explicit FieldAttributes(const host::Schema& schema);
-    static const FieldAttributes& instance();
-
-    host::AttributeId meshShow, meshType, meshColor, meshPattern, meshLength, meshThickness;
-    host::AttributeId contourShow, contourType, flood, linesBy, contourColor, contourPattern;
-    host::AttributeId contourLength, contourThickness, contourLight;
-    host::AttributeId shadeShow, shadeColor, shadeLight;
-    host::AttributeId edgeShow, edgeType, edgeColor, edgeThickness;
-    std::array<host::AttributeId, 3> borders;
-    host::AttributeId surfaces, lightingEffect;
-    std::array<std::array<host::AttributeId, 3>, 3> planes; ///< by axis: minimum, maximum, skip
-};
-
-FieldAttributes::FieldAttributes(const host::Schema& schema)
-{
-    const auto find = [&schema](const char* group, const char* name) {
-        return schema.find({"FieldMap", group, name});
-    };
-    meshShow = find("Mesh", "Show");
-    meshType = find("Mesh", "MeshType");
-    meshColor = find("Mesh", "Color");
-    meshPattern = find("Mesh", "LinePattern");
-    meshLength = find("Mesh", "PatternLength");
-    meshThickness = find("Mesh", "LineThickness");
-    contourShow = find("Contour", "Show");
-    contourType = find("Contour", "ContourType");
-    flood = find("Contour", "FloodColoring");
-    linesBy = find("Contour", "LineContourGroup");
-    contourColor = find("Contour", "Color");
-    contourPattern = find("Contour", "LinePattern");
-    contourLength = find("Contour", "PatternLength");
-    contourThickness = find("Contour", "LineThickness");
-    contourLight = find("Contour", "UseLightingEffect");
-    shadeShow = find("Shade", "Show");
-    shadeColor = find("Shade", "Color");
-    shadeLight = find("Shade", "UseLightingEffect");
-    edgeShow = find("EdgeLayer", "Show");
-    edgeType = find("EdgeLayer", "EdgeType");
-    edgeColor = find("EdgeLayer", "Color");
-    edgeThickness = find("EdgeLayer", "LineThickness");
-    borders = {find("EdgeLayer", "IBorder"), find("EdgeLayer", "JBorder"),
-               find("EdgeLayer", "KBorder")};
-    surfaces = find("Surfaces", "SurfacesToPlot");
-    lightingEffect = find("Effects", "LightingEffect");
-    const char* const ranges[] = {"IRange", "JRange", "KRange"};
-    const char* const parts[] = {"Min", "Max", "Skip"};
-    for (std::size_t axis = 0; axis < 3; ++axis)
-        for (std::size_t part = 0; part < 3; ++part)
-            planes[axis][part] = schema.find({"FieldMap", "Surfaces", ranges[axis], parts[part]});
-}
-
-const FieldAttributes& FieldAttributes::instance()
-{
-    static const FieldAttributes attributes(host::Schema::instance());
-    return attributes;
-}
+static constexpr const auto& kMap = style::fieldMap;
+static constexpr style::Key kBorders[] = {kMap.edgeLayer.iBorder, kMap.edgeLayer.jBorder,
+                                          kMap.edgeLayer.kBorder};
+static constexpr const style::IndexRange* kPlanes[] = {
+    &kMap.surfaces.ranges.iRange, &kMap.surfaces.ranges.jRange, &kMap.surfaces.ranges.kRange};
 
 /// Reads the style of one map.
 class MapStyle
@@ -96,15 +42,14 @@ private:
 
 BlockRecipe MapStyle::recipe(BlockKind kind) const
 {
-    const FieldAttributes& ids = FieldAttributes::instance();
     BlockRecipe recipe;
     recipe.kind = kind;
     recipe.zone = m_shown.zone;
     SurfaceChoice choice;
-    choice.surfaces = static_cast<SurfacesToPlot_e>(number(ids.surfaces));
+    choice.surfaces = static_cast<SurfacesToPlot_e>(number(kMap.surfaces.surfacesToPlot));
     for (std::size_t axis = 0; axis < 3; ++axis) {
-        choice.planes[axis] = {number(ids.planes[axis][0]), number(ids.planes[axis][1]),
-                               number(ids.planes[axis][2])};
+        choice.planes[axis] = {number(kPlanes[axis]->min), number(kPlanes[axis]->max),
+                               number(kPlanes[axis]->skip)};
     }
     recipe.surfaces = choice.normalized(m_shown.frame.data()->zone(m_shown.zone));
     return recipe;
@@ -143,17 +88,16 @@ void MapStyle::setLineColor(BlockLook& look, std::int32_t color, const ContourGr
 void MapStyle::setLight(BlockLook& look, host::AttributeId light) const
 {
     look.mapper.lit = m_shown.is3D() && flag(light);
-    look.mapper.shiny = look.mapper.lit && m_shown.frame.fieldLayer("UseLightingEffect");
-    look.mapper.smooth = look.mapper.shiny
-        && number(FieldAttributes::instance().lightingEffect) == LightingEffect_Gouraud;
+    look.mapper.shiny = look.mapper.lit && m_shown.frame.isOn(style::fieldLayers.useLightingEffect);
+    look.mapper.smooth =
+        look.mapper.shiny && number(kMap.effects.lightingEffect) == LightingEffect_Gouraud;
     look.recipe.normals = look.mapper.smooth;
 }
 
 static std::optional<BlockLook> backgroundLook(const ShownMap& shown, const ContourGroups&)
 {
-    const FieldAttributes& ids = FieldAttributes::instance();
     const MapStyle style(shown);
-    if (!style.flag(ids.meshShow) || style.number(ids.meshType) != MeshType_HiddenLine)
+    if (!style.flag(kMap.mesh.show) || style.number(kMap.mesh.meshType) != MeshType_HiddenLine)
         return std::nullopt;
     BlockLook look;
     look.recipe = style.recipe(BlockKind::Faces);
@@ -163,26 +107,24 @@ static std::optional<BlockLook> backgroundLook(const ShownMap& shown, const Cont
 
 static std::optional<BlockLook> shadeLook(const ShownMap& shown, const ContourGroups&)
 {
-    const FieldAttributes& ids = FieldAttributes::instance();
     const MapStyle style(shown);
-    if (!style.flag(ids.shadeShow))
+    if (!style.flag(kMap.shade.show))
         return std::nullopt;
     BlockLook look;
     look.recipe = style.recipe(BlockKind::Faces);
-    look.color = paletteColor(style.number(ids.shadeColor));
-    style.setLight(look, ids.shadeLight);
+    look.color = paletteColor(style.number(kMap.shade.color));
+    style.setLight(look, kMap.shade.useLightingEffect);
     return look;
 }
 
 static std::optional<BlockLook> floodLook(const ShownMap& shown, const ContourGroups& groups)
 {
-    const FieldAttributes& ids = FieldAttributes::instance();
     const MapStyle style(shown);
-    const int type = style.number(ids.contourType);
-    const int coloring = style.number(ids.flood);
+    const int type = style.number(kMap.contour.contourType);
+    const int coloring = style.number(kMap.contour.floodColoring);
     const bool hasVariable =
         coloring == ContourColoring_RGB ? groups.hasRgb() : groups.variable(coloring) > 0;
-    if (!style.flag(ids.contourShow) || type == ContourType_Lines || !hasVariable)
+    if (!style.flag(kMap.contour.show) || type == ContourType_Lines || !hasVariable)
         return std::nullopt;
     const bool byCell =
         type == ContourType_AverageCellFlood || type == ContourType_PrimaryValueFlood;
@@ -197,72 +139,74 @@ static std::optional<BlockLook> floodLook(const ShownMap& shown, const ContourGr
         // Levels may move without new geometry; another variable may not.
         look.recipe.revision = static_cast<int>(groups.variable(coloring));
     }
-    style.setLight(look, ids.contourLight);
+    style.setLight(look, kMap.contour.useLightingEffect);
     return look;
 }
 
 static std::optional<BlockLook> contourLinesLook(const ShownMap& shown, const ContourGroups& groups)
 {
-    const FieldAttributes& ids = FieldAttributes::instance();
     const MapStyle style(shown);
-    const int type = style.number(ids.contourType);
-    const int group = style.number(ids.linesBy);
+    const int type = style.number(kMap.contour.contourType);
+    const int group = style.number(kMap.contour.lineContourGroup);
     const bool hasLines = type == ContourType_Lines || type == ContourType_LinesAndFlood;
-    if (!style.flag(ids.contourShow) || !hasLines || groups.variable(group) == 0)
+    if (!style.flag(kMap.contour.show) || !hasLines || groups.variable(group) == 0)
         return std::nullopt;
     BlockLook look;
     look.recipe = style.recipe(BlockKind::ContourLines);
     look.recipe.group = group;
     look.recipe.revision = groups.revision(group);
-    style.setLine(look, ids.contourThickness, ids.contourPattern, ids.contourLength);
-    style.setLineColor(look, style.number(ids.contourColor), groups);
+    style.setLine(look, kMap.contour.lineThickness, kMap.contour.linePattern,
+                  kMap.contour.patternLength);
+    style.setLineColor(look, style.number(kMap.contour.color), groups);
     return look;
 }
 
 static std::optional<BlockLook> meshLook(const ShownMap& shown, const ContourGroups& groups)
 {
-    const FieldAttributes& ids = FieldAttributes::instance();
     const MapStyle style(shown);
-    if (!style.flag(ids.meshShow))
+    if (!style.flag(kMap.mesh.show))
         return std::nullopt;
     BlockLook look;
     look.recipe = style.recipe(BlockKind::MeshLines);
-    look.mapper.inFront = style.number(ids.meshType) == MeshType_WireFrame;
-    style.setLine(look, ids.meshThickness, ids.meshPattern, ids.meshLength);
-    style.setLineColor(look, style.number(ids.meshColor), groups);
+    look.mapper.inFront = style.number(kMap.mesh.meshType) == MeshType_WireFrame;
+    style.setLine(look, kMap.mesh.lineThickness, kMap.mesh.linePattern, kMap.mesh.patternLength);
+    style.setLineColor(look, style.number(kMap.mesh.color), groups);
     return look;
 }
 
 static std::optional<BlockLook> edgesLook(const ShownMap& shown, const ContourGroups&)
 {
-    const FieldAttributes& ids = FieldAttributes::instance();
     const MapStyle style(shown);
-    if (!style.flag(ids.edgeShow))
+    if (!style.flag(kMap.edgeLayer.show))
         return std::nullopt;
     BlockLook look;
     look.recipe = style.recipe(BlockKind::Edges);
     // Edges belong to the zone, whatever surfaces of it are drawn: a volume that draws none of its
     // surfaces still shows where it is.
     look.recipe.surfaces = SurfaceChoice();
-    look.recipe.edges.type = static_cast<EdgeType_e>(style.number(ids.edgeType));
+    look.recipe.edges.type = static_cast<EdgeType_e>(style.number(kMap.edgeLayer.edgeType));
     for (std::size_t axis = 0; axis < 3; ++axis) {
         look.recipe.edges.borders[axis] =
-            static_cast<BorderLocation_e>(style.number(ids.borders[axis]));
+            static_cast<BorderLocation_e>(style.number(kBorders[axis]));
     }
-    look.mapper.thickness = style.real(ids.edgeThickness);
-    look.color = paletteColor(style.number(ids.edgeColor));
+    look.mapper.thickness = style.real(kMap.edgeLayer.lineThickness);
+    look.color = paletteColor(style.number(kMap.edgeLayer.color));
     return look;
 }
 
 /// What tells the layers apart, in the order of FieldLayer.
 struct LayerDescription
 {
-    const char* layer; ///< name in "FieldLayers"
+    style::SwitchKey layer;
     std::optional<BlockLook> (*look)(const ShownMap&, const ContourGroups&);
 };
 static constexpr LayerDescription kLayers[kFieldLayerCount] = {
-    {"ShowMesh", backgroundLook},      {"ShowShade", shadeLook}, {"ShowContour", floodLook},
-    {"ShowContour", contourLinesLook}, {"ShowMesh", meshLook},   {"ShowEdge", edgesLook},
+    {style::fieldLayers.showMesh, backgroundLook},
+    {style::fieldLayers.showShade, shadeLook},
+    {style::fieldLayers.showContour, floodLook},
+    {style::fieldLayers.showContour, contourLinesLook},
+    {style::fieldLayers.showMesh, meshLook},
+    {style::fieldLayers.showEdge, edgesLook},
 };
 
 static const LayerDescription& describe(FieldLayer layer)
@@ -277,7 +221,7 @@ std::optional<BlockLook> lookOf(FieldLayer layer, const ShownMap& map, const Con
 
 bool isLayerOn(const host::Frame& frame, FieldLayer layer)
 {
-    return frame.fieldLayer(describe(layer).layer);
+    return frame.isOn(describe(layer).layer);
 }
 
 std::vector<int> groupsShown(const ShownMap& shown, const ContourGroups& groups)
@@ -297,11 +241,11 @@ std::vector<int> groupsShown(const ShownMap& shown, const ContourGroups& groups)
     return result;
 }
 
-/// Layers by the beginning of a path; the first that fits counts.
+/// Layers that a style value, or all of its group, is seen in.
 struct AffectedRow
 {
-    const char* first;
-    const char* second; ///< null fits all
+    style::Key key;
+    bool withItsGroup;
     LayerMask layers;
 };
 static constexpr LayerMask kContourMask =
@@ -310,30 +254,30 @@ static constexpr LayerMask kMeshMask =
     maskOf(FieldLayer::Mesh) | maskOf(FieldLayer::Background) | kGroupValues;
 static constexpr LayerMask kLitMask = maskOf(FieldLayer::Shade) | maskOf(FieldLayer::Flood);
 static constexpr AffectedRow kAffected[] = {
-    {"FieldMap", "Mesh", kMeshMask},
-    {"FieldMap", "Contour", kContourMask},
-    {"FieldMap", "Shade", maskOf(FieldLayer::Shade)},
-    {"FieldMap", "EdgeLayer", maskOf(FieldLayer::Edges)},
-    {"FieldMap", "Surfaces", kAllLayers& static_cast<LayerMask>(~maskOf(FieldLayer::Edges))},
-    {"FieldMap", "Effects", kLitMask},
-    {"FieldLayers", "ShowMesh", kMeshMask},
-    {"FieldLayers", "ShowContour", kContourMask},
-    {"FieldLayers", "ShowShade", maskOf(FieldLayer::Shade)},
-    {"FieldLayers", "ShowEdge", maskOf(FieldLayer::Edges)},
-    {"FieldLayers", "UseLightingEffect", kLitMask},
-    {"ContourGroups", nullptr, kContourMask | kMeshMask},
-    {"GlobalRGB", nullptr, kContourMask | kMeshMask},
-    {"ActiveFieldMaps", nullptr, kAllLayers | kGroupValues},
-    {"ActiveFieldZones", nullptr, kAllLayers | kGroupValues},
+    {kMap.mesh.show, true, kMeshMask},
+    {kMap.contour.show, true, kContourMask},
+    {kMap.shade.show, true, maskOf(FieldLayer::Shade)},
+    {kMap.edgeLayer.show, true, maskOf(FieldLayer::Edges)},
+    {kMap.surfaces.surfacesToPlot, true,
+     kAllLayers& static_cast<LayerMask>(~maskOf(FieldLayer::Edges))},
+    {kMap.effects.lightingEffect, true, kLitMask},
+    {style::fieldLayers.showMesh, false, kMeshMask},
+    {style::fieldLayers.showContour, false, kContourMask},
+    {style::fieldLayers.showShade, false, maskOf(FieldLayer::Shade)},
+    {style::fieldLayers.showEdge, false, maskOf(FieldLayer::Edges)},
+    {style::fieldLayers.useLightingEffect, false, kLitMask},
+    {style::contourGroups.var, true, kContourMask | kMeshMask},
+    {style::globalRgb.redVar, true, kContourMask | kMeshMask},
+    {style::activeFieldMaps, false, kAllLayers | kGroupValues},
+    {style::activeFieldZones, false, kAllLayers | kGroupValues},
 };
 
 LayerMask affectedBy(host::AttributeId attribute)
 {
     if (attribute < 0)
         return 0;
-    const std::vector<std::string>& names = host::Schema::instance().at(attribute).names;
     for (const AffectedRow& row : kAffected)
-        if (names[0] == row.first && (!row.second || (names.size() > 1 && names[1] == row.second)))
+        if (row.withItsGroup ? style::isInGroupOf({attribute}, row.key) : row.key == attribute)
             return row.layers;
     return 0;
 }

@@ -155,8 +155,8 @@ bool LocalFieldScene::applyStyleChange(const host::Frame& drawn, const host::Sty
     updateVisibility(drawn);
     // Showing a layer costs what changed while it was off; other values of the frame touch all
     // maps.
-    const bool isLayerSwitch =
-        attribute.names[0] == "FieldLayers" && attribute.names[1] != "UseLightingEffect";
+    const bool isLayerSwitch = style::isInGroupOf({attribute.id}, style::fieldLayers.showMesh)
+        && attribute.id != style::fieldLayers.useLightingEffect;
     pend(isLayerSwitch ? static_cast<LayerMask>(affected & kGroupValues) : affected, m_shown);
     return true;
 }

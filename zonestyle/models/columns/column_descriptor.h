@@ -1,88 +1,46 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "zonestyle/actions/enter_three_value_action.h"
 #include "zonestyle/actions/size_actions.h"
-#include "zonestyle/actions/style_path.h"
-#include "zonestyle/actions/style_write.h"
-#include "zonestyle/controls/selected_rows.h"
+#include "zonestyle/actions/style_target.h"
+#include "zonestyle/models/columns/cell.h"
 #include "zonestyle/models/editor_type.h"
-#include "zonestyle/tables/choice_names.h"
 
-#include <sdk/base/types.h>
-
-#include <QModelIndexList>
-#include <QVariant>
-
-#include <optional>
+#include <initializer_list>
 
 class QAction;
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 
-using actions::SizePrompt;
-using actions::StylePath;
-using tables::ChoiceNames;
-
-struct ColumnDescriptor;
-
-/// What a reader or a rule is asked about: one map of one frame, seen through one column.
-struct Cell
-{
-    CvlUniqueId frame;
-    int map;
-    const ColumnDescriptor& column;
-
-    /// The value of a path for the map; nothing when it cannot be read.
-    template<class T>
-    std::optional<T> read(const StylePath& path) const;
-
-    // The same for the column's own value and for another one beside it; false, 0 or an empty text
-    // when it cannot be read. T is bool, int, double or std::string.
-    template<class T>
-    T value() const;
-    template<class T>
-    T sibling(const char* attribute) const;
-};
-
-/// What a writer is asked to do: give one value, as an editor delivers it, to some cells of one
-/// column.
-struct EditRequest
-{
-    CvlUniqueId frame;
-    const ColumnDescriptor& column;
-    const QModelIndexList& cells; ///< at least one
-    const QVariant& value;
-
-    /// The whole number that the value stands for in a column of choices; nothing for a text that
-    /// is no choice.
-    std::optional<int> choice() const;
-    /// The whole number that the value stands for in a column of numbers.
-    int number() const;
-    /// The value is Qt::Checked. Deliberate: a plain true is not.
-    bool isChecked() const;
-
-    /// Writes a number to all cells, where the column's edits go.
-    void write(int number) const;
-};
-
-/// What a menu is built for: the selected rows of one column.
-struct MenuRequest
-{
-    CvlUniqueId frame;
-    const ColumnDescriptor& column;
-    const QItemSelectionModel& selection;
-    int columnNumber; ///< local; of the whole table, too, in the head of a chain
-
-    QModelIndexList rows(int tableColumn = 0) const
-    {
-        return uicontrols::selectedRows(selection, tableColumn);
-    }
-};
+using actions::PromptTexts;
+using actions::StyleTarget;
+using actions::ThreeKeys;
+using actions::ThreeValuePrompt;
+using style::Choices;
 
 using CellReader = QVariant (*)(const Cell&);
 using CellRule = bool (*)(const Cell&);
 using CellWriter = bool (*)(const EditRequest&); ///< answers false when the edit is refused
 using MenuBuilder = QList<QAction*> (*)(const MenuRequest&); ///< the caller owns the actions
+using ChoiceSource = Choices (*)(CvlUniqueId frame);
+
+/// Whole numbers that a menu and a list offer besides any other.
+struct ListedNumbers
+{
+    const int* begin = nullptr;
+    const int* end = nullptr;
+};
+
+/// A cell applies only while another value of its map, or of the frame, is one of some.
+struct ValueCondition
+{
+    style::Key key;
+    std::uint64_t values = 0; ///< a bit for each value below 64
+    bool isExcluding = false; ///< must be none of them
+
+    bool holdsFor(const Cell& cell) const; ///< not where the value cannot be read
+};
 
 /// Everything that makes one column differ from another. A kind (column_kinds.h) fills in what its
 /// columns share; a table adds, as chained calls, only what one column does differently. A member
@@ -92,17 +50,19 @@ struct ColumnDescriptor
     static constexpr int kAnyRole = -1;
 
     const char* header = ""; ///< English, in the translation context "Column"
-    StylePath path = {};
+    style::Key key = {}; ///< what the column shows; not valid where that is no style value
 
     CellReader display = nullptr;
     CellReader edit = nullptr; ///< of a column of choices: the list of them
     CellReader check = nullptr;
     CellReader raw = nullptr; ///< for Qt::UserRole
     CellReader hint = nullptr; ///< for Qt::AccessibleTextRole: what the display cannot say
-    ChoiceNames choices = {};
-    const SizePrompt* size = nullptr;
-    const char* prompt = ""; ///< what a chooser asks, English, in the translation context "Prompt"
-    bool offerGroupColors = true;
+    Choices names = {};
+    ChoiceSource nameSource = nullptr; ///< where the names depend on the frame
+    PromptTexts prompt = {"", ""};
+    ListedNumbers numbers = {};
+    ThreeKeys triple = {};
+    const ThreeValuePrompt* triplePrompt = nullptr;
     int firstChoice = 0; ///< what the first entry of a list without choice names stands for
 
     EditorType_e editorType = EditorType_None;
@@ -111,13 +71,18 @@ struct ColumnDescriptor
 
     CellWriter writer = nullptr;
     int editRole = kAnyRole; ///< edits of any other role change nothing
-    StylePath editPath = {}; ///< where an edit goes, if not to `path`
+    StyleTarget editOther = {}; ///< where an edit goes, if not to `key`
     MenuBuilder menu = nullptr;
-    StylePath menuPath = {}; ///< where a menu entry goes, if not to `path`
-    CellRule rule = nullptr; ///< when a cell applies, beyond what holds for its row
+    style::Key menuOther = {}; ///< where a menu entry goes, if not to `key`
 
-    constexpr StylePath editTarget() const { return editPath.isEmpty() ? path : editPath; }
-    constexpr StylePath menuTarget() const { return menuPath.isEmpty() ? path : menuPath; }
+    CellRule existence = nullptr; ///< cells for which it fails show "N/A" and do not apply
+    std::array<ValueCondition, 2> conditions {}; ///< when a cell applies, beyond its row
+    CellRule rule = nullptr; ///< the same, where values cannot say it
+    bool isAlwaysRelevant = false; ///< whatever holds for its row
+
+    constexpr StyleTarget editTarget() const { return editOther.isEmpty() ? key : editOther; }
+    constexpr style::Key menuTarget() const { return menuOther.isValid() ? menuOther : key; }
+    Choices choices(CvlUniqueId frame) const { return nameSource ? nameSource(frame) : names; }
 
     // Chained calls for what is unusual about one column.
     constexpr ColumnDescriptor& editor(EditorType_e type, int option)
@@ -141,9 +106,30 @@ struct ColumnDescriptor
         edit = reader;
         return *this;
     }
+    /// What a text editor starts from, where that is not what the cell shows.
+    constexpr ColumnDescriptor& editsText(CellReader reader)
+    {
+        edit = reader;
+        return *this;
+    }
     constexpr ColumnDescriptor& rawValue(CellReader reader)
     {
         raw = reader;
+        return *this;
+    }
+    constexpr ColumnDescriptor& named(Choices others)
+    {
+        names = others;
+        return *this;
+    }
+    constexpr ColumnDescriptor& namedBy(ChoiceSource source)
+    {
+        nameSource = source;
+        return *this;
+    }
+    constexpr ColumnDescriptor& offersFirst(std::size_t count)
+    {
+        names = names.first(count);
         return *this;
     }
     constexpr ColumnDescriptor& writes(CellWriter other)
@@ -156,9 +142,9 @@ struct ColumnDescriptor
         editRole = role;
         return *this;
     }
-    constexpr ColumnDescriptor& editWrites(const StylePath& other)
+    constexpr ColumnDescriptor& editWrites(const StyleTarget& other)
     {
-        editPath = other;
+        editOther = other;
         return *this;
     }
     constexpr ColumnDescriptor& offers(MenuBuilder builder)
@@ -166,14 +152,9 @@ struct ColumnDescriptor
         menu = builder;
         return *this;
     }
-    constexpr ColumnDescriptor& menuWrites(const StylePath& other)
+    constexpr ColumnDescriptor& menuWrites(style::Key other)
     {
-        menuPath = other;
-        return *this;
-    }
-    constexpr ColumnDescriptor& withoutGroupColors()
-    {
-        offerGroupColors = false;
+        menuOther = other;
         return *this;
     }
     constexpr ColumnDescriptor& listsFromOne()
@@ -181,30 +162,62 @@ struct ColumnDescriptor
         firstChoice = 1;
         return *this;
     }
+    constexpr ColumnDescriptor& existsWhere(CellRule other)
+    {
+        existence = other;
+        return *this;
+    }
+    template<class Enum>
+    constexpr ColumnDescriptor& relevantFor(const style::ChoiceKey<Enum>& other,
+                                            std::initializer_list<Enum> values)
+    {
+        return addCondition(other, bitsOf(values), false);
+    }
+    template<class Enum>
+    constexpr ColumnDescriptor& relevantUnless(const style::ChoiceKey<Enum>& other,
+                                               std::initializer_list<Enum> values)
+    {
+        return addCondition(other, bitsOf(values), true);
+    }
+    constexpr ColumnDescriptor& relevantWhileOn(style::SwitchKey other)
+    {
+        return addCondition(other, 1, true);
+    }
     constexpr ColumnDescriptor& relevantWhen(CellRule other)
     {
         rule = other;
         return *this;
     }
+    constexpr ColumnDescriptor& alwaysRelevant()
+    {
+        isAlwaysRelevant = true;
+        return *this;
+    }
+
+private:
+    template<class Enum>
+    static constexpr std::uint64_t bitsOf(std::initializer_list<Enum> values)
+    {
+        std::uint64_t bits = 0;
+        for (const Enum value : values)
+            bits |= std::uint64_t {1} << static_cast<unsigned>(value);
+        return bits;
+    }
+    constexpr ColumnDescriptor& addCondition(style::Key other, std::uint64_t values,
+                                             bool isExcluding)
+    {
+        ValueCondition& free = conditions[conditions[0].key.isValid() ? 1 : 0];
+        free.key = other;
+        free.values = values;
+        free.isExcluding = isExcluding;
+        return *this;
+    }
 };
 
 template<class T>
-std::optional<T> Cell::read(const StylePath& path) const
+T Cell::own() const
 {
-    return toolbox::FrameStyleValue(frame, path[0], path[1], path[2], path[3], path[4])
-        .read<T>(map);
-}
-
-template<class T>
-T Cell::value() const
-{
-    return read<T>(column.path).value_or(T {});
-}
-
-template<class T>
-T Cell::sibling(const char* attribute) const
-{
-    return read<T>(column.path.parent() / attribute).value_or(T {});
+    return value(style::keyAs<style::KeyOf<T>>(column.key));
 }
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/models/columns/column_kinds.h"
 
+#include "zonestyle/actions/enter_single_value_action.h"
 #include "zonestyle/actions/select_color_action.h"
 #include "zonestyle/actions/variable_select_action.h"
 #include "zonestyle/models/columns/host_lists.h"
-#include "zonestyle/tables/contour_names.h"
 
 #include <sdk/base/cvl.h>
 #include <sdk/common/common.h>
@@ -14,28 +14,30 @@
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models::kinds {
 
+using actions::EnterSingleValueAction;
+using actions::EnterThreeValueAction;
 using actions::SelectColorAction;
 using actions::StyleAction;
 using actions::VariableSelectAction;
 
 QVariant checkState(const Cell& cell)
 {
-    return cell.value<bool>() ? Qt::Checked : Qt::Unchecked;
+    return cell.own<bool>() ? Qt::Checked : Qt::Unchecked;
 }
 
 QVariant integerValue(const Cell& cell)
 {
-    return cell.value<int>();
+    return cell.own<int>();
 }
 
 QVariant choiceName(const Cell& cell)
 {
-    return cell.column.choices.name(cell.value<int>());
+    return tables::nameOf(cell.column.choices(cell.frame), cell.own<int>());
 }
 
 QVariant choiceList(const Cell& cell)
 {
-    return cell.column.choices.names();
+    return tables::namesOf(cell.column.choices(cell.frame));
 }
 
 QVariant colorValue(const Cell& cell)
@@ -43,7 +45,7 @@ QVariant colorValue(const Cell& cell)
     std::uint8_t red = 0;
     std::uint8_t green = 0;
     std::uint8_t blue = 0;
-    if (!CvlUtilColorGetRGB(cell.value<int>(), &red, &green, &blue))
+    if (!CvlUtilColorGetRGB(cell.own<int>(), &red, &green, &blue))
         return {};
     return QColor(red, green, blue);
 }
@@ -53,30 +55,46 @@ QVariant colorHint(const Cell& cell)
     static constexpr int kFirstGroup = 101;
     static constexpr int kLastGroup = 108;
     static constexpr int kByRgb = 109;
-    const int color = cell.value<int>();
+    const int color = cell.own<int>();
     if (color >= kFirstGroup && color <= kLastGroup)
         return QString(QLatin1Char('C') + QString::number(color - kFirstGroup + 1));
-    return color == kByRgb ? ChoiceNames(tables::kContourColorings).name(ContourColoring_RGB)
+    return color == kByRgb ? tables::nameOf(style::kContourColorings, ContourColoring_RGB)
                            : QVariant();
 }
 
 QVariant percentText(const Cell& cell)
 {
-    return QString(actions::sizeText(cell.value<double>()) + QLatin1Char('%'));
+    return QString(actions::sizeText(cell.own<double>()) + QLatin1Char('%'));
 }
 
 QVariant presetList(const Cell& cell)
 {
     QStringList presets;
-    for (const double size : actions::presetSizes(cell.column.size->presets))
+    for (const double size : actions::presetSizes(style::keyAs<style::RealKey>(cell.column.key)))
         presets.append(actions::sizeText(size));
     return presets;
+}
+
+QVariant listedNumbers(const Cell& cell)
+{
+    QStringList texts;
+    for (const int* number = cell.column.numbers.begin; number != cell.column.numbers.end; ++number)
+        texts.append(QString::number(*number));
+    return texts;
+}
+
+QVariant tripleText(const Cell& cell)
+{
+    QStringList texts;
+    for (const style::IntegerKey key : cell.column.triple)
+        texts.append(QString::number(cell.value(key)));
+    return texts.join(QLatin1Char(','));
 }
 
 QVariant variableName(const Cell& cell)
 {
     return QString::fromStdString(
-        variableNameWithIndexFormattedForAliasesForFrame(cell.frame, cell.value<int>()));
+        variableNameWithIndexFormattedForAliasesForFrame(cell.frame, cell.own<int>()));
 }
 
 QVariant variableList(const Cell& cell)
@@ -108,25 +126,67 @@ bool writeNumber(const EditRequest& edit)
 QList<QAction*> yesNoMenu(const MenuRequest& request)
 {
     const QModelIndexList rows = request.rows();
-    const StylePath path = request.column.menuTarget();
-    return {new StyleAction<char>(QCoreApplication::translate("Menu", "Yes"), rows, 1, path),
-            new StyleAction<char>(QCoreApplication::translate("Menu", "No"), rows, 0, path)};
+    const style::Key key = request.column.menuTarget();
+    return {new StyleAction<char>(QCoreApplication::translate("Menu", "Yes"), rows, 1, key),
+            new StyleAction<char>(QCoreApplication::translate("Menu", "No"), rows, 0, key)};
 }
 
 QList<QAction*> colorMenu(const MenuRequest& request)
 {
-    return {new SelectColorAction(request.rows(), request.column.offerGroupColors,
-                                  request.column.menuTarget())};
+    const style::Key key = request.column.menuTarget();
+    return {new SelectColorAction(request.rows(), style::entryOf(key).groupColors, key)};
 }
 
 QList<QAction*> sizeMenu(const MenuRequest& request)
 {
-    return actions::sizeActions(request.rows(), *request.column.size, request.column.menuTarget());
+    return actions::sizeActions(request.rows(), request.column.prompt,
+                                style::keyAs<style::RealKey>(request.column.menuTarget()));
+}
+
+static QList<QAction*> numberEntries(const MenuRequest& request, const QModelIndexList& rows)
+{
+    const ListedNumbers& numbers = request.column.numbers;
+    QList<QAction*> entries;
+    for (const int* number = numbers.begin; number != numbers.end; ++number)
+        entries.append(new StyleAction<int>(QString::number(*number), rows, *number,
+                                            request.column.menuTarget()));
+    return entries;
+}
+
+static QAction* numberPrompt(const MenuRequest& request, const QModelIndexList& rows)
+{
+    const style::Key key = request.column.menuTarget();
+    const style::Entry& entry = style::entryOf(key);
+    const PromptTexts& prompt = request.column.prompt;
+    return new EnterSingleValueAction<int>(QCoreApplication::translate("Menu", "Enter..."), rows,
+                                           QCoreApplication::translate("Prompt", prompt.title),
+                                           QCoreApplication::translate("Prompt", prompt.label),
+                                           static_cast<int>(entry.minimum),
+                                           static_cast<int>(entry.maximum), key);
+}
+
+QList<QAction*> numberMenu(const MenuRequest& request)
+{
+    const QModelIndexList rows = request.rows();
+    return numberEntries(request, rows) << actions::separator() << numberPrompt(request, rows);
+}
+
+QList<QAction*> plainNumberMenu(const MenuRequest& request)
+{
+    const QModelIndexList rows = request.rows();
+    return numberEntries(request, rows) << numberPrompt(request, rows);
+}
+
+QList<QAction*> rangeMenu(const MenuRequest& request)
+{
+    return {new EnterThreeValueAction(QCoreApplication::translate("Menu", "Enter range..."),
+                                      request.rows(), *request.column.triplePrompt,
+                                      request.column.triple)};
 }
 
 QList<QAction*> variableMenu(const MenuRequest& request)
 {
-    const QString prompt = QCoreApplication::translate("Prompt", request.column.prompt);
+    const QString prompt = QCoreApplication::translate("Prompt", request.column.prompt.title);
     return {new VariableSelectAction(QCoreApplication::translate("Menu", "Select Variable..."),
                                      request.rows(), prompt, prompt, request.column.menuTarget())};
 }

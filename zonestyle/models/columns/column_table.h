@@ -34,10 +34,17 @@ public:
         return table;
     }
     /// Nothing applies while the frame does not show the layer.
-    constexpr ColumnTable layer(const char* name) const
+    constexpr ColumnTable layer(style::SwitchKey shown) const
     {
         ColumnTable table = *this;
-        table.m_layer = name;
+        table.m_layer = shown;
+        return table;
+    }
+    /// Edits of cells are answered with false, and not with true as those without an effect are.
+    constexpr ColumnTable refusesEdits() const
+    {
+        ColumnTable table = *this;
+        table.m_refusesEdits = true;
         return table;
     }
     /// Nothing applies in a row whose first column is not ticked.
@@ -60,7 +67,8 @@ public:
 
     constexpr bool isIdentity() const { return m_isIdentity; }
     constexpr int primaryColumns() const { return m_primaryColumns; }
-    constexpr const char* requiredLayer() const { return m_layer; } ///< null for none
+    constexpr style::SwitchKey requiredLayer() const { return m_layer; } ///< not valid for none
+    constexpr bool isRefusingEdits() const { return m_refusesEdits; }
     constexpr bool requiresShownRow() const { return m_rowMustBeShown; }
     constexpr bool isGoverningFollowing() const { return m_governsFollowing; }
 
@@ -69,7 +77,8 @@ private:
     int m_size;
     int m_primaryColumns = 0;
     bool m_isIdentity = false;
-    const char* m_layer = nullptr;
+    style::SwitchKey m_layer;
+    bool m_refusesEdits = false;
     bool m_rowMustBeShown = false;
     bool m_governsFollowing = false;
 };

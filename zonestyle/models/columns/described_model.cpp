@@ -17,6 +17,30 @@ static CellReader readerFor(const ColumnDescriptor& column, int role)
     }
 }
 
+/// Of a cell that does not exist: a text in place of what it would show.
+static QVariant nothingFor(int role)
+{
+    return role == Qt::DisplayRole ? QCoreApplication::translate("Cell", "N/A") : QVariant();
+}
+
+bool ValueCondition::holdsFor(const Cell& cell) const
+{
+    const std::optional<int> value = cell.read(style::keyAs<style::KeyOf<int>>(key));
+    constexpr int kBits = 64;
+    const bool isOneOf =
+        value && *value >= 0 && *value < kBits && (values >> static_cast<unsigned>(*value) & 1U);
+    return value && isOneOf != isExcluding;
+}
+
+static bool conditionsHold(const Cell& cell)
+{
+    const ColumnDescriptor& column = cell.column;
+    for (const ValueCondition& condition : column.conditions)
+        if (condition.key.isValid() && !condition.holdsFor(cell))
+            return false;
+    return !column.rule || column.rule(cell);
+}
+
 template<class Base>
 Qt::ItemFlags DescribedModel<Base>::localFlags(const QModelIndex& index) const
 {
@@ -38,7 +62,11 @@ QVariant DescribedModel<Base>::localHeaderText(int section) const
 template<class Base>
 QVariant DescribedModel<Base>::localData(const QModelIndex& index, int role) const
 {
-    const CellReader read = readerFor(at(index.column()), role);
+    const ColumnDescriptor& column = at(index.column());
+    const bool isShown = role == Qt::DisplayRole || role == Qt::CheckStateRole;
+    if (isShown && column.existence && !column.existence(cellAt(index.row(), index.column())))
+        return nothingFor(role);
+    const CellReader read = readerFor(column, role);
     return read ? read(cellAt(index.row(), index.column())) : QVariant();
 }
 
@@ -46,11 +74,13 @@ template<class Base>
 bool DescribedModel<Base>::localSetData(const QModelIndexList& indexes, const QVariant& value,
                                         int role)
 {
+    if (columnTable().isRefusingEdits())
+        return false;
     const ColumnDescriptor& column = at(indexes.first().column());
     const bool takesRole = column.editRole == ColumnDescriptor::kAnyRole || column.editRole == role;
     if (!column.writer || !takesRole)
         return true;
-    return column.writer({this->frameId(), column, indexes, value});
+    return column.writer({this->frameId(), column, *this, indexes, value});
 }
 
 template<class Base>
@@ -76,7 +106,8 @@ template<class Base>
 QList<QAction*> DescribedModel<Base>::localActions(QItemSelectionModel* selection, int column) const
 {
     const MenuBuilder build = at(column).menu;
-    return build ? build({this->frameId(), at(column), *selection, column}) : QList<QAction*>();
+    return build ? build({this->frameId(), at(column), *this, *selection, column})
+                 : QList<QAction*>();
 }
 
 template<class Base>
@@ -88,10 +119,13 @@ bool DescribedModel<Base>::localHasActions(int column) const
 template<class Base>
 bool DescribedModel<Base>::isLocalRelevant(const QModelIndex& index) const
 {
+    const ColumnDescriptor& column = at(index.column());
+    if (column.isAlwaysRelevant)
+        return true;
     if (!Base::isLocalRelevant(index) || !rowApplies(index.row()))
         return false;
-    const CellRule rule = at(index.column()).rule;
-    return !rule || rule(cellAt(index.row(), index.column()));
+    const Cell cell = cellAt(index.row(), index.column());
+    return (!column.existence || column.existence(cell)) && conditionsHold(cell);
 }
 
 template<class Base>
@@ -109,16 +143,17 @@ int DescribedModel<Base>::localEditorOption(int column) const
 template<class Base>
 Cell DescribedModel<Base>::cellAt(int row, int column) const
 {
-    return {this->frameId(), row + 1, at(column)};
+    return {this->frameId(), row + 1, at(column), *this};
 }
 
 template<class Base>
 bool DescribedModel<Base>::rowApplies(int row) const
 {
     const ColumnTable& table = columnTable();
-    if (table.requiredLayer() && !this->isLayerActive(table.requiredLayer()))
+    const Cell first = cellAt(row, 0);
+    if (table.requiredLayer().isValid() && !first.value(table.requiredLayer()))
         return false;
-    return !table.requiresShownRow() || at(0).check(cellAt(row, 0)) != Qt::Unchecked;
+    return !table.requiresShownRow() || at(0).check(first) != Qt::Unchecked;
 }
 
 template class DescribedModel<FieldModelAbstract>;

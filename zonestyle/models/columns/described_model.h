@@ -20,7 +20,7 @@ public:
     int localColumnCount(const QModelIndex& parent) const override;
     QVariant localHeaderText(int section) const override;
     QVariant localData(const QModelIndex& index, int role) const override;
-    /// True, also when nothing was to do, unless the column's writer refused.
+    /// True, also when nothing was to do, unless the table or the column's writer refuses.
     bool localSetData(const QModelIndexList& indexes, const QVariant& value, int role) override;
     QBrush localHeaderBrush(int section) const override;
 

@@ -12,7 +12,7 @@ static std::optional<int> positionIn(const CellReader list, const EditRequest& e
 {
     // Long lists, of zones for example, are made for a text alone.
     const bool isText = edit.value.userType() == QMetaType::QString;
-    const Cell first {edit.frame, edit.cells.first().row() + 1, edit.column};
+    const Cell first {edit.frame, edit.cells.first().row() + 1, edit.column, edit.model};
     return editedPosition(edit.value, isText && list ? list(first).toStringList() : QStringList());
 }
 
@@ -25,8 +25,9 @@ static int shifted(int position, int first)
 
 std::optional<int> EditRequest::choice() const
 {
-    if (!column.choices.isEmpty())
-        return editedChoice(value, column.choices);
+    const Choices choices = column.choices(frame);
+    if (!choices.isEmpty())
+        return editedChoice(value, choices);
     const std::optional<int> position = positionIn(column.edit, *this);
     return position ? std::optional<int>(shifted(*position, column.firstChoice)) : std::nullopt;
 }

@@ -49,11 +49,11 @@ int editedNumber(const QVariant& value)
     return rounded(QLocale::c().toDouble(text.trimmed()));
 }
 
-std::optional<int> editedChoice(const QVariant& value, const tables::ChoiceNames& choices)
+std::optional<int> editedChoice(const QVariant& value, const style::Choices& choices)
 {
     if (!isText(value))
         return asItIs(value);
-    const std::optional<int> choice = choices.valueOf(value.toString());
+    const std::optional<int> choice = tables::valueOf(choices, value.toString());
     return choice ? choice : wholeNumber(value.toString());
 }
 

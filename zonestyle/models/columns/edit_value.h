@@ -16,7 +16,7 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 int editedNumber(const QVariant& value);
 
 /// In a column of choices. A text is the name of a choice or a whole number; nothing otherwise.
-std::optional<int> editedChoice(const QVariant& value, const tables::ChoiceNames& choices);
+std::optional<int> editedChoice(const QVariant& value, const style::Choices& choices);
 
 /// In a column whose choices are only a list: a text that is an entry stands for its position.
 std::optional<int> editedPosition(const QVariant& value, const QStringList& entries);

@@ -8,11 +8,16 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models::kinds {
 
 using namespace actions;
 
+static style::NumbersKey activeSet(const ColumnDescriptor& column)
+{
+    return style::keyAs<style::NumbersKey>(column.key);
+}
+
 bool writeActive(const EditRequest& edit)
 {
     runAction<MapActivateAction>(
         edit.cells, edit.isChecked() ? MapActivateMode_Activate : MapActivateMode_Deactivate,
-        edit.column.path[0]);
+        activeSet(edit.column));
     return true;
 }
 
@@ -23,7 +28,7 @@ QList<QAction*> activeMenu(const MenuRequest& request)
     QList<QAction*> entries;
     for (const MapActivateMode_e mode : {MapActivateMode_Activate, MapActivateMode_Deactivate,
                                          MapActivateMode_ShowSelectedOnly, MapActivateMode_Invert})
-        entries.append(new MapActivateAction(rows, mode, request.column.path[0]));
+        entries.append(new MapActivateAction(rows, mode, activeSet(request.column)));
     return entries;
 }
 

@@ -8,8 +8,9 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models::kinds {
 bool writeActive(const EditRequest& edit);
 QList<QAction*> activeMenu(const MenuRequest& request);
 
-/// Whether the map is among those that the frame shows; `activeSet` names the set of these.
-constexpr ColumnDescriptor activeBox(const char* header, const char* activeSet, CellReader isActive)
+/// Whether the map is in the set of those that the frame shows.
+constexpr ColumnDescriptor activeBox(const char* header, style::NumbersKey activeSet,
+                                     CellReader isActive)
 {
     ColumnDescriptor column {header, activeSet};
     column.check = isActive;

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "vocabulary/dictionary_builder.h"
+
+namespace corvala::style {
+
+// The style values of the document and of frames, by their groups. A path has the names that the
+// texts say; the members are the keys.
+
+/// Five sizes that menus offer, smallest first.
+struct SizeList
+{
+    Group in;
+    const char* label;
+    double minimum;
+    std::array<double, 5> sizes;
+
+    RealKey tiny = in.percent("Tiny", label, minimum, sizes[0]);
+    RealKey small = in.percent("Small", label, minimum, sizes[1]);
+    RealKey medium = in.percent("Medium", label, minimum, sizes[2]);
+    RealKey large = in.percent("Large", label, minimum, sizes[3]);
+    RealKey huge = in.percent("Huge", label, minimum, sizes[4]);
+};
+
+struct BasicSize
+{
+    static constexpr double kLeastLength = 0.01;
+    static constexpr double kLeastThickness = 0.0001;
+
+    Group in;
+    SizeList linePatLengths {
+        in / "LinePatLengths", CV_TEXT("Preset pattern length"), kLeastLength, {{0.5, 1, 2, 4, 8}}};
+    SizeList lineThicknesses {in / "LineThicknesses",
+                              CV_TEXT("Preset line thickness"),
+                              kLeastThickness,
+                              {{0.05, 0.15, 0.3, 0.6, 1.2}}};
+    SizeList symbolSizes {
+        in / "SymbolSizes", CV_TEXT("Preset symbol size"), 0, {{0.5, 1, 2, 3, 5}}};
+};
+
+struct FieldLayers
+{
+    Group in;
+    SwitchKey showMesh = in.flag("ShowMesh", CV_TEXT("Mesh layer"), true);
+    SwitchKey showContour = in.flag("ShowContour", CV_TEXT("Contour layer"), false);
+    SwitchKey showVector = in.flag("ShowVector", CV_TEXT("Vector layer"), false);
+    SwitchKey showScatter = in.flag("ShowScatter", CV_TEXT("Scatter layer"), false);
+    SwitchKey showShade = in.flag("ShowShade", CV_TEXT("Shade layer"), false);
+    SwitchKey showEdge = in.flag("ShowEdge", CV_TEXT("Edge layer"), true);
+    SwitchKey useLightingEffect = in.flag("UseLightingEffect", CV_TEXT("Lighting"), false);
+    SwitchKey useTranslucency = in.flag("UseTranslucency", CV_TEXT("Translucency"), false);
+};
+
+struct LinePlotLayers
+{
+    Group in;
+    SwitchKey showLines = in.flag("ShowLines", CV_TEXT("Lines layer"), true);
+    SwitchKey showSymbols = in.flag("ShowSymbols", CV_TEXT("Symbols layer"), false);
+    SwitchKey showErrorBars = in.flag("ShowErrorBars", CV_TEXT("Error bars layer"), false);
+    SwitchKey showBarCharts = in.flag("ShowBarCharts", CV_TEXT("Bar charts layer"), false);
+};
+
+struct GlobalScatter
+{
+    Group in;
+    VariableKey var = in.variable("Var", CV_TEXT("Scatter size variable"), 0, 0);
+};
+
+struct GlobalRgb
+{
+    Group in;
+    VariableKey redVar = in.variable("RedVar", CV_TEXT("Red channel variable"), 0, 0);
+    VariableKey greenVar = in.variable("GreenVar", CV_TEXT("Green channel variable"), 0, 0);
+    VariableKey blueVar = in.variable("BlueVar", CV_TEXT("Blue channel variable"), 0, 0);
+};
+
+struct GlobalVector
+{
+    Group in;
+    VariableKey uVar = in.variable("UVar", CV_TEXT("U variable"), 0, 0);
+    VariableKey vVar = in.variable("VVar", CV_TEXT("V variable"), 0, 0);
+    VariableKey wVar = in.variable("WVar", CV_TEXT("W variable"), 0, 0);
+};
+
+/// Indexed by the number of the group.
+struct ContourGroups
+{
+    static constexpr int kCount = 8;
+
+    Group in;
+    VariableKey var = in.indexed(kCount).variable("Var", CV_TEXT("Contour variable"), 0, 0);
+};
+
+/// Indexed by the number of the constraint.
+struct BlankingConstraint
+{
+    static constexpr int kCount = 8;
+
+    Group in;
+    SwitchKey include = in.indexed(kCount).flag("Include", CV_TEXT("Blanking constraint"), false);
+};
+
+struct ValueBlanking
+{
+    Group in;
+    SwitchKey include = in.flag("Include", CV_TEXT("Value blanking"), false);
+    BlankingConstraint constraint {in / "Constraint"};
+};
+
+struct Blanking
+{
+    Group in;
+    ValueBlanking value {in / "Value"};
+};
+
+} // namespace corvala::style
