@@ -268,12 +268,6 @@ void MapTable::rearrange(const std::vector<std::int64_t>& newToOld)
     }
 }
 
-void MapTable::restore(Columns columns, std::int64_t count)
-{
-    m_columns = std::move(columns);
-    m_count = count;
-}
-
 std::size_t MapTable::memoryUse() const
 {
     std::size_t bytes = 0;

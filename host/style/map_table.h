@@ -29,7 +29,6 @@ public:
         ChunkPointer before;
         ChunkPointer after;
     };
-    using Columns = std::vector<std::vector<ChunkPointer>>;
     /// Answers whether a map has volume zones, for defaults that depend on it.
     using VolumeQuery = std::function<bool(std::int64_t map)>;
 
@@ -60,10 +59,6 @@ public:
     /// Makes map n of the result what map newToOld[n - 1] (0: a map with defaults) is now.
     void rearrange(const std::vector<std::int64_t>& newToOld);
 
-    /// Copies of the chunk pointers, for undo of whole-table operations.
-    Columns columns() const { return m_columns; }
-    void restore(Columns columns, std::int64_t count);
-
     std::size_t memoryUse() const; ///< bytes held by the columns, shared chunks counted once
 
 private:
@@ -91,7 +86,7 @@ private:
     Scope m_scope;
     std::int64_t m_count = 0;
     VolumeQuery m_hasVolume;
-    Columns m_columns; ///< by slot, then chunk
+    std::vector<std::vector<ChunkPointer>> m_columns; ///< by slot, then chunk
 };
 
 } // namespace corvala::host

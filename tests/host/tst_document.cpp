@@ -128,6 +128,10 @@ void tst_Document::facts_data()
         {R"({"active": "FieldZones", "maps": "3", "op": "remove"})"}, "ActiveFieldMaps", 0,
         "\"1,3\"");
 
+    row("active maps keep theirs", "transient",
+        {R"({"active": "FieldMaps", "maps": "3", "op": "remove"})", R"({"deleteMaps": "2"})"},
+        "ActiveFieldMaps", 0, "\"1\"");
+
     const QStringList zones {R"({"set": ["LineMap", "Assign", "Zone"], "maps": "1", "value": 4})",
                              R"({"set": ["LineMap", "Assign", "Zone"], "maps": "2", "value": 3})",
                              R"({"deleteMaps": "3", "of": "FieldMaps"})"};
@@ -154,7 +158,9 @@ void tst_Document::deletedZonesLeaveTheOthersTheirData()
 {
     openOnly("transient");
     execute(R"({"pick": [{"zone": 3}]})");
+    execute(R"({"enableZones": "1,3,6"})");
     execute(R"({"deleteMaps": "2"})");
+    QCOMPARE(text(frame().enabledZones()), QStringLiteral("1-2"));
     QCOMPARE(frame().data()->zoneCount(), std::int64_t(3));
     QCOMPARE(frame().fieldMaps().strand(2), 7);
     QVERIFY(frame().data()->geometry(2)); // still the strand's own zone
