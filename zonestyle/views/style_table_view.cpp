@@ -288,14 +288,15 @@ bool StyleTableView::opensOnRightClick(const QModelIndex& index) const
 /// one that opens nothing or has no room beside its contents.
 QRect StyleTableView::arrowOf(const QModelIndex& index) const
 {
-    constexpr int kSide = 13;
-    constexpr int kLeastWidth = 3 * kSide;
+    const bool isBox = index.isValid() && m_model
+        && m_model->columnEditorType(index.column()) == EditorType_Boolean;
+    const int side = isBox ? 9 : 13; // a check box stands in the middle
+    const int leastWidth = (isBox ? 4 : 3) * side;
     const bool isCurrent = index == currentIndex() && (hasFocus() || viewport()->hasFocus());
     const bool isHovered = m_mouse.x() >= 0 && index == indexAt(m_mouse);
     const QRect cell = visualRect(index).adjusted(0, 0, -1, -1);
-    if ((!isCurrent && !isHovered) || cell.width() < kLeastWidth || !opensOnRightClick(index))
+    if ((!isCurrent && !isHovered) || cell.width() < leastWidth || !opensOnRightClick(index))
         return {};
-    const int side = qMin(kSide, cell.height() - 2);
     const QRect arrow(cell.right() - side, cell.top() + (cell.height() - side) / 2, side, side);
     return QStyle::visualRect(layoutDirection(), cell, arrow);
 }
@@ -310,7 +311,8 @@ void StyleTableView::paintArrow(QPainter& painter, const QModelIndex& index) con
     painter.setPen(option.palette.color(QPalette::Mid));
     painter.setBrush(option.palette.button());
     painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
-    option.rect.adjust(2, 2, -2, -2);
+    const int margin = option.rect.width() > 10 ? 2 : 1;
+    option.rect.adjust(margin, margin, -margin, -margin);
     style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &option, &painter, this);
 }
 
