@@ -12,12 +12,9 @@
 namespace corvala::plot {
 
 static constexpr double kPickPixels = 8.0;
-static constexpr int kSliceMilliseconds = 30;
-static constexpr int kQuietMilliseconds = 250; ///< before work is reported as progress
-static constexpr int kFirstDrawing = 100; ///< milliseconds of work before an unfinished picture
 
 LineCanvas::LineCanvas(QWidget* parent)
-    : Canvas(parent)
+    : SceneCanvas(parent)
     , m_widget(new QCustomPlot(this))
     , m_plot(*m_widget)
     , m_notice(new QLabel(m_widget))
@@ -28,6 +25,8 @@ LineCanvas::LineCanvas(QWidget* parent)
     m_widget->setAccessibleName(tr("Line plot"));
     m_widget->installEventFilter(this);
     m_notice->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_notice->setBackgroundRole(QPalette::Base);
+    m_notice->setAutoFillBackground(true);
     m_notice->move(8, 4);
     // Moved by the mouse, the plot draws itself as far as it can at once.
     connect(m_widget, &QCustomPlot::afterReplot, this, [this] {
@@ -76,35 +75,6 @@ void LineCanvas::documentChanged(const host::StateEvent& event)
         restoreView();
 }
 
-bool LineCanvas::redraw()
-{
-    if (!isVisible())
-        return false;
-    if (!m_isWorking) {
-        m_isWorking = true;
-        m_work.start();
-        m_nextDrawing = kFirstDrawing;
-    }
-    if (!m_plot.advance(kSliceMilliseconds)) {
-        draw();
-        if (!m_plot.hasWork()) {
-            endReport(false);
-            return false;
-        }
-    }
-    const qint64 elapsed = m_work.elapsed();
-    if (elapsed >= kQuietMilliseconds) {
-        const auto [done, total] = m_plot.progress();
-        m_isReporting = true;
-        Q_EMIT workProgressed(done, total);
-    }
-    if (elapsed >= m_nextDrawing) {
-        m_nextDrawing = 2 * elapsed;
-        draw();
-    }
-    return true;
-}
-
 void LineCanvas::draw()
 {
     m_plot.prepare();
@@ -114,44 +84,10 @@ void LineCanvas::draw()
     countRedraw();
 }
 
-void LineCanvas::endReport(bool cancelled)
-{
-    m_isWorking = false;
-    if (std::exchange(m_isReporting, false))
-        Q_EMIT workEnded(cancelled);
-}
-
-void LineCanvas::cancelWork()
-{
-    if (m_plot.hasWork()) {
-        m_plot.cancel();
-        endReport(true);
-        requestRedraw();
-    }
-}
-
-void LineCanvas::resumeWork()
-{
-    m_plot.resume();
-    requestRedraw();
-}
-
-void LineCanvas::hideEvent(QHideEvent* event)
-{
-    Canvas::hideEvent(event);
-    endReport(true);
-}
-
 void LineCanvas::resizeEvent(QResizeEvent* event)
 {
-    Canvas::resizeEvent(event);
+    SceneCanvas::resizeEvent(event);
     m_plot.setFrameHeight(height());
-    requestRedraw();
-}
-
-void LineCanvas::showEvent(QShowEvent* event)
-{
-    Canvas::showEvent(event);
     requestRedraw();
 }
 
@@ -186,7 +122,7 @@ bool LineCanvas::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Wheel: m_plot.setMoved(); break;
     default: break;
     }
-    return Canvas::eventFilter(watched, event);
+    return SceneCanvas::eventFilter(watched, event);
 }
 
 QImage LineCanvas::render(const QSize& size, QString* error)

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "plot/canvas.h"
 #include "plot/line/line_plot.h"
+#include "plot/scene_canvas.h"
 
-#include <QElapsedTimer>
 #include <QHash>
 #include <QPointF>
 
@@ -15,7 +14,7 @@ class QLabel;
 namespace corvala::plot {
 
 /// Draws XY and polar line plots.
-class LineCanvas : public Canvas
+class LineCanvas : public SceneCanvas
 {
     Q_OBJECT
 
@@ -23,6 +22,7 @@ public:
     explicit LineCanvas(QWidget* parent = nullptr);
 
     QImage render(const QSize& size, QString* error) override;
+    LinePlot& scene() override { return m_plot; }
 
     /// The plot, for tests and diagnosis.
     QCustomPlot& plot() { return *m_widget; }
@@ -30,21 +30,15 @@ public:
 
 public Q_SLOTS:
     void fitView() override;
-    void cancelWork() override;
-    void resumeWork() override;
 
 protected:
     void frameChanged(CvlUniqueId previous) override;
     void documentChanged(const host::StateEvent& event) override;
-    bool redraw() override;
+    void draw() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
 
 private:
-    void draw();
-    void endReport(bool cancelled);
     void keepView(CvlUniqueId frame);
     void restoreView();
 
@@ -54,10 +48,6 @@ private:
     QHash<QPair<CvlUniqueId, int>, ChartRange> m_views; ///< by frame and plot type, where moved in
     QPointF m_pressedAt;
     bool m_isDoubleClick = false;
-    QElapsedTimer m_work; ///< since slices began
-    bool m_isWorking = false;
-    bool m_isReporting = false;
-    qint64 m_nextDrawing = 0; ///< milliseconds of work when the picture is next refreshed
 };
 
 /// Draws a line frame as an image of `size` pixels, showing `range` of its axes, or all of it when

@@ -31,12 +31,27 @@ LineChart::LineChart(QCustomPlot& plot)
 
 LineChart::~LineChart() = default;
 
+void LineChart::setLinesVisible(bool isVisible)
+{
+    m_sheet->setVisible(isVisible);
+}
+
+bool LineChart::areLinesVisible() const
+{
+    return m_sheet->visible();
+}
+
+bool LineChart::hasWork() const
+{
+    return areLinesVisible() && m_ink.hasWork();
+}
+
 void LineChart::draw(QCPPainter& painter)
 {
     const QRegion shape = outline();
     const QRect place = shape.boundingRect();
     const double ratio = painter.device()->devicePixelRatioF();
-    LineView seen = view();
+    ChartView seen = view();
     seen.visible = {static_cast<double>(place.left()), place.left() + place.width() + 0.0,
                     static_cast<double>(place.top()), place.top() + place.height() + 0.0};
     const QSize size(static_cast<int>(std::ceil(place.width() * ratio)),
@@ -52,7 +67,8 @@ void LineChart::draw(QCPPainter& painter)
 
 std::int64_t LineChart::lineAt(const QPointF& pixel, double tolerance)
 {
-    return outline().contains(pixel.toPoint()) ? m_ink.lineAt(view(), pixel, tolerance) : 0;
+    const bool isSeen = areLinesVisible() && outline().contains(pixel.toPoint());
+    return isSeen ? m_ink.lineAt(view(), pixel, tolerance) : 0;
 }
 
 } // namespace corvala::plot

@@ -18,13 +18,11 @@ struct LineData
     std::vector<double> second; ///< Y, or the radius
 };
 
-/// What a chart shows along its axes.
-struct ChartRange
+/// What is written along the axes.
+struct ChartTitles
 {
-    double firstMinimum = 0.0;
-    double firstMaximum = 1.0;
-    double secondMinimum = 0.0;
-    double secondMaximum = 1.0;
+    std::array<QString, kAxisCount> first;
+    std::array<QString, kAxisCount> second;
 };
 
 /// Axes with lines in a QCustomPlot; XY and polar charts are its kinds. Lines are known by the
@@ -38,7 +36,9 @@ public:
 
     virtual void setLine(std::int64_t map, LineData data) = 0; ///< new or changed
     virtual void removeLine(std::int64_t map) { m_ink.remove(map); }
-    virtual void setTitles(const QString& first, const QString& second) = 0;
+    virtual void setTitles(const ChartTitles& titles) = 0;
+    /// Shows the axes that lines are drawn along.
+    virtual void updateAxes() { }
     /// Shows all lines with a margin.
     virtual void fit() = 0;
     virtual ChartRange range() const = 0;
@@ -49,12 +49,18 @@ public:
     std::int64_t lineAt(const QPointF& pixel, double tolerance);
     LineInk& ink() { return m_ink; }
     const LineInk& ink() const { return m_ink; }
+    /// Shows or hides all lines.
+    void setLinesVisible(bool isVisible);
+    bool areLinesVisible() const;
+    /// Whether lines are to be seen that are not drawn yet.
+    bool hasWork() const;
     /// How long drawing the plot may draw lines at once; negative until all is done.
     void setPatience(int milliseconds) { m_patience = milliseconds; }
+    int patience() const { return m_patience; }
 
 protected:
     /// How the lines lie in the widget at present, whatever is outside left out.
-    virtual LineView view() = 0;
+    virtual ChartView view() = 0;
     virtual QRegion outline() const = 0; ///< of the lines
 
 private:

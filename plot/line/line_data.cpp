@@ -5,14 +5,6 @@
 
 namespace corvala::plot {
 
-LineVariables variablesOf(const host::Frame& frame, CvlInt64 map)
-{
-    const auto& keys = style::lineMap.assign;
-    const bool isPolar = frame.plotType() == PlotType_LinePolar;
-    return {frame.lineInteger(isPolar ? keys.thetaAxisVar : keys.xAxisVar, map),
-            frame.lineInteger(isPolar ? keys.rAxisVar : keys.yAxisVar, map)};
-}
-
 static std::vector<double> toVector(vtkDataArray& array)
 {
     std::vector<double> values(static_cast<std::size_t>(array.GetNumberOfTuples()));
@@ -21,12 +13,10 @@ static std::vector<double> toVector(vtkDataArray& array)
     return values;
 }
 
-LineData lineData(const host::Frame& frame, CvlInt64 map)
+LineData lineData(const host::DataSet& data, const LineRecipe& recipe)
 {
-    const CvlInt64 zone = frame.lineInteger(style::lineMap.assign.zone, map);
-    const LineVariables variables = variablesOf(frame, map);
-    const host::ZoneValues first = frame.data()->values(zone, variables.first);
-    const host::ZoneValues second = frame.data()->values(zone, variables.second);
+    const host::ZoneValues first = data.values(recipe.zone, recipe.first);
+    const host::ZoneValues second = data.values(recipe.zone, recipe.second);
     if (!first.array || !second.array || first.location != second.location)
         return {};
     return {toVector(*first.array), toVector(*second.array)};

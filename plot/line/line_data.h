@@ -1,22 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "host/document/frame.h"
+#include "host/document/data_set.h"
 #include "plot/line/line_chart.h"
+#include "plot/line/line_looks.h"
 
 namespace corvala::plot {
 
-/// Numbers of the variables along the two axes of a line map: X and Y, or angle and radius.
-struct LineVariables
-{
-    CvlInt64 first = 0;
-    CvlInt64 second = 0;
-};
-
-LineVariables variablesOf(const host::Frame& frame, CvlInt64 map);
-
-/// The points of a line map: the values of its variables in its zone. Empty when the zone lacks one
-/// of them, or has one at its points and the other in its cells.
-LineData lineData(const host::Frame& frame, CvlInt64 map);
+/// The values of two variables in a zone. Empty when the zone lacks one of them, or has one at its
+/// points and the other in its cells.
+LineData lineData(const host::DataSet& data, const LineRecipe& recipe);
 
 } // namespace corvala::plot

@@ -76,7 +76,7 @@ public:
     void add(const LineSegment& segment) override;
 
     bool isThinned() const { return m_isThinned; }
-    QRgb color() const { return m_line.look.color.rgb(); }
+    QRgb color() const { return m_line.stroke.color.rgb(); }
     double share() const; ///< of the line that is done
 
 private:
@@ -99,7 +99,7 @@ private:
 LineInk::Stroker::Stroker(StrokeMask& mask, const Line& line, const LineView& view, double ratio)
     : m_mask(mask)
     , m_line(line)
-    , m_width(line.look.width * ratio)
+    , m_width(line.stroke.width * ratio)
 {
     constexpr double kShortestPeriod = 2.0; // of which strokes and gaps can be told apart
     LineView reached = view;
@@ -108,33 +108,33 @@ LineInk::Stroker::Stroker(StrokeMask& mask, const Line& line, const LineView& vi
     if (m_isThinned)
         reached.visible = view.visible;
     m_visible = reached.visible;
-    for (const double part : line.look.pattern) {
+    for (const double part : line.stroke.pattern) {
         m_pattern.push_back(part * ratio);
         m_period += part * ratio;
     }
     if (m_isThinned || m_period < kShortestPeriod)
         m_pattern.clear();
     if (!m_pattern.empty())
-        m_lengths = line.line.lengths(view);
-    m_tracer.emplace(line.line, reached, m_lengths);
+        m_lengths = line.points.lengths(view);
+    m_tracer.emplace(line.points, reached, m_lengths);
 }
 
 bool LineInk::Stroker::isTooDense(const LineView& view) const
 {
     const LineBox& box = view.visible;
     const double most = std::hypot(box.right - box.left, box.high - box.low) + m_width;
-    if (static_cast<double>(m_line.line.size()) * most * m_width <= kMostInk)
+    if (static_cast<double>(m_line.points.size()) * most * m_width <= kMostInk)
         return false;
     InkMeter meter(view.visible, m_width);
     const std::vector<double> noLengths;
-    LineTracer tracer(m_line.line, view, noLengths);
+    LineTracer tracer(m_line.points, view, noLengths);
     while (meter.ink() <= kMostInk && tracer.step(meter)) { }
     return meter.ink() > kMostInk;
 }
 
 double LineInk::Stroker::share() const
 {
-    const auto size = static_cast<double>(std::max<std::size_t>(m_line.line.size(), 1));
+    const auto size = static_cast<double>(std::max<std::size_t>(m_line.points.size(), 1));
     return static_cast<double>(m_tracer->position()) / size;
 }
 
@@ -197,13 +197,15 @@ LineInk::~LineInk() = default;
 void LineInk::setLine(std::int64_t map, Polyline line)
 {
     m_stroker.reset();
-    m_lines[map].line = std::move(line);
+    m_lines[map].points = std::move(line);
     restart();
 }
 
-void LineInk::setLook(std::int64_t map, LineLook look)
+void LineInk::setLook(std::int64_t map, LineStroke stroke, const LineAxes& axes)
 {
-    m_lines.at(map).look = std::move(look);
+    Line& line = m_lines.at(map);
+    line.stroke = std::move(stroke);
+    line.axes = axes;
     restart();
 }
 
@@ -231,7 +233,7 @@ void LineInk::wipe()
     m_thinned = 0;
 }
 
-void LineInk::setView(const LineView& view, const QSize& size, double ratio)
+void LineInk::setView(const ChartView& view, const QSize& size, double ratio)
 {
     if (view == m_view && size == m_picture.size() && ratio == m_ratio)
         return;
@@ -265,7 +267,8 @@ bool LineInk::advance(int milliseconds)
             if (!m_hasWork)
                 break;
             m_current = line->first;
-            m_stroker = std::make_unique<Stroker>(m_mask, line->second, m_view, m_ratio);
+            m_stroker = std::make_unique<Stroker>(m_mask, line->second,
+                                                  m_view.along(line->second.axes), m_ratio);
             m_thinned += m_stroker->isThinned() ? 1 : 0;
         }
         bool hasMore = true;
@@ -302,19 +305,11 @@ std::int64_t LineInk::missingCount() const
     return m_isCancelled ? static_cast<std::int64_t>(m_lines.size()) - m_done : 0;
 }
 
-LineBox LineInk::bounds() const
-{
-    LineBox box;
-    for (const auto& [map, line] : m_lines)
-        box.add(line.line.bounds());
-    return box;
-}
-
-std::int64_t LineInk::lineAt(const LineView& view, const QPointF& pixel, double tolerance) const
+std::int64_t LineInk::lineAt(const ChartView& view, const QPointF& pixel, double tolerance) const
 {
     std::int64_t nearest = 0;
     for (const auto& [map, line] : m_lines) {
-        const double distance = line.line.distance(view, pixel, tolerance);
+        const double distance = line.points.distance(view.along(line.axes), pixel, tolerance);
         if (distance < tolerance) {
             nearest = map;
             tolerance = distance;

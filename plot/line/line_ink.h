@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "plot/line/line_axes.h"
 #include "plot/line/line_tracer.h"
 #include "plot/line/stroke_mask.h"
 
@@ -17,7 +18,7 @@
 namespace corvala::plot {
 
 /// How a line is stroked; lengths in pixels of the widget.
-struct LineLook
+struct LineStroke
 {
     QColor color;
     double width = 1.0; ///< at least 1
@@ -38,12 +39,12 @@ public:
 
     /// A new or changed line.
     void setLine(std::int64_t map, Polyline line);
-    /// Of a line that is there.
-    void setLook(std::int64_t map, LineLook look);
+    /// How a line that is there is drawn.
+    void setLook(std::int64_t map, LineStroke stroke, const LineAxes& axes = {});
     void remove(std::int64_t map);
 
     /// Draws what this view shows from now on, `ratio` pixels to a pixel of the widget.
-    void setView(const LineView& view, const QSize& size, double ratio);
+    void setView(const ChartView& view, const QSize& size, double ratio);
     /// Whether nothing is drawn yet of the lines and the view as they are now.
     bool isStale() const { return m_isStale; }
     /// Works for about `milliseconds`, negative until all is done; true while work is left.
@@ -61,19 +62,18 @@ public:
     /// Lines that are drawn thinner than they look.
     int thinnedCount() const { return m_thinned; }
 
-    LineBox bounds() const; ///< of all lines, in their plane
     /// The line nearest to a pixel of a view, less than `tolerance` pixels away; 0 for none.
-    std::int64_t lineAt(const LineView& view, const QPointF& pixel, double tolerance) const;
-    const LineLook& look(std::int64_t map) const { return m_lines.at(map).look; }
-    const Polyline& line(std::int64_t map) const { return m_lines.at(map).line; }
-    std::size_t lineCount() const { return m_lines.size(); }
+    std::int64_t lineAt(const ChartView& view, const QPointF& pixel, double tolerance) const;
 
-private:
     struct Line
     {
-        Polyline line;
-        LineLook look;
+        Polyline points; ///< in the plane of its axes
+        LineStroke stroke;
+        LineAxes axes;
     };
+    const std::map<std::int64_t, Line>& lines() const { return m_lines; }
+
+private:
     class Stroker;
 
     void restart();
@@ -81,7 +81,7 @@ private:
     void paintOn(QImage& picture) const; ///< what there is of the line in work
 
     std::map<std::int64_t, Line> m_lines;
-    LineView m_view; ///< in pixels of the picture
+    ChartView m_view; ///< in pixels of the picture
     double m_ratio = 1.0;
     QImage m_picture; ///< the lines that are done
     StrokeMask m_mask;

@@ -23,14 +23,14 @@ public:
 
     void setLine(std::int64_t map, LineData data) override;
     void removeLine(std::int64_t map) override;
-    void setTitles(const QString& first, const QString& second) override;
+    void setTitles(const ChartTitles& titles) override;
     void fit() override;
     ChartRange range() const override;
     void setRange(const ChartRange& range) override;
     void setFont(const QFont& font) override;
 
 protected:
-    LineView view() override;
+    ChartView view() override;
     QRegion outline() const override { return m_angle->exactClipRegion(); }
 
 private:
@@ -86,9 +86,10 @@ void PolarChart::removeLine(std::int64_t map)
     m_data.erase(map);
 }
 
-void PolarChart::setTitles(const QString& first, const QString& second)
+void PolarChart::setTitles(const ChartTitles& titles)
 {
-    m_title->setText(first.isEmpty() ? QString() : tr("%1 over %2").arg(second, first));
+    const QString& angle = titles.first[0];
+    m_title->setText(angle.isEmpty() ? QString() : tr("%1 over %2").arg(titles.second[0], angle));
 }
 
 void PolarChart::fit()
@@ -107,7 +108,7 @@ void PolarChart::fit()
                        highest > lowest ? highest + 0.05 * (highest - lowest) : lowest + 1.0);
 }
 
-LineView PolarChart::view()
+ChartView PolarChart::view()
 {
     const QCPRange range = radius()->range();
     if (range.lower != m_middle) {
@@ -115,20 +116,22 @@ LineView PolarChart::view()
         for (const auto& [map, data] : m_data)
             ink().setLine(map, unrolled(data));
     }
-    LineView view;
-    view.x = {0.0, m_angle->center().x(), m_angle->radius() / range.size()};
-    view.y = {0.0, m_angle->center().y(), -m_angle->radius() / range.size()};
+    ChartView view;
+    view.first[0] = {0.0, m_angle->center().x(), m_angle->radius() / range.size()};
+    view.second[0] = {0.0, m_angle->center().y(), -m_angle->radius() / range.size()};
     return view;
 }
 
 ChartRange PolarChart::range() const
 {
-    return {0.0, 360.0, radius()->range().lower, radius()->range().upper};
+    ChartRange range;
+    range.second[0] = {radius()->range().lower, radius()->range().upper};
+    return range;
 }
 
 void PolarChart::setRange(const ChartRange& range)
 {
-    radius()->setRange(range.secondMinimum, range.secondMaximum);
+    radius()->setRange(range.second[0].minimum, range.second[0].maximum);
 }
 
 void PolarChart::setFont(const QFont& font)

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <tuple>
 #include <utility>
 
 namespace corvala::plot {
@@ -41,11 +40,6 @@ double LineScale::operator()(double coordinate) const
     return std::clamp((coordinate - value) * scale + pixel, -kFarthest, kFarthest);
 }
 
-bool LineScale::operator==(const LineScale& other) const
-{
-    return value == other.value && pixel == other.pixel && scale == other.scale;
-}
-
 LineBox LineView::pixels(const LineBox& box) const
 {
     LineBox result;
@@ -54,28 +48,6 @@ LineBox LineView::pixels(const LineBox& box) const
     result.add(one.x(), one.y());
     result.add(other.x(), other.y());
     return result;
-}
-
-LineView LineView::seenFrom(const QPointF& origin, double ratio) const
-{
-    LineView view = *this;
-    const auto move = [ratio](double& pixel, double by) { pixel = (pixel - by) * ratio; };
-    for (double* const pixel : {&view.x.pixel, &view.visible.left, &view.visible.right})
-        move(*pixel, origin.x());
-    for (double* const pixel : {&view.y.pixel, &view.visible.low, &view.visible.high})
-        move(*pixel, origin.y());
-    view.x.scale *= ratio;
-    view.y.scale *= ratio;
-    return view;
-}
-
-bool LineView::operator==(const LineView& other) const
-{
-    const auto all = [](const LineView& view) {
-        return std::make_tuple(view.visible.left, view.visible.right, view.visible.low,
-                               view.visible.high, view.resolution);
-    };
-    return x == other.x && y == other.y && all(*this) == all(other);
 }
 
 Polyline::Polyline(std::vector<double> x, std::vector<double> y)

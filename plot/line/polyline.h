@@ -33,7 +33,6 @@ struct LineScale
     double scale = 1.0;
 
     double operator()(double coordinate) const;
-    bool operator==(const LineScale& other) const;
 };
 
 /// How the plane of a line becomes pixels, and what of it is seen.
@@ -46,9 +45,6 @@ struct LineView
 
     QPointF pixel(double across, double up) const { return {x(across), y(up)}; }
     LineBox pixels(const LineBox& box) const;
-    /// The same with pixels from another origin, and then `ratio` times as many.
-    LineView seenFrom(const QPointF& origin, double ratio) const;
-    bool operator==(const LineView& other) const;
 };
 
 /// Points that are joined in their order; a point that is not finite breaks the line. Knows the

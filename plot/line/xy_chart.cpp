@@ -5,43 +5,69 @@
 
 namespace corvala::plot {
 
-/// Lines over rectangular axes.
+/// Lines over rectangular axes. The first axis of each direction is always there, below and to the
+/// left; the others come when a line is drawn along them, on the sides in turn.
 class XyChart : public LineChart
 {
 public:
     explicit XyChart(QCustomPlot& plot);
 
     void setLine(std::int64_t map, LineData data) override;
-    void setTitles(const QString& first, const QString& second) override;
+    void setTitles(const ChartTitles& titles) override;
+    void updateAxes() override;
     void fit() override;
     ChartRange range() const override;
     void setRange(const ChartRange& range) override;
     void setFont(const QFont& font) override;
 
 protected:
-    LineView view() override;
+    ChartView view() override;
     QRegion outline() const override { return m_plot.axisRect()->rect(); }
 
 private:
-    QCPAxis& axis(QCPAxis::AxisType side) const { return *m_plot.axisRect()->axis(side); }
+    /// An axis, and whether it shows what somebody has chosen or fitted.
+    struct Axis
+    {
+        QCPAxis* axis = nullptr; // owned by the plot
+        bool hasRange = false;
+    };
+    using Axes = std::array<Axis, kAxisCount>;
+
+    void fit(Axes& axes, std::size_t number);
 
     QCustomPlot& m_plot;
+    Axes m_first;
+    Axes m_second;
 };
+
+/// Axes of one direction: the first on a side of the box, the others outside.
+template<class Axes>
+static void addAxes(QCPAxisRect& box, Axes& axes, QCPAxis::AxisType side, QCPAxis::AxisType across)
+{
+    axes[0].axis = box.axis(side);
+    for (std::size_t i = 1; i < axes.size(); ++i) {
+        axes[i].axis = box.addAxis(i % 2 == 0 ? side : across);
+        axes[i].axis->grid()->setVisible(false);
+        axes[i].axis->setVisible(false);
+    }
+}
 
 XyChart::XyChart(QCustomPlot& plot)
     : LineChart(plot)
     , m_plot(plot)
 {
     plot.plotLayout()->clear();
-    auto* axes = new QCPAxisRect(&plot);
-    plot.plotLayout()->addElement(0, 0, axes);
-    axes->setupFullAxesBox(true);
-    for (QCPAxis* const axis : axes->axes()) {
+    auto* box = new QCPAxisRect(&plot);
+    plot.plotLayout()->addElement(0, 0, box);
+    box->setupFullAxesBox(true);
+    addAxes(*box, m_first, QCPAxis::atBottom, QCPAxis::atTop);
+    addAxes(*box, m_second, QCPAxis::atLeft, QCPAxis::atRight);
+    for (QCPAxis* const axis : box->axes()) {
         axis->grid()->setLayer("grid");
         axis->setLayer("axes");
     }
     plot.setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
-    axes->setRangeDragAxes(axes->axis(QCPAxis::atBottom), axes->axis(QCPAxis::atLeft));
+    updateAxes();
 }
 
 void XyChart::setLine(std::int64_t map, LineData data)
@@ -49,41 +75,93 @@ void XyChart::setLine(std::int64_t map, LineData data)
     ink().setLine(map, Polyline(std::move(data.first), std::move(data.second)));
 }
 
-void XyChart::setTitles(const QString& first, const QString& second)
+void XyChart::setTitles(const ChartTitles& titles)
 {
-    axis(QCPAxis::atBottom).setLabel(first);
-    axis(QCPAxis::atLeft).setLabel(second);
+    for (std::size_t i = 0; i < kAxisCount; ++i) {
+        m_first[i].axis->setLabel(titles.first[i]);
+        m_second[i].axis->setLabel(titles.second[i]);
+    }
 }
 
-/// Shows an interval with a margin; from 0 to 1 when it is empty.
-static void show(QCPAxis& axis, double minimum, double maximum)
+void XyChart::updateAxes()
 {
-    if (minimum > maximum) {
+    std::array<bool, kAxisCount> isFirst {true};
+    std::array<bool, kAxisCount> isSecond {true};
+    for (const auto& [map, line] : ink().lines())
+        isFirst[line.axes.first] = isSecond[line.axes.second] = true;
+    QCPAxisRect& box = *m_plot.axisRect();
+    QList<QCPAxis*> moved;
+    const auto show = [&](Axes& axes, const auto& isInUse, QCPAxis::AxisType across) {
+        for (std::size_t i = 0; i < kAxisCount; ++i) {
+            axes[i].axis->setVisible(isInUse[i]);
+            if (isInUse[i] && !axes[i].hasRange)
+                fit(axes, i);
+            if (isInUse[i])
+                moved.append(axes[i].axis);
+        }
+        // The side of the box opposite to the first axis repeats it while it is free.
+        box.axis(across)->setVisible(!isInUse[1] && !isInUse[3]);
+    };
+    show(m_first, isFirst, QCPAxis::atTop);
+    show(m_second, isSecond, QCPAxis::atRight);
+    box.setRangeDragAxes(moved);
+    box.setRangeZoomAxes(moved);
+}
+
+/// Shows all lines along an axis with a margin; 0 to 1 when there is none.
+void XyChart::fit(Axes& axes, std::size_t number)
+{
+    const bool isFirst = &axes == &m_first;
+    LineBox box;
+    for (const auto& [map, line] : ink().lines())
+        if ((isFirst ? line.axes.first : line.axes.second) == number)
+            box.add(line.points.bounds());
+    QCPAxis& axis = *axes[number].axis;
+    axes[number].hasRange = !box.isEmpty();
+    if (box.isEmpty()) {
         axis.setRange(0.0, 1.0);
         return;
     }
+    const double minimum = isFirst ? box.left : box.low;
+    const double maximum = isFirst ? box.right : box.high;
     const double margin = maximum > minimum ? 0.05 * (maximum - minimum) : 0.5;
     axis.setRange(minimum - margin, maximum + margin);
 }
 
 void XyChart::fit()
 {
-    const LineBox box = ink().bounds();
-    show(axis(QCPAxis::atBottom), box.left, box.right);
-    show(axis(QCPAxis::atLeft), box.low, box.high);
+    for (std::size_t i = 0; i < kAxisCount; ++i) {
+        fit(m_first, i);
+        fit(m_second, i);
+    }
 }
 
 ChartRange XyChart::range() const
 {
-    const QCPRange x = axis(QCPAxis::atBottom).range();
-    const QCPRange y = axis(QCPAxis::atLeft).range();
-    return {x.lower, x.upper, y.lower, y.upper};
+    ChartRange result;
+    for (std::size_t i = 0; i < kAxisCount; ++i) {
+        const auto take = [i](const Axes& axes, auto& ranges) {
+            if (axes[i].hasRange)
+                ranges[i] = {axes[i].axis->range().lower, axes[i].axis->range().upper};
+        };
+        take(m_first, result.first);
+        take(m_second, result.second);
+    }
+    return result;
 }
 
 void XyChart::setRange(const ChartRange& range)
 {
-    axis(QCPAxis::atBottom).setRange(range.firstMinimum, range.firstMaximum);
-    axis(QCPAxis::atLeft).setRange(range.secondMinimum, range.secondMaximum);
+    for (std::size_t i = 0; i < kAxisCount; ++i) {
+        const auto put = [i](Axes& axes, const auto& ranges) {
+            if (ranges[i].minimum < ranges[i].maximum) {
+                axes[i].axis->setRange(ranges[i].minimum, ranges[i].maximum);
+                axes[i].hasRange = true;
+            }
+        };
+        put(m_first, range.first);
+        put(m_second, range.second);
+    }
 }
 
 static LineScale scaleOf(const QCPAxis& axis)
@@ -93,11 +171,13 @@ static LineScale scaleOf(const QCPAxis& axis)
     return {range.lower, first, (axis.coordToPixel(range.upper) - first) / range.size()};
 }
 
-LineView XyChart::view()
+ChartView XyChart::view()
 {
-    LineView view;
-    view.x = scaleOf(axis(QCPAxis::atBottom));
-    view.y = scaleOf(axis(QCPAxis::atLeft));
+    ChartView view;
+    for (std::size_t i = 0; i < kAxisCount; ++i) {
+        view.first[i] = scaleOf(*m_first[i].axis);
+        view.second[i] = scaleOf(*m_second[i].axis);
+    }
     return view;
 }
 

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void zonesWithoutTheVariable();
     void polarLines();
     void titles();
+    void axesInUse();
     void clickPicksALine();
     void viewsAreKept();
     void badPictures();
@@ -64,7 +65,8 @@ struct ShownCanvas
         } while (canvas.isBusy());
     }
     const LineInk& ink() const { return canvas.linePlot().chart().ink(); }
-    int lineCount() const { return static_cast<int>(ink().lineCount()); }
+    const LineInk::Line& line(int map) const { return ink().lines().at(map); }
+    int lineCount() const { return static_cast<int>(ink().lines().size()); }
 
     LineCanvas canvas;
 };
@@ -74,13 +76,13 @@ void tst_LineCanvas::curvesOfActiveMaps()
     openDemo("xy");
     ShownCanvas shown;
     QCOMPARE(shown.lineCount(), 6);
-    QCOMPARE(shown.ink().line(1).size(), std::size_t(101));
+    QCOMPARE(shown.line(1).points.size(), std::size_t(101));
     write("LineMap/Lines/Show", "2", 0);
     shown.settle();
     QCOMPARE(shown.lineCount(), 5);
     write("LinePlotLayers/ShowLines", "", 0);
     shown.settle();
-    QCOMPARE(shown.lineCount(), 0);
+    QVERIFY(!shown.canvas.linePlot().chart().areLinesVisible());
     document().undo().undo();
     document().undo().undo();
     shown.settle();
@@ -119,7 +121,7 @@ void tst_LineCanvas::pens()
     write("LineMap/Lines/LinePattern", "1", pattern);
     write("LineMap/Lines/PatternLength", "1", length);
     ShownCanvas shown;
-    const LineLook look = shown.ink().look(1);
+    const LineStroke look = shown.line(1).stroke;
     const host::Rgb color = document().color(4);
     QCOMPARE(look.color, QColor(color.red, color.green, color.blue));
     QCOMPARE(look.width, width);
@@ -146,7 +148,7 @@ void tst_LineCanvas::editsTouchWhatTheyName()
     write("LineMap/Assign/YAxisVar", "3", 5);
     shown.settle();
     QCOMPARE(shown.canvas.linePlot().syncCount() - before, 3);
-    QVERIFY(shown.ink().line(3).y(50) != shown.ink().line(9).y(50));
+    QVERIFY(shown.line(3).points.y(50) != shown.line(9).points.y(50));
 }
 
 void tst_LineCanvas::zonesWithoutTheVariable()
@@ -203,6 +205,54 @@ void tst_LineCanvas::titles()
     QCOMPARE(title(QCPAxis::atLeft), QStringLiteral("Kraft"));
 }
 
+void tst_LineCanvas::axesInUse()
+{
+    openDemo("xy");
+    ShownCanvas shown;
+    QCPAxisRect& box = *shown.canvas.plot().axisRect();
+    const auto visible = [&](QCPAxis::AxisType side) {
+        QList<QCPAxis*> axes = box.axes(side);
+        axes.erase(std::remove_if(axes.begin(), axes.end(),
+                                  [](const QCPAxis* axis) { return !axis->visible(); }),
+                   axes.end());
+        return axes;
+    };
+    const QCPRange before = box.axis(QCPAxis::atLeft)->range();
+    write("LineMap/Assign/YAxis", "1,4", 2);
+    write("LineMap/Assign/YAxis", "2", 3);
+    write("LineMap/Assign/XAxis", "2", 4);
+    write("LineMap/Assign/YAxisVar", "1,4", 6); // angles
+    shown.settle();
+    QCOMPARE(visible(QCPAxis::atLeft).size(), 2);
+    QCOMPARE(visible(QCPAxis::atBottom).size(), 1);
+    QCOMPARE(visible(QCPAxis::atRight).size(), 1);
+    QCOMPARE(visible(QCPAxis::atTop).size(), 1);
+    const QCPAxis& second = *visible(QCPAxis::atRight)[0];
+    QCOMPARE(second.label(), QStringLiteral("Angle"));
+    QVERIFY(second.range().upper > 300.0 && before.upper < 10.0);
+    QVERIFY(box.axis(QCPAxis::atLeft)->range().upper < 10.0);
+    const Polyline& points = shown.line(1).points;
+    const QPoint place(static_cast<int>(box.axis(QCPAxis::atBottom)->coordToPixel(points.x(70))),
+                       static_cast<int>(second.coordToPixel(points.y(70))));
+    QSignalSpy picked(&shown.canvas, &Canvas::lineMapPicked);
+    QTest::mouseClick(&shown.canvas.plot(), Qt::LeftButton, {}, place);
+    QCOMPARE(picked.last()[0].value<CvlInt64>(), 1);
+
+    // Moved, they stay where they are, also while another plot type is shown.
+    turnWheel(shown.canvas.plot(), shown.canvas.plot().rect().center());
+    shown.settle();
+    const QCPRange moved = second.range();
+    QVERIFY(moved.upper < 340.0);
+    for (const int plotType : {PlotType_Field2D, PlotType_LineXY}) {
+        write("PlotType", "", plotType);
+        shown.settle();
+    }
+    QCOMPARE(shown.canvas.plot().axisRect()->axes(QCPAxis::atRight)[1]->range(), moved);
+    write("LineMap/Assign/YAxis", "1,4", 1);
+    shown.settle();
+    QVERIFY(!shown.canvas.plot().axisRect()->axes(QCPAxis::atRight)[1]->visible());
+}
+
 void tst_LineCanvas::clickPicksALine()
 {
     openDemo("xy");
@@ -211,8 +261,8 @@ void tst_LineCanvas::clickPicksALine()
     QSignalSpy picked(&shown.canvas, &Canvas::lineMapPicked);
     const QCPAxisRect& axes = *shown.canvas.plot().axisRect();
     const QPoint place =
-        QPointF(axes.axis(QCPAxis::atBottom)->coordToPixel(shown.ink().line(1).x(30)),
-                axes.axis(QCPAxis::atLeft)->coordToPixel(shown.ink().line(1).y(30)))
+        QPointF(axes.axis(QCPAxis::atBottom)->coordToPixel(shown.line(1).points.x(30)),
+                axes.axis(QCPAxis::atLeft)->coordToPixel(shown.line(1).points.y(30)))
             .toPoint();
     QTest::mouseClick(&shown.canvas.plot(), Qt::LeftButton, {}, place);
     QCOMPARE(picked.size(), 1);

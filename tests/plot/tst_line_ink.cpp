@@ -33,6 +33,15 @@ static LineView viewOf(double zoom)
     return view;
 }
 
+static ChartView chartOf(const LineView& view)
+{
+    ChartView chart;
+    chart.first[0] = view.x;
+    chart.second[0] = view.y;
+    chart.visible = view.visible;
+    return chart;
+}
+
 using Curve = std::function<QPointF(double)>; // of a place along the line, 0 to 1
 Q_DECLARE_METATYPE(Curve)
 
@@ -56,19 +65,19 @@ static double noise()
 
 /// Every point drawn by Qt, in single strokes; many times as large and made smaller, so that
 /// strokes that meet do not darken each other's edges.
-static QImage fullPicture(const Polyline& line, const LineView& view, const LineLook& look)
+static QImage fullPicture(const Polyline& line, const LineView& view, const LineStroke& stroke)
 {
     constexpr int kTimes = 4;
     QImage image(kTimes * kSize, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.scale(kTimes, kTimes);
-    const bool isSolid = look.pattern.empty();
-    QPen pen(look.color, look.width, Qt::SolidLine, isSolid ? Qt::RoundCap : Qt::FlatCap,
+    const bool isSolid = stroke.pattern.empty();
+    QPen pen(stroke.color, stroke.width, Qt::SolidLine, isSolid ? Qt::RoundCap : Qt::FlatCap,
              Qt::RoundJoin);
     QVector<qreal> dashes;
-    for (const double part : look.pattern)
-        dashes.append(part / look.width);
+    for (const double part : stroke.pattern)
+        dashes.append(part / stroke.width);
     if (!isSolid)
         pen.setDashPattern(dashes);
     painter.setPen(pen);
@@ -86,12 +95,13 @@ static QImage fullPicture(const Polyline& line, const LineView& view, const Line
     return image.scaled(kSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-static QImage inkPicture(Polyline line, const LineView& view, const LineLook& look, int slice = -1)
+static QImage inkPicture(Polyline line, const LineView& view, const LineStroke& stroke,
+                         int slice = -1)
 {
     LineInk ink;
     ink.setLine(1, std::move(line));
-    ink.setLook(1, look);
-    ink.setView(view, kSize, 1.0);
+    ink.setLook(1, stroke);
+    ink.setView(chartOf(view), kSize, 1.0);
     while (ink.advance(slice)) { }
     return ink.picture();
 }
@@ -163,11 +173,11 @@ void tst_LineInk::reducedLikeFull()
     QFETCH(double, zoom);
     QFETCH(double, width);
     QFETCH(QVector<double>, pattern);
-    const LineLook look {Qt::black, width, {pattern.begin(), pattern.end()}};
+    const LineStroke stroke {Qt::black, width, {pattern.begin(), pattern.end()}};
     const Polyline line = sampled(curve, points);
     const LineView view = viewOf(zoom);
-    const QImage full = fullPicture(line, view, look);
-    const QImage reduced = inkPicture(line, view, look);
+    const QImage full = fullPicture(line, view, stroke);
+    const QImage reduced = inkPicture(line, view, stroke);
     const double ink = 1.0 - shareOfDifference(full, QImage(full.size(), full.format()));
     const double difference = shareOfDifference(full, reduced);
     if (qEnvironmentVariableIsSet("CORVALA_KEEP_PICTURES")) {
@@ -180,8 +190,8 @@ void tst_LineInk::reducedLikeFull()
 void tst_LineInk::slicesDrawTheSame()
 {
     const Polyline line = sampled([](double) { return QPointF(noise(), noise()); }, 5'000);
-    const LineLook look {Qt::blue, 3.0, {10.0, 5.0}};
-    QCOMPARE(inkPicture(line, viewOf(1.0), look, 0), inkPicture(line, viewOf(1.0), look));
+    const LineStroke stroke {Qt::blue, 3.0, {10.0, 5.0}};
+    QCOMPARE(inkPicture(line, viewOf(1.0), stroke, 0), inkPicture(line, viewOf(1.0), stroke));
 }
 
 void tst_LineInk::denseLinesAreThinned()
@@ -191,7 +201,7 @@ void tst_LineInk::denseLinesAreThinned()
     ink.setLine(2, sampled(wave, 400'000));
     for (const int map : {1, 2})
         ink.setLook(map, {Qt::blue, 5.0, {10.0, 5.0}});
-    ink.setView(viewOf(1.0), kSize, 1.0);
+    ink.setView(chartOf(viewOf(1.0)), kSize, 1.0);
     ink.advance(-1);
     QCOMPARE(ink.thinnedCount(), 1);
     ink.remove(1);

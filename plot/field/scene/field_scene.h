@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/events/state_event.h"
+#include "plot/common/scene.h"
 #include "plot/field/scene/composite_layer.h"
 
 #include <QString>
@@ -30,29 +31,10 @@ struct FieldLegend
 };
 
 /// What a field canvas shows of a frame. A canvas knows its scene through this class only, so that
-/// the geometry need not be made in this process. Changes are taken note of at once, and worked off
-/// in slices.
-class FieldScene
+/// the geometry need not be made in this process.
+class FieldScene : public virtual Scene
 {
 public:
-    virtual ~FieldScene() = default;
-
-    /// Shows this frame from now on, from scratch; 0 or the ID of no field frame shows nothing.
-    virtual void setFrame(CvlUniqueId frame) = 0;
-
-    /// Takes note of a change of the document; true when the picture may differ.
-    virtual bool apply(const host::StateEvent& event) = 0;
-
-    /// Works for about `milliseconds`; negative works until all is done. True while work is left.
-    virtual bool advance(int milliseconds) = 0;
-    virtual bool hasWork() const = 0;
-    /// Pieces of work since there was none, done and in all.
-    virtual std::pair<CvlInt64, CvlInt64> progress() const = 0;
-    /// Puts the work that is left aside; what it would have changed stays as it is.
-    virtual void cancel() = 0;
-    /// Takes up again what was put aside.
-    virtual void resume() = 0;
-
     /// Fits what is drawn to the view; call before drawing.
     virtual void setScale(const ViewScale& scale) = 0;
 
@@ -71,8 +53,6 @@ public:
     virtual std::vector<FieldLegend> legends() const = 0;
     /// Names of the coordinates X, Y, Z.
     virtual std::array<QString, 3> axisTitles() const = 0;
-    /// A remark for the user on what is not shown; empty without one.
-    virtual QString notice() const = 0;
 };
 
 } // namespace corvala::plot

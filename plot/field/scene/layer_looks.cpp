@@ -2,6 +2,7 @@
 #include "plot/field/scene/layer_looks.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace corvala::plot {
 
@@ -241,19 +242,12 @@ std::vector<int> groupsShown(const ShownMap& shown, const ContourGroups& groups)
     return result;
 }
 
-/// Layers that a style value, or all of its group, is seen in.
-struct AffectedRow
-{
-    style::Key key;
-    bool withItsGroup;
-    LayerMask layers;
-};
 static constexpr LayerMask kContourMask =
     maskOf(FieldLayer::Flood) | maskOf(FieldLayer::ContourLines) | kGroupValues;
 static constexpr LayerMask kMeshMask =
     maskOf(FieldLayer::Mesh) | maskOf(FieldLayer::Background) | kGroupValues;
 static constexpr LayerMask kLitMask = maskOf(FieldLayer::Shade) | maskOf(FieldLayer::Flood);
-static constexpr AffectedRow kAffected[] = {
+static constexpr AffectedLayers kAffected[] = {
     {kMap.mesh.show, true, kMeshMask},
     {kMap.contour.show, true, kContourMask},
     {kMap.shade.show, true, maskOf(FieldLayer::Shade)},
@@ -261,10 +255,10 @@ static constexpr AffectedRow kAffected[] = {
     {kMap.surfaces.surfacesToPlot, true,
      kAllLayers& static_cast<LayerMask>(~maskOf(FieldLayer::Edges))},
     {kMap.effects.lightingEffect, true, kLitMask},
-    {style::fieldLayers.showMesh, false, kMeshMask},
-    {style::fieldLayers.showContour, false, kContourMask},
-    {style::fieldLayers.showShade, false, maskOf(FieldLayer::Shade)},
-    {style::fieldLayers.showEdge, false, maskOf(FieldLayer::Edges)},
+    {style::fieldLayers.showMesh, false, kMeshMask, true},
+    {style::fieldLayers.showContour, false, kContourMask, true},
+    {style::fieldLayers.showShade, false, maskOf(FieldLayer::Shade), true},
+    {style::fieldLayers.showEdge, false, maskOf(FieldLayer::Edges), true},
     {style::fieldLayers.useLightingEffect, false, kLitMask},
     {style::contourGroups.var, true, kContourMask | kMeshMask},
     {style::globalRgb.redVar, true, kContourMask | kMeshMask},
@@ -272,14 +266,16 @@ static constexpr AffectedRow kAffected[] = {
     {style::activeFieldZones, false, kAllLayers | kGroupValues},
 };
 
-LayerMask affectedBy(host::AttributeId attribute)
+const SceneKind& fieldSceneKind()
 {
-    if (attribute < 0)
-        return 0;
-    for (const AffectedRow& row : kAffected)
-        if (row.withItsGroup ? style::isInGroupOf({attribute}, row.key) : row.key == attribute)
-            return row.layers;
-    return 0;
+    static constexpr SceneKind kKind {kFieldLayerCount,
+                                      true,
+                                      &host::Frame::isFieldPlot,
+                                      &host::Frame::activeFieldMaps,
+                                      StateCode_FieldMapListChanged,
+                                      kAffected,
+                                      std::size(kAffected)};
+    return kKind;
 }
 
 host::Rgb paletteColor(std::int32_t color)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "plot/common/map_scene.h"
 #include "plot/field/geometry/contour_groups.h"
 #include "plot/field/scene/block_look.h"
 
@@ -22,14 +23,12 @@ enum class FieldLayer {
 };
 constexpr std::size_t kFieldLayerCount = 6;
 
-/// One bit for each layer, and for the values that the contour groups span.
-using LayerMask = std::uint8_t;
 constexpr LayerMask maskOf(FieldLayer layer)
 {
     return static_cast<LayerMask>(1U << static_cast<unsigned>(layer));
 }
 constexpr LayerMask kAllLayers = (1U << kFieldLayerCount) - 1;
-constexpr LayerMask kGroupValues = 1U << kFieldLayerCount;
+constexpr LayerMask kGroupValues = 1U << kFieldLayerCount; ///< that the contour groups span
 
 /// A map of a frame with the zone that it shows.
 struct ShownMap
@@ -50,8 +49,8 @@ std::vector<int> groupsShown(const ShownMap& map, const ContourGroups& groups);
 
 bool isLayerOn(const host::Frame& frame, FieldLayer layer);
 
-/// What a change of the attribute affects; 0 for attributes that are not drawn.
-LayerMask affectedBy(host::AttributeId attribute);
+/// What a field plot is made of, and what touches it.
+const SceneKind& fieldSceneKind();
 
 /// The colour of a number of the style tree; black for one that follows a contour group or RGB.
 host::Rgb paletteColor(std::int32_t color);

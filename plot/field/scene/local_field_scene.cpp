@@ -2,9 +2,6 @@
 #include "plot/field/scene/local_field_scene.h"
 
 #include "host/document/line_map_name.h"
-#include "plot/common/document_events.h"
-
-#include <QElapsedTimer>
 
 #include <vtkActor.h>
 #include <vtkBox.h>
@@ -13,7 +10,6 @@
 #include <vtkRenderer.h>
 
 #include <algorithm>
-#include <limits>
 #include <set>
 
 namespace corvala::plot {
@@ -24,233 +20,80 @@ static constexpr LayerMask kColoredLayers =
 
 LocalFieldScene::LocalFieldScene(vtkRenderer& back, vtkRenderer& front,
                                  std::shared_ptr<SurfaceCache> cache, CvlInt64 largestScene)
-    : m_cache(std::move(cache))
-    , m_largestScene(largestScene)
+    : MapScene(fieldSceneKind(), largestScene)
+    , m_cache(std::move(cache))
     , m_back(back)
     , m_front(front)
 {
-    rebuild();
+    rebuild(Fresh::Frame);
 }
 
 LocalFieldScene::~LocalFieldScene() = default;
 
-const host::Frame* LocalFieldScene::frame() const
+void LocalFieldScene::clear(const host::Frame* drawn, Fresh reason)
 {
-    const host::Frame* const frame = host::Document::instance().frame(m_frame);
-    return frame && frame->isFieldPlot() && frame->hasData() ? frame : nullptr;
-}
-
-void LocalFieldScene::setFrame(CvlUniqueId frame)
-{
-    m_frame = frame;
-    m_groups.clear();
-    rebuild();
-}
-
-void LocalFieldScene::rebuild()
-{
-    const host::Frame* const drawn = frame();
     m_flat = drawn && drawn->plotType() == PlotType_Field2D;
+    if (reason == Fresh::Data || reason == Fresh::Values)
+        m_cache->clear();
+    if (reason != Fresh::Maps)
+        m_groups.clear();
     setStandIn(false);
     m_task.reset();
     m_piece = {};
     m_surfaces.clear();
     m_ranges.clear();
-    m_pending = {};
-    m_stale = {};
-    m_cancelled = {};
-    m_shown = {};
-    m_refused = {};
-    m_done = m_total = 0;
     for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
         m_layers[i] =
             std::make_unique<CompositeLayer>(static_cast<FieldLayer>(i), m_flat, m_back, m_front);
         m_layers[i]->setScale(m_scale);
     }
-    if (drawn) {
-        m_groups.setVariables(*drawn);
-        updateVisibility(*drawn);
-        pend(kAllLayers | kGroupValues, drawn->activeFieldMaps());
-    }
 }
 
-static bool changesData(const host::StateEvent& event)
+void LocalFieldScene::frameStyleChanged(const host::Frame& drawn)
 {
-    switch (event.code) {
-    case StateCode_DocumentCleared:
-    case StateCode_DocumentLoaded:
-    case StateCode_DataSetAttached:
-    case StateCode_DataSetDetached:
-    case StateCode_DataValuesChanged: return true;
-    default: return false;
-    }
-}
-
-static bool changesMaps(const host::StateEvent& event)
-{
-    switch (event.code) {
-    case StateCode_FieldMapListChanged:
-    case StateCode_ZonesAdded:
-    case StateCode_ZonesRemoved: return true;
-    default: return false;
-    }
-}
-
-bool LocalFieldScene::apply(const host::StateEvent& event)
-{
-    const host::Frame* const drawn = frame();
-    if (!concerns(event, m_frame))
-        return false;
-    if (changesData(event)) {
-        m_cache->clear();
-        m_groups.clear();
-        rebuild();
-        return true;
-    }
-    if (changesMaps(event)) {
-        rebuild();
-        return true;
-    }
-    switch (event.code) {
-    case StateCode_Style: return applyStyle(event);
-    case StateCode_ColorTableChanged: pend(kAllLayers, m_shown); return true;
-    case StateCode_SolutionTimeChanged:
-        if (drawn)
-            pendTransient(*drawn);
-        return drawn != nullptr;
-    case StateCode_FrameListChanged:
-        if (!drawn)
-            rebuild();
-        return !drawn;
-    case StateCode_VariableListChanged:
-    case StateCode_VariableRenamed: return true;
-    default: return false;
-    }
-}
-
-bool LocalFieldScene::applyStyle(const host::StateEvent& event)
-{
-    if (namesPlotType(event)) {
-        rebuild();
-        return true;
-    }
-    const host::Frame* const drawn = frame();
-    bool changed = false;
-    for (const host::StyleChange& change : event.styleChanges)
-        changed = (drawn && applyStyleChange(*drawn, change)) || changed;
-    return changed;
-}
-
-bool LocalFieldScene::applyStyleChange(const host::Frame& drawn, const host::StyleChange& change)
-{
-    const LayerMask affected = affectedBy(change.attribute);
-    if (affected == 0)
-        return false;
-    const host::Attribute& attribute = host::Schema::instance().at(change.attribute);
-    if (attribute.scope == host::Scope::FieldMap || !change.maps.isEmpty()) {
-        pend(affected, change.maps);
-        return !(change.maps & (m_shown | drawn.activeFieldMaps())).isEmpty();
-    }
     m_groups.setVariables(drawn);
-    updateVisibility(drawn);
-    // Showing a layer costs what changed while it was off; other values of the frame touch all
-    // maps.
-    const bool isLayerSwitch = style::isInGroupOf({attribute.id}, style::fieldLayers.showMesh)
-        && attribute.id != style::fieldLayers.useLightingEffect;
-    pend(isLayerSwitch ? static_cast<LayerMask>(affected & kGroupValues) : affected, m_shown);
-    return true;
 }
 
-void LocalFieldScene::updateVisibility(const host::Frame& drawn)
+bool LocalFieldScene::isLayerOn(const host::Frame& drawn, std::size_t layer) const
 {
-    for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
-        const bool isOn = isLayerOn(drawn, static_cast<FieldLayer>(i));
-        m_layers[i]->setVisible(isOn);
-        if (isOn && !m_stale[i].isEmpty()) {
-            const host::NumberSet stale = std::exchange(m_stale[i], {});
-            pend(maskOf(static_cast<FieldLayer>(i)), stale);
-        }
-    }
+    return plot::isLayerOn(drawn, static_cast<FieldLayer>(layer));
 }
 
-void LocalFieldScene::pend(LayerMask layers, const host::NumberSet& maps)
+void LocalFieldScene::setLayerVisible(std::size_t layer, bool isVisible)
 {
-    const host::Frame* const drawn = frame();
-    if (!drawn || maps.isEmpty())
-        return;
-    if (!hasWork())
-        m_done = m_total = 0;
-    const host::NumberSet relevant = maps & (m_shown | drawn->activeFieldMaps());
-    for (std::size_t i = 0; i < m_pending.size(); ++i) {
-        if (!(layers & (1U << i)))
-            continue;
-        if (i < kFieldLayerCount && !m_layers[i]->isVisible()) {
-            m_stale[i] |= relevant;
-            continue;
-        }
-        const std::uint64_t before = m_pending[i].cardinality();
-        m_pending[i] |= relevant;
-        m_total += static_cast<CvlInt64>(m_pending[i].cardinality() - before);
-    }
+    m_layers[layer]->setVisible(isVisible);
 }
 
-void LocalFieldScene::pendTransient(const host::Frame& drawn)
+host::NumberSet LocalFieldScene::transientMaps(const host::Frame& drawn) const
 {
     host::NumberSet transient;
     for (const std::uint32_t map : drawn.activeFieldMaps())
         if (drawn.fieldMaps().strand(map) > 0)
             transient.add(map);
-    pend(kAllLayers | kGroupValues, transient);
-}
-
-bool LocalFieldScene::hasWork() const
-{
-    return std::any_of(m_pending.begin(), m_pending.end(),
-                       [](const host::NumberSet& maps) { return !maps.isEmpty(); });
+    return transient;
 }
 
 void LocalFieldScene::cancel()
 {
-    for (std::size_t i = 0; i < m_pending.size(); ++i)
-        m_cancelled[i] |= std::exchange(m_pending[i], {});
+    MapScene::cancel();
     m_task.reset();
-    m_done = m_total = 0;
 }
 
-void LocalFieldScene::resume()
+bool LocalFieldScene::canShow(const host::Frame& drawn, CvlInt64 map) const
 {
-    for (std::size_t i = 0; i < m_cancelled.size(); ++i)
-        pend(static_cast<LayerMask>(1U << i), std::exchange(m_cancelled[i], {}));
-}
-
-std::optional<ShownMap> LocalFieldScene::shown(const host::Frame& drawn, CvlInt64 map)
-{
-    const auto member = static_cast<std::uint32_t>(map);
-    if (!drawn.activeFieldMaps().contains(member)) {
-        m_refused.remove(member);
-        return std::nullopt;
-    }
     const CvlInt64 zone = drawn.candidateZone(map);
-    if (zone == 0 || !drawn.enabledZones().contains(static_cast<std::uint32_t>(zone)))
-        return std::nullopt;
-    if (!m_shown.contains(member)
-        && static_cast<CvlInt64>(m_shown.cardinality()) >= m_largestScene) {
-        m_refused.add(member);
-        return std::nullopt;
-    }
-    m_shown.add(member);
-    return ShownMap {drawn, map, zone};
+    return zone != 0 && drawn.enabledZones().contains(static_cast<std::uint32_t>(zone));
 }
 
 void LocalFieldScene::forget(CvlInt64 map)
 {
-    const auto member = static_cast<std::uint32_t>(map);
-    if (m_shown.contains(member)) {
-        m_shown.remove(member);
-        m_surfaces.erase(map);
-        m_ranges.remove(map);
-        pend(kAllLayers | kGroupValues, std::exchange(m_refused, {}));
-    }
+    m_surfaces.erase(map);
+    m_ranges.remove(map);
+}
+
+static ShownMap shown(const host::Frame& drawn, CvlInt64 map)
+{
+    return {drawn, map, drawn.candidateZone(map)};
 }
 
 /// Zones with as many points or cells take longer than a slice of work.
@@ -260,9 +103,9 @@ static bool isLarge(const host::ZoneInfo& zone)
     return std::max(zone.pointCount, zone.cellCount) >= kMany;
 }
 
-bool LocalFieldScene::handOverValues(const host::Frame& drawn, const ShownMap& map)
+bool LocalFieldScene::handOverValues(const host::Frame& drawn, CvlInt64 map)
 {
-    auto wanted = m_ranges.unknown(map, m_groups);
+    auto wanted = m_ranges.unknown(shown(drawn, map), m_groups);
     const auto data = drawn.sharedData();
     if (m_mayWait || std::none_of(wanted.begin(), wanted.end(), [&](const auto& values) {
             return isLarge(data->zone(values.zone));
@@ -307,8 +150,7 @@ bool LocalFieldScene::handOverBlock(const host::Frame& drawn, CvlInt64 map,
     return true;
 }
 
-/// Takes what another thread has made, when it is there in time. True while none works.
-bool LocalFieldScene::takePiece(const host::Frame& drawn, int milliseconds)
+bool LocalFieldScene::takeBack(const host::Frame& drawn, int milliseconds)
 {
     if (!m_task)
         return true;
@@ -321,43 +163,32 @@ bool LocalFieldScene::takePiece(const host::Frame& drawn, int milliseconds)
     return true;
 }
 
-void LocalFieldScene::workOnValues(const host::Frame& drawn)
+void LocalFieldScene::gather(const host::Frame& drawn, CvlInt64 map)
 {
-    host::NumberSet& pending = m_pending[kGroupStage];
-    const std::uint32_t map = pending.minimum();
-    const std::optional<ShownMap> current = shown(drawn, map);
-    if (current && handOverValues(drawn, *current))
-        return;
-    pending.remove(map);
-    ++m_done;
-    if (current && m_ranges.add(*current, m_groups))
-        pend(kGroupValues, m_shown); // a group is new: every map has to say what it has of it
-    if (!current)
-        forget(map);
-    if (pending.isEmpty() && m_ranges.update(drawn, m_groups))
-        pend(kColoredLayers, m_shown);
+    if (m_ranges.add(shown(drawn, map), m_groups))
+        pend(kGroupValues, shownMaps()); // a group is new: every map has to say what it has of it
 }
 
-void LocalFieldScene::workOnMap(const host::Frame& drawn)
+void LocalFieldScene::allGathered(const host::Frame& drawn)
 {
-    std::uint32_t map = std::numeric_limits<std::uint32_t>::max();
-    for (std::size_t i = 0; i < kFieldLayerCount; ++i)
-        if (!m_pending[i].isEmpty())
-            map = std::min(map, m_pending[i].minimum());
-    const std::optional<ShownMap> current = shown(drawn, map);
-    if (!current)
-        forget(map);
-    const double height = map;
+    if (m_ranges.update(drawn, m_groups))
+        pend(kColoredLayers, shownMaps());
+}
+
+LayerMask LocalFieldScene::sync(const host::Frame& drawn, CvlInt64 map, LayerMask layers,
+                                bool isShown)
+{
+    const double height = static_cast<double>(map);
     const BlockBuilder builder(*drawn.data(), m_groups, *m_cache);
+    LayerMask done = 0;
     for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
-        if (!m_pending[i].contains(map))
+        const auto layer = static_cast<FieldLayer>(i);
+        if (!(layers & maskOf(layer)))
             continue;
-        const auto look =
-            current ? lookOf(static_cast<FieldLayer>(i), *current, m_groups) : std::nullopt;
+        const auto look = isShown ? lookOf(layer, shown(drawn, map), m_groups) : std::nullopt;
         if (m_layers[i]->builds(map, look) && handOverBlock(drawn, map, look->recipe))
-            return;
-        m_pending[i].remove(map);
-        ++m_done;
+            return done;
+        done = static_cast<LayerMask>(done | maskOf(layer));
         m_layers[i]->sync(map, look, [&](const BlockRecipe& recipe) {
             if (hasPiece(map, recipe)) {
                 m_surfaces[map] = std::move(m_piece.surfaces);
@@ -366,31 +197,18 @@ void LocalFieldScene::workOnMap(const host::Frame& drawn)
             return builder.build(recipe, m_flat ? &height : nullptr, m_surfaces[map]);
         });
     }
+    return done;
 }
 
 bool LocalFieldScene::advance(int milliseconds)
 {
-    const host::Frame* const drawn = frame();
-    QElapsedTimer clock;
-    clock.start();
     m_mayWait = milliseconds < 0;
-    const auto left = [&] {
-        return m_mayWait ? -1 : std::max(milliseconds - static_cast<int>(clock.elapsed()), 0);
-    };
-    while (drawn && hasWork() && takePiece(*drawn, left())) {
-        // Values come first: levels have to be known before anything is coloured by them.
-        if (m_pending[kGroupStage].isEmpty())
-            workOnMap(*drawn);
-        else
-            workOnValues(*drawn);
-        if (left() == 0)
-            break;
-    }
+    const bool hasMore = MapScene::advance(milliseconds);
     for (const auto& layer : m_layers)
         layer->updateLevels(m_groups);
-    if (!hasWork())
+    if (!hasMore)
         m_piece = {};
-    return hasWork();
+    return hasMore;
 }
 
 void LocalFieldScene::setScale(const ViewScale& scale)
@@ -444,7 +262,7 @@ void LocalFieldScene::setStandIn(bool standsIn)
                                  FieldLayer::Mesh, FieldLayer::Background, FieldLayer::Edges})
             layers.push_back(m_layers[static_cast<std::size_t>(layer)].get());
         m_standIn = std::make_unique<StandIn>();
-        m_standIn->take(layers, m_shown, m_groups);
+        m_standIn->take(layers, shownMaps(), m_groups);
         m_back.AddActor(m_standIn->actor());
     }
     for (const auto& layer : m_layers)
@@ -558,21 +376,6 @@ std::array<QString, 3> LocalFieldScene::axisTitles() const
         }
     }
     return titles;
-}
-
-QString LocalFieldScene::notice() const
-{
-    const auto shownCount = static_cast<CvlInt64>(m_shown.cardinality());
-    if (!m_refused.isEmpty()) {
-        const CvlInt64 all = shownCount + static_cast<CvlInt64>(m_refused.cardinality());
-        return tr("Drawing %L1 of %L2 active maps").arg(shownCount).arg(all);
-    }
-    host::NumberSet missing;
-    for (const host::NumberSet& maps : m_cancelled)
-        missing |= maps;
-    return missing.isEmpty() ? QString()
-                             : tr("Drawing was cancelled: %Ln map(s) missing", nullptr,
-                                  static_cast<int>(missing.cardinality()));
 }
 
 } // namespace corvala::plot

@@ -20,13 +20,9 @@
 #include <vtkRenderWindowInteractor.h>
 
 #include <cmath>
-#include <utility>
 
 namespace corvala::plot {
 
-static constexpr int kSliceMilliseconds = 30;
-static constexpr int kQuietSlices = 8; ///< before work is reported as progress
-static constexpr CvlInt64 kFirstDrawing = 1000; ///< pieces of work before an unfinished picture
 static constexpr int kSamples = 8;
 static constexpr int kRestMilliseconds = 200; ///< without a movement, until the hand rests
 static constexpr double kMovingSeconds = 0.12; ///< for a picture while the view is moved
@@ -74,7 +70,7 @@ private:
 };
 
 FieldCanvas::FieldCanvas(QWidget* parent)
-    : Canvas(parent)
+    : SceneCanvas(parent)
     , m_problem(openGlProblem())
     , m_cache(std::make_shared<SurfaceCache>())
     , m_view(m_cache)
@@ -127,7 +123,7 @@ void FieldCanvas::makeWidgets()
 
 void FieldCanvas::resizeEvent(QResizeEvent* event)
 {
-    Canvas::resizeEvent(event);
+    SceneCanvas::resizeEvent(event);
     if (m_widget) {
         layout()->activate();
         m_overlay->setGeometry(m_widget->rect());
@@ -148,7 +144,6 @@ void FieldCanvas::frameChanged(CvlUniqueId previous)
     m_cameras[{previous, m_view.isFlat()}] = m_view.camera();
     takePlotType();
     m_view.scene().setFrame(frame());
-    m_nextDrawing = kFirstDrawing;
 }
 
 void FieldCanvas::documentChanged(const host::StateEvent& event)
@@ -166,48 +161,8 @@ void FieldCanvas::documentChanged(const host::StateEvent& event)
     }
     if (m_view.scene().apply(event)) {
         m_quickTime = m_restTime = 0.0;
-        m_nextDrawing = kFirstDrawing;
         requestRedraw();
     }
-}
-
-void FieldCanvas::showEvent(QShowEvent* event)
-{
-    Canvas::showEvent(event);
-    requestRedraw();
-}
-
-void FieldCanvas::hideEvent(QHideEvent* event)
-{
-    Canvas::hideEvent(event);
-    endReport(true);
-}
-
-bool FieldCanvas::redraw()
-{
-    if (!m_widget || !isVisible())
-        return false;
-    FieldScene& scene = m_view.scene();
-    const bool hasMore = scene.advance(kSliceMilliseconds);
-    if (!hasMore) {
-        endReport(false);
-        draw();
-        return false;
-    }
-    const auto [done, total] = scene.progress();
-    if (++m_slices > kQuietSlices)
-        Q_EMIT workProgressed(done, total);
-    if (done >= m_nextDrawing) {
-        m_nextDrawing = 2 * done;
-        draw();
-    }
-    return true;
-}
-
-void FieldCanvas::endReport(bool cancelled)
-{
-    if (std::exchange(m_slices, 0) > kQuietSlices)
-        Q_EMIT workEnded(cancelled);
 }
 
 /// Whether a full picture takes too long for a hand that moves the view.
@@ -261,21 +216,6 @@ void FieldCanvas::fitView()
     requestRedraw();
 }
 
-void FieldCanvas::cancelWork()
-{
-    if (m_view.scene().hasWork()) {
-        m_view.scene().cancel();
-        endReport(true);
-        requestRedraw();
-    }
-}
-
-void FieldCanvas::resumeWork()
-{
-    m_view.scene().resume();
-    requestRedraw();
-}
-
 bool FieldCanvas::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
@@ -289,7 +229,7 @@ bool FieldCanvas::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
     case QEvent::Wheel: return handleMouse(event);
-    default: return Canvas::eventFilter(watched, event);
+    default: return SceneCanvas::eventFilter(watched, event);
     }
 }
 

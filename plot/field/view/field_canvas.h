@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "plot/canvas.h"
 #include "plot/field/view/field_view.h"
+#include "plot/scene_canvas.h"
 
 #include <QHash>
 #include <QPointF>
@@ -13,7 +13,7 @@ namespace corvala::plot {
 
 /// Draws field plots of two and three dimensions with OpenGL. Without OpenGL it shows what to
 /// install instead.
-class FieldCanvas : public Canvas
+class FieldCanvas : public SceneCanvas
 {
     Q_OBJECT
 
@@ -23,25 +23,21 @@ public:
 
     QImage render(const QSize& size, QString* error) override;
     QString problem() const override { return m_problem; }
-    bool isBusy() const override { return Canvas::isBusy() || m_hand.isActive(); }
+    bool isBusy() const override { return SceneCanvas::isBusy() || m_hand.isActive(); }
 
-    /// The scene, for tests and diagnosis.
-    FieldScene& scene() { return m_view.scene(); }
+    FieldScene& scene() override { return m_view.scene(); }
     FieldView& view() { return m_view; }
 
 public Q_SLOTS:
     void fitView() override;
-    void cancelWork() override;
-    void resumeWork() override;
 
 protected:
     void frameChanged(CvlUniqueId previous) override;
     void documentChanged(const host::StateEvent& event) override;
-    bool redraw() override;
+    void draw() override;
+    bool canDraw() const override { return m_widget && isVisible(); }
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
 
 private:
     class Overlay;
@@ -49,10 +45,8 @@ private:
 
     void makeWidgets();
     void takePlotType();
-    void draw();
     void drawSamples(int samples);
     bool isSlow() const;
-    void endReport(bool cancelled);
     bool handleMouse(QEvent* event);
     void click(const QPointF& position, bool activate);
 
@@ -68,8 +62,6 @@ private:
     QPointF m_pressedAt;
     bool m_isDoubleClick = false;
     bool m_isDragging = false;
-    int m_slices = 0; ///< of work in a row
-    CvlInt64 m_nextDrawing = 0; ///< pieces of work done when the picture is next refreshed
 };
 
 } // namespace corvala::plot
