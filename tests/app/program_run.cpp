@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QProcess>
 
-namespace corvala::test {
+namespace corvala::tests {
 
 static constexpr int kMostMilliseconds = 120000;
 
@@ -42,4 +42,4 @@ QString writeScript(const QString& folder, const QStringList& lines)
     return path;
 }
 
-} // namespace corvala::test
+} // namespace corvala::tests

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace corvala::test {
+namespace corvala::tests {
 
 /// How a run of the program ended.
 struct ProgramRun
@@ -24,4 +24,4 @@ ProgramRun runProgram(const QStringList& arguments,
 /// Writes a script of these lines into the folder; its path.
 QString writeScript(const QString& folder, const QStringList& lines);
 
-} // namespace corvala::test
+} // namespace corvala::tests

@@ -11,6 +11,7 @@
 #include "play/style_report.h"
 #include "plot/frame_view.h"
 #include "sdk/dialogs_common/qt_dialog_abstract.h"
+#include "tests/support/rows.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -33,7 +34,24 @@
 
 using namespace corvala;
 using namespace corvala::app;
+using corvala::tests::currentRow;
+using corvala::tests::Rows;
 using host::Document;
+
+static host::Frame& frame()
+{
+    return *Document::instance().activeFrame();
+}
+
+static QString sample(const char* file)
+{
+    return QStringLiteral(CORVALA_SAMPLES "/") + QLatin1String(file);
+}
+
+static void write(const host::SetStyle& style)
+{
+    QVERIFY(Document::instance().execute(style).isDone());
+}
 
 class tst_MainWindow : public QObject
 {
@@ -41,24 +59,311 @@ class tst_MainWindow : public QObject
 
 private Q_SLOTS:
     void initTestCase() { qputenv("CORVALA_READ", CORVALA_READ); }
-    void init();
-    void cleanup();
-    void showsTheDocument();
-    void accessKeysAreUnique();
-    void layersAndPlotTypeChangeTheDocument();
-    void layersThatShowNothingSayWhy();
-    void undoIsNamedAndWorksByShortcut();
-    void sliderGoesThroughTheTimes();
-    void doubleClickOnAZoneOpensItsStyle();
-    void dialogBesideThePlotStaysOnTheScreen();
-    void smallScreensHoldBothWindows_data();
-    void smallScreensHoldBothWindows();
-    void waitCursorShowsWhileTheLoopIsHeldUp();
-    void commandsHaveTheirKeysInTheDialogToo();
-    void readsWhileTheWindowLives();
-    void cancelsReading();
-    void failureLeavesTheDocument();
-    void tellsWhatPlot3DWasDetected();
+    void init()
+    {
+        Document::instance().clear();
+        m_window = std::make_unique<MainWindow>();
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    }
+
+    void cleanup() { m_window.reset(); }
+
+    void showsTheDocument()
+    {
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("corvala"));
+        QVERIFY(!layer("ShowMesh").isVisible());
+        m_window->openDemo(QStringLiteral("field2d"));
+        play::waitUntilIdle();
+        QVERIFY(m_window->windowTitle().endsWith(QLatin1String(" - corvala")));
+        QVERIFY(layer("ShowMesh").isVisible() && layer("ShowMesh").isChecked());
+        QVERIFY(!layer("ShowContour").isChecked());
+        QVERIFY(!layer("ShowLines").isVisible());
+        QVERIFY(!m_window->findChild<QSlider*>(QStringLiteral("solutionTime"))->isVisible());
+    }
+
+    void accessKeysAreUnique()
+    {
+        QStringList texts;
+        for (const QAction* menu : m_window->menuBar()->actions())
+            texts << menu->text();
+        for (const QLabel* label : m_window->findChildren<QLabel*>()) {
+            if (label->buddy())
+                texts << label->text();
+        }
+        QSet<QString> keys;
+        for (const QString& text : texts) {
+            const QString key = QKeySequence::mnemonic(text).toString();
+            QVERIFY2(!key.isEmpty() && !keys.contains(key), qPrintable(text));
+            keys << key;
+        }
+    }
+
+    void layersAndPlotTypeChangeTheDocument()
+    {
+        m_window->openDemo(QStringLiteral("field3d"));
+        layer("ShowContour").trigger();
+        QVERIFY(frame().isOn(style::fieldLayers.showContour));
+        auto* types = m_window->findChild<QComboBox*>(QStringLiteral("plotType"));
+        play::waitUntilIdle();
+        QCOMPARE(types->currentText(), QStringLiteral("3D field plot"));
+        types->setFocus();
+        play::pressKey(types, Qt::Key_Up);
+        play::waitUntilIdle();
+        QCOMPARE(frame().plotType(), PlotType_Field2D);
+    }
+
+    /// Each button mends what its note says, and then comes what else there is to say.
+    void layersThatShowNothingSayWhy()
+    {
+        m_window->openFiles({sample("cgns_hexa")});
+        QTRY_VERIFY_WITH_TIMEOUT(button("Draw Surfaces"), 60000);
+        m_window->openDemo(QStringLiteral("field3d"));
+        play::waitUntilIdle();
+        host::NumberSet flat;
+        for (const std::uint32_t map : frame().activeFieldMaps())
+            if (!frame().fieldMaps().hasVolumeZones(map))
+                flat.add(map);
+        QVERIFY(Document::instance().execute(host::DeleteMaps {flat}).isDone());
+        const host::NumberSet maps = frame().activeFieldMaps();
+        for (int group = 1; group <= 8; ++group)
+            write({{"ContourGroups", "Var"}, 0.0, {}, group});
+        write({{"FieldMap", "Contour", "Show"}, false, maps});
+        write({{"ActiveFieldMaps"}, host::NumberSet()});
+        layer("ShowContour").trigger();
+        for (const auto& [text, caption] :
+             {std::pair("No zone is active", "Activate All Zones"),
+              std::pair("no active zone shows it", "Show in All Zones"),
+              std::pair("No zone draws its surfaces", "Draw Surfaces"),
+              std::pair("No variable is chosen", "Choose Variables")}) {
+            QVERIFY2(shownTexts().contains(QLatin1String(text)), qPrintable(shownTexts()));
+            QVERIFY2(button(caption), caption);
+            button(caption)->click();
+            play::waitUntilIdle();
+            QVERIFY2(!button(caption), caption);
+        }
+        QCOMPARE(frame().activeFieldMaps(), maps);
+        QVERIFY(!shownTexts().contains(QLatin1String("layer")));
+
+        layer("ShowContour").trigger();
+        layer("UseLightingEffect").trigger();
+        QVERIFY(button("Show Shade"));
+        button("Show Shade")->click();
+        play::waitUntilIdle();
+        QVERIFY(frame().isOn(style::fieldLayers.showShade) && !button("Show Shade"));
+
+        // A note goes when it is true no longer.
+        write({{"FieldMap", "Mesh", "Show"}, false, maps});
+        layer("ShowMesh").trigger();
+        QVERIFY(!button("Show in All Zones"));
+        layer("ShowMesh").trigger();
+        QVERIFY(button("Show in All Zones"));
+        Document::instance().undo().undo();
+        Document::instance().undo().undo();
+        Document::instance().undo().undo();
+        play::waitUntilIdle();
+        QVERIFY(!button("Show in All Zones"));
+    }
+
+    void undoIsNamedAndWorksByShortcut()
+    {
+        m_window->openDemo(QStringLiteral("field2d"));
+        play::waitUntilIdle();
+        const QAction* edit = m_window->menuBar()->actions().value(1);
+        const QAction* undo = edit->menu()->actions().value(0);
+        QVERIFY(!undo->isEnabled());
+        layer("ShowShade").trigger();
+        play::waitUntilIdle();
+        QVERIFY2(undo->isEnabled() && undo->text().contains(QLatin1String("hade")),
+                 qPrintable(undo->text()));
+        play::pressKeys(m_window.get(), QKeySequence(QKeySequence::Undo));
+        QVERIFY(!frame().isOn(style::fieldLayers.showShade));
+        play::pressKeys(m_window.get(), QKeySequence(QKeySequence::Redo));
+        QVERIFY(frame().isOn(style::fieldLayers.showShade));
+    }
+
+    void sliderGoesThroughTheTimes()
+    {
+        m_window->openDemo(QStringLiteral("transient"));
+        play::waitUntilIdle();
+        auto* slider = m_window->findChild<QSlider*>(QStringLiteral("solutionTime"));
+        QVERIFY(slider->isVisible());
+        QCOMPARE(slider->maximum(), 3);
+        slider->setFocus();
+        play::pressKey(slider, Qt::Key_End);
+        QCOMPARE(frame().solutionTime(), 3.0);
+        play::pressKey(slider, Qt::Key_Left);
+        QCOMPARE(frame().solutionTime(), 2.0);
+        Document::instance().execute(host::SetSolutionTime {1.5});
+        play::waitUntilIdle();
+        QCOMPARE(slider->value(), 1);
+        QCOMPARE(frame().solutionTime(), 1.5);
+    }
+
+    /// The zones of the data lie on a grid that fills the canvas; the middle is between four of
+    /// them.
+    void doubleClickOnAZoneOpensItsStyle()
+    {
+        m_window->openDemo(QStringLiteral("field2d"));
+        play::waitUntilIdle();
+        auto* view = m_window->findChild<plot::FrameView*>();
+        QVERIFY(view);
+        QSignalSpy picks(view, &plot::Canvas::zonePicked);
+        QWidget* target = view->childAt(view->rect().center());
+        play::doubleClick(target, target->rect().center() + QPoint(target->width() / 16, 5));
+        QTRY_VERIFY(!picks.isEmpty() && picks.last().at(1).toBool());
+        const auto zone = picks.last().at(0).toLongLong();
+        QVERIFY(zone > 0);
+        play::waitUntilIdle();
+        const play::DialogDriver driver;
+        QVERIFY(driver.instance() && driver.instance()->isVisible());
+        QCOMPARE(play::selectedMaps(driver), QString::number(zone));
+        QVERIFY2(driver.dialog().x() > m_window->geometry().center().x(), "the plot stays in view");
+    }
+
+    /// It becomes wider with the tabs of the other plot types.
+    void dialogBesideThePlotStaysOnTheScreen()
+    {
+        const QRect screen = m_window->screen()->availableGeometry();
+        m_window->openDemo(QStringLiteral("field2d"));
+        m_window->openStyleDialogBeside();
+        for (const char* demo : {"field2d", "field3d", "xy"}) {
+            m_window->openDemo(QLatin1String(demo));
+            play::waitUntilIdle();
+            const QRect dialog = play::DialogDriver().dialog().frameGeometry();
+            QVERIFY2(screen.contains(dialog), demo);
+            QVERIFY2(!dialog.intersects(m_window->frameGeometry()), demo);
+            auto* bar = m_window->findChild<QToolBar*>(QStringLiteral("plotBar"));
+            QAction& last = layer(frame().isFieldPlot() ? "UseLightingEffect" : "ShowLines");
+            QVERIFY2(bar->widgetForAction(&last)->isVisible(), demo);
+        }
+    }
+
+    void smallScreensHoldBothWindows_data()
+    {
+        const Rows<QSize> row;
+        row("large", {1280, 900});
+        row("small", {1024, 700});
+        row("scaled by two", {800, 500});
+    }
+
+    void smallScreensHoldBothWindows()
+    {
+        const auto [size] = currentRow<QSize>();
+        m_window->openDemo(QStringLiteral("field3d"));
+        m_window->openStyleDialog(corvala::dialogs::common::DialogInitialization_None);
+        play::waitUntilIdle();
+        QWidget& dialog = play::DialogDriver().dialog();
+        const QRect screen(QPoint(10, 20), size);
+        placeSideBySide(*m_window, dialog, screen);
+        play::waitUntilIdle();
+        for (const QWidget* window : {static_cast<QWidget*>(m_window.get()), &dialog})
+            QVERIFY2(screen.contains(window->frameGeometry()),
+                     QTest::toString(window->frameGeometry()));
+        QCOMPARE(dialog.frameGeometry().intersects(m_window->frameGeometry()), size.width() < 1200);
+    }
+
+    void waitCursorShowsWhileTheLoopIsHeldUp()
+    {
+        BusyCursor cursor;
+        play::waitUntilIdle();
+        QVERIFY(!cursor.isShown());
+        for (int i = 0; i < 1000 && !cursor.isShown(); ++i)
+            QThread::msleep(10);
+        QVERIFY(cursor.isShown());
+        QTRY_VERIFY(!cursor.isShown());
+    }
+
+    void commandsHaveTheirKeysInTheDialogToo()
+    {
+        m_window->openDemo(QStringLiteral("kinds"));
+        m_window->openStyleDialog(corvala::dialogs::common::DialogInitialization_None);
+        play::waitUntilIdle();
+        layer("ShowContour").trigger();
+        const play::DialogDriver driver;
+        play::pressKeys(&driver.dialog(), QKeySequence(QKeySequence::Undo));
+        QVERIFY(!frame().isOn(style::fieldLayers.showContour));
+        play::pressKeys(&driver.dialog(), QKeySequence(QKeySequence::Quit));
+        play::waitUntilIdle();
+        QVERIFY(!m_window->isVisible());
+    }
+
+    void readsWhileTheWindowLives()
+    {
+        m_window->openDemo(QStringLiteral("field2d"));
+        play::waitUntilIdle();
+        QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
+        QMimeData dragged;
+        dragged.setUrls({QUrl::fromLocalFile(sample("naca_transient"))});
+        QWidget* canvas = m_window->childAt(m_window->rect().center());
+        QDragEnterEvent enter({}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(canvas, &enter);
+        QDropEvent drop({}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(canvas, &drop);
+        QVERIFY(ended.isEmpty());
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
+        play::waitUntilIdle();
+        QVERIFY(frame().hasData());
+        QVERIFY(m_window->findChild<QSlider*>(QStringLiteral("solutionTime"))->isVisible());
+    }
+
+    void cancelsReading()
+    {
+        m_window->openDemo(QStringLiteral("kinds"));
+        QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
+        m_window->openFiles({sample("naca_transient/naca.bin.case")});
+        QCOMPARE(enabledOpenCommands(), 0);
+        QPushButton* cancel = button("Cancel");
+        QVERIFY(cancel);
+        cancel->click();
+        QTRY_VERIFY(!cancel->isVisible());
+        play::waitUntilIdle();
+        QCOMPARE(ended.size(), 1);
+        QCOMPARE(ended.first().first().toBool(), false);
+        QCOMPARE(enabledOpenCommands(), 6);
+        QCOMPARE(frame().fieldMapCount(), CvlInt64(8));
+        QVERIFY(!QApplication::activeModalWidget());
+    }
+
+    /// Also of a file that was named when the program was started.
+    void failureLeavesTheDocument()
+    {
+        m_window->openDemo(QStringLiteral("kinds"));
+        QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
+        Options options;
+        options.files << QStringLiteral("/nowhere/wing.cgns");
+        startInteractive(*m_window, options);
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        QVERIFY2(box->text().contains(QLatin1String("wing.cgns")), qPrintable(box->text()));
+        box->close();
+        QVERIFY(m_window->isVisible());
+        QCOMPARE(frame().fieldMapCount(), CvlInt64(8));
+    }
+
+    void tellsWhatPlot3DWasDetected()
+    {
+        QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
+        m_window->openFiles({sample("combustor_plot3d/multi-bin.xyz")});
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
+        const QString shown = shownTexts();
+        QVERIFY2(shown.contains(QLatin1String("Detected: binary, several grids")),
+                 qPrintable(shown));
+
+        // Another file that fails in between does not take the place of these data.
+        m_window->openFiles({QStringLiteral("/nowhere/wing.cgns")});
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 2, 60000);
+        QApplication::activeModalWidget()->close();
+        QPushButton* change = button("Change...");
+        QVERIFY(change && change->isEnabled());
+        QTimer::singleShot(0, m_window.get(), [] {
+            qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept();
+        });
+        change->click();
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 3, 60000);
+        QCOMPARE(ended.last().first().toBool(), true);
+    }
 
 private:
     /// Of the commands in the File menu that bring data.
@@ -89,326 +394,6 @@ private:
 
     std::unique_ptr<MainWindow> m_window;
 };
-
-static host::Frame& frame()
-{
-    return *Document::instance().activeFrame();
-}
-
-static QString sample(const char* file)
-{
-    return QStringLiteral(CORVALA_SAMPLES "/") + QLatin1String(file);
-}
-
-void tst_MainWindow::init()
-{
-    Document::instance().clear();
-    m_window = std::make_unique<MainWindow>();
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-}
-
-void tst_MainWindow::cleanup()
-{
-    m_window.reset();
-}
-
-void tst_MainWindow::showsTheDocument()
-{
-    QCOMPARE(m_window->windowTitle(), QStringLiteral("corvala"));
-    QVERIFY(!layer("ShowMesh").isVisible());
-    m_window->openDemo(QStringLiteral("field2d"));
-    play::waitUntilIdle();
-    QVERIFY(m_window->windowTitle().endsWith(QLatin1String(" - corvala")));
-    QVERIFY(layer("ShowMesh").isVisible() && layer("ShowMesh").isChecked());
-    QVERIFY(!layer("ShowContour").isChecked());
-    QVERIFY(!layer("ShowLines").isVisible());
-    QVERIFY(!m_window->findChild<QSlider*>(QStringLiteral("solutionTime"))->isVisible());
-}
-
-void tst_MainWindow::accessKeysAreUnique()
-{
-    QStringList texts;
-    for (const QAction* menu : m_window->menuBar()->actions())
-        texts << menu->text();
-    for (const QLabel* label : m_window->findChildren<QLabel*>()) {
-        if (label->buddy())
-            texts << label->text();
-    }
-    QSet<QString> keys;
-    for (const QString& text : texts) {
-        const QString key = QKeySequence::mnemonic(text).toString();
-        QVERIFY2(!key.isEmpty() && !keys.contains(key), qPrintable(text));
-        keys << key;
-    }
-}
-
-void tst_MainWindow::layersAndPlotTypeChangeTheDocument()
-{
-    m_window->openDemo(QStringLiteral("field3d"));
-    layer("ShowContour").trigger();
-    QVERIFY(frame().isOn(style::fieldLayers.showContour));
-    auto* types = m_window->findChild<QComboBox*>(QStringLiteral("plotType"));
-    play::waitUntilIdle();
-    QCOMPARE(types->currentText(), QStringLiteral("3D field plot"));
-    types->setFocus();
-    play::pressKey(types, Qt::Key_Up);
-    play::waitUntilIdle();
-    QCOMPARE(frame().plotType(), PlotType_Field2D);
-}
-
-static void write(const host::SetStyle& style)
-{
-    QVERIFY(Document::instance().execute(style).isDone());
-}
-
-/// Each button mends what its note says, and then comes what else there is to say.
-void tst_MainWindow::layersThatShowNothingSayWhy()
-{
-    m_window->openFiles({sample("cgns_hexa")});
-    QTRY_VERIFY_WITH_TIMEOUT(button("Draw Surfaces"), 60000);
-    m_window->openDemo(QStringLiteral("field3d"));
-    play::waitUntilIdle();
-    host::NumberSet flat;
-    for (const std::uint32_t map : frame().activeFieldMaps())
-        if (!frame().fieldMaps().hasVolumeZones(map))
-            flat.add(map);
-    QVERIFY(Document::instance().execute(host::DeleteMaps {flat}).isDone());
-    const host::NumberSet maps = frame().activeFieldMaps();
-    for (int group = 1; group <= 8; ++group)
-        write({{"ContourGroups", "Var"}, 0.0, {}, group});
-    write({{"FieldMap", "Contour", "Show"}, false, maps});
-    write({{"ActiveFieldMaps"}, host::NumberSet()});
-    layer("ShowContour").trigger();
-    for (const auto& [text, caption] : {std::pair("No zone is active", "Activate All Zones"),
-                                        std::pair("no active zone shows it", "Show in All Zones"),
-                                        std::pair("No zone draws its surfaces", "Draw Surfaces"),
-                                        std::pair("No variable is chosen", "Choose Variables")}) {
-        QVERIFY2(shownTexts().contains(QLatin1String(text)), qPrintable(shownTexts()));
-        QVERIFY2(button(caption), caption);
-        button(caption)->click();
-        play::waitUntilIdle();
-        QVERIFY2(!button(caption), caption);
-    }
-    QCOMPARE(frame().activeFieldMaps(), maps);
-    QVERIFY(!shownTexts().contains(QLatin1String("layer")));
-
-    layer("ShowContour").trigger();
-    layer("UseLightingEffect").trigger();
-    QVERIFY(button("Show Shade"));
-    button("Show Shade")->click();
-    play::waitUntilIdle();
-    QVERIFY(frame().isOn(style::fieldLayers.showShade) && !button("Show Shade"));
-
-    // A note goes when it is true no longer.
-    write({{"FieldMap", "Mesh", "Show"}, false, maps});
-    layer("ShowMesh").trigger();
-    QVERIFY(!button("Show in All Zones"));
-    layer("ShowMesh").trigger();
-    QVERIFY(button("Show in All Zones"));
-    Document::instance().undo().undo();
-    Document::instance().undo().undo();
-    Document::instance().undo().undo();
-    play::waitUntilIdle();
-    QVERIFY(!button("Show in All Zones"));
-}
-
-void tst_MainWindow::undoIsNamedAndWorksByShortcut()
-{
-    m_window->openDemo(QStringLiteral("field2d"));
-    play::waitUntilIdle();
-    const QAction* edit = m_window->menuBar()->actions().value(1);
-    const QAction* undo = edit->menu()->actions().value(0);
-    QVERIFY(!undo->isEnabled());
-    layer("ShowShade").trigger();
-    play::waitUntilIdle();
-    QVERIFY2(undo->isEnabled() && undo->text().contains(QLatin1String("hade")),
-             qPrintable(undo->text()));
-    play::pressKeys(m_window.get(), QKeySequence(QKeySequence::Undo));
-    QVERIFY(!frame().isOn(style::fieldLayers.showShade));
-    play::pressKeys(m_window.get(), QKeySequence(QKeySequence::Redo));
-    QVERIFY(frame().isOn(style::fieldLayers.showShade));
-}
-
-void tst_MainWindow::sliderGoesThroughTheTimes()
-{
-    m_window->openDemo(QStringLiteral("transient"));
-    play::waitUntilIdle();
-    auto* slider = m_window->findChild<QSlider*>(QStringLiteral("solutionTime"));
-    QVERIFY(slider->isVisible());
-    QCOMPARE(slider->maximum(), 3);
-    slider->setFocus();
-    play::pressKey(slider, Qt::Key_End);
-    QCOMPARE(frame().solutionTime(), 3.0);
-    play::pressKey(slider, Qt::Key_Left);
-    QCOMPARE(frame().solutionTime(), 2.0);
-    Document::instance().execute(host::SetSolutionTime {1.5});
-    play::waitUntilIdle();
-    QCOMPARE(slider->value(), 1);
-    QCOMPARE(frame().solutionTime(), 1.5);
-}
-
-/// The zones of the data lie on a grid that fills the canvas; the middle is between four of them.
-void tst_MainWindow::doubleClickOnAZoneOpensItsStyle()
-{
-    m_window->openDemo(QStringLiteral("field2d"));
-    play::waitUntilIdle();
-    auto* view = m_window->findChild<plot::FrameView*>();
-    QVERIFY(view);
-    QSignalSpy picks(view, &plot::Canvas::zonePicked);
-    QWidget* target = view->childAt(view->rect().center());
-    play::doubleClick(target, target->rect().center() + QPoint(target->width() / 16, 5));
-    QTRY_VERIFY(!picks.isEmpty() && picks.last().at(1).toBool());
-    const auto zone = picks.last().at(0).toLongLong();
-    QVERIFY(zone > 0);
-    play::waitUntilIdle();
-    const play::DialogDriver driver;
-    QVERIFY(driver.instance() && driver.instance()->isVisible());
-    QCOMPARE(play::selectedMaps(driver), QString::number(zone));
-    QVERIFY2(driver.dialog().x() > m_window->geometry().center().x(), "the plot stays in view");
-}
-
-/// It becomes wider with the tabs of the other plot types.
-void tst_MainWindow::dialogBesideThePlotStaysOnTheScreen()
-{
-    const QRect screen = m_window->screen()->availableGeometry();
-    m_window->openDemo(QStringLiteral("field2d"));
-    m_window->openStyleDialogBeside();
-    for (const char* demo : {"field2d", "field3d", "xy"}) {
-        m_window->openDemo(QLatin1String(demo));
-        play::waitUntilIdle();
-        const QRect dialog = play::DialogDriver().dialog().frameGeometry();
-        QVERIFY2(screen.contains(dialog), demo);
-        QVERIFY2(!dialog.intersects(m_window->frameGeometry()), demo);
-        auto* bar = m_window->findChild<QToolBar*>(QStringLiteral("plotBar"));
-        QAction& last = layer(frame().isFieldPlot() ? "UseLightingEffect" : "ShowLines");
-        QVERIFY2(bar->widgetForAction(&last)->isVisible(), demo);
-    }
-}
-
-void tst_MainWindow::smallScreensHoldBothWindows_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("large") << QSize(1280, 900);
-    QTest::newRow("small") << QSize(1024, 700);
-    QTest::newRow("scaled by two") << QSize(800, 500);
-}
-
-void tst_MainWindow::smallScreensHoldBothWindows()
-{
-    QFETCH(QSize, size);
-    m_window->openDemo(QStringLiteral("field3d"));
-    m_window->openStyleDialog(corvala::dialogs::common::DialogInitialization_None);
-    play::waitUntilIdle();
-    QWidget& dialog = play::DialogDriver().dialog();
-    const QRect screen(QPoint(10, 20), size);
-    placeSideBySide(*m_window, dialog, screen);
-    play::waitUntilIdle();
-    for (const QWidget* window : {static_cast<QWidget*>(m_window.get()), &dialog})
-        QVERIFY2(screen.contains(window->frameGeometry()),
-                 QTest::toString(window->frameGeometry()));
-    QCOMPARE(dialog.frameGeometry().intersects(m_window->frameGeometry()), size.width() < 1200);
-}
-
-void tst_MainWindow::waitCursorShowsWhileTheLoopIsHeldUp()
-{
-    BusyCursor cursor;
-    play::waitUntilIdle();
-    QVERIFY(!cursor.isShown());
-    for (int i = 0; i < 1000 && !cursor.isShown(); ++i)
-        QThread::msleep(10);
-    QVERIFY(cursor.isShown());
-    QTRY_VERIFY(!cursor.isShown());
-}
-
-void tst_MainWindow::commandsHaveTheirKeysInTheDialogToo()
-{
-    m_window->openDemo(QStringLiteral("kinds"));
-    m_window->openStyleDialog(corvala::dialogs::common::DialogInitialization_None);
-    play::waitUntilIdle();
-    layer("ShowContour").trigger();
-    const play::DialogDriver driver;
-    play::pressKeys(&driver.dialog(), QKeySequence(QKeySequence::Undo));
-    QVERIFY(!frame().isOn(style::fieldLayers.showContour));
-    play::pressKeys(&driver.dialog(), QKeySequence(QKeySequence::Quit));
-    play::waitUntilIdle();
-    QVERIFY(!m_window->isVisible());
-}
-
-void tst_MainWindow::readsWhileTheWindowLives()
-{
-    m_window->openDemo(QStringLiteral("field2d"));
-    play::waitUntilIdle();
-    QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
-    QMimeData dragged;
-    dragged.setUrls({QUrl::fromLocalFile(sample("naca_transient"))});
-    QWidget* canvas = m_window->childAt(m_window->rect().center());
-    QDragEnterEvent enter({}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(canvas, &enter);
-    QDropEvent drop({}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(canvas, &drop);
-    QVERIFY(ended.isEmpty());
-    QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
-    play::waitUntilIdle();
-    QVERIFY(frame().hasData());
-    QVERIFY(m_window->findChild<QSlider*>(QStringLiteral("solutionTime"))->isVisible());
-}
-
-void tst_MainWindow::cancelsReading()
-{
-    m_window->openDemo(QStringLiteral("kinds"));
-    QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
-    m_window->openFiles({sample("naca_transient/naca.bin.case")});
-    QCOMPARE(enabledOpenCommands(), 0);
-    QPushButton* cancel = button("Cancel");
-    QVERIFY(cancel);
-    cancel->click();
-    QTRY_VERIFY(!cancel->isVisible());
-    play::waitUntilIdle();
-    QCOMPARE(ended.size(), 1);
-    QCOMPARE(ended.first().first().toBool(), false);
-    QCOMPARE(enabledOpenCommands(), 6);
-    QCOMPARE(frame().fieldMapCount(), CvlInt64(8));
-    QVERIFY(!QApplication::activeModalWidget());
-}
-
-/// Also of a file that was named when the program was started.
-void tst_MainWindow::failureLeavesTheDocument()
-{
-    m_window->openDemo(QStringLiteral("kinds"));
-    QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
-    Options options;
-    options.files << QStringLiteral("/nowhere/wing.cgns");
-    startInteractive(*m_window, options);
-    QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    QVERIFY(box);
-    QVERIFY2(box->text().contains(QLatin1String("wing.cgns")), qPrintable(box->text()));
-    box->close();
-    QVERIFY(m_window->isVisible());
-    QCOMPARE(frame().fieldMapCount(), CvlInt64(8));
-}
-
-void tst_MainWindow::tellsWhatPlot3DWasDetected()
-{
-    QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
-    m_window->openFiles({sample("combustor_plot3d/multi-bin.xyz")});
-    QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
-    const QString shown = shownTexts();
-    QVERIFY2(shown.contains(QLatin1String("Detected: binary, several grids")), qPrintable(shown));
-
-    // Another file that fails in between does not take the place of these data.
-    m_window->openFiles({QStringLiteral("/nowhere/wing.cgns")});
-    QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 2, 60000);
-    QApplication::activeModalWidget()->close();
-    QPushButton* change = button("Change...");
-    QVERIFY(change && change->isEnabled());
-    QTimer::singleShot(0, m_window.get(),
-                       [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->accept(); });
-    change->click();
-    QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 3, 60000);
-    QCOMPARE(ended.last().first().toBool(), true);
-}
 
 QTEST_MAIN(tst_MainWindow)
 #include "tst_main_window.moc"

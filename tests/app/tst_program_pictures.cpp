@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/private_x_server.h"
 #include "tests/app/program_run.h"
+#include "tests/support/rows.h"
 
 #include <QFile>
 #include <QImage>
@@ -9,22 +10,7 @@
 
 #include <set>
 
-using namespace corvala::test;
-
-class tst_ProgramPictures : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void drawsWithoutAScreen_data();
-    void drawsWithoutAScreen();
-    void aScriptChangesThePicture();
-    void namesTheMissingPackage();
-    void endsItsServer();
-
-private:
-    QTemporaryDir m_folder;
-};
+using namespace corvala::tests;
 
 static int colorsOf(const QImage& image)
 {
@@ -36,64 +22,73 @@ static int colorsOf(const QImage& image)
     return static_cast<int>(colors.size());
 }
 
-void tst_ProgramPictures::drawsWithoutAScreen_data()
+class tst_ProgramPictures : public QObject
 {
-    QTest::addColumn<QStringList>("data");
+    Q_OBJECT
 
-    QTest::newRow("field plot") << QStringList {"--demo", "field3d"};
-    QTest::newRow("line plot") << QStringList {"--demo", "xy"};
-    QTest::newRow("real data") << QStringList {
-        QStringLiteral(CORVALA_SAMPLES "/cgns_hexa/cgnslib_vers-4400.cgns")};
-}
-
-void tst_ProgramPictures::drawsWithoutAScreen()
-{
-    QFETCH(QStringList, data);
-    const QString file = m_folder.filePath(QStringLiteral("plot.png"));
-    const ProgramRun run = runProgram(QStringList {"--render", file} + data);
-    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
-    const QImage image(file);
-    QVERIFY(!image.isNull());
-    QVERIFY2(colorsOf(image) > 3, "the picture is not empty");
-}
-
-void tst_ProgramPictures::aScriptChangesThePicture()
-{
-    const QString plain = m_folder.filePath(QStringLiteral("plain.png"));
-    const QString styled = m_folder.filePath(QStringLiteral("styled.png"));
-    const QString script = writeScript(m_folder.path(),
-                                       {R"({"dialog": "open"})", R"({"select": "all"})",
-                                        R"({"menu": 1, "column": "Mesh\nColor", "color": 2})"});
-    QCOMPARE(runProgram({"--demo", "field2d", "--render", plain}).exitCode, 0);
-    const ProgramRun run = runProgram({"--demo", "field2d", "--play", script, "--render", styled});
-    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
-    QVERIFY(QImage(plain) != QImage(styled));
-    QCOMPARE(QImage(plain).size(), QImage(styled).size());
-}
-
-void tst_ProgramPictures::namesTheMissingPackage()
-{
-    QProcessEnvironment environment = environmentWithoutDisplay();
-    environment.insert(QStringLiteral("PATH"), m_folder.path());
-    const QString file = m_folder.filePath(QStringLiteral("none.png"));
-    const ProgramRun run = runProgram({"--demo", "--render", file}, environment);
-    QCOMPARE(run.exitCode, 1);
-    QVERIFY2(run.errors.contains(QLatin1String("install the package xvfb")),
-             qPrintable(run.errors));
-    QVERIFY(!QFile::exists(file));
-}
-
-void tst_ProgramPictures::endsItsServer()
-{
-    QString socket;
+private Q_SLOTS:
+    void drawsWithoutAScreen_data()
     {
-        corvala::app::PrivateXServer server;
-        QCOMPARE(server.launch(), QString());
-        socket = QStringLiteral("/tmp/.X11-unix/X") + server.display().mid(1);
-        QVERIFY2(QFile::exists(socket), qPrintable(server.display()));
+        const Rows<QStringList> row;
+
+        row("field plot", {"--demo", "field3d"});
+        row("line plot", {"--demo", "xy"});
+        row("real data", {QStringLiteral(CORVALA_SAMPLES "/cgns_hexa/cgnslib_vers-4400.cgns")});
     }
-    QVERIFY(!QFile::exists(socket));
-}
+
+    void drawsWithoutAScreen()
+    {
+        const auto [data] = currentRow<QStringList>();
+        const QString file = m_folder.filePath(QStringLiteral("plot.png"));
+        const ProgramRun run = runProgram(QStringList {"--render", file} + data);
+        QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+        const QImage image(file);
+        QVERIFY(!image.isNull());
+        QVERIFY2(colorsOf(image) > 3, "the picture is not empty");
+    }
+
+    void aScriptChangesThePicture()
+    {
+        const QString plain = m_folder.filePath(QStringLiteral("plain.png"));
+        const QString styled = m_folder.filePath(QStringLiteral("styled.png"));
+        const QString script = writeScript(m_folder.path(),
+                                           {R"({"dialog": "open"})", R"({"select": "all"})",
+                                            R"({"menu": 1, "column": "Mesh\nColor", "color": 2})"});
+        QCOMPARE(runProgram({"--demo", "field2d", "--render", plain}).exitCode, 0);
+        const ProgramRun run =
+            runProgram({"--demo", "field2d", "--play", script, "--render", styled});
+        QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+        QVERIFY(QImage(plain) != QImage(styled));
+        QCOMPARE(QImage(plain).size(), QImage(styled).size());
+    }
+
+    void namesTheMissingPackage()
+    {
+        QProcessEnvironment environment = environmentWithoutDisplay();
+        environment.insert(QStringLiteral("PATH"), m_folder.path());
+        const QString file = m_folder.filePath(QStringLiteral("none.png"));
+        const ProgramRun run = runProgram({"--demo", "--render", file}, environment);
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.errors.contains(QLatin1String("install the package xvfb")),
+                 qPrintable(run.errors));
+        QVERIFY(!QFile::exists(file));
+    }
+
+    void endsItsServer()
+    {
+        QString socket;
+        {
+            corvala::app::PrivateXServer server;
+            QCOMPARE(server.launch(), QString());
+            socket = QStringLiteral("/tmp/.X11-unix/X") + server.display().mid(1);
+            QVERIFY2(QFile::exists(socket), qPrintable(server.display()));
+        }
+        QVERIFY(!QFile::exists(socket));
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
 
 QTEST_GUILESS_MAIN(tst_ProgramPictures)
 #include "tst_program_pictures.moc"

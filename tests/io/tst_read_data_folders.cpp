@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "tests/io/io_support.h"
+#include "tests/support/rows.h"
 
 #include <QRegularExpression>
 
 using namespace corvala::host;
 using namespace corvala::host::io;
+using corvala::tests::currentRow;
+using corvala::tests::Rows;
 
 /// One file as the table in an ORIGIN.md has it.
 struct Listing
@@ -24,8 +27,6 @@ struct Listing
     QVector<Totals> times;
     QStringList rows; ///< "points cells I x J x K" of the zones listed
 };
-
-Q_DECLARE_METATYPE(Listing)
 
 static QVector<Listing> listingsOf(const QString& origin)
 {
@@ -79,16 +80,16 @@ private Q_SLOTS:
 
     void asListed_data()
     {
-        QTest::addColumn<Listing>("listing");
+        const Rows<Listing> row;
         for (const QString& origin : origins())
             for (const Listing& listing : listingsOf(origin))
                 if (listing.points > 0)
-                    QTest::newRow(qPrintable(QFileInfo(listing.file).fileName())) << listing;
+                    row(qPrintable(QFileInfo(listing.file).fileName()), listing);
     }
 
     void asListed()
     {
-        QFETCH(Listing, listing);
+        const auto [listing] = currentRow<Listing>();
         const ReadResult result = read({listing.file});
         QVERIFY2(result.data, qPrintable(result.error));
         const DataSet& data = *result.data;
@@ -114,21 +115,21 @@ private Q_SLOTS:
 
     void everythingElse_data()
     {
-        QTest::addColumn<QString>("file");
+        const Rows<QString> row;
         for (const QString& origin : origins()) {
             QDirIterator files(QFileInfo(origin).path(), QDir::Files);
             while (files.hasNext()) {
                 const QString path = files.next();
                 if (QStringList {"pvd", "case", "vtm", "foam", "p3d"}.contains(
                         QFileInfo(path).suffix()))
-                    QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path;
+                    row(qPrintable(QFileInfo(path).fileName()), path);
             }
         }
     }
 
     void everythingElse()
     {
-        QFETCH(QString, file);
+        const auto [file] = currentRow<QString>();
         const ReadResult result = read({file});
         QVERIFY2(result.data, qPrintable(result.error));
         for (std::int64_t zone = 1; zone <= result.data->zoneCount(); ++zone)

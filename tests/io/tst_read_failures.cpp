@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "tests/io/io_support.h"
+#include "tests/support/rows.h"
 
 #include <QEventLoop>
 #include <QSignalSpy>
@@ -18,6 +19,8 @@
 
 using namespace corvala::host;
 using namespace corvala::host::io;
+using corvala::tests::currentRow;
+using corvala::tests::Rows;
 
 static constexpr char kLegacy[] = "# vtk DataFile Version 3.0\ntitle\nASCII\n";
 
@@ -78,149 +81,123 @@ private Q_SLOTS:
 
     void badFiles_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("reason");
+        const Rows<QString, QByteArray, QString> row;
         const QByteArray claim = "<VTKFile type=\"ImageData\"><ImageData WholeExtent=\"0 99999 0 "
                                  "99999 0 99999\" Origin=\"0 0 0\" Spacing=\"1 1 1\"><Piece "
                                  "Extent=\"0 99999 0 99999 0 99999\"><PointData>";
         const QByteArray end = "</PointData></Piece></ImageData></VTKFile>";
-        QTest::newRow("empty") << "a.vtu" << QByteArray() << "it is empty";
-        QTest::newRow("unknown ending") << "a.docx" << QByteArray("x") << "\"docx\" are not known";
-        QTest::newRow("no ending") << "a" << QByteArray("x") << "are not known";
-        QTest::newRow("not XML") << "a.vtu" << QByteArray("hello") << "no VTK XML file";
-        QTest::newRow("other XML") << "a.vtu" << QByteArray("<html></html>") << "no VTK XML file";
-        QTest::newRow("collection as grid")
-            << "a.vtu" << QByteArray("<VTKFile type=\"Collection\"/>") << "no VTK XML file";
-        QTest::newRow("XML ends early") << "a.vti" << claim.left(80) << "a.vti";
-        QTest::newRow("claims too many values")
-            << "a.vti"
-            << claim + "<DataArray type=\"Float64\" Name=\"p\" format=\"ascii\">1</DataArray>" + end
-            << "memory";
-        QTest::newRow("claims too many points") << "a.vti" << claim + end << "memory";
-        QTest::newRow("array without a name")
-            << "a.vti"
-            << QByteArray(
-                   "<VTKFile type=\"ImageData\"><ImageData WholeExtent=\"0 1 0 0 0 0\"><Piece "
-                   "Extent=\"0 1 0 0 0 0\"><PointData><DataArray type=\"Float32\" "
-                   "format=\"ascii\">1 2</DataArray>")
-                + end
-            << "it, or a file that it names, is cut off or damaged";
-        QTest::newRow("values after the XML end early")
-            << "a.vti"
-            << QByteArray(
-                   "<VTKFile type=\"ImageData\" byte_order=\"LittleEndian\" "
-                   "header_type=\"UInt64\"><ImageData WholeExtent=\"0 3 0 0 0 0\"><Piece "
-                   "Extent=\"0 3 0 0 0 0\"><PointData><DataArray type=\"Float64\" Name=\"p\" "
-                   "format=\"appended\" offset=\"0\"/></PointData></Piece></ImageData>"
-                   "<AppendedData encoding=\"raw\">_")
-                + QByteArray("\x20\0\0\0\0\0\0\0", 8) + QByteArray(20, '\1')
-            << "a.vti could not be read: it is cut off";
-        QTest::newRow("legacy without the first line")
-            << "a.vtk" << QByteArray("DATASET POLYDATA") << "# vtk DataFile";
-        QTest::newRow("UTF-16") << "a.vtk" << QByteArray("\xff\xfe#\0 \0v\0t\0k\0", 12)
-                                << "# vtk DataFile";
-        QTest::newRow("legacy without geometry")
-            << "a.vtk" << QByteArray(kLegacy) + "POINT_DATA 1\nSCALARS a float\n"
-            << "no geometry";
-        QTest::newRow("legacy ends in the points")
-            << "a.vtk" << QByteArray(kLegacy) + "DATASET POLYDATA\nPOINTS 9 float\n0 0 0 1 1"
-            << "a.vtk";
-        QTest::newRow("legacy ends in the values") << "a.vtk"
-                                                   << QByteArray(kLegacy)
+        row("empty", "a.vtu", {}, "it is empty");
+        row("unknown ending", "a.docx", "x", "\"docx\" are not known");
+        row("no ending", "a", "x", "are not known");
+        row("not XML", "a.vtu", "hello", "no VTK XML file");
+        row("other XML", "a.vtu", "<html></html>", "no VTK XML file");
+        row("collection as grid", "a.vtu", "<VTKFile type=\"Collection\"/>", "no VTK XML file");
+        row("XML ends early", "a.vti", claim.left(80), "a.vti");
+        row("claims too many values", "a.vti",
+            claim + "<DataArray type=\"Float64\" Name=\"p\" format=\"ascii\">1</DataArray>" + end,
+            "memory");
+        row("claims too many points", "a.vti", claim + end, "memory");
+        row("array without a name", "a.vti",
+            QByteArray("<VTKFile type=\"ImageData\"><ImageData WholeExtent=\"0 1 0 0 0 0\"><Piece "
+                       "Extent=\"0 1 0 0 0 0\"><PointData><DataArray type=\"Float32\" "
+                       "format=\"ascii\">1 2</DataArray>")
+                + end,
+            "it, or a file that it names, is cut off or damaged");
+        row("values after the XML end early", "a.vti",
+            QByteArray("<VTKFile type=\"ImageData\" byte_order=\"LittleEndian\" "
+                       "header_type=\"UInt64\"><ImageData WholeExtent=\"0 3 0 0 0 0\"><Piece "
+                       "Extent=\"0 3 0 0 0 0\"><PointData><DataArray type=\"Float64\" Name=\"p\" "
+                       "format=\"appended\" offset=\"0\"/></PointData></Piece></ImageData>"
+                       "<AppendedData encoding=\"raw\">_")
+                + QByteArray("\x20\0\0\0\0\0\0\0", 8) + QByteArray(20, '\1'),
+            "a.vti could not be read: it is cut off");
+        row("legacy without the first line", "a.vtk", "DATASET POLYDATA", "# vtk DataFile");
+        row("UTF-16", "a.vtk", QByteArray("\xff\xfe#\0 \0v\0t\0k\0", 12), "# vtk DataFile");
+        row("legacy without geometry", "a.vtk",
+            QByteArray(kLegacy) + "POINT_DATA 1\nSCALARS a float\n", "no geometry");
+        row("legacy ends in the points", "a.vtk",
+            QByteArray(kLegacy) + "DATASET POLYDATA\nPOINTS 9 float\n0 0 0 1 1", "a.vtk");
+        row("legacy ends in the values", "a.vtk",
+            QByteArray(kLegacy)
                 + "DATASET STRUCTURED_POINTS\nDIMENSIONS 2 2 2\nORIGIN 0 0 0\nSPACING 1 1 1\n"
-                  "POINT_DATA 8\nSCALARS p float\nLOOKUP_TABLE default\n1 2 3"
-                                                   << "a.vtk";
-        QTest::newRow("legacy without points")
-            << "a.vtk" << QByteArray(kLegacy) + "DATASET POLYDATA\nPOINTS 0 float\n"
-            << "no zones with points";
-        QTest::newRow("legacy table")
-            << "a.vtk"
-            << QByteArray(kLegacy) + "DATASET TABLE\nROW_DATA 1\nFIELD f 1\np 1 1 float\n1\n"
-            << "no zones with points";
-        QTest::newRow("corner that does not exist") << "a.vtk"
-                                                    << QByteArray(kLegacy)
+                  "POINT_DATA 8\nSCALARS p float\nLOOKUP_TABLE default\n1 2 3",
+            "a.vtk");
+        row("legacy without points", "a.vtk",
+            QByteArray(kLegacy) + "DATASET POLYDATA\nPOINTS 0 float\n", "no zones with points");
+        row("legacy table", "a.vtk",
+            QByteArray(kLegacy) + "DATASET TABLE\nROW_DATA 1\nFIELD f 1\np 1 1 float\n1\n",
+            "no zones with points");
+        row("corner that does not exist", "a.vtk",
+            QByteArray(kLegacy)
                 + "DATASET POLYDATA\nPOINTS 2 float\n0 0 0 1 1 1\n"
-                  "POLYGONS 1 4\n3 0 1 2\n"
-                                                    << "points do not exist";
-        QTest::newRow("negative corner") << "a.vtk"
-                                         << QByteArray(kLegacy)
+                  "POLYGONS 1 4\n3 0 1 2\n",
+            "points do not exist");
+        row("negative corner", "a.vtk",
+            QByteArray(kLegacy)
                 + "DATASET POLYDATA\nPOINTS 2 float\n0 0 0 1 1 1\n"
-                  "LINES 1 3\n2 0 -1\n"
-                                         << "points do not exist";
+                  "LINES 1 3\n2 0 -1\n",
+            "points do not exist");
         const QByteArray grid = QByteArray(kLegacy)
             + "DATASET UNSTRUCTURED_GRID\nPOINTS 4 float\n0 0 0 1 0 0 0 1 0 0 0 1\n";
-        QTest::newRow("tetrahedron of three corners")
-            << "a.vtk" << grid + "CELLS 1 4\n3 0 1 2\nCELL_TYPES 1\n10\n"
-            << "unknown kind";
-        QTest::newRow("unknown cell") << "a.vtk" << grid + "CELLS 1 4\n3 0 1 2\nCELL_TYPES 1\n99\n"
-                                      << "unknown kind";
-        QTest::newRow("polyhedron with a face outside")
-            << "a.vtk" << grid + "CELLS 1 14\n13 3 3 0 1 2 3 0 1 3 3 1 2 9\nCELL_TYPES 1\n42\n"
-            << "points do not exist";
-        QTest::newRow("grid with too few points") << "a.vtk"
-                                                  << QByteArray(kLegacy)
-                + "DATASET STRUCTURED_GRID\nDIMENSIONS 3 1 1\nPOINTS 2 float\n0 1 2 3 4 5\n"
-                                                  << "coordinates are missing";
-        QTest::newRow("axis with too few coordinates") << "a.vtk"
-                                                       << QByteArray(kLegacy)
+        row("tetrahedron of three corners", "a.vtk",
+            grid + "CELLS 1 4\n3 0 1 2\nCELL_TYPES 1\n10\n", "unknown kind");
+        row("unknown cell", "a.vtk", grid + "CELLS 1 4\n3 0 1 2\nCELL_TYPES 1\n99\n",
+            "unknown kind");
+        row("polyhedron with a face outside", "a.vtk",
+            grid + "CELLS 1 14\n13 3 3 0 1 2 3 0 1 3 3 1 2 9\nCELL_TYPES 1\n42\n",
+            "points do not exist");
+        row("grid with too few points", "a.vtk",
+            QByteArray(kLegacy)
+                + "DATASET STRUCTURED_GRID\nDIMENSIONS 3 1 1\nPOINTS 2 float\n0 1 2 3 4 5\n",
+            "coordinates are missing");
+        row("axis with too few coordinates", "a.vtk",
+            QByteArray(kLegacy)
                 + "DATASET RECTILINEAR_GRID\nDIMENSIONS 3 1 1\nX_COORDINATES 2 float\n0 1\n"
-                  "Y_COORDINATES 1 float\n0\nZ_COORDINATES 1 float\n0\n"
-                                                       << "coordinates are missing";
-        QTest::newRow("collection of nothing")
-            << "a.pvd" << QByteArray("<VTKFile type=\"Collection\"><Collection/></VTKFile>")
-            << "lists files";
-        QTest::newRow("collection with a fault")
-            << "a.pvd" << QByteArray("<VTKFile>\n<Collection>\n<DataSet></VTKFile>") << "line 3";
-        QTest::newRow("collection with a bad time")
-            << "a.pvd"
-            << QByteArray(
-                   "<VTKFile><Collection><DataSet timestep='soon' file='b.vtp'/></Collection>"
-                   "</VTKFile>")
-            << "\"soon\"";
-        QTest::newRow("collection of a file without a name")
-            << "a.pvd"
-            << QByteArray("<VTKFile><Collection>\n<DataSet timestep='1'/></Collection></VTKFile>")
-            << "line 2: the entry names no file";
-        QTest::newRow("collection of missing files")
-            << "a.pvd"
-            << QByteArray("<VTKFile><Collection><DataSet file='b.vtp'/></Collection></VTKFile>")
-            << "b.vtp could not be read: there is no such file";
-        QTest::newRow("collection that leads elsewhere")
-            << "a.pvd"
-            << QByteArray("<VTKFile><Collection><DataSet file='../../../../../etc/passwd'/>"
-                          "</Collection></VTKFile>")
-            << "/etc/passwd could not be read: ";
-        QTest::newRow("tree of missing files")
-            << "a.vtm"
-            << QByteArray("<VTKFile type=\"vtkMultiBlockDataSet\" version=\"1.0\">"
-                          "<vtkMultiBlockDataSet><DataSet index=\"0\" file=\"b.vtp\"/>"
-                          "</vtkMultiBlockDataSet></VTKFile>")
-            << "a.vtm";
-        QTest::newRow("not CGNS") << "a.cgns" << QByteArray(5000, 'x') << "a.cgns";
-        QTest::newRow("not EnSight") << "a.case" << QByteArray("x") << "no EnSight case file";
-        QTest::newRow("EnSight without files")
-            << "a.case" << QByteArray("FORMAT\ntype: ensight gold\nGEOMETRY\nmodel: \"b c.geo\"\n")
-            << "b c.geo could not be read: there is no such file";
-        QTest::newRow("netCDF that is cut off")
-            << "a.exo" << netcdf() + QByteArray(40, '\1') << "cut off: 120 of 144 bytes";
-        QTest::newRow("netCDF with half a header")
-            << "a.exo" << netcdf().left(50) << "its header is cut off";
-        QTest::newRow("netCDF that is not Exodus")
-            << "a.exo" << netcdf() + QByteArray(64, '\1') << "a.exo could not be read: ";
-        QTest::newRow("marker without a case") << "a.foam" << QByteArray() << "a.foam";
-        QTest::newRow("Plot3D that would fill the disk")
-            << "a.xyz"
-            << "1000000 1000000 3" + QByteArray(" 1000000000*0").repeated(9000)
-            << "9000000000003 numbers";
-        QTest::newRow("Plot3D with words") << "a.xyz" << QByteArray("1 2 3 D") << "no number";
+                  "Y_COORDINATES 1 float\n0\nZ_COORDINATES 1 float\n0\n",
+            "coordinates are missing");
+        row("collection of nothing", "a.pvd",
+            "<VTKFile type=\"Collection\"><Collection/></VTKFile>", "lists files");
+        row("collection with a fault", "a.pvd", "<VTKFile>\n<Collection>\n<DataSet></VTKFile>",
+            "line 3");
+        row("collection with a bad time", "a.pvd",
+            "<VTKFile><Collection><DataSet timestep='soon' file='b.vtp'/></Collection>"
+            "</VTKFile>",
+            "\"soon\"");
+        row("collection of a file without a name", "a.pvd",
+            "<VTKFile><Collection>\n<DataSet timestep='1'/></Collection></VTKFile>",
+            "line 2: the entry names no file");
+        row("collection of missing files", "a.pvd",
+            "<VTKFile><Collection><DataSet file='b.vtp'/></Collection></VTKFile>",
+            "b.vtp could not be read: there is no such file");
+        row("collection that leads elsewhere", "a.pvd",
+            "<VTKFile><Collection><DataSet file='../../../../../etc/passwd'/>"
+            "</Collection></VTKFile>",
+            "/etc/passwd could not be read: ");
+        row("tree of missing files", "a.vtm",
+            "<VTKFile type=\"vtkMultiBlockDataSet\" version=\"1.0\">"
+            "<vtkMultiBlockDataSet><DataSet index=\"0\" file=\"b.vtp\"/>"
+            "</vtkMultiBlockDataSet></VTKFile>",
+            "a.vtm");
+        row("not CGNS", "a.cgns", QByteArray(5000, 'x'), "a.cgns");
+        row("not EnSight", "a.case", "x", "no EnSight case file");
+        row("EnSight without files", "a.case",
+            "FORMAT\ntype: ensight gold\nGEOMETRY\nmodel: \"b c.geo\"\n",
+            "b c.geo could not be read: there is no such file");
+        row("netCDF that is cut off", "a.exo", netcdf() + QByteArray(40, '\1'),
+            "cut off: 120 of 144 bytes");
+        row("netCDF with half a header", "a.exo", netcdf().left(50), "its header is cut off");
+        row("netCDF that is not Exodus", "a.exo", netcdf() + QByteArray(64, '\1'),
+            "a.exo could not be read: ");
+        row("marker without a case", "a.foam", {}, "a.foam");
+        row("Plot3D that would fill the disk", "a.xyz",
+            "1000000 1000000 3" + QByteArray(" 1000000000*0").repeated(9000),
+            "9000000000003 numbers");
+        row("Plot3D with words", "a.xyz", "1 2 3 D", "no number");
     }
 
     void badFiles()
     {
-        QFETCH(QString, file);
-        QFETCH(QByteArray, content);
-        QFETCH(QString, reason);
+        const auto [file, content, reason] = currentRow<QString, QByteArray, QString>();
         const QString path = m_folder->write("in/" + file, content);
         const ReadResult result = read({path});
         QVERIFY(!result.data);
@@ -235,31 +212,25 @@ private Q_SLOTS:
 
     void cutSamples_data()
     {
-        QTest::addColumn<QString>("opened");
-        QTest::addColumn<QString>("cut");
-        QTest::newRow("VTK XML") << "combustor_three_blocks/multicomb_0.vts"
-                                 << "combustor_three_blocks/multicomb_0.vts";
-        QTest::newRow("Exodus") << "exodus_biplane/biplane_rms_pressure_bs.exo"
-                                << "exodus_biplane/biplane_rms_pressure_bs.exo";
-        QTest::newRow("CGNS") << "cgns_hexa/cgnslib_vers-4400.cgns"
-                              << "cgns_hexa/cgnslib_vers-4400.cgns";
-        QTest::newRow("EnSight geometry") << "naca_transient/naca.bin.case"
-                                          << "naca_transient/naca.gold.bin.geo";
-        QTest::newRow("EnSight values") << "naca_transient/naca.bin.case"
-                                        << "naca_transient/naca.gold.bin.DENS_3";
-        QTest::newRow("OpenFOAM mesh") << "cavity_transient/case.foam"
-                                       << "cavity_transient/constant/polyMesh/points";
-        QTest::newRow("OpenFOAM values") << "cavity_transient/case.foam"
-                                         << "cavity_transient/2/U";
-        QTest::newRow("part of a collection")
-            << "two_spheres/dualSphereAnimation4.pvd"
-            << "two_spheres/dualSphereAnimation/dualSphereAnimation_P00T0002.vtp";
+        const Rows<QString, QString> row;
+        row("VTK XML", "combustor_three_blocks/multicomb_0.vts",
+            "combustor_three_blocks/multicomb_0.vts");
+        row("Exodus", "exodus_biplane/biplane_rms_pressure_bs.exo",
+            "exodus_biplane/biplane_rms_pressure_bs.exo");
+        row("CGNS", "cgns_hexa/cgnslib_vers-4400.cgns", "cgns_hexa/cgnslib_vers-4400.cgns");
+        row("EnSight geometry", "naca_transient/naca.bin.case", "naca_transient/naca.gold.bin.geo");
+        row("EnSight values", "naca_transient/naca.bin.case",
+            "naca_transient/naca.gold.bin.DENS_3");
+        row("OpenFOAM mesh", "cavity_transient/case.foam",
+            "cavity_transient/constant/polyMesh/points");
+        row("OpenFOAM values", "cavity_transient/case.foam", "cavity_transient/2/U");
+        row("part of a collection", "two_spheres/dualSphereAnimation4.pvd",
+            "two_spheres/dualSphereAnimation/dualSphereAnimation_P00T0002.vtp");
     }
 
     void cutSamples()
     {
-        QFETCH(QString, opened);
-        QFETCH(QString, cut);
+        const auto [opened, cut] = currentRow<QString, QString>();
         m_folder->copySample(opened.section('/', 0, 0));
         QFile file(m_folder->path(cut));
         QVERIFY(file.resize(file.size() / 2));
@@ -275,14 +246,14 @@ private Q_SLOTS:
 
     void cutClassicExodus_data()
     {
-        QTest::addColumn<int>("missing");
+        const Rows<int> row;
         for (const int missing : {0, 8, 200, 1500, 2000})
-            QTest::addRow("%d bytes", missing) << missing;
+            row(QString::asprintf("%d bytes", missing), missing);
     }
 
     void cutClassicExodus()
     {
-        QFETCH(int, missing);
+        const auto [missing] = currentRow<int>();
         QFile file(m_folder->path("a.exo"));
         writeExodus(file.fileName());
         QVERIFY(file.size() > missing + 100);
@@ -435,24 +406,19 @@ private Q_SLOTS:
 
     void programThatSpeaksRubbish_data()
     {
-        QTest::addColumn<QByteArray>("script");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("text") << QByteArray("echo hello") << "cannot be understood";
-        QTest::newRow("endless line")
-            << QByteArray("exec tr '\\0' x < /dev/zero") << "cannot be understood";
-        QTest::newRow("no index") << QByteArray("exit 0") << "cannot be understood";
-        QTest::newRow("rubbish as index")
-            << QByteArray("echo '{}' > \"$1/index.json\"") << "cannot be understood";
-        QTest::newRow("exit code") << QByteArray("exit 7") << "exit code 7";
-        QTest::newRow("last words")
-            << QByteArray("echo first >&2; echo the disk is full >&2; exit 7")
-            << "(the disk is full)";
+        const Rows<QByteArray, QString> row;
+        row("text", "echo hello", "cannot be understood");
+        row("endless line", "exec tr '\\0' x < /dev/zero", "cannot be understood");
+        row("no index", "exit 0", "cannot be understood");
+        row("rubbish as index", "echo '{}' > \"$1/index.json\"", "cannot be understood");
+        row("exit code", "exit 7", "exit code 7");
+        row("last words", "echo first >&2; echo the disk is full >&2; exit 7",
+            "(the disk is full)");
     }
 
     void programThatSpeaksRubbish()
     {
-        QFETCH(QByteArray, script);
-        QFETCH(QString, reason);
+        const auto [script, reason] = currentRow<QByteArray, QString>();
         const QString program = m_folder->write("reader.sh", "#!/bin/sh\n" + script + '\n');
         QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
         qputenv("CORVALA_READ", QFile::encodeName(program));

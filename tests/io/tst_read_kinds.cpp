@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "tests/io/io_support.h"
+#include "tests/support/rows.h"
 
 using namespace corvala::host;
 using namespace corvala::host::io;
+using corvala::tests::currentRow;
+using corvala::tests::Rows;
 
 static QByteArray xml(const QByteArray& type, const QByteArray& inner)
 {
@@ -54,68 +57,54 @@ private Q_SLOTS:
 
     void kindsOfZones_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("ordered");
-        QTest::addColumn<QVector<int>>("dimensions");
-        QTest::addColumn<int>("cells");
-        QTest::addColumn<int>("cellDimension");
-        QTest::addColumn<bool>("planar");
-        QTest::newRow("image") << "a.vti" << image("0 2 0 1 0 0", {}) << true
-                               << QVector<int> {3, 2, 1} << 2 << 2 << true;
-        QTest::newRow("image that begins elsewhere") << "a.vti" << image("3 4 5 6 7 9", {}) << true
-                                                     << QVector<int> {2, 2, 3} << 2 << 3 << false;
-        QTest::newRow("rectilinear")
-            << "a.vtr"
-            << xml("RectilinearGrid",
-                   "WholeExtent=\"0 2 0 1 0 1\"><Piece Extent=\"0 2 0 1 0 1\"><Coordinates>"
-                       + array("type=\"Float64\"", "0 1 5") + array("type=\"Float64\"", "0 2")
-                       + array("type=\"Float64\"", "0 3") + "</Coordinates></Piece>")
-            << true << QVector<int> {3, 2, 2} << 2 << 3 << false;
-        QTest::newRow("surface") << "a.vtp" << polyData() << false << QVector<int> {0, 0, 0} << 2
-                                 << 2 << false;
-        QTest::newRow("lines") << "a.vtk"
-                               << legacy("DATASET POLYDATA\nPOINTS 3 float\n0 0 1 1 0 1 2 0 1\n"
-                                         "LINES 1 4\n3 0 1 2\n")
-                               << false << QVector<int> {0, 0, 0} << 1 << 1 << true;
-        QTest::newRow("points without cells")
-            << "a.vtk"
-            << legacy("DATASET UNSTRUCTURED_GRID\nPOINTS 2 float\n0 0 0 1 1 1\nCELLS 0 0\n"
-                      "CELL_TYPES 0\n")
-            << false << QVector<int> {0, 0, 0} << 0 << 0 << false;
-        QTest::newRow("mixed cells")
-            << "a.vtk"
-            << legacy("DATASET UNSTRUCTURED_GRID\nPOINTS 4 float\n0 0 0 1 0 0 0 1 0 0 0 1\n"
-                      "CELLS 2 9\n3 0 1 2\n4 0 1 2 3\nCELL_TYPES 2\n5\n10\n")
-            << false << QVector<int> {0, 0, 0} << 2 << 3 << false;
-        QTest::newRow("structured points")
-            << "a.vtk"
-            << legacy("DATASET STRUCTURED_POINTS\nDIMENSIONS 2 2 2\nORIGIN 0 0 0\nSPACING 1 1 1\n")
-            << true << QVector<int> {2, 2, 2} << 1 << 3 << false;
-        QTest::newRow("legacy structured grid of one line")
-            << "a.vtk"
-            << legacy("DATASET STRUCTURED_GRID\nDIMENSIONS 3 1 1\nPOINTS 3 double\n"
-                      "0 0 0 1 0 0 2 0 0\n")
-            << true << QVector<int> {3, 1, 1} << 2 << 1 << true;
+        const Rows<QString, QByteArray, bool, QVector<int>, int, int, bool> row;
+        row("image", "a.vti", image("0 2 0 1 0 0", {}), true, {3, 2, 1}, 2, 2, true);
+        row("image that begins elsewhere", "a.vti", image("3 4 5 6 7 9", {}), true, {2, 2, 3}, 2, 3,
+            false);
+        row("rectilinear", "a.vtr",
+            xml("RectilinearGrid",
+                "WholeExtent=\"0 2 0 1 0 1\"><Piece Extent=\"0 2 0 1 0 1\"><Coordinates>"
+                    + array("type=\"Float64\"", "0 1 5") + array("type=\"Float64\"", "0 2")
+                    + array("type=\"Float64\"", "0 3") + "</Coordinates></Piece>"),
+            true, {3, 2, 2}, 2, 3, false);
+        row("surface", "a.vtp", polyData(), false, {0, 0, 0}, 2, 2, false);
+        row("lines", "a.vtk",
+            legacy("DATASET POLYDATA\nPOINTS 3 float\n0 0 1 1 0 1 2 0 1\n"
+                   "LINES 1 4\n3 0 1 2\n"),
+            false, {0, 0, 0}, 1, 1, true);
+        row("points without cells", "a.vtk",
+            legacy("DATASET UNSTRUCTURED_GRID\nPOINTS 2 float\n0 0 0 1 1 1\nCELLS 0 0\n"
+                   "CELL_TYPES 0\n"),
+            false, {0, 0, 0}, 0, 0, false);
+        row("mixed cells", "a.vtk",
+            legacy("DATASET UNSTRUCTURED_GRID\nPOINTS 4 float\n0 0 0 1 0 0 0 1 0 0 0 1\n"
+                   "CELLS 2 9\n3 0 1 2\n4 0 1 2 3\nCELL_TYPES 2\n5\n10\n"),
+            false, {0, 0, 0}, 2, 3, false);
+        row("structured points", "a.vtk",
+            legacy("DATASET STRUCTURED_POINTS\nDIMENSIONS 2 2 2\nORIGIN 0 0 0\nSPACING 1 1 1\n"),
+            true, {2, 2, 2}, 1, 3, false);
+        row("legacy structured grid of one line", "a.vtk",
+            legacy("DATASET STRUCTURED_GRID\nDIMENSIONS 3 1 1\nPOINTS 3 double\n"
+                   "0 0 0 1 0 0 2 0 0\n"),
+            true, {3, 1, 1}, 2, 1, true);
     }
 
     void kindsOfZones()
     {
-        QFETCH(QString, file);
-        QFETCH(QByteArray, content);
-        QFETCH(QVector<int>, dimensions);
+        const auto [file, content, ordered, dimensions, cells, cellDimension, planar] =
+            currentRow<QString, QByteArray, bool, QVector<int>, int, int, bool>();
         const ReadResult result = read({m_folder->write(file, content)});
         QVERIFY2(result.data, qPrintable(result.error));
         const DataSet& data = *result.data;
         QCOMPARE(zoneNames(data), QStringList {"a"});
         QCOMPARE(QString::fromStdString(data.title), QString("a"));
         const ZoneInfo& zone = data.zone(1);
-        QTEST(zone.ordered, "ordered");
+        QCOMPARE(zone.ordered, ordered);
         for (std::size_t i = 0; i < 3; ++i)
             QCOMPARE(static_cast<int>(zone.dimensions[i]), dimensions[static_cast<int>(i)]);
-        QTEST(static_cast<int>(zone.cellCount), "cells");
-        QTEST(zone.cellDimension, "cellDimension");
-        QTEST(data.isPlanar, "planar");
+        QCOMPARE(static_cast<int>(zone.cellCount), cells);
+        QCOMPARE(zone.cellDimension, cellDimension);
+        QCOMPARE(data.isPlanar, planar);
         QCOMPARE(zone.strand, 0);
         QCOMPARE(std::int64_t(data.geometry(1)->GetNumberOfPoints()), zone.pointCount);
         QCOMPARE(m_folder->leftovers().size(), 1);
@@ -181,19 +170,17 @@ private Q_SLOTS:
 
     void vectorProposal_data()
     {
-        QTest::addColumn<QByteArray>("names");
-        QTest::addColumn<int>("first");
-        QTest::newRow("velocity wins") << QByteArray("Gradient Momentum Velocity") << 10;
-        QTest::newRow("momentum before others") << QByteArray("Gradient Momentum") << 7;
-        QTest::newRow("normals last") << QByteArray("Normals Gradient") << 7;
-        QTest::newRow("first of equals") << QByteArray("Gradient Force") << 4;
-        QTest::newRow("U is a velocity") << QByteArray("Force U") << 7;
+        const Rows<QByteArray, int> row;
+        row("velocity wins", "Gradient Momentum Velocity", 10);
+        row("momentum before others", "Gradient Momentum", 7);
+        row("normals last", "Normals Gradient", 7);
+        row("first of equals", "Gradient Force", 4);
+        row("U is a velocity", "Force U", 7);
     }
 
     void vectorProposal()
     {
-        QFETCH(QByteArray, names);
-        QFETCH(int, first);
+        const auto [names, first] = currentRow<QByteArray, int>();
         QByteArray arrays;
         for (const QByteArray& name : names.split(' '))
             arrays += array("type=\"Float32\" NumberOfComponents=\"3\" Name=\"" + name + '"',
@@ -207,27 +194,23 @@ private Q_SLOTS:
     /// Of each file, the first names that all its blocks with points share are left out.
     void sharedNamesOfBlocks_data()
     {
-        QTest::addColumn<QByteArray>("blocks");
-        QTest::addColumn<QString>("zones");
+        const Rows<QByteArray, QString> row;
         const QByteArray tip = "<DataSet index='0' name='tip' file='p.vtp'/>";
         const auto block = [](const char* number, const char* name, const QByteArray& inner) {
             return QByteArray("<Block index='") + number + "' name='" + name + "'>" + inner
                 + "</Block>";
         };
-        QTest::newRow("one block") << block("0", "a", block("0", "b", tip)) << "tip";
-        QTest::newRow("two levels, beside an empty block")
-            << block("0", "a", block("0", "b", tip) + block("1", "c", tip)) + block("1", "d", {})
-            << "b/tip,c/tip";
-        QTest::newRow("parts only")
-            << block("0", "a b", tip) + block("1", "a c", tip) << "a b/tip,a c/tip";
-        QTest::newRow("one in the other")
-            << block("0", "a", tip + block("1", "tip", tip)) << "tip,tip/tip";
+        row("one block", block("0", "a", block("0", "b", tip)), "tip");
+        row("two levels, beside an empty block",
+            block("0", "a", block("0", "b", tip) + block("1", "c", tip)) + block("1", "d", {}),
+            "b/tip,c/tip");
+        row("parts only", block("0", "a b", tip) + block("1", "a c", tip), "a b/tip,a c/tip");
+        row("one in the other", block("0", "a", tip + block("1", "tip", tip)), "tip,tip/tip");
     }
 
     void sharedNamesOfBlocks()
     {
-        QFETCH(QByteArray, blocks);
-        QFETCH(QString, zones);
+        const auto [blocks, zones] = currentRow<QByteArray, QString>();
         m_folder->write("p.vtp", polyData());
         const QString path = m_folder->write("t.vtm", xml("vtkMultiBlockDataSet", ">" + blocks));
         const ReadResult result = read({path});
@@ -235,7 +218,7 @@ private Q_SLOTS:
         QCOMPARE(zoneNames(*result.data).join(','), zones);
         const ReadResult two = read({path, m_folder->path("p.vtp")});
         QVERIFY2(two.data, qPrintable(two.error));
-        QCOMPARE(zoneNames(*two.data).join(','), "t/" + zones.replace(",", ",t/") + ",p");
+        QCOMPARE(zoneNames(*two.data).join(','), "t/" + QString(zones).replace(",", ",t/") + ",p");
     }
 
     void namesOfBlocks()
@@ -271,27 +254,26 @@ private Q_SLOTS:
 
     void collectionsByTimeGroupAndPart_data()
     {
-        QTest::addColumn<QByteArray>("entries");
-        QTest::addColumn<QString>("zones");
-        QTest::newRow("one part at one time") << QByteArray("<DataSet file='p.vtp'/>") << "all@0s0";
-        QTest::newRow("one part over time, not in order")
-            << QByteArray("<DataSet timestep='2e1' file='p.vtp'/><DataSet timestep='.5' "
-                          "file='p.vtp'/>")
-            << "all@0.5s1 all@20s1";
-        QTest::newRow("groups and parts")
-            << QByteArray("<DataSet timestep='1' group='wing' part='0' file='p.vtp'/>"
-                          "<DataSet timestep='1' group='wing' part='4' file='p.vtp'/>"
-                          "<DataSet timestep='1' group='hull' part='0' name='bow' file='p.vtp'/>"
-                          "<DataSet timestep='2' group='wing' part='4' file='p.vtp'/>")
-            << "wing/Piece 1@1s1 wing/Piece 5@1s2 wing/Piece 5@2s2 hull/bow@1s3";
-        QTest::newRow("a tree as part") << QByteArray(
-            "<DataSet timestep='1' file='t.vtm'/><DataSet timestep='2' file='p.vtp'/>")
-                                        << "all/a@1s1 all@2s2";
+        const Rows<QByteArray, QString> row;
+        row("one part at one time", "<DataSet file='p.vtp'/>", "all@0s0");
+        row("one part over time, not in order",
+            "<DataSet timestep='2e1' file='p.vtp'/><DataSet timestep='.5' "
+            "file='p.vtp'/>",
+            "all@0.5s1 all@20s1");
+        row("groups and parts",
+            "<DataSet timestep='1' group='wing' part='0' file='p.vtp'/>"
+            "<DataSet timestep='1' group='wing' part='4' file='p.vtp'/>"
+            "<DataSet timestep='1' group='hull' part='0' name='bow' file='p.vtp'/>"
+            "<DataSet timestep='2' group='wing' part='4' file='p.vtp'/>",
+            "wing/Piece 1@1s1 wing/Piece 5@1s2 wing/Piece 5@2s2 hull/bow@1s3");
+        row("a tree as part",
+            "<DataSet timestep='1' file='t.vtm'/><DataSet timestep='2' file='p.vtp'/>",
+            "all/a@1s1 all@2s2");
     }
 
     void collectionsByTimeGroupAndPart()
     {
-        QFETCH(QByteArray, entries);
+        const auto [entries, wanted] = currentRow<QByteArray, QString>();
         m_folder->write("p.vtp", polyData());
         m_folder->write("t.vtm",
                         "<VTKFile type=\"vtkMultiBlockDataSet\" version=\"1.0\">"
@@ -305,7 +287,7 @@ private Q_SLOTS:
                          .arg(QString::fromStdString(zone.name))
                          .arg(zone.time)
                          .arg(zone.strand);
-        QTEST(zones.join(" "), "zones");
+        QCOMPARE(zones.join(" "), wanted);
     }
 
     void namesThatAreNoText()

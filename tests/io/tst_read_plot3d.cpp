@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "tests/io/io_support.h"
+#include "tests/support/rows.h"
 
 #include <QtEndian>
 
 using namespace corvala::host;
 using namespace corvala::host::io;
+using corvala::tests::currentRow;
+using corvala::tests::Rows;
 
 /// Writes the numbers of a Plot3D file in a layout.
 class Plot3DText
@@ -197,18 +200,16 @@ private Q_SLOTS:
 
     void layoutIsDetected_data()
     {
-        QTest::addColumn<int>("bits");
-        QTest::addColumn<bool>("ascii");
+        const Rows<int, bool> row;
         for (int bits = 0; bits < 8; ++bits)
-            QTest::addRow("text %d", bits) << bits << true;
+            row(QString::asprintf("text %d", bits), bits, true);
         for (int bits = 0; bits < 64; ++bits)
-            QTest::addRow("binary %d", bits) << bits << false;
+            row(QString::asprintf("binary %d", bits), bits, false);
     }
 
     void layoutIsDetected()
     {
-        QFETCH(int, bits);
-        QFETCH(bool, ascii);
+        const auto [bits, ascii] = currentRow<int, bool>();
         const Plot3DLayout layout = layoutOf(bits, ascii);
         const QString grid = m_folder->write("flow.xyz", gridFile(layout));
         m_folder->write("flow.q", solutionFile(layout));
@@ -251,33 +252,23 @@ private Q_SLOTS:
 
     void companions_data()
     {
-        QTest::addColumn<QStringList>("present");
-        QTest::addColumn<QStringList>("opened");
-        QTest::addColumn<QString>("outcome"); ///< zones and values, or a part of the error
-        QTest::newRow("grid alone") << QStringList {"a.xyz"} << QStringList {"a.xyz"} << "2 -";
-        QTest::newRow("beside the grid")
-            << QStringList {"a.xyz", "a.q", "b.q"} << QStringList {"a.xyz"} << "2 q";
-        QTest::newRow("letter case")
-            << QStringList {"A.XYZ", "A.Q"} << QStringList {"A.XYZ"} << "2 q";
-        QTest::newRow("named in the base")
-            << QStringList {"axyz.bin", "aq.bin"} << QStringList {"axyz.bin"} << "2 q";
-        QTest::newRow("solution brings its grid")
-            << QStringList {"a.x", "a.q"} << QStringList {"a.q"} << "2 q";
-        QTest::newRow("solution brings its grid by the base")
-            << QStringList {"axyz.bin", "aq.bin"} << QStringList {"aq.bin"} << "2 q";
-        QTest::newRow("both opened")
-            << QStringList {"a.xyz", "a.q"} << QStringList {"a.q", "a.xyz"} << "2 q";
-        QTest::newRow("two grids")
-            << QStringList {"a.xyz", "b.xyz", "b.q"} << QStringList {"a.xyz", "b.xyz"} << "4 q";
-        QTest::newRow("solution without grid")
-            << QStringList {"b.xyz", "a.q"} << QStringList {"a.q"} << "no grid file";
+        const Rows<QStringList, QStringList,
+                   QString>
+            row; // present, opened, outcome (zones and values, or a part of the error)
+        row("grid alone", {"a.xyz"}, {"a.xyz"}, "2 -");
+        row("beside the grid", {"a.xyz", "a.q", "b.q"}, {"a.xyz"}, "2 q");
+        row("letter case", {"A.XYZ", "A.Q"}, {"A.XYZ"}, "2 q");
+        row("named in the base", {"axyz.bin", "aq.bin"}, {"axyz.bin"}, "2 q");
+        row("solution brings its grid", {"a.x", "a.q"}, {"a.q"}, "2 q");
+        row("solution brings its grid by the base", {"axyz.bin", "aq.bin"}, {"aq.bin"}, "2 q");
+        row("both opened", {"a.xyz", "a.q"}, {"a.q", "a.xyz"}, "2 q");
+        row("two grids", {"a.xyz", "b.xyz", "b.q"}, {"a.xyz", "b.xyz"}, "4 q");
+        row("solution without grid", {"b.xyz", "a.q"}, {"a.q"}, "no grid file");
     }
 
     void companions()
     {
-        QFETCH(QStringList, present);
-        QFETCH(QStringList, opened);
-        QFETCH(QString, outcome);
+        auto [present, opened, outcome] = currentRow<QStringList, QStringList, QString>();
         for (const QString& name : present) {
             const bool isSolution =
                 name.contains(QRegularExpression("q", QRegularExpression::CaseInsensitiveOption));
@@ -312,14 +303,14 @@ private Q_SLOTS:
 
     void overflowSolutions_data()
     {
-        QTest::addColumn<int>("bits");
+        const Rows<int> row;
         for (const int bits : {0, 2, 16, 26, 32, 34, 40, 58})
-            QTest::addRow("binary %d", bits) << bits;
+            row(QString::asprintf("binary %d", bits), bits);
     }
 
     void overflowSolutions()
     {
-        QFETCH(int, bits);
+        const auto [bits] = currentRow<int>();
         const Plot3DLayout layout = layoutOf(bits, false);
         const QString grid = m_folder->write("flow.xyz", gridFile(layout));
         const QByteArray content = overflowFile(layout);
@@ -342,19 +333,17 @@ private Q_SLOTS:
 
     void cutFilesAreRefused_data()
     {
-        QTest::addColumn<bool>("ascii");
-        QTest::addColumn<QString>("cut");
-        QTest::newRow("binary grid") << false << "a.xyz";
-        QTest::newRow("text grid") << true << "a.xyz";
-        QTest::newRow("binary solution") << false << "a.q";
-        QTest::newRow("text solution") << true << "a.q";
-        QTest::newRow("binary function") << false << "a.f";
+        const Rows<bool, QString> row;
+        row("binary grid", false, "a.xyz");
+        row("text grid", true, "a.xyz");
+        row("binary solution", false, "a.q");
+        row("text solution", true, "a.q");
+        row("binary function", false, "a.f");
     }
 
     void cutFilesAreRefused()
     {
-        QFETCH(bool, ascii);
-        QFETCH(QString, cut);
+        const auto [ascii, cut] = currentRow<bool, QString>();
         const Plot3DLayout layout = layoutOf(ascii ? 3 : 2, ascii);
         m_folder->write("a.xyz", gridFile(layout));
         m_folder->write("a.q", solutionFile(layout));
@@ -390,20 +379,17 @@ private Q_SLOTS:
 
     void brokenIndexFiles_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("no json") << QByteArray("{ \"filenames\" : [") << "run.p3d";
-        QTest::newRow("no list") << QByteArray("{}") << "filenames";
-        QTest::newRow("empty list") << QByteArray("{ \"filenames\" : [] }") << "lists no files";
-        QTest::newRow("missing grid")
-            << QByteArray("{ \"filenames\" : [ { \"xyz\" : \"none.xyz\" } ] }")
-            << "none.xyz could not be read: there is no such file";
+        const Rows<QByteArray, QString> row;
+        row("no json", "{ \"filenames\" : [", "run.p3d");
+        row("no list", "{}", "filenames");
+        row("empty list", "{ \"filenames\" : [] }", "lists no files");
+        row("missing grid", "{ \"filenames\" : [ { \"xyz\" : \"none.xyz\" } ] }",
+            "none.xyz could not be read: there is no such file");
     }
 
     void brokenIndexFiles()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(QString, reason);
+        const auto [content, reason] = currentRow<QByteArray, QString>();
         const ReadResult result = read({m_folder->write("run.p3d", content)});
         QVERIFY(!result.data);
         QVERIFY2(result.error.contains(reason), qPrintable(result.error));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/read_protocol.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 
@@ -7,6 +8,8 @@
 
 using namespace corvala::host;
 using namespace corvala::host::io;
+using corvala::tests::currentRow;
+using corvala::tests::Rows;
 
 static DataSetIndex exampleIndex()
 {
@@ -56,24 +59,21 @@ private Q_SLOTS:
 
     void brokenIndexIsRefused_data()
     {
-        QTest::addColumn<QByteArray>("place");
-        QTest::addColumn<QByteArray>("value");
-        QTest::newRow("zone without file") << QByteArray("/zones/0/source") << QByteArray("1");
-        QTest::newRow("negative file") << QByteArray("/zones/0/source") << QByteArray("-1");
-        QTest::newRow("text as number") << QByteArray("/zones/0/points") << QByteArray("\"many\"");
-        QTest::newRow("two dimensions") << QByteArray("/zones/0/size") << QByteArray("[1,2]");
-        QTest::newRow("zones missing") << QByteArray("/zones") << QByteArray("7");
-        QTest::newRow("file outside")
-            << QByteArray("/zoneFiles/0") << QByteArray("\"../../home/secret\"");
-        QTest::newRow("vector that is none") << QByteArray("/vectors/2") << QByteArray("3");
-        QTest::newRow("contour that is none") << QByteArray("/contours/0") << QByteArray("-1");
-        QTest::newRow("note without text") << QByteArray("/notes/0") << QByteArray("{}");
+        const Rows<QByteArray, QByteArray> row;
+        row("zone without file", "/zones/0/source", "1");
+        row("negative file", "/zones/0/source", "-1");
+        row("text as number", "/zones/0/points", "\"many\"");
+        row("two dimensions", "/zones/0/size", "[1,2]");
+        row("zones missing", "/zones", "7");
+        row("file outside", "/zoneFiles/0", "\"../../home/secret\"");
+        row("vector that is none", "/vectors/2", "3");
+        row("contour that is none", "/contours/0", "-1");
+        row("note without text", "/notes/0", "{}");
     }
 
     void brokenIndexIsRefused()
     {
-        QFETCH(QByteArray, place);
-        QFETCH(QByteArray, value);
+        const auto [place, value] = currentRow<QByteArray, QByteArray>();
         nlohmann::json json = nlohmann::json::parse(toJson(exampleIndex()));
         json.at(nlohmann::json::json_pointer(place.toStdString())) =
             nlohmann::json::parse(value.toStdString());
@@ -82,18 +82,19 @@ private Q_SLOTS:
 
     void rubbishIsNoLine_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::newRow("empty") << QByteArray();
-        QTest::newRow("prose") << QByteArray("Reading...");
-        QTest::newRow("other json") << QByteArray("[1, 2]");
-        QTest::newRow("member missing") << QByteArray(R"({"percent": 3, "file": "a"})");
-        QTest::newRow("wrong type") << QByteArray(R"({"percent": "3", "file": "a", "error": false,)"
-                                                  R"( "what": {"text": "b", "arguments": []}})");
+        const Rows<QByteArray> row;
+        row("empty", {});
+        row("prose", "Reading...");
+        row("other json", "[1, 2]");
+        row("member missing", R"({"percent": 3, "file": "a"})");
+        row("wrong type",
+            R"({"percent": "3", "file": "a", "error": false,)"
+            R"( "what": {"text": "b", "arguments": []}})");
     }
 
     void rubbishIsNoLine()
     {
-        QFETCH(QByteArray, text);
+        const auto [text] = currentRow<QByteArray>();
         QVERIFY(!lineFromJson(text.toStdString()));
     }
 
@@ -129,23 +130,22 @@ private Q_SLOTS:
 
     void layoutIsDescribed_data()
     {
-        QTest::addColumn<bool>("ascii");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("text") << true << "text, several grids, two-dimensional";
-        QTest::newRow("binary") << false
-                                << "binary, big-endian, double precision, with record marks, "
-                                   "several grids, two-dimensional";
+        const Rows<bool, QString> row;
+        row("text", true, "text, several grids, two-dimensional");
+        row("binary", false,
+            "binary, big-endian, double precision, with record marks, "
+            "several grids, two-dimensional");
     }
 
     void layoutIsDescribed()
     {
-        QFETCH(bool, ascii);
+        const auto [ascii, text] = currentRow<bool, QString>();
         Plot3DLayout layout;
         layout.ascii = ascii;
         layout.bigEndian = layout.doublePrecision = layout.byteCount = true;
         layout.multiGrid = layout.twoDimensional = true;
         layout.iblank = false;
-        QTEST(describe(layout), "text");
+        QCOMPARE(describe(layout), text);
     }
 };
 

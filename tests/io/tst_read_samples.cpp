@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/sample_list.h"
 #include "tests/io/io_support.h"
+#include "tests/support/rows.h"
 
 #include <vtkFieldData.h>
 #include <vtkPolyData.h>
@@ -11,6 +12,8 @@
 
 using namespace corvala::host;
 using namespace corvala::host::io;
+using corvala::tests::currentRow;
+using corvala::tests::Rows;
 
 class TestReadSamples : public QObject
 {
@@ -19,64 +22,42 @@ class TestReadSamples : public QObject
     DataFolder m_folder;
 
 private Q_SLOTS:
+
     void zonesAndVariables_data()
     {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<int>("zones");
-        QTest::addColumn<int>("strands");
-        QTest::addColumn<QString>("secondZone");
-        QTest::addColumn<QVector<int>>("dimensions");
-        QTest::addColumn<QString>("variables");
-        QTest::addColumn<QVector<int>>("vector");
-        QTest::addColumn<bool>("planar");
+        const Rows<QStringList, int, int, QString, QVector<int>, QString, QVector<int>, bool> row;
 
-        QTest::newRow("blocks in three files")
-            << QStringList {"combustor_three_blocks/multicomb_0.vts",
-                            "combustor_three_blocks/multicomb_1.vts",
-                            "combustor_three_blocks/multicomb_2.vts"}
-            << 3 << 0 << "multicomb_1" << QVector<int> {8, 12, 9}
-            << "X,Y,Z,Density,Momentum X,Momentum Y,Momentum Z,StagnationEnergy"
-            << QVector<int> {5, 6, 7} << false;
-        QTest::newRow("Plot3D")
-            << QStringList {"combustor_plot3d/multi-bin.xyz"} << 2 << 0 << "Block 2"
-            << QVector<int> {8, 12, 12}
-            << "X,Y,Z,Density,Momentum X,Momentum Y,Momentum Z,StagnationEnergy,Function0,Function1"
-            << QVector<int> {5, 6, 7} << false;
-        QTest::newRow("Plot3D by the index in its folder")
-            << QStringList {"combustor_plot3d"} << 2 << 0 << "Block 2" << QVector<int> {8, 12, 12}
-            << "X,Y,Z,Density,Momentum X,Momentum Y,Momentum Z,StagnationEnergy,Function0,Function1"
-            << QVector<int> {5, 6, 7} << false;
-        QTest::newRow("EnSight") << QStringList {"naca_transient/naca.bin.case"} << 6 << 3
-                                 << "block 1, Mins/Maxs=(I:1/73,J:1/65,K:1/1)"
-                                 << QVector<int> {73, 65, 1} << "X,Y,Z,DENS"
-                                 << QVector<int> {0, 0, 0} << true;
-        QTest::newRow("OpenFOAM by its marker")
-            << QStringList {"cavity_transient/case.foam"} << 24 << 4 << "internalMesh"
-            << QVector<int> {0, 0, 0} << "X,Y,Z,U X,U Y,U Z,p" << QVector<int> {4, 5, 6} << false;
-        QTest::newRow("OpenFOAM by its controlDict")
-            << QStringList {"cavity_transient/system/controlDict"} << 24 << 4 << "internalMesh"
-            << QVector<int> {0, 0, 0} << "X,Y,Z,U X,U Y,U Z,p" << QVector<int> {4, 5, 6} << false;
-        QTest::newRow("OpenFOAM by its folder")
-            << QStringList {"cavity_transient"} << 24 << 4 << "internalMesh"
-            << QVector<int> {0, 0, 0} << "X,Y,Z,U X,U Y,U Z,p" << QVector<int> {4, 5, 6} << false;
-        QTest::newRow("Exodus") << QStringList {"exodus_biplane/biplane_rms_pressure_bs.exo"} << 59
-                                << 0 << "Unnamed block ID: 2" << QVector<int> {0, 0, 0}
-                                << "X,Y,Z,ObjectId,PressureRMS" << QVector<int> {0, 0, 0} << false;
-        QTest::newRow("collection of five times")
-            << QStringList {"two_spheres/dualSphereAnimation4.pvd"} << 10 << 2 << "Piece 1"
-            << QVector<int> {0, 0, 0}
-            << "X,Y,Z,Normals X,Normals Y,Normals Z,cellNormals X,cellNormals Y,cellNormals Z"
-            << QVector<int> {4, 5, 6} << false;
+        row("blocks in three files",
+            {"combustor_three_blocks/multicomb_0.vts", "combustor_three_blocks/multicomb_1.vts",
+             "combustor_three_blocks/multicomb_2.vts"},
+            3, 0, "multicomb_1", {8, 12, 9},
+            "X,Y,Z,Density,Momentum X,Momentum Y,Momentum Z,StagnationEnergy", {5, 6, 7}, false);
+        row("Plot3D", {"combustor_plot3d/multi-bin.xyz"}, 2, 0, "Block 2", {8, 12, 12},
+            "X,Y,Z,Density,Momentum X,Momentum Y,Momentum Z,StagnationEnergy,Function0,Function1",
+            {5, 6, 7}, false);
+        row("Plot3D by the index in its folder", {"combustor_plot3d"}, 2, 0, "Block 2", {8, 12, 12},
+            "X,Y,Z,Density,Momentum X,Momentum Y,Momentum Z,StagnationEnergy,Function0,Function1",
+            {5, 6, 7}, false);
+        row("EnSight", {"naca_transient/naca.bin.case"}, 6, 3,
+            "block 1, Mins/Maxs=(I:1/73,J:1/65,K:1/1)", {73, 65, 1}, "X,Y,Z,DENS", {0, 0, 0}, true);
+        row("OpenFOAM by its marker", {"cavity_transient/case.foam"}, 24, 4, "internalMesh",
+            {0, 0, 0}, "X,Y,Z,U X,U Y,U Z,p", {4, 5, 6}, false);
+        row("OpenFOAM by its controlDict", {"cavity_transient/system/controlDict"}, 24, 4,
+            "internalMesh", {0, 0, 0}, "X,Y,Z,U X,U Y,U Z,p", {4, 5, 6}, false);
+        row("OpenFOAM by its folder", {"cavity_transient"}, 24, 4, "internalMesh", {0, 0, 0},
+            "X,Y,Z,U X,U Y,U Z,p", {4, 5, 6}, false);
+        row("Exodus", {"exodus_biplane/biplane_rms_pressure_bs.exo"}, 59, 0, "Unnamed block ID: 2",
+            {0, 0, 0}, "X,Y,Z,ObjectId,PressureRMS", {0, 0, 0}, false);
+        row("collection of five times", {"two_spheres/dualSphereAnimation4.pvd"}, 10, 2, "Piece 1",
+            {0, 0, 0},
+            "X,Y,Z,Normals X,Normals Y,Normals Z,cellNormals X,cellNormals Y,cellNormals Z",
+            {4, 5, 6}, false);
     }
 
     void zonesAndVariables()
     {
-        QFETCH(QStringList, files);
-        QFETCH(int, zones);
-        QFETCH(int, strands);
-        QFETCH(QString, secondZone);
-        QFETCH(QVector<int>, dimensions);
-        QFETCH(QVector<int>, vector);
+        auto [files, zones, strands, secondZone, dimensions, variables, vector, planar] =
+            currentRow<QStringList, int, int, QString, QVector<int>, QString, QVector<int>, bool>();
         for (QString& file : files)
             file = DataFolder::sample(file);
         const ReadResult result = read(files);
@@ -91,10 +72,10 @@ private Q_SLOTS:
         for (std::size_t i = 0; i < 3; ++i)
             QCOMPARE(static_cast<int>(data.zones[1].dimensions[i]),
                      dimensions[static_cast<int>(i)]);
-        QTEST(variableNames(data).join(","), "variables");
+        QCOMPARE(variableNames(data).join(","), variables);
         for (std::size_t i = 0; i < 3; ++i)
             QCOMPARE(data.vectorVariables[i], vector[static_cast<int>(i)]);
-        QTEST(data.isPlanar, "planar");
+        QCOMPARE(data.isPlanar, planar);
         QVERIFY(!data.contourVariables.empty() && data.contourVariables[0] > 3);
         QCOMPARE(static_cast<int>(data.files.size()), files.size());
         QCOMPARE(data.notes, std::vector<std::string>());
@@ -102,14 +83,14 @@ private Q_SLOTS:
 
     void geometryIsWhatTheZonesSay_data()
     {
-        QTest::addColumn<QStringList>("files");
+        const Rows<QStringList> row;
         for (const Sample& sample : sampleList())
-            QTest::newRow(qPrintable(sample.title)) << sample.files;
+            row(qPrintable(sample.title), sample.files);
     }
 
     void geometryIsWhatTheZonesSay()
     {
-        QFETCH(QStringList, files);
+        const auto [files] = currentRow<QStringList>();
         const ReadResult result = read(files);
         QVERIFY2(result.data, qPrintable(result.error));
         const DataSet& data = *result.data;

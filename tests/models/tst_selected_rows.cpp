@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "tests/support/rows.h"
 #include "zonestyle/controls/selected_rows.h"
 
 #include <QItemSelectionModel>
@@ -7,6 +8,8 @@
 #include <QTest>
 
 using namespace corvala::sdk::ui::dialogs::uicontrols;
+using corvala::tests::currentRow;
+using corvala::tests::Rows;
 
 namespace {
 
@@ -44,83 +47,79 @@ class tst_SelectedRows : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void equalsQt_data();
-    void equalsQt();
-    void keepsTheOrderOfSelection();
-    void bitmapOfRows();
-    void withoutModel();
+    void equalsQt_data()
+    {
+        const Rows<quint32> row;
+        for (quint32 seed = 1; seed <= 20; ++seed)
+            row(QString::asprintf("seed %u", seed), seed);
+    }
+
+    void equalsQt()
+    {
+        const auto [seed] = currentRow<quint32>();
+        QRandomGenerator random(seed);
+        const QStandardItemModel model(kRows, kColumns);
+        QItemSelectionModel selection(const_cast<QStandardItemModel*>(&model));
+
+        static constexpr QItemSelectionModel::SelectionFlag kCommands[] {
+            QItemSelectionModel::Select, QItemSelectionModel::Toggle, QItemSelectionModel::Deselect,
+            QItemSelectionModel::ClearAndSelect};
+        for (int step = 0; step < 25; ++step) {
+            selection.select(randomBlocks(model, random), kCommands[random.bounded(4)]);
+            SelectedRows::of(selection)
+                .forget(); // Qt is silent about some changes by overlapping blocks
+            const QModelIndexList expected = selection.selectedRows(1);
+            QCOMPARE(rowsText(selectedRows(selection, 1)), rowsText(expected));
+            QCOMPARE(hasSelectedRows(selection), !expected.isEmpty());
+
+            const RowBitmap bitmap(selection);
+            QCOMPARE(bitmap.count(), expected.size());
+            for (int row = 0; row < kRows; ++row)
+                QCOMPARE(bitmap.contains(row), selection.isRowSelected(row, {}));
+        }
+    }
+
+    void keepsTheOrderOfSelection()
+    {
+        QStandardItemModel model(kRows, kColumns);
+        QItemSelectionModel selection(&model);
+        QString expected;
+        for (const int row : {7, 2, 150}) {
+            selection.select(model.index(row, 0),
+                             QItemSelectionModel::Select | QItemSelectionModel::Rows);
+            expected += QString(expected.isEmpty() ? "%1/0" : " %1/0").arg(row);
+            QCOMPARE(rowsText(selectedRows(selection)),
+                     expected); // what was found before is forgotten
+        }
+    }
+
+    void bitmapOfRows()
+    {
+        RowBitmap rows;
+        QVERIFY(rows.isEmpty());
+        QVERIFY(!rows.contains(-1) && !rows.contains(0) && !rows.contains(100000));
+        rows.insert(63, 128);
+        QCOMPARE(rows.count(), 66);
+        QVERIFY(!rows.contains(62) && rows.contains(63) && rows.contains(128)
+                && !rows.contains(129));
+        QVERIFY(!rows.insert(64) && rows.insert(1000));
+        rows.insert(5, 4); // nothing
+        QCOMPARE(rows.count(), 67);
+
+        RowBitmap few;
+        few.insert(100);
+        few.insert(200);
+        rows.intersect(few);
+        QVERIFY(rows.contains(100) && !rows.contains(200) && rows.count() == 1);
+    }
+
+    void withoutModel()
+    {
+        const QItemSelectionModel selection(nullptr);
+        QVERIFY(selectedRows(selection).isEmpty() && !hasSelectedRows(selection));
+        QVERIFY(RowBitmap(selection).isEmpty());
+    }
 };
-
-void tst_SelectedRows::equalsQt_data()
-{
-    QTest::addColumn<quint32>("seed");
-    for (quint32 seed = 1; seed <= 20; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
-}
-
-void tst_SelectedRows::equalsQt()
-{
-    QFETCH(quint32, seed);
-    QRandomGenerator random(seed);
-    const QStandardItemModel model(kRows, kColumns);
-    QItemSelectionModel selection(const_cast<QStandardItemModel*>(&model));
-
-    static constexpr QItemSelectionModel::SelectionFlag kCommands[] {
-        QItemSelectionModel::Select, QItemSelectionModel::Toggle, QItemSelectionModel::Deselect,
-        QItemSelectionModel::ClearAndSelect};
-    for (int step = 0; step < 25; ++step) {
-        selection.select(randomBlocks(model, random), kCommands[random.bounded(4)]);
-        SelectedRows::of(selection)
-            .forget(); // Qt is silent about some changes by overlapping blocks
-        const QModelIndexList expected = selection.selectedRows(1);
-        QCOMPARE(rowsText(selectedRows(selection, 1)), rowsText(expected));
-        QCOMPARE(hasSelectedRows(selection), !expected.isEmpty());
-
-        const RowBitmap bitmap(selection);
-        QCOMPARE(bitmap.count(), expected.size());
-        for (int row = 0; row < kRows; ++row)
-            QCOMPARE(bitmap.contains(row), selection.isRowSelected(row, {}));
-    }
-}
-
-void tst_SelectedRows::keepsTheOrderOfSelection()
-{
-    QStandardItemModel model(kRows, kColumns);
-    QItemSelectionModel selection(&model);
-    QString expected;
-    for (const int row : {7, 2, 150}) {
-        selection.select(model.index(row, 0),
-                         QItemSelectionModel::Select | QItemSelectionModel::Rows);
-        expected += QString(expected.isEmpty() ? "%1/0" : " %1/0").arg(row);
-        QCOMPARE(rowsText(selectedRows(selection)), expected); // what was found before is forgotten
-    }
-}
-
-void tst_SelectedRows::bitmapOfRows()
-{
-    RowBitmap rows;
-    QVERIFY(rows.isEmpty());
-    QVERIFY(!rows.contains(-1) && !rows.contains(0) && !rows.contains(100000));
-    rows.insert(63, 128);
-    QCOMPARE(rows.count(), 66);
-    QVERIFY(!rows.contains(62) && rows.contains(63) && rows.contains(128) && !rows.contains(129));
-    QVERIFY(!rows.insert(64) && rows.insert(1000));
-    rows.insert(5, 4); // nothing
-    QCOMPARE(rows.count(), 67);
-
-    RowBitmap few;
-    few.insert(100);
-    few.insert(200);
-    rows.intersect(few);
-    QVERIFY(rows.contains(100) && !rows.contains(200) && rows.count() == 1);
-}
-
-void tst_SelectedRows::withoutModel()
-{
-    const QItemSelectionModel selection(nullptr);
-    QVERIFY(selectedRows(selection).isEmpty() && !hasSelectedRows(selection));
-    QVERIFY(RowBitmap(selection).isEmpty());
-}
 
 QTEST_GUILESS_MAIN(tst_SelectedRows)
 #include "tst_selected_rows.moc"

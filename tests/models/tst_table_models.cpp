@@ -2,6 +2,7 @@
 #include "samples/demo_data.h"
 #include "tests/models/table_fixture.h"
 #include "tests/support/modal_responder.h"
+#include "tests/support/rows.h"
 #include "zonestyle/models/columns/column_kinds.h"
 #include "zonestyle/models/field_contour_3d_model.h"
 #include "zonestyle/models/field_contour_model.h"
@@ -201,644 +202,624 @@ private:
 
 } // namespace
 
-Q_DECLARE_METATYPE(QVector<Setting>)
-
 /// The tables of the tabs on the real engine: what they show, grey, offer and write.
 class tst_TableModels : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
+    void cleanup() { m_model.reset(); }
 
     void areWellBehaved_data() { addChainRows(); }
-    void areWellBehaved();
-    void showRows_data();
-    void showRows();
-    void writeEdits_data();
-    void writeEdits();
-    void offerMenus_data();
-    void offerMenus();
-    void greyInactiveMaps();
-    void enableRGBWithItsVariables();
-    void haveTheseOdditiesOnly();
-    void describeColumns_data();
-    void describeColumns();
-    void giveWhatTheirModelsNeed();
-    void renameMapsForAnyRole();
-    void confirmZones();
-    void confirmZonesForTheEditedMaps();
-    void listEnabledOnly();
-    void showStrands();
-    void followTheActiveFrame();
-    void matchNames();
-    void matchPatterns();
-    void registerByPage();
+    void areWellBehaved()
+    {
+        QFETCH(QString, chain);
+        open(chain);
+        const auto test = [this] {
+            const QAbstractItemModelTester tester(
+                m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        };
+        test();
+        m_model->setData(m_model->index(1, m_model->columnCount() - 1), Qt::Checked,
+                         Qt::CheckStateRole);
+        test();
+        Document::instance().execute(corvala::host::DetachData {});
+        QCOMPARE(m_model->rowCount(), 0);
+        test();
+        while (Document::instance().frameCount() > 0)
+            Document::instance().execute(corvala::host::DeleteFrame {});
+        QCOMPARE(m_model->rowCount(), 0);
+        test();
+    }
+
+    void showRows_data()
+    {
+        const Rows<QString, QVector<Setting>,
+                   QString>
+            row; // chain, settings (before the look at the first map), row
+        row("mesh", "mesh", {}, "1|Zone 1|1|[x]|[x]|Overlay|#d62728|Solid|(2.00%)|0.15%");
+        row("mesh dashed", "mesh",
+            {{"FieldMap.Mesh.LinePattern", "1", 1}, {"FieldMap.Mesh.LineThickness", "1", 0.5}},
+            "1|Zone 1|1|[x]|[x]|Overlay|#d62728|Dashed|2.00%|0.50%");
+        row("mesh hidden", "mesh", {{"FieldMap.Mesh.Show", "1", 0}},
+            "1|Zone 1|1|[x]|([ ])|(Overlay)|(#d62728)|(Solid)|(2.00%)|(0.15%)");
+        row("mesh layer off", "mesh", {{"FieldLayers.ShowMesh", "", 0}},
+            "1|Zone 1|1|[x]|([x])|(Overlay)|(#d62728)|(Solid)|(2.00%)|(0.15%)");
+
+        const Setting contours {"FieldLayers.ShowContour", "", 1};
+        row("contour layer off", "contour", {},
+            "1|Zone 1|1|[x]|([x])|(Flood)|(C1: Pressure)|(C1: "
+            "Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)");
+        row("flood", "contour 3D", {contours},
+            "1|Zone 1|1|[x]|[x]|Flood|C1: Pressure|(C1: "
+            "Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)|[x]");
+        row("lines", "contour", {contours, {"FieldMap.Contour.ContourType", "1", 0}},
+            "1|Zone 1|1|[x]|[x]|Lines|(C1: Pressure)|C1: Pressure|#000000|Solid|(2.00%)|0.15%");
+        row("dashed lines", "contour",
+            {contours,
+             {"FieldMap.Contour.ContourType", "1", 2},
+             {"FieldMap.Contour.LinePattern", "1", 1}},
+            "1|Zone 1|1|[x]|[x]|Lines and flood|C1: Pressure|C1: "
+            "Pressure|#000000|Dashed|2.00%|0.15%");
+        row("flood by cell in RGB", "contour",
+            {contours,
+             {"FieldMap.Contour.ContourType", "1", 3},
+             {"FieldMap.Contour.FloodColoring", "1", 0}},
+            "1|Zone 1|1|[x]|[x]|Average cell flood|RGB|(C1: "
+            "Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)");
+        row("contour hidden", "contour 3D", {contours, {"FieldMap.Contour.Show", "1", 0}},
+            "1|Zone 1|1|[x]|([ ])|(Flood)|(C1: Pressure)|(C1: "
+            "Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)|([x])");
+
+        const Setting shades {"FieldLayers.ShowShade", "", 1};
+        row("shade", "shade 3D", {shades, {"FieldMap.Shade.UseLightingEffect", "1", 0}},
+            "1|Zone 1|1|[x]|[x]|#d62728|[ ]");
+        row("shade layer off", "shade 3D", {}, "1|Zone 1|1|[x]|([x])|(#d62728)|([x])");
+        row("shade hidden", "shade 3D", {shades, {"FieldMap.Shade.Show", "1", 0}},
+            "1|Zone 1|1|[x]|([ ])|(#d62728)|([x])");
+
+        row("XY definitions", "xy", {}, "1|Force|[x]|1: Zone 1|None|Always|1: Time|2: Force|X1|Y1");
+        row("spline is not sorted", "xy",
+            {{"LineMap.Curves.CurveType", "1", 4}, {"LineMap.Assign.XAxis", "1", 5}},
+            "1|Force|[x]|1: Zone 1|(N/A)|Always|1: Time|2: Force|X5|Y1");
+        row("parametric spline is", "xy",
+            {{"LineMap.Curves.CurveType", "1", 5}, {"LineMap.Assign.Sort", "1", 2}},
+            "1|Force|[x]|1: Zone 1|By dependent variable|Always|1: Time|2: Force|X1|Y1");
+        row("sorted by a variable", "xy",
+            {{"LineMap.Assign.Sort", "1", 3}, {"LineMap.Assign.SortVar", "1", 5}},
+            "1|Force|[x]|1: Zone 1|Error|Always|1: Time|2: Force|X1|Y1");
+        row("polar definitions", "polar", {}, "1|Gain|[x]|1: Zone 1|None|Always|6: Angle|7: Gain");
+
+        row("kinds", "kinds",
+            {{"LineMap.Indices.IRange.Skip", "1", 3}, {"LinePlotLayers.ShowLines", "", 0}},
+            "500|1,0,3|y=f(x)|[x]|(0.15%)|0|3");
+        row("names by plot type", "polar kinds", {{"LineMap.Assign.FunctionDependency", "1", 1}},
+            "500|1,0,1|Theta=f(R)|[x]|0.15%|0|3");
+    }
+
+    void showRows()
+    {
+        const auto [chain, settings, row] = currentRow<QString, QVector<Setting>, QString>();
+        open(chain);
+        for (const Setting& setting : settings)
+            QVERIFY(setStyle(setting.path, setting.maps, setting.value));
+        QCOMPARE(rowText(*m_model, 0), row);
+        for (int column = 0; column < m_model->columnCount(); ++column) {
+            const QModelIndex cell = m_model->index(0, column);
+            if (cell.data().userType() == QMetaType::QColor)
+                QCOMPARE(cell.data(Qt::EditRole), cell.data());
+        }
+    }
+
+    void writeEdits_data()
+    {
+        const Rows<QString, QString, QVariant, int,
+                   QString>
+            add; // chain, column, value, role, written (for maps 2 and 3)
+        const auto row = [&add](const char* chain, const char* column, const QVariant& value,
+                                const char* written, int role = Qt::EditRole) {
+            add(qPrintable(QString::asprintf("%s, %s = %s for %d", chain, column,
+                                             qPrintable(value.toString()), role)),
+                chain, column, value, role, written);
+        };
+
+        row("mesh", "Zone Number", 5, "");
+        row("mesh", "Zone Name", "x", "");
+        row("mesh", "Group Number", "3", "FieldMap.Group 2-3 = 3");
+        row("mesh", "Group Number", "3", "", Qt::DisplayRole);
+        row("mesh", "Group Number", "", "FieldMap.Group 2-3 = 0 (6)");
+        row("mesh", "Show Zone", 0, "ActiveFieldMaps - 2-3", Qt::CheckStateRole);
+        row("mesh", "Show Zone", 0, "", Qt::EditRole);
+
+        row("mesh", "Show Mesh", 2, "FieldMap.Mesh.Show 2-3 = true", Qt::CheckStateRole);
+        row("mesh", "Show Mesh", 2, "FieldMap.Mesh.Show 2-3 = true", Qt::DisplayRole);
+        row("mesh", "Show Mesh", true, "FieldMap.Mesh.Show 2-3 = false", Qt::CheckStateRole);
+        row("mesh", "Mesh Type", "Hidden line", "FieldMap.Mesh.MeshType 2-3 = 2");
+        row("mesh", "Mesh Type", 2, "FieldMap.Mesh.MeshType 2-3 = 2");
+        row("mesh", "Mesh Type", 2, "", Qt::DisplayRole);
+        row("mesh", "Mesh Type", "Hidden", "");
+        row("mesh", "Mesh Type", 3, "FieldMap.Mesh.MeshType 2-3 = 3 (6)");
+        row("mesh", "Mesh Color", 5, "");
+        row("mesh", "Pattern Length", "0.50", "FieldMap.Mesh.PatternLength 2-3 = 1");
+        row("mesh", "Line Thickness", "0.30%", "FieldMap.Mesh.LineThickness 2-3 = 0 (6)");
+
+        row("contour", "Contour Type", "lines", "FieldMap.Contour.ContourType 2-3 = 0",
+            Qt::UserRole);
+        row("contour", "Flood By", "RGB", "FieldMap.Contour.FloodColoring 2-3 = 0");
+        row("contour", "Flood By", "C1: Pressure", "FieldMap.Contour.FloodColoring 2-3 = 1");
+        row("contour", "Lines By", "C2: Density", "FieldMap.Contour.LineContourGroup 2-3 = 2");
+        row("contour", "Lines By", "RGB", "FieldMap.Contour.LineContourGroup 2-3 = 0 (6)");
+        row("contour", "Pattern Length", 4, "FieldMap.Contour.PatternLength 2-3 = 4",
+            Qt::DisplayRole);
+        row("contour 3D", "Use Lighting", 0, "FieldMap.Contour.UseLightingEffect 2-3 = false",
+            Qt::CheckStateRole);
+        row("shade 3D", "Use Lighting", 0, "FieldMap.Shade.UseLightingEffect 2-3 = false",
+            Qt::CheckStateRole);
+
+        row("xy", "Show Map", 0, "ActiveLineMaps - 2-3", Qt::DisplayRole);
+        row("xy", "Zone", "3: Zone 3", "LineMap.Assign.Zone 2-3 = 3");
+        row("xy", "Zone", 1, "LineMap.Assign.Zone 2-3 = 2");
+        row("xy", "Zone", "", "");
+        row("xy", "Zone", 2147483647, "LineMap.Assign.Zone 2-3 = 2147483647 (6)");
+        row("xy", "Sort", "By dependent variable", "LineMap.Assign.Sort 2-3 = 2");
+        row("xy", "Sort", "By specific variable", "");
+        row("xy", "Show in Legend", "Never", "LineMap.Assign.ShowInLegend 2-3 = 1");
+        row("xy", "X-Axis Variable", "4: Power", "LineMap.Assign.XAxisVar 2-3 = 4");
+        row("xy", "Y-Axis Variable", 0, "LineMap.Assign.YAxisVar 2-3 = 1");
+        row("xy", "Which X-Axis", "X5", "LineMap.Assign.XAxis 2-3 = 5");
+        row("xy", "Which Y-Axis", 0, "LineMap.Assign.YAxis 2-3 = 1");
+        row("polar", "Theta Variable", "7: Gain", "LineMap.Assign.ThetaAxisVar 2-3 = 7");
+        row("polar", "Radius Variable", 1, "LineMap.Assign.RAxisVar 2-3 = 2");
+
+        row("kinds", "Points", "250", "LineMap.Curves.NumPts 2-3 = 250");
+        row("kinds", "Range", "1,2,3", "");
+        row("polar kinds", "Dependency", "theta=f(r)", "LineMap.Assign.FunctionDependency 2-3 = 1");
+        row("kinds", "Thickness", 2, "FieldMap.Lines.LineThickness 2-3 = 2 (3)");
+
+        // What an edit of numbers and of choices stands for.
+        const auto group = [&](const QVariant& value, const char* number) {
+            row("mesh", "Group Number", value,
+                qPrintable(QString("FieldMap.Group 2-3 = ") + number));
+        };
+        group(0.5, "1");
+        group(2.5, "3");
+        group(1e300, "2147483647");
+        group(-1e300, "-2147483648 (6)");
+        group(qQNaN(), "0 (6)");
+        group(true, "1");
+        group("  12.4 % ", "12");
+        group("1,5", "0 (6)");
+        group("inf", "0 (6)");
+        group(QVariant(), "0 (6)");
+        row("contour", "Line Pattern", "Dash dot", "FieldMap.Contour.LinePattern 2-3 = 2");
+        row("contour", "Line Pattern", "Dash", "");
+        row("contour", "Line Pattern", " 4 ", "FieldMap.Contour.LinePattern 2-3 = 4");
+        row("contour", "Line Pattern", "1.5", "");
+    }
+
+    void writeEdits()
+    {
+        const auto [chain, column, value, role, written] =
+            currentRow<QString, QString, QVariant, int, QString>();
+        open(chain);
+        QVERIFY(m_model->setDataForIndexes(cells(*m_model, {1, 2}, columnOf(column)), value, role));
+        QCOMPARE(takeWrites(), written);
+    }
+
+    void offerMenus_data()
+    {
+        const Rows<QString, QString, QString, QString,
+                   QString>
+            add; // chain, column, entries, chosen, written (for maps 3 and 1)
+        const auto row = [&add](const char* chain, const char* column, const char* entries,
+                                const char* chosen = "", const char* written = "") {
+            add(QString::asprintf("%s, %s", chain, column), chain, column, entries, chosen,
+                written);
+        };
+        const char* lengths = "0.50|1.00|2.00|4.00|8.00|-|Enter...";
+        const char* thicknesses = "0.05|0.15|0.30|0.60|1.20|-|Enter...";
+        const char* patterns = "Solid|Dashed|Dash dot|Dotted|Long dash|Dash dot dot";
+
+        row("mesh", "Zone Number", "");
+        row("mesh", "Zone Name", "");
+        row("mesh", "Group Number", "");
+        row("mesh", "Show Zone", "Activate|Deactivate|Show selected only|Invert", "Invert",
+            "ActiveFieldMaps - 1,3");
+        row("mesh", "Show Mesh", "Yes|No", "No", "FieldMap.Mesh.Show 1,3 = false");
+        row("mesh", "Mesh Type", "Wire frame|Overlay|Hidden line", "Hidden line",
+            "FieldMap.Mesh.MeshType 1,3 = 2");
+        row("mesh", "Mesh Color", "<colors and groups>");
+        row("mesh", "Line Pattern", patterns, "Dash dot dot", "FieldMap.Mesh.LinePattern 1,3 = 5");
+        row("mesh", "Pattern Length", lengths, "0.50", "FieldMap.Mesh.PatternLength 1,3 = 0.5");
+        row("mesh", "Line Thickness", thicknesses, "0.05",
+            "FieldMap.Mesh.LineThickness 1,3 = 0.05");
+
+        row("contour", "Contour Type",
+            "Lines|Flood|Lines and flood|Average cell flood|Primary value flood",
+            "Primary value flood", "FieldMap.Contour.ContourType 1,3 = 4");
+        row("contour", "Flood By",
+            "C1: Pressure|C2: Density|C3: unassigned|C4: unassigned|C5: unassigned|C6: "
+            "unassigned|C7: "
+            "unassigned|C8: unassigned|-|(RGB)",
+            "C3: unassigned", "FieldMap.Contour.FloodColoring 1,3 = 3");
+        row("contour", "Lines By",
+            "C1: Pressure|C2: Density|C3: unassigned|C4: unassigned|C5: unassigned|C6: "
+            "unassigned|C7: "
+            "unassigned|C8: unassigned",
+            "C8: unassigned", "FieldMap.Contour.LineContourGroup 1,3 = 8");
+        row("contour", "Line Color", "<colors and groups>");
+        row("contour 3D", "Use Lighting", "Yes|No", "No",
+            "FieldMap.Contour.UseLightingEffect 1,3 = false");
+        row("shade", "Shade Color", "<colors>");
+        row("shade 3D", "Use Lighting", "Yes|No", "No",
+            "FieldMap.Shade.UseLightingEffect 1,3 = false");
+
+        row("xy", "Map Number", "");
+        row("xy", "Map Name", "");
+        row("xy", "Show Map", "Activate|Deactivate|Show selected only|Invert", "Show selected only",
+            "ActiveLineMaps + 1,3; ActiveLineMaps - 2,4-6");
+        row("xy", "Zone", "Select Zone...");
+        row("xy", "Sort", "None|By independent variable|By dependent variable",
+            "By dependent variable", "LineMap.Assign.Sort 1,3 = 2");
+        row("xy", "Show in Legend", "Always|Never|Auto", "Auto",
+            "LineMap.Assign.ShowInLegend 1,3 = 2");
+        row("xy", "X-Axis Variable", "Select Variable...", "Select Variable...",
+            "LineMap.Assign.XAxisVar 1,3 = 7");
+        row("xy", "Y-Axis Variable", "Select Variable...", "Select Variable...",
+            "LineMap.Assign.YAxisVar 1,3 = 7");
+        row("xy", "Which X-Axis", "X1|X2|X3|X4|X5", "X5", "LineMap.Assign.XAxis 1,3 = 5");
+        row("xy", "Which Y-Axis", "Y1|Y2|Y3|Y4|Y5", "Y2", "LineMap.Assign.YAxis 1,3 = 2");
+        row("polar", "Theta Variable", "Select Variable...", "Select Variable...",
+            "LineMap.Assign.XAxisVar 1,3 = 7");
+        row("polar", "Radius Variable", "Select Variable...", "Select Variable...",
+            "LineMap.Assign.YAxisVar 1,3 = 7");
+
+        row("kinds", "Points", "250|500|1000|-|Enter...", "1000",
+            "LineMap.Curves.NumPts 1,3 = 1000");
+        row("kinds", "Order", "250|500|1000|Enter...");
+        row("kinds", "Range", "Enter range...");
+        row("polar kinds", "Dependency", "R=f(Theta)|Theta=f(R)", "Theta=f(R)",
+            "LineMap.Assign.FunctionDependency 1,3 = 1");
+    }
+
+    void offerMenus()
+    {
+        const auto [chain, column, entries, chosen, written] =
+            currentRow<QString, QString, QString, QString, QString>();
+        open(chain);
+        ModalResponder user;
+        if (chosen == "Select Variable...")
+            user.reply("Gain");
+        ColumnMenu menu(*m_model, {2, 0}, columnOf(column));
+        QCOMPARE(menu.text(), entries);
+        if (!chosen.isEmpty())
+            QVERIFY(menu.choose(chosen));
+        QCOMPARE(takeWrites(), written);
+        QVERIFY(user.isSettled());
+        for (const QString& seen : user.takeSeen())
+            QVERIFY2(seen.startsWith("Choose the variable: Choose the variable ["),
+                     qPrintable(seen));
+    }
+
+    void greyInactiveMaps()
+    {
+        open("mesh");
+        QVERIFY(m_model->setData(m_model->index(0, columnOf("Show Zone")), Qt::Unchecked,
+                                 Qt::CheckStateRole));
+        QVERIFY(rowText(*m_model, 0).startsWith("(1)|(Zone 1)|(1)|([ ])|([x])|("));
+        QVERIFY(rowText(*m_model, 1).startsWith("2|Zone 2|1|[x]|[x]|"));
+
+        open("xy");
+        QVERIFY(m_model->setData(m_model->index(0, columnOf("Show Map")), Qt::Unchecked,
+                                 Qt::CheckStateRole));
+        QCOMPARE(
+            rowText(*m_model, 0),
+            QString("(1)|(Force)|([ ])|(1: Zone 1)|(None)|Always|(1: Time)|(2: Force)|(X1)|(Y1)"));
+    }
+
+    void enableRGBWithItsVariables()
+    {
+        open("contour");
+        for (const char* channel : {"RedVar", "GreenVar", "BlueVar"})
+            QVERIFY(setStyle(QString("GlobalRGB.") + channel, "", 3));
+        ColumnMenu menu(*m_model, {0}, columnOf("Flood By"));
+        QVERIFY(menu.choose("RGB"));
+        QCOMPARE(takeWrites(), QString("FieldMap.Contour.FloodColoring 1 = 0"));
+    }
+
+    void haveTheseOdditiesOnly()
+    {
+        QStringList oddities;
+        oddities << Described<FieldStaticAreaModel>().oddities()
+                 << Described<LineStaticAreaModel>().oddities()
+                 << Described<FieldMeshModel>().oddities()
+                 << Described<FieldContourModel>().oddities()
+                 << Described<FieldContour3DModel>().oddities()
+                 << Described<FieldShadeModel>().oddities()
+                 << Described<FieldShade3DModel>().oddities()
+                 << Described<LineDefinitionsModel>().oddities()
+                 << Described<LineDefinitionsXYModel>().oddities()
+                 << Described<LineDefinitionsPolarModel>().oddities();
+        const QStringList deliberate {
+            "Zone Name has an editor that does not open",
+            "Group Number takes role 2",
+            "Show Zone takes role 10",
+            "Mesh Type takes role 2",
+            "Line Pattern takes role 2",
+            "Pattern Length takes role 2",
+            "Line Thickness takes role 2",
+            "Show in Legend is always relevant",
+            "Theta Variable menu writes LineMap.Assign.XAxisVar",
+            "Radius Variable menu writes LineMap.Assign.YAxisVar",
+        };
+        QCOMPARE(oddities, deliberate);
+    }
+
+    void describeColumns_data()
+    {
+        const Rows<QString> row;
+        // Header, i/p/s for the brush, editor type and option, flags: e editable, c checkable.
+        row("mesh",
+            "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone "
+            "i 7/0 c, Show Mesh p 7/0 c, Mesh Type p 3/1, Mesh Color p 8/0, Line "
+            "Pattern s 3/1, Pattern Length s 5/0, Line Thickness s 5/0");
+        row("contour 3D",
+            "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, Show "
+            "Contour p 7/0 c, Contour Type p 3/1, Flood By p 3/4, Lines By p 3/4, Line Color s "
+            "8/0, "
+            "Line Pattern s 3/1, Pattern Length s 5/0, Line Thickness s 5/0, Use Lighting s 7/0 c");
+        row("shade 3D",
+            "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, Show "
+            "Shade p 7/0 c, Shade Color p 8/0, Use Lighting s 7/0 c");
+        row("xy",
+            "Map Number i 0/0, Map Name i 9/2 e, Show Map i 7/0 c, Zone p 6/2 e, "
+            "Sort s 3/1, Show in Legend s 3/1, X-Axis Variable p 6/3 e, Y-Axis "
+            "Variable p 6/3 e, Which X-Axis s 3/0, Which Y-Axis s 3/0");
+        row("polar",
+            "Map Number i 0/0, Map Name i 9/2 e, Show Map i 7/0 c, Zone p 6/2 e, Sort s 3/1, Show "
+            "in Legend s 3/1, Theta Variable p 6/3 e, Radius Variable p 6/3 e");
+    }
+
+    void describeColumns()
+    {
+        const auto [columns] = currentRow<QString>();
+        open(QTest::currentDataTag());
+        const std::map<QString, QString> brushes {
+            {"#3a5a95", "i"}, {"#1f731c", "p"}, {"#c24809", "s"}};
+        QStringList texts;
+        for (int column = 0; column < m_model->columnCount(); ++column) {
+            const auto brush =
+                m_model->headerData(column, Qt::Horizontal, Qt::BackgroundRole).value<QBrush>();
+            const Qt::ItemFlags flags = m_model->flags(m_model->index(0, column));
+            QVERIFY(flags.testFlag(Qt::ItemIsSelectable) && flags.testFlag(Qt::ItemIsEnabled));
+            texts << QString("%1 %2 %3/%4%5%6")
+                         .arg(m_model->headerData(column, Qt::Horizontal)
+                                  .toString()
+                                  .replace('\n', ' '),
+                              brushes.at(brush.color().name()))
+                         .arg(m_model->columnEditorType(column))
+                         .arg(m_model->columnEditorOption(column))
+                         .arg(flags.testFlag(Qt::ItemIsEditable) ? " e" : "",
+                              flags.testFlag(Qt::ItemIsUserCheckable) ? " c" : "");
+        }
+        QCOMPARE(texts.join(", "), columns);
+    }
+
+    void giveWhatTheirModelsNeed()
+    {
+        open("kinds");
+        QVERIFY(setStyle("ContourGroups.Var", "", 4, 2));
+        QCOMPARE(rowText(*m_model, 1), QString("500|1,0,1|y=f(x)|(N/A)|0.15%|4|3"));
+        const QModelIndex unowned = m_model->index(1, columnOf("Owned"));
+        QVERIFY(!unowned.data(Qt::CheckStateRole).isValid());
+        const QVariant raw = m_model->index(1, columnOf("Dependency")).data(Qt::UserRole);
+        QVERIFY(raw.canConvert<FunctionDependency_e>() && raw.toInt() == FunctionDependency_YofX);
+        QCOMPARE(m_model->index(0, columnOf("Points")).data(Qt::EditRole).toStringList().join('|'),
+                 QString("250|500|1000"));
+
+        m_model.reset(new RefusingModel(nullptr));
+        QVERIFY(!m_model->setData(m_model->index(0, columnOf("Points")), 250));
+        QCOMPARE(takeWrites(), QString());
+    }
+
+    void renameMapsForAnyRole()
+    {
+        open("xy");
+        const int column = columnOf("Map Name");
+        QVERIFY(m_model->setDataForIndexes(cells(*m_model, {1, 2}, column), "Run &M#&",
+                                           Qt::DisplayRole));
+        QCOMPARE(columnText(*m_model, column).section('|', 0, 2), QString("Force|Run 2|Run 3"));
+        QCOMPARE(m_model->index(2, column).data(Qt::EditRole).toString(), QString("Run &M#&"));
+    }
+
+    void confirmZones()
+    {
+        open("xy");
+        const QModelIndexList zones = cells(*m_model, {1, 2}, columnOf("Zone"));
+        ModalResponder user;
+        user.reject().accept();
+        QVERIFY(!m_model->setDataForIndexes(zones, "4: Zone 4", Qt::EditRole)); // is not ordered
+        QCOMPARE(takeWrites(), QString());
+        QVERIFY(m_model->setDataForIndexes(zones, "4: Zone 4", Qt::EditRole));
+        QCOMPARE(takeWrites(), QString("LineMap.Assign.Zone 2-3 = 4"));
+        QVERIFY(user.isSettled());
+    }
+
+    void confirmZonesForTheEditedMaps()
+    {
+        open("xy");
+        auto data =
+            std::make_shared<corvala::host::DataSet>(*Document::instance().activeFrame()->data());
+        data->variables.push_back({"Missing", {}, "no such array", 0});
+        Document::instance().execute(corvala::host::AttachData {{}, data, PlotType_LineXY, 3});
+        QVERIFY(setStyle("LineMap.Assign.YAxisVar", "2", 8));
+        ModalResponder user;
+        QVERIFY(m_model->setData(m_model->index(0, columnOf("Zone")), "2: Zone 2"));
+        user.reject();
+        QVERIFY(!m_model->setData(m_model->index(1, columnOf("Zone")), "2: Zone 2"));
+        QCOMPARE(takeWrites(), QString("LineMap.Assign.Zone 1 = 2"));
+        QVERIFY(user.isSettled());
+    }
+
+    void listEnabledOnly()
+    {
+        open("xy");
+        corvala::host::NumberSet some = corvala::host::allUpTo(4);
+        some.remove(1);
+        QVERIFY(Document::instance().execute(corvala::host::EnableZones {some}).isDone()
+                && Document::instance().execute(corvala::host::EnableVariables {some}).isDone());
+        const QModelIndex zone = m_model->index(0, columnOf("Zone"));
+        const QModelIndex variable = m_model->index(0, columnOf("X-Axis Variable"));
+        QCOMPARE(zone.data(Qt::EditRole).toStringList().join('|'),
+                 QString("2: Zone 2|3: Zone 3|4: Zone 4"));
+        QCOMPARE(variable.data(Qt::EditRole).toStringList().join('|'),
+                 QString("2: Force|3: Moment|4: Power"));
+        QVERIFY(m_model->setData(variable, "4: Power"));
+        QCOMPARE(takeWrites(),
+                 QString("LineMap.Assign.XAxisVar 1 = 3")); // the position in the list
+    }
+
+    void showStrands()
+    {
+        QVERIFY(openDemo("transient"));
+        m_model.reset(makeChain<FieldStaticAreaModel, FieldMeshModel>());
+        QCOMPARE(columnText(*m_model, columnOf("Zone Number")), QString("1|2*|(N/A)"));
+        QCOMPARE(columnText(*m_model, columnOf("Zone Name")).section('|', 2),
+                 QString("(Strand ID 7 has no relevant zones at the current solution time)"));
+        for (const int column : {0, m_model->columnCount() - 1}) {
+            const QString tip = m_model->index(2, column).data(Qt::ToolTipRole).toString();
+            QVERIFY(tip.startsWith(
+                "<html>The strand has no zones at the current solution time, therefore"));
+            QVERIFY(!m_model->index(1, column).data(Qt::ToolTipRole).isValid());
+            QVERIFY(!m_model->index(3, column).data(Qt::ToolTipRole).isValid());
+        }
+        QVERIFY(Document::instance().execute(corvala::host::SetSolutionTime {2}).isDone());
+        QCOMPARE(columnText(*m_model, columnOf("Zone Number")), QString("1|4*|6*"));
+    }
+
+    void followTheActiveFrame()
+    {
+        open("mesh");
+        QVERIFY(m_model->isForCurrentFrame());
+        Document::instance().execute(corvala::host::AddFrame {});
+        QCOMPARE(m_model->rowCount(), 0);
+        QVERIFY(!m_model->isForCurrentFrame()); // no data
+        std::string error;
+        QVERIFY(corvala::samples::openDemo("field2d", 5, error));
+        QCOMPARE(m_model->rowCount(), 5);
+        Document::instance().execute(corvala::host::ActivateFrame {1});
+        QCOMPARE(m_model->rowCount(), 12);
+        QVERIFY(m_model->isForCurrentFrame());
+    }
+
+    void matchNames()
+    {
+        QVERIFY(openDemo("kinds"));
+        m_model.reset(makeChain<FieldStaticAreaModel, FieldMeshModel>());
+        const auto matches = [this](const QString& pattern, int row, int hits, Qt::MatchFlags flags,
+                                    const char* header = "Zone Name") {
+            const int column = columnOf(header);
+            QStringList rows;
+            for (const QModelIndex& index :
+                 m_model->match(m_model->index(row, column), Qt::DisplayRole, pattern, hits, flags))
+                rows << QString::number(index.row()) + (index.column() == column ? "" : "?");
+            return rows.join(' ');
+        };
+        QCOMPARE(matches("zone*", 0, -1, Qt::MatchWildcard), QString("0 1"));
+        QCOMPARE(matches("zone*", 0, -1, Qt::MatchWildcard | Qt::MatchCaseSensitive), QString());
+        QCOMPARE(matches("*o*", 1, -1, Qt::MatchWildcard), QString("1 2 3"));
+        QCOMPARE(matches("*o*", 1, -1, Qt::MatchWildcard | Qt::MatchWrap), QString("1 2 3 0"));
+        QCOMPARE(matches("*o*", 1, 2, Qt::MatchWildcard), QString("1 2"));
+        QCOMPARE(matches("body?tets", 0, -1, Qt::MatchWildcard), QString("3"));
+        QCOMPARE(matches("wing [upper]", 0, -1, Qt::MatchWildcard), QString("4"));
+        QCOMPARE(matches("*", 8, -1, Qt::MatchWildcard), QString());
+        QCOMPARE(matches("overlay", 6, -1, Qt::MatchWildcard, "Mesh Type"), QString("6 7"));
+        QCOMPARE(matches("My", 0, -1, Qt::MatchStartsWith), QString("2")); // Qt's own
+        QVERIFY(setStyle("FieldMap.Group", "4", 2));
+        QCOMPARE(matches("2", 0, -1, Qt::MatchFixedString, "Group Number"), QString("3"));
+    }
+
+    void matchPatterns()
+    {
+        const struct
+        {
+            QString pattern, name;
+            bool matches;
+        } rows[] = {
+            {"zone 1", "Zone 1", true},
+            {"zone", "Zone 1", false},
+            {"zone*", "My zone", false},
+            {"zone 1*", "zone 1", true},
+            {"body*", "body/left/wing", true},
+            {"a*c", "a\nb\nc", true},
+            {"*ab*b", "aab abb", true},
+            {"*ab*c", "aab abb", false},
+            {"a***b", "ab", true},
+            {"a?b", "a/b", true},
+            {"zone 1?", "Zone 1", false},
+            {"a?b",
+             QString::fromUtf8("a\xF0\x9F\x98\x80"
+                               "b"),
+             true},
+            {"wing [u]", "wing u", false},
+            {"a\\*", "a\\b", true},
+            {"a.b", "axb", false},
+            {QString::fromUtf8("GR\xC3\x96*"),
+             QString::fromUtf8("gr\xC3\xB6\xC3\x9F"
+                               "e"),
+             true},
+            {"", "x", false},
+            {"*", "", true},
+            {QString("a*").repeated(60) + "b", QString("a").repeated(2000), false}, // and is quick
+        };
+        for (const auto& row : rows)
+            QVERIFY2(NamePattern(row.pattern, Qt::CaseInsensitive).matches(row.name) == row.matches,
+                     qPrintable(row.pattern));
+        QVERIFY(!NamePattern("zone 1", Qt::CaseSensitive).matches("Zone 1"));
+    }
+
+    void registerByPage()
+    {
+        QVERIFY(openDemo("field2d"));
+        const QWidget page;
+        const QWidget other;
+        ModelForPageMap models;
+        auto* planar = makeChain<FieldStaticAreaModel>();
+        auto* every = makeChain<FieldStaticAreaModel>();
+        const std::unique_ptr<ModelAbstract> second(makeChain<FieldStaticAreaModel>());
+        const QPointer<ModelAbstract> watched(planar);
+
+        QVERIFY(models.add(&page, planar, PlotType_Field2D));
+        QVERIFY(!models.add(&page, second.get(), PlotType_Field2D));
+        QCOMPARE(models.modelFor(&page), planar);
+        QVERIFY(!models.modelFor(&other));
+        QVERIFY(setStyle("PlotType", "", PlotType_Field3D));
+        QVERIFY(!models.modelFor(&page));
+        QVERIFY(setStyle("PlotType", "", PlotType_Field2D));
+        QVERIFY(models.add(&page, every, ModelForPageMap::kEveryPlotType));
+        QCOMPARE(models.modelFor(&page), every);
+        models.clear();
+        QVERIFY(!models.modelFor(&page) && !watched);
+    }
 
 private:
-    void open(const QString& chain);
-    int columnOf(const QString& header) const;
+    void open(const QString& chain)
+    {
+        const Chain& description = chains().at(chain);
+        QVERIFY(openDemo(description.demo));
+        m_model.reset(description.make());
+    }
+
+    int columnOf(const QString& header) const
+    {
+        for (int column = 0; column < m_model->columnCount(); ++column)
+            if (m_model->headerData(column, Qt::Horizontal).toString().replace('\n', ' ') == header)
+                return column;
+        return -1;
+    }
 
     std::unique_ptr<ModelAbstract> m_model;
 };
-
-void tst_TableModels::cleanup()
-{
-    m_model.reset();
-}
-
-void tst_TableModels::open(const QString& chain)
-{
-    const Chain& description = chains().at(chain);
-    QVERIFY(openDemo(description.demo));
-    m_model.reset(description.make());
-}
-
-int tst_TableModels::columnOf(const QString& header) const
-{
-    for (int column = 0; column < m_model->columnCount(); ++column)
-        if (m_model->headerData(column, Qt::Horizontal).toString().replace('\n', ' ') == header)
-            return column;
-    return -1;
-}
-
-void tst_TableModels::areWellBehaved()
-{
-    QFETCH(QString, chain);
-    open(chain);
-    const auto test = [this] {
-        const QAbstractItemModelTester tester(
-            m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
-    };
-    test();
-    m_model->setData(m_model->index(1, m_model->columnCount() - 1), Qt::Checked,
-                     Qt::CheckStateRole);
-    test();
-    Document::instance().execute(corvala::host::DetachData {});
-    QCOMPARE(m_model->rowCount(), 0);
-    test();
-    while (Document::instance().frameCount() > 0)
-        Document::instance().execute(corvala::host::DeleteFrame {});
-    QCOMPARE(m_model->rowCount(), 0);
-    test();
-}
-
-void tst_TableModels::showRows_data()
-{
-    QTest::addColumn<QString>("chain");
-    QTest::addColumn<QVector<Setting>>("settings"); // before the look at the first map
-    QTest::addColumn<QString>("row");
-    const auto row = [](const char* name, const char* chain, const QVector<Setting>& settings,
-                        const char* text) { QTest::newRow(name) << chain << settings << text; };
-
-    row("mesh", "mesh", {}, "1|Zone 1|1|[x]|[x]|Overlay|#d62728|Solid|(2.00%)|0.15%");
-    row("mesh dashed", "mesh",
-        {{"FieldMap.Mesh.LinePattern", "1", 1}, {"FieldMap.Mesh.LineThickness", "1", 0.5}},
-        "1|Zone 1|1|[x]|[x]|Overlay|#d62728|Dashed|2.00%|0.50%");
-    row("mesh hidden", "mesh", {{"FieldMap.Mesh.Show", "1", 0}},
-        "1|Zone 1|1|[x]|([ ])|(Overlay)|(#d62728)|(Solid)|(2.00%)|(0.15%)");
-    row("mesh layer off", "mesh", {{"FieldLayers.ShowMesh", "", 0}},
-        "1|Zone 1|1|[x]|([x])|(Overlay)|(#d62728)|(Solid)|(2.00%)|(0.15%)");
-
-    const Setting contours {"FieldLayers.ShowContour", "", 1};
-    row("contour layer off", "contour", {},
-        "1|Zone 1|1|[x]|([x])|(Flood)|(C1: Pressure)|(C1: "
-        "Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)");
-    row("flood", "contour 3D", {contours},
-        "1|Zone 1|1|[x]|[x]|Flood|C1: Pressure|(C1: "
-        "Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)|[x]");
-    row("lines", "contour", {contours, {"FieldMap.Contour.ContourType", "1", 0}},
-        "1|Zone 1|1|[x]|[x]|Lines|(C1: Pressure)|C1: Pressure|#000000|Solid|(2.00%)|0.15%");
-    row("dashed lines", "contour",
-        {contours,
-         {"FieldMap.Contour.ContourType", "1", 2},
-         {"FieldMap.Contour.LinePattern", "1", 1}},
-        "1|Zone 1|1|[x]|[x]|Lines and flood|C1: Pressure|C1: Pressure|#000000|Dashed|2.00%|0.15%");
-    row("flood by cell in RGB", "contour",
-        {contours,
-         {"FieldMap.Contour.ContourType", "1", 3},
-         {"FieldMap.Contour.FloodColoring", "1", 0}},
-        "1|Zone 1|1|[x]|[x]|Average cell flood|RGB|(C1: "
-        "Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)");
-    row("contour hidden", "contour 3D", {contours, {"FieldMap.Contour.Show", "1", 0}},
-        "1|Zone 1|1|[x]|([ ])|(Flood)|(C1: Pressure)|(C1: "
-        "Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)|([x])");
-
-    const Setting shades {"FieldLayers.ShowShade", "", 1};
-    row("shade", "shade 3D", {shades, {"FieldMap.Shade.UseLightingEffect", "1", 0}},
-        "1|Zone 1|1|[x]|[x]|#d62728|[ ]");
-    row("shade layer off", "shade 3D", {}, "1|Zone 1|1|[x]|([x])|(#d62728)|([x])");
-    row("shade hidden", "shade 3D", {shades, {"FieldMap.Shade.Show", "1", 0}},
-        "1|Zone 1|1|[x]|([ ])|(#d62728)|([x])");
-
-    row("XY definitions", "xy", {}, "1|Force|[x]|1: Zone 1|None|Always|1: Time|2: Force|X1|Y1");
-    row("spline is not sorted", "xy",
-        {{"LineMap.Curves.CurveType", "1", 4}, {"LineMap.Assign.XAxis", "1", 5}},
-        "1|Force|[x]|1: Zone 1|(N/A)|Always|1: Time|2: Force|X5|Y1");
-    row("parametric spline is", "xy",
-        {{"LineMap.Curves.CurveType", "1", 5}, {"LineMap.Assign.Sort", "1", 2}},
-        "1|Force|[x]|1: Zone 1|By dependent variable|Always|1: Time|2: Force|X1|Y1");
-    row("sorted by a variable", "xy",
-        {{"LineMap.Assign.Sort", "1", 3}, {"LineMap.Assign.SortVar", "1", 5}},
-        "1|Force|[x]|1: Zone 1|Error|Always|1: Time|2: Force|X1|Y1");
-    row("polar definitions", "polar", {}, "1|Gain|[x]|1: Zone 1|None|Always|6: Angle|7: Gain");
-
-    row("kinds", "kinds",
-        {{"LineMap.Indices.IRange.Skip", "1", 3}, {"LinePlotLayers.ShowLines", "", 0}},
-        "500|1,0,3|y=f(x)|[x]|(0.15%)|0|3");
-    row("names by plot type", "polar kinds", {{"LineMap.Assign.FunctionDependency", "1", 1}},
-        "500|1,0,1|Theta=f(R)|[x]|0.15%|0|3");
-}
-
-void tst_TableModels::showRows()
-{
-    QFETCH(QString, chain);
-    QFETCH(QVector<Setting>, settings);
-    open(chain);
-    for (const Setting& setting : settings)
-        QVERIFY(setStyle(setting.path, setting.maps, setting.value));
-    QTEST(rowText(*m_model, 0), "row");
-    for (int column = 0; column < m_model->columnCount(); ++column) {
-        const QModelIndex cell = m_model->index(0, column);
-        if (cell.data().userType() == QMetaType::QColor)
-            QCOMPARE(cell.data(Qt::EditRole), cell.data());
-    }
-}
-
-void tst_TableModels::greyInactiveMaps()
-{
-    open("mesh");
-    QVERIFY(m_model->setData(m_model->index(0, columnOf("Show Zone")), Qt::Unchecked,
-                             Qt::CheckStateRole));
-    QVERIFY(rowText(*m_model, 0).startsWith("(1)|(Zone 1)|(1)|([ ])|([x])|("));
-    QVERIFY(rowText(*m_model, 1).startsWith("2|Zone 2|1|[x]|[x]|"));
-
-    open("xy");
-    QVERIFY(m_model->setData(m_model->index(0, columnOf("Show Map")), Qt::Unchecked,
-                             Qt::CheckStateRole));
-    QCOMPARE(rowText(*m_model, 0),
-             QString("(1)|(Force)|([ ])|(1: Zone 1)|(None)|Always|(1: Time)|(2: Force)|(X1)|(Y1)"));
-}
-
-void tst_TableModels::writeEdits_data()
-{
-    QTest::addColumn<QString>("chain");
-    QTest::addColumn<QString>("column");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<int>("role");
-    QTest::addColumn<QString>("written"); // for maps 2 and 3
-    const auto row = [](const char* chain, const char* column, const QVariant& value,
-                        const char* written, int role = Qt::EditRole) {
-        QTest::addRow("%s, %s = %s for %d", chain, column, qPrintable(value.toString()), role)
-            << chain << column << value << role << written;
-    };
-
-    row("mesh", "Zone Number", 5, "");
-    row("mesh", "Zone Name", "x", "");
-    row("mesh", "Group Number", "3", "FieldMap.Group 2-3 = 3");
-    row("mesh", "Group Number", "3", "", Qt::DisplayRole);
-    row("mesh", "Group Number", "", "FieldMap.Group 2-3 = 0 (6)");
-    row("mesh", "Show Zone", 0, "ActiveFieldMaps - 2-3", Qt::CheckStateRole);
-    row("mesh", "Show Zone", 0, "", Qt::EditRole);
-
-    row("mesh", "Show Mesh", 2, "FieldMap.Mesh.Show 2-3 = true", Qt::CheckStateRole);
-    row("mesh", "Show Mesh", 2, "FieldMap.Mesh.Show 2-3 = true", Qt::DisplayRole);
-    row("mesh", "Show Mesh", true, "FieldMap.Mesh.Show 2-3 = false", Qt::CheckStateRole);
-    row("mesh", "Mesh Type", "Hidden line", "FieldMap.Mesh.MeshType 2-3 = 2");
-    row("mesh", "Mesh Type", 2, "FieldMap.Mesh.MeshType 2-3 = 2");
-    row("mesh", "Mesh Type", 2, "", Qt::DisplayRole);
-    row("mesh", "Mesh Type", "Hidden", "");
-    row("mesh", "Mesh Type", 3, "FieldMap.Mesh.MeshType 2-3 = 3 (6)");
-    row("mesh", "Mesh Color", 5, "");
-    row("mesh", "Pattern Length", "0.50", "FieldMap.Mesh.PatternLength 2-3 = 1");
-    row("mesh", "Line Thickness", "0.30%", "FieldMap.Mesh.LineThickness 2-3 = 0 (6)");
-
-    row("contour", "Contour Type", "lines", "FieldMap.Contour.ContourType 2-3 = 0", Qt::UserRole);
-    row("contour", "Flood By", "RGB", "FieldMap.Contour.FloodColoring 2-3 = 0");
-    row("contour", "Flood By", "C1: Pressure", "FieldMap.Contour.FloodColoring 2-3 = 1");
-    row("contour", "Lines By", "C2: Density", "FieldMap.Contour.LineContourGroup 2-3 = 2");
-    row("contour", "Lines By", "RGB", "FieldMap.Contour.LineContourGroup 2-3 = 0 (6)");
-    row("contour", "Pattern Length", 4, "FieldMap.Contour.PatternLength 2-3 = 4", Qt::DisplayRole);
-    row("contour 3D", "Use Lighting", 0, "FieldMap.Contour.UseLightingEffect 2-3 = false",
-        Qt::CheckStateRole);
-    row("shade 3D", "Use Lighting", 0, "FieldMap.Shade.UseLightingEffect 2-3 = false",
-        Qt::CheckStateRole);
-
-    row("xy", "Show Map", 0, "ActiveLineMaps - 2-3", Qt::DisplayRole);
-    row("xy", "Zone", "3: Zone 3", "LineMap.Assign.Zone 2-3 = 3");
-    row("xy", "Zone", 1, "LineMap.Assign.Zone 2-3 = 2");
-    row("xy", "Zone", "", "");
-    row("xy", "Zone", 2147483647, "LineMap.Assign.Zone 2-3 = 2147483647 (6)");
-    row("xy", "Sort", "By dependent variable", "LineMap.Assign.Sort 2-3 = 2");
-    row("xy", "Sort", "By specific variable", "");
-    row("xy", "Show in Legend", "Never", "LineMap.Assign.ShowInLegend 2-3 = 1");
-    row("xy", "X-Axis Variable", "4: Power", "LineMap.Assign.XAxisVar 2-3 = 4");
-    row("xy", "Y-Axis Variable", 0, "LineMap.Assign.YAxisVar 2-3 = 1");
-    row("xy", "Which X-Axis", "X5", "LineMap.Assign.XAxis 2-3 = 5");
-    row("xy", "Which Y-Axis", 0, "LineMap.Assign.YAxis 2-3 = 1");
-    row("polar", "Theta Variable", "7: Gain", "LineMap.Assign.ThetaAxisVar 2-3 = 7");
-    row("polar", "Radius Variable", 1, "LineMap.Assign.RAxisVar 2-3 = 2");
-
-    row("kinds", "Points", "250", "LineMap.Curves.NumPts 2-3 = 250");
-    row("kinds", "Range", "1,2,3", "");
-    row("polar kinds", "Dependency", "theta=f(r)", "LineMap.Assign.FunctionDependency 2-3 = 1");
-    row("kinds", "Thickness", 2, "FieldMap.Lines.LineThickness 2-3 = 2 (3)");
-
-    // What an edit of numbers and of choices stands for.
-    const auto group = [&](const QVariant& value, const char* number) {
-        row("mesh", "Group Number", value, qPrintable(QString("FieldMap.Group 2-3 = ") + number));
-    };
-    group(0.5, "1");
-    group(2.5, "3");
-    group(1e300, "2147483647");
-    group(-1e300, "-2147483648 (6)");
-    group(qQNaN(), "0 (6)");
-    group(true, "1");
-    group("  12.4 % ", "12");
-    group("1,5", "0 (6)");
-    group("inf", "0 (6)");
-    group(QVariant(), "0 (6)");
-    row("contour", "Line Pattern", "Dash dot", "FieldMap.Contour.LinePattern 2-3 = 2");
-    row("contour", "Line Pattern", "Dash", "");
-    row("contour", "Line Pattern", " 4 ", "FieldMap.Contour.LinePattern 2-3 = 4");
-    row("contour", "Line Pattern", "1.5", "");
-}
-
-void tst_TableModels::writeEdits()
-{
-    QFETCH(QString, chain);
-    QFETCH(QString, column);
-    QFETCH(QVariant, value);
-    QFETCH(int, role);
-    open(chain);
-    QVERIFY(m_model->setDataForIndexes(cells(*m_model, {1, 2}, columnOf(column)), value, role));
-    QTEST(takeWrites(), "written");
-}
-
-void tst_TableModels::offerMenus_data()
-{
-    QTest::addColumn<QString>("chain");
-    QTest::addColumn<QString>("column");
-    QTest::addColumn<QString>("entries");
-    QTest::addColumn<QString>("chosen");
-    QTest::addColumn<QString>("written"); // for maps 3 and 1
-    const auto row = [](const char* chain, const char* column, const char* entries,
-                        const char* chosen = "", const char* written = "") {
-        QTest::addRow("%s, %s", chain, column) << chain << column << entries << chosen << written;
-    };
-    const char* lengths = "0.50|1.00|2.00|4.00|8.00|-|Enter...";
-    const char* thicknesses = "0.05|0.15|0.30|0.60|1.20|-|Enter...";
-    const char* patterns = "Solid|Dashed|Dash dot|Dotted|Long dash|Dash dot dot";
-
-    row("mesh", "Zone Number", "");
-    row("mesh", "Zone Name", "");
-    row("mesh", "Group Number", "");
-    row("mesh", "Show Zone", "Activate|Deactivate|Show selected only|Invert", "Invert",
-        "ActiveFieldMaps - 1,3");
-    row("mesh", "Show Mesh", "Yes|No", "No", "FieldMap.Mesh.Show 1,3 = false");
-    row("mesh", "Mesh Type", "Wire frame|Overlay|Hidden line", "Hidden line",
-        "FieldMap.Mesh.MeshType 1,3 = 2");
-    row("mesh", "Mesh Color", "<colors and groups>");
-    row("mesh", "Line Pattern", patterns, "Dash dot dot", "FieldMap.Mesh.LinePattern 1,3 = 5");
-    row("mesh", "Pattern Length", lengths, "0.50", "FieldMap.Mesh.PatternLength 1,3 = 0.5");
-    row("mesh", "Line Thickness", thicknesses, "0.05", "FieldMap.Mesh.LineThickness 1,3 = 0.05");
-
-    row("contour", "Contour Type",
-        "Lines|Flood|Lines and flood|Average cell flood|Primary value flood", "Primary value flood",
-        "FieldMap.Contour.ContourType 1,3 = 4");
-    row("contour", "Flood By",
-        "C1: Pressure|C2: Density|C3: unassigned|C4: unassigned|C5: unassigned|C6: unassigned|C7: "
-        "unassigned|C8: unassigned|-|(RGB)",
-        "C3: unassigned", "FieldMap.Contour.FloodColoring 1,3 = 3");
-    row("contour", "Lines By",
-        "C1: Pressure|C2: Density|C3: unassigned|C4: unassigned|C5: unassigned|C6: unassigned|C7: "
-        "unassigned|C8: unassigned",
-        "C8: unassigned", "FieldMap.Contour.LineContourGroup 1,3 = 8");
-    row("contour", "Line Color", "<colors and groups>");
-    row("contour 3D", "Use Lighting", "Yes|No", "No",
-        "FieldMap.Contour.UseLightingEffect 1,3 = false");
-    row("shade", "Shade Color", "<colors>");
-    row("shade 3D", "Use Lighting", "Yes|No", "No", "FieldMap.Shade.UseLightingEffect 1,3 = false");
-
-    row("xy", "Map Number", "");
-    row("xy", "Map Name", "");
-    row("xy", "Show Map", "Activate|Deactivate|Show selected only|Invert", "Show selected only",
-        "ActiveLineMaps + 1,3; ActiveLineMaps - 2,4-6");
-    row("xy", "Zone", "Select Zone...");
-    row("xy", "Sort", "None|By independent variable|By dependent variable", "By dependent variable",
-        "LineMap.Assign.Sort 1,3 = 2");
-    row("xy", "Show in Legend", "Always|Never|Auto", "Auto", "LineMap.Assign.ShowInLegend 1,3 = 2");
-    row("xy", "X-Axis Variable", "Select Variable...", "Select Variable...",
-        "LineMap.Assign.XAxisVar 1,3 = 7");
-    row("xy", "Y-Axis Variable", "Select Variable...", "Select Variable...",
-        "LineMap.Assign.YAxisVar 1,3 = 7");
-    row("xy", "Which X-Axis", "X1|X2|X3|X4|X5", "X5", "LineMap.Assign.XAxis 1,3 = 5");
-    row("xy", "Which Y-Axis", "Y1|Y2|Y3|Y4|Y5", "Y2", "LineMap.Assign.YAxis 1,3 = 2");
-    row("polar", "Theta Variable", "Select Variable...", "Select Variable...",
-        "LineMap.Assign.XAxisVar 1,3 = 7");
-    row("polar", "Radius Variable", "Select Variable...", "Select Variable...",
-        "LineMap.Assign.YAxisVar 1,3 = 7");
-
-    row("kinds", "Points", "250|500|1000|-|Enter...", "1000", "LineMap.Curves.NumPts 1,3 = 1000");
-    row("kinds", "Order", "250|500|1000|Enter...");
-    row("kinds", "Range", "Enter range...");
-    row("polar kinds", "Dependency", "R=f(Theta)|Theta=f(R)", "Theta=f(R)",
-        "LineMap.Assign.FunctionDependency 1,3 = 1");
-}
-
-void tst_TableModels::offerMenus()
-{
-    QFETCH(QString, chain);
-    QFETCH(QString, column);
-    QFETCH(QString, chosen);
-    open(chain);
-    ModalResponder user;
-    if (chosen == "Select Variable...")
-        user.reply("Gain");
-    ColumnMenu menu(*m_model, {2, 0}, columnOf(column));
-    QTEST(menu.text(), "entries");
-    if (!chosen.isEmpty())
-        QVERIFY(menu.choose(chosen));
-    QTEST(takeWrites(), "written");
-    QVERIFY(user.isSettled());
-    for (const QString& seen : user.takeSeen())
-        QVERIFY2(seen.startsWith("Choose the variable: Choose the variable ["), qPrintable(seen));
-}
-
-void tst_TableModels::enableRGBWithItsVariables()
-{
-    open("contour");
-    for (const char* channel : {"RedVar", "GreenVar", "BlueVar"})
-        QVERIFY(setStyle(QString("GlobalRGB.") + channel, "", 3));
-    ColumnMenu menu(*m_model, {0}, columnOf("Flood By"));
-    QVERIFY(menu.choose("RGB"));
-    QCOMPARE(takeWrites(), QString("FieldMap.Contour.FloodColoring 1 = 0"));
-}
-
-void tst_TableModels::haveTheseOdditiesOnly()
-{
-    QStringList oddities;
-    oddities << Described<FieldStaticAreaModel>().oddities()
-             << Described<LineStaticAreaModel>().oddities()
-             << Described<FieldMeshModel>().oddities() << Described<FieldContourModel>().oddities()
-             << Described<FieldContour3DModel>().oddities()
-             << Described<FieldShadeModel>().oddities() << Described<FieldShade3DModel>().oddities()
-             << Described<LineDefinitionsModel>().oddities()
-             << Described<LineDefinitionsXYModel>().oddities()
-             << Described<LineDefinitionsPolarModel>().oddities();
-    const QStringList deliberate {
-        "Zone Name has an editor that does not open",
-        "Group Number takes role 2",
-        "Show Zone takes role 10",
-        "Mesh Type takes role 2",
-        "Line Pattern takes role 2",
-        "Pattern Length takes role 2",
-        "Line Thickness takes role 2",
-        "Show in Legend is always relevant",
-        "Theta Variable menu writes LineMap.Assign.XAxisVar",
-        "Radius Variable menu writes LineMap.Assign.YAxisVar",
-    };
-    QCOMPARE(oddities, deliberate);
-}
-
-void tst_TableModels::describeColumns_data()
-{
-    // Header, i/p/s for the brush, editor type and option, flags: e editable, c checkable.
-    QTest::addColumn<QString>("columns");
-    QTest::newRow("mesh") << "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone "
-                             "i 7/0 c, Show Mesh p 7/0 c, Mesh Type p 3/1, Mesh Color p 8/0, Line "
-                             "Pattern s 3/1, Pattern Length s 5/0, Line Thickness s 5/0";
-    QTest::newRow("contour 3D")
-        << "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, Show "
-           "Contour p 7/0 c, Contour Type p 3/1, Flood By p 3/4, Lines By p 3/4, Line Color s 8/0, "
-           "Line Pattern s 3/1, Pattern Length s 5/0, Line Thickness s 5/0, Use Lighting s 7/0 c";
-    QTest::newRow("shade 3D")
-        << "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, Show "
-           "Shade p 7/0 c, Shade Color p 8/0, Use Lighting s 7/0 c";
-    QTest::newRow("xy") << "Map Number i 0/0, Map Name i 9/2 e, Show Map i 7/0 c, Zone p 6/2 e, "
-                           "Sort s 3/1, Show in Legend s 3/1, X-Axis Variable p 6/3 e, Y-Axis "
-                           "Variable p 6/3 e, Which X-Axis s 3/0, Which Y-Axis s 3/0";
-    QTest::newRow("polar")
-        << "Map Number i 0/0, Map Name i 9/2 e, Show Map i 7/0 c, Zone p 6/2 e, Sort s 3/1, Show "
-           "in Legend s 3/1, Theta Variable p 6/3 e, Radius Variable p 6/3 e";
-}
-
-void tst_TableModels::describeColumns()
-{
-    open(QTest::currentDataTag());
-    const std::map<QString, QString> brushes {{"#3a5a95", "i"}, {"#1f731c", "p"}, {"#c24809", "s"}};
-    QStringList texts;
-    for (int column = 0; column < m_model->columnCount(); ++column) {
-        const auto brush =
-            m_model->headerData(column, Qt::Horizontal, Qt::BackgroundRole).value<QBrush>();
-        const Qt::ItemFlags flags = m_model->flags(m_model->index(0, column));
-        QVERIFY(flags.testFlag(Qt::ItemIsSelectable) && flags.testFlag(Qt::ItemIsEnabled));
-        texts << QString("%1 %2 %3/%4%5%6")
-                     .arg(m_model->headerData(column, Qt::Horizontal).toString().replace('\n', ' '),
-                          brushes.at(brush.color().name()))
-                     .arg(m_model->columnEditorType(column))
-                     .arg(m_model->columnEditorOption(column))
-                     .arg(flags.testFlag(Qt::ItemIsEditable) ? " e" : "",
-                          flags.testFlag(Qt::ItemIsUserCheckable) ? " c" : "");
-    }
-    QTEST(texts.join(", "), "columns");
-}
-
-void tst_TableModels::giveWhatTheirModelsNeed()
-{
-    open("kinds");
-    QVERIFY(setStyle("ContourGroups.Var", "", 4, 2));
-    QCOMPARE(rowText(*m_model, 1), QString("500|1,0,1|y=f(x)|(N/A)|0.15%|4|3"));
-    const QModelIndex unowned = m_model->index(1, columnOf("Owned"));
-    QVERIFY(!unowned.data(Qt::CheckStateRole).isValid());
-    const QVariant raw = m_model->index(1, columnOf("Dependency")).data(Qt::UserRole);
-    QVERIFY(raw.canConvert<FunctionDependency_e>() && raw.toInt() == FunctionDependency_YofX);
-    QCOMPARE(m_model->index(0, columnOf("Points")).data(Qt::EditRole).toStringList().join('|'),
-             QString("250|500|1000"));
-
-    m_model.reset(new RefusingModel(nullptr));
-    QVERIFY(!m_model->setData(m_model->index(0, columnOf("Points")), 250));
-    QCOMPARE(takeWrites(), QString());
-}
-
-void tst_TableModels::renameMapsForAnyRole()
-{
-    open("xy");
-    const int column = columnOf("Map Name");
-    QVERIFY(
-        m_model->setDataForIndexes(cells(*m_model, {1, 2}, column), "Run &M#&", Qt::DisplayRole));
-    QCOMPARE(columnText(*m_model, column).section('|', 0, 2), QString("Force|Run 2|Run 3"));
-    QCOMPARE(m_model->index(2, column).data(Qt::EditRole).toString(), QString("Run &M#&"));
-}
-
-void tst_TableModels::confirmZones()
-{
-    open("xy");
-    const QModelIndexList zones = cells(*m_model, {1, 2}, columnOf("Zone"));
-    ModalResponder user;
-    user.reject().accept();
-    QVERIFY(!m_model->setDataForIndexes(zones, "4: Zone 4", Qt::EditRole)); // is not ordered
-    QCOMPARE(takeWrites(), QString());
-    QVERIFY(m_model->setDataForIndexes(zones, "4: Zone 4", Qt::EditRole));
-    QCOMPARE(takeWrites(), QString("LineMap.Assign.Zone 2-3 = 4"));
-    QVERIFY(user.isSettled());
-}
-
-void tst_TableModels::confirmZonesForTheEditedMaps()
-{
-    open("xy");
-    auto data =
-        std::make_shared<corvala::host::DataSet>(*Document::instance().activeFrame()->data());
-    data->variables.push_back({"Missing", {}, "no such array", 0});
-    Document::instance().execute(corvala::host::AttachData {{}, data, PlotType_LineXY, 3});
-    QVERIFY(setStyle("LineMap.Assign.YAxisVar", "2", 8));
-    ModalResponder user;
-    QVERIFY(m_model->setData(m_model->index(0, columnOf("Zone")), "2: Zone 2"));
-    user.reject();
-    QVERIFY(!m_model->setData(m_model->index(1, columnOf("Zone")), "2: Zone 2"));
-    QCOMPARE(takeWrites(), QString("LineMap.Assign.Zone 1 = 2"));
-    QVERIFY(user.isSettled());
-}
-
-void tst_TableModels::listEnabledOnly()
-{
-    open("xy");
-    corvala::host::NumberSet some = corvala::host::allUpTo(4);
-    some.remove(1);
-    QVERIFY(Document::instance().execute(corvala::host::EnableZones {some}).isDone()
-            && Document::instance().execute(corvala::host::EnableVariables {some}).isDone());
-    const QModelIndex zone = m_model->index(0, columnOf("Zone"));
-    const QModelIndex variable = m_model->index(0, columnOf("X-Axis Variable"));
-    QCOMPARE(zone.data(Qt::EditRole).toStringList().join('|'),
-             QString("2: Zone 2|3: Zone 3|4: Zone 4"));
-    QCOMPARE(variable.data(Qt::EditRole).toStringList().join('|'),
-             QString("2: Force|3: Moment|4: Power"));
-    QVERIFY(m_model->setData(variable, "4: Power"));
-    QCOMPARE(takeWrites(), QString("LineMap.Assign.XAxisVar 1 = 3")); // the position in the list
-}
-
-void tst_TableModels::showStrands()
-{
-    QVERIFY(openDemo("transient"));
-    m_model.reset(makeChain<FieldStaticAreaModel, FieldMeshModel>());
-    QCOMPARE(columnText(*m_model, columnOf("Zone Number")), QString("1|2*|(N/A)"));
-    QCOMPARE(columnText(*m_model, columnOf("Zone Name")).section('|', 2),
-             QString("(Strand ID 7 has no relevant zones at the current solution time)"));
-    for (const int column : {0, m_model->columnCount() - 1}) {
-        const QString tip = m_model->index(2, column).data(Qt::ToolTipRole).toString();
-        QVERIFY(tip.startsWith(
-            "<html>The strand has no zones at the current solution time, therefore"));
-        QVERIFY(!m_model->index(1, column).data(Qt::ToolTipRole).isValid());
-        QVERIFY(!m_model->index(3, column).data(Qt::ToolTipRole).isValid());
-    }
-    QVERIFY(Document::instance().execute(corvala::host::SetSolutionTime {2}).isDone());
-    QCOMPARE(columnText(*m_model, columnOf("Zone Number")), QString("1|4*|6*"));
-}
-
-void tst_TableModels::followTheActiveFrame()
-{
-    open("mesh");
-    QVERIFY(m_model->isForCurrentFrame());
-    Document::instance().execute(corvala::host::AddFrame {});
-    QCOMPARE(m_model->rowCount(), 0);
-    QVERIFY(!m_model->isForCurrentFrame()); // no data
-    std::string error;
-    QVERIFY(corvala::samples::openDemo("field2d", 5, error));
-    QCOMPARE(m_model->rowCount(), 5);
-    Document::instance().execute(corvala::host::ActivateFrame {1});
-    QCOMPARE(m_model->rowCount(), 12);
-    QVERIFY(m_model->isForCurrentFrame());
-}
-
-void tst_TableModels::matchNames()
-{
-    QVERIFY(openDemo("kinds"));
-    m_model.reset(makeChain<FieldStaticAreaModel, FieldMeshModel>());
-    const auto matches = [this](const QString& pattern, int row, int hits, Qt::MatchFlags flags,
-                                const char* header = "Zone Name") {
-        const int column = columnOf(header);
-        QStringList rows;
-        for (const QModelIndex& index :
-             m_model->match(m_model->index(row, column), Qt::DisplayRole, pattern, hits, flags))
-            rows << QString::number(index.row()) + (index.column() == column ? "" : "?");
-        return rows.join(' ');
-    };
-    QCOMPARE(matches("zone*", 0, -1, Qt::MatchWildcard), QString("0 1"));
-    QCOMPARE(matches("zone*", 0, -1, Qt::MatchWildcard | Qt::MatchCaseSensitive), QString());
-    QCOMPARE(matches("*o*", 1, -1, Qt::MatchWildcard), QString("1 2 3"));
-    QCOMPARE(matches("*o*", 1, -1, Qt::MatchWildcard | Qt::MatchWrap), QString("1 2 3 0"));
-    QCOMPARE(matches("*o*", 1, 2, Qt::MatchWildcard), QString("1 2"));
-    QCOMPARE(matches("body?tets", 0, -1, Qt::MatchWildcard), QString("3"));
-    QCOMPARE(matches("wing [upper]", 0, -1, Qt::MatchWildcard), QString("4"));
-    QCOMPARE(matches("*", 8, -1, Qt::MatchWildcard), QString());
-    QCOMPARE(matches("overlay", 6, -1, Qt::MatchWildcard, "Mesh Type"), QString("6 7"));
-    QCOMPARE(matches("My", 0, -1, Qt::MatchStartsWith), QString("2")); // Qt's own
-    QVERIFY(setStyle("FieldMap.Group", "4", 2));
-    QCOMPARE(matches("2", 0, -1, Qt::MatchFixedString, "Group Number"), QString("3"));
-}
-
-void tst_TableModels::matchPatterns()
-{
-    const struct
-    {
-        QString pattern, name;
-        bool matches;
-    } rows[] = {
-        {"zone 1", "Zone 1", true},
-        {"zone", "Zone 1", false},
-        {"zone*", "My zone", false},
-        {"zone 1*", "zone 1", true},
-        {"body*", "body/left/wing", true},
-        {"a*c", "a\nb\nc", true},
-        {"*ab*b", "aab abb", true},
-        {"*ab*c", "aab abb", false},
-        {"a***b", "ab", true},
-        {"a?b", "a/b", true},
-        {"zone 1?", "Zone 1", false},
-        {"a?b",
-         QString::fromUtf8("a\xF0\x9F\x98\x80"
-                           "b"),
-         true},
-        {"wing [u]", "wing u", false},
-        {"a\\*", "a\\b", true},
-        {"a.b", "axb", false},
-        {QString::fromUtf8("GR\xC3\x96*"),
-         QString::fromUtf8("gr\xC3\xB6\xC3\x9F"
-                           "e"),
-         true},
-        {"", "x", false},
-        {"*", "", true},
-        {QString("a*").repeated(60) + "b", QString("a").repeated(2000), false}, // and is quick
-    };
-    for (const auto& row : rows)
-        QVERIFY2(NamePattern(row.pattern, Qt::CaseInsensitive).matches(row.name) == row.matches,
-                 qPrintable(row.pattern));
-    QVERIFY(!NamePattern("zone 1", Qt::CaseSensitive).matches("Zone 1"));
-}
-
-void tst_TableModels::registerByPage()
-{
-    QVERIFY(openDemo("field2d"));
-    const QWidget page;
-    const QWidget other;
-    ModelForPageMap models;
-    auto* planar = makeChain<FieldStaticAreaModel>();
-    auto* every = makeChain<FieldStaticAreaModel>();
-    const std::unique_ptr<ModelAbstract> second(makeChain<FieldStaticAreaModel>());
-    const QPointer<ModelAbstract> watched(planar);
-
-    QVERIFY(models.add(&page, planar, PlotType_Field2D));
-    QVERIFY(!models.add(&page, second.get(), PlotType_Field2D));
-    QCOMPARE(models.modelFor(&page), planar);
-    QVERIFY(!models.modelFor(&other));
-    QVERIFY(setStyle("PlotType", "", PlotType_Field3D));
-    QVERIFY(!models.modelFor(&page));
-    QVERIFY(setStyle("PlotType", "", PlotType_Field2D));
-    QVERIFY(models.add(&page, every, ModelForPageMap::kEveryPlotType));
-    QCOMPARE(models.modelFor(&page), every);
-    models.clear();
-    QVERIFY(!models.modelFor(&page) && !watched);
-}
 
 QTEST_MAIN(tst_TableModels)
 #include "tst_table_models.moc"

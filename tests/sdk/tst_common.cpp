@@ -5,6 +5,7 @@
 #include "sdk/common/app_lock.h"
 #include "sdk/common/common.h"
 #include "tests/support/modal_responder.h"
+#include "tests/support/rows.h"
 
 #include <QMessageBox>
 #include <QtTest>
@@ -15,6 +16,8 @@
 #include <vtkPointData.h>
 
 using namespace corvala;
+using corvala::tests::currentRow;
+using corvala::tests::Rows;
 using host::Document;
 using tests::ModalResponder;
 
@@ -79,17 +82,170 @@ class tst_Common : public QObject
 
 private Q_SLOTS:
     void init() { Document::instance().clear(); }
-    void names();
-    void activeZonesFollowTheirMaps();
-    void assignsTheScatterVariableOnce();
-    void assignsContourVariablesInOneStep();
-    void channelsMustAllBeSet();
-    void asksForTheLayer_data();
-    void asksForTheLayer();
-    void offersSurfaces();
-    void confirmsUnorderedZones();
-    void confirmsZonesWithoutPointValues();
-    void lockIsRecursive();
+    void names()
+    {
+        open("kinds");
+        const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
+        QCOMPARE(sdk::zoneNameWithIndexFormattedForFrame(frame, 5), std::string("5: wing [upper]"));
+        QCOMPARE(sdk::variableNameWithIndexFormattedForAliasesForFrame(frame, 7),
+                 std::string("7: Pressure"));
+        QCOMPARE(sdk::variableNameFormattedForAliases(7), std::string("Pressure"));
+        for (const CvlInt64 bad : {0, 9, -1}) {
+            QCOMPARE(sdk::zoneNameWithIndexFormattedForFrame(frame, bad), std::string());
+            QCOMPARE(sdk::variableNameFormattedForAliasesForFrame(frame, bad), std::string());
+        }
+        QCOMPARE(sdk::variableNameWithIndexFormattedForAliasesForFrame(frame + 1, 1),
+                 std::string());
+    }
+
+    void activeZonesFollowTheirMaps()
+    {
+        open("transient");
+        QCOMPARE(sdk::getActiveZones().count(), CvlInt64(7));
+        const host::NumberSet strand = host::NumberSet::bitmapOf(1, 2);
+        Document::instance().execute(
+            host::SetStyle {{"ActiveFieldMaps"}, strand, {}, -1, AssignOp_Remove});
+        const toolbox::Set zones = sdk::getActiveZones();
+        QCOMPARE(zones.count(), CvlInt64(3));
+        QCOMPARE(zones.next(1), CvlInt64(6));
+        QVERIFY(!sdk::isVolumeZone(1));
+        open("kinds");
+        QVERIFY(sdk::isVolumeZone(1) && sdk::isVolumeZone(4) && !sdk::isVolumeZone(9));
+    }
+
+    void assignsTheScatterVariableOnce()
+    {
+        QVERIFY(!sdk::autoAssignScatterVariable()); // no data
+        open("field2d", 2);
+        QVERIFY(sdk::autoAssignScatterVariable());
+        QCOMPARE(frameValue("GlobalScatter", "Var"), 3);
+        QCOMPARE(Document::instance().undo().stepCount(), 0); // undone, it would only come again
+        int events = 0;
+        const boost::signals2::scoped_connection counter =
+            Document::instance().events().connect([&](const host::StateEvent&) { ++events; });
+        QVERIFY(!sdk::autoAssignScatterVariable());
+        QCOMPARE(events, 0);
+    }
+
+    void assignsContourVariablesInOneStep()
+    {
+        QVERIFY(!sdk::autoAssignAllContourGroupVariables(
+            ContourLevelsInitializationMode_ResetIfVariableIsNew));
+        open("field2d", 2);
+        QVERIFY(sdk::autoAssignAllContourGroupVariables(
+            ContourLevelsInitializationMode_ResetIfVariableIsNew));
+        QCOMPARE(frameValue("ContourGroups", "Var", 1), 5); // as it was
+        QVERIFY(frameValue("ContourGroups", "Var", 8) > 2); // no coordinate
+        QCOMPARE(Document::instance().undo().stepCount(), 1);
+    }
+
+    void channelsMustAllBeSet()
+    {
+        open("field2d", 2);
+        const toolbox::StyleValue global("GlobalRGB");
+        setFrameValue({"GlobalRGB", "RedVar"}, 3);
+        setFrameValue({"GlobalRGB", "GreenVar"}, 4);
+        QVERIFY(!sdk::checkRGBChannelVars(global));
+        setFrameValue({"GlobalRGB", "BlueVar"}, 5);
+        QVERIFY(sdk::checkRGBChannelVars(global));
+    }
+
+    void asksForTheLayer_data()
+    {
+        const Rows<QString, int, int, bool>
+            row; // layer, answer (0 none asked), chooser (-1 none, else what it says), result
+        row("on already", "Mesh", 0, -1, true);
+        row("edge has its own layer name", "EdgeLayer", 0, -1, true);
+        row("yes", "Shade", QMessageBox::Yes, -1, true);
+        row("no", "Shade", QMessageBox::No, 1, false);
+        row("chooser agrees", "Contour", QMessageBox::Yes, 1, true);
+        row("chooser refuses", "Contour", QMessageBox::Yes, 0, false);
+        row("unknown layer", "UseLightingEffect", 0, -1, false);
+    }
+
+    void asksForTheLayer()
+    {
+        const auto [layer, answer, chooser, result] = currentRow<QString, int, int, bool>();
+        open("field3d", 4);
+        ModalResponder responder;
+        if (answer != 0)
+            responder.reply(answer == QMessageBox::Yes ? "OK" : "cancel");
+        boost::function<bool(PlotType_e)> function;
+        int asked = PlotType_None;
+        if (chooser >= 0)
+            function = [&asked, chooser = chooser](PlotType_e type) {
+                return asked = type, chooser == 1;
+            };
+        QCOMPARE(sdk::queryToActivateSidebarLayer(layer.toStdString(), function), result);
+        QVERIFY(responder.isSettled());
+        QCOMPARE(asked,
+                 answer == QMessageBox::Yes && chooser >= 0 ? PlotType_Field3D : PlotType_None);
+        if (layer != QLatin1String("UseLightingEffect")) {
+            const QByteArray name =
+                layer == QLatin1String("EdgeLayer") ? "ShowEdge" : "Show" + layer.toLatin1();
+            QCOMPARE(CvlUtilFieldLayerIsActiveForFrame(CvlUtilFrameGetUniqueID(), name) != 0,
+                     result);
+        }
+    }
+
+    void offersSurfaces()
+    {
+        open("field3d", 4);
+        const toolbox::StyleValue surfaces("FieldMap", "Surfaces", "SurfacesToPlot");
+        ModalResponder responder;
+        responder.reject().accept();
+        QVERIFY(!sdk::queryToEnableSurfacePlotLayer("Mesh"));
+        QCOMPARE(surfaces.read<int>(1), std::optional<int>(SurfacesToPlot_None));
+        QVERIFY(sdk::queryToEnableSurfacePlotLayer("Mesh"));
+        QCOMPARE(surfaces.read<int>(1), std::optional<int>(SurfacesToPlot_BoundaryCellFaces));
+        QVERIFY(responder.isSettled());
+        QVERIFY(responder.takeSeen().first().contains(QStringLiteral("Mesh layer")));
+    }
+
+    void confirmsUnorderedZones()
+    {
+        open("xy");
+        ModalResponder responder;
+        QVERIFY(sdk::confirmLineMapZoneSelection(3));
+        QVERIFY(sdk::confirmLineMapZoneSelection(77));
+        responder.reject();
+        QVERIFY(!sdk::confirmLineMapZoneSelection(4));
+        responder.accept();
+        QVERIFY(sdk::confirmLineMapZoneSelection(4));
+        QVERIFY(responder.isSettled());
+    }
+
+    void confirmsZonesWithoutPointValues()
+    {
+        openCellData();
+        ModalResponder responder;
+        QVERIFY(sdk::confirmLineMapZoneSelection(1)); // for no map
+        QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({1, 99})));
+        responder.reject().accept();
+        QVERIFY(!sdk::confirmLineMapZoneSelection(1, maps({1, 2})));
+        QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({3})));
+        QVERIFY(responder.isSettled());
+        const QString question = QStringLiteral("Zone: Zone 1 has no values at its points of %1.\n"
+                                                "Do you want to use it anyway?");
+        QCOMPARE(responder.takeSeen(),
+                 (QStringList {question.arg("%1 in cells"), question.arg("gone")}));
+
+        auto positions =
+            std::make_shared<host::DataSet>(*Document::instance().activeFrame()->data());
+        positions->variables.resize(1);
+        Document::instance().execute(host::AttachData {{}, positions, PlotType_LineXY, 1});
+        QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({1}))); // its second variable is nowhere
+    }
+
+    void lockIsRecursive()
+    {
+        {
+            const sdk::AppLock outer;
+            const sdk::AppLock inner(ImplicitMacroRecording_None);
+            QVERIFY(Document::instance().isLocked());
+        }
+        QVERIFY(!Document::instance().isLocked());
+    }
 
 private:
     static void open(const char* name, std::int64_t scale = 0)
@@ -106,170 +262,6 @@ private:
         QVERIFY(Document::instance().execute(host::SetStyle {std::move(path), value}).isDone());
     }
 };
-
-void tst_Common::names()
-{
-    open("kinds");
-    const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
-    QCOMPARE(sdk::zoneNameWithIndexFormattedForFrame(frame, 5), std::string("5: wing [upper]"));
-    QCOMPARE(sdk::variableNameWithIndexFormattedForAliasesForFrame(frame, 7),
-             std::string("7: Pressure"));
-    QCOMPARE(sdk::variableNameFormattedForAliases(7), std::string("Pressure"));
-    for (const CvlInt64 bad : {0, 9, -1}) {
-        QCOMPARE(sdk::zoneNameWithIndexFormattedForFrame(frame, bad), std::string());
-        QCOMPARE(sdk::variableNameFormattedForAliasesForFrame(frame, bad), std::string());
-    }
-    QCOMPARE(sdk::variableNameWithIndexFormattedForAliasesForFrame(frame + 1, 1), std::string());
-}
-
-void tst_Common::activeZonesFollowTheirMaps()
-{
-    open("transient");
-    QCOMPARE(sdk::getActiveZones().count(), CvlInt64(7));
-    const host::NumberSet strand = host::NumberSet::bitmapOf(1, 2);
-    Document::instance().execute(
-        host::SetStyle {{"ActiveFieldMaps"}, strand, {}, -1, AssignOp_Remove});
-    const toolbox::Set zones = sdk::getActiveZones();
-    QCOMPARE(zones.count(), CvlInt64(3));
-    QCOMPARE(zones.next(1), CvlInt64(6));
-    QVERIFY(!sdk::isVolumeZone(1));
-    open("kinds");
-    QVERIFY(sdk::isVolumeZone(1) && sdk::isVolumeZone(4) && !sdk::isVolumeZone(9));
-}
-
-void tst_Common::assignsTheScatterVariableOnce()
-{
-    QVERIFY(!sdk::autoAssignScatterVariable()); // no data
-    open("field2d", 2);
-    QVERIFY(sdk::autoAssignScatterVariable());
-    QCOMPARE(frameValue("GlobalScatter", "Var"), 3);
-    QCOMPARE(Document::instance().undo().stepCount(), 0); // undone, it would only come again
-    int events = 0;
-    const boost::signals2::scoped_connection counter =
-        Document::instance().events().connect([&](const host::StateEvent&) { ++events; });
-    QVERIFY(!sdk::autoAssignScatterVariable());
-    QCOMPARE(events, 0);
-}
-
-void tst_Common::assignsContourVariablesInOneStep()
-{
-    QVERIFY(!sdk::autoAssignAllContourGroupVariables(
-        ContourLevelsInitializationMode_ResetIfVariableIsNew));
-    open("field2d", 2);
-    QVERIFY(sdk::autoAssignAllContourGroupVariables(
-        ContourLevelsInitializationMode_ResetIfVariableIsNew));
-    QCOMPARE(frameValue("ContourGroups", "Var", 1), 5); // as it was
-    QVERIFY(frameValue("ContourGroups", "Var", 8) > 2); // no coordinate
-    QCOMPARE(Document::instance().undo().stepCount(), 1);
-}
-
-void tst_Common::channelsMustAllBeSet()
-{
-    open("field2d", 2);
-    const toolbox::StyleValue global("GlobalRGB");
-    setFrameValue({"GlobalRGB", "RedVar"}, 3);
-    setFrameValue({"GlobalRGB", "GreenVar"}, 4);
-    QVERIFY(!sdk::checkRGBChannelVars(global));
-    setFrameValue({"GlobalRGB", "BlueVar"}, 5);
-    QVERIFY(sdk::checkRGBChannelVars(global));
-}
-
-void tst_Common::asksForTheLayer_data()
-{
-    QTest::addColumn<QString>("layer");
-    QTest::addColumn<int>("answer"); // 0 none asked
-    QTest::addColumn<int>("chooser"); // -1 none, else what it says
-    QTest::addColumn<bool>("result");
-    QTest::newRow("on already") << "Mesh" << 0 << -1 << true;
-    QTest::newRow("edge has its own layer name") << "EdgeLayer" << 0 << -1 << true;
-    QTest::newRow("yes") << "Shade" << int(QMessageBox::Yes) << -1 << true;
-    QTest::newRow("no") << "Shade" << int(QMessageBox::No) << 1 << false;
-    QTest::newRow("chooser agrees") << "Contour" << int(QMessageBox::Yes) << 1 << true;
-    QTest::newRow("chooser refuses") << "Contour" << int(QMessageBox::Yes) << 0 << false;
-    QTest::newRow("unknown layer") << "UseLightingEffect" << 0 << -1 << false;
-}
-
-void tst_Common::asksForTheLayer()
-{
-    QFETCH(QString, layer);
-    QFETCH(int, answer);
-    QFETCH(int, chooser);
-    QFETCH(bool, result);
-    open("field3d", 4);
-    ModalResponder responder;
-    if (answer != 0)
-        responder.reply(answer == QMessageBox::Yes ? "OK" : "cancel");
-    boost::function<bool(PlotType_e)> function;
-    int asked = PlotType_None;
-    if (chooser >= 0)
-        function = [&](PlotType_e type) { return asked = type, chooser == 1; };
-    QCOMPARE(sdk::queryToActivateSidebarLayer(layer.toStdString(), function), result);
-    QVERIFY(responder.isSettled());
-    QCOMPARE(asked, answer == QMessageBox::Yes && chooser >= 0 ? PlotType_Field3D : PlotType_None);
-    if (layer != QLatin1String("UseLightingEffect")) {
-        const QByteArray name =
-            layer == QLatin1String("EdgeLayer") ? "ShowEdge" : "Show" + layer.toLatin1();
-        QCOMPARE(CvlUtilFieldLayerIsActiveForFrame(CvlUtilFrameGetUniqueID(), name) != 0, result);
-    }
-}
-
-void tst_Common::offersSurfaces()
-{
-    open("field3d", 4);
-    const toolbox::StyleValue surfaces("FieldMap", "Surfaces", "SurfacesToPlot");
-    ModalResponder responder;
-    responder.reject().accept();
-    QVERIFY(!sdk::queryToEnableSurfacePlotLayer("Mesh"));
-    QCOMPARE(surfaces.read<int>(1), std::optional<int>(SurfacesToPlot_None));
-    QVERIFY(sdk::queryToEnableSurfacePlotLayer("Mesh"));
-    QCOMPARE(surfaces.read<int>(1), std::optional<int>(SurfacesToPlot_BoundaryCellFaces));
-    QVERIFY(responder.isSettled());
-    QVERIFY(responder.takeSeen().first().contains(QStringLiteral("Mesh layer")));
-}
-
-void tst_Common::confirmsUnorderedZones()
-{
-    open("xy");
-    ModalResponder responder;
-    QVERIFY(sdk::confirmLineMapZoneSelection(3));
-    QVERIFY(sdk::confirmLineMapZoneSelection(77));
-    responder.reject();
-    QVERIFY(!sdk::confirmLineMapZoneSelection(4));
-    responder.accept();
-    QVERIFY(sdk::confirmLineMapZoneSelection(4));
-    QVERIFY(responder.isSettled());
-}
-
-void tst_Common::confirmsZonesWithoutPointValues()
-{
-    openCellData();
-    ModalResponder responder;
-    QVERIFY(sdk::confirmLineMapZoneSelection(1)); // for no map
-    QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({1, 99})));
-    responder.reject().accept();
-    QVERIFY(!sdk::confirmLineMapZoneSelection(1, maps({1, 2})));
-    QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({3})));
-    QVERIFY(responder.isSettled());
-    const QString question = QStringLiteral("Zone: Zone 1 has no values at its points of %1.\n"
-                                            "Do you want to use it anyway?");
-    QCOMPARE(responder.takeSeen(),
-             (QStringList {question.arg("%1 in cells"), question.arg("gone")}));
-
-    auto positions = std::make_shared<host::DataSet>(*Document::instance().activeFrame()->data());
-    positions->variables.resize(1);
-    Document::instance().execute(host::AttachData {{}, positions, PlotType_LineXY, 1});
-    QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({1}))); // its second variable is nowhere
-}
-
-void tst_Common::lockIsRecursive()
-{
-    {
-        const sdk::AppLock outer;
-        const sdk::AppLock inner(ImplicitMacroRecording_None);
-        QVERIFY(Document::instance().isLocked());
-    }
-    QVERIFY(!Document::instance().isLocked());
-}
 
 QTEST_MAIN(tst_Common)
 #include "tst_common.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "play/input.h"
 #include "tests/sdkui/document_fixture.h"
+#include "tests/support/rows.h"
 
 #include <sdk/common_ui/combo_box_auto_filter.h>
 
@@ -23,13 +24,14 @@
 #include <vector>
 
 using namespace corvala;
+using corvala::tests::currentRow;
+using corvala::tests::Rows;
 using dialogs::lineplot::CurveFitSettingsDialog;
 using dialogs::lineplot::LineMapCreateDialog;
 using propertybindings::CurveFitCollection;
 using propertybindings::CurveFitInfo;
 
 using Settings = std::vector<std::pair<const char*, double>>;
-Q_DECLARE_METATYPE(Settings)
 
 static void setCurve(const toolbox::Set& maps, const char* name, double value)
 {
@@ -68,409 +70,348 @@ class TestLinePlotDialogs : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void collectionOffersTheFits();
-    void collectionFindsTheFitOfALineMap_data();
-    void collectionFindsTheFitOfALineMap();
-    void fitsAreEqualByType();
-    void assignerWritesOnce();
-    void details_data();
-    void details();
-    void createsOneLineMapPerVariable_data();
-    void createsOneLineMapPerVariable();
-    void createNeedsEveryChoice();
-    void createDialogFollowsTheDocument();
-    void settingsShowWhatTheTypeHas_data();
-    void settingsShowWhatTheTypeHas();
-    void settingsGoToAllLineMapsInOneStep();
-    void settingsRefuseIncompleteInput_data();
-    void settingsRefuseIncompleteInput();
-    void settingsDoNotOpenForMixedLineMaps();
-    void settingsCloseWhenTheirLineMapsAreGone_data();
-    void settingsCloseWhenTheirLineMapsAreGone();
-    void settingsFollowUndo();
-    void hiddenDialogsReadNothing();
+    void init()
+    {
+        tests::openDemo("xy");
+        m_window = std::make_unique<QWidget>();
+    }
+
+    void cleanup() { m_window.reset(); }
+
+    void collectionOffersTheFits()
+    {
+        const CurveFitCollection fits;
+        QStringList names;
+        for (const CurveFitInfo& fit : fits) {
+            QVERIFY(fit.isValid());
+            QVERIFY(!fit.icon().isNull());
+            names << fit.name();
+        }
+        QCOMPARE(names,
+                 QStringList({"Line segments", "Polynomial fit", "Exponential fit", "Power fit",
+                              "Spline", "Parametric spline"}));
+        QVERIFY(fits.get(1).icon().pixmap(16).toImage() != fits.get(3).icon().pixmap(16).toImage());
+        QVERIFY(!fits.get(-1).isValid());
+        QVERIFY(!fits.get(fits.size()).isValid());
+    }
+
+    void collectionFindsTheFitOfALineMap_data()
+    {
+        const Rows<int, bool> row;
+        for (int type = CurveType_LineSegments; type <= CurveType_ParametricSpline; ++type)
+            row(QString::asprintf("%d", type), type, true);
+        row("extended", CurveType_Extended, false);
+    }
+
+    void collectionFindsTheFitOfALineMap()
+    {
+        const auto [type, valid] = currentRow<int, bool>();
+        setCurve(tests::setOf({2}), "CurveType", type);
+        const CurveFitCollection fits;
+        const CurveFitInfo fit = fits.curveFitForLineMap(CvlUtilFrameGetUniqueID(), 2);
+        QCOMPARE(fit.isValid(), valid);
+        QCOMPARE(int(fit.type()), type);
+        QVERIFY(!fit.name().isEmpty());
+        QCOMPARE(bool(fit.curveFitAssigner()), valid);
+        QCOMPARE(bool(fit.settingsDialogAction(CvlUtilFrameGetUniqueID(), tests::setOf({2}))),
+                 valid && type != CurveType_LineSegments);
+        for (const CvlInt64 map : {0, 7})
+            QVERIFY(!fits.curveFitForLineMap(CvlUtilFrameGetUniqueID(), map).isValid());
+        QVERIFY(!fits.curveFitForLineMap(987654, 2).isValid());
+    }
+
+    void fitsAreEqualByType()
+    {
+        QVERIFY(CurveFitInfo(CurveType_Spline, "a") == CurveFitInfo(CurveType_Spline, "b"));
+        QVERIFY(CurveFitInfo(CurveType_Spline, "a") != CurveFitInfo(CurveType_PowerFit, "a"));
+        QVERIFY(CurveFitInfo(CurveType_Extended, "a") != CurveFitInfo(CurveType_Extended, "b"));
+        QVERIFY(CurveFitInfo() != CurveFitInfo(CurveType_LineSegments, {}));
+    }
+
+    void assignerWritesOnce()
+    {
+        const int steps = tests::undoSteps();
+        CurveFitCollection().get(3).curveFitAssigner()(tests::setOf({1, 4, 6}));
+        QCOMPARE(tests::undoSteps(), steps + 1);
+        for (CvlInt64 map = 1; map <= 6; ++map)
+            QCOMPARE(tests::lineValue("Curves", "CurveType", map),
+                     map == 1 || map == 4 || map == 6 ? 3.0 : 0.0);
+    }
+
+    void details_data()
+    {
+        const Rows<Settings, QString> row;
+        row("none", {{"CurveType", 0}}, "N/A");
+        row("polynomial", {{"CurveType", 1}},
+            "Order=3, Using all points, Not using weighting variable");
+        row("polynomial with all",
+            {{"CurveType", 1},
+             {"PolyOrder", 5},
+             {"UseIndVarRange", 1},
+             {"IndVarMin", 0.5},
+             {"IndVarMax", 2e7},
+             {"UseWeightVar", 1},
+             {"WeightVar", 5}},
+            "Order=5, Points range=0.5,2e+07, Weighting variable=Error");
+        row("power", {{"CurveType", 3}, {"PolyOrder", 5}},
+            "Using all points, Not using weighting variable");
+        row("spline", {{"CurveType", 4}}, "Not clamped");
+        row("clamped spline",
+            {{"CurveType", 5}, {"ClampSpline", 1}, {"SplineDerivativeAtEnd", -1.25}},
+            "Clamped: D1=0, D2=-1.25");
+    }
+
+    void details()
+    {
+        const auto [settings, text] = currentRow<Settings, QString>();
+        for (const auto& [name, value] : settings)
+            setCurve(tests::setOf({3}), name, value);
+        const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
+        const CurveFitInfo fit = CurveFitCollection().curveFitForLineMap(frame, 3);
+        QCOMPARE(fit.detailsForLineMap(frame, 3), text);
+        QCOMPARE(fit.detailsForLineMap(frame, 99), QString());
+    }
+
+    void createsOneLineMapPerVariable_data()
+    {
+        const Rows<QString, QString, QString, QString, QString> row;
+        row("xy", "xy", "&X-axis variable:", "&Y-axis variables:", "XAxisVar", "YAxisVar");
+        row("polar", "polar", "&Theta variable:", "R&adius variables:", "ThetaAxisVar", "RAxisVar");
+    }
+
+    void createsOneLineMapPerVariable()
+    {
+        const auto [demo, independentLabel, dependentLabel, independent, dependent] =
+            currentRow<QString, QString, QString, QString, QString>();
+        tests::openDemo(demo.toStdString());
+        auto& dialog = LineMapCreateDialog::getInstance(m_window.get());
+        dialog.launch();
+        QVERIFY(!dialog.isModal());
+        QCOMPARE(dialog.windowTitle(), QString("Create Line Maps"));
+        play::enter(*fieldLabelled<ui::ComboBoxAutoFilter>(dialog, "&Zone:"), "Zone 2");
+        play::enter(*fieldLabelled<ui::ComboBoxAutoFilter>(dialog, independentLabel), "angle");
+        QCOMPARE(CvlUtilLineMapGetCountForFrame(CvlUtilFrameGetUniqueID()), 6);
+
+        auto* list = fieldLabelled<QListView>(dialog, dependentLabel);
+        QVERIFY(list);
+        for (const int row : {3, 1}) // Power and Force, the later first
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                              list->visualRect(list->model()->index(row, 0)).center());
+        const int steps = tests::undoSteps();
+        QTest::mouseClick(buttonNamed(dialog, "Create"), Qt::LeftButton);
+        QCOMPARE(CvlUtilLineMapGetCountForFrame(CvlUtilFrameGetUniqueID()), 8);
+        for (const CvlInt64 map : {7, 8}) {
+            QCOMPARE(tests::lineValue("Assign", "Zone", map), 2.0);
+            QCOMPARE(tests::lineValue("Assign", qPrintable(independent), map), 6.0);
+            QCOMPARE(tests::lineValue("Assign", qPrintable(dependent), map), map == 7 ? 2.0 : 4.0);
+        }
+        QVERIFY(dialog.isVisible()); // for the next ones
+        QCOMPARE(tests::undoSteps(), steps + 1);
+        host::Document::instance().undo().undo();
+        QCOMPARE(CvlUtilLineMapGetCountForFrame(CvlUtilFrameGetUniqueID()), 6);
+        QTest::mouseClick(buttonNamed(dialog, "Close"), Qt::LeftButton);
+        QVERIFY(!dialog.isVisible());
+    }
+
+    void createNeedsEveryChoice()
+    {
+        auto& dialog = LineMapCreateDialog::getInstance(m_window.get());
+        dialog.launch();
+        QPushButton* create = buttonNamed(dialog, "Create");
+        QVERIFY(!create->isEnabled()); // no variable is chosen
+        auto* list = dialog.findChild<QListView*>();
+        list->selectAll();
+        QVERIFY(create->isEnabled());
+        host::Document::instance().clear();
+        QTRY_VERIFY(!create->isEnabled());
+        dialog.close();
+    }
+
+    void createDialogFollowsTheDocument()
+    {
+        auto& dialog = LineMapCreateDialog::getInstance(m_window.get());
+        dialog.launch();
+        auto* zone = fieldLabelled<ui::ComboBoxAutoFilter>(dialog, "&Zone:");
+        play::enter(*zone, "3:");
+        auto* list = fieldLabelled<QListView>(dialog, "&Y-axis variables:");
+        list->selectionModel()->select(list->model()->index(2, 0), QItemSelectionModel::Select);
+        host::Document::instance().execute(host::RenameZone {3, "Outlet"});
+        QTRY_COMPARE(zone->currentText(), QString("3: Outlet")); // what was chosen stays chosen
+        QCOMPARE(list->selectionModel()->selectedIndexes().size(), 1);
+        QCOMPARE(list->selectionModel()->selectedIndexes().first().row(), 2);
+        sdk::ui::writeStyle(style::plotType, nullptr, PlotType_LinePolar);
+        QTRY_VERIFY(fieldLabelled<QListView>(dialog, "R&adius variables:"));
+        dialog.close();
+    }
+
+    void settingsShowWhatTheTypeHas_data()
+    {
+        const Rows<int, bool, bool, bool> row;
+        row("polynomial", 1, true, true, false);
+        row("exponential", 2, false, true, false);
+        row("power", 3, false, true, false);
+        row("spline", 4, false, false, true);
+        row("parametric spline", 5, false, false, true);
+    }
+
+    void settingsShowWhatTheTypeHas()
+    {
+        const auto [type, order, rangeAndWeight, clamp] = currentRow<int, bool, bool, bool>();
+        setCurve(tests::setOf({1}), "CurveType", type);
+        auto& dialog = launchSettings(tests::setOf({1}));
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(dialog.findChild<QSpinBox*>()->isVisible(), order);
+        for (const QGroupBox* group : dialog.findChildren<QGroupBox*>())
+            QCOMPARE(group->isVisible(), group->title().contains("lamp") ? clamp : rangeAndWeight);
+        dialog.close();
+    }
+
+    void settingsGoToAllLineMapsInOneStep()
+    {
+        const toolbox::Set maps = tests::setOf({2, 5});
+        setCurve(maps, "CurveType", CurveType_PolynomialFit);
+        setCurve(tests::setOf({2}), "PolyOrder", 7);
+        setCurve(tests::setOf({5}), "IndVarMin", -8);
+        auto& dialog = launchSettings(maps);
+        auto* order = dialog.findChild<QSpinBox*>();
+        QCOMPARE(order->value(), 7); // of the first line map
+        QTest::keyClick(order, Qt::Key_Down);
+        auto* range = dialog.findChildren<QGroupBox*>().at(0);
+        range->setChecked(true);
+        replaceText(fieldLabelled<QLineEdit>(dialog, "&From:"), "0.125");
+        replaceText(fieldLabelled<QLineEdit>(dialog, "&To:"), "1e3");
+        const int steps = tests::undoSteps();
+        QTest::mouseClick(buttonNamed(dialog, "Apply"), Qt::LeftButton);
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(tests::undoSteps(), steps + 1);
+        for (const CvlInt64 map : {2, 5}) {
+            QCOMPARE(tests::lineValue("Curves", "PolyOrder", map), 6.0);
+            QCOMPARE(tests::lineValue("Curves", "UseIndVarRange", map), 1.0);
+            QCOMPARE(tests::lineValue("Curves", "IndVarMin", map), 0.125);
+            QCOMPARE(tests::lineValue("Curves", "IndVarMax", map), 1000.0);
+            QCOMPARE(tests::lineValue("Curves", "UseWeightVar", map), 0.0);
+        }
+        QCOMPARE(tests::lineValue("Curves", "PolyOrder", 1), 3.0);
+
+        // A group that is off leaves its values as each line map has them.
+        replaceText(fieldLabelled<QLineEdit>(dialog, "&To:"), "77");
+        QCOMPARE(fieldLabelled<QLineEdit>(dialog, "&To:")->text(), QString("77"));
+        range->setChecked(false);
+        QTest::mouseClick(buttonNamed(dialog, "OK"), Qt::LeftButton);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(tests::lineValue("Curves", "UseIndVarRange", 5), 0.0);
+        QCOMPARE(tests::lineValue("Curves", "IndVarMax", 5), 1000.0);
+    }
+
+    void settingsRefuseIncompleteInput_data()
+    {
+        const Rows<QString, QString, bool> row;
+        row("in order", "1", "2", true);
+        row("a single point", "2", "2", true);
+        row("ends before it begins", "2", "1", false);
+        row("commas do not get in", "1,500", "2000", true);
+        row("half a number", "1", "3e", false);
+    }
+
+    void settingsRefuseIncompleteInput()
+    {
+        const auto [from, to, accepted] = currentRow<QString, QString, bool>();
+        setCurve(tests::setOf({1}), "CurveType", CurveType_PowerFit);
+        setCurve(tests::setOf({1}), "UseIndVarRange", 1);
+        auto& dialog = launchSettings(tests::setOf({1}));
+        replaceText(fieldLabelled<QLineEdit>(dialog, "&From:"), from);
+        replaceText(fieldLabelled<QLineEdit>(dialog, "&To:"), to);
+        QCOMPARE(buttonNamed(dialog, "OK")->isEnabled(), accepted);
+        QCOMPARE(buttonNamed(dialog, "Apply")->isEnabled(), accepted);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        QCOMPARE(dialog.isVisible(), !accepted);
+        const double begin = QString(from).remove(',').toDouble();
+        QCOMPARE(tests::lineValue("Curves", "IndVarMin", 1), accepted ? begin : 0.0);
+        dialog.close();
+    }
+
+    void settingsDoNotOpenForMixedLineMaps()
+    {
+        setCurve(tests::setOf({1}), "CurveType", CurveType_Spline);
+        const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
+        auto& dialog = CurveFitSettingsDialog::getInstance(m_window.get());
+        dialog.launch(frame, tests::setOf({1, 2})); // different types
+        dialog.launch(frame, tests::setOf({2})); // a type without settings
+        dialog.launch(frame, tests::setOf({1, 99})); // not a line map
+        dialog.launch(frame, toolbox::Set());
+        dialog.launch(frame + 1, tests::setOf({1})); // not the active frame
+        QVERIFY(!dialog.isVisible());
+        CurveFitCollection().get(4).settingsDialogAction(frame, tests::setOf({1}))();
+        QVERIFY(CurveFitSettingsDialog::getInstance(nullptr).isVisible());
+        CurveFitSettingsDialog::getInstance(nullptr).close();
+    }
+
+    void settingsCloseWhenTheirLineMapsAreGone_data()
+    {
+        const Rows<QString, bool> row;
+        row("another frame", "frame", true);
+        row("line maps deleted", "delete", true);
+        row("another curve type", "type", true);
+        row("another line map's type", "other", false);
+        row("document cleared", "clear", true);
+    }
+
+    void settingsCloseWhenTheirLineMapsAreGone()
+    {
+        const auto [change, closes] = currentRow<QString, bool>();
+        setCurve(tests::setOf({1, 2}), "CurveType", CurveType_Spline);
+        auto& dialog = launchSettings(tests::setOf({1, 2}));
+        QVERIFY(dialog.isVisible());
+        host::Document& document = host::Document::instance();
+        if (change == "frame")
+            document.execute(host::AddFrame {});
+        else if (change == "delete")
+            CvlUtilLineMapDelete(tests::setOf({4}).handle());
+        else if (change == "clear")
+            document.clear();
+        else
+            setCurve(tests::setOf({change == "type" ? 2 : 3}), "CurveType", CurveType_PowerFit);
+        QCOMPARE(dialog.isVisible(), !closes);
+        dialog.close();
+    }
+
+    void settingsFollowUndo()
+    {
+        setCurve(tests::setOf({1}), "CurveType", CurveType_PolynomialFit);
+        setCurve(tests::setOf({1}), "PolyOrder", 8);
+        auto& dialog = launchSettings(tests::setOf({1}));
+        host::Document::instance().undo().undo();
+        QCOMPARE(dialog.findChild<QSpinBox*>()->value(), 3);
+        host::Document::instance().undo().undo(); // the fit itself
+        QVERIFY(!dialog.isVisible());
+    }
+
+    void hiddenDialogsReadNothing()
+    {
+        setCurve(tests::setOf({1}), "CurveType", CurveType_Spline);
+        launchSettings(tests::setOf({1})).close();
+        auto& create = LineMapCreateDialog::getInstance(m_window.get());
+        create.launch();
+        create.close();
+        const CurveFitCollection fits;
+        const CvlInt64 reads = CvlAppGetReadCount();
+        host::Document::instance().execute(host::RenameZone {1, "Inlet"});
+        host::Document::instance().undo().undo();
+        QTest::qWait(10);
+        QCOMPARE(CvlAppGetReadCount(), reads);
+    }
 
 private:
-    CurveFitSettingsDialog& launchSettings(const toolbox::Set& maps);
+    CurveFitSettingsDialog& launchSettings(const toolbox::Set& maps)
+    {
+        auto& dialog = CurveFitSettingsDialog::getInstance(m_window.get());
+        dialog.launch(CvlUtilFrameGetUniqueID(), maps);
+        QApplication::setActiveWindow(&dialog);
+        return dialog;
+    }
 
     std::unique_ptr<QWidget> m_window;
 };
-
-void TestLinePlotDialogs::init()
-{
-    tests::openDemo("xy");
-    m_window = std::make_unique<QWidget>();
-}
-
-void TestLinePlotDialogs::cleanup()
-{
-    m_window.reset();
-}
-
-void TestLinePlotDialogs::collectionOffersTheFits()
-{
-    const CurveFitCollection fits;
-    QStringList names;
-    for (const CurveFitInfo& fit : fits) {
-        QVERIFY(fit.isValid());
-        QVERIFY(!fit.icon().isNull());
-        names << fit.name();
-    }
-    QCOMPARE(names,
-             QStringList({"Line segments", "Polynomial fit", "Exponential fit", "Power fit",
-                          "Spline", "Parametric spline"}));
-    QVERIFY(fits.get(1).icon().pixmap(16).toImage() != fits.get(3).icon().pixmap(16).toImage());
-    QVERIFY(!fits.get(-1).isValid());
-    QVERIFY(!fits.get(fits.size()).isValid());
-}
-
-void TestLinePlotDialogs::collectionFindsTheFitOfALineMap_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("valid");
-    for (int type = CurveType_LineSegments; type <= CurveType_ParametricSpline; ++type)
-        QTest::addRow("%d", type) << type << true;
-    QTest::newRow("extended") << int(CurveType_Extended) << false;
-}
-
-void TestLinePlotDialogs::collectionFindsTheFitOfALineMap()
-{
-    QFETCH(int, type);
-    QFETCH(bool, valid);
-    setCurve(tests::setOf({2}), "CurveType", type);
-    const CurveFitCollection fits;
-    const CurveFitInfo fit = fits.curveFitForLineMap(CvlUtilFrameGetUniqueID(), 2);
-    QCOMPARE(fit.isValid(), valid);
-    QCOMPARE(int(fit.type()), type);
-    QVERIFY(!fit.name().isEmpty());
-    QCOMPARE(bool(fit.curveFitAssigner()), valid);
-    QCOMPARE(bool(fit.settingsDialogAction(CvlUtilFrameGetUniqueID(), tests::setOf({2}))),
-             valid && type != CurveType_LineSegments);
-    for (const CvlInt64 map : {0, 7})
-        QVERIFY(!fits.curveFitForLineMap(CvlUtilFrameGetUniqueID(), map).isValid());
-    QVERIFY(!fits.curveFitForLineMap(987654, 2).isValid());
-}
-
-void TestLinePlotDialogs::fitsAreEqualByType()
-{
-    QVERIFY(CurveFitInfo(CurveType_Spline, "a") == CurveFitInfo(CurveType_Spline, "b"));
-    QVERIFY(CurveFitInfo(CurveType_Spline, "a") != CurveFitInfo(CurveType_PowerFit, "a"));
-    QVERIFY(CurveFitInfo(CurveType_Extended, "a") != CurveFitInfo(CurveType_Extended, "b"));
-    QVERIFY(CurveFitInfo() != CurveFitInfo(CurveType_LineSegments, {}));
-}
-
-void TestLinePlotDialogs::assignerWritesOnce()
-{
-    const int steps = tests::undoSteps();
-    CurveFitCollection().get(3).curveFitAssigner()(tests::setOf({1, 4, 6}));
-    QCOMPARE(tests::undoSteps(), steps + 1);
-    for (CvlInt64 map = 1; map <= 6; ++map)
-        QCOMPARE(tests::lineValue("Curves", "CurveType", map),
-                 map == 1 || map == 4 || map == 6 ? 3.0 : 0.0);
-}
-
-void TestLinePlotDialogs::details_data()
-{
-    QTest::addColumn<Settings>("settings");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("none") << Settings {{"CurveType", 0}} << "N/A";
-    QTest::newRow("polynomial") << Settings {{"CurveType", 1}}
-                                << "Order=3, Using all points, Not using weighting variable";
-    QTest::newRow("polynomial with all")
-        << Settings {{"CurveType", 1},   {"PolyOrder", 5},   {"UseIndVarRange", 1},
-                     {"IndVarMin", 0.5}, {"IndVarMax", 2e7}, {"UseWeightVar", 1},
-                     {"WeightVar", 5}}
-        << "Order=5, Points range=0.5,2e+07, Weighting variable=Error";
-    QTest::newRow("power") << Settings {{"CurveType", 3}, {"PolyOrder", 5}}
-                           << "Using all points, Not using weighting variable";
-    QTest::newRow("spline") << Settings {{"CurveType", 4}} << "Not clamped";
-    QTest::newRow("clamped spline")
-        << Settings {{"CurveType", 5}, {"ClampSpline", 1}, {"SplineDerivativeAtEnd", -1.25}}
-        << "Clamped: D1=0, D2=-1.25";
-}
-
-void TestLinePlotDialogs::details()
-{
-    QFETCH(Settings, settings);
-    QFETCH(QString, text);
-    for (const auto& [name, value] : settings)
-        setCurve(tests::setOf({3}), name, value);
-    const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
-    const CurveFitInfo fit = CurveFitCollection().curveFitForLineMap(frame, 3);
-    QCOMPARE(fit.detailsForLineMap(frame, 3), text);
-    QCOMPARE(fit.detailsForLineMap(frame, 99), QString());
-}
-
-void TestLinePlotDialogs::createsOneLineMapPerVariable_data()
-{
-    QTest::addColumn<QString>("demo");
-    QTest::addColumn<QString>("independentLabel");
-    QTest::addColumn<QString>("dependentLabel");
-    QTest::addColumn<QString>("independent");
-    QTest::addColumn<QString>("dependent");
-    QTest::newRow("xy") << "xy"
-                        << "&X-axis variable:"
-                        << "&Y-axis variables:"
-                        << "XAxisVar"
-                        << "YAxisVar";
-    QTest::newRow("polar") << "polar"
-                           << "&Theta variable:"
-                           << "R&adius variables:"
-                           << "ThetaAxisVar"
-                           << "RAxisVar";
-}
-
-void TestLinePlotDialogs::createsOneLineMapPerVariable()
-{
-    QFETCH(QString, demo);
-    QFETCH(QString, independentLabel);
-    QFETCH(QString, dependentLabel);
-    QFETCH(QString, independent);
-    QFETCH(QString, dependent);
-    tests::openDemo(demo.toStdString());
-    auto& dialog = LineMapCreateDialog::getInstance(m_window.get());
-    dialog.launch();
-    QVERIFY(!dialog.isModal());
-    QCOMPARE(dialog.windowTitle(), QString("Create Line Maps"));
-    play::enter(*fieldLabelled<ui::ComboBoxAutoFilter>(dialog, "&Zone:"), "Zone 2");
-    play::enter(*fieldLabelled<ui::ComboBoxAutoFilter>(dialog, independentLabel), "angle");
-    QCOMPARE(CvlUtilLineMapGetCountForFrame(CvlUtilFrameGetUniqueID()), 6);
-
-    auto* list = fieldLabelled<QListView>(dialog, dependentLabel);
-    QVERIFY(list);
-    for (const int row : {3, 1}) // Power and Force, the later first
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier,
-                          list->visualRect(list->model()->index(row, 0)).center());
-    const int steps = tests::undoSteps();
-    QTest::mouseClick(buttonNamed(dialog, "Create"), Qt::LeftButton);
-    QCOMPARE(CvlUtilLineMapGetCountForFrame(CvlUtilFrameGetUniqueID()), 8);
-    for (const CvlInt64 map : {7, 8}) {
-        QCOMPARE(tests::lineValue("Assign", "Zone", map), 2.0);
-        QCOMPARE(tests::lineValue("Assign", qPrintable(independent), map), 6.0);
-        QCOMPARE(tests::lineValue("Assign", qPrintable(dependent), map), map == 7 ? 2.0 : 4.0);
-    }
-    QVERIFY(dialog.isVisible()); // for the next ones
-    QCOMPARE(tests::undoSteps(), steps + 1);
-    host::Document::instance().undo().undo();
-    QCOMPARE(CvlUtilLineMapGetCountForFrame(CvlUtilFrameGetUniqueID()), 6);
-    QTest::mouseClick(buttonNamed(dialog, "Close"), Qt::LeftButton);
-    QVERIFY(!dialog.isVisible());
-}
-
-void TestLinePlotDialogs::createNeedsEveryChoice()
-{
-    auto& dialog = LineMapCreateDialog::getInstance(m_window.get());
-    dialog.launch();
-    QPushButton* create = buttonNamed(dialog, "Create");
-    QVERIFY(!create->isEnabled()); // no variable is chosen
-    auto* list = dialog.findChild<QListView*>();
-    list->selectAll();
-    QVERIFY(create->isEnabled());
-    host::Document::instance().clear();
-    QTRY_VERIFY(!create->isEnabled());
-    dialog.close();
-}
-
-void TestLinePlotDialogs::createDialogFollowsTheDocument()
-{
-    auto& dialog = LineMapCreateDialog::getInstance(m_window.get());
-    dialog.launch();
-    auto* zone = fieldLabelled<ui::ComboBoxAutoFilter>(dialog, "&Zone:");
-    play::enter(*zone, "3:");
-    auto* list = fieldLabelled<QListView>(dialog, "&Y-axis variables:");
-    list->selectionModel()->select(list->model()->index(2, 0), QItemSelectionModel::Select);
-    host::Document::instance().execute(host::RenameZone {3, "Outlet"});
-    QTRY_COMPARE(zone->currentText(), QString("3: Outlet")); // what was chosen stays chosen
-    QCOMPARE(list->selectionModel()->selectedIndexes().size(), 1);
-    QCOMPARE(list->selectionModel()->selectedIndexes().first().row(), 2);
-    sdk::ui::writeStyle(style::plotType, nullptr, PlotType_LinePolar);
-    QTRY_VERIFY(fieldLabelled<QListView>(dialog, "R&adius variables:"));
-    dialog.close();
-}
-
-CurveFitSettingsDialog& TestLinePlotDialogs::launchSettings(const toolbox::Set& maps)
-{
-    auto& dialog = CurveFitSettingsDialog::getInstance(m_window.get());
-    dialog.launch(CvlUtilFrameGetUniqueID(), maps);
-    QApplication::setActiveWindow(&dialog);
-    return dialog;
-}
-
-void TestLinePlotDialogs::settingsShowWhatTheTypeHas_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("order");
-    QTest::addColumn<bool>("rangeAndWeight");
-    QTest::addColumn<bool>("clamp");
-    QTest::newRow("polynomial") << 1 << true << true << false;
-    QTest::newRow("exponential") << 2 << false << true << false;
-    QTest::newRow("power") << 3 << false << true << false;
-    QTest::newRow("spline") << 4 << false << false << true;
-    QTest::newRow("parametric spline") << 5 << false << false << true;
-}
-
-void TestLinePlotDialogs::settingsShowWhatTheTypeHas()
-{
-    QFETCH(int, type);
-    QFETCH(bool, order);
-    QFETCH(bool, rangeAndWeight);
-    QFETCH(bool, clamp);
-    setCurve(tests::setOf({1}), "CurveType", type);
-    auto& dialog = launchSettings(tests::setOf({1}));
-    QVERIFY(dialog.isVisible());
-    QCOMPARE(dialog.findChild<QSpinBox*>()->isVisible(), order);
-    for (const QGroupBox* group : dialog.findChildren<QGroupBox*>())
-        QCOMPARE(group->isVisible(), group->title().contains("lamp") ? clamp : rangeAndWeight);
-    dialog.close();
-}
-
-void TestLinePlotDialogs::settingsGoToAllLineMapsInOneStep()
-{
-    const toolbox::Set maps = tests::setOf({2, 5});
-    setCurve(maps, "CurveType", CurveType_PolynomialFit);
-    setCurve(tests::setOf({2}), "PolyOrder", 7);
-    setCurve(tests::setOf({5}), "IndVarMin", -8);
-    auto& dialog = launchSettings(maps);
-    auto* order = dialog.findChild<QSpinBox*>();
-    QCOMPARE(order->value(), 7); // of the first line map
-    QTest::keyClick(order, Qt::Key_Down);
-    auto* range = dialog.findChildren<QGroupBox*>().at(0);
-    range->setChecked(true);
-    replaceText(fieldLabelled<QLineEdit>(dialog, "&From:"), "0.125");
-    replaceText(fieldLabelled<QLineEdit>(dialog, "&To:"), "1e3");
-    const int steps = tests::undoSteps();
-    QTest::mouseClick(buttonNamed(dialog, "Apply"), Qt::LeftButton);
-    QVERIFY(dialog.isVisible());
-    QCOMPARE(tests::undoSteps(), steps + 1);
-    for (const CvlInt64 map : {2, 5}) {
-        QCOMPARE(tests::lineValue("Curves", "PolyOrder", map), 6.0);
-        QCOMPARE(tests::lineValue("Curves", "UseIndVarRange", map), 1.0);
-        QCOMPARE(tests::lineValue("Curves", "IndVarMin", map), 0.125);
-        QCOMPARE(tests::lineValue("Curves", "IndVarMax", map), 1000.0);
-        QCOMPARE(tests::lineValue("Curves", "UseWeightVar", map), 0.0);
-    }
-    QCOMPARE(tests::lineValue("Curves", "PolyOrder", 1), 3.0);
-
-    // A group that is off leaves its values as each line map has them.
-    replaceText(fieldLabelled<QLineEdit>(dialog, "&To:"), "77");
-    QCOMPARE(fieldLabelled<QLineEdit>(dialog, "&To:")->text(), QString("77"));
-    range->setChecked(false);
-    QTest::mouseClick(buttonNamed(dialog, "OK"), Qt::LeftButton);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(tests::lineValue("Curves", "UseIndVarRange", 5), 0.0);
-    QCOMPARE(tests::lineValue("Curves", "IndVarMax", 5), 1000.0);
-}
-
-void TestLinePlotDialogs::settingsRefuseIncompleteInput_data()
-{
-    QTest::addColumn<QString>("from");
-    QTest::addColumn<QString>("to");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("in order") << "1"
-                              << "2" << true;
-    QTest::newRow("a single point") << "2"
-                                    << "2" << true;
-    QTest::newRow("ends before it begins") << "2"
-                                           << "1" << false;
-    QTest::newRow("commas do not get in") << "1,500"
-                                          << "2000" << true;
-    QTest::newRow("half a number") << "1"
-                                   << "3e" << false;
-}
-
-void TestLinePlotDialogs::settingsRefuseIncompleteInput()
-{
-    QFETCH(QString, from);
-    QFETCH(QString, to);
-    QFETCH(bool, accepted);
-    setCurve(tests::setOf({1}), "CurveType", CurveType_PowerFit);
-    setCurve(tests::setOf({1}), "UseIndVarRange", 1);
-    auto& dialog = launchSettings(tests::setOf({1}));
-    replaceText(fieldLabelled<QLineEdit>(dialog, "&From:"), from);
-    replaceText(fieldLabelled<QLineEdit>(dialog, "&To:"), to);
-    QCOMPARE(buttonNamed(dialog, "OK")->isEnabled(), accepted);
-    QCOMPARE(buttonNamed(dialog, "Apply")->isEnabled(), accepted);
-    QTest::keyClick(&dialog, Qt::Key_Return);
-    QCOMPARE(dialog.isVisible(), !accepted);
-    from.remove(',');
-    QCOMPARE(tests::lineValue("Curves", "IndVarMin", 1), accepted ? from.toDouble() : 0.0);
-    dialog.close();
-}
-
-void TestLinePlotDialogs::settingsDoNotOpenForMixedLineMaps()
-{
-    setCurve(tests::setOf({1}), "CurveType", CurveType_Spline);
-    const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
-    auto& dialog = CurveFitSettingsDialog::getInstance(m_window.get());
-    dialog.launch(frame, tests::setOf({1, 2})); // different types
-    dialog.launch(frame, tests::setOf({2})); // a type without settings
-    dialog.launch(frame, tests::setOf({1, 99})); // not a line map
-    dialog.launch(frame, toolbox::Set());
-    dialog.launch(frame + 1, tests::setOf({1})); // not the active frame
-    QVERIFY(!dialog.isVisible());
-    CurveFitCollection().get(4).settingsDialogAction(frame, tests::setOf({1}))();
-    QVERIFY(CurveFitSettingsDialog::getInstance(nullptr).isVisible());
-    CurveFitSettingsDialog::getInstance(nullptr).close();
-}
-
-void TestLinePlotDialogs::settingsCloseWhenTheirLineMapsAreGone_data()
-{
-    QTest::addColumn<QString>("change");
-    QTest::addColumn<bool>("closes");
-    QTest::newRow("another frame") << "frame" << true;
-    QTest::newRow("line maps deleted") << "delete" << true;
-    QTest::newRow("another curve type") << "type" << true;
-    QTest::newRow("another line map's type") << "other" << false;
-    QTest::newRow("document cleared") << "clear" << true;
-}
-
-void TestLinePlotDialogs::settingsCloseWhenTheirLineMapsAreGone()
-{
-    QFETCH(QString, change);
-    QFETCH(bool, closes);
-    setCurve(tests::setOf({1, 2}), "CurveType", CurveType_Spline);
-    auto& dialog = launchSettings(tests::setOf({1, 2}));
-    QVERIFY(dialog.isVisible());
-    host::Document& document = host::Document::instance();
-    if (change == "frame")
-        document.execute(host::AddFrame {});
-    else if (change == "delete")
-        CvlUtilLineMapDelete(tests::setOf({4}).handle());
-    else if (change == "clear")
-        document.clear();
-    else
-        setCurve(tests::setOf({change == "type" ? 2 : 3}), "CurveType", CurveType_PowerFit);
-    QCOMPARE(dialog.isVisible(), !closes);
-    dialog.close();
-}
-
-void TestLinePlotDialogs::settingsFollowUndo()
-{
-    setCurve(tests::setOf({1}), "CurveType", CurveType_PolynomialFit);
-    setCurve(tests::setOf({1}), "PolyOrder", 8);
-    auto& dialog = launchSettings(tests::setOf({1}));
-    host::Document::instance().undo().undo();
-    QCOMPARE(dialog.findChild<QSpinBox*>()->value(), 3);
-    host::Document::instance().undo().undo(); // the fit itself
-    QVERIFY(!dialog.isVisible());
-}
-
-void TestLinePlotDialogs::hiddenDialogsReadNothing()
-{
-    setCurve(tests::setOf({1}), "CurveType", CurveType_Spline);
-    launchSettings(tests::setOf({1})).close();
-    auto& create = LineMapCreateDialog::getInstance(m_window.get());
-    create.launch();
-    create.close();
-    const CurveFitCollection fits;
-    const CvlInt64 reads = CvlAppGetReadCount();
-    host::Document::instance().execute(host::RenameZone {1, "Inlet"});
-    host::Document::instance().undo().undo();
-    QTest::qWait(10);
-    QCOMPARE(CvlAppGetReadCount(), reads);
-}
 
 QTEST_MAIN(TestLinePlotDialogs)
 #include "tst_line_plot_dialogs.moc"

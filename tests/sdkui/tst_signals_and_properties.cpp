@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "tests/sdkui/document_fixture.h"
+#include "tests/support/rows.h"
 
 #include <sdk/common/app_lock.h>
 #include <sdk/property/property_dependent_relevance.h>
@@ -27,6 +28,8 @@
 #include <memory>
 
 using namespace corvala;
+using corvala::tests::currentRow;
+using corvala::tests::Rows;
 using property::Property;
 using propertymanager::RelevanceExpression;
 using sdk::ui::OnIdleActionPerformerSingleShot;
@@ -72,425 +75,398 @@ class TestSignalsAndProperties : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void observableComesBeforeTheEnginesOtherListeners(); // first: needs the observable unmade
-    void performerRunsOnceWhenIdle();
-    void performerMayBeEnabledOrDestroyedByItsAction();
-    void performerRunsInsideAMenu();
-    void collectionBlocksAsAState();
-    void collectionDisconnects();
-    void observableHandsOnEngineEvents();
-    void slotsMayConnectAndDisconnectOthers();
-    void expressionsFollowTheirOperands_data();
-    void expressionsFollowTheirOperands();
-    void plotTypeRelevance_data();
-    void plotTypeRelevance();
-    void plotTypeRelevanceIgnoresEditsOfStyle();
-    void predicateRelevance();
-    void listModelTellsOfChanges();
-    void labelAndLineEditShowUtf8();
-    void lineEditKeepsItsCursor();
-    void buttonFollowsItsRelevance();
-    void bindingsSurviveTheirWidgets();
-    void busyDefersPaintingButALockDoesNot();
-    void deferralIsAlwaysRestored();
-};
-
-void TestSignalsAndProperties::performerRunsOnceWhenIdle()
-{
-    int runs = 0;
-    OnIdleActionPerformerSingleShot performer([&runs] { ++runs; });
-    performer.enableNotification();
-    performer.enableNotification();
-    QCOMPARE(runs, 0);
-    QTRY_COMPARE(runs, 1);
-    QTest::qWait(5);
-    QCOMPARE(runs, 1);
-
-    performer.enableNotification();
-    performer.disableNotification();
+    // first: needs the observable unmade
+    void observableComesBeforeTheEnginesOtherListeners()
     {
-        OnIdleActionPerformerSingleShot dropped([&runs] { runs += 100; });
-        dropped.enableNotification();
+        tests::openDemo("field2d");
+        host::Document& document = host::Document::instance();
+        const CvlUniqueId first = document.activeFrameId();
+        CvlUniqueId followed = 0;
+        CvlUniqueId seenByListener = 1;
+        // The listener is there before anybody asks for the observable.
+        const boost::signals2::scoped_connection listener =
+            document.events().connect([&](const host::StateEvent&) { seenByListener = followed; });
+        const boost::signals2::scoped_connection follower =
+            signaling::StateChangeEventObservable::getInstance().connect(
+                [&followed](const toolbox::StateChangeEventInterface& event) {
+                    if (event.stateChange() == StateCode_ActiveFrameChanged)
+                        followed = CvlUtilFrameGetUniqueID();
+                });
+        document.execute(host::AddFrame {});
+        const CvlUniqueId second = document.activeFrameId();
+        QVERIFY(second != first);
+        QCOMPARE(seenByListener, second);
+        document.execute(host::ActivateFrame {1});
+        QCOMPARE(seenByListener, first);
     }
-    QTest::qWait(5);
-    QCOMPARE(runs, 1);
-}
 
-void TestSignalsAndProperties::performerMayBeEnabledOrDestroyedByItsAction()
-{
-    int runs = 0;
-    std::unique_ptr<OnIdleActionPerformerSingleShot> performer;
-    performer = std::make_unique<OnIdleActionPerformerSingleShot>([&] {
-        if (++runs < 3) {
-            performer->enableNotification();
-            performer->enableNotification();
-        } else {
-            performer.reset();
-        }
-    });
-    performer->enableNotification();
-    QTRY_VERIFY(!performer);
-    QCOMPARE(runs, 3);
-}
-
-void TestSignalsAndProperties::performerRunsInsideAMenu()
-{
-    QMenu menu;
-    menu.addAction(QStringLiteral("entry"));
-    bool wasOpen = false;
-    OnIdleActionPerformerSingleShot performer([&] {
-        wasOpen = menu.isVisible();
-        menu.close();
-    });
-    performer.enableNotification();
-    menu.exec();
-    QVERIFY(wasOpen);
-}
-
-void TestSignalsAndProperties::collectionBlocksAsAState()
-{
-    boost::signals2::signal<void()> source;
-    int early = 0;
-    int late = 0;
-    signaling::SignalConnectionCollection connections;
-    connections.add(source.connect([&early] { ++early; }));
-    connections.block();
-    connections.block();
-    connections.add(source.connect([&late] { ++late; }));
-    source();
-    QVERIFY(connections.isBlocked());
-    QCOMPARE(early + late, 0);
-    connections.unblock();
-    source();
-    QVERIFY(!connections.isBlocked());
-    QCOMPARE(early, 1);
-    QCOMPARE(late, 1);
-}
-
-void TestSignalsAndProperties::collectionDisconnects()
-{
-    boost::signals2::signal<void()> source;
-    int calls = 0;
+    void performerRunsOnceWhenIdle()
     {
-        signaling::SignalConnectionCollection connections;
-        connections.add(source.connect([&calls] { ++calls; }));
-        connections.block();
-    }
-    source();
-    QCOMPARE(calls, 0);
-    QVERIFY(source.empty());
-}
-
-void TestSignalsAndProperties::observableHandsOnEngineEvents()
-{
-    tests::openDemo("field2d");
-    QStringList seen;
-    const boost::signals2::scoped_connection connection =
-        signaling::StateChangeEventObservable::getInstance().connect(
-            [&seen](const toolbox::StateChangeEventInterface& event) {
-                QStringList parts {QString::number(event.stateChange()),
-                                   event.hasStyleParams() ? "style" : "bare"};
-                for (const int number : {0, 1, 2, 3, 4})
-                    parts << QString::fromStdString(event.styleParam(number));
-                seen << parts.join('|');
-            });
-    const toolbox::Set map = tests::setOf({1});
-    sdk::ui::writeStyle(style::fieldMap.mesh.meshType, &map, MeshType_HiddenLine);
-    host::StateEvent bare;
-    bare.code = StateCode_ColorTableChanged;
-    host::Document::instance().raise(bare);
-    QCOMPARE(seen, QStringList({"7|style||FieldMap|Mesh|MeshType|", "22|bare|||||"}));
-}
-
-void TestSignalsAndProperties::observableComesBeforeTheEnginesOtherListeners()
-{
-    tests::openDemo("field2d");
-    host::Document& document = host::Document::instance();
-    const CvlUniqueId first = document.activeFrameId();
-    CvlUniqueId followed = 0;
-    CvlUniqueId seenByListener = 1;
-    // The listener is there before anybody asks for the observable.
-    const boost::signals2::scoped_connection listener =
-        document.events().connect([&](const host::StateEvent&) { seenByListener = followed; });
-    const boost::signals2::scoped_connection follower =
-        signaling::StateChangeEventObservable::getInstance().connect(
-            [&followed](const toolbox::StateChangeEventInterface& event) {
-                if (event.stateChange() == StateCode_ActiveFrameChanged)
-                    followed = CvlUtilFrameGetUniqueID();
-            });
-    document.execute(host::AddFrame {});
-    const CvlUniqueId second = document.activeFrameId();
-    QVERIFY(second != first);
-    QCOMPARE(seenByListener, second);
-    document.execute(host::ActivateFrame {1});
-    QCOMPARE(seenByListener, first);
-}
-
-void TestSignalsAndProperties::slotsMayConnectAndDisconnectOthers()
-{
-    tests::openDemo("field2d");
-    auto& observable = signaling::StateChangeEventObservable::getInstance();
-    QStringList order;
-    boost::signals2::scoped_connection second;
-    boost::signals2::scoped_connection third;
-    const boost::signals2::scoped_connection first =
-        observable.connect([&](const toolbox::StateChangeEventInterface&) {
-            order << "first";
-            second.disconnect();
-            if (!third.connected())
-                third = observable.connect(
-                    [&order](const toolbox::StateChangeEventInterface&) { order << "third"; });
-        });
-    second = observable.connect(
-        [&order](const toolbox::StateChangeEventInterface&) { order << "second"; });
-    const host::StateEvent event;
-    host::Document::instance().raise(event);
-    order.clear();
-    host::Document::instance().raise(event);
-    QCOMPARE(order, QStringList({"first", "third"}));
-}
-
-void TestSignalsAndProperties::expressionsFollowTheirOperands_data()
-{
-    QTest::addColumn<bool>("left");
-    QTest::addColumn<bool>("right");
-    for (const bool left : {false, true})
-        for (const bool right : {false, true})
-            QTest::addRow("%d %d", left, right) << left << right;
-}
-
-void TestSignalsAndProperties::expressionsFollowTheirOperands()
-{
-    QFETCH(bool, left);
-    QFETCH(bool, right);
-    Property<bool> leftProperty;
-    Property<bool> rightProperty;
-    const auto relevance = [](const Property<bool>& property) {
-        return RelevanceExpression(
-            boost::make_shared<propertymanager::BooleanPropertyDependentRelevance>(property));
-    };
-    // The operands go out of scope: the expressions keep what they stand for.
-    const RelevanceExpression either = relevance(leftProperty) || relevance(rightProperty);
-    const RelevanceExpression both = relevance(leftProperty) && relevance(rightProperty);
-    const RelevanceExpression neither = !either;
-    int changes = 0;
-    const boost::signals2::scoped_connection connection =
-        neither.relevance()->connectChanged([&changes] { ++changes; });
-
-    leftProperty.set(left);
-    rightProperty.set(right);
-    QCOMPARE(either.isRelevant(), left || right);
-    QCOMPARE(both.isRelevant(), left && right);
-    QCOMPARE(neither.isRelevant(), !left && !right);
-    QCOMPARE(changes, int(left) + int(right)); // setting the value that is there tells nobody
-}
-
-void TestSignalsAndProperties::plotTypeRelevance_data()
-{
-    QTest::addColumn<QString>("demo");
-    QTest::addColumn<bool>("isField");
-    QTest::addColumn<bool>("isLine");
-    QTest::newRow("field plot") << "field2d" << true << false;
-    QTest::newRow("field plot in space") << "field3d" << true << false;
-    QTest::newRow("xy plot") << "xy" << false << true;
-    QTest::newRow("polar plot") << "polar" << false << true;
-    QTest::newRow("no data") << "" << false << false;
-}
-
-void TestSignalsAndProperties::plotTypeRelevance()
-{
-    QFETCH(QString, demo);
-    QFETCH(bool, isField);
-    QFETCH(bool, isLine);
-    host::Document::instance().clear();
-    const propertymanager::FieldPlotTypeDependentRelevance field(true);
-    const propertymanager::FieldPlotTypeDependentRelevance notField(false);
-    const propertymanager::LinePlotTypeDependentRelevance line(true);
-    const propertymanager::LinePlotTypeDependentRelevance notLine(false);
-    int changes = 0;
-    const boost::signals2::scoped_connection connection =
-        field.connectChanged([&changes] { ++changes; });
-    if (!demo.isEmpty()) {
-        tests::openDemo(demo.toStdString());
-        QVERIFY(changes > 0);
-    }
-    QCOMPARE(field.isRelevant(), isField);
-    QCOMPARE(notField.isRelevant(), !isField);
-    QCOMPARE(line.isRelevant(), isLine);
-    QCOMPARE(notLine.isRelevant(), !isLine);
-}
-
-void TestSignalsAndProperties::plotTypeRelevanceIgnoresEditsOfStyle()
-{
-    tests::openDemo("field2d");
-    const propertymanager::FieldPlotTypeDependentRelevance field(true);
-    int changes = 0;
-    const boost::signals2::scoped_connection connection =
-        field.connectChanged([&changes] { ++changes; });
-    const toolbox::Set map = tests::setOf({1});
-    sdk::ui::writeStyle(style::fieldMap.group, &map, 4);
-    QCOMPARE(changes, 0);
-    sdk::ui::writeStyle(style::plotType, nullptr, PlotType_LineXY);
-    QCOMPARE(changes, 1);
-    QVERIFY(!field.isRelevant());
-}
-
-void TestSignalsAndProperties::predicateRelevance()
-{
-    Property<std::string> pattern;
-    Property<std::string> applied;
-    const propertymanager::PropertyPredicateDependentRelevance relevance(
-        {&pattern, &applied}, [&] { return pattern.get() != applied.get(); });
-    int changes = 0;
-    const boost::signals2::scoped_connection connection =
-        relevance.connectChanged([&changes] { ++changes; });
-    QVERIFY(!relevance.isRelevant());
-    pattern.set("zone*");
-    QVERIFY(relevance.isRelevant());
-    applied.set("zone*");
-    QVERIFY(!relevance.isRelevant());
-    QCOMPARE(changes, 2);
-}
-
-void TestSignalsAndProperties::listModelTellsOfChanges()
-{
-    Numbers numbers;
-    const propertybindings::ListModelInterface<int>& list = numbers;
-    std::vector<int> sizes;
-    boost::signals2::connection connection =
-        list.connectValueListChanged([&] { sizes.push_back(list.size()); });
-    numbers.append(7);
-    connection.disconnect();
-    numbers.append(8);
-    QCOMPARE(sizes, std::vector<int>({1}));
-    QCOMPARE(list.at(1), 8);
-}
-
-void TestSignalsAndProperties::labelAndLineEditShowUtf8()
-{
-    Property<std::string> text("Größe µ");
-    QLabel label;
-    QLineEdit edit;
-    const propertybindings::LabelPropertyBinding labelBinding(&label, text);
-    const propertybindings::LineEditPropertyBinding editBinding(&edit, text);
-    QCOMPARE(label.text(), QString::fromUtf8("Größe µ"));
-    QCOMPARE(edit.text(), QString::fromUtf8("Größe µ"));
-    edit.setText(QString::fromUtf8("Δp"));
-    QCOMPARE(text.get(), std::string("Δp"));
-    QCOMPARE(label.text(), QString::fromUtf8("Δp"));
-    text.set("");
-    QCOMPARE(edit.text(), QString());
-}
-
-void TestSignalsAndProperties::lineEditKeepsItsCursor()
-{
-    Property<std::string> text("ac");
-    QLineEdit edit;
-    const propertybindings::LineEditPropertyBinding binding(&edit, text);
-    edit.setCursorPosition(1);
-    QTest::keyClicks(&edit, "b");
-    QCOMPARE(text.get(), std::string("abc"));
-    QCOMPARE(edit.cursorPosition(), 2);
-}
-
-void TestSignalsAndProperties::buttonFollowsItsRelevance()
-{
-    Property<bool> isUseful(false);
-    QPushButton button;
-    int clicks = 0;
-    {
-        const propertybindings::ButtonBinding binding(
-            &button, [&clicks] { ++clicks; },
-            boost::make_shared<propertymanager::BooleanPropertyDependentRelevance>(isUseful));
-        QVERIFY(!button.isEnabled());
-        button.click();
-        isUseful.set(true);
-        QVERIFY(button.isEnabled());
-        QTest::mouseClick(&button, Qt::LeftButton);
-        QCOMPARE(clicks, 1);
-    }
-    button.click();
-    QCOMPARE(clicks, 1);
-
-    button.setEnabled(false);
-    const propertybindings::ButtonBinding plain(&button, [&clicks] { ++clicks; });
-    QVERIFY(!button.isEnabled());
-}
-
-void TestSignalsAndProperties::bindingsSurviveTheirWidgets()
-{
-    Property<std::string> text;
-    Property<bool> isUseful(false);
-    auto label = std::make_unique<QLabel>();
-    auto edit = std::make_unique<QLineEdit>();
-    auto button = std::make_unique<QPushButton>();
-    const propertybindings::LabelPropertyBinding labelBinding(label.get(), text);
-    const propertybindings::LineEditPropertyBinding editBinding(edit.get(), text);
-    const propertybindings::ButtonBinding buttonBinding(
-        button.get(), [] {},
-        boost::make_shared<propertymanager::BooleanPropertyDependentRelevance>(isUseful));
-    const propertybindings::WidgetUpdateDeferrerOnBusy deferrer(label.get());
-    const sdk::ui::HostCommandScope command;
-    label.reset();
-    edit.reset();
-    button.reset();
-    text.set("later");
-    isUseful.set(true);
-    QCOMPARE(text.get(), std::string("later"));
-}
-
-void TestSignalsAndProperties::busyDefersPaintingButALockDoesNot()
-{
-    PaintedWidget widget;
-    const propertybindings::WidgetUpdateDeferrerOnBusy deferrer(&widget);
-    widget.show();
-    QTRY_VERIFY(widget.paints > 0);
-
-    widget.paints = 0;
-    {
-        const sdk::AppLock lock;
-        widget.repaint();
-        QCOMPARE(widget.paints, 1);
-    }
-    widget.paints = 0;
-    {
-        const sdk::ui::HostCommandScope command;
-        {
-            const sdk::ui::HostCommandScope nested;
-            widget.repaint();
-        }
-        widget.repaint();
+        int runs = 0;
+        OnIdleActionPerformerSingleShot performer([&runs] { ++runs; });
+        performer.enableNotification();
+        performer.enableNotification();
+        QCOMPARE(runs, 0);
+        QTRY_COMPARE(runs, 1);
         QTest::qWait(5);
-        QCOMPARE(widget.paints, 0);
-    }
-    QTRY_COMPARE(widget.paints, 1);
-}
+        QCOMPARE(runs, 1);
 
-void TestSignalsAndProperties::deferralIsAlwaysRestored()
-{
-    QWidget mine;
-    QWidget others;
-    others.setUpdatesEnabled(false);
-    {
-        const sdk::ui::HostCommandScope command;
+        performer.enableNotification();
+        performer.disableNotification();
         {
-            const propertybindings::WidgetUpdateDeferrerOnBusy late(&mine);
-            QVERIFY(!mine.updatesEnabled());
+            OnIdleActionPerformerSingleShot dropped([&runs] { runs += 100; });
+            dropped.enableNotification();
         }
-        QVERIFY(mine.updatesEnabled()); // the deferrer went in the middle of the command
+        QTest::qWait(5);
+        QCOMPARE(runs, 1);
     }
-    const propertybindings::WidgetUpdateDeferrerOnBusy ofMine(&mine);
-    const propertybindings::WidgetUpdateDeferrerOnBusy ofOthers(&others);
-    try {
+
+    void performerMayBeEnabledOrDestroyedByItsAction()
+    {
+        int runs = 0;
+        std::unique_ptr<OnIdleActionPerformerSingleShot> performer;
+        performer = std::make_unique<OnIdleActionPerformerSingleShot>([&] {
+            if (++runs < 3) {
+                performer->enableNotification();
+                performer->enableNotification();
+            } else {
+                performer.reset();
+            }
+        });
+        performer->enableNotification();
+        QTRY_VERIFY(!performer);
+        QCOMPARE(runs, 3);
+    }
+
+    void performerRunsInsideAMenu()
+    {
+        QMenu menu;
+        menu.addAction(QStringLiteral("entry"));
+        bool wasOpen = false;
+        OnIdleActionPerformerSingleShot performer([&] {
+            wasOpen = menu.isVisible();
+            menu.close();
+        });
+        performer.enableNotification();
+        menu.exec();
+        QVERIFY(wasOpen);
+    }
+
+    void collectionBlocksAsAState()
+    {
+        boost::signals2::signal<void()> source;
+        int early = 0;
+        int late = 0;
+        signaling::SignalConnectionCollection connections;
+        connections.add(source.connect([&early] { ++early; }));
+        connections.block();
+        connections.block();
+        connections.add(source.connect([&late] { ++late; }));
+        source();
+        QVERIFY(connections.isBlocked());
+        QCOMPARE(early + late, 0);
+        connections.unblock();
+        source();
+        QVERIFY(!connections.isBlocked());
+        QCOMPARE(early, 1);
+        QCOMPARE(late, 1);
+    }
+
+    void collectionDisconnects()
+    {
+        boost::signals2::signal<void()> source;
+        int calls = 0;
+        {
+            signaling::SignalConnectionCollection connections;
+            connections.add(source.connect([&calls] { ++calls; }));
+            connections.block();
+        }
+        source();
+        QCOMPARE(calls, 0);
+        QVERIFY(source.empty());
+    }
+
+    void observableHandsOnEngineEvents()
+    {
+        tests::openDemo("field2d");
+        QStringList seen;
+        const boost::signals2::scoped_connection connection =
+            signaling::StateChangeEventObservable::getInstance().connect(
+                [&seen](const toolbox::StateChangeEventInterface& event) {
+                    QStringList parts {QString::number(event.stateChange()),
+                                       event.hasStyleParams() ? "style" : "bare"};
+                    for (const int number : {0, 1, 2, 3, 4})
+                        parts << QString::fromStdString(event.styleParam(number));
+                    seen << parts.join('|');
+                });
+        const toolbox::Set map = tests::setOf({1});
+        sdk::ui::writeStyle(style::fieldMap.mesh.meshType, &map, MeshType_HiddenLine);
+        host::StateEvent bare;
+        bare.code = StateCode_ColorTableChanged;
+        host::Document::instance().raise(bare);
+        QCOMPARE(seen, QStringList({"7|style||FieldMap|Mesh|MeshType|", "22|bare|||||"}));
+    }
+
+    void slotsMayConnectAndDisconnectOthers()
+    {
+        tests::openDemo("field2d");
+        auto& observable = signaling::StateChangeEventObservable::getInstance();
+        QStringList order;
+        boost::signals2::scoped_connection second;
+        boost::signals2::scoped_connection third;
+        const boost::signals2::scoped_connection first =
+            observable.connect([&](const toolbox::StateChangeEventInterface&) {
+                order << "first";
+                second.disconnect();
+                if (!third.connected())
+                    third = observable.connect(
+                        [&order](const toolbox::StateChangeEventInterface&) { order << "third"; });
+            });
+        second = observable.connect(
+            [&order](const toolbox::StateChangeEventInterface&) { order << "second"; });
+        const host::StateEvent event;
+        host::Document::instance().raise(event);
+        order.clear();
+        host::Document::instance().raise(event);
+        QCOMPARE(order, QStringList({"first", "third"}));
+    }
+
+    void expressionsFollowTheirOperands_data()
+    {
+        const Rows<bool, bool> row;
+        for (const bool left : {false, true})
+            for (const bool right : {false, true})
+                row(QString::asprintf("%d %d", left, right), left, right);
+    }
+
+    void expressionsFollowTheirOperands()
+    {
+        const auto [left, right] = currentRow<bool, bool>();
+        Property<bool> leftProperty;
+        Property<bool> rightProperty;
+        const auto relevance = [](const Property<bool>& property) {
+            return RelevanceExpression(
+                boost::make_shared<propertymanager::BooleanPropertyDependentRelevance>(property));
+        };
+        // The operands go out of scope: the expressions keep what they stand for.
+        const RelevanceExpression either = relevance(leftProperty) || relevance(rightProperty);
+        const RelevanceExpression both = relevance(leftProperty) && relevance(rightProperty);
+        const RelevanceExpression neither = !either;
+        int changes = 0;
+        const boost::signals2::scoped_connection connection =
+            neither.relevance()->connectChanged([&changes] { ++changes; });
+
+        leftProperty.set(left);
+        rightProperty.set(right);
+        QCOMPARE(either.isRelevant(), left || right);
+        QCOMPARE(both.isRelevant(), left && right);
+        QCOMPARE(neither.isRelevant(), !left && !right);
+        QCOMPARE(changes, int(left) + int(right)); // setting the value that is there tells nobody
+    }
+
+    void plotTypeRelevance_data()
+    {
+        const Rows<QString, bool, bool> row;
+        row("field plot", "field2d", true, false);
+        row("field plot in space", "field3d", true, false);
+        row("xy plot", "xy", false, true);
+        row("polar plot", "polar", false, true);
+        row("no data", "", false, false);
+    }
+
+    void plotTypeRelevance()
+    {
+        const auto [demo, isField, isLine] = currentRow<QString, bool, bool>();
+        host::Document::instance().clear();
+        const propertymanager::FieldPlotTypeDependentRelevance field(true);
+        const propertymanager::FieldPlotTypeDependentRelevance notField(false);
+        const propertymanager::LinePlotTypeDependentRelevance line(true);
+        const propertymanager::LinePlotTypeDependentRelevance notLine(false);
+        int changes = 0;
+        const boost::signals2::scoped_connection connection =
+            field.connectChanged([&changes] { ++changes; });
+        if (!demo.isEmpty()) {
+            tests::openDemo(demo.toStdString());
+            QVERIFY(changes > 0);
+        }
+        QCOMPARE(field.isRelevant(), isField);
+        QCOMPARE(notField.isRelevant(), !isField);
+        QCOMPARE(line.isRelevant(), isLine);
+        QCOMPARE(notLine.isRelevant(), !isLine);
+    }
+
+    void plotTypeRelevanceIgnoresEditsOfStyle()
+    {
+        tests::openDemo("field2d");
+        const propertymanager::FieldPlotTypeDependentRelevance field(true);
+        int changes = 0;
+        const boost::signals2::scoped_connection connection =
+            field.connectChanged([&changes] { ++changes; });
+        const toolbox::Set map = tests::setOf({1});
+        sdk::ui::writeStyle(style::fieldMap.group, &map, 4);
+        QCOMPARE(changes, 0);
+        sdk::ui::writeStyle(style::plotType, nullptr, PlotType_LineXY);
+        QCOMPARE(changes, 1);
+        QVERIFY(!field.isRelevant());
+    }
+
+    void predicateRelevance()
+    {
+        Property<std::string> pattern;
+        Property<std::string> applied;
+        const propertymanager::PropertyPredicateDependentRelevance relevance(
+            {&pattern, &applied}, [&] { return pattern.get() != applied.get(); });
+        int changes = 0;
+        const boost::signals2::scoped_connection connection =
+            relevance.connectChanged([&changes] { ++changes; });
+        QVERIFY(!relevance.isRelevant());
+        pattern.set("zone*");
+        QVERIFY(relevance.isRelevant());
+        applied.set("zone*");
+        QVERIFY(!relevance.isRelevant());
+        QCOMPARE(changes, 2);
+    }
+
+    void listModelTellsOfChanges()
+    {
+        Numbers numbers;
+        const propertybindings::ListModelInterface<int>& list = numbers;
+        std::vector<int> sizes;
+        boost::signals2::connection connection =
+            list.connectValueListChanged([&] { sizes.push_back(list.size()); });
+        numbers.append(7);
+        connection.disconnect();
+        numbers.append(8);
+        QCOMPARE(sizes, std::vector<int>({1}));
+        QCOMPARE(list.at(1), 8);
+    }
+
+    void labelAndLineEditShowUtf8()
+    {
+        Property<std::string> text("Größe µ");
+        QLabel label;
+        QLineEdit edit;
+        const propertybindings::LabelPropertyBinding labelBinding(&label, text);
+        const propertybindings::LineEditPropertyBinding editBinding(&edit, text);
+        QCOMPARE(label.text(), QString::fromUtf8("Größe µ"));
+        QCOMPARE(edit.text(), QString::fromUtf8("Größe µ"));
+        edit.setText(QString::fromUtf8("Δp"));
+        QCOMPARE(text.get(), std::string("Δp"));
+        QCOMPARE(label.text(), QString::fromUtf8("Δp"));
+        text.set("");
+        QCOMPARE(edit.text(), QString());
+    }
+
+    void lineEditKeepsItsCursor()
+    {
+        Property<std::string> text("ac");
+        QLineEdit edit;
+        const propertybindings::LineEditPropertyBinding binding(&edit, text);
+        edit.setCursorPosition(1);
+        QTest::keyClicks(&edit, "b");
+        QCOMPARE(text.get(), std::string("abc"));
+        QCOMPARE(edit.cursorPosition(), 2);
+    }
+
+    void buttonFollowsItsRelevance()
+    {
+        Property<bool> isUseful(false);
+        QPushButton button;
+        int clicks = 0;
+        {
+            const propertybindings::ButtonBinding binding(
+                &button, [&clicks] { ++clicks; },
+                boost::make_shared<propertymanager::BooleanPropertyDependentRelevance>(isUseful));
+            QVERIFY(!button.isEnabled());
+            button.click();
+            isUseful.set(true);
+            QVERIFY(button.isEnabled());
+            QTest::mouseClick(&button, Qt::LeftButton);
+            QCOMPARE(clicks, 1);
+        }
+        button.click();
+        QCOMPARE(clicks, 1);
+
+        button.setEnabled(false);
+        const propertybindings::ButtonBinding plain(&button, [&clicks] { ++clicks; });
+        QVERIFY(!button.isEnabled());
+    }
+
+    void bindingsSurviveTheirWidgets()
+    {
+        Property<std::string> text;
+        Property<bool> isUseful(false);
+        auto label = std::make_unique<QLabel>();
+        auto edit = std::make_unique<QLineEdit>();
+        auto button = std::make_unique<QPushButton>();
+        const propertybindings::LabelPropertyBinding labelBinding(label.get(), text);
+        const propertybindings::LineEditPropertyBinding editBinding(edit.get(), text);
+        const propertybindings::ButtonBinding buttonBinding(
+            button.get(), [] {},
+            boost::make_shared<propertymanager::BooleanPropertyDependentRelevance>(isUseful));
+        const propertybindings::WidgetUpdateDeferrerOnBusy deferrer(label.get());
         const sdk::ui::HostCommandScope command;
-        QVERIFY(!mine.updatesEnabled());
-        throw std::runtime_error("the command failed");
-    } catch (const std::runtime_error&) {
+        label.reset();
+        edit.reset();
+        button.reset();
+        text.set("later");
+        isUseful.set(true);
+        QCOMPARE(text.get(), std::string("later"));
     }
-    QVERIFY(!sdk::ui::HostCommandScope::isRunning());
-    QVERIFY(mine.updatesEnabled());
-    QVERIFY(!others.updatesEnabled()); // switched off by somebody else
-}
+
+    void busyDefersPaintingButALockDoesNot()
+    {
+        PaintedWidget widget;
+        const propertybindings::WidgetUpdateDeferrerOnBusy deferrer(&widget);
+        widget.show();
+        QTRY_VERIFY(widget.paints > 0);
+
+        widget.paints = 0;
+        {
+            const sdk::AppLock lock;
+            widget.repaint();
+            QCOMPARE(widget.paints, 1);
+        }
+        widget.paints = 0;
+        {
+            const sdk::ui::HostCommandScope command;
+            {
+                const sdk::ui::HostCommandScope nested;
+                widget.repaint();
+            }
+            widget.repaint();
+            QTest::qWait(5);
+            QCOMPARE(widget.paints, 0);
+        }
+        QTRY_COMPARE(widget.paints, 1);
+    }
+
+    void deferralIsAlwaysRestored()
+    {
+        QWidget mine;
+        QWidget others;
+        others.setUpdatesEnabled(false);
+        {
+            const sdk::ui::HostCommandScope command;
+            {
+                const propertybindings::WidgetUpdateDeferrerOnBusy late(&mine);
+                QVERIFY(!mine.updatesEnabled());
+            }
+            QVERIFY(mine.updatesEnabled()); // the deferrer went in the middle of the command
+        }
+        const propertybindings::WidgetUpdateDeferrerOnBusy ofMine(&mine);
+        const propertybindings::WidgetUpdateDeferrerOnBusy ofOthers(&others);
+        try {
+            const sdk::ui::HostCommandScope command;
+            QVERIFY(!mine.updatesEnabled());
+            throw std::runtime_error("the command failed");
+        } catch (const std::runtime_error&) {
+        }
+        QVERIFY(!sdk::ui::HostCommandScope::isRunning());
+        QVERIFY(mine.updatesEnabled());
+        QVERIFY(!others.updatesEnabled()); // switched off by somebody else
+    }
+};
 
 QTEST_MAIN(TestSignalsAndProperties)
 #include "tst_signals_and_properties.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "tests/support/rows.h"
 #include "tests/views/dialog_fixture.h"
 
 #include <QLineEdit>
@@ -42,223 +43,204 @@ class tst_MapSelection : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void losesRowsThatAreGone_data();
-    void losesRowsThatAreGone();
-    void isWidenedToWholeRows();
-    void keepsItsOrder();
-    void isCarriedHoweverScattered();
-    void takesPickedObjects_data();
-    void takesPickedObjects();
-    void takesPickedLineMaps_data();
-    void takesPickedLineMaps();
-    void scrollsToTheFirstMatch();
-    void asksForAPatternOnlyWhenItMatters();
-};
+    void losesRowsThatAreGone_data()
+    {
+        const Rows<QString, QString> row;
+        row("one of them", "12", "2,5-6");
+        row("before them", "1-8", "2");
+        row("all but one", "2-12", "none");
+    }
 
-void tst_MapSelection::losesRowsThatAreGone_data()
-{
-    QTest::addColumn<QString>("deleted");
-    QTest::addColumn<QString>("selected");
-    QTest::newRow("one of them") << "12"
-                                 << "2,5-6";
-    QTest::newRow("before them") << "1-8"
-                                 << "2";
-    QTest::newRow("all but one") << "2-12"
-                                 << "none";
-}
+    void losesRowsThatAreGone()
+    {
+        const auto [deleted, selected] = currentRow<QString, QString>();
+        DialogFixture fixture("field2d");
+        fixture.select({2, 5, 6, 12});
+        QVERIFY(host::Document::instance()
+                    .execute(host::DeleteMaps {maps(deleted.toStdString())})
+                    .isDone());
+        runUntilIdle();
+        QCOMPARE(fixture.selected(), selected);
+        fixture.clickTab("Contour");
+        QCOMPARE(fixture.selected(), selected);
+        fixture.clickTab("Mesh");
+    }
 
-void tst_MapSelection::losesRowsThatAreGone()
-{
-    QFETCH(QString, deleted);
-    DialogFixture fixture("field2d");
-    fixture.select({2, 5, 6, 12});
-    QVERIFY(host::Document::instance()
-                .execute(host::DeleteMaps {maps(deleted.toStdString())})
-                .isDone());
-    runUntilIdle();
-    QTEST(fixture.selected(), "selected");
-    fixture.clickTab("Contour");
-    QTEST(fixture.selected(), "selected");
-    fixture.clickTab("Mesh");
-}
+    void isWidenedToWholeRows()
+    {
+        DialogFixture fixture("field2d");
+        fixture.table().selectionModel()->select(fixture.model().index(3, 5),
+                                                 QItemSelectionModel::ClearAndSelect);
+        QVERIFY(fixture.table().selectionModel()->selectedRows().isEmpty());
+        setStyle("FieldMap.Group", "1", 2);
+        runUntilIdle();
+        QCOMPARE(fixture.selected(), "4");
+    }
 
-void tst_MapSelection::isWidenedToWholeRows()
-{
-    DialogFixture fixture("field2d");
-    fixture.table().selectionModel()->select(fixture.model().index(3, 5),
-                                             QItemSelectionModel::ClearAndSelect);
-    QVERIFY(fixture.table().selectionModel()->selectedRows().isEmpty());
-    setStyle("FieldMap.Group", "1", 2);
-    runUntilIdle();
-    QCOMPARE(fixture.selected(), "4");
-}
+    /// The row that was selected first is the one that prompts start from.
+    void keepsItsOrder()
+    {
+        DialogFixture fixture("field2d");
+        fixture.select({7, 2, 9, 12});
+        const auto rows = [&fixture] {
+            QList<int> firstRows;
+            for (const QItemSelectionRange& range : fixture.table().selectionModel()->selection())
+                firstRows << range.top() + 1;
+            return firstRows;
+        };
+        setStyle("FieldMap.Group", "1", 2);
+        runUntilIdle();
+        QCOMPARE(rows(), (QList<int> {7, 2, 9, 12}));
+        fixture.clickTab("Contour");
+        QCOMPARE(rows(), (QList<int> {7, 2, 9, 12}));
+        QVERIFY(host::Document::instance().execute(host::DeleteMaps {maps("12")}).isDone());
+        runUntilIdle();
+        QCOMPARE(rows(), (QList<int> {7, 2, 9}));
+        fixture.clickTab("Mesh");
+        QCOMPARE(rows(), (QList<int> {7, 2, 9}));
+    }
 
-/// The row that was selected first is the one that prompts start from.
-void tst_MapSelection::keepsItsOrder()
-{
-    DialogFixture fixture("field2d");
-    fixture.select({7, 2, 9, 12});
-    const auto rows = [&fixture] {
-        QList<int> firstRows;
-        for (const QItemSelectionRange& range : fixture.table().selectionModel()->selection())
-            firstRows << range.top() + 1;
-        return firstRows;
-    };
-    setStyle("FieldMap.Group", "1", 2);
-    runUntilIdle();
-    QCOMPARE(rows(), (QList<int> {7, 2, 9, 12}));
-    fixture.clickTab("Contour");
-    QCOMPARE(rows(), (QList<int> {7, 2, 9, 12}));
-    QVERIFY(host::Document::instance().execute(host::DeleteMaps {maps("12")}).isDone());
-    runUntilIdle();
-    QCOMPARE(rows(), (QList<int> {7, 2, 9}));
-    fixture.clickTab("Mesh");
-    QCOMPARE(rows(), (QList<int> {7, 2, 9}));
-}
+    /// With this many ranges anything that compares all pairs takes minutes.
+    void isCarriedHoweverScattered()
+    {
+        static constexpr int kMaps = 40000;
+        DialogFixture fixture("field2d", kMaps);
+        selectAlternateRows(fixture.table());
+        const auto isAlternate = [&fixture] {
+            const QItemSelection ranges = fixture.table().selectionModel()->selection();
+            return ranges.size() == kMaps / 2 && ranges.first().model() == &fixture.model()
+                && ranges.last().top() == kMaps - 2 && ranges.last().bottom() == kMaps - 2;
+        };
+        fixture.clickTab("Contour");
+        QVERIFY(isAlternate());
+        setStyle("FieldMap.Group", "all", 2);
+        runUntilIdle();
+        QVERIFY(isAlternate());
+        fixture.clickTab("Mesh");
+        QVERIFY(isAlternate());
+        QVERIFY(host::Document::instance()
+                    .execute(host::DeleteMaps {maps(std::to_string(kMaps))})
+                    .isDone());
+        runUntilIdle();
+        QVERIFY(isAlternate());
+        fixture.key(Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(fixture.table().selectionModel()->selection().size(), 1);
+        selectAlternateRows(fixture.table());
+        fixture.clickCell(1, 1);
+        fixture.key(Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(fixture.table().selectionModel()->selection().size(), 1);
+    }
 
-/// With this many ranges anything that compares all pairs takes minutes.
-void tst_MapSelection::isCarriedHoweverScattered()
-{
-    static constexpr int kMaps = 40000;
-    DialogFixture fixture("field2d", kMaps);
-    selectAlternateRows(fixture.table());
-    const auto isAlternate = [&fixture] {
-        const QItemSelection ranges = fixture.table().selectionModel()->selection();
-        return ranges.size() == kMaps / 2 && ranges.first().model() == &fixture.model()
-            && ranges.last().top() == kMaps - 2 && ranges.last().bottom() == kMaps - 2;
-    };
-    fixture.clickTab("Contour");
-    QVERIFY(isAlternate());
-    setStyle("FieldMap.Group", "all", 2);
-    runUntilIdle();
-    QVERIFY(isAlternate());
-    fixture.clickTab("Mesh");
-    QVERIFY(isAlternate());
-    QVERIFY(host::Document::instance()
-                .execute(host::DeleteMaps {maps(std::to_string(kMaps))})
-                .isDone());
-    runUntilIdle();
-    QVERIFY(isAlternate());
-    fixture.key(Qt::Key_A, Qt::ControlModifier);
-    QCOMPARE(fixture.table().selectionModel()->selection().size(), 1);
-    selectAlternateRows(fixture.table());
-    fixture.clickCell(1, 1);
-    fixture.key(Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(fixture.table().selectionModel()->selection().size(), 1);
-}
+    void takesPickedObjects_data()
+    {
+        const Rows<QList<QPoint>, QString, int>
+            row; // picks (type and number), selected, top (map, 0 for no scrolling)
+        row("zones", {{15, 40}, {15, 7}, {15, 8}}, "7-8,40", 7);
+        row("the same zone twice", {{15, 40}, {15, 40}}, "40", 40);
+        row("others between", {{4, 1}, {15, 50}, {5, 2}}, "50", 50);
+        row("others only", {{4, 1}, {3, 2}}, "none", 0);
+        row("none", {}, "none", 0);
+        row("no such zone", {{15, 1000}}, "none", 0);
+    }
 
-void tst_MapSelection::takesPickedObjects_data()
-{
-    QTest::addColumn<QList<QPoint>>("picks"); // type and number
-    QTest::addColumn<QString>("selected");
-    QTest::addColumn<int>("top"); // map, 0 for no scrolling
-    const auto row = [](const char* name, const QList<QPoint>& picks, const QString& selected,
-                        int top) { QTest::newRow(name) << picks << selected << top; };
-    row("zones", {{15, 40}, {15, 7}, {15, 8}}, "7-8,40", 7);
-    row("the same zone twice", {{15, 40}, {15, 40}}, "40", 40);
-    row("others between", {{4, 1}, {15, 50}, {5, 2}}, "50", 50);
-    row("others only", {{4, 1}, {3, 2}}, "none", 0);
-    row("none", {}, "none", 0);
-    row("no such zone", {{15, 1000}}, "none", 0);
-}
+    void takesPickedObjects()
+    {
+        const auto [picks, selected, top] = currentRow<QList<QPoint>, QString, int>();
+        DialogFixture fixture("field2d", 200);
+        fixture.select({1, 2});
+        fixture.table().scrollTo(fixture.model().index(99, 0), QAbstractItemView::PositionAtTop);
+        std::vector<host::Pick> list;
+        for (const QPoint& pick : picks)
+            list.push_back({pick.x(), pick.y()});
+        host::Document::instance().execute(host::SetPicks {list});
+        ZoneStyleDialog::getInstance(fixture.mainWindow(), DialogInitialization_None);
+        runUntilIdle();
+        QCOMPARE(fixture.selected(), "1-2");
+        ZoneStyleDialog::getInstance(fixture.mainWindow(),
+                                     DialogInitialization_SelectPickedObjects);
+        QCOMPARE(fixture.selected(), "1-2"); // not before the idle moment
+        runUntilIdle();
+        QCOMPARE(fixture.selected(), selected);
+        QCOMPARE(fixture.table().selectionModel()->selection().size(),
+                 fixture.table().selectionModel()->selectedRows().size());
+        QCOMPARE(fixture.table().rowAt(0), top > 0 ? top - 1 : 99);
+        if (top > 0)
+            QCOMPARE(fixture.table().currentIndex(), fixture.model().index(top - 1, 0));
+        QCOMPARE(fixture.dialog().focusWidget(), &fixture.table());
+    }
 
-void tst_MapSelection::takesPickedObjects()
-{
-    QFETCH(QList<QPoint>, picks);
-    QFETCH(int, top);
-    DialogFixture fixture("field2d", 200);
-    fixture.select({1, 2});
-    fixture.table().scrollTo(fixture.model().index(99, 0), QAbstractItemView::PositionAtTop);
-    std::vector<host::Pick> list;
-    for (const QPoint& pick : picks)
-        list.push_back({pick.x(), pick.y()});
-    host::Document::instance().execute(host::SetPicks {list});
-    ZoneStyleDialog::getInstance(fixture.mainWindow(), DialogInitialization_None);
-    runUntilIdle();
-    QCOMPARE(fixture.selected(), "1-2");
-    ZoneStyleDialog::getInstance(fixture.mainWindow(), DialogInitialization_SelectPickedObjects);
-    QCOMPARE(fixture.selected(), "1-2"); // not before the idle moment
-    runUntilIdle();
-    QTEST(fixture.selected(), "selected");
-    QCOMPARE(fixture.table().selectionModel()->selection().size(),
-             fixture.table().selectionModel()->selectedRows().size());
-    QCOMPARE(fixture.table().rowAt(0), top > 0 ? top - 1 : 99);
-    if (top > 0)
-        QCOMPARE(fixture.table().currentIndex(), fixture.model().index(top - 1, 0));
-    QCOMPARE(fixture.dialog().focusWidget(), &fixture.table());
-}
+    void takesPickedLineMaps_data()
+    {
+        const Rows<bool> row;
+        row("launched at once", true);
+        row("launched later", false);
+    }
 
-void tst_MapSelection::takesPickedLineMaps_data()
-{
-    QTest::addColumn<bool>("launchAtOnce");
-    QTest::newRow("launched at once") << true;
-    QTest::newRow("launched later") << false;
-}
-
-/// The table that the rows are of is not shown yet.
-void tst_MapSelection::takesPickedLineMaps()
-{
-    QFETCH(bool, launchAtOnce);
-    DialogFixture fixture("xy");
-    setStyle("PlotType", "", PlotType_Field2D);
-    runUntilIdle();
-    fixture.dialog().close();
-    setStyle("PlotType", "", PlotType_LineXY);
-    host::Document::instance().execute(
-        host::SetPicks {{{PickType_LineMap, 5}, {PickType_LineMap, 2}}});
-    ZoneStyleDialog& dialog = ZoneStyleDialog::getInstance(
-        fixture.mainWindow(), DialogInitialization_SelectPickedObjects);
-    if (launchAtOnce)
-        dialog.launch();
-    runUntilIdle();
-    dialog.launch();
-    QCOMPARE(fixture.selected(), "2,5");
-}
-
-void tst_MapSelection::scrollsToTheFirstMatch()
-{
-    DialogFixture fixture("field2d", 200);
-    for (const int zone : {103, 104, 105, 109})
+    /// The table that the rows are of is not shown yet.
+    void takesPickedLineMaps()
+    {
+        const auto [launchAtOnce] = currentRow<bool>();
+        DialogFixture fixture("xy");
+        setStyle("PlotType", "", PlotType_Field2D);
+        runUntilIdle();
+        fixture.dialog().close();
+        setStyle("PlotType", "", PlotType_LineXY);
         host::Document::instance().execute(
-            host::RenameZone {zone, "inlet " + std::to_string(zone)});
-    runUntilIdle();
-    QTest::keyClicks(&fixture.patternField(), "inlet*");
-    fixture.button(kApply).click();
-    QCOMPARE(fixture.selected(), "103-105,109");
-    QCOMPARE(fixture.table().selectionModel()->selection().size(), 2);
-    QCOMPARE(fixture.table().rowAt(0), 102);
-    fixture.button(kClear).click();
-    QCOMPARE(fixture.table().rowAt(0), 102);
-}
+            host::SetPicks {{{PickType_LineMap, 5}, {PickType_LineMap, 2}}});
+        ZoneStyleDialog& dialog = ZoneStyleDialog::getInstance(
+            fixture.mainWindow(), DialogInitialization_SelectPickedObjects);
+        if (launchAtOnce)
+            dialog.launch();
+        runUntilIdle();
+        dialog.launch();
+        QCOMPARE(fixture.selected(), "2,5");
+    }
 
-void tst_MapSelection::asksForAPatternOnlyWhenItMatters()
-{
-    DialogFixture fixture("field2d");
-    const auto canApply = [&fixture] {
-        QString buttons;
-        for (const char* name : {kApply, kGroups, kClear})
-            buttons += fixture.button(name).isEnabled() ? '+' : '-';
-        return buttons;
-    };
-    QCOMPARE(canApply(), "--+");
-    QTest::keyClicks(&fixture.patternField(), "zone 1*");
-    QCOMPARE(canApply(), "+++");
-    fixture.button(kGroups).click();
-    QCOMPARE(canApply(), "+-+"); // the names are another question
-    fixture.button(kApply).click();
-    QCOMPARE(canApply(), "-++");
-    setStyle("FieldMap.Group", "1", 2); // a refresh is nothing that the user did
-    runUntilIdle();
-    fixture.clickTab("Contour");
-    QCOMPARE(canApply(), "-++");
-    fixture.clickCell(2, 0);
-    QCOMPARE(canApply(), "+++");
-    fixture.button(kApply).click();
-    QCOMPARE(canApply(), "-++");
-    fixture.button(kClear).click();
-    QCOMPARE(canApply(), "--+");
-    fixture.clickTab("Mesh");
-}
+    void scrollsToTheFirstMatch()
+    {
+        DialogFixture fixture("field2d", 200);
+        for (const int zone : {103, 104, 105, 109})
+            host::Document::instance().execute(
+                host::RenameZone {zone, "inlet " + std::to_string(zone)});
+        runUntilIdle();
+        QTest::keyClicks(&fixture.patternField(), "inlet*");
+        fixture.button(kApply).click();
+        QCOMPARE(fixture.selected(), "103-105,109");
+        QCOMPARE(fixture.table().selectionModel()->selection().size(), 2);
+        QCOMPARE(fixture.table().rowAt(0), 102);
+        fixture.button(kClear).click();
+        QCOMPARE(fixture.table().rowAt(0), 102);
+    }
+
+    void asksForAPatternOnlyWhenItMatters()
+    {
+        DialogFixture fixture("field2d");
+        const auto canApply = [&fixture] {
+            QString buttons;
+            for (const char* name : {kApply, kGroups, kClear})
+                buttons += fixture.button(name).isEnabled() ? '+' : '-';
+            return buttons;
+        };
+        QCOMPARE(canApply(), "--+");
+        QTest::keyClicks(&fixture.patternField(), "zone 1*");
+        QCOMPARE(canApply(), "+++");
+        fixture.button(kGroups).click();
+        QCOMPARE(canApply(), "+-+"); // the names are another question
+        fixture.button(kApply).click();
+        QCOMPARE(canApply(), "-++");
+        setStyle("FieldMap.Group", "1", 2); // a refresh is nothing that the user did
+        runUntilIdle();
+        fixture.clickTab("Contour");
+        QCOMPARE(canApply(), "-++");
+        fixture.clickCell(2, 0);
+        QCOMPARE(canApply(), "+++");
+        fixture.button(kApply).click();
+        QCOMPARE(canApply(), "-++");
+        fixture.button(kClear).click();
+        QCOMPARE(canApply(), "--+");
+        fixture.clickTab("Mesh");
+    }
+};
 
 QTEST_MAIN(tst_MapSelection)
 #include "tst_map_selection.moc"

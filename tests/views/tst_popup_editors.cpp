@@ -2,6 +2,7 @@
 #include "tests/views/dialog_fixture.h"
 
 #include "sdk/common_ui/combo_box_auto_filter.h"
+#include "tests/support/rows.h"
 #include "zonestyle/views/combo_box_dialog.h"
 #include "zonestyle/views/dynamic_line_map_text_edit_dialog.h"
 #include "zonestyle/views/list_box_dialog.h"
@@ -30,184 +31,174 @@ class tst_PopupEditors : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void commitsOnce();
-    void closesWithoutAnEditWhenItsMapsChange();
-    void survivesRefreshesAndTheDialog();
-    void takesEntriesOfTheListOnly_data();
-    void takesEntriesOfTheListOnly();
-    void choosesFromTheOpenList();
-    void listBoxTakesAClick();
-    void insertsTokens();
+    void commitsOnce()
+    {
+        DialogFixture fixture("field2d");
+        fixture.select({1, 2});
+        takeWrites();
+        PopupResponder popups(PopupResponder::typeAndEnd("4", Qt::Key_Return));
+        popups.then(PopupResponder::end(kClickElsewhere));
+        fixture.rightClick(1, kGroup);
+        QCOMPARE(takeWrites(), "FieldMap.Group 1-2 = 4");
+        fixture.rightClick(1, kGroup); // only looked at: what it shows is committed
+        QCOMPARE(takeWrites(), "FieldMap.Group 1-2 = 4");
+    }
+
+    void closesWithoutAnEditWhenItsMapsChange()
+    {
+        DialogFixture fixture("field2d");
+        fixture.select({2, 11, 12});
+        PopupResponder popups([](QWidget& popup) {
+            popup.findChild<QLineEdit*>()->setText("6");
+            host::NumberSet last;
+            last.add(12);
+            host::Document::instance().execute(host::DeleteMaps {last});
+            QVERIFY(!popup.isVisible());
+        });
+        fixture.rightClick(2, kGroup);
+        QCOMPARE(styleValues("FieldMap.Group", 11), "1 1 1 1 1 1 1 1 1 1 1");
+    }
+
+    void survivesRefreshesAndTheDialog()
+    {
+        DialogFixture fixture("field2d");
+        setStyle("PlotType", "", PlotType_LineXY);
+        host::Document::instance().execute(host::CreateLineMaps {3});
+        runUntilIdle();
+        fixture.select({1, 2});
+        setStyle("PlotType", "", PlotType_Field2D);
+        runUntilIdle();
+        fixture.select({2});
+        takeWrites();
+        PopupResponder popups([](QWidget& popup) {
+            setStyle("PlotType", "", PlotType_LineXY); // another table, with rows selected
+            runUntilIdle();
+            PopupResponder::typeAndEnd("6", Qt::Key_Return)(popup);
+        });
+        popups.then([](QWidget&) { delete ZoneStyleDialog::m_dialogInstance; });
+        fixture.rightClick(2, kGroup);
+        QCOMPARE(takeWrites(), "");
+        setStyle("PlotType", "", PlotType_Field2D);
+        runUntilIdle();
+        QTest::mouseClick(fixture.table().viewport(), Qt::LeftButton, {},
+                          fixture.table().visualRect(fixture.model().index(1, kGroup)).center());
+        QContextMenuEvent event(
+            QContextMenuEvent::Mouse,
+            fixture.table().visualRect(fixture.model().index(1, kGroup)).center());
+        takeWrites();
+        QCoreApplication::sendEvent(fixture.table().viewport(), &event);
+        QVERIFY(!ZoneStyleDialog::m_dialogInstance);
+        QCOMPARE(popups.shown(), 2);
+        QCOMPARE(takeWrites(), "");
+    }
+
+    void takesEntriesOfTheListOnly_data()
+    {
+        const Rows<QString, int, QString> row;
+        row("whole entry", "3: Moment", Qt::Key_Return, "3 3");
+        row("part of an entry", "mom", Qt::Key_Return, "3 3");
+        row("part, click elsewhere", "mom", kClickElsewhere, "3 3");
+        row("no entry", "zzz", kClickElsewhere, "1 1");
+        row("Escape", "mom", Qt::Key_Escape, "1 1");
+    }
+
+    void takesEntriesOfTheListOnly()
+    {
+        const auto [typed, endKey, values] = currentRow<QString, int, QString>();
+        DialogFixture fixture("xy");
+        fixture.select({1, 2});
+        PopupResponder popups([&typed = typed, endKey = endKey](QWidget& popup) {
+            auto* list = popup.findChild<corvala::ui::ComboBoxAutoFilter*>();
+            list->setFilterWhileTyping(false); // the list of matches is a pop-up of its own
+            list->lineEdit()->selectAll();
+            QTest::keyClicks(list->lineEdit(), typed);
+            if (endKey == kClickElsewhere)
+                PopupResponder::end(endKey)(popup);
+            else
+                QTest::keyClick(list, static_cast<Qt::Key>(endKey));
+        });
+        fixture.rightClick(1, kXAxisVariable);
+        QVERIFY(popups.shown() >= 1);
+        QCOMPARE(styleValues("LineMap.Assign.XAxisVar", 2), values);
+    }
+
+    void choosesFromTheOpenList()
+    {
+        DialogFixture fixture("xy");
+        fixture.select({1, 3});
+        PopupResponder popups([](QWidget& popup) {
+            auto* box = popup.findChild<QComboBox*>();
+            box->showPopup();
+            runUntilIdle();
+            const QModelIndex entry = box->model()->index(4, 0);
+            const QPoint position = box->view()->visualRect(entry).center();
+            QTest::mouseMove(box->view()->viewport(), position);
+            QTest::mousePress(box->view()->viewport(), Qt::LeftButton, {}, position);
+            QTest::qWait(QApplication::doubleClickInterval()
+                         + 50); // the box ignores a first release
+            QTest::mouseRelease(box->view()->viewport(), Qt::LeftButton, {}, position);
+        });
+        popups.then([](QWidget&) {}); // the list itself
+        fixture.rightClick(1, kXAxisVariable);
+        QCOMPARE(styleValues("LineMap.Assign.XAxisVar", 3), "5 1 5");
+    }
+
+    void listBoxTakesAClick()
+    {
+        QWidget parent;
+        QStringList committed;
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        const auto open = [&](const QString& current) {
+            return new ListBoxDialog(
+                screen.bottomRight(), &parent, [&](const QString& text) { committed << text; },
+                {"one", "two", "three"}, current, 150);
+        };
+        PopupResponder popups([&screen](QWidget& popup) {
+            QVERIFY(screen.contains(popup.geometry()));
+            auto* list = popup.findChild<QListWidget*>("listBox");
+            QCOMPARE(list->currentItem()->text(), "two");
+            QCOMPARE(list->width(), 150);
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                              list->visualItemRect(list->item(2)).center());
+        });
+        popups.then(PopupResponder::end(Qt::Key_Escape)).then(PopupResponder::end(kClickElsewhere));
+        PopupDialogBase::run(open("two"));
+        QCOMPARE(committed, QStringList {"three"});
+        PopupDialogBase::run(open("two"));
+        PopupDialogBase::run(open("none of them"));
+        QCOMPARE(committed, QStringList {"three"});
+    }
+
+    void insertsTokens()
+    {
+        QWidget parent;
+        QString committed;
+        PopupResponder popups([](QWidget& popup) {
+            auto* field = popup.findChild<QLineEdit*>("lineEdit");
+            auto* tokens = popup.findChild<QListView*>("listView");
+            auto* insert = popup.findChild<QToolButton*>("insertToolButton");
+            QVERIFY(!insert->isEnabled());
+            QCOMPARE(tokens->model()->rowCount(), 9);
+            QVERIFY(tokens->viewport()->height() >= 9 * tokens->sizeHintForRow(0));
+            QTest::keyClick(field, Qt::Key_End);
+            QTest::keyClick(field, Qt::Key_Down);
+            QCOMPARE(popup.focusWidget(), tokens);
+            QTest::keyClick(tokens, Qt::Key_Space);
+            QTest::mouseClick(tokens->viewport(), Qt::LeftButton, {},
+                              tokens->visualRect(tokens->model()->index(6, 0)).center());
+            QTest::mouseClick(insert, Qt::LeftButton);
+            QTest::keyClick(field, Qt::Key_Home);
+            const QPoint axis = tokens->visualRect(tokens->model()->index(8, 0)).center();
+            QTest::mouseClick(tokens->viewport(), Qt::LeftButton, {}, axis);
+            QTest::mouseDClick(tokens->viewport(), Qt::LeftButton, {}, axis);
+            QTest::keyClick(tokens, Qt::Key_Space);
+            QTest::keyClick(field, Qt::Key_Return);
+        });
+        PopupDialogBase::run(new DynamicLineMapTextEditDialog(
+            {}, &parent, [&](const QString& text) { committed = text; }, "map ", 3));
+        QCOMPARE(committed, "&Y#&&Y#&map &ZN&&M#&");
+    }
 };
-
-void tst_PopupEditors::commitsOnce()
-{
-    DialogFixture fixture("field2d");
-    fixture.select({1, 2});
-    takeWrites();
-    PopupResponder popups(PopupResponder::typeAndEnd("4", Qt::Key_Return));
-    popups.then(PopupResponder::end(kClickElsewhere));
-    fixture.rightClick(1, kGroup);
-    QCOMPARE(takeWrites(), "FieldMap.Group 1-2 = 4");
-    fixture.rightClick(1, kGroup); // only looked at: what it shows is committed
-    QCOMPARE(takeWrites(), "FieldMap.Group 1-2 = 4");
-}
-
-void tst_PopupEditors::closesWithoutAnEditWhenItsMapsChange()
-{
-    DialogFixture fixture("field2d");
-    fixture.select({2, 11, 12});
-    PopupResponder popups([](QWidget& popup) {
-        popup.findChild<QLineEdit*>()->setText("6");
-        host::NumberSet last;
-        last.add(12);
-        host::Document::instance().execute(host::DeleteMaps {last});
-        QVERIFY(!popup.isVisible());
-    });
-    fixture.rightClick(2, kGroup);
-    QCOMPARE(styleValues("FieldMap.Group", 11), "1 1 1 1 1 1 1 1 1 1 1");
-}
-
-void tst_PopupEditors::survivesRefreshesAndTheDialog()
-{
-    DialogFixture fixture("field2d");
-    setStyle("PlotType", "", PlotType_LineXY);
-    host::Document::instance().execute(host::CreateLineMaps {3});
-    runUntilIdle();
-    fixture.select({1, 2});
-    setStyle("PlotType", "", PlotType_Field2D);
-    runUntilIdle();
-    fixture.select({2});
-    takeWrites();
-    PopupResponder popups([](QWidget& popup) {
-        setStyle("PlotType", "", PlotType_LineXY); // another table, with rows selected
-        runUntilIdle();
-        PopupResponder::typeAndEnd("6", Qt::Key_Return)(popup);
-    });
-    popups.then([](QWidget&) { delete ZoneStyleDialog::m_dialogInstance; });
-    fixture.rightClick(2, kGroup);
-    QCOMPARE(takeWrites(), "");
-    setStyle("PlotType", "", PlotType_Field2D);
-    runUntilIdle();
-    QTest::mouseClick(fixture.table().viewport(), Qt::LeftButton, {},
-                      fixture.table().visualRect(fixture.model().index(1, kGroup)).center());
-    QContextMenuEvent event(QContextMenuEvent::Mouse,
-                            fixture.table().visualRect(fixture.model().index(1, kGroup)).center());
-    takeWrites();
-    QCoreApplication::sendEvent(fixture.table().viewport(), &event);
-    QVERIFY(!ZoneStyleDialog::m_dialogInstance);
-    QCOMPARE(popups.shown(), 2);
-    QCOMPARE(takeWrites(), "");
-}
-
-void tst_PopupEditors::takesEntriesOfTheListOnly_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<int>("endKey");
-    QTest::addColumn<QString>("values");
-    QTest::newRow("whole entry") << "3: Moment" << int(Qt::Key_Return) << "3 3";
-    QTest::newRow("part of an entry") << "mom" << int(Qt::Key_Return) << "3 3";
-    QTest::newRow("part, click elsewhere") << "mom" << kClickElsewhere << "3 3";
-    QTest::newRow("no entry") << "zzz" << kClickElsewhere << "1 1";
-    QTest::newRow("Escape") << "mom" << int(Qt::Key_Escape) << "1 1";
-}
-
-void tst_PopupEditors::takesEntriesOfTheListOnly()
-{
-    QFETCH(QString, typed);
-    QFETCH(int, endKey);
-    DialogFixture fixture("xy");
-    fixture.select({1, 2});
-    PopupResponder popups([&](QWidget& popup) {
-        auto* list = popup.findChild<corvala::ui::ComboBoxAutoFilter*>();
-        list->setFilterWhileTyping(false); // the list of matches is a pop-up of its own
-        list->lineEdit()->selectAll();
-        QTest::keyClicks(list->lineEdit(), typed);
-        if (endKey == kClickElsewhere)
-            PopupResponder::end(endKey)(popup);
-        else
-            QTest::keyClick(list, static_cast<Qt::Key>(endKey));
-    });
-    fixture.rightClick(1, kXAxisVariable);
-    QVERIFY(popups.shown() >= 1);
-    QTEST(styleValues("LineMap.Assign.XAxisVar", 2), "values");
-}
-
-void tst_PopupEditors::choosesFromTheOpenList()
-{
-    DialogFixture fixture("xy");
-    fixture.select({1, 3});
-    PopupResponder popups([](QWidget& popup) {
-        auto* box = popup.findChild<QComboBox*>();
-        box->showPopup();
-        runUntilIdle();
-        const QModelIndex entry = box->model()->index(4, 0);
-        const QPoint position = box->view()->visualRect(entry).center();
-        QTest::mouseMove(box->view()->viewport(), position);
-        QTest::mousePress(box->view()->viewport(), Qt::LeftButton, {}, position);
-        QTest::qWait(QApplication::doubleClickInterval() + 50); // the box ignores a first release
-        QTest::mouseRelease(box->view()->viewport(), Qt::LeftButton, {}, position);
-    });
-    popups.then([](QWidget&) {}); // the list itself
-    fixture.rightClick(1, kXAxisVariable);
-    QCOMPARE(styleValues("LineMap.Assign.XAxisVar", 3), "5 1 5");
-}
-
-void tst_PopupEditors::listBoxTakesAClick()
-{
-    QWidget parent;
-    QStringList committed;
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    const auto open = [&](const QString& current) {
-        return new ListBoxDialog(
-            screen.bottomRight(), &parent, [&](const QString& text) { committed << text; },
-            {"one", "two", "three"}, current, 150);
-    };
-    PopupResponder popups([&screen](QWidget& popup) {
-        QVERIFY(screen.contains(popup.geometry()));
-        auto* list = popup.findChild<QListWidget*>("listBox");
-        QCOMPARE(list->currentItem()->text(), "two");
-        QCOMPARE(list->width(), 150);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                          list->visualItemRect(list->item(2)).center());
-    });
-    popups.then(PopupResponder::end(Qt::Key_Escape)).then(PopupResponder::end(kClickElsewhere));
-    PopupDialogBase::run(open("two"));
-    QCOMPARE(committed, QStringList {"three"});
-    PopupDialogBase::run(open("two"));
-    PopupDialogBase::run(open("none of them"));
-    QCOMPARE(committed, QStringList {"three"});
-}
-
-void tst_PopupEditors::insertsTokens()
-{
-    QWidget parent;
-    QString committed;
-    PopupResponder popups([](QWidget& popup) {
-        auto* field = popup.findChild<QLineEdit*>("lineEdit");
-        auto* tokens = popup.findChild<QListView*>("listView");
-        auto* insert = popup.findChild<QToolButton*>("insertToolButton");
-        QVERIFY(!insert->isEnabled());
-        QCOMPARE(tokens->model()->rowCount(), 9);
-        QVERIFY(tokens->viewport()->height() >= 9 * tokens->sizeHintForRow(0));
-        QTest::keyClick(field, Qt::Key_End);
-        QTest::keyClick(field, Qt::Key_Down);
-        QCOMPARE(popup.focusWidget(), tokens);
-        QTest::keyClick(tokens, Qt::Key_Space);
-        QTest::mouseClick(tokens->viewport(), Qt::LeftButton, {},
-                          tokens->visualRect(tokens->model()->index(6, 0)).center());
-        QTest::mouseClick(insert, Qt::LeftButton);
-        QTest::keyClick(field, Qt::Key_Home);
-        const QPoint axis = tokens->visualRect(tokens->model()->index(8, 0)).center();
-        QTest::mouseClick(tokens->viewport(), Qt::LeftButton, {}, axis);
-        QTest::mouseDClick(tokens->viewport(), Qt::LeftButton, {}, axis);
-        QTest::keyClick(tokens, Qt::Key_Space);
-        QTest::keyClick(field, Qt::Key_Return);
-    });
-    PopupDialogBase::run(new DynamicLineMapTextEditDialog(
-        {}, &parent, [&](const QString& text) { committed = text; }, "map ", 3));
-    QCOMPARE(committed, "&Y#&&Y#&map &ZN&&M#&");
-}
 
 QTEST_MAIN(tst_PopupEditors)
 #include "tst_popup_editors.moc"

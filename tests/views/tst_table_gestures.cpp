@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "tests/support/rows.h"
 #include "tests/views/dialog_fixture.h"
 #include "zonestyle/models/columns/column_kinds.h"
 #include "zonestyle/models/columns/described_model.h"
@@ -60,378 +61,336 @@ class tst_TableGestures : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void checkBoxSwitchesSelectedRows_data();
-    void checkBoxSwitchesSelectedRows();
-    void checkBoxNeedsPressAndReleaseOnIt();
-    void checkBoxIsMissingWhereTheModelSaysSo();
-    void editsOneCellInPlace_data();
-    void editsOneCellInPlace();
-    void menuOfAColumnWithoutEntriesDoesNotOpen();
-    void keysMoveTheCurrentCell_data();
-    void keysMoveTheCurrentCell();
-    void keysOpenTheMenuAtTheCurrentCell_data();
-    void keysOpenTheMenuAtTheCurrentCell();
-    void keysActOnTheSelection();
-    void tableIsOneTabStop();
-    void tabGoesThroughTheDialogInOrder();
-    void paintsTheSelection_data();
-    void paintsTheSelection();
-    void followsTheColorsOfTheDesktop();
-    void hasRoomForSixRows();
-    void showsCutTextsAsToolTips();
-};
-
-void tst_TableGestures::checkBoxSwitchesSelectedRows_data()
-{
-    QTest::addColumn<QList<int>>("selected");
-    QTest::addColumn<int>("clicked");
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<QString>("selectedAfter");
-    const auto row = [](const char* name, const QList<int>& selected, int clicked, int modifiers,
-                        const QString& shown, const QString& after) {
-        QTest::newRow(name) << selected << clicked << modifiers << shown << after;
-    };
-    // The mesh of map 3 is hidden at first.
-    row("all to the opposite of the clicked one", {2, 3, 5}, 2, 0, "1 0 0 1 0 1", "2-3,5");
-    row("the clicked one is off", {2, 3, 5}, 3, 0, "1 1 1 1 1 1", "2-3,5");
-    row("one row", {4}, 4, 0, "1 1 0 0 1 1", "4");
-    row("a row that is not selected", {1, 2}, 6, 0, "1 1 0 1 1 0", "6");
-    row("up to there", {4, 5}, 2, Qt::ShiftModifier, "1 0 0 0 0 1", "2-5");
-    row("one more row", {1, 2}, 6, Qt::ControlModifier, "0 0 0 1 1 0", "1-2,6");
-}
-
-void tst_TableGestures::checkBoxSwitchesSelectedRows()
-{
-    QFETCH(QList<int>, selected);
-    QFETCH(int, clicked);
-    QFETCH(int, modifiers);
-    DialogFixture fixture("field2d");
-    setStyle("FieldMap.Mesh.Show", "1-12", 1);
-    setStyle("FieldMap.Mesh.Show", "3", 0);
-    runUntilIdle();
-    fixture.select(selected);
-    takeWrites();
-    fixture.clickCheckBox(clicked, kShowMesh, Qt::KeyboardModifiers(modifiers));
-    QTEST(styleValues("FieldMap.Mesh.Show", 6), "shown");
-    QTEST(fixture.selected(), "selectedAfter");
-    QVERIFY(!takeWrites().contains(';')); // one write for all
-    QCOMPARE(fixture.table().currentIndex(), fixture.model().index(clicked - 1, kShowMesh));
-}
-
-void tst_TableGestures::checkBoxNeedsPressAndReleaseOnIt()
-{
-    DialogFixture fixture("field2d");
-    QWidget* viewport = fixture.table().viewport();
-    const auto center = [&fixture](int map, int column) {
-        return fixture.table().visualRect(fixture.model().index(map - 1, column)).center();
-    };
-    takeWrites();
-    QTest::mousePress(viewport, Qt::LeftButton, {}, center(2, kShowMesh));
-    QTest::mouseRelease(viewport, Qt::LeftButton, {}, center(3, kShowMesh));
-    QTest::mousePress(viewport, Qt::LeftButton, {}, center(2, kShowMesh));
-    QTest::mouseRelease(viewport, Qt::LeftButton, {}, center(2, kShowMesh) + QPoint(15, 0));
-    QTest::mousePress(viewport, Qt::LeftButton, {}, center(2, kShowZone));
-    QTest::mouseRelease(viewport, Qt::LeftButton, {}, center(2, kShowMesh));
-    QTest::mousePress(viewport, Qt::RightButton, {}, center(2, kShowMesh));
-    QTest::mouseRelease(viewport, Qt::RightButton, {}, center(2, kShowMesh));
-    fixture.clickCell(2, kShowMesh); // beside the box
-    QCOMPARE(takeWrites(), "");
-}
-
-void tst_TableGestures::checkBoxIsMissingWhereTheModelSaysSo()
-{
-    QVERIFY(openDemo("field2d", 3));
-    PartlyModel model(nullptr);
-    views::StyleTableView view;
-    view.setModel(&model, 0);
-    view.show();
-    const auto picture = [&](int row) {
-        const QRect cell = view.visualRect(model.index(row, 0));
-        return view.viewport()->grab(cell).toImage();
-    };
-    QImage empty = picture(1);
-    empty.fill(empty.pixel(0, 0));
-    QVERIFY(picture(1) != empty && picture(1) != picture(2)); // a text
-    takeWrites();
-    for (const int row : {1, 2}) {
-        view.setCurrentIndex(model.index(row, 0));
-        view.selectRow(row);
-        QTest::keyClick(&view, Qt::Key_Space);
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
-                          view.visualRect(model.index(row, 0)).center());
+    void checkBoxSwitchesSelectedRows_data()
+    {
+        const Rows<QList<int>, int, int, QString, QString> row;
+        // The mesh of map 3 is hidden at first.
+        row("all to the opposite of the clicked one", {2, 3, 5}, 2, 0, "1 0 0 1 0 1", "2-3,5");
+        row("the clicked one is off", {2, 3, 5}, 3, 0, "1 1 1 1 1 1", "2-3,5");
+        row("one row", {4}, 4, 0, "1 1 0 0 1 1", "4");
+        row("a row that is not selected", {1, 2}, 6, 0, "1 1 0 1 1 0", "6");
+        row("up to there", {4, 5}, 2, Qt::ShiftModifier, "1 0 0 0 0 1", "2-5");
+        row("one more row", {1, 2}, 6, Qt::ControlModifier, "0 0 0 1 1 0", "1-2,6");
     }
-    QCOMPARE(takeWrites(), "FieldMap.Mesh.Show 3 = false; FieldMap.Mesh.Show 3 = true");
-}
 
-void tst_TableGestures::editsOneCellInPlace_data()
-{
-    QTest::addColumn<int>("startKey"); // 0: by a double click
-    QTest::addColumn<int>("endKey");
-    QTest::addColumn<QString>("groups");
-    QTest::newRow("double click, Return") << 0 << int(Qt::Key_Return) << "1 1 5 1";
-    QTest::newRow("F2, Return") << int(Qt::Key_F2) << int(Qt::Key_Return) << "1 1 5 1";
-    QTest::newRow("Return, Enter") << int(Qt::Key_Return) << int(Qt::Key_Enter) << "1 1 5 1";
-    QTest::newRow("double click, Escape") << 0 << int(Qt::Key_Escape) << "1 1 1 1";
-    QTest::newRow("F2, Tab") << int(Qt::Key_F2) << int(Qt::Key_Tab) << "1 1 5 1";
-}
-
-void tst_TableGestures::editsOneCellInPlace()
-{
-    QFETCH(int, startKey);
-    QFETCH(int, endKey);
-    DialogFixture fixture("field2d");
-    fixture.select({2, 3});
-    if (startKey != 0) {
-        fixture.clickCell(3, kGroup, Qt::ShiftModifier);
-        fixture.key(startKey);
-    } else {
-        fixture.doubleClickCell(3, kGroup);
+    void checkBoxSwitchesSelectedRows()
+    {
+        const auto [selected, clicked, modifiers, shown, selectedAfter] =
+            currentRow<QList<int>, int, int, QString, QString>();
+        DialogFixture fixture("field2d");
+        setStyle("FieldMap.Mesh.Show", "1-12", 1);
+        setStyle("FieldMap.Mesh.Show", "3", 0);
+        runUntilIdle();
+        fixture.select(selected);
+        takeWrites();
+        fixture.clickCheckBox(clicked, kShowMesh, Qt::KeyboardModifiers(modifiers));
+        QCOMPARE(styleValues("FieldMap.Mesh.Show", 6), shown);
+        QCOMPARE(fixture.selected(), selectedAfter);
+        QVERIFY(!takeWrites().contains(';')); // one write for all
+        QCOMPARE(fixture.table().currentIndex(), fixture.model().index(clicked - 1, kShowMesh));
     }
-    QLineEdit* editor = openEditor(fixture);
-    QVERIFY(editor);
-    QCOMPARE(editor->text(), "1"); // though the cell has no value of its own for editing
-    QCOMPARE(fixture.selected(), "3");
-    QTest::keyClicks(editor, "5"); // in place of it
-    QTest::keyClick(editor, static_cast<Qt::Key>(endKey));
-    runUntilIdle();
-    QTEST(styleValues("FieldMap.Group", 4), "groups");
-    QVERIFY(fixture.dialog().isVisible());
-}
 
-void tst_TableGestures::menuOfAColumnWithoutEntriesDoesNotOpen()
-{
-    DialogFixture fixture("field2d");
-    PopupResponder popups(PopupResponder::chooseEntry(""));
-    fixture.rightClick(2, kNumber);
-    fixture.rightClick(2, kName);
-    const QPoint below(5, fixture.table().viewport()->height() - 3);
-    QTest::mouseClick(fixture.dialog().windowHandle(), Qt::RightButton, {},
-                      fixture.table().viewport()->mapTo(&fixture.dialog(), below));
-    QCOMPARE(popups.shown(), 0);
-}
-
-void tst_TableGestures::keysMoveTheCurrentCell_data()
-{
-    QTest::addColumn<QPoint>("from"); // column and map
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<QPoint>("to");
-    const auto row = [](const char* name, QPoint from, int key, int modifiers, QPoint to) {
-        QTest::newRow(name) << from << key << modifiers << to;
-    };
-    row("right", {3, 2}, Qt::Key_Right, 0, {4, 2});
-    row("left at the edge", {0, 2}, Qt::Key_Left, 0, {0, 2});
-    row("right at the edge", {9, 2}, Qt::Key_Right, 0, {9, 2});
-    row("up at the edge", {3, 1}, Qt::Key_Up, 0, {3, 1});
-    row("down at the edge", {3, 12}, Qt::Key_Down, 0, {3, 12});
-    row("home", {3, 5}, Qt::Key_Home, 0, {0, 5});
-    row("end", {3, 5}, Qt::Key_End, 0, {9, 5});
-    row("last cell", {3, 5}, Qt::Key_End, Qt::ControlModifier, {9, 12});
-    row("first cell", {3, 5}, Qt::Key_Home, Qt::ControlModifier, {0, 1});
-}
-
-void tst_TableGestures::keysMoveTheCurrentCell()
-{
-    QFETCH(QPoint, from);
-    QFETCH(int, key);
-    QFETCH(int, modifiers);
-    QFETCH(QPoint, to);
-    DialogFixture fixture("field2d");
-    fixture.clickCell(from.y(), from.x());
-    fixture.key(key, Qt::KeyboardModifiers(modifiers));
-    const QModelIndex current = fixture.table().currentIndex();
-    QCOMPARE(QPoint(current.column(), current.row() + 1), to);
-}
-
-void tst_TableGestures::keysOpenTheMenuAtTheCurrentCell_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("modifiers");
-    QTest::newRow("Menu") << int(Qt::Key_Menu) << 0;
-    QTest::newRow("Shift+F10") << int(Qt::Key_F10) << int(Qt::ShiftModifier);
-    QTest::newRow("Alt+Down") << int(Qt::Key_Down) << int(Qt::AltModifier);
-    QTest::newRow("Return") << int(Qt::Key_Return) << 0; // not editable in place
-}
-
-void tst_TableGestures::keysOpenTheMenuAtTheCurrentCell()
-{
-    QFETCH(int, key);
-    QFETCH(int, modifiers);
-    DialogFixture fixture("field2d", 200);
-    fixture.select({1, 150});
-    fixture.table().selectionModel()->setCurrentIndex(fixture.model().index(149, kMeshType),
-                                                      QItemSelectionModel::NoUpdate);
-    fixture.table().scrollToTop();
-    QPoint position;
-    PopupResponder menus([&position](QWidget& menu) {
-        position = menu.pos();
-        QTest::keyClick(&menu, Qt::Key_Down);
-        QTest::keyClick(&menu, Qt::Key_Return);
-    });
-    fixture.key(key, Qt::KeyboardModifiers(modifiers));
-    QCOMPARE(menus.shown(), 1);
-    const QRect cell = fixture.table().visualRect(fixture.table().currentIndex());
-    QVERIFY(fixture.table().viewport()->rect().contains(cell));
-    QVERIFY(cell.contains(fixture.table().viewport()->mapFromGlobal(position)));
-    QCOMPARE(styleValue("FieldMap.Mesh.MeshType", 1), 0);
-    QCOMPARE(styleValue("FieldMap.Mesh.MeshType", 150), 0);
-    QVERIFY(styleValue("FieldMap.Mesh.MeshType", 2) != 0);
-    fixture.table().selectionModel()->setCurrentIndex(fixture.model().index(149, kNumber),
-                                                      QItemSelectionModel::NoUpdate);
-    fixture.key(key, Qt::KeyboardModifiers(modifiers));
-    QCOMPARE(menus.shown(), 1);
-    QVERIFY(fixture.dialog().isVisible());
-}
-
-void tst_TableGestures::keysActOnTheSelection()
-{
-    DialogFixture fixture("field2d");
-    setStyle("FieldMap.Mesh.Show", "1-12", 1);
-    runUntilIdle();
-    fixture.select({2, 4});
-    fixture.clickCell(4, kShowMesh, Qt::ControlModifier);
-    fixture.clickCell(4, kShowMesh, Qt::ControlModifier);
-    QCOMPARE(fixture.selected(), "2,4");
-    fixture.key(Qt::Key_Space);
-    QCOMPARE(styleValues("FieldMap.Mesh.Show", 5), "1 0 1 0 1");
-    fixture.key(Qt::Key_Space);
-    QCOMPARE(styleValues("FieldMap.Mesh.Show", 5), "1 1 1 1 1");
-    fixture.key(Qt::Key_Space, Qt::ControlModifier); // the row, not the box
-    QCOMPARE(fixture.selected(), "2");
-    fixture.key(Qt::Key_Space, Qt::ControlModifier);
-    QCOMPARE(fixture.selected(), "2,4");
-    QCOMPARE(styleValues("FieldMap.Mesh.Show", 5), "1 1 1 1 1");
-    fixture.key(Qt::Key_A, Qt::ControlModifier);
-    QCOMPARE(fixture.selected(), "all");
-    fixture.key(Qt::Key_Down);
-    fixture.key(Qt::Key_Down, Qt::ShiftModifier);
-    QCOMPARE(fixture.selected(), "5-6");
-}
-
-void tst_TableGestures::tableIsOneTabStop()
-{
-    DialogFixture fixture("field2d");
-    fixture.clickCell(2, kGroup);
-    fixture.table().setFocus();
-    QTest::keyClick(&fixture.table(), Qt::Key_Tab);
-    QVERIFY(!fixture.table().hasFocus());
-    QVERIFY(fixture.dialog().isAncestorOf(fixture.dialog().focusWidget()));
-    QCOMPARE(fixture.table().currentIndex(), fixture.model().index(1, kGroup));
-}
-
-void tst_TableGestures::tabGoesThroughTheDialogInOrder()
-{
-    DialogFixture fixture("field2d");
-    host::Document::instance().execute(host::CreateLineMaps {3});
-    runUntilIdle();
-    const auto stops = [&fixture] {
-        fixture.select({1}); // enables the buttons of the pattern
-        QStringList texts;
-        QWidget* const first = fixture.tabWidget().tabBar();
-        QWidget* stop = first;
-        stop->setFocus();
-        do {
-            const auto* button = qobject_cast<QAbstractButton*>(stop);
-            texts << (button ? button->text().remove('&') : stop->accessibleName());
-            QTest::keyClick(stop, Qt::Key_Tab);
-            stop = fixture.dialog().focusWidget();
-        } while (stop != first && texts.size() < 20);
-        return texts.join('|');
-    };
-    const QString field = "|Style table|Selection criteria|Zones|Groups|Clear|Close";
-    const QString line = "|Style table|Selection criteria|Select|Clear|Create Map...|Copy Map|"
-                         "Delete Map|To Top|To Bottom|Close";
-    QCOMPARE(stops(), field);
-    setStyle("PlotType", "", PlotType_LineXY);
-    runUntilIdle();
-    QCOMPARE(stops(), line);
-    fixture.clickTab("Lines");
-    QCOMPARE(stops(), line);
-    setStyle("PlotType", "", PlotType_Field3D);
-    runUntilIdle();
-    QCOMPARE(stops(), field);
-}
-
-void tst_TableGestures::paintsTheSelection_data()
-{
-    QTest::addColumn<QList<QRect>>("ranges"); // of columns and rows
-    QTest::newRow("whole rows") << QList<QRect> {{0, 1, 10, 2}, {0, 5, 10, 1}};
-    QTest::newRow("single cells") << QList<QRect> {{2, 1, 1, 2}, {0, 5, 10, 1}};
-    QTest::newRow("none") << QList<QRect> {};
-}
-
-void tst_TableGestures::paintsTheSelection()
-{
-    QFETCH(QList<QRect>, ranges);
-    DialogFixture fixture("field2d");
-    QItemSelectionModel& selection = *fixture.table().selectionModel();
-    fixture.key(Qt::Key_A, Qt::ControlModifier); // painted before, and outdated
-    fixture.table().viewport()->grab();
-    selection.clearSelection();
-    for (const QRect& range : ranges) {
-        selection.select({fixture.model().index(range.top(), range.left()),
-                          fixture.model().index(range.bottom(), range.right())},
-                         QItemSelectionModel::Select);
+    void checkBoxNeedsPressAndReleaseOnIt()
+    {
+        DialogFixture fixture("field2d");
+        QWidget* viewport = fixture.table().viewport();
+        const auto center = [&fixture](int map, int column) {
+            return fixture.table().visualRect(fixture.model().index(map - 1, column)).center();
+        };
+        takeWrites();
+        QTest::mousePress(viewport, Qt::LeftButton, {}, center(2, kShowMesh));
+        QTest::mouseRelease(viewport, Qt::LeftButton, {}, center(3, kShowMesh));
+        QTest::mousePress(viewport, Qt::LeftButton, {}, center(2, kShowMesh));
+        QTest::mouseRelease(viewport, Qt::LeftButton, {}, center(2, kShowMesh) + QPoint(15, 0));
+        QTest::mousePress(viewport, Qt::LeftButton, {}, center(2, kShowZone));
+        QTest::mouseRelease(viewport, Qt::LeftButton, {}, center(2, kShowMesh));
+        QTest::mousePress(viewport, Qt::RightButton, {}, center(2, kShowMesh));
+        QTest::mouseRelease(viewport, Qt::RightButton, {}, center(2, kShowMesh));
+        fixture.clickCell(2, kShowMesh); // beside the box
+        QCOMPARE(takeWrites(), "");
     }
-    const QImage picture = fixture.table().viewport()->grab().toImage();
-    const auto background = [&](int row, int column) {
-        const QRect cell = fixture.table().visualRect(fixture.model().index(row, column));
-        return picture.pixelColor(cell.bottomRight() - QPoint(2, 2));
-    };
-    const QColor plain = fixture.table().palette().color(QPalette::Base);
-    for (int row = 0; row < 8; ++row) {
-        for (const int column : {kNumber, kGroup, kShowMesh, kMeshType}) {
-            const bool isSelected = selection.isSelected(fixture.model().index(row, column));
-            QCOMPARE(background(row, column) != plain, isSelected);
+
+    void checkBoxIsMissingWhereTheModelSaysSo()
+    {
+        QVERIFY(openDemo("field2d", 3));
+        PartlyModel model(nullptr);
+        views::StyleTableView view;
+        view.setModel(&model, 0);
+        view.show();
+        const auto picture = [&](int row) {
+            const QRect cell = view.visualRect(model.index(row, 0));
+            return view.viewport()->grab(cell).toImage();
+        };
+        QImage empty = picture(1);
+        empty.fill(empty.pixel(0, 0));
+        QVERIFY(picture(1) != empty && picture(1) != picture(2)); // a text
+        takeWrites();
+        for (const int row : {1, 2}) {
+            view.setCurrentIndex(model.index(row, 0));
+            view.selectRow(row);
+            QTest::keyClick(&view, Qt::Key_Space);
+            QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
+                              view.visualRect(model.index(row, 0)).center());
+        }
+        QCOMPARE(takeWrites(), "FieldMap.Mesh.Show 3 = false; FieldMap.Mesh.Show 3 = true");
+    }
+
+    void editsOneCellInPlace_data()
+    {
+        const Rows<int, int, QString> row; // startKey (0: by a double click), endKey, groups
+        row("double click, Return", 0, Qt::Key_Return, "1 1 5 1");
+        row("F2, Return", Qt::Key_F2, Qt::Key_Return, "1 1 5 1");
+        row("Return, Enter", Qt::Key_Return, Qt::Key_Enter, "1 1 5 1");
+        row("double click, Escape", 0, Qt::Key_Escape, "1 1 1 1");
+        row("F2, Tab", Qt::Key_F2, Qt::Key_Tab, "1 1 5 1");
+    }
+
+    void editsOneCellInPlace()
+    {
+        const auto [startKey, endKey, groups] = currentRow<int, int, QString>();
+        DialogFixture fixture("field2d");
+        fixture.select({2, 3});
+        if (startKey != 0) {
+            fixture.clickCell(3, kGroup, Qt::ShiftModifier);
+            fixture.key(startKey);
+        } else {
+            fixture.doubleClickCell(3, kGroup);
+        }
+        QLineEdit* editor = openEditor(fixture);
+        QVERIFY(editor);
+        QCOMPARE(editor->text(), "1"); // though the cell has no value of its own for editing
+        QCOMPARE(fixture.selected(), "3");
+        QTest::keyClicks(editor, "5"); // in place of it
+        QTest::keyClick(editor, static_cast<Qt::Key>(endKey));
+        runUntilIdle();
+        QCOMPARE(styleValues("FieldMap.Group", 4), groups);
+        QVERIFY(fixture.dialog().isVisible());
+    }
+
+    void menuOfAColumnWithoutEntriesDoesNotOpen()
+    {
+        DialogFixture fixture("field2d");
+        PopupResponder popups(PopupResponder::chooseEntry(""));
+        fixture.rightClick(2, kNumber);
+        fixture.rightClick(2, kName);
+        const QPoint below(5, fixture.table().viewport()->height() - 3);
+        QTest::mouseClick(fixture.dialog().windowHandle(), Qt::RightButton, {},
+                          fixture.table().viewport()->mapTo(&fixture.dialog(), below));
+        QCOMPARE(popups.shown(), 0);
+    }
+
+    void keysMoveTheCurrentCell_data()
+    {
+        const Rows<QPoint, int, int, QPoint> row; // from (column and map), key, modifiers, to
+        row("right", {3, 2}, Qt::Key_Right, 0, {4, 2});
+        row("left at the edge", {0, 2}, Qt::Key_Left, 0, {0, 2});
+        row("right at the edge", {9, 2}, Qt::Key_Right, 0, {9, 2});
+        row("up at the edge", {3, 1}, Qt::Key_Up, 0, {3, 1});
+        row("down at the edge", {3, 12}, Qt::Key_Down, 0, {3, 12});
+        row("home", {3, 5}, Qt::Key_Home, 0, {0, 5});
+        row("end", {3, 5}, Qt::Key_End, 0, {9, 5});
+        row("last cell", {3, 5}, Qt::Key_End, Qt::ControlModifier, {9, 12});
+        row("first cell", {3, 5}, Qt::Key_Home, Qt::ControlModifier, {0, 1});
+    }
+
+    void keysMoveTheCurrentCell()
+    {
+        const auto [from, key, modifiers, to] = currentRow<QPoint, int, int, QPoint>();
+        DialogFixture fixture("field2d");
+        fixture.clickCell(from.y(), from.x());
+        fixture.key(key, Qt::KeyboardModifiers(modifiers));
+        const QModelIndex current = fixture.table().currentIndex();
+        QCOMPARE(QPoint(current.column(), current.row() + 1), to);
+    }
+
+    void keysOpenTheMenuAtTheCurrentCell_data()
+    {
+        const Rows<int, int> row;
+        row("Menu", Qt::Key_Menu, 0);
+        row("Shift+F10", Qt::Key_F10, Qt::ShiftModifier);
+        row("Alt+Down", Qt::Key_Down, Qt::AltModifier);
+        row("Return", Qt::Key_Return, 0); // not editable in place
+    }
+
+    void keysOpenTheMenuAtTheCurrentCell()
+    {
+        const auto [key, modifiers] = currentRow<int, int>();
+        DialogFixture fixture("field2d", 200);
+        fixture.select({1, 150});
+        fixture.table().selectionModel()->setCurrentIndex(fixture.model().index(149, kMeshType),
+                                                          QItemSelectionModel::NoUpdate);
+        fixture.table().scrollToTop();
+        QPoint position;
+        PopupResponder menus([&position](QWidget& menu) {
+            position = menu.pos();
+            QTest::keyClick(&menu, Qt::Key_Down);
+            QTest::keyClick(&menu, Qt::Key_Return);
+        });
+        fixture.key(key, Qt::KeyboardModifiers(modifiers));
+        QCOMPARE(menus.shown(), 1);
+        const QRect cell = fixture.table().visualRect(fixture.table().currentIndex());
+        QVERIFY(fixture.table().viewport()->rect().contains(cell));
+        QVERIFY(cell.contains(fixture.table().viewport()->mapFromGlobal(position)));
+        QCOMPARE(styleValue("FieldMap.Mesh.MeshType", 1), 0);
+        QCOMPARE(styleValue("FieldMap.Mesh.MeshType", 150), 0);
+        QVERIFY(styleValue("FieldMap.Mesh.MeshType", 2) != 0);
+        fixture.table().selectionModel()->setCurrentIndex(fixture.model().index(149, kNumber),
+                                                          QItemSelectionModel::NoUpdate);
+        fixture.key(key, Qt::KeyboardModifiers(modifiers));
+        QCOMPARE(menus.shown(), 1);
+        QVERIFY(fixture.dialog().isVisible());
+    }
+
+    void keysActOnTheSelection()
+    {
+        DialogFixture fixture("field2d");
+        setStyle("FieldMap.Mesh.Show", "1-12", 1);
+        runUntilIdle();
+        fixture.select({2, 4});
+        fixture.clickCell(4, kShowMesh, Qt::ControlModifier);
+        fixture.clickCell(4, kShowMesh, Qt::ControlModifier);
+        QCOMPARE(fixture.selected(), "2,4");
+        fixture.key(Qt::Key_Space);
+        QCOMPARE(styleValues("FieldMap.Mesh.Show", 5), "1 0 1 0 1");
+        fixture.key(Qt::Key_Space);
+        QCOMPARE(styleValues("FieldMap.Mesh.Show", 5), "1 1 1 1 1");
+        fixture.key(Qt::Key_Space, Qt::ControlModifier); // the row, not the box
+        QCOMPARE(fixture.selected(), "2");
+        fixture.key(Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(fixture.selected(), "2,4");
+        QCOMPARE(styleValues("FieldMap.Mesh.Show", 5), "1 1 1 1 1");
+        fixture.key(Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(fixture.selected(), "all");
+        fixture.key(Qt::Key_Down);
+        fixture.key(Qt::Key_Down, Qt::ShiftModifier);
+        QCOMPARE(fixture.selected(), "5-6");
+    }
+
+    void tableIsOneTabStop()
+    {
+        DialogFixture fixture("field2d");
+        fixture.clickCell(2, kGroup);
+        fixture.table().setFocus();
+        QTest::keyClick(&fixture.table(), Qt::Key_Tab);
+        QVERIFY(!fixture.table().hasFocus());
+        QVERIFY(fixture.dialog().isAncestorOf(fixture.dialog().focusWidget()));
+        QCOMPARE(fixture.table().currentIndex(), fixture.model().index(1, kGroup));
+    }
+
+    void tabGoesThroughTheDialogInOrder()
+    {
+        DialogFixture fixture("field2d");
+        host::Document::instance().execute(host::CreateLineMaps {3});
+        runUntilIdle();
+        const auto stops = [&fixture] {
+            fixture.select({1}); // enables the buttons of the pattern
+            QStringList texts;
+            QWidget* const first = fixture.tabWidget().tabBar();
+            QWidget* stop = first;
+            stop->setFocus();
+            do {
+                const auto* button = qobject_cast<QAbstractButton*>(stop);
+                texts << (button ? button->text().remove('&') : stop->accessibleName());
+                QTest::keyClick(stop, Qt::Key_Tab);
+                stop = fixture.dialog().focusWidget();
+            } while (stop != first && texts.size() < 20);
+            return texts.join('|');
+        };
+        const QString field = "|Style table|Selection criteria|Zones|Groups|Clear|Close";
+        const QString line = "|Style table|Selection criteria|Select|Clear|Create Map...|Copy Map|"
+                             "Delete Map|To Top|To Bottom|Close";
+        QCOMPARE(stops(), field);
+        setStyle("PlotType", "", PlotType_LineXY);
+        runUntilIdle();
+        QCOMPARE(stops(), line);
+        fixture.clickTab("Lines");
+        QCOMPARE(stops(), line);
+        setStyle("PlotType", "", PlotType_Field3D);
+        runUntilIdle();
+        QCOMPARE(stops(), field);
+    }
+
+    void paintsTheSelection_data()
+    {
+        const Rows<QList<QRect>> row; // ranges (of columns and rows)
+        row("whole rows", {{0, 1, 10, 2}, {0, 5, 10, 1}});
+        row("single cells", {{2, 1, 1, 2}, {0, 5, 10, 1}});
+        row("none", {});
+    }
+
+    void paintsTheSelection()
+    {
+        const auto [ranges] = currentRow<QList<QRect>>();
+        DialogFixture fixture("field2d");
+        QItemSelectionModel& selection = *fixture.table().selectionModel();
+        fixture.key(Qt::Key_A, Qt::ControlModifier); // painted before, and outdated
+        fixture.table().viewport()->grab();
+        selection.clearSelection();
+        for (const QRect& range : ranges) {
+            selection.select({fixture.model().index(range.top(), range.left()),
+                              fixture.model().index(range.bottom(), range.right())},
+                             QItemSelectionModel::Select);
+        }
+        const QImage picture = fixture.table().viewport()->grab().toImage();
+        const auto background = [&](int row, int column) {
+            const QRect cell = fixture.table().visualRect(fixture.model().index(row, column));
+            return picture.pixelColor(cell.bottomRight() - QPoint(2, 2));
+        };
+        const QColor plain = fixture.table().palette().color(QPalette::Base);
+        for (int row = 0; row < 8; ++row) {
+            for (const int column : {kNumber, kGroup, kShowMesh, kMeshType}) {
+                const bool isSelected = selection.isSelected(fixture.model().index(row, column));
+                QCOMPARE(background(row, column) != plain, isSelected);
+            }
         }
     }
-}
 
-void tst_TableGestures::followsTheColorsOfTheDesktop()
-{
-    DialogFixture fixture("field2d");
-    const QPalette before = QApplication::palette();
-    QPalette dark = before;
-    dark.setColor(QPalette::Base, Qt::black);
-    dark.setColor(QPalette::Text, Qt::white);
-    dark.setColor(QPalette::Highlight, Qt::blue);
-    QApplication::setPalette(dark);
-    const QPalette colors = fixture.table().palette();
-    QApplication::setPalette(before);
-    QCOMPARE(colors.color(QPalette::Text), QColor(Qt::white));
-    QCOMPARE(colors.color(QPalette::HighlightedText), QColor(Qt::white));
-    QVERIFY(qGray(colors.color(QPalette::Highlight).rgb()) < 64);
-    QVERIFY(fixture.table().palette().color(QPalette::Text) != QColor(Qt::white));
-}
+    void followsTheColorsOfTheDesktop()
+    {
+        DialogFixture fixture("field2d");
+        const QPalette before = QApplication::palette();
+        QPalette dark = before;
+        dark.setColor(QPalette::Base, Qt::black);
+        dark.setColor(QPalette::Text, Qt::white);
+        dark.setColor(QPalette::Highlight, Qt::blue);
+        QApplication::setPalette(dark);
+        const QPalette colors = fixture.table().palette();
+        QApplication::setPalette(before);
+        QCOMPARE(colors.color(QPalette::Text), QColor(Qt::white));
+        QCOMPARE(colors.color(QPalette::HighlightedText), QColor(Qt::white));
+        QVERIFY(qGray(colors.color(QPalette::Highlight).rgb()) < 64);
+        QVERIFY(fixture.table().palette().color(QPalette::Text) != QColor(Qt::white));
+    }
 
-void tst_TableGestures::hasRoomForSixRows()
-{
-    DialogFixture fixture("field2d");
-    const int rowHeight = fixture.table().rowHeight(0);
-    const int rowWithGrid = rowHeight + 1;
-    QCOMPARE(fixture.table().minimumSizeHint(), QSize(1, 6 * rowWithGrid + 34));
-    QCOMPARE(fixture.table().rowHeight(11), rowHeight);
-    StyleTableView empty;
-    QCOMPARE(empty.minimumSizeHint(), QSize(1, 34));
-}
+    void hasRoomForSixRows()
+    {
+        DialogFixture fixture("field2d");
+        const int rowHeight = fixture.table().rowHeight(0);
+        const int rowWithGrid = rowHeight + 1;
+        QCOMPARE(fixture.table().minimumSizeHint(), QSize(1, 6 * rowWithGrid + 34));
+        QCOMPARE(fixture.table().rowHeight(11), rowHeight);
+        StyleTableView empty;
+        QCOMPARE(empty.minimumSizeHint(), QSize(1, 34));
+    }
 
-void tst_TableGestures::showsCutTextsAsToolTips()
-{
-    DialogFixture fixture("field2d");
-    const QString name = "<b>inlet</b>/" + QString(60, 'x');
-    QVERIFY(host::Document::instance().execute(host::RenameZone {2, name.toStdString()}).isDone());
-    runUntilIdle();
-    const auto toolTip = [&fixture](int map) {
-        const QPoint cell =
-            fixture.table().visualRect(fixture.model().index(map - 1, kName)).center();
-        QHelpEvent event(QEvent::ToolTip, cell, fixture.table().viewport()->mapToGlobal(cell));
-        QCoreApplication::sendEvent(fixture.table().viewport(), &event);
-        return QToolTip::text();
-    };
-    QCOMPARE(toolTip(1), QString());
-    QVERIFY2(toolTip(2).contains(name.toHtmlEscaped()), qPrintable(toolTip(2)));
-}
+    void showsCutTextsAsToolTips()
+    {
+        DialogFixture fixture("field2d");
+        const QString name = "<b>inlet</b>/" + QString(60, 'x');
+        QVERIFY(
+            host::Document::instance().execute(host::RenameZone {2, name.toStdString()}).isDone());
+        runUntilIdle();
+        const auto toolTip = [&fixture](int map) {
+            const QPoint cell =
+                fixture.table().visualRect(fixture.model().index(map - 1, kName)).center();
+            QHelpEvent event(QEvent::ToolTip, cell, fixture.table().viewport()->mapToGlobal(cell));
+            QCoreApplication::sendEvent(fixture.table().viewport(), &event);
+            return QToolTip::text();
+        };
+        QCOMPARE(toolTip(1), QString());
+        QVERIFY2(toolTip(2).contains(name.toHtmlEscaped()), qPrintable(toolTip(2)));
+    }
+};
 
 QTEST_MAIN(tst_TableGestures)
 #include "tst_table_gestures.moc"
