@@ -201,7 +201,8 @@ static void action(ScriptRun& run, const Arguments& arguments)
 {
     const int column = run.dialog().column(arguments.at("column"));
     const host::NumberSet maps = arguments.numbers("action", run.dialog().model().rowCount());
-    QItemSelectionModel selection(&run.dialog().model());
+    QItemSelectionModel selection; // no child of the model, which may go while a prompt is open
+    selection.setModel(&run.dialog().model());
     selection.select(rowsOf(run.dialog(), maps), QItemSelectionModel::Select);
     const QList<QAction*> actions = run.dialog().actions(selection, column);
     QObject owner;

@@ -28,17 +28,6 @@ void raise(int code, const std::vector<std::string>& parameters = {})
 
 } // namespace
 
-static void takeAwayWhatIsShown(const QString& how)
-{
-    host::Document& document = host::Document::instance();
-    if (how == "data")
-        QVERIFY(document.execute(host::DetachData {}).isDone());
-    else if (how == "frame")
-        QVERIFY(document.execute(host::DeleteFrame {}).isDone());
-    else
-        QVERIFY(setStyle("PlotType", "", PlotType_Annotation));
-}
-
 class tst_DialogRefresh : public QObject
 {
     Q_OBJECT
@@ -98,7 +87,7 @@ private Q_SLOTS:
     {
         DialogFixture fixture("field2d");
         raise(StateCode_ZoneRenamed);
-        takeAwayWhatIsShown("data");
+        host::Document::instance().execute(host::DetachData {});
         QVERIFY(fixture.dialog().isVisible());
         runUntilIdle();
         QVERIFY(!fixture.dialog().isVisible());
@@ -175,24 +164,6 @@ private Q_SLOTS:
         runUntilIdle();
         QCOMPARE(styleValues("FieldMap.Group", 4), "4 7 4 4");
         QVERIFY(fixture.dialog().isVisible());
-    }
-
-    void survivesAnEditorWhoseRowIsGone()
-    {
-        DialogFixture fixture("field2d");
-        fixture.doubleClickCell(12, kGroup);
-        auto* editor = fixture.table().viewport()->findChild<QLineEdit*>();
-        QVERIFY(editor);
-        QTest::keyClicks(editor, "7");
-        host::NumberSet last;
-        last.add(12);
-        QVERIFY(host::Document::instance().execute(host::DeleteMaps {last}).isDone());
-        runUntilIdle();
-        takeWrites();
-        if (fixture.table().viewport()->findChild<QLineEdit*>() == editor)
-            QTest::keyClick(editor, Qt::Key_Return);
-        runUntilIdle();
-        QCOMPARE(takeWrites(), "");
     }
 
     void keepsTheCurrentCellAndTheScrollPosition()

@@ -44,54 +44,6 @@ private Q_SLOTS:
         QCOMPARE(takeWrites(), "FieldMap.Group 1-2 = 4");
     }
 
-    void closesWithoutAnEditWhenItsMapsChange()
-    {
-        DialogFixture fixture("field2d");
-        fixture.select({2, 11, 12});
-        PopupResponder popups([](QWidget& popup) {
-            popup.findChild<QLineEdit*>()->setText("6");
-            host::NumberSet last;
-            last.add(12);
-            host::Document::instance().execute(host::DeleteMaps {last});
-            QVERIFY(!popup.isVisible());
-        });
-        fixture.rightClick(2, kGroup);
-        QCOMPARE(styleValues("FieldMap.Group", 11), "1 1 1 1 1 1 1 1 1 1 1");
-    }
-
-    void survivesRefreshesAndTheDialog()
-    {
-        DialogFixture fixture("field2d");
-        setStyle("PlotType", "", PlotType_LineXY);
-        host::Document::instance().execute(host::CreateLineMaps {3});
-        runUntilIdle();
-        fixture.select({1, 2});
-        setStyle("PlotType", "", PlotType_Field2D);
-        runUntilIdle();
-        fixture.select({2});
-        takeWrites();
-        PopupResponder popups([](QWidget& popup) {
-            setStyle("PlotType", "", PlotType_LineXY); // another table, with rows selected
-            runUntilIdle();
-            PopupResponder::typeAndEnd("6", Qt::Key_Return)(popup);
-        });
-        popups.then([](QWidget&) { delete ZoneStyleDialog::m_dialogInstance; });
-        fixture.rightClick(2, kGroup);
-        QCOMPARE(takeWrites(), "");
-        setStyle("PlotType", "", PlotType_Field2D);
-        runUntilIdle();
-        QTest::mouseClick(fixture.table().viewport(), Qt::LeftButton, {},
-                          fixture.table().visualRect(fixture.model().index(1, kGroup)).center());
-        QContextMenuEvent event(
-            QContextMenuEvent::Mouse,
-            fixture.table().visualRect(fixture.model().index(1, kGroup)).center());
-        takeWrites();
-        QCoreApplication::sendEvent(fixture.table().viewport(), &event);
-        QVERIFY(!ZoneStyleDialog::m_dialogInstance);
-        QCOMPARE(popups.shown(), 2);
-        QCOMPARE(takeWrites(), "");
-    }
-
     void takesEntriesOfTheListOnly_data()
     {
         const Rows<QString, int, QString> row;

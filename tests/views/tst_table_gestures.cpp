@@ -129,8 +129,10 @@ private Q_SLOTS:
             view.setCurrentIndex(model.index(row, 0));
             view.selectRow(row);
             QTest::keyClick(&view, Qt::Key_Space);
+            runUntilIdle();
             QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
                               view.visualRect(model.index(row, 0)).center());
+            runUntilIdle();
         }
         QCOMPARE(takeWrites(), "FieldMap.Mesh.Show 3 = false; FieldMap.Mesh.Show 3 = true");
     }

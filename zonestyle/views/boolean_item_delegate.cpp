@@ -161,8 +161,10 @@ bool BooleanItemDelegate::toggleSelectedRows(const QModelIndex& index)
         return false;
     const bool isChecked = shown.toInt() == Qt::Checked;
     const int state = isChecked ? Qt::Unchecked : Qt::Checked;
-    model->setDataForIndexes(uicontrols::selectedRows(*selection, index.column()), state,
-                             Qt::CheckStateRole);
+    writeLater(*model,
+               [model, state, cells = uicontrols::selectedRows(*selection, index.column())] {
+                   model->setDataForIndexes(cells, state, Qt::CheckStateRole);
+               });
     return true;
 }
 

@@ -149,15 +149,22 @@ void ItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
     const QVariant value = editedValue(*editor);
     if (!value.isValid())
         return;
-    const auto write = [model, value, written = QPersistentModelIndex(index), view = m_view,
-                        generation = EditSession::documentGeneration()] {
-        if (!written.isValid() || generation != EditSession::documentGeneration())
+    writeLater(*model, [model, value, written = QPersistentModelIndex(index), view = m_view] {
+        if (!written.isValid())
             return;
         if (view && view->model() == model && view->selectionModel())
             view->selectionModel()->setCurrentIndex(written, QItemSelectionModel::NoUpdate);
         model->setData(written, value, Qt::EditRole);
+    });
+}
+
+void ItemDelegate::writeLater(QAbstractItemModel& model, const std::function<void()>& write)
+{
+    const auto writeToTheSameMaps = [write, generation = EditSession::documentGeneration()] {
+        if (generation == EditSession::documentGeneration())
+            write();
     };
-    QTimer::singleShot(0, model, write);
+    QTimer::singleShot(0, &model, writeToTheSameMaps);
 }
 
 QVariant ItemDelegate::editedValue(const QWidget& editor) const

@@ -6,6 +6,8 @@
 #include <QPen>
 #include <QPointer>
 
+#include <functional>
+
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
 
 /// Draws and edits the cells of a column of a style table. A cell that is not relevant is greyed,
@@ -52,6 +54,10 @@ protected:
     virtual void fillEditor(QWidget* editor, const QModelIndex& index) const;
     // What an editor is to write; an invalid value writes nothing.
     virtual QVariant editedValue(const QWidget& editor) const;
+
+    // Writes when the view is done with its editor or event, unless the maps are others by then: a
+    // write may ask the user, and the question may outlive the view.
+    static void writeLater(QAbstractItemModel& model, const std::function<void()>& write);
 
     QAbstractItemView* view() const { return m_view; }
     const QPen& framePen() const { return m_darkGreyPen; }
