@@ -86,62 +86,9 @@ private Q_SLOTS:
     void wrongScriptsNameTheirLine_data()
     {
         const Rows<QString, QString> row;
-
-        // wrong by themselves
         row("no JSON", "tab Mesh", "not valid JSON");
-        row("unknown verb", R"({"tabb": "Mesh"})", "unknown verb \"tabb\"");
-        row("unknown key", R"({"tab": "Mesh", "speed": 1})", "no key \"speed\"");
-        row("two verbs", R"({"tab": "Mesh", "select": "1"})", "two verbs");
-        row("no verb", R"({"column": 1, "map": 2})", "no verb");
-
-        // wrong when their turn comes
-        row("unknown key inside", R"({"expect": {"map": 1, "column": 0, "colour": "red"}})",
-            "\"colour\"");
-        row("missing argument", R"({"check": 1})", "\"column\" is missing");
-        row("wrong kind", R"({"tab": 3})", "\"tab\" must be a text");
-        row("no such tab", R"({"tab": "Meshes"})", "no tab \"Meshes\"");
-        row("no such column", R"({"check": 1, "column": "Show"})", "no column \"Show\"");
-        row("no such map", R"({"check": 99, "column": 3})", "no map 99");
-        row("no check box", R"({"check": 1, "column": 0})", "no check box");
-        row("no set of numbers", R"({"select": "3-1"})", "\"3-1\" is no set of numbers");
-        row("no such button", R"({"button": "Delete Map"})", "\"Delete Map\"");
-        row("disabled button", R"({"button": "Groups"})", "\"Groups\" is disabled");
-        row("no such menu entry", R"({"menu": 1, "column": "Mesh\nType", "choose": "Dotted"})",
-            "no entry \"Dotted\"");
-        row("no menu", R"({"menu": 1, "column": 0, "choose": "Yes"})", "the cell has no menu");
-        row("no editor", R"({"popup": 1, "column": 0, "type": "a", "end": "Return"})", "no editor");
-        row("an editor that was not to come", R"({"popup": 1, "column": 2, "opens": false})",
-            "an editor opened");
-        row("prompt without a reply",
-            R"({"menu": 1, "column": "Line\nThickness", "choose": "Enter..."})",
-            "no reply is queued for the prompt \"Enter the value for the line thickness\"");
-        row("unused reply", R"({"answers": ["OK"]})", "no prompt asked");
-        row("no reply at all", R"({"answers": [null]})", "null");
-        row("unknown style value", R"({"set": ["FieldMap", "Mash"], "maps": "1", "value": 1})",
-            "no such style value");
-        row("value out of range",
-            R"({"set": ["FieldMap", "Mesh", "MeshType"], "maps": "1", "value": 9})",
-            "out of range");
-        row("unexpected cell",
-            R"({"expect": {"map": 1, "column": "Mesh\nType", "display": "Dots"}})", "not \"Dots\"");
-        row("unexpected value", R"({"get": ["FieldMap", "Group"], "map": 1, "is": 2})",
-            "is 1, not 2");
         row("canvas without a screen", R"({"screenshot": "c.png", "of": "canvas"})", "X screen");
-        row("no pick", R"({"pick": [3]})", "3 is no pick");
-        row("value of another kind",
-            R"({"set": ["FieldMap", "Mesh", "Show"], "maps": "1", "value": {"on": 1}})",
-            "no style value");
         row("missing data", R"({"open": "nowhere.cgns"})", "nowhere.cgns");
-        row("no list", R"({"pick": {"zone": 3}})", "\"pick\" must be a list");
-        row("two choices", R"({"menu": 1, "column": "Mesh\nColor", "choose": null, "color": 3})",
-            "exclude each other");
-        row("map for a value of the frame", R"({"get": ["PlotType"], "map": 1, "is": 2})",
-            "no value of a map");
-        row("nothing to rename", R"({"rename": "wing"})", "takes one of");
-        row("scale of another kind", R"({"demo": "xy", "zones": 3})", "scaled by \"maps\"");
-        row("picture of no format", R"({"screenshot": "d.foo", "of": "dialog"})", "picture format");
-        row("no steps", R"({"undo": 0})", "must be 1 or more");
-        row("nothing to undo", R"({"undo": 1})", "nothing to undo");
     }
 
     void wrongScriptsNameTheirLine()

@@ -6,61 +6,48 @@
 
 using namespace corvala::host;
 using namespace corvala::host::io;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 
-/// One file as the table in an ORIGIN.md has it.
-struct Listing
-{
-    struct Totals
-    {
-        double time;
-        int zones;
-        int points;
-        int cells;
-    };
-
-    QString file;
-    int zones = -1; ///< that are not empty, at the last time
-    int points = 0;
-    int cells = 0;
-    QVector<Totals> times;
-    QStringList rows; ///< "points cells I x J x K" of the zones listed
-};
-
-static QVector<Listing> listingsOf(const QString& origin)
+/// By file, what the tables of an ORIGIN.md say of it: "time: zones points cells", without time for
+/// the last one. Zones without points do not count.
+static QMap<QString, QStringList> totalsOf(const QString& origin)
 {
     static const QRegularExpression heading("^### `([^`]+)` with ");
-    static const QRegularExpression leaves(
-        "^Leaves \\d+ \\(not null (\\d+)\\), points (\\d+), cells (\\d+)");
-    static const QRegularExpression time(
+    static const QRegularExpression last("^Leaves \\d+ \\(not null (\\d+)\\), points ([1-9]\\d*), "
+                                         "cells (\\d+)");
+    static const QRegularExpression at(
         "^\\| ([-+.\\de]+) \\| (\\d+) \\| \\d+ \\| (\\d+) \\| (\\d+) \\| \\d+ \\|$");
-    static const QRegularExpression zone(
-        "^\\| `.*` \\| \\w+ \\| (\\d+) \\| (\\d+) \\| ([\\dx ]*) ?\\|$");
-    QVector<Listing> result;
+    QMap<QString, QStringList> totals;
     QFile file(origin);
     if (!file.open(QIODevice::ReadOnly))
-        return result;
+        return totals;
+    QString path;
     for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
-        if (const auto match = heading.match(line); match.hasMatch())
-            result.append({QFileInfo(origin).dir().filePath(match.captured(1)), -1, 0, 0, {}, {}});
-        if (result.isEmpty())
-            continue;
-        Listing& last = result.last();
-        if (const auto match = leaves.match(line); match.hasMatch()) {
-            last.zones = match.captured(1).toInt();
-            last.points = match.captured(2).toInt();
-            last.cells = match.captured(3).toInt();
-        } else if (const auto row = time.match(line); row.hasMatch()) {
-            last.times.append({row.captured(1).toDouble(), row.captured(2).toInt(),
-                               row.captured(3).toInt(), row.captured(4).toInt()});
-        } else if (const auto entry = zone.match(line); entry.hasMatch()) {
-            last.rows << QString("%1 %2 %3")
-                             .arg(entry.captured(1), entry.captured(2),
-                                  entry.captured(3).trimmed());
+        if (const auto name = heading.match(line); name.hasMatch())
+            path = QFileInfo(origin).dir().filePath(name.captured(1));
+        if (const auto row = last.match(line); row.hasMatch())
+            totals[path] << ": " + row.capturedTexts().mid(1).join(' ');
+        if (const auto row = at.match(line); row.hasMatch())
+            totals[path] << row.captured(1) + ": " + row.capturedTexts().mid(2).join(' ');
+    }
+    return totals;
+}
+
+static QString totalsAt(const DataSet& data, const QString& when)
+{
+    const std::vector<double> times = data.solutionTimes();
+    const double time = !when.isEmpty() ? when.toDouble() : times.empty() ? 0.0 : times.back();
+    std::int64_t zones = 0;
+    std::int64_t points = 0;
+    std::int64_t cells = 0;
+    for (const ZoneInfo& zone : data.zones) {
+        if (zone.strand == 0 || zone.time == time) {
+            ++zones;
+            points += zone.pointCount;
+            cells += zone.cellCount;
         }
     }
-    return result;
+    return QString("%1: %2 %3 %4").arg(when).arg(zones).arg(points).arg(cells);
 }
 
 /// Reads the data sets, each with a description ORIGIN.md, in the folder "data" of any folder
@@ -76,62 +63,28 @@ private Q_SLOTS:
             skip("there are no data folders beside the sources", __LINE__);
     }
 
-    void init() { m_folder = std::make_unique<DataFolder>(); }
-
-    void asListed_data()
+    void readsWhatIsDescribed_data()
     {
-        const Rows<Listing> row;
-        for (const QString& origin : origins())
-            for (const Listing& listing : listingsOf(origin))
-                if (listing.points > 0)
-                    row(qPrintable(QFileInfo(listing.file).fileName()), listing);
-    }
-
-    void asListed()
-    {
-        const auto [listing] = currentRow<Listing>();
-        const ReadResult result = read({listing.file});
-        QVERIFY2(result.data, qPrintable(result.error));
-        const DataSet& data = *result.data;
-        const std::vector<double> times = data.solutionTimes();
-        const Listing::Totals last {times.empty() ? 0.0 : times.back(), listing.zones,
-                                    listing.points, listing.cells};
-        QVector<Listing::Totals> totals = listing.times;
-        totals.append(last);
-        for (const Listing::Totals& wanted : qAsConst(totals)) {
-            const Listing::Totals found = totalsAt(data, wanted.time);
-            QCOMPARE(found.zones, wanted.zones);
-            QCOMPARE(found.points, wanted.points);
-            QCOMPARE(found.cells, wanted.cells);
-        }
-        QStringList rows;
-        for (const ZoneInfo& zone : data.zones)
-            if (zone.strand == 0 || zone.time == last.time)
-                rows << rowOf(zone);
-        for (const QString& row : listing.rows)
-            if (!row.startsWith("0 "))
-                QVERIFY2(rows.removeOne(row), qPrintable(row));
-    }
-
-    void everythingElse_data()
-    {
-        const Rows<QString> row;
+        const Rows<QString, QStringList> row;
         for (const QString& origin : origins()) {
-            QDirIterator files(QFileInfo(origin).path(), QDir::Files);
-            while (files.hasNext()) {
-                const QString path = files.next();
-                if (QStringList {"pvd", "case", "vtm", "foam", "p3d"}.contains(
-                        QFileInfo(path).suffix()))
-                    row(qPrintable(QFileInfo(path).fileName()), path);
-            }
+            QMap<QString, QStringList> totals = totalsOf(origin);
+            QDirIterator files(QFileInfo(origin).path(), {"*.pvd", "*.case", "*.vtm", "*.foam"},
+                               QDir::Files);
+            while (files.hasNext())
+                totals[files.next()]; // also without a table
+            for (auto file = totals.cbegin(); file != totals.cend(); ++file)
+                row(QFileInfo(file.key()).fileName(), file.key(), file.value());
         }
     }
 
-    void everythingElse()
+    void readsWhatIsDescribed()
     {
-        const auto [file] = currentRow<QString>();
+        const auto [file, totals] = currentRow<QString, QStringList>();
+        const DataFolder temporary;
         const ReadResult result = read({file});
         QVERIFY2(result.data, qPrintable(result.error));
+        for (const QString& wanted : totals)
+            QCOMPARE(totalsAt(*result.data, wanted.section(':', 0, 0)), wanted);
         for (std::int64_t zone = 1; zone <= result.data->zoneCount(); ++zone)
             QVERIFY(result.data->geometry(zone));
     }
@@ -149,31 +102,6 @@ private:
         }
         return result;
     }
-
-    static Listing::Totals totalsAt(const DataSet& data, double time)
-    {
-        Listing::Totals result {time, 0, 0, 0};
-        for (const ZoneInfo& zone : data.zones) {
-            if (zone.strand != 0 && zone.time != time)
-                continue;
-            ++result.zones;
-            result.points += static_cast<int>(zone.pointCount);
-            result.cells += static_cast<int>(zone.cellCount);
-        }
-        return result;
-    }
-
-    static QString rowOf(const ZoneInfo& zone)
-    {
-        const QString size = zone.ordered ? QString("%1 x %2 x %3")
-                                                .arg(zone.dimensions[0])
-                                                .arg(zone.dimensions[1])
-                                                .arg(zone.dimensions[2])
-                                          : QString();
-        return QString("%1 %2 %3").arg(zone.pointCount).arg(zone.cellCount).arg(size);
-    }
-
-    std::unique_ptr<DataFolder> m_folder;
 };
 
 QTEST_GUILESS_MAIN(TestReadDataFolders)
