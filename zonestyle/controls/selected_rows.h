@@ -4,6 +4,8 @@
 #include <QModelIndexList>
 #include <QObject>
 
+#include <boost/dynamic_bitset.hpp>
+
 #include <cstdint>
 #include <vector>
 
@@ -11,30 +13,8 @@ class QItemSelectionModel;
 
 namespace corvala::sdk::ui::dialogs::uicontrols {
 
-/// Some of the rows of a flat table, with an answer per row that costs the same however many there
-/// are.
-class RowBitmap
-{
-public:
-    RowBitmap() = default;
-    /// The rows of which every column is selected. Cells count as selectable.
-    explicit RowBitmap(const QItemSelectionModel& selection);
-
-    bool contains(int row) const;
-    /// Adds a row; false when it was there already. The row must not be negative.
-    bool insert(int row);
-    void insert(int first, int last); ///< both ends included
-    void intersect(const RowBitmap& other);
-    int count() const; ///< number of rows; linear in the highest row
-    bool isEmpty() const;
-
-private:
-    using Word = std::uint64_t;
-
-    void growTo(int row);
-
-    std::vector<Word> m_words;
-};
+/// A bit for each row of a flat table.
+using RowBits = boost::dynamic_bitset<std::uint64_t>;
 
 /// Neighbouring rows, both ends included.
 struct RowRange
@@ -57,7 +37,7 @@ class SelectedRows : public QObject
 public:
     static SelectedRows& of(const QItemSelectionModel& selection);
 
-    const RowBitmap& bitmap();
+    bool contains(int row); ///< at a cost that does not depend on the selection
     /// In the order in which they were selected, each row once.
     const std::vector<RowRange>& ranges();
     bool areAll(); ///< nothing else is selected, such as single cells
@@ -71,7 +51,7 @@ private:
     void find();
 
     QItemSelectionModel& m_selection;
-    RowBitmap m_bitmap;
+    RowBits m_bits; ///< up to the last row of the selection
     std::vector<RowRange> m_ranges;
     bool m_areAll = true;
     bool m_isKnown = false;

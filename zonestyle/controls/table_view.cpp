@@ -153,7 +153,7 @@ bool TableView::isCellSelected(const QModelIndex& index) const
 {
     if (!m_selectedRows || !index.isValid())
         return false;
-    return m_selectedRows->areAll() ? m_selectedRows->bitmap().contains(index.row())
+    return m_selectedRows->areAll() ? m_selectedRows->contains(index.row())
                                     : selectionModel()->isSelected(index);
 }
 

@@ -14,6 +14,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 class QItemSelectionModel;
 class QTabWidget;
@@ -32,6 +33,7 @@ namespace corvala::sdk::ui {
 class OnIdleActionPerformerSingleShot;
 }
 namespace corvala::sdk::ui::dialogs::uicontrols {
+struct RowRange;
 class MapSelectionByPattern;
 class TableColumnHeader;
 }
@@ -162,6 +164,7 @@ private:
     void copySelection(QItemSelectionModel* target, QItemSelectionModel* source);
     void makeSelectionFitModel();
     void scrollTableViewToSelection(int row);
+    void selectRows(const std::vector<uicontrols::RowRange>& rows);
     void selectPickedObjects();
     void showSelectionCounts();
 

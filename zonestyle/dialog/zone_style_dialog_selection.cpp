@@ -13,7 +13,7 @@
 
 namespace corvala::sdk::ui::dialogs {
 
-using uicontrols::RowBitmap;
+using uicontrols::RowBits;
 using uicontrols::RowRange;
 using uicontrols::SelectedRows;
 using zonestyle::intern::SelectionModelSignalSuspender;
@@ -23,8 +23,6 @@ using zonestyle::intern::models::ModelAbstract;
 // whole rows. Selections are therefore cleared first and set by whole rows that do not overlap.
 
 namespace {
-
-constexpr int kNoRow = 2147483646; // above every row
 
 QItemSelectionRange wholeRows(const QAbstractItemModel& model, int first, int last)
 {
@@ -44,21 +42,51 @@ QItemSelection selectionOf(const QAbstractItemModel& model, const std::vector<Ro
     return result;
 }
 
+/// Rows one by one in the order in which they come, each once.
+class EachOnce
+{
+public:
+    void add(int row)
+    {
+        const auto bit = static_cast<std::size_t>(row);
+        if (bit >= m_seen.size())
+            m_seen.resize(2 * bit + 1);
+        if (!m_seen.test_set(bit))
+            m_rows.push_back({row, row});
+    }
+
+    std::vector<RowRange> take() { return std::move(m_rows); }
+
+private:
+    RowBits m_seen;
+    std::vector<RowRange> m_rows;
+};
+
 /// Every row of which anything is selected, in the order of selection, each once.
 std::vector<RowRange> touchedRows(const QItemSelectionModel& selection)
 {
     SelectedRows& selected = SelectedRows::of(selection);
     if (selected.areAll())
         return selected.ranges();
-    std::vector<RowRange> touched;
-    RowBitmap seen;
+    EachOnce touched;
     for (const QItemSelectionRange& range : selection.selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row) {
-            if (seen.insert(row))
-                touched.push_back({row, row});
-        }
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            touched.add(row);
     }
-    return touched;
+    return touched.take();
+}
+
+/// Runs of rows in ascending order.
+std::vector<RowRange> runsOf(const QModelIndexList& ascending)
+{
+    std::vector<RowRange> runs;
+    for (const QModelIndex& index : ascending) {
+        if (!runs.empty() && runs.back().last + 1 == index.row())
+            ++runs.back().last;
+        else
+            runs.push_back({index.row(), index.row()});
+    }
+    return runs;
 }
 
 bool isWithin(const std::vector<RowRange>& ranges, int rows)
@@ -83,16 +111,15 @@ CvlInt64 rowOfPick(CvlInt64 pick)
 }
 
 /// Rows of the picked objects in pick order, each once.
-std::vector<int> pickedRows(int rowCount)
+std::vector<RowRange> pickedRows()
 {
-    std::vector<int> rows;
-    RowBitmap seen;
+    EachOnce picked;
     for (CvlInt64 pick = 1; pick <= CvlUtilPickListGetCount(); ++pick) {
         const CvlInt64 row = rowOfPick(pick);
-        if (row >= 0 && row < rowCount && seen.insert(static_cast<int>(row)))
-            rows.push_back(static_cast<int>(row));
+        if (row >= 0)
+            picked.add(static_cast<int>(row));
     }
-    return rows;
+    return picked.take();
 }
 
 } // namespace
@@ -159,23 +186,28 @@ void ZoneStyleDialog::showSelectionCounts()
                                    m_currentModel->rowCount());
 }
 
+/// Selects the rows that the table has, and these alone, and scrolls to the smallest.
+void ZoneStyleDialog::selectRows(const std::vector<uicontrols::RowRange>& rows)
+{
+    m_tableView->clearSelection();
+    const QItemSelection wanted = selectionOf(*m_currentModel, rows);
+    if (wanted.isEmpty())
+        return;
+    m_tableView->selectionModel()->select(wanted, QItemSelectionModel::Select);
+    const auto smallest =
+        std::min_element(wanted.begin(), wanted.end(), [](const auto& one, const auto& other) {
+            return one.top() < other.top();
+        });
+    scrollTableViewToSelection(smallest->top());
+}
+
 void ZoneStyleDialog::selectPickedObjects()
 {
     catchUp();
     if (!m_currentModel)
         return;
     const SelectionModelSignalSuspender suspender(*m_mapSelection, *m_tableView);
-    m_tableView->clearSelection();
-    QItemSelection picked;
-    int smallest = kNoRow;
-    for (const int row : pickedRows(m_currentModel->rowCount())) {
-        picked.append(wholeRows(*m_currentModel, row, row));
-        smallest = qMin(smallest, row);
-    }
-    if (!picked.isEmpty()) {
-        m_tableView->selectionModel()->select(picked, QItemSelectionModel::Select);
-        scrollTableViewToSelection(smallest);
-    }
+    selectRows(pickedRows());
     m_tableView->setFocus();
 }
 
@@ -184,11 +216,12 @@ void ZoneStyleDialog::selectionPatternChanged(std::string const& pattern, Select
     if (!m_currentModel)
         return;
     const SelectionModelSignalSuspender suspender(*m_mapSelection, *m_tableView);
-    m_tableView->clearSelection();
     m_mapSelection->setFoundRows(std::nullopt);
     m_countPerformer->enableNotification();
-    if (pattern.empty())
+    if (pattern.empty()) {
+        m_tableView->clearSelection();
         return;
+    }
     const bool byName = option == SelectOption_Names;
     const Qt::MatchFlags how =
         byName ? Qt::MatchFlags(Qt::MatchWildcard | Qt::MatchWrap) : Qt::MatchFixedString;
@@ -196,18 +229,7 @@ void ZoneStyleDialog::selectionPatternChanged(std::string const& pattern, Select
         m_currentModel->match(m_currentModel->index(0, byName ? 1 : 2), Qt::DisplayRole,
                               QString::fromStdString(pattern), -1, how);
     m_mapSelection->setFoundRows(matches.size());
-    QItemSelection found;
-    int smallest = kNoRow;
-    for (int first = 0, last = 0; first < matches.size(); first = last + 1) {
-        last = first;
-        while (last + 1 < matches.size() && matches[last + 1].row() == matches[last].row() + 1)
-            ++last;
-        found.append(wholeRows(*m_currentModel, matches[first].row(), matches[last].row()));
-        smallest = qMin(smallest, matches[first].row());
-    }
-    if (smallest < m_currentModel->rowCount())
-        scrollTableViewToSelection(smallest);
-    m_tableView->selectionModel()->select(found, QItemSelectionModel::Select);
+    selectRows(runsOf(matches));
     m_tableView->setFocus();
 }
 

@@ -201,27 +201,14 @@ void ZoneStyleDialog::applyAvailableMappingTabs()
 void ZoneStyleDialog::updateTabs(PlotType_e plotType)
 {
     static constexpr std::size_t kVolume = 8;
-    QTabWidget& lineTabs = *m_form->lineTabs;
-    QWidget& errorBars = *m_form->linePages[MappingStyleTab_ErrorBars];
-    QWidget& barCharts = *m_form->linePages[MappingStyleTab_BarCharts];
-    const auto isAvailable = [](MappingStyleTab_e tab) {
-        return m_availableMappingTabs.count(tab) != 0;
-    };
-    switch (plotType) {
-    case PlotType_Field3D:
-    case PlotType_Field2D:
+    if (plotType == PlotType_Field3D || plotType == PlotType_Field2D)
         showTab(*m_form->fieldTabs, *m_form->fieldPages[kVolume], plotType == PlotType_Field3D);
-        break;
-    case PlotType_LineXY:
-        showTab(lineTabs, errorBars, isAvailable(MappingStyleTab_ErrorBars));
-        showTab(lineTabs, barCharts, isAvailable(MappingStyleTab_BarCharts));
-        break;
-    case PlotType_LinePolar:
-        showTab(lineTabs, barCharts, false);
-        showTab(lineTabs, errorBars, false);
-        break;
-    default: break;
-    }
+    if (plotType != PlotType_LineXY && plotType != PlotType_LinePolar)
+        return;
+    const LineTabs shown = shownTabs(plotType, m_availableMappingTabs);
+    for (const MappingStyleTab_e tab : {MappingStyleTab_BarCharts, MappingStyleTab_ErrorBars})
+        showTab(*m_form->lineTabs, *m_form->linePages[tab],
+                std::find(shown.begin(), shown.end(), tab) != shown.end());
 }
 
 void ZoneStyleDialog::restoreLastTab()
