@@ -2,10 +2,10 @@
 #include "zonestyle/actions/enter_ascii_character_action.h"
 
 #include "zonestyle/actions/prompt_parent.h"
-#include "zonestyle/actions/style_write.h"
 
 #include <sdk/dialogs_prompt/enter_ascii_character_dialog.h>
 #include <sdk/uicommon/edit_session.h>
+#include <sdk/uicommon/style_writing.h>
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -41,9 +41,9 @@ void EnterASCIICharacterAction::invokeAction()
     if (corvala::sdk::ui::execInEditSession(*dialog) != QDialog::Accepted || !self || !dialog)
         return;
     const toolbox::Set maps = selectedMaps();
-    writeStyle(m_character.asciiChar, maps, dialog->selectedChar().toStdString());
-    writeStyle(m_character.useBaseFont, maps, dialog->useBaseFont());
-    writeStyle(m_character.fontOverride, maps, static_cast<double>(dialog->typeFaceOverride()));
+    writeStyle(m_character.asciiChar, &maps, dialog->selectedChar().toStdString());
+    writeStyle(m_character.useBaseFont, &maps, dialog->useBaseFont());
+    writeStyle(m_character.fontOverride, &maps, dialog->typeFaceOverride());
 }
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/actions/map_activate_action.h"
 
-#include "zonestyle/actions/style_write.h"
+#include <sdk/uicommon/style_writing.h>
 
 #include <QCoreApplication>
 
@@ -24,7 +24,7 @@ static void assign(style::NumbersKey activeSet, const QModelIndexList& indexes,
     if (indexes.isEmpty())
         return;
     toolbox::CheckedStyleValue style(activeSet);
-    writeStyle(style, nullptr, op, mapSet(indexes));
+    writeStyle(style, nullptr, mapSet(indexes), op);
 }
 
 /// The host refuses a set with a map that is gone; where two sets are written, neither may be.

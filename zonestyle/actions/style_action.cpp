@@ -65,12 +65,12 @@ void StyleAction<T>::write(T value)
     const toolbox::Set maps = selectedMaps();
     if (value != T {} && m_layerCheck.applies()) {
         const QPointer<Action> self(this);
-        const EditSession session([] {});
+        const EditSession session([] {}); // ends with the dialog, too
         LayerCheck(m_layerCheck).run(); // a copy: the action may go while a question is open
         if (!self || !session.isValid())
             return;
     }
-    writeStyle(*m_styleValue, &maps, toolbox::AssignOp_None, static_cast<HostValue<T>>(value));
+    writeStyle(*m_styleValue, &maps, static_cast<HostValue<T>>(value));
 }
 
 template class StyleAction<char>;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/actions/three_value_action.h"
 
-#include "zonestyle/actions/style_write.h"
-
 #include <sdk/common/app_lock.h>
 #include <sdk/uicommon/style_writing.h>
 
@@ -24,7 +22,7 @@ void ThreeValueAction::invokeAction()
     const StyleUndoStep step;
     const toolbox::Set maps = selectedMaps();
     for (std::size_t i = 0; i < m_values.size(); ++i)
-        writeStyle(m_keys[i], maps, static_cast<double>(m_values[i]));
+        writeStyle(m_keys[i], &maps, m_values[i]);
 }
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

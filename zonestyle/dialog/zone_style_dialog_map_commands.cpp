@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/actions/action.h"
-#include "zonestyle/actions/style_write.h"
 #include "zonestyle/controls/selected_rows.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
 #include "zonestyle/dialog/zone_style_form.h"
@@ -11,6 +10,7 @@
 #include <sdk/common/common.h>
 #include <sdk/dialogs_lineplot/line_map_create_dialog.h>
 #include <sdk/uicommon/question.h>
+#include <sdk/uicommon/style_writing.h>
 
 #include <QPointer>
 #include <QTabWidget>
@@ -77,7 +77,7 @@ void ZoneStyleDialog::deleteLineMaps(toolbox::Set const& lineMaps)
     const AppLock lock(ImplicitMacroRecording_None);
     CvlUtilUndoStateBegin(UndoKind_LineMapsDeleted);
     toolbox::CheckedStyleValue activeMaps(style::activeLineMaps);
-    actions::writeStyle(activeMaps, nullptr, toolbox::AssignOp_Remove, lineMaps);
+    writeStyle(activeMaps, nullptr, lineMaps, toolbox::AssignOp_Remove);
     CvlUtilLineMapDelete(lineMaps.handle());
     CvlUtilUndoStateEnd(false, true);
 }
