@@ -32,16 +32,22 @@ static Json describeWidget(const QWidget& widget)
 
 static Json describeAction(QAction& action, QWidget* host)
 {
+    const bool isOpen = qobject_cast<const QMenu*>(host); // entries are marked when they are shown
     if (action.isSeparator())
         return {{"separator", true}};
     if (auto* widgetAction = qobject_cast<QWidgetAction*>(&action)) {
         if (QWidget* widget = widgetAction->requestWidget(host)) {
-            const Json entry = describeWidget(*widget);
+            Json entry = describeWidget(*widget);
+            if (const auto* chooser = chooserIn(isOpen ? widget : nullptr))
+                entry["color"] = chooser->presentColor();
             widgetAction->releaseWidget(widget);
             return entry;
         }
     }
-    return {{"text", action.text().toStdString()}, {"enabled", action.isEnabled()}};
+    Json entry {{"text", action.text().toStdString()}, {"enabled", action.isEnabled()}};
+    if (isOpen)
+        entry["marked"] = action.isChecked();
+    return entry;
 }
 
 Json describeActions(const QList<QAction*>& actions, QWidget* host)

@@ -35,6 +35,11 @@ public:
     }
 
     void setColor(const QColor& color) { m_color = color; }
+    void setPresent(bool isPresent)
+    {
+        m_isPresent = isPresent;
+        update();
+    }
 
     QSize sizeHint() const override
     {
@@ -52,12 +57,17 @@ protected:
         painter.fillRect(swatch, m_color);
         painter.setPen(palette().color(QPalette::Dark));
         painter.drawRect(swatch.adjusted(0, 0, -1, -1));
+        if (m_isPresent) {
+            painter.setPen(QPen(palette().color(QPalette::ButtonText), 2));
+            painter.drawRect(rect().adjusted(1, 1, -1, -1));
+        }
         painter.setPen(qGray(m_color.rgb()) < 128 ? Qt::white : Qt::black);
         painter.drawText(swatch, Qt::AlignCenter, text());
     }
 
 private:
     QColor m_color;
+    bool m_isPresent = false;
 };
 
 } // namespace
@@ -134,6 +144,18 @@ QAbstractButton* ColorChooserWidget::colorButton(int color) const
             return cell.button;
     }
     return nullptr;
+}
+
+void ColorChooserWidget::setPresentColor(int color)
+{
+    m_presentColor = colorButton(color) ? color : -1;
+    for (std::size_t i = 0; i < m_cells.size(); ++i) {
+        const bool isPresent = m_cells[i].color == color;
+        static_cast<ColorButton*>(m_cells[i].button)->setPresent(isPresent);
+        m_cells[i].button->setAccessibleDescription(isPresent ? tr("Present color") : QString());
+        if (isPresent)
+            makeCurrent(i);
+    }
 }
 
 boost::signals2::connection

@@ -30,6 +30,11 @@ public:
     /// The button of a colour; null for a number that is not offered.
     QAbstractButton* colorButton(int color) const;
 
+    /// Marks the button of a colour, which becomes the current one, as the present colour; a number
+    /// that is not offered marks none.
+    void setPresentColor(int color);
+    int presentColor() const { return m_presentColor; } ///< -1 for none
+
     boost::signals2::connection connectColorSelected(boost::function<void(int)> slot);
 
 Q_SIGNALS:
@@ -59,6 +64,7 @@ private:
     bool m_offersGroupColors;
     std::vector<Cell> m_cells;
     std::size_t m_current = 0;
+    int m_presentColor = -1;
     boost::signals2::signal<void(int)> m_colorSelected;
 };
 
