@@ -11,6 +11,9 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <QToolButton>
+
+#include <algorithm>
 
 namespace corvala::play {
 
@@ -34,6 +37,34 @@ static void dialog(ScriptRun& run, const Arguments& arguments)
     }
 }
 
+/// The part of a tab bar that its scroll buttons, if it shows any, do not cover.
+static QRect roomForTabs(const QTabBar& bar, const QList<QToolButton*>& arrows)
+{
+    QRect room = bar.rect();
+    for (const QToolButton* arrow : arrows)
+        room.setRight(qMin(room.right(), arrow->geometry().left() - 1));
+    return room;
+}
+
+/// By the scroll buttons of a bar that is too narrow for its tabs.
+static void scrollTo(QTabBar& bar, int index)
+{
+    QList<QToolButton*> arrows = bar.findChildren<QToolButton*>();
+    arrows.erase(std::remove_if(arrows.begin(), arrows.end(),
+                                [](const QToolButton* arrow) { return !arrow->isVisible(); }),
+                 arrows.end());
+    const QRect room = roomForTabs(bar, arrows);
+    for (QToolButton* arrow : arrows) {
+        const bool isForward = arrow->arrowType() == Qt::RightArrow;
+        const auto isBeyond = [&] {
+            const int center = bar.tabRect(index).center().x();
+            return isForward ? center > room.right() : center < room.left();
+        };
+        for (int clicks = 0; clicks < bar.count() && isBeyond(); ++clicks)
+            clickCentre(arrow);
+    }
+}
+
 static void tab(ScriptRun& run, const Arguments& arguments)
 {
     const QString text = arguments.text("tab");
@@ -41,6 +72,7 @@ static void tab(ScriptRun& run, const Arguments& arguments)
     if (index < 0)
         throw ScriptError(Text::tr("the dialog has no tab \"%1\"").arg(text));
     QTabBar* bar = run.dialog().tabs().tabBar();
+    scrollTo(*bar, index);
     click(bar, bar->tabRect(index).center());
     if (run.dialog().tabs().currentIndex() != index)
         throw ScriptError(Text::tr("the tab \"%1\" cannot be clicked").arg(text));

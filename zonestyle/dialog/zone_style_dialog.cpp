@@ -20,6 +20,7 @@
 #include <sdk/uicommon/on_idle_action_performer_single_shot.h>
 
 #include <QDialogButtonBox>
+#include <QLayout>
 #include <QPushButton>
 #include <QScreen>
 #include <QStackedWidget>
@@ -171,6 +172,9 @@ void ZoneStyleDialog::fitNarrowScreen()
     constexpr int kMargin = 16;
     for (QPushButton* button : findChildren<QPushButton*>())
         button->setMinimumWidth(button->fontMetrics().horizontalAdvance(button->text()) + kMargin);
+    for (QWidget* inner : findChildren<QWidget*>()) // sizes that are not shown yet are remembered
+        inner->updateGeometry();
+    layout()->activate();
 }
 
 /// The sizes that the form had without a table are still remembered: tab widgets that are not
