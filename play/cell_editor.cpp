@@ -27,6 +27,7 @@ CellEdit cellEditOf(const Arguments& arguments)
 {
     CellEdit edit;
     edit.opens = arguments.boolean("opens", true);
+    edit.stays = arguments.boolean("stays", false);
     if (arguments.has("type"))
         edit.type = arguments.text("type").toStdString();
     if (arguments.has("choose"))
@@ -107,8 +108,12 @@ void finishEdit(QWidget& editor, const CellEdit& edit, QWidget& dialog)
     if (open && open->isVisible())
         end(*open, edit.end, dialog);
     waitUntilIdle();
-    if (open && open->isVisible())
-        throw ScriptError(Text::tr("the editor stays open"));
+    const bool isOpen = open && open->isVisible();
+    if (isOpen)
+        pressKey(open, Qt::Key_Escape);
+    if (isOpen != edit.stays)
+        throw ScriptError(isOpen ? Text::tr("the editor stays open")
+                                 : Text::tr("the editor closes"));
 }
 
 } // namespace corvala::play

@@ -220,9 +220,11 @@ std::vector<Verb> cellVerbs()
 {
     return {{"check", {"column"}, check},
             {"menu", {"column", "choose", "color", "during", "dropped"}, menu},
-            {"popup", {"column", "type", "choose", "end", "opens", "during", "dropped"}, popup},
+            {"popup",
+             {"column", "type", "choose", "end", "opens", "stays", "during", "dropped"},
+             popup},
             {"doubleClick",
-             {"column", "type", "choose", "end", "opens", "during", "dropped"},
+             {"column", "type", "choose", "end", "opens", "stays", "during", "dropped"},
              doubleClickCell},
             {"commit", {"column", "value", "role", "returns"}, commit},
             {"action", {"column", "choose"}, action}};

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "sdk/common_ui/number_field.h"
 
+#include "sdk/common_ui/problem_mark.h"
+
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -138,20 +140,7 @@ void NumberField::textChanged()
     if (fits == m_fits)
         return;
     m_fits = fits;
-    QPalette colors;
-    if (!fits) {
-        const QColor base = colors.color(QPalette::Base);
-        constexpr int kShare = 4; // of the warning colour
-        const QColor warning(220, 60, 40);
-        const auto mixed = [](int from, int to) { return from + (to - from) / kShare; };
-        colors.setColor(QPalette::Base,
-                        QColor(mixed(base.red(), warning.red()),
-                               mixed(base.green(), warning.green()),
-                               mixed(base.blue(), warning.blue())));
-    }
-    setPalette(colors);
-    setToolTip(fits ? QString() : rangeText());
-    setAccessibleDescription(toolTip());
+    markProblem(*this, fits ? QString() : rangeText());
     Q_EMIT fitChanged(fits);
 }
 

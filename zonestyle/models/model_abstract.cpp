@@ -70,6 +70,11 @@ int ModelAbstract::localEditorOption(int) const
     return 0;
 }
 
+QString ModelAbstract::localTextProblem(int, const QString&) const
+{
+    return {};
+}
+
 /// The link that owns a column, which becomes its own number there; null beyond the chain.
 const ModelAbstract* ModelAbstract::linkOf(int& column) const
 {
@@ -103,6 +108,12 @@ int ModelAbstract::columnEditorOption(int column) const
 {
     const ModelAbstract* link = linkOf(column);
     return link ? link->localEditorOption(column) : 0;
+}
+
+QString ModelAbstract::columnTextProblem(int column, const QString& text) const
+{
+    const ModelAbstract* link = linkOf(column);
+    return link ? link->localTextProblem(column, text) : QString();
 }
 
 toolbox::Set ModelAbstract::toMapSet(const QModelIndexList& indexes)

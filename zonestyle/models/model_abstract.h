@@ -51,12 +51,17 @@ public:
     // How wide the column's delegate makes it; what the number means is the delegate's business.
     virtual int localEditorOption(int column) const;
 
+    // What is wrong with a text that an editor of one of the link's own columns is to deliver;
+    // empty for one that fits.
+    virtual QString localTextProblem(int column, const QString& text) const;
+
     /// The local operations of the same names, by a column of the whole table. A column beyond the
     /// chain has no actions and no editor.
     Q_INVOKABLE QList<QAction*> columnActions(QItemSelectionModel* selection, int column) const;
     Q_INVOKABLE int columnEditorType(int column) const;
     Q_INVOKABLE int columnEditorOption(int column) const;
     bool columnHasActions(int column) const;
+    QString columnTextProblem(int column, const QString& text) const;
 
     /// The maps whose rows the indexes are in.
     static toolbox::Set toMapSet(const QModelIndexList& indexes);

@@ -25,6 +25,12 @@ static bool isRelevant(const QModelIndex& index)
     return !model || model->isRelevant(index);
 }
 
+QString problemOf(const QString& text, const QModelIndex& index)
+{
+    const auto* model = qobject_cast<const models::ModelAbstract*>(index.model());
+    return model ? model->columnTextProblem(index.column(), text) : QString();
+}
+
 namespace {
 
 /// Lives as long as an editor, and closes it without an edit when the cell may be another one.
@@ -147,7 +153,7 @@ void ItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                 const QModelIndex& index) const
 {
     const QVariant value = editedValue(*editor);
-    if (!value.isValid())
+    if (!value.isValid() || !problemOf(value.toString(), index).isEmpty())
         return;
     writeLater(*model, [model, value, written = QPersistentModelIndex(index), view = m_view] {
         if (!written.isValid())

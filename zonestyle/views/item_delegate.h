@@ -71,4 +71,7 @@ private:
     QPen m_darkGreyPen;
 };
 
+/// What is wrong with a text that is to be entered in a cell; empty for one that fits.
+QString problemOf(const QString& text, const QModelIndex& index);
+
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::views

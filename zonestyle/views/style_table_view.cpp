@@ -4,12 +4,10 @@
 #include "zonestyle/actions/action.h"
 #include "zonestyle/models/model_abstract.h"
 #include "zonestyle/views/boolean_item_delegate.h"
+#include "zonestyle/views/cell_arrow.h"
+#include "zonestyle/views/cell_popups.h"
 #include "zonestyle/views/color_item_delegate.h"
-#include "zonestyle/views/combo_box_dialog.h"
-#include "zonestyle/views/dynamic_line_map_text_edit_dialog.h"
-#include "zonestyle/views/list_box_dialog.h"
 #include "zonestyle/views/list_item_delegate.h"
-#include "zonestyle/views/text_edit_dialog.h"
 #include "zonestyle/views/text_item_delegate.h"
 
 #include <sdk/base/cvl.h>
@@ -18,20 +16,14 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
-#include <QHoverEvent>
 #include <QMenu>
 #include <QPainter>
-#include <QStyleOption>
-#include <QTimer>
 #include <QToolTip>
 #include <QWindow>
 
-#include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <map>
 #include <tuple>
-#include <utility>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
 
@@ -74,10 +66,14 @@ StyleTableView::StyleTableView(QWidget* parent)
     setAccessibleName(tr("Style table"));
     setHorizontalScrollMode(ScrollPerPixel);
     setTextElideMode(Qt::ElideMiddle); // what tells long names apart is at their end
-    viewport()->setAttribute(Qt::WA_Hover);
+    m_arrow = std::make_unique<CellArrow>(
+        *this, [this](const QModelIndex& index) { return opensOnRightClick(index); },
+        [this](const QModelIndex& index) { openAtArrow(index); });
     adoptPalette();
     connect(qApp, &QGuiApplication::paletteChanged, this, &StyleTableView::adoptPalette);
 }
+
+StyleTableView::~StyleTableView() = default;
 
 /// Selected rows are tinted, not filled: swatches, check boxes and greyed texts stay readable.
 void StyleTableView::adoptPalette()
@@ -257,17 +253,32 @@ void StyleTableView::editCurrentCell()
         openMenuAtCurrentCell();
 }
 
-/// Without a selected row the menu would act on nothing: the one of the cell is selected.
 void StyleTableView::openMenuAtCurrentCell()
 {
     if (!currentIndex().isValid())
         return;
-    if (!uicontrols::hasSelectedRows(*selectionModel()))
-        selectionModel()->select(currentIndex(),
-                                 QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    selectRowIfNone(currentIndex());
     scrollTo(currentIndex());
-    const QPoint center = visualRect(currentIndex()).center();
-    QContextMenuEvent event(QContextMenuEvent::Other, center, viewport()->mapToGlobal(center));
+    openFor(currentIndex(), visibleRect(currentIndex()).center());
+}
+
+/// Without a selected row an edit would act on nothing.
+void StyleTableView::selectRowIfNone(const QModelIndex& index)
+{
+    if (!uicontrols::hasSelectedRows(*selectionModel()))
+        selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+QRect StyleTableView::visibleRect(const QModelIndex& index) const
+{
+    return visualRect(index) & viewport()->rect();
+}
+
+/// What a right click on the cell opens, at another position.
+void StyleTableView::openFor(const QModelIndex& index, const QPoint& position)
+{
+    QContextMenuEvent event(QContextMenuEvent::Other, visibleRect(index).center(),
+                            viewport()->mapToGlobal(position));
     contextMenuEvent(&event);
 }
 
@@ -275,95 +286,16 @@ bool StyleTableView::opensOnRightClick(const QModelIndex& index) const
 {
     if (!index.isValid() || !m_model)
         return false;
-    static constexpr int kPopups[] = {EditorType_TextPopup, EditorType_ListPopup,
-                                      EditorType_ComboPopup, EditorType_DynamicTextPopup};
-    const int type = m_model->columnEditorType(index.column());
-    const bool hasPopup =
-        std::find(std::begin(kPopups), std::end(kPopups), type) != std::end(kPopups);
-    return (hasPopup && m_model->flags(index).testFlag(Qt::ItemIsEditable))
+    return (isPopupType(m_model->columnEditorType(index.column()))
+            && m_model->flags(index).testFlag(Qt::ItemIsEditable))
         || m_model->columnHasActions(index.column());
-}
-
-/// The arrow of the cell under the mouse and of the current one; empty for any other cell, and for
-/// one that opens nothing or has no room beside its contents.
-QRect StyleTableView::arrowOf(const QModelIndex& index) const
-{
-    constexpr int kSide = 13;
-    constexpr int kLeastWidth = 3 * kSide;
-    const bool isCurrent = index == currentIndex() && (hasFocus() || viewport()->hasFocus());
-    const bool isHovered = m_mouse.x() >= 0 && index == indexAt(m_mouse);
-    const QRect cell = visualRect(index).adjusted(0, 0, -1, -1);
-    if ((!isCurrent && !isHovered) || cell.width() < kLeastWidth || !opensOnRightClick(index))
-        return {};
-    const int side = qMin(kSide, cell.height() - 2);
-    const QRect arrow(cell.right() - side, cell.top() + (cell.height() - side) / 2, side, side);
-    return QStyle::visualRect(layoutDirection(), cell, arrow);
-}
-
-void StyleTableView::paintArrow(QPainter& painter, const QModelIndex& index) const
-{
-    QStyleOption option;
-    option.initFrom(this);
-    option.rect = arrowOf(index);
-    if (option.rect.isEmpty())
-        return;
-    painter.setPen(option.palette.color(QPalette::Mid));
-    painter.setBrush(option.palette.button());
-    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
-    option.rect.adjust(2, 2, -2, -2);
-    style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &option, &painter, this);
 }
 
 void StyleTableView::paintEvent(QPaintEvent* event)
 {
     TableView::paintEvent(event);
-    if (!m_model)
-        return;
     QPainter painter(viewport());
-    paintArrow(painter, currentIndex());
-    if (m_mouse.x() >= 0 && indexAt(m_mouse) != currentIndex())
-        paintArrow(painter, indexAt(m_mouse));
-}
-
-bool StyleTableView::viewportEvent(QEvent* event)
-{
-    const bool isInside = event->type() == QEvent::HoverMove || event->type() == QEvent::HoverEnter;
-    if (isInside || event->type() == QEvent::HoverLeave) {
-        const QModelIndex before = indexAt(m_mouse);
-        m_mouse = isInside ? static_cast<QHoverEvent*>(event)->pos() : QPoint(-1, -1);
-        const QModelIndex after = indexAt(m_mouse);
-        if (before != after) {
-            viewport()->update(visualRect(before));
-            viewport()->update(visualRect(after));
-        }
-    }
-    return TableView::viewportEvent(event);
-}
-
-void StyleTableView::mousePressEvent(QMouseEvent* event)
-{
-    const QModelIndex index = indexAt(event->pos());
-    const bool isOnArrow = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier
-        && arrowOf(index).contains(event->pos());
-    m_pressedArrow = isOnArrow ? QPersistentModelIndex(index) : QPersistentModelIndex();
-    if (!isOnArrow)
-        TableView::mousePressEvent(event);
-}
-
-void StyleTableView::mouseMoveEvent(QMouseEvent* event)
-{
-    if (!m_pressedArrow.isValid() || !event->buttons().testFlag(Qt::LeftButton))
-        TableView::mouseMoveEvent(event);
-}
-
-/// Opened by the press already, a menu would take the release for a click outside it.
-void StyleTableView::mouseReleaseEvent(QMouseEvent* event)
-{
-    const QPersistentModelIndex pressed = std::exchange(m_pressedArrow, QPersistentModelIndex());
-    if (!pressed.isValid())
-        TableView::mouseReleaseEvent(event);
-    else if (arrowOf(pressed).contains(event->pos()))
-        openAtArrow(pressed);
+    m_arrow->paint(painter);
 }
 
 /// As a right click: a row that is not selected becomes the only one that is.
@@ -373,15 +305,7 @@ void StyleTableView::openAtArrow(const QModelIndex& index)
         selectionModel()->select(index,
                                  QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
-    const auto open = [this, cell = QPersistentModelIndex(index)] {
-        if (!cell.isValid() || cell.model() != m_model)
-            return;
-        const QRect place = visualRect(cell);
-        QContextMenuEvent event(QContextMenuEvent::Other, place.center(),
-                                viewport()->mapToGlobal(place.bottomLeft()));
-        contextMenuEvent(&event);
-    };
-    QTimer::singleShot(0, this, open); // the release is over by then
+    openFor(index, visibleRect(index).bottomLeft());
 }
 
 /// The keys stand where the eye begins, on the first header.
@@ -471,40 +395,20 @@ bool StyleTableView::editColumnEvent(QContextMenuEvent* event)
     const QModelIndex index = indexAt(event->pos());
     if (!index.isValid() || !m_model)
         return false;
-    if (!uicontrols::hasSelectedRows(*selectionModel()))
-        selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    PopupDialogBase* popup = makePopup(index, event->globalPos());
+    selectRowIfNone(index);
+    const int column = index.column();
+    const auto commit = [view = QPointer(this), model = m_model, column](const QString& text) {
+        if (view && model && view->m_model == model)
+            view->commitToSelectedRows(column, text);
+    };
+    PopupDialogBase* popup =
+        makePopup(*m_model, index,
+                  {event->globalPos(), parentWidget(), rememberedColumnWidth(column)}, commit);
     if (!popup)
         return false;
     event->accept();
     PopupDialogBase::run(popup);
     return true;
-}
-
-/// The pop-up editor of a cell's column, or null.
-PopupDialogBase* StyleTableView::makePopup(const QModelIndex& index, const QPoint& globalPosition)
-{
-    const int column = index.column();
-    const QString shown = index.data(Qt::DisplayRole).toString();
-    const auto commit = [view = QPointer(this), model = m_model, column](const QString& text) {
-        if (view && model && view->m_model == model)
-            view->commitToSelectedRows(column, text);
-    };
-    const auto choices = [&index] { return index.data(Qt::EditRole).toStringList(); };
-    switch (m_model->columnEditorType(column)) {
-    case EditorType_TextPopup:
-        return new TextEditDialog(globalPosition, parentWidget(), commit, shown);
-    case EditorType_ListPopup:
-        return new ListBoxDialog(globalPosition, parentWidget(), commit, choices(), shown,
-                                 rememberedColumnWidth(column));
-    case EditorType_ComboPopup:
-        return new ComboBoxDialog(globalPosition, parentWidget(), commit, choices(), shown);
-    case EditorType_DynamicTextPopup:
-        return new DynamicLineMapTextEditDialog(globalPosition, parentWidget(), commit,
-                                                index.data(Qt::EditRole).toString(),
-                                                index.row() + 1);
-    default: return nullptr;
-    }
 }
 
 void StyleTableView::commitToSelectedRows(int column, const QString& text)

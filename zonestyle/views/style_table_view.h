@@ -7,14 +7,16 @@
 
 #include <QPointer>
 
+#include <memory>
+
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 class ModelAbstract;
 }
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
 
+class CellArrow;
 class ItemDelegate;
-class PopupDialogBase;
 
 /// The table of a tab. A right click (or the Menu key, or a click on the arrow that the cell under
 /// the mouse and the current one show) opens the column's pop-up editor or its menu; both act on
@@ -26,6 +28,7 @@ class StyleTableView : public uicontrols::TableView
 
 public:
     explicit StyleTableView(QWidget* parent = nullptr);
+    ~StyleTableView() override;
 
     using TableView::setModel;
     /// Shows a chain of models (the head is not owned). `tabKey` tells the tab apart from others of
@@ -45,12 +48,8 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
-    bool viewportEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     /// What a double click on the border of a column fits it to: the widest of the rows that are
     /// seen and of a sample of the others.
     int sizeHintForColumn(int column) const override;
@@ -70,12 +69,12 @@ private:
     void editCurrentCell();
     void openMenuAtCurrentCell();
     bool opensOnRightClick(const QModelIndex& index) const;
-    QRect arrowOf(const QModelIndex& index) const;
-    void paintArrow(QPainter& painter, const QModelIndex& index) const;
     void openAtArrow(const QModelIndex& index);
+    void openFor(const QModelIndex& index, const QPoint& position);
+    void selectRowIfNone(const QModelIndex& index);
+    QRect visibleRect(const QModelIndex& index) const;
     int fittingWidth(const QModelIndex& index) const;
     void showMenu(const QList<QAction*>& actions, const QPoint& globalPosition);
-    PopupDialogBase* makePopup(const QModelIndex& index, const QPoint& globalPosition);
     void commitToSelectedRows(int column, const QString& text);
     void installDelegates();
     ItemDelegate* makeDelegate(int column);
@@ -86,8 +85,7 @@ private:
     QPointer<models::ModelAbstract> m_model; ///< not owned
     int m_tabKey = 0;
     CvlInt64 m_plotType = 0; ///< that the columns are sized for
-    QPoint m_mouse = {-1, -1}; ///< outside while the mouse is not over the cells
-    QPersistentModelIndex m_pressedArrow; ///< the cell whose arrow the button was pressed on
+    std::unique_ptr<CellArrow> m_arrow; ///< goes first: it asks the view
 };
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::views

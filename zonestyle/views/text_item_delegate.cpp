@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/views/text_item_delegate.h"
 
+#include <sdk/common_ui/problem_mark.h>
+
 #include <QLineEdit>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::views {
@@ -26,6 +28,17 @@ QSize TextItemDelegate::contentsSize(const QStyleOptionViewItem& option,
         m_width = qMin(size.width(), widthOfCharacters(option, m_option == 2 ? 20 : 10));
     size.setWidth(m_width);
     return size;
+}
+
+QWidget* TextItemDelegate::makeEditor(QWidget* parent, const QModelIndex& index) const
+{
+    QWidget* editor = ItemDelegate::makeEditor(parent, index);
+    if (auto* lineEdit = qobject_cast<QLineEdit*>(editor))
+        connect(lineEdit, &QLineEdit::textChanged, lineEdit,
+                [lineEdit, cell = QPersistentModelIndex(index)](const QString& text) {
+                    corvala::ui::markProblem(*lineEdit, problemOf(text, cell));
+                });
+    return editor;
 }
 
 void TextItemDelegate::fillEditor(QWidget* editor, const QModelIndex& index) const

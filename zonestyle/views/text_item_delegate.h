@@ -15,6 +15,8 @@ public:
     TextItemDelegate(QAbstractItemView& view, int option);
 
 protected:
+    /// A text that does not fit is marked, and not written.
+    QWidget* makeEditor(QWidget* parent, const QModelIndex& index) const override;
     QSize contentsSize(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     /// Starts from what the cell shows; not every column has a value for editing.
     void fillEditor(QWidget* editor, const QModelIndex& index) const override;

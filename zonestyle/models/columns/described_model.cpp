@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/models/columns/described_model.h"
 
+#include "zonestyle/models/columns/column_kinds.h"
+#include "zonestyle/models/columns/edit_value.h"
+
 #include <QCoreApplication>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
@@ -138,6 +141,14 @@ template<class Base>
 int DescribedModel<Base>::localEditorOption(int column) const
 {
     return at(column).editorOption;
+}
+
+template<class Base>
+QString DescribedModel<Base>::localTextProblem(int column, const QString& text) const
+{
+    return at(column).writer == kinds::writeNumber
+        ? numberProblem(text, style::entryOf(at(column).key))
+        : QString();
 }
 
 template<class Base>

@@ -30,6 +30,7 @@ public:
     bool isLocalRelevant(const QModelIndex& index) const override;
     int localEditorType(int column) const override;
     int localEditorOption(int column) const override;
+    QString localTextProblem(int column, const QString& text) const override;
 
 protected:
     /// The columns of this model; static.

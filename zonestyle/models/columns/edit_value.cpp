@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/models/columns/edit_value.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 #include <algorithm>
@@ -39,14 +40,30 @@ static std::optional<int> wholeNumber(const QString& text)
     return isNumber ? std::optional<int>(number) : std::nullopt;
 }
 
-int editedNumber(const QVariant& value)
+static std::optional<double> number(QString text)
 {
-    if (!isText(value))
-        return asItIs(value);
-    QString text = value.toString().trimmed();
+    text = text.trimmed();
     if (text.endsWith(QLatin1Char('%')))
         text.chop(1);
-    return rounded(QLocale::c().toDouble(text.trimmed()));
+    bool isNumber = false;
+    const double number = QLocale::c().toDouble(text.trimmed(), &isNumber);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
+int editedNumber(const QVariant& value)
+{
+    return isText(value) ? rounded(number(value.toString()).value_or(0.0)) : asItIs(value);
+}
+
+QString numberProblem(const QString& text, const style::Entry& entry)
+{
+    const std::optional<double> entered = number(text);
+    const bool isInRange = entered && entry.minimum <= *entered && *entered <= entry.maximum;
+    if (isInRange && (entry.isReal() || *entered == std::floor(*entered)))
+        return {};
+    const auto shown = [](double limit) { return QString::number(limit, 'g', 10); };
+    return QCoreApplication::translate("Cell", "%1 to %2")
+        .arg(shown(entry.minimum), shown(entry.maximum));
 }
 
 std::optional<int> editedChoice(const QVariant& value, const style::Choices& choices)

@@ -3,6 +3,8 @@
 
 #include "zonestyle/tables/choice_names.h"
 
+#include <vocabulary/entry.h>
+
 #include <QVariant>
 
 #include <optional>
@@ -14,6 +16,9 @@ namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 
 /// In a column of numbers. A text is read as in "0.50" and "30%", rounded; 0 when it is no number.
 int editedNumber(const QVariant& value);
+
+/// Empty when the text is a number that the style value takes, else what numbers it takes.
+QString numberProblem(const QString& text, const style::Entry& entry);
 
 /// In a column of choices. A text is the name of a choice or a whole number; nothing otherwise.
 std::optional<int> editedChoice(const QVariant& value, const style::Choices& choices);
