@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QItemSelectionModel>
+#include <QLabel>
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -102,6 +103,11 @@ QStringList DialogDriver::buttonBoxTexts() const
          childOf<QDialogButtonBox>(dialog(), QStringLiteral("buttonBox")).buttons())
         texts << withoutMnemonic(button->text());
     return texts;
+}
+
+QString DialogDriver::countsText() const
+{
+    return childOf<QLabel>(dialog(), QStringLiteral("mapSelectionByPattern_counts_label")).text();
 }
 
 QString DialogDriver::helpReference() const

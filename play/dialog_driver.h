@@ -39,6 +39,7 @@ public:
     QAbstractButton& button(const QString& text) const; ///< by text without mnemonic
     QStringList buttonBoxTexts() const; ///< without mnemonics
     QString helpReference() const;
+    QString countsText() const; ///< beside the pattern
 
     /// A column by its header text or its number from 0.
     int column(const nlohmann::json& name) const;

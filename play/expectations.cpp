@@ -187,6 +187,8 @@ static Json stateOf(ScriptRun& run, const std::string& key)
         return dialog.firstVisibleMap();
     if (key == "rows")
         return dialog.model().rowCount();
+    if (key == "counts")
+        return dialog.countsText().toStdString();
     if (key == "help")
         return dialog.helpReference().toStdString();
     if (key == "window") {

@@ -114,14 +114,13 @@ void MapSelectionByPattern::setupUi()
 
 void MapSelectionByPattern::showCounts(int selectedRows, int rows)
 {
-    const QString selected = tr("%L1 of %L2 selected").arg(selectedRows).arg(rows);
-    if (!m_foundRows)
-        m_counts->setText(selected);
-    else if (*m_foundRows == 0)
-        m_counts->setText(tr("Nothing found, %1").arg(selected));
-    else
-        m_counts->setText(tr("%L1 found, %2").arg(*m_foundRows).arg(selected));
-    m_counts->setToolTip(m_counts->text());
+    const QString selected = tr("%L1 of %L2 selected");
+    const QString nothing = tr("Nothing found");
+    m_counts->setText(m_foundNothing ? nothing : selected.arg(selectedRows).arg(rows));
+    const auto widthOf = [this](const QString& text) {
+        return m_counts->fontMetrics().horizontalAdvance(text);
+    };
+    m_counts->setMinimumWidth(qMax(widthOf(nothing), widthOf(selected.arg(rows).arg(rows))));
 }
 
 QPushButton* MapSelectionByPattern::addButton(QHBoxLayout& layout, const char* objectName,
@@ -160,7 +159,7 @@ void MapSelectionByPattern::send(SelectOption_s option)
 
 void MapSelectionByPattern::selectionChanged()
 {
-    m_foundRows.reset();
+    m_foundNothing = false;
     m_properties->selectionChanged().set(true);
 }
 

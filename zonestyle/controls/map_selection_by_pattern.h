@@ -4,7 +4,6 @@
 #include <QWidget>
 
 #include <memory>
-#include <optional>
 #include <string>
 
 class QHBoxLayout;
@@ -45,7 +44,8 @@ public:
     /// Tells beside the buttons how many rows are selected; after a pattern, also how many it
     /// found.
     void showCounts(int selectedRows, int rows);
-    void setFoundRows(std::optional<int> rows) { m_foundRows = rows; } ///< nothing: no pattern
+    /// Whether the last pattern found nothing, as long as the selection is not changed by hand.
+    void setFoundNothing(bool isSo) { m_foundNothing = isSo; }
 
     void setLeastWidths(); ///< for narrow screens
 
@@ -78,7 +78,7 @@ private:
     QPushButton* m_groupsButton;
     QPushButton* m_clearButton;
     QLabel* m_counts;
-    std::optional<int> m_foundRows; ///< by the last pattern, until the selection changes by hand
+    bool m_foundNothing = false;
     std::unique_ptr<propertymanager::MapSelectionByPatternPropertiesManager> m_properties;
     std::unique_ptr<Bindings> m_bindings;
 };

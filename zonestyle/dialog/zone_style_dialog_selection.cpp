@@ -216,7 +216,7 @@ void ZoneStyleDialog::selectionPatternChanged(std::string const& pattern, Select
     if (!m_currentModel)
         return;
     const SelectionModelSignalSuspender suspender(*m_mapSelection, *m_tableView);
-    m_mapSelection->setFoundRows(std::nullopt);
+    m_mapSelection->setFoundNothing(false);
     m_countPerformer->enableNotification();
     if (pattern.empty()) {
         m_tableView->clearSelection();
@@ -228,7 +228,7 @@ void ZoneStyleDialog::selectionPatternChanged(std::string const& pattern, Select
     const QModelIndexList matches =
         m_currentModel->match(m_currentModel->index(0, byName ? 1 : 2), Qt::DisplayRole,
                               QString::fromStdString(pattern), -1, how);
-    m_mapSelection->setFoundRows(matches.size());
+    m_mapSelection->setFoundNothing(matches.isEmpty());
     selectRows(runsOf(matches));
     m_tableView->setFocus();
 }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
@@ -62,6 +63,8 @@ QString numberProblem(const QString& text, const style::Entry& entry)
     if (isInRange && (entry.isReal() || *entered == std::floor(*entered)))
         return {};
     const auto shown = [](double limit) { return QString::number(limit, 'g', 10); };
+    if (entry.maximum >= std::numeric_limits<std::int32_t>::max()) // as much as a number can be
+        return QCoreApplication::translate("Cell", "%1 or more").arg(shown(entry.minimum));
     return QCoreApplication::translate("Cell", "%1 to %2")
         .arg(shown(entry.minimum), shown(entry.maximum));
 }
