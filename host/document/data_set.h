@@ -64,7 +64,8 @@ public:
     virtual ~ZoneSource() = default;
     /// The zone, or null when it has no points or cannot be read. An ordered zone comes as a
     /// vtkStructuredGrid, vtkImageData or vtkRectilinearGrid with the dimensions of its ZoneInfo;
-    /// all others as vtkUnstructuredGrid or vtkPolyData. The caller must not change it.
+    /// all others as vtkUnstructuredGrid or vtkPolyData. It is the caller's own, but its arrays are
+    /// not to be changed. May be called from any thread.
     virtual vtkSmartPointer<vtkDataSet> zone(std::int64_t sourceIndex) const = 0;
 };
 

@@ -19,6 +19,15 @@ ZoneFileSource::ZoneFileSource(std::unique_ptr<ReadFolder> folder, std::vector<s
 
 ZoneFileSource::~ZoneFileSource() = default;
 
+/// VTK looks for rings of references whenever one to a data set goes, which two threads must not do
+/// for the same object: each caller gets one of its own about the same numbers.
+static vtkSmartPointer<vtkDataSet> separate(vtkDataSet& zone)
+{
+    auto result = vtkSmartPointer<vtkDataSet>::Take(zone.NewInstance());
+    result->ShallowCopy(&zone);
+    return result;
+}
+
 vtkSmartPointer<vtkDataSet> ZoneFileSource::zone(std::int64_t sourceIndex) const
 {
     if (sourceIndex < 0 || sourceIndex >= static_cast<std::int64_t>(m_files.size()))
@@ -27,12 +36,13 @@ vtkSmartPointer<vtkDataSet> ZoneFileSource::zone(std::int64_t sourceIndex) const
     const auto found = m_cached.find(sourceIndex);
     if (found != m_cached.end()) {
         m_cache.splice(m_cache.begin(), m_cache, found->second);
-        return found->second->data;
+        return separate(*found->second->data);
     }
     const vtkSmartPointer<vtkDataSet> data = load(sourceIndex);
-    if (data)
-        keep(sourceIndex, data);
-    return data;
+    if (!data)
+        return nullptr;
+    keep(sourceIndex, data);
+    return separate(*data);
 }
 
 bool ZoneFileSource::hasRoom() const

@@ -49,7 +49,8 @@ const PlacedSurface* BlockBuilder::surface(const BlockRecipe& recipe, const doub
     const auto surface = m_cache.surface(m_data, recipe.zone, choice);
     if (!surface)
         return nullptr;
-    placed.push_back({recipe.zone, choice, surface, laidDown(surface->shape, height), nullptr});
+    const Shape shape = laidDown(separateShape(*surface->shape), height);
+    placed.push_back({recipe.zone, choice, surface, shape, nullptr});
     return &placed.back();
 }
 

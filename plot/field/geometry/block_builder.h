@@ -15,7 +15,7 @@ struct PlacedSurface
     CvlInt64 zone = 0;
     SurfaceChoice choice;
     std::shared_ptr<const ZoneSurface> surface;
-    /// The surface's shape; in a flat plot laid down at the height of its map.
+    /// The surface's shape, of one thread only; in a flat plot laid down at the height of its map.
     vtkSmartPointer<vtkPolyData> shape;
     vtkSmartPointer<vtkCellLocator> locator; ///< null until something is picked
 };

@@ -19,6 +19,7 @@ public:
     explicit SurfaceCache(std::size_t budget = std::size_t {1} << 30) ///< bytes
         : m_budget(budget)
     {
+        runFiltersInOrder(); // before there is another thread
     }
 
     /// Null when the zone has no points or cannot be read.

@@ -5,17 +5,20 @@
 #include "plot/field/geometry/surface_builder.h"
 
 #include <vtkCell.h>
+#include <vtkCellArray.h>
 #include <vtkCellData.h>
 #include <vtkGeometryFilter.h>
 #include <vtkIdTypeArray.h>
 #include <vtkPointData.h>
 #include <vtkPointSet.h>
+#include <vtkPoints.h>
 #include <vtkSMPTools.h>
 #include <vtkTriangleFilter.h>
 
 #include <algorithm>
 #include <numeric>
 #include <set>
+#include <type_traits>
 
 namespace corvala::plot {
 
@@ -40,6 +43,28 @@ bool operator==(const SurfaceChoice& left, const SurfaceChoice& right)
     };
     return left.surfaces == right.surfaces
         && std::equal(left.planes.begin(), left.planes.end(), right.planes.begin(), equalRanges);
+}
+
+vtkSmartPointer<vtkPolyData> separateShape(vtkPolyData& shape)
+{
+    auto result = vtkSmartPointer<vtkPolyData>::New();
+    const auto separate = [](auto* shared) {
+        auto own = vtkSmartPointer<std::remove_pointer_t<decltype(shared)>>::New();
+        own->ShallowCopy(shared);
+        return own;
+    };
+    if (shape.GetPoints())
+        result->SetPoints(separate(shape.GetPoints()));
+    result->SetVerts(separate(shape.GetVerts()));
+    result->SetLines(separate(shape.GetLines()));
+    result->SetPolys(separate(shape.GetPolys()));
+    return result;
+}
+
+void runFiltersInOrder()
+{
+    static const bool isSequential = vtkSMPTools::SetBackend("Sequential");
+    static_cast<void>(isSequential);
 }
 
 std::size_t ZoneSurface::memoryUse() const
@@ -104,10 +129,6 @@ static ZoneSurface outerSurface(vtkDataSet& data)
     geometry->SetInputData(numberedStructure(data));
     // Mid-side points of quadratic faces are dropped: points made up by subdivision have no number.
     geometry->SetNonlinearSubdivisionLevel(0);
-    // Threads within the filter would give the faces another order, and with it another picture,
-    // each time.
-    static const bool isSequential = vtkSMPTools::SetBackend("Sequential");
-    static_cast<void>(isSequential);
     geometry->Update();
     return withoutValues(*withoutStrips(geometry->GetOutput()));
 }

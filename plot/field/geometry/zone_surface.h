@@ -47,6 +47,14 @@ struct ZoneSurface
     std::size_t memoryUse() const; ///< bytes
 };
 
+/// A shape with points and cells of its own about the same numbers. VTK notes things in shapes that
+/// are only looked at, and when a reference to one goes: threads must not share them.
+vtkSmartPointer<vtkPolyData> separateShape(vtkPolyData& shape);
+
+/// Filters run without threads of their own from now on: these would give faces another order, and
+/// with it another picture, each time.
+void runFiltersInOrder();
+
 /// The surface of a zone's points and cells. A volume zone gives the faces of the choice, nothing
 /// for "None" and, being without index planes, nothing for planes of a zone that is not ordered;
 /// any other zone gives all its faces, lines and points. Blanked cells are left out.

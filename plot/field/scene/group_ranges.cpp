@@ -4,6 +4,8 @@
 #include <vtkDataArray.h>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace corvala::plot {
 
@@ -52,9 +54,17 @@ GroupRanges::Range GroupRanges::rangeOf(const host::DataSet& data, const Unknown
     const host::ZoneValues values = data.values(wanted.zone, wanted.variable);
     if (!values.array || values.array->GetNumberOfTuples() == 0)
         return {};
-    double limits[2];
-    values.array->GetFiniteRange(limits, 0);
-    return {limits[0], limits[1]};
+    // The array's own range would be noted in the array, which threads share.
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    Range range {kInfinity, -kInfinity};
+    for (vtkIdType i = 0; i < values.array->GetNumberOfTuples(); ++i) {
+        const double value = values.array->GetComponent(i, 0);
+        if (std::isfinite(value)) {
+            range.minimum = std::min(range.minimum, value);
+            range.maximum = std::max(range.maximum, value);
+        }
+    }
+    return range;
 }
 
 void GroupRanges::learn(const host::DataSet& data, const Unknown& values, const Range& range)
