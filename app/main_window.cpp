@@ -117,13 +117,13 @@ void MainWindow::connectCanvas()
     plot::FrameView* view = m_plotArea->frameView();
     if (!view)
         return;
-    connect(m_menus, &MainMenus::fitWanted, view, &plot::Canvas::fitView);
-    connect(view, &plot::Canvas::zonePicked, this,
+    connect(m_menus, &MainMenus::fitWanted, view, &plot::FrameView::fitView);
+    connect(view, &plot::FrameView::zonePicked, this,
             [this](CvlInt64 zone, bool activate) { pick(PickType_Zone, zone, activate); });
-    connect(view, &plot::Canvas::lineMapPicked, this,
+    connect(view, &plot::FrameView::lineMapPicked, this,
             [this](CvlInt64 map, bool activate) { pick(PickType_LineMap, map, activate); });
-    connect(view, &plot::Canvas::workEnded, this, &MainWindow::awaitPicture);
-    connect(view, &plot::Canvas::workProgressed, this, [this](CvlInt64 done, CvlInt64 total) {
+    connect(view, &plot::FrameView::workEnded, this, &MainWindow::awaitPicture);
+    connect(view, &plot::FrameView::workProgressed, this, [this](CvlInt64 done, CvlInt64 total) {
         if (m_data->opener().isRunning())
             return;
         if (m_work->isHidden())

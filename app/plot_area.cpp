@@ -26,7 +26,6 @@ PlotArea::PlotArea(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     if (canShowCanvas()) {
         m_frameView = new plot::FrameView(this);
-        m_frameView->followActiveFrame();
         layout->addWidget(m_frameView);
         return;
     }

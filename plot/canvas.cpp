@@ -1,50 +1,50 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/canvas.h"
 
-#include "host/document/document.h"
+#include <QApplication>
+#include <QMouseEvent>
+
+#include <utility>
 
 namespace corvala::plot {
 
-struct Canvas::Subscription
+void Canvas::watch(QWidget& part)
 {
-    boost::signals2::scoped_connection connection;
-};
-
-Canvas::Canvas(QWidget* parent)
-    : QWidget(parent)
-    , m_subscription(std::make_shared<Subscription>())
-{
-    qRegisterMetaType<CvlInt64>("CvlInt64");
-    m_idle.setSingleShot(true);
-    m_idle.setInterval(0);
-    connect(&m_idle, &QTimer::timeout, this, [this] {
-        if (redraw())
-            m_idle.start();
-    });
-    m_subscription->connection = host::Document::instance().events().connect(
-        [this](const host::StateEvent& event) { documentChanged(event); });
+    part.installEventFilter(this);
 }
 
-void Canvas::setFrame(CvlUniqueId frame)
+void Canvas::resizeEvent(QResizeEvent* event)
 {
-    if (frame == m_frame)
-        return;
-    const CvlUniqueId previous = m_frame;
-    m_frame = frame;
-    frameChanged(previous);
-    requestRedraw();
+    QWidget::resizeEvent(event);
+    Q_EMIT redrawWanted();
 }
 
-void Canvas::requestRedraw()
+bool Canvas::mouseMoved(const QPointF& to, bool isPressed)
 {
-    if (!m_idle.isActive())
-        m_idle.start();
+    const double distance = (to - m_pressedAt).manhattanLength();
+    m_isDragging = isPressed && (m_isDragging || distance >= QApplication::startDragDistance());
+    return m_isDragging ? dragged(to - std::exchange(m_draggedTo, to)) : keepsMouse();
 }
 
-void Canvas::countRedraw()
+bool Canvas::eventFilter(QObject* watched, QEvent* event)
 {
-    ++m_redraws;
-    Q_EMIT redrawn();
+    const auto* const mouse = static_cast<QMouseEvent*>(event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        m_pressedAt = m_draggedTo = mouse->localPos();
+        m_isDragging = false;
+        m_isDoubleClick = event->type() == QEvent::MouseButtonDblClick;
+        return keepsMouse();
+    case QEvent::MouseMove: return mouseMoved(mouse->localPos(), mouse->buttons() != Qt::NoButton);
+    case QEvent::MouseButtonRelease:
+        if (!m_isDragging && mouse->button() == Qt::LeftButton)
+            Q_EMIT picked(numberAt(mouse->localPos()), m_isDoubleClick);
+        m_isDoubleClick = m_isDragging = false;
+        return keepsMouse();
+    case QEvent::Wheel: return wheelTurned(*static_cast<QWheelEvent*>(event));
+    default: return QWidget::eventFilter(watched, event);
+    }
 }
 
 } // namespace corvala::plot

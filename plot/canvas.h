@@ -1,85 +1,73 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "sdk/base/types.h"
+#include "plot/common/map_scene.h"
 
 #include <QImage>
-#include <QTimer>
+#include <QPointF>
 #include <QWidget>
 
-#include <memory>
+#include <any>
 
-namespace corvala::host {
-struct StateEvent;
-}
+class QWheelEvent;
 
 namespace corvala::plot {
 
-/// A widget that draws one frame of the document and follows its changes. Each kind of frame has a
-/// canvas class; FrameView picks the right one.
+/// A widget that draws frames of one kind: the picture of a scene, and the hand that moves in it.
+/// FrameView picks the canvas for a frame, tells it what changes, and when to draw.
 class Canvas : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit Canvas(QWidget* parent = nullptr);
+    using QWidget::QWidget;
 
-    CvlUniqueId frame() const { return m_frame; } ///< 0 when it draws none
-    /// Draws this frame from now on; 0, or the ID of no frame, shows an empty canvas. Keeps the
-    /// view of a frame that it drew before.
-    void setFrame(CvlUniqueId frame);
-
-    /// Draws at the next idle moment; many requests until then cost one drawing.
-    void requestRedraw();
-    /// Drawings so far; tells how far requests were coalesced.
-    int redrawCount() const { return m_redraws; }
-
+    virtual MapScene& scene() = 0;
+    /// Draws the scene as it is; may find more work.
+    virtual void draw() = 0;
     /// The frame with the present view as an image of `size` pixels, drawn without the window and
     /// complete even while work is pending. Null, with the reason in `error` (may be null), when it
     /// cannot be drawn.
     virtual QImage render(const QSize& size, QString* error) = 0;
-
     /// Why this canvas cannot draw on this machine, for the user; empty when it can.
     virtual QString problem() const { return {}; }
+    /// True while the hand moves the view: another picture follows when it rests.
+    virtual bool isBeingMoved() const { return false; }
+    /// Called after a change of the document that changed the scene.
+    virtual void sceneChanged(const host::StateEvent&) { }
 
-    /// True while a redraw or work in slices is pending.
-    virtual bool isBusy() const { return m_idle.isActive(); }
-
-public Q_SLOTS:
-    /// Shows the whole of what is drawn, as at the start.
-    virtual void fitView() = 0;
-    /// Puts pending work in slices aside; what is drawn so far stays, with a remark.
-    virtual void cancelWork() { }
-    /// Takes up again what was put aside.
-    virtual void resumeWork() { }
+    /// What is seen of the frame, for setView; an empty value shows the whole, as at the start.
+    virtual std::any view() const = 0;
+    virtual void setView(const std::any& view) = 0;
 
 Q_SIGNALS:
-    /// A click on the canvas; `zone` is 0 where there is none. A double click has `activate` true,
-    /// after the click that began it.
-    void zonePicked(CvlInt64 zone, bool activate);
-    /// As zonePicked, for line maps.
-    void lineMapPicked(CvlInt64 lineMap, bool activate);
-    /// Work in slices that takes longer goes on; `done` of `total` pieces are ready.
-    void workProgressed(CvlInt64 done, CvlInt64 total);
-    /// The last of a series of workProgressed.
-    void workEnded(bool cancelled);
-    void redrawn();
+    /// The picture is out of date for a reason of the canvas's own.
+    void redrawWanted();
+    /// A click; `number` is that of the zone or line map there, 0 without one. A double click has
+    /// `activate` true, after the click that began it.
+    void picked(CvlInt64 number, bool activate);
 
 protected:
-    /// Called when another frame is to be drawn; frame() is the new one.
-    virtual void frameChanged(CvlUniqueId previous) = 0;
-    /// Called for every change of the document while the canvas lives.
-    virtual void documentChanged(const host::StateEvent& event) = 0;
-    /// Draws, or does a slice of work; true while there is more to do at the next idle moment.
-    virtual bool redraw() = 0;
-    void countRedraw();
+    /// Takes the mouse over a part of the canvas for clicks and drags.
+    void watch(QWidget& part);
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+    virtual CvlInt64 numberAt(const QPointF& place) = 0;
+    /// The mouse drags the view by some pixels, or its wheel turns. True when the part is not to
+    /// know.
+    virtual bool dragged(const QPointF& by) = 0;
+    virtual bool wheelTurned(const QWheelEvent& wheel) = 0;
+    /// Whether presses and releases are kept from the part.
+    virtual bool keepsMouse() const { return false; }
 
 private:
-    CvlUniqueId m_frame = 0;
-    QTimer m_idle;
-    int m_redraws = 0;
-    struct Subscription;
-    std::shared_ptr<Subscription> m_subscription;
+    bool mouseMoved(const QPointF& to, bool isPressed);
+
+    QPointF m_pressedAt;
+    QPointF m_draggedTo;
+    bool m_isDoubleClick = false;
+    bool m_isDragging = false;
 };
 
 } // namespace corvala::plot

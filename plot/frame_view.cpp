@@ -2,6 +2,7 @@
 #include "plot/frame_view.h"
 
 #include "host/document/document.h"
+#include "plot/common/document_events.h"
 #include "plot/field/view/field_canvas.h"
 #include "plot/line/line_canvas.h"
 #include "plot/render.h"
@@ -9,23 +10,45 @@
 #include <QLabel>
 #include <QStackedLayout>
 
+#include <utility>
+
 namespace corvala::plot {
 
+static constexpr int kSliceMilliseconds = 30;
+static constexpr int kQuietMilliseconds = 250; ///< before work is reported as progress
+static constexpr int kFirstDrawing = 100; ///< milliseconds of work before an unfinished picture
+
+struct FrameView::Subscription
+{
+    boost::signals2::scoped_connection connection;
+};
+
+/// What the active frame shows: the plot type is PlotType_None while it has nothing to draw.
+static QPair<CvlUniqueId, int> keyOfActiveFrame()
+{
+    const host::Frame* const frame = host::Document::instance().activeFrame();
+    const bool isDrawn = frame && frame->hasData() && (frame->isFieldPlot() || frame->isLinePlot());
+    return {frame ? frame->id() : 0, isDrawn ? frame->plotType() : PlotType_None};
+}
+
 FrameView::FrameView(QWidget* parent)
-    : Canvas(parent)
+    : QWidget(parent)
+    , m_subscription(std::make_unique<Subscription>())
     , m_layout(new QStackedLayout(this))
     , m_hint(new QLabel(this))
 {
+    qRegisterMetaType<CvlInt64>("CvlInt64");
     m_hint->setAlignment(Qt::AlignCenter);
     m_layout->addWidget(m_hint);
+    m_idle.setSingleShot(true);
+    m_idle.setInterval(0);
+    connect(&m_idle, &QTimer::timeout, this, &FrameView::redraw);
+    m_subscription->connection = host::Document::instance().events().connect(
+        [this](const host::StateEvent& event) { documentChanged(event); });
+    showFrame(keyOfActiveFrame());
 }
 
-void FrameView::followActiveFrame()
-{
-    m_followsActiveFrame = true;
-    setFrame(host::Document::instance().activeFrameId());
-    chooseCanvas();
-}
+FrameView::~FrameView() = default;
 
 Canvas* FrameView::canvasOf(Kind kind)
 {
@@ -36,89 +59,151 @@ Canvas* FrameView::canvasOf(Kind kind)
         else
             canvas = new LineCanvas(this);
         m_layout->addWidget(canvas);
-        connect(canvas, &Canvas::zonePicked, this, &Canvas::zonePicked);
-        connect(canvas, &Canvas::lineMapPicked, this, &Canvas::lineMapPicked);
-        connect(canvas, &Canvas::workProgressed, this, &Canvas::workProgressed);
-        connect(canvas, &Canvas::workEnded, this, &Canvas::workEnded);
-        connect(canvas, &Canvas::redrawn, this, [this] { countRedraw(); });
+        connect(canvas, &Canvas::redrawWanted, this, &FrameView::requestRedraw);
+        connect(canvas, &Canvas::picked, this,
+                kind == Field ? &FrameView::zonePicked : &FrameView::lineMapPicked);
     }
     return canvas;
 }
 
-void FrameView::chooseCanvas()
+void FrameView::showHint()
 {
-    const host::Frame* const drawn = host::Document::instance().frame(frame());
-    Canvas* wanted = nullptr;
-    if (drawn && drawn->hasData() && drawn->isFieldPlot())
-        wanted = canvasOf(Field);
-    else if (drawn && drawn->hasData() && drawn->isLinePlot())
-        wanted = canvasOf(Line);
-    m_current = wanted;
-    if (wanted) {
-        wanted->setFrame(frame());
-        m_layout->setCurrentWidget(wanted);
-    } else {
-        const bool hasData = drawn && drawn->hasData();
-        m_hint->setText(
-            hasData ? tr("Nothing is drawn for this plot type")
-                    : tr("No data: open a file, a sample or demonstration data in the File menu"));
-        m_layout->setCurrentWidget(m_hint);
+    const host::Frame* const frame = host::Document::instance().activeFrame();
+    m_hint->setText(frame && frame->hasData()
+                        ? tr("Nothing is drawn for this plot type")
+                        : tr("No data: open a file, a sample or demonstration data in the File "
+                             "menu"));
+    m_layout->setCurrentWidget(m_hint);
+}
+
+void FrameView::showFrame(const ViewKey& key)
+{
+    m_key = key;
+    const bool isField = key.second == PlotType_Field2D || key.second == PlotType_Field3D;
+    Canvas* const wanted = key.second == PlotType_None ? nullptr : canvasOf(isField ? Field : Line);
+    if (std::exchange(m_canvas, wanted) != wanted)
+        endWork(true);
+    if (!m_canvas) {
+        showHint();
+        return;
     }
+    if (m_canvas->scene().frameId() != key.first)
+        m_canvas->scene().setFrame(key.first);
+    m_canvas->setView(m_views.value(key));
+    m_layout->setCurrentWidget(m_canvas);
+    requestRedraw();
 }
 
-void FrameView::frameChanged(CvlUniqueId)
+void FrameView::documentChanged(const host::StateEvent& event)
 {
-    chooseCanvas();
+    if (m_canvas)
+        m_views[m_key] = m_canvas->view();
+    const bool isOther = event.code == StateCode_DataSetAttached && concerns(event, m_key.first);
+    for (auto view = m_views.begin(); isOther && view != m_views.end();)
+        view = view.key().first == m_key.first ? m_views.erase(view) : std::next(view);
+    for (Canvas* const canvas : m_canvases) {
+        if (canvas && canvas->scene().apply(event)) {
+            canvas->sceneChanged(event);
+            requestRedraw();
+        }
+    }
+    const ViewKey key = keyOfActiveFrame();
+    if (key != m_key || isOther)
+        showFrame(key);
 }
 
-void FrameView::documentChanged(const host::StateEvent&)
+void FrameView::requestRedraw()
 {
-    const CvlUniqueId wanted =
-        m_followsActiveFrame ? host::Document::instance().activeFrameId() : frame();
-    if (wanted != frame())
-        setFrame(wanted);
-    else
-        chooseCanvas();
+    if (!m_idle.isActive())
+        m_idle.start();
 }
 
-bool FrameView::redraw()
+void FrameView::draw()
 {
-    if (m_current)
-        m_current->requestRedraw();
-    return false;
+    m_canvas->draw();
+    ++m_redraws;
+}
+
+/// Works on the scene for a while; more follows at the next idle moment.
+void FrameView::redraw()
+{
+    if (!m_canvas || !m_canvas->isVisible() || !m_canvas->problem().isEmpty())
+        return;
+    if (!std::exchange(m_isWorking, true)) {
+        m_work.start();
+        m_nextDrawing = kFirstDrawing;
+    }
+    MapScene& scene = m_canvas->scene();
+    if (!scene.advance(kSliceMilliseconds)) {
+        draw();
+        if (!scene.hasWork()) {
+            endWork(false);
+            return;
+        }
+    } else if (m_work.elapsed() >= m_nextDrawing) {
+        draw();
+        m_nextDrawing = 2 * m_work.elapsed();
+    }
+    if (m_work.elapsed() >= kQuietMilliseconds) {
+        const auto [done, total] = scene.progress();
+        m_isReporting = true;
+        Q_EMIT workProgressed(done, total);
+    }
+    requestRedraw();
+}
+
+void FrameView::endWork(bool cancelled)
+{
+    m_isWorking = false;
+    if (std::exchange(m_isReporting, false))
+        Q_EMIT workEnded(cancelled);
 }
 
 QImage FrameView::render(const QSize& size, QString* error)
 {
-    return m_current ? m_current->render(size, error) : renderToImage(frame(), size, error);
+    return m_canvas ? m_canvas->render(size, error) : renderToImage(m_key.first, size, error);
 }
 
 QString FrameView::problem() const
 {
-    return m_current ? m_current->problem() : QString();
-}
-
-bool FrameView::isBusy() const
-{
-    return Canvas::isBusy() || (m_current && m_current->isBusy());
+    return m_canvas ? m_canvas->problem() : QString();
 }
 
 void FrameView::fitView()
 {
-    if (m_current)
-        m_current->fitView();
+    if (m_canvas) {
+        m_canvas->setView({});
+        requestRedraw();
+    }
 }
 
 void FrameView::cancelWork()
 {
-    if (m_current)
-        m_current->cancelWork();
+    if (m_canvas && m_canvas->scene().hasWork()) {
+        m_canvas->scene().cancel();
+        endWork(true);
+        requestRedraw();
+    }
 }
 
 void FrameView::resumeWork()
 {
-    if (m_current)
-        m_current->resumeWork();
+    if (m_canvas) {
+        m_canvas->scene().resume();
+        requestRedraw();
+    }
+}
+
+void FrameView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    requestRedraw();
+}
+
+void FrameView::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    endWork(true);
 }
 
 } // namespace corvala::plot

@@ -3,51 +3,90 @@
 
 #include "plot/canvas.h"
 
+#include <QElapsedTimer>
+#include <QHash>
+#include <QTimer>
+
+#include <memory>
+
 class QLabel;
 class QStackedLayout;
 
 namespace corvala::plot {
 
-/// Draws a frame of any plot type with the canvas for it. Canvases are made when they are first
-/// needed.
-class FrameView : public Canvas
+/// Draws the active frame, of whatever plot type, with the canvas for it, and follows the changes
+/// of the document. Canvases are made when they are first needed. Whatever changes until the next
+/// idle moment costs one drawing; what takes longer is worked on in slices, with an unfinished
+/// picture now and then.
+class FrameView : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit FrameView(QWidget* parent = nullptr);
-
-    /// From now on the frame drawn is always the active one.
-    void followActiveFrame();
+    ~FrameView() override;
 
     /// The canvas that draws at present; null for a frame without data.
-    Canvas* canvas() const { return m_current; }
+    Canvas* canvas() const { return m_canvas; }
+    /// Drawings so far; tells how far requests were coalesced.
+    int redrawCount() const { return m_redraws; }
+    /// True while a drawing or work in slices is pending.
+    bool isBusy() const { return m_idle.isActive() || (m_canvas && m_canvas->isBeingMoved()); }
 
-    QImage render(const QSize& size, QString* error) override;
-    QString problem() const override;
-    bool isBusy() const override;
+    /// As of the canvas, also for a frame without data.
+    QImage render(const QSize& size, QString* error);
+    QString problem() const;
 
 public Q_SLOTS:
-    void fitView() override;
-    void cancelWork() override;
-    void resumeWork() override;
+    /// Draws at the next idle moment.
+    void requestRedraw();
+    /// Shows the whole of what is drawn, as at the start.
+    void fitView();
+    /// Puts pending work in slices aside; what is drawn so far stays, with a remark.
+    void cancelWork();
+    /// Takes up again what was put aside.
+    void resumeWork();
+
+Q_SIGNALS:
+    /// A click on a field plot; as Canvas::picked.
+    void zonePicked(CvlInt64 zone, bool activate);
+    /// As zonePicked, for line plots.
+    void lineMapPicked(CvlInt64 lineMap, bool activate);
+    /// Work in slices that takes longer goes on; `done` of `total` pieces are ready.
+    void workProgressed(CvlInt64 done, CvlInt64 total);
+    /// The last of a series of workProgressed.
+    void workEnded(bool cancelled);
 
 protected:
-    void frameChanged(CvlUniqueId previous) override;
-    void documentChanged(const host::StateEvent& event) override;
-    bool redraw() override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     enum Kind { Field, Line, KindCount };
+    using ViewKey = QPair<CvlUniqueId, int>; ///< frame and plot type
 
-    void chooseCanvas();
+    void documentChanged(const host::StateEvent& event);
+    void showFrame(const ViewKey& key);
+    void showHint();
     Canvas* canvasOf(Kind kind);
+    void redraw();
+    void draw();
+    void endWork(bool cancelled);
 
-    bool m_followsActiveFrame = false;
+    struct Subscription;
+    std::unique_ptr<Subscription> m_subscription;
     QStackedLayout* m_layout = nullptr; // not owned
     QLabel* m_hint = nullptr; // not owned
     Canvas* m_canvases[KindCount] = {}; // not owned
-    Canvas* m_current = nullptr; // not owned
+    Canvas* m_canvas = nullptr; // not owned
+    ViewKey m_key {0, 0}; ///< of what is shown
+    QHash<ViewKey, std::any> m_views; ///< of what was shown before
+    QTimer m_idle;
+    int m_redraws = 0;
+    QElapsedTimer m_work; ///< since slices began
+    qint64 m_nextDrawing = 0; ///< milliseconds of work when the picture is next refreshed
+    bool m_isWorking = false;
+    bool m_isReporting = false;
 };
 
 } // namespace corvala::plot

@@ -7,28 +7,24 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 namespace corvala::plot {
 
-const AffectedLayers* SceneKind::affectedBy(style::Key value) const
+static std::uint32_t member(CvlInt64 map)
 {
-    const AffectedLayers* const end = affected + affectedCount;
-    const AffectedLayers* const row =
-        std::find_if(affected, end, [value](const AffectedLayers& candidate) {
-            return candidate.withItsGroup ? style::isInGroupOf(value, candidate.value)
-                                          : value == candidate.value;
-        });
-    return value.isValid() && row != end ? row : nullptr;
+    return static_cast<std::uint32_t>(map);
+}
+
+static CvlInt64 countOf(const host::NumberSet& maps)
+{
+    return static_cast<CvlInt64>(maps.cardinality());
 }
 
 MapScene::MapScene(const SceneKind& kind, CvlInt64 largestScene)
     : m_kind(kind)
     , m_largestScene(largestScene)
-    , m_isVisible(kind.layerCount)
     , m_pending(kind.layerCount + 1)
-    , m_stale(kind.layerCount + 1)
     , m_cancelled(kind.layerCount + 1)
 {
 }
@@ -48,15 +44,15 @@ void MapScene::setFrame(CvlUniqueId frame)
 void MapScene::rebuild(Fresh reason)
 {
     const host::Frame* const drawn = frame();
-    for (auto* const sets : {&m_pending, &m_stale, &m_cancelled})
-        sets->assign(m_kind.layerCount + 1, {});
+    m_pending.assign(m_pending.size(), {});
+    m_cancelled.assign(m_cancelled.size(), {});
     m_shown = {};
     m_refused = {};
-    m_done = m_total = 0;
+    m_visible = 0;
+    m_done = 0;
     clear(drawn, reason);
     if (drawn) {
-        frameStyleChanged(*drawn);
-        updateVisibility(*drawn);
+        takeFrameStyle(*drawn);
         pend(m_kind.everything(), activeMaps(*drawn));
     }
 }
@@ -70,8 +66,8 @@ bool MapScene::apply(const host::StateEvent& event)
     case StateCode_DocumentCleared:
     case StateCode_DocumentLoaded:
     case StateCode_DataSetAttached:
-    case StateCode_DataSetDetached: rebuild(Fresh::Data); return true;
-    case StateCode_DataValuesChanged: rebuild(Fresh::Values); return true;
+    case StateCode_DataSetDetached:
+    case StateCode_DataValuesChanged: rebuild(Fresh::Data); return true;
     case StateCode_ZonesAdded:
     case StateCode_ZonesRemoved: rebuild(Fresh::Maps); return true;
     case StateCode_FieldMapListChanged:
@@ -111,32 +107,27 @@ bool MapScene::applyStyle(const host::StateEvent& event)
 bool MapScene::applyChange(const host::Frame& drawn, const host::StyleChange& change)
 {
     const style::Key key {change.attribute};
-    const AffectedLayers* const row = m_kind.affectedBy(key);
-    if (!row)
+    const TouchedLayers touched = m_kind.touchedBy(key);
+    if (touched.layers == 0)
         return false;
     const style::Scope scope = style::entryOf(key).scope;
     if (scope == style::Scope::FieldMap || scope == style::Scope::LineMap
         || !change.maps.isEmpty()) {
-        pend(row->layers, change.maps);
+        pend(touched.layers, change.maps);
         return !(change.maps & (m_shown | activeMaps(drawn))).isEmpty();
     }
-    frameStyleChanged(drawn);
-    updateVisibility(drawn);
+    takeFrameStyle(drawn);
     // Showing a layer costs what changed while it was off; other values of the frame touch all
     // maps.
-    pend(row->isSwitch ? static_cast<LayerMask>(row->layers & m_kind.valuesBit()) : row->layers,
-         m_shown);
+    pend(touched.isSwitch ? touched.layers & m_kind.valuesBit() : touched.layers, m_shown);
     return true;
 }
 
-void MapScene::updateVisibility(const host::Frame& drawn)
+void MapScene::takeFrameStyle(const host::Frame& drawn)
 {
-    for (std::size_t layer = 0; layer < m_kind.layerCount; ++layer) {
-        m_isVisible[layer] = isLayerOn(drawn, layer);
-        setLayerVisible(layer, m_isVisible[layer]);
-        if (m_isVisible[layer])
-            pend(static_cast<LayerMask>(1U << layer), std::exchange(m_stale[layer], {}));
-    }
+    if (!isPending(m_visible))
+        m_done = 0;
+    m_visible = showLayers(drawn) | m_kind.valuesBit();
 }
 
 void MapScene::pend(LayerMask layers, const host::NumberSet& maps)
@@ -144,104 +135,110 @@ void MapScene::pend(LayerMask layers, const host::NumberSet& maps)
     const host::Frame* const drawn = frame();
     if (!drawn || maps.isEmpty())
         return;
-    if (!MapScene::hasWork())
-        m_done = m_total = 0;
+    if (!isPending(m_visible))
+        m_done = 0;
     const host::NumberSet relevant = maps & (m_shown | activeMaps(*drawn));
+    for (std::size_t layer = 0; layer < m_pending.size(); ++layer)
+        if (layers & m_kind.everything() & maskOf(layer))
+            m_pending[layer] |= relevant;
+}
+
+bool MapScene::isPending(LayerMask layers) const
+{
+    return nextMap(layers) != 0;
+}
+
+/// The lowest map that is pending in one of the layers; 0 without.
+CvlInt64 MapScene::nextMap(LayerMask layers) const
+{
+    CvlInt64 next = 0;
     for (std::size_t layer = 0; layer < m_pending.size(); ++layer) {
-        if (!(layers & m_kind.everything() & (1U << layer)))
-            continue;
-        if (layer < m_kind.layerCount && !m_isVisible[layer]) {
-            m_stale[layer] |= relevant;
-            continue;
+        if ((layers & maskOf(layer)) && !m_pending[layer].isEmpty()) {
+            const CvlInt64 map = m_pending[layer].minimum();
+            next = next == 0 ? map : std::min(next, map);
         }
-        const std::uint64_t before = m_pending[layer].cardinality();
-        m_pending[layer] |= relevant;
-        m_total += static_cast<CvlInt64>(m_pending[layer].cardinality() - before);
     }
+    return next;
+}
+
+LayerMask MapScene::pendingLayers(CvlInt64 map, LayerMask layers) const
+{
+    LayerMask pending = 0;
+    for (std::size_t layer = 0; layer < m_pending.size(); ++layer)
+        if (m_pending[layer].contains(member(map)))
+            pending |= maskOf(layer);
+    return pending & layers;
 }
 
 bool MapScene::hasWork() const
 {
-    return std::any_of(m_pending.begin(), m_pending.end(),
-                       [](const host::NumberSet& maps) { return !maps.isEmpty(); });
+    return isPending(m_visible);
+}
+
+std::pair<CvlInt64, CvlInt64> MapScene::progress() const
+{
+    CvlInt64 left = 0;
+    for (std::size_t layer = 0; layer < m_pending.size(); ++layer)
+        left += m_visible & maskOf(layer) ? countOf(m_pending[layer]) : 0;
+    return {m_done, m_done + left};
 }
 
 void MapScene::cancel()
 {
     for (std::size_t layer = 0; layer < m_pending.size(); ++layer)
-        m_cancelled[layer] |= std::exchange(m_pending[layer], {});
-    m_done = m_total = 0;
+        if (m_visible & maskOf(layer))
+            m_cancelled[layer] |= std::exchange(m_pending[layer], {});
+    m_done = 0;
 }
 
 void MapScene::resume()
 {
     for (std::size_t layer = 0; layer < m_cancelled.size(); ++layer)
-        pend(static_cast<LayerMask>(1U << layer), std::exchange(m_cancelled[layer], {}));
+        pend(maskOf(layer), std::exchange(m_cancelled[layer], {}));
 }
 
 /// Whether a map is to be shown; it counts from then on.
 bool MapScene::take(const host::Frame& drawn, CvlInt64 map)
 {
-    const auto member = static_cast<std::uint32_t>(map);
-    m_refused.remove(member);
-    if (!activeMaps(drawn).contains(member) || !canShow(drawn, map))
+    m_refused.remove(member(map));
+    if (!activeMaps(drawn).contains(member(map)) || !canShow(drawn, map))
         return false;
-    if (!m_shown.contains(member)
-        && static_cast<CvlInt64>(m_shown.cardinality()) >= m_largestScene) {
-        m_refused.add(member);
+    if (!m_shown.contains(member(map)) && countOf(m_shown) >= m_largestScene) {
+        m_refused.add(member(map));
         return false;
     }
-    m_shown.add(member);
+    m_shown.add(member(map));
     return true;
 }
 
 void MapScene::drop(CvlInt64 map)
 {
-    const auto member = static_cast<std::uint32_t>(map);
-    if (m_shown.contains(member)) {
-        m_shown.remove(member);
+    if (m_shown.contains(member(map))) {
+        m_shown.remove(member(map));
         forget(map);
         pend(m_kind.everything(), std::exchange(m_refused, {}));
     }
 }
 
-void MapScene::workOnValues(const host::Frame& drawn)
+/// The next map. Values come first: levels have to be known before anything is coloured by them.
+void MapScene::work(const host::Frame& drawn)
 {
-    host::NumberSet& pending = m_pending[m_kind.layerCount];
-    const std::uint32_t map = pending.minimum();
-    const bool isShown = take(drawn, map);
-    if (isShown && handOverValues(drawn, map))
-        return;
-    pending.remove(map);
-    ++m_done;
-    if (isShown)
-        gather(drawn, map);
-    else
-        drop(map);
-    if (pending.isEmpty())
-        allGathered(drawn);
-}
-
-void MapScene::workOnMap(const host::Frame& drawn)
-{
-    std::uint32_t map = std::numeric_limits<std::uint32_t>::max();
-    for (std::size_t layer = 0; layer < m_kind.layerCount; ++layer)
-        if (!m_pending[layer].isEmpty())
-            map = std::min(map, m_pending[layer].minimum());
+    const LayerMask values = m_kind.valuesBit();
+    const LayerMask worked = isPending(values) ? values : m_visible;
+    const CvlInt64 map = nextMap(worked);
     const bool isShown = take(drawn, map);
     if (!isShown)
         drop(map);
-    LayerMask layers = 0;
-    for (std::size_t layer = 0; layer < m_kind.layerCount; ++layer)
-        if (m_pending[layer].contains(map))
-            layers = static_cast<LayerMask>(layers | (1U << layer));
-    const LayerMask done = sync(drawn, map, layers, isShown);
-    for (std::size_t layer = 0; layer < m_kind.layerCount; ++layer) {
-        if (done & (1U << layer)) {
-            m_pending[layer].remove(map);
+    const LayerMask done = sync(drawn, map, pendingLayers(map, worked), isShown);
+    for (std::size_t layer = 0; layer < m_pending.size(); ++layer) {
+        if (done & maskOf(layer)) {
+            m_pending[layer].remove(member(map));
+            m_cancelled[layer].remove(member(map));
             ++m_done;
         }
     }
+    if ((done & values) && !isPending(values))
+        valuesKnown(drawn);
 }
 
 bool MapScene::advance(int milliseconds)
@@ -253,24 +250,19 @@ bool MapScene::advance(int milliseconds)
         return milliseconds < 0 ? -1
                                 : std::max(milliseconds - static_cast<int>(clock.elapsed()), 0);
     };
-    while (drawn && MapScene::hasWork() && takeBack(*drawn, left())) {
-        // Values come first: levels have to be known before anything is coloured by them.
-        if (m_pending[m_kind.layerCount].isEmpty())
-            workOnMap(*drawn);
-        else
-            workOnValues(*drawn);
+    while (drawn && isPending(m_visible) && takeBack(*drawn, left())) {
+        work(*drawn);
         if (left() == 0)
             break;
     }
-    return MapScene::hasWork();
+    return isPending(m_visible);
 }
 
 QString MapScene::notice() const
 {
-    const auto shownCount = static_cast<CvlInt64>(m_shown.cardinality());
     if (!m_refused.isEmpty()) {
-        const CvlInt64 all = shownCount + static_cast<CvlInt64>(m_refused.cardinality());
-        return tr("Drawing %L1 of %L2 active maps").arg(shownCount).arg(all);
+        const CvlInt64 all = countOf(m_shown) + countOf(m_refused);
+        return tr("Drawing %L1 of %L2 active maps").arg(countOf(m_shown)).arg(all);
     }
     host::NumberSet missing;
     for (const host::NumberSet& maps : m_cancelled)

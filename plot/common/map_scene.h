@@ -1,77 +1,52 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "host/document/frame.h"
-#include "plot/common/scene.h"
-#include "vocabulary/style.h"
+#include "host/events/state_event.h"
+#include "plot/common/scene_kind.h"
 
 #include <QCoreApplication>
 
+#include <utility>
 #include <vector>
 
 namespace corvala::plot {
 
-/// One bit for each layer of a scene, and one for its values: what has to be known of all maps
-/// before any of them is drawn.
-using LayerMask = std::uint8_t;
-
-/// What a change of a style value, or of any value of its group, touches.
-struct AffectedLayers
-{
-    style::Key value;
-    bool withItsGroup = false;
-    LayerMask layers = 0;
-    bool isSwitch = false; ///< shows or hides the layers as a whole
-};
-
-/// What tells scenes of different maps apart.
-struct SceneKind
-{
-    std::size_t layerCount = 0;
-    bool hasValues = false;
-    bool (host::Frame::*isOfKind)() const = nullptr; ///< whether the scene can show a frame
-    const host::NumberSet& (host::Frame::*activeMaps)() const = nullptr;
-    StateCode_e mapListChange = StateCode_FieldMapListChanged;
-    const AffectedLayers* affected = nullptr; ///< the first row that fits a value counts
-    std::size_t affectedCount = 0;
-
-    constexpr LayerMask valuesBit() const
-    {
-        return hasValues ? static_cast<LayerMask>(1U << layerCount) : LayerMask(0);
-    }
-    constexpr LayerMask allLayers() const { return static_cast<LayerMask>((1U << layerCount) - 1); }
-    constexpr LayerMask everything() const
-    {
-        return static_cast<LayerMask>(allLayers() | valuesBit());
-    }
-    /// The row for a value; null when it is not drawn.
-    const AffectedLayers* affectedBy(style::Key value) const;
-};
-
-/// A scene whose maps are brought up to date one by one, in the layers that a change names. Layers
-/// that are off are left as they are until they are on again; maps beyond the largest scene, and
-/// work that was cancelled, wait.
-class MapScene : public virtual Scene
+/// What a canvas shows of a frame: maps that are brought up to date one by one, in the layers that
+/// a change names. Changes are taken note of at once, and worked off in slices. Layers that are off
+/// are left as they are until they are on again; maps beyond the largest scene, and work that was
+/// cancelled, wait.
+class MapScene
 {
     Q_DECLARE_TR_FUNCTIONS(corvala::plot::MapScene)
 
 public:
-    void setFrame(CvlUniqueId frame) override;
-    bool apply(const host::StateEvent& event) override;
-    bool advance(int milliseconds) override;
-    bool hasWork() const override;
-    std::pair<CvlInt64, CvlInt64> progress() const override { return {m_done, m_total}; }
-    void cancel() override;
-    void resume() override;
-    QString notice() const override;
+    virtual ~MapScene() = default;
+
+    CvlUniqueId frameId() const { return m_frame; }
+    /// Shows this frame from now on, from scratch; 0, or the ID of no frame that it can show, shows
+    /// nothing.
+    void setFrame(CvlUniqueId frame);
+    /// Takes note of a change of the document; true when the picture may differ.
+    bool apply(const host::StateEvent& event);
+
+    /// Works for about `milliseconds`; negative works until all is done. True while work is left.
+    virtual bool advance(int milliseconds);
+    virtual bool hasWork() const;
+    /// Pieces of work since there was none, done and in all.
+    virtual std::pair<CvlInt64, CvlInt64> progress() const;
+    /// Puts the work that is left aside; what it would have changed stays as it is.
+    virtual void cancel();
+    /// Takes up again what was put aside.
+    virtual void resume();
+    /// A remark for the user on what is not shown; empty without one.
+    virtual QString notice() const;
 
 protected:
-    /// Why a scene starts again.
+    /// Why a scene starts again; each includes those before.
     enum class Fresh {
+        Maps, ///< other maps, zones or plot type
         Frame, ///< another frame
-        Data, ///< other data, or none
-        Values, ///< the same zones with other values
-        Maps ///< other maps, zones or plot type
+        Data ///< other data, or none
     };
 
     MapScene(const SceneKind& kind, CvlInt64 largestScene);
@@ -79,29 +54,24 @@ protected:
     /// The frame, while it is of this kind and has data; else null.
     const host::Frame* frame() const;
     const host::NumberSet& shownMaps() const { return m_shown; }
-    bool isLayerVisible(std::size_t layer) const { return m_isVisible[layer]; }
-    /// Starts from scratch.
-    void rebuild(Fresh reason);
+    /// Asks for maps to be brought up to date in some layers.
     void pend(LayerMask layers, const host::NumberSet& maps);
 
     /// Empties the scene; `frame` may be null.
     virtual void clear(const host::Frame* frame, Fresh reason) = 0;
-    virtual bool isLayerOn(const host::Frame& frame, std::size_t layer) const = 0;
-    virtual void setLayerVisible(std::size_t layer, bool isVisible) = 0;
+    /// Takes over what the style says of the frame as a whole, and shows the layers that are on;
+    /// returns these.
+    virtual LayerMask showLayers(const host::Frame& frame) = 0;
     /// Whether there is anything of an active map to show.
     virtual bool canShow(const host::Frame& frame, CvlInt64 map) const = 0;
-    /// Brings a map up to date in some layers; one that is not shown is taken out of them. The
-    /// layers that are done: the others are asked for again when other threads have given back.
+    /// Brings a map up to date in some layers, or takes note of its values; one that is not shown
+    /// is taken out of them. The layers that are done: the others are asked for again when other
+    /// threads have given back.
     virtual LayerMask sync(const host::Frame& frame, CvlInt64 map, LayerMask layers,
                            bool isShown) = 0;
     virtual void forget(CvlInt64 map) = 0; ///< a map that is no longer shown
-
-    /// Notes the values of a map that is shown.
-    virtual void gather(const host::Frame&, CvlInt64 /*map*/) { }
-    virtual void allGathered(const host::Frame&) { }
-    virtual void frameStyleChanged(const host::Frame&) { }
-    /// True when the values of a map were given to another thread; they are asked for again.
-    virtual bool handOverValues(const host::Frame&, CvlInt64 /*map*/) { return false; }
+    /// The values of all maps have been noted.
+    virtual void valuesKnown(const host::Frame&) { }
     /// Waits at most so long for what other threads make, negative to the end; true when none
     /// works.
     virtual bool takeBack(const host::Frame&, int /*milliseconds*/) { return true; }
@@ -109,13 +79,16 @@ protected:
     virtual host::NumberSet transientMaps(const host::Frame&) const { return {}; }
 
 private:
+    void rebuild(Fresh reason);
     bool applyStyle(const host::StateEvent& event);
     bool applyChange(const host::Frame& frame, const host::StyleChange& change);
-    void updateVisibility(const host::Frame& frame);
+    void takeFrameStyle(const host::Frame& frame);
     bool take(const host::Frame& frame, CvlInt64 map);
     void drop(CvlInt64 map);
-    void workOnValues(const host::Frame& frame); ///< of the next map
-    void workOnMap(const host::Frame& frame); ///< the next one, in all layers
+    void work(const host::Frame& frame);
+    bool isPending(LayerMask layers) const;
+    LayerMask pendingLayers(CvlInt64 map, LayerMask layers) const;
+    CvlInt64 nextMap(LayerMask layers) const;
 
     const host::NumberSet& activeMaps(const host::Frame& frame) const
     {
@@ -125,15 +98,13 @@ private:
     const SceneKind& m_kind;
     CvlInt64 m_largestScene;
     CvlUniqueId m_frame = 0;
-    std::vector<bool> m_isVisible; ///< by layer
+    LayerMask m_visible = 0; ///< layers, and the values
     // By layer, the values last.
-    std::vector<host::NumberSet> m_pending;
-    std::vector<host::NumberSet> m_stale; ///< not brought up to date while invisible
+    std::vector<host::NumberSet> m_pending; ///< for layers that are invisible, until they are not
     std::vector<host::NumberSet> m_cancelled;
     host::NumberSet m_shown;
     host::NumberSet m_refused; ///< active, but beyond the largest scene
     CvlInt64 m_done = 0;
-    CvlInt64 m_total = 0;
 };
 
 } // namespace corvala::plot

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_canvas.h"
 
-#include "plot/common/document_events.h"
 #include "plot/common/picture_size.h"
 
-#include <QApplication>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QVBoxLayout>
 
 namespace corvala::plot {
@@ -14,7 +11,7 @@ namespace corvala::plot {
 static constexpr double kPickPixels = 8.0;
 
 LineCanvas::LineCanvas(QWidget* parent)
-    : SceneCanvas(parent)
+    : Canvas(parent)
     , m_widget(new QCustomPlot(this))
     , m_plot(*m_widget)
     , m_notice(new QLabel(m_widget))
@@ -23,7 +20,7 @@ LineCanvas::LineCanvas(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_widget);
     m_widget->setAccessibleName(tr("Line plot"));
-    m_widget->installEventFilter(this);
+    watch(*m_widget);
     m_notice->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_notice->setBackgroundRole(QPalette::Base);
     m_notice->setAutoFillBackground(true);
@@ -31,48 +28,23 @@ LineCanvas::LineCanvas(QWidget* parent)
     // Moved by the mouse, the plot draws itself as far as it can at once.
     connect(m_widget, &QCustomPlot::afterReplot, this, [this] {
         if (m_plot.hasWork())
-            requestRedraw();
+            Q_EMIT redrawWanted();
     });
 }
 
-void LineCanvas::keepView(CvlUniqueId frame)
+std::any LineCanvas::view() const
 {
-    const QPair<CvlUniqueId, int> key {frame, m_plot.plotType()};
-    if (m_plot.isFitted())
-        m_views.remove(key);
-    else
-        m_views[key] = m_plot.chart().range();
+    return m_plot.isFitted() ? std::any() : m_plot.chart().range();
 }
 
-void LineCanvas::restoreView()
+void LineCanvas::setView(const std::any& view)
 {
-    const auto view = m_views.constFind({frame(), m_plot.plotType()});
-    if (view != m_views.constEnd()) {
+    if (const auto* const range = std::any_cast<ChartRange>(&view)) {
         m_plot.setMoved();
-        m_plot.chart().setRange(*view);
+        m_plot.chart().setRange(*range);
+    } else {
+        m_plot.fit();
     }
-}
-
-void LineCanvas::frameChanged(CvlUniqueId previous)
-{
-    keepView(previous);
-    m_plot.setFrame(frame());
-    restoreView();
-}
-
-void LineCanvas::documentChanged(const host::StateEvent& event)
-{
-    const bool changesType = concerns(event, frame()) && namesPlotType(event);
-    if (changesType)
-        keepView(frame());
-    if (concerns(event, frame()) && event.code == StateCode_DataSetAttached) {
-        for (const int plotType : {PlotType_LineXY, PlotType_LinePolar})
-            m_views.remove({frame(), plotType});
-    }
-    if (m_plot.apply(event))
-        requestRedraw();
-    if (changesType)
-        restoreView();
 }
 
 void LineCanvas::draw()
@@ -81,54 +53,35 @@ void LineCanvas::draw()
     m_widget->replot(QCustomPlot::rpImmediateRefresh);
     m_notice->setText(m_plot.notice());
     m_notice->adjustSize();
-    countRedraw();
 }
 
 void LineCanvas::resizeEvent(QResizeEvent* event)
 {
-    SceneCanvas::resizeEvent(event);
+    Canvas::resizeEvent(event);
     m_plot.setFrameHeight(height());
-    requestRedraw();
 }
 
-void LineCanvas::fitView()
+CvlInt64 LineCanvas::numberAt(const QPointF& place)
 {
-    m_plot.fit();
-    requestRedraw();
+    return m_plot.chart().lineAt(place, kPickPixels);
 }
 
-bool LineCanvas::eventFilter(QObject* watched, QEvent* event)
+bool LineCanvas::dragged(const QPointF&)
 {
-    auto* const mouse = static_cast<QMouseEvent*>(event);
-    const auto hasMoved = [this](const QPointF& to) {
-        return (to - m_pressedAt).manhattanLength() >= QApplication::startDragDistance();
-    };
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-        m_pressedAt = mouse->localPos();
-        m_isDoubleClick = event->type() == QEvent::MouseButtonDblClick;
-        break;
-    case QEvent::MouseMove:
-        if (mouse->buttons() && hasMoved(mouse->localPos()))
-            m_plot.setMoved();
-        break;
-    case QEvent::MouseButtonRelease:
-        if (mouse->button() == Qt::LeftButton && !hasMoved(mouse->localPos())) {
-            Q_EMIT lineMapPicked(m_plot.chart().lineAt(mouse->localPos(), kPickPixels),
-                                 m_isDoubleClick);
-        }
-        break;
-    case QEvent::Wheel: m_plot.setMoved(); break;
-    default: break;
-    }
-    return SceneCanvas::eventFilter(watched, event);
+    m_plot.setMoved();
+    return false; // the plot moves by itself
+}
+
+bool LineCanvas::wheelTurned(const QWheelEvent&)
+{
+    m_plot.setMoved();
+    return false;
 }
 
 QImage LineCanvas::render(const QSize& size, QString* error)
 {
     const ChartRange range = m_plot.chart().range();
-    return drawLineImage(frame(), m_plot.isFitted() ? nullptr : &range, size, error);
+    return drawLineImage(m_plot.frameId(), m_plot.isFitted() ? nullptr : &range, size, error);
 }
 
 QImage drawLineImage(CvlUniqueId frame, const ChartRange* range, const QSize& size, QString* error)

@@ -1,53 +1,40 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "plot/canvas.h"
 #include "plot/line/line_plot.h"
-#include "plot/scene_canvas.h"
-
-#include <QHash>
-#include <QPointF>
-
-#include <utility>
 
 class QLabel;
 
 namespace corvala::plot {
 
 /// Draws XY and polar line plots.
-class LineCanvas : public SceneCanvas
+class LineCanvas : public Canvas
 {
     Q_OBJECT
 
 public:
     explicit LineCanvas(QWidget* parent = nullptr);
 
-    QImage render(const QSize& size, QString* error) override;
     LinePlot& scene() override { return m_plot; }
+    void draw() override;
+    QImage render(const QSize& size, QString* error) override;
+    std::any view() const override;
+    void setView(const std::any& view) override;
 
     /// The plot, for tests and diagnosis.
     QCustomPlot& plot() { return *m_widget; }
-    const LinePlot& linePlot() const { return m_plot; }
-
-public Q_SLOTS:
-    void fitView() override;
 
 protected:
-    void frameChanged(CvlUniqueId previous) override;
-    void documentChanged(const host::StateEvent& event) override;
-    void draw() override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    CvlInt64 numberAt(const QPointF& place) override;
+    bool dragged(const QPointF& by) override;
+    bool wheelTurned(const QWheelEvent& wheel) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void keepView(CvlUniqueId frame);
-    void restoreView();
-
     QCustomPlot* m_widget; // not owned
     LinePlot m_plot;
     QLabel* m_notice; // not owned
-    QHash<QPair<CvlUniqueId, int>, ChartRange> m_views; ///< by frame and plot type, where moved in
-    QPointF m_pressedAt;
-    bool m_isDoubleClick = false;
 };
 
 /// Draws a line frame as an image of `size` pixels, showing `range` of its axes, or all of it when

@@ -3,7 +3,6 @@
 
 #include "host/document/document.h"
 #include "plot/common/line_patterns.h"
-#include "vocabulary/layers.h"
 
 #include <algorithm>
 #include <iterator>
@@ -49,58 +48,65 @@ static LineLook linesLook(const ShownLine& line)
     return look;
 }
 
+/// What layers use besides the values of their own.
+enum Use : unsigned {
+    Assigned = 1 ///< zone, variables and axes
+};
+static constexpr SharedStyle kShared[] = {
+    {kMap.assign.zone, true, Assigned},
+    {style::activeLineMaps, false},
+};
+
 /// What tells the layers apart, in the order of LineLayer.
 struct LineLayerDescription
 {
-    const style::Layer& layer;
+    SceneLayer layer;
     LineLook (*look)(const ShownLine&);
+
+    bool isIn(const host::Frame& frame, CvlInt64 map) const
+    {
+        return frame.lineInteger(layer.style->shownForMap, map) != 0;
+    }
 };
 static constexpr LineLayerDescription kLayers[kLineLayerCount] = {
-    {style::kLinesLayer, linesLook},
+    {{&style::kLinesLayer, Assigned}, linesLook},
 };
 
-static bool appears(const LineLayerDescription& layer, const host::Frame& frame, CvlInt64 map)
+static const SceneLayer& layerAt(std::size_t number)
 {
-    return frame.lineInteger(layer.layer.shownForMap, map) != 0;
+    return kLayers[number].layer;
+}
+
+const SceneKind& lineSceneKind()
+{
+    static constexpr SceneKind kKind {&host::Frame::isLinePlot,
+                                      &host::Frame::activeLineMaps,
+                                      StateCode_LineMapListChanged,
+                                      kLineLayerCount,
+                                      layerAt,
+                                      kShared,
+                                      std::size(kShared),
+                                      0};
+    return kKind;
 }
 
 std::optional<LineLook> lookOf(LineLayer layer, const ShownLine& line)
 {
     const LineLayerDescription& description = kLayers[static_cast<std::size_t>(layer)];
-    if (!appears(description, line.frame, line.map))
+    if (!description.isIn(line.frame, line.map))
         return std::nullopt;
     return description.look(line);
 }
 
 bool isLayerOn(const host::Frame& frame, LineLayer layer)
 {
-    return frame.isOn(kLayers[static_cast<std::size_t>(layer)].layer.shown);
+    return frame.isOn(layerAt(static_cast<std::size_t>(layer)).style->shown);
 }
 
 bool isInAnyLayer(const host::Frame& frame, CvlInt64 map)
 {
     return std::any_of(std::begin(kLayers), std::end(kLayers),
-                       [&](const auto& layer) { return appears(layer, frame, map); });
-}
-
-const SceneKind& lineSceneKind()
-{
-    static constexpr LayerMask kLines = 1U << static_cast<unsigned>(LineLayer::Lines);
-    static constexpr LayerMask kAll = (1U << kLineLayerCount) - 1;
-    static constexpr AffectedLayers kAffected[] = {
-        {kMap.lines.show, true, kLines},
-        {kMap.assign.zone, true, kAll},
-        {style::linePlotLayers.showLines, false, kLines, true},
-        {style::activeLineMaps, false, kAll},
-    };
-    static constexpr SceneKind kKind {kLineLayerCount,
-                                      false,
-                                      &host::Frame::isLinePlot,
-                                      &host::Frame::activeLineMaps,
-                                      StateCode_LineMapListChanged,
-                                      kAffected,
-                                      std::size(kAffected)};
-    return kKind;
+                       [&](const auto& layer) { return layer.isIn(frame, map); });
 }
 
 } // namespace corvala::plot

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "plot/common/map_scene.h"
+#include "plot/common/scene_kind.h"
 #include "plot/line/line_ink.h"
 
 #include <optional>

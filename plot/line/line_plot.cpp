@@ -19,10 +19,8 @@ LinePlot::LinePlot(QCustomPlot& plot)
 {
 }
 
-void LinePlot::clear(const host::Frame* drawn, Fresh reason)
+void LinePlot::clear(const host::Frame* drawn, Fresh)
 {
-    if (reason == Fresh::Frame || reason == Fresh::Data)
-        fit();
     const ChartRange range = m_chart->range();
     const PlotType_e plotTypeBefore =
         std::exchange(m_plotType, drawn ? drawn->plotType() : PlotType_None);
@@ -57,14 +55,11 @@ void LinePlot::setPatience(int milliseconds)
     m_chart->setPatience(milliseconds);
 }
 
-bool LinePlot::isLayerOn(const host::Frame& drawn, std::size_t layer) const
+LayerMask LinePlot::showLayers(const host::Frame& drawn)
 {
-    return plot::isLayerOn(drawn, static_cast<LineLayer>(layer));
-}
-
-void LinePlot::setLayerVisible(std::size_t, bool isVisible)
-{
-    m_chart->setLinesVisible(isVisible);
+    const bool hasLines = isLayerOn(drawn, LineLayer::Lines);
+    m_chart->setLinesVisible(hasLines);
+    return hasLines ? maskOf(LineLayer::Lines) : 0;
 }
 
 bool LinePlot::canShow(const host::Frame& drawn, CvlInt64 map) const

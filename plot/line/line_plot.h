@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "plot/common/map_scene.h"
 #include "plot/line/line_chart.h"
 #include "plot/line/line_looks.h"
 
@@ -49,8 +50,7 @@ public:
 
 protected:
     void clear(const host::Frame* frame, Fresh reason) override;
-    bool isLayerOn(const host::Frame& frame, std::size_t layer) const override;
-    void setLayerVisible(std::size_t layer, bool isVisible) override;
+    LayerMask showLayers(const host::Frame& frame) override;
     bool canShow(const host::Frame& frame, CvlInt64 map) const override;
     LayerMask sync(const host::Frame& frame, CvlInt64 map, LayerMask layers, bool isShown) override;
     void forget(CvlInt64 map) override;

@@ -208,7 +208,7 @@ private Q_SLOTS:
         play::waitUntilIdle();
         auto* view = m_window->findChild<plot::FrameView*>();
         QVERIFY(view);
-        QSignalSpy picks(view, &plot::Canvas::zonePicked);
+        QSignalSpy picks(view, &plot::FrameView::zonePicked);
         QWidget* target = view->childAt(view->rect().center());
         play::doubleClick(target, target->rect().center() + QPoint(target->width() / 16, 5));
         QTRY_VERIFY(!picks.isEmpty() && picks.last().at(1).toBool());

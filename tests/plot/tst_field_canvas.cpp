@@ -4,7 +4,7 @@
 #include "pictures.h"
 #include "plot/common/axis_ticks.h"
 #include "plot/field/geometry/color_map.h"
-#include "plot/field/scene/local_field_scene.h"
+#include "plot/field/scene/field_scene.h"
 #include "plot/field/view/field_canvas.h"
 #include "plot/frame_view.h"
 #include "plot/render.h"
@@ -58,7 +58,6 @@ private Q_SLOTS:
     void dragAndWheelMoveTheView();
     void viewsAreKeptByFrameAndPlotType();
     void viewWidensForOtherTimes();
-    void longWorkIsReported();
     void missingOpenGlIsNamed();
     void everyPixelRatioShowsTheSame();
     void everyRunDrawsTheSame();
@@ -75,15 +74,14 @@ static QImage picture(const QSize& size = kSize)
     return image;
 }
 
-/// A canvas in a window that has drawn what there is.
-struct ShownCanvas
+/// A plot in a window that has drawn what there is.
+struct ShownPlot
 {
-    ShownCanvas()
+    ShownPlot()
     {
-        canvas.resize(kSize);
-        canvas.setFrame(document().activeFrameId());
-        canvas.show();
-        if (!QTest::qWaitForWindowExposed(&canvas))
+        view.resize(kSize);
+        view.show();
+        if (!QTest::qWaitForWindowExposed(&view))
             qWarning("the window does not appear");
         settle();
     }
@@ -91,10 +89,14 @@ struct ShownCanvas
     {
         do {
             QCoreApplication::processEvents();
-        } while (canvas.isBusy());
+        } while (view.isBusy());
         QCoreApplication::processEvents();
     }
-    QWidget* target() { return canvas.childAt(canvas.rect().center()); }
+    QWidget* target() { return view.childAt(view.rect().center()); }
+    QPoint middle() const { return view.rect().center(); }
+    QImage grabbed() { return view.grab().toImage(); }
+    FieldCanvas& canvas() { return *view.findChild<FieldCanvas*>(); }
+    FieldView& fieldView() { return canvas().fieldView(); }
     void drag(const QPoint& from, const QPoint& to)
     {
         QTest::mousePress(target(), Qt::LeftButton, {}, from);
@@ -104,7 +106,7 @@ struct ShownCanvas
         settle();
     }
 
-    FieldCanvas canvas;
+    FrameView view;
 };
 
 void tst_FieldCanvas::columnsShow_data()
@@ -434,55 +436,55 @@ void tst_FieldCanvas::windowShowsThePicture()
 {
     openDemo("field2d");
     write("FieldLayers/ShowContour", "", 1);
-    ShownCanvas shown;
-    const QImage window = shown.canvas.grab().toImage();
-    const double change = shareOfChange(window, shown.canvas.render(kSize, nullptr));
+    ShownPlot shown;
+    const QImage window = shown.grabbed();
+    const double change = shareOfChange(window, shown.view.render(kSize, nullptr));
     QVERIFY2(change < 0.05, QByteArray::number(change)); // jagged lines differ more
     write("FieldMap/Contour/Show", "all", 0);
     shown.settle();
-    QVERIFY(shareOfChange(window, shown.canvas.grab().toImage()) > 0.2);
+    QVERIFY(shareOfChange(window, shown.grabbed()) > 0.2);
 }
 
 void tst_FieldCanvas::oneRedrawPerIdleMoment()
 {
     openDemo("field2d");
-    ShownCanvas shown;
-    const int before = shown.canvas.redrawCount();
+    ShownPlot shown;
+    const int before = shown.view.redrawCount();
     for (int color = 0; color < 10; ++color)
         write("FieldMap/Mesh/Color", "all", color);
     document().undo().undo();
-    QCOMPARE(shown.canvas.redrawCount(), before);
+    QCOMPARE(shown.view.redrawCount(), before);
     shown.settle();
-    QCOMPARE(shown.canvas.redrawCount(), before + 1);
+    QCOMPARE(shown.view.redrawCount(), before + 1);
     write("FieldMap/Group", "all", 3); // draws nothing
     document().execute(host::RenameZone {1, "wing"});
     shown.settle();
-    QCOMPARE(shown.canvas.redrawCount(), before + 1);
+    QCOMPARE(shown.view.redrawCount(), before + 1);
 }
 
 void tst_FieldCanvas::hiddenCanvasDoesNothing()
 {
     openDemo("field2d");
-    ShownCanvas shown;
-    shown.canvas.hide();
+    ShownPlot shown;
+    shown.view.hide();
     shown.settle();
-    const int before = shown.canvas.redrawCount();
-    const auto& scene = dynamic_cast<LocalFieldScene&>(shown.canvas.scene());
+    const int before = shown.view.redrawCount();
+    const auto& scene = shown.canvas().scene();
     const std::int64_t built = scene.layer(FieldLayer::Mesh).counters().built;
     write("FieldMap/Mesh/LinePattern", "all", 1);
     shown.settle();
-    QCOMPARE(shown.canvas.redrawCount(), before);
+    QCOMPARE(shown.view.redrawCount(), before);
     QCOMPARE(scene.layer(FieldLayer::Mesh).counters().built, built);
-    shown.canvas.show();
+    shown.view.show();
     QTRY_COMPARE(scene.layer(FieldLayer::Mesh).counters().built, built + 12);
 }
 
 void tst_FieldCanvas::clicksPickZones()
 {
     openDemo("field2d"); // four columns, three rows, counted from the lower left
-    ShownCanvas shown;
-    QSignalSpy picked(&shown.canvas, &Canvas::zonePicked);
-    const QPoint middle = shown.canvas.rect().center();
+    ShownPlot shown;
+    QSignalSpy picked(&shown.view, &FrameView::zonePicked);
+    const QPoint middle = shown.middle();
     QTest::mouseClick(shown.target(), Qt::LeftButton, {}, middle);
     QCOMPARE(picked.size(), 1);
     const CvlInt64 zone = picked[0][0].value<CvlInt64>();
@@ -512,52 +514,50 @@ void tst_FieldCanvas::dragAndWheelMoveTheView()
 {
     for (const char* demo : {"field2d", "field3d"}) {
         openDemo(demo);
-        ShownCanvas shown;
-        const QImage fitted = shown.canvas.grab().toImage();
-        const QPoint middle = shown.canvas.rect().center();
+        ShownPlot shown;
+        const QImage fitted = shown.grabbed();
+        const QPoint middle = shown.middle();
         shown.drag(middle, middle + QPoint(60, 30));
-        const QImage dragged = shown.canvas.grab().toImage();
+        const QImage dragged = shown.grabbed();
         QVERIFY(shareOfChange(fitted, dragged) > 0.01);
         QWheelEvent wheel(middle, shown.target()->mapToGlobal(middle), {}, {0, 240}, Qt::NoButton,
                           {}, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(shown.target(), &wheel);
         shown.settle();
-        QVERIFY(shareOfChange(dragged, shown.canvas.grab().toImage()) > 0.01);
+        QVERIFY(shareOfChange(dragged, shown.grabbed()) > 0.01);
         // The picture is of the view; letters are no commands.
         QTest::keyClick(shown.target(), Qt::Key_R);
         shown.settle();
-        QVERIFY(shareOfChange(fitted, shown.canvas.render(kSize, nullptr)) > 0.01);
-        shown.canvas.fitView();
+        QVERIFY(shareOfChange(fitted, shown.view.render(kSize, nullptr)) > 0.01);
+        shown.view.fitView();
         shown.settle();
-        QVERIFY(shareOfChange(fitted, shown.canvas.grab().toImage()) < 0.001);
+        QVERIFY(shareOfChange(fitted, shown.grabbed()) < 0.001);
     }
 }
 
 void tst_FieldCanvas::viewsAreKeptByFrameAndPlotType()
 {
     openDemo("field3d");
-    ShownCanvas shown;
-    const QPoint middle = shown.canvas.rect().center();
+    ShownPlot shown;
+    const QPoint middle = shown.middle();
     shown.drag(middle, middle + QPoint(80, 40));
-    const QImage turned = shown.canvas.grab().toImage();
+    const QImage turned = shown.grabbed();
     write("PlotType", "", PlotType_Field2D);
     shown.settle();
-    const QImage flat = shown.canvas.grab().toImage();
+    const QImage flat = shown.grabbed();
     QVERIFY(shareOfChange(flat, turned) > 0.02);
     write("PlotType", "", PlotType_Field3D);
     shown.settle();
-    QVERIFY(shareOfChange(shown.canvas.grab().toImage(), turned) < 0.001);
+    QVERIFY(shareOfChange(shown.grabbed(), turned) < 0.001);
 
-    const CvlUniqueId first = document().activeFrameId();
     document().execute(host::AddFrame {});
     std::string error;
     QVERIFY(samples::openDemo("field2d", 0, error));
-    shown.canvas.setFrame(document().activeFrameId());
     shown.settle();
-    QVERIFY(shareOfChange(shown.canvas.grab().toImage(), turned) > 0.02);
-    shown.canvas.setFrame(first);
+    QVERIFY(shareOfChange(shown.grabbed(), turned) > 0.02);
+    document().execute(host::ActivateFrame {1});
     shown.settle();
-    QVERIFY(shareOfChange(shown.canvas.grab().toImage(), turned) < 0.001);
+    QVERIFY(shareOfChange(shown.grabbed(), turned) < 0.001);
 }
 
 /// A square that lies at another place at each time.
@@ -590,46 +590,24 @@ void tst_FieldCanvas::viewWidensForOtherTimes()
     }
     data->source = std::make_shared<Wanderer>();
     document().execute(host::AttachData {{}, data, PlotType_Field2D, 0});
-    ShownCanvas shown;
-    const auto right = [&] { return shown.canvas.view().camera().fitBox.GetMaxPoint()[0]; };
+    ShownPlot shown;
+    const auto right = [&] { return shown.fieldView().camera().fitBox.GetMaxPoint()[0]; };
     QCOMPARE(right(), 1.0);
     document().execute(host::SetSolutionTime {2.0});
     shown.settle();
     QCOMPARE(right(), 21.0);
-    QCOMPARE(shown.canvas.view().camera().fitBox.GetMinPoint()[0], 0.0);
+    QCOMPARE(shown.fieldView().camera().fitBox.GetMinPoint()[0], 0.0);
     document().execute(host::SetSolutionTime {1.0}); // inside of what is seen already
     shown.settle();
     QCOMPARE(right(), 21.0);
-    shown.canvas.fitView();
+    shown.view.fitView();
     shown.settle();
     QCOMPARE(right(), 11.0);
-    const QPoint middle = shown.canvas.rect().center();
+    const QPoint middle = shown.middle();
     shown.drag(middle, middle + QPoint(60, 30));
     document().execute(host::SetSolutionTime {2.0}); // the user's view stays
     shown.settle();
     QCOMPARE(right(), 11.0);
-}
-
-void tst_FieldCanvas::longWorkIsReported()
-{
-    openDemo("field2d", 6000);
-    FieldCanvas canvas;
-    canvas.resize(kSize);
-    canvas.setFrame(document().activeFrameId());
-    QSignalSpy progressed(&canvas, &Canvas::workProgressed);
-    QSignalSpy ended(&canvas, &Canvas::workEnded);
-    canvas.show();
-    QTRY_VERIFY_WITH_TIMEOUT(!progressed.isEmpty(), 60000);
-    QVERIFY(canvas.isBusy());
-    canvas.cancelWork();
-    QCOMPARE(ended.size(), 1);
-    QCOMPARE(ended[0][0].toBool(), true);
-    QTRY_VERIFY_WITH_TIMEOUT(!canvas.isBusy(), 60000);
-    QVERIFY(!canvas.scene().notice().isEmpty());
-    canvas.resumeWork();
-    QTRY_VERIFY_WITH_TIMEOUT(!canvas.isBusy(), 60000);
-    QVERIFY(canvas.scene().notice().isEmpty());
-    QCOMPARE(ended.last()[0].toBool(), false);
 }
 
 /// What this program prints with some variables of the environment set.
@@ -719,12 +697,12 @@ static int reportPictures()
 static int reportZones()
 {
     openDemo("field2d");
-    ShownCanvas shown;
-    shown.canvas.resize(300, 200);
+    ShownPlot shown;
+    shown.view.resize(300, 200);
     shown.settle();
-    for (int y = 4; y < shown.canvas.height(); y += 8)
-        for (int x = 4; x < shown.canvas.width(); x += 8)
-            std::printf("%d ", static_cast<int>(shown.canvas.view().zoneAt(QPointF(x, y))));
+    for (int y = 4; y < shown.view.height(); y += 8)
+        for (int x = 4; x < shown.view.width(); x += 8)
+            std::printf("%d ", static_cast<int>(shown.fieldView().zoneAt(QPointF(x, y))));
     return 0;
 }
 
@@ -732,14 +710,13 @@ static int reportZones()
 static int reportOpenGl()
 {
     openDemo("field2d");
-    FieldCanvas canvas;
-    canvas.setFrame(document().activeFrameId());
-    canvas.resize(kSize);
-    canvas.show();
+    FrameView view;
+    view.resize(kSize);
+    view.show();
     QCoreApplication::processEvents();
     QString error;
-    const bool hasPicture = !canvas.render(kSize, &error).isNull();
-    std::printf("%s %s %s\n", qPrintable(canvas.problem()), qPrintable(error),
+    const bool hasPicture = !view.render(kSize, &error).isNull();
+    std::printf("%s %s %s\n", qPrintable(view.problem()), qPrintable(error),
                 hasPicture ? "a picture" : "no picture, no crash");
     return 0;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "plot/field/scene/local_field_scene.h"
+#include "plot/field/scene/field_scene.h"
 #include "plot_document.h"
 
 #include <vtkActor.h>
@@ -57,19 +57,19 @@ private Q_SLOTS:
 
 private:
     void makeScene(const char* demo, std::int64_t scale = 0,
-                   CvlInt64 largest = LocalFieldScene::kLargestScene);
+                   CvlInt64 largest = FieldScene::kLargestScene);
     const CompositeLayer& layer(FieldLayer layer) { return m_scene->layer(layer); }
     CompositeLayer::Counters counters(FieldLayer layer) { return m_scene->layer(layer).counters(); }
     void work()
     {
         m_scene->advance(-1);
-        m_scene->setScale({800, 10.0, 1.0});
+        m_scene->prepare({800, 10.0, 1.0});
     }
     CvlInt64 zoneBelow(double x, double y);
 
     vtkNew<vtkRenderer> m_back;
     vtkNew<vtkRenderer> m_front;
-    std::unique_ptr<LocalFieldScene> m_scene;
+    std::unique_ptr<FieldScene> m_scene;
     boost::signals2::scoped_connection m_connection;
 };
 
@@ -77,8 +77,8 @@ void tst_FieldScene::makeScene(const char* demo, std::int64_t scale, CvlInt64 la
 {
     m_connection.disconnect();
     openDemo(demo, scale);
-    m_scene = std::make_unique<LocalFieldScene>(*m_back, *m_front, std::make_shared<SurfaceCache>(),
-                                                largest);
+    m_scene =
+        std::make_unique<FieldScene>(*m_back, *m_front, std::make_shared<SurfaceCache>(), largest);
     m_scene->setFrame(document().activeFrameId());
     m_connection = document().events().connect(
         [this](const host::StateEvent& event) { m_scene->apply(event); });
@@ -430,7 +430,7 @@ void tst_FieldScene::changesOfTheDocument()
 }
 
 /// What a scene draws, to compare: by layer the number of mappers, blocks and cells.
-static QStringList contents(const LocalFieldScene& scene)
+static QStringList contents(const FieldScene& scene)
 {
     QStringList result;
     for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
@@ -486,10 +486,10 @@ void tst_FieldScene::samePictureAsFromScratch()
     work();
     vtkNew<vtkRenderer> back;
     vtkNew<vtkRenderer> front;
-    LocalFieldScene fresh(*back, *front, std::make_shared<SurfaceCache>());
+    FieldScene fresh(*back, *front, std::make_shared<SurfaceCache>());
     fresh.setFrame(document().activeFrameId());
     fresh.advance(-1);
-    fresh.setScale({800, 10.0, 1.0});
+    fresh.prepare({800, 10.0, 1.0});
     QCOMPARE(contents(*m_scene), contents(fresh));
     QCOMPARE(drawnOrder(*m_back), drawnOrder(*back));
     QVERIFY(m_scene->groups().levels(1) == fresh.groups().levels(1));
@@ -547,13 +547,13 @@ void tst_FieldScene::largeZonesAreMadeElsewhere()
     write("ContourGroups/Var", "", 2, 1); // and are others, while something is being made
     QTRY_VERIFY(!m_scene->advance(1));
     QVERIFY(!source->m_askedHere);
-    m_scene->setScale({800, 10.0, 1.0});
+    m_scene->prepare({800, 10.0, 1.0});
     vtkNew<vtkRenderer> back;
     vtkNew<vtkRenderer> front;
-    LocalFieldScene waited(*back, *front, std::make_shared<SurfaceCache>());
+    FieldScene waited(*back, *front, std::make_shared<SurfaceCache>());
     waited.setFrame(document().activeFrameId());
     waited.advance(-1);
-    waited.setScale({800, 10.0, 1.0});
+    waited.prepare({800, 10.0, 1.0});
     QCOMPARE(contents(*m_scene), contents(waited));
     QVERIFY(m_scene->groups().levels(1) == waited.groups().levels(1));
     write("FieldMap/Mesh/LinePattern", "1", 1);

@@ -53,22 +53,24 @@ struct ShownCanvas
 {
     ShownCanvas()
     {
-        canvas.resize(kSize);
-        canvas.setFrame(document().activeFrameId());
-        canvas.show();
+        view.resize(kSize);
+        view.show();
         settle();
     }
     void settle()
     {
         do {
             QCoreApplication::processEvents();
-        } while (canvas.isBusy());
+        } while (view.isBusy());
     }
-    const LineInk& ink() const { return canvas.linePlot().chart().ink(); }
-    const LineInk::Line& line(int map) const { return ink().lines().at(map); }
-    int lineCount() const { return static_cast<int>(ink().lines().size()); }
+    LineCanvas& canvas() { return *view.findChild<LineCanvas*>(); }
+    LinePlot& scene() { return canvas().scene(); }
+    QCustomPlot& plot() { return canvas().plot(); }
+    const LineInk& ink() { return scene().chart().ink(); }
+    const LineInk::Line& line(int map) { return ink().lines().at(map); }
+    int lineCount() { return static_cast<int>(ink().lines().size()); }
 
-    LineCanvas canvas;
+    FrameView view;
 };
 
 void tst_LineCanvas::curvesOfActiveMaps()
@@ -82,7 +84,7 @@ void tst_LineCanvas::curvesOfActiveMaps()
     QCOMPARE(shown.lineCount(), 5);
     write("LinePlotLayers/ShowLines", "", 0);
     shown.settle();
-    QVERIFY(!shown.canvas.linePlot().chart().areLinesVisible());
+    QVERIFY(!shown.scene().chart().areLinesVisible());
     document().undo().undo();
     document().undo().undo();
     shown.settle();
@@ -134,20 +136,20 @@ void tst_LineCanvas::editsTouchWhatTheyName()
 {
     openDemo("xy", 50);
     ShownCanvas shown;
-    const std::int64_t before = shown.canvas.linePlot().syncCount();
-    const int redraws = shown.canvas.redrawCount();
+    const std::int64_t before = shown.scene().syncCount();
+    const int redraws = shown.view.redrawCount();
     write("LineMap/Lines/Color", "3,7", 9);
     write("LineMap/Lines/LineThickness", "7", 1);
     shown.settle();
-    QCOMPARE(shown.canvas.linePlot().syncCount() - before, 2);
-    QCOMPARE(shown.canvas.redrawCount(), redraws + 1);
+    QCOMPARE(shown.scene().syncCount() - before, 2);
+    QCOMPARE(shown.view.redrawCount(), redraws + 1);
     write("LineMap/Curves/NumPts", "all", 100); // not drawn
     write("FieldMap/Mesh/Color", "1", 3);
     shown.settle();
-    QCOMPARE(shown.canvas.redrawCount(), redraws + 1);
+    QCOMPARE(shown.view.redrawCount(), redraws + 1);
     write("LineMap/Assign/YAxisVar", "3", 5);
     shown.settle();
-    QCOMPARE(shown.canvas.linePlot().syncCount() - before, 3);
+    QCOMPARE(shown.scene().syncCount() - before, 3);
     QVERIFY(shown.line(3).points.y(50) != shown.line(9).points.y(50));
 }
 
@@ -158,7 +160,7 @@ void tst_LineCanvas::zonesWithoutTheVariable()
     write("PlotType", "", PlotType_LineXY);
     ShownCanvas shown;
     QCOMPARE(shown.lineCount(), 2);
-    QVERIFY(!shown.canvas.render(kSize, nullptr).isNull());
+    QVERIFY(!shown.view.render(kSize, nullptr).isNull());
     document().execute(host::DetachData {});
     shown.settle();
     QCOMPARE(shown.lineCount(), 0);
@@ -179,15 +181,15 @@ void tst_LineCanvas::polarLines()
 
     // From one kind of axes to the other and back.
     ShownCanvas shown;
-    QVERIFY(shown.canvas.linePlot().isPolar());
+    QVERIFY(shown.scene().isPolar());
     write("PlotType", "", PlotType_LineXY);
     shown.settle();
-    QVERIFY(!shown.canvas.linePlot().isPolar());
+    QVERIFY(!shown.scene().isPolar());
     QCOMPARE(shown.lineCount(), 0);
     document().undo().undo();
     document().undo().undo();
     shown.settle();
-    QVERIFY(shown.canvas.linePlot().isPolar());
+    QVERIFY(shown.scene().isPolar());
 }
 
 void tst_LineCanvas::titles()
@@ -195,7 +197,7 @@ void tst_LineCanvas::titles()
     openDemo("xy");
     ShownCanvas shown;
     const auto title = [&](QCPAxis::AxisType side) {
-        return shown.canvas.plot().axisRect()->axis(side)->label();
+        return shown.plot().axisRect()->axis(side)->label();
     };
     QCOMPARE(title(QCPAxis::atBottom), QStringLiteral("Time"));
     QCOMPARE(title(QCPAxis::atLeft), QStringLiteral("Force, Moment, Power"));
@@ -209,7 +211,7 @@ void tst_LineCanvas::axesInUse()
 {
     openDemo("xy");
     ShownCanvas shown;
-    QCPAxisRect& box = *shown.canvas.plot().axisRect();
+    QCPAxisRect& box = *shown.plot().axisRect();
     const auto visible = [&](QCPAxis::AxisType side) {
         QList<QCPAxis*> axes = box.axes(side);
         axes.erase(std::remove_if(axes.begin(), axes.end(),
@@ -234,12 +236,12 @@ void tst_LineCanvas::axesInUse()
     const Polyline& points = shown.line(1).points;
     const QPoint place(static_cast<int>(box.axis(QCPAxis::atBottom)->coordToPixel(points.x(70))),
                        static_cast<int>(second.coordToPixel(points.y(70))));
-    QSignalSpy picked(&shown.canvas, &Canvas::lineMapPicked);
-    QTest::mouseClick(&shown.canvas.plot(), Qt::LeftButton, {}, place);
+    QSignalSpy picked(&shown.view, &FrameView::lineMapPicked);
+    QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, place);
     QCOMPARE(picked.last()[0].value<CvlInt64>(), 1);
 
     // Moved, they stay where they are, also while another plot type is shown.
-    turnWheel(shown.canvas.plot(), shown.canvas.plot().rect().center());
+    turnWheel(shown.plot(), shown.plot().rect().center());
     shown.settle();
     const QCPRange moved = second.range();
     QVERIFY(moved.upper < 340.0);
@@ -247,10 +249,10 @@ void tst_LineCanvas::axesInUse()
         write("PlotType", "", plotType);
         shown.settle();
     }
-    QCOMPARE(shown.canvas.plot().axisRect()->axes(QCPAxis::atRight)[1]->range(), moved);
+    QCOMPARE(shown.plot().axisRect()->axes(QCPAxis::atRight)[1]->range(), moved);
     write("LineMap/Assign/YAxis", "1,4", 1);
     shown.settle();
-    QVERIFY(!shown.canvas.plot().axisRect()->axes(QCPAxis::atRight)[1]->visible());
+    QVERIFY(!shown.plot().axisRect()->axes(QCPAxis::atRight)[1]->visible());
 }
 
 void tst_LineCanvas::clickPicksALine()
@@ -258,35 +260,35 @@ void tst_LineCanvas::clickPicksALine()
     openDemo("xy");
     write("LineMap/Lines/Show", "2-6", 0);
     ShownCanvas shown;
-    QSignalSpy picked(&shown.canvas, &Canvas::lineMapPicked);
-    const QCPAxisRect& axes = *shown.canvas.plot().axisRect();
+    QSignalSpy picked(&shown.view, &FrameView::lineMapPicked);
+    const QCPAxisRect& axes = *shown.plot().axisRect();
     const QPoint place =
         QPointF(axes.axis(QCPAxis::atBottom)->coordToPixel(shown.line(1).points.x(30)),
                 axes.axis(QCPAxis::atLeft)->coordToPixel(shown.line(1).points.y(30)))
             .toPoint();
-    QTest::mouseClick(&shown.canvas.plot(), Qt::LeftButton, {}, place);
+    QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, place);
     QCOMPARE(picked.size(), 1);
     QCOMPARE(picked[0][0].value<CvlInt64>(), 1);
-    QTest::mouseDClick(&shown.canvas.plot(), Qt::LeftButton, {}, place);
-    QTest::mouseRelease(&shown.canvas.plot(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(&shown.plot(), Qt::LeftButton, {}, place);
+    QTest::mouseRelease(&shown.plot(), Qt::LeftButton, {}, place);
     QCOMPARE(picked.last()[1].toBool(), true);
-    QTest::mouseClick(&shown.canvas.plot(), Qt::LeftButton, {}, {3, 3});
+    QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, {3, 3});
     QCOMPARE(picked.last()[0].value<CvlInt64>(), 0);
 
     // In a polar plot, also after another radius has come to its middle.
     std::string error;
     QVERIFY(samples::openDemo("polar", 0, error));
     shown.settle();
-    turnWheel(shown.canvas.plot(), shown.canvas.plot().rect().center() + QPoint(100, 0));
+    turnWheel(shown.plot(), shown.plot().rect().center() + QPoint(100, 0));
     shown.settle();
     const auto* angle =
-        qobject_cast<QCPPolarAxisAngular*>(shown.canvas.plot().plotLayout()->element(0, 0));
+        qobject_cast<QCPPolarAxisAngular*>(shown.plot().plotLayout()->element(0, 0));
     QVERIFY(angle && angle->radialAxis()->range().lower > 0.1);
     const auto value = [](CvlInt64 variable) {
         return document().activeFrame()->data()->values(1, variable).array->GetComponent(30, 0);
     };
     const QPointF point = angle->radialAxis()->coordToPixel(value(6), value(7));
-    QTest::mouseClick(&shown.canvas.plot(), Qt::LeftButton, {}, point.toPoint());
+    QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, point.toPoint());
     QCOMPARE(picked.last()[0].value<CvlInt64>(), 1);
 }
 
@@ -294,11 +296,9 @@ void tst_LineCanvas::viewsAreKept()
 {
     openDemo("xy");
     ShownCanvas shown;
-    const auto across = [&] {
-        return shown.canvas.plot().axisRect()->axis(QCPAxis::atBottom)->range();
-    };
+    const auto across = [&] { return shown.plot().axisRect()->axis(QCPAxis::atBottom)->range(); };
     const QCPRange fitted = across();
-    turnWheel(shown.canvas.plot(), shown.canvas.plot().rect().center());
+    turnWheel(shown.plot(), shown.plot().rect().center());
     shown.settle();
     const QCPRange moved = across();
     QVERIFY(moved.size() < 0.9 * fitted.size());
@@ -336,11 +336,11 @@ void tst_LineCanvas::largestPlot()
     openDemo("xy", LinePlot::kLargestPlot + 5);
     ShownCanvas shown;
     QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot));
-    QVERIFY(!shown.canvas.linePlot().notice().isEmpty());
+    QVERIFY(!shown.scene().notice().isEmpty());
     write("LineMap/Lines/Show", "1-10", 0);
     shown.settle();
     QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot) - 5);
-    QVERIFY(shown.canvas.linePlot().notice().isEmpty());
+    QVERIFY(shown.scene().notice().isEmpty());
 }
 
 /// A zone of points without any order.
@@ -372,26 +372,26 @@ void tst_LineCanvas::longWorkIsReported()
     data->zones = {zone};
     data->source = std::make_shared<Cloud>();
     document().execute(host::AttachData {{}, data, PlotType_LineXY, 1});
-    LineCanvas canvas;
-    canvas.resize(kSize);
-    canvas.setFrame(document().activeFrameId());
-    QSignalSpy progressed(&canvas, &Canvas::workProgressed);
-    QSignalSpy ended(&canvas, &Canvas::workEnded);
-    canvas.show();
+    FrameView view;
+    view.resize(kSize);
+    QSignalSpy progressed(&view, &FrameView::workProgressed);
+    QSignalSpy ended(&view, &FrameView::workEnded);
+    auto& canvas = dynamic_cast<LineCanvas&>(*view.canvas());
+    view.show();
     QTRY_VERIFY_WITH_TIMEOUT(!progressed.isEmpty(), 60000);
-    canvas.cancelWork();
-    QTRY_VERIFY(!canvas.isBusy());
+    view.cancelWork();
+    QTRY_VERIFY(!view.isBusy());
     QCOMPARE(ended.takeFirst()[0].toBool(), true);
-    const LineInk& ink = canvas.linePlot().chart().ink();
+    const LineInk& ink = canvas.scene().chart().ink();
     QCOMPARE(ink.missingCount(), std::int64_t(1));
-    QVERIFY(!canvas.linePlot().notice().isEmpty());
-    canvas.resumeWork();
-    QTRY_VERIFY_WITH_TIMEOUT(!canvas.isBusy(), 60000);
+    QVERIFY(!canvas.scene().notice().isEmpty());
+    view.resumeWork();
+    QTRY_VERIFY_WITH_TIMEOUT(!view.isBusy(), 60000);
     QCOMPARE(ended.takeFirst()[0].toBool(), false);
     QCOMPARE(ink.progress().first, ink.progress().second);
     const QImage drawn = ink.picture();
     canvas.plot().replot(); // for the same view nothing is drawn again
-    QVERIFY(!canvas.isBusy());
+    QVERIFY(!view.isBusy());
     QCOMPARE(ink.picture(), drawn);
 }
 
@@ -400,7 +400,6 @@ void tst_LineCanvas::viewChoosesTheCanvas()
     document().clear();
     FrameView view;
     view.resize(kSize);
-    view.followActiveFrame();
     view.show();
     QVERIFY(!view.canvas());
     std::string error;
@@ -421,7 +420,7 @@ void tst_LineCanvas::viewChoosesTheCanvas()
     document().execute(host::AddFrame {});
     QVERIFY(!view.canvas());
     document().execute(host::ActivateFrame {1});
-    QCOMPARE(view.canvas()->frame(), first);
+    QCOMPARE(view.canvas()->scene().frameId(), first);
 }
 
 QTEST_MAIN(tst_LineCanvas)

@@ -32,6 +32,15 @@ inline bool operator<(const MapperLook& left, const MapperLook& right)
 {
     return left.tied() < right.tied();
 }
+inline bool operator==(const MapperLook& left, const MapperLook& right)
+{
+    return left.tied() == right.tied();
+}
+
+inline bool isSameColor(const host::Rgb& left, const host::Rgb& right)
+{
+    return left.red == right.red && left.green == right.green && left.blue == right.blue;
+}
 
 /// How one map looks in one layer.
 struct BlockLook

@@ -110,30 +110,13 @@ void CompositeLayer::Bucket::setWidestLine(double pixels)
     }
 }
 
-void CompositeLayer::Bucket::add(CvlInt64 map, vtkPolyData* data, const host::Rgb& color)
-{
-    m_blocks[map] = {data, color};
-    m_isArranged = false;
-}
-
-void CompositeLayer::Bucket::remove(CvlInt64 map)
-{
-    m_blocks.erase(map);
-    m_isArranged = false;
-}
-
-void CompositeLayer::Bucket::setColor(CvlInt64 map, const host::Rgb& color)
-{
-    m_blocks.at(map).color = color;
-    m_isArranged = false;
-}
-
 /// The mapper draws its blocks in the order of their addresses, and what is drawn later covers what
-/// lies in the same place. So the mapper gets shells, and the maps take them in ascending order.
-void CompositeLayer::Bucket::arrange()
+/// lies in the same place. So the mapper gets shells, which the blocks take in ascending order.
+void CompositeLayer::Bucket::setBlocks(std::vector<Block> blocks)
 {
-    if (std::exchange(m_isArranged, true))
+    if (std::equal(blocks.begin(), blocks.end(), m_blocks.begin(), m_blocks.end()))
         return;
+    m_blocks = std::move(blocks);
     const std::size_t count = m_blocks.size();
     while (m_shells.size() < count)
         m_shells.push_back({vtkSmartPointer<vtkPolyData>::New(), nullptr});
@@ -143,18 +126,17 @@ void CompositeLayer::Bucket::arrange()
     });
     m_attributes->RemoveBlockColors();
     m_drawn->SetNumberOfBlocks(static_cast<unsigned int>(count));
-    unsigned int position = 0;
-    for (const auto& [map, block] : m_blocks) {
-        Shell& shell = m_shells[position];
-        if (shell.source != block.data) {
-            shell.source = block.data;
-            shell.data->ShallowCopy(block.data);
+    for (std::size_t i = 0; i < count; ++i) {
+        Shell& shell = m_shells[i];
+        if (shell.source != m_blocks[i].data) {
+            shell.source = m_blocks[i].data;
+            shell.data->ShallowCopy(shell.source);
         }
-        const host::Rgb& color = block.color;
+        const host::Rgb& color = m_blocks[i].color;
         const double parts[3] = {color.red / 255.0, color.green / 255.0, color.blue / 255.0};
         if (hasBlockColors())
             m_attributes->SetBlockColor(shell.data, parts);
-        m_drawn->SetBlock(position++, shell.data);
+        m_drawn->SetBlock(static_cast<unsigned int>(i), shell.data);
     }
     m_mapper->Modified();
 }

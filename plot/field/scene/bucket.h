@@ -11,7 +11,6 @@
 #include <vtkTexture.h>
 #include <vtkTransform.h>
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -21,20 +20,24 @@ namespace corvala::plot {
 class CompositeLayer::Bucket
 {
 public:
+    struct Block
+    {
+        vtkSmartPointer<vtkPolyData> data;
+        host::Rgb color;
+
+        bool operator==(const Block& other) const
+        {
+            return data == other.data && isSameColor(color, other.color);
+        }
+    };
+
     Bucket(const MapperLook& look, FieldLayer layer, bool flat);
 
     const MapperLook& look() const { return m_look; }
     vtkActor* actor() const { return m_actor; }
-    bool isEmpty() const { return m_blocks.empty(); }
-    CvlInt64 lowestMap() const { return m_blocks.begin()->first; }
 
-    void add(CvlInt64 map, vtkPolyData* data, const host::Rgb& color);
-    void remove(CvlInt64 map);
-    void setColor(CvlInt64 map, const host::Rgb& color);
-    /// Brings the order in which blocks are drawn in line with the numbers of their maps; call
-    /// before drawing.
-    void arrange();
-
+    /// What is drawn, in this order.
+    void setBlocks(std::vector<Block> blocks);
     void setScale(const ViewScale& scale);
     void updateLevels(const ContourGroups& groups);
     /// Moves faces far enough back for lines of this width to be whole.
@@ -42,11 +45,6 @@ public:
     double linePixels() const { return m_linePixels; }
 
 private:
-    struct Block
-    {
-        vtkSmartPointer<vtkPolyData> data;
-        host::Rgb color;
-    };
     /// What the mapper is given: a shallow copy of the data of a block.
     struct Shell
     {
@@ -69,9 +67,8 @@ private:
     double m_linePixels = 1.0;
     float m_layersInFront = -1.0F; ///< of faces, from this one to the last; negative for others
     int m_textureBands = 0;
-    std::map<CvlInt64, Block> m_blocks;
+    std::vector<Block> m_blocks;
     std::vector<Shell> m_shells;
-    bool m_isArranged = true;
 };
 
 } // namespace corvala::plot

@@ -20,68 +20,58 @@ CompositeLayer::CompositeLayer(FieldLayer layer, bool flat, vtkRenderer& back, v
 
 CompositeLayer::~CompositeLayer()
 {
-    clear();
+    for (const auto& bucket : m_buckets)
+        rendererOf(bucket->look()).RemoveActor(bucket->actor());
 }
 
-void CompositeLayer::clear()
+/// The blocks by look, in the order of the lowest map of each part; `byRun` begins a part anew
+/// after maps that look otherwise.
+std::vector<CompositeLayer::Part> CompositeLayer::parts(bool byRun) const
 {
-    m_blocks.clear();
-    m_blockCount = 0;
-    for (const auto& [look, bucket] : m_buckets)
-        (look.inFront ? m_front : m_back).RemoveActor(bucket->actor());
+    std::vector<Part> parts;
+    std::map<MapperLook, std::size_t> open;
+    for (auto block = m_blocks.begin(); block != m_blocks.end(); ++block) {
+        if (!block->second.data)
+            continue;
+        const MapperLook& look = block->second.look.mapper;
+        if (byRun && open.count(look) == 0)
+            open.clear();
+        const auto part = open.try_emplace(look, parts.size());
+        if (part.second)
+            parts.emplace_back();
+        parts[part.first->second].push_back(block);
+    }
+    return parts;
+}
+
+void CompositeLayer::arrange()
+{
+    std::vector<Part> drawn = parts(!m_flat);
+    if (drawn.size() > kMostMappers)
+        drawn = parts(false);
+    std::multimap<MapperLook, std::unique_ptr<Bucket>> free;
+    for (std::unique_ptr<Bucket>& bucket : m_buckets)
+        free.emplace(bucket->look(), std::move(bucket));
     m_buckets.clear();
-}
-
-CompositeLayer::Bucket& CompositeLayer::bucketOf(const MapperLook& look)
-{
-    std::unique_ptr<Bucket>& bucket = m_buckets[look];
-    if (!bucket) {
-        bucket = std::make_unique<Bucket>(look, m_layer, m_flat);
-        bucket->setScale(m_scale);
-        bucket->actor()->SetVisibility(m_visible && !m_hidden);
-        (look.inFront ? m_front : m_back).AddActor(bucket->actor());
-    }
-    return *bucket;
-}
-
-void CompositeLayer::place(Block& block)
-{
-    if (block.data) {
-        block.bucket = &bucketOf(block.look.mapper);
-        block.bucket->add(block.map, block.data, block.look.color);
-        ++m_blockCount;
-    }
-}
-
-void CompositeLayer::remove(Block& block)
-{
-    if (block.bucket) {
-        block.bucket->remove(block.map);
-        block.bucket = nullptr;
-        --m_blockCount;
-    }
-}
-
-void CompositeLayer::dropEmptyBuckets()
-{
-    for (auto it = m_buckets.begin(); it != m_buckets.end();) {
-        if (it->second->isEmpty()) {
-            (it->first.inFront ? m_front : m_back).RemoveActor(it->second->actor());
-            it = m_buckets.erase(it);
+    for (const Part& part : drawn) {
+        const MapperLook& look = part.front()->second.look.mapper;
+        const auto known = free.lower_bound(look);
+        if (known != free.end() && known->first == look) {
+            m_buckets.push_back(std::move(known->second));
+            free.erase(known);
         } else {
-            ++it;
+            m_buckets.push_back(std::make_unique<Bucket>(look, m_layer, m_flat));
+            rendererOf(look).AddActor(m_buckets.back()->actor());
         }
+        std::vector<Bucket::Block> blocks;
+        for (const auto& block : part)
+            blocks.push_back({block->second.data, block->second.look.color});
+        m_buckets.back()->setBlocks(std::move(blocks));
     }
-}
-
-static bool isSameMapper(const MapperLook& left, const MapperLook& right)
-{
-    return !(left < right) && !(right < left);
-}
-
-static bool isSameColor(const host::Rgb& left, const host::Rgb& right)
-{
-    return left.red == right.red && left.green == right.green && left.blue == right.blue;
+    for (const auto& [look, bucket] : free)
+        rendererOf(look).RemoveActor(bucket->actor());
+    m_isArranged = true;
+    updateVisibility();
 }
 
 bool CompositeLayer::builds(CvlInt64 map, const std::optional<BlockLook>& look) const
@@ -92,36 +82,23 @@ bool CompositeLayer::builds(CvlInt64 map, const std::optional<BlockLook>& look) 
 
 void CompositeLayer::sync(CvlInt64 map, const std::optional<BlockLook>& look, const Builder& build)
 {
-    const auto found = m_blocks.find(map);
     if (!look) {
-        if (found != m_blocks.end()) {
-            remove(found->second);
-            m_blocks.erase(found);
-            ++m_counters.removed;
-            dropEmptyBuckets();
-        }
+        const std::size_t removed = m_blocks.erase(map);
+        m_counters.removed += static_cast<std::int64_t>(removed);
+        m_isArranged = m_isArranged && removed == 0;
         return;
     }
     const bool rebuilds = builds(map, look);
     Block& block = m_blocks[map];
-    const bool moves = rebuilds || !isSameMapper(block.look.mapper, look->mapper);
-    const bool recolors = !isSameColor(block.look.color, look->color);
-    if (moves)
-        remove(block);
-    block.map = map;
+    const bool moves = !rebuilds && !(block.look.mapper == look->mapper);
+    const bool recolors = !rebuilds && !moves && !isSameColor(block.look.color, look->color);
     block.look = *look;
-    if (rebuilds) {
+    if (rebuilds)
         block.data = build(look->recipe);
-        ++m_counters.built;
-    }
-    if (moves) {
-        place(block);
-        m_counters.moved += rebuilds ? 0 : 1;
-        dropEmptyBuckets();
-    } else if (recolors && block.bucket) {
-        block.bucket->setColor(map, look->color);
-        ++m_counters.recolored;
-    }
+    m_counters.built += rebuilds ? 1 : 0;
+    m_counters.moved += moves ? 1 : 0;
+    m_counters.recolored += recolors ? 1 : 0;
+    m_isArranged = m_isArranged && !rebuilds && !moves && !recolors;
 }
 
 void CompositeLayer::setVisible(bool visible)
@@ -138,37 +115,32 @@ void CompositeLayer::setHidden(bool hidden)
 
 void CompositeLayer::updateVisibility()
 {
-    for (const auto& [look, bucket] : m_buckets)
+    for (const auto& bucket : m_buckets)
         bucket->actor()->SetVisibility(m_visible && !m_hidden);
 }
 
-void CompositeLayer::setScale(const ViewScale& scale)
+void CompositeLayer::prepare(const ViewScale& scale, const ContourGroups& groups)
 {
-    m_scale = scale;
-    for (const auto& [look, bucket] : m_buckets) {
+    if (!m_isArranged)
+        arrange();
+    for (const auto& bucket : m_buckets) {
         bucket->setScale(scale);
-        bucket->arrange();
-    }
-}
-
-void CompositeLayer::updateLevels(const ContourGroups& groups)
-{
-    for (const auto& [look, bucket] : m_buckets)
         bucket->updateLevels(groups);
+    }
 }
 
 double CompositeLayer::widestLine() const
 {
     double widest = 0.0;
-    for (const auto& [look, bucket] : m_buckets)
-        if (look.thickness > 0.0 && !look.inFront && m_visible)
+    for (const auto& bucket : m_buckets)
+        if (bucket->look().thickness > 0.0 && !bucket->look().inFront && m_visible)
             widest = std::max(widest, bucket->linePixels());
     return widest;
 }
 
 void CompositeLayer::setWidestLine(double pixels)
 {
-    for (const auto& [look, bucket] : m_buckets)
+    for (const auto& bucket : m_buckets)
         bucket->setWidestLine(pixels);
 }
 
@@ -177,9 +149,9 @@ std::vector<int> CompositeLayer::groupsInUse() const
     std::set<int> groups;
     for (const auto& [map, block] : m_blocks) {
         const BlockRecipe& recipe = block.look.recipe;
-        if (block.bucket && block.look.mapper.floodGroup > 0)
+        if (block.data && block.look.mapper.floodGroup > 0)
             groups.insert(block.look.mapper.floodGroup);
-        if (block.bucket && recipe.colorGroup > 0 && recipe.colorGroup < ContourGroups::kRed)
+        if (block.data && recipe.colorGroup > 0 && recipe.colorGroup < ContourGroups::kRed)
             groups.insert(recipe.colorGroup);
     }
     return {groups.begin(), groups.end()};
@@ -198,14 +170,8 @@ vtkPolyData* CompositeLayer::geometry(CvlInt64 map) const
 
 std::vector<vtkActor*> CompositeLayer::actors() const
 {
-    std::vector<const Bucket*> buckets;
-    for (const auto& [look, bucket] : m_buckets)
-        buckets.push_back(bucket.get());
-    std::stable_sort(buckets.begin(), buckets.end(), [](const auto* left, const auto* right) {
-        return left->lowestMap() < right->lowestMap();
-    });
     std::vector<vtkActor*> result;
-    for (const Bucket* bucket : buckets)
+    for (const auto& bucket : m_buckets)
         result.push_back(bucket->actor());
     return result;
 }

@@ -9,7 +9,6 @@
 #include <map>
 #include <memory>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 class vtkActor;
@@ -25,11 +24,16 @@ struct ViewScale
     double thinnestLine = 1.0; ///< pixels; above 1 when one pixel of the picture has several
 };
 
-/// Draws one layer of a field plot. The blocks of all maps with the same mapper look share one
-/// composite mapper; colours are attributes of the blocks.
+/// Draws one layer of a field plot. The blocks of maps with the same mapper look share a composite
+/// mapper; colours are attributes of the blocks. What lies in the same place is covered by the map
+/// with the higher number: in space a mapper draws maps between which none looks otherwise, as long
+/// as that takes no more than `kMostMappers`. Beyond, and in a flat plot, where maps lie above each
+/// other, there is one mapper to a look.
 class CompositeLayer
 {
 public:
+    static constexpr std::size_t kMostMappers = 100;
+
     /// Work done since the layer was made, to see what an edit costs.
     struct Counters
     {
@@ -49,46 +53,42 @@ public:
     void sync(CvlInt64 map, const std::optional<BlockLook>& look, const Builder& build);
     /// Whether `sync` would make geometry.
     bool builds(CvlInt64 map, const std::optional<BlockLook>& look) const;
-    void clear();
 
     void setVisible(bool visible);
     bool isVisible() const { return m_visible; }
     /// Takes what is visible out of the picture for a while.
     void setHidden(bool hidden);
-    /// Fits line widths and patterns to the view, and puts what is drawn in the order of the maps.
-    void setScale(const ViewScale& scale);
-    /// Fits the flood textures to the levels of the groups.
-    void updateLevels(const ContourGroups& groups);
+    /// Hands the blocks to mappers in the order of the maps, and fits line widths and patterns to
+    /// the view, flood textures to the levels of the groups; call before drawing.
+    void prepare(const ViewScale& scale, const ContourGroups& groups);
     /// Width in pixels of the widest line of the layer that faces can hide; 0 without.
     double widestLine() const;
     void setWidestLine(double pixels); ///< of all layers
     /// Contour groups that colour something in this layer, ascending.
     std::vector<int> groupsInUse() const;
 
-    bool hasBlocks() const { return m_blockCount > 0; }
     bool draws(CvlInt64 map) const;
     /// The geometry of a map's block; null without one.
     vtkPolyData* geometry(CvlInt64 map) const;
     /// How the block of a map looks that has one.
     const BlockLook& look(CvlInt64 map) const { return m_blocks.at(map).look; }
     const Counters& counters() const { return m_counters; }
-    /// One actor per mapper, in the order of the lowest map that each draws.
+    /// One actor per mapper, in the order in which they are to be drawn.
     std::vector<vtkActor*> actors() const;
 
 private:
     class Bucket;
     struct Block
     {
-        CvlInt64 map = 0;
         BlockLook look;
-        Bucket* bucket = nullptr; ///< null when there is nothing to draw
-        vtkSmartPointer<vtkPolyData> data;
+        vtkSmartPointer<vtkPolyData> data; ///< null when there is nothing to draw
     };
+    /// Maps that share a mapper.
+    using Part = std::vector<std::map<CvlInt64, Block>::const_iterator>;
 
-    Bucket& bucketOf(const MapperLook& look);
-    void place(Block& block);
-    void remove(Block& block);
-    void dropEmptyBuckets();
+    std::vector<Part> parts(bool byRun) const;
+    void arrange();
+    vtkRenderer& rendererOf(const MapperLook& look) { return look.inFront ? m_front : m_back; }
     void updateVisibility();
 
     FieldLayer m_layer;
@@ -97,10 +97,9 @@ private:
     vtkRenderer& m_front;
     bool m_visible = true;
     bool m_hidden = false;
-    ViewScale m_scale;
-    std::map<MapperLook, std::unique_ptr<Bucket>> m_buckets;
-    std::unordered_map<CvlInt64, Block> m_blocks;
-    std::int64_t m_blockCount = 0;
+    std::map<CvlInt64, Block> m_blocks;
+    std::vector<std::unique_ptr<Bucket>> m_buckets; ///< in the order in which they are drawn
+    bool m_isArranged = true;
     Counters m_counters;
 };
 

@@ -1,27 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "host/events/state_event.h"
-#include "plot/common/scene.h"
+#include "plot/common/background_task.h"
+#include "plot/common/map_scene.h"
 #include "plot/field/scene/composite_layer.h"
-
-#include <QString>
+#include "plot/field/scene/pick_ray.h"
+#include "plot/field/scene/scene_piece.h"
+#include "plot/field/scene/stand_in.h"
 
 #include <vtkBoundingBox.h>
 
 #include <array>
-#include <optional>
-#include <vector>
+#include <memory>
+#include <unordered_map>
 
 namespace corvala::plot {
-
-/// A line of sight through a point of the picture.
-struct PickRay
-{
-    std::array<double, 3> from; ///< nearest point that can be seen
-    std::array<double, 3> to;
-    double tolerance = 0.0; ///< distance that still counts as a hit, in the unit of the coordinates
-};
 
 /// Colours of a contour group that the scene shows.
 struct FieldLegend
@@ -30,29 +23,74 @@ struct FieldLegend
     std::optional<ContourLevels> levels; ///< nothing when no value is shown
 };
 
-/// What a field canvas shows of a frame. A canvas knows its scene through this class only, so that
-/// the geometry need not be made in this process.
-class FieldScene : public virtual Scene
+/// What a field canvas shows of a frame, in two renderers: everything, and in front of it what is
+/// seen through it.
+class FieldScene : public MapScene
 {
 public:
-    /// Fits what is drawn to the view; call before drawing.
-    virtual void setScale(const ViewScale& scale) = 0;
+    /// Maps that are drawn at most; each costs memory for its blocks.
+    static constexpr CvlInt64 kLargestScene = 20'000;
 
+    FieldScene(vtkRenderer& back, vtkRenderer& front, std::shared_ptr<SurfaceCache> cache,
+               CvlInt64 largestScene = kLargestScene);
+    ~FieldScene() override;
+
+    bool advance(int milliseconds) override;
+    void cancel() override;
+
+    /// Puts what is drawn in order and fits it to the view; call before drawing.
+    void prepare(const ViewScale& scale);
     /// Draws a few points in place of everything, until this is taken back: for a scene that takes
     /// too long to be drawn while it is moved.
-    virtual void setStandIn(bool standsIn) = 0;
-
+    void setStandIn(bool standsIn);
     /// Box round everything that is shown; invalid when nothing is.
-    virtual vtkBoundingBox bounds() const = 0;
-
+    vtkBoundingBox bounds() const;
     /// The zone that is seen along a ray, nearest first; 0 for none. A zone is hit anywhere on its
     /// surface, also where only lines are drawn of it, and a zone of which more than its edges are
     /// drawn before one that shows nothing else.
-    virtual CvlInt64 zoneAt(const PickRay& ray) = 0;
-
-    virtual std::vector<FieldLegend> legends() const = 0;
+    CvlInt64 zoneAt(const PickRay& ray);
+    std::vector<FieldLegend> legends() const;
     /// Names of the coordinates X, Y, Z.
-    virtual std::array<QString, 3> axisTitles() const = 0;
+    std::array<QString, 3> axisTitles() const;
+
+    const CompositeLayer& layer(FieldLayer layer) const
+    {
+        return *m_layers[static_cast<std::size_t>(layer)];
+    }
+    const ContourGroups& groups() const { return m_groups; }
+
+protected:
+    void clear(const host::Frame* frame, Fresh reason) override;
+    LayerMask showLayers(const host::Frame& frame) override;
+    bool canShow(const host::Frame& frame, CvlInt64 map) const override;
+    LayerMask sync(const host::Frame& frame, CvlInt64 map, LayerMask layers, bool isShown) override;
+    void forget(CvlInt64 map) override;
+    void valuesKnown(const host::Frame& frame) override;
+    bool takeBack(const host::Frame& frame, int milliseconds) override;
+    host::NumberSet transientMaps(const host::Frame& frame) const override;
+
+private:
+    /// True when the values, or the block, of the map were given to another thread.
+    bool handOverValues(const host::Frame& frame, const ShownMap& map);
+    bool handOverBlock(const host::Frame& frame, CvlInt64 map, const BlockRecipe& recipe);
+    /// False when the values of the map were given to another thread.
+    bool noteValues(const host::Frame& frame, CvlInt64 map);
+    CompositeLayer::Builder builderOf(const host::Frame& frame, CvlInt64 map);
+    void orderActors(vtkRenderer& renderer) const;
+    CvlInt64 nearestZone(const PickRay& ray, LayerMask layers);
+
+    std::shared_ptr<SurfaceCache> m_cache;
+    vtkRenderer& m_back;
+    vtkRenderer& m_front;
+    bool m_flat = false;
+    ContourGroups m_groups;
+    std::array<std::unique_ptr<CompositeLayer>, kFieldLayerCount> m_layers;
+    std::unordered_map<CvlInt64, std::vector<PlacedSurface>> m_surfaces;
+    GroupRanges m_ranges;
+    bool m_mayWait = false; ///< at present, for as long as it takes: nothing is handed over
+    std::unique_ptr<BackgroundTask<ScenePiece>> m_task; ///< null while nothing is handed over
+    ScenePiece m_piece; ///< the last that came back
+    std::unique_ptr<StandIn> m_standIn; ///< null until it is needed, and after a change
 };
 
 } // namespace corvala::plot

@@ -195,42 +195,81 @@ static std::optional<BlockLook> edgesLook(const ShownMap& shown, const ContourGr
     return look;
 }
 
+/// What layers use besides the values of their own.
+enum Use : unsigned {
+    Surfaces = 1, ///< of volume zones
+    Light = 2,
+    Values = 4 ///< of contour groups and RGB channels
+};
+static constexpr SharedStyle kShared[] = {
+    {kMap.surfaces.surfacesToPlot, true, Surfaces},
+    {kMap.effects.lightingEffect, true, Light},
+    {style::fieldLayers.useLightingEffect, false, Light},
+    {style::contourGroups.var, true, Values},
+    {style::globalRgb.redVar, true, Values},
+    {style::activeFieldMaps, false},
+    {style::activeFieldZones, false},
+};
+
 /// What tells the layers apart, in the order of FieldLayer.
 struct LayerDescription
 {
-    style::SwitchKey layer;
+    SceneLayer layer;
     std::optional<BlockLook> (*look)(const ShownMap&, const ContourGroups&);
 };
 static constexpr LayerDescription kLayers[kFieldLayerCount] = {
-    {style::fieldLayers.showMesh, backgroundLook},
-    {style::fieldLayers.showShade, shadeLook},
-    {style::fieldLayers.showContour, floodLook},
-    {style::fieldLayers.showContour, contourLinesLook},
-    {style::fieldLayers.showMesh, meshLook},
-    {style::fieldLayers.showEdge, edgesLook},
+    {{&style::kMeshLayer, Surfaces}, backgroundLook},
+    {{&style::kShadeLayer, Surfaces | Light}, shadeLook},
+    {{&style::kContourLayer, Surfaces | Light | Values}, floodLook},
+    {{&style::kContourLayer, Surfaces | Values}, contourLinesLook},
+    {{&style::kMeshLayer, Surfaces | Values}, meshLook},
+    {{&style::kEdgeLayer}, edgesLook},
 };
 
-static const LayerDescription& describe(FieldLayer layer)
+static const SceneLayer& layerAt(std::size_t number)
 {
-    return kLayers[static_cast<std::size_t>(layer)];
+    return kLayers[number].layer;
+}
+
+const SceneKind& fieldSceneKind()
+{
+    static constexpr SceneKind kKind {&host::Frame::isFieldPlot,
+                                      &host::Frame::activeFieldMaps,
+                                      StateCode_FieldMapListChanged,
+                                      kFieldLayerCount,
+                                      layerAt,
+                                      kShared,
+                                      std::size(kShared),
+                                      Values};
+    return kKind;
 }
 
 std::optional<BlockLook> lookOf(FieldLayer layer, const ShownMap& map, const ContourGroups& groups)
 {
-    return describe(layer).look(map, groups);
+    return kLayers[static_cast<std::size_t>(layer)].look(map, groups);
 }
 
 bool isLayerOn(const host::Frame& frame, FieldLayer layer)
 {
-    return frame.isOn(describe(layer).layer);
+    return frame.isOn(layerAt(static_cast<std::size_t>(layer)).style->shown);
+}
+
+LayerMask coloredLayers()
+{
+    LayerMask colored = 0;
+    for (std::size_t i = 0; i < kFieldLayerCount; ++i)
+        colored |= kLayers[i].layer.uses & Values ? maskOf(i) : 0;
+    return colored;
 }
 
 std::vector<int> groupsShown(const ShownMap& shown, const ContourGroups& groups)
 {
     std::vector<int> result;
-    for (const FieldLayer layer : {FieldLayer::Flood, FieldLayer::ContourLines, FieldLayer::Mesh}) {
-        const auto look =
-            isLayerOn(shown.frame, layer) ? lookOf(layer, shown, groups) : std::nullopt;
+    for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
+        const bool isColored = (coloredLayers() & maskOf(i)) != 0;
+        const auto look = isColored && isLayerOn(shown.frame, static_cast<FieldLayer>(i))
+            ? kLayers[i].look(shown, groups)
+            : std::nullopt;
         for (const int group : {look ? look->recipe.group : 0, look ? look->recipe.colorGroup : 0})
             if (group == ContourGroups::kRed)
                 result.insert(result.end(), {group, group + 1, group + 2});
@@ -240,42 +279,6 @@ std::vector<int> groupsShown(const ShownMap& shown, const ContourGroups& groups)
     std::sort(result.begin(), result.end());
     result.erase(std::unique(result.begin(), result.end()), result.end());
     return result;
-}
-
-static constexpr LayerMask kContourMask =
-    maskOf(FieldLayer::Flood) | maskOf(FieldLayer::ContourLines) | kGroupValues;
-static constexpr LayerMask kMeshMask =
-    maskOf(FieldLayer::Mesh) | maskOf(FieldLayer::Background) | kGroupValues;
-static constexpr LayerMask kLitMask = maskOf(FieldLayer::Shade) | maskOf(FieldLayer::Flood);
-static constexpr AffectedLayers kAffected[] = {
-    {kMap.mesh.show, true, kMeshMask},
-    {kMap.contour.show, true, kContourMask},
-    {kMap.shade.show, true, maskOf(FieldLayer::Shade)},
-    {kMap.edgeLayer.show, true, maskOf(FieldLayer::Edges)},
-    {kMap.surfaces.surfacesToPlot, true,
-     kAllLayers& static_cast<LayerMask>(~maskOf(FieldLayer::Edges))},
-    {kMap.effects.lightingEffect, true, kLitMask},
-    {style::fieldLayers.showMesh, false, kMeshMask, true},
-    {style::fieldLayers.showContour, false, kContourMask, true},
-    {style::fieldLayers.showShade, false, maskOf(FieldLayer::Shade), true},
-    {style::fieldLayers.showEdge, false, maskOf(FieldLayer::Edges), true},
-    {style::fieldLayers.useLightingEffect, false, kLitMask},
-    {style::contourGroups.var, true, kContourMask | kMeshMask},
-    {style::globalRgb.redVar, true, kContourMask | kMeshMask},
-    {style::activeFieldMaps, false, kAllLayers | kGroupValues},
-    {style::activeFieldZones, false, kAllLayers | kGroupValues},
-};
-
-const SceneKind& fieldSceneKind()
-{
-    static constexpr SceneKind kKind {kFieldLayerCount,
-                                      true,
-                                      &host::Frame::isFieldPlot,
-                                      &host::Frame::activeFieldMaps,
-                                      StateCode_FieldMapListChanged,
-                                      kAffected,
-                                      std::size(kAffected)};
-    return kKind;
 }
 
 host::Rgb paletteColor(std::int32_t color)

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "plot/common/map_scene.h"
+#include "plot/common/scene_kind.h"
 #include "plot/field/geometry/contour_groups.h"
 #include "plot/field/scene/block_look.h"
 
-#include <array>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace corvala::plot {
 
@@ -22,13 +22,6 @@ enum class FieldLayer {
     Edges
 };
 constexpr std::size_t kFieldLayerCount = 6;
-
-constexpr LayerMask maskOf(FieldLayer layer)
-{
-    return static_cast<LayerMask>(1U << static_cast<unsigned>(layer));
-}
-constexpr LayerMask kAllLayers = (1U << kFieldLayerCount) - 1;
-constexpr LayerMask kGroupValues = 1U << kFieldLayerCount; ///< that the contour groups span
 
 /// A map of a frame with the zone that it shows.
 struct ShownMap
@@ -48,6 +41,8 @@ std::optional<BlockLook> lookOf(FieldLayer layer, const ShownMap& map, const Con
 std::vector<int> groupsShown(const ShownMap& map, const ContourGroups& groups);
 
 bool isLayerOn(const host::Frame& frame, FieldLayer layer);
+/// Layers that may be coloured by the values of a contour group.
+LayerMask coloredLayers();
 
 /// What a field plot is made of, and what touches it.
 const SceneKind& fieldSceneKind();

@@ -2,17 +2,15 @@
 #include "plot/field/view/field_canvas.h"
 
 #include "host/document/document.h"
-#include "plot/common/document_events.h"
 #include "plot/field/view/offscreen.h"
 #include "plot/field/view/opengl_check.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
 #include <QVTKOpenGLNativeWidget.h>
+#include <QWheelEvent>
 
 #include <vtkCallbackCommand.h>
 #include <vtkGenericOpenGLRenderWindow.h>
@@ -70,14 +68,14 @@ private:
 };
 
 FieldCanvas::FieldCanvas(QWidget* parent)
-    : SceneCanvas(parent)
+    : Canvas(parent)
     , m_problem(openGlProblem())
     , m_cache(std::make_shared<SurfaceCache>())
     , m_view(m_cache)
 {
     m_hand.setSingleShot(true);
     m_hand.setInterval(kRestMilliseconds);
-    connect(&m_hand, &QTimer::timeout, this, &Canvas::requestRedraw);
+    connect(&m_hand, &QTimer::timeout, this, &Canvas::redrawWanted);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     if (m_problem.isEmpty()) {
@@ -102,7 +100,7 @@ void FieldCanvas::makeWidgets()
     format.setSamples(0);
     m_widget->setFormat(format);
     m_widget->setAccessibleName(tr("Field plot"));
-    m_widget->installEventFilter(this);
+    watch(*m_widget);
     layout()->addWidget(m_widget);
     vtkNew<vtkGenericOpenGLRenderWindow> window;
     window->SetMultiSamples(isSoftwareOpenGl() ? 0 : kSamples);
@@ -115,7 +113,7 @@ void FieldCanvas::makeWidgets()
     vtkNew<vtkCallbackCommand> wish;
     wish->SetClientData(this);
     wish->SetCallback([](vtkObject*, unsigned long, void* canvas, void*) {
-        static_cast<FieldCanvas*>(canvas)->requestRedraw();
+        Q_EMIT static_cast<FieldCanvas*>(canvas)->redrawWanted();
     });
     interactor->AddObserver(vtkCommand::RenderEvent, wish);
     m_overlay = new Overlay(m_view, m_widget);
@@ -123,46 +121,26 @@ void FieldCanvas::makeWidgets()
 
 void FieldCanvas::resizeEvent(QResizeEvent* event)
 {
-    SceneCanvas::resizeEvent(event);
+    Canvas::resizeEvent(event);
     if (m_widget) {
         layout()->activate();
         m_overlay->setGeometry(m_widget->rect());
-        requestRedraw();
     }
 }
 
-void FieldCanvas::takePlotType()
+void FieldCanvas::setView(const std::any& view)
 {
-    const host::Frame* const drawn = host::Document::instance().frame(frame());
-    const bool flat = drawn && drawn->plotType() == PlotType_Field2D;
-    m_view.setFlat(flat);
-    m_view.setCamera(m_cameras.value({frame(), flat}));
+    const host::Frame* const drawn = host::Document::instance().frame(scene().frameId());
+    m_view.setFlat(drawn && drawn->plotType() == PlotType_Field2D);
+    const auto* const camera = std::any_cast<CameraState>(&view);
+    m_view.setCamera(camera ? *camera : CameraState());
 }
 
-void FieldCanvas::frameChanged(CvlUniqueId previous)
+void FieldCanvas::sceneChanged(const host::StateEvent& event)
 {
-    m_cameras[{previous, m_view.isFlat()}] = m_view.camera();
-    takePlotType();
-    m_view.scene().setFrame(frame());
-}
-
-void FieldCanvas::documentChanged(const host::StateEvent& event)
-{
-    const bool isOurs = concerns(event, frame());
-    if (isOurs && event.code == StateCode_DataSetAttached) {
-        m_cameras.remove({frame(), true});
-        m_cameras.remove({frame(), false});
-        takePlotType();
-    } else if (isOurs && namesPlotType(event)) {
-        m_cameras[{frame(), m_view.isFlat()}] = m_view.camera();
-        takePlotType();
-    } else if (isOurs && event.code == StateCode_SolutionTimeChanged) {
+    m_quickTime = m_restTime = 0.0;
+    if (event.code == StateCode_SolutionTimeChanged)
         m_view.widen();
-    }
-    if (m_view.scene().apply(event)) {
-        m_quickTime = m_restTime = 0.0;
-        requestRedraw();
-    }
 }
 
 /// Whether a full picture takes too long for a hand that moves the view.
@@ -186,7 +164,6 @@ void FieldCanvas::draw()
     if (!standsIn)
         (isQuick ? m_quickTime : m_restTime) = static_cast<double>(clock.nsecsElapsed()) * 1e-9;
     m_overlay->update();
-    countRedraw();
 }
 
 /// Draws each pixel of the screen as `samples` by `samples`, which the widget makes smaller when it
@@ -207,75 +184,45 @@ void FieldCanvas::drawSamples(int samples)
 
 QImage FieldCanvas::render(const QSize& size, QString* error)
 {
-    return drawFieldImage(frame(), m_view.camera(), m_cache, size, error);
-}
-
-void FieldCanvas::fitView()
-{
-    m_view.fit();
-    requestRedraw();
+    return drawFieldImage(scene().frameId(), m_view.camera(), m_cache, size, error);
 }
 
 bool FieldCanvas::eventFilter(QObject* watched, QEvent* event)
 {
-    switch (event->type()) {
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
         // The interactor would take letters for commands; here they belong to the window.
         event->ignore();
         return true;
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::MouseButtonRelease:
-    case QEvent::Wheel: return handleMouse(event);
-    default: return SceneCanvas::eventFilter(watched, event);
     }
+    return Canvas::eventFilter(watched, event);
 }
 
-bool FieldCanvas::handleMouse(QEvent* event)
+void FieldCanvas::takeHold()
 {
-    if (event->type() == QEvent::Wheel) {
-        auto* const wheel = static_cast<QWheelEvent*>(event);
-        if (m_view.isFlat()) {
-            const double notches = wheel->angleDelta().y() / 120.0;
-            m_view.magnify(std::pow(kWheelStep, notches), wheel->position());
-            requestRedraw();
-        }
-        m_hand.start();
-        m_view.setMoved();
-        return m_view.isFlat();
-    }
-    auto* const mouse = static_cast<QMouseEvent*>(event);
-    const QPointF position = mouse->localPos();
-    if (event->type() == QEvent::MouseMove) {
-        const QPointF moved = position - m_pressedAt;
-        m_isDragging = m_isDragging
-            || (mouse->buttons() && moved.manhattanLength() >= QApplication::startDragDistance());
-        if (m_isDragging && mouse->buttons()) {
-            m_view.setMoved();
-            m_hand.start();
-            if (m_view.isFlat()) {
-                m_view.pan(moved);
-                m_pressedAt = position;
-                requestRedraw();
-            }
-        }
-    } else if (event->type() == QEvent::MouseButtonRelease) {
-        if (!m_isDragging && mouse->button() == Qt::LeftButton)
-            click(position, m_isDoubleClick);
-        m_isDoubleClick = m_isDragging = false;
-    } else {
-        m_pressedAt = position;
-        m_isDragging = false;
-        m_isDoubleClick = event->type() == QEvent::MouseButtonDblClick;
+    m_view.setMoved();
+    m_hand.start();
+}
+
+/// In space the interactor turns the view.
+bool FieldCanvas::dragged(const QPointF& by)
+{
+    takeHold();
+    if (m_view.isFlat()) {
+        m_view.pan(by);
+        Q_EMIT redrawWanted();
     }
     return m_view.isFlat();
 }
 
-void FieldCanvas::click(const QPointF& position, bool activate)
+bool FieldCanvas::wheelTurned(const QWheelEvent& wheel)
 {
-    Q_EMIT zonePicked(m_view.zoneAt(position), activate);
+    takeHold();
+    if (m_view.isFlat()) {
+        const double notches = wheel.angleDelta().y() / 120.0;
+        m_view.magnify(std::pow(kWheelStep, notches), wheel.position());
+        Q_EMIT redrawWanted();
+    }
+    return m_view.isFlat();
 }
 
 } // namespace corvala::plot

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "plot/canvas.h"
 #include "plot/field/view/field_view.h"
-#include "plot/scene_canvas.h"
 
-#include <QHash>
-#include <QPointF>
+#include <QTimer>
 
 class QVTKOpenGLNativeWidget;
 
@@ -13,7 +12,7 @@ namespace corvala::plot {
 
 /// Draws field plots of two and three dimensions with OpenGL. Without OpenGL it shows what to
 /// install instead.
-class FieldCanvas : public SceneCanvas
+class FieldCanvas : public Canvas
 {
     Q_OBJECT
 
@@ -21,21 +20,23 @@ public:
     explicit FieldCanvas(QWidget* parent = nullptr);
     ~FieldCanvas() override;
 
+    FieldScene& scene() override { return m_view.scene(); }
+    void draw() override;
     QImage render(const QSize& size, QString* error) override;
     QString problem() const override { return m_problem; }
-    bool isBusy() const override { return SceneCanvas::isBusy() || m_hand.isActive(); }
+    bool isBeingMoved() const override { return m_hand.isActive(); }
+    void sceneChanged(const host::StateEvent& event) override;
+    std::any view() const override { return m_view.camera(); }
+    void setView(const std::any& view) override;
 
-    FieldScene& scene() override { return m_view.scene(); }
-    FieldView& view() { return m_view; }
-
-public Q_SLOTS:
-    void fitView() override;
+    /// From where the plot is seen, for tests and diagnosis.
+    FieldView& fieldView() { return m_view; }
 
 protected:
-    void frameChanged(CvlUniqueId previous) override;
-    void documentChanged(const host::StateEvent& event) override;
-    void draw() override;
-    bool canDraw() const override { return m_widget && isVisible(); }
+    CvlInt64 numberAt(const QPointF& place) override { return m_view.zoneAt(place); }
+    bool dragged(const QPointF& by) override;
+    bool wheelTurned(const QWheelEvent& wheel) override;
+    bool keepsMouse() const override { return m_view.isFlat(); }
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -44,24 +45,18 @@ private:
     class Picture;
 
     void makeWidgets();
-    void takePlotType();
     void drawSamples(int samples);
     bool isSlow() const;
-    bool handleMouse(QEvent* event);
-    void click(const QPointF& position, bool activate);
+    void takeHold();
 
     QString m_problem;
     std::shared_ptr<SurfaceCache> m_cache;
     FieldView m_view;
     QVTKOpenGLNativeWidget* m_widget = nullptr; // not owned; null without OpenGL
     QWidget* m_overlay = nullptr; // not owned
-    QHash<QPair<CvlUniqueId, bool>, CameraState> m_cameras; ///< by frame and flatness
     QTimer m_hand; ///< runs while the view is being moved, and until the hand rests
     double m_quickTime = 0.0; ///< of a full picture without smoothing, in seconds; 0 when unknown
     double m_restTime = 0.0; ///< of one with it
-    QPointF m_pressedAt;
-    bool m_isDoubleClick = false;
-    bool m_isDragging = false;
 };
 
 } // namespace corvala::plot

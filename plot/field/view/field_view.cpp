@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/view/field_view.h"
 
-#include "plot/field/scene/local_field_scene.h"
 #include "plot/field/view/legend.h"
 
 #include <QPainter>
@@ -31,7 +30,7 @@ static vtkSmartPointer<vtkLight> shoulderLight()
 }
 
 FieldView::FieldView(std::shared_ptr<SurfaceCache> cache)
-    : m_scene(std::make_unique<LocalFieldScene>(*m_back, *m_front, std::move(cache)))
+    : m_scene(std::make_unique<FieldScene>(*m_back, *m_front, std::move(cache)))
 {
     m_paper->SetBackground(1.0, 1.0, 1.0);
     m_paper->SetInteractive(0);
@@ -127,14 +126,8 @@ void FieldView::prepare()
         bounds[5] += m_flat ? 1.0 : 0.0;
         m_back->ResetCameraClippingRange(bounds);
     }
-    m_scene->setScale({static_cast<int>(std::lround(m_magnification * m_size.height())),
-                       m_magnification * pixelsPerUnit(), m_magnification});
-}
-
-void FieldView::fit()
-{
-    m_isFitted = true;
-    m_followsScene = true;
+    m_scene->prepare({static_cast<int>(std::lround(m_magnification * m_size.height())),
+                      m_magnification * pixelsPerUnit(), m_magnification});
 }
 
 void FieldView::placeCamera()

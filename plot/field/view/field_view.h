@@ -50,8 +50,6 @@ public:
     /// Size of the picture in its pixels, which every place and length here is given in; each is
     /// drawn as `magnification` by `magnification` pixels of the window.
     void setSize(const QSize& size, double magnification);
-    /// Shows everything that there is, and keeps showing it when the window's size changes.
-    void fit();
     CameraState camera() const;
     void setCamera(const CameraState& state);
     /// Moves in a flat plot by pixels, and magnifies about a point of the picture (from top left).

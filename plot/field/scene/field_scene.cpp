@@ -1,0 +1,308 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/scene/field_scene.h"
+
+#include "host/document/line_map_name.h"
+
+#include <vtkActor.h>
+#include <vtkPropCollection.h>
+#include <vtkRenderer.h>
+
+#include <algorithm>
+#include <set>
+
+namespace corvala::plot {
+
+FieldScene::FieldScene(vtkRenderer& back, vtkRenderer& front, std::shared_ptr<SurfaceCache> cache,
+                       CvlInt64 largestScene)
+    : MapScene(fieldSceneKind(), largestScene)
+    , m_cache(std::move(cache))
+    , m_back(back)
+    , m_front(front)
+{
+    FieldScene::clear(nullptr, Fresh::Frame);
+}
+
+FieldScene::~FieldScene() = default;
+
+void FieldScene::clear(const host::Frame* drawn, Fresh reason)
+{
+    m_flat = drawn && drawn->plotType() == PlotType_Field2D;
+    if (reason >= Fresh::Data)
+        m_cache->clear();
+    if (reason >= Fresh::Frame)
+        m_groups.clear();
+    setStandIn(false);
+    m_task.reset();
+    m_piece = {};
+    m_surfaces.clear();
+    m_ranges.clear();
+    for (std::size_t i = 0; i < kFieldLayerCount; ++i)
+        m_layers[i] =
+            std::make_unique<CompositeLayer>(static_cast<FieldLayer>(i), m_flat, m_back, m_front);
+}
+
+LayerMask FieldScene::showLayers(const host::Frame& drawn)
+{
+    m_groups.setVariables(drawn);
+    LayerMask shown = 0;
+    for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
+        const bool isOn = isLayerOn(drawn, static_cast<FieldLayer>(i));
+        m_layers[i]->setVisible(isOn);
+        shown |= isOn ? maskOf(i) : 0;
+    }
+    return shown;
+}
+
+host::NumberSet FieldScene::transientMaps(const host::Frame& drawn) const
+{
+    host::NumberSet transient;
+    for (const std::uint32_t map : drawn.activeFieldMaps())
+        if (drawn.fieldMaps().strand(map) > 0)
+            transient.add(map);
+    return transient;
+}
+
+void FieldScene::cancel()
+{
+    MapScene::cancel();
+    m_task.reset();
+}
+
+bool FieldScene::canShow(const host::Frame& drawn, CvlInt64 map) const
+{
+    const CvlInt64 zone = drawn.candidateZone(map);
+    return zone != 0 && drawn.enabledZones().contains(static_cast<std::uint32_t>(zone));
+}
+
+void FieldScene::forget(CvlInt64 map)
+{
+    m_surfaces.erase(map);
+    m_ranges.remove(map);
+}
+
+bool FieldScene::handOverValues(const host::Frame& drawn, const ShownMap& shown)
+{
+    const auto wanted = m_ranges.unknown(shown, m_groups);
+    const auto isOfLargeZone = [&](const GroupRanges::Unknown& values) {
+        return isLarge(drawn.data()->zone(values.zone));
+    };
+    if (m_mayWait || std::none_of(wanted.begin(), wanted.end(), isOfLargeZone))
+        return false;
+    m_task =
+        std::make_unique<BackgroundTask<ScenePiece>>(makerOfRanges(drawn.sharedData(), wanted));
+    return true;
+}
+
+bool FieldScene::handOverBlock(const host::Frame& drawn, CvlInt64 map, const BlockRecipe& recipe)
+{
+    if (m_mayWait || !isLarge(drawn.data()->zone(recipe.zone)) || m_piece.isBlock(map, recipe))
+        return false;
+    m_task = std::make_unique<BackgroundTask<ScenePiece>>(makerOfBlock(
+        {drawn.sharedData(), m_groups, m_cache, map, recipe, m_flat, m_surfaces[map]}));
+    return true;
+}
+
+bool FieldScene::takeBack(const host::Frame& drawn, int milliseconds)
+{
+    if (!m_task)
+        return true;
+    if (!m_task->wait(milliseconds))
+        return false;
+    m_piece = m_task->take();
+    m_task.reset();
+    for (const auto& [values, range] : m_piece.ranges)
+        m_ranges.learn(*drawn.data(), values, range);
+    return true;
+}
+
+bool FieldScene::noteValues(const host::Frame& drawn, CvlInt64 map)
+{
+    const ShownMap shown {drawn, map, drawn.candidateZone(map)};
+    if (handOverValues(drawn, shown))
+        return false;
+    if (m_ranges.add(shown, m_groups)) // a group is new: the other maps have to say what they have
+        pend(fieldSceneKind().valuesBit(), shownMaps());
+    return true;
+}
+
+void FieldScene::valuesKnown(const host::Frame& drawn)
+{
+    if (m_ranges.update(drawn, m_groups))
+        pend(coloredLayers(), shownMaps());
+}
+
+CompositeLayer::Builder FieldScene::builderOf(const host::Frame& drawn, CvlInt64 map)
+{
+    return [this, &drawn, map](const BlockRecipe& recipe) {
+        if (m_piece.isBlock(map, recipe)) {
+            m_surfaces[map] = std::move(m_piece.surfaces);
+            return std::exchange(m_piece, {}).block;
+        }
+        const auto height = static_cast<double>(map);
+        return BlockBuilder(*drawn.data(), m_groups, *m_cache)
+            .build(recipe, m_flat ? &height : nullptr, m_surfaces[map]);
+    };
+}
+
+LayerMask FieldScene::sync(const host::Frame& drawn, CvlInt64 map, LayerMask layers, bool isShown)
+{
+    const LayerMask values = layers & fieldSceneKind().valuesBit();
+    LayerMask done = values && isShown && !noteValues(drawn, map) ? 0 : values;
+    const ShownMap shown {drawn, map, drawn.candidateZone(map)};
+    for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
+        if (!(layers & maskOf(i)))
+            continue;
+        const auto look =
+            isShown ? lookOf(static_cast<FieldLayer>(i), shown, m_groups) : std::nullopt;
+        if (m_layers[i]->builds(map, look) && handOverBlock(drawn, map, look->recipe))
+            return done;
+        m_layers[i]->sync(map, look, builderOf(drawn, map));
+        done |= maskOf(i);
+    }
+    return done;
+}
+
+bool FieldScene::advance(int milliseconds)
+{
+    m_mayWait = milliseconds < 0;
+    const bool hasMore = MapScene::advance(milliseconds);
+    if (!hasMore)
+        m_piece = {};
+    return hasMore;
+}
+
+void FieldScene::prepare(const ViewScale& scale)
+{
+    double widest = 0.0;
+    for (const auto& layer : m_layers) {
+        layer->prepare(scale, m_groups);
+        widest = std::max(widest, layer->widestLine());
+    }
+    for (const auto& layer : m_layers)
+        layer->setWidestLine(widest);
+    orderActors(m_back);
+    orderActors(m_front);
+}
+
+/// What lies in the same place is covered by what is drawn later: actors are drawn in the order of
+/// layers and maps, and not in that of the edits which made them.
+void FieldScene::orderActors(vtkRenderer& renderer) const
+{
+    vtkPropCollection& props = *renderer.GetViewProps();
+    std::vector<vtkProp*> wanted;
+    for (const auto& layer : m_layers)
+        for (vtkActor* const actor : layer->actors())
+            if (props.IsItemPresent(actor))
+                wanted.push_back(actor);
+    if (m_standIn && props.IsItemPresent(m_standIn->actor()))
+        wanted.push_back(m_standIn->actor());
+    std::vector<vtkProp*> present;
+    vtkCollectionSimpleIterator position;
+    props.InitTraversal(position);
+    while (vtkProp* const prop = props.GetNextProp(position))
+        present.push_back(prop);
+    if (wanted == present)
+        return;
+    props.RemoveAllItems(); // the renderer's own way would release what the actors have uploaded
+    for (vtkProp* const prop : wanted)
+        props.AddItem(prop);
+}
+
+void FieldScene::setStandIn(bool standsIn)
+{
+    if (!standsIn && !m_standIn)
+        return;
+    if (!standsIn) {
+        m_back.RemoveActor(m_standIn->actor());
+        m_standIn.reset();
+    } else if (!m_standIn) {
+        std::vector<const CompositeLayer*> layers;
+        for (const auto layer : {FieldLayer::Flood, FieldLayer::Shade, FieldLayer::ContourLines,
+                                 FieldLayer::Mesh, FieldLayer::Background, FieldLayer::Edges})
+            layers.push_back(m_layers[static_cast<std::size_t>(layer)].get());
+        m_standIn = std::make_unique<StandIn>();
+        m_standIn->take(layers, shownMaps(), m_groups);
+        m_back.AddActor(m_standIn->actor());
+    }
+    for (const auto& layer : m_layers)
+        layer->setHidden(standsIn);
+}
+
+vtkBoundingBox FieldScene::bounds() const
+{
+    vtkBoundingBox box;
+    for (const auto& [map, surfaces] : m_surfaces) {
+        for (const PlacedSurface& placed : surfaces)
+            if (placed.shape->GetNumberOfPoints() > 0)
+                box.AddBounds(placed.shape->GetBounds());
+    }
+    return box;
+}
+
+CvlInt64 FieldScene::nearestZone(const PickRay& ray, LayerMask layers)
+{
+    double nearest = 1.5;
+    CvlInt64 zone = 0;
+    for (auto& [map, surfaces] : m_surfaces) {
+        bool isSeen = false;
+        for (std::size_t i = 0; i < kFieldLayerCount; ++i)
+            isSeen = isSeen || ((layers & maskOf(i)) && m_layers[i]->draws(map));
+        for (PlacedSurface& placed : surfaces) {
+            const double position = isSeen ? ray.hitPosition(placed) : nearest;
+            if (position < nearest) {
+                nearest = position;
+                zone = placed.zone;
+            }
+        }
+    }
+    return zone;
+}
+
+CvlInt64 FieldScene::zoneAt(const PickRay& ray)
+{
+    const LayerMask edges = maskOf(FieldLayer::Edges);
+    const CvlInt64 zone = nearestZone(ray, fieldSceneKind().allLayers() & ~edges);
+    return zone != 0 ? zone : nearestZone(ray, edges);
+}
+
+static QString shownName(const host::Frame& drawn, CvlInt64 variable)
+{
+    return QString::fromStdString(host::shownVariableName(drawn.data(), variable));
+}
+
+std::vector<FieldLegend> FieldScene::legends() const
+{
+    std::set<int> inUse;
+    for (const auto& layer : m_layers) {
+        const std::vector<int> groups =
+            layer->isVisible() ? layer->groupsInUse() : std::vector<int>();
+        inUse.insert(groups.begin(), groups.end());
+    }
+    std::vector<FieldLegend> result;
+    const host::Frame* const drawn = frame();
+    for (const int group : inUse) {
+        const CvlInt64 variable = m_groups.variable(group);
+        if (drawn && drawn->data()->hasVariable(variable)) {
+            FieldLegend& legend = result.emplace_back();
+            legend.title = shownName(*drawn, variable);
+            if (m_groups.hasRange(group))
+                legend.levels = m_groups.levels(group);
+        }
+    }
+    return result;
+}
+
+std::array<QString, 3> FieldScene::axisTitles() const
+{
+    std::array<QString, 3> titles = {"X", "Y", "Z"};
+    if (const host::Frame* const drawn = frame()) {
+        for (CvlInt64 number = 1; number <= drawn->data()->variableCount(); ++number) {
+            const host::Variable& variable = drawn->data()->variable(number);
+            if (variable.isCoordinate())
+                titles[static_cast<std::size_t>(variable.component)] = shownName(*drawn, number);
+        }
+    }
+    return titles;
+}
+
+} // namespace corvala::plot
