@@ -27,9 +27,7 @@ void LinePlot::clear(const host::Frame* drawn, Fresh)
     m_chart.reset();
     m_chart = isPolar() ? makePolarChart(m_plot) : makeXyChart(m_plot);
     m_chart->setPatience(m_patience);
-    if (m_plotType != plotTypeBefore)
-        fit();
-    else if (!m_isFitted)
+    if (!m_isFitted && m_plotType == plotTypeBefore)
         m_chart->setRange(range);
     m_recipes.clear();
     applyHeight();

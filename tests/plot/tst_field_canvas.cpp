@@ -43,6 +43,7 @@ private Q_SLOTS:
     void hiddenLinesAreRemoved();
     void wireFrameIsSeenThroughFaces();
     void edgesLieOnTheMesh();
+    void laterMapsCoverEarlierOnes();
     void thickLinesScaleWithThePicture();
     void nothingIsClipped_data();
     void nothingIsClipped();
@@ -254,6 +255,61 @@ void tst_FieldCanvas::edgesLieOnTheMesh()
     const double alone = ink(false);
     const double together = ink(true);
     QVERIFY2(together > 0.9 * alone, QByteArray::number(together / alone));
+}
+
+/// A square for each zone, ten to the right of the one before.
+class Squares : public host::ZoneSource
+{
+public:
+    vtkSmartPointer<vtkDataSet> zone(std::int64_t index) const override
+    {
+        auto square = vtkSmartPointer<vtkImageData>::New();
+        square->SetDimensions(2, 2, 1);
+        square->SetOrigin(10.0 * static_cast<double>(index), 0.0, 0.0);
+        return square;
+    }
+};
+
+/// Opens three squares: one after the other in time, each at its place, or all in the same one.
+static void openSquares(PlotType_e plotType, bool isTransient)
+{
+    auto data = std::make_shared<host::DataSet>();
+    for (int i = 0; i < 3; ++i) {
+        host::ZoneInfo zone;
+        zone.ordered = true;
+        zone.dimensions = {2, 2, 1};
+        zone.pointCount = 4;
+        zone.cellDimension = 2;
+        zone.strand = isTransient ? 1 : 0;
+        zone.time = i;
+        zone.sourceIndex = isTransient ? i : 0;
+        data->zones.push_back(zone);
+    }
+    data->source = std::make_shared<Squares>();
+    document().clear();
+    document().execute(host::AttachData {{}, data, plotType, 0});
+}
+
+void tst_FieldCanvas::laterMapsCoverEarlierOnes()
+{
+    openSquares(PlotType_Field3D, false);
+    write("FieldLayers/ShowShade", "", 1);
+    for (const char* map : {"1", "2", "3"})
+        write("FieldMap/Shade/Color", map, map[0] - '0');
+    const auto isSeen = [](int map) {
+        const host::Rgb color = document().color(map);
+        return shareOfColor(picture(), QColor(color.red, color.green, color.blue)) > 0.1;
+    };
+    // Light takes a mapper of its own, in front of or behind the one that the other two share.
+    for (const char* lit : {"1", "2"}) {
+        write("FieldMap/Shade/UseLightingEffect", "all", 0);
+        write("FieldMap/Shade/UseLightingEffect", lit, 1);
+        QVERIFY(isSeen(3));
+    }
+    write("FieldMap/Shade/UseLightingEffect", "2", 0);
+    write("FieldMap/Shade/UseLightingEffect", "3", 1);
+    activate("3", false);
+    QVERIFY(isSeen(2));
 }
 
 void tst_FieldCanvas::thickLinesScaleWithThePicture()
@@ -560,36 +616,9 @@ void tst_FieldCanvas::viewsAreKeptByFrameAndPlotType()
     QVERIFY(shareOfChange(shown.grabbed(), turned) < 0.001);
 }
 
-/// A square that lies at another place at each time.
-class Wanderer : public host::ZoneSource
-{
-public:
-    vtkSmartPointer<vtkDataSet> zone(std::int64_t index) const override
-    {
-        auto square = vtkSmartPointer<vtkImageData>::New();
-        square->SetDimensions(2, 2, 1);
-        square->SetOrigin(10.0 * static_cast<double>(index), 0.0, 0.0);
-        return square;
-    }
-};
-
 void tst_FieldCanvas::viewWidensForOtherTimes()
 {
-    document().clear();
-    auto data = std::make_shared<host::DataSet>();
-    for (int i = 0; i < 3; ++i) {
-        host::ZoneInfo zone;
-        zone.ordered = true;
-        zone.dimensions = {2, 2, 1};
-        zone.pointCount = 4;
-        zone.cellDimension = 2;
-        zone.strand = 1;
-        zone.time = i;
-        zone.sourceIndex = i;
-        data->zones.push_back(zone);
-    }
-    data->source = std::make_shared<Wanderer>();
-    document().execute(host::AttachData {{}, data, PlotType_Field2D, 0});
+    openSquares(PlotType_Field2D, true);
     ShownPlot shown;
     const auto right = [&] { return shown.fieldView().camera().fitBox.GetMaxPoint()[0]; };
     QCOMPARE(right(), 1.0);

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void init() { makeScene("field2d"); }
     void cleanup();
     void oneMapperPerLook();
+    void mappersFollowTheMaps_data();
+    void mappersFollowTheMaps();
     void editsTouchWhatTheyName_data();
     void editsTouchWhatTheyName();
     void undoTouchesWhatItNames();
@@ -124,6 +126,29 @@ void tst_FieldScene::oneMapperPerLook()
     work();
     QCOMPARE(layer(FieldLayer::Mesh).actors().size(), std::size_t {1});
     QCOMPARE(m_back->GetActors()->GetNumberOfItems(), 2); // mesh and edges
+}
+
+void tst_FieldScene::mappersFollowTheMaps_data()
+{
+    QTest::addColumn<QString>("demo");
+    QTest::addColumn<int>("maps");
+    QTest::addColumn<int>("mappers"); // when every other map looks otherwise
+    QTest::newRow("in space") << "field3d" << 30 << 30;
+    QTest::newRow("too many in space") << "field3d" << 110 << 2;
+    QTest::newRow("flat") << "field2d" << 30 << 2;
+}
+
+void tst_FieldScene::mappersFollowTheMaps()
+{
+    QFETCH(QString, demo);
+    QFETCH(int, maps);
+    QFETCH(int, mappers);
+    makeScene(demo.toUtf8().constData(), maps);
+    for (int map = 2; map <= maps; map += 2)
+        write("FieldMap/EdgeLayer/LineThickness", QByteArray::number(map), 1);
+    work();
+    QCOMPARE(int(layer(FieldLayer::Edges).actors().size()), mappers);
+    QCOMPARE(blockCount(layer(FieldLayer::Edges)), maps);
 }
 
 void tst_FieldScene::editsTouchWhatTheyName_data()
