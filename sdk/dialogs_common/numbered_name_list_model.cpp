@@ -2,8 +2,10 @@
 #include "sdk/private/numbered_name_list_model.h"
 
 #include <sdk/common/common.h>
+#include <sdk/toolbox/set.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace corvala::dialogs::common {
 
@@ -29,9 +31,8 @@ void NumberedNameListModel::list(CvlSetHandle numbers, Formatter format, bool of
     m_format = format;
     m_filter.clear();
     m_all.assign(offerNone ? 1 : 0, 0);
-    for (CvlInt64 number = CvlUtilSetGetNextMember(numbers, 0); number != 0;
-         number = CvlUtilSetGetNextMember(numbers, number))
-        m_all.push_back(number);
+    const toolbox::SetMembers members(numbers);
+    std::copy(members.begin(), members.end(), std::back_inserter(m_all));
     CvlUtilSetDealloc(&numbers);
     m_shown = m_all;
     endResetModel();

@@ -15,6 +15,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include <optional>
 
 namespace corvala::dialogs::lineplot {
@@ -25,11 +27,11 @@ static std::optional<CurveType_e> commonCurveType(const toolbox::Set& lineMaps)
 {
     const toolbox::StyleValue curveType(style::lineMap.curves.curveType);
     const auto type = curveType.read<int>(lineMaps.next(0));
-    for (CvlInt64 map = lineMaps.next(0); type && map != 0; map = lineMaps.next(map)) {
-        if (curveType.read<int>(map) != type)
-            return {};
-    }
-    return type ? std::optional<CurveType_e>(static_cast<CurveType_e>(*type)) : std::nullopt;
+    const bool isCommon = std::all_of(lineMaps.begin(), lineMaps.end(), [&](CvlInt64 map) {
+        return curveType.read<int>(map) == type;
+    });
+    return type && isCommon ? std::optional<CurveType_e>(static_cast<CurveType_e>(*type))
+                            : std::nullopt;
 }
 
 static QString nameOf(CvlUniqueId frame, CvlInt64 lineMap)

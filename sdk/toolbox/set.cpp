@@ -61,6 +61,12 @@ CvlInt64 Set::next(CvlInt64 previous) const
     return CvlUtilSetGetNextMember(m_handle, previous);
 }
 
+SetIterator::SetIterator(CvlSetHandle set, CvlInt64 previous)
+    : m_set(set)
+    , m_member(CvlUtilSetGetNextMember(set, previous))
+{
+}
+
 CvlInt64 Set::count() const
 {
     return CvlUtilSetGetMemberCount(m_handle);

@@ -60,7 +60,7 @@ private Q_SLOTS:
         for (const CvlInt64 member : {9, 2, 9, 4})
             QVERIFY(set.add(member));
         QString members;
-        for (CvlInt64 m = set.next(0); m != 0; m = set.next(m))
+        for (const CvlInt64 m : set)
             members += QString::number(m);
         QCOMPARE(members, QStringLiteral("249"));
         QVERIFY(set.contains(4) && !set.contains(3) && !set.contains(-1));

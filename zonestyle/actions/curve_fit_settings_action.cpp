@@ -18,7 +18,7 @@ static bool haveCommonSettings(const toolbox::Set& maps)
     const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
     const CurveFitCollection fits;
     const CurveFitInfo fit = fits.curveFitForLineMap(frame, maps.next(0));
-    for (CvlInt64 map = maps.next(0); map != 0; map = maps.next(map)) {
+    for (const CvlInt64 map : maps) {
         const CurveFitInfo other = fits.curveFitForLineMap(frame, map);
         if (!other.isValid() || other != fit)
             return false;

@@ -60,7 +60,9 @@ LayerCheck::ActiveZones LayerCheck::examineActiveZones() const
 
     ActiveZones found;
     const toolbox::Set active = getActiveZones();
-    for (CvlInt64 zone = active.next(0); zone != 0 && found.allVolume; zone = active.next(zone)) {
+    for (const CvlInt64 zone : active) {
+        if (!found.allVolume)
+            break;
         found.some = true;
         found.allVolume = isVolumeZone(zone);
         // Once one map draws surfaces the walk goes on for the volume test alone.

@@ -5,6 +5,7 @@
 
 #include <sdk/base/cvl.h>
 #include <sdk/common/common.h>
+#include <sdk/toolbox/set.h>
 #include <sdk/uicommon/edit_session.h>
 
 #include <QInputDialog>
@@ -16,8 +17,7 @@ static QList<int> enabledVariables()
 {
     QList<int> variables;
     CvlSetHandle enabled = CvlUtilVarGetEnabled();
-    for (CvlInt64 variable = CvlUtilSetGetNextMember(enabled, 0); variable != 0;
-         variable = CvlUtilSetGetNextMember(enabled, variable))
+    for (const CvlInt64 variable : toolbox::SetMembers(enabled))
         variables.append(static_cast<int>(variable));
     CvlUtilSetDealloc(&enabled);
     return variables;

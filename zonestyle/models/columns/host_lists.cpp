@@ -2,6 +2,7 @@
 #include "zonestyle/models/columns/host_lists.h"
 
 #include <sdk/base/cvl.h>
+#include <sdk/toolbox/set.h>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 
@@ -16,8 +17,7 @@ QStringList names(CvlSetHandle set, CvlUniqueId frame,
                   std::string (*nameOf)(CvlUniqueId frame, CvlInt64 member))
 {
     QStringList found;
-    for (CvlInt64 member = CvlUtilSetGetNextMember(set, 0); member != 0;
-         member = CvlUtilSetGetNextMember(set, member))
+    for (const CvlInt64 member : toolbox::SetMembers(set))
         found.append(QString::fromStdString(nameOf(frame, member)));
     CvlUtilSetDealloc(&set);
     return found;
