@@ -4,6 +4,7 @@
 #include "host/document/document.h"
 #include "host/operations/operation_text.h"
 #include "samples/demo_data.h"
+#include "tests/support/enum_text.h"
 
 #include <QStringList>
 

@@ -114,7 +114,7 @@ private Q_SLOTS:
     void init() { openOnly("field2d", 12); }
     void answers_data()
     {
-        const Rows<Operation, int> add;
+        const Rows<Operation, StyleWriteResult_e> add;
         const char* const type = "FieldMap Mesh MeshType";
         const char* const thickness = "FieldMap Mesh LineThickness";
         const char* const character = "FieldMap Scatter SymbolShape ASCIIShape ASCIIChar";
@@ -198,13 +198,13 @@ private Q_SLOTS:
 
     void answers()
     {
-        const auto [operation, result] = currentRow<Operation, int>();
+        const auto [operation, result] = currentRow<Operation, StyleWriteResult_e>();
         const QStringList before = documentState();
         EventLog log;
         QList<int> told;
         const boost::signals2::scoped_connection listener = document().executed().connect(
             [&](const Operation&, const Outcome& outcome) { told << outcome.result; });
-        QCOMPARE(int(document().execute(operation).result), result);
+        QCOMPARE(document().execute(operation).result, result);
         QCOMPARE(told, QList<int> {result});
         const bool isDone = result == StyleWrite_Ok;
         QCOMPARE(log.take().isEmpty(), !isDone);

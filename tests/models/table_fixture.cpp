@@ -86,6 +86,9 @@ QString cellText(const ModelAbstract& model, int row, int column)
     const QVariant check = cell.data(Qt::CheckStateRole);
     QString text = display.userType() == QMetaType::QColor ? display.value<QColor>().name()
                                                            : display.toString();
+    const QString hint = cell.data(Qt::AccessibleTextRole).toString();
+    if (!hint.isEmpty())
+        text += ' ' + hint;
     if (check.isValid())
         text += check == Qt::Checked ? "[x]" : "[ ]";
     return model.isRelevant(cell) ? text : '(' + text + ')';

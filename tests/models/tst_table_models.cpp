@@ -241,6 +241,8 @@ private Q_SLOTS:
         row("mesh dashed", "mesh",
             {{"FieldMap.Mesh.LinePattern", "1", 1}, {"FieldMap.Mesh.LineThickness", "1", 0.5}},
             "1|Zone 1|1|[x]|[x]|Overlay|#d62728|Dashed|2.00%|0.50%");
+        row("mesh colored by a group", "mesh", {{"FieldMap.Mesh.Color", "1", 103}},
+            "1|Zone 1|1|[x]|[x]|Overlay|#365c8d C3|Solid|(2.00%)|0.15%");
         row("mesh hidden", "mesh", {{"FieldMap.Mesh.Show", "1", 0}},
             "1|Zone 1|1|[x]|([ ])|(Overlay)|(#d62728)|(Solid)|(2.00%)|(0.15%)");
         row("mesh layer off", "mesh", {{"FieldLayers.ShowMesh", "", 0}},
@@ -390,6 +392,7 @@ private Q_SLOTS:
         group("  12.4 % ", "12");
         group("1,5", "0 (6)");
         group("inf", "0 (6)");
+        group("none", "0 (6)");
         group(QVariant(), "0 (6)");
         row("contour", "Line Pattern", "Dash dot", "FieldMap.Contour.LinePattern 2-3 = 2");
         row("contour", "Line Pattern", "Dash", "");

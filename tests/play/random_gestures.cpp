@@ -39,7 +39,7 @@ static int drive(int gestures, unsigned seed)
     for (int gesture = 1; gesture <= gestures; ++gesture) {
         Watchdog::setAbout(qPrintable(aboutGesture(seed, gesture)));
         driver.step();
-        if (gesture % kPace == 0) {
+        if (gesture % kPace == 0 || gesture == gestures) {
             play::waitUntilIdle();
             const QString difference = tableDifference(driver.dialog());
             if (!difference.isEmpty()) {

@@ -2,6 +2,7 @@
 #include "tests/play/table_check.h"
 
 #include "host/document/document.h"
+#include "sdk/base/cvl.h"
 #include "sdk/dialogs_common/qt_dialog_abstract.h"
 
 #include <QColor>
@@ -19,7 +20,7 @@ using play::DialogDriver;
 
 namespace {
 
-enum class Kind { Check, Number, Percent, Color };
+enum class Kind { Check, Number, Percent, Color, Choice };
 
 /// How a column shows a style value; `tab` is empty for the columns that all tabs share.
 struct Shown
@@ -37,6 +38,11 @@ static const std::vector<Shown>& shownValues()
     static const std::vector<Shown> all {
         {"", "Group\nNumber", {"FieldMap", "Group"}, Kind::Number},
         {"Mesh", "Show\nMesh", {"FieldMap", "Mesh", "Show"}, Kind::Check},
+        {"Mesh", "Mesh\nType", {"FieldMap", "Mesh", "MeshType"}, Kind::Choice},
+        {"Mesh", "Line\nPattern", {"FieldMap", "Mesh", "LinePattern"}, Kind::Choice},
+        {"Contour", "Contour\nType", {"FieldMap", "Contour", "ContourType"}, Kind::Choice},
+        {"Contour", "Line\nPattern", {"FieldMap", "Contour", "LinePattern"}, Kind::Choice},
+        {"Definitions", "Show in\nLegend", {"LineMap", "Assign", "ShowInLegend"}, Kind::Choice},
         {"Mesh", "Mesh\nColor", {"FieldMap", "Mesh", "Color"}, Kind::Color},
         {"Mesh", "Pattern\nLength", {"FieldMap", "Mesh", "PatternLength"}, Kind::Percent},
         {"Mesh", "Line\nThickness", {"FieldMap", "Mesh", "LineThickness"}, Kind::Percent},
@@ -79,6 +85,9 @@ static QVariant stored(const Frame& frame, const Shown& shown, std::int64_t map)
     case Kind::Check: return storedCheck(table.integer(attribute, map) != 0);
     case Kind::Number: return QString::number(table.integer(attribute, map));
     case Kind::Percent: return QString::number(table.real(attribute, map), 'f', 2) + '%';
+    case Kind::Choice:
+        return QString::fromUtf8(
+            attribute.choices.nameOf(static_cast<int>(table.integer(attribute, map))));
     case Kind::Color: break;
     }
     const auto palette = static_cast<int>(table.integer(attribute, map));
@@ -95,6 +104,19 @@ static QVariant seen(const QModelIndex& cell, Kind kind)
     if (kind == Kind::Color)
         return cell.data().value<QColor>().name();
     return cell.data().toString();
+}
+
+/// The name of a map, with its dynamic text filled in, or of the zone that it shows.
+static QVariant storedName(const Frame& frame, std::int64_t map)
+{
+    const CvlInt64 zone =
+        frame.isLinePlot() ? 0 : CvlUtilFieldMapGetCandidateZoneForFrame(frame.id(), map);
+    if (zone > 0)
+        return QString::fromStdString(frame.data()->zone(zone).name);
+    char* text = frame.isLinePlot() ? CvlUtilLineMapGetNameForFrame(frame.id(), map) : nullptr;
+    const QVariant name = text ? QString::fromUtf8(text) : QVariant();
+    CvlUtilStringDealloc(&text);
+    return name;
 }
 
 static QString cellDifference(const Frame& frame, const QModelIndex& cell, const QString& tab)
@@ -115,6 +137,10 @@ static QString cellDifference(const Frame& frame, const QModelIndex& cell, const
             frame.isLinePlot() ? frame.activeLineMaps() : frame.activeFieldMaps();
         return report(seen(cell, Kind::Check),
                       storedCheck(active.contains(static_cast<std::uint32_t>(map))));
+    }
+    if (header == QLatin1String("Zone\nName") || header == QLatin1String("Map\nName")) {
+        const QVariant name = storedName(frame, map);
+        return name.isValid() ? report(cell.data(), name) : QString();
     }
     const Shown* shown = shownBy(tab, header);
     const QVariant should = shown ? stored(frame, *shown, map) : QVariant();

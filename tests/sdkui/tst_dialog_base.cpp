@@ -75,6 +75,7 @@ private Q_SLOTS:
         const QPointer<QtDialogAbstract> guard(m_dialog);
         QSignalSpy finished(m_dialog, &QDialog::finished);
         m_dialog->move(123, 45);
+        m_dialog->setAttribute(Qt::WA_Moved, false); // it was its user who did
         m_lineEdit->setText("kept");
         if (way == "drop")
             m_dialog->drop();

@@ -7,6 +7,7 @@
 #include "zonestyle/views/dynamic_line_map_text_edit_dialog.h"
 #include "zonestyle/views/list_box_dialog.h"
 
+#include <QCompleter>
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
@@ -37,11 +38,17 @@ private Q_SLOTS:
         fixture.select({1, 2});
         takeWrites();
         PopupResponder popups(PopupResponder::typeAndEnd("4", Qt::Key_Return));
-        popups.then(PopupResponder::end(kClickElsewhere));
+        popups.then(PopupResponder::end(kClickElsewhere)).then([](QWidget& popup) {
+            popup.findChild<QLineEdit*>()->setText("9");
+            QKeyEvent cancel(QEvent::KeyPress, Qt::Key_Cancel, Qt::NoModifier); // QTest has none
+            QCoreApplication::sendEvent(&popup, &cancel);
+        });
         fixture.rightClick(1, kGroup);
         QCOMPARE(takeWrites(), "FieldMap.Group 1-2 = 4");
         fixture.rightClick(1, kGroup); // only looked at: what it shows is committed
         QCOMPARE(takeWrites(), "FieldMap.Group 1-2 = 4");
+        fixture.rightClick(1, kGroup);
+        QCOMPARE(takeWrites(), "");
     }
 
     void takesEntriesOfTheListOnly_data()
@@ -72,6 +79,16 @@ private Q_SLOTS:
         fixture.rightClick(1, kXAxisVariable);
         QVERIFY(popups.shown() >= 1);
         QCOMPARE(styleValues("LineMap.Assign.XAxisVar", 2), values);
+    }
+
+    void filtersWhileTyping()
+    {
+        DialogFixture fixture("xy");
+        fixture.doubleClickCell(1, kXAxisVariable);
+        auto* list = fixture.table().viewport()->findChild<corvala::ui::ComboBoxAutoFilter*>();
+        QVERIFY(list);
+        QTest::keyClicks(list->lineEdit(), "o");
+        QCOMPARE(list->completer()->completionCount(), 4); // with an "o" anywhere
     }
 
     void choosesFromTheOpenList()
@@ -130,8 +147,18 @@ private Q_SLOTS:
             auto* tokens = popup.findChild<QListView*>("listView");
             auto* insert = popup.findChild<QToolButton*>("insertToolButton");
             QVERIFY(!insert->isEnabled());
-            QCOMPARE(tokens->model()->rowCount(), 9);
-            QVERIFY(tokens->viewport()->height() >= 9 * tokens->sizeHintForRow(0));
+            const QImage list = tokens->viewport()->grab().toImage();
+            QString texts;
+            for (int row = 0; row < tokens->model()->rowCount(); ++row) {
+                const QModelIndex token = tokens->model()->index(row, 0);
+                texts += token.data(Qt::UserRole + 1).toString();
+                const QImage painted = list.copy(tokens->visualRect(token));
+                QImage blank = painted;
+                blank.fill(list.pixel(0, 0));
+                QVERIFY(tokens->viewport()->rect().contains(tokens->visualRect(token)));
+                QVERIFY2(painted != blank, qPrintable(token.data().toString()));
+            }
+            QCOMPARE(texts, "&ZN&&Z#&&DV&&D#&&IV&&I#&&M#&&X#&&Y#&");
             QTest::keyClick(field, Qt::Key_End);
             QTest::keyClick(field, Qt::Key_Down);
             QCOMPARE(popup.focusWidget(), tokens);
