@@ -80,6 +80,18 @@ private:
     QTemporaryDir m_folder;
 };
 
+/// A collection (.pvd) of those entries.
+inline QByteArray collection(const QByteArray& entries)
+{
+    return "<VTKFile type=\"Collection\"><Collection>" + entries + "</Collection></VTKFile>";
+}
+
+/// A legacy VTK file.
+inline QByteArray legacy(const QByteArray& body)
+{
+    return "# vtk DataFile Version 3.0\ntitle\nASCII\n" + body;
+}
+
 /// As QSKIP, which clang does not take under -Wpedantic; the caller returns.
 inline void skip(const char* reason, int line)
 {
@@ -92,6 +104,15 @@ inline ReadResult read(const QStringList& files, const Plot3DLayout& layout = {}
     request.files = files;
     request.plot3d = layout;
     return DataReader::read(request);
+}
+
+/// What must be readable.
+inline std::shared_ptr<const DataSet> dataOf(const QStringList& files)
+{
+    const ReadResult result = read(files);
+    if (!result.data)
+        qFatal("%s", qPrintable(result.error));
+    return result.data;
 }
 
 inline QStringList zoneNames(const DataSet& data)

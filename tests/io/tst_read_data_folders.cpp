@@ -81,12 +81,11 @@ private Q_SLOTS:
     {
         const auto [file, totals] = currentRow<QString, QStringList>();
         const DataFolder temporary;
-        const ReadResult result = read({file});
-        QVERIFY2(result.data, qPrintable(result.error));
+        const auto result = dataOf({file});
         for (const QString& wanted : totals)
-            QCOMPARE(totalsAt(*result.data, wanted.section(':', 0, 0)), wanted);
-        for (std::int64_t zone = 1; zone <= result.data->zoneCount(); ++zone)
-            QVERIFY(result.data->geometry(zone));
+            QCOMPARE(totalsAt(*result, wanted.section(':', 0, 0)), wanted);
+        for (std::int64_t zone = 1; zone <= result->zoneCount(); ++zone)
+            QVERIFY(result->geometry(zone));
     }
 
 private:

@@ -22,8 +22,6 @@ using namespace corvala::host::io;
 using corvala::tests::currentRow;
 using corvala::tests::Rows;
 
-static constexpr char kLegacy[] = "# vtk DataFile Version 3.0\ntitle\nASCII\n";
-
 /// The header of a classic netCDF file with one variable of eight doubles from byte 80.
 static QByteArray netcdf()
 {
@@ -59,6 +57,13 @@ static void writeExodus(const QString& path)
     writer->SetInputData(grid);
     writer->SetFileName(qPrintable(path));
     writer->Write();
+}
+
+static ReadRequest cavity()
+{
+    ReadRequest request;
+    request.files = QStringList {DataFolder::sample("cavity_transient/case.foam")};
+    return request;
 }
 
 static ReadResult waitFor(DataReader& reader)
@@ -113,32 +118,29 @@ private Q_SLOTS:
             "a.vti could not be read: it is cut off");
         row("legacy without the first line", "a.vtk", "DATASET POLYDATA", "# vtk DataFile");
         row("UTF-16", "a.vtk", QByteArray("\xff\xfe#\0 \0v\0t\0k\0", 12), "# vtk DataFile");
-        row("legacy without geometry", "a.vtk",
-            QByteArray(kLegacy) + "POINT_DATA 1\nSCALARS a float\n", "no geometry");
+        row("legacy without geometry", "a.vtk", legacy("POINT_DATA 1\nSCALARS a float\n"),
+            "no geometry");
         row("legacy ends in the points", "a.vtk",
-            QByteArray(kLegacy) + "DATASET POLYDATA\nPOINTS 9 float\n0 0 0 1 1", "a.vtk");
+            legacy("DATASET POLYDATA\nPOINTS 9 float\n0 0 0 1 1"), "a.vtk");
         row("legacy ends in the values", "a.vtk",
-            QByteArray(kLegacy)
-                + "DATASET STRUCTURED_POINTS\nDIMENSIONS 2 2 2\nORIGIN 0 0 0\nSPACING 1 1 1\n"
-                  "POINT_DATA 8\nSCALARS p float\nLOOKUP_TABLE default\n1 2 3",
+            legacy("DATASET STRUCTURED_POINTS\nDIMENSIONS 2 2 2\nORIGIN 0 0 0\nSPACING 1 1 1\n"
+                   "POINT_DATA 8\nSCALARS p float\nLOOKUP_TABLE default\n1 2 3"),
             "a.vtk");
-        row("legacy without points", "a.vtk",
-            QByteArray(kLegacy) + "DATASET POLYDATA\nPOINTS 0 float\n", "no zones with points");
+        row("legacy without points", "a.vtk", legacy("DATASET POLYDATA\nPOINTS 0 float\n"),
+            "no zones with points");
         row("legacy table", "a.vtk",
-            QByteArray(kLegacy) + "DATASET TABLE\nROW_DATA 1\nFIELD f 1\np 1 1 float\n1\n",
+            legacy("DATASET TABLE\nROW_DATA 1\nFIELD f 1\np 1 1 float\n1\n"),
             "no zones with points");
         row("corner that does not exist", "a.vtk",
-            QByteArray(kLegacy)
-                + "DATASET POLYDATA\nPOINTS 2 float\n0 0 0 1 1 1\n"
-                  "POLYGONS 1 4\n3 0 1 2\n",
+            legacy("DATASET POLYDATA\nPOINTS 2 float\n0 0 0 1 1 1\n"
+                   "POLYGONS 1 4\n3 0 1 2\n"),
             "points do not exist");
         row("negative corner", "a.vtk",
-            QByteArray(kLegacy)
-                + "DATASET POLYDATA\nPOINTS 2 float\n0 0 0 1 1 1\n"
-                  "LINES 1 3\n2 0 -1\n",
+            legacy("DATASET POLYDATA\nPOINTS 2 float\n0 0 0 1 1 1\n"
+                   "LINES 1 3\n2 0 -1\n"),
             "points do not exist");
-        const QByteArray grid = QByteArray(kLegacy)
-            + "DATASET UNSTRUCTURED_GRID\nPOINTS 4 float\n0 0 0 1 0 0 0 1 0 0 0 1\n";
+        const QByteArray grid =
+            legacy("DATASET UNSTRUCTURED_GRID\nPOINTS 4 float\n0 0 0 1 0 0 0 1 0 0 0 1\n");
         row("tetrahedron of three corners", "a.vtk",
             grid + "CELLS 1 4\n3 0 1 2\nCELL_TYPES 1\n10\n", "unknown kind");
         row("unknown cell", "a.vtk", grid + "CELLS 1 4\n3 0 1 2\nCELL_TYPES 1\n99\n",
@@ -147,31 +149,23 @@ private Q_SLOTS:
             grid + "CELLS 1 14\n13 3 3 0 1 2 3 0 1 3 3 1 2 9\nCELL_TYPES 1\n42\n",
             "points do not exist");
         row("grid with too few points", "a.vtk",
-            QByteArray(kLegacy)
-                + "DATASET STRUCTURED_GRID\nDIMENSIONS 3 1 1\nPOINTS 2 float\n0 1 2 3 4 5\n",
+            legacy("DATASET STRUCTURED_GRID\nDIMENSIONS 3 1 1\nPOINTS 2 float\n0 1 2 3 4 5\n"),
             "coordinates are missing");
         row("axis with too few coordinates", "a.vtk",
-            QByteArray(kLegacy)
-                + "DATASET RECTILINEAR_GRID\nDIMENSIONS 3 1 1\nX_COORDINATES 2 float\n0 1\n"
-                  "Y_COORDINATES 1 float\n0\nZ_COORDINATES 1 float\n0\n",
+            legacy("DATASET RECTILINEAR_GRID\nDIMENSIONS 3 1 1\nX_COORDINATES 2 float\n0 1\n"
+                   "Y_COORDINATES 1 float\n0\nZ_COORDINATES 1 float\n0\n"),
             "coordinates are missing");
-        row("collection of nothing", "a.pvd",
-            "<VTKFile type=\"Collection\"><Collection/></VTKFile>", "lists files");
+        row("collection of nothing", "a.pvd", collection({}), "lists files");
         row("collection with a fault", "a.pvd", "<VTKFile>\n<Collection>\n<DataSet></VTKFile>",
             "line 3");
         row("collection with a bad time", "a.pvd",
-            "<VTKFile><Collection><DataSet timestep='soon' file='b.vtp'/></Collection>"
-            "</VTKFile>",
-            "\"soon\"");
-        row("collection of a file without a name", "a.pvd",
-            "<VTKFile><Collection>\n<DataSet timestep='1'/></Collection></VTKFile>",
+            collection("<DataSet timestep='soon' file='b.vtp'/>"), "\"soon\"");
+        row("collection of a file without a name", "a.pvd", collection("\n<DataSet timestep='1'/>"),
             "line 2: the entry names no file");
-        row("collection of missing files", "a.pvd",
-            "<VTKFile><Collection><DataSet file='b.vtp'/></Collection></VTKFile>",
+        row("collection of missing files", "a.pvd", collection("<DataSet file='b.vtp'/>"),
             "b.vtp could not be read: there is no such file");
         row("collection that leads elsewhere", "a.pvd",
-            "<VTKFile><Collection><DataSet file='../../../../../etc/passwd'/>"
-            "</Collection></VTKFile>",
+            collection("<DataSet file='../../../../../etc/passwd'/>"),
             "/etc/passwd could not be read: ");
         row("tree of missing files", "a.vtm",
             "<VTKFile type=\"vtkMultiBlockDataSet\" version=\"1.0\">"
@@ -299,8 +293,8 @@ private Q_SLOTS:
     void largeZonesAreLoaded()
     {
         const auto image = [](const char* points) {
-            return kLegacy + QByteArray("DATASET STRUCTURED_POINTS\nDIMENSIONS ") + points
-                + "\nORIGIN 0 0 0\nSPACING 1 1 1\n";
+            return legacy(QByteArray("DATASET STRUCTURED_POINTS\nDIMENSIONS ") + points
+                          + "\nORIGIN 0 0 0\nSPACING 1 1 1\n");
         };
         ReadRequest request;
         request.files = QStringList {m_folder->write("large.vtk", image("30 30 30")),
@@ -326,8 +320,7 @@ private Q_SLOTS:
     void deathOfTheReader()
     {
         DataReader reader;
-        ReadRequest request;
-        request.files = QStringList {DataFolder::sample("cavity_transient/case.foam")};
+        const ReadRequest request = cavity();
         reader.start(request);
         QVERIFY(reader.isRunning() && reader.processId() > 0);
         QCOMPARE(kill(static_cast<pid_t>(reader.processId()), SIGKILL), 0);
@@ -346,8 +339,7 @@ private Q_SLOTS:
     void readerThatHangs()
     {
         DataReader reader;
-        ReadRequest request;
-        request.files = QStringList {DataFolder::sample("cavity_transient/case.foam")};
+        ReadRequest request = cavity();
         request.limits.patienceMilliseconds = 300;
         reader.start(request);
         QCOMPARE(kill(static_cast<pid_t>(reader.processId()), SIGSTOP), 0);
@@ -360,8 +352,8 @@ private Q_SLOTS:
     void memoryLimit()
     {
         ReadRequest request;
-        request.files = QStringList {m_folder->write(
-            "a.vtk", QByteArray(kLegacy) + "DATASET POLYDATA\nPOINTS 300000000 double\n0 0 0\n")};
+        request.files = QStringList {
+            m_folder->write("a.vtk", legacy("DATASET POLYDATA\nPOINTS 300000000 double\n0 0 0\n"))};
         request.limits.memoryBytes = std::int64_t(3) << 30;
         const ReadResult result = DataReader::read(request);
         QVERIFY(!result.data);
@@ -372,8 +364,7 @@ private Q_SLOTS:
     void cancelAndProgress()
     {
         DataReader reader;
-        ReadRequest request;
-        request.files = QStringList {DataFolder::sample("cavity_transient/case.foam")};
+        const ReadRequest request = cavity();
         reader.start(request);
         reader.cancel();
         const ReadResult cancelled = waitFor(reader);
@@ -395,8 +386,7 @@ private Q_SLOTS:
     void readerThatIsDeletedEndsItsProcess()
     {
         auto reader = std::make_unique<DataReader>();
-        ReadRequest request;
-        request.files = QStringList {DataFolder::sample("cavity_transient/case.foam")};
+        const ReadRequest request = cavity();
         reader->start(request);
         const auto process = static_cast<pid_t>(reader->processId());
         reader.reset();

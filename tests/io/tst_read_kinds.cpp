@@ -38,16 +38,6 @@ static QByteArray image(const QByteArray& extent, const QByteArray& pointArrays)
                    + "\"><PointData>" + pointArrays + "</PointData></Piece>");
 }
 
-static QByteArray collection(const QByteArray& entries)
-{
-    return "<VTKFile type=\"Collection\"><Collection>" + entries + "</Collection></VTKFile>";
-}
-
-static QByteArray legacy(const QByteArray& body)
-{
-    return "# vtk DataFile Version 3.0\ntitle\nASCII\n" + body;
-}
-
 class TestReadKinds : public QObject
 {
     Q_OBJECT
@@ -93,9 +83,8 @@ private Q_SLOTS:
     {
         const auto [file, content, ordered, dimensions, cells, cellDimension, planar] =
             currentRow<QString, QByteArray, bool, QVector<int>, int, int, bool>();
-        const ReadResult result = read({m_folder->write(file, content)});
-        QVERIFY2(result.data, qPrintable(result.error));
-        const DataSet& data = *result.data;
+        const auto result = dataOf({m_folder->write(file, content)});
+        const DataSet& data = *result;
         QCOMPARE(zoneNames(data), QStringList {"a"});
         QCOMPARE(QString::fromStdString(data.title), QString("a"));
         const ZoneInfo& zone = data.zone(1);
@@ -118,19 +107,17 @@ private Q_SLOTS:
             "<VTKFile type=\"PPolyData\"><PPolyData GhostLevel=\"0\"><PPoints>"
             "<PDataArray type=\"Float32\" NumberOfComponents=\"3\"/></PPoints>"
             "<Piece Source=\"piece.vtp\"/><Piece Source=\"piece.vtp\"/></PPolyData></VTKFile>");
-        const ReadResult result = read({path});
-        QVERIFY2(result.data, qPrintable(result.error));
-        QCOMPARE(zoneNames(*result.data), QStringList {"all"});
-        QCOMPARE(result.data->zone(1).pointCount, std::int64_t(8));
+        const auto result = dataOf({path});
+        QCOMPARE(zoneNames(*result), QStringList {"all"});
+        QCOMPARE(result->zone(1).pointCount, std::int64_t(8));
     }
 
     void coordinatesOfAnImage()
     {
-        const ReadResult result = read({m_folder->write("a.vti", image("1 2 0 1 0 0", {}))});
-        QVERIFY2(result.data, qPrintable(result.error));
-        QCOMPARE(values(*result.data, 1, "X"), (QVector<double> {1.5, 2, 1.5, 2}));
-        QCOMPARE(values(*result.data, 1, "Y"), (QVector<double> {2, 2, 3, 3}));
-        QCOMPARE(values(*result.data, 1, "Z"), QVector<double>(4, 3.0));
+        const auto result = dataOf({m_folder->write("a.vti", image("1 2 0 1 0 0", {}))});
+        QCOMPARE(values(*result, 1, "X"), (QVector<double> {1.5, 2, 1.5, 2}));
+        QCOMPARE(values(*result, 1, "Y"), (QVector<double> {2, 2, 3, 3}));
+        QCOMPARE(values(*result, 1, "Z"), QVector<double>(4, 3.0));
     }
 
     void arraysBecomeVariables()
@@ -150,22 +137,18 @@ private Q_SLOTS:
             + array("type=\"String\" Name=\"label\"", "97 0 98 0 99 0 100 0");
         const QByteArray cellArrays = array("type=\"Int32\" Name=\"p\"", "7 8")
             + array("type=\"Int32\" Name=\"q&lt;1&gt; \xc3\xa4\"", "5 6");
-        const ReadResult result =
-            read({m_folder->write("a.vtp", polyData(pointArrays, cellArrays))});
-        QVERIFY2(result.data, qPrintable(result.error));
-        QCOMPARE(variableNames(*result.data).join(","),
+        const auto result = dataOf({m_folder->write("a.vtp", polyData(pointArrays, cellArrays))});
+        QCOMPARE(variableNames(*result).join(","),
                  QString::fromUtf8("X,Y,Z,p,speed X,speed Y,Stress 1,Stress 2,Stress 3,Stress 4,"
                                    "Stress 5,Stress 6,Stress 7,Stress 8,Stress 9,Rate XX,Rate YY,"
                                    "Rate 3,Rate 4,Rate 5,Rate 6,T <a>,T 2,T 3,T 4,q<1> \xc3\xa4"));
-        QCOMPARE(values(*result.data, 1, "p"), (QVector<double> {1, 2, 3, 4}));
-        QCOMPARE(values(*result.data, 1, "Stress 9"), QVector<double>(4, 9.0));
-        QCOMPARE(values(*result.data, 1, QString::fromUtf8("q<1> \xc3\xa4")),
-                 (QVector<double> {5, 6}));
-        QCOMPARE(result.data->vectorVariables, (std::array<int, 3> {{5, 6, 0}}));
-        QCOMPARE(result.data->contourVariables[0], 4);
-        QCOMPARE(result.data->notes.size(), std::size_t(1));
-        QVERIFY2(result.data->notes[0].find(": label.") != std::string::npos,
-                 result.data->notes[0].c_str());
+        QCOMPARE(values(*result, 1, "p"), (QVector<double> {1, 2, 3, 4}));
+        QCOMPARE(values(*result, 1, "Stress 9"), QVector<double>(4, 9.0));
+        QCOMPARE(values(*result, 1, QString::fromUtf8("q<1> \xc3\xa4")), (QVector<double> {5, 6}));
+        QCOMPARE(result->vectorVariables, (std::array<int, 3> {{5, 6, 0}}));
+        QCOMPARE(result->contourVariables[0], 4);
+        QCOMPARE(result->notes.size(), std::size_t(1));
+        QVERIFY2(result->notes[0].find(": label.") != std::string::npos, result->notes[0].c_str());
     }
 
     void vectorProposal_data()
@@ -185,10 +168,8 @@ private Q_SLOTS:
         for (const QByteArray& name : names.split(' '))
             arrays += array("type=\"Float32\" NumberOfComponents=\"3\" Name=\"" + name + '"',
                             "1 2 3 4 5 6 7 8 9 10 11 12");
-        const ReadResult result = read({m_folder->write("a.vtp", polyData(arrays))});
-        QVERIFY2(result.data, qPrintable(result.error));
-        QCOMPARE(result.data->vectorVariables,
-                 (std::array<int, 3> {{first, first + 1, first + 2}}));
+        const auto result = dataOf({m_folder->write("a.vtp", polyData(arrays))});
+        QCOMPARE(result->vectorVariables, (std::array<int, 3> {{first, first + 1, first + 2}}));
     }
 
     /// Of each file, the first names that all its blocks with points share are left out.
@@ -213,12 +194,10 @@ private Q_SLOTS:
         const auto [blocks, zones] = currentRow<QByteArray, QString>();
         m_folder->write("p.vtp", polyData());
         const QString path = m_folder->write("t.vtm", xml("vtkMultiBlockDataSet", ">" + blocks));
-        const ReadResult result = read({path});
-        QVERIFY2(result.data, qPrintable(result.error));
-        QCOMPARE(zoneNames(*result.data).join(','), zones);
-        const ReadResult two = read({path, m_folder->path("p.vtp")});
-        QVERIFY2(two.data, qPrintable(two.error));
-        QCOMPARE(zoneNames(*two.data).join(','), "t/" + QString(zones).replace(",", ",t/") + ",p");
+        const auto result = dataOf({path});
+        QCOMPARE(zoneNames(*result).join(','), zones);
+        const auto two = dataOf({path, m_folder->path("p.vtp")});
+        QCOMPARE(zoneNames(*two).join(','), "t/" + QString(zones).replace(",", ",t/") + ",p");
     }
 
     void namesOfBlocks()
@@ -232,24 +211,20 @@ private Q_SLOTS:
             "<DataSet index=\"1\" file=\"p.vtp\"/><Block index=\"2\" name=\"none\"/>"
             "<Block index=\"3\" name=\"wing\"><DataSet index=\"0\" name=\"left/tip\" "
             "file=\"p.vtp\"/></Block></vtkMultiBlockDataSet></VTKFile>");
-        const ReadResult one = read({path});
-        QVERIFY2(one.data, qPrintable(one.error));
-        QCOMPARE(zoneNames(*one.data),
+        const auto one = dataOf({path});
+        QCOMPARE(zoneNames(*one),
                  (QStringList {"wing/left/Block 1", "wing/left/tip", "Block 2", "wing/left/tip"}));
-        QCOMPARE(QString::fromStdString(one.data->notes.at(0)),
-                 QString("1 empty block was left out."));
+        QCOMPARE(QString::fromStdString(one->notes.at(0)), QString("1 empty block was left out."));
 
-        const ReadResult two = read({path, m_folder->path("p.vtp")});
-        QVERIFY2(two.data, qPrintable(two.error));
-        QCOMPARE(zoneNames(*two.data).mid(3), (QStringList {"tree/wing/left/tip", "p"}));
+        const auto two = dataOf({path, m_folder->path("p.vtp")});
+        QCOMPARE(zoneNames(*two).mid(3), (QStringList {"tree/wing/left/tip", "p"}));
 
         m_folder->write("b/p.vtp", polyData());
         m_folder->write("p.vtk",
                         legacy("DATASET STRUCTURED_POINTS\nDIMENSIONS 2 2 2\n"
                                "ORIGIN 0 0 0\nSPACING 1 1 1\n"));
-        const ReadResult same = read({m_folder->path("p.vtk"), m_folder->path("b/p.vtp")});
-        QVERIFY2(same.data, qPrintable(same.error));
-        QCOMPARE(zoneNames(*same.data), (QStringList {"p.vtk", "p.vtp"}));
+        const auto same = dataOf({m_folder->path("p.vtk"), m_folder->path("b/p.vtp")});
+        QCOMPARE(zoneNames(*same), (QStringList {"p.vtk", "p.vtp"}));
     }
 
     void collectionsByTimeGroupAndPart_data()
@@ -279,10 +254,9 @@ private Q_SLOTS:
                         "<VTKFile type=\"vtkMultiBlockDataSet\" version=\"1.0\">"
                         "<vtkMultiBlockDataSet><DataSet index=\"0\" name=\"a\" file=\"p.vtp\"/>"
                         "</vtkMultiBlockDataSet></VTKFile>");
-        const ReadResult result = read({m_folder->write("all.pvd", collection(entries))});
-        QVERIFY2(result.data, qPrintable(result.error));
+        const auto result = dataOf({m_folder->write("all.pvd", collection(entries))});
         QStringList zones;
-        for (const ZoneInfo& zone : result.data->zones)
+        for (const ZoneInfo& zone : result->zones)
             zones << QString("%1@%2s%3")
                          .arg(QString::fromStdString(zone.name))
                          .arg(zone.time)
@@ -297,12 +271,11 @@ private Q_SLOTS:
             legacy("DATASET STRUCTURED_POINTS\nDIMENSIONS 2 1 1\nORIGIN 0 0 0\nSPACING 1 1 1\n"
                    "POINT_DATA 2\nSCALARS Gr\xf6\xdf"
                    "e float\nLOOKUP_TABLE default\n1 2\n"));
-        const ReadResult result = read({path});
-        QVERIFY2(result.data, qPrintable(result.error));
-        QCOMPARE(variableNames(*result.data).value(3),
+        const auto result = dataOf({path});
+        QCOMPARE(variableNames(*result).value(3),
                  QString::fromUtf8("Gr\xc3\xb6\xc3\x9f"
                                    "e"));
-        QCOMPARE(values(*result.data, 1,
+        QCOMPARE(values(*result, 1,
                         QString::fromUtf8("Gr\xc3\xb6\xc3\x9f"
                                           "e")),
                  (QVector<double> {1, 2}));
@@ -310,9 +283,8 @@ private Q_SLOTS:
 
     void filesWithUnusualNames()
     {
-        const ReadResult result = read({m_folder->write("ein Flügel %1 \"#1\".vtp", polyData())});
-        QVERIFY2(result.data, qPrintable(result.error));
-        QCOMPARE(zoneNames(*result.data), QStringList {"ein Flügel %1 \"#1\""});
+        const auto result = dataOf({m_folder->write("ein Flügel %1 \"#1\".vtp", polyData())});
+        QCOMPARE(zoneNames(*result), QStringList {"ein Flügel %1 \"#1\""});
     }
 
 private:

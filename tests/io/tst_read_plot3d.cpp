@@ -226,12 +226,11 @@ private Q_SLOTS:
     {
         const QString grid =
             m_folder->write("flow.xyz", "1\n2, 2, 1\r\n1.5D0 2*-2.5d+1,\t1e2\n 4*0.1D-2 3*0 +7");
-        const ReadResult result = read({grid});
-        QVERIFY2(result.data, qPrintable(result.error));
-        QCOMPARE(values(*result.data, 1, "X"), (QVector<double> {1.5, -25, -25, 100}));
-        QCOMPARE(values(*result.data, 1, "Y"), QVector<double>(4, 0.001));
-        QCOMPARE(values(*result.data, 1, "Z"), (QVector<double> {0, 0, 0, 7}));
-        QCOMPARE(zoneNames(*result.data), QStringList {"flow"});
+        const auto result = dataOf({grid});
+        QCOMPARE(values(*result, 1, "X"), (QVector<double> {1.5, -25, -25, 100}));
+        QCOMPARE(values(*result, 1, "Y"), QVector<double>(4, 0.001));
+        QCOMPARE(values(*result, 1, "Z"), (QVector<double> {0, 0, 0, 7}));
+        QCOMPARE(zoneNames(*result), QStringList {"flow"});
     }
 
     void layoutCanBeChosen()
@@ -291,10 +290,9 @@ private Q_SLOTS:
     {
         const QString grid = m_folder->write("a.xyz", gridFile(usualLayout()));
         const QString other = m_folder->write("a.q", solutionFile(layoutOf(0, false)));
-        const ReadResult guessed = read({grid});
-        QVERIFY2(guessed.data, qPrintable(guessed.error));
-        QVERIFY(!variableNames(*guessed.data).contains("Density"));
-        QVERIFY(guessed.data->notes.at(0).find("a.q was left out") == 0);
+        const auto guessed = dataOf({grid});
+        QVERIFY(!variableNames(*guessed).contains("Density"));
+        QVERIFY(guessed->notes.at(0).find("a.q was left out") == 0);
         const ReadResult asked = read({grid, other});
         QVERIFY(!asked.data);
         QVERIFY2(asked.error.contains("a.q could not be read: it does not belong to the grid file"),
@@ -315,18 +313,17 @@ private Q_SLOTS:
         const QString grid = m_folder->write("flow.xyz", gridFile(layout));
         const QByteArray content = overflowFile(layout);
         const QString solution = m_folder->write("flow.q", content);
-        const ReadResult result = read({grid});
-        QVERIFY2(result.data, qPrintable(result.error));
+        const auto result = dataOf({grid});
         if (*layout.byteCount) {
-            QCOMPARE(result.data->notes.size(), std::size_t(0));
-            const auto zone = static_cast<int>(result.data->zoneCount());
-            QCOMPARE(values(*result.data, zone, "Species Density #1").value(1),
+            QCOMPARE(result->notes.size(), std::size_t(0));
+            const auto zone = static_cast<int>(result->zoneCount());
+            QCOMPARE(values(*result, zone, "Species Density #1").value(1),
                      1000.0 * (zone - 1) + 60.25);
             m_folder->write("flow.q", content.chopped(8));
             QVERIFY(read({grid}).error.contains("flow.q could not be read: it is cut off"));
         } else {
-            QCOMPARE(result.data->notes.size(), std::size_t(1));
-            QVERIFY(values(*result.data, 1, "Density").isEmpty());
+            QCOMPARE(result->notes.size(), std::size_t(1));
+            QVERIFY(values(*result, 1, "Density").isEmpty());
             QVERIFY(read({grid, solution}).error.contains("without record marks"));
         }
     }
@@ -368,13 +365,12 @@ private Q_SLOTS:
                 { "time" : 4.5, "xyz" : "grid.txt", "function" : "two.f" },
                 { "time" : 3.5, "xyz" : "grid.txt", "q" : "one.q" } ],
             "function-names" : ["swirl"] })");
-        const ReadResult result = read({index});
-        QVERIFY2(result.data, qPrintable(result.error));
-        QCOMPARE(result.data->solutionTimes(), (std::vector<double> {3.5, 4.5}));
-        QCOMPARE(zoneNames(*result.data), (QStringList {"run", "run"}));
-        QVERIFY(values(*result.data, 1, "swirl").isEmpty());
-        QCOMPARE(values(*result.data, 2, "swirl").value(1), 0.25);
-        QCOMPARE(values(*result.data, 1, "Density").value(1), 0.25);
+        const auto result = dataOf({index});
+        QCOMPARE(result->solutionTimes(), (std::vector<double> {3.5, 4.5}));
+        QCOMPARE(zoneNames(*result), (QStringList {"run", "run"}));
+        QVERIFY(values(*result, 1, "swirl").isEmpty());
+        QCOMPARE(values(*result, 2, "swirl").value(1), 0.25);
+        QCOMPARE(values(*result, 1, "Density").value(1), 0.25);
     }
 
     void brokenIndexFiles_data()

@@ -60,9 +60,8 @@ private Q_SLOTS:
             currentRow<QStringList, int, int, QString, QVector<int>, QString, QVector<int>, bool>();
         for (QString& file : files)
             file = DataFolder::sample(file);
-        const ReadResult result = read(files);
-        QVERIFY2(result.data, qPrintable(result.error));
-        const DataSet& data = *result.data;
+        const auto result = dataOf(files);
+        const DataSet& data = *result;
         QCOMPARE(static_cast<int>(data.zoneCount()), zones);
         int lastStrand = 0;
         for (const ZoneInfo& zone : data.zones)
@@ -91,9 +90,8 @@ private Q_SLOTS:
     void geometryIsWhatTheZonesSay()
     {
         const auto [files] = currentRow<QStringList>();
-        const ReadResult result = read(files);
-        QVERIFY2(result.data, qPrintable(result.error));
-        const DataSet& data = *result.data;
+        const auto result = dataOf(files);
+        const DataSet& data = *result;
         for (std::int64_t number = 1; number <= data.zoneCount(); ++number) {
             const ZoneInfo& zone = data.zone(number);
             const vtkSmartPointer<vtkDataSet> geometry = data.geometry(number);
@@ -120,35 +118,32 @@ private Q_SLOTS:
 
     void strandsAndTimes()
     {
-        const ReadResult cavity = read({DataFolder::sample("cavity_transient/case.foam")});
-        QVERIFY2(cavity.data, qPrintable(cavity.error));
-        QCOMPARE(cavity.data->solutionTimes(), (std::vector<double> {0, 0.5, 1, 1.5, 2, 2.5}));
-        QCOMPARE(zoneNames(*cavity.data).mid(0, 7).join(","),
+        const auto cavity = dataOf({DataFolder::sample("cavity_transient/case.foam")});
+        QCOMPARE(cavity->solutionTimes(), (std::vector<double> {0, 0.5, 1, 1.5, 2, 2.5}));
+        QCOMPARE(zoneNames(*cavity).mid(0, 7).join(","),
                  QString("internalMesh,internalMesh,internalMesh,internalMesh,internalMesh,"
                          "internalMesh,boundary/movingWall"));
 
-        const ReadResult spheres =
-            read({DataFolder::sample("two_spheres/dualSphereAnimation4NoPart.pvd")});
-        QVERIFY2(spheres.data, qPrintable(spheres.error));
-        QCOMPARE(spheres.data->zoneCount(), std::int64_t(9));
-        QCOMPARE(spheres.data->zone(5).strand, 1);
-        QCOMPARE(spheres.data->zone(6).strand, 2);
-        QCOMPARE(spheres.data->zone(6).time, 1.0);
+        const auto spheres =
+            dataOf({DataFolder::sample("two_spheres/dualSphereAnimation4NoPart.pvd")});
+        QCOMPARE(spheres->zoneCount(), std::int64_t(9));
+        QCOMPARE(spheres->zone(5).strand, 1);
+        QCOMPARE(spheres->zone(6).strand, 2);
+        QCOMPARE(spheres->zone(6).time, 1.0);
     }
 
     void valuesAreThoseOfTheFile()
     {
-        const ReadResult result = read({DataFolder::sample("cavity_transient/case.foam")});
-        QVERIFY2(result.data, qPrintable(result.error));
-        const QVector<double> pressure = values(*result.data, 2, "p");
-        const QVector<double> u = values(*result.data, 2, "U X");
+        const auto result = dataOf({DataFolder::sample("cavity_transient/case.foam")});
+        const QVector<double> pressure = values(*result, 2, "p");
+        const QVector<double> u = values(*result, 2, "U X");
         QCOMPARE(pressure.size(), 400);
         QCOMPARE(static_cast<float>(pressure[1]), -0.0058199f);
         QCOMPARE(static_cast<float>(u[2]), -0.0011771f);
-        QCOMPARE(result.data->values(2, 7).location, ValueLocation::Cells);
-        const QVector<double> lid = values(*result.data, 8, "U X");
+        QCOMPARE(result->values(2, 7).location, ValueLocation::Cells);
+        const QVector<double> lid = values(*result, 8, "U X");
         QCOMPARE(lid, QVector<double>(20, 1.0));
-        QVERIFY(values(*result.data, 1, "U X") != u);
+        QVERIFY(values(*result, 1, "U X") != u);
     }
 
     void manyWarningsAreCounted()
@@ -161,10 +156,9 @@ private Q_SLOTS:
                 QVERIFY(file.resize(file.readAll().indexOf("frontAndBack")));
             }
         }
-        const ReadResult result = read({folder.filePath("case.foam")});
-        QVERIFY2(result.data, qPrintable(result.error));
-        QCOMPARE(result.data->notes.size(), std::size_t(6));
-        QCOMPARE(result.data->notes[5], std::string("There were 7 more warnings like these."));
+        const auto result = dataOf({folder.filePath("case.foam")});
+        QCOMPARE(result->notes.size(), std::size_t(6));
+        QCOMPARE(result->notes[5], std::string("There were 7 more warnings like these."));
     }
 
     void decomposedCase()
@@ -172,10 +166,9 @@ private Q_SLOTS:
         m_folder.write("parts/system/controlDict", "FoamFile { }");
         m_folder.copySample("cavity_transient", "parts/processor0");
         m_folder.copySample("cavity_transient", "parts/processor1");
-        const ReadResult result = read({m_folder.write("parts/case.foam", {})});
-        QVERIFY2(result.data, qPrintable(result.error));
-        QCOMPARE(result.data->zoneCount(), std::int64_t(24));
-        QCOMPARE(result.data->zone(1).cellCount, std::int64_t(800));
+        const auto result = dataOf({m_folder.write("parts/case.foam", {})});
+        QCOMPARE(result->zoneCount(), std::int64_t(24));
+        QCOMPARE(result->zone(1).cellCount, std::int64_t(800));
     }
 
     void quotedNamesInACaseFile()
@@ -197,12 +190,11 @@ number of steps: 2
 filename numbers: 1 3
 time values: 0.1 3
 )");
-        const ReadResult result = read({path});
-        QVERIFY2(result.data, qPrintable(result.error));
+        const auto result = dataOf({path});
         const ReadResult plain = read({DataFolder::sample("naca_transient/naca.bin.case")});
-        QCOMPARE(result.data->zoneCount(), plain.data->zoneCount());
-        QCOMPARE(result.data->solutionTimes(), (std::vector<double> {0.1, 3.0}));
-        QCOMPARE(values(*result.data, 2, "DENS"), values(*plain.data, 2, "DENS"));
+        QCOMPARE(result->zoneCount(), plain.data->zoneCount());
+        QCOMPARE(result->solutionTimes(), (std::vector<double> {0.1, 3.0}));
+        QCOMPARE(values(*result, 2, "DENS"), values(*plain.data, 2, "DENS"));
     }
 };
 

@@ -36,8 +36,8 @@ bool setStyle(const QString& path, const std::string& maps, double value, CvlInt
 /// is marked + or -, a refused write ends with its code as in "(6)".
 QString takeWrites();
 
-/// A cell as a person reads it: text, "[x]", "[ ]", a colour and the text on it; in parentheses when
-/// greyed.
+/// A cell as a person reads it: text, "[x]", "[ ]", a colour and the text on it; in parentheses
+/// when greyed.
 QString cellText(const ModelAbstract& model, int row, int column);
 QString rowText(const ModelAbstract& model, int row); ///< cells from the first, separated by "|"
 QString columnText(const ModelAbstract& model, int column); ///< the cells of all rows

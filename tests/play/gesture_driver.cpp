@@ -313,34 +313,30 @@ void GestureDriver::doubleClickCell()
         play::doubleClick(view->viewport(), anyPoint(view->viewport()->rect()));
 }
 
-/// A point of the right border of a column that is in view.
-static QPoint anyBorder(const QHeaderView& header, int visual)
+/// A point of the right border of a column, when it is in view.
+std::optional<QPoint> GestureDriver::anyBorder()
 {
-    const int column = header.logicalIndex(visual);
-    return {header.sectionViewportPosition(column) + header.sectionSize(column) - 1,
-            header.height() / 2};
+    QTableView* view = table();
+    if (!view || view->horizontalHeader()->count() == 0)
+        return std::nullopt;
+    const QHeaderView& header = *view->horizontalHeader();
+    const int column = header.logicalIndex(below(header.count()));
+    const QPoint border(header.sectionViewportPosition(column) + header.sectionSize(column) - 1,
+                        header.height() / 2);
+    return header.viewport()->rect().contains(border) ? std::optional(border) : std::nullopt;
 }
 
 void GestureDriver::dragHeader()
 {
-    QTableView* view = table();
-    if (!view || view->horizontalHeader()->count() == 0)
-        return;
-    QHeaderView* header = view->horizontalHeader();
-    const QPoint border = anyBorder(*header, below(header->count()));
-    if (header->viewport()->rect().contains(border))
-        play::drag(header->viewport(), border, border + QPoint(between(-80, 200), 0));
+    if (const auto border = anyBorder())
+        play::drag(table()->horizontalHeader()->viewport(), *border,
+                   *border + QPoint(between(-80, 200), 0));
 }
 
 void GestureDriver::doubleClickHeader()
 {
-    QTableView* view = table();
-    if (!view || view->horizontalHeader()->count() == 0)
-        return;
-    QHeaderView* header = view->horizontalHeader();
-    const QPoint border = anyBorder(*header, below(header->count()));
-    if (header->viewport()->rect().contains(border))
-        play::doubleClick(header->viewport(), border);
+    if (const auto border = anyBorder())
+        play::doubleClick(table()->horizontalHeader()->viewport(), *border);
 }
 
 void GestureDriver::clickHeader()

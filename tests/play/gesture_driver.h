@@ -5,6 +5,7 @@
 
 #include <QPointer>
 
+#include <optional>
 #include <random>
 
 class QDialog;
@@ -85,6 +86,7 @@ private:
     QTableView* table() const; ///< null when none is shown
     QModelIndex anyCell(int role = -1); ///< a visible one, with a value for the role
     QPoint anyPoint(const QRect& area);
+    std::optional<QPoint> anyBorder();
     Qt::KeyboardModifiers anyModifiers();
 
     play::ScriptRun m_run;

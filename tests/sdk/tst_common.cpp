@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "host/document/document.h"
-#include "samples/demo_data.h"
 #include "sdk/base/cvl.h"
 #include "sdk/common/app_lock.h"
 #include "sdk/common/common.h"
+#include "tests/support/document_fixture.h"
 #include "tests/support/modal_responder.h"
 #include "tests/support/rows.h"
 
@@ -16,10 +15,8 @@
 #include <vtkPointData.h>
 
 using namespace corvala;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 using host::Document;
-using tests::ModalResponder;
 
 namespace {
 
@@ -66,14 +63,6 @@ void openCellData()
     }
 }
 
-toolbox::Set maps(std::initializer_list<CvlInt64> numbers)
-{
-    toolbox::Set set;
-    for (const CvlInt64 number : numbers)
-        set.add(number);
-    return set;
-}
-
 } // namespace
 
 class tst_Common : public QObject
@@ -84,7 +73,7 @@ private Q_SLOTS:
     void init() { Document::instance().clear(); }
     void names()
     {
-        open("kinds");
+        openDemo("kinds");
         const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
         QCOMPARE(sdk::zoneNameWithIndexFormattedForFrame(frame, 5), std::string("5: wing [upper]"));
         QCOMPARE(sdk::variableNameWithIndexFormattedForAliasesForFrame(frame, 7),
@@ -100,7 +89,7 @@ private Q_SLOTS:
 
     void activeZonesFollowTheirMaps()
     {
-        open("transient");
+        openDemo("transient");
         QCOMPARE(sdk::getActiveZones().count(), CvlInt64(7));
         const host::NumberSet strand = host::NumberSet::bitmapOf(1, 2);
         Document::instance().execute(
@@ -109,14 +98,14 @@ private Q_SLOTS:
         QCOMPARE(zones.count(), CvlInt64(3));
         QCOMPARE(zones.next(1), CvlInt64(6));
         QVERIFY(!sdk::isVolumeZone(1));
-        open("kinds");
+        openDemo("kinds");
         QVERIFY(sdk::isVolumeZone(1) && sdk::isVolumeZone(4) && !sdk::isVolumeZone(9));
     }
 
     void assignsTheScatterVariableOnce()
     {
         QVERIFY(!sdk::autoAssignScatterVariable()); // no data
-        open("field2d", 2);
+        openDemo("field2d", 2);
         QVERIFY(sdk::autoAssignScatterVariable());
         QCOMPARE(frameValue("GlobalScatter", "Var"), 3);
         QCOMPARE(Document::instance().undo().stepCount(), 0); // undone, it would only come again
@@ -131,7 +120,7 @@ private Q_SLOTS:
     {
         QVERIFY(!sdk::autoAssignAllContourGroupVariables(
             ContourLevelsInitializationMode_ResetIfVariableIsNew));
-        open("field2d", 2);
+        openDemo("field2d", 2);
         QVERIFY(sdk::autoAssignAllContourGroupVariables(
             ContourLevelsInitializationMode_ResetIfVariableIsNew));
         QCOMPARE(frameValue("ContourGroups", "Var", 1), 5); // as it was
@@ -141,7 +130,7 @@ private Q_SLOTS:
 
     void channelsMustAllBeSet()
     {
-        open("field2d", 2);
+        openDemo("field2d", 2);
         const toolbox::StyleValue global("GlobalRGB");
         setFrameValue({"GlobalRGB", "RedVar"}, 3);
         setFrameValue({"GlobalRGB", "GreenVar"}, 4);
@@ -166,7 +155,7 @@ private Q_SLOTS:
     void asksForTheLayer()
     {
         const auto [layer, answer, chooser, result] = currentRow<QString, int, int, bool>();
-        open("field3d", 4);
+        openDemo("field3d", 4);
         ModalResponder responder;
         if (answer != 0)
             responder.reply(answer == QMessageBox::Yes ? "OK" : "cancel");
@@ -190,7 +179,7 @@ private Q_SLOTS:
 
     void offersSurfaces()
     {
-        open("field3d", 4);
+        openDemo("field3d", 4);
         const toolbox::StyleValue surfaces("FieldMap", "Surfaces", "SurfacesToPlot");
         ModalResponder responder;
         responder.reject().accept();
@@ -204,7 +193,7 @@ private Q_SLOTS:
 
     void confirmsUnorderedZones()
     {
-        open("xy");
+        openDemo("xy");
         ModalResponder responder;
         QVERIFY(sdk::confirmLineMapZoneSelection(3));
         QVERIFY(sdk::confirmLineMapZoneSelection(77));
@@ -220,10 +209,10 @@ private Q_SLOTS:
         openCellData();
         ModalResponder responder;
         QVERIFY(sdk::confirmLineMapZoneSelection(1)); // for no map
-        QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({1, 99})));
+        QVERIFY(sdk::confirmLineMapZoneSelection(1, setOf({1, 99})));
         responder.reject().accept();
-        QVERIFY(!sdk::confirmLineMapZoneSelection(1, maps({1, 2})));
-        QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({3})));
+        QVERIFY(!sdk::confirmLineMapZoneSelection(1, setOf({1, 2})));
+        QVERIFY(sdk::confirmLineMapZoneSelection(1, setOf({3})));
         QVERIFY(responder.isSettled());
         const QString question = QStringLiteral("Zone: Zone 1 has no values at its points of %1.\n"
                                                 "Do you want to use it anyway?");
@@ -234,7 +223,7 @@ private Q_SLOTS:
             std::make_shared<host::DataSet>(*Document::instance().activeFrame()->data());
         positions->variables.resize(1);
         Document::instance().execute(host::AttachData {{}, positions, PlotType_LineXY, 1});
-        QVERIFY(sdk::confirmLineMapZoneSelection(1, maps({1}))); // its second variable is nowhere
+        QVERIFY(sdk::confirmLineMapZoneSelection(1, setOf({1}))); // its second variable is nowhere
     }
 
     void lockIsRecursive()
@@ -248,11 +237,6 @@ private Q_SLOTS:
     }
 
 private:
-    static void open(const char* name, std::int64_t scale = 0)
-    {
-        std::string error;
-        QVERIFY2(samples::openDemo(name, scale, error), error.c_str());
-    }
     static int frameValue(const char* group, const char* name, CvlInt64 index = -1)
     {
         return toolbox::StyleValue(group, name).read<int>(0, index).value_or(-1);

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "sdk/base/cvl.h"
 
-#include "host/document/document.h"
-#include "samples/demo_data.h"
 #include "tests/host/event_log.h"
+#include "tests/support/document_fixture.h"
 #include "tests/support/rows.h"
 
 #include <QtTest>
@@ -11,8 +10,7 @@
 #include <limits>
 
 using namespace corvala;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 using host::Document;
 
 namespace {
@@ -131,7 +129,7 @@ private Q_SLOTS:
     void answersNothing()
     {
         const auto [demo, good, ask, nothing] = currentRow<QString, int, Ask, CvlInt64>();
-        open(qPrintable(demo));
+        openDemo(qPrintable(demo));
         Document& document = Document::instance();
         document.execute(host::SetPicks {{{PickType_Zone, 1}, {PickType_LineMap, 1}}});
         const CvlUniqueId frame = document.activeFrameId();
@@ -149,7 +147,7 @@ private Q_SLOTS:
 
     void layersByName()
     {
-        open("field2d");
+        openDemo("field2d");
         const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
         QVERIFY(CvlUtilFieldLayerIsActiveForFrame(frame, "ShowMesh"));
         QVERIFY(CvlUtilLinePlotLayerIsActiveForFrame(frame, "ShowLines"));
@@ -158,7 +156,7 @@ private Q_SLOTS:
             QVERIFY(!CvlUtilFieldLayerIsActiveForFrame(frame, bad));
             QVERIFY(!CvlUtilLinePlotLayerIsActiveForFrame(frame, bad));
         }
-        open("xy");
+        openDemo("xy");
         for (const char* bad : {"Assign", "Nothing", "", static_cast<const char*>(nullptr)})
             QVERIFY(!CvlUtilLineMapStyleGetArbValueForFrame(CvlUtilFrameGetUniqueID(), 1, bad));
     }
@@ -179,7 +177,7 @@ private Q_SLOTS:
     void refusesBadMaps()
     {
         const auto [command] = currentRow<Command>();
-        open("xy");
+        openDemo("xy");
         CvlSetHandle maps = CvlUtilSetAlloc(0);
         EventLog log;
         QVERIFY(!command(nullptr));
@@ -194,7 +192,7 @@ private Q_SLOTS:
 
     void countsOfUnorderedZones()
     {
-        open("field2d");
+        openDemo("field2d");
         CvlInt64 points = 0;
         CvlInt64 last = 0;
         QVERIFY(CvlUtilZoneGetInfoForFrame(CvlUtilFrameGetUniqueID(), 2, &points, nullptr, &last));
@@ -225,13 +223,6 @@ private Q_SLOTS:
         QVERIFY(!CvlUtilSetAddMember(nullptr, 1, 1));
         QCOMPARE(CvlUtilSetGetMemberCount(nullptr), CvlInt64(0));
         QCOMPARE(CvlUtilSetGetNextMember(nullptr, 0), CvlInt64(0));
-    }
-
-private:
-    static void open(const char* name)
-    {
-        std::string error;
-        QVERIFY2(samples::openDemo(name, 0, error), error.c_str());
     }
 };
 

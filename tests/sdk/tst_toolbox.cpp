@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "host/document/document.h"
-#include "samples/demo_data.h"
 #include "sdk/base/cvl.h"
 #include "sdk/toolbox/style_value.h"
+#include "tests/support/document_fixture.h"
 
 #include <QtTest>
 
@@ -78,8 +77,7 @@ private Q_SLOTS:
 
     void writesGoWhereTheArgumentsSay()
     {
-        std::string error;
-        QVERIFY(samples::openDemo("field2d", 4, error));
+        corvala::tests::openDemo("field2d", 4);
         Set maps;
         maps.addRange(2, 3);
         StyleValue thickness("FieldMap", nullptr, "Mesh",
@@ -107,8 +105,7 @@ private Q_SLOTS:
 
     void readsNumbersThatFit()
     {
-        std::string error;
-        QVERIFY(samples::openDemo("xy", 2, error));
+        corvala::tests::openDemo("xy", 2);
         Set maps;
         maps.add(1);
         StyleValue end("LineMap", "Curves", "IndVarMax");
@@ -124,8 +121,7 @@ private Q_SLOTS:
 
     void readsNothingWhereNothingIs()
     {
-        std::string error;
-        QVERIFY(samples::openDemo("xy", 2, error));
+        corvala::tests::openDemo("xy", 2);
         const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
         const StyleValue zone("LineMap", "Assign", "Zone");
         const StyleValue variable("ContourGroups", "Var");
@@ -147,8 +143,7 @@ private Q_SLOTS:
 
     void readsOfNumbersAllocateNothing()
     {
-        std::string error;
-        QVERIFY(samples::openDemo("field2d", 12, error));
+        corvala::tests::openDemo("field2d", 12);
         const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
         int sum = 0;
         const std::size_t before = allocations;

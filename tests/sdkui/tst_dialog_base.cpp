@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "tests/sdkui/document_fixture.h"
+#include "tests/support/document_fixture.h"
 #include "tests/support/rows.h"
 
 #include <sdk/common_ui/combo_box_auto_filter.h>
@@ -63,28 +63,23 @@ private Q_SLOTS:
 
     void closingHidesAndReopeningComesBack_data()
     {
-        const Rows<QString> row;
-        row("by the host", "drop");
-        row("by Escape", "escape");
-        row("by its button", "button");
+        const Rows<void (*)(QtDialogAbstract&)> row; // how
+        row("by the host", [](QtDialogAbstract& dialog) { dialog.drop(); });
+        row("by Escape",
+            [](QtDialogAbstract& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        row("by its button",
+            [](QtDialogAbstract& dialog) { dialog.findChild<QPushButton*>()->click(); });
     }
 
     void closingHidesAndReopeningComesBack()
     {
-        const auto [way] = currentRow<QString>();
+        const auto [close] = currentRow<void (*)(QtDialogAbstract&)>();
         const QPointer<QtDialogAbstract> guard(m_dialog);
         QSignalSpy finished(m_dialog, &QDialog::finished);
         m_dialog->move(123, 45);
         m_dialog->setAttribute(Qt::WA_Moved, false); // it was its user who did
         m_lineEdit->setText("kept");
-        if (way == "drop")
-            m_dialog->drop();
-        else if (way == "escape")
-            QTest::keyClick(m_dialog, Qt::Key_Escape);
-        else
-            QTest::mouseClick(
-                m_dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Close),
-                Qt::LeftButton);
+        close(*m_dialog);
         QTest::qWait(5);
         QVERIFY(guard);
         QVERIFY(!m_dialog->isVisible());

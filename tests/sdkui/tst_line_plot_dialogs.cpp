@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "play/input.h"
-#include "tests/sdkui/document_fixture.h"
+#include "tests/support/document_fixture.h"
 #include "tests/support/rows.h"
 
 #include <sdk/common_ui/combo_box_auto_filter.h>

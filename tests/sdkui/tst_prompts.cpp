@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "play/input.h"
-#include "tests/sdkui/document_fixture.h"
+#include "tests/support/document_fixture.h"
 
 #include "tests/support/modal_responder.h"
 #include "tests/support/rows.h"
@@ -37,18 +37,6 @@ using corvala::tests::currentRow;
 using corvala::tests::Rows;
 
 static constexpr int kMost = std::numeric_limits<int>::max();
-
-/// Gives a key to whatever of the dialog has the focus.
-static void press(QDialog& dialog, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-{
-    QTest::keyClick(dialog.focusWidget() ? dialog.focusWidget() : &dialog, key, modifiers);
-}
-
-/// Gives a mnemonic or shortcut to the window, as the window system does.
-static void pressShortcut(QDialog& dialog, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
-{
-    QTest::keyClick(dialog.windowHandle(), key, modifiers);
-}
 
 static void type(QDialog& dialog, const QString& text)
 {
@@ -131,17 +119,17 @@ private Q_SLOTS:
         responder.answer(ending([](QDialog& shown) {
             QCOMPARE(shown.windowTitle(), QString("Enter Range"));
             type(shown, "5"); // the first value is selected and is replaced
-            press(shown, Qt::Key_Tab);
+            play::pressKey(&shown, Qt::Key_Tab);
             type(shown, "12");
-            pressShortcut(shown, Qt::Key_S, Qt::AltModifier);
+            play::pressKey(&shown, Qt::Key_S, Qt::AltModifier);
             QCOMPARE(shown.focusWidget(), shown.findChildren<QSpinBox*>().at(2));
             type(shown, "2");
-            press(shown, Qt::Key_Return);
+            play::pressKey(&shown, Qt::Key_Return);
         }));
         QCOMPARE(dialog.exec(), int(QDialog::Accepted));
         QCOMPARE(dialog.values(), (ThreeInts {5, 12, 2}));
 
-        responder.answer(ending([](QDialog& shown) { press(shown, Qt::Key_Escape); }));
+        responder.answer(ending([](QDialog& shown) { play::pressKey(&shown, Qt::Key_Escape); }));
         QCOMPARE(dialog.exec(), int(QDialog::Rejected));
         QVERIFY(responder.isSettled());
     }
@@ -165,7 +153,7 @@ private Q_SLOTS:
         ModalResponder responder;
         responder.answer(ending([&typed = typed](QDialog& shown) {
             type(shown, typed);
-            press(shown, Qt::Key_Return);
+            play::pressKey(&shown, Qt::Key_Return);
         }));
         QCOMPARE(dialog.exec(), int(QDialog::Accepted));
         QCOMPARE(dialog.values(), (ThreeInts {accepted, 1, 9}));
@@ -180,25 +168,25 @@ private Q_SLOTS:
         responder.answer(ending([](QDialog& shown) {
             type(shown, "2");
             QVERIFY(!okButton(shown)->isEnabled());
-            press(shown, Qt::Key_Return);
+            play::pressKey(&shown, Qt::Key_Return);
             QVERIFY(shown.isVisible());
             QCOMPARE(shown.findChildren<QSpinBox*>().at(0)->text(), QString("5"));
             QVERIFY(okButton(shown)->isEnabled());
-            press(shown, Qt::Key_Return);
+            play::pressKey(&shown, Qt::Key_Return);
         }));
         QCOMPARE(dialog.exec(), int(QDialog::Accepted));
         QCOMPARE(dialog.values(), (ThreeInts {5, 8, 9}));
 
         responder.answer(ending([](QDialog& shown) {
             type(shown, "2");
-            press(shown, Qt::Key_Tab); // leaving the field corrects it as well
+            play::pressKey(&shown, Qt::Key_Tab); // leaving the field corrects it as well
             QVERIFY(okButton(shown)->isEnabled());
             type(shown, "-");
             shown.reject();
         }));
         dialog.exec();
         dialog.setValues(7, 8, 9);
-        responder.answer(ending([](QDialog& shown) { press(shown, Qt::Key_Return); }));
+        responder.answer(ending([](QDialog& shown) { play::pressKey(&shown, Qt::Key_Return); }));
         QCOMPARE(dialog.exec(), int(QDialog::Accepted)); // what was refused is forgotten
     }
 
@@ -214,7 +202,7 @@ private Q_SLOTS:
         responder.answer(ending([](QDialog& shown) {
             auto* help = shown.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Help);
             QTest::mouseClick(help, Qt::LeftButton);
-            pressShortcut(shown, Qt::Key_F1);
+            play::pressKey(&shown, Qt::Key_F1);
             QTest::qWait(200); // a button stays down for a moment
         }));
         dialog.exec();
@@ -224,7 +212,7 @@ private Q_SLOTS:
         responder.answer(ending([](QDialog& shown) {
             QVERIFY(
                 !shown.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Help)->isVisible());
-            pressShortcut(shown, Qt::Key_F1);
+            play::pressKey(&shown, Qt::Key_F1);
             QTest::qWait(200);
         }));
         dialog.exec();
@@ -249,7 +237,7 @@ private Q_SLOTS:
         ModalResponder responder;
         responder.answer(ending([&typed = typed](QDialog& shown) {
             type(shown, typed);
-            press(shown, Qt::Key_Return);
+            play::pressKey(&shown, Qt::Key_Return);
         }));
         QCOMPARE(dialog.exec(), int(QDialog::Accepted));
         QCOMPARE(dialog.selectedChar(), character);
@@ -266,7 +254,7 @@ private Q_SLOTS:
         ModalResponder responder;
         responder.answer(ending([](QDialog& shown) {
             QVERIFY(!okButton(shown)->isEnabled());
-            press(shown, Qt::Key_Return);
+            play::pressKey(&shown, Qt::Key_Return);
             QVERIFY(shown.isVisible());
             type(shown, "q");
             QVERIFY(okButton(shown)->isEnabled());
@@ -275,14 +263,14 @@ private Q_SLOTS:
             QTest::mouseClick(shown.findChild<QCheckBox*>(), Qt::LeftButton, {}, {5, 8});
             QVERIFY(font->isEnabled());
             QTest::keyClick(font, Qt::Key_Down);
-            press(shown, Qt::Key_Return);
+            play::pressKey(&shown, Qt::Key_Return);
         }));
         QCOMPARE(dialog.exec(), int(QDialog::Accepted));
         QCOMPARE(dialog.selectedChar(), QString("q"));
         QVERIFY(!dialog.useBaseFont());
         QCOMPARE(dialog.typeFaceOverride(), int(FontOverride_User));
 
-        responder.answer(ending([](QDialog& shown) { press(shown, Qt::Key_Escape); }));
+        responder.answer(ending([](QDialog& shown) { play::pressKey(&shown, Qt::Key_Escape); }));
         QCOMPARE(dialog.exec(), int(QDialog::Rejected));
     }
 
@@ -291,9 +279,9 @@ private Q_SLOTS:
         auto& dialog = ZoneSelectDialog::getInstance(m_window.get());
         ModalResponder responder;
         responder.answer(ending([](QDialog& shown) {
-            press(shown, Qt::Key_Down); // the filter has the focus, the list follows
-            press(shown, Qt::Key_Down);
-            press(shown, Qt::Key_Return);
+            play::pressKey(&shown, Qt::Key_Down); // the filter has the focus, the list follows
+            play::pressKey(&shown, Qt::Key_Down);
+            play::pressKey(&shown, Qt::Key_Return);
         }));
         QVERIFY(dialog.selectZone(3));
         QCOMPARE(dialog.selectedZone(), 5);
@@ -336,7 +324,7 @@ private Q_SLOTS:
             }
             QTRY_COMPARE(list->model()->rowCount(), rows);
             QCOMPARE(okButton(shown)->isEnabled(), zone != 0);
-            press(shown, Qt::Key_Return);
+            play::pressKey(&shown, Qt::Key_Return);
             if (zone == 0) {
                 QVERIFY(shown.isVisible());
                 shown.reject();
@@ -348,7 +336,7 @@ private Q_SLOTS:
         if (zone != 0) { // Return at once takes what the typed text leads to
             responder.answer(ending([&typed = typed](QDialog& shown) {
                 type(shown, typed.join(QString()));
-                press(shown, Qt::Key_Return);
+                play::pressKey(&shown, Qt::Key_Return);
             }));
             QVERIFY(dialog.selectZone(0));
             QCOMPARE(dialog.selectedZone(), zone);
@@ -359,19 +347,19 @@ private Q_SLOTS:
     {
         auto& dialog = ZoneSelectDialog::getInstance(m_window.get());
         ModalResponder responder;
-        responder.answer(ending([](QDialog& shown) { press(shown, Qt::Key_Return); }));
+        responder.answer(ending([](QDialog& shown) { play::pressKey(&shown, Qt::Key_Return); }));
         QVERIFY(dialog.selectZone(4));
         QCOMPARE(dialog.selectedZone(), 4);
         responder.answer(ending([](QDialog& shown) {
-            press(shown, Qt::Key_Down);
-            press(shown, Qt::Key_Escape);
+            play::pressKey(&shown, Qt::Key_Down);
+            play::pressKey(&shown, Qt::Key_Escape);
         }));
         QVERIFY(!dialog.selectZone(1));
         QCOMPARE(dialog.selectedZone(), 4);
 
         responder.answer(ending([](QDialog& shown) {
             QVERIFY(!okButton(shown)->isEnabled()); // a look does not choose a zone
-            press(shown, Qt::Key_Return);
+            play::pressKey(&shown, Qt::Key_Return);
             QVERIFY(shown.isVisible());
             shown.reject();
         }));
@@ -388,7 +376,7 @@ private Q_SLOTS:
             shown.grab();
             reads = CvlAppGetReadCount() - reads;
             type(shown, "99999");
-            press(shown, Qt::Key_Return);
+            play::pressKey(&shown, Qt::Key_Return);
         }));
         reads = CvlAppGetReadCount();
         QVERIFY(dialog.selectZone(50000));
@@ -403,7 +391,7 @@ private Q_SLOTS:
         responder.answer(ending([this](QDialog&) { m_window.reset(); }));
         QVERIFY(!dialog.selectZone(1));
         QWidget other;
-        responder.answer(ending([](QDialog& shown) { press(shown, Qt::Key_Return); }));
+        responder.answer(ending([](QDialog& shown) { play::pressKey(&shown, Qt::Key_Return); }));
         QVERIFY(ZoneSelectDialog::getInstance(&other).selectZone(2));
     }
 
@@ -560,7 +548,7 @@ private Q_SLOTS:
         sdk::ui::writeStyle(style::globalVector.uVar, nullptr, 0);
         const int steps = tests::undoSteps();
         ModalResponder responder;
-        responder.answer(ending([](QDialog& shown) { press(shown, Qt::Key_Escape); }));
+        responder.answer(ending([](QDialog& shown) { play::pressKey(&shown, Qt::Key_Escape); }));
         QVERIFY(!VectorVarAssignStrategy()(PlotType_Field2D));
         QCOMPARE(tests::undoSteps(), steps);
         QCOMPARE(tests::frameValue("GlobalVector", "UVar"), 0.0);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "tests/sdkui/document_fixture.h"
+#include "tests/support/document_fixture.h"
 #include "tests/support/rows.h"
 
 #include <sdk/common/app_lock.h>

@@ -21,6 +21,13 @@ void runUntilIdle()
     play::waitUntilIdle();
 }
 
+void change(const QString& path, const std::string& maps, double value)
+{
+    if (!setStyle(path, maps, value))
+        qFatal("%s is not written", qPrintable(path));
+    runUntilIdle();
+}
+
 static toolbox::StyleValue styleValueOf(const QString& path)
 {
     std::vector<std::string> names;

@@ -22,6 +22,9 @@ using sdk::ui::dialogs::zonestyle::intern::views::StyleTableView;
 /// Lets everything that is pending happen, idle refreshes and repaints too.
 void runUntilIdle();
 
+/// A style write of a caller that is no user, as setStyle, and what follows from it. Must be done.
+void change(const QString& path, const std::string& maps, double value);
+
 /// A style value of a map of the active frame, or of the frame (map 0).
 int styleValue(const QString& path, int map);
 

@@ -31,8 +31,7 @@ private Q_SLOTS:
     {
         const auto [demo, layer] = currentRow<QString, QString>();
         open(qPrintable(demo), QTest::currentDataTag());
-        QVERIFY(setStyle(layer, "", 1));
-        runUntilIdle();
+        change(layer, "", 1);
         QVector<QImage> before;
         QVector<bool> wasInUse;
         for (int column = 0; column < m_fixture->model().columnCount(); ++column) {
@@ -93,15 +92,13 @@ private Q_SLOTS:
     void colorsOfGroupsAreNamed()
     {
         open("field2d", "Mesh");
-        QVERIFY(setStyle("FieldMap.Mesh.Color", "1", 103));
-        runUntilIdle();
+        change("FieldMap.Mesh.Color", "1", 103);
         const QImage named = cellPicture(6);
         const QColor color = colorOf(6);
         const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
         corvala::host::Document::instance().execute(corvala::host::SetPaletteColor {
             9, {part(color.red()), part(color.green()), part(color.blue())}});
-        QVERIFY(setStyle("FieldMap.Mesh.Color", "1", 9));
-        runUntilIdle();
+        change("FieldMap.Mesh.Color", "1", 9);
         QCOMPARE(colorOf(6), color);
         QVERIFY(cellPicture(6) != named);
     }

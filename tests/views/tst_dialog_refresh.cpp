@@ -74,8 +74,7 @@ private Q_SLOTS:
             return fixture.table().viewport()->grab(cell).toImage();
         };
         const QImage before = cellPicture();
-        setStyle("FieldMap.Mesh.MeshType", "3", 2);
-        runUntilIdle();
+        change("FieldMap.Mesh.MeshType", "3", 2);
         QVERIFY(cellPicture() != before);
         QVERIFY(host::Document::instance().execute(host::DeleteMaps {host::allUpTo(4)}).isDone());
         runUntilIdle();
@@ -136,8 +135,7 @@ private Q_SLOTS:
         fixture.clickTab("Scatter");
         const int assigned = styleValue("GlobalScatter.Var", 0);
         QVERIFY(assigned > 0);
-        setStyle("GlobalScatter.Var", "", 0);
-        runUntilIdle();
+        change("GlobalScatter.Var", "", 0);
         QCOMPARE(styleValue("GlobalScatter.Var", 0), assigned);
         fixture.takeRefreshes();
         runUntilIdle();
@@ -172,8 +170,7 @@ private Q_SLOTS:
         fixture.clickCell(60, kMeshType);
         const int scrolled = fixture.table().verticalScrollBar()->value();
         QVERIFY(scrolled > 0);
-        setStyle("FieldMap.Mesh.MeshType", "60", 2);
-        runUntilIdle();
+        change("FieldMap.Mesh.MeshType", "60", 2);
         QCOMPARE(fixture.table().currentIndex(), fixture.model().index(59, kMeshType));
         QCOMPARE(fixture.table().verticalScrollBar()->value(), scrolled);
         fixture.clickTab("Contour");

@@ -70,8 +70,7 @@ private Q_SLOTS:
             ZoneStyleDialog::defaultAvailableMappingTabs());
         for (const int plotType : {1, 2, 3, 5}) { // the tabs shown last belong to the process
             DialogFixture fixture("field3d");
-            setStyle("PlotType", "", plotType);
-            runUntilIdle();
+            change("PlotType", "", plotType);
             fixture.tabWidget().setCurrentIndex(0);
         }
     }
@@ -100,8 +99,7 @@ private Q_SLOTS:
         DialogFixture fixture("field3d");
         // By way of the others: nothing of them may stay.
         for (const int step : {3, 1, 5, 2, plotType}) {
-            QVERIFY(setStyle("PlotType", "", step));
-            runUntilIdle();
+            change("PlotType", "", step);
         }
         QCOMPARE(fixture.dialog().windowTitle(), title);
         QCOMPARE(fixture.tabs(), tabs);
@@ -117,43 +115,29 @@ private Q_SLOTS:
 
     void showsTheAvailableMappingTabs_data()
     {
-        const Rows<int, QList<int>, QString> row;
-        row("all, XY", 3, {0, 1, 2, 3, 4, 5, 6},
-            "Definitions|Lines|Curves|Symbols|Error Bars|Bar Charts|Indices");
-        row("all, polar", 5, {0, 1, 2, 3, 4, 5, 6}, "Definitions|Lines|Curves|Symbols|Indices");
-        row("some", 3, {1, 5, 6}, "Lines|Bar Charts|Indices");
-        row("some, polar", 5, {2, 4}, "Curves");
-        row("none", 3, {}, "");
+        const Rows<QList<int>, QString, QString> row;
+        row("all", {0, 1, 2, 3, 4, 5, 6},
+            "Definitions|Lines|Curves|Symbols|Error Bars|Bar Charts|Indices",
+            "Definitions|Lines|Curves|Symbols|Indices");
+        row("some", {1, 5, 6}, "Lines|Bar Charts|Indices", "Lines|Indices");
+        row("others", {2, 4}, "Curves|Error Bars", "Curves");
+        row("none", {}, "", "");
     }
 
+    /// In the order of the form, whichever were there before.
     void showsTheAvailableMappingTabs()
     {
-        const auto [plotType, available, tabs] = currentRow<int, QList<int>, QString>();
-        {
+        const auto [available, xy, polar] = currentRow<QList<int>, QString, QString>();
+        for (const QList<int>& before : {QList<int> {}, QList<int> {3, 6}}) {
             DialogFixture fixture("xy");
-            setStyle("PlotType", "", plotType);
-            runUntilIdle();
+            ZoneStyleDialog::setAvailableMappingStyleTabs(mappingTabs(before));
             ZoneStyleDialog::setAvailableMappingStyleTabs(mappingTabs(available));
-            runUntilIdle();
-            QCOMPARE(fixture.tabs().remove('*'), tabs);
+            QCOMPARE(fixture.tabs().remove('*'), xy);
+            change("PlotType", "", 5);
+            QCOMPARE(fixture.tabs().remove('*'), polar);
         }
-        DialogFixture madeLater(plotType == 3 ? "xy" : "polar");
-        QCOMPARE(madeLater.tabs().remove('*'), tabs);
-    }
-
-    void keepsTheOrderOfTheFormHoweverTabsGo()
-    {
-        const QStringList texts {"Definitions", "Lines",      "Curves", "Symbols",
-                                 "Error Bars",  "Bar Charts", "Indices"};
-        DialogFixture fixture("xy");
-        for (const QList<int>& available : {QList<int> {1, 2}, QList<int> {}, QList<int> {0, 6},
-                                            QList<int> {3, 6}, QList<int> {0, 1, 2, 3, 4, 5, 6}}) {
-            ZoneStyleDialog::setAvailableMappingStyleTabs(mappingTabs(available));
-            QStringList expected;
-            for (const int tab : available)
-                expected << texts[tab];
-            QCOMPARE(fixture.tabs().remove('*'), expected.join('|'));
-        }
+        DialogFixture madeLater("xy");
+        QCOMPARE(madeLater.tabs().remove('*'), xy);
     }
 
     void keepsTheMapToolButtons()
@@ -164,8 +148,7 @@ private Q_SLOTS:
             for (const char* name : kMapTools)
                 buttons << &fixture.button(name);
             for (const int plotType : {3, 2, 0, 1, 5, 1}) {
-                setStyle("PlotType", "", plotType);
-                runUntilIdle();
+                change("PlotType", "", plotType);
                 for (const auto& button : buttons) {
                     QVERIFY(fixture.dialog().isAncestorOf(button));
                     QCOMPARE(button->isVisible(), plotType != 1 && plotType != 2);
@@ -185,13 +168,11 @@ private Q_SLOTS:
             "Which Y-Axis|Show in Legend");
         fixture.clickTab("Lines");
         fixture.clickTab("Definitions");
-        setStyle("PlotType", "", 5);
-        runUntilIdle();
+        change("PlotType", "", 5);
         QCOMPARE(titlesInVisualOrder(*fixture.table().horizontalHeader()),
                  "Map Number|Map Name|Show Map|Theta Variable|Radius Variable|Zone|Sort|"
                  "Show in Legend");
-        setStyle("PlotType", "", 3);
-        runUntilIdle();
+        change("PlotType", "", 3);
         QVERIFY(
             titlesInVisualOrder(*fixture.table().horizontalHeader()).endsWith("Show in Legend"));
     }
@@ -209,8 +190,7 @@ private Q_SLOTS:
         const int title = fixture.table().columnWidth(kMeshType);
         QVERIFY2(title > 20, "a column is never narrower than its title");
         fixture.table().setColumnWidth(kMeshType, 201);
-        setStyle("FieldMap.Mesh.MeshType", "1", 0);
-        runUntilIdle();
+        change("FieldMap.Mesh.MeshType", "1", 0);
         QCOMPARE(fixture.table().columnWidth(kMeshType), 201);
         QVERIFY(corvala::host::Document::instance()
                     .execute(corvala::host::DeleteMaps {corvala::host::allUpTo(2)})
@@ -224,23 +204,19 @@ private Q_SLOTS:
     void keepsColumnWidthsOfPlotTypesApart()
     {
         DialogFixture fixture("field3d");
-        const auto change = [](int plotType) {
-            setStyle("PlotType", "", plotType);
-            runUntilIdle();
-        };
         const auto width = [&fixture] { return fixture.table().columnWidth(kMeshType); };
-        change(2);
+        change("PlotType", "", 2);
         fixture.table().setColumnWidth(kMeshType, 120);
-        change(1);
+        change("PlotType", "", 1);
         QCOMPARE(width(), 120);
         fixture.table().setColumnWidth(kMeshType, 200);
-        change(2);
+        change("PlotType", "", 2);
         QCOMPARE(width(), 200);
         fixture.clickTab("Contour");
         fixture.clickTab("Mesh");
         QCOMPARE(width(), 120);
         fixture.clickTab("Contour");
-        change(1);
+        change("PlotType", "", 1);
         fixture.clickTab("Mesh");
         QCOMPARE(width(), 200);
     }

@@ -72,8 +72,7 @@ private Q_SLOTS:
         fixture.table().selectionModel()->select(fixture.model().index(3, 5),
                                                  QItemSelectionModel::ClearAndSelect);
         QVERIFY(fixture.table().selectionModel()->selectedRows().isEmpty());
-        setStyle("FieldMap.Group", "1", 2);
-        runUntilIdle();
+        change("FieldMap.Group", "1", 2);
         QCOMPARE(fixture.selected(), "4");
     }
 
@@ -88,8 +87,7 @@ private Q_SLOTS:
                 firstRows << range.top() + 1;
             return firstRows;
         };
-        setStyle("FieldMap.Group", "1", 2);
-        runUntilIdle();
+        change("FieldMap.Group", "1", 2);
         QCOMPARE(rows(), (QList<int> {7, 2, 9, 12}));
         fixture.clickTab("Contour");
         QCOMPARE(rows(), (QList<int> {7, 2, 9, 12}));
@@ -113,8 +111,7 @@ private Q_SLOTS:
         };
         fixture.clickTab("Contour");
         QVERIFY(isAlternate());
-        setStyle("FieldMap.Group", "all", 2);
-        runUntilIdle();
+        change("FieldMap.Group", "1-" + std::to_string(kMaps), 2);
         QVERIFY(isAlternate());
         fixture.clickTab("Mesh");
         QVERIFY(isAlternate());
@@ -181,8 +178,7 @@ private Q_SLOTS:
     {
         const auto [launchAtOnce] = currentRow<bool>();
         DialogFixture fixture("xy");
-        setStyle("PlotType", "", PlotType_Field2D);
-        runUntilIdle();
+        change("PlotType", "", PlotType_Field2D);
         fixture.dialog().close();
         setStyle("PlotType", "", PlotType_LineXY);
         host::Document::instance().execute(

@@ -79,8 +79,7 @@ private Q_SLOTS:
             currentRow<QList<int>, int, int, QString, QString>();
         DialogFixture fixture("field2d");
         setStyle("FieldMap.Mesh.Show", "1-12", 1);
-        setStyle("FieldMap.Mesh.Show", "3", 0);
-        runUntilIdle();
+        change("FieldMap.Mesh.Show", "3", 0);
         fixture.select(selected);
         takeWrites();
         fixture.clickCheckBox(clicked, kShowMesh, Qt::KeyboardModifiers(modifiers));
@@ -246,8 +245,7 @@ private Q_SLOTS:
     void keysActOnTheSelection()
     {
         DialogFixture fixture("field2d");
-        setStyle("FieldMap.Mesh.Show", "1-12", 1);
-        runUntilIdle();
+        change("FieldMap.Mesh.Show", "1-12", 1);
         fixture.select({2, 4});
         fixture.clickCell(4, kShowMesh, Qt::ControlModifier);
         fixture.clickCell(4, kShowMesh, Qt::ControlModifier);
@@ -302,13 +300,11 @@ private Q_SLOTS:
         const QString line = "|Style table|Selection criteria|Select|Clear|Create Map...|Copy Map|"
                              "Delete Map|To Top|To Bottom|Close";
         QCOMPARE(stops(), field);
-        setStyle("PlotType", "", PlotType_LineXY);
-        runUntilIdle();
+        change("PlotType", "", PlotType_LineXY);
         QCOMPARE(stops(), line);
         fixture.clickTab("Lines");
         QCOMPARE(stops(), line);
-        setStyle("PlotType", "", PlotType_Field3D);
-        runUntilIdle();
+        change("PlotType", "", PlotType_Field3D);
         QCOMPARE(stops(), field);
     }
 
