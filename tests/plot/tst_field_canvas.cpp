@@ -6,9 +6,11 @@
 #include "plot/field/geometry/color_map.h"
 #include "plot/field/scene/field_scene.h"
 #include "plot/field/view/field_canvas.h"
+#include "plot/field/view/legend.h"
 #include "plot/frame_view.h"
 #include "plot/render.h"
 #include "plot_document.h"
+#include "tests/support/rows.h"
 
 #include <QCryptographicHash>
 #include <QPainter>
@@ -22,6 +24,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <numeric>
 
 using namespace corvala;
 using namespace corvala::plot;
@@ -30,39 +33,6 @@ using namespace corvala::tests;
 static constexpr const char* kReportProblem = "CORVALA_REPORT_OPENGL";
 static constexpr const char* kReportZones = "CORVALA_REPORT_ZONES";
 static constexpr const char* kReportPictures = "CORVALA_REPORT_PICTURES";
-
-class tst_FieldCanvas : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void columnsShow_data();
-    void columnsShow();
-    void colorsAreTheirs();
-    void constantFieldHasAColor();
-    void hiddenLinesAreRemoved();
-    void wireFrameIsSeenThroughFaces();
-    void edgesLieOnTheMesh();
-    void laterMapsCoverEarlierOnes();
-    void thickLinesScaleWithThePicture();
-    void nothingIsClipped_data();
-    void nothingIsClipped();
-    void numbersKeepClearOfTitles_data();
-    void numbersKeepClearOfTitles();
-    void spaceAxesCoverNothing_data();
-    void spaceAxesCoverNothing();
-    void badPictures();
-    void windowShowsThePicture();
-    void oneRedrawPerIdleMoment();
-    void hiddenCanvasDoesNothing();
-    void clicksPickZones();
-    void dragAndWheelMoveTheView();
-    void viewsAreKeptByFrameAndPlotType();
-    void viewWidensForOtherTimes();
-    void missingOpenGlIsNamed();
-    void everyPixelRatioShowsTheSame();
-    void everyRunDrawsTheSame();
-};
 
 static constexpr QSize kSize {480, 400};
 
@@ -110,151 +80,12 @@ struct ShownPlot
     FrameView view;
 };
 
-void tst_FieldCanvas::columnsShow_data()
-{
-    QTest::addColumn<QString>("demo");
-    QTest::addColumn<QString>("layer");
-    QTest::addColumn<QString>("before"); // path=value, separated by blanks
-    QTest::addColumn<QString>("edit");
-    const auto row = [](const char* name, const char* demo, const char* layer, const char* before,
-                        const char* edit) {
-        QTest::newRow(name) << demo << layer << before << edit;
-    };
-    const char* const solid3D = "Surfaces/SurfacesToPlot=0";
-    row("mesh off", "field2d", "ShowMesh", "", "Mesh/Show=0");
-    row("mesh type in the plane", "kinds", "ShowMesh", solid3D, "Mesh/MeshType=2");
-    row("mesh color", "field2d", "ShowMesh", "", "Mesh/Color=0");
-    row("mesh by group", "field2d", "ShowMesh", "Mesh/Color=0", "Mesh/Color=101");
-    row("mesh pattern", "field2d", "ShowMesh", "", "Mesh/LinePattern=1");
-    row("mesh pattern length", "field2d", "ShowMesh", "Mesh/LinePattern=1", "Mesh/PatternLength=7");
-    row("mesh thickness", "field2d", "ShowMesh", "", "Mesh/LineThickness=1");
-    row("shade off", "field2d", "ShowShade", "", "Shade/Show=0");
-    row("shade color", "field2d", "ShowShade", "", "Shade/Color=5");
-    row("shade light", "field3d", "ShowShade", solid3D, "Shade/UseLightingEffect=0");
-    row("contour off", "field2d", "ShowContour", "", "Contour/Show=0");
-    row("contour type", "field2d", "ShowContour", "", "Contour/ContourType=0");
-    row("flood by cell", "field2d", "ShowContour", "", "Contour/ContourType=3");
-    row("flood by", "field2d", "ShowContour", "", "Contour/FloodColoring=3");
-    row("lines by", "field2d", "ShowContour", "Contour/ContourType=0",
-        "Contour/LineContourGroup=3");
-    row("line color", "field2d", "ShowContour", "Contour/ContourType=0", "Contour/Color=3");
-    row("line color by group", "field2d", "ShowContour", "Contour/ContourType=0",
-        "Contour/Color=101");
-    row("line pattern", "field2d", "ShowContour", "Contour/ContourType=0", "Contour/LinePattern=1");
-    row("line pattern length", "field2d", "ShowContour",
-        "Contour/ContourType=0 Contour/LinePattern=1", "Contour/PatternLength=7");
-    row("line thickness", "field2d", "ShowContour", "Contour/ContourType=0",
-        "Contour/LineThickness=1");
-    row("contour light", "field3d", "ShowContour", solid3D, "Contour/UseLightingEffect=0");
-    row("surfaces", "field3d", "ShowMesh", "", "Surfaces/SurfacesToPlot=4");
-    row("range of planes", "field3d", "ShowMesh", "Surfaces/SurfacesToPlot=4",
-        "Surfaces/KRange/Max=1");
-    row("edges off", "field2d", "ShowEdge", "", "EdgeLayer/Show=0");
-    row("edge color", "field2d", "ShowEdge", "", "EdgeLayer/Color=3");
-    row("edge thickness", "field2d", "ShowEdge", "", "EdgeLayer/LineThickness=1.2");
-}
-
 static void writeAll(const QString& edits)
 {
     for (const QString& edit : edits.split(' ', Qt::SkipEmptyParts)) {
         const QStringList parts = edit.split('=');
         write(("FieldMap/" + parts[0]).toUtf8().constData(), "all", parts[1].toDouble());
     }
-}
-
-void tst_FieldCanvas::columnsShow()
-{
-    QFETCH(QString, demo);
-    QFETCH(QString, layer);
-    QFETCH(QString, before);
-    QFETCH(QString, edit);
-    openDemo(demo.toUtf8().constData());
-    write("FieldLayers/ShowMesh", "", 0);
-    write("FieldLayers/ShowEdge", "", 0);
-    write(("FieldLayers/" + layer).toUtf8().constData(), "", 1);
-    write("ContourGroups/Var", "", 4, 3); // the other two groups run alike
-    writeAll(before);
-    const QImage first = picture();
-    QVERIFY(shareOfChange(first, picture()) == 0.0);
-    writeAll(edit);
-    const double change = shareOfChange(first, picture());
-    QVERIFY2(change > 0.004, QByteArray::number(change));
-    document().undo().undo();
-    QCOMPARE(shareOfChange(first, picture()), 0.0);
-}
-
-void tst_FieldCanvas::colorsAreTheirs()
-{
-    openDemo("field2d", 4);
-    write("FieldLayers/ShowMesh", "", 0);
-    write("FieldLayers/ShowShade", "", 1);
-    write("FieldMap/Shade/Color", "all", 3);
-    const host::Rgb color = document().color(3);
-    const double share = shareOfColor(picture(), QColor(color.red, color.green, color.blue));
-    QVERIFY2(share > 0.3 && share < 0.8, QByteArray::number(share));
-    write("FieldMap/Shade/Show", "1-3", 0);
-    const double quarter = shareOfColor(picture(), QColor(color.red, color.green, color.blue));
-    QVERIFY2(quarter > share / 5 && quarter < share / 3, QByteArray::number(quarter));
-}
-
-void tst_FieldCanvas::constantFieldHasAColor()
-{
-    openDemo("field3d");
-    write("ContourGroups/Var", "", 3, 1); // Z
-    write("FieldLayers/ShowContour", "", 1);
-    write("FieldMap/Contour/UseLightingEffect", "all", 0);
-    activate("1,3-12", false); // leaves a zone in the plane Z = 0
-    const QImage image = picture();
-    const auto shareOf = [&](const host::Rgb& color) {
-        return shareOfColor(image, QColor(color.red, color.green, color.blue));
-    };
-    QVERIFY(shareOf(mapColor(0.5)) > 0.05);
-    QVERIFY(shareOf(noValueColor()) < 0.01); // some of the pixels of smooth lines
-}
-
-void tst_FieldCanvas::hiddenLinesAreRemoved()
-{
-    openDemo("kinds");
-    write("FieldLayers/ShowEdge", "", 0);
-    activate("2-8", false);
-    write("FieldMap/Surfaces/SurfacesToPlot", "1", 0);
-    write("FieldMap/Mesh/Color", "1", 0);
-    const auto ink = [](int type) {
-        write("FieldMap/Mesh/MeshType", "1", type);
-        return 1.0 - shareOfColor(picture(), Qt::white);
-    };
-    const double overlay = ink(MeshType_Overlay);
-    const double hidden = ink(MeshType_HiddenLine);
-    QVERIFY2(hidden < 0.75 * overlay, QByteArray::number(hidden / overlay));
-    QVERIFY2(hidden > 0.3 * overlay, QByteArray::number(hidden / overlay)); // but whole
-}
-
-void tst_FieldCanvas::wireFrameIsSeenThroughFaces()
-{
-    openDemo("kinds");
-    write("FieldLayers/ShowEdge", "", 0);
-    write("FieldLayers/ShowShade", "", 1);
-    activate("2-8", false);
-    write("FieldMap/Surfaces/SurfacesToPlot", "1", 0);
-    write("FieldMap/Shade/Color", "1", 7);
-    write("FieldMap/Mesh/Color", "1", 0);
-    const QImage overlay = picture();
-    write("FieldMap/Mesh/MeshType", "1", MeshType_WireFrame);
-    const QImage wires = picture();
-    QVERIFY(shareOfColor(wires, Qt::black) > 1.2 * shareOfColor(overlay, Qt::black));
-}
-
-void tst_FieldCanvas::edgesLieOnTheMesh()
-{
-    openDemo("field3d");
-    write("FieldMap/EdgeLayer/Color", "all", 0);
-    const auto ink = [](bool mesh) {
-        write("FieldLayers/ShowMesh", "", mesh ? 1 : 0);
-        return shareOfColor(picture({1200, 900}), Qt::black);
-    };
-    const double alone = ink(false);
-    const double together = ink(true);
-    QVERIFY2(together > 0.9 * alone, QByteArray::number(together / alone));
 }
 
 /// A square for each zone, ten to the right of the one before.
@@ -290,126 +121,10 @@ static void openSquares(PlotType_e plotType, bool isTransient)
     document().execute(host::AttachData {{}, data, plotType, 0});
 }
 
-void tst_FieldCanvas::laterMapsCoverEarlierOnes()
-{
-    openSquares(PlotType_Field3D, false);
-    write("FieldLayers/ShowShade", "", 1);
-    for (const char* map : {"1", "2", "3"})
-        write("FieldMap/Shade/Color", map, map[0] - '0');
-    const auto isSeen = [](int map) {
-        const host::Rgb color = document().color(map);
-        return shareOfColor(picture(), QColor(color.red, color.green, color.blue)) > 0.1;
-    };
-    // Light takes a mapper of its own, in front of or behind the one that the other two share.
-    for (const char* lit : {"1", "2"}) {
-        write("FieldMap/Shade/UseLightingEffect", "all", 0);
-        write("FieldMap/Shade/UseLightingEffect", lit, 1);
-        QVERIFY(isSeen(3));
-    }
-    write("FieldMap/Shade/UseLightingEffect", "2", 0);
-    write("FieldMap/Shade/UseLightingEffect", "3", 1);
-    activate("3", false);
-    QVERIFY(isSeen(2));
-}
-
-void tst_FieldCanvas::thickLinesScaleWithThePicture()
-{
-    openDemo("field2d", 4);
-    write("FieldLayers/ShowEdge", "", 0);
-    write("FieldMap/Mesh/Color", "all", 0);
-    write("FieldMap/Mesh/LineThickness", "all", 1.0);
-    const double small = shareOfColor(picture(), Qt::black);
-    const double large = shareOfColor(picture(3 * kSize), Qt::black);
-    QVERIFY2(qAbs(large / small - 1.0) < 0.15, QByteArray::number(large / small));
-}
-
-void tst_FieldCanvas::nothingIsClipped_data()
-{
-    QTest::addColumn<QString>("demo");
-    QTest::addColumn<QSize>("size");
-    for (const char* demo : {"field2d", "field3d", "kinds", "transient"}) {
-        QTest::addRow("%s, wide", demo) << demo << QSize(900, 300);
-        QTest::addRow("%s, tall", demo) << demo << QSize(300, 900);
-    }
-}
-
-void tst_FieldCanvas::nothingIsClipped()
-{
-    QFETCH(QString, demo);
-    QFETCH(QSize, size);
-    openDemo(demo.toUtf8().constData());
-    write("FieldMap/EdgeLayer/Color", "all", 3);
-    const host::Rgb edge = document().color(3);
-    const QImage image = picture(size);
-    const auto isEdge = [&](const QPoint& at) {
-        const QColor color = image.pixelColor(at);
-        return qAbs(color.red() - edge.red) + qAbs(color.green() - edge.green)
-            + qAbs(color.blue() - edge.blue)
-            < 40;
-    };
-    QRect seen;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (isEdge({x, y}))
-                seen |= QRect(x, y, 1, 1);
-    const int margin = 2;
-    QVERIFY(image.rect().adjusted(margin, margin, -margin, -margin).contains(seen));
-    const bool isFlat = document().activeFrame()->plotType() == PlotType_Field2D;
-    QVERIFY(layOut(size, isFlat, {}).plot.contains(seen)); // inside of the axes that are painted
-    // Fitted: it fills one direction but for axes and margins.
-    QVERIFY2(seen.width() > 0.6 * size.width() || seen.height() > 0.6 * size.height(),
-             qPrintable(QStringLiteral("%1 x %2").arg(seen.width()).arg(seen.height())));
-}
-
 /// Share of dark pixels within a rectangle.
 static double inkIn(const QImage& image, const QRectF& part)
 {
     return 1.0 - shareOfColor(image.copy(part.toAlignedRect()), Qt::white);
-}
-
-void tst_FieldCanvas::numbersKeepClearOfTitles_data()
-{
-    QTest::addColumn<double>("from");
-    QTest::addColumn<double>("span");
-    QTest::newRow("short") << 0.0 << 4.0;
-    QTest::newRow("far from zero") << 4'523'000.0 << 3.0;
-    QTest::newRow("close together") << 1000.0001 << 0.0004;
-    QTest::newRow("small") << -1.2e-5 << 2e-5;
-}
-
-void tst_FieldCanvas::numbersKeepClearOfTitles()
-{
-    QFETCH(double, from);
-    QFETCH(double, span);
-    const PlaneWindow window {from, from + span, from, from + span};
-    FieldLayout layout = layOut(kSize, true, {});
-    layout = layOut(kSize, true, {}, yTextsWidth(layout, window));
-    QImage image(kSize, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    paintPlaneAxes(painter, layout, window, "x", "y");
-    painter.end();
-    const QRectF& plot = layout.plot;
-    const double half = plot.height() / 2 - 2 * layout.font; // the title stands in the middle
-    const double title = 2.0 * layout.font;
-    QCOMPARE(inkIn(image, {0.0, 0.0, title, plot.top() + half}), 0.0);
-    QCOMPARE(inkIn(image, {0.0, plot.bottom() - half, title, half + 4 * layout.font}), 0.0);
-    const AxisTicks ticks =
-        axisTicks(from, from + span, plot.width(), layout.font, TickTexts::SideBySide);
-    QVERIFY(ticks.places.size() >= 2);
-    const double gap = (ticks.places[1] - ticks.places[0]) / span * plot.width();
-    QVERIFY2(ticks.widest < gap, QByteArray::number(ticks.widest / gap));
-}
-
-void tst_FieldCanvas::spaceAxesCoverNothing_data()
-{
-    QTest::addColumn<double>("azimuth");
-    QTest::addColumn<double>("elevation");
-    QTest::addColumn<int>("axes"); // that can be seen
-    for (const double azimuth : {-150.0, -60.0, 25.0, 100.0})
-        for (const double elevation : {-50.0, 20.0, 70.0})
-            QTest::addRow("from %g, %g", azimuth, elevation) << azimuth << elevation << 3;
-    QTest::newRow("along an axis") << 0.0 << 0.0 << 2;
 }
 
 /// A view of the origin from a direction, at a distance of ten.
@@ -431,214 +146,6 @@ static SpaceView viewFrom(double azimuth, double elevation)
     return view;
 }
 
-void tst_FieldCanvas::spaceAxesCoverNothing()
-{
-    QFETCH(double, azimuth);
-    QFETCH(double, elevation);
-    QFETCH(int, axes);
-    const vtkBoundingBox box(-1.0, 1.0, -1.2, 1.2, -0.7, 0.7);
-    const SpaceView view = viewFrom(azimuth, elevation);
-    const FieldLayout layout = layOut(kSize, false, {});
-    QPolygonF corners;
-    for (int corner = 0; corner < 8; ++corner) {
-        double point[3];
-        box.GetCorner(corner, point);
-        corners.append(*view.project({point[0], point[1], point[2]}, layout.plot));
-    }
-    QImage image(kSize, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    paintSpaceAxes(painter, layout, box, view, {"I", "II", "III"});
-    painter.end();
-    const double ink = inkIn(image, image.rect());
-    QVERIFY2(ink > 0.0008 * axes, QByteArray::number(ink));
-    // Triangles of corners make up the whole of what the box covers.
-    QPainterPath covered;
-    for (int a = 0; a < 8; ++a)
-        for (int b = 0; b < a; ++b)
-            for (int c = 0; c < b; ++c)
-                covered = covered.united([&] {
-                    QPainterPath triangle;
-                    triangle.addPolygon(QPolygonF({corners[a], corners[b], corners[c]}));
-                    return triangle;
-                }());
-    painter.begin(&image);
-    painter.setClipPath(covered);
-    painter.setClipping(true);
-    painter.fillRect(image.rect(), Qt::white);
-    painter.end();
-    QCOMPARE(inkIn(image, image.rect()), ink);
-}
-
-void tst_FieldCanvas::badPictures()
-{
-    openDemo("field2d");
-    const CvlUniqueId frame = document().activeFrameId();
-    QString error;
-    QVERIFY(renderToImage(frame, {0, 100}, &error).isNull());
-    QVERIFY(error.contains("0") && error.contains("100"));
-    QVERIFY(renderToImage(frame, {100, 100000}, &error).isNull());
-    QVERIFY(!error.isEmpty());
-    QVERIFY(renderToImage(frame + 1, kSize, &error).isNull());
-    QVERIFY(!error.isEmpty());
-    QVERIFY(!renderToImage(frame, {1, 1}, &error).isNull());
-    QVERIFY(error.isEmpty());
-    document().execute(host::DetachData {});
-    QVERIFY(renderToImage(frame, kSize, &error).isNull());
-    QVERIFY(renderToImage(frame, kSize, nullptr).isNull());
-}
-
-void tst_FieldCanvas::windowShowsThePicture()
-{
-    openDemo("field2d");
-    write("FieldLayers/ShowContour", "", 1);
-    ShownPlot shown;
-    const QImage window = shown.grabbed();
-    const double change = shareOfChange(window, shown.view.render(kSize, nullptr));
-    QVERIFY2(change < 0.05, QByteArray::number(change)); // jagged lines differ more
-    write("FieldMap/Contour/Show", "all", 0);
-    shown.settle();
-    QVERIFY(shareOfChange(window, shown.grabbed()) > 0.2);
-}
-
-void tst_FieldCanvas::oneRedrawPerIdleMoment()
-{
-    openDemo("field2d");
-    ShownPlot shown;
-    const int before = shown.view.redrawCount();
-    for (int color = 0; color < 10; ++color)
-        write("FieldMap/Mesh/Color", "all", color);
-    document().undo().undo();
-    QCOMPARE(shown.view.redrawCount(), before);
-    shown.settle();
-    QCOMPARE(shown.view.redrawCount(), before + 1);
-    write("FieldMap/Group", "all", 3); // draws nothing
-    document().execute(host::RenameZone {1, "wing"});
-    shown.settle();
-    QCOMPARE(shown.view.redrawCount(), before + 1);
-}
-
-void tst_FieldCanvas::hiddenCanvasDoesNothing()
-{
-    openDemo("field2d");
-    ShownPlot shown;
-    shown.view.hide();
-    shown.settle();
-    const int before = shown.view.redrawCount();
-    const auto& scene = shown.canvas().scene();
-    const std::int64_t built = scene.layer(FieldLayer::Mesh).counters().built;
-    write("FieldMap/Mesh/LinePattern", "all", 1);
-    shown.settle();
-    QCOMPARE(shown.view.redrawCount(), before);
-    QCOMPARE(scene.layer(FieldLayer::Mesh).counters().built, built);
-    shown.view.show();
-    QTRY_COMPARE(scene.layer(FieldLayer::Mesh).counters().built, built + 12);
-}
-
-void tst_FieldCanvas::clicksPickZones()
-{
-    openDemo("field2d"); // four columns, three rows, counted from the lower left
-    ShownPlot shown;
-    QSignalSpy picked(&shown.view, &FrameView::zonePicked);
-    const QPoint middle = shown.middle();
-    QTest::mouseClick(shown.target(), Qt::LeftButton, {}, middle);
-    QCOMPARE(picked.size(), 1);
-    const CvlInt64 zone = picked[0][0].value<CvlInt64>();
-    QVERIFY(zone >= 1 && zone <= 12);
-    QCOMPARE(picked[0][1].toBool(), false);
-    activate(QByteArray::number(static_cast<qlonglong>(zone)), false);
-    shown.settle();
-    picked.clear();
-    QTest::mouseClick(shown.target(), Qt::LeftButton, {}, middle);
-    QVERIFY(picked[0][0].value<CvlInt64>() != zone);
-    document().undo().undo();
-    shown.settle();
-    picked.clear();
-    QTest::mouseDClick(shown.target(), Qt::LeftButton, {}, middle);
-    QTest::mouseRelease(shown.target(), Qt::LeftButton, {}, middle);
-    QCOMPARE(picked.last()[0].value<CvlInt64>(), zone);
-    QCOMPARE(picked.last()[1].toBool(), true);
-    picked.clear();
-    QTest::mouseClick(shown.target(), Qt::LeftButton, {}, {2, 2});
-    QCOMPARE(picked[0][0].value<CvlInt64>(), 0);
-    picked.clear();
-    shown.drag(middle, middle + QPoint(60, 30));
-    QCOMPARE(picked.size(), 0);
-}
-
-void tst_FieldCanvas::dragAndWheelMoveTheView()
-{
-    for (const char* demo : {"field2d", "field3d"}) {
-        openDemo(demo);
-        ShownPlot shown;
-        const QImage fitted = shown.grabbed();
-        const QPoint middle = shown.middle();
-        shown.drag(middle, middle + QPoint(60, 30));
-        const QImage dragged = shown.grabbed();
-        QVERIFY(shareOfChange(fitted, dragged) > 0.01);
-        QWheelEvent wheel(middle, shown.target()->mapToGlobal(middle), {}, {0, 240}, Qt::NoButton,
-                          {}, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(shown.target(), &wheel);
-        shown.settle();
-        QVERIFY(shareOfChange(dragged, shown.grabbed()) > 0.01);
-        // The picture is of the view; letters are no commands.
-        QTest::keyClick(shown.target(), Qt::Key_R);
-        shown.settle();
-        QVERIFY(shareOfChange(fitted, shown.view.render(kSize, nullptr)) > 0.01);
-        shown.view.fitView();
-        shown.settle();
-        QVERIFY(shareOfChange(fitted, shown.grabbed()) < 0.001);
-    }
-}
-
-void tst_FieldCanvas::viewsAreKeptByFrameAndPlotType()
-{
-    openDemo("field3d");
-    ShownPlot shown;
-    const QPoint middle = shown.middle();
-    shown.drag(middle, middle + QPoint(80, 40));
-    const QImage turned = shown.grabbed();
-    write("PlotType", "", PlotType_Field2D);
-    shown.settle();
-    const QImage flat = shown.grabbed();
-    QVERIFY(shareOfChange(flat, turned) > 0.02);
-    write("PlotType", "", PlotType_Field3D);
-    shown.settle();
-    QVERIFY(shareOfChange(shown.grabbed(), turned) < 0.001);
-
-    document().execute(host::AddFrame {});
-    std::string error;
-    QVERIFY(samples::openDemo("field2d", 0, error));
-    shown.settle();
-    QVERIFY(shareOfChange(shown.grabbed(), turned) > 0.02);
-    document().execute(host::ActivateFrame {1});
-    shown.settle();
-    QVERIFY(shareOfChange(shown.grabbed(), turned) < 0.001);
-}
-
-void tst_FieldCanvas::viewWidensForOtherTimes()
-{
-    openSquares(PlotType_Field2D, true);
-    ShownPlot shown;
-    const auto right = [&] { return shown.fieldView().camera().fitBox.GetMaxPoint()[0]; };
-    QCOMPARE(right(), 1.0);
-    document().execute(host::SetSolutionTime {2.0});
-    shown.settle();
-    QCOMPARE(right(), 21.0);
-    QCOMPARE(shown.fieldView().camera().fitBox.GetMinPoint()[0], 0.0);
-    document().execute(host::SetSolutionTime {1.0}); // inside of what is seen already
-    shown.settle();
-    QCOMPARE(right(), 21.0);
-    shown.view.fitView();
-    shown.settle();
-    QCOMPARE(right(), 11.0);
-    const QPoint middle = shown.middle();
-    shown.drag(middle, middle + QPoint(60, 30));
-    document().execute(host::SetSolutionTime {2.0}); // the user's view stays
-    shown.settle();
-    QCOMPARE(right(), 11.0);
-}
-
 /// What this program prints with some variables of the environment set.
 static QString outputWith(const QMap<QString, QString>& variables)
 {
@@ -652,46 +159,6 @@ static QString outputWith(const QMap<QString, QString>& variables)
     return process.exitStatus() == QProcess::NormalExit
         ? QString::fromUtf8(process.readAllStandardOutput())
         : QStringLiteral("crashed");
-}
-
-void tst_FieldCanvas::missingOpenGlIsNamed()
-{
-    const auto problemWith = [](const QString& variable, const QString& value) {
-        return outputWith({{kReportProblem, "1"}, {variable, value}});
-    };
-    const QString old = problemWith("MESA_GL_VERSION_OVERRIDE", "2.1");
-    QVERIFY2(old.contains("OpenGL 3.2") && old.contains("libgl1-mesa-dri"), qPrintable(old));
-    QVERIFY(old.contains("no picture, no crash"));
-    const QString other = problemWith("QT_QPA_PLATFORM", "offscreen");
-    QVERIFY2(other.contains("X server") && other.contains("offscreen"), qPrintable(other));
-    const QString fine = problemWith("MESA_GL_VERSION_OVERRIDE", "");
-    QVERIFY2(fine.contains("a picture"), qPrintable(fine));
-}
-
-void tst_FieldCanvas::everyPixelRatioShowsTheSame()
-{
-    const auto zonesAt = [](const QString& ratio) {
-        return outputWith({{kReportZones, "1"}, {"QT_SCALE_FACTOR", ratio}}).split(' ');
-    };
-    const QStringList plain = zonesAt("1");
-    QVERIFY2(plain.size() > 500, qPrintable(plain.join(' ')));
-    for (const char* ratio : {"1.5", "2"}) {
-        const QStringList scaled = zonesAt(ratio);
-        QCOMPARE(scaled.size(), plain.size());
-        int different = 0; // at the rims of zones
-        for (int i = 0; i < plain.size(); ++i)
-            different += plain[i] != scaled[i] ? 1 : 0;
-        QVERIFY2(different < plain.size() / 50, QByteArray::number(different));
-    }
-}
-
-void tst_FieldCanvas::everyRunDrawsTheSame()
-{
-    const auto run = [] { return outputWith({{kReportPictures, "1"}}).split('\n'); };
-    const QStringList first = run();
-    QCOMPARE(first.size() - 1, 4 + static_cast<int>(host::io::sampleList().size()));
-    for (int i = 0; i < 2; ++i)
-        QCOMPARE(run(), first);
 }
 
 /// A line for each sample with the sum of its picture, for everyRunDrawsTheSame.
@@ -749,6 +216,524 @@ static int reportOpenGl()
                 hasPicture ? "a picture" : "no picture, no crash");
     return 0;
 }
+
+class tst_FieldCanvas : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void columnsShow_data()
+    {
+        const Rows<QString, QString, QString, QString> row;
+        const char* const solid3D = "Surfaces/SurfacesToPlot=0";
+        row("mesh off", "field2d", "ShowMesh", "", "Mesh/Show=0");
+        row("mesh type in the plane", "kinds", "ShowMesh", solid3D, "Mesh/MeshType=2");
+        row("mesh color", "field2d", "ShowMesh", "", "Mesh/Color=0");
+        row("mesh by group", "field2d", "ShowMesh", "Mesh/Color=0", "Mesh/Color=101");
+        row("mesh pattern", "field2d", "ShowMesh", "", "Mesh/LinePattern=1");
+        row("mesh pattern length", "field2d", "ShowMesh", "Mesh/LinePattern=1",
+            "Mesh/PatternLength=7");
+        row("mesh thickness", "field2d", "ShowMesh", "", "Mesh/LineThickness=1");
+        row("shade off", "field2d", "ShowShade", "", "Shade/Show=0");
+        row("shade color", "field2d", "ShowShade", "", "Shade/Color=5");
+        row("shade light", "field3d", "ShowShade", solid3D, "Shade/UseLightingEffect=0");
+        row("contour off", "field2d", "ShowContour", "", "Contour/Show=0");
+        row("contour type", "field2d", "ShowContour", "", "Contour/ContourType=0");
+        row("flood by cell", "field2d", "ShowContour", "", "Contour/ContourType=3");
+        row("flood by", "field2d", "ShowContour", "", "Contour/FloodColoring=3");
+        row("lines by", "field2d", "ShowContour", "Contour/ContourType=0",
+            "Contour/LineContourGroup=3");
+        row("line color", "field2d", "ShowContour", "Contour/ContourType=0", "Contour/Color=3");
+        row("line color by group", "field2d", "ShowContour", "Contour/ContourType=0",
+            "Contour/Color=101");
+        row("line pattern", "field2d", "ShowContour", "Contour/ContourType=0",
+            "Contour/LinePattern=1");
+        row("line pattern length", "field2d", "ShowContour",
+            "Contour/ContourType=0 Contour/LinePattern=1", "Contour/PatternLength=7");
+        row("line thickness", "field2d", "ShowContour", "Contour/ContourType=0",
+            "Contour/LineThickness=1");
+        row("contour light", "field3d", "ShowContour", solid3D, "Contour/UseLightingEffect=0");
+        row("surfaces", "field3d", "ShowMesh", "", "Surfaces/SurfacesToPlot=4");
+        row("range of planes", "field3d", "ShowMesh", "Surfaces/SurfacesToPlot=4",
+            "Surfaces/KRange/Max=1");
+        row("edges off", "field2d", "ShowEdge", "", "EdgeLayer/Show=0");
+        row("edge color", "field2d", "ShowEdge", "", "EdgeLayer/Color=3");
+        row("edge thickness", "field2d", "ShowEdge", "", "EdgeLayer/LineThickness=1.2");
+    }
+
+    void columnsShow()
+    {
+        const auto [demo, layer, before, edit] = currentRow<QString, QString, QString, QString>();
+        openDemo(demo.toUtf8().constData());
+        write("FieldLayers/ShowMesh", "", 0);
+        write("FieldLayers/ShowEdge", "", 0);
+        write(("FieldLayers/" + layer).toUtf8().constData(), "", 1);
+        write("ContourGroups/Var", "", 4, 3); // the other two groups run alike
+        writeAll(before);
+        const QImage first = picture();
+        QVERIFY(shareOfChange(first, picture()) == 0.0);
+        writeAll(edit);
+        const double change = shareOfChange(first, picture());
+        QVERIFY2(change > 0.004, QByteArray::number(change));
+        document().undo().undo();
+        QCOMPARE(shareOfChange(first, picture()), 0.0);
+    }
+
+    void colorsAreTheirs()
+    {
+        openDemo("field2d", 4);
+        write("FieldLayers/ShowMesh", "", 0);
+        write("FieldLayers/ShowShade", "", 1);
+        write("FieldMap/Shade/Color", "all", 3);
+        const host::Rgb color = document().color(3);
+        const double share = shareOfColor(picture(), QColor(color.red, color.green, color.blue));
+        QVERIFY2(share > 0.3 && share < 0.8, QByteArray::number(share));
+        write("FieldMap/Shade/Show", "1-3", 0);
+        const double quarter = shareOfColor(picture(), QColor(color.red, color.green, color.blue));
+        QVERIFY2(quarter > share / 5 && quarter < share / 3, QByteArray::number(quarter));
+    }
+
+    void constantFieldHasAColor()
+    {
+        openDemo("field3d");
+        write("ContourGroups/Var", "", 3, 1); // Z
+        write("FieldLayers/ShowContour", "", 1);
+        write("FieldMap/Contour/UseLightingEffect", "all", 0);
+        activate("1,3-12", false); // leaves a zone in the plane Z = 0
+        const QImage image = picture();
+        const auto shareOf = [&](const host::Rgb& color) {
+            return shareOfColor(image, QColor(color.red, color.green, color.blue));
+        };
+        QVERIFY(shareOf(mapColor(0.5)) > 0.05);
+        QVERIFY(shareOf(noValueColor()) < 0.01); // some of the pixels of smooth lines
+    }
+
+    void hiddenLinesAreRemoved()
+    {
+        openDemo("kinds");
+        write("FieldLayers/ShowEdge", "", 0);
+        activate("2-8", false);
+        write("FieldMap/Surfaces/SurfacesToPlot", "1", 0);
+        write("FieldMap/Mesh/Color", "1", 0);
+        const auto ink = [](int type) {
+            write("FieldMap/Mesh/MeshType", "1", type);
+            return 1.0 - shareOfColor(picture(), Qt::white);
+        };
+        const double overlay = ink(MeshType_Overlay);
+        const double hidden = ink(MeshType_HiddenLine);
+        QVERIFY2(hidden < 0.75 * overlay, QByteArray::number(hidden / overlay));
+        QVERIFY2(hidden > 0.3 * overlay, QByteArray::number(hidden / overlay)); // but whole
+    }
+
+    void wireFrameIsSeenThroughFaces()
+    {
+        openDemo("kinds");
+        write("FieldLayers/ShowEdge", "", 0);
+        write("FieldLayers/ShowShade", "", 1);
+        activate("2-8", false);
+        write("FieldMap/Surfaces/SurfacesToPlot", "1", 0);
+        write("FieldMap/Shade/Color", "1", 7);
+        write("FieldMap/Mesh/Color", "1", 0);
+        const QImage overlay = picture();
+        write("FieldMap/Mesh/MeshType", "1", MeshType_WireFrame);
+        const QImage wires = picture();
+        QVERIFY(shareOfColor(wires, Qt::black) > 1.2 * shareOfColor(overlay, Qt::black));
+    }
+
+    void edgesLieOnTheMesh()
+    {
+        openDemo("field3d");
+        write("FieldMap/EdgeLayer/Color", "all", 0);
+        const auto ink = [](bool mesh) {
+            write("FieldLayers/ShowMesh", "", mesh ? 1 : 0);
+            return shareOfColor(picture({1200, 900}), Qt::black);
+        };
+        const double alone = ink(false);
+        const double together = ink(true);
+        QVERIFY2(together > 0.9 * alone, QByteArray::number(together / alone));
+    }
+
+    void laterMapsCoverEarlierOnes()
+    {
+        openSquares(PlotType_Field3D, false);
+        write("FieldLayers/ShowShade", "", 1);
+        for (const char* map : {"1", "2", "3"})
+            write("FieldMap/Shade/Color", map, map[0] - '0');
+        const auto isSeen = [](int map) {
+            const host::Rgb color = document().color(map);
+            return shareOfColor(picture(), QColor(color.red, color.green, color.blue)) > 0.1;
+        };
+        // Light takes a mapper of its own, in front of or behind the one that the other two share.
+        for (const char* lit : {"1", "2"}) {
+            write("FieldMap/Shade/UseLightingEffect", "all", 0);
+            write("FieldMap/Shade/UseLightingEffect", lit, 1);
+            QVERIFY(isSeen(3));
+        }
+        write("FieldMap/Shade/UseLightingEffect", "2", 0);
+        write("FieldMap/Shade/UseLightingEffect", "3", 1);
+        activate("3", false);
+        QVERIFY(isSeen(2));
+    }
+
+    void thickLinesScaleWithThePicture()
+    {
+        openDemo("field2d", 4);
+        write("FieldLayers/ShowEdge", "", 0);
+        write("FieldMap/Mesh/Color", "all", 0);
+        write("FieldMap/Mesh/LineThickness", "all", 1.0);
+        const double small = shareOfColor(picture(), Qt::black);
+        const double large = shareOfColor(picture(3 * kSize), Qt::black);
+        QVERIFY2(qAbs(large / small - 1.0) < 0.15, QByteArray::number(large / small));
+    }
+
+    void nothingIsClipped_data()
+    {
+        const Rows<QString, QSize> row;
+        for (const char* demo : {"field2d", "field3d", "kinds", "transient"}) {
+            row(QString::asprintf("%s, wide", demo), demo, QSize(900, 300));
+            row(QString::asprintf("%s, tall", demo), demo, QSize(300, 900));
+        }
+    }
+
+    void nothingIsClipped()
+    {
+        const auto [demo, size] = currentRow<QString, QSize>();
+        openDemo(demo.toUtf8().constData());
+        write("FieldMap/EdgeLayer/Color", "all", 3);
+        const host::Rgb edge = document().color(3);
+        const QImage image = picture(size);
+        const auto isEdge = [&](const QPoint& at) {
+            const QColor color = image.pixelColor(at);
+            return qAbs(color.red() - edge.red) + qAbs(color.green() - edge.green)
+                + qAbs(color.blue() - edge.blue)
+                < 40;
+        };
+        QRect seen;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (isEdge({x, y}))
+                    seen |= QRect(x, y, 1, 1);
+        const int margin = 2;
+        QVERIFY(image.rect().adjusted(margin, margin, -margin, -margin).contains(seen));
+        const bool isFlat = document().activeFrame()->plotType() == PlotType_Field2D;
+        QVERIFY(
+            layOut(size, isFlat, {}).plot.contains(seen)); // inside of the axes that are painted
+        // Fitted: it fills one direction but for axes and margins.
+        QVERIFY2(seen.width() > 0.6 * size.width() || seen.height() > 0.6 * size.height(),
+                 qPrintable(QStringLiteral("%1 x %2").arg(seen.width()).arg(seen.height())));
+    }
+
+    void numbersKeepClearOfTitles_data()
+    {
+        const Rows<double, double> row;
+        row("short", 0.0, 4.0);
+        row("far from zero", 4'523'000.0, 3.0);
+        row("close together", 1000.0001, 0.0004);
+        row("small", -1.2e-5, 2e-5);
+    }
+
+    void numbersKeepClearOfTitles()
+    {
+        const auto [from, span] = currentRow<double, double>();
+        const PlaneWindow window {from, from + span, from, from + span};
+        FieldLayout layout = layOut(kSize, true, {});
+        layout = layOut(kSize, true, {}, yTextsWidth(layout, window));
+        QImage image(kSize, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        paintPlaneAxes(painter, layout, window, "x", "y");
+        painter.end();
+        const QRectF& plot = layout.plot;
+        const double half = plot.height() / 2 - 2 * layout.font; // the title stands in the middle
+        const double title = 2.0 * layout.font;
+        QCOMPARE(inkIn(image, {0.0, 0.0, title, plot.top() + half}), 0.0);
+        QCOMPARE(inkIn(image, {0.0, plot.bottom() - half, title, half + 4 * layout.font}), 0.0);
+        const AxisTicks ticks =
+            axisTicks(from, from + span, plot.width(), layout.font, TickTexts::SideBySide);
+        QVERIFY(ticks.places.size() >= 2);
+        const double gap = (ticks.places[1] - ticks.places[0]) / span * plot.width();
+        QVERIFY2(ticks.widest < gap, QByteArray::number(ticks.widest / gap));
+    }
+
+    void legendsShowTheirBands()
+    {
+        const std::vector<FieldLegend> legends = {{"Pressure", levelsFor(0.0, 8.0)}};
+        const FieldLayout layout = layOut(kSize, true, legends);
+        QImage image(kSize, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        paintLegends(painter, layout, legends);
+        painter.end();
+        const std::vector<host::Rgb> bands = bandColors(legends[0].levels->bands);
+        std::vector<std::size_t> met; // going up the bar
+        const int x = static_cast<int>(layout.legends[0].left() + 0.7 * layout.font);
+        for (int y = image.height() - 1; y >= 0; --y) {
+            const QRgb pixel = image.pixel(x, y);
+            for (std::size_t band = 0; band < bands.size(); ++band)
+                if (pixel == qRgb(bands[band].red, bands[band].green, bands[band].blue)
+                    && (met.empty() || met.back() != band))
+                    met.push_back(band);
+        }
+        std::vector<std::size_t> all(bands.size());
+        std::iota(all.begin(), all.end(), std::size_t {0});
+        QCOMPARE(met, all);
+    }
+
+    void spaceAxesCoverNothing_data()
+    {
+        const Rows<double, double, int> row;
+        for (const double azimuth : {-150.0, -60.0, 25.0, 100.0})
+            for (const double elevation : {-50.0, 20.0, 70.0})
+                row(QString::asprintf("from %g, %g", azimuth, elevation), azimuth, elevation, 3);
+        row("along an axis", 0.0, 0.0, 2);
+    }
+
+    void spaceAxesCoverNothing()
+    {
+        const auto [azimuth, elevation, axes] = currentRow<double, double, int>();
+        const vtkBoundingBox box(-1.0, 1.0, -1.2, 1.2, -0.7, 0.7);
+        const SpaceView view = viewFrom(azimuth, elevation);
+        const FieldLayout layout = layOut(kSize, false, {});
+        QPolygonF corners;
+        for (int corner = 0; corner < 8; ++corner) {
+            double point[3];
+            box.GetCorner(corner, point);
+            corners.append(*view.project({point[0], point[1], point[2]}, layout.plot));
+        }
+        QImage image(kSize, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        paintSpaceAxes(painter, layout, box, view, {"I", "II", "III"});
+        painter.end();
+        const double ink = inkIn(image, image.rect());
+        QVERIFY2(ink > 0.0008 * axes, QByteArray::number(ink));
+        // Triangles of corners make up the whole of what the box covers.
+        QPainterPath covered;
+        for (int a = 0; a < 8; ++a)
+            for (int b = 0; b < a; ++b)
+                for (int c = 0; c < b; ++c)
+                    covered = covered.united([&] {
+                        QPainterPath triangle;
+                        triangle.addPolygon(QPolygonF({corners[a], corners[b], corners[c]}));
+                        return triangle;
+                    }());
+        painter.begin(&image);
+        painter.setClipPath(covered);
+        painter.setClipping(true);
+        painter.fillRect(image.rect(), Qt::white);
+        painter.end();
+        QCOMPARE(inkIn(image, image.rect()), ink);
+    }
+
+    void badPictures()
+    {
+        openDemo("field2d");
+        const CvlUniqueId frame = document().activeFrameId();
+        QString error;
+        QVERIFY(renderToImage(frame, {0, 100}, &error).isNull());
+        QVERIFY(error.contains("0") && error.contains("100"));
+        QVERIFY(renderToImage(frame, {100, 100000}, &error).isNull());
+        QVERIFY(!error.isEmpty());
+        QVERIFY(renderToImage(frame + 1, kSize, &error).isNull());
+        QVERIFY(!error.isEmpty());
+        QVERIFY(!renderToImage(frame, {1, 1}, &error).isNull());
+        QVERIFY(error.isEmpty());
+        document().execute(host::DetachData {});
+        QVERIFY(renderToImage(frame, kSize, &error).isNull());
+        QVERIFY(renderToImage(frame, kSize, nullptr).isNull());
+    }
+
+    void windowShowsThePicture()
+    {
+        openDemo("field2d");
+        write("FieldLayers/ShowContour", "", 1);
+        ShownPlot shown;
+        const QImage window = shown.grabbed();
+        const double change = shareOfChange(window, shown.view.render(kSize, nullptr));
+        QVERIFY2(change < 0.05, QByteArray::number(change)); // jagged lines differ more
+        write("FieldMap/Contour/Show", "all", 0);
+        shown.settle();
+        QVERIFY(shareOfChange(window, shown.grabbed()) > 0.2);
+    }
+
+    void oneRedrawPerIdleMoment()
+    {
+        openDemo("field2d");
+        ShownPlot shown;
+        const int before = shown.view.redrawCount();
+        for (int color = 0; color < 10; ++color)
+            write("FieldMap/Mesh/Color", "all", color);
+        document().undo().undo();
+        QCOMPARE(shown.view.redrawCount(), before);
+        shown.settle();
+        QCOMPARE(shown.view.redrawCount(), before + 1);
+        write("FieldMap/Group", "all", 3); // draws nothing
+        document().execute(host::RenameZone {1, "wing"});
+        shown.settle();
+        QCOMPARE(shown.view.redrawCount(), before + 1);
+    }
+
+    void hiddenCanvasDoesNothing()
+    {
+        openDemo("field2d");
+        ShownPlot shown;
+        shown.view.hide();
+        shown.settle();
+        const int before = shown.view.redrawCount();
+        const auto& scene = shown.canvas().scene();
+        const std::int64_t built = scene.layer(FieldLayer::Mesh).counters().built;
+        write("FieldMap/Mesh/LinePattern", "all", 1);
+        shown.settle();
+        QCOMPARE(shown.view.redrawCount(), before);
+        QCOMPARE(scene.layer(FieldLayer::Mesh).counters().built, built);
+        shown.view.show();
+        QTRY_COMPARE(scene.layer(FieldLayer::Mesh).counters().built, built + 12);
+    }
+
+    void clicksPickZones()
+    {
+        openDemo("field2d"); // four columns, three rows, counted from the lower left
+        ShownPlot shown;
+        QSignalSpy picked(&shown.view, &FrameView::zonePicked);
+        const QPoint middle = shown.middle();
+        QTest::mouseClick(shown.target(), Qt::LeftButton, {}, middle);
+        QCOMPARE(picked.size(), 1);
+        const CvlInt64 zone = picked[0][0].value<CvlInt64>();
+        QVERIFY(zone >= 1 && zone <= 12);
+        QCOMPARE(picked[0][1].toBool(), false);
+        activate(QByteArray::number(static_cast<qlonglong>(zone)), false);
+        shown.settle();
+        picked.clear();
+        QTest::mouseClick(shown.target(), Qt::LeftButton, {}, middle);
+        QVERIFY(picked[0][0].value<CvlInt64>() != zone);
+        document().undo().undo();
+        shown.settle();
+        picked.clear();
+        QTest::mouseDClick(shown.target(), Qt::LeftButton, {}, middle);
+        QTest::mouseRelease(shown.target(), Qt::LeftButton, {}, middle);
+        QCOMPARE(picked.last()[0].value<CvlInt64>(), zone);
+        QCOMPARE(picked.last()[1].toBool(), true);
+        picked.clear();
+        QTest::mouseClick(shown.target(), Qt::LeftButton, {}, {2, 2});
+        QCOMPARE(picked[0][0].value<CvlInt64>(), 0);
+        picked.clear();
+        shown.drag(middle, middle + QPoint(60, 30));
+        QCOMPARE(picked.size(), 0);
+    }
+
+    void dragAndWheelMoveTheView()
+    {
+        for (const char* demo : {"field2d", "field3d"}) {
+            openDemo(demo);
+            ShownPlot shown;
+            const QImage fitted = shown.grabbed();
+            const QPoint middle = shown.middle();
+            shown.drag(middle, middle + QPoint(60, 30));
+            const QImage dragged = shown.grabbed();
+            QVERIFY(shareOfChange(fitted, dragged) > 0.01);
+            QWheelEvent wheel(middle, shown.target()->mapToGlobal(middle), {}, {0, 240},
+                              Qt::NoButton, {}, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(shown.target(), &wheel);
+            shown.settle();
+            QVERIFY(shareOfChange(dragged, shown.grabbed()) > 0.01);
+            // The picture is of the view; letters are no commands.
+            QTest::keyClick(shown.target(), Qt::Key_R);
+            shown.settle();
+            QVERIFY(shareOfChange(fitted, shown.view.render(kSize, nullptr)) > 0.01);
+            shown.view.fitView();
+            shown.settle();
+            QVERIFY(shareOfChange(fitted, shown.grabbed()) < 0.001);
+        }
+    }
+
+    void viewsAreKeptByFrameAndPlotType()
+    {
+        openDemo("field3d");
+        ShownPlot shown;
+        const QPoint middle = shown.middle();
+        shown.drag(middle, middle + QPoint(80, 40));
+        const QImage turned = shown.grabbed();
+        write("PlotType", "", PlotType_Field2D);
+        shown.settle();
+        const QImage flat = shown.grabbed();
+        QVERIFY(shareOfChange(flat, turned) > 0.02);
+        write("PlotType", "", PlotType_Field3D);
+        shown.settle();
+        QVERIFY(shareOfChange(shown.grabbed(), turned) < 0.001);
+
+        document().execute(host::AddFrame {});
+        std::string error;
+        QVERIFY(samples::openDemo("field2d", 0, error));
+        shown.settle();
+        QVERIFY(shareOfChange(shown.grabbed(), turned) > 0.02);
+        document().execute(host::ActivateFrame {1});
+        shown.settle();
+        QVERIFY(shareOfChange(shown.grabbed(), turned) < 0.001);
+    }
+
+    void viewWidensForOtherTimes()
+    {
+        openSquares(PlotType_Field2D, true);
+        ShownPlot shown;
+        const auto right = [&] { return shown.fieldView().camera().fitBox.GetMaxPoint()[0]; };
+        QCOMPARE(right(), 1.0);
+        document().execute(host::SetSolutionTime {2.0});
+        shown.settle();
+        QCOMPARE(right(), 21.0);
+        QCOMPARE(shown.fieldView().camera().fitBox.GetMinPoint()[0], 0.0);
+        document().execute(host::SetSolutionTime {1.0}); // inside of what is seen already
+        shown.settle();
+        QCOMPARE(right(), 21.0);
+        shown.view.fitView();
+        shown.settle();
+        QCOMPARE(right(), 11.0);
+        const QPoint middle = shown.middle();
+        shown.drag(middle, middle + QPoint(60, 30));
+        document().execute(host::SetSolutionTime {2.0}); // the user's view stays
+        shown.settle();
+        QCOMPARE(right(), 11.0);
+    }
+
+    void missingOpenGlIsNamed()
+    {
+        const auto problemWith = [](const QString& variable, const QString& value) {
+            return outputWith({{kReportProblem, "1"}, {variable, value}});
+        };
+        const QString old = problemWith("MESA_GL_VERSION_OVERRIDE", "2.1");
+        QVERIFY2(old.contains("OpenGL 3.2") && old.contains("libgl1-mesa-dri"), qPrintable(old));
+        QVERIFY(old.contains("no picture, no crash"));
+        const QString other = problemWith("QT_QPA_PLATFORM", "offscreen");
+        QVERIFY2(other.contains("X server") && other.contains("offscreen"), qPrintable(other));
+        const QString fine = problemWith("MESA_GL_VERSION_OVERRIDE", "");
+        QVERIFY2(fine.contains("a picture"), qPrintable(fine));
+    }
+
+    void everyPixelRatioShowsTheSame()
+    {
+        const auto zonesAt = [](const QString& ratio) {
+            return outputWith({{kReportZones, "1"}, {"QT_SCALE_FACTOR", ratio}}).split(' ');
+        };
+        const QStringList plain = zonesAt("1");
+        QVERIFY2(plain.size() > 500, qPrintable(plain.join(' ')));
+        for (const char* ratio : {"1.5", "2"}) {
+            const QStringList scaled = zonesAt(ratio);
+            QCOMPARE(scaled.size(), plain.size());
+            int different = 0; // at the rims of zones
+            for (int i = 0; i < plain.size(); ++i)
+                different += plain[i] != scaled[i] ? 1 : 0;
+            QVERIFY2(different < plain.size() / 50, QByteArray::number(different));
+        }
+    }
+
+    void everyRunDrawsTheSame()
+    {
+        const auto run = [] { return outputWith({{kReportPictures, "1"}}).split('\n'); };
+        const QStringList first = run();
+        QCOMPARE(first.size() - 1, 4 + static_cast<int>(host::io::sampleList().size()));
+        for (int i = 0; i < 2; ++i)
+            QCOMPARE(run(), first);
+    }
+};
 
 int main(int argc, char** argv)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/scene/field_scene.h"
 #include "plot_document.h"
+#include "tests/support/rows.h"
 
 #include <vtkActor.h>
 #include <vtkCompositeDataDisplayAttributes.h>
@@ -23,77 +24,6 @@ using namespace corvala;
 using namespace corvala::plot;
 using namespace corvala::tests;
 
-class tst_FieldScene : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init() { makeScene("field2d"); }
-    void cleanup();
-    void oneMapperPerLook();
-    void mappersFollowTheMaps_data();
-    void mappersFollowTheMaps();
-    void editsTouchWhatTheyName_data();
-    void editsTouchWhatTheyName();
-    void undoTouchesWhatItNames();
-    void attributesReachActors();
-    void lightNeedsSpace();
-    void meshTypes();
-    void hiddenLayersCostNothing();
-    void activeMapsOnly();
-    void volumesShowTheirEdges();
-    void contourTypes_data();
-    void contourTypes();
-    void floodWithoutVariable();
-    void rgbNeedsAllChannels();
-    void levelsDoNotDependOnTime();
-    void timeShowsOtherZones();
-    void changesOfTheDocument();
-    void samePictureAsFromScratch();
-    void workInSlices();
-    void largeZonesAreMadeElsewhere();
-    void standIn();
-    void cancelledWork();
-    void largestScene();
-    void picks();
-
-private:
-    void makeScene(const char* demo, std::int64_t scale = 0,
-                   CvlInt64 largest = FieldScene::kLargestScene);
-    const CompositeLayer& layer(FieldLayer layer) { return m_scene->layer(layer); }
-    CompositeLayer::Counters counters(FieldLayer layer) { return m_scene->layer(layer).counters(); }
-    void work()
-    {
-        m_scene->advance(-1);
-        m_scene->prepare({800, 10.0, 1.0});
-    }
-    CvlInt64 zoneBelow(double x, double y);
-
-    vtkNew<vtkRenderer> m_back;
-    vtkNew<vtkRenderer> m_front;
-    std::unique_ptr<FieldScene> m_scene;
-    boost::signals2::scoped_connection m_connection;
-};
-
-void tst_FieldScene::makeScene(const char* demo, std::int64_t scale, CvlInt64 largest)
-{
-    m_connection.disconnect();
-    openDemo(demo, scale);
-    m_scene =
-        std::make_unique<FieldScene>(*m_back, *m_front, std::make_shared<SurfaceCache>(), largest);
-    m_scene->setFrame(document().activeFrameId());
-    m_connection = document().events().connect(
-        [this](const host::StateEvent& event) { m_scene->apply(event); });
-    work();
-}
-
-void tst_FieldScene::cleanup()
-{
-    m_connection.disconnect();
-    m_scene.reset();
-    QCOMPARE(m_back->GetActors()->GetNumberOfItems(), 0);
-}
-
 static vtkCompositePolyDataMapper2* mapperOf(vtkActor* actor)
 {
     return vtkCompositePolyDataMapper2::SafeDownCast(actor->GetMapper());
@@ -111,362 +41,32 @@ static int blockCount(const CompositeLayer& layer)
     return count;
 }
 
-void tst_FieldScene::oneMapperPerLook()
+/// What colours the second point of a block.
+static double colorAt(vtkPolyData& block)
 {
-    QCOMPARE(layer(FieldLayer::Mesh).actors().size(), std::size_t {1});
-    QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 12);
-    write("FieldMap/Mesh/LineThickness", "1-3", 0.6);
-    write("FieldMap/Mesh/LinePattern", "2-4", 1);
-    work();
-    // Thin, thick, thick and dashed, thin and dashed.
-    QCOMPARE(layer(FieldLayer::Mesh).actors().size(), std::size_t {4});
-    QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 12);
-    write("FieldMap/Mesh/LineThickness", "all", 0.6);
-    write("FieldMap/Mesh/LinePattern", "all", 0);
-    work();
-    QCOMPARE(layer(FieldLayer::Mesh).actors().size(), std::size_t {1});
-    QCOMPARE(m_back->GetActors()->GetNumberOfItems(), 2); // mesh and edges
+    vtkDataArray* const values = block.GetPointData()->GetTCoords();
+    return values ? values->GetComponent(1, 0) : 0.0;
 }
 
-void tst_FieldScene::mappersFollowTheMaps_data()
-{
-    QTest::addColumn<QString>("demo");
-    QTest::addColumn<int>("maps");
-    QTest::addColumn<int>("mappers"); // when every other map looks otherwise
-    QTest::newRow("in space") << "field3d" << 30 << 30;
-    QTest::newRow("too many in space") << "field3d" << 110 << 2;
-    QTest::newRow("flat") << "field2d" << 30 << 2;
-}
-
-void tst_FieldScene::mappersFollowTheMaps()
-{
-    QFETCH(QString, demo);
-    QFETCH(int, maps);
-    QFETCH(int, mappers);
-    makeScene(demo.toUtf8().constData(), maps);
-    for (int map = 2; map <= maps; map += 2)
-        write("FieldMap/EdgeLayer/LineThickness", QByteArray::number(map), 1);
-    work();
-    QCOMPARE(int(layer(FieldLayer::Edges).actors().size()), mappers);
-    QCOMPARE(blockCount(layer(FieldLayer::Edges)), maps);
-}
-
-void tst_FieldScene::editsTouchWhatTheyName_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("layer");
-    QTest::addColumn<int>("built");
-    QTest::addColumn<int>("moved");
-    QTest::addColumn<int>("recolored");
-    QTest::addColumn<int>("removed");
-    const int mesh = int(FieldLayer::Mesh);
-    const int shade = int(FieldLayer::Shade);
-    const int flood = int(FieldLayer::Flood);
-    QTest::newRow("mesh color") << "Mesh/Color" << 7.0 << mesh << 0 << 0 << 2 << 0;
-    QTest::newRow("mesh thickness") << "Mesh/LineThickness" << 1.2 << mesh << 0 << 2 << 0 << 0;
-    QTest::newRow("mesh pattern") << "Mesh/LinePattern" << 2.0 << mesh << 2 << 0 << 0 << 0;
-    QTest::newRow("length of solid lines")
-        << "Mesh/PatternLength" << 4.0 << mesh << 0 << 0 << 0 << 0;
-    QTest::newRow("mesh type") << "Mesh/MeshType" << 0.0 << mesh << 0 << 2 << 0 << 0;
-    QTest::newRow("mesh off") << "Mesh/Show" << 0.0 << mesh << 0 << 0 << 0 << 2;
-    QTest::newRow("mesh by group") << "Mesh/Color" << 101.0 << mesh << 2 << 0 << 0 << 0;
-    QTest::newRow("shade color") << "Shade/Color" << 7.0 << shade << 0 << 0 << 2 << 0;
-    QTest::newRow("shade off") << "Shade/Show" << 0.0 << shade << 0 << 0 << 0 << 2;
-    QTest::newRow("flood by density")
-        << "Contour/FloodColoring" << 2.0 << flood << 2 << 0 << 0 << 0;
-    QTest::newRow("flood by cell") << "Contour/ContourType" << 3.0 << flood << 2 << 0 << 0 << 0;
-    QTest::newRow("not drawn") << "Vector/Show" << 0.0 << mesh << 0 << 0 << 0 << 0;
-}
-
-void tst_FieldScene::editsTouchWhatTheyName()
-{
-    QFETCH(QString, path);
-    QFETCH(double, value);
-    QFETCH(int, layer);
-    QFETCH(int, built);
-    QFETCH(int, moved);
-    QFETCH(int, recolored);
-    QFETCH(int, removed);
-    write("FieldLayers/ShowShade", "", 1);
-    write("FieldLayers/ShowContour", "", 1);
-    work();
-    std::array<CompositeLayer::Counters, kFieldLayerCount> before;
-    for (std::size_t i = 0; i < kFieldLayerCount; ++i)
-        before[i] = counters(static_cast<FieldLayer>(i));
-    write(("FieldMap/" + path).toUtf8().constData(), "3,8", value);
-    const CvlInt64 pieces = m_scene->hasWork() ? m_scene->progress().second : 0;
-    QVERIFY2(pieces <= 2 * 3, QByteArray::number(qlonglong(pieces))); // two maps, layers and values
-    work();
-    for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
-        const bool isNamed = static_cast<int>(i) == layer;
-        const CompositeLayer::Counters after = counters(static_cast<FieldLayer>(i));
-        QCOMPARE(int(after.built - before[i].built), isNamed ? built : 0);
-        QCOMPARE(int(after.moved - before[i].moved), isNamed ? moved : 0);
-        QCOMPARE(int(after.recolored - before[i].recolored), isNamed ? recolored : 0);
-        QCOMPARE(int(after.removed - before[i].removed), isNamed ? removed : 0);
-    }
-}
-
-void tst_FieldScene::undoTouchesWhatItNames()
-{
-    vtkPolyData* const untouched = layer(FieldLayer::Mesh).geometry(1);
-    write("FieldMap/Mesh/Color", "5-6", 9);
-    work();
-    const auto before = counters(FieldLayer::Mesh);
-    QVERIFY(document().undo().undo());
-    work();
-    QCOMPARE(counters(FieldLayer::Mesh).recolored - before.recolored, 2);
-    QCOMPARE(counters(FieldLayer::Mesh).built, before.built);
-    QVERIFY(document().undo().redo());
-    work();
-    QCOMPARE(counters(FieldLayer::Mesh).recolored - before.recolored, 4);
-    QCOMPARE(layer(FieldLayer::Mesh).geometry(1), untouched);
-}
-
-void tst_FieldScene::attributesReachActors()
-{
-    write("FieldMap/Mesh/LineThickness", "all", 1.5);
-    write("FieldMap/Mesh/Color", "2", 5);
-    work();
-    vtkActor* const actor = layer(FieldLayer::Mesh).actors().front();
-    QCOMPARE(actor->GetProperty()->GetLineWidth(), 12.0F);
-    QVERIFY(!actor->GetTexture());
-    auto* const drawn =
-        vtkMultiBlockDataSet::SafeDownCast(mapperOf(actor)->GetInputDataObject(0, 0));
-    double color[3];
-    mapperOf(actor)->GetCompositeDataDisplayAttributes()->GetBlockColor(drawn->GetBlock(1), color);
-    const host::Rgb palette = document().color(5);
-    QCOMPARE(qRound(color[0] * 255), int(palette.red));
-    QCOMPARE(qRound(color[1] * 255), int(palette.green));
-
-    write("FieldMap/Mesh/LineThickness", "all", 0.001);
-    write("FieldMap/Mesh/LinePattern", "all", 3);
-    write("FieldMap/Mesh/PatternLength", "all", 5);
-    work();
-    vtkActor* const dashed = layer(FieldLayer::Mesh).actors().front();
-    QCOMPARE(dashed->GetProperty()->GetLineWidth(), 1.0F);
-    QVERIFY(dashed->GetTexture()->GetRepeat());
-    // 5 percent of 800 pixels are 40, and 10 pixels are one unit: four units to a period.
-    QCOMPARE(dashed->GetTexture()->GetTransform()->GetMatrix()->GetElement(0, 0), 0.25);
-}
-
-void tst_FieldScene::lightNeedsSpace()
-{
-    write("FieldLayers/ShowShade", "", 1);
-    work();
-    QVERIFY(!layer(FieldLayer::Shade).actors().front()->GetProperty()->GetLighting());
-    makeScene("field3d");
-    write("FieldLayers/ShowShade", "", 1);
-    write("FieldMap/Shade/UseLightingEffect", "2", 0);
-    work();
-    QCOMPARE(layer(FieldLayer::Shade).actors().size(), std::size_t {2});
-    write("FieldMap/Shade/UseLightingEffect", "2", 1);
-    work();
-    QCOMPARE(layer(FieldLayer::Shade).actors().size(), std::size_t {1});
-    QVERIFY(layer(FieldLayer::Shade).actors().front()->GetProperty()->GetLighting());
-    write("FieldLayers/UseLightingEffect", "", 1);
-    write("FieldMap/Effects/LightingEffect", "2", LightingEffect_Paneled);
-    work();
-    QCOMPARE(layer(FieldLayer::Shade).actors().size(), std::size_t {2});
-}
-
-void tst_FieldScene::meshTypes()
-{
-    write("FieldMap/Mesh/MeshType", "1", MeshType_WireFrame);
-    write("FieldMap/Mesh/MeshType", "2-3", MeshType_HiddenLine);
-    work();
-    QCOMPARE(m_front->GetActors()->GetNumberOfItems(), 1);
-    QVERIFY(!layer(FieldLayer::Background).geometry(1));
-    QVERIFY(layer(FieldLayer::Background).geometry(2));
-    QCOMPARE(blockCount(layer(FieldLayer::Background)), 2);
-    write("FieldMap/Mesh/Show", "2", 0);
-    work();
-    QCOMPARE(blockCount(layer(FieldLayer::Background)), 1);
-}
-
-void tst_FieldScene::hiddenLayersCostNothing()
-{
-    QCOMPARE(counters(FieldLayer::Shade).built, 0);
-    write("FieldMap/Shade/Color", "all", 3);
-    QVERIFY(!m_scene->hasWork());
-    write("FieldLayers/ShowShade", "", 1);
-    work();
-    QCOMPARE(counters(FieldLayer::Shade).built, 12);
-    write("FieldLayers/ShowShade", "", 0);
-    work();
-    QVERIFY(!layer(FieldLayer::Shade).actors().front()->GetVisibility());
-    write("FieldMap/Shade/Show", "4", 0);
-    write("FieldLayers/ShowShade", "", 1);
-    work();
-    QCOMPARE(counters(FieldLayer::Shade).built, 12);
-    QCOMPARE(blockCount(layer(FieldLayer::Shade)), 11);
-}
-
-void tst_FieldScene::activeMapsOnly()
-{
-    activate("2-5", false);
-    work();
-    QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 8);
-    QVERIFY(!layer(FieldLayer::Mesh).geometry(3));
-    activate("3", true);
-    work();
-    QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 9);
-    host::NumberSet zones = host::allUpTo(12);
-    zones.remove(1);
-    document().execute(host::EnableZones {zones});
-    work();
-    QVERIFY(!layer(FieldLayer::Mesh).geometry(1));
-}
-
-void tst_FieldScene::volumesShowTheirEdges()
-{
-    makeScene("kinds");
-    QVERIFY(!layer(FieldLayer::Mesh).geometry(1));
-    QVERIFY(layer(FieldLayer::Edges).geometry(1));
-    QVERIFY(layer(FieldLayer::Mesh).geometry(2));
-    QVERIFY(layer(FieldLayer::Mesh).geometry(5)); // a line of points
-    write("FieldMap/Surfaces/SurfacesToPlot", "1", SurfacesToPlot_IPlanes);
-    write("FieldMap/Surfaces/IRange/Skip", "1", 3);
-    work();
-    const auto planes = layer(FieldLayer::Mesh).geometry(1);
-    QVERIFY(planes);
-    const vtkIdType lines = planes->GetNumberOfLines();
-    write("FieldMap/Surfaces/IRange/Max", "1", 1);
-    work();
-    QCOMPARE(layer(FieldLayer::Mesh).geometry(1)->GetNumberOfLines(), lines / 3);
-}
-
-void tst_FieldScene::contourTypes_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("flood");
-    QTest::addColumn<bool>("lines");
-    QTest::newRow("lines") << 0 << false << true;
-    QTest::newRow("flood") << 1 << true << false;
-    QTest::newRow("lines and flood") << 2 << true << true;
-    QTest::newRow("average cell flood") << 3 << true << false;
-    QTest::newRow("primary value flood") << 4 << true << false;
-}
-
-void tst_FieldScene::contourTypes()
-{
-    QFETCH(int, type);
-    QFETCH(bool, flood);
-    QFETCH(bool, lines);
-    write("FieldLayers/ShowContour", "", 1);
-    write("FieldMap/Contour/ContourType", "all", type);
-    work();
-    QCOMPARE(layer(FieldLayer::Flood).geometry(5) != nullptr, flood);
-    QCOMPARE(layer(FieldLayer::ContourLines).geometry(5) != nullptr, lines);
-    // One value to a cell takes points of its own for every cell.
-    if (flood) {
-        const bool byCell = type >= ContourType_AverageCellFlood;
-        QCOMPARE(layer(FieldLayer::Flood).geometry(5)->GetNumberOfPoints(),
-                 byCell ? 4 * 8 * 6 : 9 * 7);
-    }
-    QCOMPARE(m_scene->legends().size(), std::size_t(flood ? 1 : 0));
-}
-
-void tst_FieldScene::floodWithoutVariable()
-{
-    write("FieldLayers/ShowContour", "", 1);
-    write("FieldMap/Contour/FloodColoring", "1-6", 5); // unassigned
-    work();
-    QCOMPARE(blockCount(layer(FieldLayer::Flood)), 6);
-    write("ContourGroups/Var", "", 4, 5);
-    work();
-    QCOMPARE(blockCount(layer(FieldLayer::Flood)), 12);
-    QCOMPARE(m_scene->legends().size(), std::size_t {2});
-    QCOMPARE(m_scene->legends()[1].title, QStringLiteral("V"));
-}
-
-void tst_FieldScene::rgbNeedsAllChannels()
-{
-    write("FieldLayers/ShowContour", "", 1);
-    write("FieldMap/Contour/FloodColoring", "all", ContourColoring_RGB);
-    write("GlobalRGB/RedVar", "", 3);
-    write("GlobalRGB/GreenVar", "", 4);
-    work();
-    QCOMPARE(blockCount(layer(FieldLayer::Flood)), 0);
-    write("GlobalRGB/BlueVar", "", 5);
-    work();
-    QCOMPARE(blockCount(layer(FieldLayer::Flood)), 12);
-    QVERIFY(m_scene->legends().empty());
-}
-
-void tst_FieldScene::levelsDoNotDependOnTime()
-{
-    makeScene("transient");
-    write("FieldLayers/ShowContour", "", 1);
-    work();
-    const int revision = m_scene->groups().revision(1);
-    const double maximum = m_scene->groups().maximum(1);
-    for (const double time : {1.0, 3.0, 2.0}) {
-        document().execute(host::SetSolutionTime {time});
-        work();
-        QCOMPARE(m_scene->groups().revision(1), revision);
-    }
-    // Maps that are not active do not count.
-    activate("1-2", false);
-    work();
-    QVERIFY(m_scene->groups().maximum(1) < maximum);
-}
-
-void tst_FieldScene::timeShowsOtherZones()
-{
-    makeScene("transient");
-    QVERIFY(layer(FieldLayer::Mesh).geometry(2));
-    QVERIFY(!layer(FieldLayer::Mesh).geometry(3));
-    vtkPolyData* const fixed = layer(FieldLayer::Mesh).geometry(1);
-    vtkPolyData* const first = layer(FieldLayer::Mesh).geometry(2);
-    document().execute(host::SetSolutionTime {2.0});
-    work();
-    QCOMPARE(layer(FieldLayer::Mesh).geometry(1), fixed);
-    QVERIFY(layer(FieldLayer::Mesh).geometry(2) != first);
-    QVERIFY(layer(FieldLayer::Mesh).geometry(3));
-    document().execute(host::SetSolutionTime {0.0});
-    work();
-    QVERIFY(!layer(FieldLayer::Mesh).geometry(3));
-}
-
-void tst_FieldScene::changesOfTheDocument()
-{
-    document().execute(host::DeleteMaps {mapsOf("2-3")});
-    work();
-    QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 10);
-    document().undo().undo();
-    work();
-    QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 12);
-    document().execute(host::SetPaletteColor {1, {12, 34, 56}});
-    write("FieldMap/Mesh/Color", "all", 1);
-    work();
-    document().execute(host::AddFrame {});
-    document().execute(host::ActivateFrame {1});
-    QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 12);
-    document().execute(host::RenameVariable {1, "East"});
-    QCOMPARE(m_scene->axisTitles()[0], QStringLiteral("East"));
-    document().execute(host::DetachData {});
-    work();
-    QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 0);
-    QVERIFY(!m_scene->bounds().IsValid());
-    document().clear();
-    QVERIFY(!m_scene->hasWork());
-}
-
-/// What a scene draws, to compare: by layer the number of mappers, blocks and cells.
+/// What a scene draws, to compare: by layer the number of mappers, blocks and cells, and a colour.
 static QStringList contents(const FieldScene& scene)
 {
     QStringList result;
     for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
         const CompositeLayer& layer = scene.layer(static_cast<FieldLayer>(i));
         vtkIdType cells = 0;
-        for (CvlInt64 map = 1; map <= 12 && layer.isVisible(); ++map)
-            cells += layer.geometry(map) ? layer.geometry(map)->GetNumberOfCells() : 0;
-        result << (layer.isVisible() ? QStringLiteral("%1 mappers, %2 blocks, %3 cells")
+        double color = 0.0;
+        for (CvlInt64 map = 1; map <= 12 && layer.isVisible(); ++map) {
+            if (vtkPolyData* const block = layer.geometry(map)) {
+                cells += block->GetNumberOfCells();
+                color += static_cast<double>(map) * colorAt(*block);
+            }
+        }
+        result << (layer.isVisible() ? QStringLiteral("%1 mappers, %2 blocks, %3 cells, color %4")
                                            .arg(layer.actors().size())
                                            .arg(blockCount(layer))
                                            .arg(cells)
+                                           .arg(color)
                                      : QString());
     }
     return result;
@@ -488,55 +88,6 @@ static QStringList drawnOrder(vtkRenderer& renderer)
     return result;
 }
 
-void tst_FieldScene::samePictureAsFromScratch()
-{
-    makeScene("field3d");
-    write("FieldLayers/ShowContour", "", 1);
-    write("FieldMap/Contour/ContourType", "1-6", ContourType_LinesAndFlood);
-    write("FieldMap/Contour/Color", "2-3", 102);
-    write("FieldMap/Surfaces/SurfacesToPlot", "1-7", SurfacesToPlot_KPlanes);
-    work();
-    write("FieldMap/Mesh/LinePattern", "4-9", 2);
-    write("FieldMap/Mesh/Color", "6-10", 101);
-    write("FieldLayers/ShowShade", "", 1);
-    work();
-    write("FieldMap/Shade/Show", "3-5", 0);
-    activate("1,8", false);
-    write("FieldMap/Mesh/MeshType", "5-7", MeshType_HiddenLine);
-    write("FieldMap/Mesh/LineThickness", "9-10", 2);
-    work();
-    write("FieldMap/Mesh/LineThickness", "5-6", 3);
-    work();
-    document().undo().undo();
-    work();
-    vtkNew<vtkRenderer> back;
-    vtkNew<vtkRenderer> front;
-    FieldScene fresh(*back, *front, std::make_shared<SurfaceCache>());
-    fresh.setFrame(document().activeFrameId());
-    fresh.advance(-1);
-    fresh.prepare({800, 10.0, 1.0});
-    QCOMPARE(contents(*m_scene), contents(fresh));
-    QCOMPARE(drawnOrder(*m_back), drawnOrder(*back));
-    QVERIFY(m_scene->groups().levels(1) == fresh.groups().levels(1));
-}
-
-void tst_FieldScene::workInSlices()
-{
-    makeScene("field2d", 300);
-    write("FieldMap/Mesh/LinePattern", "all", 1);
-    int slices = 0;
-    CvlInt64 previous = -1;
-    while (m_scene->hasWork()) {
-        m_scene->advance(0);
-        ++slices;
-        QVERIFY(m_scene->progress().first > previous);
-        previous = m_scene->progress().first;
-        QVERIFY(m_scene->progress().first <= m_scene->progress().second);
-    }
-    QVERIFY(slices > 100);
-    QCOMPARE(counters(FieldLayer::Mesh).built, 600);
-}
-
 /// A plane of 300 by 300 points; tells whether the main thread asked for it.
 class LargeZone : public host::ZoneSource
 {
@@ -551,101 +102,6 @@ public:
     mutable std::atomic<bool> m_askedHere {false};
 };
 
-void tst_FieldScene::largeZonesAreMadeElsewhere()
-{
-    const auto source = std::make_shared<LargeZone>();
-    const auto data = std::make_shared<host::DataSet>();
-    data->source = source;
-    data->zones = {{"large", true, {300, 300, 1}, 90'000, 89'401, 2}};
-    data->variables = {{"X", {}, {}, 0}, {"Y", {}, {}, 1}};
-    data->contourVariables = {1};
-    document().clear();
-    document().execute(host::AddFrame {});
-    document().execute(host::AttachData {{}, data, PlotType_Field2D, 0});
-    write("FieldLayers/ShowContour", "", 1);
-    m_scene->setFrame(document().activeFrameId());
-    m_scene->advance(0);
-    m_scene->cancel();
-    QVERIFY(!m_scene->notice().isEmpty());
-    m_scene->resume();
-    QTRY_VERIFY(m_scene->advance(1) && m_scene->progress().first > 1); // the values are known
-    write("ContourGroups/Var", "", 2, 1); // and are others, while something is being made
-    QTRY_VERIFY(!m_scene->advance(1));
-    QVERIFY(!source->m_askedHere);
-    m_scene->prepare({800, 10.0, 1.0});
-    vtkNew<vtkRenderer> back;
-    vtkNew<vtkRenderer> front;
-    FieldScene waited(*back, *front, std::make_shared<SurfaceCache>());
-    waited.setFrame(document().activeFrameId());
-    waited.advance(-1);
-    waited.prepare({800, 10.0, 1.0});
-    QCOMPARE(contents(*m_scene), contents(waited));
-    QVERIFY(m_scene->groups().levels(1) == waited.groups().levels(1));
-    write("FieldMap/Mesh/LinePattern", "1", 1);
-    m_scene->advance(0);
-    m_scene.reset(); // while something is being made for it
-}
-
-void tst_FieldScene::standIn()
-{
-    write("FieldLayers/ShowContour", "", 1);
-    work();
-    const auto visibleActors = [&] {
-        std::vector<vtkActor*> visible;
-        vtkCollectionSimpleIterator position;
-        m_back->GetActors()->InitTraversal(position);
-        while (vtkActor* const actor = m_back->GetActors()->GetNextActor(position))
-            if (actor->GetVisibility())
-                visible.push_back(actor);
-        return visible;
-    };
-    const std::vector<vtkActor*> before = visibleActors();
-    m_scene->setStandIn(true);
-    QCOMPARE(visibleActors().size(), std::size_t {1});
-    auto* const cloud =
-        vtkPolyData::SafeDownCast(visibleActors().front()->GetMapper()->GetInputDataObject(0, 0));
-    QVERIFY(cloud->GetNumberOfVerts() >= 12 * 8);
-    double range[2]; // of what is red in the colours of the map
-    cloud->GetPointData()->GetScalars()->GetRange(range, 0);
-    QVERIFY(range[1] - range[0] > 100);
-    m_scene->setStandIn(false);
-    QVERIFY(visibleActors() == before);
-}
-
-void tst_FieldScene::cancelledWork()
-{
-    write("FieldMap/Mesh/LinePattern", "all", 1);
-    while (m_scene->progress().first < 16)
-        m_scene->advance(0);
-    m_scene->cancel();
-    QVERIFY(!m_scene->hasWork());
-    const std::int64_t built = counters(FieldLayer::Mesh).built;
-    QVERIFY(built < 24);
-    QVERIFY(!m_scene->notice().isEmpty());
-    m_scene->resume();
-    work();
-    QCOMPARE(counters(FieldLayer::Mesh).built, 24);
-    QVERIFY(m_scene->notice().isEmpty());
-}
-
-void tst_FieldScene::largestScene()
-{
-    makeScene("field2d", 20, 15);
-    QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 15);
-    QVERIFY2(m_scene->notice().contains("15") && m_scene->notice().contains("20"),
-             qPrintable(m_scene->notice()));
-    activate("1-6", false);
-    work();
-    QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 14);
-    QVERIFY(layer(FieldLayer::Mesh).geometry(20));
-    QVERIFY(m_scene->notice().isEmpty());
-}
-
-CvlInt64 tst_FieldScene::zoneBelow(double x, double y)
-{
-    return m_scene->zoneAt({{x, y, 1000.0}, {x, y, -1000.0}, 0.01});
-}
-
 static std::array<double, 2> centreOf(CvlInt64 zone)
 {
     double centre[3];
@@ -653,26 +109,553 @@ static std::array<double, 2> centreOf(CvlInt64 zone)
     return {centre[0], centre[1]};
 }
 
-void tst_FieldScene::picks()
+class tst_FieldScene : public QObject
 {
-    for (const CvlInt64 zone : {1, 6, 12}) {
-        const auto [x, y] = centreOf(zone);
-        QCOMPARE(zoneBelow(x, y), zone); // between the lines, too
-    }
-    QCOMPARE(zoneBelow(1000.0, 0.0), 0);
-    const auto [x, y] = centreOf(6);
-    activate("6", false);
-    work();
-    QCOMPARE(zoneBelow(x, y), 0);
+    Q_OBJECT
 
-    // The nearer of two zones is hit, and one that shows its faces before one that shows its edges.
-    makeScene("field3d");
-    const auto [bx, by] = centreOf(1);
-    QCOMPARE(zoneBelow(bx, by), 1);
-    makeScene("kinds");
-    const auto [lx, ly] = centreOf(5); // a line of points
-    QCOMPARE(m_scene->zoneAt({{lx, ly, 100.0}, {lx, ly, -100.0}, 0.01}), 5);
-}
+private Q_SLOTS:
+    void init() { makeScene("field2d"); }
+
+    void cleanup()
+    {
+        m_connection.disconnect();
+        m_scene.reset();
+        QCOMPARE(m_back->GetActors()->GetNumberOfItems(), 0);
+    }
+
+    void oneMapperPerLook()
+    {
+        QCOMPARE(layer(FieldLayer::Mesh).actors().size(), std::size_t {1});
+        QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 12);
+        write("FieldMap/Mesh/LineThickness", "1-3", 0.6);
+        write("FieldMap/Mesh/LinePattern", "2-4", 1);
+        work();
+        // Thin, thick, thick and dashed, thin and dashed.
+        QCOMPARE(layer(FieldLayer::Mesh).actors().size(), std::size_t {4});
+        QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 12);
+        write("FieldMap/Mesh/LineThickness", "all", 0.6);
+        write("FieldMap/Mesh/LinePattern", "all", 0);
+        work();
+        QCOMPARE(layer(FieldLayer::Mesh).actors().size(), std::size_t {1});
+        QCOMPARE(m_back->GetActors()->GetNumberOfItems(), 2); // mesh and edges
+    }
+
+    void mappersFollowTheMaps_data()
+    {
+        const Rows<QString, int, int> row;
+        row("in space", "field3d", 30, 30);
+        row("too many in space", "field3d", 110, 2);
+        row("flat", "field2d", 30, 2);
+    }
+
+    void mappersFollowTheMaps()
+    {
+        const auto [demo, maps, mappers] = currentRow<QString, int, int>();
+        makeScene(demo.toUtf8().constData(), maps);
+        for (int map = 2; map <= maps; map += 2)
+            write("FieldMap/EdgeLayer/LineThickness", QByteArray::number(map), 1);
+        work();
+        QCOMPARE(int(layer(FieldLayer::Edges).actors().size()), mappers);
+        QCOMPARE(blockCount(layer(FieldLayer::Edges)), maps);
+    }
+
+    void editsTouchWhatTheyName_data()
+    {
+        const Rows<QString, double, int, int, int, int, int> row;
+        const int mesh = int(FieldLayer::Mesh);
+        const int shade = int(FieldLayer::Shade);
+        const int flood = int(FieldLayer::Flood);
+        row("mesh color", "Mesh/Color", 7.0, mesh, 0, 0, 2, 0);
+        row("mesh thickness", "Mesh/LineThickness", 1.2, mesh, 0, 2, 0, 0);
+        row("mesh pattern", "Mesh/LinePattern", 2.0, mesh, 2, 0, 0, 0);
+        row("length of solid lines", "Mesh/PatternLength", 4.0, mesh, 0, 0, 0, 0);
+        row("mesh type", "Mesh/MeshType", 0.0, mesh, 0, 2, 0, 0);
+        row("mesh off", "Mesh/Show", 0.0, mesh, 0, 0, 0, 2);
+        row("mesh by group", "Mesh/Color", 101.0, mesh, 2, 0, 0, 0);
+        row("shade color", "Shade/Color", 7.0, shade, 0, 0, 2, 0);
+        row("shade off", "Shade/Show", 0.0, shade, 0, 0, 0, 2);
+        row("flood by density", "Contour/FloodColoring", 2.0, flood, 2, 0, 0, 0);
+        row("flood by cell", "Contour/ContourType", 3.0, flood, 2, 0, 0, 0);
+        row("not drawn", "Vector/Show", 0.0, mesh, 0, 0, 0, 0);
+    }
+
+    void editsTouchWhatTheyName()
+    {
+        const auto [path, value, layer, built, moved, recolored, removed] =
+            currentRow<QString, double, int, int, int, int, int>();
+        write("FieldLayers/ShowShade", "", 1);
+        write("FieldLayers/ShowContour", "", 1);
+        work();
+        std::array<CompositeLayer::Counters, kFieldLayerCount> before;
+        for (std::size_t i = 0; i < kFieldLayerCount; ++i)
+            before[i] = counters(static_cast<FieldLayer>(i));
+        write(("FieldMap/" + path).toUtf8().constData(), "3,8", value);
+        const CvlInt64 pieces = m_scene->hasWork() ? m_scene->progress().second : 0;
+        QVERIFY2(pieces <= 2 * 3,
+                 QByteArray::number(qlonglong(pieces))); // two maps, layers and values
+        work();
+        for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
+            const bool isNamed = static_cast<int>(i) == layer;
+            const CompositeLayer::Counters after = counters(static_cast<FieldLayer>(i));
+            QCOMPARE(int(after.built - before[i].built), isNamed ? built : 0);
+            QCOMPARE(int(after.moved - before[i].moved), isNamed ? moved : 0);
+            QCOMPARE(int(after.recolored - before[i].recolored), isNamed ? recolored : 0);
+            QCOMPARE(int(after.removed - before[i].removed), isNamed ? removed : 0);
+        }
+    }
+
+    void undoTouchesWhatItNames()
+    {
+        vtkPolyData* const untouched = layer(FieldLayer::Mesh).geometry(1);
+        write("FieldMap/Mesh/Color", "5-6", 9);
+        work();
+        const auto before = counters(FieldLayer::Mesh);
+        QVERIFY(document().undo().undo());
+        work();
+        QCOMPARE(counters(FieldLayer::Mesh).recolored - before.recolored, 2);
+        QCOMPARE(counters(FieldLayer::Mesh).built, before.built);
+        QVERIFY(document().undo().redo());
+        work();
+        QCOMPARE(counters(FieldLayer::Mesh).recolored - before.recolored, 4);
+        QCOMPARE(layer(FieldLayer::Mesh).geometry(1), untouched);
+    }
+
+    void attributesReachActors()
+    {
+        write("FieldMap/Mesh/LineThickness", "all", 1.5);
+        write("FieldMap/Mesh/Color", "2", 5);
+        work();
+        vtkActor* const actor = layer(FieldLayer::Mesh).actors().front();
+        QCOMPARE(actor->GetProperty()->GetLineWidth(), 12.0F);
+        QVERIFY(!actor->GetTexture());
+        auto* const drawn =
+            vtkMultiBlockDataSet::SafeDownCast(mapperOf(actor)->GetInputDataObject(0, 0));
+        double color[3];
+        mapperOf(actor)->GetCompositeDataDisplayAttributes()->GetBlockColor(drawn->GetBlock(1),
+                                                                            color);
+        const host::Rgb palette = document().color(5);
+        QCOMPARE(qRound(color[0] * 255), int(palette.red));
+        QCOMPARE(qRound(color[1] * 255), int(palette.green));
+
+        write("FieldMap/Mesh/LineThickness", "all", 0.001);
+        write("FieldMap/Mesh/LinePattern", "all", 3);
+        write("FieldMap/Mesh/PatternLength", "all", 5);
+        work();
+        vtkActor* const dashed = layer(FieldLayer::Mesh).actors().front();
+        QCOMPARE(dashed->GetProperty()->GetLineWidth(), 1.0F);
+        QVERIFY(dashed->GetTexture()->GetRepeat());
+        // 5 percent of 800 pixels are 40, and 10 pixels are one unit: four units to a period.
+        QCOMPARE(dashed->GetTexture()->GetTransform()->GetMatrix()->GetElement(0, 0), 0.25);
+    }
+
+    void lightNeedsSpace()
+    {
+        write("FieldLayers/ShowShade", "", 1);
+        work();
+        QVERIFY(!layer(FieldLayer::Shade).actors().front()->GetProperty()->GetLighting());
+        makeScene("field3d");
+        write("FieldLayers/ShowShade", "", 1);
+        write("FieldMap/Shade/UseLightingEffect", "2", 0);
+        work();
+        QCOMPARE(layer(FieldLayer::Shade).actors().size(), std::size_t {2});
+        write("FieldMap/Shade/UseLightingEffect", "2", 1);
+        work();
+        QCOMPARE(layer(FieldLayer::Shade).actors().size(), std::size_t {1});
+        QVERIFY(layer(FieldLayer::Shade).actors().front()->GetProperty()->GetLighting());
+        write("FieldLayers/UseLightingEffect", "", 1);
+        write("FieldMap/Effects/LightingEffect", "2", LightingEffect_Paneled);
+        work();
+        QCOMPARE(layer(FieldLayer::Shade).actors().size(), std::size_t {2});
+    }
+
+    void meshTypes()
+    {
+        write("FieldMap/Mesh/MeshType", "1", MeshType_WireFrame);
+        write("FieldMap/Mesh/MeshType", "2-3", MeshType_HiddenLine);
+        work();
+        QCOMPARE(m_front->GetActors()->GetNumberOfItems(), 1);
+        QVERIFY(!layer(FieldLayer::Background).geometry(1));
+        QVERIFY(layer(FieldLayer::Background).geometry(2));
+        QCOMPARE(blockCount(layer(FieldLayer::Background)), 2);
+        write("FieldMap/Mesh/Show", "2", 0);
+        work();
+        QCOMPARE(blockCount(layer(FieldLayer::Background)), 1);
+    }
+
+    void hiddenLayersCostNothing()
+    {
+        QCOMPARE(counters(FieldLayer::Shade).built, 0);
+        write("FieldMap/Shade/Color", "all", 3);
+        QVERIFY(!m_scene->hasWork());
+        write("FieldLayers/ShowShade", "", 1);
+        work();
+        QCOMPARE(counters(FieldLayer::Shade).built, 12);
+        write("FieldLayers/ShowShade", "", 0);
+        work();
+        QVERIFY(!layer(FieldLayer::Shade).actors().front()->GetVisibility());
+        write("FieldMap/Shade/Show", "4", 0);
+        write("FieldLayers/ShowShade", "", 1);
+        work();
+        QCOMPARE(counters(FieldLayer::Shade).built, 12);
+        QCOMPARE(blockCount(layer(FieldLayer::Shade)), 11);
+    }
+
+    void activeMapsOnly()
+    {
+        activate("2-5", false);
+        work();
+        QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 8);
+        QVERIFY(!layer(FieldLayer::Mesh).geometry(3));
+        activate("3", true);
+        work();
+        QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 9);
+        host::NumberSet zones = host::allUpTo(12);
+        zones.remove(1);
+        document().execute(host::EnableZones {zones});
+        work();
+        QVERIFY(!layer(FieldLayer::Mesh).geometry(1));
+    }
+
+    void volumesShowTheirEdges()
+    {
+        makeScene("kinds");
+        QVERIFY(!layer(FieldLayer::Mesh).geometry(1));
+        QVERIFY(layer(FieldLayer::Edges).geometry(1));
+        QVERIFY(layer(FieldLayer::Mesh).geometry(2));
+        QVERIFY(layer(FieldLayer::Mesh).geometry(5)); // a line of points
+        write("FieldMap/Surfaces/SurfacesToPlot", "1", SurfacesToPlot_IPlanes);
+        write("FieldMap/Surfaces/IRange/Skip", "1", 3);
+        work();
+        const auto planes = layer(FieldLayer::Mesh).geometry(1);
+        QVERIFY(planes);
+        const vtkIdType lines = planes->GetNumberOfLines();
+        write("FieldMap/Surfaces/IRange/Max", "1", 1);
+        work();
+        QCOMPARE(layer(FieldLayer::Mesh).geometry(1)->GetNumberOfLines(), lines / 3);
+    }
+
+    void contourTypes_data()
+    {
+        const Rows<int, bool, bool> row;
+        row("lines", 0, false, true);
+        row("flood", 1, true, false);
+        row("lines and flood", 2, true, true);
+        row("average cell flood", 3, true, false);
+        row("primary value flood", 4, true, false);
+    }
+
+    void contourTypes()
+    {
+        const auto [type, flood, lines] = currentRow<int, bool, bool>();
+        write("FieldLayers/ShowContour", "", 1);
+        write("FieldMap/Contour/ContourType", "all", type);
+        work();
+        QCOMPARE(layer(FieldLayer::Flood).geometry(5) != nullptr, flood);
+        QCOMPARE(layer(FieldLayer::ContourLines).geometry(5) != nullptr, lines);
+        // One value to a cell takes points of its own for every cell.
+        if (flood) {
+            const bool byCell = type >= ContourType_AverageCellFlood;
+            QCOMPARE(layer(FieldLayer::Flood).geometry(5)->GetNumberOfPoints(),
+                     byCell ? 4 * 8 * 6 : 9 * 7);
+        }
+        QCOMPARE(m_scene->legends().size(), std::size_t(flood ? 1 : 0));
+        write("FieldLayers/ShowContour", "", 0);
+        work();
+        QVERIFY(m_scene->legends().empty());
+    }
+
+    void floodWithoutVariable()
+    {
+        write("FieldLayers/ShowContour", "", 1);
+        write("FieldMap/Contour/FloodColoring", "1-6", 5); // unassigned
+        work();
+        QCOMPARE(blockCount(layer(FieldLayer::Flood)), 6);
+        write("ContourGroups/Var", "", 4, 5);
+        work();
+        QCOMPARE(blockCount(layer(FieldLayer::Flood)), 12);
+        QCOMPARE(m_scene->legends().size(), std::size_t {2});
+        QCOMPARE(m_scene->legends()[1].title, QStringLiteral("V"));
+    }
+
+    void rgbNeedsAllChannels()
+    {
+        write("FieldLayers/ShowContour", "", 1);
+        write("FieldMap/Contour/FloodColoring", "all", ContourColoring_RGB);
+        write("GlobalRGB/RedVar", "", 3);
+        write("GlobalRGB/GreenVar", "", 4);
+        work();
+        QCOMPARE(blockCount(layer(FieldLayer::Flood)), 0);
+        write("GlobalRGB/BlueVar", "", 5);
+        work();
+        QCOMPARE(blockCount(layer(FieldLayer::Flood)), 12);
+        QVERIFY(m_scene->legends().empty());
+    }
+
+    void levelsDoNotDependOnTime()
+    {
+        makeScene("transient");
+        write("FieldLayers/ShowContour", "", 1);
+        work();
+        const int revision = m_scene->groups().revision(1);
+        const double maximum = m_scene->groups().maximum(1);
+        for (const double time : {1.0, 3.0, 2.0}) {
+            document().execute(host::SetSolutionTime {time});
+            work();
+            QCOMPARE(m_scene->groups().revision(1), revision);
+        }
+        // Maps that are not active do not count.
+        activate("1-2", false);
+        work();
+        QVERIFY(m_scene->groups().maximum(1) < maximum);
+    }
+
+    void timeShowsOtherZones()
+    {
+        makeScene("transient");
+        QVERIFY(layer(FieldLayer::Mesh).geometry(2));
+        QVERIFY(!layer(FieldLayer::Mesh).geometry(3));
+        vtkPolyData* const fixed = layer(FieldLayer::Mesh).geometry(1);
+        vtkPolyData* const first = layer(FieldLayer::Mesh).geometry(2);
+        document().execute(host::SetSolutionTime {2.0});
+        work();
+        QCOMPARE(layer(FieldLayer::Mesh).geometry(1), fixed);
+        QVERIFY(layer(FieldLayer::Mesh).geometry(2) != first);
+        QVERIFY(layer(FieldLayer::Mesh).geometry(3));
+        document().execute(host::SetSolutionTime {0.0});
+        work();
+        QVERIFY(!layer(FieldLayer::Mesh).geometry(3));
+    }
+
+    void changesOfTheDocument()
+    {
+        document().execute(host::DeleteMaps {mapsOf("2-3")});
+        work();
+        QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 10);
+        document().undo().undo();
+        work();
+        QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 12);
+        document().execute(host::SetPaletteColor {1, {12, 34, 56}});
+        write("FieldMap/Mesh/Color", "all", 1);
+        work();
+        document().execute(host::AddFrame {});
+        document().execute(host::ActivateFrame {1});
+        QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 12);
+        document().execute(host::RenameVariable {1, "East"});
+        QCOMPARE(m_scene->axisTitles()[0], QStringLiteral("East"));
+        document().execute(host::DetachData {});
+        work();
+        QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 0);
+        QVERIFY(!m_scene->bounds().IsValid());
+        document().clear();
+        QVERIFY(!m_scene->hasWork());
+    }
+
+    void samePictureAsFromScratch()
+    {
+        makeScene("field3d");
+        write("FieldLayers/ShowContour", "", 1);
+        write("FieldMap/Contour/ContourType", "1-6", ContourType_LinesAndFlood);
+        write("FieldMap/Contour/Color", "2-3", 102);
+        write("FieldMap/Surfaces/SurfacesToPlot", "1-7", SurfacesToPlot_KPlanes);
+        work();
+        write("FieldMap/Mesh/LinePattern", "4-9", 2);
+        write("FieldMap/Mesh/Color", "6-10", 101);
+        write("FieldLayers/ShowShade", "", 1);
+        work();
+        write("FieldMap/Shade/Show", "3-5", 0);
+        activate("1,8", false);
+        write("FieldMap/Mesh/MeshType", "5-7", MeshType_HiddenLine);
+        write("FieldMap/Mesh/LineThickness", "9-10", 2);
+        work();
+        write("FieldMap/Mesh/LineThickness", "5-6", 3);
+        work();
+        document().undo().undo();
+        work();
+        vtkNew<vtkRenderer> back;
+        vtkNew<vtkRenderer> front;
+        FieldScene fresh(*back, *front, std::make_shared<SurfaceCache>());
+        fresh.setFrame(document().activeFrameId());
+        fresh.advance(-1);
+        fresh.prepare({800, 10.0, 1.0});
+        QCOMPARE(contents(*m_scene), contents(fresh));
+        QCOMPARE(drawnOrder(*m_back), drawnOrder(*back));
+        QVERIFY(m_scene->groups().levels(1) == fresh.groups().levels(1));
+    }
+
+    void workInSlices()
+    {
+        makeScene("field2d", 300);
+        write("FieldMap/Mesh/LinePattern", "all", 1);
+        int slices = 0;
+        CvlInt64 previous = -1;
+        while (m_scene->hasWork()) {
+            m_scene->advance(0);
+            ++slices;
+            QVERIFY(m_scene->progress().first > previous);
+            previous = m_scene->progress().first;
+            QVERIFY(m_scene->progress().first <= m_scene->progress().second);
+        }
+        QVERIFY(slices > 100);
+        QCOMPARE(counters(FieldLayer::Mesh).built, 600);
+    }
+
+    void largeZonesAreMadeElsewhere()
+    {
+        const auto source = std::make_shared<LargeZone>();
+        const auto data = std::make_shared<host::DataSet>();
+        data->source = source;
+        data->zones = {{"large", true, {300, 300, 1}, 90'000, 89'401, 2}};
+        data->variables = {{"X", {}, {}, 0}, {"Y", {}, {}, 1}};
+        data->contourVariables = {1};
+        document().clear();
+        document().execute(host::AddFrame {});
+        document().execute(host::AttachData {{}, data, PlotType_Field2D, 0});
+        write("FieldLayers/ShowContour", "", 1);
+        m_scene->setFrame(document().activeFrameId());
+        m_scene->advance(0);
+        m_scene->cancel();
+        QVERIFY(!m_scene->notice().isEmpty());
+        m_scene->resume();
+        QTRY_VERIFY(m_scene->advance(1) && m_scene->progress().first > 1); // the values are known
+        write("ContourGroups/Var", "", 2, 1); // and are others, while something is being made
+        QTRY_VERIFY(!m_scene->advance(1));
+        QVERIFY(!source->m_askedHere);
+        m_scene->prepare({800, 10.0, 1.0});
+        vtkNew<vtkRenderer> back;
+        vtkNew<vtkRenderer> front;
+        FieldScene waited(*back, *front, std::make_shared<SurfaceCache>());
+        waited.setFrame(document().activeFrameId());
+        waited.advance(-1);
+        waited.prepare({800, 10.0, 1.0});
+        QCOMPARE(contents(*m_scene), contents(waited));
+        QVERIFY(m_scene->groups().levels(1) == waited.groups().levels(1));
+        write("FieldMap/Mesh/LinePattern", "1", 1);
+        m_scene->advance(0);
+        m_scene.reset(); // while something is being made for it
+    }
+
+    void threadsLetGoBeforeTheyAreDone()
+    {
+        for (int i = 0; i < 2000; ++i) {
+            auto held = std::make_shared<int>(i);
+            const std::weak_ptr<int> known = held;
+            BackgroundTask<int> task([held = std::move(held)] { return *held; });
+            QVERIFY(task.wait(-1));
+            QVERIFY(known.expired());
+            QCOMPARE(task.take(), i);
+        }
+    }
+
+    void standIn()
+    {
+        write("FieldLayers/ShowContour", "", 1);
+        work();
+        const auto visibleActors = [&] {
+            std::vector<vtkActor*> visible;
+            vtkCollectionSimpleIterator position;
+            m_back->GetActors()->InitTraversal(position);
+            while (vtkActor* const actor = m_back->GetActors()->GetNextActor(position))
+                if (actor->GetVisibility())
+                    visible.push_back(actor);
+            return visible;
+        };
+        const std::vector<vtkActor*> before = visibleActors();
+        m_scene->setStandIn(true);
+        QCOMPARE(visibleActors().size(), std::size_t {1});
+        auto* const cloud = vtkPolyData::SafeDownCast(
+            visibleActors().front()->GetMapper()->GetInputDataObject(0, 0));
+        QVERIFY(cloud->GetNumberOfVerts() >= 12 * 8);
+        double range[2]; // of what is red in the colours of the map
+        cloud->GetPointData()->GetScalars()->GetRange(range, 0);
+        QVERIFY(range[1] - range[0] > 100);
+        m_scene->setStandIn(false);
+        QVERIFY(visibleActors() == before);
+    }
+
+    void cancelledWork()
+    {
+        write("FieldMap/Mesh/LinePattern", "all", 1);
+        while (m_scene->progress().first < 16)
+            m_scene->advance(0);
+        m_scene->cancel();
+        QVERIFY(!m_scene->hasWork());
+        const std::int64_t built = counters(FieldLayer::Mesh).built;
+        QVERIFY(built < 24);
+        QVERIFY(!m_scene->notice().isEmpty());
+        m_scene->resume();
+        work();
+        QCOMPARE(counters(FieldLayer::Mesh).built, 24);
+        QVERIFY(m_scene->notice().isEmpty());
+    }
+
+    void largestScene()
+    {
+        makeScene("field2d", 20, 15);
+        QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 15);
+        QVERIFY2(m_scene->notice().contains("15") && m_scene->notice().contains("20"),
+                 qPrintable(m_scene->notice()));
+        activate("1-6", false);
+        work();
+        QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 14);
+        QVERIFY(layer(FieldLayer::Mesh).geometry(20));
+        QVERIFY(m_scene->notice().isEmpty());
+    }
+
+    void picks()
+    {
+        for (const CvlInt64 zone : {1, 6, 12}) {
+            const auto [x, y] = centreOf(zone);
+            QCOMPARE(zoneBelow(x, y), zone); // between the lines, too
+        }
+        QCOMPARE(zoneBelow(1000.0, 0.0), 0);
+        const auto [x, y] = centreOf(6);
+        activate("6", false);
+        work();
+        QCOMPARE(zoneBelow(x, y), 0);
+
+        // The nearer of two zones is hit, and one that shows its faces before one that shows its
+        // edges.
+        makeScene("field3d");
+        const auto [bx, by] = centreOf(1);
+        QCOMPARE(zoneBelow(bx, by), 1);
+        makeScene("kinds");
+        const auto [lx, ly] = centreOf(5); // a line of points
+        QCOMPARE(m_scene->zoneAt({{lx, ly, 100.0}, {lx, ly, -100.0}, 0.01}), 5);
+    }
+
+private:
+    void makeScene(const char* demo, std::int64_t scale = 0,
+                   CvlInt64 largest = FieldScene::kLargestScene)
+    {
+        m_connection.disconnect();
+        openDemo(demo, scale);
+        m_scene = std::make_unique<FieldScene>(*m_back, *m_front, std::make_shared<SurfaceCache>(),
+                                               largest);
+        m_scene->setFrame(document().activeFrameId());
+        m_connection = document().events().connect(
+            [this](const host::StateEvent& event) { m_scene->apply(event); });
+        work();
+    }
+
+    const CompositeLayer& layer(FieldLayer layer) { return m_scene->layer(layer); }
+    CompositeLayer::Counters counters(FieldLayer layer) { return m_scene->layer(layer).counters(); }
+    void work()
+    {
+        m_scene->advance(-1);
+        m_scene->prepare({800, 10.0, 1.0});
+    }
+
+    CvlInt64 zoneBelow(double x, double y)
+    {
+        return m_scene->zoneAt({{x, y, 1000.0}, {x, y, -1000.0}, 0.01});
+    }
+
+    vtkNew<vtkRenderer> m_back;
+    vtkNew<vtkRenderer> m_front;
+    std::unique_ptr<FieldScene> m_scene;
+    boost::signals2::scoped_connection m_connection;
+};
 
 QTEST_GUILESS_MAIN(tst_FieldScene)
+
 #include "tst_field_scene.moc"

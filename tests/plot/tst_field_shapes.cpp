@@ -5,6 +5,7 @@
 #include "plot/field/geometry/surface_values.h"
 #include "plot/field/geometry/zone_edges.h"
 #include "plot_document.h"
+#include "tests/support/rows.h"
 
 #include <vtkCell.h>
 #include <vtkCellArray.h>
@@ -16,26 +17,6 @@
 using namespace corvala;
 using namespace corvala::plot;
 using namespace corvala::tests;
-
-class tst_FieldShapes : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void volumeSurfaces_data();
-    void volumeSurfaces();
-    void otherKinds_data();
-    void otherKinds();
-    void planesAndBlankedCells();
-    void valuesFollowTheirPoints();
-    void valuesOfCells();
-    void meshLinesAreUnique_data();
-    void meshLinesAreUnique();
-    void patternsRunOnAcrossCells();
-    void edges_data();
-    void edges();
-    void cacheKeepsWhatIsHeld();
-};
 
 static const host::DataSet& data()
 {
@@ -82,125 +63,6 @@ private:
     vtkNew<vtkStructuredGrid> m_grid;
 };
 
-void tst_FieldShapes::volumeSurfaces_data()
-{
-    QTest::addColumn<int>("zone");
-    QTest::addColumn<int>("surfaces");
-    QTest::addColumn<int>("faces");
-    // Zone 1 of the kinds is ordered, 7 by 5 by 4 points: 6, 4 and 3 cells along the axes.
-    QTest::newRow("boundary") << 1 << 0 << 2 * (4 * 3 + 6 * 3 + 6 * 4);
-    QTest::newRow("exposed") << 1 << 1 << 2 * (4 * 3 + 6 * 3 + 6 * 4);
-    QTest::newRow("I planes") << 1 << 2 << 7 * 4 * 3;
-    QTest::newRow("J planes") << 1 << 3 << 5 * 6 * 3;
-    QTest::newRow("K planes") << 1 << 4 << 4 * 6 * 4;
-    QTest::newRow("IJ planes") << 1 << 5 << 7 * 4 * 3 + 5 * 6 * 3;
-    QTest::newRow("JK planes") << 1 << 6 << 5 * 6 * 3 + 4 * 6 * 4;
-    QTest::newRow("IK planes") << 1 << 7 << 7 * 4 * 3 + 4 * 6 * 4;
-    QTest::newRow("IJK planes") << 1 << 8 << 7 * 4 * 3 + 5 * 6 * 3 + 4 * 6 * 4;
-    QTest::newRow("all") << 1 << 9 << 7 * 4 * 3 + 5 * 6 * 3 + 4 * 6 * 4;
-    QTest::newRow("none") << 1 << 10 << 0;
-    QTest::newRow("cells without planes") << 7 << 3 << 0;
-    QTest::newRow("cells, none") << 7 << 10 << 0;
-}
-
-void tst_FieldShapes::volumeSurfaces()
-{
-    QFETCH(int, zone);
-    QFETCH(int, surfaces);
-    QFETCH(int, faces);
-    openDemo("kinds");
-    const ZoneSurface surface = surfaceOf(zone, choiceOf(surfaces));
-    QCOMPARE(static_cast<int>(surface.shape->GetNumberOfPolys()), faces);
-    QCOMPARE(surface.cellIds.size(), static_cast<std::size_t>(faces));
-}
-
-void tst_FieldShapes::otherKinds_data()
-{
-    QTest::addColumn<int>("zone");
-    QTest::addColumn<int>("cellSize"); // points of each face or line
-    QTest::addColumn<bool>("lines");
-    QTest::newRow("ordered sheet") << 2 << 4 << false;
-    QTest::newRow("triangles") << 3 << 3 << false;
-    QTest::newRow("tetrahedra") << 4 << 3 << false;
-    QTest::newRow("ordered line") << 5 << 2 << true;
-    QTest::newRow("hexahedra") << 7 << 4 << false;
-}
-
-void tst_FieldShapes::otherKinds()
-{
-    QFETCH(int, zone);
-    QFETCH(int, cellSize);
-    QFETCH(bool, lines);
-    openDemo("kinds");
-    const ZoneSurface surface = surfaceOf(zone);
-    vtkCellArray* const cells = lines ? surface.shape->GetLines() : surface.shape->GetPolys();
-    QVERIFY(cells->GetNumberOfCells() > 0);
-    QCOMPARE(cells->GetNumberOfCells(), surface.shape->GetNumberOfCells());
-    QCOMPARE(cells->GetMaxCellSize(), cellSize);
-}
-
-void tst_FieldShapes::planesAndBlankedCells()
-{
-    Box box(5, 4, 4);
-    const IndexRange everySecond {2, 0, 2};
-    ZoneSurface planes = extractSurface(box.grid(), box.info, choiceOf(2, everySecond));
-    QCOMPARE(planes.shape->GetNumberOfPolys(), 2 * 9); // planes 2 and 4 of 5
-    QCOMPARE(planes.shape->GetBounds()[0], 1.0);
-    QCOMPARE(planes.shape->GetBounds()[1], 3.0);
-
-    // A cell in the middle is blanked: its six faces are exposed, but no boundary.
-    box.grid().BlankCell(1 + 4 * (1 + 3 * 1));
-    const auto boundary = extractSurface(box.grid(), box.info, choiceOf(0)).shape;
-    const auto exposed = extractSurface(box.grid(), box.info, choiceOf(1)).shape;
-    QCOMPARE(exposed->GetNumberOfPolys() - boundary->GetNumberOfPolys(), 6);
-    // A blanked cell at a corner opens three faces and closes three.
-    box.grid().BlankCell(0);
-    const auto opened = extractSurface(box.grid(), box.info, choiceOf(1)).shape;
-    QCOMPARE(opened->GetNumberOfPolys(), exposed->GetNumberOfPolys());
-}
-
-void tst_FieldShapes::valuesFollowTheirPoints()
-{
-    openDemo("kinds");
-    for (const CvlInt64 zone : {1, 3, 4, 7, 8}) {
-        const ZoneSurface surface = surfaceOf(zone);
-        for (const int axis : {0, 1, 2}) {
-            const auto values = pointValues(data(), zone, axis + 1, surface); // X, Y, Z
-            QVERIFY(values);
-            QCOMPARE(values->GetNumberOfTuples(), surface.shape->GetNumberOfPoints());
-            for (vtkIdType i = 0; i < values->GetNumberOfTuples(); ++i)
-                QCOMPARE(values->GetValue(i), surface.shape->GetPoint(i)[axis]);
-        }
-    }
-    QVERIFY(!pointValues(data(), 1, 99, surfaceOf(1)));
-}
-
-void tst_FieldShapes::valuesOfCells()
-{
-    openDemo("kinds");
-    const ZoneSurface surface = surfaceOf(2);
-    const auto average = cellValues(data(), 2, 1, surface, CellValue::Average);
-    const auto primary = cellValues(data(), 2, 1, surface, CellValue::Primary);
-    for (vtkIdType cell = 0; cell < surface.shape->GetNumberOfCells(); ++cell) {
-        vtkCell* const face = surface.shape->GetCell(cell);
-        double sum = 0.0;
-        for (vtkIdType i = 0; i < face->GetNumberOfPoints(); ++i)
-            sum += face->GetPoints()->GetPoint(i)[0];
-        QCOMPARE(average->GetValue(cell), sum / 4);
-        QCOMPARE(primary->GetValue(cell), face->GetPoints()->GetPoint(0)[0]);
-    }
-}
-
-void tst_FieldShapes::meshLinesAreUnique_data()
-{
-    QTest::addColumn<QVector<QVector<int>>>("faces");
-    QTest::addColumn<int>("lines");
-    QTest::newRow("one triangle") << QVector<QVector<int>> {{0, 1, 2}} << 3;
-    QTest::newRow("a shared edge") << QVector<QVector<int>> {{0, 1, 2}, {1, 2, 3}} << 5;
-    QTest::newRow("shared the other way") << QVector<QVector<int>> {{0, 1, 2}, {2, 1, 3}} << 5;
-    QTest::newRow("the same face twice") << QVector<QVector<int>> {{0, 1, 2}, {2, 0, 1}} << 3;
-}
-
 static vtkSmartPointer<vtkPolyData> facesOf(const QVector<QVector<int>>& faces, int points)
 {
     auto shape = vtkSmartPointer<vtkPolyData>::New();
@@ -218,89 +80,199 @@ static vtkSmartPointer<vtkPolyData> facesOf(const QVector<QVector<int>>& faces, 
     return shape;
 }
 
-void tst_FieldShapes::meshLinesAreUnique()
+class tst_FieldShapes : public QObject
 {
-    QFETCH(QVector<QVector<int>>, faces);
-    QFETCH(int, lines);
-    QCOMPARE(static_cast<int>(meshLines(*facesOf(faces, 4))->GetNumberOfLines()), lines);
-}
+    Q_OBJECT
 
-void tst_FieldShapes::patternsRunOnAcrossCells()
-{
-    Box box(5, 4, 1);
-    box.info.cellDimension = 2;
-    const auto surface = extractSurface(box.grid(), box.info, {});
-    const auto lines = withArcLength(*meshLines(*surface.shape));
-    // One chain for each row and column, each from 0 to its length.
-    QCOMPARE(lines->GetNumberOfLines(), 5 + 4);
-    vtkDataArray* const arcLengths = lines->GetPointData()->GetTCoords();
-    double total = 0.0;
-    for (vtkIdType line = 0; line < lines->GetNumberOfLines(); ++line) {
-        vtkIdList* const points = lines->GetCell(line)->GetPointIds();
-        QCOMPARE(arcLengths->GetComponent(points->GetId(0), 0), 0.0);
-        total += arcLengths->GetComponent(points->GetId(points->GetNumberOfIds() - 1), 0);
+private Q_SLOTS:
+    void volumeSurfaces_data()
+    {
+        const Rows<int, int, int> row;
+        // Zone 1 of the kinds is ordered, 7 by 5 by 4 points: 6, 4 and 3 cells along the axes.
+        row("boundary", 1, 0, 2 * (4 * 3 + 6 * 3 + 6 * 4));
+        row("exposed", 1, 1, 2 * (4 * 3 + 6 * 3 + 6 * 4));
+        row("I planes", 1, 2, 7 * 4 * 3);
+        row("J planes", 1, 3, 5 * 6 * 3);
+        row("K planes", 1, 4, 4 * 6 * 4);
+        row("IJ planes", 1, 5, 7 * 4 * 3 + 5 * 6 * 3);
+        row("JK planes", 1, 6, 5 * 6 * 3 + 4 * 6 * 4);
+        row("IK planes", 1, 7, 7 * 4 * 3 + 4 * 6 * 4);
+        row("IJK planes", 1, 8, 7 * 4 * 3 + 5 * 6 * 3 + 4 * 6 * 4);
+        row("all", 1, 9, 7 * 4 * 3 + 5 * 6 * 3 + 4 * 6 * 4);
+        row("none", 1, 10, 0);
+        row("cells without planes", 7, 3, 0);
+        row("cells, none", 7, 10, 0);
     }
-    QCOMPARE(total, 5.0 * 3 + 4.0 * 4);
-}
 
-void tst_FieldShapes::edges_data()
-{
-    QTest::addColumn<int>("zone");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("iBorder");
-    QTest::addColumn<int>("lines");
-    QTest::newRow("box, all borders") << 1 << 2 << 3 << 4 * (6 + 4 + 3);
-    QTest::newRow("box, no creases of its own") << 1 << 1 << 3 << 0;
-    QTest::newRow("box without I borders") << 1 << 0 << 0 << 4 * 6;
-    QTest::newRow("box, I borders at the beginning") << 1 << 0 << 1 << 4 * 6 + 2 * 4 + 2 * 3;
-    QTest::newRow("hexahedra have creases only") << 7 << 0 << 3 << 0;
-    QTest::newRow("line") << 5 << 2 << 3 << 0;
-}
+    void volumeSurfaces()
+    {
+        const auto [zone, surfaces, faces] = currentRow<int, int, int>();
+        openDemo("kinds");
+        const ZoneSurface surface = surfaceOf(zone, choiceOf(surfaces));
+        QCOMPARE(static_cast<int>(surface.shape->GetNumberOfPolys()), faces);
+        QCOMPARE(surface.cellIds.size(), static_cast<std::size_t>(faces));
+    }
 
-void tst_FieldShapes::edges()
-{
-    QFETCH(int, zone);
-    QFETCH(int, type);
-    QFETCH(int, iBorder);
-    QFETCH(int, lines);
-    openDemo("kinds");
-    EdgeChoice choice;
-    choice.type = static_cast<EdgeType_e>(type);
-    choice.borders[0] = static_cast<BorderLocation_e>(iBorder);
-    const auto geometry = data().geometry(zone);
-    const auto found = zoneEdges(*geometry, data().zone(zone), surfaceOf(zone), choice);
-    QCOMPARE(static_cast<int>(found->GetNumberOfLines()), lines);
+    void otherKinds_data()
+    {
+        const Rows<int, int, bool> row;
+        row("ordered sheet", 2, 4, false);
+        row("triangles", 3, 3, false);
+        row("tetrahedra", 4, 3, false);
+        row("ordered line", 5, 2, true);
+        row("hexahedra", 7, 4, false);
+    }
 
-    // Whichever way its faces go round, a flat sheet of cells has a rim and no creases.
-    host::ZoneInfo sheet;
-    sheet.cellDimension = 2;
-    ZoneSurface faces;
-    faces.shape = facesOf({{0, 1, 3, 2}, {2, 3, 5, 4}, {4, 6, 7, 5}}, 8);
-    choice.type = EdgeType_BordersAndCreases;
-    QCOMPARE(zoneEdges(*faces.shape, sheet, faces, choice)->GetNumberOfLines(), 8);
-    faces.shape->GetPoints()->SetPoint(6, 0, 2, 1);
-    faces.shape->GetPoints()->SetPoint(7, 1, 2, 1);
-    QCOMPARE(zoneEdges(*faces.shape, sheet, faces, choice)->GetNumberOfLines(), 9);
-}
+    void otherKinds()
+    {
+        const auto [zone, cellSize, lines] = currentRow<int, int, bool>();
+        openDemo("kinds");
+        const ZoneSurface surface = surfaceOf(zone);
+        vtkCellArray* const cells = lines ? surface.shape->GetLines() : surface.shape->GetPolys();
+        QVERIFY(cells->GetNumberOfCells() > 0);
+        QCOMPARE(cells->GetNumberOfCells(), surface.shape->GetNumberOfCells());
+        QCOMPARE(cells->GetMaxCellSize(), cellSize);
+    }
 
-void tst_FieldShapes::cacheKeepsWhatIsHeld()
-{
-    openDemo("kinds");
-    SurfaceCache cache(1); // holds nothing for its own sake
-    const auto held = cache.surface(data(), 1, choiceOf(0));
-    cache.surface(data(), 2, {});
-    cache.surface(data(), 3, {});
-    QCOMPARE(cache.surface(data(), 1, choiceOf(0)), held);
-    QCOMPARE(cache.extractionCount(), 3);
-    cache.surface(data(), 2, {});
-    QCOMPARE(cache.extractionCount(), 4);
-    QVERIFY(!cache.surface(data(), 6, {})); // a zone without points
+    void planesAndBlankedCells()
+    {
+        Box box(5, 4, 4);
+        const IndexRange everySecond {2, 0, 2};
+        ZoneSurface planes = extractSurface(box.grid(), box.info, choiceOf(2, everySecond));
+        QCOMPARE(planes.shape->GetNumberOfPolys(), 2 * 9); // planes 2 and 4 of 5
+        QCOMPARE(planes.shape->GetBounds()[0], 1.0);
+        QCOMPARE(planes.shape->GetBounds()[1], 3.0);
 
-    SurfaceCache roomy;
-    roomy.surface(data(), 3, choiceOf(9));
-    roomy.surface(data(), 3, choiceOf(10)); // no volume: the choice makes no difference
-    QCOMPARE(roomy.extractionCount(), 1);
-}
+        // A cell in the middle is blanked: its six faces are exposed, but no boundary.
+        box.grid().BlankCell(1 + 4 * (1 + 3 * 1));
+        const auto boundary = extractSurface(box.grid(), box.info, choiceOf(0)).shape;
+        const auto exposed = extractSurface(box.grid(), box.info, choiceOf(1)).shape;
+        QCOMPARE(exposed->GetNumberOfPolys() - boundary->GetNumberOfPolys(), 6);
+        // A blanked cell at a corner opens three faces and closes three.
+        box.grid().BlankCell(0);
+        const auto opened = extractSurface(box.grid(), box.info, choiceOf(1)).shape;
+        QCOMPARE(opened->GetNumberOfPolys(), exposed->GetNumberOfPolys());
+    }
+
+    void valuesFollowTheirPoints()
+    {
+        openDemo("kinds");
+        for (const CvlInt64 zone : {1, 3, 4, 7, 8}) {
+            const ZoneSurface surface = surfaceOf(zone);
+            for (const int axis : {0, 1, 2}) {
+                const auto values = pointValues(data(), zone, axis + 1, surface); // X, Y, Z
+                QVERIFY(values);
+                QCOMPARE(values->GetNumberOfTuples(), surface.shape->GetNumberOfPoints());
+                for (vtkIdType i = 0; i < values->GetNumberOfTuples(); ++i)
+                    QCOMPARE(values->GetValue(i), surface.shape->GetPoint(i)[axis]);
+            }
+        }
+        QVERIFY(!pointValues(data(), 1, 99, surfaceOf(1)));
+    }
+
+    void valuesOfCells()
+    {
+        openDemo("kinds");
+        const ZoneSurface surface = surfaceOf(2);
+        const auto average = cellValues(data(), 2, 1, surface, CellValue::Average);
+        const auto primary = cellValues(data(), 2, 1, surface, CellValue::Primary);
+        for (vtkIdType cell = 0; cell < surface.shape->GetNumberOfCells(); ++cell) {
+            vtkCell* const face = surface.shape->GetCell(cell);
+            double sum = 0.0;
+            for (vtkIdType i = 0; i < face->GetNumberOfPoints(); ++i)
+                sum += face->GetPoints()->GetPoint(i)[0];
+            QCOMPARE(average->GetValue(cell), sum / 4);
+            QCOMPARE(primary->GetValue(cell), face->GetPoints()->GetPoint(0)[0]);
+        }
+    }
+
+    void meshLinesAreUnique_data()
+    {
+        const Rows<QVector<QVector<int>>, int> row;
+        row("one triangle", QVector<QVector<int>> {{0, 1, 2}}, 3);
+        row("a shared edge", QVector<QVector<int>> {{0, 1, 2}, {1, 2, 3}}, 5);
+        row("shared the other way", QVector<QVector<int>> {{0, 1, 2}, {2, 1, 3}}, 5);
+        row("the same face twice", QVector<QVector<int>> {{0, 1, 2}, {2, 0, 1}}, 3);
+    }
+
+    void meshLinesAreUnique()
+    {
+        const auto [faces, lines] = currentRow<QVector<QVector<int>>, int>();
+        QCOMPARE(static_cast<int>(meshLines(*facesOf(faces, 4))->GetNumberOfLines()), lines);
+    }
+
+    void patternsRunOnAcrossCells()
+    {
+        Box box(5, 4, 1);
+        box.info.cellDimension = 2;
+        const auto surface = extractSurface(box.grid(), box.info, {});
+        const auto lines = withArcLength(*meshLines(*surface.shape));
+        // One chain for each row and column, each from 0 to its length.
+        QCOMPARE(lines->GetNumberOfLines(), 5 + 4);
+        vtkDataArray* const arcLengths = lines->GetPointData()->GetTCoords();
+        double total = 0.0;
+        for (vtkIdType line = 0; line < lines->GetNumberOfLines(); ++line) {
+            vtkIdList* const points = lines->GetCell(line)->GetPointIds();
+            QCOMPARE(arcLengths->GetComponent(points->GetId(0), 0), 0.0);
+            total += arcLengths->GetComponent(points->GetId(points->GetNumberOfIds() - 1), 0);
+        }
+        QCOMPARE(total, 5.0 * 3 + 4.0 * 4);
+    }
+
+    void edges_data()
+    {
+        const Rows<int, int, int, int> row;
+        row("box, all borders", 1, 2, 3, 4 * (6 + 4 + 3));
+        row("box, no creases of its own", 1, 1, 3, 0);
+        row("box without I borders", 1, 0, 0, 4 * 6);
+        row("box, I borders at the beginning", 1, 0, 1, 4 * 6 + 2 * 4 + 2 * 3);
+        row("hexahedra have creases only", 7, 0, 3, 0);
+        row("line", 5, 2, 3, 0);
+    }
+
+    void edges()
+    {
+        const auto [zone, type, iBorder, lines] = currentRow<int, int, int, int>();
+        openDemo("kinds");
+        EdgeChoice choice;
+        choice.type = static_cast<EdgeType_e>(type);
+        choice.borders[0] = static_cast<BorderLocation_e>(iBorder);
+        const auto geometry = data().geometry(zone);
+        const auto found = zoneEdges(*geometry, data().zone(zone), surfaceOf(zone), choice);
+        QCOMPARE(static_cast<int>(found->GetNumberOfLines()), lines);
+
+        // Whichever way its faces go round, a flat sheet of cells has a rim and no creases.
+        host::ZoneInfo sheet;
+        sheet.cellDimension = 2;
+        ZoneSurface faces;
+        faces.shape = facesOf({{0, 1, 3, 2}, {2, 3, 5, 4}, {4, 6, 7, 5}}, 8);
+        choice.type = EdgeType_BordersAndCreases;
+        QCOMPARE(zoneEdges(*faces.shape, sheet, faces, choice)->GetNumberOfLines(), 8);
+        faces.shape->GetPoints()->SetPoint(6, 0, 2, 1);
+        faces.shape->GetPoints()->SetPoint(7, 1, 2, 1);
+        QCOMPARE(zoneEdges(*faces.shape, sheet, faces, choice)->GetNumberOfLines(), 9);
+    }
+
+    void cacheKeepsWhatIsHeld()
+    {
+        openDemo("kinds");
+        SurfaceCache cache(1); // holds nothing for its own sake
+        const auto held = cache.surface(data(), 1, choiceOf(0));
+        cache.surface(data(), 2, {});
+        cache.surface(data(), 3, {});
+        QCOMPARE(cache.surface(data(), 1, choiceOf(0)), held);
+        QCOMPARE(cache.extractionCount(), 3);
+        cache.surface(data(), 2, {});
+        QCOMPARE(cache.extractionCount(), 4);
+        QVERIFY(!cache.surface(data(), 6, {})); // a zone without points
+
+        SurfaceCache roomy;
+        roomy.surface(data(), 3, choiceOf(9));
+        roomy.surface(data(), 3, choiceOf(10)); // no volume: the choice makes no difference
+        QCOMPARE(roomy.extractionCount(), 1);
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_FieldShapes)
+
 #include "tst_field_shapes.moc"

@@ -4,6 +4,7 @@
 #include "plot/line/line_canvas.h"
 #include "plot/render.h"
 #include "plot_document.h"
+#include "tests/support/rows.h"
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -18,27 +19,6 @@
 using namespace corvala;
 using namespace corvala::plot;
 using namespace corvala::tests;
-
-class tst_LineCanvas : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void curvesOfActiveMaps();
-    void pens_data();
-    void pens();
-    void editsTouchWhatTheyName();
-    void zonesWithoutTheVariable();
-    void polarLines();
-    void titles();
-    void axesInUse();
-    void clickPicksALine();
-    void viewsAreKept();
-    void badPictures();
-    void largestPlot();
-    void longWorkIsReported();
-    void viewChoosesTheCanvas();
-};
 
 static constexpr QSize kSize {600, 500};
 
@@ -73,276 +53,6 @@ struct ShownCanvas
     FrameView view;
 };
 
-void tst_LineCanvas::curvesOfActiveMaps()
-{
-    openDemo("xy");
-    ShownCanvas shown;
-    QCOMPARE(shown.lineCount(), 6);
-    QCOMPARE(shown.line(1).points.size(), std::size_t(101));
-    write("LineMap/Lines/Show", "2", 0);
-    shown.settle();
-    QCOMPARE(shown.lineCount(), 5);
-    write("LinePlotLayers/ShowLines", "", 0);
-    shown.settle();
-    QVERIFY(!shown.scene().chart().areLinesVisible());
-    document().undo().undo();
-    document().undo().undo();
-    shown.settle();
-    QCOMPARE(shown.lineCount(), 6);
-    document().execute(host::DeleteMaps {mapsOf("1-4")});
-    shown.settle();
-    QCOMPARE(shown.lineCount(), 2);
-    document().clear();
-    shown.settle();
-    QCOMPARE(shown.lineCount(), 0);
-}
-
-void tst_LineCanvas::pens_data()
-{
-    QTest::addColumn<double>("thickness");
-    QTest::addColumn<int>("pattern");
-    QTest::addColumn<double>("length");
-    QTest::addColumn<double>("width");
-    QTest::addColumn<int>("dashes");
-    QTest::newRow("thin lines have a pixel") << 0.01 << 0 << 2.0 << 1.0 << 0;
-    QTest::newRow("percent of the height") << 1.0 << 0 << 2.0 << 5.0 << 0;
-    QTest::newRow("dashed") << 0.4 << 1 << 4.0 << 2.0 << 2;
-    QTest::newRow("dash dot dot") << 0.4 << 5 << 4.0 << 2.0 << 6;
-}
-
-void tst_LineCanvas::pens()
-{
-    QFETCH(double, thickness);
-    QFETCH(int, pattern);
-    QFETCH(double, length);
-    QFETCH(double, width);
-    QFETCH(int, dashes);
-    openDemo("xy");
-    write("LineMap/Lines/Color", "1", 4);
-    write("LineMap/Lines/LineThickness", "1", thickness);
-    write("LineMap/Lines/LinePattern", "1", pattern);
-    write("LineMap/Lines/PatternLength", "1", length);
-    ShownCanvas shown;
-    const LineStroke look = shown.line(1).stroke;
-    const host::Rgb color = document().color(4);
-    QCOMPARE(look.color, QColor(color.red, color.green, color.blue));
-    QCOMPARE(look.width, width);
-    QCOMPARE(look.pattern.size(), std::size_t(dashes));
-    const double period = std::accumulate(look.pattern.begin(), look.pattern.end(), 0.0);
-    QCOMPARE(period, dashes > 0 ? length / 100 * kSize.height() : 0.0);
-}
-
-void tst_LineCanvas::editsTouchWhatTheyName()
-{
-    openDemo("xy", 50);
-    ShownCanvas shown;
-    const std::int64_t before = shown.scene().syncCount();
-    const int redraws = shown.view.redrawCount();
-    write("LineMap/Lines/Color", "3,7", 9);
-    write("LineMap/Lines/LineThickness", "7", 1);
-    shown.settle();
-    QCOMPARE(shown.scene().syncCount() - before, 2);
-    QCOMPARE(shown.view.redrawCount(), redraws + 1);
-    write("LineMap/Curves/NumPts", "all", 100); // not drawn
-    write("FieldMap/Mesh/Color", "1", 3);
-    shown.settle();
-    QCOMPARE(shown.view.redrawCount(), redraws + 1);
-    write("LineMap/Assign/YAxisVar", "3", 5);
-    shown.settle();
-    QCOMPARE(shown.scene().syncCount() - before, 3);
-    QVERIFY(shown.line(3).points.y(50) != shown.line(9).points.y(50));
-}
-
-void tst_LineCanvas::zonesWithoutTheVariable()
-{
-    openDemo("field2d");
-    document().execute(host::CreateLineMaps {2});
-    write("PlotType", "", PlotType_LineXY);
-    ShownCanvas shown;
-    QCOMPARE(shown.lineCount(), 2);
-    QVERIFY(!shown.view.render(kSize, nullptr).isNull());
-    document().execute(host::DetachData {});
-    shown.settle();
-    QCOMPARE(shown.lineCount(), 0);
-}
-
-void tst_LineCanvas::polarLines()
-{
-    openDemo("polar");
-    write("LineMap/Lines/Color", "all", 2);
-    write("LineMap/Lines/LineThickness", "all", 1);
-    const host::Rgb color = document().color(2);
-    const QImage image = renderToImage(document().activeFrameId(), kSize, nullptr);
-    const double share = shareOfColor(image, QColor(color.red, color.green, color.blue));
-    QVERIFY2(share > 0.005, QByteArray::number(share));
-    write("LineMap/Lines/Show", "all", 0);
-    const QImage empty = renderToImage(document().activeFrameId(), kSize, nullptr);
-    QVERIFY(shareOfColor(empty, QColor(color.red, color.green, color.blue)) < share / 5);
-
-    // From one kind of axes to the other and back.
-    ShownCanvas shown;
-    QVERIFY(shown.scene().isPolar());
-    write("PlotType", "", PlotType_LineXY);
-    shown.settle();
-    QVERIFY(!shown.scene().isPolar());
-    QCOMPARE(shown.lineCount(), 0);
-    document().undo().undo();
-    document().undo().undo();
-    shown.settle();
-    QVERIFY(shown.scene().isPolar());
-}
-
-void tst_LineCanvas::titles()
-{
-    openDemo("xy");
-    ShownCanvas shown;
-    const auto title = [&](QCPAxis::AxisType side) {
-        return shown.plot().axisRect()->axis(side)->label();
-    };
-    QCOMPARE(title(QCPAxis::atBottom), QStringLiteral("Time"));
-    QCOMPARE(title(QCPAxis::atLeft), QStringLiteral("Force, Moment, Power"));
-    document().execute(host::RenameVariable {2, "Kraft"});
-    write("LineMap/Lines/Show", "2-6", 0);
-    shown.settle();
-    QCOMPARE(title(QCPAxis::atLeft), QStringLiteral("Kraft"));
-}
-
-void tst_LineCanvas::axesInUse()
-{
-    openDemo("xy");
-    ShownCanvas shown;
-    QCPAxisRect& box = *shown.plot().axisRect();
-    const auto visible = [&](QCPAxis::AxisType side) {
-        QList<QCPAxis*> axes = box.axes(side);
-        axes.erase(std::remove_if(axes.begin(), axes.end(),
-                                  [](const QCPAxis* axis) { return !axis->visible(); }),
-                   axes.end());
-        return axes;
-    };
-    const QCPRange before = box.axis(QCPAxis::atLeft)->range();
-    write("LineMap/Assign/YAxis", "1,4", 2);
-    write("LineMap/Assign/YAxis", "2", 3);
-    write("LineMap/Assign/XAxis", "2", 4);
-    write("LineMap/Assign/YAxisVar", "1,4", 6); // angles
-    shown.settle();
-    QCOMPARE(visible(QCPAxis::atLeft).size(), 2);
-    QCOMPARE(visible(QCPAxis::atBottom).size(), 1);
-    QCOMPARE(visible(QCPAxis::atRight).size(), 1);
-    QCOMPARE(visible(QCPAxis::atTop).size(), 1);
-    const QCPAxis& second = *visible(QCPAxis::atRight)[0];
-    QCOMPARE(second.label(), QStringLiteral("Angle"));
-    QVERIFY(second.range().upper > 300.0 && before.upper < 10.0);
-    QVERIFY(box.axis(QCPAxis::atLeft)->range().upper < 10.0);
-    const Polyline& points = shown.line(1).points;
-    const QPoint place(static_cast<int>(box.axis(QCPAxis::atBottom)->coordToPixel(points.x(70))),
-                       static_cast<int>(second.coordToPixel(points.y(70))));
-    QSignalSpy picked(&shown.view, &FrameView::lineMapPicked);
-    QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, place);
-    QCOMPARE(picked.last()[0].value<CvlInt64>(), 1);
-
-    // Moved, they stay where they are, also while another plot type is shown.
-    turnWheel(shown.plot(), shown.plot().rect().center());
-    shown.settle();
-    const QCPRange moved = second.range();
-    QVERIFY(moved.upper < 340.0);
-    for (const int plotType : {PlotType_Field2D, PlotType_LineXY}) {
-        write("PlotType", "", plotType);
-        shown.settle();
-    }
-    QCOMPARE(shown.plot().axisRect()->axes(QCPAxis::atRight)[1]->range(), moved);
-    write("LineMap/Assign/YAxis", "1,4", 1);
-    shown.settle();
-    QVERIFY(!shown.plot().axisRect()->axes(QCPAxis::atRight)[1]->visible());
-}
-
-void tst_LineCanvas::clickPicksALine()
-{
-    openDemo("xy");
-    write("LineMap/Lines/Show", "2-6", 0);
-    ShownCanvas shown;
-    QSignalSpy picked(&shown.view, &FrameView::lineMapPicked);
-    const QCPAxisRect& axes = *shown.plot().axisRect();
-    const QPoint place =
-        QPointF(axes.axis(QCPAxis::atBottom)->coordToPixel(shown.line(1).points.x(30)),
-                axes.axis(QCPAxis::atLeft)->coordToPixel(shown.line(1).points.y(30)))
-            .toPoint();
-    QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, place);
-    QCOMPARE(picked.size(), 1);
-    QCOMPARE(picked[0][0].value<CvlInt64>(), 1);
-    QTest::mouseDClick(&shown.plot(), Qt::LeftButton, {}, place);
-    QTest::mouseRelease(&shown.plot(), Qt::LeftButton, {}, place);
-    QCOMPARE(picked.last()[1].toBool(), true);
-    QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, {3, 3});
-    QCOMPARE(picked.last()[0].value<CvlInt64>(), 0);
-
-    // In a polar plot, also after another radius has come to its middle.
-    std::string error;
-    QVERIFY(samples::openDemo("polar", 0, error));
-    shown.settle();
-    turnWheel(shown.plot(), shown.plot().rect().center() + QPoint(100, 0));
-    shown.settle();
-    const auto* angle =
-        qobject_cast<QCPPolarAxisAngular*>(shown.plot().plotLayout()->element(0, 0));
-    QVERIFY(angle && angle->radialAxis()->range().lower > 0.1);
-    const auto value = [](CvlInt64 variable) {
-        return document().activeFrame()->data()->values(1, variable).array->GetComponent(30, 0);
-    };
-    const QPointF point = angle->radialAxis()->coordToPixel(value(6), value(7));
-    QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, point.toPoint());
-    QCOMPARE(picked.last()[0].value<CvlInt64>(), 1);
-}
-
-void tst_LineCanvas::viewsAreKept()
-{
-    openDemo("xy");
-    ShownCanvas shown;
-    const auto across = [&] { return shown.plot().axisRect()->axis(QCPAxis::atBottom)->range(); };
-    const QCPRange fitted = across();
-    turnWheel(shown.plot(), shown.plot().rect().center());
-    shown.settle();
-    const QCPRange moved = across();
-    QVERIFY(moved.size() < 0.9 * fitted.size());
-
-    // Whatever changes in the frame, and while another plot type is shown.
-    write("LinePlotLayers/ShowLines", "", 0);
-    write("LinePlotLayers/ShowSymbols", "", 1);
-    write("LinePlotLayers/ShowLines", "", 1);
-    document().execute(host::CreateLineMaps {1});
-    shown.settle();
-    QCOMPARE(across(), moved);
-    for (const int plotType : {PlotType_LinePolar, PlotType_Field2D, PlotType_LineXY}) {
-        write("PlotType", "", plotType);
-        shown.settle();
-    }
-    QCOMPARE(across(), moved);
-    std::string error;
-    QVERIFY(samples::openDemo("xy", 0, error));
-    shown.settle();
-    QCOMPARE(across(), fitted);
-}
-
-void tst_LineCanvas::badPictures()
-{
-    openDemo("xy");
-    for (const QSize& size : {QSize(0, 100), QSize(100'000, 100)}) {
-        QString error;
-        QVERIFY(renderToImage(document().activeFrameId(), size, &error).isNull());
-        QVERIFY2(error.contains(QString::number(size.width())), qPrintable(error));
-    }
-}
-
-void tst_LineCanvas::largestPlot()
-{
-    openDemo("xy", LinePlot::kLargestPlot + 5);
-    ShownCanvas shown;
-    QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot));
-    QVERIFY(!shown.scene().notice().isEmpty());
-    write("LineMap/Lines/Show", "1-10", 0);
-    shown.settle();
-    QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot) - 5);
-    QVERIFY(shown.scene().notice().isEmpty());
-}
-
 /// A zone of points without any order.
 class Cloud : public host::ZoneSource
 {
@@ -362,66 +72,339 @@ public:
     }
 };
 
-void tst_LineCanvas::longWorkIsReported()
+class tst_LineCanvas : public QObject
 {
-    document().clear();
-    auto data = std::make_shared<host::DataSet>();
-    data->variables = {{"X", {}, {}, 0}, {"Y", {}, {}, 1}};
-    host::ZoneInfo zone;
-    zone.pointCount = Cloud::kPoints;
-    data->zones = {zone};
-    data->source = std::make_shared<Cloud>();
-    document().execute(host::AttachData {{}, data, PlotType_LineXY, 1});
-    FrameView view;
-    view.resize(kSize);
-    QSignalSpy progressed(&view, &FrameView::workProgressed);
-    QSignalSpy ended(&view, &FrameView::workEnded);
-    auto& canvas = dynamic_cast<LineCanvas&>(*view.canvas());
-    view.show();
-    QTRY_VERIFY_WITH_TIMEOUT(!progressed.isEmpty(), 60000);
-    view.cancelWork();
-    QTRY_VERIFY(!view.isBusy());
-    QCOMPARE(ended.takeFirst()[0].toBool(), true);
-    const LineInk& ink = canvas.scene().chart().ink();
-    QCOMPARE(ink.missingCount(), std::int64_t(1));
-    QVERIFY(!canvas.scene().notice().isEmpty());
-    view.resumeWork();
-    QTRY_VERIFY_WITH_TIMEOUT(!view.isBusy(), 60000);
-    QCOMPARE(ended.takeFirst()[0].toBool(), false);
-    QCOMPARE(ink.progress().first, ink.progress().second);
-    const QImage drawn = ink.picture();
-    canvas.plot().replot(); // for the same view nothing is drawn again
-    QVERIFY(!view.isBusy());
-    QCOMPARE(ink.picture(), drawn);
-}
+    Q_OBJECT
 
-void tst_LineCanvas::viewChoosesTheCanvas()
-{
-    document().clear();
-    FrameView view;
-    view.resize(kSize);
-    view.show();
-    QVERIFY(!view.canvas());
-    std::string error;
-    QVERIFY(samples::openDemo("xy", 0, error));
-    QVERIFY(qobject_cast<LineCanvas*>(view.canvas()));
-    QVERIFY(samples::openDemo("field2d", 0, error));
-    QCOMPARE(QByteArray(view.canvas()->metaObject()->className()),
-             QByteArray("corvala::plot::FieldCanvas"));
-    QVERIFY(!view.problem().isEmpty()); // this test runs without X
-    write("PlotType", "", PlotType_LinePolar);
-    QVERIFY(qobject_cast<LineCanvas*>(view.canvas()));
-    QVERIFY(view.problem().isEmpty());
-    write("PlotType", "", PlotType_Annotation);
-    QVERIFY(!view.canvas());
-    const CvlUniqueId first = document().activeFrameId();
-    document().undo().undo();
-    QVERIFY(view.canvas());
-    document().execute(host::AddFrame {});
-    QVERIFY(!view.canvas());
-    document().execute(host::ActivateFrame {1});
-    QCOMPARE(view.canvas()->scene().frameId(), first);
-}
+private Q_SLOTS:
+    void curvesOfActiveMaps()
+    {
+        openDemo("xy");
+        ShownCanvas shown;
+        QCOMPARE(shown.lineCount(), 6);
+        QCOMPARE(shown.line(1).points.size(), std::size_t(101));
+        write("LineMap/Lines/Show", "2", 0);
+        shown.settle();
+        QCOMPARE(shown.lineCount(), 5);
+        write("LinePlotLayers/ShowLines", "", 0);
+        shown.settle();
+        QVERIFY(!shown.scene().chart().areLinesVisible());
+        document().undo().undo();
+        document().undo().undo();
+        shown.settle();
+        QCOMPARE(shown.lineCount(), 6);
+        document().execute(host::DeleteMaps {mapsOf("1-4")});
+        shown.settle();
+        QCOMPARE(shown.lineCount(), 2);
+        document().clear();
+        shown.settle();
+        QCOMPARE(shown.lineCount(), 0);
+    }
+
+    void pens_data()
+    {
+        const Rows<double, int, double, double, int> row;
+        row("thin lines have a pixel", 0.01, 0, 2.0, 1.0, 0);
+        row("percent of the height", 1.0, 0, 2.0, 5.0, 0);
+        row("dashed", 0.4, 1, 4.0, 2.0, 2);
+        row("dash dot dot", 0.4, 5, 4.0, 2.0, 6);
+    }
+
+    void pens()
+    {
+        const auto [thickness, pattern, length, width, dashes] =
+            currentRow<double, int, double, double, int>();
+        openDemo("xy");
+        write("LineMap/Lines/Color", "1", 4);
+        write("LineMap/Lines/LineThickness", "1", thickness);
+        write("LineMap/Lines/LinePattern", "1", pattern);
+        write("LineMap/Lines/PatternLength", "1", length);
+        ShownCanvas shown;
+        const LineStroke look = shown.line(1).stroke;
+        const host::Rgb color = document().color(4);
+        QCOMPARE(look.color, QColor(color.red, color.green, color.blue));
+        QCOMPARE(look.width, width);
+        QCOMPARE(look.pattern.size(), std::size_t(dashes));
+        const double period = std::accumulate(look.pattern.begin(), look.pattern.end(), 0.0);
+        QCOMPARE(period, dashes > 0 ? length / 100 * kSize.height() : 0.0);
+    }
+
+    void editsTouchWhatTheyName()
+    {
+        openDemo("xy", 50);
+        ShownCanvas shown;
+        const std::int64_t before = shown.scene().syncCount();
+        const int redraws = shown.view.redrawCount();
+        write("LineMap/Lines/Color", "3,7", 9);
+        write("LineMap/Lines/LineThickness", "7", 1);
+        shown.settle();
+        QCOMPARE(shown.scene().syncCount() - before, 2);
+        QCOMPARE(shown.view.redrawCount(), redraws + 1);
+        write("LineMap/Curves/NumPts", "all", 100); // not drawn
+        write("FieldMap/Mesh/Color", "1", 3);
+        shown.settle();
+        QCOMPARE(shown.view.redrawCount(), redraws + 1);
+        write("LineMap/Assign/YAxisVar", "3", 5);
+        shown.settle();
+        QCOMPARE(shown.scene().syncCount() - before, 3);
+        QVERIFY(shown.line(3).points.y(50) != shown.line(9).points.y(50));
+    }
+
+    void zonesWithoutTheVariable()
+    {
+        openDemo("field2d");
+        document().execute(host::CreateLineMaps {2});
+        write("PlotType", "", PlotType_LineXY);
+        ShownCanvas shown;
+        QCOMPARE(shown.lineCount(), 2);
+        QVERIFY(!shown.view.render(kSize, nullptr).isNull());
+        document().execute(host::DetachData {});
+        shown.settle();
+        QCOMPARE(shown.lineCount(), 0);
+    }
+
+    void polarLines()
+    {
+        openDemo("polar");
+        write("LineMap/Lines/Color", "all", 2);
+        write("LineMap/Lines/LineThickness", "all", 1);
+        const host::Rgb color = document().color(2);
+        const QImage image = renderToImage(document().activeFrameId(), kSize, nullptr);
+        const double share = shareOfColor(image, QColor(color.red, color.green, color.blue));
+        QVERIFY2(share > 0.005, QByteArray::number(share));
+        write("LineMap/Lines/Show", "all", 0);
+        const QImage empty = renderToImage(document().activeFrameId(), kSize, nullptr);
+        QVERIFY(shareOfColor(empty, QColor(color.red, color.green, color.blue)) < share / 5);
+
+        // From one kind of axes to the other and back.
+        ShownCanvas shown;
+        QVERIFY(shown.scene().isPolar());
+        write("PlotType", "", PlotType_LineXY);
+        shown.settle();
+        QVERIFY(!shown.scene().isPolar());
+        QCOMPARE(shown.lineCount(), 0);
+        document().undo().undo();
+        document().undo().undo();
+        shown.settle();
+        QVERIFY(shown.scene().isPolar());
+    }
+
+    void titles()
+    {
+        openDemo("xy");
+        ShownCanvas shown;
+        const auto title = [&](QCPAxis::AxisType side) {
+            return shown.plot().axisRect()->axis(side)->label();
+        };
+        QCOMPARE(title(QCPAxis::atBottom), QStringLiteral("Time"));
+        QCOMPARE(title(QCPAxis::atLeft), QStringLiteral("Force, Moment, Power"));
+        document().execute(host::RenameVariable {2, "Kraft"});
+        write("LineMap/Lines/Show", "2-6", 0);
+        shown.settle();
+        QCOMPARE(title(QCPAxis::atLeft), QStringLiteral("Kraft"));
+    }
+
+    void axesInUse()
+    {
+        openDemo("xy");
+        ShownCanvas shown;
+        QCPAxisRect& box = *shown.plot().axisRect();
+        const auto visible = [&](QCPAxis::AxisType side) {
+            QList<QCPAxis*> axes = box.axes(side);
+            axes.erase(std::remove_if(axes.begin(), axes.end(),
+                                      [](const QCPAxis* axis) { return !axis->visible(); }),
+                       axes.end());
+            return axes;
+        };
+        const QCPRange before = box.axis(QCPAxis::atLeft)->range();
+        write("LineMap/Assign/YAxis", "1,4", 2);
+        write("LineMap/Assign/YAxis", "2", 3);
+        write("LineMap/Assign/XAxis", "2", 4);
+        write("LineMap/Assign/YAxisVar", "1,4", 6); // angles
+        shown.settle();
+        QCOMPARE(visible(QCPAxis::atLeft).size(), 2);
+        QCOMPARE(visible(QCPAxis::atBottom).size(), 1);
+        QCOMPARE(visible(QCPAxis::atRight).size(), 1);
+        QCOMPARE(visible(QCPAxis::atTop).size(), 1);
+        const QCPAxis& second = *visible(QCPAxis::atRight)[0];
+        QCOMPARE(second.label(), QStringLiteral("Angle"));
+        QVERIFY(second.range().upper > 300.0 && before.upper < 10.0);
+        QVERIFY(box.axis(QCPAxis::atLeft)->range().upper < 10.0);
+        const Polyline& points = shown.line(1).points;
+        const QPoint place(
+            static_cast<int>(box.axis(QCPAxis::atBottom)->coordToPixel(points.x(70))),
+            static_cast<int>(second.coordToPixel(points.y(70))));
+        QSignalSpy picked(&shown.view, &FrameView::lineMapPicked);
+        QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, place);
+        QCOMPARE(picked.last()[0].value<CvlInt64>(), 1);
+
+        // Moved, they stay where they are, also while another plot type is shown.
+        turnWheel(shown.plot(), shown.plot().rect().center());
+        shown.settle();
+        const QCPRange moved = second.range();
+        QVERIFY(moved.upper < 340.0);
+        for (const int plotType : {PlotType_Field2D, PlotType_LineXY}) {
+            write("PlotType", "", plotType);
+            shown.settle();
+        }
+        QCOMPARE(shown.plot().axisRect()->axes(QCPAxis::atRight)[1]->range(), moved);
+        write("LineMap/Assign/YAxis", "1,4", 1);
+        shown.settle();
+        QVERIFY(!shown.plot().axisRect()->axes(QCPAxis::atRight)[1]->visible());
+    }
+
+    void clickPicksALine()
+    {
+        openDemo("xy");
+        write("LineMap/Lines/Show", "2-6", 0);
+        ShownCanvas shown;
+        QSignalSpy picked(&shown.view, &FrameView::lineMapPicked);
+        const QCPAxisRect& axes = *shown.plot().axisRect();
+        const QPoint place =
+            QPointF(axes.axis(QCPAxis::atBottom)->coordToPixel(shown.line(1).points.x(30)),
+                    axes.axis(QCPAxis::atLeft)->coordToPixel(shown.line(1).points.y(30)))
+                .toPoint();
+        QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, place);
+        QCOMPARE(picked.size(), 1);
+        QCOMPARE(picked[0][0].value<CvlInt64>(), 1);
+        QTest::mouseDClick(&shown.plot(), Qt::LeftButton, {}, place);
+        QTest::mouseRelease(&shown.plot(), Qt::LeftButton, {}, place);
+        QCOMPARE(picked.last()[1].toBool(), true);
+        QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, {3, 3});
+        QCOMPARE(picked.last()[0].value<CvlInt64>(), 0);
+
+        // In a polar plot, also after another radius has come to its middle.
+        std::string error;
+        QVERIFY(samples::openDemo("polar", 0, error));
+        shown.settle();
+        turnWheel(shown.plot(), shown.plot().rect().center() + QPoint(100, 0));
+        shown.settle();
+        const auto* angle =
+            qobject_cast<QCPPolarAxisAngular*>(shown.plot().plotLayout()->element(0, 0));
+        QVERIFY(angle && angle->radialAxis()->range().lower > 0.1);
+        const auto value = [](CvlInt64 variable) {
+            return document().activeFrame()->data()->values(1, variable).array->GetComponent(30, 0);
+        };
+        const QPointF point = angle->radialAxis()->coordToPixel(value(6), value(7));
+        QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, point.toPoint());
+        QCOMPARE(picked.last()[0].value<CvlInt64>(), 1);
+    }
+
+    void viewsAreKept()
+    {
+        openDemo("xy");
+        ShownCanvas shown;
+        const auto across = [&] {
+            return shown.plot().axisRect()->axis(QCPAxis::atBottom)->range();
+        };
+        const QCPRange fitted = across();
+        turnWheel(shown.plot(), shown.plot().rect().center());
+        shown.settle();
+        const QCPRange moved = across();
+        QVERIFY(moved.size() < 0.9 * fitted.size());
+
+        // Whatever changes in the frame, and while another plot type is shown.
+        write("LinePlotLayers/ShowLines", "", 0);
+        write("LinePlotLayers/ShowSymbols", "", 1);
+        write("LinePlotLayers/ShowLines", "", 1);
+        document().execute(host::CreateLineMaps {1});
+        shown.settle();
+        QCOMPARE(across(), moved);
+        for (const int plotType : {PlotType_LinePolar, PlotType_Field2D, PlotType_LineXY}) {
+            write("PlotType", "", plotType);
+            shown.settle();
+        }
+        QCOMPARE(across(), moved);
+        std::string error;
+        QVERIFY(samples::openDemo("xy", 0, error));
+        shown.settle();
+        QCOMPARE(across(), fitted);
+    }
+
+    void badPictures()
+    {
+        openDemo("xy");
+        for (const QSize& size : {QSize(0, 100), QSize(100'000, 100)}) {
+            QString error;
+            QVERIFY(renderToImage(document().activeFrameId(), size, &error).isNull());
+            QVERIFY2(error.contains(QString::number(size.width())), qPrintable(error));
+        }
+    }
+
+    void largestPlot()
+    {
+        openDemo("xy", LinePlot::kLargestPlot + 5);
+        ShownCanvas shown;
+        QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot));
+        QVERIFY(!shown.scene().notice().isEmpty());
+        write("LineMap/Lines/Show", "1-10", 0);
+        shown.settle();
+        QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot) - 5);
+        QVERIFY(shown.scene().notice().isEmpty());
+    }
+
+    void longWorkIsReported()
+    {
+        document().clear();
+        auto data = std::make_shared<host::DataSet>();
+        data->variables = {{"X", {}, {}, 0}, {"Y", {}, {}, 1}};
+        host::ZoneInfo zone;
+        zone.pointCount = Cloud::kPoints;
+        data->zones = {zone};
+        data->source = std::make_shared<Cloud>();
+        document().execute(host::AttachData {{}, data, PlotType_LineXY, 1});
+        FrameView view;
+        view.resize(kSize);
+        QSignalSpy progressed(&view, &FrameView::workProgressed);
+        QSignalSpy ended(&view, &FrameView::workEnded);
+        auto& canvas = dynamic_cast<LineCanvas&>(*view.canvas());
+        view.show();
+        QTRY_VERIFY_WITH_TIMEOUT(!progressed.isEmpty(), 60000);
+        view.cancelWork();
+        QTRY_VERIFY(!view.isBusy());
+        QCOMPARE(ended.takeFirst()[0].toBool(), true);
+        const LineInk& ink = canvas.scene().chart().ink();
+        QCOMPARE(ink.missingCount(), std::int64_t(1));
+        QVERIFY(!canvas.scene().notice().isEmpty());
+        view.resumeWork();
+        QTRY_VERIFY_WITH_TIMEOUT(!view.isBusy(), 60000);
+        QCOMPARE(ended.takeFirst()[0].toBool(), false);
+        QCOMPARE(ink.progress().first, ink.progress().second);
+        const QImage drawn = ink.picture();
+        canvas.plot().replot(); // for the same view nothing is drawn again
+        QVERIFY(!view.isBusy());
+        QCOMPARE(ink.picture(), drawn);
+    }
+
+    void viewChoosesTheCanvas()
+    {
+        document().clear();
+        FrameView view;
+        view.resize(kSize);
+        view.show();
+        QVERIFY(!view.canvas());
+        std::string error;
+        QVERIFY(samples::openDemo("xy", 0, error));
+        QVERIFY(qobject_cast<LineCanvas*>(view.canvas()));
+        QVERIFY(samples::openDemo("field2d", 0, error));
+        QCOMPARE(QByteArray(view.canvas()->metaObject()->className()),
+                 QByteArray("corvala::plot::FieldCanvas"));
+        QVERIFY(!view.problem().isEmpty()); // this test runs without X
+        write("PlotType", "", PlotType_LinePolar);
+        QVERIFY(qobject_cast<LineCanvas*>(view.canvas()));
+        QVERIFY(view.problem().isEmpty());
+        write("PlotType", "", PlotType_Annotation);
+        QVERIFY(!view.canvas());
+        const CvlUniqueId first = document().activeFrameId();
+        document().undo().undo();
+        QVERIFY(view.canvas());
+        document().execute(host::AddFrame {});
+        QVERIFY(!view.canvas());
+        document().execute(host::ActivateFrame {1});
+        QCOMPARE(view.canvas()->scene().frameId(), first);
+    }
+};
 
 QTEST_MAIN(tst_LineCanvas)
+
 #include "tst_line_canvas.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_ink.h"
+#include "tests/support/rows.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -9,17 +10,8 @@
 #include <random>
 
 using namespace corvala::plot;
-
-class tst_LineInk : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void reducedLikeFull_data();
-    void reducedLikeFull();
-    void slicesDrawTheSame();
-    void denseLinesAreThinned();
-};
+using corvala::tests::currentRow;
+using corvala::tests::Rows;
 
 static constexpr QSize kSize {400, 300};
 
@@ -121,93 +113,94 @@ static QPointF wave(double t)
     return {t, 0.5 + 0.45 * std::sin(20 * t)};
 }
 
-void tst_LineInk::reducedLikeFull_data()
+class tst_LineInk : public QObject
 {
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    QTest::addColumn<Curve>("curve");
-    QTest::addColumn<int>("points");
-    QTest::addColumn<double>("zoom");
-    QTest::addColumn<double>("width");
-    QTest::addColumn<QVector<double>>("pattern");
-    const auto row = [](const char* name, Curve curve, int points, double zoom, double width,
-                        QVector<double> pattern = {}) {
-        QTest::newRow(name) << curve << points << zoom << width << pattern;
-    };
-    row("few points", wave, 60, 1.0, 1.0);
-    row("smooth", wave, 50'000, 1.0, 3.0);
-    row("smooth, wide", wave, 50'000, 1.0, 30.0);
-    row("smooth, magnified", wave, 50'000, 300.0, 3.0);
-    row(
-        "noise", [](double t) { return QPointF(t, noise()); }, 20'000, 1.0, 2.0);
-    row(
-        "noise, magnified", [](double t) { return QPointF(t, noise()); }, 20'000, 80.0, 2.0);
-    row(
-        "upwards", [](double t) { return QPointF(0.5 + 0.1 * noise(), t); }, 20'000, 1.0, 2.0);
-    row(
-        "there and back", [](double t) { return QPointF(0.5 + 0.4 * std::cos(300 * t), t); },
-        20'000, 1.0, 1.5);
-    row(
-        "unsorted", [](double) { return QPointF(noise(), noise()); }, 150, 1.0, 2.0);
-    row(
-        "far beyond", [](double t) { return QPointF(t, noise() < 0.02 ? 1e300 : 0.5); }, 500, 1.0,
-        2.0);
-    row(
-        "gaps", [nan](double t) { return QPointF(t, std::sin(40 * t) > 0.5 ? nan : t); }, 20'000,
-        1.0, 4.0);
-    row(
-        "gaps of infinity",
-        [](double t) { return QPointF(std::fmod(t, 0.2) < 0.05 ? INFINITY : t, t); }, 20'000, 1.0,
-        4.0);
-    row("dashes", wave, 50, 1.0, 3.0, {12, 8});
-    row("dashes of many points", wave, 5'000, 1.0, 3.0, {12, 8});
-    row("dash dot, magnified", wave, 2'000, 6.0, 2.0, {20, 8, 4, 8});
-    row("wide dashes round corners",
-        [](double t) { return QPointF(t, 0.2 + 0.5 * (int(t * 9.0) % 2)); }, 10, 1.0, 9.0,
-        {30, 20});
-}
+    Q_OBJECT
 
-void tst_LineInk::reducedLikeFull()
-{
-    QFETCH(Curve, curve);
-    QFETCH(int, points);
-    QFETCH(double, zoom);
-    QFETCH(double, width);
-    QFETCH(QVector<double>, pattern);
-    const LineStroke stroke {Qt::black, width, {pattern.begin(), pattern.end()}};
-    const Polyline line = sampled(curve, points);
-    const LineView view = viewOf(zoom);
-    const QImage full = fullPicture(line, view, stroke);
-    const QImage reduced = inkPicture(line, view, stroke);
-    const double ink = 1.0 - shareOfDifference(full, QImage(full.size(), full.format()));
-    const double difference = shareOfDifference(full, reduced);
-    if (qEnvironmentVariableIsSet("CORVALA_KEEP_PICTURES")) {
-        full.save(QStringLiteral("%1-full.png").arg(QTest::currentDataTag()));
-        reduced.save(QStringLiteral("%1-reduced.png").arg(QTest::currentDataTag()));
+private Q_SLOTS:
+    void reducedLikeFull_data()
+    {
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        const Rows<Curve, int, double, double, QVector<double>> rows;
+        const auto row = [&rows](const char* name, Curve curve, int points, double zoom,
+                                 double width, QVector<double> pattern = {}) {
+            rows(name, curve, points, zoom, width, pattern);
+        };
+        row("few points", wave, 60, 1.0, 1.0);
+        row("smooth", wave, 50'000, 1.0, 3.0);
+        row("smooth, wide", wave, 50'000, 1.0, 30.0);
+        row("smooth, magnified", wave, 50'000, 300.0, 3.0);
+        row(
+            "noise", [](double t) { return QPointF(t, noise()); }, 20'000, 1.0, 2.0);
+        row(
+            "noise, magnified", [](double t) { return QPointF(t, noise()); }, 20'000, 80.0, 2.0);
+        row(
+            "upwards", [](double t) { return QPointF(0.5 + 0.1 * noise(), t); }, 20'000, 1.0, 2.0);
+        row(
+            "there and back", [](double t) { return QPointF(0.5 + 0.4 * std::cos(300 * t), t); },
+            20'000, 1.0, 1.5);
+        row(
+            "unsorted", [](double) { return QPointF(noise(), noise()); }, 150, 1.0, 2.0);
+        row(
+            "far beyond", [](double t) { return QPointF(t, noise() < 0.02 ? 1e300 : 0.5); }, 500,
+            1.0, 2.0);
+        row(
+            "gaps", [nan](double t) { return QPointF(t, std::sin(40 * t) > 0.5 ? nan : t); },
+            20'000, 1.0, 4.0);
+        row(
+            "gaps of infinity",
+            [](double t) { return QPointF(std::fmod(t, 0.2) < 0.05 ? INFINITY : t, t); }, 20'000,
+            1.0, 4.0);
+        row("dashes", wave, 50, 1.0, 3.0, {12, 8});
+        row("dashes of many points", wave, 5'000, 1.0, 3.0, {12, 8});
+        row("dash dot, magnified", wave, 2'000, 6.0, 2.0, {20, 8, 4, 8});
+        row("wide dashes round corners",
+            [](double t) { return QPointF(t, 0.2 + 0.5 * (int(t * 9.0) % 2)); }, 10, 1.0, 9.0,
+            {30, 20});
     }
-    QVERIFY2(difference < 0.005, qPrintable(QStringLiteral("%1 of %2").arg(difference).arg(ink)));
-}
 
-void tst_LineInk::slicesDrawTheSame()
-{
-    const Polyline line = sampled([](double) { return QPointF(noise(), noise()); }, 5'000);
-    const LineStroke stroke {Qt::blue, 3.0, {10.0, 5.0}};
-    QCOMPARE(inkPicture(line, viewOf(1.0), stroke, 0), inkPicture(line, viewOf(1.0), stroke));
-}
+    void reducedLikeFull()
+    {
+        const auto [curve, points, zoom, width, pattern] =
+            currentRow<Curve, int, double, double, QVector<double>>();
+        const LineStroke stroke {Qt::black, width, {pattern.begin(), pattern.end()}};
+        const Polyline line = sampled(curve, points);
+        const LineView view = viewOf(zoom);
+        const QImage full = fullPicture(line, view, stroke);
+        const QImage reduced = inkPicture(line, view, stroke);
+        const double ink = 1.0 - shareOfDifference(full, QImage(full.size(), full.format()));
+        const double difference = shareOfDifference(full, reduced);
+        if (qEnvironmentVariableIsSet("CORVALA_KEEP_PICTURES")) {
+            full.save(QStringLiteral("%1-full.png").arg(QTest::currentDataTag()));
+            reduced.save(QStringLiteral("%1-reduced.png").arg(QTest::currentDataTag()));
+        }
+        QVERIFY2(difference < 0.005,
+                 qPrintable(QStringLiteral("%1 of %2").arg(difference).arg(ink)));
+    }
 
-void tst_LineInk::denseLinesAreThinned()
-{
-    LineInk ink;
-    ink.setLine(1, sampled([](double) { return QPointF(noise(), noise()); }, 400'000));
-    ink.setLine(2, sampled(wave, 400'000));
-    for (const int map : {1, 2})
-        ink.setLook(map, {Qt::blue, 5.0, {10.0, 5.0}});
-    ink.setView(chartOf(viewOf(1.0)), kSize, 1.0);
-    ink.advance(-1);
-    QCOMPARE(ink.thinnedCount(), 1);
-    ink.remove(1);
-    ink.advance(-1);
-    QCOMPARE(ink.thinnedCount(), 0);
-}
+    void slicesDrawTheSame()
+    {
+        const Polyline line = sampled([](double) { return QPointF(noise(), noise()); }, 5'000);
+        const LineStroke stroke {Qt::blue, 3.0, {10.0, 5.0}};
+        QCOMPARE(inkPicture(line, viewOf(1.0), stroke, 0), inkPicture(line, viewOf(1.0), stroke));
+    }
+
+    void denseLinesAreThinned()
+    {
+        LineInk ink;
+        ink.setLine(1, sampled([](double) { return QPointF(noise(), noise()); }, 400'000));
+        ink.setLine(2, sampled(wave, 400'000));
+        for (const int map : {1, 2})
+            ink.setLook(map, {Qt::blue, 5.0, {10.0, 5.0}});
+        ink.setView(chartOf(viewOf(1.0)), kSize, 1.0);
+        ink.advance(-1);
+        QCOMPARE(ink.thinnedCount(), 1);
+        ink.remove(1);
+        ink.advance(-1);
+        QCOMPARE(ink.thinnedCount(), 0);
+    }
+};
 
 QTEST_APPLESS_MAIN(tst_LineInk)
+
 #include "tst_line_ink.moc"
