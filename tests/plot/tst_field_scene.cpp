@@ -4,6 +4,7 @@
 #include "tests/support/rows.h"
 
 #include <vtkActor.h>
+#include <vtkActorCollection.h>
 #include <vtkCompositeDataDisplayAttributes.h>
 #include <vtkCompositePolyDataMapper2.h>
 #include <vtkImageData.h>
@@ -18,6 +19,7 @@
 #include <QThread>
 #include <QtTest>
 
+#include <algorithm>
 #include <atomic>
 
 using namespace corvala;
@@ -72,13 +74,24 @@ static QStringList contents(const FieldScene& scene)
     return result;
 }
 
+/// In the order in which they are drawn. The renderer makes its list of actors anew whenever it is
+/// asked for it.
+static std::vector<vtkActor*> actorsOf(vtkRenderer& renderer)
+{
+    std::vector<vtkActor*> actors;
+    vtkActorCollection& list = *renderer.GetActors();
+    vtkCollectionSimpleIterator position;
+    list.InitTraversal(position);
+    while (vtkActor* const actor = list.GetNextActor(position))
+        actors.push_back(actor);
+    return actors;
+}
+
 /// What covers what: by actor the width of its lines and the number of its blocks.
 static QStringList drawnOrder(vtkRenderer& renderer)
 {
     QStringList result;
-    vtkCollectionSimpleIterator position;
-    renderer.GetActors()->InitTraversal(position);
-    while (vtkActor* const actor = renderer.GetActors()->GetNextActor(position)) {
+    for (vtkActor* const actor : actorsOf(renderer)) {
         auto* const blocks =
             vtkMultiBlockDataSet::SafeDownCast(mapperOf(actor)->GetInputDataObject(0, 0));
         result << QStringLiteral("%1 %2")
@@ -529,8 +542,16 @@ private Q_SLOTS:
         waited.prepare({800, 10.0, 1.0});
         QCOMPARE(contents(*m_scene), contents(waited));
         QVERIFY(m_scene->groups().levels(1) == waited.groups().levels(1));
-        write("FieldMap/Mesh/LinePattern", "1", 1);
-        m_scene->advance(0);
+        const auto beginMesh = [&](int pattern) {
+            write("FieldMap/Mesh/LinePattern", "1", pattern);
+            m_scene->advance(0); // its values
+            m_scene->advance(0);
+        };
+        beginMesh(1);
+        write("FieldMap/Mesh/Color", "1", 101); // while a mesh without colours is made
+        QTRY_VERIFY(!m_scene->advance(1));
+        QVERIFY(layer(FieldLayer::Mesh).geometry(1)->GetPointData()->GetScalars());
+        beginMesh(0);
         m_scene.reset(); // while something is being made for it
     }
 
@@ -551,13 +572,11 @@ private Q_SLOTS:
         write("FieldLayers/ShowContour", "", 1);
         work();
         const auto visibleActors = [&] {
-            std::vector<vtkActor*> visible;
-            vtkCollectionSimpleIterator position;
-            m_back->GetActors()->InitTraversal(position);
-            while (vtkActor* const actor = m_back->GetActors()->GetNextActor(position))
-                if (actor->GetVisibility())
-                    visible.push_back(actor);
-            return visible;
+            std::vector<vtkActor*> actors = actorsOf(*m_back);
+            actors.erase(std::remove_if(actors.begin(), actors.end(),
+                                        [](vtkActor* actor) { return !actor->GetVisibility(); }),
+                         actors.end());
+            return actors;
         };
         const std::vector<vtkActor*> before = visibleActors();
         m_scene->setStandIn(true);
