@@ -4,6 +4,7 @@
 #include <QItemSelectionModel>
 
 #include <algorithm>
+#include <utility>
 
 namespace corvala::sdk::ui::dialogs::uicontrols {
 
@@ -64,7 +65,6 @@ SelectedRows::SelectedRows(QItemSelectionModel& selection)
     connect(&selection, &QItemSelectionModel::modelChanged, this, &SelectedRows::forget);
     if (const QAbstractItemModel* model = selection.model()) {
         connect(model, &QAbstractItemModel::modelReset, this, &SelectedRows::forget);
-        connect(model, &QAbstractItemModel::layoutChanged, this, &SelectedRows::forget);
         connect(model, &QAbstractItemModel::rowsInserted, this, &SelectedRows::forget);
         connect(model, &QAbstractItemModel::rowsRemoved, this, &SelectedRows::forget);
         connect(model, &QAbstractItemModel::columnsInserted, this, &SelectedRows::forget);
@@ -114,6 +114,13 @@ bool SelectedRows::contains(int row)
     find();
     const auto bit = static_cast<std::size_t>(row);
     return row >= 0 && bit < m_bits.size() && m_bits.test(bit);
+}
+
+/// By a command without rows, which begins anew.
+void SelectedRows::settle()
+{
+    if (!std::exchange(m_isSettled, true))
+        m_selection.select(QItemSelection(), QItemSelectionModel::Select);
 }
 
 const std::vector<RowRange>& SelectedRows::ranges()

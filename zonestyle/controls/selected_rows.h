@@ -29,7 +29,8 @@ struct RowRange
 };
 
 /// The rows of a selection model of which every column is selected, found out once for each change
-/// of the selection: Qt copies all its ranges for every question. Lives with the selection model.
+/// of the selection: Qt copies all its ranges for every question. Lives with the selection model,
+/// whose rows must stay in their order: layoutChanged is taken to speak of cells alone.
 class SelectedRows : public QObject
 {
     Q_OBJECT
@@ -43,8 +44,12 @@ public:
     bool areAll(); ///< nothing else is selected, such as single cells
     int count();
 
+    /// Joins what was selected last with what was selected before: Qt keeps them apart, and merges
+    /// them again for every question.
+    void settle();
+
     /// To be called for what the selection model does not announce, such as its reset.
-    void forget() { m_isKnown = false; }
+    void forget() { m_isKnown = m_isSettled = false; }
 
 private:
     explicit SelectedRows(QItemSelectionModel& selection);
@@ -55,6 +60,7 @@ private:
     std::vector<RowRange> m_ranges;
     bool m_areAll = true;
     bool m_isKnown = false;
+    bool m_isSettled = false;
 };
 
 /// The rows of which every column is selected, as indexes of one column, in the order in which

@@ -155,6 +155,7 @@ void ZoneStyleDialog::copySelection(QItemSelectionModel* target, QItemSelectionM
         return;
     target->clearSelection();
     target->select(selectionOf(*target->model(), wanted), QItemSelectionModel::Select);
+    present.settle();
 }
 
 void ZoneStyleDialog::makeSelectionFitModel()

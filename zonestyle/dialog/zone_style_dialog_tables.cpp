@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "zonestyle/controls/selected_rows.h"
 #include "zonestyle/controls/table_column_header.h"
 #include "zonestyle/dialog/focus_keeper.h"
 #include "zonestyle/dialog/selection_model_signal_suspender.h"
@@ -89,6 +90,8 @@ void ZoneStyleDialog::showTable(QWidget& page, ModelAbstract& model)
     replaceColumnHeader(header);
     QItemSelectionModel* previous = m_tableView->selectionModel();
     QItemSelectionModel* target = getSelectionModelFor(&model);
+    if (previous)
+        uicontrols::SelectedRows::of(*previous).settle();
     {
         const SelectionModelSignalSuspender suspender(*m_mapSelection, *m_tableView);
         m_tableView->setModel(&model, tabKey(page));
