@@ -13,6 +13,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTest>
 
 namespace corvala::tests {
 
@@ -186,10 +187,13 @@ PopupResponder& PopupResponder::then(Answer answer)
 void PopupResponder::respond(QWidget& popup)
 {
     ++m_shown;
+    const QPointer<QWidget> guard = &popup;
     if (m_answers.isEmpty())
         popup.close();
     else
         m_answers.takeFirst()(popup);
+    if (QTest::currentTestFailed() && guard)
+        guard->close(); // which the answer was to do
 }
 
 static void endBy(QWidget& popup, int endKey)
