@@ -238,6 +238,37 @@ private Q_SLOTS:
             roundTrip();
         QCOMPARE(objects(), before);
     }
+
+    /// The data may change while the button is down: the table goes, and the header with it.
+    void endsTheDragOfAHeaderThatGoes()
+    {
+        class Timers : public QObject
+        {
+        public:
+            int count = 0;
+
+        private:
+            bool eventFilter(QObject*, QEvent* event) override
+            {
+                count += event->type() == QEvent::Timer ? 1 : 0;
+                return false;
+            }
+        };
+
+        DialogFixture fixture("field2d");
+        QHeaderView& header = *fixture.table().horizontalHeader();
+        const int border = header.sectionViewportPosition(kZoneName) - 1;
+        QTest::mousePress(header.viewport(), Qt::LeftButton, {}, {border, header.height() / 2});
+        for (const int tab : {1, 0})
+            fixture.tabWidget().setCurrentIndex(tab);
+        header.resizeSection(kZoneName, 120);
+        Timers timers;
+        fixture.table().installEventFilter(&timers);
+        constexpr int kRounds = 50;
+        for (int round = 0; round < kRounds; ++round)
+            QCoreApplication::processEvents();
+        QVERIFY2(timers.count < kRounds / 2, qPrintable(QString::number(timers.count)));
+    }
 };
 
 QTEST_MAIN(tst_DialogTabs)

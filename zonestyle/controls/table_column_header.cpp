@@ -2,6 +2,7 @@
 #include "zonestyle/controls/table_column_header.h"
 
 #include <QHash>
+#include <QMouseEvent>
 #include <QPainter>
 
 namespace corvala::sdk::ui::dialogs::uicontrols {
@@ -83,6 +84,16 @@ void TableColumnHeader::resizeEvent(QResizeEvent* event)
     resizeSection(
         m_spareWidthSection,
         qMax(sectionSizeHint(m_spareWidthSection), sectionSize(m_spareWidthSection) + spare));
+}
+
+/// A header that goes while its border is dragged does not see the button released. It would count
+/// as dragged for ever, and for that long the table paints itself again and again.
+void TableColumnHeader::hideEvent(QHideEvent* event)
+{
+    QMouseEvent release(QEvent::MouseButtonRelease, {}, Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    mouseReleaseEvent(&release);
+    QHeaderView::hideEvent(event);
 }
 
 /// The header shows no selection.

@@ -35,6 +35,7 @@ public Q_SLOTS:
 protected:
     void paintSection(QPainter* painter, const QRect& rect, int section) const override;
     void resizeEvent(QResizeEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     QRegion visualRegionForSelection(const QItemSelection& selection) const override;
 
 private:
