@@ -3,10 +3,18 @@
 
 #include "zonestyle/models/field_contour_3d_model.h"
 #include "zonestyle/models/field_contour_model.h"
+#include "zonestyle/models/field_edge_model.h"
+#include "zonestyle/models/field_effects_3d_model.h"
+#include "zonestyle/models/field_effects_model.h"
 #include "zonestyle/models/field_mesh_model.h"
+#include "zonestyle/models/field_points_model.h"
+#include "zonestyle/models/field_scatter_model.h"
 #include "zonestyle/models/field_shade_3d_model.h"
 #include "zonestyle/models/field_shade_model.h"
 #include "zonestyle/models/field_static_area_model.h"
+#include "zonestyle/models/field_surfaces_model.h"
+#include "zonestyle/models/field_vector_model.h"
+#include "zonestyle/models/field_volume_model.h"
 #include "zonestyle/models/line_definitions_model.h"
 #include "zonestyle/models/line_definitions_polar_model.h"
 #include "zonestyle/models/line_definitions_xy_model.h"
@@ -53,16 +61,16 @@ const std::vector<ViewModel>& viewModels()
         {"plotAttr_FDMesh_Page", kEvery, field<FieldMeshModel>},
         {"plotAttr_FDCont_Page", PlotType_Field2D, field<FieldContourModel>},
         {"plotAttr_FDCont_Page", PlotType_Field3D, field<FieldContourModel, FieldContour3DModel>},
-        {"plotAttr_FDVect_Page", kEvery, field<>},
-        {"plotAttr_FDScat_Page", kEvery, field<>},
+        {"plotAttr_FDVect_Page", kEvery, field<FieldVectorModel>},
+        {"plotAttr_FDScat_Page", kEvery, field<FieldScatterModel>},
         {"plotAttr_FDShad_Page", PlotType_Field2D, field<FieldShadeModel>},
         {"plotAttr_FDShad_Page", PlotType_Field3D, field<FieldShadeModel, FieldShade3DModel>},
-        {"plotAttr_FDEdge_Page", kEvery, field<>},
-        {"plotAttr_FDPoints_Page", kEvery, field<>},
-        {"plotAttr_FDSurfaces_Page", kEvery, field<>},
-        {"plotAttr_FDVolume_Page", kEvery, field<>},
-        {"plotAttr_FDEffect_Page", PlotType_Field2D, field<>},
-        {"plotAttr_FDEffect_Page", PlotType_Field3D, field<>},
+        {"plotAttr_FDEdge_Page", kEvery, field<FieldEdgeModel>},
+        {"plotAttr_FDPoints_Page", kEvery, field<FieldPointsModel>},
+        {"plotAttr_FDSurfaces_Page", kEvery, field<FieldSurfacesModel>},
+        {"plotAttr_FDVolume_Page", kEvery, field<FieldVolumeModel>},
+        {"plotAttr_FDEffect_Page", PlotType_Field2D, field<FieldEffectsModel>},
+        {"plotAttr_FDEffect_Page", PlotType_Field3D, field<FieldEffectsModel, FieldEffects3DModel>},
         {"plotAttr_LPDefn_Page", PlotType_LineXY,
          line<LineDefinitionsModel, LineDefinitionsXYModel>},
         {"plotAttr_LPDefn_Page", PlotType_LinePolar,

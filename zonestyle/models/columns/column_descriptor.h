@@ -13,6 +13,7 @@ class QAction;
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 
+using actions::keysOf;
 using actions::PromptTexts;
 using actions::StyleTarget;
 using actions::ThreeKeys;
@@ -61,6 +62,7 @@ struct ColumnDescriptor
     ChoiceSource nameSource = nullptr; ///< where the names depend on the frame
     PromptTexts prompt = {"", ""};
     ListedNumbers numbers = {};
+    const style::SymbolShape* symbol = nullptr; ///< of a column of symbols
     ThreeKeys triple = {};
     const ThreeValuePrompt* triplePrompt = nullptr;
     int firstChoice = 0; ///< what the first entry of a list without choice names stands for

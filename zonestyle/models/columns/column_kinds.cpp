@@ -103,6 +103,16 @@ QVariant variableList(const Cell& cell)
                  variableNameWithIndexFormattedForAliasesForFrame);
 }
 
+bool hasVolumeZones(const Cell& cell)
+{
+    return CvlUtilFieldMapHasVolumeZonesForFrame(cell.frame, cell.map);
+}
+
+bool isInSpace(const Cell& cell)
+{
+    return CvlUtilFrameGetPlotTypeForFrame(cell.frame) == PlotType_Field3D;
+}
+
 bool writeSwitch(const EditRequest& edit)
 {
     actions::runAction<StyleAction<char>>(QString(), edit.cells, char {edit.isChecked()},

@@ -27,6 +27,11 @@ QVariant tripleText(const Cell& cell); ///< "1,0,2"
 QVariant variableName(const Cell& cell); ///< with its number
 QVariant variableList(const Cell& cell); ///< of the enabled variables
 
+// Rules
+
+bool hasVolumeZones(const Cell& cell); ///< of the field map
+bool isInSpace(const Cell& cell); ///< the frame has a 3D field plot
+
 // Writers: each writes to where the column's edits go, and answers true.
 
 bool writeSwitch(const EditRequest& edit);

@@ -146,7 +146,7 @@ int DescribedModel<Base>::localEditorOption(int column) const
 template<class Base>
 QString DescribedModel<Base>::localTextProblem(int column, const QString& text) const
 {
-    return at(column).writer == kinds::writeNumber
+    return at(column).writer == kinds::writeNumber && at(column).key.isValid()
         ? numberProblem(text, style::entryOf(at(column).key))
         : QString();
 }

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "zonestyle/models/columns/described_model.h"
+
+namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
+
+/// The Edge tab: which edges of each field map are drawn, and how.
+class FieldEdgeModel : public DescribedModel<FieldModelAbstract>
+{
+public:
+    using DescribedModel::DescribedModel;
+
+protected:
+    const ColumnTable& columnTable() const override;
+};
+
+} // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models
