@@ -239,6 +239,19 @@ private Q_SLOTS:
         QCOMPARE(objects(), before);
     }
 
+    /// Also where the last row has nothing to show, by which columns are sized.
+    void showsEveryColumn()
+    {
+        DialogFixture fixture("field3d");
+        for (int tab = 0; tab < fixture.tabWidget().count(); ++tab) {
+            fixture.tabWidget().setCurrentIndex(tab);
+            const QHeaderView& header = *fixture.table().horizontalHeader();
+            for (int column = 0; column < header.count(); ++column)
+                QVERIFY2(header.sectionSize(column) >= header.sectionSizeHint(column),
+                         qPrintable(QString("tab %1, column %2").arg(tab).arg(column)));
+        }
+    }
+
     /// The data may change while the button is down: the table goes, and the header with it.
     void endsTheDragOfAHeaderThatGoes()
     {

@@ -178,7 +178,7 @@ void StyleTableView::sizeColumns(Sizing sizing)
             continue;
         }
         const int width = sizeHintForIndex(m_model->index(rows - 1, column)).width();
-        setColumnWidth(column, width);
+        setColumnWidth(column, qMax(1, width)); // an empty cell would hide it
         storeColumnWidth(column, columnWidth(column));
     }
 }
