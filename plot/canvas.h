@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <any>
+#include <utility>
 
 class QWheelEvent;
 
@@ -25,6 +26,14 @@ public:
     virtual MapScene& scene() = 0;
     /// Draws the scene as it is; may find more work.
     virtual void draw() = 0;
+    /// Whether the picture is too large to be drawn at once, and part of it is still missing.
+    virtual bool isUnfinished() const { return false; }
+    /// Draws some more of an unfinished picture.
+    virtual void drawMore() { }
+    /// Leaves an unfinished picture as it is, with a remark, until the next one.
+    virtual void stopDrawing() { }
+    /// What is drawn of an unfinished picture, and the whole.
+    virtual std::pair<CvlInt64, CvlInt64> drawingProgress() const { return {0, 0}; }
     /// The frame with the present view as an image of `size` pixels, drawn without the window and
     /// complete even while work is pending. Null, with the reason in `error` (may be null), when it
     /// cannot be drawn.

@@ -114,14 +114,31 @@ void FrameView::documentChanged(const host::StateEvent& event)
 
 void FrameView::requestRedraw()
 {
-    if (!m_idle.isActive())
-        m_idle.start();
+    m_isStale = true;
+    m_idle.start();
 }
 
 void FrameView::draw()
 {
+    m_isStale = false;
+    m_drawnPieces = m_canvas->scene().progress().first;
     m_canvas->draw();
     ++m_redraws;
+}
+
+/// Works on the scene, or on a picture of it that takes longer.
+void FrameView::workAndDraw()
+{
+    MapScene& scene = m_canvas->scene();
+    if (m_canvas->isUnfinished() && !m_isStale)
+        m_canvas->drawMore();
+    else if (!scene.advance(kSliceMilliseconds))
+        draw();
+    else if (m_work.elapsed() >= m_nextDrawing && scene.progress().first != m_drawnPieces)
+        draw();
+    else
+        return;
+    m_nextDrawing = 2 * m_work.elapsed();
 }
 
 /// Works on the scene for a while; more follows at the next idle moment.
@@ -133,23 +150,18 @@ void FrameView::redraw()
         m_work.start();
         m_nextDrawing = kFirstDrawing;
     }
-    MapScene& scene = m_canvas->scene();
-    if (!scene.advance(kSliceMilliseconds)) {
-        draw();
-        if (!scene.hasWork()) {
-            endWork(false);
-            return;
-        }
-    } else if (m_work.elapsed() >= m_nextDrawing) {
-        draw();
-        m_nextDrawing = 2 * m_work.elapsed();
+    workAndDraw();
+    const MapScene& scene = m_canvas->scene();
+    if (!scene.hasWork() && !m_canvas->isUnfinished() && !m_isStale) {
+        endWork(false);
+        return;
     }
     if (m_work.elapsed() >= kQuietMilliseconds) {
-        const auto [done, total] = scene.progress();
+        const auto [done, total] = scene.hasWork() ? scene.progress() : m_canvas->drawingProgress();
         m_isReporting = true;
         Q_EMIT workProgressed(done, total);
     }
-    requestRedraw();
+    m_idle.start();
 }
 
 void FrameView::endWork(bool cancelled)
@@ -179,10 +191,16 @@ void FrameView::fitView()
 
 void FrameView::cancelWork()
 {
-    if (m_canvas && m_canvas->scene().hasWork()) {
+    if (!m_canvas)
+        return;
+    if (m_canvas->scene().hasWork()) {
         m_canvas->scene().cancel();
         endWork(true);
         requestRedraw();
+    } else if (m_canvas->isUnfinished()) {
+        m_canvas->stopDrawing();
+        m_idle.stop();
+        endWork(true);
     }
 }
 

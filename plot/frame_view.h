@@ -71,6 +71,7 @@ private:
     Canvas* canvasOf(Kind kind);
     void redraw();
     void draw();
+    void workAndDraw();
     void endWork(bool cancelled);
 
     struct Subscription;
@@ -86,6 +87,8 @@ private:
     QElapsedTimer m_work; ///< since slices began
     qint64 m_nextDrawing = 0; ///< milliseconds of work when the picture is next refreshed
     bool m_isWorking = false;
+    CvlInt64 m_drawnPieces = 0; ///< of the scene, at the last drawing
+    bool m_isStale = false; ///< the picture has to be drawn from its beginning
     bool m_isReporting = false;
 };
 

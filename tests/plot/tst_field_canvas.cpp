@@ -21,6 +21,8 @@
 #include <QtTest>
 
 #include <vtkImageData.h>
+#include <vtkRenderWindow.h>
+#include <vtkUnsignedCharArray.h>
 
 #include <cmath>
 #include <cstdio>
@@ -554,6 +556,59 @@ private Q_SLOTS:
         write("FieldMap/Contour/Show", "all", 0);
         shown.settle();
         QVERIFY(shareOfChange(window, shown.grabbed()) > 0.2);
+    }
+
+    void partsMakeTheSamePicture()
+    {
+        openDemo("kinds");
+        write("FieldLayers/ShowShade", "", 1);
+        write("FieldMap/Mesh/MeshType", "2-5", MeshType_WireFrame); // in front
+        vtkNew<vtkRenderWindow> window;
+        window->SetOffScreenRendering(1);
+        window->SetSize(kSize.width(), kSize.height());
+        FieldView view(std::make_shared<SurfaceCache>());
+        view.attach(window);
+        view.setSize(kSize, 1.0);
+        view.scene().setFrame(document().activeFrameId());
+        view.scene().advance(-1);
+        view.prepare();
+        const auto drawn = [&] {
+            window->Render();
+            vtkNew<vtkUnsignedCharArray> pixels;
+            window->GetPixelData(0, 0, kSize.width() - 1, kSize.height() - 1, 0, pixels);
+            return QByteArray(reinterpret_cast<const char*>(pixels->GetPointer(0)),
+                              static_cast<int>(pixels->GetNumberOfValues()));
+        };
+        const QByteArray whole = drawn();
+        int parts = 1;
+        view.parts().begin(1);
+        QVERIFY(drawn() != whole);
+        for (; view.parts().hasMore(); ++parts) {
+            view.parts().goOn(1);
+            drawn();
+        }
+        QVERIFY(parts >= 4);
+        QVERIFY(drawn() == whole);
+        QCOMPARE(view.parts().drawn(), view.scene().drawingCost());
+    }
+
+    void largePicturesCanBeCancelled()
+    {
+        openDemo("field2d");
+        ShownPlot shown;
+        shown.canvas().setPartSize(1);
+        const QImage complete = shown.grabbed();
+        shown.view.requestRedraw();
+        while (!shown.canvas().isUnfinished())
+            QCoreApplication::processEvents();
+        const auto [done, all] = shown.canvas().drawingProgress();
+        QVERIFY(done > 0 && done < all);
+        shown.view.cancelWork();
+        QVERIFY(!shown.view.isBusy());
+        QVERIFY(shareOfChange(shown.grabbed(), complete) > 0.0);
+        shown.view.resumeWork();
+        shown.settle();
+        QCOMPARE(shareOfChange(shown.grabbed(), complete), 0.0);
     }
 
     void oneRedrawPerIdleMoment()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/geometry/block_builder.h"
 #include "plot/field/geometry/mesh_lines.h"
+#include "plot/field/geometry/shape_pieces.h"
 #include "plot/field/geometry/surface_cache.h"
 #include "plot/field/geometry/surface_values.h"
 #include "plot/field/geometry/zone_edges.h"
@@ -9,6 +10,7 @@
 
 #include <vtkCell.h>
 #include <vtkCellArray.h>
+#include <vtkDoubleArray.h>
 #include <vtkPointData.h>
 #include <vtkStructuredGrid.h>
 
@@ -80,11 +82,48 @@ static vtkSmartPointer<vtkPolyData> facesOf(const QVector<QVector<int>>& faces, 
     return shape;
 }
 
+/// Corners of all cells in the order in which they are drawn, with a value of each.
+static std::vector<std::array<double, 4>> cornersOf(const ShapePieces& pieces)
+{
+    std::vector<std::array<double, 4>> corners;
+    for (const auto& piece : pieces) {
+        for (vtkIdType cell = 0; cell < piece->GetNumberOfCells(); ++cell) {
+            vtkIdList* const points = piece->GetCell(cell)->GetPointIds();
+            for (const vtkIdType point : *points) {
+                const double* const place = piece->GetPoint(point);
+                const double value = piece->GetPointData()->GetTCoords()->GetComponent(point, 0);
+                corners.push_back({place[0], place[1], place[2], value});
+            }
+        }
+    }
+    return corners;
+}
+
 class tst_FieldShapes : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void largeShapesAreCut()
+    {
+        constexpr vtkIdType kLargest = 10;
+        const auto whole = facesOf({{0, 1, 3, 2}, {2, 3, 5, 4}, {4, 5, 7, 6}, {6, 7, 9, 8}}, 10);
+        vtkPolyData& shape = *whole;
+        vtkNew<vtkDoubleArray> values;
+        for (vtkIdType point = 0; point < shape.GetNumberOfPoints(); ++point)
+            values->InsertNextValue(static_cast<double>(point));
+        shape.GetPointData()->SetTCoords(values);
+        vtkNew<vtkCellArray> line;
+        line->InsertNextCell({0, 5, 9});
+        shape.SetLines(line);
+        const ShapePieces pieces = inPieces(shape, kLargest);
+        QCOMPARE(pieces.size(), std::size_t {3});
+        for (const auto& piece : pieces)
+            QVERIFY(cornerCount(*piece) <= kLargest);
+        QVERIFY(cornersOf(pieces) == cornersOf({&shape}));
+        QCOMPARE(inPieces(shape, cornerCount(shape)).front().Get(), &shape);
+    }
+
     void volumeSurfaces_data()
     {
         const Rows<int, int, int> row;

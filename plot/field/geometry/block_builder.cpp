@@ -81,12 +81,12 @@ static Shape facesOf(vtkPolyData* shape, bool withNormals)
     return faces;
 }
 
-vtkSmartPointer<vtkPolyData> BlockBuilder::build(const BlockRecipe& recipe, const double* height,
-                                                 std::vector<PlacedSurface>& placed) const
+ShapePieces BlockBuilder::build(const BlockRecipe& recipe, const double* height,
+                                std::vector<PlacedSurface>& placed) const
 {
     const PlacedSurface* const found = surface(recipe, height, placed);
     if (!found || found->shape->GetNumberOfPoints() == 0)
-        return nullptr;
+        return {};
     Shape result;
     switch (recipe.kind) {
     case BlockKind::Faces: result = facesOf(found->shape, recipe.normals); break;
@@ -96,7 +96,7 @@ vtkSmartPointer<vtkPolyData> BlockBuilder::build(const BlockRecipe& recipe, cons
     case BlockKind::Edges: result = edges(recipe, *found, height); break;
     case BlockKind::MeshLines: result = mesh(recipe, *found); break;
     }
-    return result && result->GetNumberOfCells() > 0 ? result : nullptr;
+    return result && result->GetNumberOfCells() > 0 ? inPieces(*result) : ShapePieces();
 }
 
 vtkSmartPointer<vtkDoubleArray> BlockBuilder::values(int group, const BlockRecipe& recipe,

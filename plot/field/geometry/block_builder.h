@@ -3,6 +3,7 @@
 
 #include "plot/field/geometry/block_recipe.h"
 #include "plot/field/geometry/contour_groups.h"
+#include "plot/field/geometry/shape_pieces.h"
 #include "plot/field/geometry/surface_cache.h"
 
 #include <vtkCellLocator.h>
@@ -31,11 +32,11 @@ public:
     {
     }
 
-    /// The geometry of a block; null when there is nothing to draw. Surfaces are taken from
+    /// The geometry of a block; none when there is nothing to draw. Surfaces are taken from
     /// `placed`, or made and added to it; those of another zone are dropped. `height` lays the
     /// block down at that height in a flat plot; null leaves it as it is.
-    vtkSmartPointer<vtkPolyData> build(const BlockRecipe& recipe, const double* height,
-                                       std::vector<PlacedSurface>& placed) const;
+    ShapePieces build(const BlockRecipe& recipe, const double* height,
+                      std::vector<PlacedSurface>& placed) const;
 
 private:
     using Shape = vtkSmartPointer<vtkPolyData>;

@@ -117,6 +117,7 @@ void CompositeLayer::Bucket::setBlocks(std::vector<Block> blocks)
     if (std::equal(blocks.begin(), blocks.end(), m_blocks.begin(), m_blocks.end()))
         return;
     m_blocks = std::move(blocks);
+    m_size = 0;
     const std::size_t count = m_blocks.size();
     while (m_shells.size() < count)
         m_shells.push_back({vtkSmartPointer<vtkPolyData>::New(), nullptr});
@@ -128,6 +129,7 @@ void CompositeLayer::Bucket::setBlocks(std::vector<Block> blocks)
     m_drawn->SetNumberOfBlocks(static_cast<unsigned int>(count));
     for (std::size_t i = 0; i < count; ++i) {
         Shell& shell = m_shells[i];
+        m_size += cornerCount(*m_blocks[i].data);
         if (shell.source != m_blocks[i].data) {
             shell.source = m_blocks[i].data;
             shell.data->ShallowCopy(shell.source);

@@ -11,6 +11,7 @@
 #include <vtkTexture.h>
 #include <vtkTransform.h>
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -43,6 +44,8 @@ public:
     /// Moves faces far enough back for lines of this width to be whole.
     void setWidestLine(double pixels);
     double linePixels() const { return m_linePixels; }
+    /// What drawing the blocks costs, as cornerCount.
+    std::int64_t size() const { return m_size; }
 
 private:
     /// What the mapper is given: a shallow copy of the data of a block.
@@ -65,6 +68,7 @@ private:
     vtkSmartPointer<vtkTexture> m_texture;
     vtkNew<vtkTransform> m_textureTransform;
     double m_linePixels = 1.0;
+    std::int64_t m_size = 0;
     float m_layersInFront = -1.0F; ///< of faces, from this one to the last; negative for others
     int m_textureBands = 0;
     std::vector<Block> m_blocks;

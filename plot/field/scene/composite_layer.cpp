@@ -31,7 +31,7 @@ std::vector<CompositeLayer::Part> CompositeLayer::parts(bool byRun) const
     std::vector<Part> parts;
     std::map<MapperLook, std::size_t> open;
     for (auto block = m_blocks.begin(); block != m_blocks.end(); ++block) {
-        if (!block->second.data)
+        if (block->second.pieces.empty())
             continue;
         const MapperLook& look = block->second.look.mapper;
         if (byRun && open.count(look) == 0)
@@ -44,29 +44,52 @@ std::vector<CompositeLayer::Part> CompositeLayer::parts(bool byRun) const
     return parts;
 }
 
-void CompositeLayer::arrange()
+/// What one mapper draws.
+struct CompositeLayer::Share
+{
+    MapperLook look;
+    std::vector<Bucket::Block> blocks;
+};
+
+std::vector<CompositeLayer::Share> CompositeLayer::shares() const
 {
     std::vector<Part> drawn = parts(!m_flat);
     if (drawn.size() > kMostMappers)
         drawn = parts(false);
+    std::vector<Share> shares;
+    for (const Part& part : drawn) {
+        vtkIdType size = kLargestPiece;
+        for (const auto& block : part) {
+            for (const auto& piece : block->second.pieces) {
+                const vtkIdType added = cornerCount(*piece);
+                if (size + added > kLargestPiece) {
+                    shares.push_back({block->second.look.mapper, {}});
+                    size = 0;
+                }
+                shares.back().blocks.push_back({piece, block->second.look.color});
+                size += added;
+            }
+        }
+    }
+    return shares;
+}
+
+void CompositeLayer::arrange()
+{
     std::multimap<MapperLook, std::unique_ptr<Bucket>> free;
     for (std::unique_ptr<Bucket>& bucket : m_buckets)
         free.emplace(bucket->look(), std::move(bucket));
     m_buckets.clear();
-    for (const Part& part : drawn) {
-        const MapperLook& look = part.front()->second.look.mapper;
-        const auto known = free.lower_bound(look);
-        if (known != free.end() && known->first == look) {
+    for (Share& share : shares()) {
+        const auto known = free.lower_bound(share.look);
+        if (known != free.end() && known->first == share.look) {
             m_buckets.push_back(std::move(known->second));
             free.erase(known);
         } else {
-            m_buckets.push_back(std::make_unique<Bucket>(look, m_layer, m_flat));
-            rendererOf(look).AddActor(m_buckets.back()->actor());
+            m_buckets.push_back(std::make_unique<Bucket>(share.look, m_layer, m_flat));
+            rendererOf(share.look).AddActor(m_buckets.back()->actor());
         }
-        std::vector<Bucket::Block> blocks;
-        for (const auto& block : part)
-            blocks.push_back({block->second.data, block->second.look.color});
-        m_buckets.back()->setBlocks(std::move(blocks));
+        m_buckets.back()->setBlocks(std::move(share.blocks));
     }
     for (const auto& [look, bucket] : free)
         rendererOf(look).RemoveActor(bucket->actor());
@@ -94,7 +117,7 @@ void CompositeLayer::sync(CvlInt64 map, const std::optional<BlockLook>& look, co
     const bool recolors = !rebuilds && !moves && !isSameColor(block.look.color, look->color);
     block.look = *look;
     if (rebuilds)
-        block.data = build(look->recipe);
+        block.pieces = build(look->recipe);
     m_counters.built += rebuilds ? 1 : 0;
     m_counters.moved += moves ? 1 : 0;
     m_counters.recolored += recolors ? 1 : 0;
@@ -149,9 +172,10 @@ std::vector<int> CompositeLayer::groupsInUse() const
     std::set<int> groups;
     for (const auto& [map, block] : m_blocks) {
         const BlockRecipe& recipe = block.look.recipe;
-        if (block.data && block.look.mapper.floodGroup > 0)
+        if (!block.pieces.empty() && block.look.mapper.floodGroup > 0)
             groups.insert(block.look.mapper.floodGroup);
-        if (block.data && recipe.colorGroup > 0 && recipe.colorGroup < ContourGroups::kRed)
+        if (!block.pieces.empty() && recipe.colorGroup > 0
+            && recipe.colorGroup < ContourGroups::kRed)
             groups.insert(recipe.colorGroup);
     }
     return {groups.begin(), groups.end()};
@@ -162,10 +186,17 @@ bool CompositeLayer::draws(CvlInt64 map) const
     return m_visible && geometry(map);
 }
 
+const ShapePieces& CompositeLayer::pieces(CvlInt64 map) const
+{
+    static const ShapePieces kNone;
+    const auto found = m_blocks.find(map);
+    return found == m_blocks.end() ? kNone : found->second.pieces;
+}
+
 vtkPolyData* CompositeLayer::geometry(CvlInt64 map) const
 {
-    const auto found = m_blocks.find(map);
-    return found == m_blocks.end() ? nullptr : found->second.data.Get();
+    const ShapePieces& found = pieces(map);
+    return found.empty() ? nullptr : found.front().Get();
 }
 
 std::vector<vtkActor*> CompositeLayer::actors() const
@@ -173,6 +204,14 @@ std::vector<vtkActor*> CompositeLayer::actors() const
     std::vector<vtkActor*> result;
     for (const auto& bucket : m_buckets)
         result.push_back(bucket->actor());
+    return result;
+}
+
+std::vector<std::int64_t> CompositeLayer::actorSizes() const
+{
+    std::vector<std::int64_t> result;
+    for (const auto& bucket : m_buckets)
+        result.push_back(bucket->size());
     return result;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "plot/field/geometry/contour_groups.h"
+#include "plot/field/geometry/shape_pieces.h"
 #include "plot/field/scene/block_look.h"
 #include "plot/field/scene/layer_looks.h"
 
@@ -28,7 +29,8 @@ struct ViewScale
 /// mapper; colours are attributes of the blocks. What lies in the same place is covered by the map
 /// with the higher number: in space a mapper draws maps between which none looks otherwise, as long
 /// as that takes no more than `kMostMappers`. Beyond, and in a flat plot, where maps lie above each
-/// other, there is one mapper to a look.
+/// other, there is one mapper to a look. What is more than a mapper can draw in a moment is shared
+/// among several, one after the other.
 class CompositeLayer
 {
 public:
@@ -42,8 +44,8 @@ public:
         std::int64_t recolored = 0;
         std::int64_t removed = 0;
     };
-    /// Makes the geometry of a block; null when there is nothing to draw.
-    using Builder = std::function<vtkSmartPointer<vtkPolyData>(const BlockRecipe&)>;
+    /// Makes the geometry of a block.
+    using Builder = std::function<ShapePieces(const BlockRecipe&)>;
 
     CompositeLayer(FieldLayer layer, bool flat, vtkRenderer& back, vtkRenderer& front);
     ~CompositeLayer();
@@ -68,25 +70,31 @@ public:
     std::vector<int> groupsInUse() const;
 
     bool draws(CvlInt64 map) const;
-    /// The geometry of a map's block; null without one.
+    /// The geometry of a map's block.
+    const ShapePieces& pieces(CvlInt64 map) const;
+    /// The first of its pieces, which is all of it unless it is large; null without one.
     vtkPolyData* geometry(CvlInt64 map) const;
     /// How the block of a map looks that has one.
     const BlockLook& look(CvlInt64 map) const { return m_blocks.at(map).look; }
     const Counters& counters() const { return m_counters; }
     /// One actor per mapper, in the order in which they are to be drawn.
     std::vector<vtkActor*> actors() const;
+    /// What drawing each of them costs, as cornerCount.
+    std::vector<std::int64_t> actorSizes() const;
 
 private:
     class Bucket;
+    struct Share;
     struct Block
     {
         BlockLook look;
-        vtkSmartPointer<vtkPolyData> data; ///< null when there is nothing to draw
+        ShapePieces pieces;
     };
-    /// Maps that share a mapper.
+    /// Maps that look alike, and are drawn in a row.
     using Part = std::vector<std::map<CvlInt64, Block>::const_iterator>;
 
     std::vector<Part> parts(bool byRun) const;
+    std::vector<Share> shares() const;
     void arrange();
     vtkRenderer& rendererOf(const MapperLook& look) { return look.inFront ? m_front : m_back; }
     void updateVisibility();

@@ -182,6 +182,32 @@ void FieldScene::prepare(const ViewScale& scale)
         layer->setWidestLine(widest);
     orderActors(m_back);
     orderActors(m_front);
+    weighActors();
+}
+
+void FieldScene::weighActors()
+{
+    m_costs.clear();
+    for (const auto& layer : m_layers) {
+        const std::vector<vtkActor*> actors = layer->actors();
+        const std::vector<std::int64_t> sizes = layer->actorSizes();
+        for (std::size_t i = 0; i < actors.size(); ++i)
+            m_costs[actors[i]] = sizes[i];
+    }
+}
+
+std::int64_t FieldScene::drawingCost(vtkProp* prop) const
+{
+    const auto known = m_costs.find(prop);
+    return known == m_costs.end() ? 0 : known->second;
+}
+
+std::int64_t FieldScene::drawingCost() const
+{
+    std::int64_t all = 0;
+    for (const auto& [prop, cost] : m_costs)
+        all += prop->GetVisibility() ? cost : 0;
+    return all;
 }
 
 /// What lies in the same place is covered by what is drawn later: actors are drawn in the order of

@@ -40,9 +40,15 @@ public:
 
     /// Puts what is drawn in order and fits it to the view; call before drawing.
     void prepare(const ViewScale& scale);
+    /// What drawing one of its props costs, as cornerCount, since it was put in order; 0 for
+    /// others.
+    std::int64_t drawingCost(vtkProp* prop) const;
+    /// The same of everything that is visible.
+    std::int64_t drawingCost() const;
     /// Draws a few points in place of everything, until this is taken back: for a scene that takes
     /// too long to be drawn while it is moved.
     void setStandIn(bool standsIn);
+    bool isStandInShown() const { return m_standIn != nullptr; }
     /// Box round everything that is shown; invalid when nothing is.
     vtkBoundingBox bounds() const;
     /// The zone that is seen along a ray, nearest first; 0 for none. A zone is hit anywhere on its
@@ -77,6 +83,7 @@ private:
     bool noteValues(const host::Frame& frame, CvlInt64 map);
     CompositeLayer::Builder builderOf(const host::Frame& frame, CvlInt64 map);
     void orderActors(vtkRenderer& renderer) const;
+    void weighActors();
     CvlInt64 nearestZone(const PickRay& ray, LayerMask layers);
 
     std::shared_ptr<SurfaceCache> m_cache;
@@ -90,6 +97,7 @@ private:
     bool m_mayWait = false; ///< at present, for as long as it takes: nothing is handed over
     std::unique_ptr<BackgroundTask<ScenePiece>> m_task; ///< null while nothing is handed over
     ScenePiece m_piece; ///< the last that came back
+    std::unordered_map<vtkProp*, std::int64_t> m_costs;
     std::unique_ptr<StandIn> m_standIn; ///< null until it is needed, and after a change
 };
 

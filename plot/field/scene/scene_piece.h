@@ -19,7 +19,7 @@ struct ScenePiece
     std::vector<std::pair<GroupRanges::Unknown, GroupRanges::Range>> ranges;
     CvlInt64 map = 0;
     std::optional<BlockRecipe> recipe;
-    vtkSmartPointer<vtkPolyData> block;
+    ShapePieces block;
     std::vector<PlacedSurface> surfaces; ///< of the block's map
 
     bool isBlock(CvlInt64 ofMap, const BlockRecipe& from) const

@@ -59,7 +59,8 @@ void StandIn::take(const std::vector<const CompositeLayer*>& layers, const host:
     vtkIdType all = 0;
     for (const std::uint32_t map : maps)
         if (const CompositeLayer* layer = drawnBy(map))
-            all += layer->geometry(map)->GetNumberOfPoints();
+            for (const auto& piece : layer->pieces(map))
+                all += piece->GetNumberOfPoints();
     vtkNew<vtkPoints> points;
     vtkNew<vtkCellArray> vertices;
     vtkNew<vtkUnsignedCharArray> colors;
@@ -68,20 +69,22 @@ void StandIn::take(const std::vector<const CompositeLayer*>& layers, const host:
         const CompositeLayer* const layer = drawnBy(map);
         if (!layer)
             continue;
-        vtkPolyData& block = *layer->geometry(map);
-        const vtkIdType count = block.GetNumberOfPoints();
-        const double share = static_cast<double>(count) / static_cast<double>(all);
-        const auto taken =
-            std::min(count, kFewest + static_cast<vtkIdType>(share * static_cast<double>(kPoints)));
-        // Random points, each time the same: regular steps would beat with the rows of the points.
-        std::mt19937 random;
-        for (vtkIdType i = 0; i < taken; ++i) {
-            const auto source =
-                static_cast<vtkIdType>(random() % static_cast<std::uint64_t>(count));
-            const host::Rgb color = colorOf(block, layer->look(map), source, groups);
-            const vtkIdType point = points->InsertNextPoint(block.GetPoint(source));
-            vertices->InsertNextCell(1, &point);
-            colors->InsertNextTuple3(color.red, color.green, color.blue);
+        for (const auto& piece : layer->pieces(map)) {
+            const vtkIdType count = piece->GetNumberOfPoints();
+            const double share = static_cast<double>(count) / static_cast<double>(all);
+            const auto taken = std::min(
+                count, kFewest + static_cast<vtkIdType>(share * static_cast<double>(kPoints)));
+            // Random points, each time the same: regular steps would beat with the rows of the
+            // points.
+            std::mt19937 random;
+            for (vtkIdType i = 0; i < taken; ++i) {
+                const auto source =
+                    static_cast<vtkIdType>(random() % static_cast<std::uint64_t>(count));
+                const host::Rgb color = colorOf(*piece, layer->look(map), source, groups);
+                const vtkIdType point = points->InsertNextPoint(piece->GetPoint(source));
+                vertices->InsertNextCell(1, &point);
+                colors->InsertNextTuple3(color.red, color.green, color.blue);
+            }
         }
     }
     m_cloud->SetPoints(points);

@@ -17,12 +17,15 @@
 #include <vtkInteractorStyleTrackballCamera.h>
 #include <vtkRenderWindowInteractor.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace corvala::plot {
 
 static constexpr int kSamples = 8;
 static constexpr int kRestMilliseconds = 200; ///< without a movement, until the hand rests
+static constexpr std::int64_t kFirstBudget = 3 * kLargestPiece;
+static constexpr double kPartSeconds = 0.1; ///< for a part of a large picture
 static constexpr double kMovingSeconds = 0.12; ///< for a picture while the view is moved
 /// Software renderers leave holes in lines when they smooth by samples; there the picture at rest
 /// is drawn with twice the pixels each way, and made smaller.
@@ -72,6 +75,7 @@ FieldCanvas::FieldCanvas(QWidget* parent)
     , m_problem(openGlProblem())
     , m_cache(std::make_shared<SurfaceCache>())
     , m_view(m_cache)
+    , m_budget(kFirstBudget)
 {
     m_hand.setSingleShot(true);
     m_hand.setInterval(kRestMilliseconds);
@@ -155,31 +159,70 @@ bool FieldCanvas::isSlow() const
 void FieldCanvas::draw()
 {
     FieldScene& scene = m_view.scene();
-    const bool isQuick = m_hand.isActive() || scene.hasWork();
-    const bool standsIn = m_hand.isActive() && isSlow();
-    scene.setStandIn(standsIn);
-    QElapsedTimer clock;
-    clock.start();
-    drawSamples(isQuick || !isSoftwareOpenGl() ? 1 : kSoftwareSamples);
-    if (!standsIn)
-        (isQuick ? m_quickTime : m_restTime) = static_cast<double>(clock.nsecsElapsed()) * 1e-9;
+    m_isQuick = m_hand.isActive() || scene.hasWork();
+    scene.setStandIn(m_hand.isActive() && isSlow());
+    m_pictureTime = 0.0;
+    m_isUnfinished = false;
+    m_view.setCut(false);
+    m_view.parts().begin(m_budget);
+    drawPart();
+}
+
+void FieldCanvas::drawMore()
+{
+    m_view.parts().goOn(m_budget);
+    drawPart();
+}
+
+void FieldCanvas::stopDrawing()
+{
+    m_isUnfinished = false;
+    m_view.setCut(true);
+    m_view.parts().begin(m_budget);
     m_overlay->update();
 }
 
-/// Draws each pixel of the screen as `samples` by `samples`, which the widget makes smaller when it
-/// is painted.
-void FieldCanvas::drawSamples(int samples)
+std::pair<CvlInt64, CvlInt64> FieldCanvas::drawingProgress() const
 {
+    return {m_view.parts().drawn(), m_view.scene().drawingCost()};
+}
+
+/// Draws the next part of the picture, each pixel of the screen as one or several, which the widget
+/// makes smaller when it is painted.
+void FieldCanvas::drawPart()
+{
+    QElapsedTimer clock;
+    clock.start();
+    const int samples = m_isQuick || !isSoftwareOpenGl() ? 1 : kSoftwareSamples;
     vtkRenderWindow* const window = m_widget->renderWindow();
     const QSize drawn(window->GetSize()[0], window->GetSize()[1]);
     m_view.setSize(size(), samples * devicePixelRatioF());
     window->SetSize(samples * drawn.width(), samples * drawn.height());
-    m_view.prepare();
+    if (!m_isUnfinished)
+        m_view.prepare();
     window->Render();
     window->WaitForCompletion();
     // Between drawings, places are those of the screen: the mouse goes by them.
     window->SetSize(drawn.width(), drawn.height());
     m_view.setSize(size(), devicePixelRatioF());
+    m_isUnfinished = m_view.parts().hasMore();
+    learn(static_cast<double>(clock.nsecsElapsed()) * 1e-9);
+    if (!m_isUnfinished)
+        m_view.parts().begin(m_budget); // when the widget wishes
+    m_overlay->update();
+}
+
+/// From the time that a part took: how much to draw at a time, and how long a picture takes.
+void FieldCanvas::learn(double seconds)
+{
+    if (seconds > 1.5 * kPartSeconds)
+        m_budget = std::max<std::int64_t>(m_budget / 2, kLargestPiece);
+    else if (m_isUnfinished && seconds < kPartSeconds / 2)
+        m_budget *= 2;
+    m_pictureTime += seconds;
+    double& known = m_isQuick ? m_quickTime : m_restTime;
+    if (!m_view.scene().isStandInShown())
+        known = m_isUnfinished ? std::max(known, m_pictureTime) : m_pictureTime;
 }
 
 QImage FieldCanvas::render(const QSize& size, QString* error)

@@ -22,6 +22,10 @@ public:
 
     FieldScene& scene() override { return m_view.scene(); }
     void draw() override;
+    bool isUnfinished() const override { return m_isUnfinished; }
+    void drawMore() override;
+    void stopDrawing() override;
+    std::pair<CvlInt64, CvlInt64> drawingProgress() const override;
     QImage render(const QSize& size, QString* error) override;
     QString problem() const override { return m_problem; }
     bool isBeingMoved() const override { return m_hand.isActive(); }
@@ -31,6 +35,9 @@ public:
 
     /// From where the plot is seen, for tests and diagnosis.
     FieldView& fieldView() { return m_view; }
+    /// How much of a picture to draw at a time, as cornerCount, until the time that it takes says
+    /// better.
+    void setPartSize(std::int64_t corners) { m_budget = corners; }
 
 protected:
     CvlInt64 numberAt(const QPointF& place) override { return m_view.zoneAt(place); }
@@ -45,7 +52,8 @@ private:
     class Picture;
 
     void makeWidgets();
-    void drawSamples(int samples);
+    void drawPart();
+    void learn(double seconds);
     bool isSlow() const;
     void takeHold();
 
@@ -55,6 +63,10 @@ private:
     QVTKOpenGLNativeWidget* m_widget = nullptr; // not owned; null without OpenGL
     QWidget* m_overlay = nullptr; // not owned
     QTimer m_hand; ///< runs while the view is being moved, and until the hand rests
+    bool m_isUnfinished = false; ///< more of the picture follows
+    bool m_isQuick = false; ///< it is without smoothing
+    double m_pictureTime = 0.0; ///< so far, in seconds
+    std::int64_t m_budget; ///< cost of what is drawn at a time
     double m_quickTime = 0.0; ///< of a full picture without smoothing, in seconds; 0 when unknown
     double m_restTime = 0.0; ///< of one with it
 };

@@ -31,6 +31,8 @@ static vtkSmartPointer<vtkLight> shoulderLight()
 
 FieldView::FieldView(std::shared_ptr<SurfaceCache> cache)
     : m_scene(std::make_unique<FieldScene>(*m_back, *m_front, std::move(cache)))
+    , m_parts({m_paper, m_back, m_front},
+              [this](vtkProp* prop) { return m_scene->drawingCost(prop); })
 {
     m_paper->SetBackground(1.0, 1.0, 1.0);
     m_paper->SetInteractive(0);
@@ -332,7 +334,11 @@ void FieldView::paintDecorations(QPainter& painter)
         paintOrientation(painter, m_layout, view.directions, titles);
     }
     paintLegends(painter, m_layout, m_legends);
-    paintNotice(painter, m_layout, m_scene->notice());
+    const QString notice = m_scene->notice();
+    paintNotice(painter, m_layout,
+                notice.isEmpty() && m_isCut
+                    ? tr("Drawing was cancelled: the picture is not complete")
+                    : notice);
 }
 
 CvlInt64 FieldView::zoneAt(const QPointF& point)

@@ -4,8 +4,10 @@
 #include "plot/field/geometry/surface_cache.h"
 #include "plot/field/scene/field_scene.h"
 #include "plot/field/view/decorations.h"
+#include "plot/field/view/drawing_parts.h"
 #include "plot/field/view/space_axes.h"
 
+#include <QCoreApplication>
 #include <QSize>
 
 #include <vtkNew.h>
@@ -33,11 +35,14 @@ struct CameraState
 /// same on the screen and in an image.
 class FieldView
 {
+    Q_DECLARE_TR_FUNCTIONS(corvala::plot::FieldView)
+
 public:
     explicit FieldView(std::shared_ptr<SurfaceCache> cache);
     ~FieldView();
 
     FieldScene& scene() { return *m_scene; }
+    const FieldScene& scene() const { return *m_scene; }
     vtkRenderer& renderer() { return *m_back; }
 
     /// The window must outlive the view, or be detached by passing null.
@@ -63,6 +68,11 @@ public:
 
     /// Brings what depends on scene and camera up to date; call before drawing.
     void prepare();
+    /// How much of a picture is drawn at a time; all of it, unless it is told otherwise.
+    DrawingParts& parts() { return m_parts; }
+    const DrawingParts& parts() const { return m_parts; }
+    /// Remarks that the picture is not complete.
+    void setCut(bool isCut) { m_isCut = isCut; }
     /// Axes, legends and remarks, over the drawing.
     void paintDecorations(QPainter& painter);
 
@@ -84,7 +94,9 @@ private:
     vtkNew<vtkRenderer> m_back;
     vtkNew<vtkRenderer> m_front;
     std::unique_ptr<FieldScene> m_scene;
+    DrawingParts m_parts;
     vtkRenderWindow* m_window = nullptr; // not owned
+    bool m_isCut = false;
     bool m_flat = false;
     bool m_isFitted = true; ///< as in CameraState
     bool m_followsScene = true; ///< the fit still grows with a scene that is being made

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/view/drawing_parts.h"
+
+#include <vtkCuller.h>
+#include <vtkObjectFactory.h>
+#include <vtkProp.h>
+#include <vtkRenderer.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace corvala::plot {
+
+/// What a renderer draws of the picture: it is asked when the renderer is about to draw.
+class DrawingParts::Part : public vtkCuller
+{
+public:
+    static Part* New();
+    double Cull(vtkRenderer*, vtkProp** props, int& count, int&) override
+    {
+        count = owner->choose(*this, props, count);
+        return count;
+    }
+
+    DrawingParts* owner = nullptr;
+    vtkRenderer* renderer = nullptr;
+    int done = 0; ///< props that are drawn; -1 before the renderer begins
+};
+
+vtkStandardNewMacro(DrawingParts::Part);
+
+DrawingParts::DrawingParts(const std::vector<vtkRenderer*>& renderers, SizeOf sizeOf)
+    : m_sizeOf(std::move(sizeOf))
+{
+    for (vtkRenderer* const renderer : renderers) {
+        const auto part = vtkSmartPointer<Part>::New();
+        part->owner = this;
+        part->renderer = renderer;
+        renderer->AddCuller(part);
+        m_parts.push_back(part);
+    }
+}
+
+DrawingParts::~DrawingParts()
+{
+    for (const auto& part : m_parts)
+        part->renderer->RemoveCuller(part);
+}
+
+void DrawingParts::begin(std::int64_t budget)
+{
+    m_isWhole = false;
+    m_drawn = 0;
+    for (const auto& part : m_parts)
+        part->done = -1;
+    goOn(budget);
+    m_parts.front()->renderer->EraseOn();
+}
+
+void DrawingParts::goOn(std::int64_t budget)
+{
+    m_left = budget;
+    m_hasMore = false;
+    for (const auto& part : m_parts)
+        part->renderer->EraseOff();
+}
+
+/// Renderers are asked one after the other, but for those that show nothing. One of them clears its
+/// layer when it begins, and begins when those before it are done.
+int DrawingParts::choose(Part& part, vtkProp** props, int count)
+{
+    if (m_isWhole || m_hasMore)
+        return m_isWhole ? count : 0;
+    if (part.done < 0) {
+        part.renderer->EraseOn();
+        part.done = 0;
+    }
+    const int from = part.done;
+    while (part.done < count && m_left > 0) {
+        const std::int64_t size = m_sizeOf(props[part.done++]);
+        m_left -= size;
+        m_drawn += size;
+    }
+    m_hasMore = part.done < count;
+    std::copy(props + from, props + part.done, props);
+    return part.done - from;
+}
+
+} // namespace corvala::plot
