@@ -101,19 +101,37 @@ static QStringList drawnOrder(vtkRenderer& renderer)
     return result;
 }
 
-/// A plane of 300 by 300 points; tells whether the main thread asked for it.
+/// A plane of 300 by 300 points; tells whether the main thread asked for it, and fails on request.
 class LargeZone : public host::ZoneSource
 {
 public:
     vtkSmartPointer<vtkDataSet> zone(std::int64_t) const override
     {
+        if (m_fails)
+            throw std::bad_alloc();
         m_askedHere = m_askedHere || QThread::currentThread() == qApp->thread();
         auto plane = vtkSmartPointer<vtkImageData>::New();
         plane->SetDimensions(300, 300, 1);
         return plane;
     }
     mutable std::atomic<bool> m_askedHere {false};
+    std::atomic<bool> m_fails {false};
 };
+
+/// Opens a large zone.
+static std::shared_ptr<LargeZone> openLarge()
+{
+    const auto source = std::make_shared<LargeZone>();
+    const auto data = std::make_shared<host::DataSet>();
+    data->source = source;
+    data->zones = {{"large", true, {300, 300, 1}, 90'000, 89'401, 2}};
+    data->variables = {{"X", {}, {}, 0}, {"Y", {}, {}, 1}};
+    data->contourVariables = {1};
+    document().clear();
+    document().execute(host::AddFrame {});
+    document().execute(host::AttachData {{}, data, PlotType_Field2D, 0});
+    return source;
+}
 
 static std::array<double, 2> centreOf(CvlInt64 zone)
 {
@@ -514,15 +532,7 @@ private Q_SLOTS:
 
     void largeZonesAreMadeElsewhere()
     {
-        const auto source = std::make_shared<LargeZone>();
-        const auto data = std::make_shared<host::DataSet>();
-        data->source = source;
-        data->zones = {{"large", true, {300, 300, 1}, 90'000, 89'401, 2}};
-        data->variables = {{"X", {}, {}, 0}, {"Y", {}, {}, 1}};
-        data->contourVariables = {1};
-        document().clear();
-        document().execute(host::AddFrame {});
-        document().execute(host::AttachData {{}, data, PlotType_Field2D, 0});
+        const auto source = openLarge();
         write("FieldLayers/ShowContour", "", 1);
         m_scene->setFrame(document().activeFrameId());
         m_scene->advance(0);
@@ -553,6 +563,21 @@ private Q_SLOTS:
         QVERIFY(layer(FieldLayer::Mesh).geometry(1)->GetPointData()->GetScalars());
         beginMesh(0);
         m_scene.reset(); // while something is being made for it
+    }
+
+    void failuresAreNamed()
+    {
+        const auto source = openLarge();
+        write("FieldLayers/ShowContour", "", 1);
+        source->m_fails = true;
+        m_scene->setFrame(document().activeFrameId());
+        QTRY_VERIFY(!m_scene->advance(1));
+        QVERIFY2(m_scene->notice().contains("large"), qPrintable(m_scene->notice()));
+        source->m_fails = false;
+        write("FieldMap/Mesh/LinePattern", "1", 1); // another mesh is tried
+        QTRY_VERIFY(!m_scene->advance(1));
+        QVERIFY(layer(FieldLayer::Mesh).geometry(1));
+        QVERIFY(!layer(FieldLayer::Edges).geometry(1));
     }
 
     void threadsLetGoBeforeTheyAreDone()

@@ -8,6 +8,7 @@
 #include <vtkRenderer.h>
 
 #include <algorithm>
+#include <exception>
 #include <set>
 
 namespace corvala::plot {
@@ -34,6 +35,7 @@ void FieldScene::clear(const host::Frame* drawn, Fresh reason)
     setStandIn(false);
     m_task.reset();
     m_piece = {};
+    m_failures.clear();
     m_surfaces.clear();
     m_ranges.clear();
     for (std::size_t i = 0; i < kFieldLayerCount; ++i)
@@ -88,15 +90,18 @@ bool FieldScene::handOverValues(const host::Frame& drawn, const ShownMap& shown)
     };
     if (m_mayWait || std::none_of(wanted.begin(), wanted.end(), isOfLargeZone))
         return false;
+    m_handed = {shown.map, kFieldLayerCount, {}, wanted};
     m_task =
         std::make_unique<BackgroundTask<ScenePiece>>(makerOfRanges(drawn.sharedData(), wanted));
     return true;
 }
 
-bool FieldScene::handOverBlock(const host::Frame& drawn, CvlInt64 map, const BlockRecipe& recipe)
+bool FieldScene::handOverBlock(const host::Frame& drawn, CvlInt64 map, std::size_t layer,
+                               const BlockRecipe& recipe)
 {
     if (m_mayWait || !isLarge(drawn.data()->zone(recipe.zone)) || m_piece.isBlock(map, recipe))
         return false;
+    m_handed = {map, layer, recipe, {}};
     m_task = std::make_unique<BackgroundTask<ScenePiece>>(makerOfBlock(
         {drawn.sharedData(), m_groups, m_cache, map, recipe, m_flat, m_surfaces[map]}));
     return true;
@@ -108,11 +113,53 @@ bool FieldScene::takeBack(const host::Frame& drawn, int milliseconds)
         return true;
     if (!m_task->wait(milliseconds))
         return false;
-    m_piece = m_task->take();
+    try {
+        m_piece = m_task->take();
+    } catch (const std::exception& problem) {
+        m_piece = {};
+        giveUp(drawn, m_handed, problem.what());
+    }
     m_task.reset();
     for (const auto& [values, range] : m_piece.ranges)
         m_ranges.learn(*drawn.data(), values, range);
     return true;
+}
+
+void FieldScene::giveUp(const host::Frame& drawn, const Handed& handed, const char* reason)
+{
+    for (const GroupRanges::Unknown& values : handed.values)
+        m_ranges.learn(*drawn.data(), values, {});
+    const CvlInt64 zone = drawn.candidateZone(handed.map);
+    const QString what = handed.layer < kFieldLayerCount
+        ? layerName(static_cast<FieldLayer>(handed.layer))
+        : tr("Values");
+    m_failures[{handed.map, handed.layer}] = {
+        handed.recipe,
+        tr("Not drawn: %1 of zone %2 (%3)")
+            .arg(what, QString::fromStdString(drawn.data()->zone(zone).name),
+                 QString::fromLocal8Bit(reason))};
+}
+
+/// Whether a block would fail again; what failed is forgotten when another is wanted.
+bool FieldScene::isGivenUp(CvlInt64 map, std::size_t layer, const std::optional<BlockLook>& look)
+{
+    const auto failure = m_failures.find({map, layer});
+    if (failure == m_failures.end())
+        return false;
+    const bool isSame = look && failure->second.recipe == look->recipe;
+    if (!isSame)
+        m_failures.erase(failure);
+    return isSame;
+}
+
+QString FieldScene::notice() const
+{
+    const QString notice = MapScene::notice();
+    if (!notice.isEmpty() || m_failures.empty())
+        return notice;
+    const QString first = m_failures.begin()->second.text;
+    const auto more = static_cast<int>(m_failures.size()) - 1;
+    return more > 0 ? tr("%1, and %Ln more", nullptr, more).arg(first) : first;
 }
 
 bool FieldScene::noteValues(const host::Frame& drawn, CvlInt64 map)
@@ -144,6 +191,18 @@ CompositeLayer::Builder FieldScene::builderOf(const host::Frame& drawn, CvlInt64
     };
 }
 
+void FieldScene::syncLayer(const host::Frame& drawn, CvlInt64 map, std::size_t layer,
+                           const std::optional<BlockLook>& look)
+{
+    const CompositeLayer::Builder build = builderOf(drawn, map);
+    try {
+        m_layers[layer]->sync(map, look, build);
+    } catch (const std::exception& problem) {
+        giveUp(drawn, {map, layer, look->recipe, {}}, problem.what());
+        m_layers[layer]->sync(map, std::nullopt, build);
+    }
+}
+
 LayerMask FieldScene::sync(const host::Frame& drawn, CvlInt64 map, LayerMask layers, bool isShown)
 {
     const LayerMask values = layers & fieldSceneKind().valuesBit();
@@ -152,11 +211,12 @@ LayerMask FieldScene::sync(const host::Frame& drawn, CvlInt64 map, LayerMask lay
     for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
         if (!(layers & maskOf(i)))
             continue;
-        const auto look =
-            isShown ? lookOf(static_cast<FieldLayer>(i), shown, m_groups) : std::nullopt;
-        if (m_layers[i]->builds(map, look) && handOverBlock(drawn, map, look->recipe))
+        auto look = isShown ? lookOf(static_cast<FieldLayer>(i), shown, m_groups) : std::nullopt;
+        if (isGivenUp(map, i, look))
+            look.reset();
+        if (m_layers[i]->builds(map, look) && handOverBlock(drawn, map, i, look->recipe))
             return done;
-        m_layers[i]->sync(map, look, builderOf(drawn, map));
+        syncLayer(drawn, map, i, look);
         done |= maskOf(i);
     }
     return done;

@@ -11,6 +11,7 @@
 #include <vtkBoundingBox.h>
 
 #include <array>
+#include <map>
 #include <memory>
 #include <unordered_map>
 
@@ -27,6 +28,8 @@ struct FieldLegend
 /// seen through it.
 class FieldScene : public MapScene
 {
+    Q_DECLARE_TR_FUNCTIONS(corvala::plot::FieldScene)
+
 public:
     /// Maps that are drawn at most; each costs memory for its blocks.
     static constexpr CvlInt64 kLargestScene = 20'000;
@@ -37,6 +40,7 @@ public:
 
     bool advance(int milliseconds) override;
     void cancel() override;
+    QString notice() const override;
 
     /// Puts what is drawn in order and fits it to the view; call before drawing.
     void prepare(const ViewScale& scale);
@@ -76,9 +80,30 @@ protected:
     host::NumberSet transientMaps(const host::Frame& frame) const override;
 
 private:
+    /// A block that could not be made; it is not tried again.
+    struct Failure
+    {
+        BlockRecipe recipe;
+        QString text; ///< for the user
+    };
+    /// What another thread makes at present.
+    struct Handed
+    {
+        CvlInt64 map = 0;
+        std::size_t layer = kFieldLayerCount; ///< of a block
+        BlockRecipe recipe;
+        std::vector<GroupRanges::Unknown> values;
+    };
+
+    /// Notes why a block, or values, could not be made, and does without.
+    void giveUp(const host::Frame& frame, const Handed& handed, const char* reason);
+    bool isGivenUp(CvlInt64 map, std::size_t layer, const std::optional<BlockLook>& look);
+    void syncLayer(const host::Frame& frame, CvlInt64 map, std::size_t layer,
+                   const std::optional<BlockLook>& look);
     /// True when the values, or the block, of the map were given to another thread.
     bool handOverValues(const host::Frame& frame, const ShownMap& map);
-    bool handOverBlock(const host::Frame& frame, CvlInt64 map, const BlockRecipe& recipe);
+    bool handOverBlock(const host::Frame& frame, CvlInt64 map, std::size_t layer,
+                       const BlockRecipe& recipe);
     /// False when the values of the map were given to another thread.
     bool noteValues(const host::Frame& frame, CvlInt64 map);
     CompositeLayer::Builder builderOf(const host::Frame& frame, CvlInt64 map);
@@ -96,6 +121,8 @@ private:
     GroupRanges m_ranges;
     bool m_mayWait = false; ///< at present, for as long as it takes: nothing is handed over
     std::unique_ptr<BackgroundTask<ScenePiece>> m_task; ///< null while nothing is handed over
+    Handed m_handed; ///< while there is a task
+    std::map<std::pair<CvlInt64, std::size_t>, Failure> m_failures; ///< by map and layer
     ScenePiece m_piece; ///< the last that came back
     std::unordered_map<vtkProp*, std::int64_t> m_costs;
     std::unique_ptr<StandIn> m_standIn; ///< null until it is needed, and after a change

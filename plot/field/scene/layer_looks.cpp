@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/scene/layer_looks.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <iterator>
 
@@ -252,6 +254,12 @@ std::optional<BlockLook> lookOf(FieldLayer layer, const ShownMap& map, const Con
 bool isLayerOn(const host::Frame& frame, FieldLayer layer)
 {
     return frame.isOn(layerAt(static_cast<std::size_t>(layer)).style->shown);
+}
+
+QString layerName(FieldLayer layer)
+{
+    return QCoreApplication::translate("StyleValues",
+                                       layerAt(static_cast<std::size_t>(layer)).style->name);
 }
 
 LayerMask coloredLayers()

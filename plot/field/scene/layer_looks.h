@@ -5,6 +5,8 @@
 #include "plot/field/geometry/contour_groups.h"
 #include "plot/field/scene/block_look.h"
 
+#include <QString>
+
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -41,6 +43,8 @@ std::optional<BlockLook> lookOf(FieldLayer layer, const ShownMap& map, const Con
 std::vector<int> groupsShown(const ShownMap& map, const ContourGroups& groups);
 
 bool isLayerOn(const host::Frame& frame, FieldLayer layer);
+/// Name of the layer of the style that it is part of, for the user.
+QString layerName(FieldLayer layer);
 /// Layers that may be coloured by the values of a contour group.
 LayerMask coloredLayers();
 
