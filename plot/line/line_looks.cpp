@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_looks.h"
 
-#include "host/document/document.h"
-#include "plot/common/line_patterns.h"
-
 #include <algorithm>
 #include <iterator>
 
@@ -30,24 +27,6 @@ LineAxes axesOf(const host::Frame& frame, CvlInt64 map)
     return {number(kMap.assign.xAxis), number(kMap.assign.yAxis)};
 }
 
-static LineLook linesLook(const ShownLine& line)
-{
-    const auto number = [&line](style::Key key) { return line.frame.lineInteger(key, line.map); };
-    const auto real = [&line](style::Key key) { return line.frame.lineReal(key, line.map); };
-    const host::Rgb color = host::Document::instance().color(number(kMap.lines.color));
-    LineLook look;
-    look.recipe = recipeOf(line.frame, line.map);
-    look.axes = axesOf(line.frame, line.map);
-    look.stroke.color = QColor(color.red, color.green, color.blue);
-    look.stroke.width = linePixels(real(kMap.lines.lineThickness), line.height);
-    const int pattern = number(kMap.lines.linePattern);
-    const double period = real(kMap.lines.patternLength) / 100.0 * line.height;
-    if (pattern != LinePattern_Solid)
-        for (const double part : patternStrokes(pattern))
-            look.stroke.pattern.push_back(part * period);
-    return look;
-}
-
 /// What layers use besides the values of their own.
 enum Use : unsigned {
     Assigned = 1 ///< zone, variables and axes
@@ -57,19 +36,19 @@ static constexpr SharedStyle kShared[] = {
     {style::activeLineMaps, false},
 };
 
-/// What tells the layers apart, in the order of LineLayer.
+/// What tells the layers apart, from back to front.
 struct LineLayerDescription
 {
     SceneLayer layer;
-    LineLook (*look)(const ShownLine&);
+    const ChartLayer* chart;
 
     bool isIn(const host::Frame& frame, CvlInt64 map) const
     {
         return frame.lineInteger(layer.style->shownForMap, map) != 0;
     }
 };
-static constexpr LineLayerDescription kLayers[kLineLayerCount] = {
-    {{&style::kLinesLayer, Assigned}, linesLook},
+static constexpr LineLayerDescription kLayers[] = {
+    {{&style::kLinesLayer, Assigned}, &kChartLines},
 };
 
 static const SceneLayer& layerAt(std::size_t number)
@@ -82,7 +61,7 @@ const SceneKind& lineSceneKind()
     static constexpr SceneKind kKind {&host::Frame::isLinePlot,
                                       &host::Frame::activeLineMaps,
                                       StateCode_LineMapListChanged,
-                                      kLineLayerCount,
+                                      std::size(kLayers),
                                       layerAt,
                                       kShared,
                                       std::size(kShared),
@@ -90,17 +69,19 @@ const SceneKind& lineSceneKind()
     return kKind;
 }
 
-std::optional<LineLook> lookOf(LineLayer layer, const ShownLine& line)
+const ChartLayer& chartLayer(std::size_t layer)
 {
-    const LineLayerDescription& description = kLayers[static_cast<std::size_t>(layer)];
-    if (!description.isIn(line.frame, line.map))
-        return std::nullopt;
-    return description.look(line);
+    return *kLayers[layer].chart;
 }
 
-bool isLayerOn(const host::Frame& frame, LineLayer layer)
+bool isInLayer(const host::Frame& frame, CvlInt64 map, std::size_t layer)
 {
-    return frame.isOn(layerAt(static_cast<std::size_t>(layer)).style->shown);
+    return kLayers[layer].isIn(frame, map);
+}
+
+bool isLayerOn(const host::Frame& frame, std::size_t layer)
+{
+    return frame.isOn(layerAt(layer).style->shown);
 }
 
 bool isInAnyLayer(const host::Frame& frame, CvlInt64 map)

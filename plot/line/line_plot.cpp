@@ -16,6 +16,7 @@ LinePlot::LinePlot(QCustomPlot& plot)
     , m_plot(plot)
     , m_chart(makeXyChart(plot))
     , m_patience(m_chart->patience())
+    , m_recipes(lineSceneKind().layerCount)
 {
 }
 
@@ -29,7 +30,7 @@ void LinePlot::clear(const host::Frame* drawn, Fresh)
     m_chart->setPatience(m_patience);
     if (!m_isFitted && m_plotType == plotTypeBefore)
         m_chart->setRange(range);
-    m_recipes.clear();
+    m_recipes.assign(m_recipes.size(), {});
     applyHeight();
 }
 
@@ -55,9 +56,13 @@ void LinePlot::setPatience(int milliseconds)
 
 LayerMask LinePlot::showLayers(const host::Frame& drawn)
 {
-    const bool hasLines = isLayerOn(drawn, LineLayer::Lines);
-    m_chart->setLinesVisible(hasLines);
-    return hasLines ? maskOf(LineLayer::Lines) : 0;
+    LayerMask shown = 0;
+    for (std::size_t layer = 0; layer < m_recipes.size(); ++layer) {
+        const bool isOn = isLayerOn(drawn, layer);
+        chartLayer(layer).setVisible(*m_chart, isOn);
+        shown |= isOn ? maskOf(layer) : 0;
+    }
+    return shown;
 }
 
 bool LinePlot::canShow(const host::Frame& drawn, CvlInt64 map) const
@@ -67,24 +72,37 @@ bool LinePlot::canShow(const host::Frame& drawn, CvlInt64 map) const
 
 void LinePlot::forget(CvlInt64 map)
 {
-    m_chart->removeLine(map);
-    m_recipes.erase(map);
+    for (std::size_t layer = 0; layer < m_recipes.size(); ++layer)
+        removeFrom(layer, map);
+}
+
+void LinePlot::removeFrom(std::size_t layer, CvlInt64 map)
+{
+    chartLayer(layer).remove(*m_chart, map);
+    m_recipes[layer].erase(map);
+}
+
+void LinePlot::syncLayer(std::size_t layer, const ShownLine& line, bool isShown)
+{
+    if (!isShown || !isInLayer(line.frame, line.map, layer)) {
+        removeFrom(layer, line.map);
+        return;
+    }
+    const LineRecipe recipe = recipeOf(line.frame, line.map);
+    const auto known = m_recipes[layer].find(line.map);
+    if (known == m_recipes[layer].end() || !(known->second == recipe)) {
+        chartLayer(layer).setPoints(*m_chart, line.map, lineData(*line.frame.data(), recipe));
+        m_recipes[layer][line.map] = recipe;
+    }
+    chartLayer(layer).setLook(*m_chart, line);
 }
 
 LayerMask LinePlot::sync(const host::Frame& drawn, CvlInt64 map, LayerMask layers, bool isShown)
 {
     ++m_syncs;
-    const auto look = isShown ? lookOf(LineLayer::Lines, {drawn, map, m_height}) : std::nullopt;
-    if (!look) {
-        forget(map);
-        return layers;
-    }
-    const auto recipe = m_recipes.find(map);
-    if (recipe == m_recipes.end() || !(recipe->second == look->recipe)) {
-        m_chart->setLine(map, lineData(*drawn.data(), look->recipe));
-        m_recipes[map] = look->recipe;
-    }
-    m_chart->ink().setLook(map, look->stroke, look->axes);
+    for (std::size_t layer = 0; layer < m_recipes.size(); ++layer)
+        if (layers & maskOf(layer))
+            syncLayer(layer, {drawn, map, m_height}, isShown);
     return layers;
 }
 

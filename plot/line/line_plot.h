@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 
 #include <unordered_map>
+#include <vector>
 
 namespace corvala::plot {
 
@@ -57,15 +58,18 @@ protected:
 
 private:
     void applyHeight();
+    void syncLayer(std::size_t layer, const ShownLine& line, bool isShown);
+    void removeFrom(std::size_t layer, CvlInt64 map);
     void updateTitles(const host::Frame& frame);
 
     QCustomPlot& m_plot;
     std::unique_ptr<LineChart> m_chart;
-    std::unordered_map<CvlInt64, LineRecipe> m_recipes; ///< of the lines in the chart
     PlotType_e m_plotType = PlotType_None;
     bool m_isFitted = true;
     int m_height = 1;
     int m_patience;
+    /// By layer, of the maps that have points there.
+    std::vector<std::unordered_map<CvlInt64, LineRecipe>> m_recipes;
     std::int64_t m_syncs = 0;
 };
 

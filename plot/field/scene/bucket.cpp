@@ -18,6 +18,7 @@ namespace corvala::plot {
 
 /// Distance of the layers of a map in a flat plot, where maps lie one unit above each other.
 static constexpr double kLayerHeight = 0.1;
+static_assert(kLayerHeight * kFieldLayerCount < 1.0);
 static constexpr int kPatternTexels = 128;
 static constexpr double kPointPixels = 5.0;
 
@@ -84,19 +85,20 @@ void CompositeLayer::Bucket::setDepthShader(const std::string& depth)
 /// at an angle; the renderer's own offset knows nothing of the angle.
 void CompositeLayer::Bucket::setDepth(FieldLayer layer, bool flat)
 {
+    const LayerPlace place = placeOf(layer);
     if (flat) {
-        m_actor->SetPosition(0.0, 0.0, kLayerHeight * static_cast<double>(layer));
+        m_actor->SetPosition(0.0, 0.0, kLayerHeight * static_cast<double>(place.number));
         return;
     }
-    if (layer > FieldLayer::Flood) {
-        const auto layersInFront = static_cast<int>(FieldLayer::Edges) - static_cast<int>(layer);
-        if (layersInFront > 0)
-            setDepthShader("gl_FragCoord.z + " + std::to_string(layersInFront) + "e-6");
+    if (!place.isOfFaces) {
+        if (place.inFront > 0)
+            setDepthShader("gl_FragCoord.z + " + std::to_string(place.inFront) + "e-6");
         return;
     }
-    setDepthShader("gl_FragCoord.z + 4e-6\n"
-                   "  + setBack * max(abs(dFdx(gl_FragCoord.z)), abs(dFdy(gl_FragCoord.z)))");
-    m_layersInFront = static_cast<float>(FieldLayer::Flood) - static_cast<float>(layer);
+    setDepthShader("gl_FragCoord.z + " + std::to_string(kMostLineLayers)
+                   + "e-6\n"
+                     "  + setBack * max(abs(dFdx(gl_FragCoord.z)), abs(dFdy(gl_FragCoord.z)))");
+    m_layersInFront = static_cast<float>(place.inFront);
     setWidestLine(1.0);
 }
 

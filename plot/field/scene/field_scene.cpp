@@ -303,8 +303,7 @@ void FieldScene::setStandIn(bool standsIn)
         m_standIn.reset();
     } else if (!m_standIn) {
         std::vector<const CompositeLayer*> layers;
-        for (const auto layer : {FieldLayer::Flood, FieldLayer::Shade, FieldLayer::ContourLines,
-                                 FieldLayer::Mesh, FieldLayer::Background, FieldLayer::Edges})
+        for (const FieldLayer layer : layersToStandIn())
             layers.push_back(m_layers[static_cast<std::size_t>(layer)].get());
         m_standIn = std::make_unique<StandIn>();
         m_standIn->take(layers, shownMaps(), m_groups);
@@ -346,9 +345,9 @@ CvlInt64 FieldScene::nearestZone(const PickRay& ray, LayerMask layers)
 
 CvlInt64 FieldScene::zoneAt(const PickRay& ray)
 {
-    const LayerMask edges = maskOf(FieldLayer::Edges);
-    const CvlInt64 zone = nearestZone(ray, fieldSceneKind().allLayers() & ~edges);
-    return zone != 0 ? zone : nearestZone(ray, edges);
+    const LayerMask outlines = outlineLayers();
+    const CvlInt64 zone = nearestZone(ray, fieldSceneKind().allLayers() & ~outlines);
+    return zone != 0 ? zone : nearestZone(ray, outlines);
 }
 
 static QString shownName(const host::Frame& drawn, CvlInt64 variable)

@@ -197,11 +197,13 @@ static std::optional<BlockLook> edgesLook(const ShownMap& shown, const ContourGr
     return look;
 }
 
-/// What layers use besides the values of their own.
+/// What layers use besides the values of their own, and what they are.
 enum Use : unsigned {
     Surfaces = 1, ///< of volume zones
     Light = 2,
-    Values = 4 ///< of contour groups and RGB channels
+    Values = 4, ///< of contour groups and RGB channels
+    Faces = 8, ///< is made of faces, and not of lines or points
+    Outline = 16 ///< shows where a zone is, and nothing of what is on it
 };
 static constexpr SharedStyle kShared[] = {
     {kMap.surfaces.surfacesToPlot, true, Surfaces},
@@ -213,20 +215,34 @@ static constexpr SharedStyle kShared[] = {
     {style::activeFieldZones, false},
 };
 
-/// What tells the layers apart, in the order of FieldLayer.
+/// What tells the layers apart, from back to front.
 struct LayerDescription
 {
+    FieldLayer id;
+    int standIn; ///< rank, when points of one layer stand in for a map
     SceneLayer layer;
     std::optional<BlockLook> (*look)(const ShownMap&, const ContourGroups&);
 };
-static constexpr LayerDescription kLayers[kFieldLayerCount] = {
-    {{&style::kMeshLayer, Surfaces}, backgroundLook},
-    {{&style::kShadeLayer, Surfaces | Light}, shadeLook},
-    {{&style::kContourLayer, Surfaces | Light | Values}, floodLook},
-    {{&style::kContourLayer, Surfaces | Values}, contourLinesLook},
-    {{&style::kMeshLayer, Surfaces | Values}, meshLook},
-    {{&style::kEdgeLayer}, edgesLook},
+static constexpr LayerDescription kLayers[] = {
+    {FieldLayer::Background, 5, {&style::kMeshLayer, Surfaces | Faces}, backgroundLook},
+    {FieldLayer::Shade, 2, {&style::kShadeLayer, Surfaces | Light | Faces}, shadeLook},
+    {FieldLayer::Flood, 1, {&style::kContourLayer, Surfaces | Light | Values | Faces}, floodLook},
+    {FieldLayer::ContourLines, 3, {&style::kContourLayer, Surfaces | Values}, contourLinesLook},
+    {FieldLayer::Mesh, 4, {&style::kMeshLayer, Surfaces | Values}, meshLook},
+    {FieldLayer::Edges, 6, {&style::kEdgeLayer, Outline}, edgesLook},
 };
+
+static constexpr bool areLayersInOrder()
+{
+    int lines = 0;
+    for (std::size_t i = 0; i < std::size(kLayers); ++i) {
+        if (kLayers[i].id != static_cast<FieldLayer>(i))
+            return false;
+        lines += kLayers[i].layer.uses & Faces ? 0 : 1;
+    }
+    return std::size(kLayers) == kFieldLayerCount && lines <= kMostLineLayers;
+}
+static_assert(areLayersInOrder());
 
 static const SceneLayer& layerAt(std::size_t number)
 {
@@ -262,12 +278,46 @@ QString layerName(FieldLayer layer)
                                        layerAt(static_cast<std::size_t>(layer)).style->name);
 }
 
+static LayerMask layersWith(unsigned use)
+{
+    LayerMask layers = 0;
+    for (std::size_t i = 0; i < kFieldLayerCount; ++i)
+        layers |= kLayers[i].layer.uses & use ? maskOf(i) : 0;
+    return layers;
+}
+
 LayerMask coloredLayers()
 {
-    LayerMask colored = 0;
-    for (std::size_t i = 0; i < kFieldLayerCount; ++i)
-        colored |= kLayers[i].layer.uses & Values ? maskOf(i) : 0;
-    return colored;
+    return layersWith(Values);
+}
+
+LayerMask outlineLayers()
+{
+    return layersWith(Outline);
+}
+
+LayerPlace placeOf(FieldLayer layer)
+{
+    const auto isOfFaces = [](std::size_t number) {
+        return (kLayers[number].layer.uses & Faces) != 0;
+    };
+    LayerPlace place;
+    place.number = static_cast<std::size_t>(layer);
+    place.isOfFaces = isOfFaces(place.number);
+    for (std::size_t i = place.number + 1; i < kFieldLayerCount; ++i)
+        place.inFront += isOfFaces(i) == place.isOfFaces ? 1 : 0;
+    return place;
+}
+
+std::vector<FieldLayer> layersToStandIn()
+{
+    std::vector<LayerDescription> ranked(std::begin(kLayers), std::end(kLayers));
+    std::sort(ranked.begin(), ranked.end(),
+              [](const auto& one, const auto& other) { return one.standIn < other.standIn; });
+    std::vector<FieldLayer> layers;
+    for (const LayerDescription& layer : ranked)
+        layers.push_back(layer.id);
+    return layers;
 }
 
 std::vector<int> groupsShown(const ShownMap& shown, const ContourGroups& groups)

@@ -21,9 +21,25 @@ enum class FieldLayer {
     Flood,
     ContourLines,
     Mesh,
-    Edges
+    Edges,
+    Count
 };
-constexpr std::size_t kFieldLayerCount = 6;
+constexpr auto kFieldLayerCount = static_cast<std::size_t>(FieldLayer::Count);
+/// Layers of lines; what they move by in depth leaves room for no more.
+constexpr int kMostLineLayers = 4;
+
+/// Where a layer lies among those that show the same place.
+struct LayerPlace
+{
+    std::size_t number = 0; ///< from the back
+    bool isOfFaces = false;
+    int inFront = 0; ///< layers of faces, or else of others, that come later
+};
+LayerPlace placeOf(FieldLayer layer);
+/// The layers by how much their points tell of a map, most first: those that stand in for it.
+std::vector<FieldLayer> layersToStandIn();
+/// Layers that show where a zone is, and nothing of what is on it.
+LayerMask outlineLayers();
 
 /// A map of a frame with the zone that it shows.
 struct ShownMap
