@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/data_opening.h"
 
+#include "app/first_look.h"
 #include "host/document/document.h"
 
 namespace corvala::app {
@@ -10,8 +11,11 @@ using host::io::ReadResult;
 
 static void attach(const ReadResult& result)
 {
-    host::Document::instance().execute(host::AttachData {
+    host::Document& document = host::Document::instance();
+    document.execute(host::AttachData {
         {result.data->files, {}}, result.data, result.data->suggestedPlotType(), 1});
+    for (const host::SetStyle& value : firstLook(*document.activeFrame()))
+        document.execute(value);
 }
 
 static QStringList notesOf(const host::DataSet& data)

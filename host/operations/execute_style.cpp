@@ -108,7 +108,7 @@ Outcome Executor::writeMaps(const Attribute& attribute, const SetStyle& operatio
     change.text = assignmentText(attribute, operation.value, operation.maps->cardinality());
     change.events = {std::move(*event)};
     change.delta = std::move(delta);
-    return perform(std::move(change));
+    return perform(std::move(change), operation.undoable);
 }
 
 Outcome Executor::writeValue(Frame* frame, const Attribute& attribute, const SetStyle& operation)
@@ -179,7 +179,7 @@ Outcome Executor::writeSet(const Attribute& attribute, const SetStyle& operation
         activationText(areLines ? Scope::LineMap : Scope::FieldMap, op, operand.cardinality());
     change.events = {styleEvent(m_frame, attribute, {{attribute.id, before ^ after}})};
     change.delta = SetDelta {set, before, after};
-    return perform(std::move(change));
+    return perform(std::move(change), operation.undoable);
 }
 
 } // namespace corvala::host

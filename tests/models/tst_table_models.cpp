@@ -3,6 +3,7 @@
 #include "tests/models/table_fixture.h"
 #include "tests/support/modal_responder.h"
 #include "tests/support/rows.h"
+#include "zonestyle/actions/action.h"
 #include "zonestyle/models/columns/column_kinds.h"
 #include "zonestyle/models/field_contour_3d_model.h"
 #include "zonestyle/models/field_contour_model.h"
@@ -39,6 +40,7 @@ using corvala::host::Document;
 
 namespace style = corvala::style;
 namespace tables = corvala::sdk::ui::dialogs::zonestyle::intern::tables;
+using corvala::sdk::ui::dialogs::zonestyle::intern::actions::Action;
 using corvala::sdk::ui::dialogs::zonestyle::intern::actions::keysOf;
 
 Q_DECLARE_METATYPE(FunctionDependency_e)
@@ -701,6 +703,37 @@ private Q_SLOTS:
         for (const QString& seen : user.takeSeen())
             QVERIFY2(seen.startsWith("Choose the variable: Choose the variable ["),
                      qPrintable(seen));
+    }
+
+    void markWhatCounts_data()
+    {
+        const Setting character {"FieldMap.Scatter.SymbolShape.IsASCII", "1", 1};
+        const Rows<QString, QVector<Setting>, QString,
+                   QString>
+            row; // chain, settings, column, the marked entries
+        row("skip", "points", {}, "Index Skip", "No skip");
+        row("other skip", "points", {{"FieldMap.Points.IJKSkip.K", "1", 3}}, "Index Skip", "");
+        row("shape", "scatter", {}, "Symbol Shape", "Square");
+        row("character", "scatter", {character}, "Symbol Shape", "");
+        row("size", "scatter", {}, "Scatter Size", "2.00");
+        row("size by variable", "scatter", {{"FieldMap.Scatter.SizeByVariable", "1", 1}},
+            "Scatter Size", "By: unassigned");
+    }
+
+    void markWhatCounts()
+    {
+        const auto [chain, settings, column, marked] =
+            currentRow<QString, QVector<Setting>, QString, QString>();
+        open(chain);
+        for (const Setting& setting : settings)
+            QVERIFY(setStyle(setting.path, setting.maps, setting.value));
+        const ColumnMenu menu(*m_model, {0}, columnOf(column));
+        QStringList texts;
+        for (const QAction* entry : menu.actions())
+            if (const auto* action = qobject_cast<const Action*>(entry))
+                texts << (action->isPresentValue() ? action->text() : QString());
+        texts.removeAll(QString());
+        QCOMPARE(texts.join('|'), marked);
     }
 
     void greyInactiveMaps()

@@ -47,8 +47,11 @@ bool StyleAction<T>::isPresentValue() const
 {
     const QModelIndexList& rows = selectedIndexes();
     return !rows.isEmpty() && std::all_of(rows.begin(), rows.end(), [this](const QModelIndex& row) {
-        const auto present = m_styleValue->template read<HostRead<T>>(row.row() + 1);
-        return present && static_cast<T>(*present) == m_value;
+        const CvlInt64 map = row.row() + 1;
+        const auto present = m_styleValue->template read<HostRead<T>>(map);
+        const bool counts = !m_overriding.isValid()
+            || !toolbox::CheckedStyleValue(m_overriding).template read<bool>(map).value_or(false);
+        return counts && present && static_cast<T>(*present) == m_value;
     });
 }
 

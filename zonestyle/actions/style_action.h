@@ -25,6 +25,9 @@ public:
     void invokeAction() override;
     bool isPresentValue() const override;
 
+    /// The value does not count, and is not the present one, in maps where this switch is on.
+    void setOverriddenBy(style::SwitchKey key) { m_overriding = key; }
+
 protected:
     /// The present value of the first selected map, of which there must be one; a failed read
     /// gives 0.
@@ -36,6 +39,7 @@ private:
     std::unique_ptr<toolbox::CheckedStyleValue> m_styleValue;
     T m_value;
     LayerCheck m_layerCheck;
+    style::SwitchKey m_overriding; ///< not valid for most
 };
 
 /// Makes an action, does what it stands for and discards it.

@@ -4,6 +4,8 @@
 #include <sdk/common/app_lock.h>
 #include <sdk/uicommon/style_writing.h>
 
+#include <algorithm>
+
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
 
 ThreeValueAction::ThreeValueAction(const QString& text, const QModelIndexList& selectedIndexes,
@@ -12,6 +14,19 @@ ThreeValueAction::ThreeValueAction(const QString& text, const QModelIndexList& s
     , m_values(values)
     , m_keys(keys)
 {
+}
+
+bool ThreeValueAction::isPresentValue() const
+{
+    const QModelIndexList& rows = selectedIndexes();
+    const auto hasValues = [this](const QModelIndex& row) {
+        bool isSame = true;
+        for (std::size_t i = 0; i < m_values.size(); ++i)
+            isSame = isSame
+                && toolbox::CheckedStyleValue(m_keys[i]).read<int>(row.row() + 1) == m_values[i];
+        return isSame;
+    };
+    return !rows.isEmpty() && std::all_of(rows.begin(), rows.end(), hasValues);
 }
 
 void ThreeValueAction::invokeAction()

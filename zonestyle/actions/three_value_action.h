@@ -28,6 +28,7 @@ public:
                      const ThreeValues& values, const ThreeKeys& keys);
 
     void invokeAction() override;
+    bool isPresentValue() const override;
 
 private:
     ThreeValues m_values;

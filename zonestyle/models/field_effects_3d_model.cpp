@@ -29,6 +29,11 @@ static bool canBeTranslucent(const Cell& cell)
         || (cell.value(kLayers.showShade) && cell.value(kMap.shade.show));
 }
 
+static QVariant percentage(const Cell& cell)
+{
+    return QString::number(cell.own<int>());
+}
+
 static constexpr int kPercentages[] = {10, 20, 30, 40, 50, 60, 70, 80, 90};
 static constexpr PromptTexts kPrompt {
     QT_TRANSLATE_NOOP("Prompt", "Surface Translucency"),
@@ -41,6 +46,7 @@ static constexpr ColumnDescriptor kColumns[] = {
         .relevantWhen(canBeTranslucent),
     listedNumber(QT_TRANSLATE_NOOP("Column", "Surface\nTranslucency"),
                  kMap.effects.surfaceTranslucency, kPercentages, kPrompt)
+        .shows(percentage)
         .editor(EditorType_ListPopup, 0)
         .offers(plainNumberMenu)
         .relevantWhileOn(kMap.effects.useTranslucency)

@@ -41,8 +41,11 @@ static QList<QAction*> scatterSizeMenu(const MenuRequest& request)
 {
     const auto& model = static_cast<const FieldScatterModel&>(request.model);
     QList<QAction*> entries = sizeMenu(request);
-    for (const QAction* size : qAsConst(entries))
+    for (QAction* size : qAsConst(entries)) {
         QObject::connect(size, &QAction::triggered, &model, &FieldScatterModel::sizeActionSlot);
+        if (auto* preset = dynamic_cast<StyleAction<double>*>(size))
+            preset->setOverriddenBy(kScatter.sizeByVariable);
+    }
     auto* choose = new QAction(QCoreApplication::translate("Menu", "Select variable..."));
     QObject::connect(choose, &QAction::triggered, &model,
                      &FieldScatterModel::openSelectVariableDialog);

@@ -42,11 +42,15 @@ QList<QAction*> shapeMenu(const MenuRequest& request)
 {
     const QModelIndexList rows = request.rows();
     QList<QAction*> entries;
-    for (const style::Choice& shape : request.column.names)
-        if (isOffered(shape.value))
-            entries.append(new actions::StyleAction<GeomShape_e>(
-                tables::textOf(shape), rows, static_cast<GeomShape_e>(shape.value),
-                request.column.menuTarget()));
+    for (const style::Choice& shape : request.column.names) {
+        if (!isOffered(shape.value))
+            continue;
+        auto* entry = new actions::StyleAction<GeomShape_e>(tables::textOf(shape), rows,
+                                                            static_cast<GeomShape_e>(shape.value),
+                                                            request.column.menuTarget());
+        entry->setOverriddenBy(request.column.symbol->isAscii);
+        entries.append(entry);
+    }
     return entries << actions::separator()
                    << new actions::EnterASCIICharacterAction(rows,
                                                              request.column.symbol->asciiShape);
