@@ -32,9 +32,6 @@ struct Facts
 
 bool isSurface(const host::ZoneInfo& zone)
 {
-    const auto above1 = [](std::int64_t points) { return points > 1; };
-    if (zone.ordered)
-        return std::count_if(zone.dimensions.begin(), zone.dimensions.end(), above1) == 2;
     return zone.cellDimension == 2;
 }
 
@@ -61,11 +58,10 @@ Facts factsOf(const host::Frame& frame)
     facts.hasSurfaces = std::any_of(data.zones.begin(), data.zones.end(), isSurface);
     facts.hasLargeCells = shownCells(data, facts.hasSurfaces) <= kMostMeshCells;
     facts.hasFewZones = data.zones.size() <= kMostEdgedZones;
-    for (CvlInt64 map = 1; map <= frame.fieldMapCount(); ++map) {
-        facts.maps.add(static_cast<std::uint32_t>(map));
+    facts.maps = host::allUpTo(frame.fieldMapCount());
+    for (const std::uint32_t map : facts.maps)
         if (frame.fieldMaps().hasVolumeZones(map))
-            facts.volumes.add(static_cast<std::uint32_t>(map));
-    }
+            facts.volumes.add(map);
     return facts;
 }
 
@@ -73,8 +69,14 @@ Facts factsOf(const host::Frame& frame)
 class Look
 {
 public:
-    void turn(style::SwitchKey layer, bool isOn) { add(layer, isOn, std::nullopt); }
-    void give(style::Key key, double value, const host::NumberSet& maps) { add(key, value, maps); }
+    void turn(style::SwitchKey layer, bool isOn)
+    {
+        add(SetStyle {host::pathOf(layer), isOn, std::nullopt});
+    }
+    void give(style::Key key, double value, const host::NumberSet& maps)
+    {
+        add(SetStyle {host::pathOf(key), value, maps});
+    }
     void add(SetStyle value)
     {
         value.undoable = false;
@@ -83,12 +85,6 @@ public:
     std::vector<SetStyle> take() { return std::move(m_values); }
 
 private:
-    void add(style::Key key, const host::StyleInput& value,
-             const std::optional<host::NumberSet>& maps)
-    {
-        add(SetStyle {host::pathOf(key), value, maps});
-    }
-
     std::vector<SetStyle> m_values;
 };
 

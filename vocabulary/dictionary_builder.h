@@ -70,7 +70,7 @@ private: // first: the compiler runs them while it reads the class of the dictio
     }
     constexpr Entry paint(const char* name, const char* label, Colors colors, int fallback) const
     {
-        Entry entry = limited(name, label, ValueType::Color, 0, 109, fallback);
+        Entry entry = limited(name, label, ValueType::Color, 0, kRgbColor, fallback);
         entry.groupColors = colors == Colors::WithGroups;
         return entry;
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "vocabulary/choices.h"
+#include "vocabulary/colors.h"
 
 #include <array>
 #include <cstddef>
@@ -22,7 +23,7 @@ enum class ValueType : std::uint8_t {
     Bool,
     Integer,
     Enumeration,
-    Color, ///< 0 to 63 palette, 101 to 108 contour group, 109 RGB
+    Color, ///< see colors.h
     Real,
     Text,
     Variable, ///< variable number, limited by the data set

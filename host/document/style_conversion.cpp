@@ -17,8 +17,9 @@ static bool isEnumerator(const Attribute& attribute, double number)
 
 static bool isColor(const Attribute& attribute, double number)
 {
-    return (number >= 0 && number <= 63)
-        || (attribute.groupColors && number >= 101 && number <= 109);
+    return style::isPaletteColor(number)
+        || (attribute.groupColors && number >= style::kFirstGroupColor
+            && number <= style::kRgbColor);
 }
 
 static bool isInRange(const Attribute& attribute, double number, const Frame* frame)

@@ -45,8 +45,7 @@ struct SetStyle
     std::optional<NumberSet> maps = {}; ///< none for a value of the frame or document
     std::int64_t index = -1; ///< from 1, of a value that has several; else -1
     AssignOp_e op = AssignOp_None; ///< how a set takes the value
-    /// False for what the program fills in by itself, and would fill in again as soon as a user
-    /// took it back: no undo step.
+    /// False for what the program fills in by itself: no undo step.
     bool undoable = true;
     auto fields() const { return std::tie(path, value, maps, index, op, undoable); }
 };

@@ -5,6 +5,7 @@
 #include "sdk/private/flat_text.h"
 #include "sdk/private/read_count.h"
 #include "sdk/private/set_record.h"
+#include "vocabulary/colors.h"
 
 #include <cstdlib>
 #include <cstring>
@@ -13,6 +14,7 @@
 
 using namespace corvala::host;
 using corvala::host_access::countRead;
+namespace style = corvala::style;
 
 static bool pieChartSymbols = false;
 static bool extendedSymbols = false;
@@ -123,14 +125,14 @@ static Rgb groupColor(CvlInt64 color)
     static constexpr Rgb kColors[] = {{68, 1, 84},    {70, 50, 126},  {54, 92, 141},
                                       {39, 127, 142}, {31, 161, 135}, {74, 193, 109},
                                       {160, 218, 57}, {253, 231, 37}, {128, 128, 128}};
-    return kColors[color - 101];
+    return kColors[color - style::kFirstGroupColor];
 }
 
 CvlBool CvlUtilColorGetRGB(CvlInt64 color, uint8_t* r, uint8_t* g, uint8_t* b)
 {
     countRead();
-    const bool isPalette = color >= 0 && color <= 63;
-    const bool isGroup = color >= 101 && color <= 109;
+    const bool isPalette = style::isPaletteColor(static_cast<double>(color));
+    const bool isGroup = color >= style::kFirstGroupColor && color <= style::kRgbColor;
     const Rgb rgb = isPalette ? Document::instance().color(static_cast<int>(color))
         : isGroup             ? groupColor(color)
                               : Rgb {0, 0, 0};

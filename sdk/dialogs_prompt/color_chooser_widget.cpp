@@ -3,6 +3,7 @@
 
 #include <sdk/base/cvl.h>
 #include <sdk/dialogs_common/launch_help_action.h>
+#include <vocabulary/colors.h>
 
 #include <QAbstractButton>
 #include <QGridLayout>
@@ -18,10 +19,11 @@ namespace corvala::dialogs::prompt {
 
 namespace {
 
-constexpr int kPaletteColors = 64;
+using style::kFirstGroupColor;
+using style::kPaletteColors;
+using style::kRgbColor;
+
 constexpr int kColumns = 8;
-constexpr int kFirstGroupColor = 101;
-constexpr int kRgbColor = 109;
 
 /// A swatch: the colour, a text on it where the colour alone would not say what it stands for.
 class ColorButton : public QAbstractButton

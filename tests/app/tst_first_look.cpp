@@ -17,6 +17,7 @@ ZoneInfo ordered(std::int64_t i, std::int64_t j, std::int64_t k)
     ZoneInfo zone;
     zone.ordered = true;
     zone.dimensions = {{i, j, k}};
+    zone.cellDimension = (i > 1) + (j > 1) + (k > 1);
     zone.cellCount = std::max<std::int64_t>(1, i - 1) * std::max<std::int64_t>(1, j - 1)
         * std::max<std::int64_t>(1, k - 1);
     return zone;

@@ -2,10 +2,9 @@
 #include "zonestyle/actions/select_color_action.h"
 
 #include "zonestyle/actions/style_action.h"
-#include "zonestyle/actions/style_write.h"
-
 #include <sdk/dialogs_prompt/color_chooser_widget.h>
 #include <sdk/signals/signal_connection_collection.h>
+#include <sdk/uicommon/style_writing.h>
 
 #include <QMenu>
 #include <QPointer>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/actions/style_action.h"
 
-#include "zonestyle/actions/style_write.h"
-
 #include <sdk/uicommon/edit_session.h>
+#include <sdk/uicommon/style_writing.h>
 
 #include <QPointer>
 
 #include <algorithm>
+#include <optional>
 #include <type_traits>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
@@ -46,11 +46,13 @@ template<class T>
 bool StyleAction<T>::isPresentValue() const
 {
     const QModelIndexList& rows = selectedIndexes();
-    return !rows.isEmpty() && std::all_of(rows.begin(), rows.end(), [this](const QModelIndex& row) {
+    std::optional<toolbox::CheckedStyleValue> overriding;
+    if (m_overriding.isValid())
+        overriding.emplace(m_overriding);
+    return !rows.isEmpty() && std::all_of(rows.begin(), rows.end(), [&](const QModelIndex& row) {
         const CvlInt64 map = row.row() + 1;
         const auto present = m_styleValue->template read<HostRead<T>>(map);
-        const bool counts = !m_overriding.isValid()
-            || !toolbox::CheckedStyleValue(m_overriding).template read<bool>(map).value_or(false);
+        const bool counts = !overriding || !overriding->template read<bool>(map).value_or(false);
         return counts && present && static_cast<T>(*present) == m_value;
     });
 }

@@ -41,4 +41,13 @@ private:
     Path m_path {};
 };
 
+/// A host accessor for it: StyleValue, CheckedStyleValue.
+template<class Accessor>
+Accessor accessor(const StyleTarget& target)
+{
+    const StyleTarget::Path& path = target.path();
+    return target.key().isValid() ? Accessor(target.key())
+                                  : Accessor(path[0], path[1], path[2], path[3], path[4]);
+}
+
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

@@ -19,14 +19,14 @@ ThreeValueAction::ThreeValueAction(const QString& text, const QModelIndexList& s
 bool ThreeValueAction::isPresentValue() const
 {
     const QModelIndexList& rows = selectedIndexes();
-    const auto hasValues = [this](const QModelIndex& row) {
-        bool isSame = true;
-        for (std::size_t i = 0; i < m_values.size(); ++i)
-            isSame = isSame
-                && toolbox::CheckedStyleValue(m_keys[i]).read<int>(row.row() + 1) == m_values[i];
-        return isSame;
-    };
-    return !rows.isEmpty() && std::all_of(rows.begin(), rows.end(), hasValues);
+    bool isPresent = !rows.isEmpty();
+    for (std::size_t i = 0; isPresent && i < m_values.size(); ++i) {
+        const toolbox::CheckedStyleValue part(m_keys[i]);
+        isPresent = std::all_of(rows.begin(), rows.end(), [&](const QModelIndex& row) {
+            return part.read<int>(row.row() + 1) == m_values[i];
+        });
+    }
+    return isPresent;
 }
 
 void ThreeValueAction::invokeAction()

@@ -8,9 +8,6 @@
 
 namespace corvala::plot {
 
-static constexpr int kFirstGroupColor = 101;
-static constexpr int kRgbColor = 109;
-
 static constexpr const auto& kMap = style::fieldMap;
 static constexpr style::Key kBorders[] = {kMap.edgeLayer.iBorder, kMap.edgeLayer.jBorder,
                                           kMap.edgeLayer.kBorder};
@@ -72,16 +69,14 @@ void MapStyle::setLine(BlockLook& look, host::AttributeId thickness, host::Attri
 void MapStyle::setLineColor(BlockLook& look, std::int32_t color, const ContourGroups& groups) const
 {
     look.color = paletteColor(color);
-    if (color == kRgbColor && groups.hasRgb()) {
+    const int group = style::contourGroupOf(color);
+    if (color == style::kRgbColor && groups.hasRgb()) {
         look.recipe.colorGroup = ContourGroups::kRed;
         for (int channel = ContourGroups::kRed; channel <= ContourGroups::kCount; ++channel)
             look.recipe.revision += groups.revision(channel);
-    } else if (color >= kFirstGroupColor && color < kRgbColor) {
-        const int group = color - kFirstGroupColor + 1;
-        if (groups.variable(group) > 0) {
-            look.recipe.colorGroup = group;
-            look.recipe.revision += groups.revision(group);
-        }
+    } else if (group > 0 && groups.variable(group) > 0) {
+        look.recipe.colorGroup = group;
+        look.recipe.revision += groups.revision(group);
     }
     look.mapper.ownColors = look.recipe.colorGroup != 0;
 }
@@ -122,27 +117,27 @@ static std::optional<BlockLook> shadeLook(const ShownMap& shown, const ContourGr
 
 static std::optional<BlockLook> floodLook(const ShownMap& shown, const ContourGroups& groups)
 {
-    const MapStyle style(shown);
-    const int type = style.number(kMap.contour.contourType);
-    const int coloring = style.number(kMap.contour.floodColoring);
+    const MapStyle map(shown);
+    const int type = map.number(kMap.contour.contourType);
+    const int coloring = map.number(kMap.contour.floodColoring);
     const bool hasVariable =
         coloring == ContourColoring_RGB ? groups.hasRgb() : groups.variable(coloring) > 0;
-    if (!style.flag(kMap.contour.show) || type == ContourType_Lines || !hasVariable)
+    if (!map.flag(kMap.contour.show) || type == ContourType_Lines || !hasVariable)
         return std::nullopt;
     const bool byCell =
         type == ContourType_AverageCellFlood || type == ContourType_PrimaryValueFlood;
     BlockLook look;
-    look.recipe = style.recipe(byCell ? BlockKind::CellFlood : BlockKind::Flood);
+    look.recipe = map.recipe(byCell ? BlockKind::CellFlood : BlockKind::Flood);
     look.recipe.primaryValues = type == ContourType_PrimaryValueFlood;
     if (coloring == ContourColoring_RGB) {
-        style.setLineColor(look, kRgbColor, groups);
+        map.setLineColor(look, style::kRgbColor, groups);
     } else {
         look.mapper.floodGroup = coloring;
         look.recipe.group = coloring;
         // Levels may move without new geometry; another variable may not.
         look.recipe.revision = static_cast<int>(groups.variable(coloring));
     }
-    style.setLight(look, kMap.contour.useLightingEffect);
+    map.setLight(look, kMap.contour.useLightingEffect);
     return look;
 }
 
@@ -341,7 +336,8 @@ std::vector<int> groupsShown(const ShownMap& shown, const ContourGroups& groups)
 
 host::Rgb paletteColor(std::int32_t color)
 {
-    return color < kFirstGroupColor ? host::Document::instance().color(color) : host::Rgb {0, 0, 0};
+    return style::isPaletteColor(color) ? host::Document::instance().color(color)
+                                        : host::Rgb {0, 0, 0};
 }
 
 } // namespace corvala::plot

@@ -52,14 +52,11 @@ QVariant colorValue(const Cell& cell)
 
 QVariant colorHint(const Cell& cell)
 {
-    static constexpr int kFirstGroup = 101;
-    static constexpr int kLastGroup = 108;
-    static constexpr int kByRgb = 109;
     const int color = cell.own<int>();
-    if (color >= kFirstGroup && color <= kLastGroup)
-        return QString(QLatin1Char('C') + QString::number(color - kFirstGroup + 1));
-    return color == kByRgb ? tables::nameOf(style::kContourColorings, ContourColoring_RGB)
-                           : QVariant();
+    if (const int group = style::contourGroupOf(color))
+        return QString(QLatin1Char('C') + QString::number(group));
+    return color == style::kRgbColor ? tables::nameOf(style::kContourColorings, ContourColoring_RGB)
+                                     : QVariant();
 }
 
 QVariant percentText(const Cell& cell)

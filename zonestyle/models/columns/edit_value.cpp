@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/models/columns/edit_value.h"
 
+#include <vocabulary/style.h>
+
 #include <QCoreApplication>
 #include <QLocale>
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <limits>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
@@ -63,7 +64,7 @@ QString numberProblem(const QString& text, const style::Entry& entry)
     if (isInRange && (entry.isReal() || *entered == std::floor(*entered)))
         return {};
     const auto shown = [](double limit) { return QString::number(limit, 'g', 10); };
-    if (entry.maximum >= std::numeric_limits<std::int32_t>::max()) // as much as a number can be
+    if (entry.maximum >= style::kLargest) // as much as a number can be
         return QCoreApplication::translate("Cell", "%1 or more").arg(shown(entry.minimum));
     return QCoreApplication::translate("Cell", "%1 to %2")
         .arg(shown(entry.minimum), shown(entry.maximum));
