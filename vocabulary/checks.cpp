@@ -86,7 +86,10 @@ static_assert(haveDefaultsInRange());
 static_assert(haveLabels());
 
 static_assert(names<ArrowheadStyle_e>(kArrowheadStyles));
+static_assert(names<BlankedCells_e>(kBlankedCells));
 static_assert(names<BorderLocation_e>(kBorderLocations));
+static_assert(names<ColorMap_e>(kColorMaps));
+static_assert(names<ComparedWith_e>(kComparedWith));
 static_assert(names<ContourColoring_e>(kContourColorings));
 static_assert(names<ContourType_e>(kContourTypes));
 static_assert(names<CurveType_e>(kCurveTypes));
@@ -104,7 +107,10 @@ static_assert(names<LinePattern_e>(kLinePatterns));
 static_assert(names<MeshType_e>(kMeshTypes));
 static_assert(names<PlotType_e>(kPlotTypes));
 static_assert(names<PointsToPlot_e>(kPointsToPlot));
+static_assert(names<Relation_e>(kRelations));
 static_assert(names<SkipMode_e>(kSkipModes));
+static_assert(names<SlicePlane_e>(kSlicePlanes));
+static_assert(names<StreamDirection_e>(kStreamDirections));
 static_assert(names<SurfacesToPlot_e>(kSurfacesToPlot));
 static_assert(names<VectorType_e>(kVectorTypes));
 

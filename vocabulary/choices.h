@@ -183,6 +183,50 @@ inline constexpr Choice kLightingEffects[] = {
     {LightingEffect_Gouraud, CV_TEXT("Gouraud")},
 };
 
+inline constexpr Choice kColorMaps[] = {
+    {ColorMap_Viridis, CV_TEXT("Viridis")},
+    {ColorMap_Plasma, CV_TEXT("Plasma")},
+    {ColorMap_Inferno, CV_TEXT("Inferno")},
+    {ColorMap_Magma, CV_TEXT("Magma")},
+    {ColorMap_Cividis, CV_TEXT("Cividis")},
+    {ColorMap_Turbo, CV_TEXT("Turbo")},
+    {ColorMap_Rainbow, CV_TEXT("Rainbow")},
+    {ColorMap_CoolToWarm, CV_TEXT("Cool to warm")},
+    {ColorMap_BlueWhiteRed, CV_TEXT("Blue, white, red")},
+    {ColorMap_BlackBody, CV_TEXT("Black body")},
+    {ColorMap_Gray, CV_TEXT("Gray")},
+    {ColorMap_Terrain, CV_TEXT("Terrain")},
+};
+
+inline constexpr Choice kBlankedCells[] = {
+    {BlankedCells_AllPoints, CV_TEXT("Cells at all of whose points it holds")},
+    {BlankedCells_AnyPoint, CV_TEXT("Cells at any of whose points it holds")},
+    {BlankedCells_FirstPoint, CV_TEXT("Cells at whose first point it holds")},
+    {BlankedCells_PreciseCut, CV_TEXT("Precise cut")},
+};
+
+inline constexpr Choice kRelations[] = {
+    {Relation_LessOrEqual, CV_TEXT("at most")}, {Relation_GreaterOrEqual, CV_TEXT("at least")},
+    {Relation_Less, CV_TEXT("less than")},      {Relation_Greater, CV_TEXT("greater than")},
+    {Relation_Equal, CV_TEXT("equal to")},      {Relation_NotEqual, CV_TEXT("not equal to")},
+};
+
+inline constexpr Choice kComparedWith[] = {
+    {ComparedWith_Constant, CV_TEXT("Constant")},
+    {ComparedWith_Variable, CV_TEXT("Variable")},
+};
+
+inline constexpr Choice kSlicePlanes[] = {
+    {SlicePlane_X, CV_TEXT("X")}, {SlicePlane_Y, CV_TEXT("Y")}, {SlicePlane_Z, CV_TEXT("Z")},
+    {SlicePlane_I, CV_TEXT("I")}, {SlicePlane_J, CV_TEXT("J")}, {SlicePlane_K, CV_TEXT("K")},
+};
+
+inline constexpr Choice kStreamDirections[] = {
+    {StreamDirection_Forward, CV_TEXT("Forward")},
+    {StreamDirection_Backward, CV_TEXT("Backward")},
+    {StreamDirection_Both, CV_TEXT("Both")},
+};
+
 inline constexpr Choice kLegendShows[] = {
     {LegendShow_Always, CV_TEXT("Always")},
     {LegendShow_Never, CV_TEXT("Never")},

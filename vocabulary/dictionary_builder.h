@@ -28,7 +28,7 @@ public:
     }
 
 private:
-    std::array<Entry, 256> m_places {};
+    std::array<Entry, 384> m_places {};
     std::size_t m_count = 0;
 };
 
@@ -130,6 +130,11 @@ public:
                            double fallback) const
     {
         return add<RealKey>(limited(name, label, ValueType::Real, minimum, maximum, fallback));
+    }
+    /// Any finite number.
+    constexpr RealKey limitless(const char* name, const char* label, double fallback) const
+    {
+        return real(name, label, -kUnlimited, kUnlimited, fallback);
     }
     constexpr RealKey percent(const char* name, const char* label, double minimum, double fallback,
                               Key presets = {}) const

@@ -123,6 +123,55 @@ enum SurfacesToPlot_e : int {
     SurfacesToPlot_None = 10
 };
 
+enum ColorMap_e : int {
+    ColorMap_Viridis = 0,
+    ColorMap_Plasma = 1,
+    ColorMap_Inferno = 2,
+    ColorMap_Magma = 3,
+    ColorMap_Cividis = 4,
+    ColorMap_Turbo = 5,
+    ColorMap_Rainbow = 6,
+    ColorMap_CoolToWarm = 7,
+    ColorMap_BlueWhiteRed = 8,
+    ColorMap_BlackBody = 9,
+    ColorMap_Gray = 10,
+    ColorMap_Terrain = 11
+};
+
+/// Which cells a blanking constraint takes away, by the points at which it holds.
+enum BlankedCells_e : int {
+    BlankedCells_AllPoints = 0,
+    BlankedCells_AnyPoint = 1,
+    BlankedCells_FirstPoint = 2,
+    BlankedCells_PreciseCut = 3 ///< cells are cut where the constraint begins to hold
+};
+
+enum Relation_e : int {
+    Relation_LessOrEqual = 0,
+    Relation_GreaterOrEqual = 1,
+    Relation_Less = 2,
+    Relation_Greater = 3,
+    Relation_Equal = 4,
+    Relation_NotEqual = 5
+};
+
+enum ComparedWith_e : int { ComparedWith_Constant = 0, ComparedWith_Variable = 1 };
+
+enum SlicePlane_e : int {
+    SlicePlane_X = 0,
+    SlicePlane_Y = 1,
+    SlicePlane_Z = 2,
+    SlicePlane_I = 3,
+    SlicePlane_J = 4,
+    SlicePlane_K = 5
+};
+
+enum StreamDirection_e : int {
+    StreamDirection_Forward = 0,
+    StreamDirection_Backward = 1,
+    StreamDirection_Both = 2
+};
+
 enum LightingEffect_e : int { LightingEffect_Paneled = 0, LightingEffect_Gouraud = 1 };
 
 enum LegendShow_e : int { LegendShow_Always = 0, LegendShow_Never = 1, LegendShow_Auto = 2 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "vocabulary/field_frame_values.h"
 #include "vocabulary/map_values.h"
 
 namespace corvala::style {

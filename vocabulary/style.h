@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "vocabulary/field_frame_values.h"
 #include "vocabulary/field_map_values.h"
 #include "vocabulary/line_map_values.h"
 
@@ -30,6 +31,12 @@ struct Dictionary
     GlobalVector globalVector {frame / "GlobalVector"};
     ContourGroups contourGroups {frame / "ContourGroups"};
     Blanking blanking {frame / "Blanking"};
+    Slices slices {frame / "Slices"};
+    IsoSurfaces isoSurfaces {frame / "IsoSurfaces"};
+    Streamtraces streamtraces {frame / "Streamtraces"};
+    LightSource lightSource {frame / "LightSource"};
+    EdgeDetails edgeDetails {frame / "EdgeDetails"};
+    FieldAxes fieldAxes {frame / "FieldAxes"};
 
     FieldMap fieldMap {Group(entries, Scope::FieldMap) / "FieldMap", basicSize};
     LineMap lineMap {Group(entries, Scope::LineMap) / "LineMap", basicSize};
@@ -49,6 +56,12 @@ inline constexpr const auto& globalRgb = kDictionary.globalRgb;
 inline constexpr const auto& globalVector = kDictionary.globalVector;
 inline constexpr const auto& contourGroups = kDictionary.contourGroups;
 inline constexpr const auto& blanking = kDictionary.blanking;
+inline constexpr const auto& slices = kDictionary.slices;
+inline constexpr const auto& isoSurfaces = kDictionary.isoSurfaces;
+inline constexpr const auto& streamtraces = kDictionary.streamtraces;
+inline constexpr const auto& lightSource = kDictionary.lightSource;
+inline constexpr const auto& edgeDetails = kDictionary.edgeDetails;
+inline constexpr const auto& fieldAxes = kDictionary.fieldAxes;
 inline constexpr const auto& fieldMap = kDictionary.fieldMap;
 inline constexpr const auto& lineMap = kDictionary.lineMap;
 
