@@ -232,8 +232,9 @@ Shape BlockBuilder::edges(const BlockRecipe& recipe, const PlacedSurface& placed
     const vtkSmartPointer<vtkDataSet> data = m_data.geometry(recipe.zone);
     if (!data)
         return nullptr;
-    return laidDown(zoneEdges(*data, m_data.zone(recipe.zone), *placed.surface, recipe.edges),
-                    height);
+    const CutFields fields = blank(*data, m_data, recipe.zone, recipe.surfaces.blanking);
+    return laidDown(
+        zoneEdges(*data, m_data.zone(recipe.zone), *placed.surface, recipe.edges, fields), height);
 }
 
 } // namespace corvala::plot

@@ -1,88 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/geometry/index_faces.h"
 
+#include "plot/field/geometry/index_space.h"
 #include "plot/field/geometry/surface_builder.h"
 
 #include <vtkDataSet.h>
-#include <vtkDataSetAttributes.h>
-#include <vtkUnsignedCharArray.h>
 
 #include <algorithm>
 
 namespace corvala::plot {
 
-using Index = std::array<std::int64_t, 3>;
-
 static std::size_t at(int axis)
 {
     return static_cast<std::size_t>(axis);
-}
-
-static Index shifted(Index index, int axis, int by)
-{
-    index[at(axis)] += by;
-    return index;
-}
-
-/// Numbers of points and cells of an ordered zone, and which of its cells are blanked.
-class IndexSpace
-{
-public:
-    IndexSpace(vtkDataSet& data, const Index& dimensions);
-
-    std::int64_t dimension(int axis) const { return m_dimensions[at(axis)]; }
-    vtkIdType point(const Index& index) const;
-    /// The cell whose lowest corner is `index`; -1 outside the zone and for a blanked cell.
-    vtkIdType visibleCell(const Index& index) const;
-    bool hasBlanking() const { return m_cellGhosts || m_pointGhosts; }
-
-private:
-    bool isBlanked(vtkIdType cell, const Index& index) const;
-
-    Index m_dimensions;
-    const vtkUnsignedCharArray* m_cellGhosts = nullptr;
-    const vtkUnsignedCharArray* m_pointGhosts = nullptr;
-};
-
-IndexSpace::IndexSpace(vtkDataSet& data, const Index& dimensions)
-    : m_dimensions(dimensions)
-    , m_cellGhosts(data.GetCellGhostArray())
-    , m_pointGhosts(data.GetPointGhostArray())
-{
-}
-
-vtkIdType IndexSpace::point(const Index& index) const
-{
-    return index[0] + m_dimensions[0] * (index[1] + m_dimensions[1] * index[2]);
-}
-
-vtkIdType IndexSpace::visibleCell(const Index& index) const
-{
-    vtkIdType cell = 0;
-    for (int axis = 2; axis >= 0; --axis) {
-        const std::int64_t cells = std::max<std::int64_t>(dimension(axis) - 1, 1);
-        if (index[at(axis)] < 0 || index[at(axis)] >= cells)
-            return -1;
-        cell = cell * cells + index[at(axis)];
-    }
-    return isBlanked(cell, index) ? -1 : cell;
-}
-
-bool IndexSpace::isBlanked(vtkIdType cell, const Index& index) const
-{
-    if (m_cellGhosts
-        && (m_cellGhosts->GetValue(cell)
-            & (vtkDataSetAttributes::HIDDENCELL | vtkDataSetAttributes::DUPLICATECELL)))
-        return true;
-    for (int corner = 0; m_pointGhosts && corner < 8; ++corner) {
-        const Index offset = {corner & 1, (corner >> 1) & 1, (corner >> 2) & 1};
-        Index moved = index;
-        for (int axis = 0; axis < 3; ++axis)
-            moved[at(axis)] += dimension(axis) > 1 ? offset[at(axis)] : 0;
-        if (m_pointGhosts->GetValue(point(moved)) & vtkDataSetAttributes::HIDDENPOINT)
-            return true;
-    }
-    return false;
 }
 
 enum class FaceRule {
@@ -181,7 +111,7 @@ ZoneSurface extractOrderedSurface(vtkDataSet& data, const host::ZoneInfo& zone,
         addPlane(builder, space, 3 - longAxes[0] - longAxes[1], 0, FaceRule::AnyNeighbour);
     else if (longAxes.size() == 1)
         addLine(builder, space, longAxes[0]);
-    else if (data.GetNumberOfPoints() > 0)
+    else if (data.GetNumberOfPoints() > 0 && space.visibleCell({}) >= 0)
         builder.addVertex(0, 0);
     return builder.finish();
 }

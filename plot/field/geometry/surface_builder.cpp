@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/geometry/surface_builder.h"
 
+#include <vtkCellType.h>
 #include <vtkDataSet.h>
 
 namespace corvala::plot {
@@ -27,6 +28,16 @@ void SurfaceBuilder::add(vtkCellArray& cells, const vtkIdType* corners, vtkIdTyp
         cells.InsertCellPoint(number);
     }
     m_surface.cellIds.push_back(zoneCell);
+}
+
+void SurfaceBuilder::addCell(int type, const vtkIdList& corners, vtkIdType zoneCell)
+{
+    const bool isOfVertices = type == VTK_VERTEX || type == VTK_POLY_VERTEX;
+    const bool isOfLines = type == VTK_LINE || type == VTK_POLY_LINE;
+    add(isOfVertices    ? *m_vertices
+            : isOfLines ? *m_lines
+                        : *m_faces,
+        corners.begin(), corners.GetNumberOfIds(), zoneCell);
 }
 
 ZoneSurface SurfaceBuilder::finish()

@@ -4,6 +4,7 @@
 #include "plot/field/geometry/zone_surface.h"
 
 #include <vtkCellArray.h>
+#include <vtkIdList.h>
 #include <vtkNew.h>
 #include <vtkPoints.h>
 
@@ -25,6 +26,8 @@ public:
     {
         add(*m_faces, corners, count, zoneCell);
     }
+    /// A cell of a shape, by its type.
+    void addCell(int type, const vtkIdList& corners, vtkIdType zoneCell);
     ZoneSurface finish();
 
 private:

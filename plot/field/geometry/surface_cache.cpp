@@ -1,38 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/geometry/surface_cache.h"
 
-#include <vtkDataSet.h>
+#include "plot/field/geometry/zone_cuts.h"
 
 namespace corvala::plot {
-
-static std::array<int, 9> planeNumbers(const SurfaceChoice& choice)
-{
-    std::array<int, 9> numbers;
-    std::size_t next = 0;
-    for (const IndexRange& range : choice.planes) {
-        numbers[next++] = range.minimum;
-        numbers[next++] = range.maximum;
-        numbers[next++] = range.skip;
-    }
-    return numbers;
-}
 
 std::shared_ptr<const ZoneSurface>
 SurfaceCache::surface(const host::DataSet& data, std::int64_t zone, const SurfaceChoice& choice)
 {
     const host::ZoneInfo& info = data.zone(zone);
     const SurfaceChoice normal = choice.normalized(info);
-    const Key key {data.source.get(), info.sourceIndex, normal.surfaces, planeNumbers(normal)};
+    const Key key {data.source.get(), info.sourceIndex, normal};
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         const auto known = m_surfaces.find(key);
         if (known != m_surfaces.end())
             return known->second.surface;
     }
-    const vtkSmartPointer<vtkDataSet> geometry = data.geometry(zone);
-    if (!geometry || geometry->GetNumberOfPoints() == 0)
+    auto surface = surfaceOf(data, zone, normal);
+    if (!surface)
         return nullptr;
-    auto surface = std::make_shared<ZoneSurface>(extractSurface(*geometry, info, normal));
     const std::lock_guard<std::mutex> lock(m_mutex);
     ++m_extractions;
     m_memory += surface->memoryUse();

@@ -29,7 +29,7 @@ public:
     std::int64_t extractionCount() const;
 
 private:
-    using Key = std::tuple<const host::ZoneSource*, std::int64_t, int, std::array<int, 9>>;
+    using Key = std::tuple<const host::ZoneSource*, std::int64_t, SurfaceChoice>;
     struct Entry
     {
         std::shared_ptr<const host::ZoneSource> source; ///< keeps the key's address in use

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/geometry/surface_values.h"
 
+#include "plot/field/geometry/zone_cuts.h"
+
 #include <vtkCellArray.h>
 #include <vtkCellArrayIterator.h>
 #include <vtkCellData.h>
@@ -34,6 +36,15 @@ static vtkSmartPointer<vtkDoubleArray> averagedAtPoints(vtkDoubleArray& cellArra
     return vtkDoubleArray::SafeDownCast(average->GetOutput()->GetPointData()->GetArray("value"));
 }
 
+/// Values of a variable of the points, `array`, at those of the surface.
+static vtkSmartPointer<vtkDoubleArray> atPoints(const host::DataSet& data, std::int64_t zone,
+                                                std::int64_t variable, vtkDataArray& array,
+                                                const ZoneSurface& surface)
+{
+    return surface.isCut ? cutValues(data, zone, variable, surface)
+                         : gather(array, surface.shape->GetNumberOfPoints(), surface.pointIds);
+}
+
 vtkSmartPointer<vtkDoubleArray> pointValues(const host::DataSet& data, std::int64_t zone,
                                             std::int64_t variable, const ZoneSurface& surface)
 {
@@ -41,7 +52,7 @@ vtkSmartPointer<vtkDoubleArray> pointValues(const host::DataSet& data, std::int6
     if (!values.array)
         return nullptr;
     if (values.location == host::ValueLocation::Points)
-        return gather(*values.array, surface.shape->GetNumberOfPoints(), surface.pointIds);
+        return atPoints(data, zone, variable, *values.array, surface);
     const auto cells = gather(*values.array, surface.shape->GetNumberOfCells(), surface.cellIds);
     return averagedAtPoints(*cells, *surface.shape);
 }
@@ -77,7 +88,7 @@ vtkSmartPointer<vtkDoubleArray> cellValues(const host::DataSet& data, std::int64
         return nullptr;
     if (values.location == host::ValueLocation::Cells)
         return gather(*values.array, surface.shape->GetNumberOfCells(), surface.cellIds);
-    const auto points = gather(*values.array, surface.shape->GetNumberOfPoints(), surface.pointIds);
+    const auto points = atPoints(data, zone, variable, *values.array, surface);
     return fromCorners(*points, *surface.shape, rule);
 }
 

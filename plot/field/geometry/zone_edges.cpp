@@ -2,7 +2,9 @@
 #include "plot/field/geometry/zone_edges.h"
 
 #include "plot/field/geometry/edge_order.h"
+#include "plot/field/geometry/index_space.h"
 #include "plot/field/geometry/surface_builder.h"
+#include "plot/field/geometry/zone_cuts.h"
 
 #include <vtkAppendPolyData.h>
 #include <vtkCellArray.h>
@@ -15,13 +17,6 @@
 #include <cmath>
 
 namespace corvala::plot {
-
-static constexpr double kCreaseAngle = 30.0;
-
-bool operator==(const EdgeChoice& left, const EdgeChoice& right)
-{
-    return left.type == right.type && left.borders == right.borders;
-}
 
 /// Index positions of an axis where the borders lie; an axis of one point is all border.
 static std::vector<std::int64_t> borderPositions(std::int64_t dimension, BorderLocation_e location)
@@ -36,11 +31,11 @@ static std::vector<std::int64_t> borderPositions(std::int64_t dimension, BorderL
     return positions;
 }
 
-static vtkSmartPointer<vtkPolyData> indexBorders(vtkDataSet& data, const host::ZoneInfo& zone,
-                                                 const EdgeChoice& choice)
+static ZoneSurface indexBorders(vtkDataSet& data, const host::ZoneInfo& zone,
+                                const EdgeChoice& choice)
 {
     SurfaceBuilder builder(data);
-    const std::int64_t strides[] = {1, zone.dimensions[0], zone.dimensions[0] * zone.dimensions[1]};
+    const IndexSpace space(data, zone.dimensions);
     for (std::size_t axis = 0; axis < 3; ++axis) {
         const std::size_t first = (axis + 1) % 3;
         const std::size_t second = (axis + 2) % 3;
@@ -48,13 +43,18 @@ static vtkSmartPointer<vtkPolyData> indexBorders(vtkDataSet& data, const host::Z
             continue;
         for (const auto i : borderPositions(zone.dimensions[first], choice.borders[first])) {
             for (const auto j : borderPositions(zone.dimensions[second], choice.borders[second])) {
-                vtkIdType point = i * strides[first] + j * strides[second];
-                for (std::int64_t k = 1; k < zone.dimensions[axis]; ++k, point += strides[axis])
-                    builder.addLine({point, point + strides[axis]}, 0);
+                Index from {};
+                from[first] = i;
+                from[second] = j;
+                const int along = static_cast<int>(axis);
+                for (; from[axis] + 1 < zone.dimensions[axis]; ++from[axis])
+                    if (!space.hasBlanking() || space.isVisibleEdge(from, along))
+                        builder.addLine({space.point(from), space.point(shifted(from, along, 1))},
+                                        0);
             }
         }
     }
-    return builder.finish().shape;
+    return builder.finish();
 }
 
 /// An edge of a face, in the direction in which the face goes round.
@@ -98,15 +98,16 @@ static std::vector<FaceEdge> sortedEdges(vtkPolyData& shape,
 /// Whether two faces meet at a crease. Faces that go along their edge the same way look to opposite
 /// sides.
 static bool isCrease(const FaceEdge& one, const FaceEdge& other,
-                     const std::vector<std::array<double, 3>>& normals)
+                     const std::vector<std::array<double, 3>>& normals, double cosineOfCrease)
 {
-    static const double kCosine = std::cos(vtkMath::RadiansFromDegrees(kCreaseAngle));
     const double cosine = vtkMath::Dot(normals[one.face].data(), normals[other.face].data());
-    return (one.isForward == other.isForward ? -cosine : cosine) < kCosine;
+    return (one.isForward == other.isForward ? -cosine : cosine) < cosineOfCrease;
 }
 
-static vtkSmartPointer<vtkPolyData> faceEdges(vtkPolyData& shape, bool borders, bool creases)
+static vtkSmartPointer<vtkPolyData> faceEdges(vtkPolyData& shape, bool borders, bool creases,
+                                              double creaseAngle)
 {
+    const double cosine = std::cos(vtkMath::RadiansFromDegrees(creaseAngle));
     SurfaceBuilder builder(shape);
     std::vector<std::array<double, 3>> normals;
     const std::vector<FaceEdge> edges = sortedEdges(shape, normals);
@@ -115,7 +116,7 @@ static vtkSmartPointer<vtkPolyData> faceEdges(vtkPolyData& shape, bool borders, 
             ++last;
         const std::size_t faces = last - first;
         if ((borders && faces == 1)
-            || (creases && faces == 2 && isCrease(edges[first], edges[first + 1], normals)))
+            || (creases && faces == 2 && isCrease(edges[first], edges[first + 1], normals, cosine)))
             builder.addLine(edges[first].ends, 0);
     }
     return builder.finish().shape;
@@ -131,17 +132,18 @@ static vtkSmartPointer<vtkPolyData> joined(vtkPolyData* one, vtkPolyData* other)
 }
 
 vtkSmartPointer<vtkPolyData> zoneEdges(vtkDataSet& data, const host::ZoneInfo& zone,
-                                       const ZoneSurface& surface, const EdgeChoice& choice)
+                                       const ZoneSurface& surface, const EdgeChoice& choice,
+                                       const CutFields& fields)
 {
     const bool borders = choice.type != EdgeType_Creases;
     const bool creases = choice.type != EdgeType_Borders && !(zone.ordered && zone.isVolume());
     vtkSmartPointer<vtkPolyData> ofIndices;
     if (zone.ordered && borders)
-        ofIndices = indexBorders(data, zone, choice);
+        ofIndices = cutFaces(indexBorders(data, zone, choice), fields).shape;
     const bool bordersOfFaces = borders && !zone.ordered;
     if (!creases && !bordersOfFaces)
         return ofIndices ? ofIndices : vtkSmartPointer<vtkPolyData>::New();
-    const auto ofFaces = faceEdges(*surface.shape, bordersOfFaces, creases);
+    const auto ofFaces = faceEdges(*surface.shape, bordersOfFaces, creases, choice.creaseAngle);
     if (!ofIndices || ofFaces->GetNumberOfLines() == 0)
         return ofIndices ? ofIndices : ofFaces;
     return joined(ofIndices, ofFaces);

@@ -7,13 +7,18 @@
 #include <vtkCell.h>
 #include <vtkCellArray.h>
 #include <vtkCellData.h>
+#include <vtkDataSetAttributes.h>
 #include <vtkGeometryFilter.h>
+#include <vtkIdList.h>
 #include <vtkIdTypeArray.h>
 #include <vtkPointData.h>
 #include <vtkPointSet.h>
 #include <vtkPoints.h>
 #include <vtkSMPTools.h>
+#include <vtkThreshold.h>
 #include <vtkTriangleFilter.h>
+#include <vtkUnsignedCharArray.h>
+#include <vtkUnstructuredGrid.h>
 
 #include <algorithm>
 #include <numeric>
@@ -28,21 +33,13 @@ static constexpr const char* kZoneCell = "zone cell";
 SurfaceChoice SurfaceChoice::normalized(const host::ZoneInfo& zone) const
 {
     SurfaceChoice result;
+    result.blanking = blanking;
     if (!zone.isVolume())
         return result;
     result.surfaces = surfaces;
     if (zone.ordered && surfaces >= SurfacesToPlot_IPlanes && surfaces <= SurfacesToPlot_IJKPlanes)
         result.planes = planes;
     return result;
-}
-
-bool operator==(const SurfaceChoice& left, const SurfaceChoice& right)
-{
-    const auto equalRanges = [](const IndexRange& a, const IndexRange& b) {
-        return a.minimum == b.minimum && a.maximum == b.maximum && a.skip == b.skip;
-    };
-    return left.surfaces == right.surfaces
-        && std::equal(left.planes.begin(), left.planes.end(), right.planes.begin(), equalRanges);
 }
 
 vtkSmartPointer<vtkPolyData> separateShape(vtkPolyData& shape)
@@ -96,16 +93,58 @@ static vtkSmartPointer<vtkDataSet> numberedStructure(vtkDataSet& data)
     return result;
 }
 
+/// Whether a cell is hidden; `ghosts` may be null.
+static bool isHidden(const vtkUnsignedCharArray* ghosts, vtkIdType cell)
+{
+    return ghosts && (ghosts->GetValue(cell) & vtkDataSetAttributes::HIDDENCELL) != 0;
+}
+
+vtkSmartPointer<vtkDataSet> visiblePart(vtkDataSet& data)
+{
+    auto numbered = numberedStructure(data);
+    const vtkUnsignedCharArray* const ghosts = data.GetCellGhostArray();
+    vtkNew<vtkUnsignedCharArray> shown;
+    shown->SetName("shown");
+    shown->SetNumberOfValues(data.GetNumberOfCells());
+    bool isWhole = true;
+    for (vtkIdType cell = 0; cell < data.GetNumberOfCells(); ++cell) {
+        shown->SetValue(cell, isHidden(ghosts, cell) ? 0 : 1);
+        isWhole = isWhole && shown->GetValue(cell) == 1;
+    }
+    if (isWhole)
+        return numbered;
+    numbered->GetCellData()->AddArray(shown);
+    vtkNew<vtkThreshold> threshold;
+    threshold->SetInputData(numbered);
+    threshold->SetInputArrayToProcess(0, 0, 0, vtkDataObject::FIELD_ASSOCIATION_CELLS, "shown");
+    threshold->SetThresholdFunction(vtkThreshold::THRESHOLD_UPPER);
+    threshold->SetUpperThreshold(1.0);
+    threshold->Update();
+    return threshold->GetOutput();
+}
+
 static std::vector<vtkIdType> takeNumbers(vtkDataSetAttributes& attributes, const char* name)
 {
     auto* ids = vtkIdTypeArray::SafeDownCast(attributes.GetArray(name));
     return ids ? std::vector<vtkIdType>(ids->Begin(), ids->End()) : std::vector<vtkIdType>();
 }
 
-static ZoneSurface withoutValues(vtkPolyData& numbered)
+std::vector<vtkIdType> pointNumbers(vtkDataSet& numbered)
+{
+    return takeNumbers(*numbered.GetPointData(), kZonePoint);
+}
+
+void addCellNumbers(vtkPolyData& shape, const std::vector<vtkIdType>& zoneCells)
+{
+    const auto numbers = numbering(kZoneCell, shape.GetNumberOfCells());
+    std::copy(zoneCells.begin(), zoneCells.end(), numbers->Begin());
+    shape.GetCellData()->AddArray(numbers);
+}
+
+ZoneSurface fromNumbered(vtkPolyData& numbered)
 {
     ZoneSurface surface;
-    surface.pointIds = takeNumbers(*numbered.GetPointData(), kZonePoint);
+    surface.pointIds = pointNumbers(numbered);
     surface.cellIds = takeNumbers(*numbered.GetCellData(), kZoneCell);
     surface.shape = vtkSmartPointer<vtkPolyData>::New();
     surface.shape->CopyStructure(&numbered);
@@ -123,23 +162,49 @@ static vtkSmartPointer<vtkPolyData> withoutStrips(vtkPolyData* data)
     return triangles->GetOutput();
 }
 
-static ZoneSurface outerSurface(vtkDataSet& data)
+vtkSmartPointer<vtkPolyData> outerFaces(vtkDataSet& numbered)
 {
     vtkNew<vtkGeometryFilter> geometry;
-    geometry->SetInputData(numberedStructure(data));
+    geometry->SetInputData(&numbered);
     // Mid-side points of quadratic faces are dropped: points made up by subdivision have no number.
     geometry->SetNonlinearSubdivisionLevel(0);
     geometry->Update();
-    return withoutValues(*withoutStrips(geometry->GetOutput()));
+    return withoutStrips(geometry->GetOutput());
+}
+
+/// `part`, which has the numbers of `whole`, with those that this has in the zone.
+static ZoneSurface inNumbersOf(ZoneSurface part, const ZoneSurface& whole)
+{
+    const auto translate = [](std::vector<vtkIdType>& ids, const std::vector<vtkIdType>& known) {
+        for (vtkIdType& id : ids)
+            id = known[static_cast<std::size_t>(id)];
+    };
+    translate(part.pointIds, whole.pointIds);
+    translate(part.cellIds, whole.cellIds);
+    return part;
+}
+
+/// The outside of all cells, and of it what belongs to cells that are visible.
+static ZoneSurface boundary(vtkDataSet& data)
+{
+    ZoneSurface whole = fromNumbered(*outerFaces(*numberedStructure(data)));
+    const vtkUnsignedCharArray* const ghosts = data.GetCellGhostArray();
+    const auto isKept = [&](vtkIdType zoneCell) { return !isHidden(ghosts, zoneCell); };
+    if (std::all_of(whole.cellIds.begin(), whole.cellIds.end(), isKept))
+        return whole;
+    SurfaceBuilder builder(*whole.shape);
+    vtkNew<vtkIdList> corners;
+    for (vtkIdType cell = 0; cell < whole.shape->GetNumberOfCells(); ++cell) {
+        whole.shape->GetCellPoints(cell, corners);
+        if (isKept(whole.cellIds[static_cast<std::size_t>(cell)]))
+            builder.addCell(whole.shape->GetCellType(cell), *corners, cell);
+    }
+    return inNumbersOf(builder.finish(), whole);
 }
 
 /// Every face of every volume cell, once, and the cells of two dimensions.
-static ZoneSurface allFaces(vtkDataSet& shared)
+static ZoneSurface allFaces(vtkDataSet& data)
 {
-    // Cells are handed out in a data set's own storage, which threads must not share.
-    const auto own = vtkSmartPointer<vtkDataSet>::Take(shared.NewInstance());
-    own->CopyStructure(&shared);
-    vtkDataSet& data = *own;
     SurfaceBuilder builder(data);
     std::set<std::vector<vtkIdType>> known;
     const auto addFace = [&](vtkCell& face, vtkIdType zoneCell) {
@@ -156,7 +221,10 @@ static ZoneSurface allFaces(vtkDataSet& shared)
         for (int face = 0; cell->GetCellDimension() == 3 && face < cell->GetNumberOfFaces(); ++face)
             addFace(*cell->GetFace(face), id);
     }
-    return builder.finish();
+    ZoneSurface numbers;
+    numbers.pointIds = pointNumbers(data);
+    numbers.cellIds = takeNumbers(*data.GetCellData(), kZoneCell);
+    return inNumbersOf(builder.finish(), numbers);
 }
 
 ZoneSurface extractSurface(vtkDataSet& data, const host::ZoneInfo& zone,
@@ -164,18 +232,15 @@ ZoneSurface extractSurface(vtkDataSet& data, const host::ZoneInfo& zone,
 {
     if (zone.ordered)
         return extractOrderedSurface(data, zone, choice);
-    const bool isVolume = zone.isVolume();
-    if (isVolume
-        && (choice.surfaces == SurfacesToPlot_None
-            || (choice.surfaces >= SurfacesToPlot_IPlanes
-                && choice.surfaces <= SurfacesToPlot_IJKPlanes))) {
-        ZoneSurface nothing;
-        nothing.shape = vtkSmartPointer<vtkPolyData>::New();
-        return nothing;
-    }
-    if (isVolume && choice.surfaces == SurfacesToPlot_All)
-        return allFaces(data);
-    return outerSurface(data);
+    if (!zone.isVolume() || choice.surfaces == SurfacesToPlot_BoundaryCellFaces)
+        return boundary(data);
+    if (choice.surfaces == SurfacesToPlot_ExposedCellFaces)
+        return fromNumbered(*outerFaces(*visiblePart(data)));
+    if (choice.surfaces == SurfacesToPlot_All)
+        return allFaces(*visiblePart(data));
+    ZoneSurface nothing;
+    nothing.shape = vtkSmartPointer<vtkPolyData>::New();
+    return nothing;
 }
 
 } // namespace corvala::plot

@@ -186,6 +186,12 @@ bool CompositeLayer::draws(CvlInt64 map) const
     return m_visible && geometry(map);
 }
 
+bool CompositeLayer::uses(CvlInt64 map, const SurfaceChoice& surface) const
+{
+    const auto found = m_blocks.find(map);
+    return found != m_blocks.end() && found->second.look.recipe.surfaces == surface;
+}
+
 const ShapePieces& CompositeLayer::pieces(CvlInt64 map) const
 {
     static const ShapePieces kNone;

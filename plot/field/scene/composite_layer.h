@@ -76,6 +76,8 @@ public:
     vtkPolyData* geometry(CvlInt64 map) const;
     /// How the block of a map looks that has one.
     const BlockLook& look(CvlInt64 map) const { return m_blocks.at(map).look; }
+    /// Whether the block of a map is made from a surface.
+    bool uses(CvlInt64 map, const SurfaceChoice& surface) const;
     const Counters& counters() const { return m_counters; }
     /// One actor per mapper, in the order in which they are to be drawn.
     std::vector<vtkActor*> actors() const;

@@ -219,7 +219,21 @@ LayerMask FieldScene::sync(const host::Frame& drawn, CvlInt64 map, LayerMask lay
         syncLayer(drawn, map, i, look);
         done |= maskOf(i);
     }
+    dropSurfaces(map);
     return done;
+}
+
+void FieldScene::dropSurfaces(CvlInt64 map)
+{
+    const auto known = m_surfaces.find(map);
+    if (known == m_surfaces.end())
+        return;
+    const auto isUnused = [&](const PlacedSurface& placed) {
+        return std::none_of(m_layers.begin(), m_layers.end(),
+                            [&](const auto& layer) { return layer->uses(map, placed.choice); });
+    };
+    std::vector<PlacedSurface>& surfaces = known->second;
+    surfaces.erase(std::remove_if(surfaces.begin(), surfaces.end(), isUnused), surfaces.end());
 }
 
 bool FieldScene::advance(int milliseconds)

@@ -107,6 +107,8 @@ private:
     /// False when the values of the map were given to another thread.
     bool noteValues(const host::Frame& frame, CvlInt64 map);
     CompositeLayer::Builder builderOf(const host::Frame& frame, CvlInt64 map);
+    /// Lets go of surfaces of which nothing is drawn any more.
+    void dropSurfaces(CvlInt64 map);
     void orderActors(vtkRenderer& renderer) const;
     void weighActors();
     CvlInt64 nearestZone(const PickRay& ray, LayerMask layers);

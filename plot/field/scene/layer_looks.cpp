@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/scene/layer_looks.h"
 
+#include "plot/field/scene/map_style.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -11,87 +13,6 @@ namespace corvala::plot {
 static constexpr const auto& kMap = style::fieldMap;
 static constexpr style::Key kBorders[] = {kMap.edgeLayer.iBorder, kMap.edgeLayer.jBorder,
                                           kMap.edgeLayer.kBorder};
-static constexpr const style::IndexRange* kPlanes[] = {
-    &kMap.surfaces.ranges.iRange, &kMap.surfaces.ranges.jRange, &kMap.surfaces.ranges.kRange};
-
-/// Reads the style of one map.
-class MapStyle
-{
-public:
-    explicit MapStyle(const ShownMap& shown)
-        : m_shown(shown)
-    {
-    }
-
-    std::int32_t number(host::AttributeId id) const
-    {
-        return m_shown.frame.fieldInteger(id, m_shown.map);
-    }
-    bool flag(host::AttributeId id) const { return number(id) != 0; }
-    double real(host::AttributeId id) const { return m_shown.frame.fieldReal(id, m_shown.map); }
-
-    BlockRecipe recipe(BlockKind kind) const;
-    void setLine(BlockLook& look, host::AttributeId thickness, host::AttributeId pattern,
-                 host::AttributeId length) const;
-    void setLineColor(BlockLook& look, std::int32_t color, const ContourGroups& groups) const;
-    void setLight(BlockLook& look, host::AttributeId light) const;
-
-private:
-    const ShownMap& m_shown;
-};
-
-BlockRecipe MapStyle::recipe(BlockKind kind) const
-{
-    BlockRecipe recipe;
-    recipe.kind = kind;
-    recipe.zone = m_shown.zone;
-    SurfaceChoice choice;
-    choice.surfaces = static_cast<SurfacesToPlot_e>(number(kMap.surfaces.surfacesToPlot));
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-        choice.planes[axis] = {number(kPlanes[axis]->min), number(kPlanes[axis]->max),
-                               number(kPlanes[axis]->skip)};
-    }
-    recipe.surfaces = choice.normalized(m_shown.frame.data()->zone(m_shown.zone));
-    return recipe;
-}
-
-void MapStyle::setLine(BlockLook& look, host::AttributeId thickness, host::AttributeId pattern,
-                       host::AttributeId length) const
-{
-    look.mapper.thickness = real(thickness);
-    look.mapper.pattern = number(pattern);
-    if (look.mapper.pattern != LinePattern_Solid) {
-        look.mapper.patternLength = real(length);
-        look.recipe.arcLength = true;
-    }
-}
-
-void MapStyle::setLineColor(BlockLook& look, std::int32_t color, const ContourGroups& groups) const
-{
-    look.color = paletteColor(color);
-    const int group = style::contourGroupOf(color);
-    if (color == style::kRgbColor && groups.hasRgb()) {
-        look.recipe.colorGroup = ContourGroups::kRed;
-        for (int channel = ContourGroups::kRed; channel <= ContourGroups::kCount; ++channel)
-            look.recipe.revision += groups.revision(channel);
-    } else if (group > 0 && groups.variable(group) > 0) {
-        look.recipe.colorGroup = group;
-        look.recipe.revision += groups.revision(group);
-    }
-    look.mapper.ownColors = look.recipe.colorGroup != 0;
-}
-
-/// A map that uses lighting is lit by a plain light; the lighting layer adds highlights and the
-/// map's lighting effect.
-void MapStyle::setLight(BlockLook& look, host::AttributeId light) const
-{
-    look.mapper.lit = m_shown.is3D() && flag(light);
-    look.mapper.shiny = look.mapper.lit && m_shown.frame.isOn(style::fieldLayers.useLightingEffect);
-    look.mapper.smooth =
-        look.mapper.shiny && number(kMap.effects.lightingEffect) == LightingEffect_Gouraud;
-    look.recipe.normals = look.mapper.smooth;
-}
-
 static std::optional<BlockLook> backgroundLook(const ShownMap& shown, const ContourGroups&)
 {
     const MapStyle style(shown);
@@ -181,12 +102,15 @@ static std::optional<BlockLook> edgesLook(const ShownMap& shown, const ContourGr
     look.recipe = style.recipe(BlockKind::Edges);
     // Edges belong to the zone, whatever surfaces of it are drawn: a volume that draws none of its
     // surfaces still shows where it is.
+    const BlankingChoice blanking = look.recipe.surfaces.blanking;
     look.recipe.surfaces = SurfaceChoice();
+    look.recipe.surfaces.blanking = blanking;
     look.recipe.edges.type = static_cast<EdgeType_e>(style.number(kMap.edgeLayer.edgeType));
     for (std::size_t axis = 0; axis < 3; ++axis) {
         look.recipe.edges.borders[axis] =
             static_cast<BorderLocation_e>(style.number(kBorders[axis]));
     }
+    look.recipe.edges.creaseAngle = style.frameReal(style::edgeDetails.creaseAngle);
     look.mapper.thickness = style.real(kMap.edgeLayer.lineThickness);
     look.color = paletteColor(style.number(kMap.edgeLayer.color));
     return look;
@@ -198,13 +122,17 @@ enum Use : unsigned {
     Light = 2,
     Values = 4, ///< of contour groups and RGB channels
     Faces = 8, ///< is made of faces, and not of lines or points
-    Outline = 16 ///< shows where a zone is, and nothing of what is on it
+    Outline = 16, ///< shows where a zone is, and nothing of what is on it
+    Cells = 32 ///< is made of cells, some of which may be blanked
 };
 static constexpr SharedStyle kShared[] = {
     {kMap.surfaces.surfacesToPlot, true, Surfaces},
     {kMap.effects.lightingEffect, true, Light},
     {style::fieldLayers.useLightingEffect, false, Light},
     {style::contourGroups.var, true, Values},
+    {style::blanking.value.include, true, Cells},
+    {kMap.effects.useValueBlanking, false, Cells},
+    {style::edgeDetails.creaseAngle, false, Outline},
     {style::globalRgb.redVar, true, Values},
     {style::activeFieldMaps, false},
     {style::activeFieldZones, false},
@@ -219,12 +147,18 @@ struct LayerDescription
     std::optional<BlockLook> (*look)(const ShownMap&, const ContourGroups&);
 };
 static constexpr LayerDescription kLayers[] = {
-    {FieldLayer::Background, 5, {&style::kMeshLayer, Surfaces | Faces}, backgroundLook},
-    {FieldLayer::Shade, 2, {&style::kShadeLayer, Surfaces | Light | Faces}, shadeLook},
-    {FieldLayer::Flood, 1, {&style::kContourLayer, Surfaces | Light | Values | Faces}, floodLook},
-    {FieldLayer::ContourLines, 3, {&style::kContourLayer, Surfaces | Values}, contourLinesLook},
-    {FieldLayer::Mesh, 4, {&style::kMeshLayer, Surfaces | Values}, meshLook},
-    {FieldLayer::Edges, 6, {&style::kEdgeLayer, Outline}, edgesLook},
+    {FieldLayer::Background, 5, {&style::kMeshLayer, Surfaces | Cells | Faces}, backgroundLook},
+    {FieldLayer::Shade, 2, {&style::kShadeLayer, Surfaces | Cells | Light | Faces}, shadeLook},
+    {FieldLayer::Flood,
+     1,
+     {&style::kContourLayer, Surfaces | Cells | Light | Values | Faces},
+     floodLook},
+    {FieldLayer::ContourLines,
+     3,
+     {&style::kContourLayer, Surfaces | Cells | Values},
+     contourLinesLook},
+    {FieldLayer::Mesh, 4, {&style::kMeshLayer, Surfaces | Cells | Values}, meshLook},
+    {FieldLayer::Edges, 6, {&style::kEdgeLayer, Outline | Cells}, edgesLook},
 };
 
 static constexpr bool areLayersInOrder()
@@ -332,12 +266,6 @@ std::vector<int> groupsShown(const ShownMap& shown, const ContourGroups& groups)
     std::sort(result.begin(), result.end());
     result.erase(std::unique(result.begin(), result.end()), result.end());
     return result;
-}
-
-host::Rgb paletteColor(std::int32_t color)
-{
-    return style::isPaletteColor(color) ? host::Document::instance().color(color)
-                                        : host::Rgb {0, 0, 0};
 }
 
 } // namespace corvala::plot

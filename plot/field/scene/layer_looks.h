@@ -67,7 +67,4 @@ LayerMask coloredLayers();
 /// What a field plot is made of, and what touches it.
 const SceneKind& fieldSceneKind();
 
-/// The colour of a number of the style tree; black for one that follows a contour group or RGB.
-host::Rgb paletteColor(std::int32_t color);
-
 } // namespace corvala::plot

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/geometry/zone_cuts.h"
+
+#include <vtkCellData.h>
+#include <vtkClipPolyData.h>
+#include <vtkDataSet.h>
+#include <vtkIdTypeArray.h>
+#include <vtkNew.h>
+#include <vtkPointData.h>
+#include <vtkTableBasedClipDataSet.h>
+#include <vtkUnstructuredGrid.h>
+
+#include <algorithm>
+
+namespace corvala::plot {
+
+static constexpr const char* kCarried = "carried";
+
+/// Values of a zone's points that go through the filters with the shape: the fields that cut, by
+/// number, and those that are wanted at its points.
+struct PointArrays
+{
+    const CutFields& fields;
+    vtkDataArray* carried; ///< may be null
+};
+
+static std::string fieldName(std::size_t number)
+{
+    return "field " + std::to_string(number);
+}
+
+/// The values at the zone's points `ids`; at all of them in their order when there are none.
+static vtkSmartPointer<vtkDoubleArray> gathered(vtkDataArray& array, vtkIdType count,
+                                                const std::vector<vtkIdType>& ids,
+                                                const std::string& name)
+{
+    auto values = vtkSmartPointer<vtkDoubleArray>::New();
+    values->SetName(name.c_str());
+    values->SetNumberOfValues(count);
+    for (vtkIdType i = 0; i < count; ++i)
+        values->SetValue(i,
+                         array.GetComponent(ids.empty() ? i : ids[static_cast<std::size_t>(i)], 0));
+    return values;
+}
+
+static void addArrays(vtkDataSet& shape, const std::vector<vtkIdType>& ids,
+                      const PointArrays& arrays)
+{
+    const vtkIdType count = shape.GetNumberOfPoints();
+    for (std::size_t i = 0; i < arrays.fields.size(); ++i)
+        shape.GetPointData()->AddArray(gathered(*arrays.fields[i], count, ids, fieldName(i)));
+    if (arrays.carried)
+        shape.GetPointData()->AddArray(gathered(*arrays.carried, count, ids, kCarried));
+}
+
+/// What is left of a shape where its fields are above 0.
+template<class Clip, class Shape>
+static vtkSmartPointer<Shape> clipped(vtkSmartPointer<Shape> shape, std::size_t fieldCount)
+{
+    for (std::size_t i = 0; i < fieldCount && shape->GetNumberOfCells() > 0; ++i) {
+        shape->GetPointData()->SetActiveScalars(fieldName(i).c_str());
+        vtkNew<Clip> clip;
+        clip->SetInputData(shape);
+        clip->SetValue(0.0);
+        clip->Update();
+        shape = clip->GetOutput();
+    }
+    return shape;
+}
+
+static vtkSmartPointer<vtkPolyData> cutShape(const ZoneSurface& surface, const PointArrays& arrays)
+{
+    auto shape = vtkSmartPointer<vtkPolyData>::New();
+    shape->CopyStructure(surface.shape);
+    addArrays(*shape, surface.pointIds, arrays);
+    addCellNumbers(*shape, surface.cellIds);
+    return clipped<vtkClipPolyData>(shape, arrays.fields.size());
+}
+
+/// The outside of what is left of a volume.
+static vtkSmartPointer<vtkPolyData> cutVolume(vtkDataSet& geometry, const PointArrays& arrays)
+{
+    vtkSmartPointer<vtkDataSet> volume = visiblePart(geometry);
+    addArrays(*volume, pointNumbers(*volume), arrays);
+    return outerFaces(*clipped<vtkTableBasedClipDataSet>(volume, arrays.fields.size()));
+}
+
+/// The numbers of a shape that is cut: its points have none.
+static ZoneSurface cutSurface(vtkPolyData& shape)
+{
+    ZoneSurface surface = fromNumbered(shape);
+    surface.pointIds.clear();
+    surface.isCut = true;
+    return surface;
+}
+
+ZoneSurface cutFaces(const ZoneSurface& surface, const CutFields& fields)
+{
+    return fields.empty() ? surface : cutSurface(*cutShape(surface, {fields, nullptr}));
+}
+
+/// A zone that is being cut.
+class CutZone
+{
+public:
+    CutZone(const host::DataSet& data, std::int64_t zone, const SurfaceChoice& choice)
+        : m_info(data.zone(zone))
+        , m_choice(choice)
+        , m_geometry(data.geometry(zone))
+    {
+        if (hasPoints())
+            m_fields = blank(*m_geometry, data, zone, choice.blanking);
+    }
+
+    bool hasPoints() const { return m_geometry && m_geometry->GetNumberOfPoints() > 0; }
+    bool isCut() const { return !m_fields.empty(); }
+    ZoneSurface whole() const { return extractSurface(*m_geometry, m_info, m_choice); }
+    vtkSmartPointer<vtkPolyData> cut(vtkDataArray* carried) const
+    {
+        const PointArrays arrays {m_fields, carried};
+        // Where a volume is cut, it has new outer faces.
+        const bool opens =
+            m_info.isVolume() && m_choice.surfaces == SurfacesToPlot_ExposedCellFaces;
+        return opens ? cutVolume(*m_geometry, arrays) : cutShape(whole(), arrays);
+    }
+
+private:
+    const host::ZoneInfo& m_info;
+    const SurfaceChoice& m_choice;
+    vtkSmartPointer<vtkDataSet> m_geometry;
+    CutFields m_fields;
+};
+
+std::shared_ptr<ZoneSurface> surfaceOf(const host::DataSet& data, std::int64_t zone,
+                                       const SurfaceChoice& choice)
+{
+    const CutZone cut(data, zone, choice);
+    if (!cut.hasPoints())
+        return nullptr;
+    auto surface =
+        std::make_shared<ZoneSurface>(cut.isCut() ? cutSurface(*cut.cut(nullptr)) : cut.whole());
+    surface->choice = choice;
+    return surface;
+}
+
+vtkSmartPointer<vtkDoubleArray> cutValues(const host::DataSet& data, std::int64_t zone,
+                                          std::int64_t variable, const ZoneSurface& surface)
+{
+    const CutZone cut(data, zone, surface.choice);
+    const host::ZoneValues values = data.values(zone, variable);
+    if (!cut.hasPoints() || !values.array)
+        return nullptr;
+    const auto shape = cut.cut(values.array);
+    auto* const carried = vtkDoubleArray::SafeDownCast(shape->GetPointData()->GetArray(kCarried));
+    return carried ? vtkSmartPointer<vtkDoubleArray>(carried)
+                   : vtkSmartPointer<vtkDoubleArray>::New();
+}
+
+} // namespace corvala::plot

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/scene/map_style.h"
+
+#include "host/style/schema.h"
+
+namespace corvala::plot {
+
+static constexpr const auto& kMap = style::fieldMap;
+static constexpr const style::IndexRange* kPlanes[] = {
+    &kMap.surfaces.ranges.iRange, &kMap.surfaces.ranges.jRange, &kMap.surfaces.ranges.kRange};
+
+std::int32_t MapStyle::frameNumber(style::Key key, int index) const
+{
+    return m_shown.frame.values().integer(host::Schema::instance().at(key), index);
+}
+
+double MapStyle::frameReal(style::Key key, int index) const
+{
+    return m_shown.frame.values().real(host::Schema::instance().at(key), index);
+}
+
+/// The constraints that are in force for the map. Its switch counts while one of those but the last
+/// is included, as its cell in the tables shows.
+BlankingChoice MapStyle::blanking() const
+{
+    constexpr const auto& value = style::blanking.value;
+    constexpr const auto& constraint = value.constraint;
+    BlankingChoice choice;
+    if (!frameFlag(value.include))
+        return choice;
+    const host::DataSet& data = *m_shown.frame.data();
+    bool hasSwitch = false;
+    for (int i = 1; i <= constraint.kCount; ++i) {
+        if (!frameFlag(constraint.include, i))
+            continue;
+        hasSwitch = hasSwitch || i < constraint.kCount;
+        const bool comparesVariable =
+            frameNumber(constraint.comparedWith, i) == ComparedWith_Variable;
+        const BlankingTest test {frameNumber(constraint.var, i),
+                                 static_cast<Relation_e>(frameNumber(constraint.relation, i)),
+                                 comparesVariable ? frameNumber(constraint.comparedVar, i) : 0,
+                                 comparesVariable ? 0.0 : frameReal(constraint.constant, i)};
+        if (data.hasVariable(test.variable)
+            && (!comparesVariable || data.hasVariable(test.comparedVariable)))
+            choice.tests.push_back(test);
+    }
+    if (choice.tests.empty() || (hasSwitch && !flag(kMap.effects.useValueBlanking)))
+        return {};
+    choice.cells = static_cast<BlankedCells_e>(frameNumber(value.blankedCells));
+    return choice;
+}
+
+BlockRecipe MapStyle::recipe(BlockKind kind) const
+{
+    BlockRecipe recipe;
+    recipe.kind = kind;
+    recipe.zone = m_shown.zone;
+    SurfaceChoice choice;
+    choice.surfaces = static_cast<SurfacesToPlot_e>(number(kMap.surfaces.surfacesToPlot));
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        choice.planes[axis] = {number(kPlanes[axis]->min), number(kPlanes[axis]->max),
+                               number(kPlanes[axis]->skip)};
+    }
+    choice.blanking = blanking();
+    recipe.surfaces = choice.normalized(m_shown.frame.data()->zone(m_shown.zone));
+    return recipe;
+}
+
+void MapStyle::setLine(BlockLook& look, host::AttributeId thickness, host::AttributeId pattern,
+                       host::AttributeId length) const
+{
+    look.mapper.thickness = real(thickness);
+    look.mapper.pattern = number(pattern);
+    if (look.mapper.pattern != LinePattern_Solid) {
+        look.mapper.patternLength = real(length);
+        look.recipe.arcLength = true;
+    }
+}
+
+void MapStyle::setLineColor(BlockLook& look, std::int32_t color, const ContourGroups& groups) const
+{
+    look.color = paletteColor(color);
+    const int group = style::contourGroupOf(color);
+    if (color == style::kRgbColor && groups.hasRgb()) {
+        look.recipe.colorGroup = ContourGroups::kRed;
+        for (int channel = ContourGroups::kRed; channel < ContourGroups::kRed + 3; ++channel)
+            look.recipe.revision += groups.revision(channel);
+    } else if (group > 0 && groups.variable(group) > 0) {
+        look.recipe.colorGroup = group;
+        look.recipe.revision += groups.revision(group);
+    }
+    look.mapper.ownColors = look.recipe.colorGroup != 0;
+}
+
+/// A map that uses lighting is lit by a plain light; the lighting layer adds highlights and the
+/// map's lighting effect.
+void MapStyle::setLight(BlockLook& look, host::AttributeId light) const
+{
+    look.mapper.lit = m_shown.is3D() && flag(light);
+    look.mapper.shiny = look.mapper.lit && m_shown.frame.isOn(style::fieldLayers.useLightingEffect);
+    look.mapper.smooth =
+        look.mapper.shiny && number(kMap.effects.lightingEffect) == LightingEffect_Gouraud;
+    look.recipe.normals = look.mapper.smooth;
+}
+
+host::Rgb paletteColor(std::int32_t color)
+{
+    return style::isPaletteColor(color) ? host::Document::instance().color(color)
+                                        : host::Rgb {0, 0, 0};
+}
+
+} // namespace corvala::plot

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/field/scene/layer_looks.h"
+
+namespace corvala::plot {
+
+/// The colour of a number of the style tree; black for one that follows a contour group or RGB.
+host::Rgb paletteColor(std::int32_t color);
+
+/// Reads the style of one map, and puts together what looks have in common.
+class MapStyle
+{
+public:
+    explicit MapStyle(const ShownMap& shown)
+        : m_shown(shown)
+    {
+    }
+
+    std::int32_t number(host::AttributeId id) const
+    {
+        return m_shown.frame.fieldInteger(id, m_shown.map);
+    }
+    bool flag(host::AttributeId id) const { return number(id) != 0; }
+    double real(host::AttributeId id) const { return m_shown.frame.fieldReal(id, m_shown.map); }
+    // Values of the frame; `index` is from 1 for those that have one.
+    std::int32_t frameNumber(style::Key key, int index = -1) const;
+    bool frameFlag(style::Key key, int index = -1) const { return frameNumber(key, index) != 0; }
+    double frameReal(style::Key key, int index = -1) const;
+
+    BlockRecipe recipe(BlockKind kind) const;
+    void setLine(BlockLook& look, host::AttributeId thickness, host::AttributeId pattern,
+                 host::AttributeId length) const;
+    void setLineColor(BlockLook& look, std::int32_t color, const ContourGroups& groups) const;
+    void setLight(BlockLook& look, host::AttributeId light) const;
+
+private:
+    BlankingChoice blanking() const;
+
+    const ShownMap& m_shown;
+};
+
+} // namespace corvala::plot

@@ -1,0 +1,333 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/geometry/surface_values.h"
+#include "plot/field/geometry/zone_cuts.h"
+#include "plot/field/geometry/zone_edges.h"
+#include "plot/field/scene/field_scene.h"
+#include "plot_document.h"
+#include "tests/support/rows.h"
+
+#include <vtkAppendFilter.h>
+#include <vtkCellArray.h>
+#include <vtkCellData.h>
+#include <vtkIdList.h>
+#include <vtkPointData.h>
+#include <vtkPolygon.h>
+#include <vtkRenderer.h>
+#include <vtkStructuredGrid.h>
+#include <vtkUnstructuredGrid.h>
+
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+
+using namespace corvala;
+using namespace corvala::plot;
+using namespace corvala::tests;
+
+enum Variable { X = 1, Y, Z, Number, NoNumber, Missing };
+enum Zone { Ordered = 1, Hexahedra, OrderedSheet, Quads };
+
+/// 4 by 4 by 4 points, or 4 by 4, at their indices, as ordered zones and as cells. "Number" is that
+/// of a cell from 0, "NoNumber" is NaN at all points.
+class Boxes : public host::ZoneSource
+{
+public:
+    static std::shared_ptr<host::DataSet> dataSet()
+    {
+        auto data = std::make_shared<host::DataSet>();
+        data->source = std::make_shared<Boxes>();
+        for (int zone = Ordered; zone <= Quads; ++zone) {
+            const bool ordered = zone == Ordered || zone == OrderedSheet;
+            const bool flat = zone >= OrderedSheet;
+            host::ZoneInfo info {"box", ordered, {}, flat ? 16 : 64, flat ? 9 : 27, flat ? 2 : 3};
+            if (ordered)
+                info.dimensions = {4, 4, flat ? 1 : 4};
+            info.sourceIndex = zone;
+            data->zones.push_back(info);
+        }
+        data->variables = {{"X", {}, {}, 0},
+                           {"Y", {}, {}, 1},
+                           {"Z", {}, {}, 2},
+                           {"Number", {}, "Number", 0},
+                           {"NoNumber", {}, "NoNumber", 0},
+                           {"Missing", {}, "Missing", 0}};
+        data->vectorVariables = {X, Y, Z};
+        data->contourVariables = {X, Y};
+        return data;
+    }
+
+    vtkSmartPointer<vtkDataSet> zone(std::int64_t zone) const override
+    {
+        auto grid = vtkSmartPointer<vtkStructuredGrid>::New();
+        const int layers = zone >= OrderedSheet ? 1 : 4;
+        grid->SetDimensions(4, 4, layers);
+        vtkNew<vtkPoints> points;
+        for (int i = 0; i < 16 * layers; ++i)
+            points->InsertNextPoint(i % 4, i / 4 % 4, i / 16);
+        grid->SetPoints(points);
+        vtkNew<vtkDoubleArray> numbers;
+        numbers->SetName("Number");
+        for (int i = 0; i < grid->GetNumberOfCells(); ++i)
+            numbers->InsertNextValue(i);
+        grid->GetCellData()->AddArray(numbers);
+        vtkNew<vtkDoubleArray> none;
+        none->SetName("NoNumber");
+        for (int i = 0; i < grid->GetNumberOfPoints(); ++i)
+            none->InsertNextValue(std::numeric_limits<double>::quiet_NaN());
+        grid->GetPointData()->AddArray(none);
+        if (zone == Ordered || zone == OrderedSheet)
+            return grid;
+        vtkNew<vtkAppendFilter> cells;
+        cells->SetInputData(grid);
+        cells->Update();
+        return cells->GetOutput();
+    }
+};
+
+static double areaOf(vtkPolyData& shape)
+{
+    double area = 0.0;
+    vtkNew<vtkIdList> corners;
+    for (vtkIdType cell = 0; cell < shape.GetNumberOfCells(); ++cell) {
+        double normal[3];
+        shape.GetCellPoints(cell, corners);
+        if (corners->GetNumberOfIds() > 2)
+            area += vtkPolygon::ComputeArea(shape.GetPoints(), corners->GetNumberOfIds(),
+                                            corners->GetPointer(0), normal);
+    }
+    return area;
+}
+
+static SurfaceChoice blanked(BlankedCells_e cells, const BlankingTest& test,
+                             SurfacesToPlot_e surfaces = SurfacesToPlot_BoundaryCellFaces)
+{
+    SurfaceChoice choice;
+    choice.surfaces = surfaces;
+    choice.blanking = {cells, {test}};
+    return choice;
+}
+
+/// A value to write, "PATH=VALUE" or "PATH[INDEX]=VALUE"; of all maps, or of some.
+static void edit(const QString& text, const char* maps = "all")
+{
+    const QStringList parts = text.split('=');
+    const QString path = parts[0].section('[', 0, 0);
+    const int index = parts[0].contains('[') ? parts[0].section('[', 1).chopped(1).toInt() : -1;
+    write(path.toUtf8().constData(), path.startsWith("FieldMap/") ? maps : "", parts[1].toDouble(),
+          index);
+}
+
+/// The boxes in space with a scene of them.
+struct ShownBoxes
+{
+    ShownBoxes()
+    {
+        document().clear();
+        document().execute(host::AddFrame {});
+        document().execute(host::AttachData {{}, Boxes::dataSet(), PlotType_Field3D, 0});
+        edit("FieldMap/Surfaces/SurfacesToPlot=0");
+        scene.setFrame(document().activeFrameId());
+        connection = document().events().connect([this](const auto& event) { scene.apply(event); });
+        work();
+    }
+    void work()
+    {
+        scene.advance(-1);
+        scene.prepare({800, 10.0, 1.0});
+    }
+    /// What is drawn of a map: its cells in each layer that is on, and how they look.
+    QStringList drawn(CvlInt64 map)
+    {
+        work();
+        QStringList result;
+        for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
+            const CompositeLayer& layer = scene.layer(static_cast<FieldLayer>(i));
+            if (!layer.draws(map))
+                continue;
+            const MapperLook& look = layer.look(map).mapper;
+            result << QStringLiteral("layer %1: %2 cells, light %3%4%5")
+                          .arg(i)
+                          .arg(layer.geometry(map)->GetNumberOfCells())
+                          .arg(look.lit)
+                          .arg(look.smooth)
+                          .arg(look.shiny);
+        }
+        return result;
+    }
+    std::int64_t built()
+    {
+        work();
+        std::int64_t count = 0;
+        for (std::size_t i = 0; i < kFieldLayerCount; ++i)
+            count += scene.layer(static_cast<FieldLayer>(i)).counters().built;
+        return count;
+    }
+
+    vtkNew<vtkRenderer> back;
+    vtkNew<vtkRenderer> front;
+    FieldScene scene {*back, *front, std::make_shared<SurfaceCache>()};
+    boost::signals2::scoped_connection connection;
+};
+
+class tst_FieldVolumes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void blankedVolumes_data()
+    {
+        const Rows<SurfaceChoice, double> row;
+        const auto all = BlankedCells_AllPoints;
+        const auto any = BlankedCells_AnyPoint;
+        const auto cut = BlankedCells_PreciseCut;
+        const auto exposed = SurfacesToPlot_ExposedCellFaces;
+        const BlankingTest upToOne {X, Relation_LessOrEqual, 0, 1.0};
+        const BlankingTest upToMiddle {X, Relation_LessOrEqual, 0, 1.5};
+        // Boxes have 6 * 9 faces; what is left has its part of these, and 9 that open.
+        row("all points", blanked(all, upToOne), 9 + 8 * 3);
+        row("all points, exposed", blanked(all, upToOne, exposed), 2 * 9 + 8 * 3);
+        row("all points, all faces", blanked(all, upToOne, SurfacesToPlot_All), 27 + 24 + 24);
+        row("any point", blanked(any, upToOne), 9 + 4 * 3);
+        row("any point, exposed", blanked(any, upToOne, exposed), 2 * 9 + 4 * 3);
+        row("first point", blanked(BlankedCells_FirstPoint, upToOne), 9 + 4 * 3);
+        row("precise cut", blanked(cut, upToMiddle), 9 + 4 * 3 * 1.5);
+        row("precise cut, exposed", blanked(cut, upToMiddle, exposed), 2 * 9 + 4 * 3 * 1.5);
+        row("precise cut above", blanked(cut, {X, Relation_Greater, 0, 1.5}), 9 + 4 * 3 * 1.5);
+        row("less", blanked(all, {X, Relation_Less, 0, 1.0}), 54);
+        row("greater or equal", blanked(all, {X, Relation_GreaterOrEqual, 0, 2.0}), 9 + 8 * 3);
+        row("greater", blanked(any, {X, Relation_Greater, 0, 2.0}), 9 + 8 * 3);
+        row("equal", blanked(any, {X, Relation_Equal, 0, 1.0}), 9 + 4 * 3);
+        row("equal has nothing to cut", blanked(cut, {X, Relation_Equal, 0, 1.0}), 54);
+        row("not equal", blanked(all, {X, Relation_NotEqual, 0, 1.0}), 9 + 8 * 3);
+        row("two variables", blanked(all, {X, Relation_LessOrEqual, Y, 0.0}), 54 - 18);
+        row("two variables, cut", blanked(cut, {X, Relation_LessOrEqual, Y, 0.0}), 18 + 9);
+        row("cells by cell", blanked(any, {Number, Relation_Less, 0, 9.0}), 9 + 8 * 3);
+        row("cells are not cut", blanked(cut, {Number, Relation_Less, 0, 8.5}), 9 + 8 * 3);
+        row("no number", blanked(any, {NoNumber, Relation_NotEqual, 0, 0.0}), 54);
+        row("no number to cut", blanked(cut, {NoNumber, Relation_Greater, 0, 0.0}), 54);
+        row("missing", blanked(any, {Missing, Relation_LessOrEqual, 0, 0.0}), 54);
+        row("everything", blanked(all, {X, Relation_GreaterOrEqual, 0, 0.0}), 0);
+        row("everything, cut", blanked(cut, {X, Relation_GreaterOrEqual, 0, -1.0}, exposed), 0);
+        SurfaceChoice two = blanked(all, upToOne);
+        two.blanking.tests.push_back({Y, Relation_LessOrEqual, 0, 1.0});
+        row("two tests", two, 20);
+    }
+
+    void blankedVolumes()
+    {
+        const auto [choice, area] = currentRow<SurfaceChoice, double>();
+        const auto data = Boxes::dataSet();
+        for (const int zone : {Ordered, Hexahedra}) {
+            const auto surface = surfaceOf(*data, zone, choice);
+            QCOMPARE(areaOf(*surface->shape), area);
+            const vtkIdType points = surface->shape->GetNumberOfPoints();
+            for (const int axis : {0, 1, 2}) {
+                const auto values = pointValues(*data, zone, X + axis, *surface);
+                QCOMPARE(values->GetNumberOfTuples(), points);
+                for (vtkIdType i = 0; i < points; ++i)
+                    QVERIFY(std::abs(values->GetValue(i) - surface->shape->GetPoint(i)[axis])
+                            < 1e-6);
+            }
+            const auto numbers = cellValues(*data, zone, Number, *surface, CellValue::Primary);
+            QCOMPARE(numbers->GetNumberOfTuples(), surface->shape->GetNumberOfCells());
+        }
+    }
+
+    void blankedSheets()
+    {
+        const auto data = Boxes::dataSet();
+        const SurfaceChoice hidden =
+            blanked(BlankedCells_AnyPoint, {X, Relation_LessOrEqual, 0, 1.0});
+        const SurfaceChoice cut =
+            blanked(BlankedCells_PreciseCut, {X, Relation_LessOrEqual, 0, 1.0});
+        for (const int zone : {OrderedSheet, Quads}) {
+            QCOMPARE(areaOf(*surfaceOf(*data, zone, hidden)->shape), 3.0);
+            QCOMPARE(areaOf(*surfaceOf(*data, zone, cut)->shape), 6.0);
+        }
+    }
+
+    void blankedEdges_data()
+    {
+        const Rows<int, SurfaceChoice, double> row;
+        const BlankingTest half {X, Relation_LessOrEqual, 0, 1.5};
+        const auto rule = BlankedCells_FirstPoint;
+        row("box", Ordered, {}, 12 * 3);
+        row("part of a box", Ordered, blanked(rule, half), 4 * 3 + 4);
+        row("cut box", Ordered, blanked(BlankedCells_PreciseCut, half), 4 * 3 + 4 * 1.5);
+        // Without indices the rim of what is left is an edge.
+        row("part of cells", Hexahedra, blanked(rule, half), 8 * 3 + 4);
+        row("part of a sheet", Quads, blanked(rule, half), 2 * 3 + 2);
+        row("cut sheet", Quads, blanked(BlankedCells_PreciseCut, half), 2 * 3 + 2 * 1.5);
+    }
+
+    void blankedEdges()
+    {
+        const auto [zone, choice, length] = currentRow<int, SurfaceChoice, double>();
+        const auto data = Boxes::dataSet();
+        const auto geometry = data->geometry(zone);
+        const CutFields fields = blank(*geometry, *data, zone, choice.blanking);
+        const auto lines =
+            zoneEdges(*geometry, data->zone(zone), *surfaceOf(*data, zone, choice), {}, fields);
+        double sum = 0.0;
+        for (vtkIdType line = 0; line < lines->GetNumberOfCells(); ++line)
+            sum += std::sqrt(lines->GetCell(line)->GetLength2());
+        QCOMPARE(sum, length);
+    }
+
+    void columns_data()
+    {
+        const Rows<QString, QString, bool> row;
+        const QString blanking = "Blanking/Value/Include=1 Blanking/Value/Constraint/Var[%1]=1 "
+                                 "Blanking/Value/Constraint/Constant[%1]=1 "
+                                 "Blanking/Value/Constraint/Include[%1]=1";
+        const QString noBlanking = "FieldMap/Effects/UseValueBlanking=0";
+        row("blanking", blanking.arg(3), noBlanking, true);
+        row("no blanking", "Blanking/Value/Constraint/Include[1]=1", noBlanking, false);
+        row("blanking without constraints", "Blanking/Value/Include=1", noBlanking, false);
+        row("the last constraint only", blanking.arg(8), noBlanking, false);
+        row("constraint", "", blanking.arg(1), true);
+        row("last constraint", "", blanking.arg(8), true);
+        row("constraint without variable", "",
+            "Blanking/Value/Include=1 Blanking/Value/Constraint/Include[1]=1", false);
+        row("rule", blanking.arg(1), "Blanking/Value/BlankedCells=1", true);
+        row("crease angle", "", "EdgeDetails/CreaseAngle=100", true);
+    }
+
+    /// A value of maps shows in the map that it is written for and nowhere else, and nowhere while
+    /// its cell in the tables is grey; one of the frame shows in this map, too.
+    void columns()
+    {
+        const auto [before, change, shows] = currentRow<QString, QString, bool>();
+        ShownBoxes shown;
+        for (const QString& text : before.split(' ', Qt::SkipEmptyParts))
+            edit(text);
+        const QStringList map = shown.drawn(Hexahedra);
+        const QStringList other = shown.drawn(Ordered);
+        const std::int64_t built = shown.built();
+        for (const QString& text : change.split(' '))
+            edit(text, "2");
+        QCOMPARE(shown.drawn(Hexahedra) != map, shows);
+        QCOMPARE(shown.built() != built, shows);
+        if (change.startsWith("FieldMap/"))
+            QCOMPARE(shown.drawn(Ordered), other);
+    }
+
+    void nothingIsLeft()
+    {
+        ShownBoxes shown;
+        edit("Blanking/Value/Constraint/Var[1]=1");
+        edit("Blanking/Value/Constraint/Constant[1]=9");
+        edit("Blanking/Value/Constraint/Include[1]=1");
+        edit("Blanking/Value/Include=1");
+        QVERIFY(shown.drawn(Ordered).isEmpty());
+        QVERIFY(!shown.scene.bounds().IsValid());
+        edit("FieldMap/Effects/UseValueBlanking=0", "2");
+        QVERIFY(!shown.drawn(Hexahedra).isEmpty());
+        QCOMPARE(shown.scene.zoneAt({{1.5, 1.5, 9.0}, {1.5, 1.5, -9.0}, 0.01}), Hexahedra);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_FieldVolumes)
+
+#include "tst_field_volumes.moc"
