@@ -153,23 +153,34 @@ private Q_SLOTS:
 
     void vectorProposal_data()
     {
-        const Rows<QByteArray, int> row;
-        row("velocity wins", "Gradient Momentum Velocity", 10);
-        row("momentum before others", "Gradient Momentum", 7);
-        row("normals last", "Normals Gradient", 7);
-        row("first of equals", "Gradient Force", 4);
-        row("U is a velocity", "Force U", 7);
+        const Rows<int, QByteArray, std::array<int, 3>> row;
+        row("velocity wins", 3, "Gradient Momentum Velocity", {{10, 11, 12}});
+        row("momentum before others", 3, "Gradient Momentum", {{7, 8, 9}});
+        row("normals last", 3, "Normals Gradient", {{7, 8, 9}});
+        row("first of equals", 3, "Gradient Force", {{4, 5, 6}});
+        row("U is a velocity", 3, "Force U", {{7, 8, 9}});
+        row("letters", 1, "p u T v w", {{5, 7, 8}});
+        row("two of them", 1, "V U", {{5, 4, 0}});
+        row("letters behind", 1, "aX aY VelocityX VelocityY VelocityZ", {{6, 7, 8}});
+        row("behind a line", 1, "u_y u_x", {{5, 4, 0}});
+        row("before", 1, "x-momentum y-momentum z-momentum", {{4, 5, 6}});
+        row("times the density", 1, "rho rhou rhov", {{5, 6, 0}});
+        row("numbers", 1, "velocity:0 velocity:1 velocity:2", {{4, 5, 6}});
+        row("numbers of other things", 1, "sample_1 sample_2 sample_3", {{0, 0, 0}});
+        row("no partner", 1, "Flux Density U_x", {{0, 0, 0}});
+        row("places", 1, "CoordinateX CoordinateY", {{0, 0, 0}});
     }
 
     void vectorProposal()
     {
-        const auto [names, first] = currentRow<QByteArray, int>();
+        const auto [components, names, vector] = currentRow<int, QByteArray, std::array<int, 3>>();
         QByteArray arrays;
         for (const QByteArray& name : names.split(' '))
-            arrays += array("type=\"Float32\" NumberOfComponents=\"3\" Name=\"" + name + '"',
-                            "1 2 3 4 5 6 7 8 9 10 11 12");
+            arrays += array("type=\"Float32\" NumberOfComponents=\""
+                                + QByteArray::number(components) + "\" Name=\"" + name + '"',
+                            components == 3 ? "1 2 3 4 5 6 7 8 9 10 11 12" : "1 2 3 4");
         const auto result = dataOf({m_folder->write("a.vtp", polyData(arrays))});
-        QCOMPARE(result->vectorVariables, (std::array<int, 3> {{first, first + 1, first + 2}}));
+        QCOMPARE(result->vectorVariables, vector);
     }
 
     /// Of each file, the first names that all its blocks with points share are left out.

@@ -207,7 +207,18 @@ private Q_SLOTS:
         row("shade off", "Shade/Show", 0.0, shade, 0, 0, 0, 2);
         row("flood by density", "Contour/FloodColoring", 2.0, flood, 2, 0, 0, 0);
         row("flood by cell", "Contour/ContourType", 3.0, flood, 2, 0, 0, 0);
-        row("not drawn", "Vector/Show", 0.0, mesh, 0, 0, 0, 0);
+        const int vectors = int(FieldLayer::Vectors);
+        row("vector type", "Vector/VectorType", 2.0, vectors, 2, 0, 0, 0);
+        row("tangents", "Vector/IsTangent", 1.0, vectors, 2, 0, 0, 0);
+        row("arrowheads", "Vector/ArrowheadStyle", 1.0, vectors, 2, 0, 0, 0);
+        row("vector color", "Vector/Color", 7.0, vectors, 0, 0, 2, 0);
+        row("vectors by group", "Vector/Color", 101.0, vectors, 2, 0, 0, 0);
+        row("vector pattern", "Vector/LinePattern", 1.0, vectors, 2, 0, 0, 0);
+        row("length of solid vectors", "Vector/PatternLength", 4.0, vectors, 0, 0, 0, 0);
+        row("vector thickness", "Vector/LineThickness", 1.2, vectors, 0, 2, 0, 0);
+        row("vectors off", "Vector/Show", 0.0, vectors, 0, 0, 0, 2);
+        row("points", "Points/PointsToPlot", 3.0, vectors, 2, 0, 0, 0);
+        row("skip", "Points/IJKSkip/J", 3.0, vectors, 1, 0, 0, 0); // map 8 is not ordered
     }
 
     void editsTouchWhatTheyName()
@@ -216,6 +227,7 @@ private Q_SLOTS:
             currentRow<QString, double, int, int, int, int, int>();
         write("FieldLayers/ShowShade", "", 1);
         write("FieldLayers/ShowContour", "", 1);
+        write("FieldLayers/ShowVector", "", 1);
         work();
         std::array<CompositeLayer::Counters, kFieldLayerCount> before;
         for (std::size_t i = 0; i < kFieldLayerCount; ++i)

@@ -4,6 +4,7 @@
 #include "host/io/reader/block_tree.h"
 #include "host/io/reader/channel.h"
 #include "host/io/reader/read_failure.h"
+#include "host/io/reader/vector_proposal.h"
 #include "host/io/reader/vtk_messages.h"
 #include "host/io/reader/zone_check.h"
 
@@ -73,7 +74,7 @@ DataSetIndex DataSetBuilder::build(const std::vector<std::unique_ptr<DataFile>>&
     noteOmissions();
     m_index.zoneFiles = m_writer.files();
     m_index.data.variables = m_variables.variables();
-    m_index.data.vectorVariables = m_variables.proposeVector();
+    m_index.data.vectorVariables = proposedVector(m_index.data.variables);
     m_index.data.contourVariables = m_variables.proposeContours();
     return std::move(m_index);
 }

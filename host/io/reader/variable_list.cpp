@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/variable_list.h"
 
-#include <QRegularExpression>
-#include <QString>
+#include "host/io/reader/vector_proposal.h"
 
 #include <vtkCellData.h>
 #include <vtkDataArray.h>
@@ -20,19 +19,6 @@ static constexpr std::size_t kMostContours = 8;
 static bool isGhostArray(const std::string& name)
 {
     return name == vtkDataSetAttributes::GhostArrayName();
-}
-
-static bool matches(const std::string& name, const char* pattern)
-{
-    const QRegularExpression expression(QString::fromLatin1(pattern),
-                                        QRegularExpression::CaseInsensitiveOption);
-    return expression.match(QString::fromStdString(name)).hasMatch();
-}
-
-static bool namesBookkeeping(const std::string& name)
-{
-    return matches(name,
-                   "^vtkOriginal|^(Global|Pedigree)\\w*Id$|^ObjectId$|^SourceElement|^IBlank$");
 }
 
 void VariableList::add(vtkDataSet& zone)
@@ -67,19 +53,6 @@ std::string VariableList::Array::componentLabel(int component) const
     return given.empty() ? std::to_string(component + 1) : given;
 }
 
-int VariableList::Array::likenessToVelocity() const
-{
-    if ((componentCount() != 3 && componentCount() != 2) || isBookkeeping)
-        return 0;
-    if (matches(name, "^u$|^v$|veloc|^vel"))
-        return 5;
-    if (matches(name, "momentum"))
-        return 4;
-    if (matches(name, "normal|^texture|tcoord|colou?r|rgb"))
-        return 1;
-    return componentCount() == 3 ? 3 : 2;
-}
-
 std::vector<Variable> VariableList::variables() const
 {
     std::vector<Variable> result;
@@ -105,18 +78,6 @@ int VariableList::firstVariable(const Array& wanted) const
         number += array.componentCount();
     }
     return number;
-}
-
-std::array<int, 3> VariableList::proposeVector() const
-{
-    const auto best = std::max_element(
-        m_arrays.begin(), m_arrays.end(), [](const Array& left, const Array& right) {
-            return left.likenessToVelocity() < right.likenessToVelocity();
-        });
-    if (best == m_arrays.end() || best->likenessToVelocity() == 0)
-        return {{0, 0, 0}};
-    const int first = firstVariable(*best);
-    return {{first, first + 1, best->componentCount() == 3 ? first + 2 : 0}};
 }
 
 std::vector<int> VariableList::proposeContours() const

@@ -3,7 +3,6 @@
 
 #include "host/document/data_set.h"
 
-#include <array>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -20,8 +19,6 @@ public:
     void add(vtkDataSet& zone);
 
     std::vector<Variable> variables() const;
-    /// U, V, W: the components of the array that looks most like a velocity; zeros without one.
-    std::array<int, 3> proposeVector() const;
     /// For the contour groups: scalars first, then components of vectors.
     std::vector<int> proposeContours() const;
 
@@ -34,7 +31,6 @@ private:
 
         int componentCount() const { return static_cast<int>(componentNames.size()); }
         std::string componentLabel(int component) const;
-        int likenessToVelocity() const; ///< 0 when it is no vector
     };
 
     void add(vtkDataSetAttributes& attributes);

@@ -2,6 +2,7 @@
 #include "plot/field/geometry/block_builder.h"
 
 #include "plot/field/geometry/mesh_lines.h"
+#include "plot/field/geometry/surface_directions.h"
 #include "plot/field/geometry/surface_values.h"
 #include "plot/field/geometry/value_colors.h"
 
@@ -40,11 +41,9 @@ static Shape laidDown(vtkPolyData* shape, const double* height)
 const PlacedSurface* BlockBuilder::surface(const BlockRecipe& recipe, const double* height,
                                            std::vector<PlacedSurface>& placed) const
 {
-    const auto isOld = [&](const PlacedSurface& known) { return known.zone != recipe.zone; };
-    placed.erase(std::remove_if(placed.begin(), placed.end(), isOld), placed.end());
     const SurfaceChoice choice = recipe.surfaces.normalized(m_data.zone(recipe.zone));
     for (const PlacedSurface& known : placed)
-        if (known.choice == choice)
+        if (known.surface && known.choice == choice)
             return &known;
     const auto surface = m_cache.surface(m_data, recipe.zone, choice);
     if (!surface)
@@ -84,6 +83,13 @@ static Shape facesOf(vtkPolyData* shape, bool withNormals)
 ShapePieces BlockBuilder::build(const BlockRecipe& recipe, const double* height,
                                 std::vector<PlacedSurface>& placed) const
 {
+    const auto isOld = [&](const PlacedSurface& known) { return known.zone != recipe.zone; };
+    placed.erase(std::remove_if(placed.begin(), placed.end(), isOld), placed.end());
+    if (recipe.kind == BlockKind::Arrows) {
+        const Shape result =
+            arrowShapes(recipe, carriers(recipe, height, placed), height != nullptr);
+        return result && result->GetNumberOfCells() > 0 ? inPieces(*result) : ShapePieces();
+    }
     const PlacedSurface* const found = surface(recipe, height, placed);
     if (!found || found->shape->GetNumberOfPoints() == 0)
         return {};
@@ -95,6 +101,7 @@ ShapePieces BlockBuilder::build(const BlockRecipe& recipe, const double* height,
     case BlockKind::ContourLines: result = contourLines(recipe, *found); break;
     case BlockKind::Edges: result = edges(recipe, *found, height); break;
     case BlockKind::MeshLines: result = mesh(recipe, *found); break;
+    case BlockKind::Arrows: break;
     }
     return result && result->GetNumberOfCells() > 0 ? inPieces(*result) : ShapePieces();
 }
@@ -110,21 +117,27 @@ vtkSmartPointer<vtkDoubleArray> BlockBuilder::values(int group, const BlockRecip
     return pointValues(m_data, recipe.zone, variable, *placed.surface);
 }
 
-vtkSmartPointer<vtkDataArray> BlockBuilder::colors(const BlockRecipe& recipe,
-                                                   const PlacedSurface& placed) const
+template<class ValuesOf>
+vtkSmartPointer<vtkDataArray> BlockBuilder::colorsBy(int group, ValuesOf valuesOf) const
 {
-    if (recipe.colorGroup != ContourGroups::kRed) {
-        const auto single = values(recipe.colorGroup, recipe, placed);
-        return single ? groupColors(*single, recipe.colorGroup, m_groups) : nullptr;
+    if (group != ContourGroups::kRed) {
+        const auto single = valuesOf(group);
+        return single ? groupColors(*single, group, m_groups) : nullptr;
     }
     std::array<vtkSmartPointer<vtkDoubleArray>, 3> channels;
     for (int i = 0; i < 3; ++i) {
         auto& channel = channels[static_cast<std::size_t>(i)];
-        channel = values(ContourGroups::kRed + i, recipe, placed);
+        channel = valuesOf(ContourGroups::kRed + i);
         if (!channel)
             return nullptr;
     }
     return channelColors(channels, m_groups);
+}
+
+vtkSmartPointer<vtkDataArray> BlockBuilder::colors(const BlockRecipe& recipe,
+                                                   const PlacedSurface& placed) const
+{
+    return colorsBy(recipe.colorGroup, [&](int group) { return values(group, recipe, placed); });
 }
 
 vtkSmartPointer<vtkDataArray> BlockBuilder::floodArray(const BlockRecipe& recipe,
@@ -235,6 +248,101 @@ Shape BlockBuilder::edges(const BlockRecipe& recipe, const PlacedSurface& placed
     const CutFields fields = blank(*data, m_data, recipe.zone, recipe.surfaces.blanking);
     return laidDown(
         zoneEdges(*data, m_data.zone(recipe.zone), *placed.surface, recipe.edges, fields), height);
+}
+
+/// Points as a shape that can be picked.
+static Shape vertices(vtkPoints* points)
+{
+    auto shape = Shape::New();
+    vtkNew<vtkCellArray> cells;
+    cells->AllocateExact(points->GetNumberOfPoints(), points->GetNumberOfPoints());
+    for (vtkIdType point = 0; point < points->GetNumberOfPoints(); ++point)
+        cells->InsertNextCell(1, &point);
+    shape->SetPoints(points);
+    shape->SetVerts(cells);
+    return shape;
+}
+
+BlockBuilder::Carriers BlockBuilder::carriers(const BlockRecipe& recipe, const double* height,
+                                              std::vector<PlacedSurface>& placed) const
+{
+    Carriers result;
+    const vtkSmartPointer<vtkDataSet> zone = m_data.geometry(recipe.zone);
+    const bool isOfSurface = recipe.points.isOfSurface();
+    if (isOfSurface) {
+        if (const PlacedSurface* const found = surface(recipe, height, placed))
+            result.surface = found->surface;
+    }
+    if (!zone || (isOfSurface && !result.surface))
+        return result;
+    CutFields fields;
+    if (!isOfSurface)
+        fields = blank(*zone, m_data, recipe.zone, recipe.surfaces.blanking);
+    result.points =
+        glyphPoints(*zone, m_data.zone(recipe.zone), result.surface.get(), recipe.points, fields);
+    if (height) {
+        double place[3];
+        for (vtkIdType i = 0; i < result.points.places->GetNumberOfPoints(); ++i) {
+            result.points.places->GetPoint(i, place);
+            result.points.places->SetPoint(i, place[0], place[1], *height);
+        }
+    }
+    const auto isOfPoints = [](const PlacedSurface& known) { return !known.surface; };
+    if (!isOfSurface) {
+        placed.erase(std::remove_if(placed.begin(), placed.end(), isOfPoints), placed.end());
+        placed.push_back(
+            {recipe.zone, recipe.surfaces, nullptr, vertices(result.points.places), nullptr});
+    }
+    return result;
+}
+
+vtkSmartPointer<vtkDoubleArray> BlockBuilder::vectors(const BlockRecipe& recipe,
+                                                      const Carriers& carriers) const
+{
+    std::array<vtkSmartPointer<vtkDataArray>, 3> parts;
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        if (recipe.arrows.variables[axis] > 0)
+            parts[axis] = glyphValues(m_data, recipe.zone, recipe.arrows.variables[axis],
+                                      carriers.surface.get(), recipe.points, carriers.points);
+    }
+    const auto result = joinedVectors(parts, static_cast<vtkIdType>(carriers.points.ids.size()));
+    if (result && recipe.arrows.isTangent && carriers.surface)
+        makeTangent(*result, carriers.points, *carriers.surface, recipe.points);
+    return result;
+}
+
+static vtkSmartPointer<vtkDoubleArray> upright(std::size_t count)
+{
+    auto normals = vtkSmartPointer<vtkDoubleArray>::New();
+    normals->SetNumberOfComponents(3);
+    normals->SetNumberOfTuples(static_cast<vtkIdType>(count));
+    normals->Fill(0.0);
+    normals->FillComponent(2, 1.0);
+    return normals;
+}
+
+Shape BlockBuilder::arrowShapes(const BlockRecipe& recipe, const Carriers& carriers,
+                                bool isFlat) const
+{
+    const GlyphPoints& points = carriers.points;
+    const auto directions = points.ids.empty() ? nullptr : vectors(recipe, carriers);
+    if (!directions)
+        return nullptr;
+    vtkSmartPointer<vtkDoubleArray> normals;
+    if (isFlat)
+        normals = upright(points.ids.size());
+    else if (carriers.surface)
+        normals = normalsAt(points, *carriers.surface, recipe.points);
+    vtkSmartPointer<vtkDataArray> pointColors;
+    if (recipe.colorGroup > 0)
+        pointColors = colorsBy(recipe.colorGroup, [&](int group) {
+            return glyphValues(m_data, recipe.zone, m_groups.variable(group),
+                               carriers.surface.get(), recipe.points, points);
+        });
+    Shape result = arrows({*points.places, *directions, normals, pointColors}, recipe.arrows);
+    if (!recipe.arcLength)
+        result->GetPointData()->SetTCoords(nullptr);
+    return result;
 }
 
 } // namespace corvala::plot

@@ -15,7 +15,7 @@ struct PlacedSurface
 {
     CvlInt64 zone = 0;
     SurfaceChoice choice;
-    std::shared_ptr<const ZoneSurface> surface;
+    std::shared_ptr<const ZoneSurface> surface; ///< null for points that are of no surface
     /// The surface's shape, of one thread only; in a flat plot laid down at the height of its map.
     vtkSmartPointer<vtkPolyData> shape;
     vtkSmartPointer<vtkCellLocator> locator; ///< null until something is picked
@@ -49,9 +49,25 @@ private:
     Shape mesh(const BlockRecipe& recipe, const PlacedSurface& placed) const;
     Shape edges(const BlockRecipe& recipe, const PlacedSurface& placed, const double* height) const;
 
+    /// Points that carry something, and what they are of.
+    struct Carriers
+    {
+        std::shared_ptr<const ZoneSurface> surface; ///< null for points of the whole zone
+        GlyphPoints points;
+    };
+    /// Lays the points down, and adds them to `placed` unless a surface stands for them.
+    Carriers carriers(const BlockRecipe& recipe, const double* height,
+                      std::vector<PlacedSurface>& placed) const;
+    vtkSmartPointer<vtkDoubleArray> vectors(const BlockRecipe& recipe,
+                                            const Carriers& carriers) const;
+    Shape arrowShapes(const BlockRecipe& recipe, const Carriers& carriers, bool isFlat) const;
+
     vtkSmartPointer<vtkDoubleArray> values(int group, const BlockRecipe& recipe,
                                            const PlacedSurface& placed) const;
-    /// Colours by the recipe's colour group; null when the zone lacks the variable.
+    /// Colours by a group, ContourGroups::kRed for RGB; `valuesOf` gives the values of a group.
+    /// Null when the zone lacks a variable.
+    template<class ValuesOf>
+    vtkSmartPointer<vtkDataArray> colorsBy(int group, ValuesOf valuesOf) const;
     vtkSmartPointer<vtkDataArray> colors(const BlockRecipe& recipe,
                                          const PlacedSurface& placed) const;
     /// What colours a flood: colours, or coordinates in the texture of the group's bands.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "plot/field/geometry/arrows.h"
+#include "plot/field/geometry/glyph_points.h"
 #include "plot/field/geometry/zone_edges.h"
 #include "plot/field/geometry/zone_surface.h"
 #include "sdk/base/types.h"
@@ -15,7 +17,8 @@ enum class BlockKind {
     CellFlood, ///< the same with one value a cell
     ContourLines,
     Edges,
-    MeshLines
+    MeshLines,
+    Arrows
 };
 
 /// What the geometry of a block is made from; equal recipes give equal geometry.
@@ -25,6 +28,8 @@ struct BlockRecipe
     CvlInt64 zone = 0;
     SurfaceChoice surfaces;
     EdgeChoice edges; ///< of Edges
+    PointChoice points; ///< of Arrows
+    ArrowChoice arrows;
     bool arcLength = false; ///< lines carry a pattern
     bool normals = false;
     bool primaryValues = false; ///< of CellFlood
@@ -41,7 +46,7 @@ struct BlockRecipe
 inline bool operator==(const BlockRecipe& left, const BlockRecipe& right)
 {
     return left.tied() == right.tied() && left.surfaces == right.surfaces
-        && left.edges == right.edges;
+        && left.edges == right.edges && left.points == right.points && left.arrows == right.arrows;
 }
 
 } // namespace corvala::plot

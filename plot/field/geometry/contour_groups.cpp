@@ -44,14 +44,36 @@ static CvlInt64 variableOf(const host::Frame& frame, host::AttributeId id, int i
     return frame.values().integer(host::Schema::instance().at(id), index);
 }
 
+/// The variable of the coordinate X, Y or Z; 0 without one.
+static CvlInt64 coordinateOf(const host::Frame& frame, int axis)
+{
+    const CvlInt64 count = frame.data() ? frame.data()->variableCount() : 0;
+    for (CvlInt64 number = 1; number <= count; ++number) {
+        const host::Variable& variable = frame.data()->variable(number);
+        if (variable.isCoordinate() && variable.component == axis)
+            return number;
+    }
+    return 0;
+}
+
+static CvlInt64 variableOf(const host::Frame& frame, int group)
+{
+    constexpr style::VariableKey kOthers[] = {style::globalRgb.redVar,  style::globalRgb.greenVar,
+                                              style::globalRgb.blueVar, style::globalScatter.var,
+                                              style::globalVector.uVar, style::globalVector.vVar,
+                                              style::globalVector.wVar};
+    if (group >= ContourGroups::kPlace)
+        return coordinateOf(frame, group - ContourGroups::kPlace);
+    return group < ContourGroups::kRed
+        ? variableOf(frame, style::contourGroups.var, group)
+        : variableOf(frame, kOthers[group - ContourGroups::kRed], -1);
+}
+
 bool ContourGroups::setVariables(const host::Frame& frame)
 {
-    constexpr style::VariableKey kChannels[] = {style::globalRgb.redVar, style::globalRgb.greenVar,
-                                                style::globalRgb.blueVar};
     bool changed = false;
     for (int group = 1; group <= kCount; ++group) {
-        CvlInt64 variable = group < kRed ? variableOf(frame, style::contourGroups.var, group)
-                                         : variableOf(frame, kChannels[group - kRed], -1);
+        CvlInt64 variable = variableOf(frame, group);
         if (!frame.data() || !frame.data()->hasVariable(variable))
             variable = 0;
         if (variable != at(group).variable) {
@@ -72,11 +94,26 @@ void ContourGroups::clear()
         group = Group();
         group.revision = revision;
     }
+    m_vectorScale = {};
 }
 
 bool ContourGroups::hasRgb() const
 {
     return variable(kRed) > 0 && variable(kRed + 1) > 0 && variable(kRed + 2) > 0;
+}
+
+bool ContourGroups::hasVector(bool inSpace) const
+{
+    return variable(kVector) > 0 || variable(kVector + 1) > 0
+        || (inSpace && variable(kVector + 2) > 0);
+}
+
+bool ContourGroups::setVectorScale(const VectorScale& scale)
+{
+    const bool changed =
+        m_vectorScale.lengthOfOne != scale.lengthOfOne || m_vectorScale.length != scale.length;
+    m_vectorScale = scale;
+    return changed;
 }
 
 bool ContourGroups::setRange(int number, double minimum, double maximum)
@@ -90,7 +127,7 @@ bool ContourGroups::setRange(int number, double minimum, double maximum)
     }
     const ContourLevels levels = levelsFor(minimum, maximum);
     const bool isSame = group.hasRange && group.minimum == minimum && group.maximum == maximum;
-    // The channels of RGB are mixed over the range itself.
+    // All but contours go by the range itself.
     const bool changed = number < kRed ? !(levels == group.levels) : !isSame;
     group.hasRange = true;
     group.minimum = minimum;

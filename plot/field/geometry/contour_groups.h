@@ -28,13 +28,25 @@ bool operator==(const ContourLevels& left, const ContourLevels& right);
 /// Round levels that cover the range, in eight to twenty bands; a single value lies in one band.
 ContourLevels levelsFor(double minimum, double maximum);
 
-/// The variables of a frame's contour groups and RGB channels, and the values that they span.
+/// How long vectors are drawn, in the unit of the coordinates; 0 while there are none.
+struct VectorScale
+{
+    double lengthOfOne = 0.0; ///< of magnitude 1
+    double length = 0.0; ///< of a large one of those that are shown
+};
+
+/// The variables of a frame's contour groups and RGB channels, and of what else follows the values
+/// of all maps together, with the values that they span.
 class ContourGroups
 {
 public:
     static constexpr int kGroupCount = 8;
     static constexpr int kRed = 9; ///< the three channels follow the groups
-    static constexpr int kCount = 11;
+    static constexpr int kBlue = 11;
+    static constexpr int kSize = 12; ///< of symbols
+    static constexpr int kVector = 13; ///< U, V and W
+    static constexpr int kPlace = 16; ///< X, Y and Z
+    static constexpr int kCount = 18;
 
     /// Takes the variables from the frame; a group whose variable is another than before starts
     /// anew. True when there is such a group.
@@ -44,6 +56,8 @@ public:
     /// Number of the variable, 0 when unassigned. `group` is 1 to kCount throughout.
     CvlInt64 variable(int group) const { return at(group).variable; }
     bool hasRgb() const;
+    /// Whether one of the components has a variable; W counts in space only.
+    bool hasVector(bool inSpace) const;
     /// False while no value of the group is known.
     bool hasRange(int group) const { return at(group).hasRange; }
 
@@ -59,6 +73,10 @@ public:
     double coordinate(int group, double value) const;
     double textureScale(int group) const;
     double textureShift(int group) const;
+
+    /// True when it is another than before.
+    bool setVectorScale(const VectorScale& scale);
+    const VectorScale& vectorScale() const { return m_vectorScale; }
 
     /// The range as it is, not rounded to levels.
     double minimum(int group) const { return at(group).minimum; }
@@ -81,6 +99,7 @@ private:
     const Group& at(int group) const { return m_groups[static_cast<std::size_t>(group - 1)]; }
 
     std::array<Group, kCount> m_groups;
+    VectorScale m_vectorScale;
 };
 
 } // namespace corvala::plot

@@ -17,7 +17,7 @@
 namespace corvala::plot {
 
 /// Distance of the layers of a map in a flat plot, where maps lie one unit above each other.
-static constexpr double kLayerHeight = 0.1;
+static constexpr double kLayerHeight = 0.05;
 static_assert(kLayerHeight * kFieldLayerCount < 1.0);
 static constexpr int kPatternTexels = 128;
 static constexpr double kPointPixels = 5.0;

@@ -181,6 +181,12 @@ std::vector<int> CompositeLayer::groupsInUse() const
     return {groups.begin(), groups.end()};
 }
 
+bool CompositeLayer::hasGeometry() const
+{
+    return std::any_of(m_blocks.begin(), m_blocks.end(),
+                       [](const auto& block) { return !block.second.pieces.empty(); });
+}
+
 bool CompositeLayer::draws(CvlInt64 map) const
 {
     return m_visible && geometry(map);

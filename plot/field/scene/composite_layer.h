@@ -70,6 +70,7 @@ public:
     std::vector<int> groupsInUse() const;
 
     bool draws(CvlInt64 map) const;
+    bool hasGeometry() const; ///< of any map
     /// The geometry of a map's block.
     const ShapePieces& pieces(CvlInt64 map) const;
     /// The first of its pieces, which is all of it unless it is large; null without one.

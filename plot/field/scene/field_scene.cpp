@@ -2,6 +2,7 @@
 #include "plot/field/scene/field_scene.h"
 
 #include "host/document/line_map_name.h"
+#include "host/style/schema.h"
 
 #include <vtkActor.h>
 #include <vtkPropCollection.h>
@@ -338,6 +339,16 @@ vtkBoundingBox FieldScene::bounds() const
     return box;
 }
 
+vtkBoundingBox FieldScene::drawnBounds() const
+{
+    vtkBoundingBox box = bounds();
+    for (const std::uint32_t map : shownMaps())
+        if (layer(FieldLayer::Vectors).draws(map))
+            for (const auto& piece : layer(FieldLayer::Vectors).pieces(map))
+                box.AddBounds(piece->GetBounds());
+    return box;
+}
+
 CvlInt64 FieldScene::nearestZone(const PickRay& ray, LayerMask layers)
 {
     double nearest = 1.5;
@@ -389,6 +400,41 @@ std::vector<FieldLegend> FieldScene::legends() const
         }
     }
     return result;
+}
+
+/// The name of the array that the components are of; of others, the names of all.
+static QString vectorTitle(const host::Frame& drawn, const ContourGroups& groups)
+{
+    QStringList names;
+    QStringList arrays;
+    for (int axis = 0; axis < 3; ++axis) {
+        const CvlInt64 variable = groups.variable(ContourGroups::kVector + axis);
+        if (variable == 0 || (axis == 2 && drawn.plotType() != PlotType_Field3D))
+            continue;
+        const host::Variable& component = drawn.data()->variable(variable);
+        names << shownName(drawn, variable);
+        arrays << (component.alias.empty() ? QString::fromStdString(component.array)
+                                           : names.last());
+    }
+    arrays.removeDuplicates();
+    return arrays.size() == 1 ? arrays.first() : names.join(QStringLiteral(", "));
+}
+
+std::optional<VectorKey> FieldScene::vectorKey() const
+{
+    const host::Frame* const drawn = frame();
+    const CompositeLayer& vectors = layer(FieldLayer::Vectors);
+    if (!drawn || !drawn->isOn(style::globalVector.showReference)
+        || drawn->isOn(style::globalVector.isUniform) || !vectors.isVisible()
+        || !vectors.hasGeometry())
+        return std::nullopt;
+    const auto real = [&](style::RealKey key) {
+        return drawn->values().real(host::Schema::instance().at(key));
+    };
+    return VectorKey {vectorTitle(*drawn, m_groups), arrowScale(*drawn, m_groups),
+                      real(style::globalVector.referenceMagnitude),
+                      real(style::globalVector.headSize) / 100.0,
+                      real(style::globalVector.headAngle)};
 }
 
 std::array<QString, 3> FieldScene::axisTitles() const

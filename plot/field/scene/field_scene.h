@@ -24,6 +24,16 @@ struct FieldLegend
     std::optional<ContourLevels> levels; ///< nothing when no value is shown
 };
 
+/// What the arrows of a scene stand for.
+struct VectorKey
+{
+    QString title; ///< name of the vector
+    double lengthOfOne = 0.0; ///< of magnitude 1, in the unit of the coordinates
+    double wanted = 0.0; ///< magnitude of the arrow that explains them; 0 for a proposed one
+    double headSize = 0.25; ///< share of the length
+    double headAngle = 20.0; ///< in degrees
+};
+
 /// What a field canvas shows of a frame, in two renderers: everything, and in front of it what is
 /// seen through it.
 class FieldScene : public MapScene
@@ -55,11 +65,15 @@ public:
     bool isStandInShown() const { return m_standIn != nullptr; }
     /// Box round everything that is shown; invalid when nothing is.
     vtkBoundingBox bounds() const;
+    /// The same with what reaches out of that.
+    vtkBoundingBox drawnBounds() const;
     /// The zone that is seen along a ray, nearest first; 0 for none. A zone is hit anywhere on its
     /// surface, also where only lines are drawn of it, and a zone of which more than its edges are
     /// drawn before one that shows nothing else.
     CvlInt64 zoneAt(const PickRay& ray);
     std::vector<FieldLegend> legends() const;
+    /// Nothing when no arrows are shown, or none that tells their length is wanted.
+    std::optional<VectorKey> vectorKey() const;
     /// Names of the coordinates X, Y, Z.
     std::array<QString, 3> axisTitles() const;
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/scene/group_ranges.h"
 
+#include "plot/field/scene/vector_scale.h"
+
 #include <vtkDataArray.h>
 
 #include <algorithm>
@@ -62,6 +64,8 @@ GroupRanges::Range GroupRanges::rangeOf(const host::DataSet& data, const Unknown
         if (std::isfinite(value)) {
             range.minimum = std::min(range.minimum, value);
             range.maximum = std::max(range.maximum, value);
+            range.sumOfSquares += value * value;
+            range.count += 1.0;
         }
     }
     return range;
@@ -98,28 +102,46 @@ bool GroupRanges::add(const ShownMap& map, const ContourGroups& groups)
     return isNewGroup;
 }
 
+/// Over the maps that were added; a map counts with as many values as it shows at a time.
+GroupRanges::Range GroupRanges::rangeOfAll(const host::Frame& frame, CvlInt64 variable)
+{
+    Range all;
+    for (const auto& [map, contribution] : m_maps) {
+        const std::vector<CvlInt64> zones = zonesOf(frame, map, contribution.zone);
+        const double share = 1.0 / static_cast<double>(zones.size());
+        for (const CvlInt64 zone : zones) {
+            const auto found = m_ranges.find({frame.data()->zone(zone).sourceIndex, variable});
+            const Range range = found == m_ranges.end() ? Range() : found->second;
+            if (range.minimum > range.maximum)
+                continue;
+            const bool isFirst = all.minimum > all.maximum;
+            all.minimum = isFirst ? range.minimum : std::min(all.minimum, range.minimum);
+            all.maximum = isFirst ? range.maximum : std::max(all.maximum, range.maximum);
+            all.sumOfSquares += share * range.sumOfSquares;
+            all.count += share * range.count;
+        }
+    }
+    return all;
+}
+
 bool GroupRanges::update(const host::Frame& frame, ContourGroups& groups)
 {
     bool changed = false;
+    std::array<Range, ContourGroups::kCount + 1> ranges;
     for (int group = 1; group <= ContourGroups::kCount; ++group) {
         if (m_users[at(group)] == 0)
             continue;
-        Range all;
-        for (const auto& [map, contribution] : m_maps) {
-            for (const CvlInt64 zone : zonesOf(frame, map, contribution.zone)) {
-                const auto found =
-                    m_ranges.find({frame.data()->zone(zone).sourceIndex, groups.variable(group)});
-                const Range range = found == m_ranges.end() ? Range() : found->second;
-                if (range.minimum > range.maximum)
-                    continue;
-                const bool isFirst = all.minimum > all.maximum;
-                all.minimum = isFirst ? range.minimum : std::min(all.minimum, range.minimum);
-                all.maximum = isFirst ? range.maximum : std::max(all.maximum, range.maximum);
-            }
-        }
-        changed = groups.setRange(group, all.minimum, all.maximum) || changed;
+        ranges[at(group)] = rangeOfAll(frame, groups.variable(group));
+        changed =
+            groups.setRange(group, ranges[at(group)].minimum, ranges[at(group)].maximum) || changed;
     }
-    return changed;
+    const auto three = [&](int first) {
+        return std::array<Range, 3> {ranges[at(first)], ranges[at(first + 1)],
+                                     ranges[at(first + 2)]};
+    };
+    const VectorScale scale =
+        proposedScale(three(ContourGroups::kVector), three(ContourGroups::kPlace));
+    return groups.setVectorScale(scale) || changed;
 }
 
 } // namespace corvala::plot

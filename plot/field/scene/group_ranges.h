@@ -5,7 +5,6 @@
 #include "plot/field/scene/layer_looks.h"
 
 #include <map>
-#include <unordered_map>
 #include <utility>
 
 namespace corvala::plot {
@@ -23,6 +22,8 @@ public:
     {
         double minimum = 0.0;
         double maximum = -1.0; ///< below the minimum when there are no values
+        double sumOfSquares = 0.0;
+        double count = 0.0; ///< of values
     };
     /// Values that have not been looked at.
     struct Unknown
@@ -55,9 +56,10 @@ private:
     };
     using Key = std::pair<std::int64_t, CvlInt64>; ///< source index of the zone, variable
 
+    Range rangeOfAll(const host::Frame& frame, CvlInt64 variable);
     std::vector<CvlInt64> zonesOf(const host::Frame& frame, CvlInt64 map, CvlInt64 shown);
     std::map<Key, Range> m_ranges;
-    std::unordered_map<CvlInt64, Contribution> m_maps;
+    std::map<CvlInt64, Contribution> m_maps; ///< in an order, for sums
     std::array<CvlInt64, ContourGroups::kCount + 1> m_users {}; ///< by group: maps that use it
     std::int64_t m_transientPoints = -1; ///< -1 until counted
 };

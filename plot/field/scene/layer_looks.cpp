@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/scene/layer_looks.h"
 
+#include "host/style/schema.h"
 #include "plot/field/scene/map_style.h"
 
 #include <QCoreApplication>
@@ -116,6 +117,20 @@ static std::optional<BlockLook> edgesLook(const ShownMap& shown, const ContourGr
     return look;
 }
 
+static std::optional<BlockLook> vectorsLook(const ShownMap& shown, const ContourGroups& groups)
+{
+    const MapStyle style(shown);
+    if (!style.flag(kMap.vector.show) || !groups.hasVector(shown.is3D()))
+        return std::nullopt;
+    BlockLook look;
+    look.recipe = style.pointRecipe(BlockKind::Arrows);
+    look.recipe.arrows = style.arrows(groups);
+    style.setLine(look, kMap.vector.lineThickness, kMap.vector.linePattern,
+                  kMap.vector.patternLength);
+    style.setLineColor(look, style.number(kMap.vector.color), groups);
+    return look;
+}
+
 /// What layers use besides the values of their own, and what they are.
 enum Use : unsigned {
     Surfaces = 1, ///< of volume zones
@@ -123,7 +138,9 @@ enum Use : unsigned {
     Values = 4, ///< of contour groups and RGB channels
     Faces = 8, ///< is made of faces, and not of lines or points
     Outline = 16, ///< shows where a zone is, and nothing of what is on it
-    Cells = 32 ///< is made of cells, some of which may be blanked
+    Cells = 32, ///< is made of cells, some of which may be blanked
+    Points = 64, ///< that carry something
+    Vectors = 128
 };
 static constexpr SharedStyle kShared[] = {
     {kMap.surfaces.surfacesToPlot, true, Surfaces},
@@ -134,6 +151,8 @@ static constexpr SharedStyle kShared[] = {
     {kMap.effects.useValueBlanking, false, Cells},
     {style::edgeDetails.creaseAngle, false, Outline},
     {style::globalRgb.redVar, true, Values},
+    {style::globalVector.uVar, true, Vectors},
+    {kMap.points.pointsToPlot, true, Points},
     {style::activeFieldMaps, false},
     {style::activeFieldZones, false},
 };
@@ -159,6 +178,10 @@ static constexpr LayerDescription kLayers[] = {
      contourLinesLook},
     {FieldLayer::Mesh, 4, {&style::kMeshLayer, Surfaces | Cells | Values}, meshLook},
     {FieldLayer::Edges, 6, {&style::kEdgeLayer, Outline | Cells}, edgesLook},
+    {FieldLayer::Vectors,
+     7,
+     {&style::kVectorLayer, Surfaces | Cells | Points | Values | Vectors},
+     vectorsLook},
 };
 
 static constexpr bool areLayersInOrder()
@@ -187,13 +210,21 @@ const SceneKind& fieldSceneKind()
                                       layerAt,
                                       kShared,
                                       std::size(kShared),
-                                      Values};
+                                      Values | Vectors};
     return kKind;
 }
 
 std::optional<BlockLook> lookOf(FieldLayer layer, const ShownMap& map, const ContourGroups& groups)
 {
     return kLayers[static_cast<std::size_t>(layer)].look(map, groups);
+}
+
+double arrowScale(const host::Frame& frame, const ContourGroups& groups)
+{
+    const VectorScale& proposed = groups.vectorScale();
+    const bool isUniform = frame.isOn(style::globalVector.isUniform);
+    return (isUniform ? proposed.length : proposed.lengthOfOne)
+        * frame.values().real(host::Schema::instance().at(style::globalVector.relativeLength));
 }
 
 bool isLayerOn(const host::Frame& frame, FieldLayer layer)
@@ -217,7 +248,7 @@ static LayerMask layersWith(unsigned use)
 
 LayerMask coloredLayers()
 {
-    return layersWith(Values);
+    return layersWith(Values | Vectors);
 }
 
 LayerMask outlineLayers()
@@ -249,6 +280,17 @@ std::vector<FieldLayer> layersToStandIn()
     return layers;
 }
 
+/// The first of those that come in threes; 0 for none.
+static std::vector<int> groupsOf(const std::optional<BlockLook>& look)
+{
+    if (!look)
+        return {};
+    std::vector<int> groups = {look->recipe.group, look->recipe.colorGroup};
+    if (look->recipe.kind == BlockKind::Arrows)
+        groups.insert(groups.end(), {ContourGroups::kVector, ContourGroups::kPlace});
+    return groups;
+}
+
 std::vector<int> groupsShown(const ShownMap& shown, const ContourGroups& groups)
 {
     std::vector<int> result;
@@ -257,8 +299,8 @@ std::vector<int> groupsShown(const ShownMap& shown, const ContourGroups& groups)
         const auto look = isColored && isLayerOn(shown.frame, static_cast<FieldLayer>(i))
             ? kLayers[i].look(shown, groups)
             : std::nullopt;
-        for (const int group : {look ? look->recipe.group : 0, look ? look->recipe.colorGroup : 0})
-            if (group == ContourGroups::kRed)
+        for (const int group : groupsOf(look))
+            if (group == ContourGroups::kRed || group > ContourGroups::kSize)
                 result.insert(result.end(), {group, group + 1, group + 2});
             else if (group != 0)
                 result.push_back(group);

@@ -22,11 +22,12 @@ enum class FieldLayer {
     ContourLines,
     Mesh,
     Edges,
+    Vectors,
     Count
 };
 constexpr auto kFieldLayerCount = static_cast<std::size_t>(FieldLayer::Count);
 /// Layers of lines; what they move by in depth leaves room for no more.
-constexpr int kMostLineLayers = 4;
+constexpr int kMostLineLayers = 8;
 
 /// Where a layer lies among those that show the same place.
 struct LayerPlace
@@ -55,13 +56,17 @@ struct ShownMap
 /// layer itself is on does not matter.
 std::optional<BlockLook> lookOf(FieldLayer layer, const ShownMap& map, const ContourGroups& groups);
 
-/// The contour groups (and channels) whose values the map shows, in the layers that are on.
+/// The contour groups, and other groups, whose values the map shows, in the layers that are on.
 std::vector<int> groupsShown(const ShownMap& map, const ContourGroups& groups);
+
+/// Length of an arrow by magnitude, or of every arrow where all have the same; 0 while no vectors
+/// are known.
+double arrowScale(const host::Frame& frame, const ContourGroups& groups);
 
 bool isLayerOn(const host::Frame& frame, FieldLayer layer);
 /// Name of the layer of the style that it is part of, for the user.
 QString layerName(FieldLayer layer);
-/// Layers that may be coloured by the values of a contour group.
+/// Layers that follow the values of all maps together, as colours do that stand for values.
 LayerMask coloredLayers();
 
 /// What a field plot is made of, and what touches it.

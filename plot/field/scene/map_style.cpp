@@ -66,6 +66,38 @@ BlockRecipe MapStyle::recipe(BlockKind kind) const
     return recipe;
 }
 
+BlockRecipe MapStyle::pointRecipe(BlockKind kind) const
+{
+    const auto& points = kMap.points;
+    BlockRecipe result = recipe(kind);
+    result.points.points = static_cast<PointsToPlot_e>(number(points.pointsToPlot));
+    result.points.skip = {
+        {number(points.ijkSkip.i), number(points.ijkSkip.j), number(points.ijkSkip.k)}};
+    result.points = result.points.normalized(m_shown.frame.data()->zone(m_shown.zone));
+    if (!result.points.isOfSurface()) {
+        SurfaceChoice any;
+        any.blanking = result.surfaces.blanking;
+        result.surfaces = any;
+    }
+    return result;
+}
+
+ArrowChoice MapStyle::arrows(const ContourGroups& groups) const
+{
+    ArrowChoice arrows;
+    for (int axis = 0; axis < (m_shown.is3D() ? 3 : 2); ++axis)
+        arrows.variables[static_cast<std::size_t>(axis)] =
+            groups.variable(ContourGroups::kVector + axis);
+    arrows.isUniform = frameFlag(style::globalVector.isUniform);
+    arrows.scale = arrowScale(m_shown.frame, groups);
+    arrows.headSize = frameReal(style::globalVector.headSize) / 100.0;
+    arrows.headAngle = frameReal(style::globalVector.headAngle);
+    arrows.type = static_cast<VectorType_e>(number(kMap.vector.vectorType));
+    arrows.head = static_cast<ArrowheadStyle_e>(number(kMap.vector.arrowheadStyle));
+    arrows.isTangent = flag(kMap.vector.isTangent);
+    return arrows;
+}
+
 void MapStyle::setLine(BlockLook& look, host::AttributeId thickness, host::AttributeId pattern,
                        host::AttributeId length) const
 {

@@ -29,6 +29,9 @@ public:
     double frameReal(style::Key key, int index = -1) const;
 
     BlockRecipe recipe(BlockKind kind) const;
+    /// Of what stands on points of the zone.
+    BlockRecipe pointRecipe(BlockKind kind) const;
+    ArrowChoice arrows(const ContourGroups& groups) const;
     void setLine(BlockLook& look, host::AttributeId thickness, host::AttributeId pattern,
                  host::AttributeId length) const;
     void setLineColor(BlockLook& look, std::int32_t color, const ContourGroups& groups) const;

@@ -17,6 +17,7 @@ static constexpr double kTickLength = 0.4;
 static constexpr double kTextGap = 0.7; ///< from the axis to its numbers
 static constexpr double kTitleHeight = 1.6;
 static constexpr double kSmallestLeftMargin = 6.0;
+static constexpr double kVectorKeyWidth = 8.5;
 
 QColor inkColor()
 {
@@ -24,7 +25,7 @@ QColor inkColor()
 }
 
 FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>& legends,
-                   double yTexts)
+                   double yTexts, bool hasVectorKey)
 {
     FieldLayout layout;
     layout.font = std::clamp(std::min(size.height() / 45.0, size.width() / 50.0), 9.0, 40.0);
@@ -33,12 +34,16 @@ FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>&
     double all = 0.0;
     for (const FieldLegend& legend : legends)
         all += legendWidth(legend, font);
+    all = std::max(all, hasVectorKey ? kVectorKeyWidth * font : 0.0);
     const double shrink = all > 0.0 ? std::min(size.width() / 2.0 / all, 1.0) : 1.0;
     double left = area.right() - all * shrink;
     area.setRight(left);
+    const double below = (hasVectorKey ? 8.5 : 5.5) * font;
+    if (hasVectorKey)
+        layout.vectorKey = {left, area.height() - 6.0 * font, all * shrink, 4.5 * font};
     for (const FieldLegend& legend : legends) {
         const double width = legendWidth(legend, font) * shrink;
-        layout.legends.emplace_back(left, 1.5 * font, width, area.height() - 5.5 * font);
+        layout.legends.emplace_back(left, 1.5 * font, width, area.height() - below);
         left += width;
     }
     const double leftMargin =

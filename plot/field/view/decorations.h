@@ -25,13 +25,15 @@ struct FieldLayout
 {
     QRectF plot; ///< coordinates are drawn here
     std::vector<QRectF> legends; ///< one for each
+    QRectF vectorKey; ///< empty without one
     double font = 12.0; ///< height of text
 };
 
 /// A flat plot leaves room for its axes, whose numbers at the left side are `yTexts` pixels wide;
-/// legends stand at the right, each as wide as its title and numbers need.
+/// legends stand at the right, each as wide as its title and numbers need, and below them what the
+/// length of arrows means.
 FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>& legends,
-                   double yTexts = 0.0);
+                   double yTexts = 0.0, bool hasVectorKey = false);
 
 /// The part of the plane that is seen.
 struct PlaneWindow

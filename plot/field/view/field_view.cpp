@@ -85,7 +85,7 @@ double FieldView::pixelsPerUnit() const
 
 void FieldView::layOutPlot(double yTexts)
 {
-    m_layout = layOut(m_size, m_flat, m_legends, yTexts);
+    m_layout = layOut(m_size, m_flat, m_legends, yTexts, m_vectorKey.has_value());
     placeCamera();
 }
 
@@ -118,12 +118,13 @@ void FieldView::updateFitBox(const vtkBoundingBox& box)
 void FieldView::prepare()
 {
     m_legends = m_scene->legends();
+    m_vectorKey = m_scene->vectorKey();
     const vtkBoundingBox box = m_scene->bounds();
     updateFitBox(box);
     setViewport();
     if (box.IsValid()) {
         double bounds[6];
-        box.GetBounds(bounds);
+        m_scene->drawnBounds().GetBounds(bounds);
         bounds[4] -= m_flat ? 1.0 : 0.0;
         bounds[5] += m_flat ? 1.0 : 0.0;
         m_back->ResetCameraClippingRange(bounds);
@@ -334,6 +335,8 @@ void FieldView::paintDecorations(QPainter& painter)
         paintOrientation(painter, m_layout, view.directions, titles);
     }
     paintLegends(painter, m_layout, m_legends);
+    if (m_vectorKey)
+        paintVectorKey(painter, m_layout, *m_vectorKey, pixelsPerUnit());
     const QString notice = m_scene->notice();
     paintNotice(painter, m_layout,
                 notice.isEmpty() && m_isCut

@@ -106,6 +106,7 @@ private:
     double m_magnification = 1.0;
     FieldLayout m_layout;
     std::vector<FieldLegend> m_legends;
+    std::optional<VectorKey> m_vectorKey;
 };
 
 } // namespace corvala::plot

@@ -4,10 +4,12 @@
 #include "plot/common/axis_ticks.h"
 #include "plot/common/nice_steps.h"
 #include "plot/field/geometry/color_map.h"
+#include "plot/field/scene/vector_scale.h"
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -103,6 +105,35 @@ void paintLegends(QPainter& painter, const FieldLayout& layout,
     painter.setBrush(Qt::NoBrush);
     for (std::size_t i = 0; i < legends.size(); ++i)
         paintLegend(painter, layout.legends[i], layout.font, legends[i]);
+    painter.restore();
+}
+
+static void paintArrow(QPainter& painter, const QPointF& tail, double length, const VectorKey& key)
+{
+    const double size = key.headSize * length;
+    const double half = size * std::tan(qDegreesToRadians(key.headAngle));
+    const QPointF tip = tail + QPointF(length, 0.0);
+    painter.drawLine(tail, tip);
+    painter.drawPolyline(QPolygonF({tip + QPointF(-size, -half), tip, tip + QPointF(-size, half)}));
+}
+
+void paintVectorKey(QPainter& painter, const FieldLayout& layout, const VectorKey& key,
+                    double pixelsPerUnit)
+{
+    const QRectF area = layout.vectorKey.adjusted(0.0, 0.0, -layout.font, 0.0);
+    const double font = layout.font;
+    const ReferenceArrow arrow =
+        referenceArrow(key.lengthOfOne, area.width() / pixelsPerUnit, key.wanted);
+    painter.save();
+    painter.setPen(QPen(inkColor(), std::max(1.0, font / 9.0)));
+    painter.setFont(plotFont(1.1 * font, true));
+    painter.drawText(
+        area, Qt::AlignLeft | Qt::AlignTop,
+        QFontMetricsF(painter.font()).elidedText(key.title, Qt::ElideRight, area.width()));
+    paintArrow(painter, area.topLeft() + QPointF(0.0, 2.4 * font), arrow.length * pixelsPerUnit,
+               key);
+    painter.setFont(plotFont(font));
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignBottom, QString::number(arrow.magnitude));
     painter.restore();
 }
 

@@ -23,4 +23,8 @@ double legendWidth(const FieldLegend& legend, double font);
 void paintLegends(QPainter& painter, const FieldLayout& layout,
                   const std::vector<FieldLegend>& legends);
 
+/// Draws an arrow and what magnitude it stands for; `pixelsPerUnit` is the size of the coordinates.
+void paintVectorKey(QPainter& painter, const FieldLayout& layout, const VectorKey& key,
+                    double pixelsPerUnit);
+
 } // namespace corvala::plot
