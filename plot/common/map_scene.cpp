@@ -83,12 +83,20 @@ bool MapScene::apply(const host::StateEvent& event)
     case StateCode_ColorTableChanged: pend(m_kind.allLayers(), m_shown); return true;
     case StateCode_SolutionTimeChanged:
         if (drawn)
-            pend(m_kind.everything(), transientMaps(*drawn));
+            pendAtOtherTime(*drawn);
         return drawn != nullptr;
     case StateCode_VariableListChanged:
     case StateCode_VariableRenamed: return true;
     default: return false;
     }
+}
+
+void MapScene::pendAtOtherTime(const host::Frame& drawn)
+{
+    const host::NumberSet maps = transientMaps(drawn);
+    pend(m_kind.everything(), maps);
+    if (!maps.isEmpty())
+        pend(m_kind.jointLayers(), m_shown);
 }
 
 bool MapScene::applyStyle(const host::StateEvent& event)
@@ -114,12 +122,13 @@ bool MapScene::applyChange(const host::Frame& drawn, const host::StyleChange& ch
     if (scope == style::Scope::FieldMap || scope == style::Scope::LineMap
         || !change.maps.isEmpty()) {
         pend(touched.layers, change.maps);
+        pend(touched.layers & m_kind.jointLayers(), m_shown);
         return !(change.maps & (m_shown | activeMaps(drawn))).isEmpty();
     }
     takeFrameStyle(drawn);
     // Showing a layer costs what changed while it was off; other values of the frame touch all
     // maps.
-    pend(touched.isSwitch ? touched.layers & m_kind.valuesBit() : touched.layers, m_shown);
+    pend(touched.layers & ~touched.switched, m_shown);
     return true;
 }
 

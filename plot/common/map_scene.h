@@ -80,6 +80,7 @@ protected:
 
 private:
     void rebuild(Fresh reason);
+    void pendAtOtherTime(const host::Frame& drawn);
     bool applyStyle(const host::StateEvent& event);
     bool applyChange(const host::Frame& frame, const host::StyleChange& change);
     void takeFrameStyle(const host::Frame& frame);

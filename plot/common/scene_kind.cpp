@@ -17,17 +17,31 @@ TouchedLayers SceneKind::touchedBy(style::Key value) const
             touched.layers |= valuesBit();
     };
     for (std::size_t i = 0; value.isValid() && i < layerCount; ++i) {
-        const style::Layer& style = *layer(i).style;
-        touched.isSwitch = touched.isSwitch || value == style.shown;
-        if (value == style.shown || style::isInGroupOf(value, style.shownForMap))
-            add(i, valueUse);
+        const SceneLayer& it = layer(i);
+        const bool isOwn = value == it.shown || style::isInGroupOf(value, it.shownForMap)
+            || (it.isOfFrame && style::isInGroupOf(value, it.shown));
+        bool isUsed = false;
         for (std::size_t j = 0; j < sharedCount; ++j) {
-            const unsigned use = shared[j].use == 0 ? ~0U : layer(i).uses & shared[j].use;
-            if (use != 0 && concerns(shared[j], value))
+            const unsigned use = shared[j].use == 0 ? ~0U : it.uses & shared[j].use;
+            if (use != 0 && concerns(shared[j], value)) {
+                isUsed = true;
                 add(i, use);
+            }
         }
+        if (isOwn)
+            add(i, valueUse);
+        if (value == it.shown && !it.isOfFrame && !isUsed)
+            touched.switched |= maskOf(i);
     }
     return touched;
+}
+
+LayerMask SceneKind::jointLayers() const
+{
+    LayerMask joint = 0;
+    for (std::size_t i = 0; i < layerCount; ++i)
+        joint |= layer(i).uses & jointUse ? maskOf(i) : 0;
+    return joint;
 }
 
 } // namespace corvala::plot

@@ -14,7 +14,30 @@ using LayerMask = std::uint32_t;
 /// of a map that stand beside its switch there, touch it.
 struct SceneLayer
 {
-    const style::Layer* style = nullptr;
+    constexpr SceneLayer(const style::Layer* layer, unsigned itUses)
+        : name(layer->name)
+        , shown(layer->shown)
+        , shownForMap(layer->shownForMap)
+        , uses(itUses)
+    {
+    }
+    /// A layer of what the frame describes: the values beside the frame's switch touch it, too.
+    constexpr SceneLayer(const char* itsName, style::SwitchKey ofFrame, int itsIndex,
+                         style::SwitchKey ofMap, unsigned itUses)
+        : name(itsName)
+        , shown(ofFrame)
+        , index(itsIndex)
+        , shownForMap(ofMap)
+        , isOfFrame(true)
+        , uses(itUses)
+    {
+    }
+
+    const char* name; ///< English, in the translation context "StyleValues"
+    style::SwitchKey shown; ///< of the frame
+    int index = -1; ///< of the frame's switch, from 1, when there are several
+    style::SwitchKey shownForMap;
+    bool isOfFrame = false;
     unsigned uses = 0; ///< bits of what else touches it; each kind of scene has its own
 };
 
@@ -30,7 +53,7 @@ struct SharedStyle
 struct TouchedLayers
 {
     LayerMask layers = 0;
-    bool isSwitch = false; ///< shows or hides them as a whole
+    LayerMask switched = 0; ///< are only shown or hidden as a whole
 };
 
 /// What tells scenes of different maps apart.
@@ -44,6 +67,7 @@ struct SceneKind
     const SharedStyle* shared;
     std::size_t sharedCount;
     unsigned valueUse; ///< layers that use this show values; 0 when none does
+    unsigned jointUse = 0; ///< layers that use this show something of all maps together
 
     constexpr LayerMask valuesBit() const { return LayerMask {1} << layerCount; }
     constexpr LayerMask allLayers() const { return valuesBit() - 1; }
@@ -52,6 +76,7 @@ struct SceneKind
         return valueUse != 0 ? allLayers() | valuesBit() : allLayers();
     }
     TouchedLayers touchedBy(style::Key value) const;
+    LayerMask jointLayers() const;
 };
 
 /// The bit of a layer, given as its number or enumerator.

@@ -44,7 +44,7 @@ struct LineLayerDescription
 
     bool isIn(const host::Frame& frame, CvlInt64 map) const
     {
-        return frame.lineInteger(layer.style->shownForMap, map) != 0;
+        return frame.lineInteger(layer.shownForMap, map) != 0;
     }
 };
 static constexpr LineLayerDescription kLayers[] = {
@@ -81,7 +81,7 @@ bool isInLayer(const host::Frame& frame, CvlInt64 map, std::size_t layer)
 
 bool isLayerOn(const host::Frame& frame, std::size_t layer)
 {
-    return frame.isOn(layerAt(layer).style->shown);
+    return frame.isOn(layerAt(layer).shown);
 }
 
 bool isInAnyLayer(const host::Frame& frame, CvlInt64 map)

@@ -80,16 +80,20 @@ static Shape facesOf(vtkPolyData* shape, bool withNormals)
     return faces;
 }
 
+static ShapePieces drawable(vtkPolyData* shape)
+{
+    return shape && shape->GetNumberOfCells() > 0 ? inPieces(*shape) : ShapePieces();
+}
+
 ShapePieces BlockBuilder::build(const BlockRecipe& recipe, const double* height,
                                 std::vector<PlacedSurface>& placed) const
 {
     const auto isOld = [&](const PlacedSurface& known) { return known.zone != recipe.zone; };
     placed.erase(std::remove_if(placed.begin(), placed.end(), isOld), placed.end());
-    if (recipe.kind == BlockKind::Arrows) {
-        const Shape result =
-            arrowShapes(recipe, carriers(recipe, height, placed), height != nullptr);
-        return result && result->GetNumberOfCells() > 0 ? inPieces(*result) : ShapePieces();
-    }
+    if (recipe.kind == BlockKind::Streamtraces)
+        return drawable(streams(recipe));
+    if (recipe.kind == BlockKind::Arrows)
+        return drawable(arrowShapes(recipe, carriers(recipe, height, placed), height != nullptr));
     const PlacedSurface* const found = surface(recipe, height, placed);
     if (!found || found->shape->GetNumberOfPoints() == 0)
         return {};
@@ -101,9 +105,10 @@ ShapePieces BlockBuilder::build(const BlockRecipe& recipe, const double* height,
     case BlockKind::ContourLines: result = contourLines(recipe, *found); break;
     case BlockKind::Edges: result = edges(recipe, *found, height); break;
     case BlockKind::MeshLines: result = mesh(recipe, *found); break;
-    case BlockKind::Arrows: break;
+    case BlockKind::Arrows:
+    case BlockKind::Streamtraces: break;
     }
-    return result && result->GetNumberOfCells() > 0 ? inPieces(*result) : ShapePieces();
+    return drawable(result);
 }
 
 vtkSmartPointer<vtkDoubleArray> BlockBuilder::values(int group, const BlockRecipe& recipe,
@@ -237,6 +242,20 @@ Shape BlockBuilder::mesh(const BlockRecipe& recipe, const PlacedSurface& placed)
         shape->GetPointData()->SetScalars(colors(recipe, placed));
     Shape lines = meshLines(*shape);
     return recipe.arcLength ? withArcLength(*lines) : lines;
+}
+
+Shape BlockBuilder::streams(const BlockRecipe& recipe) const
+{
+    std::vector<std::int64_t> variables;
+    const int groupCount = recipe.colorGroup == ContourGroups::kRed ? 3 : 1;
+    for (int i = 0; recipe.colorGroup > 0 && i < groupCount; ++i)
+        variables.push_back(m_groups.variable(recipe.colorGroup + i));
+    const Streamtraces traces = streamtraces(m_data, recipe.streams, variables);
+    if (recipe.colorGroup > 0 && traces.lines->GetNumberOfLines() > 0)
+        traces.lines->GetPointData()->SetScalars(colorsBy(recipe.colorGroup, [&](int group) {
+            return traces.values[static_cast<std::size_t>(group - recipe.colorGroup)];
+        }));
+    return traces.lines;
 }
 
 Shape BlockBuilder::edges(const BlockRecipe& recipe, const PlacedSurface& placed,

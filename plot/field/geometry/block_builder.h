@@ -47,6 +47,7 @@ private:
     Shape cellFlood(const BlockRecipe& recipe, const PlacedSurface& placed) const;
     Shape contourLines(const BlockRecipe& recipe, const PlacedSurface& placed) const;
     Shape mesh(const BlockRecipe& recipe, const PlacedSurface& placed) const;
+    Shape streams(const BlockRecipe& recipe) const;
     Shape edges(const BlockRecipe& recipe, const PlacedSurface& placed, const double* height) const;
 
     /// Points that carry something, and what they are of.

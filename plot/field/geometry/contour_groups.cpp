@@ -60,13 +60,16 @@ static CvlInt64 variableOf(const host::Frame& frame, int group)
 {
     constexpr style::VariableKey kOthers[] = {style::globalRgb.redVar,  style::globalRgb.greenVar,
                                               style::globalRgb.blueVar, style::globalScatter.var,
-                                              style::globalVector.uVar, style::globalVector.vVar,
-                                              style::globalVector.wVar};
+                                              style::isoSurfaces.var,   style::globalVector.uVar,
+                                              style::globalVector.vVar, style::globalVector.wVar};
     if (group >= ContourGroups::kPlace)
         return coordinateOf(frame, group - ContourGroups::kPlace);
-    return group < ContourGroups::kRed
-        ? variableOf(frame, style::contourGroups.var, group)
-        : variableOf(frame, kOthers[group - ContourGroups::kRed], -1);
+    if (group < ContourGroups::kRed)
+        return variableOf(frame, style::contourGroups.var, group);
+    const CvlInt64 variable = variableOf(frame, kOthers[group - ContourGroups::kRed], -1);
+    return group == ContourGroups::kIso && variable == 0
+        ? variableOf(frame, style::contourGroups.var, 1)
+        : variable;
 }
 
 bool ContourGroups::setVariables(const host::Frame& frame)

@@ -44,9 +44,10 @@ public:
     static constexpr int kRed = 9; ///< the three channels follow the groups
     static constexpr int kBlue = 11;
     static constexpr int kSize = 12; ///< of symbols
-    static constexpr int kVector = 13; ///< U, V and W
-    static constexpr int kPlace = 16; ///< X, Y and Z
-    static constexpr int kCount = 18;
+    static constexpr int kIso = 13; ///< of iso-surfaces
+    static constexpr int kVector = 14; ///< U, V and W
+    static constexpr int kPlace = 17; ///< X, Y and Z
+    static constexpr int kCount = 19;
 
     /// Takes the variables from the frame; a group whose variable is another than before starts
     /// anew. True when there is such a group.

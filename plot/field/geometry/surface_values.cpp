@@ -51,7 +51,8 @@ vtkSmartPointer<vtkDoubleArray> pointValues(const host::DataSet& data, std::int6
     const host::ZoneValues values = data.values(zone, variable);
     if (!values.array)
         return nullptr;
-    if (values.location == host::ValueLocation::Points)
+    const bool isIso = surface.isCut && surface.choice.iso.variable != 0;
+    if (isIso || values.location == host::ValueLocation::Points)
         return atPoints(data, zone, variable, *values.array, surface);
     const auto cells = gather(*values.array, surface.shape->GetNumberOfCells(), surface.cellIds);
     return averagedAtPoints(*cells, *surface.shape);

@@ -113,7 +113,9 @@ vtkSmartPointer<vtkDoubleArray> ZoneTest::field(vtkIdType pointCount) const
     return field;
 }
 
-static void hideCells(vtkDataSet& geometry, const std::vector<ZoneTest>& tests, BlankedCells_e rule)
+/// Hides the cells of which `isNamed(cell, points)` holds.
+template<class IsNamed>
+static void hideCells(vtkDataSet& geometry, IsNamed isNamed)
 {
     const vtkIdType count = geometry.GetNumberOfCells();
     auto ghosts = vtkSmartPointer<vtkUnsignedCharArray>::New();
@@ -127,11 +129,7 @@ static void hideCells(vtkDataSet& geometry, const std::vector<ZoneTest>& tests, 
     vtkNew<vtkIdList> points;
     for (vtkIdType cell = 0; cell < count; ++cell) {
         geometry.GetCellPoints(cell, points);
-        const bool isNamed = points->GetNumberOfIds() > 0
-            && std::any_of(tests.begin(), tests.end(), [&](const ZoneTest& test) {
-                                 return test.namesCell(cell, *points, rule);
-                             });
-        if (isNamed)
+        if (points->GetNumberOfIds() > 0 && isNamed(cell, *points))
             ghosts->SetValue(cell, ghosts->GetValue(cell) | vtkDataSetAttributes::HIDDENCELL);
     }
     geometry.GetCellData()->AddArray(ghosts);
@@ -155,8 +153,21 @@ CutFields blank(vtkDataSet& geometry, const host::DataSet& data, std::int64_t zo
             hiding.push_back(here);
     }
     if (!hiding.empty())
-        hideCells(geometry, hiding, choice.cells);
+        hideCells(geometry, [&](vtkIdType cell, vtkIdList& points) {
+            return std::any_of(hiding.begin(), hiding.end(), [&](const ZoneTest& test) {
+                return test.namesCell(cell, points, choice.cells);
+            });
+        });
     return fields;
+}
+
+void hideCellsWithoutValue(vtkDataSet& geometry, vtkDataArray& pointValues)
+{
+    hideCells(geometry, [&](vtkIdType, vtkIdList& points) {
+        return !std::all_of(points.begin(), points.end(), [&](vtkIdType point) {
+            return std::isfinite(pointValues.GetComponent(point, 0));
+        });
+    });
 }
 
 } // namespace corvala::plot

@@ -59,4 +59,7 @@ using CutFields = std::vector<vtkSmartPointer<vtkDoubleArray>>;
 CutFields blank(vtkDataSet& geometry, const host::DataSet& data, std::int64_t zone,
                 const BlankingChoice& choice);
 
+/// Hides cells of `geometry` that have a point without a finite value.
+void hideCellsWithoutValue(vtkDataSet& geometry, vtkDataArray& pointValues);
+
 } // namespace corvala::plot

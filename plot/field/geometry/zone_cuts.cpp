@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/geometry/zone_cuts.h"
 
+#include "plot/field/geometry/zone_vectors.h"
+
 #include <vtkCellData.h>
 #include <vtkClipPolyData.h>
+#include <vtkContourFilter.h>
 #include <vtkDataSet.h>
 #include <vtkIdTypeArray.h>
 #include <vtkNew.h>
@@ -15,12 +18,14 @@
 namespace corvala::plot {
 
 static constexpr const char* kCarried = "carried";
+static constexpr const char* kIso = "iso";
 
 /// Values of a zone's points that go through the filters with the shape: the fields that cut, by
-/// number, and those that are wanted at its points.
+/// number, what iso-surfaces are made of, and what is wanted at its points.
 struct PointArrays
 {
     const CutFields& fields;
+    vtkDataArray* iso; ///< may be null
     vtkDataArray* carried; ///< may be null
 };
 
@@ -49,6 +54,8 @@ static void addArrays(vtkDataSet& shape, const std::vector<vtkIdType>& ids,
     const vtkIdType count = shape.GetNumberOfPoints();
     for (std::size_t i = 0; i < arrays.fields.size(); ++i)
         shape.GetPointData()->AddArray(gathered(*arrays.fields[i], count, ids, fieldName(i)));
+    if (arrays.iso)
+        shape.GetPointData()->AddArray(gathered(*arrays.iso, count, ids, kIso));
     if (arrays.carried)
         shape.GetPointData()->AddArray(gathered(*arrays.carried, count, ids, kCarried));
 }
@@ -77,12 +84,39 @@ static vtkSmartPointer<vtkPolyData> cutShape(const ZoneSurface& surface, const P
     return clipped<vtkClipPolyData>(shape, arrays.fields.size());
 }
 
-/// The outside of what is left of a volume.
-static vtkSmartPointer<vtkPolyData> cutVolume(vtkDataSet& geometry, const PointArrays& arrays)
+/// What is left of a volume.
+static vtkSmartPointer<vtkDataSet> cutVolume(vtkDataSet& geometry, const PointArrays& arrays)
 {
     vtkSmartPointer<vtkDataSet> volume = visiblePart(geometry);
     addArrays(*volume, pointNumbers(*volume), arrays);
-    return outerFaces(*clipped<vtkTableBasedClipDataSet>(volume, arrays.fields.size()));
+    return clipped<vtkTableBasedClipDataSet>(volume, arrays.fields.size());
+}
+
+/// Where the values that iso-surfaces are made of are equal to one of `values`.
+static vtkSmartPointer<vtkPolyData> isoFaces(vtkDataSet& volume, const std::vector<double>& values)
+{
+    auto shape = vtkSmartPointer<vtkPolyData>::New();
+    vtkDataArray* const iso = volume.GetPointData()->GetArray(kIso);
+    double range[2] = {0.0, 0.0};
+    if (iso && !values.empty() && volume.GetNumberOfCells() > 0)
+        iso->GetRange(range);
+    if (!(range[0] < range[1]))
+        return shape;
+    volume.GetPointData()->SetActiveScalars(kIso);
+    vtkNew<vtkContourFilter> contours;
+    contours->SetInputData(&volume);
+    contours->ComputeNormalsOff();
+    // At the lowest value nothing lies below; the surface is wanted nevertheless.
+    const double lowest = range[0] + 1e-9 * (range[1] - range[0]);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        contours->SetValue(static_cast<int>(i), values[i] == range[0] ? lowest : values[i]);
+    contours->Update();
+    shape->ShallowCopy(contours->GetOutput());
+    // A surface on the border between two colours has one of them, and not both by turns.
+    if (vtkDataArray* const exact = shape->GetPointData()->GetArray(kIso))
+        for (vtkIdType i = 0; i < exact->GetNumberOfTuples(); ++i)
+            exact->SetTuple1(i, exact->GetTuple1(i) + 1e-5 * (range[1] - range[0]));
+    return shape;
 }
 
 /// The numbers of a shape that is cut: its points have none.
@@ -96,7 +130,7 @@ static ZoneSurface cutSurface(vtkPolyData& shape)
 
 ZoneSurface cutFaces(const ZoneSurface& surface, const CutFields& fields)
 {
-    return fields.empty() ? surface : cutSurface(*cutShape(surface, {fields, nullptr}));
+    return fields.empty() ? surface : cutSurface(*cutShape(surface, {fields, nullptr, nullptr}));
 }
 
 /// A zone that is being cut.
@@ -108,20 +142,28 @@ public:
         , m_choice(choice)
         , m_geometry(data.geometry(zone))
     {
-        if (hasPoints())
-            m_fields = blank(*m_geometry, data, zone, choice.blanking);
+        if (!hasPoints())
+            return;
+        m_fields = blank(*m_geometry, data, zone, choice.blanking);
+        if (isIso())
+            m_iso = zoneValues(data, zone, choice.iso.variable, host::ValueLocation::Points);
+        if (m_iso)
+            hideCellsWithoutValue(*m_geometry, *m_iso);
     }
 
     bool hasPoints() const { return m_geometry && m_geometry->GetNumberOfPoints() > 0; }
-    bool isCut() const { return !m_fields.empty(); }
+    bool isIso() const { return m_info.isVolume() && m_choice.iso.variable != 0; }
+    bool isCut() const { return isIso() || !m_fields.empty(); }
     ZoneSurface whole() const { return extractSurface(*m_geometry, m_info, m_choice); }
     vtkSmartPointer<vtkPolyData> cut(vtkDataArray* carried) const
     {
-        const PointArrays arrays {m_fields, carried};
+        const PointArrays arrays {m_fields, m_iso, carried};
+        if (isIso())
+            return isoFaces(*cutVolume(*m_geometry, arrays), m_choice.iso.values);
         // Where a volume is cut, it has new outer faces.
         const bool opens =
             m_info.isVolume() && m_choice.surfaces == SurfacesToPlot_ExposedCellFaces;
-        return opens ? cutVolume(*m_geometry, arrays) : cutShape(whole(), arrays);
+        return opens ? outerFaces(*cutVolume(*m_geometry, arrays)) : cutShape(whole(), arrays);
     }
 
 private:
@@ -129,6 +171,7 @@ private:
     const SurfaceChoice& m_choice;
     vtkSmartPointer<vtkDataSet> m_geometry;
     CutFields m_fields;
+    vtkSmartPointer<vtkDataArray> m_iso; ///< null without such values
 };
 
 std::shared_ptr<ZoneSurface> surfaceOf(const host::DataSet& data, std::int64_t zone,
@@ -147,12 +190,14 @@ vtkSmartPointer<vtkDoubleArray> cutValues(const host::DataSet& data, std::int64_
                                           std::int64_t variable, const ZoneSurface& surface)
 {
     const CutZone cut(data, zone, surface.choice);
-    const host::ZoneValues values = data.values(zone, variable);
-    if (!cut.hasPoints() || !values.array)
+    const auto values =
+        cut.hasPoints() ? zoneValues(data, zone, variable, host::ValueLocation::Points) : nullptr;
+    if (!values)
         return nullptr;
-    const auto shape = cut.cut(values.array);
-    auto* const carried = vtkDoubleArray::SafeDownCast(shape->GetPointData()->GetArray(kCarried));
-    return carried ? vtkSmartPointer<vtkDoubleArray>(carried)
+    const auto shape = cut.cut(values);
+    const bool isOfIso = surface.choice.iso.variable == variable;
+    vtkDataArray* const carried = shape->GetPointData()->GetArray(isOfIso ? kIso : kCarried);
+    return carried ? gathered(*carried, carried->GetNumberOfTuples(), {}, kCarried)
                    : vtkSmartPointer<vtkDoubleArray>::New();
 }
 

@@ -12,8 +12,8 @@ namespace corvala::plot {
 std::shared_ptr<ZoneSurface> surfaceOf(const host::DataSet& data, std::int64_t zone,
                                        const SurfaceChoice& choice);
 
-/// Values of a variable of the points at the points of a surface that is cut; null when the zone
-/// has no such values.
+/// Values of a variable, averaged where it is one of cells, at the points of a surface that is cut;
+/// null when the zone has no such values.
 vtkSmartPointer<vtkDoubleArray> cutValues(const host::DataSet& data, std::int64_t zone,
                                           std::int64_t variable, const ZoneSurface& surface);
 

@@ -34,7 +34,8 @@ SurfaceChoice SurfaceChoice::normalized(const host::ZoneInfo& zone) const
 {
     SurfaceChoice result;
     result.blanking = blanking;
-    if (!zone.isVolume())
+    result.iso = iso;
+    if (!zone.isVolume() || iso.variable != 0)
         return result;
     result.surfaces = surfaces;
     if (zone.ordered && surfaces >= SurfacesToPlot_IPlanes && surfaces <= SurfacesToPlot_IJKPlanes)

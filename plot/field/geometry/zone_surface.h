@@ -28,14 +28,33 @@ inline bool operator<(const IndexRange& left, const IndexRange& right)
     return left.tied() < right.tied();
 }
 
+/// Surfaces on which a variable has one of these values: of a coordinate, planes.
+struct IsoChoice
+{
+    std::int64_t variable = 0; ///< 0: none
+    std::vector<double> values;
+
+    auto tied() const { return std::tie(variable, values); }
+};
+
+inline bool operator==(const IsoChoice& left, const IsoChoice& right)
+{
+    return left.tied() == right.tied();
+}
+inline bool operator<(const IsoChoice& left, const IsoChoice& right)
+{
+    return left.tied() < right.tied();
+}
+
 /// Which faces of a volume zone are drawn, and which cells of any zone count.
 struct SurfaceChoice
 {
     SurfacesToPlot_e surfaces = SurfacesToPlot_BoundaryCellFaces;
     std::array<IndexRange, 3> planes; ///< I, J, K
+    IsoChoice iso; ///< through a volume zone, in place of its surfaces
     BlankingChoice blanking;
 
-    auto tied() const { return std::tie(surfaces, planes, blanking); }
+    auto tied() const { return std::tie(surfaces, planes, iso, blanking); }
 
     /// With everything that does not matter for this zone set to its default, so that equal
     /// surfaces have equal choices.

@@ -20,11 +20,12 @@ struct MapperLook
     bool inFront = false; ///< seen through everything else
     int floodGroup = 0; ///< coloured by the bands of this contour group
     bool ownColors = false; ///< coloured by an array of the blocks
+    int translucency = 0; ///< of faces, in percent
 
     auto tied() const
     {
         return std::tie(thickness, pattern, patternLength, lit, smooth, shiny, inFront, floodGroup,
-                        ownColors);
+                        ownColors, translucency);
     }
 };
 

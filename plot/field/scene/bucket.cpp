@@ -17,8 +17,7 @@
 namespace corvala::plot {
 
 /// Distance of the layers of a map in a flat plot, where maps lie one unit above each other.
-static constexpr double kLayerHeight = 0.05;
-static_assert(kLayerHeight * kFieldLayerCount < 1.0);
+static constexpr double kLayerHeight = 0.9 / kFieldLayerCount;
 static constexpr int kPatternTexels = 128;
 static constexpr double kPointPixels = 5.0;
 
@@ -54,6 +53,10 @@ CompositeLayer::Bucket::Bucket(const MapperLook& look, FieldLayer layer, bool fl
         m_actor->SetTexture(m_texture);
         m_actor->ForceOpaqueOn();
     }
+    if (look.translucency > 0) {
+        m_actor->ForceOpaqueOff();
+        m_actor->ForceTranslucentOn();
+    }
     if (look.patternLength > 0.0)
         m_texture->SetInputData(patternImage(look.pattern));
 }
@@ -62,6 +65,7 @@ void CompositeLayer::Bucket::setProperties()
 {
     vtkProperty* property = m_actor->GetProperty();
     property->SetLighting(m_look.lit);
+    property->SetOpacity(1.0 - m_look.translucency / 100.0);
     property->SetInterpolation(m_look.smooth ? VTK_GOURAUD : VTK_FLAT);
     // Colours that stand for values stay recognizable on faces that look away from the light.
     const double ambient = m_look.floodGroup > 0 || m_look.ownColors ? 0.65 : 0.4;

@@ -187,6 +187,15 @@ bool CompositeLayer::hasGeometry() const
                        [](const auto& block) { return !block.second.pieces.empty(); });
 }
 
+vtkBoundingBox CompositeLayer::bounds() const
+{
+    vtkBoundingBox box;
+    for (const auto& [map, block] : m_blocks)
+        for (const auto& piece : block.pieces)
+            box.AddBounds(piece->GetBounds());
+    return box;
+}
+
 bool CompositeLayer::draws(CvlInt64 map) const
 {
     return m_visible && geometry(map);

@@ -6,6 +6,8 @@
 #include "plot/field/scene/block_look.h"
 #include "plot/field/scene/layer_looks.h"
 
+#include <vtkBoundingBox.h>
+
 #include <functional>
 #include <map>
 #include <memory>
@@ -69,6 +71,8 @@ public:
     /// Contour groups that colour something in this layer, ascending.
     std::vector<int> groupsInUse() const;
 
+    /// Box round all blocks; invalid without any.
+    vtkBoundingBox bounds() const;
     bool draws(CvlInt64 map) const;
     bool hasGeometry() const; ///< of any map
     /// The geometry of a map's block.

@@ -100,7 +100,10 @@ bool FieldScene::handOverValues(const host::Frame& drawn, const ShownMap& shown)
 bool FieldScene::handOverBlock(const host::Frame& drawn, CvlInt64 map, std::size_t layer,
                                const BlockRecipe& recipe)
 {
-    if (m_mayWait || !isLarge(drawn.data()->zone(recipe.zone)) || m_piece.isBlock(map, recipe))
+    const bool takesLong = recipe.kind == BlockKind::Streamtraces
+        ? !recipe.streams.zones.empty()
+        : isLarge(drawn.data()->zone(recipe.zone));
+    if (m_mayWait || !takesLong || m_piece.isBlock(map, recipe))
         return false;
     m_handed = {map, layer, recipe, {}};
     m_task = std::make_unique<BackgroundTask<ScenePiece>>(makerOfBlock(
@@ -286,7 +289,8 @@ std::int64_t FieldScene::drawingCost() const
 }
 
 /// What lies in the same place is covered by what is drawn later: actors are drawn in the order of
-/// layers and maps, and not in that of the edits which made them.
+/// layers and maps, and not in that of the edits which made them. What is translucent follows,
+/// since it shows what lies behind it.
 void FieldScene::orderActors(vtkRenderer& renderer) const
 {
     vtkPropCollection& props = *renderer.GetViewProps();
@@ -295,6 +299,9 @@ void FieldScene::orderActors(vtkRenderer& renderer) const
         for (vtkActor* const actor : layer->actors())
             if (props.IsItemPresent(actor))
                 wanted.push_back(actor);
+    std::stable_partition(wanted.begin(), wanted.end(), [](vtkProp* prop) {
+        return prop->HasTranslucentPolygonalGeometry() == 0;
+    });
     if (m_standIn && props.IsItemPresent(m_standIn->actor()))
         wanted.push_back(m_standIn->actor());
     std::vector<vtkProp*> present;
@@ -336,6 +343,8 @@ vtkBoundingBox FieldScene::bounds() const
             if (placed.shape->GetNumberOfPoints() > 0)
                 box.AddBounds(placed.shape->GetBounds());
     }
+    if (layer(FieldLayer::Streamtraces).isVisible())
+        box.AddBox(layer(FieldLayer::Streamtraces).bounds());
     return box;
 }
 

@@ -3,6 +3,7 @@
 
 #include "host/style/schema.h"
 #include "plot/field/scene/map_style.h"
+#include "plot/field/scene/volume_looks.h"
 
 #include <QCoreApplication>
 
@@ -22,6 +23,7 @@ static std::optional<BlockLook> backgroundLook(const ShownMap& shown, const Cont
     BlockLook look;
     look.recipe = style.recipe(BlockKind::Faces);
     look.color = {255, 255, 255};
+    look.mapper.translucency = style.translucency();
     return look;
 }
 
@@ -33,6 +35,7 @@ static std::optional<BlockLook> shadeLook(const ShownMap& shown, const ContourGr
     BlockLook look;
     look.recipe = style.recipe(BlockKind::Faces);
     look.color = paletteColor(style.number(kMap.shade.color));
+    look.mapper.translucency = style.translucency();
     style.setLight(look, kMap.shade.useLightingEffect);
     return look;
 }
@@ -41,24 +44,16 @@ static std::optional<BlockLook> floodLook(const ShownMap& shown, const ContourGr
 {
     const MapStyle map(shown);
     const int type = map.number(kMap.contour.contourType);
-    const int coloring = map.number(kMap.contour.floodColoring);
-    const bool hasVariable =
-        coloring == ContourColoring_RGB ? groups.hasRgb() : groups.variable(coloring) > 0;
-    if (!map.flag(kMap.contour.show) || type == ContourType_Lines || !hasVariable)
+    if (!map.flag(kMap.contour.show) || type == ContourType_Lines)
         return std::nullopt;
     const bool byCell =
         type == ContourType_AverageCellFlood || type == ContourType_PrimaryValueFlood;
     BlockLook look;
     look.recipe = map.recipe(byCell ? BlockKind::CellFlood : BlockKind::Flood);
     look.recipe.primaryValues = type == ContourType_PrimaryValueFlood;
-    if (coloring == ContourColoring_RGB) {
-        map.setLineColor(look, style::kRgbColor, groups);
-    } else {
-        look.mapper.floodGroup = coloring;
-        look.recipe.group = coloring;
-        // Levels may move without new geometry; another variable may not.
-        look.recipe.revision = static_cast<int>(groups.variable(coloring));
-    }
+    if (!map.setFlood(look, map.number(kMap.contour.floodColoring), groups))
+        return std::nullopt;
+    look.mapper.translucency = map.translucency();
     map.setLight(look, kMap.contour.useLightingEffect);
     return look;
 }
@@ -140,7 +135,9 @@ enum Use : unsigned {
     Outline = 16, ///< shows where a zone is, and nothing of what is on it
     Cells = 32, ///< is made of cells, some of which may be blanked
     Points = 64, ///< that carry something
-    Vectors = 128
+    Vectors = 128,
+    Within = 256, ///< lies within zones, and not on their surfaces
+    Joint = 512 ///< shows something of all maps together
 };
 static constexpr SharedStyle kShared[] = {
     {kMap.surfaces.surfacesToPlot, true, Surfaces},
@@ -150,6 +147,21 @@ static constexpr SharedStyle kShared[] = {
     {style::blanking.value.include, true, Cells},
     {kMap.effects.useValueBlanking, false, Cells},
     {style::edgeDetails.creaseAngle, false, Outline},
+    {style::fieldLayers.useTranslucency, false, Faces},
+    {kMap.effects.useTranslucency, false, Faces},
+    {kMap.effects.surfaceTranslucency, false, Faces},
+    // Whether a map shows a surface that may be translucent.
+    {style::fieldLayers.showMesh, false, Within},
+    {style::fieldLayers.showContour, false, Within},
+    {style::fieldLayers.showShade, false, Within},
+    {kMap.mesh.show, false, Within},
+    {kMap.mesh.meshType, false, Within},
+    {kMap.contour.show, false, Within},
+    {kMap.contour.contourType, false, Within},
+    {kMap.shade.show, false, Within},
+    {style::globalVector.uVar, false, Joint},
+    {style::globalVector.vVar, false, Joint},
+    {style::globalVector.wVar, false, Joint},
     {style::globalRgb.redVar, true, Values},
     {style::globalVector.uVar, true, Vectors},
     {kMap.points.pointsToPlot, true, Points},
@@ -165,23 +177,54 @@ struct LayerDescription
     SceneLayer layer;
     std::optional<BlockLook> (*look)(const ShownMap&, const ContourGroups&);
 };
+
+template<int number>
+static constexpr LayerDescription slice()
+{
+    return {static_cast<FieldLayer>(static_cast<int>(FieldLayer::Slice1) + number - 1),
+            2 + number,
+            {CV_TEXT("Slice"), style::slices.show, number, kMap.volumeObjects.showSlices,
+             Within | Cells | Light | Values | Faces},
+            [](const ShownMap& shown, const ContourGroups& groups) {
+                return sliceLook(number, shown, groups);
+            }};
+}
+
 static constexpr LayerDescription kLayers[] = {
-    {FieldLayer::Background, 5, {&style::kMeshLayer, Surfaces | Cells | Faces}, backgroundLook},
+    {FieldLayer::Background, 14, {&style::kMeshLayer, Surfaces | Cells | Faces}, backgroundLook},
     {FieldLayer::Shade, 2, {&style::kShadeLayer, Surfaces | Cells | Light | Faces}, shadeLook},
     {FieldLayer::Flood,
      1,
      {&style::kContourLayer, Surfaces | Cells | Light | Values | Faces},
      floodLook},
+    slice<1>(),
+    slice<2>(),
+    slice<3>(),
+    slice<4>(),
+    slice<5>(),
+    slice<6>(),
+    slice<7>(),
+    slice<8>(),
+    {FieldLayer::IsoSurfaces,
+     11,
+     {CV_TEXT("Iso-surfaces"), style::isoSurfaces.show, -1, kMap.volumeObjects.showIsosurfaces,
+      Within | Cells | Light | Values | Faces},
+     isoSurfacesLook},
     {FieldLayer::ContourLines,
-     3,
+     12,
      {&style::kContourLayer, Surfaces | Cells | Values},
      contourLinesLook},
-    {FieldLayer::Mesh, 4, {&style::kMeshLayer, Surfaces | Cells | Values}, meshLook},
-    {FieldLayer::Edges, 6, {&style::kEdgeLayer, Outline | Cells}, edgesLook},
+    {FieldLayer::Mesh, 13, {&style::kMeshLayer, Surfaces | Cells | Values}, meshLook},
+    {FieldLayer::Edges, 16, {&style::kEdgeLayer, Outline | Cells}, edgesLook},
     {FieldLayer::Vectors,
-     7,
+     17,
      {&style::kVectorLayer, Surfaces | Cells | Points | Values | Vectors},
      vectorsLook},
+    {FieldLayer::Streamtraces,
+     15,
+     {CV_TEXT("Streamtraces"), style::streamtraces.show, -1, kMap.volumeObjects.showStreamtraces,
+      Within | Joint | Values},
+     streamtracesLook},
 };
 
 static constexpr bool areLayersInOrder()
@@ -190,7 +233,7 @@ static constexpr bool areLayersInOrder()
     for (std::size_t i = 0; i < std::size(kLayers); ++i) {
         if (kLayers[i].id != static_cast<FieldLayer>(i))
             return false;
-        lines += kLayers[i].layer.uses & Faces ? 0 : 1;
+        lines += kLayers[i].layer.uses & (Faces | Within) ? 0 : 1;
     }
     return std::size(kLayers) == kFieldLayerCount && lines <= kMostLineLayers;
 }
@@ -210,7 +253,8 @@ const SceneKind& fieldSceneKind()
                                       layerAt,
                                       kShared,
                                       std::size(kShared),
-                                      Values | Vectors};
+                                      Values | Vectors,
+                                      Joint};
     return kKind;
 }
 
@@ -229,13 +273,14 @@ double arrowScale(const host::Frame& frame, const ContourGroups& groups)
 
 bool isLayerOn(const host::Frame& frame, FieldLayer layer)
 {
-    return frame.isOn(layerAt(static_cast<std::size_t>(layer)).style->shown);
+    const SceneLayer& it = layerAt(static_cast<std::size_t>(layer));
+    return frame.values().integer(host::Schema::instance().at(it.shown), it.index) != 0;
 }
 
 QString layerName(FieldLayer layer)
 {
     return QCoreApplication::translate("StyleValues",
-                                       layerAt(static_cast<std::size_t>(layer)).style->name);
+                                       layerAt(static_cast<std::size_t>(layer)).name);
 }
 
 static LayerMask layersWith(unsigned use)
@@ -258,14 +303,14 @@ LayerMask outlineLayers()
 
 LayerPlace placeOf(FieldLayer layer)
 {
-    const auto isOfFaces = [](std::size_t number) {
-        return (kLayers[number].layer.uses & Faces) != 0;
+    const auto has = [](std::size_t number, unsigned use) {
+        return (kLayers[number].layer.uses & use) != 0;
     };
     LayerPlace place;
     place.number = static_cast<std::size_t>(layer);
-    place.isOfFaces = isOfFaces(place.number);
-    for (std::size_t i = place.number + 1; i < kFieldLayerCount; ++i)
-        place.inFront += isOfFaces(i) == place.isOfFaces ? 1 : 0;
+    place.isOfFaces = has(place.number, Faces);
+    for (std::size_t i = place.number + 1; i < kFieldLayerCount && !has(place.number, Within); ++i)
+        place.inFront += has(i, Faces) == place.isOfFaces && !has(i, Within) ? 1 : 0;
     return place;
 }
 
@@ -285,7 +330,8 @@ static std::vector<int> groupsOf(const std::optional<BlockLook>& look)
 {
     if (!look)
         return {};
-    std::vector<int> groups = {look->recipe.group, look->recipe.colorGroup};
+    std::vector<int> groups = {look->recipe.group, look->recipe.colorGroup,
+                               look->recipe.placeGroup};
     if (look->recipe.kind == BlockKind::Arrows)
         groups.insert(groups.end(), {ContourGroups::kVector, ContourGroups::kPlace});
     return groups;
@@ -300,7 +346,7 @@ std::vector<int> groupsShown(const ShownMap& shown, const ContourGroups& groups)
             ? kLayers[i].look(shown, groups)
             : std::nullopt;
         for (const int group : groupsOf(look))
-            if (group == ContourGroups::kRed || group > ContourGroups::kSize)
+            if (group == ContourGroups::kRed || group >= ContourGroups::kVector)
                 result.insert(result.end(), {group, group + 1, group + 2});
             else if (group != 0)
                 result.push_back(group);

@@ -19,14 +19,18 @@ enum class FieldLayer {
     Background, ///< the faces of a hidden-line mesh, in the colour of the paper
     Shade,
     Flood,
+    Slice1,
+    Slice8 = Slice1 + style::Slices::kCount - 1,
+    IsoSurfaces,
     ContourLines,
     Mesh,
     Edges,
     Vectors,
+    Streamtraces,
     Count
 };
 constexpr auto kFieldLayerCount = static_cast<std::size_t>(FieldLayer::Count);
-/// Layers of lines; what they move by in depth leaves room for no more.
+/// Layers of lines on surfaces; what they move by in depth leaves room for no more.
 constexpr int kMostLineLayers = 8;
 
 /// Where a layer lies among those that show the same place.
@@ -34,7 +38,7 @@ struct LayerPlace
 {
     std::size_t number = 0; ///< from the back
     bool isOfFaces = false;
-    int inFront = 0; ///< layers of faces, or else of others, that come later
+    int inFront = 0; ///< layers of faces, or else of others, that come later on the same surfaces
 };
 LayerPlace placeOf(FieldLayer layer);
 /// The layers by how much their points tell of a map, most first: those that stand in for it.

@@ -19,6 +19,11 @@ double MapStyle::frameReal(style::Key key, int index) const
     return m_shown.frame.values().real(host::Schema::instance().at(key), index);
 }
 
+std::string MapStyle::frameText(style::Key key) const
+{
+    return std::get<std::string>(m_shown.frame.values().get(host::Schema::instance().at(key)));
+}
+
 /// The constraints that are in force for the map. Its switch counts while one of those but the last
 /// is included, as its cell in the tables shows.
 BlankingChoice MapStyle::blanking() const
@@ -122,6 +127,26 @@ void MapStyle::setLineColor(BlockLook& look, std::int32_t color, const ContourGr
         look.recipe.revision += groups.revision(group);
     }
     look.mapper.ownColors = look.recipe.colorGroup != 0;
+}
+
+bool MapStyle::setFlood(BlockLook& look, int coloring, const ContourGroups& groups) const
+{
+    if (coloring == ContourColoring_RGB) {
+        setLineColor(look, style::kRgbColor, groups);
+        return groups.hasRgb();
+    }
+    look.mapper.floodGroup = coloring;
+    look.recipe.group = coloring;
+    // Levels may move without new geometry; another variable may not.
+    look.recipe.revision = static_cast<int>(groups.variable(coloring));
+    return groups.variable(coloring) > 0;
+}
+
+int MapStyle::translucency() const
+{
+    const bool isOn = m_shown.is3D() && m_shown.frame.isOn(style::fieldLayers.useTranslucency)
+        && flag(kMap.effects.useTranslucency);
+    return isOn ? number(kMap.effects.surfaceTranslucency) : 0;
 }
 
 /// A map that uses lighting is lit by a plain light; the lighting layer adds highlights and the

@@ -27,6 +27,9 @@ public:
     std::int32_t frameNumber(style::Key key, int index = -1) const;
     bool frameFlag(style::Key key, int index = -1) const { return frameNumber(key, index) != 0; }
     double frameReal(style::Key key, int index = -1) const;
+    std::string frameText(style::Key key) const;
+    const ShownMap& shown() const { return m_shown; }
+    BlankingChoice blanking() const;
 
     BlockRecipe recipe(BlockKind kind) const;
     /// Of what stands on points of the zone.
@@ -35,11 +38,13 @@ public:
     void setLine(BlockLook& look, host::AttributeId thickness, host::AttributeId pattern,
                  host::AttributeId length) const;
     void setLineColor(BlockLook& look, std::int32_t color, const ContourGroups& groups) const;
+    /// Colours faces by a ContourColoring_e; false when that has no variable.
+    bool setFlood(BlockLook& look, int coloring, const ContourGroups& groups) const;
+    /// Of the map's faces, in percent; 0 while they are opaque.
+    int translucency() const;
     void setLight(BlockLook& look, host::AttributeId light) const;
 
 private:
-    BlankingChoice blanking() const;
-
     const ShownMap& m_shown;
 };
 

@@ -66,7 +66,8 @@ void DrawingParts::goOn(std::int64_t budget)
 }
 
 /// Renderers are asked one after the other, but for those that show nothing. One of them clears its
-/// layer when it begins, and begins when those before it are done.
+/// layer when it begins, and begins when those before it are done. What is translucent is sorted by
+/// depth as a whole: it is drawn in one go.
 int DrawingParts::choose(Part& part, vtkProp** props, int count)
 {
     if (m_isWhole || m_hasMore)
@@ -76,7 +77,9 @@ int DrawingParts::choose(Part& part, vtkProp** props, int count)
         part.done = 0;
     }
     const int from = part.done;
-    while (part.done < count && m_left > 0) {
+    bool isIndivisible = false;
+    while (part.done < count && (m_left > 0 || isIndivisible)) {
+        isIndivisible = props[part.done]->HasTranslucentPolygonalGeometry() != 0;
         const std::int64_t size = m_sizeOf(props[part.done++]);
         m_left -= size;
         m_drawn += size;

@@ -18,6 +18,7 @@ namespace corvala::plot {
 
 static constexpr double kFitMargin = 1.06; ///< of what is shown, so that lines at the rim are whole
 static constexpr double kPickPixels = 4.0;
+static constexpr int kMostPeels = 16; ///< each is the nearest and the farthest of what is left
 
 /// A light over the viewer's left shoulder.
 static vtkSmartPointer<vtkLight> shoulderLight()
@@ -38,6 +39,9 @@ FieldView::FieldView(std::shared_ptr<SurfaceCache> cache)
     m_paper->SetInteractive(0);
     m_back->AddLight(shoulderLight());
     m_back->SetLayer(1);
+    m_back->SetUseDepthPeeling(true);
+    m_back->SetMaximumNumberOfPeels(kMostPeels);
+    m_back->SetOcclusionRatio(0.0);
     m_front->SetLayer(2);
     m_front->SetInteractive(0);
     m_front->SetActiveCamera(m_back->GetActiveCamera());

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/field/scene/layer_looks.h"
+
+namespace corvala::plot {
+
+// How the volume of a map looks in space: what the frame describes, for maps that show it.
+
+/// A plane through the zone; `number` is from 1.
+std::optional<BlockLook> sliceLook(int number, const ShownMap& shown, const ContourGroups& groups);
+std::optional<BlockLook> isoSurfacesLook(const ShownMap& shown, const ContourGroups& groups);
+/// Lines through all zones are drawn with the first map that shows them; the others have a look
+/// with nothing to draw, so that their values count.
+std::optional<BlockLook> streamtracesLook(const ShownMap& shown, const ContourGroups& groups);
+
+} // namespace corvala::plot
