@@ -18,20 +18,18 @@ TouchedLayers SceneKind::touchedBy(style::Key value) const
     };
     for (std::size_t i = 0; value.isValid() && i < layerCount; ++i) {
         const SceneLayer& it = layer(i);
-        const bool isOwn = value == it.shown || style::isInGroupOf(value, it.shownForMap)
+        const bool isSwitch = value == it.shown && !it.isOfFrame;
+        const bool isOwn = isSwitch || style::isInGroupOf(value, it.shownForMap)
             || (it.isOfFrame && style::isInGroupOf(value, it.shown));
-        bool isUsed = false;
-        for (std::size_t j = 0; j < sharedCount; ++j) {
-            const unsigned use = shared[j].use == 0 ? ~0U : it.uses & shared[j].use;
-            if (use != 0 && concerns(shared[j], value)) {
-                isUsed = true;
-                add(i, use);
-            }
-        }
         if (isOwn)
             add(i, valueUse);
-        if (value == it.shown && !it.isOfFrame && !isUsed)
+        if (isSwitch)
             touched.switched |= maskOf(i);
+        for (std::size_t j = 0; j < sharedCount && !isSwitch; ++j) {
+            const unsigned use = shared[j].use == 0 ? ~0U : it.uses & shared[j].use;
+            if (use != 0 && concerns(shared[j], value))
+                add(i, use);
+        }
     }
     return touched;
 }

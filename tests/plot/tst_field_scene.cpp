@@ -234,7 +234,7 @@ private Q_SLOTS:
             before[i] = counters(static_cast<FieldLayer>(i));
         write(("FieldMap/" + path).toUtf8().constData(), "3,8", value);
         const CvlInt64 pieces = m_scene->hasWork() ? m_scene->progress().second : 0;
-        QVERIFY2(pieces <= 2 * 3,
+        QVERIFY2(pieces <= 2 * 5,
                  QByteArray::number(qlonglong(pieces))); // two maps, layers and values
         work();
         for (std::size_t i = 0; i < kFieldLayerCount; ++i) {

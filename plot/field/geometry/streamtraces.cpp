@@ -179,7 +179,7 @@ static int directionOf(StreamDirection_e direction)
 static vtkSmartPointer<vtkPolyData>
 traced(const StreamZones& zones, const std::vector<Point>& seeds, StreamDirection_e direction)
 {
-    constexpr double kLongest = 4.0; // diagonals of the box
+    constexpr double kLongest = 1.5; // diagonals of the box
     constexpr vtkIdType kMostSteps = 20'000;
     constexpr double kStep = 0.05; // of a cell: lines end up to a step before the cells do
     vtkNew<vtkPoints> points;

@@ -5,10 +5,12 @@
 #include "host/style/schema.h"
 
 #include <vtkActor.h>
+#include <vtkMath.h>
 #include <vtkPropCollection.h>
 #include <vtkRenderer.h>
 
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <set>
 
@@ -288,6 +290,14 @@ std::int64_t FieldScene::drawingCost() const
     return all;
 }
 
+std::int64_t FieldScene::translucentCost() const
+{
+    std::int64_t all = 0;
+    for (const auto& [prop, cost] : m_costs)
+        all += prop->GetVisibility() && prop->HasTranslucentPolygonalGeometry() ? cost : 0;
+    return all;
+}
+
 /// What lies in the same place is covered by what is drawn later: actors are drawn in the order of
 /// layers and maps, and not in that of the edits which made them. What is translucent follows,
 /// since it shows what lies behind it.
@@ -382,6 +392,29 @@ CvlInt64 FieldScene::zoneAt(const PickRay& ray)
     const LayerMask outlines = outlineLayers();
     const CvlInt64 zone = nearestZone(ray, fieldSceneKind().allLayers() & ~outlines);
     return zone != 0 ? zone : nearestZone(ray, outlines);
+}
+
+bool FieldScene::isTranslucent() const
+{
+    const host::Frame* const drawn = frame();
+    return drawn && !m_flat && drawn->isOn(style::fieldLayers.useTranslucency);
+}
+
+std::array<double, 3> FieldScene::lightDirection() const
+{
+    // The angles of the frame are counted from here: over the viewer's left shoulder.
+    double azimuth = -26.6;
+    double elevation = 28.2;
+    if (const host::Frame* const drawn = frame()) {
+        const auto angle = [&](style::RealKey key) {
+            return drawn->values().real(host::Schema::instance().at(key));
+        };
+        azimuth += angle(style::lightSource.azimuth);
+        elevation += angle(style::lightSource.elevation);
+    }
+    const double right = vtkMath::RadiansFromDegrees(azimuth);
+    const double up = vtkMath::RadiansFromDegrees(elevation);
+    return {std::sin(right) * std::cos(up), std::sin(up), std::cos(right) * std::cos(up)};
 }
 
 static QString shownName(const host::Frame& drawn, CvlInt64 variable)

@@ -59,6 +59,8 @@ public:
     std::int64_t drawingCost(vtkProp* prop) const;
     /// The same of everything that is visible.
     std::int64_t drawingCost() const;
+    /// The same of everything that is translucent.
+    std::int64_t translucentCost() const;
     /// Draws a few points in place of everything, until this is taken back: for a scene that takes
     /// too long to be drawn while it is moved.
     void setStandIn(bool standsIn);
@@ -71,6 +73,10 @@ public:
     /// surface, also where only lines are drawn of it, and a zone of which more than its edges are
     /// drawn before one that shows nothing else.
     CvlInt64 zoneAt(const PickRay& ray);
+    /// Whether faces may be translucent.
+    bool isTranslucent() const;
+    /// Where the light comes from, seen from the viewer: to the right, up and towards the viewer.
+    std::array<double, 3> lightDirection() const;
     std::vector<FieldLegend> legends() const;
     /// Nothing when no arrows are shown, or none that tells their length is wanted.
     std::optional<VectorKey> vectorKey() const;

@@ -15,10 +15,13 @@ namespace corvala::plot {
 static constexpr const auto& kMap = style::fieldMap;
 static constexpr style::Key kBorders[] = {kMap.edgeLayer.iBorder, kMap.edgeLayer.jBorder,
                                           kMap.edgeLayer.kBorder};
-static std::optional<BlockLook> backgroundLook(const ShownMap& shown, const ContourGroups&)
+static std::optional<BlockLook> backgroundLook(const ShownMap& shown, const ContourGroups& groups)
 {
     const MapStyle style(shown);
     if (!style.flag(kMap.mesh.show) || style.number(kMap.mesh.meshType) != MeshType_HiddenLine)
+        return std::nullopt;
+    // What would be covered is not to shine through what covers it.
+    if (style.translucency() > 0 && (style.showsShade() || style.showsFlood(groups)))
         return std::nullopt;
     BlockLook look;
     look.recipe = style.recipe(BlockKind::Faces);
@@ -27,10 +30,10 @@ static std::optional<BlockLook> backgroundLook(const ShownMap& shown, const Cont
     return look;
 }
 
-static std::optional<BlockLook> shadeLook(const ShownMap& shown, const ContourGroups&)
+static std::optional<BlockLook> shadeLook(const ShownMap& shown, const ContourGroups& groups)
 {
     const MapStyle style(shown);
-    if (!style.flag(kMap.shade.show))
+    if (!style.flag(kMap.shade.show) || (style.translucency() > 0 && style.showsFlood(groups)))
         return std::nullopt;
     BlockLook look;
     look.recipe = style.recipe(BlockKind::Faces);
@@ -137,12 +140,14 @@ enum Use : unsigned {
     Points = 64, ///< that carry something
     Vectors = 128,
     Within = 256, ///< lies within zones, and not on their surfaces
-    Joint = 512 ///< shows something of all maps together
+    Joint = 512, ///< shows something of all maps together
+    Beside = 1024 ///< looks otherwise beside other surfaces of the map
 };
 static constexpr SharedStyle kShared[] = {
     {kMap.surfaces.surfacesToPlot, true, Surfaces},
     {kMap.effects.lightingEffect, true, Light},
     {style::fieldLayers.useLightingEffect, false, Light},
+    {style::lightSource.azimuth, true, Light},
     {style::contourGroups.var, true, Values},
     {style::blanking.value.include, true, Cells},
     {kMap.effects.useValueBlanking, false, Cells},
@@ -150,15 +155,17 @@ static constexpr SharedStyle kShared[] = {
     {style::fieldLayers.useTranslucency, false, Faces},
     {kMap.effects.useTranslucency, false, Faces},
     {kMap.effects.surfaceTranslucency, false, Faces},
-    // Whether a map shows a surface that may be translucent.
-    {style::fieldLayers.showMesh, false, Within},
-    {style::fieldLayers.showContour, false, Within},
-    {style::fieldLayers.showShade, false, Within},
-    {kMap.mesh.show, false, Within},
-    {kMap.mesh.meshType, false, Within},
-    {kMap.contour.show, false, Within},
-    {kMap.contour.contourType, false, Within},
-    {kMap.shade.show, false, Within},
+    {style::fieldLayers.showMesh, false, Beside},
+    {style::fieldLayers.showContour, false, Beside},
+    {style::fieldLayers.showShade, false, Beside},
+    {kMap.mesh.show, false, Beside},
+    {kMap.mesh.meshType, false, Beside},
+    {kMap.contour.show, false, Beside},
+    {kMap.contour.contourType, false, Beside},
+    {kMap.contour.floodColoring, false, Beside},
+    {kMap.shade.show, false, Beside},
+    {style::contourGroups.var, false, Beside},
+    {style::globalRgb.redVar, true, Beside},
     {style::globalVector.uVar, false, Joint},
     {style::globalVector.vVar, false, Joint},
     {style::globalVector.wVar, false, Joint},
@@ -184,15 +191,21 @@ static constexpr LayerDescription slice()
     return {static_cast<FieldLayer>(static_cast<int>(FieldLayer::Slice1) + number - 1),
             2 + number,
             {CV_TEXT("Slice"), style::slices.show, number, kMap.volumeObjects.showSlices,
-             Within | Cells | Light | Values | Faces},
+             Within | Cells | Light | Values | Faces | Beside},
             [](const ShownMap& shown, const ContourGroups& groups) {
                 return sliceLook(number, shown, groups);
             }};
 }
 
 static constexpr LayerDescription kLayers[] = {
-    {FieldLayer::Background, 14, {&style::kMeshLayer, Surfaces | Cells | Faces}, backgroundLook},
-    {FieldLayer::Shade, 2, {&style::kShadeLayer, Surfaces | Cells | Light | Faces}, shadeLook},
+    {FieldLayer::Background,
+     14,
+     {&style::kMeshLayer, Surfaces | Cells | Faces | Beside},
+     backgroundLook},
+    {FieldLayer::Shade,
+     2,
+     {&style::kShadeLayer, Surfaces | Cells | Light | Faces | Beside},
+     shadeLook},
     {FieldLayer::Flood,
      1,
      {&style::kContourLayer, Surfaces | Cells | Light | Values | Faces},
@@ -208,7 +221,7 @@ static constexpr LayerDescription kLayers[] = {
     {FieldLayer::IsoSurfaces,
      11,
      {CV_TEXT("Iso-surfaces"), style::isoSurfaces.show, -1, kMap.volumeObjects.showIsosurfaces,
-      Within | Cells | Light | Values | Faces},
+      Within | Cells | Light | Values | Faces | Beside},
      isoSurfacesLook},
     {FieldLayer::ContourLines,
      12,

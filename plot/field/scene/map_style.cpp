@@ -142,6 +142,25 @@ bool MapStyle::setFlood(BlockLook& look, int coloring, const ContourGroups& grou
     return groups.variable(coloring) > 0;
 }
 
+bool MapStyle::showsHiddenLines() const
+{
+    return m_shown.frame.isOn(style::fieldLayers.showMesh) && flag(kMap.mesh.show)
+        && number(kMap.mesh.meshType) == MeshType_HiddenLine;
+}
+
+bool MapStyle::showsShade() const
+{
+    return m_shown.frame.isOn(style::fieldLayers.showShade) && flag(kMap.shade.show);
+}
+
+bool MapStyle::showsFlood(const ContourGroups& groups) const
+{
+    const int coloring = number(kMap.contour.floodColoring);
+    return m_shown.frame.isOn(style::fieldLayers.showContour) && flag(kMap.contour.show)
+        && number(kMap.contour.contourType) != ContourType_Lines
+        && (coloring == ContourColoring_RGB ? groups.hasRgb() : groups.variable(coloring) > 0);
+}
+
 int MapStyle::translucency() const
 {
     const bool isOn = m_shown.is3D() && m_shown.frame.isOn(style::fieldLayers.useTranslucency)

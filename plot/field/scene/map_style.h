@@ -40,6 +40,11 @@ public:
     void setLineColor(BlockLook& look, std::int32_t color, const ContourGroups& groups) const;
     /// Colours faces by a ContourColoring_e; false when that has no variable.
     bool setFlood(BlockLook& look, int coloring, const ContourGroups& groups) const;
+    // Whether the map shows a surface in a layer that is on: the faces of hidden lines, shades, and
+    // a flood with a variable.
+    bool showsHiddenLines() const;
+    bool showsShade() const;
+    bool showsFlood(const ContourGroups& groups) const;
     /// Of the map's faces, in percent; 0 while they are opaque.
     int translucency() const;
     void setLight(BlockLook& look, host::AttributeId light) const;

@@ -18,18 +18,6 @@ static bool showsObject(const ShownMap& shown, style::SwitchKey key)
         && shown.frame.fieldInteger(key, shown.map) != 0;
 }
 
-/// Whether the map shows a surface that may be translucent; without one its translucency says
-/// nothing, as its cells in the tables show.
-static bool showsSurface(const MapStyle& map)
-{
-    const host::Frame& frame = map.shown().frame;
-    return (frame.isOn(style::fieldLayers.showMesh) && map.flag(kMap.mesh.show)
-            && map.number(kMap.mesh.meshType) == MeshType_HiddenLine)
-        || (frame.isOn(style::fieldLayers.showContour) && map.flag(kMap.contour.show)
-            && map.number(kMap.contour.contourType) != ContourType_Lines)
-        || (frame.isOn(style::fieldLayers.showShade) && map.flag(kMap.shade.show));
-}
-
 /// Faces within a map in the colours of the frame, lit and smooth. Nothing when there is no
 /// variable for the colours.
 static std::optional<BlockLook> facesLook(const MapStyle& map, const SurfaceChoice& surfaces,
@@ -44,7 +32,9 @@ static std::optional<BlockLook> facesLook(const MapStyle& map, const SurfaceChoi
     look.recipe.normals = true;
     look.mapper.lit = look.mapper.smooth = true;
     look.mapper.shiny = map.shown().frame.isOn(style::fieldLayers.useLightingEffect);
-    look.mapper.translucency = showsSurface(map) ? map.translucency() : 0;
+    // Without a surface that may be translucent, the translucency says nothing: its cells are grey.
+    const bool showsSurface = map.showsHiddenLines() || map.showsShade() || map.showsFlood(groups);
+    look.mapper.translucency = showsSurface ? map.translucency() : 0;
     if (!map.setFlood(look, coloring, groups))
         return std::nullopt;
     return look;

@@ -107,7 +107,6 @@ void FieldCanvas::makeWidgets()
     watch(*m_widget);
     layout()->addWidget(m_widget);
     vtkNew<vtkGenericOpenGLRenderWindow> window;
-    window->SetMultiSamples(isSoftwareOpenGl() ? 0 : kSamples);
     m_widget->setRenderWindow(window.Get());
     m_view.attach(window);
     // The canvas draws when it is idle, and not whenever the interactor wishes.
@@ -193,8 +192,11 @@ void FieldCanvas::drawPart()
 {
     QElapsedTimer clock;
     clock.start();
-    const int samples = m_isQuick || !isSoftwareOpenGl() ? 1 : kSoftwareSamples;
+    // Translucent faces are drawn by depth, which cannot be with samples.
+    const bool drawsLarger = isSoftwareOpenGl() || m_view.scene().isTranslucent();
+    const int samples = m_isQuick || !drawsLarger ? 1 : kSoftwareSamples;
     vtkRenderWindow* const window = m_widget->renderWindow();
+    window->SetMultiSamples(drawsLarger ? 0 : kSamples);
     const QSize drawn(window->GetSize()[0], window->GetSize()[1]);
     m_view.setSize(size(), samples * devicePixelRatioF());
     window->SetSize(samples * drawn.width(), samples * drawn.height());

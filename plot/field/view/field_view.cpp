@@ -6,7 +6,6 @@
 #include <QPainter>
 
 #include <vtkCamera.h>
-#include <vtkLight.h>
 #include <vtkMath.h>
 #include <vtkMatrix4x4.h>
 #include <vtkRenderWindow.h>
@@ -18,16 +17,15 @@ namespace corvala::plot {
 
 static constexpr double kFitMargin = 1.06; ///< of what is shown, so that lines at the rim are whole
 static constexpr double kPickPixels = 4.0;
-static constexpr int kMostPeels = 16; ///< each is the nearest and the farthest of what is left
 
-/// A light over the viewer's left shoulder.
-static vtkSmartPointer<vtkLight> shoulderLight()
+/// How many times what is translucent is drawn, each time for the nearest and the farthest faces
+/// that are left: for few faces until nothing is left, for many as often as takes about a second.
+static int peelCount(std::int64_t cost)
 {
-    auto light = vtkSmartPointer<vtkLight>::New();
-    light->SetLightTypeToCameraLight();
-    light->SetPosition(-0.5, 0.6, 1.0);
-    light->SetFocalPoint(0.0, 0.0, 0.0);
-    return light;
+    constexpr std::int64_t kMostCost = 10 * kLargestPiece;
+    constexpr std::int64_t kMostPeels = 16;
+    return static_cast<int>(
+        std::clamp(kMostCost / std::max<std::int64_t>(cost, 1), std::int64_t {1}, kMostPeels));
 }
 
 FieldView::FieldView(std::shared_ptr<SurfaceCache> cache)
@@ -37,10 +35,11 @@ FieldView::FieldView(std::shared_ptr<SurfaceCache> cache)
 {
     m_paper->SetBackground(1.0, 1.0, 1.0);
     m_paper->SetInteractive(0);
-    m_back->AddLight(shoulderLight());
+    m_light->SetLightTypeToCameraLight();
+    m_light->SetFocalPoint(0.0, 0.0, 0.0);
+    m_back->AddLight(m_light);
     m_back->SetLayer(1);
     m_back->SetUseDepthPeeling(true);
-    m_back->SetMaximumNumberOfPeels(kMostPeels);
     m_back->SetOcclusionRatio(0.0);
     m_front->SetLayer(2);
     m_front->SetInteractive(0);
@@ -121,6 +120,7 @@ void FieldView::updateFitBox(const vtkBoundingBox& box)
 
 void FieldView::prepare()
 {
+    m_light->SetPosition(m_scene->lightDirection().data());
     m_legends = m_scene->legends();
     m_vectorKey = m_scene->vectorKey();
     const vtkBoundingBox box = m_scene->bounds();
@@ -135,6 +135,7 @@ void FieldView::prepare()
     }
     m_scene->prepare({static_cast<int>(std::lround(m_magnification * m_size.height())),
                       m_magnification * pixelsPerUnit(), m_magnification});
+    m_back->SetMaximumNumberOfPeels(peelCount(m_scene->translucentCost()));
 }
 
 void FieldView::placeCamera()

@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QSize>
 
+#include <vtkLight.h>
 #include <vtkNew.h>
 #include <vtkRenderer.h>
 
@@ -93,6 +94,7 @@ private:
     vtkNew<vtkRenderer> m_paper; ///< the whole window; the others draw in the plot only
     vtkNew<vtkRenderer> m_back;
     vtkNew<vtkRenderer> m_front;
+    vtkNew<vtkLight> m_light; ///< goes with the camera
     std::unique_ptr<FieldScene> m_scene;
     DrawingParts m_parts;
     vtkRenderWindow* m_window = nullptr; // not owned
