@@ -221,7 +221,7 @@ private Q_SLOTS:
     {
         const Rows<double, double, double, double> row;
         row("few points", 16.0, 1.0, 8.0, 0.125);
-        row("many points", 1e8, 1.0, 8.0, 0.05);
+        row("many points", 1e8, 1.0, 8.0, 1.0 / 30);
         row("small numbers", 16.0, 1e-30, 1e-30, 0.125);
         row("no vectors", 16.0, 0.0, 0.0, 0.0);
         row("no points", 0.0, 0.0, -1.0, 0.0);

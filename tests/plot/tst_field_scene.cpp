@@ -219,6 +219,18 @@ private Q_SLOTS:
         row("vectors off", "Vector/Show", 0.0, vectors, 0, 0, 0, 2);
         row("points", "Points/PointsToPlot", 3.0, vectors, 2, 0, 0, 0);
         row("skip", "Points/IJKSkip/J", 3.0, vectors, 1, 0, 0, 0); // map 8 is not ordered
+        const int scatter = int(FieldLayer::Scatter);
+        row("symbol shape", "Scatter/SymbolShape/GeomShape", 6.0, scatter, 0, 2, 0, 0);
+        row("symbol size", "Scatter/FrameSize", 4.0, scatter, 0, 2, 0, 0);
+        row("size by variable", "Scatter/SizeByVariable", 1.0, scatter, 2, 0, 0, 0);
+        row("symbol color", "Scatter/Color", 7.0, scatter, 0, 0, 2, 0);
+        row("symbols by group", "Scatter/Color", 101.0, scatter, 2, 0, 0, 0);
+        row("symbol thickness", "Scatter/LineThickness", 1.2, scatter, 0, 2, 0, 0);
+        row("symbol fill", "Scatter/FillMode", 3.0, scatter, 0, 2, 0, 0);
+        row("color of no fill", "Scatter/FillColor", 7.0, scatter, 0, 0, 0, 0);
+        row("symbols off", "Scatter/Show", 0.0, scatter, 0, 0, 0, 2);
+        row("points of symbols", "Points/PointsToPlot", 3.0, scatter, 2, 0, 0, 0);
+        row("points of nothing", "Points/PointsToPlot", 3.0, mesh, 0, 0, 0, 0);
     }
 
     void editsTouchWhatTheyName()
@@ -227,7 +239,9 @@ private Q_SLOTS:
             currentRow<QString, double, int, int, int, int, int>();
         write("FieldLayers/ShowShade", "", 1);
         write("FieldLayers/ShowContour", "", 1);
-        write("FieldLayers/ShowVector", "", 1);
+        write("GlobalScatter/Var", "", 5);
+        write("FieldLayers/ShowVector", "", layer == int(FieldLayer::Vectors));
+        write("FieldLayers/ShowScatter", "", layer == int(FieldLayer::Scatter));
         work();
         std::array<CompositeLayer::Counters, kFieldLayerCount> before;
         for (std::size_t i = 0; i < kFieldLayerCount; ++i)

@@ -9,11 +9,13 @@
 #include <vtkCellArray.h>
 #include <vtkContourFilter.h>
 #include <vtkDataSet.h>
+#include <vtkFloatArray.h>
 #include <vtkIdList.h>
 #include <vtkPointData.h>
 #include <vtkPolyDataNormals.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace corvala::plot {
 
@@ -80,9 +82,9 @@ static Shape facesOf(vtkPolyData* shape, bool withNormals)
     return faces;
 }
 
-static ShapePieces drawable(vtkPolyData* shape)
+static ShapePieces drawable(vtkPolyData* shape, vtkIdType largest = kLargestPiece)
 {
-    return shape && shape->GetNumberOfCells() > 0 ? inPieces(*shape) : ShapePieces();
+    return shape && shape->GetNumberOfCells() > 0 ? inPieces(*shape, largest) : ShapePieces();
 }
 
 ShapePieces BlockBuilder::build(const BlockRecipe& recipe, const double* height,
@@ -94,6 +96,9 @@ ShapePieces BlockBuilder::build(const BlockRecipe& recipe, const double* height,
         return drawable(streams(recipe));
     if (recipe.kind == BlockKind::Arrows)
         return drawable(arrowShapes(recipe, carriers(recipe, height, placed), height != nullptr));
+    if (recipe.kind == BlockKind::Symbols)
+        return drawable(symbolShapes(recipe, carriers(recipe, height, placed)),
+                        kLargestPiece / kCornersPerSymbol);
     const PlacedSurface* const found = surface(recipe, height, placed);
     if (!found || found->shape->GetNumberOfPoints() == 0)
         return {};
@@ -106,6 +111,7 @@ ShapePieces BlockBuilder::build(const BlockRecipe& recipe, const double* height,
     case BlockKind::Edges: result = edges(recipe, *found, height); break;
     case BlockKind::MeshLines: result = mesh(recipe, *found); break;
     case BlockKind::Arrows:
+    case BlockKind::Symbols:
     case BlockKind::Streamtraces: break;
     }
     return drawable(result);
@@ -340,6 +346,18 @@ static vtkSmartPointer<vtkDoubleArray> upright(std::size_t count)
     return normals;
 }
 
+vtkSmartPointer<vtkDataArray> BlockBuilder::carrierColors(int group, const BlockRecipe& recipe,
+                                                          const Carriers& carriers) const
+{
+    if (group == 0)
+        return nullptr;
+    const auto found = colorsBy(group, [&](int member) {
+        return glyphValues(m_data, recipe.zone, m_groups.variable(member), carriers.surface.get(),
+                           recipe.points, carriers.points);
+    });
+    return found ? found : noValueColors(static_cast<vtkIdType>(carriers.points.ids.size()));
+}
+
 Shape BlockBuilder::arrowShapes(const BlockRecipe& recipe, const Carriers& carriers,
                                 bool isFlat) const
 {
@@ -352,15 +370,58 @@ Shape BlockBuilder::arrowShapes(const BlockRecipe& recipe, const Carriers& carri
         normals = upright(points.ids.size());
     else if (carriers.surface)
         normals = normalsAt(points, *carriers.surface, recipe.points);
-    vtkSmartPointer<vtkDataArray> pointColors;
-    if (recipe.colorGroup > 0)
-        pointColors = colorsBy(recipe.colorGroup, [&](int group) {
-            return glyphValues(m_data, recipe.zone, m_groups.variable(group),
-                               carriers.surface.get(), recipe.points, points);
-        });
+    const auto pointColors = carrierColors(recipe.colorGroup, recipe, carriers);
     Shape result = arrows({*points.places, *directions, normals, pointColors}, recipe.arrows);
     if (!recipe.arcLength)
         result->GetPointData()->SetTCoords(nullptr);
+    return result;
+}
+
+/// The share of the way from the lowest to the highest value, in the middle where they are one.
+static double shareOf(double value, const SymbolSizes& sizes)
+{
+    const double range = sizes.highest - sizes.lowest;
+    return range == 0.0 ? 0.5 : std::clamp((value - sizes.lowest) / range, 0.0, 1.0);
+}
+
+/// What points have of their own: a size, negative for a point without, and a colour as a number.
+static vtkSmartPointer<vtkFloatArray> symbolData(vtkDoubleArray* values, vtkDataArray* fills,
+                                                 vtkIdType count, const SymbolSizes& sizes)
+{
+    auto data = vtkSmartPointer<vtkFloatArray>::New();
+    data->SetName("symbol");
+    data->SetNumberOfComponents(3);
+    data->SetNumberOfTuples(count);
+    for (vtkIdType i = 0; i < count; ++i) {
+        const double value = values ? values->GetValue(i) : 0.0;
+        const double size =
+            sizes.smallest + shareOf(value, sizes) * (sizes.largest - sizes.smallest);
+        double color = 0.0;
+        for (int part = 0; fills && part < 3; ++part)
+            color = 256.0 * color + fills->GetComponent(i, part);
+        data->SetTuple3(i, std::isfinite(value) ? size : -1.0, color, 0.0);
+    }
+    return data;
+}
+
+Shape BlockBuilder::symbolShapes(const BlockRecipe& recipe, const Carriers& carriers) const
+{
+    const auto count = static_cast<vtkIdType>(carriers.points.ids.size());
+    if (count == 0)
+        return nullptr;
+    vtkSmartPointer<vtkDoubleArray> values;
+    if (recipe.sizes.areOwn) {
+        values = glyphValues(m_data, recipe.zone, m_groups.variable(ContourGroups::kSize),
+                             carriers.surface.get(), recipe.points, carriers.points);
+        if (!values)
+            return nullptr;
+    }
+    Shape result = vertices(carriers.points.places);
+    if (const auto lines = carrierColors(recipe.colorGroup, recipe, carriers))
+        result->GetPointData()->SetScalars(lines);
+    const auto fills = carrierColors(recipe.fillGroup, recipe, carriers);
+    if (values || fills)
+        result->GetPointData()->SetNormals(symbolData(values, fills, count, recipe.sizes));
     return result;
 }
 

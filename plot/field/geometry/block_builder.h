@@ -62,6 +62,9 @@ private:
     vtkSmartPointer<vtkDoubleArray> vectors(const BlockRecipe& recipe,
                                             const Carriers& carriers) const;
     Shape arrowShapes(const BlockRecipe& recipe, const Carriers& carriers, bool isFlat) const;
+    Shape symbolShapes(const BlockRecipe& recipe, const Carriers& carriers) const;
+    vtkSmartPointer<vtkDataArray> carrierColors(int group, const BlockRecipe& recipe,
+                                                const Carriers& carriers) const;
 
     vtkSmartPointer<vtkDoubleArray> values(int group, const BlockRecipe& recipe,
                                            const PlacedSurface& placed) const;

@@ -20,7 +20,21 @@ enum class BlockKind {
     Edges,
     MeshLines,
     Arrows,
+    Symbols,
     Streamtraces ///< of several zones
+};
+
+/// Sizes by the values of a variable: straight from that of the lowest to that of the highest
+/// value.
+struct SymbolSizes
+{
+    bool areOwn = false; ///< else all are the same, and nothing below matters
+    double lowest = 0.0;
+    double highest = 1.0;
+    double smallest = 0.0; ///< in percent of the frame's height
+    double largest = 0.0;
+
+    auto tied() const { return std::tie(areOwn, lowest, highest, smallest, largest); }
 };
 
 /// What the geometry of a block is made from; equal recipes give equal geometry.
@@ -30,9 +44,11 @@ struct BlockRecipe
     CvlInt64 zone = 0;
     SurfaceChoice surfaces;
     EdgeChoice edges; ///< of Edges
-    PointChoice points; ///< of Arrows
+    PointChoice points; ///< of Arrows and Symbols
     ArrowChoice arrows;
     StreamChoice streams; ///< of Streamtraces
+    SymbolSizes sizes;
+    int fillGroup = 0; ///< as colorGroup, for the inside of symbols
     bool arcLength = false; ///< lines carry a pattern
     bool normals = false;
     bool primaryValues = false; ///< of CellFlood
@@ -51,7 +67,8 @@ inline bool operator==(const BlockRecipe& left, const BlockRecipe& right)
 {
     return left.tied() == right.tied() && left.surfaces == right.surfaces
         && left.edges == right.edges && left.points == right.points && left.arrows == right.arrows
-        && left.streams == right.streams;
+        && left.streams == right.streams && left.sizes.tied() == right.sizes.tied()
+        && left.fillGroup == right.fillGroup;
 }
 
 } // namespace corvala::plot

@@ -16,6 +16,9 @@ using ShapePieces = std::vector<vtkSmartPointer<vtkPolyData>>;
 /// as many in a tenth of a second.
 constexpr vtkIdType kLargestPiece = 300'000;
 
+/// What a symbol costs, in corners: it covers many pixels.
+constexpr vtkIdType kCornersPerSymbol = 16;
+
 /// Corners of all cells; what drawing the shape costs.
 vtkIdType cornerCount(vtkPolyData& shape);
 

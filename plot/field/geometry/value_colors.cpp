@@ -60,6 +60,14 @@ vtkSmartPointer<vtkDataArray> groupColors(vtkDoubleArray& values, int group,
     return colors;
 }
 
+vtkSmartPointer<vtkDataArray> noValueColors(vtkIdType count)
+{
+    auto colors = makeColors(count);
+    for (vtkIdType i = 0; i < count; ++i)
+        setColor(*colors, i, noValueColor());
+    return colors;
+}
+
 vtkSmartPointer<vtkDataArray>
 channelColors(const std::array<vtkSmartPointer<vtkDoubleArray>, 3>& channels,
               const ContourGroups& groups)

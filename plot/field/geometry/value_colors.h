@@ -20,6 +20,9 @@ vtkSmartPointer<vtkDataArray> floodCoordinates(vtkDoubleArray& values, int group
 vtkSmartPointer<vtkDataArray> groupColors(vtkDoubleArray& values, int group,
                                           const ContourGroups& groups);
 
+/// The colour of no value, for so many points.
+vtkSmartPointer<vtkDataArray> noValueColors(vtkIdType count);
+
 /// Colours mixed from the red, green and blue channels, each from its smallest to its largest
 /// value.
 vtkSmartPointer<vtkDataArray>

@@ -3,6 +3,7 @@
 
 #include "host/document/document.h"
 #include "plot/field/geometry/block_recipe.h"
+#include "plot/field/scene/symbol_look.h"
 
 #include <tuple>
 
@@ -21,11 +22,12 @@ struct MapperLook
     int floodGroup = 0; ///< coloured by the bands of this contour group
     bool ownColors = false; ///< coloured by an array of the blocks
     int translucency = 0; ///< of faces, in percent
+    SymbolLook symbol; ///< of points
 
     auto tied() const
     {
         return std::tie(thickness, pattern, patternLength, lit, smooth, shiny, inFront, floodGroup,
-                        ownColors, translucency);
+                        ownColors, translucency, symbol);
     }
 };
 

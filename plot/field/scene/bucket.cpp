@@ -3,6 +3,7 @@
 
 #include "plot/common/line_patterns.h"
 #include "plot/field/geometry/color_map.h"
+#include "plot/field/scene/symbol_shader.h"
 
 #include <vtkImageData.h>
 #include <vtkProperty.h>
@@ -35,6 +36,11 @@ static vtkSmartPointer<vtkImageData> patternImage(int pattern)
     return image;
 }
 
+std::int64_t drawingCost(vtkPolyData& piece, const MapperLook& look)
+{
+    return cornerCount(piece) * (look.symbol.shape == SymbolLook::kNone ? 1 : kCornersPerSymbol);
+}
+
 CompositeLayer::Bucket::Bucket(const MapperLook& look, FieldLayer layer, bool flat)
     : m_look(look)
 {
@@ -59,6 +65,8 @@ CompositeLayer::Bucket::Bucket(const MapperLook& look, FieldLayer layer, bool fl
     }
     if (look.patternLength > 0.0)
         m_texture->SetInputData(patternImage(look.pattern));
+    if (look.symbol.shape != SymbolLook::kNone)
+        drawSymbols(*m_actor, look.symbol);
 }
 
 void CompositeLayer::Bucket::setProperties()
@@ -66,7 +74,9 @@ void CompositeLayer::Bucket::setProperties()
     vtkProperty* property = m_actor->GetProperty();
     property->SetLighting(m_look.lit);
     property->SetOpacity(1.0 - m_look.translucency / 100.0);
-    property->SetInterpolation(m_look.smooth ? VTK_GOURAUD : VTK_FLAT);
+    // Normals are looked at for smooth light only; those of symbols say something else.
+    const bool usesNormals = m_look.smooth || m_look.symbol.hasPointData();
+    property->SetInterpolation(usesNormals ? VTK_GOURAUD : VTK_FLAT);
     // Colours that stand for values stay recognizable on faces that look away from the light.
     const double ambient = m_look.floodGroup > 0 || m_look.ownColors ? 0.65 : 0.4;
     property->SetAmbient(m_look.lit ? ambient : 1.0);
@@ -135,7 +145,7 @@ void CompositeLayer::Bucket::setBlocks(std::vector<Block> blocks)
     m_drawn->SetNumberOfBlocks(static_cast<unsigned int>(count));
     for (std::size_t i = 0; i < count; ++i) {
         Shell& shell = m_shells[i];
-        m_size += cornerCount(*m_blocks[i].data);
+        m_size += drawingCost(*m_blocks[i].data, m_look);
         if (shell.source != m_blocks[i].data) {
             shell.source = m_blocks[i].data;
             shell.data->ShallowCopy(shell.source);
@@ -154,6 +164,8 @@ void CompositeLayer::Bucket::setScale(const ViewScale& scale)
     m_linePixels = std::max(m_look.thickness / 100.0 * scale.frameHeight, scale.thinnestLine);
     m_actor->GetProperty()->SetLineWidth(static_cast<float>(m_linePixels));
     m_actor->GetProperty()->SetPointSize(static_cast<float>(kPointPixels * scale.thinnestLine));
+    if (m_look.symbol.shape != SymbolLook::kNone)
+        scaleSymbols(*m_actor, m_look.symbol, scale, m_linePixels);
     if (m_look.patternLength > 0.0) {
         const double period = std::max(m_look.patternLength / 100.0 * scale.frameHeight, 1.0);
         m_textureTransform->Identity();

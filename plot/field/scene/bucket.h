@@ -17,6 +17,9 @@
 
 namespace corvala::plot {
 
+/// What drawing a piece costs, as cornerCount.
+std::int64_t drawingCost(vtkPolyData& piece, const MapperLook& look);
+
 /// One composite mapper with its actor, and the blocks that it draws.
 class CompositeLayer::Bucket
 {

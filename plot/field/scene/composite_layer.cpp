@@ -61,7 +61,8 @@ std::vector<CompositeLayer::Share> CompositeLayer::shares() const
         vtkIdType size = kLargestPiece;
         for (const auto& block : part) {
             for (const auto& piece : block->second.pieces) {
-                const vtkIdType added = cornerCount(*piece);
+                const auto added =
+                    static_cast<vtkIdType>(drawingCost(*piece, block->second.look.mapper));
                 if (size + added > kLargestPiece) {
                     shares.push_back({block->second.look.mapper, {}});
                     size = 0;

@@ -8,6 +8,7 @@
 
 #include <vtkBoundingBox.h>
 
+#include <array>
 #include <functional>
 #include <map>
 #include <memory>
@@ -25,6 +26,11 @@ struct ViewScale
     int frameHeight = 1; ///< pixels
     double pixelsPerUnit = 1.0; ///< of the coordinates, at the centre of what is looked at
     double thinnestLine = 1.0; ///< pixels; above 1 when one pixel of the picture has several
+    std::array<double, 2> viewport {{1.0, 1.0}}; ///< width and height of the plot, in pixels
+    double nearness = 0.0; ///< share of its distance that is as long as a pixel; 0 in a flat plot
+    double depthSlope = 1.0; ///< of the depth by the distance from the viewer
+    /// Directions of the axes X, Y and Z: to the right, up and towards the viewer.
+    std::array<std::array<float, 3>, 3> axes {{{{1, 0, 0}}, {{0, 1, 0}}, {{0, 0, 1}}}};
 };
 
 /// Draws one layer of a field plot. The blocks of maps with the same mapper look share a composite

@@ -129,6 +129,18 @@ static std::optional<BlockLook> vectorsLook(const ShownMap& shown, const Contour
     return look;
 }
 
+static std::optional<BlockLook> scatterLook(const ShownMap& shown, const ContourGroups& groups)
+{
+    const MapStyle style(shown);
+    if (!style.flag(kMap.scatter.show))
+        return std::nullopt;
+    BlockLook look;
+    look.recipe = style.pointRecipe(BlockKind::Symbols);
+    style.setLineColor(look, style.number(kMap.scatter.color), groups);
+    style.setSymbol(look, groups);
+    return look;
+}
+
 /// What layers use besides the values of their own, and what they are.
 enum Use : unsigned {
     Surfaces = 1, ///< of volume zones
@@ -141,7 +153,8 @@ enum Use : unsigned {
     Vectors = 128,
     Within = 256, ///< lies within zones, and not on their surfaces
     Joint = 512, ///< shows something of all maps together
-    Beside = 1024 ///< looks otherwise beside other surfaces of the map
+    Beside = 1024, ///< looks otherwise beside other surfaces of the map
+    Sizes = 2048 ///< of symbols by a variable
 };
 static constexpr SharedStyle kShared[] = {
     {kMap.surfaces.surfacesToPlot, true, Surfaces},
@@ -171,6 +184,7 @@ static constexpr SharedStyle kShared[] = {
     {style::globalVector.wVar, false, Joint},
     {style::globalRgb.redVar, true, Values},
     {style::globalVector.uVar, true, Vectors},
+    {style::globalScatter.var, true, Sizes},
     {kMap.points.pointsToPlot, true, Points},
     {style::activeFieldMaps, false},
     {style::activeFieldZones, false},
@@ -238,6 +252,10 @@ static constexpr LayerDescription kLayers[] = {
      {CV_TEXT("Streamtraces"), style::streamtraces.show, -1, kMap.volumeObjects.showStreamtraces,
       Within | Joint | Values},
      streamtracesLook},
+    {FieldLayer::Scatter,
+     18,
+     {&style::kScatterLayer, Surfaces | Cells | Points | Values | Sizes},
+     scatterLook},
 };
 
 static constexpr bool areLayersInOrder()
@@ -266,7 +284,7 @@ const SceneKind& fieldSceneKind()
                                       layerAt,
                                       kShared,
                                       std::size(kShared),
-                                      Values | Vectors,
+                                      Values | Vectors | Sizes,
                                       Joint};
     return kKind;
 }
@@ -306,7 +324,7 @@ static LayerMask layersWith(unsigned use)
 
 LayerMask coloredLayers()
 {
-    return layersWith(Values | Vectors);
+    return layersWith(Values | Vectors | Sizes);
 }
 
 LayerMask outlineLayers()
@@ -343,8 +361,10 @@ static std::vector<int> groupsOf(const std::optional<BlockLook>& look)
 {
     if (!look)
         return {};
-    std::vector<int> groups = {look->recipe.group, look->recipe.colorGroup,
+    std::vector<int> groups = {look->recipe.group, look->recipe.colorGroup, look->recipe.fillGroup,
                                look->recipe.placeGroup};
+    if (look->recipe.sizes.areOwn)
+        groups.push_back(ContourGroups::kSize);
     if (look->recipe.kind == BlockKind::Arrows)
         groups.insert(groups.end(), {ContourGroups::kVector, ContourGroups::kPlace});
     return groups;

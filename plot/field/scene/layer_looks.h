@@ -27,6 +27,7 @@ enum class FieldLayer {
     Edges,
     Vectors,
     Streamtraces,
+    Scatter,
     Count
 };
 constexpr auto kFieldLayerCount = static_cast<std::size_t>(FieldLayer::Count);

@@ -114,18 +114,26 @@ void MapStyle::setLine(BlockLook& look, host::AttributeId thickness, host::Attri
     }
 }
 
+/// The group that a colour follows, or the first of those for RGB; 0 for none. Adds to the revision
+/// what the colours depend on.
+static int colorGroupOf(std::int32_t color, const ContourGroups& groups, int& revision)
+{
+    const int group = style::contourGroupOf(color);
+    if (color == style::kRgbColor && groups.hasRgb()) {
+        for (int channel = ContourGroups::kRed; channel <= ContourGroups::kBlue; ++channel)
+            revision += groups.revision(channel);
+        return ContourGroups::kRed;
+    }
+    if (group <= 0 || groups.variable(group) == 0)
+        return 0;
+    revision += groups.revision(group);
+    return group;
+}
+
 void MapStyle::setLineColor(BlockLook& look, std::int32_t color, const ContourGroups& groups) const
 {
     look.color = paletteColor(color);
-    const int group = style::contourGroupOf(color);
-    if (color == style::kRgbColor && groups.hasRgb()) {
-        look.recipe.colorGroup = ContourGroups::kRed;
-        for (int channel = ContourGroups::kRed; channel < ContourGroups::kRed + 3; ++channel)
-            look.recipe.revision += groups.revision(channel);
-    } else if (group > 0 && groups.variable(group) > 0) {
-        look.recipe.colorGroup = group;
-        look.recipe.revision += groups.revision(group);
-    }
+    look.recipe.colorGroup = colorGroupOf(color, groups, look.recipe.revision);
     look.mapper.ownColors = look.recipe.colorGroup != 0;
 }
 
@@ -166,6 +174,82 @@ int MapStyle::translucency() const
     const bool isOn = m_shown.is3D() && m_shown.frame.isOn(style::fieldLayers.useTranslucency)
         && flag(kMap.effects.useTranslucency);
     return isOn ? number(kMap.effects.surfaceTranslucency) : 0;
+}
+
+SymbolSizes MapStyle::symbolSizes(const ContourGroups& groups) const
+{
+    constexpr const auto& scatter = style::globalScatter;
+    SymbolSizes sizes;
+    sizes.areOwn = flag(kMap.scatter.sizeByVariable) && groups.variable(ContourGroups::kSize) > 0;
+    if (!sizes.areOwn)
+        return sizes;
+    const bool isAutomatic = frameFlag(scatter.automaticRange);
+    sizes.lowest = isAutomatic ? groups.minimum(ContourGroups::kSize) : frameReal(scatter.rangeMin);
+    sizes.highest =
+        isAutomatic ? groups.maximum(ContourGroups::kSize) : frameReal(scatter.rangeMax);
+    sizes.smallest = frameReal(scatter.smallestSize);
+    sizes.largest = frameReal(scatter.largestSize);
+    return sizes;
+}
+
+void MapStyle::setFill(BlockLook& look, const ContourGroups& groups) const
+{
+    constexpr std::uint32_t kPaper = 0xFFFFFF;
+    SymbolLook& symbol = look.mapper.symbol;
+    const int mode = number(kMap.scatter.fillMode);
+    if (mode == FillMode_None)
+        return;
+    symbol.fill = mode == FillMode_LineColor ? SymbolFill::Line : SymbolFill::Color;
+    symbol.fillColor = mode == FillMode_BackgroundColor ? kPaper : 0;
+    if (mode != FillMode_SpecificColor)
+        return;
+    const std::int32_t color = number(kMap.scatter.fillColor);
+    const host::Rgb palette = paletteColor(color);
+    look.recipe.fillGroup = colorGroupOf(color, groups, look.recipe.revision);
+    if (look.recipe.fillGroup != 0)
+        symbol.fill = SymbolFill::Points;
+    else
+        symbol.fillColor = palette.red * 65536U + palette.green * 256U + palette.blue;
+}
+
+/// What stands for a body in a flat plot.
+static int flatShape(int shape)
+{
+    switch (shape) {
+    case GeomShape_Cube: return GeomShape_Square;
+    case GeomShape_Sphere: return GeomShape_Circle;
+    case GeomShape_Octahedron: return GeomShape_Diamond;
+    default: return shape;
+    }
+}
+
+void MapStyle::setSymbol(BlockLook& look, const ContourGroups& groups) const
+{
+    const auto& shape = kMap.scatter.symbolShape;
+    SymbolLook& symbol = look.mapper.symbol;
+    const bool isCharacter = flag(shape.isAscii);
+    symbol.shape = isCharacter ? int(GeomShape_Character) : number(shape.geomShape);
+    symbol.isSolid =
+        m_shown.is3D() && symbol.shape >= GeomShape_Cube && symbol.shape <= GeomShape_Octahedron;
+    if (!symbol.isSolid)
+        symbol.shape = flatShape(symbol.shape);
+    if (symbol.shape == GeomShape_Point) {
+        symbol.fill = SymbolFill::Line;
+        return;
+    }
+    look.recipe.sizes = symbolSizes(groups);
+    symbol.hasOwnSizes = look.recipe.sizes.areOwn;
+    symbol.size = symbol.hasOwnSizes ? 0.0 : real(kMap.scatter.frameSize);
+    if (symbol.isSolid)
+        return;
+    look.mapper.thickness = real(kMap.scatter.lineThickness);
+    setFill(look, groups);
+    if (isCharacter) {
+        symbol.character = m_shown.frame.fieldStyle().text(
+            host::Schema::instance().at(shape.asciiShape.asciiChar), m_shown.map);
+        symbol.font = flag(shape.asciiShape.useBaseFont) ? int(FontOverride_None)
+                                                         : number(shape.asciiShape.fontOverride);
+    }
 }
 
 /// A map that uses lighting is lit by a plain light; the lighting layer adds highlights and the

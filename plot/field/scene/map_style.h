@@ -38,6 +38,7 @@ public:
     void setLine(BlockLook& look, host::AttributeId thickness, host::AttributeId pattern,
                  host::AttributeId length) const;
     void setLineColor(BlockLook& look, std::int32_t color, const ContourGroups& groups) const;
+    void setSymbol(BlockLook& look, const ContourGroups& groups) const;
     /// Colours faces by a ContourColoring_e; false when that has no variable.
     bool setFlood(BlockLook& look, int coloring, const ContourGroups& groups) const;
     // Whether the map shows a surface in a layer that is on: the faces of hidden lines, shades, and
@@ -50,6 +51,9 @@ public:
     void setLight(BlockLook& look, host::AttributeId light) const;
 
 private:
+    SymbolSizes symbolSizes(const ContourGroups& groups) const;
+    void setFill(BlockLook& look, const ContourGroups& groups) const;
+
     const ShownMap& m_shown;
 };
 

@@ -9,7 +9,7 @@
 namespace corvala::plot {
 
 static constexpr double kSpacings = 1.6; ///< of points, that a large vector reaches
-static constexpr double kShortest = 1.0 / 20.0; ///< of what is shown
+static constexpr double kShortest = 1.0 / 30.0; ///< of what is shown
 static constexpr double kLongest = 1.0 / 8.0;
 static constexpr double kLargeByMean = 1.6; ///< what is large, in root mean squares
 

@@ -133,8 +133,7 @@ void FieldView::prepare()
         bounds[5] += m_flat ? 1.0 : 0.0;
         m_back->ResetCameraClippingRange(bounds);
     }
-    m_scene->prepare({static_cast<int>(std::lround(m_magnification * m_size.height())),
-                      m_magnification * pixelsPerUnit(), m_magnification});
+    m_scene->prepare(viewScale());
     m_back->SetMaximumNumberOfPeels(peelCount(m_scene->translucentCost()));
 }
 
@@ -175,6 +174,27 @@ static AxisDirections axisDirections(vtkCamera& camera)
         }
     }
     return directions;
+}
+
+ViewScale FieldView::viewScale() const
+{
+    vtkCamera* const camera = m_back->GetActiveCamera();
+    ViewScale scale;
+    scale.frameHeight = static_cast<int>(std::lround(m_magnification * m_size.height()));
+    scale.pixelsPerUnit = m_magnification * pixelsPerUnit();
+    scale.thinnestLine = m_magnification;
+    scale.viewport = {
+        {m_magnification * m_layout.plot.width(), m_magnification * m_layout.plot.height()}};
+    if (m_flat)
+        return scale;
+    const double* const range = camera->GetClippingRange();
+    scale.nearness = 1.0 / (scale.pixelsPerUnit * camera->GetDistance());
+    scale.depthSlope = (range[1] + range[0]) / (range[1] - range[0]);
+    const AxisDirections directions = axisDirections(*camera);
+    for (std::size_t axis = 0; axis < 3; ++axis)
+        for (std::size_t part = 0; part < 3; ++part)
+            scale.axes[axis][part] = static_cast<float>(directions[axis][part]);
+    return scale;
 }
 
 /// Corners of a box from its centre: to the right, up and towards the viewer.

@@ -83,6 +83,7 @@ public:
 private:
     double pixelsPerUnit() const;
     void setViewport();
+    ViewScale viewScale() const;
     void updateFitBox(const vtkBoundingBox& box);
     void layOutPlot(double yTexts);
     SpaceView spaceView() const;
