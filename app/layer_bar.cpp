@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/layer_bar.h"
 
+#include "app/details/detail_pages.h"
 #include "host/document/document.h"
 #include "vocabulary/layers.h"
 
@@ -8,6 +9,9 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QToolButton>
+
+#include <algorithm>
 
 namespace corvala::app {
 
@@ -80,7 +84,28 @@ void LayerBar::addLayers()
             Q_EMIT layerSwitched(action);
         });
         m_layers << action;
+        m_details << addDetails(layer.key);
     }
+}
+
+QAction* LayerBar::addDetails(style::SwitchKey layer)
+{
+    const std::vector<DetailPage>& pages = detailPages();
+    const auto page = std::find_if(pages.begin(), pages.end(), [layer](const DetailPage& some) {
+        return some.layer.isValid() && some.layer == layer;
+    });
+    if (page == pages.end())
+        return nullptr;
+    auto* arrow = new QToolButton(this);
+    arrow->setObjectName(QLatin1String(page->name) + QStringLiteral("Details"));
+    arrow->setArrowType(Qt::DownArrow);
+    arrow->setAutoRaise(true);
+    arrow->setFixedWidth(fontMetrics().height());
+    arrow->setToolTip(tr("%1 details").arg(m_layers.last()->text()));
+    arrow->setAccessibleName(arrow->toolTip());
+    connect(arrow, &QToolButton::clicked, this,
+            [this, page] { Q_EMIT detailsWanted(QLatin1String(page->name)); });
+    return addWidget(arrow);
 }
 
 void LayerBar::refresh()
@@ -95,6 +120,8 @@ void LayerBar::refresh()
         const bool isShown = hasData && (isField ? frame->isFieldPlot() : frame->isLinePlot());
         m_layers[i]->setVisible(isShown);
         m_layers[i]->setChecked(isShown && frame->isOn(key));
+        if (m_details[i])
+            m_details[i]->setVisible(isShown);
     }
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "vocabulary/style.h"
+
 #include <QToolBar>
 
 class QAction;
@@ -24,13 +26,17 @@ public:
 Q_SIGNALS:
     /// The user switched a layer on or off, which is done.
     void layerSwitched(QAction* layer);
+    /// The user wants to see what is set for the plot as a whole of a layer: the name of the page.
+    void detailsWanted(const QString& page);
 
 private:
     void addPlotTypes();
     void addLayers();
+    QAction* addDetails(style::SwitchKey layer);
 
     QComboBox* m_plotType; // not owned
     QList<QAction*> m_layers; // not owned
+    QList<QAction*> m_details; ///< beside each of them; null without
 };
 
 } // namespace corvala::app

@@ -19,14 +19,15 @@ namespace corvala::app {
 
 using host::Document;
 
-MainMenus::MainMenus(QMainWindow& window, QAction& styleDialog, const QList<QAction*>& layers)
+MainMenus::MainMenus(QMainWindow& window, QAction& styleDialog, QAction& details,
+                     const QList<QAction*>& layers)
     : QObject(&window)
     , m_window(window)
     , m_styleDialog(styleDialog)
 {
     makeFileMenu();
     makeEditMenu();
-    makePlotMenu(layers);
+    makePlotMenu(details, layers);
     makeHelpMenu();
     makeToolBar();
     connect(&Document::instance().undo().stack(), &QUndoStack::indexChanged, this,
@@ -143,10 +144,11 @@ void MainMenus::makeEditMenu()
         action->setShortcutContext(Qt::ApplicationShortcut);
 }
 
-void MainMenus::makePlotMenu(const QList<QAction*>& layers)
+void MainMenus::makePlotMenu(QAction& details, const QList<QAction*>& layers)
 {
     QMenu* menu = m_window.menuBar()->addMenu(tr("&Plot"));
     menu->addAction(&m_styleDialog);
+    menu->addAction(&details);
     menu->addSeparator();
     menu->addActions(layers);
     menu->addSeparator();

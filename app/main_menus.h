@@ -16,9 +16,10 @@ class MainMenus : public QObject
     Q_OBJECT
 
 public:
-    /// Fills the menu bar and adds the toolbar. `styleDialog` opens the style dialog; `layers` are
-    /// the layers of the plot.
-    MainMenus(QMainWindow& window, QAction& styleDialog, const QList<QAction*>& layers);
+    /// Fills the menu bar and adds the toolbar. `styleDialog` opens the style dialog, `details`
+    /// the panel of details; `layers` are the layers of the plot.
+    MainMenus(QMainWindow& window, QAction& styleDialog, QAction& details,
+              const QList<QAction*>& layers);
 
     /// The commands that bring other data.
     void enableOpening(bool enabled);
@@ -40,7 +41,7 @@ private:
     void addDemoMenu(QMenu& menu);
     void fillRecentMenu(QMenu& menu);
     void makeEditMenu();
-    void makePlotMenu(const QList<QAction*>& layers);
+    void makePlotMenu(QAction& details, const QList<QAction*>& layers);
     void makeHelpMenu();
     void makeToolBar();
     void refreshUndo();

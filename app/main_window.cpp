@@ -2,6 +2,7 @@
 #include "app/main_window.h"
 
 #include "app/data_commands.h"
+#include "app/details/details_dock.h"
 #include "app/layer_bar.h"
 #include "app/layer_notes.h"
 #include "app/main_menus.h"
@@ -70,7 +71,15 @@ void MainWindow::makeBars()
 {
     m_layerBar = new LayerBar(this);
     m_timeBar = new TimeBar(this);
-    m_menus = new MainMenus(*this, *makeStyleDialogAction(*this), m_layerBar->layerActions());
+    m_details = new DetailsDock(
+        [this](style::Key value, int index) -> std::optional<double> {
+            const plot::FrameView* const view = m_plotArea->frameView();
+            return view && view->canvas() ? view->canvas()->proposal(value, index) : std::nullopt;
+        },
+        this);
+    addDockWidget(Qt::RightDockWidgetArea, m_details);
+    m_menus = new MainMenus(*this, *makeStyleDialogAction(*this), *m_details->toggleViewAction(),
+                            m_layerBar->layerActions());
     addToolBarBreak(); // all layers show beside the style dialog, too
     addToolBar(m_layerBar);
     addToolBar(Qt::BottomToolBarArea, m_timeBar);
@@ -85,6 +94,7 @@ void MainWindow::makeBars()
         if (!problem.isEmpty())
             showProblem(problem);
     });
+    connect(m_layerBar, &LayerBar::detailsWanted, m_details, &DetailsDock::openPage);
     connect(m_layerBar, &LayerBar::layerSwitched, m_layerNotes,
             [this](QAction* layer) { m_layerNotes->explain(*layer); });
 }
@@ -180,6 +190,7 @@ void MainWindow::refresh()
     m_layerBar->refresh();
     m_layerNotes->refresh();
     m_timeBar->refresh();
+    m_details->refresh();
 }
 
 /// Before the first picture, which may take its time.

@@ -15,6 +15,7 @@ class QLabel;
 namespace corvala::app {
 
 class DataCommands;
+class DetailsDock;
 class LayerBar;
 class LayerNotes;
 class MainMenus;
@@ -74,6 +75,7 @@ private:
     LayerNotes* m_layerNotes = nullptr;
     LayerBar* m_layerBar = nullptr;
     TimeBar* m_timeBar = nullptr;
+    DetailsDock* m_details = nullptr;
     DataCommands* m_data = nullptr;
     MainMenus* m_menus = nullptr;
     WorkProgress* m_work = nullptr; ///< of reading and drawing

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <any>
+#include <optional>
 #include <utility>
 
 class QWheelEvent;
@@ -44,6 +45,10 @@ public:
     virtual bool isBeingMoved() const { return false; }
     /// Called after a change of the document that changed the scene.
     virtual void sceneChanged(const host::StateEvent&) { }
+
+    /// What is taken for a value of the frame's style while another value says that it follows from
+    /// the data; nothing when that is not known.
+    virtual std::optional<double> proposal(style::Key, int /*index*/) const { return {}; }
 
     /// What is seen of the frame, for setView; an empty value shows the whole, as at the start.
     virtual std::any view() const = 0;

@@ -201,7 +201,7 @@ struct FieldAxes
                  CV_TEXT("Y axis maximum"), CV_TEXT("Y axis title")};
     FieldAxis z {in / "Z", CV_TEXT("Z axis by the data"), CV_TEXT("Z axis minimum"),
                  CV_TEXT("Z axis maximum"), CV_TEXT("Z axis title")};
-    RealKey fontSize = in.percent("FontSize", CV_TEXT("Axis font size"), 0.5, 2.5);
+    RealKey fontSize = in.percent("FontSize", CV_TEXT("Font size of axes and legends"), 0.5, 2.2);
     SwitchKey showGrid = in.flag("ShowGrid", CV_TEXT("Grid"), false);
 };
 

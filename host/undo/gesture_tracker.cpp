@@ -19,6 +19,7 @@ GestureTracker::GestureTracker(UndoHistory& history, QObject* parent)
 GestureTracker::~GestureTracker()
 {
     qApp->removeEventFilter(this);
+    delete m_end;
 }
 
 static bool isGesture(QEvent::Type type)

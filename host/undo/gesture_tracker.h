@@ -16,7 +16,7 @@ class GestureTracker : public QObject
     Q_OBJECT
 
 public:
-    /// Watches the application; the history must outlive the tracker.
+    /// Watches the application; the history must outlive the tracker, which ends its last gesture.
     explicit GestureTracker(UndoHistory& history, QObject* parent = nullptr);
     ~GestureTracker() override;
 

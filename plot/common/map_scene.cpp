@@ -117,7 +117,7 @@ bool MapScene::applyChange(const host::Frame& drawn, const host::StyleChange& ch
     const style::Key key {change.attribute};
     const TouchedLayers touched = m_kind.touchedBy(key);
     if (touched.layers == 0)
-        return false;
+        return touched.isBeside;
     const style::Scope scope = style::entryOf(key).scope;
     if (scope == style::Scope::FieldMap || scope == style::Scope::LineMap
         || !change.maps.isEmpty()) {

@@ -16,6 +16,8 @@ TouchedLayers SceneKind::touchedBy(style::Key value) const
         if (layer(number).uses & use & valueUse)
             touched.layers |= valuesBit();
     };
+    for (std::size_t j = 0; value.isValid() && j < sharedCount; ++j)
+        touched.isBeside = touched.isBeside || concerns(shared[j], value);
     for (std::size_t i = 0; value.isValid() && i < layerCount; ++i) {
         const SceneLayer& it = layer(i);
         const bool isSwitch = value == it.shown && !it.isOfFrame;

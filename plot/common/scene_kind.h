@@ -46,7 +46,9 @@ struct SharedStyle
 {
     style::Key value;
     bool withItsGroup = false;
-    unsigned use = 0; ///< layers with one of these bits use it; all layers and the values for 0
+    /// Layers with one of these bits use it; all layers and the values for 0. What no layer uses
+    /// is seen beside them.
+    unsigned use = 0;
 };
 
 /// Which layers a change of a style value touches.
@@ -54,6 +56,7 @@ struct TouchedLayers
 {
     LayerMask layers = 0;
     LayerMask switched = 0; ///< are only shown or hidden as a whole
+    bool isBeside = false; ///< changes the picture beside them
 };
 
 /// What tells scenes of different maps apart.

@@ -14,6 +14,7 @@
 namespace corvala::ui {
 
 static constexpr int kMostDecimals = 15;
+static constexpr int kShownDigits = 7; ///< of a number of any magnitude
 
 static std::optional<double> readIn(QLocale locale, const QString& text)
 {
@@ -75,6 +76,8 @@ QString NumberField::rangeText() const
     QLocale plain = locale();
     plain.setNumberOptions(QLocale::OmitGroupSeparator);
     const auto shown = [&plain](double limit) { return plain.toString(limit, 'g', 10); };
+    if (std::isinf(m_lowest) && std::isinf(m_highest))
+        return tr("a number");
     return tr("%1 to %2").arg(shown(m_lowest), shown(m_highest));
 }
 
@@ -94,7 +97,9 @@ QString NumberField::textFromValue(double value) const
 {
     QLocale plain = locale();
     plain.setNumberOptions(QLocale::OmitGroupSeparator);
-    const QString rounded = plain.toString(value, 'f', m_decimals);
+    const QString rounded = m_decimals == kSignificantDigits
+        ? plain.toString(value, 'g', kShownDigits)
+        : plain.toString(value, 'f', m_decimals);
     const std::optional<double> shown = readIn(plain, rounded);
     const bool isInside = value >= m_lowest && value <= m_highest;
     const bool looksOutside = shown && (*shown < m_lowest || *shown > m_highest);
@@ -103,10 +108,18 @@ QString NumberField::textFromValue(double value) const
 
 void NumberField::fixup(QString&) const { }
 
+/// A number of any magnitude moves in its second digit.
+double NumberField::stepFrom(double number) const
+{
+    if (m_decimals != kSignificantDigits)
+        return singleStep();
+    return number == 0.0 ? 0.1 : std::pow(10.0, std::floor(std::log10(std::abs(number))) - 1.0);
+}
+
 void NumberField::stepBy(int steps)
 {
     const double from = number().value_or(m_set);
-    setNumber(std::clamp(from + steps * singleStep(), m_lowest, m_highest));
+    setNumber(std::clamp(from + steps * stepFrom(from), m_lowest, m_highest));
     selectAll();
 }
 

@@ -19,11 +19,14 @@ class NumberField : public QDoubleSpinBox
     Q_PROPERTY(int decimals READ shownDecimals)
 
 public:
+    /// In place of decimals, for numbers of any magnitude.
+    static constexpr int kSignificantDigits = -1;
+
     /// `decimals` are shown, and more where they are needed to tell the number from the ends of the
     /// range; 0 takes whole numbers only.
     explicit NumberField(int decimals, QWidget* parent = nullptr);
 
-    void setLimits(double lowest, double highest); ///< both included
+    void setLimits(double lowest, double highest); ///< both included; infinite for none
     double lowest() const { return m_lowest; }
     double highest() const { return m_highest; }
     int shownDecimals() const { return m_decimals; }
@@ -53,6 +56,7 @@ protected:
 
 private:
     std::optional<double> read(const QString& text) const;
+    double stepFrom(double number) const;
     void textChanged();
 
     int m_decimals;

@@ -17,6 +17,11 @@ using namespace corvala;
 using namespace corvala::plot;
 using namespace corvala::tests;
 
+static bool isSame(const host::Rgb& left, const host::Rgb& right)
+{
+    return left.fields() == right.fields();
+}
+
 class tst_ContourGroups : public QObject
 {
     Q_OBJECT
@@ -106,7 +111,7 @@ private Q_SLOTS:
     {
         openDemo("field2d");
         ContourGroups groups;
-        groups.setVariables(*document().activeFrame());
+        groups.takeStyle(*document().activeFrame());
         groups.setRange(1, 10.0, 20.0);
         const double before = groups.coordinate(1, 15.0);
         QVERIFY(groups.setRange(1, -100.0, 300.0));
@@ -122,7 +127,7 @@ private Q_SLOTS:
     {
         openDemo("field2d");
         ContourGroups groups;
-        groups.setVariables(*document().activeFrame());
+        groups.takeStyle(*document().activeFrame());
         groups.setRange(1, 0.0, 1.0);
         vtkNew<vtkDoubleArray> values;
         values->InsertNextValue(0.5);
@@ -141,31 +146,75 @@ private Q_SLOTS:
     {
         openDemo("field2d");
         ContourGroups groups;
-        QVERIFY(groups.setVariables(*document().activeFrame()));
-        QVERIFY(!groups.setVariables(*document().activeFrame()));
+        groups.takeStyle(*document().activeFrame());
         QVERIFY(groups.variable(1) > 0 && groups.variable(3) == 0);
         QVERIFY(groups.setRange(1, 0.0, 0.999));
         const int revision = groups.revision(1);
+        groups.takeStyle(*document().activeFrame());
         QVERIFY(!groups.setRange(1, 0.001, 0.998)); // the same round levels
         QCOMPARE(groups.revision(1), revision);
         write("ContourGroups/Var", "", 3, 1);
-        QVERIFY(groups.setVariables(*document().activeFrame()));
+        groups.takeStyle(*document().activeFrame());
         QVERIFY(groups.revision(1) != revision);
         QVERIFY(!groups.hasRgb());
     }
 
-    void colorMapGetsLighter()
+    /// What the style says of a group of values from 0.05 to 0.999.
+    void chosenLevels_data()
+    {
+        using Edits = QStringList; // values of the first group
+        const Rows<Edits, QString, int, int> row; // lines, changes of levels and of colours
+        row("as the values", Edits {}, "0.1 0.95", 0, 0);
+        row("chosen", Edits {"AutomaticLevels 0", "BandCount 4"}, "0.25 0.75", 1, 1);
+        row("ends that leave values out",
+            Edits {"AutomaticLevels 0", "LevelMin 0.2", "LevelMax 0.8", "BandCount 3"}, "0.2 0.8",
+            1, 1);
+        row("that span nothing", Edits {"AutomaticLevels 0", "LevelMin 2"}, "0.1 0.95", 0, 0);
+        row("not in force", Edits {"LevelMin 0.2"}, "0.1 0.95", 0, 0);
+        row("colors", Edits {"ColorMap 5"}, "0.1 0.95", 0, 1);
+        row("colors reversed", Edits {"ReverseColorMap 1"}, "0.1 0.95", 0, 1);
+    }
+
+    void chosenLevels()
+    {
+        const auto [edits, lines, levelChanges, colorChanges] =
+            currentRow<QStringList, QString, int, int>();
+        openDemo("field2d");
+        ContourGroups groups;
+        groups.takeStyle(*document().activeFrame());
+        groups.setRange(1, 0.05, 0.999);
+        const int revision = groups.revision(1);
+        const int colorRevision = groups.colorRevision(1);
+        for (const QString& edit : edits)
+            write(("ContourGroups/" + edit.section(' ', 0, 0)).toUtf8().constData(), "",
+                  edit.section(' ', 1).toDouble(), 1);
+        groups.takeStyle(*document().activeFrame());
+        const std::vector<double> levels = groups.lineLevels(1);
+        QCOMPARE(QStringLiteral("%1 %2").arg(levels.front()).arg(levels.back()), lines);
+        QCOMPARE(groups.revision(1) - revision, levelChanges);
+        QCOMPARE(groups.colorRevision(1) - colorRevision, colorChanges);
+        const ContourLevels before = groups.levels(1);
+        groups.setRange(1, 0.0, 5.0);
+        QCOMPARE(groups.levels(1) == before, levelChanges == 1);
+    }
+
+    void colorMaps()
     {
         double previous = -1.0;
         for (int i = 0; i <= 64; ++i) {
-            const host::Rgb color = mapColor(i / 64.0);
+            const host::Rgb color = scaleColor({}, i / 64.0);
             const double light = 0.2126 * color.red + 0.7152 * color.green + 0.0722 * color.blue;
             QVERIFY(light > previous);
             previous = light;
         }
-        QCOMPARE(mapColor(-1.0).blue, mapColor(0.0).blue);
-        QCOMPARE(mapColor(7.0).red, mapColor(1.0).red);
-        QCOMPARE(bandColors(5).size(), std::size_t {5});
+        for (const style::Choice& map : style::kColorMaps) {
+            const ColorScale scale {static_cast<ColorMap_e>(map.value), false};
+            const ColorScale reversed {scale.map, true};
+            QVERIFY(isSame(scaleColor(scale, -1.0), scaleColor(reversed, 1.0)));
+            QVERIFY(isSame(scaleColor(scale, 7.0), scaleColor(reversed, 0.0)));
+            QVERIFY2(!isSame(scaleColor(scale, 0.4), scaleColor(scale, 0.6)), map.name);
+            QCOMPARE(bandColors(scale, 5).size(), std::size_t {5});
+        }
     }
 
     void patterns_data()

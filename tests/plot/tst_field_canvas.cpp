@@ -309,7 +309,7 @@ private Q_SLOTS:
         const auto shareOf = [&](const host::Rgb& color) {
             return shareOfColor(image, QColor(color.red, color.green, color.blue));
         };
-        QVERIFY(shareOf(mapColor(0.5)) > 0.05);
+        QVERIFY(shareOf(scaleColor({}, 0.5)) > 0.05);
         QVERIFY(shareOf(noValueColor()) < 0.01); // some of the pixels of smooth lines
     }
 
@@ -559,7 +559,7 @@ private Q_SLOTS:
         QPainter painter(&image);
         paintLegends(painter, layout, legends);
         painter.end();
-        const std::vector<host::Rgb> bands = bandColors(legends[0].levels->bands);
+        const std::vector<host::Rgb> bands = bandColors({}, legends[0].levels->bands);
         std::vector<std::size_t> met; // going up the bar
         const int x = static_cast<int>(layout.legends[0].left() + 0.7 * layout.font);
         for (int y = image.height() - 1; y >= 0; --y) {

@@ -498,7 +498,7 @@ private Q_SLOTS:
         document().execute(host::ActivateFrame {1});
         QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 12);
         document().execute(host::RenameVariable {1, "East"});
-        QCOMPARE(m_scene->axisTitles()[0], QStringLiteral("East"));
+        QCOMPARE(m_scene->axes().titles[0], QStringLiteral("East"));
         document().execute(host::DetachData {});
         work();
         QCOMPARE(blockCount(layer(FieldLayer::Mesh)), 0);

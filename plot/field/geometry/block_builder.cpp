@@ -231,7 +231,7 @@ Shape BlockBuilder::contourLines(const BlockRecipe& recipe, const PlacedSurface&
     vtkNew<vtkContourFilter> contours;
     contours->SetInputData(shape);
     contours->ComputeNormalsOff();
-    const std::vector<double> levels = m_groups.levels(recipe.group).inner();
+    const std::vector<double> levels = m_groups.lineLevels(recipe.group);
     for (std::size_t i = 0; i < levels.size(); ++i)
         contours->SetValue(static_cast<int>(i), levels[i]);
     contours->Update();

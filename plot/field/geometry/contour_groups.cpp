@@ -39,9 +39,12 @@ ContourLevels levelsFor(double minimum, double maximum)
     return levels;
 }
 
-static CvlInt64 variableOf(const host::Frame& frame, host::AttributeId id, int index)
+std::optional<ContourLevels> ChosenLevels::levels() const
 {
-    return frame.values().integer(host::Schema::instance().at(id), index);
+    const double span = maximum - minimum;
+    return span > 0.0 && std::isfinite(span)
+        ? std::optional(ContourLevels {minimum, span / bands, bands})
+        : std::nullopt;
 }
 
 /// The variable of the coordinate X, Y or Z; 0 without one.
@@ -56,38 +59,92 @@ static CvlInt64 coordinateOf(const host::Frame& frame, int axis)
     return 0;
 }
 
-static CvlInt64 variableOf(const host::Frame& frame, int group)
+bool operator==(const ChosenLevels& left, const ChosenLevels& right)
 {
-    constexpr style::VariableKey kOthers[] = {style::globalRgb.redVar,  style::globalRgb.greenVar,
-                                              style::globalRgb.blueVar, style::globalScatter.var,
-                                              style::isoSurfaces.var,   style::globalVector.uVar,
-                                              style::globalVector.vVar, style::globalVector.wVar};
-    if (group >= ContourGroups::kPlace)
-        return coordinateOf(frame, group - ContourGroups::kPlace);
-    if (group < ContourGroups::kRed)
-        return variableOf(frame, style::contourGroups.var, group);
-    const CvlInt64 variable = variableOf(frame, kOthers[group - ContourGroups::kRed], -1);
-    return group == ContourGroups::kIso && variable == 0
-        ? variableOf(frame, style::contourGroups.var, 1)
-        : variable;
+    return left.minimum == right.minimum && left.maximum == right.maximum
+        && left.bands == right.bands;
 }
 
-bool ContourGroups::setVariables(const host::Frame& frame)
+/// What the style says of a group.
+class GroupStyle
 {
-    bool changed = false;
-    for (int group = 1; group <= kCount; ++group) {
-        CvlInt64 variable = variableOf(frame, group);
-        if (!frame.data() || !frame.data()->hasVariable(variable))
-            variable = 0;
-        if (variable != at(group).variable) {
-            const int revision = at(group).revision + 1;
-            at(group) = Group();
-            at(group).variable = variable;
-            at(group).revision = revision;
-            changed = true;
+public:
+    GroupStyle(const host::Frame& frame, int group)
+        : m_frame(frame)
+        , m_group(group)
+    {
+    }
+
+    CvlInt64 variable() const
+    {
+        if (m_group >= ContourGroups::kPlace)
+            return coordinateOf(m_frame, m_group - ContourGroups::kPlace);
+        CvlInt64 variable = integer(variableKey());
+        if (m_group == ContourGroups::kIso && variable == 0)
+            variable =
+                m_frame.values().integer(host::Schema::instance().at(style::contourGroups.var), 1);
+        return m_frame.data() && m_frame.data()->hasVariable(variable) ? variable : 0;
+    }
+    std::optional<ChosenLevels> levels() const
+    {
+        constexpr const auto& kGroup = style::contourGroups;
+        if (!isContour() || integer(kGroup.automaticLevels) != 0)
+            return std::nullopt;
+        return ChosenLevels {real(kGroup.levelMin), real(kGroup.levelMax),
+                             integer(kGroup.bandCount)};
+    }
+    ColorScale colors() const
+    {
+        if (!isContour())
+            return {};
+        return {static_cast<ColorMap_e>(integer(style::contourGroups.colorMap)),
+                integer(style::contourGroups.reversesColors) != 0};
+    }
+
+private:
+    bool isContour() const { return m_group < ContourGroups::kRed; }
+    style::VariableKey variableKey() const
+    {
+        constexpr style::VariableKey kOthers[] = {
+            style::globalRgb.redVar,  style::globalRgb.greenVar, style::globalRgb.blueVar,
+            style::globalScatter.var, style::isoSurfaces.var,    style::globalVector.uVar,
+            style::globalVector.vVar, style::globalVector.wVar};
+        return isContour() ? style::contourGroups.var : kOthers[m_group - ContourGroups::kRed];
+    }
+    std::int32_t integer(host::AttributeId id) const
+    {
+        return m_frame.values().integer(host::Schema::instance().at(id), m_group);
+    }
+    double real(host::AttributeId id) const
+    {
+        return m_frame.values().real(host::Schema::instance().at(id), m_group);
+    }
+
+    const host::Frame& m_frame;
+    int m_group;
+};
+
+void ContourGroups::takeStyle(const host::Frame& frame)
+{
+    for (int number = 1; number <= kCount; ++number) {
+        const GroupStyle style(frame, number);
+        Group& group = at(number);
+        if (style.variable() != group.variable) {
+            const int revision = group.revision + 1;
+            group = Group();
+            group.variable = style.variable();
+            group.revision = revision;
+        }
+        if (!(style.colors() == group.colors)) {
+            group.colors = style.colors();
+            ++group.recolorings;
+        }
+        if (!(style.levels() == group.chosen)) {
+            group.chosen = style.levels();
+            if (group.hasRange)
+                setLevels(group, number < kRed);
         }
     }
-    return changed;
 }
 
 void ContourGroups::clear()
@@ -119,25 +176,42 @@ bool ContourGroups::setVectorScale(const VectorScale& scale)
     return changed;
 }
 
+/// All but contours go by the range itself.
+void ContourGroups::setLevels(Group& group, bool isContour)
+{
+    const auto chosen = group.chosen ? group.chosen->levels() : std::nullopt;
+    const ContourLevels levels = chosen ? *chosen : levelsFor(group.minimum, group.maximum);
+    group.revision += !isContour || !(levels == group.levels) ? 1 : 0;
+    group.levels = levels;
+}
+
 bool ContourGroups::setRange(int number, double minimum, double maximum)
 {
     Group& group = at(number);
-    if (!std::isfinite(minimum) || !std::isfinite(maximum) || minimum > maximum)
+    const bool isSame = group.hasRange && group.minimum == minimum && group.maximum == maximum;
+    if (!std::isfinite(minimum) || !std::isfinite(maximum) || minimum > maximum || isSame)
         return false;
     if (!group.hasRange) {
         group.reference = minimum;
         group.unit = maximum > minimum ? maximum - minimum : 1.0;
     }
-    const ContourLevels levels = levelsFor(minimum, maximum);
-    const bool isSame = group.hasRange && group.minimum == minimum && group.maximum == maximum;
-    // All but contours go by the range itself.
-    const bool changed = number < kRed ? !(levels == group.levels) : !isSame;
     group.hasRange = true;
     group.minimum = minimum;
     group.maximum = maximum;
-    group.levels = levels;
-    group.revision += changed ? 1 : 0;
-    return changed;
+    const int before = group.revision;
+    setLevels(group, number < kRed);
+    return group.revision != before;
+}
+
+std::vector<double> ContourGroups::lineLevels(int number) const
+{
+    const Group& group = at(number);
+    std::vector<double> lines = group.levels.inner();
+    if (group.chosen && group.levels.minimum > group.minimum)
+        lines.insert(lines.begin(), group.levels.minimum);
+    if (group.chosen && group.levels.maximum() < group.maximum)
+        lines.push_back(group.levels.maximum());
+    return lines;
 }
 
 double ContourGroups::coordinate(int group, double value) const

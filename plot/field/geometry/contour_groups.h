@@ -2,8 +2,10 @@
 #pragma once
 
 #include "host/document/frame.h"
+#include "plot/field/geometry/color_map.h"
 
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace corvala::plot {
@@ -35,8 +37,21 @@ struct VectorScale
     double length = 0.0; ///< of a large one of those that are shown
 };
 
+/// The levels that a user chose instead of those that follow from the values.
+struct ChosenLevels
+{
+    double minimum = 0.0;
+    double maximum = 1.0;
+    int bands = 1;
+
+    /// Nothing when they span nothing.
+    std::optional<ContourLevels> levels() const;
+};
+
+bool operator==(const ChosenLevels& left, const ChosenLevels& right);
+
 /// The variables of a frame's contour groups and RGB channels, and of what else follows the values
-/// of all maps together, with the values that they span.
+/// of all maps together, with the values that they span and the colours that these have.
 class ContourGroups
 {
 public:
@@ -49,9 +64,9 @@ public:
     static constexpr int kPlace = 17; ///< X, Y and Z
     static constexpr int kCount = 19;
 
-    /// Takes the variables from the frame; a group whose variable is another than before starts
-    /// anew. True when there is such a group.
-    bool setVariables(const host::Frame& frame);
+    /// Takes variables, chosen levels and colours from the frame; a group whose variable is another
+    /// than before starts anew.
+    void takeStyle(const host::Frame& frame);
     void clear();
 
     /// Number of the variable, 0 when unassigned. `group` is 1 to kCount throughout.
@@ -66,8 +81,14 @@ public:
     bool setRange(int group, double minimum, double maximum);
 
     const ContourLevels& levels(int group) const { return at(group).levels; }
+    /// The levels at which the values have lines: also the ends of chosen levels that leave values
+    /// out.
+    std::vector<double> lineLevels(int group) const;
+    const ColorScale& colors(int group) const { return at(group).colors; }
     /// Differs whenever variable or levels do.
     int revision(int group) const { return at(group).revision; }
+    /// Differs whenever variable, levels or colours do.
+    int colorRevision(int group) const { return at(group).revision + at(group).recolorings; }
 
     /// A value as texture coordinate. These do not change with the levels: the texture is
     /// moved instead, by `textureScale` and `textureShift`.
@@ -93,8 +114,13 @@ private:
         double reference = 0.0; ///< value at coordinate 0
         double unit = 1.0; ///< change of value from coordinate 0 to 1
         ContourLevels levels;
+        std::optional<ChosenLevels> chosen;
+        ColorScale colors;
         int revision = 0;
+        int recolorings = 0;
     };
+
+    static void setLevels(Group& group, bool isContour);
 
     Group& at(int group) { return m_groups[static_cast<std::size_t>(group - 1)]; }
     const Group& at(int group) const { return m_groups[static_cast<std::size_t>(group - 1)]; }

@@ -55,7 +55,8 @@ vtkSmartPointer<vtkDataArray> groupColors(vtkDoubleArray& values, int group,
     for (vtkIdType i = 0; i < values.GetNumberOfTuples(); ++i) {
         const double value = values.GetValue(i);
         setColor(*colors, i,
-                 std::isfinite(value) ? mapColor(levels.fraction(value)) : noValueColor());
+                 std::isfinite(value) ? scaleColor(groups.colors(group), levels.fraction(value))
+                                      : noValueColor());
     }
     return colors;
 }

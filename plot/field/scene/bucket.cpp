@@ -178,9 +178,11 @@ void CompositeLayer::Bucket::updateLevels(const ContourGroups& groups)
     if (m_look.floodGroup == 0)
         return;
     const ContourLevels& levels = groups.levels(m_look.floodGroup);
-    if (m_textureBands != levels.bands) {
-        m_texture->SetInputData(bandImage(levels.bands));
+    const ColorScale& colors = groups.colors(m_look.floodGroup);
+    if (m_textureBands != levels.bands || !(m_textureColors == colors)) {
+        m_texture->SetInputData(bandImage(colors, levels.bands));
         m_textureBands = levels.bands;
+        m_textureColors = colors;
     }
     m_textureTransform->Identity();
     m_textureTransform->Translate(groups.textureShift(m_look.floodGroup), 0.0, 0.0);

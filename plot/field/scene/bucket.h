@@ -74,6 +74,7 @@ private:
     std::int64_t m_size = 0;
     float m_layersInFront = -1.0F; ///< of faces, from this one to the last; negative for others
     int m_textureBands = 0;
+    ColorScale m_textureColors;
     std::vector<Block> m_blocks;
     std::vector<Shell> m_shells;
 };

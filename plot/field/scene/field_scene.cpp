@@ -48,7 +48,7 @@ void FieldScene::clear(const host::Frame* drawn, Fresh reason)
 
 LayerMask FieldScene::showLayers(const host::Frame& drawn)
 {
-    m_groups.setVariables(drawn);
+    m_groups.takeStyle(drawn);
     LayerMask shown = 0;
     for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
         const bool isOn = isLayerOn(drawn, static_cast<FieldLayer>(i));
@@ -422,6 +422,19 @@ static QString shownName(const host::Frame& drawn, CvlInt64 variable)
     return QString::fromStdString(host::shownVariableName(drawn.data(), variable));
 }
 
+/// Nothing when the group has no legend.
+static std::optional<QString> legendTitle(const host::Frame& drawn, int group, CvlInt64 variable)
+{
+    constexpr const auto& kGroup = style::contourGroups;
+    const host::Schema& schema = host::Schema::instance();
+    if (!drawn.data()->hasVariable(variable)
+        || drawn.values().integer(schema.at(kGroup.showLegend), group) == 0)
+        return std::nullopt;
+    const auto& title =
+        std::get<std::string>(drawn.values().get(schema.at(kGroup.legendTitle), group));
+    return title.empty() ? shownName(drawn, variable) : QString::fromStdString(title);
+}
+
 std::vector<FieldLegend> FieldScene::legends() const
 {
     std::set<int> inUse;
@@ -433,13 +446,15 @@ std::vector<FieldLegend> FieldScene::legends() const
     std::vector<FieldLegend> result;
     const host::Frame* const drawn = frame();
     for (const int group : inUse) {
-        const CvlInt64 variable = m_groups.variable(group);
-        if (drawn && drawn->data()->hasVariable(variable)) {
-            FieldLegend& legend = result.emplace_back();
-            legend.title = shownName(*drawn, variable);
-            if (m_groups.hasRange(group))
-                legend.levels = m_groups.levels(group);
-        }
+        const auto title =
+            drawn ? legendTitle(*drawn, group, m_groups.variable(group)) : std::nullopt;
+        if (!title)
+            continue;
+        FieldLegend& legend = result.emplace_back();
+        legend.title = *title;
+        legend.colors = m_groups.colors(group);
+        if (m_groups.hasRange(group))
+            legend.levels = m_groups.levels(group);
     }
     return result;
 }
@@ -479,17 +494,21 @@ std::optional<VectorKey> FieldScene::vectorKey() const
                       real(style::globalVector.headAngle)};
 }
 
-std::array<QString, 3> FieldScene::axisTitles() const
+AxesStyle FieldScene::axes() const
 {
-    std::array<QString, 3> titles = {"X", "Y", "Z"};
-    if (const host::Frame* const drawn = frame()) {
-        for (CvlInt64 number = 1; number <= drawn->data()->variableCount(); ++number) {
-            const host::Variable& variable = drawn->data()->variable(number);
-            if (variable.isCoordinate())
-                titles[static_cast<std::size_t>(variable.component)] = shownName(*drawn, number);
-        }
-    }
-    return titles;
+    const host::Frame* const drawn = frame();
+    return drawn ? axesStyleOf(*drawn) : AxesStyle();
+}
+
+std::optional<double> FieldScene::proposal(style::Key value, int index) const
+{
+    if (!style::isInGroupOf(value, style::contourGroups.var) || !m_groups.hasRange(index))
+        return std::nullopt;
+    const ContourLevels& levels = m_groups.levels(index);
+    return value == style::contourGroups.levelMin ? std::optional(levels.minimum)
+        : value == style::contourGroups.levelMax  ? std::optional(levels.maximum())
+        : value == style::contourGroups.bandCount ? std::optional<double>(levels.bands)
+                                                  : std::nullopt;
 }
 
 } // namespace corvala::plot

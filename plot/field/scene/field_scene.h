@@ -3,6 +3,7 @@
 
 #include "plot/common/background_task.h"
 #include "plot/common/map_scene.h"
+#include "plot/field/scene/axes_style.h"
 #include "plot/field/scene/composite_layer.h"
 #include "plot/field/scene/pick_ray.h"
 #include "plot/field/scene/scene_piece.h"
@@ -20,8 +21,9 @@ namespace corvala::plot {
 /// Colours of a contour group that the scene shows.
 struct FieldLegend
 {
-    QString title; ///< name of the variable
+    QString title;
     std::optional<ContourLevels> levels; ///< nothing when no value is shown
+    ColorScale colors = {};
 };
 
 /// What the arrows of a scene stand for.
@@ -80,8 +82,10 @@ public:
     std::vector<FieldLegend> legends() const;
     /// Nothing when no arrows are shown, or none that tells their length is wanted.
     std::optional<VectorKey> vectorKey() const;
-    /// Names of the coordinates X, Y, Z.
-    std::array<QString, 3> axisTitles() const;
+    AxesStyle axes() const;
+    /// What the scene takes for a value that is not set by the style, such as a level of a contour
+    /// group; nothing when it takes none.
+    std::optional<double> proposal(style::Key value, int index) const;
 
     const CompositeLayer& layer(FieldLayer layer) const
     {

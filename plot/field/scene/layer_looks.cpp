@@ -154,7 +154,8 @@ enum Use : unsigned {
     Within = 256, ///< lies within zones, and not on their surfaces
     Joint = 512, ///< shows something of all maps together
     Beside = 1024, ///< looks otherwise beside other surfaces of the map
-    Sizes = 2048 ///< of symbols by a variable
+    Sizes = 2048, ///< of symbols by a variable
+    Around = 4096 ///< no layer: axes
 };
 static constexpr SharedStyle kShared[] = {
     {kMap.surfaces.surfacesToPlot, true, Surfaces},
@@ -186,6 +187,7 @@ static constexpr SharedStyle kShared[] = {
     {style::globalVector.uVar, true, Vectors},
     {style::globalScatter.var, true, Sizes},
     {kMap.points.pointsToPlot, true, Points},
+    {style::fieldAxes.fontSize, true, Around},
     {style::activeFieldMaps, false},
     {style::activeFieldZones, false},
 };

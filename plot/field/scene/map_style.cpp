@@ -126,7 +126,7 @@ static int colorGroupOf(std::int32_t color, const ContourGroups& groups, int& re
     }
     if (group <= 0 || groups.variable(group) == 0)
         return 0;
-    revision += groups.revision(group);
+    revision += groups.colorRevision(group);
     return group;
 }
 

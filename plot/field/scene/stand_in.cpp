@@ -44,7 +44,7 @@ static host::Rgb colorOf(vtkPolyData& block, const BlockLook& look, vtkIdType po
     if (place[1] > 0.5)
         return noValueColor();
     const double share = place[0] * groups.textureScale(group) + groups.textureShift(group);
-    return bandColor(share, groups.levels(group).bands);
+    return bandColor(groups.colors(group), share, groups.levels(group).bands);
 }
 
 void StandIn::take(const std::vector<const CompositeLayer*>& layers, const host::NumberSet& maps,

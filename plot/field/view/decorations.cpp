@@ -25,10 +25,13 @@ QColor inkColor()
 }
 
 FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>& legends,
-                   double yTexts, bool hasVectorKey)
+                   double yTexts, bool hasVectorKey, double fontScale)
 {
+    constexpr double kLargestShare = 10.0; // of the picture, in heights of text
     FieldLayout layout;
-    layout.font = std::clamp(std::min(size.height() / 45.0, size.width() / 50.0), 9.0, 40.0);
+    const double usual = std::clamp(std::min(size.height() / 45.0, size.width() / 50.0), 9.0, 40.0);
+    layout.font = std::max(
+        1.0, std::min(usual * fontScale, std::min(size.width(), size.height()) / kLargestShare));
     const double font = layout.font;
     QRectF area(0, 0, size.width(), size.height());
     double all = 0.0;
@@ -89,6 +92,26 @@ static void paintTicks(QPainter& painter, const AxisTicks& ticks, double font, c
             box.moveTop(text.y());
         painter.drawText(box, alignment, ticks.texts[static_cast<int>(i)]);
     }
+}
+
+void paintPlaneGrid(QPainter& painter, const FieldLayout& layout, const PlaneWindow& window)
+{
+    const QRectF& plot = layout.plot;
+    QColor color = inkColor();
+    color.setAlphaF(0.25);
+    painter.save();
+    painter.setPen(QPen(color, std::max(1.0, layout.font / 16.0)));
+    for (const double x : xTicks(layout, window).places) {
+        const double share = (x - window.xMinimum) / (window.xMaximum - window.xMinimum);
+        const double place = plot.left() + share * plot.width();
+        painter.drawLine(QPointF(place, plot.top()), QPointF(place, plot.bottom()));
+    }
+    for (const double y : yTicks(layout, window).places) {
+        const double share = (y - window.yMinimum) / (window.yMaximum - window.yMinimum);
+        const double place = plot.bottom() - share * plot.height();
+        painter.drawLine(QPointF(plot.left(), place), QPointF(plot.right(), place));
+    }
+    painter.restore();
 }
 
 void paintPlaneAxes(QPainter& painter, const FieldLayout& layout, const PlaneWindow& window,

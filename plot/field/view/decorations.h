@@ -31,9 +31,9 @@ struct FieldLayout
 
 /// A flat plot leaves room for its axes, whose numbers at the left side are `yTexts` pixels wide;
 /// legends stand at the right, each as wide as its title and numbers need, and below them what the
-/// length of arrows means.
+/// length of arrows means. Texts are `fontScale` times as high as usual.
 FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>& legends,
-                   double yTexts = 0.0, bool hasVectorKey = false);
+                   double yTexts = 0.0, bool hasVectorKey = false, double fontScale = 1.0);
 
 /// The part of the plane that is seen.
 struct PlaneWindow
@@ -46,6 +46,9 @@ struct PlaneWindow
 
 /// Width in pixels of the widest number at the left side of the plot.
 double yTextsWidth(const FieldLayout& layout, const PlaneWindow& window);
+
+/// Lines across the plot at the ticks of its axes.
+void paintPlaneGrid(QPainter& painter, const FieldLayout& layout, const PlaneWindow& window);
 
 /// Frame, ticks, numbers and titles round the plot.
 void paintPlaneAxes(QPainter& painter, const FieldLayout& layout, const PlaneWindow& window,

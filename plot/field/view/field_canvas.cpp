@@ -144,6 +144,9 @@ void FieldCanvas::sceneChanged(const host::StateEvent& event)
     m_quickTime = m_restTime = 0.0;
     if (event.code == StateCode_SolutionTimeChanged)
         m_view.widen();
+    for (const host::StyleChange& change : event.styleChanges)
+        if (isAxisRange(style::Key {change.attribute}))
+            m_view.setFitted();
 }
 
 /// Whether a full picture takes too long for a hand that moves the view.

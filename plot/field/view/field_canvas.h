@@ -30,6 +30,10 @@ public:
     QString problem() const override { return m_problem; }
     bool isBeingMoved() const override { return m_hand.isActive(); }
     void sceneChanged(const host::StateEvent& event) override;
+    std::optional<double> proposal(style::Key value, int index) const override
+    {
+        return m_view.proposal(value, index);
+    }
     std::any view() const override { return m_view.camera(); }
     void setView(const std::any& view) override;
 

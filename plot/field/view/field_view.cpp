@@ -88,7 +88,7 @@ double FieldView::pixelsPerUnit() const
 
 void FieldView::layOutPlot(double yTexts)
 {
-    m_layout = layOut(m_size, m_flat, m_legends, yTexts, m_vectorKey.has_value());
+    m_layout = layOut(m_size, m_flat, m_legends, yTexts, m_vectorKey.has_value(), m_axes.fontScale);
     placeCamera();
 }
 
@@ -123,6 +123,7 @@ void FieldView::prepare()
     m_light->SetPosition(m_scene->lightDirection().data());
     m_legends = m_scene->legends();
     m_vectorKey = m_scene->vectorKey();
+    m_axes = m_scene->axes();
     const vtkBoundingBox box = m_scene->bounds();
     updateFitBox(box);
     setViewport();
@@ -142,9 +143,9 @@ void FieldView::placeCamera()
     if (!m_isFitted || !m_fitBox.IsValid())
         return;
     if (m_flat)
-        fitFlat(m_fitBox);
+        fitFlat(m_axes.seen(m_fitBox));
     else
-        fitSpace(m_fitBox);
+        fitSpace(m_axes.seen(m_fitBox));
 }
 
 void FieldView::fitFlat(const vtkBoundingBox& box)
@@ -326,6 +327,26 @@ SpaceView FieldView::spaceView() const
     return view;
 }
 
+std::optional<double> FieldView::proposal(style::Key value, int index) const
+{
+    constexpr const auto& kAxes = style::fieldAxes;
+    const PlaneWindow window = m_flat ? planeWindow() : PlaneWindow();
+    const vtkBoundingBox box = m_scene->bounds();
+    if (!isAxisRange(value) || !box.IsValid())
+        return m_scene->proposal(value, index);
+    const std::pair<style::Key, double> ends[] = {
+        {kAxes.x.rangeMin, m_flat ? window.xMinimum : box.GetBound(0)},
+        {kAxes.x.rangeMax, m_flat ? window.xMaximum : box.GetBound(1)},
+        {kAxes.y.rangeMin, m_flat ? window.yMinimum : box.GetBound(2)},
+        {kAxes.y.rangeMax, m_flat ? window.yMaximum : box.GetBound(3)},
+        {kAxes.z.rangeMin, box.GetBound(4)},
+        {kAxes.z.rangeMax, box.GetBound(5)}};
+    for (const auto& [key, end] : ends)
+        if (key == value)
+            return end;
+    return std::nullopt;
+}
+
 void FieldView::pan(const QPointF& pixels)
 {
     vtkCamera* const camera = m_back->GetActiveCamera();
@@ -350,9 +371,11 @@ void FieldView::magnify(double factor, const QPointF& center)
 void FieldView::paintDecorations(QPainter& painter)
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    const std::array<QString, 3> titles = m_scene->axisTitles();
+    const std::array<QString, 3>& titles = m_axes.titles;
     const vtkBoundingBox box = m_scene->bounds();
     if (box.IsValid() && m_flat) {
+        if (m_axes.hasGrid)
+            paintPlaneGrid(painter, m_layout, planeWindow());
         paintPlaneAxes(painter, m_layout, planeWindow(), titles[0], titles[1]);
     } else if (box.IsValid()) {
         const SpaceView view = spaceView();

@@ -63,6 +63,8 @@ public:
     void magnify(double factor, const QPointF& center);
     /// The user took hold of the camera.
     void setMoved() { m_isFitted = false; }
+    /// Shows what was fitted last, as when the user moves it no longer.
+    void setFitted() { m_isFitted = true; }
     /// What is shown will be another time of the same things: a fitted view widens for what would
     /// lie outside, and stays as it is otherwise.
     void widen() { m_widens = true; }
@@ -76,6 +78,9 @@ public:
     void setCut(bool isCut) { m_isCut = isCut; }
     /// Axes, legends and remarks, over the drawing.
     void paintDecorations(QPainter& painter);
+
+    /// As of the scene; for the ranges of axes what is seen.
+    std::optional<double> proposal(style::Key value, int index) const;
 
     /// The zone at a point of the picture, from top left; 0 for none.
     CvlInt64 zoneAt(const QPointF& point);
@@ -110,6 +115,7 @@ private:
     FieldLayout m_layout;
     std::vector<FieldLegend> m_legends;
     std::optional<VectorKey> m_vectorKey;
+    AxesStyle m_axes;
 };
 
 } // namespace corvala::plot

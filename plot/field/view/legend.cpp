@@ -86,7 +86,8 @@ static void paintLegend(QPainter& painter, const QRectF& area, double font,
     const QRectF bar(area.left(), area.top() + 2.0 * font, kBarWidth * font,
                      std::min(area.height() - 2.0 * font, tallest));
     paintBands(painter, bar,
-               legend.levels ? bandColors(bands) : std::vector<host::Rgb> {noValueColor()});
+               legend.levels ? bandColors(legend.colors, bands)
+                             : std::vector<host::Rgb> {noValueColor()});
     painter.setFont(plotFont(font));
     const double height = bar.height() / bands;
     for (const LegendText& text : legendTexts(legend.levels, 1.4 * font / height)) {

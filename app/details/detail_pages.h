@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "vocabulary/style.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace corvala::app {
+
+/// One value of the frame on a page. An indexed value is that of the index chosen on the page.
+struct DetailRow
+{
+    style::Key key;
+    const char* text; ///< beside its field; in the translation context "PlotDetails"
+    style::SwitchKey follows = {}; ///< while it is on, the value follows from the data
+};
+
+/// A view of a static array.
+class DetailRows
+{
+public:
+    template<std::size_t N>
+    constexpr DetailRows(const DetailRow (&rows)[N]) // implicit: a page is its array
+        : m_begin(rows)
+        , m_end(rows + N)
+    {
+    }
+    constexpr const DetailRow* begin() const { return m_begin; }
+    constexpr const DetailRow* end() const { return m_end; }
+
+private:
+    const DetailRow* m_begin;
+    const DetailRow* m_end;
+};
+
+/// What is set per frame of one subject.
+struct DetailPage
+{
+    const char* name; ///< of the object
+    const char* title; ///< in the translation context "PlotDetails"
+    style::SwitchKey layer; ///< the button that leads here; not valid without one
+    const char* indexText; ///< what the indexes count, or null
+    DetailRows rows;
+
+    /// How many indexes there are; 0 without.
+    constexpr int indexCount() const
+    {
+        for (const DetailRow& row : rows)
+            if (const int count = style::entryOf(row.key).indexCount)
+                return count;
+        return 0;
+    }
+};
+
+/// All pages, in the order in which they are offered.
+const std::vector<DetailPage>& detailPages();
+
+} // namespace corvala::app

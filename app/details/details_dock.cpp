@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/details/details_dock.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace corvala::app {
+
+DetailsDock::DetailsDock(DetailPageWidget::Proposal proposal, QWidget* parent)
+    : QDockWidget(tr("Plot Details"), parent)
+{
+    setObjectName(QStringLiteral("plotDetails"));
+    toggleViewAction()->setText(tr("Plot &Details"));
+    auto* content = new QWidget(this);
+    auto* layout = new QVBoxLayout(content);
+    m_choice = new QComboBox(content);
+    m_choice->setObjectName(QStringLiteral("page"));
+    m_stack = new QStackedWidget(content);
+    layout->addWidget(m_choice);
+    layout->addWidget(m_stack, 1);
+    for (const DetailPage& page : detailPages()) {
+        auto* scroll = new QScrollArea(m_stack);
+        scroll->setFrameShape(QFrame::NoFrame);
+        scroll->setWidgetResizable(true);
+        m_pages.push_back(new DetailPageWidget(page, proposal, scroll));
+        m_pages.back()->setObjectName(QLatin1String(page.name));
+        scroll->setWidget(m_pages.back());
+        m_stack->addWidget(scroll);
+        m_choice->addItem(QCoreApplication::translate("PlotDetails", page.title),
+                          QLatin1String(page.name));
+    }
+    connect(m_choice, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int page) {
+        m_stack->setCurrentIndex(page);
+        refresh();
+    });
+    setWidget(content);
+    hide();
+}
+
+DetailsDock::~DetailsDock() = default;
+
+void DetailsDock::openPage(const QString& name)
+{
+    m_choice->setCurrentIndex(m_choice->findData(name));
+    show();
+    raise();
+    m_stack->currentWidget()->setFocus();
+}
+
+void DetailsDock::showEvent(QShowEvent* event)
+{
+    QDockWidget::showEvent(event);
+    refresh();
+}
+
+/// Costs nothing while it is closed, and then what one page shows.
+void DetailsDock::refresh()
+{
+    const host::Frame* const frame = host::Document::instance().activeFrame();
+    const bool hasPlot = frame && frame->isFieldPlot() && frame->hasData();
+    widget()->setEnabled(hasPlot);
+    if (isVisible() && hasPlot)
+        m_pages[static_cast<std::size_t>(m_stack->currentIndex())]->refresh(*frame);
+}
+
+} // namespace corvala::app

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/details/detail_page_widget.h"
+
+#include <QDockWidget>
+
+#include <vector>
+
+class QComboBox;
+class QStackedWidget;
+
+namespace corvala::app {
+
+/// What is set for the plot as a whole and not for each map, a page to a subject. Every edit is
+/// seen on the plot at once.
+class DetailsDock : public QDockWidget
+{
+    Q_OBJECT
+
+public:
+    /// `proposal` says what is in force for values that follow from the data.
+    explicit DetailsDock(DetailPageWidget::Proposal proposal, QWidget* parent = nullptr);
+    ~DetailsDock() override;
+
+    /// Shows what the document says.
+    void refresh();
+    /// Opens the page of this name.
+    void openPage(const QString& name);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QComboBox* m_choice; // not owned
+    QStackedWidget* m_stack; // not owned
+    std::vector<DetailPageWidget*> m_pages; // not owned
+};
+
+} // namespace corvala::app
