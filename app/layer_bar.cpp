@@ -6,14 +6,14 @@
 #include "vocabulary/layers.h"
 
 #include <QAction>
-#include <QComboBox>
 #include <QCoreApplication>
-#include <QLabel>
 #include <QToolButton>
 
 #include <algorithm>
 
 namespace corvala::app {
+
+using host::Document;
 
 /// A switch of the frame that the canvases draw by.
 struct LayerButton
@@ -32,45 +32,12 @@ static constexpr LayerButton kLayers[] = {
     {style::kLinesLayer.shown, style::kLinesLayer.name},
 };
 
-static constexpr struct
-{
-    PlotType_e type;
-    const char* text;
-} kPlotTypes[] = {
-    {PlotType_Field2D, QT_TRANSLATE_NOOP("corvala::app::LayerBar", "2D field plot")},
-    {PlotType_Field3D, QT_TRANSLATE_NOOP("corvala::app::LayerBar", "3D field plot")},
-    {PlotType_LineXY, QT_TRANSLATE_NOOP("corvala::app::LayerBar", "XY line plot")},
-    {PlotType_LinePolar, QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Polar line plot")},
-};
-
-static void write(style::Key key, host::StyleInput value)
-{
-    host::Document::instance().execute(host::SetStyle {host::pathOf(key), std::move(value)});
-}
-
 LayerBar::LayerBar(QWidget* parent)
-    : QToolBar(tr("Plot"), parent)
-    , m_plotType(new QComboBox(this))
+    : QToolBar(tr("Layers"), parent)
 {
     setObjectName(QStringLiteral("plotBar"));
-    addPlotTypes();
-    addSeparator();
     addLayers();
     refresh();
-}
-
-void LayerBar::addPlotTypes()
-{
-    auto* label = new QLabel(tr("Plot t&ype:"), this);
-    label->setBuddy(m_plotType);
-    addWidget(label);
-    addWidget(m_plotType);
-    m_plotType->setObjectName(QStringLiteral("plotType"));
-    for (const auto& [type, text] : kPlotTypes)
-        m_plotType->addItem(tr(text), int(type));
-    connect(m_plotType, QOverload<int>::of(&QComboBox::activated), this, [this](int position) {
-        write(style::plotType, double(m_plotType->itemData(position).toInt()));
-    });
 }
 
 void LayerBar::addLayers()
@@ -80,7 +47,7 @@ void LayerBar::addLayers()
         action->setCheckable(true);
         action->setObjectName(QLatin1String(style::entryOf(layer.key).path[1]));
         connect(action, &QAction::triggered, this, [this, &layer, action](bool on) {
-            write(layer.key, on);
+            Document::instance().execute(host::SetStyle {host::pathOf(layer.key), on});
             Q_EMIT layerSwitched(action);
         });
         m_layers << action;
@@ -100,7 +67,7 @@ QAction* LayerBar::addDetails(style::SwitchKey layer)
     arrow->setObjectName(QLatin1String(page->name) + QStringLiteral("Details"));
     arrow->setArrowType(Qt::DownArrow);
     arrow->setAutoRaise(true);
-    arrow->setFixedWidth(fontMetrics().height());
+    arrow->setFixedWidth(fontMetrics().height() - 2);
     arrow->setToolTip(tr("%1 details").arg(m_layers.last()->text()));
     arrow->setAccessibleName(arrow->toolTip());
     connect(arrow, &QToolButton::clicked, this,
@@ -110,10 +77,8 @@ QAction* LayerBar::addDetails(style::SwitchKey layer)
 
 void LayerBar::refresh()
 {
-    const host::Frame* frame = host::Document::instance().activeFrame();
+    const host::Frame* frame = Document::instance().activeFrame();
     const bool hasData = frame && frame->hasData();
-    m_plotType->setEnabled(hasData);
-    m_plotType->setCurrentIndex(frame ? m_plotType->findData(int(frame->plotType())) : -1);
     for (int i = 0; i < m_layers.size(); ++i) {
         const style::SwitchKey key = kLayers[i].key;
         const bool isField = style::isInGroupOf(key, style::fieldLayers.showMesh);

@@ -6,11 +6,10 @@
 #include <QToolBar>
 
 class QAction;
-class QComboBox;
 
 namespace corvala::app {
 
-/// The plot type of the active frame, and its layers to switch on and off.
+/// The layers of the active frame to switch on and off.
 class LayerBar : public QToolBar
 {
     Q_OBJECT
@@ -30,11 +29,9 @@ Q_SIGNALS:
     void detailsWanted(const QString& page);
 
 private:
-    void addPlotTypes();
     void addLayers();
     QAction* addDetails(style::SwitchKey layer);
 
-    QComboBox* m_plotType; // not owned
     QList<QAction*> m_layers; // not owned
     QList<QAction*> m_details; ///< beside each of them; null without
 };

@@ -174,11 +174,11 @@ void MainMenus::makeHelpMenu()
 
 void MainMenus::makeToolBar()
 {
-    QToolBar* bar = m_window.addToolBar(tr("Main"));
-    bar->setObjectName(QStringLiteral("mainBar"));
-    bar->addActions({m_openCommands.first(), m_undo, m_redo});
-    bar->addSeparator();
-    bar->addAction(&m_styleDialog);
+    m_toolBar = m_window.addToolBar(tr("Main"));
+    m_toolBar->setObjectName(QStringLiteral("mainBar"));
+    m_toolBar->addActions({m_openCommands.first(), m_undo, m_redo});
+    m_toolBar->addSeparator();
+    m_toolBar->addAction(&m_styleDialog);
 }
 
 void MainMenus::enableOpening(bool enabled)

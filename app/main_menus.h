@@ -6,6 +6,7 @@
 class QAction;
 class QMainWindow;
 class QMenu;
+class QToolBar;
 
 namespace corvala::app {
 
@@ -21,6 +22,7 @@ public:
     MainMenus(QMainWindow& window, QAction& styleDialog, QAction& details,
               const QList<QAction*>& layers);
 
+    QToolBar& toolBar() const { return *m_toolBar; } ///< of common commands
     /// The commands that bring other data.
     void enableOpening(bool enabled);
     /// Shows what the document says.
@@ -48,6 +50,7 @@ private:
 
     QMainWindow& m_window;
     QAction& m_styleDialog;
+    QToolBar* m_toolBar = nullptr; ///< owned by the window
     // Owned by the menus.
     QList<QAction*> m_openCommands; ///< the first one is in the toolbar too
     QAction* m_undo = nullptr;

@@ -8,6 +8,7 @@
 #include "app/main_menus.h"
 #include "app/notice_bar.h"
 #include "app/plot_area.h"
+#include "app/plot_type_choice.h"
 #include "app/style_dialog.h"
 #include "app/time_bar.h"
 #include "app/work_progress.h"
@@ -80,6 +81,9 @@ void MainWindow::makeBars()
     addDockWidget(Qt::RightDockWidgetArea, m_details);
     m_menus = new MainMenus(*this, *makeStyleDialogAction(*this), *m_details->toggleViewAction(),
                             m_layerBar->layerActions());
+    m_plotType = new PlotTypeChoice(this);
+    m_menus->toolBar().addSeparator();
+    m_menus->toolBar().addWidget(m_plotType);
     addToolBarBreak(); // all layers show beside the style dialog, too
     addToolBar(m_layerBar);
     addToolBar(Qt::BottomToolBarArea, m_timeBar);
@@ -187,6 +191,7 @@ void MainWindow::refresh()
     setWindowTitle(title.isEmpty() ? tr("corvala") : tr("%1 - corvala").arg(title));
     m_summary->setText(hasData ? summaryOf(*frame->data()) : QString());
     m_menus->refresh(hasData && m_plotArea->frameView());
+    m_plotType->refresh();
     m_layerBar->refresh();
     m_layerNotes->refresh();
     m_timeBar->refresh();

@@ -21,6 +21,7 @@ class LayerNotes;
 class MainMenus;
 class NoticeBar;
 class PlotArea;
+class PlotTypeChoice;
 class TimeBar;
 class WorkProgress;
 
@@ -73,6 +74,7 @@ private:
     PlotArea* m_plotArea = nullptr;
     NoticeBar* m_notice = nullptr;
     LayerNotes* m_layerNotes = nullptr;
+    PlotTypeChoice* m_plotType = nullptr;
     LayerBar* m_layerBar = nullptr;
     TimeBar* m_timeBar = nullptr;
     DetailsDock* m_details = nullptr;

@@ -88,7 +88,7 @@ private Q_SLOTS:
         for (const QAction* menu : m_window->menuBar()->actions())
             texts << menu->text();
         for (const QLabel* label : m_window->findChildren<QLabel*>()) {
-            if (label->buddy())
+            if (label->buddy() && label->isVisible())
                 texts << label->text();
         }
         QSet<QString> keys;
