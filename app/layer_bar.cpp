@@ -25,6 +25,8 @@ struct LayerButton
 static constexpr LayerButton kLayers[] = {
     {style::kMeshLayer.shown, style::kMeshLayer.name},
     {style::kContourLayer.shown, style::kContourLayer.name},
+    {style::kVectorLayer.shown, style::kVectorLayer.name},
+    {style::kScatterLayer.shown, style::kScatterLayer.name},
     {style::kShadeLayer.shown, style::kShadeLayer.name},
     {style::kEdgeLayer.shown, style::kEdgeLayer.name},
     {style::fieldLayers.useLightingEffect,

@@ -5,6 +5,7 @@
 #include "host/document/document.h"
 #include "host/document/layer_facts.h"
 #include "sdk/common/common.h"
+#include "sdk/dialogs_prompt/vector_var_assign_strategy.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -61,6 +62,11 @@ static Note noteOf(LayerGap gap, const QString& layer, bool ofLines)
                 LayerNotes::tr("Draw Surfaces")};
     case LayerGap::NoVariable:
         return {LayerNotes::tr("No variable is chosen for the contours, so the layer \"%1\" shows "
+                               "nothing.")
+                    .arg(layer),
+                LayerNotes::tr("Choose Variables")};
+    case LayerGap::NoVector:
+        return {LayerNotes::tr("No variables are chosen for the vectors, so the layer \"%1\" shows "
                                "nothing.")
                     .arg(layer),
                 LayerNotes::tr("Choose Variables")};
@@ -140,6 +146,7 @@ void LayerNotes::mend()
                 ContourLevelsInitializationMode_ResetIfVariableIsNew))
             m_bar.tell(tr("The data have no variable that contours could show."));
         break;
+    case LayerGap::NoVector: dialogs::prompt::VectorVarAssignStrategy()(frame->plotType()); break;
     case LayerGap::NoFaces: write(style::kShadeLayer.shown, true); break;
     case LayerGap::NotInSpace:
     case LayerGap::None: break;

@@ -31,11 +31,27 @@ static bool hasContourVariable(const Frame& frame, CvlInt64 map)
             && hasVariable(contour.lineContourGroup));
 }
 
-static LayerGap gapOf(const Frame& frame, CvlInt64 map, bool needsSurfaces, bool needsVariable)
+static bool hasVector(const Frame& frame)
 {
-    if (needsSurfaces && frame.fieldMaps().hasVolumeZones(map) && !drawsSurfaces(frame, map, false))
+    const bool isInSpace = frame.plotType() == PlotType_Field3D;
+    const auto isSet = [&](style::VariableKey key) {
+        return frame.values().integer(Schema::instance().at(key)) > 0;
+    };
+    return isSet(style::globalVector.uVar) || isSet(style::globalVector.vVar)
+        || (isInSpace && isSet(style::globalVector.wVar));
+}
+
+/// Of a layer of a field plot.
+static LayerGap gapOf(const Frame& frame, CvlInt64 map, const style::Layer& layer)
+{
+    const bool isOfPoints = layer == style::kVectorLayer || layer == style::kScatterLayer;
+    if (layer != style::kEdgeLayer && frame.fieldMaps().hasVolumeZones(map)
+        && !drawsSurfaces(frame, map, isOfPoints))
         return LayerGap::NoSurfaces;
-    return needsVariable && !hasContourVariable(frame, map) ? LayerGap::NoVariable : LayerGap::None;
+    if (layer == style::kVectorLayer && !hasVector(frame))
+        return LayerGap::NoVector;
+    return layer == style::kContourLayer && !hasContourVariable(frame, map) ? LayerGap::NoVariable
+                                                                            : LayerGap::None;
 }
 
 LayerFacts lightingFacts(const Frame& frame)
@@ -56,13 +72,11 @@ LayerFacts layerFacts(const Frame& frame, const style::Layer& layer)
     if (active.isEmpty())
         return {LayerGap::NoActiveMaps, active, &layer};
     const AttributeId show = layer.shownForMap;
-    const bool needsSurfaces = !isLines && layer != style::kEdgeLayer;
-    const bool needsVariable = layer == style::kContourLayer;
     LayerFacts facts {LayerGap::NotShown, {}, &layer};
     for (const std::uint32_t map : active) {
         if (!(isLines ? frame.lineInteger(show, map) : frame.fieldInteger(show, map)))
             continue;
-        const LayerGap gap = gapOf(frame, map, needsSurfaces, needsVariable);
+        const LayerGap gap = isLines ? LayerGap::None : gapOf(frame, map, layer);
         if (gap == LayerGap::None)
             return {};
         facts.gap = std::max(gap, facts.gap);

@@ -14,8 +14,9 @@ enum class LayerGap {
     None, ///< it shows something
     NoActiveMaps,
     NotShown, ///< its "Show" value is off in all active maps
-    NoSurfaces, ///< the maps that show it are volumes that draw no surfaces
+    NoSurfaces, ///< the maps that show it are volumes that draw no surfaces, and no other points
     NoVariable, ///< no contour group that the maps follow has a variable
+    NoVector, ///< the components of vectors have no variables
     NotInSpace, ///< lighting of a 2D plot
     NoFaces ///< lighting, and neither contours nor shade are on
 };

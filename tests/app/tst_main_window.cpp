@@ -11,6 +11,7 @@
 #include "play/style_report.h"
 #include "plot/frame_view.h"
 #include "sdk/dialogs_common/qt_dialog_abstract.h"
+#include "tests/support/modal_responder.h"
 #include "tests/support/rows.h"
 
 #include <QAction>
@@ -149,6 +150,20 @@ private Q_SLOTS:
         button("Show Shade")->click();
         play::waitUntilIdle();
         QVERIFY(frame().isOn(style::fieldLayers.showShade) && !button("Show Shade"));
+
+        for (const char* component : {"UVar", "VVar", "WVar"})
+            write({{"GlobalVector", component}, 0.0});
+        layer("ShowVector").trigger();
+        QVERIFY(button("Choose Variables"));
+        {
+            tests::ModalResponder responder;
+            responder.reject();
+            button("Choose Variables")->click();
+            QVERIFY(responder.isSettled());
+        }
+        write({{"GlobalVector", "UVar"}, 4.0});
+        play::waitUntilIdle();
+        QVERIFY(!button("Choose Variables"));
 
         // A note goes when it is true no longer.
         write({{"FieldMap", "Mesh", "Show"}, false, maps});
