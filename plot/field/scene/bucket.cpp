@@ -6,6 +6,7 @@
 #include "plot/field/scene/symbol_shader.h"
 
 #include <vtkImageData.h>
+#include <vtkPoints.h>
 #include <vtkProperty.h>
 #include <vtkShaderProperty.h>
 #include <vtkUniforms.h>
@@ -126,6 +127,16 @@ void CompositeLayer::Bucket::setWidestLine(double pixels)
     }
 }
 
+/// Makes a shell show other data. It keeps the box round its cells for as long as its points are
+/// not newer than that box, so it gets points of its own that are, with the same array.
+static void fill(vtkPolyData& shell, vtkPolyData& source)
+{
+    shell.ShallowCopy(&source);
+    vtkNew<vtkPoints> points;
+    points->SetData(source.GetPoints()->GetData());
+    shell.SetPoints(points);
+}
+
 /// The mapper draws its blocks in the order of their addresses, and what is drawn later covers what
 /// lies in the same place. So the mapper gets shells, which the blocks take in ascending order.
 void CompositeLayer::Bucket::setBlocks(std::vector<Block> blocks)
@@ -148,7 +159,7 @@ void CompositeLayer::Bucket::setBlocks(std::vector<Block> blocks)
         m_size += drawingCost(*m_blocks[i].data, m_look);
         if (shell.source != m_blocks[i].data) {
             shell.source = m_blocks[i].data;
-            shell.data->ShallowCopy(shell.source);
+            fill(*shell.data, *shell.source);
         }
         const host::Rgb& color = m_blocks[i].color;
         const double parts[3] = {color.red / 255.0, color.green / 255.0, color.blue / 255.0};
