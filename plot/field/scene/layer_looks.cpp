@@ -92,8 +92,17 @@ static std::optional<BlockLook> meshLook(const ShownMap& shown, const ContourGro
     return look;
 }
 
+/// Whether edges have the colour and the thickness of the style: those of volume zones without an
+/// order do not, as their cells in the tables show.
+static bool hasEdgeStyle(const ShownMap& shown)
+{
+    const auto& maps = shown.frame.fieldMaps();
+    return maps.hasOrderedZones(shown.map) || !maps.hasVolumeZones(shown.map);
+}
+
 static std::optional<BlockLook> edgesLook(const ShownMap& shown, const ContourGroups&)
 {
+    constexpr double kThinEdge = 0.2; // as in the first look
     const MapStyle style(shown);
     if (!style.flag(kMap.edgeLayer.show))
         return std::nullopt;
@@ -110,8 +119,11 @@ static std::optional<BlockLook> edgesLook(const ShownMap& shown, const ContourGr
             static_cast<BorderLocation_e>(style.number(kBorders[axis]));
     }
     look.recipe.edges.creaseAngle = style.frameReal(style::edgeDetails.creaseAngle);
-    look.mapper.thickness = style.real(kMap.edgeLayer.lineThickness);
-    look.color = paletteColor(style.number(kMap.edgeLayer.color));
+    look.mapper.thickness = kThinEdge;
+    if (hasEdgeStyle(shown)) {
+        look.mapper.thickness = style.real(kMap.edgeLayer.lineThickness);
+        look.color = paletteColor(style.number(kMap.edgeLayer.color));
+    }
     return look;
 }
 
