@@ -82,14 +82,6 @@ struct ShownPlot
     FrameView view;
 };
 
-static void writeAll(const QString& edits)
-{
-    for (const QString& edit : edits.split(' ', Qt::SkipEmptyParts)) {
-        const QStringList parts = edit.split('=');
-        write(("FieldMap/" + parts[0]).toUtf8().constData(), "all", parts[1].toDouble());
-    }
-}
-
 /// A square for each zone, ten to the right of the one before.
 class Squares : public host::ZoneSource
 {
@@ -227,63 +219,6 @@ class tst_FieldCanvas : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void columnsShow_data()
-    {
-        const Rows<QString, QString, QString, QString> row;
-        const char* const solid3D = "Surfaces/SurfacesToPlot=0";
-        row("mesh off", "field2d", "ShowMesh", "", "Mesh/Show=0");
-        row("mesh type in the plane", "kinds", "ShowMesh", solid3D, "Mesh/MeshType=2");
-        row("mesh color", "field2d", "ShowMesh", "", "Mesh/Color=0");
-        row("mesh by group", "field2d", "ShowMesh", "Mesh/Color=0", "Mesh/Color=101");
-        row("mesh pattern", "field2d", "ShowMesh", "", "Mesh/LinePattern=1");
-        row("mesh pattern length", "field2d", "ShowMesh", "Mesh/LinePattern=1",
-            "Mesh/PatternLength=7");
-        row("mesh thickness", "field2d", "ShowMesh", "", "Mesh/LineThickness=1");
-        row("shade off", "field2d", "ShowShade", "", "Shade/Show=0");
-        row("shade color", "field2d", "ShowShade", "", "Shade/Color=5");
-        row("shade light", "field3d", "ShowShade", solid3D, "Shade/UseLightingEffect=0");
-        row("contour off", "field2d", "ShowContour", "", "Contour/Show=0");
-        row("contour type", "field2d", "ShowContour", "", "Contour/ContourType=0");
-        row("flood by cell", "field2d", "ShowContour", "", "Contour/ContourType=3");
-        row("flood by", "field2d", "ShowContour", "", "Contour/FloodColoring=3");
-        row("lines by", "field2d", "ShowContour", "Contour/ContourType=0",
-            "Contour/LineContourGroup=3");
-        row("line color", "field2d", "ShowContour", "Contour/ContourType=0", "Contour/Color=3");
-        row("line color by group", "field2d", "ShowContour", "Contour/ContourType=0",
-            "Contour/Color=101");
-        row("line pattern", "field2d", "ShowContour", "Contour/ContourType=0",
-            "Contour/LinePattern=1");
-        row("line pattern length", "field2d", "ShowContour",
-            "Contour/ContourType=0 Contour/LinePattern=1", "Contour/PatternLength=7");
-        row("line thickness", "field2d", "ShowContour", "Contour/ContourType=0",
-            "Contour/LineThickness=1");
-        row("contour light", "field3d", "ShowContour", solid3D, "Contour/UseLightingEffect=0");
-        row("surfaces", "field3d", "ShowMesh", "", "Surfaces/SurfacesToPlot=4");
-        row("range of planes", "field3d", "ShowMesh", "Surfaces/SurfacesToPlot=4",
-            "Surfaces/KRange/Max=1");
-        row("edges off", "field2d", "ShowEdge", "", "EdgeLayer/Show=0");
-        row("edge color", "field2d", "ShowEdge", "", "EdgeLayer/Color=3");
-        row("edge thickness", "field2d", "ShowEdge", "", "EdgeLayer/LineThickness=1.2");
-    }
-
-    void columnsShow()
-    {
-        const auto [demo, layer, before, edit] = currentRow<QString, QString, QString, QString>();
-        openDemo(demo.toUtf8().constData());
-        write("FieldLayers/ShowMesh", "", 0);
-        write("FieldLayers/ShowEdge", "", 0);
-        write(("FieldLayers/" + layer).toUtf8().constData(), "", 1);
-        write("ContourGroups/Var", "", 4, 3); // the other two groups run alike
-        writeAll(before);
-        const QImage first = picture();
-        QVERIFY(shareOfChange(first, picture()) == 0.0);
-        writeAll(edit);
-        const double change = shareOfChange(first, picture());
-        QVERIFY2(change > 0.004, QByteArray::number(change));
-        document().undo().undo();
-        QCOMPARE(shareOfChange(first, picture()), 0.0);
-    }
-
     void colorsAreTheirs()
     {
         openDemo("field2d", 4);
