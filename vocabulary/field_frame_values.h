@@ -164,12 +164,13 @@ struct Streamtraces
         in.percent("LineThickness", CV_TEXT("Streamtrace line thickness"), 0.0001, 0.3);
 };
 
-/// Where the light comes from, seen from the viewer.
+/// Where the light comes from, seen by the viewer: at first over the left shoulder.
 struct LightSource
 {
     Group in;
-    RealKey azimuth = in.real("Azimuth", CV_TEXT("Light from the right in degrees"), -180, 180, 0);
-    RealKey elevation = in.real("Elevation", CV_TEXT("Light from above in degrees"), -90, 90, 0);
+    RealKey azimuth =
+        in.real("Azimuth", CV_TEXT("Light from the right in degrees"), -180, 180, -26.6);
+    RealKey elevation = in.real("Elevation", CV_TEXT("Light from above in degrees"), -90, 90, 28.2);
 };
 
 struct EdgeDetails

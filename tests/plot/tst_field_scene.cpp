@@ -125,7 +125,7 @@ static std::shared_ptr<LargeZone> openLarge()
     const auto data = std::make_shared<host::DataSet>();
     data->source = source;
     data->zones = {{"large", true, {300, 300, 1}, 90'000, 89'401, 2}};
-    data->variables = {{"X", {}, {}, 0}, {"Y", {}, {}, 1}};
+    data->variables = {{"X", {}, {}, 0}, {"Y", {}, {}, 1}, {"Lacking", {}, "lacking", 0}};
     data->contourVariables = {1};
     document().clear();
     document().execute(host::AddFrame {});
@@ -554,6 +554,20 @@ private Q_SLOTS:
         }
         QVERIFY(slices > 100);
         QCOMPARE(counters(FieldLayer::Mesh).built, 600);
+    }
+
+    /// They share a mapper with lines that have values.
+    void linesOfAZoneThatLacksTheVariable()
+    {
+        openLarge();
+        write("ContourGroups/Var", "", 3, 1);
+        write("FieldMap/Mesh/Color", "1", 101);
+        m_scene->setFrame(document().activeFrameId());
+        work();
+        vtkDataArray* const colors =
+            layer(FieldLayer::Mesh).geometry(1)->GetPointData()->GetScalars();
+        QVERIFY(colors);
+        QCOMPARE(static_cast<int>(colors->GetComponent(0, 0)), int(noValueColor().red));
     }
 
     void largeZonesAreMadeElsewhere()

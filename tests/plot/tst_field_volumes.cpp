@@ -394,8 +394,8 @@ private Q_SLOTS:
     {
         ShownBoxes shown;
         QVERIFY(shown.scene.lightDirection()[0] < -0.3); // over the left shoulder
-        edit("LightSource/Azimuth=26.6");
-        edit("LightSource/Elevation=61.8");
+        edit("LightSource/Azimuth=0");
+        edit("LightSource/Elevation=90");
         QVERIFY(std::abs(shown.scene.lightDirection()[1] - 1.0) < 1e-6);
     }
 

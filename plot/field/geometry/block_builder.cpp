@@ -151,6 +151,13 @@ vtkSmartPointer<vtkDataArray> BlockBuilder::colors(const BlockRecipe& recipe,
     return colorsBy(recipe.colorGroup, [&](int group) { return values(group, recipe, placed); });
 }
 
+vtkSmartPointer<vtkDataArray> BlockBuilder::lineColorsOf(const BlockRecipe& recipe,
+                                                         const PlacedSurface& placed) const
+{
+    const auto found = colors(recipe, placed);
+    return found ? found : noValueColors(placed.shape->GetNumberOfPoints());
+}
+
 vtkSmartPointer<vtkDataArray> BlockBuilder::floodArray(const BlockRecipe& recipe,
                                                        const PlacedSurface& placed) const
 {
@@ -224,7 +231,7 @@ Shape BlockBuilder::contourLines(const BlockRecipe& recipe, const PlacedSurface&
         return nullptr;
     scalars->SetName("value");
     Shape shape = facesOf(placed.shape, false);
-    const auto lineColors = recipe.colorGroup > 0 ? colors(recipe, placed) : nullptr;
+    const auto lineColors = recipe.colorGroup > 0 ? lineColorsOf(recipe, placed) : nullptr;
     shape->GetPointData()->SetScalars(scalars);
     if (lineColors)
         shape->GetPointData()->AddArray(lineColors);
@@ -245,7 +252,7 @@ Shape BlockBuilder::mesh(const BlockRecipe& recipe, const PlacedSurface& placed)
 {
     Shape shape = copyOf(placed.shape, false);
     if (recipe.colorGroup > 0)
-        shape->GetPointData()->SetScalars(colors(recipe, placed));
+        shape->GetPointData()->SetScalars(lineColorsOf(recipe, placed));
     Shape lines = meshLines(*shape);
     return recipe.arcLength ? withArcLength(*lines) : lines;
 }

@@ -74,6 +74,9 @@ private:
     vtkSmartPointer<vtkDataArray> colorsBy(int group, ValuesOf valuesOf) const;
     vtkSmartPointer<vtkDataArray> colors(const BlockRecipe& recipe,
                                          const PlacedSurface& placed) const;
+    /// The same for lines, which are drawn without values, too.
+    vtkSmartPointer<vtkDataArray> lineColorsOf(const BlockRecipe& recipe,
+                                               const PlacedSurface& placed) const;
     /// What colours a flood: colours, or coordinates in the texture of the group's bands.
     vtkSmartPointer<vtkDataArray> floodArray(const BlockRecipe& recipe,
                                              const PlacedSurface& placed) const;

@@ -402,18 +402,14 @@ bool FieldScene::isTranslucent() const
 
 std::array<double, 3> FieldScene::lightDirection() const
 {
-    // The angles of the frame are counted from here: over the viewer's left shoulder.
-    double azimuth = -26.6;
-    double elevation = 28.2;
-    if (const host::Frame* const drawn = frame()) {
-        const auto angle = [&](style::RealKey key) {
-            return drawn->values().real(host::Schema::instance().at(key));
-        };
-        azimuth += angle(style::lightSource.azimuth);
-        elevation += angle(style::lightSource.elevation);
-    }
-    const double right = vtkMath::RadiansFromDegrees(azimuth);
-    const double up = vtkMath::RadiansFromDegrees(elevation);
+    const host::Frame* const drawn = frame();
+    const auto angle = [drawn](style::RealKey key) {
+        return vtkMath::RadiansFromDegrees(
+            drawn ? drawn->values().real(host::Schema::instance().at(key))
+                  : style::entryOf(key).defaultNumber);
+    };
+    const double right = angle(style::lightSource.azimuth);
+    const double up = angle(style::lightSource.elevation);
     return {std::sin(right) * std::cos(up), std::sin(up), std::cos(right) * std::cos(up)};
 }
 
