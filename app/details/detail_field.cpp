@@ -107,7 +107,7 @@ private:
     QComboBox& m_box;
 };
 
-/// The names are listed anew only for other data.
+/// The list is made anew only when names differ.
 class VariableField : public DetailField
 {
 public:

@@ -12,7 +12,6 @@
 #include <vtkFloatArray.h>
 #include <vtkIdList.h>
 #include <vtkPointData.h>
-#include <vtkPolyDataNormals.h>
 
 #include <algorithm>
 #include <cmath>
@@ -55,22 +54,12 @@ const PlacedSurface* BlockBuilder::surface(const BlockRecipe& recipe, const doub
     return &placed.back();
 }
 
-static vtkSmartPointer<vtkDataArray> normalsOf(vtkPolyData* shape)
-{
-    vtkNew<vtkPolyDataNormals> normals;
-    normals->SetInputData(shape);
-    normals->SplittingOff();
-    normals->ConsistencyOn();
-    normals->Update();
-    return normals->GetOutput()->GetPointData()->GetNormals();
-}
-
 static Shape copyOf(vtkPolyData* shape, bool withNormals)
 {
     auto copy = Shape::New();
     copy->CopyStructure(shape);
     if (withNormals && shape->GetNumberOfPolys() > 0)
-        copy->GetPointData()->SetNormals(normalsOf(shape));
+        copy->GetPointData()->SetNormals(pointNormals(*shape));
     return copy;
 }
 

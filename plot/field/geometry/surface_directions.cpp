@@ -21,7 +21,7 @@ static Array zeroVectors(vtkIdType count)
     return vectors;
 }
 
-static vtkSmartPointer<vtkDataArray> pointNormals(vtkPolyData& shape)
+vtkSmartPointer<vtkDataArray> pointNormals(vtkPolyData& shape)
 {
     vtkNew<vtkPolyData> faces;
     faces->SetPoints(shape.GetPoints());

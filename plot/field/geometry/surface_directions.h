@@ -5,6 +5,10 @@
 
 namespace corvala::plot {
 
+/// Unit normals of the faces of a shape at all its points, of one sign as far as faces hang
+/// together; 0 where there are no faces, of which there must be some.
+vtkSmartPointer<vtkDataArray> pointNormals(vtkPolyData& shape);
+
 /// Unit normals of a surface at points of it, of any sign. Null for a surface without faces.
 vtkSmartPointer<vtkDoubleArray> normalsAt(const GlyphPoints& points, const ZoneSurface& surface,
                                           const PointChoice& choice);
