@@ -148,7 +148,7 @@ void ZoneStyleDialog::setVisible(bool visible)
 void ZoneStyleDialog::finishEditing()
 {
     if (m_tableView->isVisible())
-        m_tableView->setFocus();
+        m_tableView->finishEditing();
     EditSession::closeAll();
 }
 

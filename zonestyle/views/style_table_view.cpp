@@ -262,6 +262,17 @@ void StyleTableView::openMenuAtCurrentCell()
     openFor(currentIndex(), visibleRect(currentIndex()).center());
 }
 
+/// An open list of completions keeps it from its editor that the focus goes.
+void StyleTableView::finishEditing()
+{
+    setFocus();
+    QWidget* editor = state() == EditingState ? indexWidget(currentIndex()) : nullptr;
+    if (!editor)
+        return;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
 /// Without a selected row an edit would act on nothing.
 void StyleTableView::selectRowIfNone(const QModelIndex& index)
 {

@@ -44,6 +44,9 @@ public:
     /// 0 when none is remembered for the plot type of the active frame and this tab.
     int rememberedColumnWidth(int column) const;
 
+    /// Takes the focus; what was typed into an editor in a cell is committed.
+    void finishEditing();
+
     QSize minimumSizeHint() const override;
 
 protected:
