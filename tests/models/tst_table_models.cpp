@@ -158,55 +158,6 @@ struct Setting
     double value;
 };
 
-/// What a column of a table does that an ordinary one of its kind does not; empty for most.
-template<class Model>
-class Described : public Model
-{
-public:
-    Described()
-        : Model(nullptr)
-    {
-    }
-    QStringList oddities() const
-    {
-        QStringList texts;
-        const ColumnTable& table = this->columnTable();
-        for (int column = 0; column < table.size(); ++column)
-            texts << odditiesOf(table.at(column));
-        return texts;
-    }
-
-private:
-    static QString pathText(const StyleTarget& target)
-    {
-        QStringList names;
-        for (const char* name : target.path())
-            if (name)
-                names << name;
-        return names.join('.');
-    }
-    static QStringList odditiesOf(const ColumnDescriptor& column)
-    {
-        const QString header = QString(column.header).replace('\n', ' ');
-        QStringList texts;
-        if (!column.editOther.isEmpty())
-            texts << header + " edits " + pathText(column.editOther);
-        if (column.menuOther.isValid())
-            texts << header + " menu writes " + pathText(column.menuOther);
-        if (column.editRole != ColumnDescriptor::kAnyRole)
-            texts << header + QString(" takes role %1").arg(column.editRole);
-        if (column.isAlwaysRelevant)
-            texts << header + " is always relevant";
-        const bool editable = column.flags.testFlag(Qt::ItemIsEditable);
-        const bool opens = column.editorType == EditorType_TextPopup
-            || column.editorType == EditorType_ComboPopup
-            || column.editorType == EditorType_DynamicTextPopup;
-        if (editable != opens)
-            texts << header + " has an editor that does not open";
-        return texts;
-    }
-};
-
 } // namespace
 
 /// The tables of the tabs on the real engine: what they show, grey, offer and write.
@@ -365,6 +316,9 @@ private Q_SLOTS:
             "1|Zone 1|1|[x]|All surfaces|(1,0,1)|(1,0,1)|(1,0,1)");
         row("no surfaces", "surfaces 3D", {surfaces(10)}, "1|Zone 1|1|[x]|None|1,0,1|1,0,1|1,0,1");
 
+        row("volume in the plane", "volume", {{"PlotType", "", PlotType_Field2D}},
+            "1|Zone 1|1|[x]|([x])|([x])|([x])");
+
         const Setting blanking {"Blanking.Value.Include", "", 1};
         row("no blanking", "effects", {}, "1|Zone 1|1|[x]|([x])");
         row("no constraint", "effects", {blanking}, "1|Zone 1|1|[x]|([x])");
@@ -485,6 +439,7 @@ private Q_SLOTS:
         row("edge", "K-Index Border", 1, "FieldMap.EdgeLayer.KBorder 2-3 = 1");
         row("surfaces", "Surfaces to Plot", "None", "FieldMap.Surfaces.SurfacesToPlot 2-3 = 10");
         row("surfaces", "I-Plane Range", 2, "FieldMap.Surfaces.IRange 2-3 = 2 (4)");
+        row("surfaces", "J-Plane Range", 2, "FieldMap.Surfaces.JRange 2-3 = 2 (4)");
         row("surfaces", "K-Plane Range", 2, "FieldMap.Scatter.KRange 2-3 = 2 (3)");
         row("volume", "Show Slices", Qt::Checked,
             "FieldMap.VolumeMode.VolumeObjectsToPlot.ShowSlices 2-3 = true");
@@ -503,6 +458,8 @@ private Q_SLOTS:
         row("mesh", "Mesh Type", "Hidden line", "FieldMap.Mesh.MeshType 2-3 = 2");
         row("mesh", "Mesh Type", 2, "FieldMap.Mesh.MeshType 2-3 = 2");
         row("mesh", "Mesh Type", 2, "", Qt::DisplayRole);
+        for (const char* column : {"Line Pattern", "Pattern Length", "Line Thickness"})
+            row("mesh", column, 2, "", Qt::DisplayRole);
         row("mesh", "Mesh Type", "Hidden", "");
         row("mesh", "Mesh Type", 3, "FieldMap.Mesh.MeshType 2-3 = 3 (6)");
         row("mesh", "Mesh Color", 5, "");
@@ -760,46 +717,6 @@ private Q_SLOTS:
         ColumnMenu menu(*m_model, {0}, columnOf("Flood By"));
         QVERIFY(menu.choose("RGB"));
         QCOMPARE(takeWrites(), QString("FieldMap.Contour.FloodColoring 1 = 0"));
-    }
-
-    void haveTheseOdditiesOnly()
-    {
-        QStringList oddities;
-        oddities << Described<FieldStaticAreaModel>().oddities()
-                 << Described<LineStaticAreaModel>().oddities()
-                 << Described<FieldMeshModel>().oddities()
-                 << Described<FieldContourModel>().oddities()
-                 << Described<FieldContour3DModel>().oddities()
-                 << Described<FieldShadeModel>().oddities()
-                 << Described<FieldShade3DModel>().oddities()
-                 << Described<FieldVectorModel>().oddities()
-                 << Described<FieldScatterModel>().oddities()
-                 << Described<FieldEdgeModel>().oddities()
-                 << Described<FieldPointsModel>().oddities()
-                 << Described<FieldSurfacesModel>().oddities()
-                 << Described<FieldVolumeModel>().oddities()
-                 << Described<FieldEffectsModel>().oddities()
-                 << Described<FieldEffects3DModel>().oddities()
-                 << Described<LineDefinitionsModel>().oddities()
-                 << Described<LineDefinitionsXYModel>().oddities()
-                 << Described<LineDefinitionsPolarModel>().oddities();
-        const QStringList deliberate {
-            "Zone Name has an editor that does not open",
-            "Group Number takes role 2",
-            "Show Zone takes role 10",
-            "Mesh Type takes role 2",
-            "Line Pattern takes role 2",
-            "Pattern Length takes role 2",
-            "Line Thickness takes role 2",
-            "Index Skip has an editor that does not open",
-            "I-Plane Range edits FieldMap.Surfaces.IRange",
-            "J-Plane Range edits FieldMap.Surfaces.JRange",
-            "K-Plane Range edits FieldMap.Scatter.KRange",
-            "Show in Legend is always relevant",
-            "Theta Variable menu writes LineMap.Assign.XAxisVar",
-            "Radius Variable menu writes LineMap.Assign.YAxisVar",
-        };
-        QCOMPARE(oddities, deliberate);
     }
 
     void describeColumns_data()
