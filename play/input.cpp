@@ -62,23 +62,38 @@ static QPoint tremble(const QWidget* widget, const QPoint& position)
     return widget->rect().contains(position + right) ? right : -right;
 }
 
+/// Where a button was pressed last.
+static Target s_pressed;
+
+/// Where the mouse is while a button is held over a widget. Where the widget has gone since, the
+/// button is let go in the window of the press, and where that has gone, in any other: a button
+/// that never came up would spoil every press that follows.
+static Target heldTarget(QWidget* widget, const QPoint& position)
+{
+    const Target target = widget && widget->isVisible() ? targetOf(widget, position) : Target();
+    if (target.window)
+        return target;
+    return s_pressed.window ? s_pressed : Target {QGuiApplication::topLevelWindows().value(0), {}};
+}
+
 void pressMouse(QWidget* widget, const QPoint& position, Qt::MouseButton button,
                 Qt::KeyboardModifiers modifiers)
 {
-    const Target target = targetOf(widget, position);
-    send(QTest::MouseMove, target, Qt::NoButton, modifiers);
-    send(QTest::MousePress, target, button, modifiers);
+    s_pressed = targetOf(widget, position);
+    send(QTest::MouseMove, s_pressed, Qt::NoButton, modifiers);
+    send(QTest::MousePress, s_pressed, button, modifiers);
 }
 
 void moveMouse(QWidget* widget, const QPoint& position, Qt::KeyboardModifiers modifiers)
 {
-    send(QTest::MouseMove, targetOf(widget, position), Qt::NoButton, modifiers);
+    send(QTest::MouseMove, heldTarget(widget, position), Qt::NoButton, modifiers);
 }
 
 void releaseMouse(QWidget* widget, const QPoint& position, Qt::MouseButton button,
                   Qt::KeyboardModifiers modifiers)
 {
-    const Target target = movedBy(targetOf(widget, position), tremble(widget, position));
+    const QPoint aside = widget ? tremble(widget, position) : QPoint(1, 0);
+    const Target target = movedBy(heldTarget(widget, position), aside);
     send(QTest::MouseMove, target, Qt::NoButton, modifiers);
     send(QTest::MouseRelease, target, button, modifiers);
 }
@@ -87,8 +102,7 @@ void click(QWidget* widget, const QPoint& position, Qt::KeyboardModifiers modifi
 {
     const QPointer<QWidget> guard = widget;
     pressMouse(widget, position, Qt::LeftButton, modifiers);
-    if (guard)
-        releaseMouse(widget, position, Qt::LeftButton, modifiers);
+    releaseMouse(guard, position, Qt::LeftButton, modifiers);
 }
 
 void clickCentre(QWidget* widget)
@@ -110,12 +124,9 @@ void drag(QWidget* widget, const QPoint& from, const QPoint& to)
 {
     const QPointer<QWidget> guard = widget;
     pressMouse(widget, from);
-    if (guard)
-        moveMouse(widget, (from + to) / 2);
-    if (guard)
-        moveMouse(widget, to);
-    if (guard)
-        send(QTest::MouseRelease, targetOf(widget, to), Qt::LeftButton, Qt::NoModifier);
+    moveMouse(guard, (from + to) / 2);
+    moveMouse(guard, to);
+    send(QTest::MouseRelease, heldTarget(guard, to), Qt::LeftButton, Qt::NoModifier);
 }
 
 void turnWheel(QWidget* widget, const QPoint& position, const QPoint& steps,

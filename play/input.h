@@ -21,7 +21,8 @@ void doubleClick(QWidget* widget, const QPoint& position);
 void drag(QWidget* widget, const QPoint& from, const QPoint& to);
 
 /// The parts of a click. A right press returns when the menu that it opened is closed; its release
-/// belongs to that menu, as a person lets go of the button before choosing.
+/// belongs to that menu, as a person lets go of the button before choosing. Whatever becomes of the
+/// widget meanwhile (null is allowed), each press wants its release.
 void pressMouse(QWidget* widget, const QPoint& position, Qt::MouseButton button = Qt::LeftButton,
                 Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 void moveMouse(QWidget* widget, const QPoint& position,

@@ -280,8 +280,7 @@ void GestureDriver::changeUnderPressedButton()
     changeDocument();
     if (oneIn(2))
         play::waitUntilIdle();
-    if (viewport)
-        play::releaseMouse(viewport, position);
+    play::releaseMouse(viewport, position);
 }
 
 void GestureDriver::dragOverCells()
@@ -302,8 +301,7 @@ void GestureDriver::openMenu()
     const QPointer<QWidget> viewport = view->viewport();
     const QPoint position = anyPoint(viewport->rect());
     play::pressMouse(viewport, position, Qt::RightButton);
-    if (viewport)
-        play::releaseMouse(viewport, position, Qt::RightButton);
+    play::releaseMouse(viewport, position, Qt::RightButton);
 }
 
 /// An editor stays open for the gestures that follow.

@@ -152,8 +152,7 @@ void DialogFixture::rightClick(int map, int column)
     const QPoint position = cellRect(map, column).center();
     const QPointer<QWidget> viewport = table().viewport();
     play::pressMouse(viewport, position, Qt::RightButton);
-    if (viewport)
-        play::releaseMouse(viewport, position, Qt::RightButton);
+    play::releaseMouse(viewport, position, Qt::RightButton);
     runUntilIdle();
 }
 

@@ -7,6 +7,7 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -253,8 +254,16 @@ private Q_SLOTS:
     }
 
     /// The data may change while the button is down: the table goes, and the header with it.
-    void endsTheDragOfAHeaderThatGoes()
+    void endsTheDragOfAHeaderThatSeesNoRelease_data()
     {
+        QTest::addColumn<bool>("blocked");
+        QTest::newRow("another tab") << false;
+        QTest::newRow("a question") << true;
+    }
+
+    void endsTheDragOfAHeaderThatSeesNoRelease()
+    {
+        QFETCH(bool, blocked);
         class Timers : public QObject
         {
         public:
@@ -272,9 +281,12 @@ private Q_SLOTS:
         QHeaderView& header = *fixture.table().horizontalHeader();
         const int border = header.sectionViewportPosition(kZoneName) - 1;
         QTest::mousePress(header.viewport(), Qt::LeftButton, {}, {border, header.height() / 2});
-        for (const int tab : {1, 0})
+        QMessageBox question(&fixture.dialog());
+        if (blocked)
+            question.open();
+        for (const int tab : {blocked ? 0 : 1, 0})
             fixture.tabWidget().setCurrentIndex(tab);
-        header.resizeSection(kZoneName, 120);
+        header.resizeSection(kZoneName, header.sectionSize(kZoneName) + 30);
         Timers timers;
         fixture.table().installEventFilter(&timers);
         constexpr int kRounds = 50;

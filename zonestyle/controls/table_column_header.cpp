@@ -5,6 +5,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <limits>
+
 namespace corvala::sdk::ui::dialogs::uicontrols {
 
 TableColumnHeader::TableColumnHeader(Qt::Orientation orientation, QWidget* parent)
@@ -86,14 +88,34 @@ void TableColumnHeader::resizeEvent(QResizeEvent* event)
         qMax(sectionSizeHint(m_spareWidthSection), sectionSize(m_spareWidthSection) + spare));
 }
 
-/// A header that goes while its border is dragged does not see the button released. It would count
-/// as dragged for ever, and for that long the table paints itself again and again.
-void TableColumnHeader::hideEvent(QHideEvent* event)
+/// A header that goes while its border is dragged, or whose window a question blocks, does not see
+/// the button released. It would count as dragged for ever, and for that long the table paints
+/// itself again and again.
+void TableColumnHeader::endDrag()
 {
-    QMouseEvent release(QEvent::MouseButtonRelease, {}, Qt::LeftButton, Qt::NoButton,
+    const QPointF besideAllSections(std::numeric_limits<int>::max() / 2, 0);
+    QMouseEvent release(QEvent::MouseButtonRelease, besideAllSections, Qt::LeftButton, Qt::NoButton,
                         Qt::NoModifier);
     mouseReleaseEvent(&release);
+}
+
+void TableColumnHeader::hideEvent(QHideEvent* event)
+{
+    endDrag();
     QHeaderView::hideEvent(event);
+}
+
+void TableColumnHeader::mousePressEvent(QMouseEvent* event)
+{
+    window()->installEventFilter(this);
+    QHeaderView::mousePressEvent(event);
+}
+
+bool TableColumnHeader::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == window() && event->type() == QEvent::WindowBlocked)
+        endDrag();
+    return QHeaderView::eventFilter(watched, event);
 }
 
 /// The header shows no selection.

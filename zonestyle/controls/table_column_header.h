@@ -36,6 +36,8 @@ protected:
     void paintSection(QPainter* painter, const QRect& rect, int section) const override;
     void resizeEvent(QResizeEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     QRegion visualRegionForSelection(const QItemSelection& selection) const override;
 
 private:
@@ -45,6 +47,7 @@ private:
         int visualIndex;
     };
 
+    void endDrag();
     QString title(int section) const;
 
     int m_spareWidthSection = -1;
