@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QItemSelectionModel>
 #include <QMenu>
+#include <QPointer>
 #include <QTableView>
 
 #include <memory>
@@ -49,7 +50,7 @@ static void rightClick(ScriptRun& run, const QModelIndex& cell, WindowWatcher::K
                        const WindowWatcher::Handler& answer)
 {
     const QPoint position = run.dialog().show(cell).center();
-    QWidget* viewport = run.dialog().table().viewport();
+    const QPointer<QWidget> viewport = run.dialog().table().viewport();
     const QPoint place = viewport->mapToGlobal(position);
     bool opened = false;
     const HandlerScope scope(run, kind, [&](QWidget& window) {
