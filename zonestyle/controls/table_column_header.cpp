@@ -10,7 +10,7 @@
 namespace corvala::sdk::ui::dialogs::uicontrols {
 
 TableColumnHeader::TableColumnHeader(Qt::Orientation orientation, QWidget* parent)
-    : QHeaderView(orientation, parent)
+    : SelectionlessHeader(orientation, parent)
 {
     setStretchLastSection(false);
     setCascadingSectionResizes(false);
@@ -79,7 +79,7 @@ void TableColumnHeader::paintSection(QPainter* painter, const QRect& rect, int s
 
 void TableColumnHeader::resizeEvent(QResizeEvent* event)
 {
-    QHeaderView::resizeEvent(event);
+    SelectionlessHeader::resizeEvent(event);
     if (m_spareWidthSection < 0 || m_spareWidthSection >= count())
         return;
     const int spare = width() - length();
@@ -102,26 +102,20 @@ void TableColumnHeader::endDrag()
 void TableColumnHeader::hideEvent(QHideEvent* event)
 {
     endDrag();
-    QHeaderView::hideEvent(event);
+    SelectionlessHeader::hideEvent(event);
 }
 
 void TableColumnHeader::mousePressEvent(QMouseEvent* event)
 {
     window()->installEventFilter(this);
-    QHeaderView::mousePressEvent(event);
+    SelectionlessHeader::mousePressEvent(event);
 }
 
 bool TableColumnHeader::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == window() && event->type() == QEvent::WindowBlocked)
         endDrag();
-    return QHeaderView::eventFilter(watched, event);
-}
-
-/// The header shows no selection.
-QRegion TableColumnHeader::visualRegionForSelection(const QItemSelection&) const
-{
-    return {};
+    return SelectionlessHeader::eventFilter(watched, event);
 }
 
 } // namespace corvala::sdk::ui::dialogs::uicontrols

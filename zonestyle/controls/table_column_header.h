@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QHeaderView>
+#include "zonestyle/controls/selectionless_header.h"
 
 #include <vector>
 
@@ -9,7 +9,7 @@ namespace corvala::sdk::ui::dialogs::uicontrols {
 
 /// The column header of a style table: white titles on the brush that the model gives for each
 /// column. It belongs to one model and is attached to the view only while that model is shown.
-class TableColumnHeader : public QHeaderView
+class TableColumnHeader : public SelectionlessHeader
 {
     Q_OBJECT
 
@@ -38,7 +38,6 @@ protected:
     void hideEvent(QHideEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    QRegion visualRegionForSelection(const QItemSelection& selection) const override;
 
 private:
     struct SectionState

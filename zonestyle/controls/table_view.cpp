@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/controls/table_view.h"
 
+#include "zonestyle/controls/selectionless_header.h"
+
 #include <QAccessible>
 #include <QHeaderView>
 #include <QMouseEvent>
@@ -26,6 +28,7 @@ TableView::TableView(QWidget* parent)
     : TableViewWithPreferredDimensions(parent)
     , m_updateDeferrer(this)
 {
+    setVerticalHeader(new SelectionlessHeader(Qt::Vertical, this));
 }
 
 void TableView::setModel(QAbstractItemModel* newModel)
