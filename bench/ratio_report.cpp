@@ -8,11 +8,15 @@ namespace corvala::bench {
 void RecordingReporter::ReportRuns(const std::vector<Run>& runs)
 {
     ConsoleReporter::ReportRuns(runs);
-    for (const Run& run : runs)
-        if (!run.error_occurred && run.run_type == Run::RT_Iteration && run.iterations > 0)
-            m_milliseconds[run.run_name.function_name + (run.run_name.args.empty() ? "" : "/")
-                           + run.run_name.args] =
-                1000.0 * run.real_accumulated_time / static_cast<double>(run.iterations);
+    for (const Run& run : runs) {
+        if (run.error_occurred || run.run_type != Run::RT_Iteration || run.iterations == 0)
+            continue;
+        const std::string& args = run.run_name.args;
+        const double seconds =
+            m_isProcessorTime ? run.cpu_accumulated_time : run.real_accumulated_time;
+        m_milliseconds[run.run_name.function_name + (args.empty() ? "" : "/") + args] =
+            1000.0 * seconds / static_cast<double>(run.iterations);
+    }
 }
 
 double RecordingReporter::milliseconds(const std::string& name) const

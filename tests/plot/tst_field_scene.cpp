@@ -175,7 +175,7 @@ private Q_SLOTS:
     {
         const Rows<QString, int, int> row;
         row("in space", "field3d", 30, 30);
-        row("too many in space", "field3d", 110, 3); // the third: volumes without an order
+        row("too many in space", "field3d", 110, 6); // with volumes without an order, in two ranges
         row("flat", "field2d", 30, 2);
     }
 

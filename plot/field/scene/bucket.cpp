@@ -42,8 +42,10 @@ std::int64_t drawingCost(vtkPolyData& piece, const MapperLook& look)
     return cornerCount(piece) * (look.symbol.shape == SymbolLook::kNone ? 1 : kCornersPerSymbol);
 }
 
-CompositeLayer::Bucket::Bucket(const MapperLook& look, FieldLayer layer, bool flat)
+CompositeLayer::Bucket::Bucket(const MapperLook& look, CvlInt64 firstMap, FieldLayer layer,
+                               bool flat)
     : m_look(look)
+    , m_firstMap(firstMap)
 {
     m_mapper->SetInputDataObject(m_drawn);
     m_mapper->SetCompositeDataDisplayAttributes(m_attributes);

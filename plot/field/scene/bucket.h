@@ -35,9 +35,11 @@ public:
         }
     };
 
-    Bucket(const MapperLook& look, FieldLayer layer, bool flat);
+    /// `firstMap` tells the buckets of a look apart.
+    Bucket(const MapperLook& look, CvlInt64 firstMap, FieldLayer layer, bool flat);
 
     const MapperLook& look() const { return m_look; }
+    CvlInt64 firstMap() const { return m_firstMap; }
     vtkActor* actor() const { return m_actor; }
 
     /// What is drawn, in this order.
@@ -64,6 +66,7 @@ private:
     void setDepthShader(const std::string& depth);
 
     MapperLook m_look;
+    CvlInt64 m_firstMap;
     vtkNew<vtkActor> m_actor;
     vtkNew<vtkCompositePolyDataMapper2> m_mapper;
     vtkNew<vtkMultiBlockDataSet> m_drawn;

@@ -6,6 +6,7 @@
 #include <vtkRenderer.h>
 
 #include <algorithm>
+#include <numeric>
 #include <set>
 
 namespace corvala::plot {
@@ -48,52 +49,88 @@ std::vector<CompositeLayer::Part> CompositeLayer::parts(bool byRun) const
 struct CompositeLayer::Share
 {
     MapperLook look;
+    CvlInt64 firstMap = 0; ///< of the range of maps that it belongs to
     std::vector<Bucket::Block> blocks;
 };
+
+static vtkIdType costOf(const ShapePieces& pieces, const MapperLook& look)
+{
+    vtkIdType cost = 0;
+    for (const auto& piece : pieces)
+        cost += static_cast<vtkIdType>(drawingCost(*piece, look));
+    return cost;
+}
+
+/// Adds the shares of the maps from `first` on, `count` of them, of a part. Ranges of map numbers
+/// are halved until a mapper draws one in a moment: where they end does not depend on what is in
+/// them, so that the edit of a map is of no concern to other ranges.
+void CompositeLayer::addShares(Part::const_iterator begin, Part::const_iterator end, CvlInt64 first,
+                               CvlInt64 count, std::vector<Share>& shares)
+{
+    if (begin == end)
+        return;
+    const MapperLook& look = (*begin)->second.look.mapper;
+    const auto addCost = [&](vtkIdType cost, const auto& block) {
+        return cost + costOf(block->second.pieces, look);
+    };
+    if (count > 1
+        && (count > kMostMaps
+            || std::accumulate(begin, end, vtkIdType {0}, addCost) > kLargestPiece)) {
+        const CvlInt64 half = count / 2;
+        const auto middle = std::partition_point(
+            begin, end, [&](const auto& block) { return block->first < first + half; });
+        addShares(begin, middle, first, half, shares);
+        addShares(middle, end, first + half, half, shares);
+        return;
+    }
+    vtkIdType size = kLargestPiece;
+    for (; begin != end; ++begin) {
+        for (const auto& piece : (*begin)->second.pieces) {
+            const auto added = static_cast<vtkIdType>(drawingCost(*piece, look));
+            if (size + added > kLargestPiece) {
+                shares.push_back({look, first, {}});
+                size = 0;
+            }
+            shares.back().blocks.push_back({piece, (*begin)->second.look.color});
+            size += added;
+        }
+    }
+}
 
 std::vector<CompositeLayer::Share> CompositeLayer::shares() const
 {
     std::vector<Part> drawn = parts(!m_flat);
     if (drawn.size() > kMostMappers)
         drawn = parts(false);
+    CvlInt64 count = kMostMaps;
+    while (!m_blocks.empty() && count <= m_blocks.rbegin()->first)
+        count *= 2;
     std::vector<Share> shares;
-    for (const Part& part : drawn) {
-        vtkIdType size = kLargestPiece;
-        for (const auto& block : part) {
-            for (const auto& piece : block->second.pieces) {
-                const auto added =
-                    static_cast<vtkIdType>(drawingCost(*piece, block->second.look.mapper));
-                if (size + added > kLargestPiece) {
-                    shares.push_back({block->second.look.mapper, {}});
-                    size = 0;
-                }
-                shares.back().blocks.push_back({piece, block->second.look.color});
-                size += added;
-            }
-        }
-    }
+    for (const Part& part : drawn)
+        addShares(part.begin(), part.end(), 0, count, shares);
     return shares;
 }
 
 void CompositeLayer::arrange()
 {
-    std::multimap<MapperLook, std::unique_ptr<Bucket>> free;
+    std::multimap<std::pair<MapperLook, CvlInt64>, std::unique_ptr<Bucket>> free;
     for (std::unique_ptr<Bucket>& bucket : m_buckets)
-        free.emplace(bucket->look(), std::move(bucket));
+        free.emplace(std::pair(bucket->look(), bucket->firstMap()), std::move(bucket));
     m_buckets.clear();
     for (Share& share : shares()) {
-        const auto known = free.lower_bound(share.look);
-        if (known != free.end() && known->first == share.look) {
+        const auto known = free.lower_bound({share.look, share.firstMap});
+        if (known != free.end() && known->first == std::pair(share.look, share.firstMap)) {
             m_buckets.push_back(std::move(known->second));
             free.erase(known);
         } else {
-            m_buckets.push_back(std::make_unique<Bucket>(share.look, m_layer, m_flat));
+            m_buckets.push_back(
+                std::make_unique<Bucket>(share.look, share.firstMap, m_layer, m_flat));
             rendererOf(share.look).AddActor(m_buckets.back()->actor());
         }
         m_buckets.back()->setBlocks(std::move(share.blocks));
     }
-    for (const auto& [look, bucket] : free)
-        rendererOf(look).RemoveActor(bucket->actor());
+    for (const auto& [key, bucket] : free)
+        rendererOf(bucket->look()).RemoveActor(bucket->actor());
     m_isArranged = true;
     updateVisibility();
 }

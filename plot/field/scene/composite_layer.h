@@ -37,12 +37,14 @@ struct ViewScale
 /// mapper; colours are attributes of the blocks. What lies in the same place is covered by the map
 /// with the higher number: in space a mapper draws maps between which none looks otherwise, as long
 /// as that takes no more than `kMostMappers`. Beyond, and in a flat plot, where maps lie above each
-/// other, there is one mapper to a look. What is more than a mapper can draw in a moment is shared
-/// among several, one after the other.
+/// other, there is one mapper to a look. What is more than a mapper can draw in a moment, or than
+/// `kMostMaps`, is shared among several, one after the other: a mapper that is given other blocks
+/// uploads all that it has anew.
 class CompositeLayer
 {
 public:
     static constexpr std::size_t kMostMappers = 100;
+    static constexpr CvlInt64 kMostMaps = 64; ///< a power of two
 
     /// Work done since the layer was made, to see what an edit costs.
     struct Counters
@@ -107,6 +109,8 @@ private:
     using Part = std::vector<std::map<CvlInt64, Block>::const_iterator>;
 
     std::vector<Part> parts(bool byRun) const;
+    static void addShares(Part::const_iterator begin, Part::const_iterator end, CvlInt64 first,
+                          CvlInt64 count, std::vector<Share>& shares);
     std::vector<Share> shares() const;
     void arrange();
     vtkRenderer& rendererOf(const MapperLook& look) { return look.inFront ? m_front : m_back; }

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What an edit of one zone costs on the field canvas, for every column of the field tables, against
+// a plain redraw of the same scene, in one run: xvfb-run bench_field
+
+#include "ratio_report.h"
+
+#include "plot/field/view/field_view.h"
+#include "tests/plot/field_columns.h"
+#include "tests/plot/plot_document.h"
+
+#include <QApplication>
+
+#include <vtkRenderWindow.h>
+
+using namespace corvala::bench;
+using namespace corvala::plot;
+using namespace corvala::tests;
+using benchmark::State;
+
+namespace {
+
+constexpr QSize kSize {800, 600};
+constexpr int kFew = 100; ///< zones
+constexpr int kMany = 2000;
+constexpr double kLimit = 4.0; ///< times a redraw
+
+/// All of many zones, in the state in which a column matters.
+class Scene
+{
+public:
+    Scene(const Column& column, int zones)
+        : m_column(column)
+    {
+        openColumnsData(zones);
+        editStyle(column.before);
+        m_window->SetOffScreenRendering(1);
+        m_window->SetMultiSamples(0);
+        m_window->SetSize(kSize.width(), kSize.height());
+        m_view.attach(m_window);
+        m_view.setSize(kSize, 1.0);
+        m_view.setFlat(document().activeFrame()->plotType() == PlotType_Field2D);
+        m_view.scene().setFrame(document().activeFrameId());
+        m_connection =
+            document().events().connect([this](const auto& event) { m_view.scene().apply(event); });
+        // What is made once, shaders for one, is part of neither.
+        redraw();
+        editStyle(m_column.change, QByteArray::number(m_column.zone));
+        redraw();
+    }
+    ~Scene() { m_view.attach(nullptr); }
+
+    void redraw()
+    {
+        m_view.scene().advance(-1);
+        m_view.prepare();
+        m_window->Render();
+        m_window->WaitForCompletion();
+    }
+    /// Takes the edit of the column back, or makes it again.
+    void turn()
+    {
+        m_isEdited = !m_isEdited;
+        if (m_isEdited)
+            document().undo().redo();
+        else
+            document().undo().undo();
+    }
+
+private:
+    Column m_column;
+    bool m_isEdited = true;
+    vtkNew<vtkRenderWindow> m_window;
+    FieldView m_view {std::make_shared<SurfaceCache>()};
+    boost::signals2::scoped_connection m_connection;
+};
+
+std::string nameOf(const Column& column, int zones)
+{
+    return QStringLiteral("%1 in one of %2 zones").arg(column.change).arg(zones).toStdString();
+}
+
+std::unique_ptr<Scene> scene; ///< of the benchmark that runs: there is one document
+
+/// Measures `step` over and over in the scene of a column, which benchmarks in a row share.
+void measure(const std::string& name, const Column& column, int zones, void (*step)(Scene&))
+{
+    static std::string s_shown;
+    const std::string key = nameOf(column, zones);
+    benchmark::RegisterBenchmark(name.c_str(),
+                                 [=](State& state) {
+                                     if (!scene || s_shown != key) {
+                                         scene.reset();
+                                         scene = std::make_unique<Scene>(column, zones);
+                                         s_shown = key;
+                                     }
+                                     for (auto _ : state)
+                                         step(*scene);
+                                 })
+        ->Unit(benchmark::kMillisecond)
+        ->MinTime(0.2)
+        ->MeasureProcessCPUTime();
+}
+
+std::vector<Ratio> addBenchmarks()
+{
+    std::vector<Ratio> ratios;
+    for (const Column& column : fieldColumns()) {
+        for (const int zones : {kFew, kMany}) {
+            if (column.before.isEmpty())
+                continue; // a cell that is grey
+            const std::string key = nameOf(column, zones);
+            const std::string redraw = key + ": redraw";
+            measure(redraw, column, zones, [](Scene& shown) { shown.redraw(); });
+            measure(key, column, zones, [](Scene& shown) {
+                shown.turn();
+                shown.redraw();
+            });
+            ratios.push_back({key, key, redraw, kLimit});
+        }
+    }
+    return ratios;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv); // for fonts
+    benchmark::Initialize(&argc, argv);
+    const std::vector<Ratio> ratios = addBenchmarks();
+    RecordingReporter times;
+    times.setProcessorTime();
+    benchmark::RunSpecifiedBenchmarks(&times);
+    scene.reset();
+    return reportRatios(times, ratios) ? 0 : 1;
+}
