@@ -22,7 +22,7 @@ enum Kind { Signal, Unsorted };
 LineData dataOf(Kind kind, std::int64_t count)
 {
     std::mt19937 generator(1);
-    const auto noise = [&generator] { return generator() / 4294967296.0; };
+    const auto noise = [&generator] { return static_cast<double>(generator()) / 4294967296.0; };
     LineData data;
     for (std::int64_t i = 0; i < count; ++i) {
         const double place = static_cast<double>(i) / static_cast<double>(count);
