@@ -6,8 +6,7 @@
 #include <QTest>
 
 using namespace corvala::app;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 
 static QString summary(const Options& options)
 {

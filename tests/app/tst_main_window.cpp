@@ -35,8 +35,7 @@
 
 using namespace corvala;
 using namespace corvala::app;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 using host::Document;
 
 static host::Frame& frame()

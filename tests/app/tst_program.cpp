@@ -86,7 +86,6 @@ private Q_SLOTS:
     void wrongScriptsNameTheirLine_data()
     {
         const Rows<QString, QString> row;
-        row("no JSON", "tab Mesh", "not valid JSON");
         row("canvas without a screen", R"({"screenshot": "c.png", "of": "canvas"})", "X screen");
         row("missing data", R"({"open": "nowhere.cgns"})", "nowhere.cgns");
     }
@@ -152,17 +151,6 @@ private Q_SLOTS:
         QCOMPARE(runProgram({"--play", script}).exitCode, 0);
         QVERIFY(!readJson(first).is_discarded());
         QCOMPARE(text(readJson(first)), text(readJson(second)));
-    }
-
-    void needsNoScreenForAScript()
-    {
-        const QString script =
-            writeScript(m_folder.path(),
-                        {R"({"demo": "xy"})", R"({"dialog": "open"})",
-                         R"({"expect": {"visible": true, "page": "lineMapPage"}})"});
-        const ProgramRun run = runProgram({"--play", script});
-        QCOMPARE(run.errors, QString());
-        QCOMPARE(run.exitCode, 0);
     }
 
 private:

@@ -12,8 +12,7 @@
 
 using namespace corvala;
 using namespace corvala::host;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 
 class tst_DemoData : public QObject
 {
@@ -56,29 +55,6 @@ private Q_SLOTS:
                     QVERIFY(std::isfinite(values.array->GetTuple1(i)));
             }
         }
-    }
-
-    void assignsVariables()
-    {
-        std::string error;
-        QVERIFY(samples::openDemo("field3d", 4, error));
-        const Frame& frame = *Document::instance().activeFrame();
-        const auto value = [&](style::VariableKey key, std::int64_t index = -1) {
-            return frame.values().integer(Schema::instance().at(key), index);
-        };
-        QCOMPARE(frame.data()->variable(value(style::globalVector.wVar)).name, std::string("W"));
-        QCOMPARE(frame.data()->variable(value(style::contourGroups.var, 2)).name,
-                 std::string("Density"));
-        QCOMPARE(value(style::contourGroups.var, 3), 0);
-        QCOMPARE(value(style::globalScatter.var), 0);
-
-        QVERIFY(samples::openDemo("xy", 5, error));
-        const AttributeId y = style::lineMap.assign.yAxisVar;
-        const AttributeId radius = style::lineMap.assign.rAxisVar;
-        QCOMPARE(frame.lineInteger(y, 4), 2);
-        QCOMPARE(frame.lineInteger(y, 5), 3);
-        QCOMPARE(frame.data()->variable(frame.lineInteger(radius, 1)).name, std::string("Gain"));
-        QCOMPARE(Document::instance().undo().stepCount(), 0);
     }
 
     void refusesBadRequests()

@@ -9,8 +9,7 @@
 #include <random>
 
 using namespace corvala::host;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 
 static const Attribute& attributeOf(const std::vector<std::string>& path)
 {

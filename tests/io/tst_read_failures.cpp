@@ -19,8 +19,7 @@
 
 using namespace corvala::host;
 using namespace corvala::host::io;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 
 /// The header of a classic netCDF file with one variable of eight doubles from byte 80.
 static QByteArray netcdf()

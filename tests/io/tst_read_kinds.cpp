@@ -4,8 +4,7 @@
 
 using namespace corvala::host;
 using namespace corvala::host::io;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 
 static QByteArray xml(const QByteArray& type, const QByteArray& inner)
 {

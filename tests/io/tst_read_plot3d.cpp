@@ -6,8 +6,7 @@
 
 using namespace corvala::host;
 using namespace corvala::host::io;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 
 /// Writes the numbers of a Plot3D file in a layout.
 class Plot3DText

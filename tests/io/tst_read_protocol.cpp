@@ -8,8 +8,7 @@
 
 using namespace corvala::host;
 using namespace corvala::host::io;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 
 static DataSetIndex exampleIndex()
 {

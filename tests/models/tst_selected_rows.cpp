@@ -8,8 +8,7 @@
 #include <QTest>
 
 using namespace corvala::sdk::ui::dialogs::uicontrols;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 
 namespace {
 

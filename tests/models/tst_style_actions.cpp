@@ -17,6 +17,7 @@
 #include "zonestyle/models/field_static_area_model.h"
 #include "zonestyle/models/line_static_area_model.h"
 
+#include <sdk/base/cvl.h>
 #include <sdk/dialogs_common/launch_help_action.h>
 #include <sdk/dialogs_lineplot/curve_fit_settings_dialog.h>
 #include <sdk/dialogs_prompt/enter_ascii_character_dialog.h>
@@ -148,6 +149,9 @@ private Q_SLOTS:
                 : seen.startsWith("Show Surfaces:") ? 's'
                                                     : '?';
         QCOMPARE(asked, QString(c.asked));
+        const QByteArray layer = "Show" + QByteArray(c.category).replace("Layer", "");
+        QCOMPARE(CvlUtilFieldLayerIsActiveForFrame(CvlUtilFrameGetUniqueID(), layer),
+                 CvlBool(*c.answers == 'y'));
         const QString written = QString("FieldMap.%1.%2 1 = %3")
                                     .arg(c.category, c.attribute, c.value ? "true" : "false");
         QVERIFY2(takeWrites().endsWith(written), "written last, whatever the answers");

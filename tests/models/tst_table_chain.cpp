@@ -7,8 +7,7 @@
 #include <QTest>
 
 using corvala::sdk::ui::dialogs::uicontrols::ItemSubModelAbstract;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 
 namespace {
 

@@ -192,160 +192,144 @@ private Q_SLOTS:
 
     void showRows_data()
     {
-        const Rows<QString, QVector<Setting>,
-                   QString>
-            row; // chain, settings (before the look at the first map), row
-        row("mesh", "mesh", {}, "1|Zone 1|1|[x]|[x]|Overlay|#d62728|Solid|(2.00%)|0.15%");
+        // Chain, settings (before the look at the first map), row without what all maps show.
+        const Rows<QString, QVector<Setting>, QString> row;
+        row("mesh", "mesh", {}, "[x]|Overlay|#d62728|Solid|(2.00%)|0.15%");
         row("mesh dashed", "mesh",
             {{"FieldMap.Mesh.LinePattern", "1", 1}, {"FieldMap.Mesh.LineThickness", "1", 0.5}},
-            "1|Zone 1|1|[x]|[x]|Overlay|#d62728|Dashed|2.00%|0.50%");
+            "[x]|Overlay|#d62728|Dashed|2.00%|0.50%");
         row("mesh colored by a group", "mesh", {{"FieldMap.Mesh.Color", "1", 103}},
-            "1|Zone 1|1|[x]|[x]|Overlay|#365c8d C3|Solid|(2.00%)|0.15%");
+            "[x]|Overlay|#365c8d C3|Solid|(2.00%)|0.15%");
         row("mesh hidden", "mesh", {{"FieldMap.Mesh.Show", "1", 0}},
-            "1|Zone 1|1|[x]|([ ])|(Overlay)|(#d62728)|(Solid)|(2.00%)|(0.15%)");
+            "([ ])|(Overlay)|(#d62728)|(Solid)|(2.00%)|(0.15%)");
         row("mesh layer off", "mesh", {{"FieldLayers.ShowMesh", "", 0}},
-            "1|Zone 1|1|[x]|([x])|(Overlay)|(#d62728)|(Solid)|(2.00%)|(0.15%)");
+            "([x])|(Overlay)|(#d62728)|(Solid)|(2.00%)|(0.15%)");
 
         const Setting contours {"FieldLayers.ShowContour", "", 1};
         row("contour layer off", "contour", {},
-            "1|Zone 1|1|[x]|([x])|(Flood)|(C1: Pressure)|(C1: "
-            "Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)");
+            "([x])|(Flood)|(C1: Pressure)|(C1: Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)");
         row("flood", "contour 3D", {contours},
-            "1|Zone 1|1|[x]|[x]|Flood|C1: Pressure|(C1: "
-            "Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)|[x]");
+            "[x]|Flood|C1: Pressure|(C1: Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)|[x]");
         row("lines", "contour", {contours, {"FieldMap.Contour.ContourType", "1", 0}},
-            "1|Zone 1|1|[x]|[x]|Lines|(C1: Pressure)|C1: Pressure|#000000|Solid|(2.00%)|0.15%");
+            "[x]|Lines|(C1: Pressure)|C1: Pressure|#000000|Solid|(2.00%)|0.15%");
         row("dashed lines", "contour",
             {contours,
              {"FieldMap.Contour.ContourType", "1", 2},
              {"FieldMap.Contour.LinePattern", "1", 1}},
-            "1|Zone 1|1|[x]|[x]|Lines and flood|C1: Pressure|C1: "
-            "Pressure|#000000|Dashed|2.00%|0.15%");
+            "[x]|Lines and flood|C1: Pressure|C1: Pressure|#000000|Dashed|2.00%|0.15%");
         row("flood by cell in RGB", "contour",
             {contours,
              {"FieldMap.Contour.ContourType", "1", 3},
              {"FieldMap.Contour.FloodColoring", "1", 0}},
-            "1|Zone 1|1|[x]|[x]|Average cell flood|RGB|(C1: "
-            "Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)");
+            "[x]|Average cell flood|RGB|(C1: Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)");
         row("contour hidden", "contour 3D", {contours, {"FieldMap.Contour.Show", "1", 0}},
-            "1|Zone 1|1|[x]|([ ])|(Flood)|(C1: Pressure)|(C1: "
-            "Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)|([x])");
+            "([ ])|(Flood)|(C1: Pressure)|(C1: Pressure)|(#000000)|(Solid)|(2.00%)|(0.15%)|([x])");
 
         const Setting shades {"FieldLayers.ShowShade", "", 1};
         row("shade", "shade 3D", {shades, {"FieldMap.Shade.UseLightingEffect", "1", 0}},
-            "1|Zone 1|1|[x]|[x]|#d62728|[ ]");
-        row("shade layer off", "shade 3D", {}, "1|Zone 1|1|[x]|([x])|(#d62728)|([x])");
+            "[x]|#d62728|[ ]");
+        row("shade layer off", "shade 3D", {}, "([x])|(#d62728)|([x])");
         row("shade hidden", "shade 3D", {shades, {"FieldMap.Shade.Show", "1", 0}},
-            "1|Zone 1|1|[x]|([ ])|(#d62728)|([x])");
+            "([ ])|(#d62728)|([x])");
 
         const Setting vectors {"FieldLayers.ShowVector", "", 1};
         row("vector layer off", "vector", {},
-            "1|Zone 1|1|[x]|([x])|(Tail at point)|([ ])|(Plain)|(#d62728)|(Solid)|(2.00%)|(0.15%)");
+            "([x])|(Tail at point)|([ ])|(Plain)|(#d62728)|(Solid)|(2.00%)|(0.15%)");
         row("vectors", "vector",
             {vectors,
              {"FieldMap.Vector.IsTangent", "1", 1},
              {"FieldMap.Vector.VectorType", "1", 3},
              {"FieldMap.Vector.LinePattern", "1", 2}},
-            "1|Zone 1|1|[x]|[x]|Head only|[x]|Plain|#d62728|Dash dot|2.00%|0.15%");
+            "[x]|Head only|[x]|Plain|#d62728|Dash dot|2.00%|0.15%");
         row("vectors hidden", "vector", {vectors, {"FieldMap.Vector.Show", "1", 0}},
-            "1|Zone 1|1|[x]|([ ])|(Tail at point)|([ ])|(Plain)|(#d62728)|(Solid)|(2.00%)|(0.15%)");
+            "([ ])|(Tail at point)|([ ])|(Plain)|(#d62728)|(Solid)|(2.00%)|(0.15%)");
 
         const Setting symbols {"FieldLayers.ShowScatter", "", 1};
         const Setting points {"FieldMap.Scatter.SymbolShape.GeomShape", "1", 10};
         const Setting spheres {"FieldMap.Scatter.SymbolShape.GeomShape", "1", 8};
         row("scatter layer off", "scatter", {},
-            "1|Zone 1|1|[x]|([x])|(Square)|(2.00%)|(#d62728)|(0.15%)|(Line color)|(#ffffff)");
+            "([x])|(Square)|(2.00%)|(#d62728)|(0.15%)|(Line color)|(#ffffff)");
         row("scatter", "scatter", {symbols, {"FieldMap.Scatter.FillMode", "1", 1}},
-            "1|Zone 1|1|[x]|[x]|Square|2.00%|#d62728|0.15%|Specific color|#ffffff");
+            "[x]|Square|2.00%|#d62728|0.15%|Specific color|#ffffff");
         row("scatter hidden", "scatter", {symbols, {"FieldMap.Scatter.Show", "1", 0}},
-            "1|Zone 1|1|[x]|([ ])|(Square)|(2.00%)|(#d62728)|(0.15%)|(Line color)|(#ffffff)");
+            "([ ])|(Square)|(2.00%)|(#d62728)|(0.15%)|(Line color)|(#ffffff)");
         row("scatter by variable", "scatter",
             {symbols, {"GlobalScatter.Var", "", 4}, {"FieldMap.Scatter.SizeByVariable", "1", 1}},
-            "1|Zone 1|1|[x]|[x]|Square|By: 4: U|#d62728|0.15%|Line color|(#ffffff)");
+            "[x]|Square|By: 4: U|#d62728|0.15%|Line color|(#ffffff)");
         row("scatter by no variable", "scatter",
             {symbols, {"FieldMap.Scatter.SizeByVariable", "1", 1}},
-            "1|Zone 1|1|[x]|[x]|Square|By: unassigned|#d62728|0.15%|Line color|(#ffffff)");
+            "[x]|Square|By: unassigned|#d62728|0.15%|Line color|(#ffffff)");
         row("spheres in space", "scatter", {symbols, spheres},
-            "1|Zone 1|1|[x]|[x]|Sphere|2.00%|#d62728|(0.15%)|(Line color)|(#ffffff)");
+            "[x]|Sphere|2.00%|#d62728|(0.15%)|(Line color)|(#ffffff)");
         row("spheres in the plane", "scatter 2D", {symbols, spheres},
-            "1|Zone 1|1|[x]|[x]|Sphere|2.00%|#d62728|0.15%|Line color|(#ffffff)");
+            "[x]|Sphere|2.00%|#d62728|0.15%|Line color|(#ffffff)");
         row("points have no size", "scatter 2D", {symbols, points},
-            "1|Zone 1|1|[x]|[x]|Point|(2.00%)|#d62728|(0.15%)|(Line color)|(#ffffff)");
+            "[x]|Point|(2.00%)|#d62728|(0.15%)|(Line color)|(#ffffff)");
         row("characters", "scatter",
             {symbols,
              points,
              {"FieldMap.Scatter.SymbolShape.IsASCII", "1", 1},
              {"FieldMap.Scatter.SymbolShape.ASCIIShape.UseBaseFont", "1", 0},
              {"FieldMap.Scatter.SymbolShape.ASCIIShape.FontOverride", "1", 2}},
-            "1|Zone 1|1|[x]|[x]|A (Math)|2.00%|#d62728|0.15%|Line color|(#ffffff)");
+            "[x]|A (Math)|2.00%|#d62728|0.15%|Line color|(#ffffff)");
         row("characters of the base font", "scatter",
             {symbols,
              {"FieldMap.Scatter.SymbolShape.IsASCII", "1", 1},
              {"FieldMap.Scatter.SymbolShape.ASCIIShape.FontOverride", "1", 2}},
-            "1|Zone 1|1|[x]|[x]|A|2.00%|#d62728|0.15%|Line color|(#ffffff)");
+            "[x]|A|2.00%|#d62728|0.15%|Line color|(#ffffff)");
 
-        row("points carry nothing", "points", {}, "1|Zone 1|1|[x]|(Surface nodes)|(1,1,1)");
+        row("points carry nothing", "points", {}, "(Surface nodes)|(1,1,1)");
         row("points carry vectors", "points",
             {vectors, {"FieldMap.Points.IJKSkip.I", "1", 2}, {"FieldMap.Points.IJKSkip.K", "1", 3}},
-            "1|Zone 1|1|[x]|Surface nodes|2,1,3");
+            "Surface nodes|2,1,3");
         row("points carry symbols", "points", {symbols, {"FieldMap.Vector.Show", "1", 0}},
-            "1|Zone 1|1|[x]|Surface nodes|1,1,1");
+            "Surface nodes|1,1,1");
         row("points carry hidden symbols", "points", {symbols, {"FieldMap.Scatter.Show", "1", 0}},
-            "1|Zone 1|1|[x]|(Surface nodes)|(1,1,1)");
+            "(Surface nodes)|(1,1,1)");
 
         const auto surfaces = [](double choice) {
             return Setting {"FieldMap.Surfaces.SurfacesToPlot", "1", choice};
         };
         row("boundary", "surfaces 3D", {surfaces(0), {"FieldMap.Surfaces.IRange.Skip", "1", 2}},
-            "1|Zone 1|1|[x]|Boundary cell faces|1,0,2|1,0,1|1,0,1");
-        row("I-planes", "surfaces 3D", {surfaces(2)},
-            "1|Zone 1|1|[x]|I-Planes|1,0,1|(1,0,1)|(1,0,1)");
-        row("J-planes", "surfaces 3D", {surfaces(3)},
-            "1|Zone 1|1|[x]|J-Planes|(1,0,1)|1,0,1|(1,0,1)");
-        row("K-planes", "surfaces 3D", {surfaces(4)},
-            "1|Zone 1|1|[x]|K-Planes|(1,0,1)|(1,0,1)|1,0,1");
-        row("IJ-planes", "surfaces 3D", {surfaces(5)},
-            "1|Zone 1|1|[x]|IJ-Planes|1,0,1|1,0,1|(1,0,1)");
-        row("JK-planes", "surfaces 3D", {surfaces(6)},
-            "1|Zone 1|1|[x]|JK-Planes|(1,0,1)|1,0,1|1,0,1");
-        row("IK-planes", "surfaces 3D", {surfaces(7)},
-            "1|Zone 1|1|[x]|IK-Planes|1,0,1|(1,0,1)|1,0,1");
-        row("IJK-planes", "surfaces 3D", {surfaces(8)},
-            "1|Zone 1|1|[x]|IJK-Planes|1,0,1|1,0,1|1,0,1");
-        row("all surfaces", "surfaces 3D", {surfaces(9)},
-            "1|Zone 1|1|[x]|All surfaces|(1,0,1)|(1,0,1)|(1,0,1)");
-        row("no surfaces", "surfaces 3D", {surfaces(10)}, "1|Zone 1|1|[x]|None|1,0,1|1,0,1|1,0,1");
+            "Boundary cell faces|1,0,2|1,0,1|1,0,1");
+        row("I-planes", "surfaces 3D", {surfaces(2)}, "I-Planes|1,0,1|(1,0,1)|(1,0,1)");
+        row("J-planes", "surfaces 3D", {surfaces(3)}, "J-Planes|(1,0,1)|1,0,1|(1,0,1)");
+        row("K-planes", "surfaces 3D", {surfaces(4)}, "K-Planes|(1,0,1)|(1,0,1)|1,0,1");
+        row("IJ-planes", "surfaces 3D", {surfaces(5)}, "IJ-Planes|1,0,1|1,0,1|(1,0,1)");
+        row("JK-planes", "surfaces 3D", {surfaces(6)}, "JK-Planes|(1,0,1)|1,0,1|1,0,1");
+        row("IK-planes", "surfaces 3D", {surfaces(7)}, "IK-Planes|1,0,1|(1,0,1)|1,0,1");
+        row("IJK-planes", "surfaces 3D", {surfaces(8)}, "IJK-Planes|1,0,1|1,0,1|1,0,1");
+        row("all surfaces", "surfaces 3D", {surfaces(9)}, "All surfaces|(1,0,1)|(1,0,1)|(1,0,1)");
+        row("no surfaces", "surfaces 3D", {surfaces(10)}, "None|1,0,1|1,0,1|1,0,1");
 
         row("volume in the plane", "volume", {{"PlotType", "", PlotType_Field2D}},
-            "1|Zone 1|1|[x]|([x])|([x])|([x])");
+            "([x])|([x])|([x])");
 
         const Setting blanking {"Blanking.Value.Include", "", 1};
-        row("no blanking", "effects", {}, "1|Zone 1|1|[x]|([x])");
-        row("no constraint", "effects", {blanking}, "1|Zone 1|1|[x]|([x])");
+        row("no blanking", "effects", {}, "([x])");
+        row("no constraint", "effects", {blanking}, "([x])");
 
         const Setting light {"FieldLayers.UseLightingEffect", "", 1};
         const Setting glass {"FieldLayers.UseTranslucency", "", 1};
         const Setting glassy {"FieldMap.Effects.UseTranslucency", "1", 1};
-        row("no light", "effects 3D", {}, "1|Zone 1|1|[x]|([x])|(Gouraud)|([ ])|(50)");
+        row("no light", "effects 3D", {}, "([x])|(Gouraud)|([ ])|(50)");
         row("light", "effects 3D", {light, {"FieldMap.Contour.UseLightingEffect", "1", 0}},
-            "1|Zone 1|1|[x]|([x])|Gouraud|([ ])|(50)");
+            "([x])|Gouraud|([ ])|(50)");
         row("light on nothing", "effects 3D",
             {light,
              {"FieldMap.Contour.UseLightingEffect", "1", 0},
              {"FieldMap.Shade.UseLightingEffect", "1", 0}},
-            "1|Zone 1|1|[x]|([x])|(Gouraud)|([ ])|(50)");
-        row("wire frame", "effects 3D", {glass, glassy},
-            "1|Zone 1|1|[x]|([x])|(Gouraud)|([x])|(50)");
+            "([x])|(Gouraud)|([ ])|(50)");
+        row("wire frame", "effects 3D", {glass, glassy}, "([x])|(Gouraud)|([x])|(50)");
         row("translucent mesh", "effects 3D", {glass, glassy, {"FieldMap.Mesh.MeshType", "1", 2}},
-            "1|Zone 1|1|[x]|([x])|(Gouraud)|[x]|50");
-        row("translucent contour", "effects 3D", {glass, contours},
-            "1|Zone 1|1|[x]|([x])|(Gouraud)|[ ]|(50)");
+            "([x])|(Gouraud)|[x]|50");
+        row("translucent contour", "effects 3D", {glass, contours}, "([x])|(Gouraud)|[ ]|(50)");
         row("contour lines", "effects 3D",
             {glass, contours, {"FieldMap.Contour.ContourType", "1", 0}},
-            "1|Zone 1|1|[x]|([x])|(Gouraud)|([ ])|(50)");
+            "([x])|(Gouraud)|([ ])|(50)");
         row("translucent shade", "effects 3D",
             {glass, glassy, shades, {"FieldMap.Effects.LightingEffect", "1", 0}},
-            "1|Zone 1|1|[x]|([x])|(Paneled)|[x]|50");
+            "([x])|(Paneled)|[x]|50");
 
         row("XY definitions", "xy", {}, "1|Force|[x]|1: Zone 1|None|Always|1: Time|2: Force|X1|Y1");
         row("spline is not sorted", "xy",
@@ -372,7 +356,8 @@ private Q_SLOTS:
         open(chain);
         for (const Setting& setting : settings)
             QVERIFY(setStyle(setting.path, setting.maps, setting.value));
-        QCOMPARE(rowText(*m_model, 0), row);
+        const QString shown = m_model->rowCount() == 6 ? "" : "1|Zone 1|1|[x]|";
+        QCOMPARE(rowText(*m_model, 0), shown + row);
         for (int column = 0; column < m_model->columnCount(); ++column) {
             const QModelIndex cell = m_model->index(0, column);
             if (cell.data().userType() == QMetaType::QColor)
@@ -563,13 +548,11 @@ private Q_SLOTS:
             "Primary value flood", "FieldMap.Contour.ContourType 1,3 = 4");
         row("contour", "Flood By",
             "C1: Pressure|C2: Density|C3: unassigned|C4: unassigned|C5: unassigned|C6: "
-            "unassigned|C7: "
-            "unassigned|C8: unassigned|-|(RGB)",
+            "unassigned|C7: unassigned|C8: unassigned|-|(RGB)",
             "C3: unassigned", "FieldMap.Contour.FloodColoring 1,3 = 3");
         row("contour", "Lines By",
             "C1: Pressure|C2: Density|C3: unassigned|C4: unassigned|C5: unassigned|C6: "
-            "unassigned|C7: "
-            "unassigned|C8: unassigned",
+            "unassigned|C7: unassigned|C8: unassigned",
             "C8: unassigned", "FieldMap.Contour.LineContourGroup 1,3 = 8");
         row("contour", "Line Color", "<colors and groups>");
         row("contour 3D", "Use Lighting", "Yes|No", "No",
@@ -712,59 +695,53 @@ private Q_SLOTS:
     void enableRGBWithItsVariables()
     {
         open("contour");
-        for (const char* channel : {"RedVar", "GreenVar", "BlueVar"})
+        for (const char* channel : {"RedVar", "GreenVar", "BlueVar"}) {
+            QVERIFY(!ColumnMenu(*m_model, {0}, columnOf("Flood By")).choose("RGB"));
             QVERIFY(setStyle(QString("GlobalRGB.") + channel, "", 3));
-        ColumnMenu menu(*m_model, {0}, columnOf("Flood By"));
-        QVERIFY(menu.choose("RGB"));
+        }
+        QVERIFY(ColumnMenu(*m_model, {0}, columnOf("Flood By")).choose("RGB"));
         QCOMPARE(takeWrites(), QString("FieldMap.Contour.FloodColoring 1 = 0"));
     }
 
     void describeColumns_data()
     {
-        const Rows<QString> row;
+        const Rows<QString> add;
+        const auto row = [&add](const char* chain, const QString& columns) {
+            add(chain,
+                "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, "
+                    + columns);
+        };
         // Header, i/p/s for the brush, editor type and option, flags: e editable, c checkable.
         row("mesh",
-            "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone "
-            "i 7/0 c, Show Mesh p 7/0 c, Mesh Type p 3/1, Mesh Color p 8/0, Line "
-            "Pattern s 3/1, Pattern Length s 5/0, Line Thickness s 5/0");
+            "Show Mesh p 7/0 c, Mesh Type p 3/1, Mesh Color p 8/0, Line Pattern s 3/1, Pattern "
+            "Length s 5/0, Line Thickness s 5/0");
         row("contour 3D",
-            "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, Show "
-            "Contour p 7/0 c, Contour Type p 3/1, Flood By p 3/4, Lines By p 3/4, Line Color s "
-            "8/0, "
-            "Line Pattern s 3/1, Pattern Length s 5/0, Line Thickness s 5/0, Use Lighting s 7/0 c");
-        row("shade 3D",
-            "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, Show "
-            "Shade p 7/0 c, Shade Color p 8/0, Use Lighting s 7/0 c");
+            "Show Contour p 7/0 c, Contour Type p 3/1, Flood By p 3/4, Lines By p 3/4, Line Color "
+            "s 8/0, Line Pattern s 3/1, Pattern Length s 5/0, Line Thickness s 5/0, Use Lighting s "
+            "7/0 c");
+        row("shade 3D", "Show Shade p 7/0 c, Shade Color p 8/0, Use Lighting s 7/0 c");
         row("vector",
-            "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, Show "
-            "Vector p 7/0 c, Vector Type p 3/1, Vector Tangents p 7/0 c, Head Style s 3/1, Line "
-            "Color s 8/0, Line Pattern s 3/1, Pattern Length s 5/0, Line Thickness s 5/0");
+            "Show Vector p 7/0 c, Vector Type p 3/1, Vector Tangents p 7/0 c, Head Style s 3/1, "
+            "Line Color s 8/0, Line Pattern s 3/1, Pattern Length s 5/0, Line Thickness s 5/0");
         row("scatter",
-            "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, Show "
-            "Scatter p 7/0 c, Symbol Shape p 4/1, Scatter Size p 4/0, Outline Color s 8/0, Line "
-            "Thickness s 3/0, Fill Mode s 3/1, Fill Color s 8/0");
+            "Show Scatter p 7/0 c, Symbol Shape p 4/1, Scatter Size p 4/0, Outline Color s 8/0, "
+            "Line Thickness s 3/0, Fill Mode s 3/1, Fill Color s 8/0");
         row("edge",
-            "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, Show "
-            "Edges p 7/0 c, Edge Type p 3/1, Edge Color p 8/0, Line Thickness p 5/0, I-Index "
+            "Show Edges p 7/0 c, Edge Type p 3/1, Edge Color p 8/0, Line Thickness p 5/0, I-Index "
             "Border s 3/1, J-Index Border s 3/1, K-Index Border s 3/1");
-        row("points",
-            "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, Points "
-            "to Plot p 3/1, Index Skip s 1/0");
+        row("points", "Points to Plot p 3/1, Index Skip s 1/0");
         row("surfaces",
-            "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, Surfaces "
-            "to Plot p 3/1, I-Plane Range s 2/0, J-Plane Range s 2/0, K-Plane Range s 2/0");
-        row("volume",
-            "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, Show "
-            "Iso-Surfaces p 7/0 c, Show Slices p 7/0 c, Show Streamtraces p 7/0 c");
+            "Surfaces to Plot p 3/1, I-Plane Range s 2/0, J-Plane Range s 2/0, K-Plane Range s "
+            "2/0");
+        row("volume", "Show Iso-Surfaces p 7/0 c, Show Slices p 7/0 c, Show Streamtraces p 7/0 c");
         row("effects 3D",
-            "Zone Number i 0/0, Zone Name i 1/2, Group Number i 1/0 e, Show Zone i 7/0 c, Use "
-            "Value Blanking p 7/0 c, Lighting Effect p 3/1, Use Surface Translucency p 7/0 c, "
+            "Use Value Blanking p 7/0 c, Lighting Effect p 3/1, Use Surface Translucency p 7/0 c, "
             "Surface Translucency s 3/0");
-        row("xy",
-            "Map Number i 0/0, Map Name i 9/2 e, Show Map i 7/0 c, Zone p 6/2 e, "
-            "Sort s 3/1, Show in Legend s 3/1, X-Axis Variable p 6/3 e, Y-Axis "
-            "Variable p 6/3 e, Which X-Axis s 3/0, Which Y-Axis s 3/0");
-        row("polar",
+        add("xy",
+            "Map Number i 0/0, Map Name i 9/2 e, Show Map i 7/0 c, Zone p 6/2 e, Sort s 3/1, Show "
+            "in Legend s 3/1, X-Axis Variable p 6/3 e, Y-Axis Variable p 6/3 e, Which X-Axis s "
+            "3/0, Which Y-Axis s 3/0");
+        add("polar",
             "Map Number i 0/0, Map Name i 9/2 e, Show Map i 7/0 c, Zone p 6/2 e, Sort s 3/1, Show "
             "in Legend s 3/1, Theta Variable p 6/3 e, Radius Variable p 6/3 e");
     }

@@ -21,8 +21,6 @@
 #include <QTabWidget>
 #include <QTableView>
 
-#include <numeric>
-
 namespace corvala::tests {
 
 using Json = nlohmann::json;
@@ -43,17 +41,12 @@ const std::vector<GestureDriver::Gesture>& GestureDriver::gestures()
     using D = GestureDriver;
     static const std::vector<Gesture> all {
         {"change", 14, &D::changeDocument},
-        {"click a cell", 14, &D::clickCell},
-        {"click a check box", 10, &D::clickCheckBox},
+        {"click", 30, &D::click},
         {"change under a pressed button", 2, &D::changeUnderPressedButton},
-        {"drag over cells", 3, &D::dragOverCells},
+        {"drag", 10, &D::drag},
         {"right click", 16, &D::openMenu},
-        {"double click", 8, &D::doubleClickCell},
-        {"drag a header", 3, &D::dragHeader},
-        {"double click a header", 2, &D::doubleClickHeader},
-        {"click a header", 2, &D::clickHeader},
+        {"double click", 12, &D::doubleClick},
         {"wheel", 4, &D::turnWheel},
-        {"scroll bar", 3, &D::dragScrollBar},
         {"tab", 8, &D::clickTab},
         {"key", 12, &D::pressKey},
         {"type", 5, &D::typeText},
@@ -84,118 +77,73 @@ void GestureDriver::step()
         Watchdog::begin("change");
         return changeDocument();
     }
-    const auto add = [](int sum, const Gesture& gesture) { return sum + gesture.weight; };
-    static const int total = std::accumulate(gestures().begin(), gestures().end(), 0, add);
-    int weight = below(total);
-    for (const Gesture& gesture : gestures()) {
-        weight -= gesture.weight;
-        if (weight >= 0)
-            continue;
-        Watchdog::begin(gesture.name);
-        return (this->*gesture.play)();
-    }
+    const Gesture& gesture = byWeight(gestures());
+    Watchdog::begin(gesture.name);
+    (this->*gesture.play)();
 }
 
 // On the document.
 
-Json GestureDriver::anyMaps()
-{
-    static const std::vector<const char*> sets {"1", "2", "1-3", "2,4", "3-5", "all"};
-    return anyOf(sets);
-}
-
-Json GestureDriver::anyStyle()
-{
-    struct Style
-    {
-        std::vector<const char*> path;
-        int values;
-    };
-    static const std::vector<Style> styles {{{"FieldMap", "Mesh", "Show"}, 2},
-                                            {{"FieldMap", "Mesh", "MeshType"}, 3},
-                                            {{"FieldMap", "Mesh", "Color"}, 60},
-                                            {{"FieldMap", "Mesh", "LinePattern"}, 6},
-                                            {{"FieldMap", "Contour", "ContourType"}, 5},
-                                            {{"FieldMap", "Group"}, 9},
-                                            {{"FieldMap", "Shade", "UseLightingEffect"}, 2},
-                                            {{"LineMap", "Assign", "XAxisVar"}, 7},
-                                            {{"LineMap", "Assign", "Zone"}, 4},
-                                            {{"LineMap", "Lines", "Color"}, 60}};
-    const Style style = anyOf(styles);
-    Json line {{"set", style.path}, {"maps", anyMaps()}};
-    const bool isSwitch = style.values == 2;
-    const int value = below(style.values + 1);
-    line["value"] = isSwitch ? Json(value > 0) : Json(value);
-    return line;
-}
-
+/// "$m" stands for a set of maps, "$b" for a truth value, "$n" for a digit.
 Json GestureDriver::anyChange()
 {
-    static const std::vector<const char*> demos {"field2d",   "field3d", "kinds",
-                                                 "transient", "xy",      "polar"};
-    static const std::vector<const char*> layers {"ShowMesh",   "ShowContour", "ShowShade",
-                                                  "ShowVector", "ShowEdge",    "ShowLines"};
-    static const std::vector<const char*> ops {"add", "remove", "assign"};
-    const char* const sets[] = {"FieldMaps", "LineMaps"};
-    const char* const renamed[] = {"zone", "variable", "lineMap"};
-    switch (below(40)) {
-    case 0: {
-        const std::string demo = anyOf(demos);
-        const bool isLine = demo == "xy" || demo == "polar";
-        Json line {{"demo", demo}};
-        if (demo != "kinds" && demo != "transient" && oneIn(2))
-            line[isLine ? "maps" : "zones"] = anyOf(std::vector<int> {1, 3, 40, 300});
-        return line;
-    }
-    case 1: return oneIn(6) ? Json {{"data", "none"}} : anyStyle();
-    case 2:
-    case 3:
-    case 4: return {{"plotType", anyOf(std::vector<int> {1, 2, 1, 2, 3, 5, 0, 4, 1, 2, 3})}};
-    case 5: {
-        const int frames = host::Document::instance().frameCount();
-        if (frames < 3 && oneIn(2))
-            return {{"frame", "new"}};
-        return oneIn(8) ? Json {{"frame", "delete"}} : Json {{"frame", between(1, 3)}};
-    }
-    case 6:
-    case 7:
-    case 8: return {{"layer", anyOf(layers)}, {"on", oneIn(2)}};
-    case 9:
-    case 10:
-    case 11: return {{"active", sets[below(2)]}, {"maps", anyMaps()}, {"op", anyOf(ops)}};
-    case 12: return {{"pick", Json::array({{{"zone", between(1, 4)}}, {{"lineMap", 2}}})}};
-    case 13:
-    case 14: return {{"time", below(4)}};
-    case 15:
-    case 16:
-    case 17:
-        return {{"event", below(60)},
-                {"parameters",
-                 {anyOf(std::vector<const char*> {"FieldMap", "PlotType", "LineMap", "Linking"})}}};
-    case 18:
-        return oneIn(3) ? Json {{"deleteMaps", anyOf(std::vector<const char*> {"1", "2,4"})}}
-                        : anyStyle();
-    case 19: return {{"symbols", {{"pieChart", oneIn(2)}, {"extended", oneIn(2)}}}};
-    case 20: {
-        Json tabs = Json::array();
-        for (int tab = 0; tab < 7; ++tab) {
-            if (!oneIn(4))
-                tabs.push_back(tab);
-        }
-        return {{"mappingTabs", tabs}};
-    }
-    case 21:
-    case 22:
-        return {{"rename", anyOf(std::vector<const char*> {"a", "wing/upper", "Größe", "&ZN&"})},
-                {renamed[below(3)], between(1, 4)}};
-    case 23:
-    case 24:
-    case 25:
-    case 26: return {{"undo", between(1, 2)}};
-    case 27:
-    case 28: return {{"redo", 1}};
-    default: return anyStyle();
-    }
+    struct Change
+    {
+        int weight;
+        const char* line;
+    };
+    static const std::vector<Change> changes {
+        {2, R"({"demo": "field2d", "zones": 300})"},
+        {1, R"({"demo": "field3d"})"},
+        {1, R"({"demo": "kinds"})"},
+        {1, R"({"demo": "transient"})"},
+        {1, R"({"demo": "xy", "maps": 40})"},
+        {1, R"({"demo": "xy", "maps": 3})"},
+        {1, R"({"demo": "polar"})"},
+        {1, R"({"data": "none"})"},
+        {16, R"({"plotType": $n})"}, // most are refused
+        {8, R"({"plotType": 1})"},
+        {8, R"({"plotType": 2})"},
+        {2, R"({"frame": "new"})"},
+        {1, R"({"frame": "delete"})"},
+        {6, R"({"frame": $n})"},
+        {8, R"({"layer": "ShowMesh", "on": $b})"},
+        {4, R"({"layer": "ShowContour", "on": $b})"},
+        {4, R"({"layer": "ShowVector", "on": $b})"},
+        {4, R"({"layer": "ShowLines", "on": $b})"},
+        {6, R"({"active": "FieldMaps", "maps": $m, "op": "add"})"},
+        {6, R"({"active": "FieldMaps", "maps": $m, "op": "remove"})"},
+        {6, R"({"active": "LineMaps", "maps": $m, "op": "assign"})"},
+        {6, R"({"pick": [{"zone": $n}, {"lineMap": 2}]})"},
+        {12, R"({"time": $n})"},
+        {6, R"({"event": 1$n, "parameters": ["FieldMap"]})"},
+        {6, R"({"event": $n, "parameters": ["PlotType"]})"},
+        {6, R"({"event": 5$n, "parameters": ["Linking"]})"},
+        {1, R"({"deleteMaps": "1"})"},
+        {1, R"({"deleteMaps": "2,4"})"},
+        {6, R"({"symbols": {"pieChart": $b, "extended": $b}})"},
+        {3, R"({"mappingTabs": [0, 1, 2, 3, 4, 5]})"},
+        {3, R"({"mappingTabs": [1, 3, 6]})"},
+        {4, R"({"rename": "wing/upper", "zone": $n})"},
+        {4, R"({"rename": "Größe", "variable": $n})"},
+        {4, R"({"rename": "&ZN&", "lineMap": $n})"},
+        {24, R"({"undo": 1})"},
+        {12, R"({"redo": 1})"},
+        {8, R"({"set": ["FieldMap", "Mesh", "Show"], "maps": $m, "value": $b})"},
+        {8, R"({"set": ["FieldMap", "Mesh", "MeshType"], "maps": $m, "value": $n})"},
+        {8, R"({"set": ["FieldMap", "Mesh", "Color"], "maps": $m, "value": $n})"},
+        {8, R"({"set": ["FieldMap", "Contour", "ContourType"], "maps": $m, "value": $n})"},
+        {8, R"({"set": ["FieldMap", "Group"], "maps": $m, "value": $n})"},
+        {8, R"({"set": ["FieldMap", "Shade", "UseLightingEffect"], "maps": $m, "value": $b})"},
+        {8, R"({"set": ["LineMap", "Assign", "XAxisVar"], "maps": $m, "value": $n})"},
+        {8, R"({"set": ["LineMap", "Assign", "Zone"], "maps": $m, "value": $n})"},
+    };
+    static const std::vector<const char*> maps {"1", "2", "1-3", "2,4", "3-5", "all"};
+    QByteArray line = byWeight(changes).line;
+    line.replace("$m", QByteArray("\"") + anyOf(maps) + '"');
+    line.replace("$b", oneIn(2) ? "true" : "false");
+    line.replace("$n", QByteArray::number(below(10)));
+    return Json::parse(line.toStdString());
 }
 
 void GestureDriver::changeDocument()
@@ -241,32 +189,58 @@ QPoint GestureDriver::anyPoint(const QRect& area)
 
 Qt::KeyboardModifiers GestureDriver::anyModifiers()
 {
-    static const std::vector<Qt::KeyboardModifiers> modifiers {Qt::NoModifier,
-                                                               Qt::NoModifier,
-                                                               Qt::NoModifier,
-                                                               Qt::ControlModifier,
-                                                               Qt::ControlModifier,
-                                                               Qt::ShiftModifier,
-                                                               Qt::ControlModifier
-                                                                   | Qt::ShiftModifier};
-    return anyOf(modifiers);
+    Qt::KeyboardModifiers modifiers;
+    modifiers.setFlag(Qt::ControlModifier, oneIn(3));
+    modifiers.setFlag(Qt::ShiftModifier, oneIn(4));
+    return modifiers;
 }
 
-void GestureDriver::clickCell()
+/// In the cells of the table, a check box now and then, in its header, the border of a column as a
+/// rule, or on a scroll bar.
+std::optional<GestureDriver::Place> GestureDriver::anyPlace()
 {
-    if (QTableView* view = table())
-        play::click(view->viewport(), anyPoint(view->viewport()->rect()), anyModifiers());
-}
-
-void GestureDriver::clickCheckBox()
-{
-    const QModelIndex cell = anyCell(Qt::CheckStateRole);
-    if (!cell.isValid())
-        return clickCell();
     QTableView* view = table();
-    const QPoint box = view->visualRect(cell).center();
-    if (view->viewport()->rect().contains(box))
-        play::click(view->viewport(), box, oneIn(4) ? anyModifiers() : Qt::NoModifier);
+    if (!view)
+        return std::nullopt;
+    Place place {view->viewport(), {}};
+    if (const QModelIndex cell = oneIn(3) ? anyCell(Qt::CheckStateRole) : QModelIndex();
+        cell.isValid()) {
+        place.point = view->visualRect(cell).center();
+        return place.widget->rect().contains(place.point) ? std::optional(place) : std::nullopt;
+    }
+    if (oneIn(5))
+        place.widget = view->horizontalHeader()->viewport();
+    else if (QScrollBar* bar = oneIn(2) ? view->horizontalScrollBar() : view->verticalScrollBar();
+             oneIn(8) && bar->isVisible())
+        place.widget = bar;
+    place.point = anyPoint(place.widget->rect());
+    const QHeaderView& header = *view->horizontalHeader();
+    if (place.widget == header.viewport() && !oneIn(3)) {
+        const int column = header.logicalIndexAt(place.point);
+        const int border = header.sectionViewportPosition(column) + header.sectionSize(column) - 1;
+        if (column >= 0 && border < place.widget->width())
+            place.point.setX(border);
+    }
+    return place;
+}
+
+void GestureDriver::click()
+{
+    if (const auto place = anyPlace())
+        play::click(place->widget, place->point, anyModifiers());
+}
+
+/// An editor stays open for the gestures that follow.
+void GestureDriver::doubleClick()
+{
+    if (const auto place = anyPlace())
+        play::doubleClick(place->widget, place->point);
+}
+
+void GestureDriver::drag()
+{
+    if (const auto place = anyPlace())
+        play::drag(place->widget, place->point, anyPoint(place->widget->rect()));
 }
 
 void GestureDriver::changeUnderPressedButton()
@@ -283,15 +257,6 @@ void GestureDriver::changeUnderPressedButton()
     play::releaseMouse(viewport, position);
 }
 
-void GestureDriver::dragOverCells()
-{
-    QTableView* view = table();
-    if (!view)
-        return;
-    const QRect area = view->viewport()->rect();
-    play::drag(view->viewport(), anyPoint(area), anyPoint(area));
-}
-
 /// What opens is used by whileOpen().
 void GestureDriver::openMenu()
 {
@@ -304,47 +269,6 @@ void GestureDriver::openMenu()
     play::releaseMouse(viewport, position, Qt::RightButton);
 }
 
-/// An editor stays open for the gestures that follow.
-void GestureDriver::doubleClickCell()
-{
-    if (QTableView* view = table())
-        play::doubleClick(view->viewport(), anyPoint(view->viewport()->rect()));
-}
-
-/// A point of the right border of a column, when it is in view.
-std::optional<QPoint> GestureDriver::anyBorder()
-{
-    QTableView* view = table();
-    if (!view || view->horizontalHeader()->count() == 0)
-        return std::nullopt;
-    const QHeaderView& header = *view->horizontalHeader();
-    const int column = header.logicalIndex(below(header.count()));
-    const QPoint border(header.sectionViewportPosition(column) + header.sectionSize(column) - 1,
-                        header.height() / 2);
-    return header.viewport()->rect().contains(border) ? std::optional(border) : std::nullopt;
-}
-
-void GestureDriver::dragHeader()
-{
-    if (const auto border = anyBorder())
-        play::drag(table()->horizontalHeader()->viewport(), *border,
-                   *border + QPoint(between(-80, 200), 0));
-}
-
-void GestureDriver::doubleClickHeader()
-{
-    if (const auto border = anyBorder())
-        play::doubleClick(table()->horizontalHeader()->viewport(), *border);
-}
-
-void GestureDriver::clickHeader()
-{
-    if (QTableView* view = table()) {
-        QHeaderView* header = view->horizontalHeader();
-        play::click(header->viewport(), anyPoint(header->viewport()->rect()), anyModifiers());
-    }
-}
-
 void GestureDriver::turnWheel()
 {
     QTableView* view = table();
@@ -353,16 +277,6 @@ void GestureDriver::turnWheel()
     const QPoint steps = oneIn(2) ? QPoint(0, between(-3, 3)) : QPoint(between(-3, 3), 0);
     play::turnWheel(view->viewport(), view->viewport()->rect().center(), steps,
                     oneIn(4) ? Qt::AltModifier : Qt::NoModifier);
-}
-
-void GestureDriver::dragScrollBar()
-{
-    QTableView* view = table();
-    if (!view)
-        return;
-    QScrollBar* bar = oneIn(2) ? view->horizontalScrollBar() : view->verticalScrollBar();
-    if (bar->isVisible())
-        play::drag(bar, anyPoint(bar->rect()), anyPoint(bar->rect()));
 }
 
 // On the dialog.

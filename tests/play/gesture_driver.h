@@ -25,14 +25,17 @@ public:
     /// One gesture, or one change of the document.
     void step();
 
-    const play::DialogDriver& dialog() const { return m_run.dialog(); }
-
 private:
     struct Gesture
     {
         const char* name;
         int weight;
         void (GestureDriver::*play)();
+    };
+    struct Place
+    {
+        QWidget* widget;
+        QPoint point;
     };
     static const std::vector<Gesture>& gestures();
 
@@ -45,25 +48,31 @@ private:
         return list[static_cast<typename List::size_type>(below(static_cast<int>(list.size())))];
     }
 
+    template<class List>
+    const auto& byWeight(const List& list)
+    {
+        int weight = 0;
+        for (const auto& one : list)
+            weight += one.weight;
+        weight = below(weight);
+        auto chosen = list.begin();
+        for (; weight >= chosen->weight; ++chosen)
+            weight -= chosen->weight;
+        return *chosen;
+    }
+
     // On the document.
-    nlohmann::json anyMaps();
-    nlohmann::json anyStyle();
     nlohmann::json anyChange();
     void changeDocument();
     void playLine(const nlohmann::json& line);
 
     // On the table.
-    void clickCell();
-    void clickCheckBox();
+    void click();
+    void doubleClick();
+    void drag();
     void changeUnderPressedButton();
-    void dragOverCells();
     void openMenu();
-    void doubleClickCell();
-    void dragHeader();
-    void doubleClickHeader();
-    void clickHeader();
     void turnWheel();
-    void dragScrollBar();
 
     // On the dialog.
     void clickTab();
@@ -86,7 +95,7 @@ private:
     QTableView* table() const; ///< null when none is shown
     QModelIndex anyCell(int role = -1); ///< a visible one, with a value for the role
     QPoint anyPoint(const QRect& area);
-    std::optional<QPoint> anyBorder();
+    std::optional<Place> anyPlace();
     Qt::KeyboardModifiers anyModifiers();
 
     play::ScriptRun m_run;

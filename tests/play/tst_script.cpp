@@ -10,8 +10,7 @@
 
 using namespace corvala::play;
 using Json = nlohmann::json;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 
 class tst_Script : public QObject
 {
@@ -57,40 +56,6 @@ private Q_SLOTS:
         QCOMPARE(lines.size(), std::size_t(1));
     }
 
-    void argumentsRefuseOtherKinds_data()
-    {
-        const Rows<QString, QString> row;
-
-        row("text", R"("a")", "boolean number integer");
-        row("fraction", "1.5", "text boolean integer");
-        row("whole number", "3.0", "text boolean");
-        row("huge number", "1e300", "text boolean integer");
-        row("truth value", "true", "text number integer");
-        row("null", "null", "text boolean number integer");
-        row("list", "[1]", "text boolean number integer");
-    }
-
-    void argumentsRefuseOtherKinds()
-    {
-        const auto [value, wanted] = currentRow<QString, QString>();
-        const Arguments arguments({{"key", Json::parse(value.toStdString())}}, {});
-        QStringList refused;
-        const auto attempt = [&refused](const char* kind, const auto& get) {
-            try {
-                get();
-            } catch (const ScriptError& error) {
-                QVERIFY2(error.message().contains(QLatin1String("\"key\"")),
-                         qPrintable(error.message()));
-                refused << QLatin1String(kind);
-            }
-        };
-        attempt("text", [&] { arguments.text("key"); });
-        attempt("boolean", [&] { arguments.boolean("key"); });
-        attempt("number", [&] { arguments.number("key"); });
-        attempt("integer", [&] { arguments.integer("key"); });
-        QCOMPARE(refused.join(' '), wanted);
-    }
-
     void filesLieRelativeToTheScript()
     {
         const Arguments arguments({{"near", "a/b.png"}, {"far", "/c.png"}},
@@ -121,22 +86,10 @@ private Q_SLOTS:
         row("disabled button", R"({"button": "Groups"})", "\"Groups\" is disabled");
         row("unused reply", R"({"answers": ["OK"]})", "no prompt asked");
         row("no reply at all", R"({"answers": [null]})", "null");
-        row("unknown style value", R"({"set": ["FieldMap", "Mash"], "maps": "1", "value": 1})",
-            "no such style value");
-        row("value out of range",
-            R"({"set": ["FieldMap", "Mesh", "MeshType"], "maps": "1", "value": 9})",
-            "out of range");
-        row("no pick", R"({"pick": [3]})", "3 is no pick");
-        row("value of another kind",
-            R"({"set": ["FieldMap", "Mesh", "Show"], "maps": "1", "value": {"on": 1}})",
-            "no style value");
-        row("no list", R"({"pick": {"zone": 3}})", "\"pick\" must be a list");
         row("two choices", R"({"menu": 1, "column": "Mesh\nColor", "choose": null, "color": 3})",
             "exclude each other");
         row("map for a value of the frame", R"({"get": ["PlotType"], "map": 1, "is": 2})",
             "no value of a map");
-        row("nothing to rename", R"({"rename": "wing"})", "takes one of");
-        row("scale of another kind", R"({"demo": "xy", "zones": 3})", "scaled by \"maps\"");
         row("picture of no format", R"({"screenshot": "d.foo", "of": "dialog"})", "picture format");
         row("no steps", R"({"undo": 0})", "must be 1 or more");
         row("nothing to undo", R"({"undo": 1})", "nothing to undo");

@@ -1,30 +1,27 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "tests/play/watchdog.h"
 
-#include <atomic>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
-#include <ctime>
-#include <thread>
 
 #include <dlfcn.h>
 #include <execinfo.h>
-#include <pthread.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 namespace corvala::tests {
 
 namespace {
 
-/// Of the processor, as a busy machine makes everything late; of the clock for what waits for ever.
-constexpr double kLongestWork = 5.0;
-constexpr double kLongestWait = 60.0;
+/// Seconds of the processor, as a busy machine makes everything late; of the clock for what waits
+/// for ever.
+constexpr int kLongestWork = 5;
+constexpr int kLongestWait = 60;
 
 char s_about[200];
 char s_gesture[1000];
-std::atomic<int> s_number {0}; ///< of the gesture that runs; odd from begin() to end()
-pthread_t s_watched;
+bool s_runs = false; ///< from begin() to end()
 bool s_traces = false;
 
 } // namespace
@@ -73,32 +70,12 @@ static bool followSanitizers()
     return hasOne;
 }
 
-static double secondsOf(clockid_t clock)
+/// Zeros stop it.
+static void setLimits(int work, int wait)
 {
-    timespec time {};
-    clock_gettime(clock, &time);
-    return double(time.tv_sec) + 1e-9 * double(time.tv_nsec);
-}
-
-static void watch()
-{
-    int number = 0;
-    double work = 0;
-    double wait = 0;
-    for (;;) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(200));
-        const double workNow = secondsOf(CLOCK_PROCESS_CPUTIME_ID);
-        const double waitNow = secondsOf(CLOCK_MONOTONIC);
-        const int running = s_number;
-        if (running != number || running % 2 == 0) {
-            number = running;
-            work = workNow;
-            wait = waitNow;
-        } else if (workNow - work > kLongestWork || waitNow - wait > kLongestWait) {
-            pthread_kill(s_watched, SIGUSR1);
-            return;
-        }
-    }
+    const itimerval limit {{0, 0}, {work, 0}};
+    setitimer(ITIMER_PROF, &limit, nullptr);
+    alarm(static_cast<unsigned>(wait));
 }
 
 void Watchdog::setAbout(const std::string& about)
@@ -109,12 +86,11 @@ void Watchdog::setAbout(const std::string& about)
 void Watchdog::start(bool traces)
 {
     s_traces = traces;
-    s_watched = pthread_self();
-    std::signal(SIGUSR1, printStackAndExit);
+    std::signal(SIGPROF, printStackAndExit);
+    std::signal(SIGALRM, printStackAndExit);
     std::signal(SIGABRT, crash);
     if (!followSanitizers())
         std::signal(SIGSEGV, crash);
-    std::thread(watch).detach();
 }
 
 void Watchdog::begin(const std::string& gesture)
@@ -122,14 +98,15 @@ void Watchdog::begin(const std::string& gesture)
     std::snprintf(s_gesture, sizeof s_gesture, "%s", gesture.c_str());
     if (s_traces)
         printGesture();
-    if (s_number % 2 == 0)
-        ++s_number;
+    if (!s_runs)
+        setLimits(kLongestWork, kLongestWait);
+    s_runs = true;
 }
 
 void Watchdog::end()
 {
-    if (s_number % 2 == 1)
-        ++s_number;
+    setLimits(0, 0);
+    s_runs = false;
 }
 
 } // namespace corvala::tests

@@ -211,9 +211,6 @@ static int reportOpenGl()
     return 0;
 }
 
-/// Style values of all field maps, or of the frame.
-using Settings = std::vector<std::pair<const char*, double>>;
-
 class tst_FieldCanvas : public QObject
 {
     Q_OBJECT
@@ -363,94 +360,40 @@ private Q_SLOTS:
                  qPrintable(QStringLiteral("%1 x %2").arg(seen.width()).arg(seen.height())));
     }
 
-    void columnsOfArrowsAndSymbols_data()
+    /// In a flat plot bodies are drawn as their outlines: cube, sphere and octahedron.
+    void symbolsAndArrowsLookDifferent()
     {
-        const Rows<QString, Settings, const char*, double, bool> row;
-        const auto vectors = [&](const char* name, Settings settings, const char* path,
-                                 double value, bool changes) {
-            settings.emplace_back("FieldLayers/ShowVector", 1);
-            row(QStringLiteral("vectors, ") + name, "field2d", settings, path, value, changes);
+        openDemo("field2d", 2);
+        QVector<QImage> pictures;
+        const auto isNew = [&pictures] {
+            const QImage image = picture();
+            const bool isSeen = pictures.contains(image);
+            pictures << image;
+            return !isSeen;
         };
-        const auto symbols = [&](const char* name, Settings settings, const char* path,
-                                 double value, bool changes, const char* demo = "field2d") {
-            settings.emplace_back("FieldLayers/ShowScatter", 1);
-            row(QStringLiteral("symbols, ") + name, demo, settings, path, value, changes);
-        };
-        vectors("show", {}, "Vector/Show", 0, true);
-        vectors("head at point", {}, "Vector/VectorType", 1, true);
-        vectors("midpoint", {}, "Vector/VectorType", 2, true);
-        vectors("head only", {}, "Vector/VectorType", 3, true);
-        vectors("tangents of a flat zone", {}, "Vector/IsTangent", 1, false);
-        vectors("filled", {{"Vector/LineThickness", 0.4}}, "Vector/ArrowheadStyle", 1, true);
-        vectors("hollow", {{"Vector/LineThickness", 0.4}}, "Vector/ArrowheadStyle", 2, true);
-        vectors("color", {}, "Vector/Color", 7, true);
-        vectors("color by group", {{"Vector/Color", 101}}, "Vector/Color", 7, true);
-        vectors("pattern", {}, "Vector/LinePattern", 1, true);
-        vectors("pattern length", {{"Vector/LinePattern", 1}}, "Vector/PatternLength", 4, true);
-        vectors("length of solid lines", {}, "Vector/PatternLength", 4, false);
-        vectors("thickness", {}, "Vector/LineThickness", 0.6, true);
-        vectors("points", {}, "Points/PointsToPlot", 3, true);
-        vectors("skip", {}, "Points/IJKSkip/I", 3, true);
-        symbols("points", {}, "Points/PointsToPlot", 2, true);
-        symbols("show", {}, "Scatter/Show", 0, true);
-        for (const int shape : {1, 2, 3, 4, 5, 6, 7, 9, 10, 11, 12})
-            symbols(QByteArray("shape ") + QByteArray::number(shape), {},
-                    "Scatter/SymbolShape/GeomShape", shape, shape != GeomShape_Cube);
-        symbols("size", {}, "Scatter/FrameSize", 3, true);
-        symbols("size by variable", {{"GlobalScatter/Var", 3}}, "Scatter/SizeByVariable", 1, true);
-        symbols("fixed size", {{"GlobalScatter/Var", 3}, {"Scatter/SizeByVariable", 1}},
-                "Scatter/FrameSize", 4, false);
-        symbols("color", {}, "Scatter/Color", 7, true);
-        symbols("color by group", {{"Scatter/Color", 101}}, "Scatter/Color", 7, true);
-        symbols("thickness", {{"Scatter/FillMode", 3}}, "Scatter/LineThickness", 0.6, true);
-        symbols("no fill", {}, "Scatter/FillMode", 0, true);
-        symbols("color of the line", {{"Scatter/Color", 1}}, "Scatter/FillColor", 7, false);
-        symbols("fill color", {{"Scatter/FillMode", 1}}, "Scatter/FillColor", 7, true);
-        symbols("fill by group", {{"Scatter/FillMode", 1}, {"Scatter/FillColor", 101}},
-                "Scatter/FillColor", 7, true);
-        symbols("character", {}, "Scatter/SymbolShape/IsASCII", 1, true);
-        const Settings letter = {{"Scatter/SymbolShape/IsASCII", 1}, {"Scatter/FrameSize", 4}};
-        symbols("base font", letter, "Scatter/SymbolShape/ASCIIShape/FontOverride", 2, false);
-        Settings ownFont = letter;
-        ownFont.emplace_back("Scatter/SymbolShape/ASCIIShape/UseBaseFont", 0);
-        symbols("font", ownFont, "Scatter/SymbolShape/ASCIIShape/FontOverride", 2, true);
-        const Settings point = {{"Scatter/SymbolShape/GeomShape", GeomShape_Point}};
-        symbols("size of points", point, "Scatter/FrameSize", 5, false);
-        symbols("thickness of points", point, "Scatter/LineThickness", 2, false);
-        symbols("fill of points", point, "Scatter/FillMode", 0, false);
-        symbols("color of points", point, "Scatter/Color", 7, true);
-        for (const int shape : {GeomShape_Cube, GeomShape_Sphere, GeomShape_Octahedron}) {
-            const Settings body = {{"Scatter/SymbolShape/GeomShape", shape}};
-            const QByteArray name = "body " + QByteArray::number(shape);
-            symbols(name + ", size", body, "Scatter/FrameSize", 5, true, "field3d");
-            symbols(name + ", thickness", body, "Scatter/LineThickness", 2, false, "field3d");
-            symbols(name + ", fill", body, "Scatter/FillMode", 0, false, "field3d");
+        write("FieldMap/Vector/LineThickness", "all", 0.4);
+        write("FieldLayers/ShowVector", "", 1);
+        for (int type = VectorType_TailAtPoint; type <= VectorType_HeadOnly; ++type) {
+            write("FieldMap/Vector/VectorType", "all", type);
+            for (int head = ArrowheadStyle_Plain; head <= ArrowheadStyle_Hollow; ++head) {
+                write("FieldMap/Vector/ArrowheadStyle", "all", head);
+                QVERIFY2(isNew(), QByteArray::number(10 * type + head));
+            }
         }
-        symbols("disc in space", {{"Scatter/SymbolShape/GeomShape", 6}}, "Scatter/FillMode", 0,
-                true, "field3d");
-    }
-
-    /// Of two zones side by side the left one changes, or none.
-    void columnsOfArrowsAndSymbols()
-    {
-        const auto [demo, settings, path, value, changes] =
-            currentRow<QString, Settings, const char*, double, bool>();
-        openDemo(demo.toUtf8().constData(), 2);
-        write("FieldMap/Surfaces/SurfacesToPlot", "all", SurfacesToPlot_BoundaryCellFaces);
-        const auto set = [](const char* name, const char* maps, double to) {
-            const bool isOfFrame =
-                QByteArray(name).startsWith("FieldLayers") || QByteArray(name).startsWith("Global");
-            const QByteArray whole = isOfFrame ? QByteArray(name) : QByteArray("FieldMap/") + name;
-            write(whole.constData(), isOfFrame ? "" : maps, to);
-        };
-        for (const auto& [name, to] : settings)
-            set(name, "all", to);
-        const QImage before = picture();
-        set(path, "1", value);
-        const QImage after = picture();
-        QCOMPARE(before != after, changes);
-        const QRect right(kSize.width() * 6 / 10, 0, kSize.width() * 4 / 10, kSize.height());
-        QCOMPARE(shareOfChange(before.copy(right), after.copy(right)), 0.0);
+        write("FieldLayers/ShowVector", "", 0);
+        write("FieldLayers/ShowScatter", "", 1);
+        for (int shape = GeomShape_Square; shape <= GeomShape_LineArt; ++shape) {
+            write("FieldMap/Scatter/SymbolShape/GeomShape", "all", shape);
+            const bool isBody = shape >= GeomShape_Cube && shape <= GeomShape_Octahedron;
+            QVERIFY2(isNew() != isBody, QByteArray::number(shape));
+        }
+        write("FieldMap/Scatter/SymbolShape/GeomShape", "all", GeomShape_Square);
+        write("FieldMap/Scatter/Color", "all", 101);
+        QVERIFY(isNew());
+        write("FieldMap/Scatter/FillMode", "all", FillMode_SpecificColor);
+        QVERIFY(isNew());
+        write("FieldMap/Scatter/FillColor", "all", 101);
+        QVERIFY(!isNew()); // as filled with the colours of the lines
     }
 
     void numbersKeepClearOfTitles_data()

@@ -277,66 +277,15 @@ private Q_SLOTS:
         QCOMPARE(layer(FieldLayer::Mesh).geometry(1), untouched);
     }
 
-    void attributesReachActors()
+    void patternsFollowTheScale()
     {
-        write("FieldMap/Mesh/LineThickness", "all", 1.5);
-        write("FieldMap/Mesh/Color", "2", 5);
-        work();
-        vtkActor* const actor = layer(FieldLayer::Mesh).actors().front();
-        QCOMPARE(actor->GetProperty()->GetLineWidth(), 12.0F);
-        QVERIFY(!actor->GetTexture());
-        auto* const drawn =
-            vtkMultiBlockDataSet::SafeDownCast(mapperOf(actor)->GetInputDataObject(0, 0));
-        double color[3];
-        mapperOf(actor)->GetCompositeDataDisplayAttributes()->GetBlockColor(drawn->GetBlock(1),
-                                                                            color);
-        const host::Rgb palette = document().color(5);
-        QCOMPARE(qRound(color[0] * 255), int(palette.red));
-        QCOMPARE(qRound(color[1] * 255), int(palette.green));
-
-        write("FieldMap/Mesh/LineThickness", "all", 0.001);
         write("FieldMap/Mesh/LinePattern", "all", 3);
         write("FieldMap/Mesh/PatternLength", "all", 5);
         work();
         vtkActor* const dashed = layer(FieldLayer::Mesh).actors().front();
-        QCOMPARE(dashed->GetProperty()->GetLineWidth(), 1.0F);
         QVERIFY(dashed->GetTexture()->GetRepeat());
         // 5 percent of 800 pixels are 40, and 10 pixels are one unit: four units to a period.
         QCOMPARE(dashed->GetTexture()->GetTransform()->GetMatrix()->GetElement(0, 0), 0.25);
-    }
-
-    void lightNeedsSpace()
-    {
-        write("FieldLayers/ShowShade", "", 1);
-        work();
-        QVERIFY(!layer(FieldLayer::Shade).actors().front()->GetProperty()->GetLighting());
-        makeScene("field3d");
-        write("FieldLayers/ShowShade", "", 1);
-        write("FieldMap/Shade/UseLightingEffect", "2", 0);
-        work();
-        QCOMPARE(layer(FieldLayer::Shade).actors().size(), std::size_t {2});
-        write("FieldMap/Shade/UseLightingEffect", "2", 1);
-        work();
-        QCOMPARE(layer(FieldLayer::Shade).actors().size(), std::size_t {1});
-        QVERIFY(layer(FieldLayer::Shade).actors().front()->GetProperty()->GetLighting());
-        write("FieldLayers/UseLightingEffect", "", 1);
-        write("FieldMap/Effects/LightingEffect", "2", LightingEffect_Paneled);
-        work();
-        QCOMPARE(layer(FieldLayer::Shade).actors().size(), std::size_t {2});
-    }
-
-    void meshTypes()
-    {
-        write("FieldMap/Mesh/MeshType", "1", MeshType_WireFrame);
-        write("FieldMap/Mesh/MeshType", "2-3", MeshType_HiddenLine);
-        work();
-        QCOMPARE(m_front->GetActors()->GetNumberOfItems(), 1);
-        QVERIFY(!layer(FieldLayer::Background).geometry(1));
-        QVERIFY(layer(FieldLayer::Background).geometry(2));
-        QCOMPARE(blockCount(layer(FieldLayer::Background)), 2);
-        write("FieldMap/Mesh/Show", "2", 0);
-        work();
-        QCOMPARE(blockCount(layer(FieldLayer::Background)), 1);
     }
 
     void hiddenLayersCostNothing()

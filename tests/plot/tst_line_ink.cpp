@@ -10,8 +10,7 @@
 #include <random>
 
 using namespace corvala::plot;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 
 static constexpr QSize kSize {400, 300};
 

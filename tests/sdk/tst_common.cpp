@@ -6,7 +6,6 @@
 #include "tests/support/modal_responder.h"
 #include "tests/support/rows.h"
 
-#include <QMessageBox>
 #include <QtTest>
 
 #include <vtkCellData.h>
@@ -128,82 +127,6 @@ private Q_SLOTS:
         QCOMPARE(Document::instance().undo().stepCount(), 1);
     }
 
-    void channelsMustAllBeSet()
-    {
-        openDemo("field2d", 2);
-        const toolbox::StyleValue global("GlobalRGB");
-        setFrameValue({"GlobalRGB", "RedVar"}, 3);
-        setFrameValue({"GlobalRGB", "GreenVar"}, 4);
-        QVERIFY(!sdk::checkRGBChannelVars(global));
-        setFrameValue({"GlobalRGB", "BlueVar"}, 5);
-        QVERIFY(sdk::checkRGBChannelVars(global));
-    }
-
-    void asksForTheLayer_data()
-    {
-        const Rows<QString, int, int, bool>
-            row; // layer, answer (0 none asked), chooser (-1 none, else what it says), result
-        row("on already", "Mesh", 0, -1, true);
-        row("edge has its own layer name", "EdgeLayer", 0, -1, true);
-        row("yes", "Shade", QMessageBox::Yes, -1, true);
-        row("no", "Shade", QMessageBox::No, 1, false);
-        row("chooser agrees", "Contour", QMessageBox::Yes, 1, true);
-        row("chooser refuses", "Contour", QMessageBox::Yes, 0, false);
-        row("unknown layer", "UseLightingEffect", 0, -1, false);
-    }
-
-    void asksForTheLayer()
-    {
-        const auto [layer, answer, chooser, result] = currentRow<QString, int, int, bool>();
-        openDemo("field3d", 4);
-        ModalResponder responder;
-        if (answer != 0)
-            responder.reply(answer == QMessageBox::Yes ? "OK" : "cancel");
-        boost::function<bool(PlotType_e)> function;
-        int asked = PlotType_None;
-        if (chooser >= 0)
-            function = [&asked, chooser = chooser](PlotType_e type) {
-                return asked = type, chooser == 1;
-            };
-        QCOMPARE(sdk::queryToActivateSidebarLayer(layer.toStdString(), function), result);
-        QVERIFY(responder.isSettled());
-        QCOMPARE(asked,
-                 answer == QMessageBox::Yes && chooser >= 0 ? PlotType_Field3D : PlotType_None);
-        if (layer != QLatin1String("UseLightingEffect")) {
-            const QByteArray name =
-                layer == QLatin1String("EdgeLayer") ? "ShowEdge" : "Show" + layer.toLatin1();
-            QCOMPARE(CvlUtilFieldLayerIsActiveForFrame(CvlUtilFrameGetUniqueID(), name) != 0,
-                     result);
-        }
-    }
-
-    void offersSurfaces()
-    {
-        openDemo("field3d", 4);
-        const toolbox::StyleValue surfaces("FieldMap", "Surfaces", "SurfacesToPlot");
-        ModalResponder responder;
-        responder.reject().accept();
-        QVERIFY(!sdk::queryToEnableSurfacePlotLayer("Mesh"));
-        QCOMPARE(surfaces.read<int>(1), std::optional<int>(SurfacesToPlot_None));
-        QVERIFY(sdk::queryToEnableSurfacePlotLayer("Mesh"));
-        QCOMPARE(surfaces.read<int>(1), std::optional<int>(SurfacesToPlot_BoundaryCellFaces));
-        QVERIFY(responder.isSettled());
-        QVERIFY(responder.takeSeen().first().contains(QStringLiteral("Mesh layer")));
-    }
-
-    void confirmsUnorderedZones()
-    {
-        openDemo("xy");
-        ModalResponder responder;
-        QVERIFY(sdk::confirmLineMapZoneSelection(3));
-        QVERIFY(sdk::confirmLineMapZoneSelection(77));
-        responder.reject();
-        QVERIFY(!sdk::confirmLineMapZoneSelection(4));
-        responder.accept();
-        QVERIFY(sdk::confirmLineMapZoneSelection(4));
-        QVERIFY(responder.isSettled());
-    }
-
     void confirmsZonesWithoutPointValues()
     {
         openCellData();
@@ -240,10 +163,6 @@ private:
     static int frameValue(const char* group, const char* name, CvlInt64 index = -1)
     {
         return toolbox::StyleValue(group, name).read<int>(0, index).value_or(-1);
-    }
-    static void setFrameValue(std::vector<std::string> path, double value)
-    {
-        QVERIFY(Document::instance().execute(host::SetStyle {std::move(path), value}).isDone());
     }
 };
 

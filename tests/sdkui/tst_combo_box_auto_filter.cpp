@@ -12,8 +12,7 @@
 
 #include <memory>
 
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 using corvala::ui::ComboBoxAutoFilter;
 
 static const QStringList kEntries {"1: Density", "2: pressure", "3: Pressure", "4: Total Pressure",

@@ -24,8 +24,7 @@
 #include <memory>
 
 using namespace corvala;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 using dialogs::common::LaunchHelpAction;
 using dialogs::common::QtDialogAbstract;
 using dialogs::common::TableViewWithPreferredDimensions;

@@ -24,8 +24,7 @@
 #include <vector>
 
 using namespace corvala;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 using dialogs::lineplot::CurveFitSettingsDialog;
 using dialogs::lineplot::LineMapCreateDialog;
 using propertybindings::CurveFitCollection;
@@ -170,47 +169,6 @@ private Q_SLOTS:
         const CurveFitInfo fit = CurveFitCollection().curveFitForLineMap(frame, 3);
         QCOMPARE(fit.detailsForLineMap(frame, 3), text);
         QCOMPARE(fit.detailsForLineMap(frame, 99), QString());
-    }
-
-    void createsOneLineMapPerVariable_data()
-    {
-        const Rows<QString, QString, QString, QString, QString> row;
-        row("xy", "xy", "&X-axis variable:", "&Y-axis variables:", "XAxisVar", "YAxisVar");
-        row("polar", "polar", "&Theta variable:", "R&adius variables:", "ThetaAxisVar", "RAxisVar");
-    }
-
-    void createsOneLineMapPerVariable()
-    {
-        const auto [demo, independentLabel, dependentLabel, independent, dependent] =
-            currentRow<QString, QString, QString, QString, QString>();
-        tests::openDemo(demo.toStdString());
-        auto& dialog = LineMapCreateDialog::getInstance(m_window.get());
-        dialog.launch();
-        QVERIFY(!dialog.isModal());
-        QCOMPARE(dialog.windowTitle(), QString("Create Line Maps"));
-        play::enter(*fieldLabelled<ui::ComboBoxAutoFilter>(dialog, "&Zone:"), "Zone 2");
-        play::enter(*fieldLabelled<ui::ComboBoxAutoFilter>(dialog, independentLabel), "angle");
-        QCOMPARE(CvlUtilLineMapGetCountForFrame(CvlUtilFrameGetUniqueID()), 6);
-
-        auto* list = fieldLabelled<QListView>(dialog, dependentLabel);
-        QVERIFY(list);
-        for (const int row : {3, 1}) // Power and Force, the later first
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier,
-                              list->visualRect(list->model()->index(row, 0)).center());
-        const int steps = tests::undoSteps();
-        QTest::mouseClick(buttonNamed(dialog, "Create"), Qt::LeftButton);
-        QCOMPARE(CvlUtilLineMapGetCountForFrame(CvlUtilFrameGetUniqueID()), 8);
-        for (const CvlInt64 map : {7, 8}) {
-            QCOMPARE(tests::lineValue("Assign", "Zone", map), 2.0);
-            QCOMPARE(tests::lineValue("Assign", qPrintable(independent), map), 6.0);
-            QCOMPARE(tests::lineValue("Assign", qPrintable(dependent), map), map == 7 ? 2.0 : 4.0);
-        }
-        QVERIFY(dialog.isVisible()); // for the next ones
-        QCOMPARE(tests::undoSteps(), steps + 1);
-        host::Document::instance().undo().undo();
-        QCOMPARE(CvlUtilLineMapGetCountForFrame(CvlUtilFrameGetUniqueID()), 6);
-        QTest::mouseClick(buttonNamed(dialog, "Close"), Qt::LeftButton);
-        QVERIFY(!dialog.isVisible());
     }
 
     void createNeedsEveryChoice()

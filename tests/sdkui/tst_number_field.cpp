@@ -5,8 +5,7 @@
 #include <QLineEdit>
 #include <QtTest>
 
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 using corvala::ui::NumberField;
 
 /// What a typed text means, in a field from 0.01 to 5000.

@@ -33,8 +33,7 @@ using namespace corvala;
 using namespace corvala::dialogs::prompt;
 using tests::ModalResponder;
 using ThreeInts = std::array<int, 3>;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 
 static constexpr int kMost = std::numeric_limits<int>::max();
 
@@ -132,31 +131,6 @@ private Q_SLOTS:
         responder.answer(ending([](QDialog& shown) { play::pressKey(&shown, Qt::Key_Escape); }));
         QCOMPARE(dialog.exec(), int(QDialog::Rejected));
         QVERIFY(responder.isSettled());
-    }
-
-    void threeValuesKeepTheirLimits_data()
-    {
-        const Rows<QString, int> row;
-        row("smallest", "1", 1);
-        row("largest", "2147483647", kMost);
-        row("above", "2147483648", 214748364); // the last digit is refused
-        row("negative", "-7", 7);
-    }
-
-    void threeValuesKeepTheirLimits()
-    {
-        const auto [typed, accepted] = currentRow<QString, int>();
-        auto& dialog = EnterThreeIntValuesDialog::getInstance(m_window.get());
-        dialog.setLabels("&I skip", "&J skip", "&K skip");
-        dialog.setRanges({1, kMost}, {1, kMost}, {1, kMost});
-        dialog.setValues(4, -3, 9); // a value outside its range becomes the nearest
-        ModalResponder responder;
-        responder.answer(ending([&typed = typed](QDialog& shown) {
-            type(shown, typed);
-            play::pressKey(&shown, Qt::Key_Return);
-        }));
-        QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-        QCOMPARE(dialog.values(), (ThreeInts {accepted, 1, 9}));
     }
 
     void threeValuesBelowTheirLimitsAreCorrectedFirst()

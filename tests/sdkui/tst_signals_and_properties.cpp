@@ -28,8 +28,7 @@
 #include <memory>
 
 using namespace corvala;
-using corvala::tests::currentRow;
-using corvala::tests::Rows;
+using namespace corvala::tests;
 using property::Property;
 using propertymanager::RelevanceExpression;
 using sdk::ui::OnIdleActionPerformerSingleShot;

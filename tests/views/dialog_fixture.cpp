@@ -3,7 +3,6 @@
 
 #include "play/idle.h"
 #include "play/input.h"
-#include "play/menu_entries.h"
 #include "play/script_run.h"
 #include "play/style_report.h"
 #include "sdk/toolbox/style_value.h"
@@ -201,22 +200,6 @@ static void endBy(QWidget& popup, int endKey)
         play::click(&popup, QPoint(-20, -20));
     else
         play::pressKey(&popup, endKey);
-}
-
-PopupResponder::Answer PopupResponder::chooseEntry(const QString& text)
-{
-    return [text](QWidget& popup) {
-        play::chooseInMenu(static_cast<QMenu&>(popup),
-                           text.isEmpty() ? nlohmann::json() : nlohmann::json(text.toStdString()));
-    };
-}
-
-PopupResponder::Answer PopupResponder::typeAndEnd(const QString& text, int endKey)
-{
-    return [text, endKey](QWidget& popup) {
-        play::typeOver(&popup, text);
-        endBy(popup, endKey);
-    };
 }
 
 PopupResponder::Answer PopupResponder::end(int endKey)

@@ -83,9 +83,7 @@ public:
     PopupResponder& then(Answer answer);
     int shown() const { return m_shown; }
 
-    static Answer chooseEntry(const QString& text); ///< of a menu, by a click; "" closes it
-    /// Replaces the text of an editor, then ends it by a key or, with 0, by a click elsewhere.
-    static Answer typeAndEnd(const QString& text, int endKey);
+    /// Ends an editor by a key or, with 0, by a click elsewhere.
     static Answer end(int endKey);
 
 private:

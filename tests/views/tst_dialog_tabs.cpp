@@ -8,9 +8,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
-#include <QStackedWidget>
 #include <QTabWidget>
 #include <QtTest>
 
@@ -18,11 +16,6 @@ using namespace corvala::tests;
 using corvala::dialogs::common::LaunchHelpAction;
 
 namespace {
-
-constexpr const char* kMapTools[] = {
-    "plotAttr_MaptoolsCreateMap_Button", "plotAttr_MaptoolsCopyMap_Button",
-    "plotAttr_MaptoolsDeleteMap_Button", "plotAttr_MaptoolsMoveToTop_Button",
-    "plotAttr_MaptoolsMoveToBottom_Button"};
 
 constexpr int kZoneName = 1;
 constexpr int kMeshType = 5;
@@ -139,25 +132,6 @@ private Q_SLOTS:
         }
         DialogFixture madeLater("xy");
         QCOMPARE(madeLater.tabs().remove('*'), xy);
-    }
-
-    void keepsTheMapToolButtons()
-    {
-        QList<QPointer<QPushButton>> buttons;
-        {
-            DialogFixture fixture("field3d");
-            for (const char* name : kMapTools)
-                buttons << &fixture.button(name);
-            for (const int plotType : {3, 2, 0, 1, 5, 1}) {
-                change("PlotType", "", plotType);
-                for (const auto& button : buttons) {
-                    QVERIFY(fixture.dialog().isAncestorOf(button));
-                    QCOMPARE(button->isVisible(), plotType != 1 && plotType != 2);
-                }
-            }
-        }
-        for (const auto& button : buttons)
-            QVERIFY(!button);
     }
 
     void ordersTheColumnsOfDefinitions()

@@ -192,22 +192,6 @@ private Q_SLOTS:
         QCOMPARE(fixture.selected(), "2,5");
     }
 
-    void scrollsToTheFirstMatch()
-    {
-        DialogFixture fixture("field2d", 200);
-        for (const int zone : {103, 104, 105, 109})
-            host::Document::instance().execute(
-                host::RenameZone {zone, "inlet " + std::to_string(zone)});
-        runUntilIdle();
-        QTest::keyClicks(&fixture.patternField(), "inlet*");
-        fixture.button(kApply).click();
-        QCOMPARE(fixture.selected(), "103-105,109");
-        QCOMPARE(fixture.table().selectionModel()->selection().size(), 2);
-        QCOMPARE(fixture.table().rowAt(0), 102);
-        fixture.button(kClear).click();
-        QCOMPARE(fixture.table().rowAt(0), 102);
-    }
-
     void asksForAPatternOnlyWhenItMatters()
     {
         DialogFixture fixture("field2d");

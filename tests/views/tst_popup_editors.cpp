@@ -22,7 +22,6 @@ using namespace corvala::sdk::ui::dialogs::zonestyle::intern::views;
 namespace {
 
 constexpr int kClickElsewhere = 0;
-constexpr int kGroup = 2; // of a field table
 constexpr int kXAxisVariable = 6;
 
 } // namespace
@@ -32,55 +31,6 @@ class tst_PopupEditors : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void commitsOnce()
-    {
-        DialogFixture fixture("field2d");
-        fixture.select({1, 2});
-        takeWrites();
-        PopupResponder popups(PopupResponder::typeAndEnd("4", Qt::Key_Return));
-        popups.then(PopupResponder::end(kClickElsewhere)).then([](QWidget& popup) {
-            popup.findChild<QLineEdit*>()->setText("9");
-            QKeyEvent cancel(QEvent::KeyPress, Qt::Key_Cancel, Qt::NoModifier); // QTest has none
-            QCoreApplication::sendEvent(&popup, &cancel);
-        });
-        fixture.rightClick(1, kGroup);
-        QCOMPARE(takeWrites(), "FieldMap.Group 1-2 = 4");
-        fixture.rightClick(1, kGroup); // only looked at: what it shows is committed
-        QCOMPARE(takeWrites(), "FieldMap.Group 1-2 = 4");
-        fixture.rightClick(1, kGroup);
-        QCOMPARE(takeWrites(), "");
-    }
-
-    void takesEntriesOfTheListOnly_data()
-    {
-        const Rows<QString, int, QString> row;
-        row("whole entry", "3: Moment", Qt::Key_Return, "3 3");
-        row("part of an entry", "mom", Qt::Key_Return, "3 3");
-        row("part, click elsewhere", "mom", kClickElsewhere, "3 3");
-        row("no entry", "zzz", kClickElsewhere, "1 1");
-        row("Escape", "mom", Qt::Key_Escape, "1 1");
-    }
-
-    void takesEntriesOfTheListOnly()
-    {
-        const auto [typed, endKey, values] = currentRow<QString, int, QString>();
-        DialogFixture fixture("xy");
-        fixture.select({1, 2});
-        PopupResponder popups([&typed = typed, endKey = endKey](QWidget& popup) {
-            auto* list = popup.findChild<corvala::ui::ComboBoxAutoFilter*>();
-            list->setFilterWhileTyping(false); // the list of matches is a pop-up of its own
-            list->lineEdit()->selectAll();
-            QTest::keyClicks(list->lineEdit(), typed);
-            if (endKey == kClickElsewhere)
-                PopupResponder::end(endKey)(popup);
-            else
-                QTest::keyClick(list, static_cast<Qt::Key>(endKey));
-        });
-        fixture.rightClick(1, kXAxisVariable);
-        QVERIFY(popups.shown() >= 1);
-        QCOMPARE(styleValues("LineMap.Assign.XAxisVar", 2), values);
-    }
-
     void filtersWhileTyping()
     {
         DialogFixture fixture("xy");

@@ -49,11 +49,6 @@ protected:
     }
 };
 
-QLineEdit* openEditor(DialogFixture& fixture)
-{
-    return fixture.table().viewport()->findChild<QLineEdit*>();
-}
-
 } // namespace
 
 class tst_TableGestures : public QObject
@@ -134,50 +129,6 @@ private Q_SLOTS:
             runUntilIdle();
         }
         QCOMPARE(takeWrites(), "FieldMap.Mesh.Show 3 = false; FieldMap.Mesh.Show 3 = true");
-    }
-
-    void editsOneCellInPlace_data()
-    {
-        const Rows<int, int, QString> row; // startKey (0: by a double click), endKey, groups
-        row("double click, Return", 0, Qt::Key_Return, "1 1 5 1");
-        row("F2, Return", Qt::Key_F2, Qt::Key_Return, "1 1 5 1");
-        row("Return, Enter", Qt::Key_Return, Qt::Key_Enter, "1 1 5 1");
-        row("double click, Escape", 0, Qt::Key_Escape, "1 1 1 1");
-        row("F2, Tab", Qt::Key_F2, Qt::Key_Tab, "1 1 5 1");
-    }
-
-    void editsOneCellInPlace()
-    {
-        const auto [startKey, endKey, groups] = currentRow<int, int, QString>();
-        DialogFixture fixture("field2d");
-        fixture.select({2, 3});
-        if (startKey != 0) {
-            fixture.clickCell(3, kGroup, Qt::ShiftModifier);
-            fixture.key(startKey);
-        } else {
-            fixture.doubleClickCell(3, kGroup);
-        }
-        QLineEdit* editor = openEditor(fixture);
-        QVERIFY(editor);
-        QCOMPARE(editor->text(), "1"); // though the cell has no value of its own for editing
-        QCOMPARE(fixture.selected(), "3");
-        QTest::keyClicks(editor, "5"); // in place of it
-        QTest::keyClick(editor, static_cast<Qt::Key>(endKey));
-        runUntilIdle();
-        QCOMPARE(styleValues("FieldMap.Group", 4), groups);
-        QVERIFY(fixture.dialog().isVisible());
-    }
-
-    void menuOfAColumnWithoutEntriesDoesNotOpen()
-    {
-        DialogFixture fixture("field2d");
-        PopupResponder popups(PopupResponder::chooseEntry(""));
-        fixture.rightClick(2, kNumber);
-        fixture.rightClick(2, kName);
-        const QPoint below(5, fixture.table().viewport()->height() - 3);
-        QTest::mouseClick(fixture.dialog().windowHandle(), Qt::RightButton, {},
-                          fixture.table().viewport()->mapTo(&fixture.dialog(), below));
-        QCOMPARE(popups.shown(), 0);
     }
 
     void keysMoveTheCurrentCell_data()
