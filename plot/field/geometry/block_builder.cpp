@@ -87,7 +87,7 @@ ShapePieces BlockBuilder::build(const BlockRecipe& recipe, const double* height,
         return drawable(arrowShapes(recipe, carriers(recipe, height, placed), height != nullptr));
     if (recipe.kind == BlockKind::Symbols)
         return drawable(symbolShapes(recipe, carriers(recipe, height, placed)),
-                        kLargestPiece / kCornersPerSymbol);
+                        kLargestPiece / kPointsPerSymbol);
     const PlacedSurface* const found = surface(recipe, height, placed);
     if (!found || found->shape->GetNumberOfPoints() == 0)
         return {};

@@ -13,6 +13,10 @@
 
 namespace corvala::plot {
 
+enum Kind { Verts, Lines, Polys, KindCount };
+/// Of a corner: lines and points are made wider than they are.
+static constexpr vtkIdType kCosts[KindCount] = {4, 2, 1};
+
 /// Fills one piece after the other with cells.
 class PieceCutter
 {
@@ -35,8 +39,6 @@ public:
     }
 
 private:
-    enum Kind { Verts, Lines, Polys, KindCount };
-
     void begin();
     void add(vtkCellArray* cells, Kind kind);
     void finish();
@@ -74,12 +76,13 @@ void PieceCutter::add(vtkCellArray* cells, Kind kind)
         vtkIdType count = 0;
         const vtkIdType* corners = nullptr;
         cell->GetCurrentCell(count, corners);
-        if (m_corners > 0 && m_corners + count > m_largest)
+        const vtkIdType cost = kCosts[kind] * count;
+        if (m_corners > 0 && m_corners + cost > m_largest)
             finish();
         m_cells[kind]->InsertNextCell(static_cast<int>(count));
         for (vtkIdType i = 0; i < count; ++i)
             m_cells[kind]->InsertCellPoint(local(corners[i]));
-        m_corners += count;
+        m_corners += cost;
     }
 }
 
@@ -110,9 +113,9 @@ void PieceCutter::finish()
 
 vtkIdType cornerCount(vtkPolyData& shape)
 {
-    return shape.GetVerts()->GetNumberOfConnectivityIds()
-        + shape.GetLines()->GetNumberOfConnectivityIds()
-        + shape.GetPolys()->GetNumberOfConnectivityIds();
+    return kCosts[Verts] * shape.GetVerts()->GetNumberOfConnectivityIds()
+        + kCosts[Lines] * shape.GetLines()->GetNumberOfConnectivityIds()
+        + kCosts[Polys] * shape.GetPolys()->GetNumberOfConnectivityIds();
 }
 
 ShapePieces inPieces(vtkPolyData& shape, vtkIdType largest)

@@ -12,14 +12,13 @@ namespace corvala::plot {
 /// are drawn. None when there is nothing to draw.
 using ShapePieces = std::vector<vtkSmartPointer<vtkPolyData>>;
 
-/// Corners of cells that a piece has at most, unless it is a single cell: a software renderer draws
-/// as many in a tenth of a second.
+/// Cost of a piece at most, unless it is a single cell, in corners of faces: a software renderer
+/// draws as many in a tenth of a second.
 constexpr vtkIdType kLargestPiece = 300'000;
 
-/// What a symbol costs, in corners: it covers many pixels.
-constexpr vtkIdType kCornersPerSymbol = 16;
+constexpr vtkIdType kPointsPerSymbol = 4; ///< what a symbol costs, in points
 
-/// Corners of all cells; what drawing the shape costs.
+/// What drawing the shape costs: corners of faces; one of a line counts as two, a point as four.
 vtkIdType cornerCount(vtkPolyData& shape);
 
 /// The cells of the shape in their order, with the values of their points. A shape that is no

@@ -225,6 +225,14 @@ bool CompositeLayer::hasGeometry() const
                        [](const auto& block) { return !block.second.pieces.empty(); });
 }
 
+std::int64_t CompositeLayer::cost() const
+{
+    std::int64_t cost = 0;
+    for (const auto& [map, block] : m_blocks)
+        cost += m_visible ? costOf(block.pieces, block.look.mapper) : 0;
+    return cost;
+}
+
 vtkBoundingBox CompositeLayer::bounds() const
 {
     vtkBoundingBox box;

@@ -83,6 +83,8 @@ public:
     vtkBoundingBox bounds() const;
     bool draws(CvlInt64 map) const;
     bool hasGeometry() const; ///< of any map
+    /// What drawing all blocks costs, as cornerCount; 0 while the layer is invisible.
+    std::int64_t cost() const;
     /// The geometry of a map's block.
     const ShapePieces& pieces(CvlInt64 map) const;
     /// The first of its pieces, which is all of it unless it is large; null without one.

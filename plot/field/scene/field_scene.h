@@ -63,6 +63,8 @@ public:
     std::int64_t drawingCost() const;
     /// The same of everything that is translucent.
     std::int64_t translucentCost() const;
+    /// The same of all symbols, whether or not they are in order.
+    std::int64_t symbolCost() const { return layer(FieldLayer::Scatter).cost(); }
     /// Draws a few points in place of everything, until this is taken back: for a scene that takes
     /// too long to be drawn while it is moved.
     void setStandIn(bool standsIn);

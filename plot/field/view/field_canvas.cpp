@@ -24,12 +24,15 @@ namespace corvala::plot {
 
 static constexpr int kSamples = 8;
 static constexpr int kRestMilliseconds = 200; ///< without a movement, until the hand rests
-static constexpr std::int64_t kFirstBudget = 3 * kLargestPiece;
+static constexpr std::int64_t kFirstBudget = kLargestPiece;
 static constexpr double kPartSeconds = 0.1; ///< for a part of a large picture
 static constexpr double kMovingSeconds = 0.12; ///< for a picture while the view is moved
 /// Software renderers leave holes in lines when they smooth by samples; there the picture at rest
 /// is drawn with twice the pixels each way, and made smaller.
 static constexpr int kSoftwareSamples = 2;
+/// Cost of the symbols of a picture that is smoothed so. More of them cover so many pixels that it
+/// would take seconds; their own edges are smooth as they are.
+static constexpr std::int64_t kMostSmoothedSymbols = 10 * kLargestPiece;
 static constexpr double kWheelStep = 1.15; ///< magnification of one notch
 
 /// Lets its interactor draw while Qt paints it, and at no other time.
@@ -141,7 +144,7 @@ void FieldCanvas::setView(const std::any& view)
 
 void FieldCanvas::sceneChanged(const host::StateEvent& event)
 {
-    m_quickTime = m_restTime = 0.0;
+    m_quickTime = m_blendedTime = m_restTime = 0.0;
     if (event.code == StateCode_SolutionTimeChanged)
         m_view.widen();
     for (const host::StyleChange& change : event.styleChanges)
@@ -157,12 +160,31 @@ bool FieldCanvas::isSlow() const
                              : m_restTime > kSmoothing * kMovingSeconds;
 }
 
+/// What keeps the hand waiting is left out: first the order in depth of what is translucent, then
+/// all but some points.
+void FieldCanvas::reduce()
+{
+    FieldScene& scene = m_view.scene();
+    const bool isReduced = m_hand.isActive() && isSlow();
+    const bool isBlended = isReduced && !scene.isStandInShown() && scene.translucentCost() > 0
+        && m_blendedTime <= kMovingSeconds;
+    m_view.setSorted(!isBlended);
+    scene.setStandIn(isReduced && !isBlended);
+}
+
+/// Whether the picture at rest is drawn larger; counted and not timed, so that it is the same on
+/// every machine.
+bool FieldCanvas::isSmooth() const
+{
+    return !m_isQuick && m_view.scene().symbolCost() <= kMostSmoothedSymbols;
+}
+
 /// A full smooth picture when the hand rests, else a quick one.
 void FieldCanvas::draw()
 {
     FieldScene& scene = m_view.scene();
     m_isQuick = m_hand.isActive() || scene.hasWork();
-    scene.setStandIn(m_hand.isActive() && isSlow());
+    reduce();
     m_pictureTime = 0.0;
     m_isUnfinished = false;
     m_view.setCut(false);
@@ -197,7 +219,7 @@ void FieldCanvas::drawPart()
     clock.start();
     // Translucent faces are drawn by depth, which cannot be with samples.
     const bool drawsLarger = isSoftwareOpenGl() || m_view.scene().isTranslucent();
-    const int samples = m_isQuick || !drawsLarger ? 1 : kSoftwareSamples;
+    const int samples = drawsLarger && isSmooth() ? kSoftwareSamples : 1;
     vtkRenderWindow* const window = m_widget->renderWindow();
     window->SetMultiSamples(drawsLarger ? 0 : kSamples);
     const QSize drawn(window->GetSize()[0], window->GetSize()[1]);
@@ -225,7 +247,7 @@ void FieldCanvas::learn(double seconds)
     else if (m_isUnfinished && seconds < kPartSeconds / 2)
         m_budget *= 2;
     m_pictureTime += seconds;
-    double& known = m_isQuick ? m_quickTime : m_restTime;
+    double& known = !m_isQuick ? m_restTime : m_view.isSorted() ? m_quickTime : m_blendedTime;
     if (!m_view.scene().isStandInShown())
         known = m_isUnfinished ? std::max(known, m_pictureTime) : m_pictureTime;
 }

@@ -59,6 +59,8 @@ private:
     void drawPart();
     void learn(double seconds);
     bool isSlow() const;
+    void reduce();
+    bool isSmooth() const;
     void takeHold();
 
     QString m_problem;
@@ -72,7 +74,8 @@ private:
     double m_pictureTime = 0.0; ///< so far, in seconds
     std::int64_t m_budget; ///< cost of what is drawn at a time
     double m_quickTime = 0.0; ///< of a full picture without smoothing, in seconds; 0 when unknown
-    double m_restTime = 0.0; ///< of one with it
+    double m_blendedTime = 0.0; ///< of one without order in depth besides
+    double m_restTime = 0.0; ///< of a smooth one
 };
 
 } // namespace corvala::plot

@@ -71,6 +71,10 @@ public:
 
     /// Brings what depends on scene and camera up to date; call before drawing.
     void prepare();
+    /// Whether what is translucent is drawn by depth, as it is at first: else it is blended in one
+    /// go, weighed by depth, which takes as long as if it were opaque.
+    void setSorted(bool isSorted) { m_back->SetUseDepthPeeling(isSorted); }
+    bool isSorted() const { return m_back->GetUseDepthPeeling() != 0; }
     /// How much of a picture is drawn at a time; all of it, unless it is told otherwise.
     DrawingParts& parts() { return m_parts; }
     const DrawingParts& parts() const { return m_parts; }
