@@ -565,6 +565,9 @@ private Q_SLOTS:
         };
         const QByteArray whole = drawn();
         int parts = 1;
+        view.setSorted(false); // while it is moved
+        QCOMPARE(drawn() != whole, translucent != 0);
+        view.setSorted(true);
         QVERIFY(drawn() == whole);
         view.parts().begin(1);
         QVERIFY(drawn() != whole);

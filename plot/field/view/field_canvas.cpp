@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace corvala::plot {
 
@@ -115,14 +116,34 @@ void FieldCanvas::makeWidgets()
     // The canvas draws when it is idle, and not whenever the interactor wishes.
     vtkRenderWindowInteractor* const interactor = window->GetInteractor();
     interactor->EnableRenderOff();
-    interactor->SetInteractorStyle(vtkNew<vtkInteractorStyleTrackballCamera>());
-    vtkNew<vtkCallbackCommand> wish;
-    wish->SetClientData(this);
-    wish->SetCallback([](vtkObject*, unsigned long, void* canvas, void*) {
-        Q_EMIT static_cast<FieldCanvas*>(canvas)->redrawWanted();
-    });
-    interactor->AddObserver(vtkCommand::RenderEvent, wish);
+    m_style = vtkSmartPointer<vtkInteractorStyleTrackballCamera>::New();
+    interactor->SetInteractorStyle(m_style);
+    const auto observe = [this](vtkObject& subject, unsigned long event, auto callback) {
+        vtkNew<vtkCallbackCommand> command;
+        command->SetClientData(this);
+        command->SetCallback(callback);
+        subject.AddObserver(event, command);
+    };
+    observe(*interactor, vtkCommand::RenderEvent,
+            [](vtkObject*, unsigned long, void* canvas, void*) {
+                static_cast<FieldCanvas*>(canvas)->pictureWished();
+            });
+    observe(*m_style, vtkCommand::EndInteractionEvent,
+            [](vtkObject*, unsigned long, void* canvas, void*) {
+                static_cast<FieldCanvas*>(canvas)->m_isLetGo = true;
+            });
     m_overlay = new Overlay(m_view, m_widget);
+}
+
+/// The interactor wishes a picture while it turns the view, from the first pixel on, and once more
+/// when it is let go: another follows then anyway, unless the view was not moved.
+void FieldCanvas::pictureWished()
+{
+    if (std::exchange(m_isLetGo, false))
+        return;
+    if (m_style->GetState() != VTKIS_NONE)
+        takeHold();
+    Q_EMIT redrawWanted();
 }
 
 void FieldCanvas::resizeEvent(QResizeEvent* event)
@@ -144,7 +165,8 @@ void FieldCanvas::setView(const std::any& view)
 
 void FieldCanvas::sceneChanged(const host::StateEvent& event)
 {
-    m_quickTime = m_blendedTime = m_restTime = 0.0;
+    m_quickTime = m_restTime = 0.0;
+    m_blendedTime = -1.0;
     if (event.code == StateCode_SolutionTimeChanged)
         m_view.widen();
     for (const host::StyleChange& change : event.styleChanges)
@@ -247,6 +269,10 @@ void FieldCanvas::learn(double seconds)
     else if (m_isUnfinished && seconds < kPartSeconds / 2)
         m_budget *= 2;
     m_pictureTime += seconds;
+    if (!m_view.isSorted() && m_blendedTime < 0.0) {
+        m_blendedTime = 0.0; // the first one took the time to make its shaders as well
+        return;
+    }
     double& known = !m_isQuick ? m_restTime : m_view.isSorted() ? m_quickTime : m_blendedTime;
     if (!m_view.scene().isStandInShown())
         known = m_isUnfinished ? std::max(known, m_pictureTime) : m_pictureTime;

@@ -6,6 +6,9 @@
 
 #include <QTimer>
 
+#include <vtkInteractorStyle.h>
+#include <vtkSmartPointer.h>
+
 class QVTKOpenGLNativeWidget;
 
 namespace corvala::plot {
@@ -56,6 +59,7 @@ private:
     class Picture;
 
     void makeWidgets();
+    void pictureWished();
     void drawPart();
     void learn(double seconds);
     bool isSlow() const;
@@ -68,13 +72,15 @@ private:
     FieldView m_view;
     QVTKOpenGLNativeWidget* m_widget = nullptr; // not owned; null without OpenGL
     QWidget* m_overlay = nullptr; // not owned
+    vtkSmartPointer<vtkInteractorStyle> m_style; ///< turns the view in space
+    bool m_isLetGo = false; ///< just now
     QTimer m_hand; ///< runs while the view is being moved, and until the hand rests
     bool m_isUnfinished = false; ///< more of the picture follows
     bool m_isQuick = false; ///< it is without smoothing
     double m_pictureTime = 0.0; ///< so far, in seconds
     std::int64_t m_budget; ///< cost of what is drawn at a time
     double m_quickTime = 0.0; ///< of a full picture without smoothing, in seconds; 0 when unknown
-    double m_blendedTime = 0.0; ///< of one without order in depth besides
+    double m_blendedTime = -1.0; ///< of one without order in depth; negative before the first
     double m_restTime = 0.0; ///< of a smooth one
 };
 
