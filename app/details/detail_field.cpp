@@ -70,11 +70,13 @@ private:
     QCheckBox& m_box;
 };
 
-/// Long names do not widen the panel.
+/// Long names and numbers do not widen the panel.
+constexpr int kShownLetters = 12;
+
 void keepNarrow(QComboBox& box)
 {
     box.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box.setMinimumContentsLength(12);
+    box.setMinimumContentsLength(kShownLetters);
 }
 
 class ChoiceField : public DetailField
@@ -160,6 +162,7 @@ public:
         };
         field->setLimits(limit(entry().minimum), limit(entry().maximum));
         field->setSingleStep(entry().isPercent ? 0.1 : 1.0);
+        field->setMinimumWidth(kShownLetters * field->fontMetrics().averageCharWidth());
         connect(field, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
                 &NumberDetail::take);
         connect(field, &QDoubleSpinBox::editingFinished, this, &NumberDetail::take);

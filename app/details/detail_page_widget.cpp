@@ -23,6 +23,7 @@ DetailPageWidget::DetailPageWidget(const DetailPage& page, Proposal proposal, QW
 {
     auto* form = new QFormLayout(this);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows); // in a narrow panel
     for (const DetailRow& row : page.rows) {
         if (!m_index && style::entryOf(row.key).indexCount > 0)
             addIndexChoice(*form);
@@ -50,7 +51,7 @@ void DetailPageWidget::addField(QFormLayout& form, const DetailRow& row)
     field->widget().setToolTip(QCoreApplication::translate("StyleValues", entry.label));
     if (auto* const box = qobject_cast<QCheckBox*>(&field->widget())) {
         box->setText(shownText(row.text));
-        form.addRow(QString(), box);
+        form.addRow(box);
     } else {
         form.addRow(shownText(row.text), &field->widget());
     }

@@ -5,10 +5,35 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace corvala::app {
+
+namespace {
+
+/// Scrolls up and down only: it is never narrower than what it shows.
+class PageScrollArea : public QScrollArea
+{
+public:
+    explicit PageScrollArea(QWidget* parent)
+        : QScrollArea(parent)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    }
+
+    QSize minimumSizeHint() const override
+    {
+        const int width = widget() ? widget()->minimumSizeHint().width() : 0;
+        return {width + verticalScrollBar()->sizeHint().width(),
+                QScrollArea::minimumSizeHint().height()};
+    }
+};
+
+} // namespace
 
 DetailsDock::DetailsDock(DetailPageWidget::Proposal proposal, QWidget* parent)
     : QDockWidget(tr("Plot Details"), parent)
@@ -23,9 +48,7 @@ DetailsDock::DetailsDock(DetailPageWidget::Proposal proposal, QWidget* parent)
     layout->addWidget(m_choice);
     layout->addWidget(m_stack, 1);
     for (const DetailPage& page : detailPages()) {
-        auto* scroll = new QScrollArea(m_stack);
-        scroll->setFrameShape(QFrame::NoFrame);
-        scroll->setWidgetResizable(true);
+        auto* scroll = new PageScrollArea(m_stack);
         m_pages.push_back(new DetailPageWidget(page, proposal, scroll));
         m_pages.back()->setObjectName(QLatin1String(page.name));
         scroll->setWidget(m_pages.back());
