@@ -144,8 +144,10 @@ static void setUpQt()
     qInstallMessageHandler(printMessage);
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // Fonts follow the resolution of the screen, pixels its whole factor: at 1.04, which many X
+    // servers report, widgets are painted a pixel too narrow.
     QApplication::setHighDpiScaleFactorRoundingPolicy(
-        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+        Qt::HighDpiScaleFactorRoundingPolicy::RoundPreferFloor);
     QSurfaceFormat::setDefaultFormat(QVTKOpenGLNativeWidget::defaultFormat());
     QCoreApplication::setApplicationName(QStringLiteral("corvala"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVALA_VERSION));

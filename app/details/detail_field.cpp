@@ -177,14 +177,12 @@ public:
         if (m_shown == number && m_field.hasFocus())
             return;
         m_shown = number;
-        const QSignalBlocker blocker(&m_field);
-        m_field.setNumber(number);
+        showNumber(number);
     }
     void showInstead(double number) override
     {
         m_shown.reset();
-        const QSignalBlocker blocker(&m_field);
-        m_field.setNumber(number);
+        showNumber(number);
     }
     bool eventFilter(QObject*, QEvent* event) override
     {
@@ -197,10 +195,19 @@ public:
     }
 
 private:
+    void showNumber(double number)
+    {
+        const QSignalBlocker blocker(&m_field);
+        m_field.setNumber(number);
+    }
+
     void take()
     {
         const std::optional<double> number = m_field.number();
-        if (!number || number == m_shown)
+        if (!number)
+            return;
+        showNumber(*number); // in the notation of the program, whatever was typed
+        if (number == m_shown)
             return;
         m_shown = number;
         write(*number);

@@ -143,15 +143,15 @@ private Q_SLOTS:
     /// A text that does not fit is not taken, and what is typed outlives changes elsewhere.
     void typedNumbers_data()
     {
-        const Rows<QString, double> row;
-        row("a number", "45", 45.0);
-        row("too large", "500", 30.0);
-        row("no number", "much", 30.0);
+        const Rows<QString, double, QString> row;
+        row("a number", "45.5", 45.5, "45.50");
+        row("too large", "500", 30.0, "500");
+        row("no number", "much", 30.0, "much");
     }
 
     void typedNumbers()
     {
-        const auto [text, angle] = currentRow<QString, double>();
+        const auto [text, angle, shown] = currentRow<QString, double, QString>();
         m_dock->openPage("edge");
         auto* const field = child<QDoubleSpinBox>("CreaseAngle");
         field->setFocus();
@@ -161,6 +161,7 @@ private Q_SLOTS:
         QCOMPARE(field->text(), text);
         QTest::keyClick(field, Qt::Key_Return);
         QCOMPARE(real(style::edgeDetails.creaseAngle, -1), angle);
+        QCOMPARE(field->text(), shown);
     }
 
 private:
