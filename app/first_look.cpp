@@ -4,7 +4,6 @@
 #include "host/document/layer_facts.h"
 #include "host/style/schema.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace corvala::app {
@@ -14,7 +13,7 @@ using host::SetStyle;
 namespace {
 
 constexpr double kMostMeshCells = 3000; ///< more are too small to be told apart
-constexpr std::size_t kMostEdgedZones = 1000; ///< more drown in their edges
+constexpr std::uint64_t kMostEdgedMaps = 1000; ///< more drown in their edges
 constexpr double kThinLine = 0.1; ///< percent of the frame height
 constexpr double kBlack = 0;
 
@@ -23,44 +22,49 @@ struct Facts
 {
     bool isInSpace;
     bool hasVariable; ///< to colour by
-    bool hasSurfaces; ///< zones that are surfaces by themselves
     bool hasLargeCells;
-    bool hasFewZones;
-    host::NumberSet volumes; ///< maps
+    bool hasFewMaps;
+    host::NumberSet volumes; ///< maps, that no zones which are surfaces show
     host::NumberSet maps;
 };
 
-bool isSurface(const host::ZoneInfo& zone)
-{
-    return zone.cellDimension == 2;
-}
-
-/// Cells that are seen: of a volume, about those on its six sides.
-double shownCells(const host::DataSet& data, bool hasSurfaces)
+/// Cells that are seen at first: of a volume, about those on its six sides.
+double shownCells(const host::Frame& frame, bool showsVolumes)
 {
     double cells = 0;
-    for (const host::ZoneInfo& zone : data.zones) {
+    for (CvlInt64 map = 1; map <= frame.fieldMapCount(); ++map) {
+        const CvlInt64 number = frame.candidateZone(map);
+        if (number == 0)
+            continue;
+        const host::ZoneInfo& zone = frame.data()->zone(number);
         const auto count = static_cast<double>(zone.cellCount);
         if (!zone.isVolume())
             cells += count;
-        else if (!hasSurfaces)
+        else if (showsVolumes)
             cells += 6 * std::pow(count, 2.0 / 3.0);
     }
     return cells;
 }
 
+/// Whether the first contour group has something to tell.
+bool hasVaryingVariable(const host::DataSet& data)
+{
+    const int first = data.contourVariables.empty() ? 0 : data.contourVariables.front();
+    return first != 0 && !data.variable(first).isConstant;
+}
+
 Facts factsOf(const host::Frame& frame)
 {
     const host::DataSet& data = *frame.data();
+    const bool showsVolumes = !data.surfacesEncloseVolumes;
     Facts facts {};
     facts.isInSpace = frame.plotType() == PlotType_Field3D;
-    facts.hasVariable = !data.contourVariables.empty() && data.contourVariables.front() != 0;
-    facts.hasSurfaces = std::any_of(data.zones.begin(), data.zones.end(), isSurface);
-    facts.hasLargeCells = shownCells(data, facts.hasSurfaces) <= kMostMeshCells;
-    facts.hasFewZones = data.zones.size() <= kMostEdgedZones;
+    facts.hasVariable = hasVaryingVariable(data);
+    facts.hasLargeCells = shownCells(frame, showsVolumes) <= kMostMeshCells;
     facts.maps = host::allUpTo(frame.fieldMapCount());
+    facts.hasFewMaps = facts.maps.cardinality() <= kMostEdgedMaps;
     for (const std::uint32_t map : facts.maps)
-        if (frame.fieldMaps().hasVolumeZones(map))
+        if (showsVolumes && frame.fieldMaps().hasVolumeZones(map))
             facts.volumes.add(map);
     return facts;
 }
@@ -101,14 +105,14 @@ std::vector<SetStyle> firstLook(const host::Frame& frame)
     look.turn(style::fieldLayers.showShade, !facts.hasVariable || frame.data()->zoneCount() > 1);
     look.turn(style::fieldLayers.useLightingEffect, facts.isInSpace);
     look.turn(style::fieldLayers.showMesh, facts.hasLargeCells);
-    look.turn(style::fieldLayers.showEdge, facts.hasFewZones);
+    look.turn(style::fieldLayers.showEdge, facts.hasFewMaps);
     if (facts.hasLargeCells) { // thin lines that no colour of the surface hides
         look.give(style::fieldMap.mesh.color, kBlack, facts.maps);
         look.give(style::fieldMap.mesh.lineThickness, kThinLine, facts.maps);
     }
-    if (facts.hasFewZones)
+    if (facts.hasFewMaps)
         look.give(style::fieldMap.edgeLayer.lineThickness, 2 * kThinLine, facts.maps);
-    if (!facts.hasSurfaces && !facts.volumes.isEmpty())
+    if (!facts.volumes.isEmpty())
         look.add(host::drawBoundaryFaces(facts.volumes));
     return look.take();
 }

@@ -45,6 +45,7 @@ struct Variable
     std::string alias; ///< replaces the name in lists when not empty
     std::string array; ///< array of the zones' point or cell data; empty for a coordinate
     int component = 0; ///< component of the array, or 0, 1, 2 for the coordinate X, Y, Z
+    bool isConstant = false; ///< one value everywhere and at all times, or none
     bool isCoordinate() const { return array.empty(); }
 };
 
@@ -82,6 +83,7 @@ public:
     /// Variable numbers proposed for contour groups 1 up; 0 is unassigned.
     std::vector<int> contourVariables;
     bool isPlanar = false; ///< all zones lie in one plane of constant Z
+    bool surfacesEncloseVolumes = false; ///< zones that are surfaces lie all round the volumes
     std::vector<std::string> notes; ///< what the reader dropped or guessed, one sentence each
     std::shared_ptr<const ZoneSource> source;
 

@@ -134,7 +134,10 @@ static ZoneInfo zoneFrom(const json& value)
 
 static json variableJson(const Variable& variable)
 {
-    return {{"name", variable.name}, {"array", variable.array}, {"component", variable.component}};
+    return {{"name", variable.name},
+            {"array", variable.array},
+            {"component", variable.component},
+            {"constant", variable.isConstant}};
 }
 
 static Variable variableFrom(const json& value)
@@ -143,6 +146,7 @@ static Variable variableFrom(const json& value)
     value.at("name").get_to(variable.name);
     value.at("array").get_to(variable.array);
     value.at("component").get_to(variable.component);
+    value.at("constant").get_to(variable.isConstant);
     return variable;
 }
 
@@ -172,6 +176,7 @@ std::string toJson(const DataSetIndex& index)
                 {"vectors", data.vectorVariables},
                 {"contours", data.contourVariables},
                 {"planar", data.isPlanar},
+                {"enclosed", data.surfacesEncloseVolumes},
                 {"zoneFiles", index.zoneFiles},
                 {"notes", listJson(index.notes, messageJson)}};
     if (index.plot3d)
@@ -209,6 +214,7 @@ std::optional<DataSetIndex> indexFromJson(const std::string& text)
         value.at("vectors").get_to(data.vectorVariables);
         value.at("contours").get_to(data.contourVariables);
         value.at("planar").get_to(data.isPlanar);
+        value.at("enclosed").get_to(data.surfacesEncloseVolumes);
         value.at("zoneFiles").get_to(index.zoneFiles);
         listFrom(value.at("notes"), index.notes, messageFrom);
         if (value.contains("plot3d"))

@@ -7,6 +7,8 @@
 #include "sdk/private/read_count.h"
 #include "sdk/private/set_record.h"
 
+#include <algorithm>
+
 namespace corvala::sdk {
 
 using host::Document;
@@ -18,13 +20,17 @@ bool copyLineMaps(toolbox::Set lineMaps)
         && Document::instance().execute(host::CopyLineMaps {lineMaps.handle()->members}).isDone();
 }
 
-/// Enabled variables of the frame that are no coordinates, ascending.
+/// Enabled variables of the frame that are no coordinates, ascending; constants, which show
+/// nothing, come last.
 static std::vector<int> dataVariables(const Frame& frame)
 {
     std::vector<int> numbers;
     for (const std::uint32_t number : frame.enabledVariables())
         if (!frame.data()->variable(number).isCoordinate())
             numbers.push_back(static_cast<int>(number));
+    std::stable_partition(numbers.begin(), numbers.end(), [&frame](int number) {
+        return !frame.data()->variable(number).isConstant;
+    });
     return numbers;
 }
 

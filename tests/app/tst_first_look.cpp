@@ -1,38 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/first_look.h"
+#include "app/data_opening.h"
 #include "host/document/document.h"
 #include "host/style/schema.h"
+#include "plot/render.h"
+#include "tests/io/io_support.h"
 #include "tests/support/rows.h"
-
-#include <QTest>
 
 using namespace corvala;
 using namespace corvala::tests;
-using host::ZoneInfo;
+using host::io::legacy;
 
-namespace {
-
-ZoneInfo ordered(std::int64_t i, std::int64_t j, std::int64_t k)
-{
-    ZoneInfo zone;
-    zone.ordered = true;
-    zone.dimensions = {{i, j, k}};
-    zone.cellDimension = (i > 1) + (j > 1) + (k > 1);
-    zone.cellCount = std::max<std::int64_t>(1, i - 1) * std::max<std::int64_t>(1, j - 1)
-        * std::max<std::int64_t>(1, k - 1);
-    return zone;
-}
-
-ZoneInfo unordered(int dimension, std::int64_t cells)
-{
-    ZoneInfo zone;
-    zone.cellDimension = dimension;
-    zone.cellCount = cells;
-    return zone;
-}
-
-/// Layers that are on, "boundary" with the maps that draw their boundary faces.
-QString lookOf(const host::Frame& frame)
+/// Plot type, layers that are on, and "boundary" with the number of maps that draw their boundary
+/// faces.
+static QString lookOf(const host::Frame& frame)
 {
     const std::pair<style::SwitchKey, const char*> layers[] = {
         {style::fieldLayers.showContour, "contour"},
@@ -40,67 +20,146 @@ QString lookOf(const host::Frame& frame)
         {style::fieldLayers.useLightingEffect, "light"},
         {style::fieldLayers.showMesh, "mesh"},
         {style::fieldLayers.showEdge, "edges"}};
-    QStringList texts;
+    QStringList texts {frame.plotType() == PlotType_Field2D ? "2D" : "3D"};
     for (const auto& [key, name] : layers)
         if (frame.isOn(key))
             texts << name;
-    const host::AttributeId surfaces =
-        host::Schema::instance().at(style::fieldMap.surfaces.surfacesToPlot).id;
-    QString maps;
-    for (CvlInt64 map = 1; map <= std::min<CvlInt64>(3, frame.fieldMapCount()); ++map)
-        if (frame.fieldMaps().hasVolumeZones(map)
-            && frame.fieldInteger(surfaces, map) == SurfacesToPlot_BoundaryCellFaces)
-            maps += QString::number(map);
-    if (!maps.isEmpty())
-        texts << "boundary " + maps;
+    int boundary = 0;
+    for (CvlInt64 map = 1; map <= frame.fieldMapCount(); ++map)
+        boundary += frame.fieldMaps().hasVolumeZones(map)
+                && frame.fieldInteger(style::fieldMap.surfaces.surfacesToPlot, map)
+                    == SurfacesToPlot_BoundaryCellFaces
+            ? 1
+            : 0;
+    if (boundary > 0)
+        texts << QStringLiteral("boundary %1").arg(boundary);
     return texts.join(' ');
 }
 
-} // namespace
+static QString nameOf(const host::Frame& frame, style::VariableKey key, int index = -1)
+{
+    const int variable = frame.values().integer(host::Schema::instance().at(key), index);
+    return variable > 0 ? QString::fromStdString(frame.data()->variable(variable).name) : QString();
+}
+
+/// What is to be seen: "colors", "greys" of faces, "lines" in black.
+static QString seenIn(const QImage& image)
+{
+    constexpr double kFew = 0.001; // of the pixels
+    double colors = 0;
+    double greys = 0;
+    double lines = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width() * 2 / 3; ++x) { // without legends
+            const QColor color = image.pixelColor(x, y);
+            const bool isGrey = color.hsvSaturation() < 25;
+            colors += isGrey ? 0 : 1;
+            greys += isGrey && color.value() > 90 && color.value() < 235 ? 1 : 0;
+            lines += isGrey && color.value() < 30 ? 1 : 0;
+        }
+    }
+    const double few = kFew * image.width() * image.height();
+    QStringList seen;
+    if (colors > 50 * few)
+        seen << QStringLiteral("colors");
+    if (greys > 50 * few)
+        seen << QStringLiteral("greys");
+    if (lines > few)
+        seen << QStringLiteral("lines");
+    return seen.join(' ');
+}
 
 /// What opened data look like, by what is in them.
 class tst_FirstLook : public QObject
 {
     Q_OBJECT
 
+    host::io::DataFolder m_folder;
+
 private Q_SLOTS:
     void dependsOnTheData_data()
     {
-        const Rows<QVector<ZoneInfo>, bool, bool,
-                   QString> row; // zones, a variable, planar, look
-        row("small plane", {ordered(20, 20, 1)}, true, true, "contour mesh edges");
-        row("large plane", {ordered(200, 200, 1)}, true, true, "contour edges");
-        row("no variable", {ordered(20, 20, 1)}, false, true, "shade mesh edges");
-        row("surfaces in space", {unordered(2, 5000), unordered(2, 9)}, true, false,
-            "contour shade light edges");
-        row("volumes", {ordered(40, 40, 40), unordered(3, 10)}, true, false,
-            "contour shade light edges boundary 12");
-        row("volume with its surface", {ordered(40, 40, 40), unordered(2, 9600)}, true, false,
-            "contour shade light edges");
-        row("volume and a line", {ordered(40, 40, 40), ordered(9, 1, 1)}, true, false,
-            "contour shade light edges boundary 1");
-        row("very many zones", QVector<ZoneInfo>(1001, unordered(2, 100)), true, false,
-            "contour shade light");
+        const Rows<QStringList, QString, QString, QString>
+            row; // files, look, contour and vector variables, what is seen
+        const auto sample = &host::io::DataFolder::sample;
+        row("plane", {sample("naca_transient")}, "2D contour shade edges", "DENS", "colors lines");
+        row("volumes with their surfaces", {sample("cavity_transient")},
+            "3D contour shade light mesh edges", "p U X", "colors lines");
+        const QString combustor = sample("combustor_three_blocks/multicomb_%1.vts");
+        row("volumes", {combustor.arg(0), combustor.arg(1), combustor.arg(2)},
+            "3D contour shade light mesh edges boundary 3", "Density Momentum X", "colors lines");
+        row("solids and shells", {sample("exodus_biplane/biplane_rms_pressure_bs.exo")},
+            "3D contour shade light mesh edges boundary 4", "ObjectId", "colors lines");
+        row("cells", {sample("cgns_hexa/cgnslib_vers-4400.cgns")},
+            "3D contour light mesh edges boundary 1", "Density", "colors lines");
+        row("surfaces over time", {sample("two_spheres/dualSphereAnimation4.pvd")},
+            "3D contour shade light mesh edges", "Normals X Normals X", "colors lines");
+
+        const QByteArray box = "DATASET STRUCTURED_POINTS\nDIMENSIONS 30 30 30\nORIGIN 0 0 0\n"
+                               "SPACING 1 1 1\n";
+        const QByteArray slice = "DATASET STRUCTURED_POINTS\nDIMENSIONS 30 30 1\nORIGIN 0 0 15\n"
+                                 "SPACING 1 1 1\n";
+        const auto values = [](const char* name, int count, bool isConstant) {
+            QByteArray text = QByteArray("SCALARS ") + name + " float\nLOOKUP_TABLE default\n";
+            for (int i = 0; i < count; ++i)
+                text += QByteArray::number(isConstant ? 7 : i % 30) + ' ';
+            return text;
+        };
+        const auto file = [&](const char* name, const QByteArray& points, int count) {
+            return m_folder.write(name,
+                                  legacy(points + "POINT_DATA " + QByteArray::number(count) + '\n'
+                                         + values("same", count, true)
+                                         + values("other", count, false)));
+        };
+        const QString boxFile = file("box.vtk", box, 27'000);
+        row("a slice in a volume", {boxFile, file("slice.vtk", slice, 900)},
+            "3D contour shade light edges boundary 1", "other", "colors lines");
+        const QString walls =
+            m_folder.write("walls.vtk",
+                           legacy("DATASET POLYDATA\nPOINTS 8 float\n0 0 0 29 0 0 29 29 0 0 29 0 "
+                                  "0 0 29 29 0 29 29 29 29 0 29 29\nPOLYGONS 4 20\n"
+                                  "4 0 1 5 4 4 1 2 6 5 4 2 3 7 6 4 3 0 4 7\n"));
+        row("walls round a volume without its ends", {boxFile, walls},
+            "3D contour shade light edges boundary 1", "other", "colors lines");
+        QByteArray blocks;
+        for (int i = 0; i <= 1000; ++i)
+            blocks += "<DataSet index='" + QByteArray::number(i) + "' file='piece.vtp'/>";
+        m_folder.write(
+            "piece.vtp",
+            "<VTKFile type='PolyData' version='1.0'><PolyData><Piece NumberOfPoints='3' "
+            "NumberOfPolys='1'><Points>"
+            "<DataArray format='ascii' type='Float32' NumberOfComponents='3'>0 0 0 1 0 0 0 1 "
+            "0</DataArray></Points>"
+            "<Polys><DataArray format='ascii' type='Int64' Name='connectivity'>0 1 "
+            "2</DataArray><DataArray "
+            "type='Int64' Name='offsets'>3</DataArray></Polys></Piece></PolyData></VTKFile>");
+        row("very many zones without variables",
+            {m_folder.write(
+                "many.vtm",
+                "<VTKFile type='vtkMultiBlockDataSet' version='1.0'><vtkMultiBlockDataSet>" + blocks
+                    + "</vtkMultiBlockDataSet></VTKFile>")},
+            "2D shade mesh", "", "greys lines");
     }
 
     void dependsOnTheData()
     {
-        const auto [zones, hasVariable, isPlanar, look] =
-            currentRow<QVector<ZoneInfo>, bool, bool, QString>();
-        auto data = std::make_shared<host::DataSet>();
-        data->variables = {{"X", "", "", 0}, {"Y", "", "", 1}, {"Z", "", "", 2}, {"p", "", "p", 0}};
-        data->zones.assign(zones.begin(), zones.end());
-        data->isPlanar = isPlanar;
-        if (hasVariable)
-            data->contourVariables = {4};
-        host::Document& document = host::Document::instance();
-        document.execute(host::AttachData {{}, data, data->suggestedPlotType(), 1});
-        for (const host::SetStyle& value : app::firstLook(*document.activeFrame()))
-            QVERIFY(document.execute(value).isDone());
-        QCOMPARE(lookOf(*document.activeFrame()), look);
-        QVERIFY(document.undo().undoText().isEmpty());
+        const auto [files, look, variables, seen] =
+            currentRow<QStringList, QString, QString, QString>();
+        host::io::ReadRequest request;
+        request.files = files;
+        QCOMPARE(app::openAndWait(request).error, QString());
+        const host::Frame& frame = *host::Document::instance().activeFrame();
+        QCOMPARE(lookOf(frame), look);
+        const QStringList shown {nameOf(frame, style::contourGroups.var, 1),
+                                 nameOf(frame, style::globalVector.uVar)};
+        QCOMPARE(shown.join(' ').trimmed(), variables);
+        QVERIFY(host::Document::instance().undo().undoText().isEmpty());
+        QString error;
+        const QImage image = plot::renderToImage(frame.id(), {600, 450}, &error);
+        QVERIFY2(!image.isNull(), qPrintable(error));
+        QCOMPARE(seenIn(image), seen);
     }
 };
 
-QTEST_GUILESS_MAIN(tst_FirstLook)
+QTEST_MAIN(tst_FirstLook)
 #include "tst_first_look.moc"

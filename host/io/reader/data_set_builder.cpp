@@ -70,6 +70,7 @@ DataSetIndex DataSetBuilder::build(const std::vector<std::unique_ptr<DataFile>>&
         readFile(*files[m_fileNumber], names[m_fileNumber]);
     m_index.data.title = names.front();
     m_index.data.isPlanar = m_bounds.GetLength(2) <= kFlatness * m_bounds.GetMaxLength();
+    m_index.data.surfacesEncloseVolumes = m_enclosure.isClosed();
     numberZones();
     noteOmissions();
     m_index.zoneFiles = m_writer.files();
@@ -216,6 +217,8 @@ void DataSetBuilder::addLeaf(Block& block, vtkDataSet* data, double time)
     ZoneInfo info = zoneInfo(*zone);
     info.time = time;
     m_variables.add(*zone);
+    if (block.zones.empty())
+        m_enclosure.add(*zone, info);
     m_bounds.AddBounds(zone->GetBounds());
     info.sourceIndex = m_writer.write(*zone);
     block.zones.push_back(info);

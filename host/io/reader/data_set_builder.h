@@ -3,6 +3,7 @@
 
 #include "host/io/read_protocol.h"
 #include "host/io/reader/data_file.h"
+#include "host/io/reader/enclosure.h"
 #include "host/io/reader/variable_list.h"
 #include "host/io/reader/zone_writer.h"
 
@@ -62,6 +63,7 @@ private:
     std::vector<Block> m_blocks; ///< of all files, as they are met
     std::map<BlockKey, std::size_t> m_blockOfKey; ///< of the file that is being read
     vtkBoundingBox m_bounds;
+    Enclosure m_enclosure;
     QSet<QString> m_droppedArrays;
     std::set<QString> m_warnings; ///< with the names of the files
     std::size_t m_fileNumber = 0;

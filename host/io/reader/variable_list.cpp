@@ -9,6 +9,8 @@
 #include <vtkPointData.h>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 
 namespace corvala::host::io::reader {
 
@@ -37,19 +39,33 @@ void VariableList::add(vtkDataSetAttributes& attributes)
         const auto [place, isNew] = m_arrayOfName.try_emplace(name, m_arrays.size());
         if (isNew)
             m_arrays.push_back({name, {}, namesBookkeeping(name)});
-        Array& array = m_arrays[place->second];
-        for (int c = array.componentCount(); c < data->GetNumberOfComponents(); ++c) {
+        std::vector<Component>& components = m_arrays[place->second].components;
+        for (int c = 0; c < data->GetNumberOfComponents(); ++c) {
             const char* label = data->GetComponentName(c);
-            array.componentNames.emplace_back(label ? label : "");
+            if (components.size() == static_cast<std::size_t>(c))
+                components.push_back({label ? label : "", {}});
+            meet(components[static_cast<std::size_t>(c)], *data, c);
         }
     }
 }
 
-std::string VariableList::Array::componentLabel(int component) const
+/// Looks no further than to the first value that differs.
+void VariableList::meet(Component& component, vtkDataArray& data, int number)
 {
-    if (componentCount() <= 3)
+    for (vtkIdType i = 0; i < data.GetNumberOfTuples() && component.isConstant; ++i) {
+        const double value = data.GetComponent(i, number);
+        if (!std::isfinite(value))
+            continue;
+        component.isConstant = value == component.value.value_or(value);
+        component.value = value;
+    }
+}
+
+std::string VariableList::Array::componentLabel(std::size_t component) const
+{
+    if (components.size() <= 3)
         return kAxes[component];
-    const std::string& given = componentNames[static_cast<std::size_t>(component)];
+    const std::string& given = components[component].name;
     return given.empty() ? std::to_string(component + 1) : given;
 }
 
@@ -59,43 +75,34 @@ std::vector<Variable> VariableList::variables() const
     for (int axis = 0; axis < 3; ++axis)
         result.push_back({kAxes[axis], {}, {}, axis});
     for (const Array& array : m_arrays) {
-        for (int c = 0; c < array.componentCount(); ++c) {
-            const bool isScalar = array.componentCount() == 1;
+        for (std::size_t c = 0; c < array.components.size(); ++c) {
+            const bool isScalar = array.components.size() == 1;
             const std::string name =
                 isScalar ? array.name : array.name + ' ' + array.componentLabel(c);
-            result.push_back({name, {}, array.name, c});
+            result.push_back(
+                {name, {}, array.name, static_cast<int>(c), array.components[c].isConstant});
         }
     }
     return result;
 }
 
-int VariableList::firstVariable(const Array& wanted) const
-{
-    int number = 4;
-    for (const Array& array : m_arrays) {
-        if (&array == &wanted)
-            break;
-        number += array.componentCount();
-    }
-    return number;
-}
-
 std::vector<int> VariableList::proposeContours() const
 {
-    std::vector<int> scalars;
-    std::vector<int> components;
-    std::vector<int> bookkeeping;
+    enum Rank { Scalar, ComponentOfArray, Bookkeeping, Constant, RankCount };
+    std::array<std::vector<int>, RankCount> ranked;
+    int number = 3; // of the coordinates
     for (const Array& array : m_arrays) {
-        std::vector<int>& list = array.isBookkeeping ? bookkeeping
-            : array.componentCount() == 1            ? scalars
-                                                     : components;
-        for (int c = 0; c < array.componentCount(); ++c)
-            list.push_back(firstVariable(array) + c);
+        const Rank rank = array.isBookkeeping ? Bookkeeping
+            : array.components.size() == 1    ? Scalar
+                                              : ComponentOfArray;
+        for (const Component& component : array.components)
+            ranked[component.isConstant ? Constant : rank].push_back(++number);
     }
-    scalars.insert(scalars.end(), components.begin(), components.end());
-    scalars.insert(scalars.end(), bookkeeping.begin(), bookkeeping.end());
-    scalars.resize(std::min(scalars.size(), kMostContours));
-    return scalars;
+    std::vector<int> proposed;
+    for (const std::vector<int>& numbers : ranked)
+        proposed.insert(proposed.end(), numbers.begin(), numbers.end());
+    proposed.resize(std::min(proposed.size(), kMostContours));
+    return proposed;
 }
 
 } // namespace corvala::host::io::reader

@@ -3,10 +3,12 @@
 
 #include "host/document/data_set.h"
 
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
+class vtkDataArray;
 class vtkDataSetAttributes;
 
 namespace corvala::host::io::reader {
@@ -19,22 +21,27 @@ public:
     void add(vtkDataSet& zone);
 
     std::vector<Variable> variables() const;
-    /// For the contour groups: scalars first, then components of vectors.
+    /// For the contour groups: scalars first, then components of vectors; constants last.
     std::vector<int> proposeContours() const;
 
 private:
+    struct Component
+    {
+        std::string name; ///< given by the file; may be empty
+        std::optional<double> value; ///< one of those that were met
+        bool isConstant = true; ///< all that were met are the same
+    };
     struct Array
     {
         std::string name;
-        std::vector<std::string> componentNames; ///< given by the file; may be empty strings
+        std::vector<Component> components;
         bool isBookkeeping; ///< numbers of points, cells or blocks
 
-        int componentCount() const { return static_cast<int>(componentNames.size()); }
-        std::string componentLabel(int component) const;
+        std::string componentLabel(std::size_t component) const;
     };
 
     void add(vtkDataSetAttributes& attributes);
-    int firstVariable(const Array& array) const;
+    static void meet(Component& component, vtkDataArray& data, int number);
 
     std::vector<Array> m_arrays;
     std::unordered_map<std::string, std::size_t> m_arrayOfName;

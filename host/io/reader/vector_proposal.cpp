@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <algorithm>
+#include <tuple>
 #include <unordered_map>
 
 namespace corvala::host::io::reader {
@@ -32,6 +33,7 @@ struct Candidate
     std::array<int, 3> numbers {{0, 0, 0}};
 
     int likenessToVelocity() const; ///< 0 when it is no vector
+    bool isConstant(const std::vector<Variable>& variables) const;
 };
 
 /// What the names of components look like: a name with one of three letters behind or before.
@@ -66,6 +68,13 @@ int Candidate::likenessToVelocity() const
         && (matches(kind, "\\d") || matches(name, "coord|position|^points?$|cent(er|re)")))
         return 0;
     return numbers[2] != 0 && isOfArray ? 3 : 2;
+}
+
+bool Candidate::isConstant(const std::vector<Variable>& variables) const
+{
+    return std::all_of(numbers.begin(), numbers.end(), [&](int number) {
+        return number == 0 || variables[static_cast<std::size_t>(number - 1)].isConstant;
+    });
 }
 
 /// Adds a variable to its candidate. The names of kinds are those of their parts with a number, so
@@ -121,10 +130,14 @@ static std::vector<Candidate> candidatesAmong(const std::vector<Variable>& varia
 std::array<int, 3> proposedVector(const std::vector<Variable>& variables)
 {
     const std::vector<Candidate> candidates = candidatesAmong(variables);
-    const auto best = std::max_element(
-        candidates.begin(), candidates.end(), [](const Candidate& left, const Candidate& right) {
-            return left.likenessToVelocity() < right.likenessToVelocity();
-        });
+    const auto rankOf = [&](const Candidate& candidate) {
+        const int likeness = candidate.likenessToVelocity();
+        return std::make_tuple(likeness > 0, !candidate.isConstant(variables), likeness);
+    };
+    const auto best = std::max_element(candidates.begin(), candidates.end(),
+                                       [&](const Candidate& left, const Candidate& right) {
+                                           return rankOf(left) < rankOf(right);
+                                       });
     if (best == candidates.end() || best->likenessToVelocity() == 0)
         return {{0, 0, 0}};
     return best->numbers;

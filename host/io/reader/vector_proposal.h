@@ -18,7 +18,7 @@ bool namesBookkeeping(const std::string& name);
 /// Numbers from 1 of the variables that look most like the components of a velocity: those of an
 /// array with two or three, or variables whose names differ by their component only ("U" and "V",
 /// "VelocityX" and "VelocityY", "x-momentum" and "y-momentum"). 0 for a third that is missing;
-/// zeros without any.
+/// zeros without any. Vectors that are the same everywhere come after all others.
 std::array<int, 3> proposedVector(const std::vector<Variable>& variables);
 
 } // namespace corvala::host::io::reader
