@@ -7,8 +7,10 @@
 #include "app/layer_notes.h"
 #include "app/main_menus.h"
 #include "app/notice_bar.h"
+#include "app/picture_notes.h"
 #include "app/plot_area.h"
 #include "app/plot_type_choice.h"
+#include "app/seed_picking.h"
 #include "app/style_dialog.h"
 #include "app/time_bar.h"
 #include "app/work_progress.h"
@@ -57,6 +59,7 @@ void MainWindow::makeCentre()
     layout->setSpacing(0);
     m_notice = new NoticeBar(centre);
     m_layerNotes = new LayerNotes(*m_notice, this);
+    m_pictureNotes = new PictureNotes(*m_notice, this);
     m_data = new DataCommands(*this, *m_notice);
     m_plotArea = new PlotArea(centre);
     layout->addWidget(m_notice);
@@ -99,6 +102,7 @@ void MainWindow::makeBars()
             showProblem(problem);
     });
     connect(m_layerBar, &LayerBar::detailsWanted, m_details, &DetailsDock::openPage);
+    connect(m_pictureNotes, &PictureNotes::detailsWanted, m_details, &DetailsDock::openPageOf);
     connect(m_layerBar, &LayerBar::layerSwitched, m_layerNotes,
             [this](QAction* layer) { m_layerNotes->explain(*layer); });
 }
@@ -131,12 +135,17 @@ void MainWindow::connectCanvas()
     plot::FrameView* view = m_plotArea->frameView();
     if (!view)
         return;
+    new SeedPicking(*m_details, *view, this);
     connect(m_menus, &MainMenus::fitWanted, view, &plot::FrameView::fitView);
     connect(view, &plot::FrameView::zonePicked, this,
             [this](CvlInt64 zone, bool activate) { pick(PickType_Zone, zone, activate); });
     connect(view, &plot::FrameView::lineMapPicked, this,
             [this](CvlInt64 map, bool activate) { pick(PickType_LineMap, map, activate); });
     connect(view, &plot::FrameView::workEnded, this, &MainWindow::awaitPicture);
+    connect(view, &plot::FrameView::completed, this, [this, view] {
+        m_details->refresh(); // what follows from the data is known
+        m_pictureNotes->tell(view->canvas()->scene().note());
+    });
     connect(view, &plot::FrameView::workProgressed, this, [this](CvlInt64 done, CvlInt64 total) {
         if (m_data->opener().isRunning())
             return;

@@ -20,6 +20,7 @@ class LayerBar;
 class LayerNotes;
 class MainMenus;
 class NoticeBar;
+class PictureNotes;
 class PlotArea;
 class PlotTypeChoice;
 class TimeBar;
@@ -74,6 +75,7 @@ private:
     PlotArea* m_plotArea = nullptr;
     NoticeBar* m_notice = nullptr;
     LayerNotes* m_layerNotes = nullptr;
+    PictureNotes* m_pictureNotes = nullptr;
     PlotTypeChoice* m_plotType = nullptr;
     LayerBar* m_layerBar = nullptr;
     TimeBar* m_timeBar = nullptr;

@@ -8,9 +8,11 @@
 #include <QWidget>
 
 #include <any>
+#include <array>
 #include <optional>
 #include <utility>
 
+class QMouseEvent;
 class QWheelEvent;
 
 namespace corvala::plot {
@@ -50,6 +52,9 @@ public:
     /// the data; nothing when that is not known.
     virtual std::optional<double> proposal(style::Key, int /*index*/) const { return {}; }
 
+    /// Clicks give places of what is drawn from now on, or pick again.
+    void setPicksPlaces(bool picksPlaces);
+
     /// What is seen of the frame, for setView; an empty value shows the whole, as at the start.
     virtual std::any view() const = 0;
     virtual void setView(const std::any& view) = 0;
@@ -60,6 +65,8 @@ Q_SIGNALS:
     /// A click; `number` is that of the zone or line map there, 0 without one. A double click has
     /// `activate` true, after the click that began it.
     void picked(CvlInt64 number, bool activate);
+    /// A click on something that is drawn, while clicks give places.
+    void placePicked(double x, double y, double z);
 
 protected:
     /// Takes the mouse over a part of the canvas for clicks and drags.
@@ -68,6 +75,13 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
     virtual CvlInt64 numberAt(const QPointF& place) = 0;
+    /// Coordinates of what is drawn there; nothing beside it.
+    virtual std::optional<std::array<double, 3>> placeAt(const QPointF&) { return {}; }
+    // Things that lie over the picture and can be moved by hand: whether the mouse takes hold of
+    // one there, its way with the mouse, by pixels, and its end.
+    virtual bool takesHold(const QPointF& /*place*/) { return false; }
+    virtual void moveHeld(const QPointF& /*by*/) { }
+    virtual void letGo() { }
     /// The mouse drags the view by some pixels, or its wheel turns. True when the part is not to
     /// know.
     virtual bool dragged(const QPointF& by) = 0;
@@ -76,12 +90,17 @@ protected:
     virtual bool keepsMouse() const { return false; }
 
 private:
+    void mousePressed(const QMouseEvent& mouse);
     bool mouseMoved(const QPointF& to, bool isPressed);
+    bool mouseReleased(const QMouseEvent& mouse);
+    void clicked(const QPointF& place);
 
     QPointF m_pressedAt;
     QPointF m_draggedTo;
     bool m_isDoubleClick = false;
     bool m_isDragging = false;
+    bool m_isHolding = false; ///< something that is moved by hand
+    bool m_picksPlaces = false;
 };
 
 } // namespace corvala::plot

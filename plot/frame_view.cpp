@@ -60,6 +60,8 @@ Canvas* FrameView::canvasOf(Kind kind)
             canvas = new LineCanvas(this);
         m_layout->addWidget(canvas);
         connect(canvas, &Canvas::redrawWanted, this, &FrameView::requestRedraw);
+        connect(canvas, &Canvas::placePicked, this, &FrameView::placePicked);
+        canvas->setPicksPlaces(m_picksPlaces);
         connect(canvas, &Canvas::picked, this,
                 kind == Field ? &FrameView::zonePicked : &FrameView::lineMapPicked);
     }
@@ -154,6 +156,7 @@ void FrameView::redraw()
     const MapScene& scene = m_canvas->scene();
     if (!scene.hasWork() && !m_canvas->isUnfinished() && !m_isStale) {
         endWork(false);
+        Q_EMIT completed();
         return;
     }
     if (m_work.elapsed() >= kQuietMilliseconds) {
@@ -179,6 +182,14 @@ QImage FrameView::render(const QSize& size, QString* error)
 QString FrameView::problem() const
 {
     return m_canvas ? m_canvas->problem() : QString();
+}
+
+void FrameView::setPicksPlaces(bool picksPlaces)
+{
+    m_picksPlaces = picksPlaces;
+    for (Canvas* const canvas : m_canvases)
+        if (canvas)
+            canvas->setPicksPlaces(picksPlaces);
 }
 
 void FrameView::fitView()

@@ -40,6 +40,8 @@ public:
 public Q_SLOTS:
     /// Draws at the next idle moment.
     void requestRedraw();
+    /// As Canvas::setPicksPlaces.
+    void setPicksPlaces(bool picksPlaces);
     /// Shows the whole of what is drawn, as at the start.
     void fitView();
     /// Puts pending work in slices aside; what is drawn so far stays, with a remark.
@@ -54,6 +56,10 @@ Q_SIGNALS:
     void lineMapPicked(CvlInt64 lineMap, bool activate);
     /// Work in slices that takes longer goes on; `done` of `total` pieces are ready.
     void workProgressed(CvlInt64 done, CvlInt64 total);
+    /// As Canvas::placePicked.
+    void placePicked(double x, double y, double z);
+    /// The picture shows all that there is to show.
+    void completed();
     /// The last of a series of workProgressed.
     void workEnded(bool cancelled);
 
@@ -90,6 +96,7 @@ private:
     CvlInt64 m_drawnPieces = 0; ///< of the scene, at the last drawing
     bool m_isStale = false; ///< the picture has to be drawn from its beginning
     bool m_isReporting = false;
+    bool m_picksPlaces = false;
 };
 
 } // namespace corvala::plot

@@ -71,6 +71,14 @@ struct ContourGroups
     /// Empty: the name of the variable.
     TextKey legendTitle =
         in.indexed(kCount).text("LegendTitle", CV_TEXT("Title of the contour legend"), "");
+    /// Else where it was put: its upper left corner, from that of the frame, in percent of width
+    /// and height.
+    SwitchKey automaticLegend = in.indexed(kCount).flag(
+        "AutomaticLegendPlace", CV_TEXT("Contour legend beside the plot"), true);
+    RealKey legendX =
+        in.indexed(kCount).percent("LegendX", CV_TEXT("Contour legend from the left"), 0, 80);
+    RealKey legendY =
+        in.indexed(kCount).percent("LegendY", CV_TEXT("Contour legend from above"), 0, 5);
 };
 
 /// Indexed by the number of the constraint.

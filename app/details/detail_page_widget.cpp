@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QFormLayout>
 #include <QLabel>
+#include <QPushButton>
 
 #include <utility>
 
@@ -28,6 +29,8 @@ DetailPageWidget::DetailPageWidget(const DetailPage& page, Proposal proposal, QW
         if (!m_index && style::entryOf(row.key).indexCount > 0)
             addIndexChoice(*form);
         addField(*form, row);
+        if (page.places.isValid() && row.key == page.places)
+            addPicking(*form);
     }
     chooseIndex(1);
 }
@@ -57,6 +60,28 @@ void DetailPageWidget::addField(QFormLayout& form, const DetailRow& row)
     }
     connect(field, &DetailField::written, this, [this, field] { keepProposals(field->key()); });
     m_lines.push_back({field, row.follows});
+}
+
+void DetailPageWidget::addPicking(QFormLayout& form)
+{
+    m_picking = new QPushButton(tr("Pick in the Plot"), this);
+    m_picking->setObjectName(QStringLiteral("pick"));
+    m_picking->setCheckable(true);
+    m_picking->setToolTip(tr("Each click in the plot adds a point, until Esc"));
+    form.addRow(QString(), m_picking);
+    connect(m_picking, &QPushButton::toggled, this, &DetailPageWidget::pickingSwitched);
+}
+
+void DetailPageWidget::endPicking()
+{
+    if (m_picking)
+        m_picking->setChecked(false);
+}
+
+void DetailPageWidget::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    endPicking();
 }
 
 void DetailPageWidget::chooseIndex(int index)

@@ -12,6 +12,7 @@
 
 class QComboBox;
 class QFormLayout;
+class QPushButton;
 
 namespace corvala::app {
 
@@ -27,6 +28,15 @@ public:
     DetailPageWidget(const DetailPage& page, Proposal proposal, QWidget* parent = nullptr);
 
     void refresh(const host::Frame& frame);
+    /// Lets the button go with which places are picked.
+    void endPicking();
+
+Q_SIGNALS:
+    /// Whether clicks in the plot are to give places.
+    void pickingSwitched(bool isOn);
+
+protected:
+    void hideEvent(QHideEvent* event) override;
 
 private:
     struct Line
@@ -38,6 +48,7 @@ private:
 
     void addIndexChoice(QFormLayout& form);
     void addField(QFormLayout& form, const DetailRow& row);
+    void addPicking(QFormLayout& form);
     void chooseIndex(int index);
     int shownIndex() const; ///< -1 without indexes
     bool follows(const Line& line, const host::Frame& frame) const;
@@ -47,6 +58,7 @@ private:
     const DetailPage& m_page;
     Proposal m_proposal;
     QComboBox* m_index = nullptr; // not owned; null without indexes
+    QPushButton* m_picking = nullptr; // not owned; null where no places are picked
     std::vector<Line> m_lines;
 };
 

@@ -19,6 +19,11 @@ static constexpr DetailRow kContour[] = {
     {style::contourGroups.reversesColors, DETAIL_TEXT("Colors reversed")},
     {style::contourGroups.showLegend, DETAIL_TEXT("Legend")},
     {style::contourGroups.legendTitle, DETAIL_TEXT("Title of the legend")},
+    {style::contourGroups.automaticLegend, DETAIL_TEXT("Legend beside the plot")},
+    {style::contourGroups.legendX, DETAIL_TEXT("Its left edge [%]"),
+     style::contourGroups.automaticLegend},
+    {style::contourGroups.legendY, DETAIL_TEXT("Its upper edge [%]"),
+     style::contourGroups.automaticLegend},
 };
 
 static constexpr DetailRow kVector[] = {
@@ -130,7 +135,8 @@ const std::vector<DetailPage>& detailPages()
         {"blanking", DETAIL_TEXT("Blanking"), kNoLayer, DETAIL_TEXT("Constraint"), kBlanking},
         {"slices", DETAIL_TEXT("Slices"), kNoLayer, DETAIL_TEXT("Slice"), kSlices},
         {"isoSurfaces", DETAIL_TEXT("Iso-surfaces"), kNoLayer, nullptr, kIsoSurfaces},
-        {"streamtraces", DETAIL_TEXT("Streamtraces"), kNoLayer, nullptr, kStreamtraces},
+        {"streamtraces", DETAIL_TEXT("Streamtraces"), kNoLayer, nullptr, kStreamtraces,
+         style::streamtraces.points},
         {"axes", DETAIL_TEXT("Axes"), kNoLayer, nullptr, kAxes},
     };
     return kPages;

@@ -42,6 +42,8 @@ struct DetailPage
     style::SwitchKey layer; ///< the button that leads here; not valid without one
     const char* indexText; ///< what the indexes count, or null
     DetailRows rows;
+    /// The value, one of the rows, that has places clicked in the plot; not valid without one.
+    style::TextKey places = {};
 
     /// How many indexes there are; 0 without.
     constexpr int indexCount() const

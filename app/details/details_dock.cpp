@@ -9,6 +9,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace corvala::app {
 
 namespace {
@@ -50,6 +52,8 @@ DetailsDock::DetailsDock(DetailPageWidget::Proposal proposal, QWidget* parent)
     for (const DetailPage& page : detailPages()) {
         auto* scroll = new PageScrollArea(m_stack);
         m_pages.push_back(new DetailPageWidget(page, proposal, scroll));
+        connect(m_pages.back(), &DetailPageWidget::pickingSwitched, this,
+                &DetailsDock::pickingSwitched);
         m_pages.back()->setObjectName(QLatin1String(page.name));
         scroll->setWidget(m_pages.back());
         m_stack->addWidget(scroll);
@@ -72,6 +76,20 @@ void DetailsDock::openPage(const QString& name)
     show();
     raise();
     m_stack->currentWidget()->setFocus();
+}
+
+void DetailsDock::openPageOf(style::Key value)
+{
+    for (const DetailPage& page : detailPages())
+        if (std::any_of(page.rows.begin(), page.rows.end(),
+                        [value](const DetailRow& row) { return row.key == value; }))
+            openPage(QLatin1String(page.name));
+}
+
+void DetailsDock::endPicking()
+{
+    for (DetailPageWidget* const page : m_pages)
+        page->endPicking();
 }
 
 void DetailsDock::showEvent(QShowEvent* event)

@@ -27,6 +27,14 @@ public:
     void refresh();
     /// Opens the page of this name.
     void openPage(const QString& name);
+    /// Opens the page that shows this value.
+    void openPageOf(style::Key value);
+    /// Lets the button go with which places are picked.
+    void endPicking();
+
+Q_SIGNALS:
+    /// Whether clicks in the plot are to give places.
+    void pickingSwitched(bool isOn);
 
 protected:
     void showEvent(QShowEvent* event) override;

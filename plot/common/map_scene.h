@@ -3,9 +3,11 @@
 
 #include "host/events/state_event.h"
 #include "plot/common/scene_kind.h"
+#include "plot/common/scene_note.h"
 
 #include <QCoreApplication>
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -40,6 +42,8 @@ public:
     virtual void resume();
     /// A remark for the user on what is not shown; empty without one.
     virtual QString notice() const;
+    /// What the user may wonder at in the complete picture; nothing while it is not complete.
+    virtual std::optional<SceneNote> note() const { return std::nullopt; }
 
 protected:
     /// Why a scene starts again; each includes those before.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/busy_cursor.h"
 #include "app/command_line.h"
+#include "app/details/details_dock.h"
 #include "app/main_window.h"
 #include "app/program.h"
 #include "app/style_dialog.h"
@@ -175,6 +176,58 @@ private Q_SLOTS:
         Document::instance().undo().undo();
         play::waitUntilIdle();
         QVERIFY(!button("Show in All Zones"));
+    }
+
+    void picturesThatMakeWonderSayWhy()
+    {
+        m_window->openDemo(QStringLiteral("field3d"));
+        write({{"Slices", "Position"}, 1e9, {}, 1});
+        write({{"Slices", "AutomaticPosition"}, false, {}, 1});
+        write({{"Slices", "Show"}, true, {}, 1});
+        QTRY_VERIFY(button("Move It to the Middle"));
+        QVERIFY2(shownTexts().contains(QLatin1String("Slice 1 at X = 1e+09")),
+                 qPrintable(shownTexts()));
+        button("Move It to the Middle")->click();
+        QTRY_VERIFY(!button("Move It to the Middle"));
+        QVERIFY(!shownTexts().contains(QLatin1String("Slice 1")));
+    }
+
+    /// Each click is a step, until Esc lets the tool go.
+    void seedsAreClickedInThePlot()
+    {
+        m_window->openDemo(QStringLiteral("field3d"));
+        auto* details = m_window->findChild<DetailsDock*>();
+        details->openPage(QStringLiteral("streamtraces"));
+        play::waitUntilIdle();
+        auto* pick = details->findChild<QPushButton*>(QStringLiteral("pick"));
+        auto* view = m_window->findChild<plot::FrameView*>();
+        QWidget* target = view->childAt(view->rect().center());
+        const auto seeds = [] {
+            const auto& text = std::get<std::string>(
+                frame().values().get(host::Schema::instance().at(style::streamtraces.points)));
+            return text.empty() ? 0 : QString::fromStdString(text).count(' ') / 3 + 1;
+        };
+        const auto click = [&](const QPoint& beside) {
+            QTest::mouseClick(target, Qt::LeftButton, {}, target->rect().center() + beside);
+            play::waitUntilIdle();
+        };
+        pick->click();
+        const int steps = Document::instance().undo().stepCount();
+        click({});
+        click({10, 5});
+        QCOMPARE(seeds(), 2);
+        QVERIFY(frame().isOn(style::streamtraces.show));
+        QCOMPARE(Document::instance().undo().stepCount(), steps + 2);
+        click(target->rect().topLeft() - target->rect().center() + QPoint(2, 2)); // beside all
+        QCOMPARE(seeds(), 2);
+        play::pressKey(target, Qt::Key_Escape);
+        QVERIFY(!pick->isChecked());
+        QSignalSpy picks(view, &plot::FrameView::zonePicked);
+        click({});
+        QCOMPARE(seeds(), 2);
+        QCOMPARE(picks.size(), 1);
+        Document::instance().undo().undo();
+        QCOMPARE(seeds(), 1);
     }
 
     void undoIsNamedAndWorksByShortcut()

@@ -689,6 +689,31 @@ private Q_SLOTS:
         }
     }
 
+    void legendsAreMovedByHand()
+    {
+        for (const char* demo : {"field2d", "field3d"}) {
+            openDemo(demo);
+            write("FieldLayers/ShowContour", "", 1);
+            write("FieldMap/Surfaces/SurfacesToPlot", "all", SurfacesToPlot_BoundaryCellFaces);
+            ShownPlot shown;
+            const auto corner = [&] { return *shown.fieldView().legendCorner(1); };
+            const QPointF before = corner();
+            const auto hold =
+                QPointF(before.x() * kSize.width(), before.y() * kSize.height()) / 100.0;
+            const auto place = shown.fieldView().camera().position;
+            const int steps = document().undo().stepCount();
+            shown.drag(hold.toPoint() + QPoint(5, 5), hold.toPoint() + QPoint(-95, 205));
+            QCOMPARE(document().undo().stepCount(), steps + 1);
+            QVERIFY(std::abs(corner().x() - before.x() + 10000.0 / kSize.width()) < 0.01);
+            QVERIFY(corner().y() > before.y() + 5.0);
+            QCOMPARE(shown.canvas().proposal(style::contourGroups.legendX, 1), corner().x());
+            document().undo().undo();
+            shown.settle();
+            QCOMPARE(corner(), before);
+            QCOMPARE(shown.fieldView().camera().position, place); // the hand did not turn it
+        }
+    }
+
     void viewsAreKeptByFrameAndPlotType()
     {
         openDemo("field3d");

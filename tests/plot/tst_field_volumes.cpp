@@ -421,7 +421,7 @@ private Q_SLOTS:
         const Rows<StreamChoice, double> row;
         StreamChoice rake;
         rake.vector = {One, 0, 0};
-        rake.zones = {Ordered};
+        rake.zones = {{Ordered}};
         rake.seedCount = 4;
         rake.automaticRake = false;
         rake.rake = {1, 0, 1, 1, 3, 2};
@@ -433,8 +433,17 @@ private Q_SLOTS:
         row("both ways", rake, 4 * 3);
         row("forward", changed([](auto& it) { it.direction = StreamDirection_Forward; }), 4 * 2);
         row("backward", changed([](auto& it) { it.direction = StreamDirection_Backward; }), 4 * 1);
-        row("cells", changed([](auto& it) { it.zones = {Hexahedra}; }), 4 * 3);
-        row("across zones", changed([](auto& it) { it.zones = {Hexahedra, Next}; }), 4 * 6);
+        row("cells", changed([](auto& it) { it.zones = {{Hexahedra}}; }), 4 * 3);
+        row("across zones", changed([](auto& it) { it.zones = {{Hexahedra}, {Next}}; }), 4 * 6);
+        const BlankingTest beyond {X, Relation_Greater, 0, 1.5};
+        row("up to blanked cells", changed([&](auto& it) {
+                it.zones = {{Ordered, {BlankedCells_AnyPoint, {beyond}}}};
+            }),
+            4 * 1);
+        row("up to a cut", changed([&](auto& it) {
+                it.zones = {{Hexahedra, {BlankedCells_PreciseCut, {beyond}}}, {Next}};
+            }),
+            4 * 1.4); // the last step does not fit
         row("on a rake of its own", changed([](auto& it) { it.automaticRake = true; }), 4 * 3);
         row("from points", changed([](auto& it) {
                 it.seedCount = 0;
@@ -460,6 +469,91 @@ private Q_SLOTS:
         QVERIFY2(std::abs(sum - length) < 0.05 * length + 1e-9, QByteArray::number(sum));
         for (vtkIdType i = 0; i < traces.lines->GetNumberOfPoints(); ++i)
             QVERIFY(std::abs(traces.values[0]->GetValue(i) - traces.lines->GetPoint(i)[0]) < 1e-3);
+    }
+
+    void proposals_data()
+    {
+        const Rows<QString, style::Key, int, QString> row; // style, value, index, what is in force
+        const QString slice = "Slices/Show[2]=1 Slices/Plane[2]=%1";
+        row("slice", slice.arg(1), style::slices.position, 2, "1.5");
+        row("index plane", slice.arg(4), style::slices.position, 2, "2");
+        row("no slice", "", style::slices.position, 2, "");
+        const QString iso = "IsoSurfaces/Show=1 IsoSurfaces/Count=2";
+        row("iso-surface", iso, style::isoSurfaces.value2, -1, "4");
+        row("one more than there are", iso, style::isoSurfaces.value3, -1, "");
+        const QString sizes = "FieldLayers/ShowScatter=1 GlobalScatter/Var=1 "
+                              "FieldMap/Scatter/SizeByVariable=1";
+        row("largest symbol", sizes, style::globalScatter.rangeMax, -1, "6");
+        row("rake", "Streamtraces/Show=1", style::streamtraces.endY, -1, "3");
+        row("level", "FieldLayers/ShowContour=1 FieldMap/Surfaces/SurfacesToPlot=1",
+            style::contourGroups.levelMax, 1, "6");
+    }
+
+    /// The scene tells what it takes for values that follow from the data.
+    void proposals()
+    {
+        const auto [values, key, index, inForce] = currentRow<QString, style::Key, int, QString>();
+        ShownBoxes shown;
+        for (const QString& text : values.split(' ', Qt::SkipEmptyParts))
+            edit(text);
+        shown.work();
+        const auto proposed = shown.scene.proposal(key, index);
+        QCOMPARE(proposed ? QString::number(*proposed) : QString(), inForce);
+    }
+
+    void notes_data()
+    {
+        const Rows<QString, QString> row; // style, beginning of the note
+        const QString blanking = "Blanking/Value/Include=1 Blanking/Value/Constraint/Include[2]=1 "
+                                 "Blanking/Value/Constraint/Var[2]=1 "
+                                 "Blanking/Value/Constraint/Constant[2]=%1";
+        row("all blanked", blanking.arg(9),
+            "Value blanking takes away every cell of the active zones, by constraint 2 (\"X\").");
+        row("some blanked", blanking.arg(3), "");
+        const QString slice = "Slices/Show[3]=1 Slices/AutomaticPosition[3]=0 Slices/Plane[3]=%1 "
+                              "Slices/Position[3]=%2";
+        row("slice beside", slice.arg(2).arg(-4),
+            "Slice 3 at Z = -4 lies outside the zones that show slices (0 to 3).");
+        row("slice at the rim", slice.arg(2).arg(3), "");
+        row("no such plane", slice.arg(3).arg(9), "Slice 3 shows nothing: no zone");
+        const QString iso = "IsoSurfaces/Show=1 IsoSurfaces/AutomaticValues=0 IsoSurfaces/Value1=";
+        row("no such value", iso + "-9",
+            "The iso-surface value -9 lies outside the values of \"X\"");
+        row("value of the data", iso + '2', "");
+        row("seeds beside",
+            "Streamtraces/AutomaticRake=0 Streamtraces/StartX=90 Streamtraces/EndX=99 "
+            "Streamtraces/Show=1",
+            "No streamtrace is drawn");
+        row("no flow", "GlobalVector/UVar=0 Streamtraces/Show=1", "");
+        const QString vectors = "FieldLayers/ShowVector=1 GlobalVector/UVar=%1 "
+                                "FieldMap/Vector/Show=1 ActiveFieldMaps=3-4";
+        row("no length", vectors.arg(Z), "No arrow is drawn: the vectors (Z) are zero");
+        row("a length", vectors.arg(X), "");
+        const QString sizes = "FieldLayers/ShowScatter=1 FieldMap/Scatter/SizeByVariable=1 "
+                              "FieldMap/Surfaces/SurfacesToPlot=1 GlobalScatter/Var=%1";
+        row("sizes by a constant", sizes.arg(One), "All symbols have one size");
+        row("sizes", sizes.arg(X), "");
+    }
+
+    /// What one would wonder at is said, and no longer when it is mended.
+    void notes()
+    {
+        const auto [values, note] = currentRow<QString, QString>();
+        ShownBoxes shown;
+        for (const QString& text : values.split(' ', Qt::SkipEmptyParts)) {
+            if (text.startsWith("ActiveFieldMaps="))
+                activate("1,2,5", false);
+            else
+                edit(text);
+        }
+        shown.work();
+        const auto found = shown.scene.note();
+        QCOMPARE(found ? found->text.left(note.size()) : QString(), note);
+        QCOMPARE(found.has_value(), !note.isEmpty());
+        for (const host::SetStyle& mending : found ? found->mending : std::vector<host::SetStyle>())
+            QVERIFY(document().execute(mending).isDone());
+        shown.work();
+        QVERIFY(!found || found->mending.empty() || !shown.scene.note());
     }
 
     void streamsAreOfAllMaps()

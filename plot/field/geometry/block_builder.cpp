@@ -77,12 +77,12 @@ static ShapePieces drawable(vtkPolyData* shape, vtkIdType largest = kLargestPiec
 }
 
 ShapePieces BlockBuilder::build(const BlockRecipe& recipe, const double* height,
-                                std::vector<PlacedSurface>& placed) const
+                                std::vector<PlacedSurface>& placed, StreamStart* start) const
 {
     const auto isOld = [&](const PlacedSurface& known) { return known.zone != recipe.zone; };
     placed.erase(std::remove_if(placed.begin(), placed.end(), isOld), placed.end());
     if (recipe.kind == BlockKind::Streamtraces)
-        return drawable(streams(recipe));
+        return drawable(streams(recipe, start));
     if (recipe.kind == BlockKind::Arrows)
         return drawable(arrowShapes(recipe, carriers(recipe, height, placed), height != nullptr));
     if (recipe.kind == BlockKind::Symbols)
@@ -246,13 +246,15 @@ Shape BlockBuilder::mesh(const BlockRecipe& recipe, const PlacedSurface& placed)
     return recipe.arcLength ? withArcLength(*lines) : lines;
 }
 
-Shape BlockBuilder::streams(const BlockRecipe& recipe) const
+Shape BlockBuilder::streams(const BlockRecipe& recipe, StreamStart* start) const
 {
     std::vector<std::int64_t> variables;
     const int groupCount = recipe.colorGroup == ContourGroups::kRed ? 3 : 1;
     for (int i = 0; recipe.colorGroup > 0 && i < groupCount; ++i)
         variables.push_back(m_groups.variable(recipe.colorGroup + i));
     const Streamtraces traces = streamtraces(m_data, recipe.streams, variables);
+    if (start)
+        *start = traces.start;
     if (recipe.colorGroup > 0 && traces.lines->GetNumberOfLines() > 0)
         traces.lines->GetPointData()->SetScalars(colorsBy(recipe.colorGroup, [&](int group) {
             return traces.values[static_cast<std::size_t>(group - recipe.colorGroup)];

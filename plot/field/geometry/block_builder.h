@@ -34,9 +34,10 @@ public:
 
     /// The geometry of a block; none when there is nothing to draw. Surfaces are taken from
     /// `placed`, or made and added to it; those of another zone are dropped. `height` lays the
-    /// block down at that height in a flat plot; null leaves it as it is.
+    /// block down at that height in a flat plot; null leaves it as it is. Of streamtraces `start`,
+    /// which may be null, tells where they start.
     ShapePieces build(const BlockRecipe& recipe, const double* height,
-                      std::vector<PlacedSurface>& placed) const;
+                      std::vector<PlacedSurface>& placed, StreamStart* start = nullptr) const;
 
 private:
     using Shape = vtkSmartPointer<vtkPolyData>;
@@ -47,7 +48,7 @@ private:
     Shape cellFlood(const BlockRecipe& recipe, const PlacedSurface& placed) const;
     Shape contourLines(const BlockRecipe& recipe, const PlacedSurface& placed) const;
     Shape mesh(const BlockRecipe& recipe, const PlacedSurface& placed) const;
-    Shape streams(const BlockRecipe& recipe) const;
+    Shape streams(const BlockRecipe& recipe, StreamStart* start) const;
     Shape edges(const BlockRecipe& recipe, const PlacedSurface& placed, const double* height) const;
 
     /// Points that carry something, and what they are of.

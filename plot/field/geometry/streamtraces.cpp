@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/geometry/streamtraces.h"
 
-#include "plot/field/geometry/zone_surface.h"
+#include "plot/field/geometry/zone_cuts.h"
 
 #include <vtkBoundingBox.h>
 #include <vtkCellArray.h>
@@ -36,7 +36,7 @@ public:
     StreamZones(const host::DataSet& data, const StreamChoice& choice,
                 const std::vector<std::int64_t>& variables)
     {
-        for (const std::int64_t zone : choice.zones)
+        for (const StreamZone& zone : choice.zones)
             if (const auto block = blockOf(data, zone, choice.vector, variables))
                 add(*block);
     }
@@ -53,7 +53,7 @@ public:
     }
 
 private:
-    static vtkSmartPointer<vtkDataSet> blockOf(const host::DataSet& data, std::int64_t zone,
+    static vtkSmartPointer<vtkDataSet> blockOf(const host::DataSet& data, const StreamZone& from,
                                                const VectorVariables& vector,
                                                const std::vector<std::int64_t>& variables);
     void add(vtkDataSet& block);
@@ -83,25 +83,32 @@ static vtkSmartPointer<vtkDoubleArray> atPointsOf(vtkDataSet& block, vtkDataArra
     return result;
 }
 
-vtkSmartPointer<vtkDataSet> StreamZones::blockOf(const host::DataSet& data, std::int64_t zone,
+vtkSmartPointer<vtkDataSet> StreamZones::blockOf(const host::DataSet& data, const StreamZone& from,
                                                  const VectorVariables& vector,
                                                  const std::vector<std::int64_t>& variables)
 {
-    const auto geometry = data.geometry(zone);
-    const auto vectors =
-        geometry && geometry->GetNumberOfCells() > 0 ? pointVectors(data, zone, vector) : nullptr;
+    const auto geometry = data.geometry(from.zone);
+    const auto vectors = geometry && geometry->GetNumberOfCells() > 0
+        ? pointVectors(data, from.zone, vector)
+        : nullptr;
     if (!vectors)
         return nullptr;
+    const CutFields fields = blank(*geometry, data, from.zone, from.blanking);
     auto block = visiblePart(*geometry);
     std::vector<vtkSmartPointer<vtkDoubleArray>> arrays {atPointsOf(*block, vectors, 0.0, kVector)};
     for (std::size_t i = 0; i < variables.size(); ++i)
-        arrays.push_back(
-            atPointsOf(*block, zoneValues(data, zone, variables[i], host::ValueLocation::Points),
-                       std::numeric_limits<double>::quiet_NaN(), valueName(i).c_str()));
-    block->GetPointData()->Initialize();
+        arrays.push_back(atPointsOf(
+            *block, zoneValues(data, from.zone, variables[i], host::ValueLocation::Points),
+            std::numeric_limits<double>::quiet_NaN(), valueName(i).c_str()));
     for (const auto& array : arrays)
         block->GetPointData()->AddArray(array);
-    return block;
+    if (!fields.empty())
+        block = cutVolume(*block, fields);
+    vtkNew<vtkPointData> wanted; // the blocks have the same arrays
+    for (const auto& array : arrays)
+        wanted->AddArray(block->GetPointData()->GetArray(array->GetName()));
+    block->GetPointData()->ShallowCopy(wanted);
+    return block->GetNumberOfCells() > 0 ? block : nullptr;
 }
 
 void StreamZones::add(vtkDataSet& block)
@@ -208,17 +215,16 @@ traced(const StreamZones& zones, const std::vector<Point>& seeds, StreamDirectio
     return lines;
 }
 
-/// Seeds of the first rake of which at least half lies in the flow, or else of the best.
-static std::vector<Point> automaticSeeds(StreamZones& zones, int count)
+/// The first rake of which at least half lies in the flow, or else the best.
+static std::array<double, 6> automaticRake(StreamZones& zones, int count)
 {
-    std::vector<Point> best;
-    int most = 0;
+    std::array<double, 6> best {};
+    int most = -1;
     for (const auto& [from, to] : rakesAcross(zones.box(), zones.mainAxis())) {
-        const std::vector<Point> seeds = onLine(from, to, count);
-        const int inside = zones.countInside(seeds);
+        const int inside = zones.countInside(onLine(from, to, count));
         if (inside > most) {
             most = inside;
-            best = seeds;
+            best = {from[0], from[1], from[2], to[0], to[1], to[2]};
         }
         if (2 * inside >= count)
             break;
@@ -226,12 +232,10 @@ static std::vector<Point> automaticSeeds(StreamZones& zones, int count)
     return best;
 }
 
-static std::vector<Point> seedsOf(StreamZones& zones, const StreamChoice& choice)
+static std::vector<Point> seedsOn(const std::array<double, 6>& rake, const StreamChoice& choice)
 {
-    const auto& rake = choice.rake;
-    std::vector<Point> seeds = choice.automaticRake
-        ? automaticSeeds(zones, choice.seedCount)
-        : onLine({rake[0], rake[1], rake[2]}, {rake[3], rake[4], rake[5]}, choice.seedCount);
+    std::vector<Point> seeds =
+        onLine({rake[0], rake[1], rake[2]}, {rake[3], rake[4], rake[5]}, choice.seedCount);
     for (std::size_t i = 0; i + 2 < choice.points.size(); i += 3)
         seeds.push_back({choice.points[i], choice.points[i + 1], choice.points[i + 2]});
     return seeds;
@@ -245,10 +249,15 @@ Streamtraces streamtraces(const host::DataSet& data, const StreamChoice& choice,
     StreamZones zones(data, choice, variables);
     if (!zones.box().IsValid())
         return result;
-    const std::vector<Point> seeds = seedsOf(zones, choice);
+    const bool findsRake = choice.automaticRake && choice.seedCount > 0;
+    const auto rake = findsRake ? automaticRake(zones, choice.seedCount) : choice.rake;
+    const std::vector<Point> seeds = seedsOn(rake, choice);
+    if (choice.seedCount > 0)
+        result.start.rake = rake;
     if (seeds.empty())
         return result;
     const auto lines = traced(zones, seeds, choice.direction);
+    result.start.isOutside = lines->GetNumberOfLines() == 0 && zones.countInside(seeds) == 0;
     result.lines->SetPoints(lines->GetPoints());
     result.lines->SetLines(lines->GetLines());
     for (std::size_t i = 0; i < variables.size(); ++i)

@@ -84,12 +84,16 @@ static vtkSmartPointer<vtkPolyData> cutShape(const ZoneSurface& surface, const P
     return clipped<vtkClipPolyData>(shape, arrays.fields.size());
 }
 
-/// What is left of a volume.
-static vtkSmartPointer<vtkDataSet> cutVolume(vtkDataSet& geometry, const PointArrays& arrays)
+static vtkSmartPointer<vtkDataSet> cutVolume(vtkDataSet& numbered, const PointArrays& arrays)
 {
-    vtkSmartPointer<vtkDataSet> volume = visiblePart(geometry);
-    addArrays(*volume, pointNumbers(*volume), arrays);
-    return clipped<vtkTableBasedClipDataSet>(volume, arrays.fields.size());
+    addArrays(numbered, pointNumbers(numbered), arrays);
+    return clipped<vtkTableBasedClipDataSet>(vtkSmartPointer<vtkDataSet>(&numbered),
+                                             arrays.fields.size());
+}
+
+vtkSmartPointer<vtkDataSet> cutVolume(vtkDataSet& numbered, const CutFields& fields)
+{
+    return cutVolume(numbered, PointArrays {fields, nullptr, nullptr});
 }
 
 /// Where the values that iso-surfaces are made of are equal to one of `values`.
@@ -159,11 +163,12 @@ public:
     {
         const PointArrays arrays {m_fields, m_iso, carried};
         if (isIso())
-            return isoFaces(*cutVolume(*m_geometry, arrays), m_choice.iso.values);
+            return isoFaces(*cutVolume(*visiblePart(*m_geometry), arrays), m_choice.iso.values);
         // Where a volume is cut, it has new outer faces.
         const bool opens =
             m_info.isVolume() && m_choice.surfaces == SurfacesToPlot_ExposedCellFaces;
-        return opens ? outerFaces(*cutVolume(*m_geometry, arrays)) : cutShape(whole(), arrays);
+        return opens ? outerFaces(*cutVolume(*visiblePart(*m_geometry), arrays))
+                     : cutShape(whole(), arrays);
     }
 
 private:

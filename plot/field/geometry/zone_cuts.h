@@ -17,6 +17,10 @@ std::shared_ptr<ZoneSurface> surfaceOf(const host::DataSet& data, std::int64_t z
 vtkSmartPointer<vtkDoubleArray> cutValues(const host::DataSet& data, std::int64_t zone,
                                           std::int64_t variable, const ZoneSurface& surface);
 
+/// What is left of a volume as `visiblePart` gives it, with its values at points, where the fields
+/// cut it.
+vtkSmartPointer<vtkDataSet> cutVolume(vtkDataSet& numbered, const CutFields& fields);
+
 /// What is left of a surface with numbers in its zone where the fields, values at the zone's
 /// points, cut it; all of it without fields.
 ZoneSurface cutFaces(const ZoneSurface& surface, const CutFields& fields);

@@ -3,6 +3,8 @@
 
 #include "host/document/line_map_name.h"
 #include "host/style/schema.h"
+#include "plot/field/scene/proposals.h"
+#include "plot/field/scene/scene_notes.h"
 
 #include <vtkActor.h>
 #include <vtkMath.h>
@@ -41,6 +43,7 @@ void FieldScene::clear(const host::Frame* drawn, Fresh reason)
     m_failures.clear();
     m_surfaces.clear();
     m_ranges.clear();
+    m_streamStart = {};
     for (std::size_t i = 0; i < kFieldLayerCount; ++i)
         m_layers[i] =
             std::make_unique<CompositeLayer>(static_cast<FieldLayer>(i), m_flat, m_back, m_front);
@@ -187,13 +190,18 @@ void FieldScene::valuesKnown(const host::Frame& drawn)
 CompositeLayer::Builder FieldScene::builderOf(const host::Frame& drawn, CvlInt64 map)
 {
     return [this, &drawn, map](const BlockRecipe& recipe) {
+        const bool isOfStreams =
+            recipe.kind == BlockKind::Streamtraces && !recipe.streams.zones.empty();
+        StreamStart ofOtherMaps;
+        StreamStart& start = isOfStreams ? m_streamStart : ofOtherMaps;
         if (m_piece.isBlock(map, recipe)) {
             m_surfaces[map] = std::move(m_piece.surfaces);
+            start = m_piece.start;
             return std::exchange(m_piece, {}).block;
         }
         const auto height = static_cast<double>(map);
         return BlockBuilder(*drawn.data(), m_groups, *m_cache)
-            .build(recipe, m_flat ? &height : nullptr, m_surfaces[map]);
+            .build(recipe, m_flat ? &height : nullptr, m_surfaces[map], &start);
     };
 }
 
@@ -209,6 +217,20 @@ void FieldScene::syncLayer(const host::Frame& drawn, CvlInt64 map, std::size_t l
     }
 }
 
+/// With what only all maps together tell.
+std::optional<BlockLook> FieldScene::lookIn(std::size_t layer, const ShownMap& shown)
+{
+    auto look = lookOf(static_cast<FieldLayer>(layer), shown, m_groups);
+    if (!look || look->recipe.kind != BlockKind::Streamtraces)
+        return look;
+    if (!m_streamMaps)
+        m_streamMaps = streamMaps(shown.frame);
+    if (!m_streamMaps->empty() && m_streamMaps->front().map == shown.map)
+        for (const StreamMap& map : *m_streamMaps)
+            look->recipe.streams.zones.push_back(map.zone);
+    return look;
+}
+
 LayerMask FieldScene::sync(const host::Frame& drawn, CvlInt64 map, LayerMask layers, bool isShown)
 {
     const LayerMask values = layers & fieldSceneKind().valuesBit();
@@ -217,7 +239,7 @@ LayerMask FieldScene::sync(const host::Frame& drawn, CvlInt64 map, LayerMask lay
     for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
         if (!(layers & maskOf(i)))
             continue;
-        auto look = isShown ? lookOf(static_cast<FieldLayer>(i), shown, m_groups) : std::nullopt;
+        auto look = isShown ? lookIn(i, shown) : std::nullopt;
         if (isGivenUp(map, i, look))
             look.reset();
         if (m_layers[i]->builds(map, look) && handOverBlock(drawn, map, i, look->recipe))
@@ -245,6 +267,7 @@ void FieldScene::dropSurfaces(CvlInt64 map)
 bool FieldScene::advance(int milliseconds)
 {
     m_mayWait = milliseconds < 0;
+    m_streamMaps.reset(); // nothing changes meanwhile
     const bool hasMore = MapScene::advance(milliseconds);
     if (!hasMore)
         m_piece = {};
@@ -368,30 +391,44 @@ vtkBoundingBox FieldScene::drawnBounds() const
     return box;
 }
 
-CvlInt64 FieldScene::nearestZone(const PickRay& ray, LayerMask layers)
+FieldScene::Hit FieldScene::nearestHit(const PickRay& ray, LayerMask layers)
 {
-    double nearest = 1.5;
-    CvlInt64 zone = 0;
+    Hit nearest {0, 1.5};
     for (auto& [map, surfaces] : m_surfaces) {
         bool isSeen = false;
         for (std::size_t i = 0; i < kFieldLayerCount; ++i)
             isSeen = isSeen || ((layers & maskOf(i)) && m_layers[i]->draws(map));
         for (PlacedSurface& placed : surfaces) {
-            const double position = isSeen ? ray.hitPosition(placed) : nearest;
-            if (position < nearest) {
-                nearest = position;
-                zone = placed.zone;
-            }
+            const double position = isSeen ? ray.hitPosition(placed) : nearest.position;
+            if (position < nearest.position)
+                nearest = {placed.zone, position};
         }
     }
-    return zone;
+    return nearest;
 }
 
-CvlInt64 FieldScene::zoneAt(const PickRay& ray)
+FieldScene::Hit FieldScene::hitOf(const PickRay& ray)
 {
     const LayerMask outlines = outlineLayers();
-    const CvlInt64 zone = nearestZone(ray, fieldSceneKind().allLayers() & ~outlines);
-    return zone != 0 ? zone : nearestZone(ray, outlines);
+    const Hit hit = nearestHit(ray, fieldSceneKind().allLayers() & ~outlines);
+    return hit.zone != 0 ? hit : nearestHit(ray, outlines);
+}
+
+std::optional<std::array<double, 3>> FieldScene::placeAt(const PickRay& ray)
+{
+    constexpr double kBehind = 1e-3; // of the whole
+    const Hit hit = hitOf(ray);
+    if (hit.zone == 0)
+        return std::nullopt;
+    std::array<double, 3> way {};
+    vtkMath::Subtract(ray.to.data(), ray.from.data(), way.data());
+    const double length = vtkMath::Norm(way.data());
+    const double position =
+        hit.position + (length > 0.0 ? kBehind * bounds().GetDiagonalLength() / length : 0.0);
+    std::array<double, 3> place = ray.from;
+    for (std::size_t axis = 0; axis < 3; ++axis)
+        place[axis] += position * way[axis];
+    return place;
 }
 
 bool FieldScene::isTranslucent() const
@@ -431,6 +468,17 @@ static std::optional<QString> legendTitle(const host::Frame& drawn, int group, C
     return title.empty() ? shownName(drawn, variable) : QString::fromStdString(title);
 }
 
+/// Nothing when it is beside the plot.
+static std::optional<std::array<double, 2>> legendPlace(const host::Frame& drawn, int group)
+{
+    constexpr const auto& kGroup = style::contourGroups;
+    const host::Schema& schema = host::Schema::instance();
+    if (drawn.values().integer(schema.at(kGroup.automaticLegend), group) != 0)
+        return std::nullopt;
+    return std::array<double, 2> {drawn.values().real(schema.at(kGroup.legendX), group) / 100.0,
+                                  drawn.values().real(schema.at(kGroup.legendY), group) / 100.0};
+}
+
 std::vector<FieldLegend> FieldScene::legends() const
 {
     std::set<int> inUse;
@@ -449,6 +497,8 @@ std::vector<FieldLegend> FieldScene::legends() const
         FieldLegend& legend = result.emplace_back();
         legend.title = *title;
         legend.colors = m_groups.colors(group);
+        legend.group = group;
+        legend.place = legendPlace(*drawn, group);
         if (m_groups.hasRange(group))
             legend.levels = m_groups.levels(group);
     }
@@ -498,13 +548,43 @@ AxesStyle FieldScene::axes() const
 
 std::optional<double> FieldScene::proposal(style::Key value, int index) const
 {
-    if (!style::isInGroupOf(value, style::contourGroups.var) || !m_groups.hasRange(index))
+    constexpr const auto& streams = style::streamtraces;
+    constexpr style::Key kRake[] = {streams.startX, streams.startY, streams.startZ,
+                                    streams.endX,   streams.endY,   streams.endZ};
+    const host::Frame* const drawn = frame();
+    const auto* const ofRake = std::find(std::begin(kRake), std::end(kRake), value);
+    if (ofRake == std::end(kRake))
+        return drawn ? proposedValue(*drawn, m_groups, value, index) : std::nullopt;
+    return m_streamStart.rake
+        ? std::optional((*m_streamStart.rake)[static_cast<std::size_t>(ofRake - kRake)])
+        : std::nullopt;
+}
+
+/// Whether blanking leaves nothing of surfaces that would be drawn.
+bool FieldScene::isAllBlanked() const
+{
+    bool isBlanked = false;
+    for (const auto& [map, surfaces] : m_surfaces) {
+        for (const PlacedSurface& placed : surfaces) {
+            if (placed.shape->GetNumberOfCells() > 0)
+                return false;
+            isBlanked = isBlanked
+                || (!placed.choice.blanking.tests.empty() && placed.choice.iso.variable == 0
+                    && placed.choice.surfaces != SurfacesToPlot_None);
+        }
+    }
+    return isBlanked;
+}
+
+std::optional<SceneNote> FieldScene::note() const
+{
+    const host::Frame* const drawn = frame();
+    if (!drawn || hasWork())
         return std::nullopt;
-    const ContourLevels& levels = m_groups.levels(index);
-    return value == style::contourGroups.levelMin ? std::optional(levels.minimum)
-        : value == style::contourGroups.levelMax  ? std::optional(levels.maximum())
-        : value == style::contourGroups.bandCount ? std::optional<double>(levels.bands)
-                                                  : std::nullopt;
+    const CompositeLayer& streams = layer(FieldLayer::Streamtraces);
+    const bool startsOutside = streams.isVisible() && m_streamStart.isOutside;
+    return noteOn({*drawn, m_groups, shownMaps(), isAllBlanked(),
+                   startsOutside && !streamMaps(*drawn).empty()});
 }
 
 } // namespace corvala::plot

@@ -8,6 +8,7 @@
 #include "plot/field/scene/pick_ray.h"
 #include "plot/field/scene/scene_piece.h"
 #include "plot/field/scene/stand_in.h"
+#include "plot/field/scene/volume_looks.h"
 
 #include <vtkBoundingBox.h>
 
@@ -24,6 +25,9 @@ struct FieldLegend
     QString title;
     std::optional<ContourLevels> levels; ///< nothing when no value is shown
     ColorScale colors = {};
+    int group = 0; ///< of contours
+    /// Upper left corner, from that of the picture, as shares of it; nothing: beside the plot.
+    std::optional<std::array<double, 2>> place = {};
 };
 
 /// What the arrows of a scene stand for.
@@ -53,6 +57,7 @@ public:
     bool advance(int milliseconds) override;
     void cancel() override;
     QString notice() const override;
+    std::optional<SceneNote> note() const override;
 
     /// Puts what is drawn in order and fits it to the view; call before drawing.
     void prepare(const ViewScale& scale);
@@ -76,7 +81,9 @@ public:
     /// The zone that is seen along a ray, nearest first; 0 for none. A zone is hit anywhere on its
     /// surface, also where only lines are drawn of it, and a zone of which more than its edges are
     /// drawn before one that shows nothing else.
-    CvlInt64 zoneAt(const PickRay& ray);
+    CvlInt64 zoneAt(const PickRay& ray) { return hitOf(ray).zone; }
+    /// Where `zoneAt` hits, a little behind the surface, so that it is within the zone.
+    std::optional<std::array<double, 3>> placeAt(const PickRay& ray);
     /// Whether faces may be translucent.
     bool isTranslucent() const;
     /// Where the light comes from, seen from the viewer: to the right, up and towards the viewer.
@@ -85,8 +92,8 @@ public:
     /// Nothing when no arrows are shown, or none that tells their length is wanted.
     std::optional<VectorKey> vectorKey() const;
     AxesStyle axes() const;
-    /// What the scene takes for a value that is not set by the style, such as a level of a contour
-    /// group; nothing when it takes none.
+    /// What the scene takes for a value of the style that follows from the data, such as a level of
+    /// a contour group; nothing when that is not known.
     std::optional<double> proposal(style::Key value, int index) const;
 
     const CompositeLayer& layer(FieldLayer layer) const
@@ -132,12 +139,20 @@ private:
                        const BlockRecipe& recipe);
     /// False when the values of the map were given to another thread.
     bool noteValues(const host::Frame& frame, CvlInt64 map);
+    std::optional<BlockLook> lookIn(std::size_t layer, const ShownMap& shown);
     CompositeLayer::Builder builderOf(const host::Frame& frame, CvlInt64 map);
+    bool isAllBlanked() const;
     /// Lets go of surfaces of which nothing is drawn any more.
     void dropSurfaces(CvlInt64 map);
     void orderActors(vtkRenderer& renderer) const;
     void weighActors();
-    CvlInt64 nearestZone(const PickRay& ray, LayerMask layers);
+    struct Hit
+    {
+        CvlInt64 zone = 0; ///< 0 for none
+        double position = 0.0; ///< on the ray, from 0 to 1
+    };
+    Hit nearestHit(const PickRay& ray, LayerMask layers);
+    Hit hitOf(const PickRay& ray);
 
     std::shared_ptr<SurfaceCache> m_cache;
     vtkRenderer& m_back;
@@ -147,6 +162,8 @@ private:
     std::array<std::unique_ptr<CompositeLayer>, kFieldLayerCount> m_layers;
     std::unordered_map<CvlInt64, std::vector<PlacedSurface>> m_surfaces;
     GroupRanges m_ranges;
+    std::optional<std::vector<StreamMap>> m_streamMaps; ///< nothing until they are needed
+    StreamStart m_streamStart; ///< of the streamtraces that were made last
     bool m_mayWait = false; ///< at present, for as long as it takes: nothing is handed over
     std::unique_ptr<BackgroundTask<ScenePiece>> m_task; ///< null while nothing is handed over
     Handed m_handed; ///< while there is a task

@@ -264,7 +264,7 @@ static constexpr LayerDescription kLayers[] = {
     {FieldLayer::Streamtraces,
      15,
      {CV_TEXT("Streamtraces"), style::streamtraces.show, -1, kMap.volumeObjects.showStreamtraces,
-      Within | Joint | Values},
+      Within | Cells | Joint | Values},
      streamtracesLook},
     {FieldLayer::Scatter,
      18,

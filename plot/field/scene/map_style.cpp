@@ -2,6 +2,7 @@
 #include "plot/field/scene/map_style.h"
 
 #include "host/style/schema.h"
+#include "plot/field/scene/proposals.h"
 
 namespace corvala::plot {
 
@@ -22,6 +23,13 @@ double MapStyle::frameReal(style::Key key, int index) const
 std::string MapStyle::frameText(style::Key key) const
 {
     return std::get<std::string>(m_shown.frame.values().get(host::Schema::instance().at(key)));
+}
+
+std::optional<double> MapStyle::inForce(style::SwitchKey follows, style::Key key,
+                                        const ContourGroups& groups, int index) const
+{
+    return frameFlag(follows, index) ? proposedValue(m_shown.frame, groups, key, index)
+                                     : std::optional(frameReal(key, index));
 }
 
 /// The constraints that are in force for the map. Its switch counts while one of those but the last
@@ -183,10 +191,8 @@ SymbolSizes MapStyle::symbolSizes(const ContourGroups& groups) const
     sizes.areOwn = flag(kMap.scatter.sizeByVariable) && groups.variable(ContourGroups::kSize) > 0;
     if (!sizes.areOwn)
         return sizes;
-    const bool isAutomatic = frameFlag(scatter.automaticRange);
-    sizes.lowest = isAutomatic ? groups.minimum(ContourGroups::kSize) : frameReal(scatter.rangeMin);
-    sizes.highest =
-        isAutomatic ? groups.maximum(ContourGroups::kSize) : frameReal(scatter.rangeMax);
+    sizes.lowest = inForce(scatter.automaticRange, scatter.rangeMin, groups).value_or(0.0);
+    sizes.highest = inForce(scatter.automaticRange, scatter.rangeMax, groups).value_or(0.0);
     sizes.smallest = frameReal(scatter.smallestSize);
     sizes.largest = frameReal(scatter.largestSize);
     return sizes;

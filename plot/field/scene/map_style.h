@@ -28,6 +28,9 @@ public:
     bool frameFlag(style::Key key, int index = -1) const { return frameNumber(key, index) != 0; }
     double frameReal(style::Key key, int index = -1) const;
     std::string frameText(style::Key key) const;
+    /// A number of the frame, or what is proposed for it while it follows from the data.
+    std::optional<double> inForce(style::SwitchKey follows, style::Key key,
+                                  const ContourGroups& groups, int index = -1) const;
     const ShownMap& shown() const { return m_shown; }
     BlankingChoice blanking() const;
 

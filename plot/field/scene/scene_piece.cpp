@@ -35,7 +35,8 @@ std::function<ScenePiece()> makerOfBlock(BlockOrder order)
         piece.surfaces = std::move(order.surfaces);
         const auto height = static_cast<double>(order.map);
         piece.block = BlockBuilder(*order.data, order.groups, *order.cache)
-                          .build(order.recipe, order.isFlat ? &height : nullptr, piece.surfaces);
+                          .build(order.recipe, order.isFlat ? &height : nullptr, piece.surfaces,
+                                 &piece.start);
         for (const PlacedSurface& placed : piece.surfaces)
             placed.shape->GetBounds(); // are kept
         return piece;

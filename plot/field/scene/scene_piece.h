@@ -21,6 +21,7 @@ struct ScenePiece
     std::optional<BlockRecipe> recipe;
     ShapePieces block;
     std::vector<PlacedSurface> surfaces; ///< of the block's map
+    StreamStart start; ///< of a block of streamtraces
 
     bool isBlock(CvlInt64 ofMap, const BlockRecipe& from) const
     {

@@ -2,6 +2,7 @@
 #include "plot/field/scene/volume_looks.h"
 
 #include "plot/field/scene/map_style.h"
+#include "plot/field/scene/proposals.h"
 
 #include <QString>
 #include <QStringList>
@@ -47,7 +48,7 @@ static SurfaceChoice indexPlane(const MapStyle& map, int number, int axis)
     const host::ZoneInfo& zone = map.shown().frame.data()->zone(map.shown().zone);
     const std::int64_t last = zone.dimensions[static_cast<std::size_t>(axis)];
     const double position = map.frameFlag(slices.automaticPosition, number)
-        ? static_cast<double>((last + 1) / 2)
+        ? middlePlane(zone, axis)
         : std::round(map.frameReal(slices.position, number));
     SurfaceChoice choice;
     choice.surfaces = SurfacesToPlot_None;
@@ -63,14 +64,11 @@ static SurfaceChoice coordinatePlane(const MapStyle& map, int number, int group,
                                      const ContourGroups& groups)
 {
     constexpr const auto& slices = style::slices;
-    const bool isAutomatic = map.frameFlag(slices.automaticPosition, number);
     SurfaceChoice choice;
     choice.surfaces = SurfacesToPlot_None;
     choice.iso.variable = groups.variable(group);
-    if (!isAutomatic)
-        choice.iso.values = {map.frameReal(slices.position, number)};
-    else if (groups.hasRange(group))
-        choice.iso.values = {(groups.minimum(group) + groups.maximum(group)) / 2};
+    if (const auto place = map.inForce(slices.automaticPosition, slices.position, groups, number))
+        choice.iso.values = {*place};
     return choice;
 }
 
@@ -90,26 +88,20 @@ std::optional<BlockLook> sliceLook(int number, const ShownMap& shown, const Cont
     // A plane has no shape that light would show: its colours are those of the legend.
     if (look && !isOfIndex)
         look->mapper.lit = look->mapper.smooth = look->mapper.shiny = look->recipe.normals = false;
-    if (look && !isOfIndex && map.frameFlag(slices.automaticPosition, number))
+    if (look && !isOfIndex)
         look->recipe.placeGroup = ContourGroups::kPlace;
     return look;
 }
 
-/// As many values as there are to be surfaces, or evenly between the ends of the range.
+/// As many values as there are to be surfaces; none while they are not known.
 static std::vector<double> isoValues(const MapStyle& map, const ContourGroups& groups)
 {
     constexpr const auto& iso = style::isoSurfaces;
     constexpr style::Key kValues[] = {iso.value1, iso.value2, iso.value3};
-    constexpr int kGroup = ContourGroups::kIso;
-    const bool isAutomatic = map.frameFlag(iso.automaticValues);
-    const int count = isAutomatic && !groups.hasRange(kGroup) ? 0 : map.frameNumber(iso.count);
     std::vector<double> values;
-    for (int i = 0; i < count; ++i) {
-        const double share = (i + 1.0) / (count + 1.0);
-        values.push_back(isAutomatic ? groups.minimum(kGroup)
-                                 + share * (groups.maximum(kGroup) - groups.minimum(kGroup))
-                                     : map.frameReal(kValues[i]));
-    }
+    for (int i = 0; i < map.frameNumber(iso.count); ++i)
+        if (const auto value = map.inForce(iso.automaticValues, kValues[i], groups))
+            values.push_back(*value);
     return values;
 }
 
@@ -123,27 +115,22 @@ std::optional<BlockLook> isoSurfacesLook(const ShownMap& shown, const ContourGro
     SurfaceChoice choice;
     choice.iso = {groups.variable(ContourGroups::kIso), isoValues(map, groups)};
     auto look = facesLook(map, choice, map.frameNumber(iso.coloring), groups);
-    if (look && map.frameFlag(iso.automaticValues))
+    if (look)
         look->recipe.placeGroup = ContourGroups::kIso;
     return look;
 }
 
-/// Zones through which lines run, by map; only whether it is the first is asked for most maps.
-static std::vector<std::int64_t> streamZones(const ShownMap& shown)
+std::vector<StreamMap> streamMaps(const host::Frame& frame)
 {
-    const host::Frame& frame = shown.frame;
-    std::vector<std::int64_t> zones;
+    std::vector<StreamMap> maps;
     for (const std::uint32_t map : frame.activeFieldMaps()) {
-        const ShownMap other {frame, map, frame.candidateZone(map)};
-        const bool isEnabled = other.zone != 0
-            && frame.enabledZones().contains(static_cast<std::uint32_t>(other.zone));
-        if (!isEnabled || !showsObject(other, kMap.volumeObjects.showStreamtraces))
-            continue;
-        if (zones.empty() && other.map != shown.map)
-            return {};
-        zones.push_back(other.zone);
+        const ShownMap shown {frame, map, frame.candidateZone(map)};
+        const bool isEnabled = shown.zone != 0
+            && frame.enabledZones().contains(static_cast<std::uint32_t>(shown.zone));
+        if (isEnabled && showsObject(shown, kMap.volumeObjects.showStreamtraces))
+            maps.push_back({map, {shown.zone, MapStyle(shown).blanking()}});
     }
-    return zones;
+    return maps;
 }
 
 /// The numbers in a text, by threes; nothing from the first word on that is no number.
@@ -170,7 +157,6 @@ static StreamChoice streamChoice(const MapStyle& map)
     constexpr style::Key kVector[] = {style::globalVector.uVar, style::globalVector.vVar,
                                       style::globalVector.wVar};
     StreamChoice choice;
-    choice.zones = streamZones(map.shown());
     for (std::size_t axis = 0; axis < 3; ++axis)
         choice.vector[axis] = map.frameNumber(kVector[axis]);
     choice.direction = static_cast<StreamDirection_e>(map.frameNumber(streams.direction));

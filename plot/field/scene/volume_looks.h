@@ -10,8 +10,17 @@ namespace corvala::plot {
 /// A plane through the zone; `number` is from 1.
 std::optional<BlockLook> sliceLook(int number, const ShownMap& shown, const ContourGroups& groups);
 std::optional<BlockLook> isoSurfacesLook(const ShownMap& shown, const ContourGroups& groups);
-/// Lines through all zones are drawn with the first map that shows them; the others have a look
-/// with nothing to draw, so that their values count.
+/// Without the zones in which the lines run: these are drawn with the first map that shows them,
+/// the others have a look with nothing to draw, so that their values count.
 std::optional<BlockLook> streamtracesLook(const ShownMap& shown, const ContourGroups& groups);
+
+/// A map that shows streamtraces.
+struct StreamMap
+{
+    CvlInt64 map = 0;
+    StreamZone zone;
+};
+/// All of them, ascending.
+std::vector<StreamMap> streamMaps(const host::Frame& frame);
 
 } // namespace corvala::plot

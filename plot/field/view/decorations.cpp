@@ -24,6 +24,17 @@ QColor inkColor()
     return {40, 40, 40};
 }
 
+/// As large as beside the plot, and within the picture.
+static QRectF placedLegend(const FieldLegend& legend, const QSizeF& picture, double font)
+{
+    const QSizeF size =
+        QSizeF(legendWidth(legend, font), legendHeight(legend, font)).boundedTo(picture);
+    return {
+        QPointF(std::min((*legend.place)[0] * picture.width(), picture.width() - size.width()),
+                std::min((*legend.place)[1] * picture.height(), picture.height() - size.height())),
+        size};
+}
+
 FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>& legends,
                    double yTexts, bool hasVectorKey, double fontScale)
 {
@@ -36,7 +47,7 @@ FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>&
     QRectF area(0, 0, size.width(), size.height());
     double all = 0.0;
     for (const FieldLegend& legend : legends)
-        all += legendWidth(legend, font);
+        all += legend.place ? 0.0 : legendWidth(legend, font);
     all = std::max(all, hasVectorKey ? kVectorKeyWidth * font : 0.0);
     const double shrink = all > 0.0 ? std::min(size.width() / 2.0 / all, 1.0) : 1.0;
     double left = area.right() - all * shrink;
@@ -45,6 +56,10 @@ FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>&
     if (hasVectorKey)
         layout.vectorKey = {left, area.height() - 6.0 * font, all * shrink, 4.5 * font};
     for (const FieldLegend& legend : legends) {
+        if (legend.place) {
+            layout.legends.push_back(placedLegend(legend, size, font));
+            continue;
+        }
         const double width = legendWidth(legend, font) * shrink;
         layout.legends.emplace_back(left, 1.5 * font, width, area.height() - below);
         left += width;

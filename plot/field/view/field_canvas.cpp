@@ -299,6 +299,38 @@ void FieldCanvas::takeHold()
     m_hand.start();
 }
 
+bool FieldCanvas::takesHold(const QPointF& place)
+{
+    m_heldLegend = m_view.legendAt(place);
+    return m_heldLegend != 0;
+}
+
+void FieldCanvas::moveHeld(const QPointF& by)
+{
+    m_view.moveLegend(m_heldLegend, by);
+    m_overlay->update();
+}
+
+/// The place of the legend becomes one of the style, in one undo step.
+void FieldCanvas::letGo()
+{
+    constexpr const auto& kGroup = style::contourGroups;
+    const auto corner = m_view.legendCorner(m_heldLegend);
+    if (!corner)
+        return;
+    host::Document& document = host::Document::instance();
+    const auto write = [&](style::Key key, const host::StyleInput& value) {
+        host::SetStyle operation {host::pathOf(key), value, std::nullopt};
+        operation.index = m_heldLegend;
+        document.execute(operation);
+    };
+    document.undo().begin(UndoKind_StyleGroup);
+    write(kGroup.automaticLegend, false);
+    write(kGroup.legendX, corner->x());
+    write(kGroup.legendY, corner->y());
+    document.undo().end(host::UndoHistory::Closing::OneStep);
+}
+
 /// In space the interactor turns the view.
 bool FieldCanvas::dragged(const QPointF& by)
 {

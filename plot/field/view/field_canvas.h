@@ -48,6 +48,13 @@ public:
 
 protected:
     CvlInt64 numberAt(const QPointF& place) override { return m_view.zoneAt(place); }
+    std::optional<std::array<double, 3>> placeAt(const QPointF& place) override
+    {
+        return m_view.placeAt(place);
+    }
+    bool takesHold(const QPointF& place) override;
+    void moveHeld(const QPointF& by) override;
+    void letGo() override;
     bool dragged(const QPointF& by) override;
     bool wheelTurned(const QWheelEvent& wheel) override;
     bool keepsMouse() const override { return m_view.isFlat(); }
@@ -74,6 +81,7 @@ private:
     QWidget* m_overlay = nullptr; // not owned
     vtkSmartPointer<vtkInteractorStyle> m_style; ///< turns the view in space
     bool m_isLetGo = false; ///< just now
+    int m_heldLegend = 0; ///< contour group; 0 while none is moved
     QTimer m_hand; ///< runs while the view is being moved, and until the hand rests
     bool m_isUnfinished = false; ///< more of the picture follows
     bool m_isQuick = false; ///< it is without smoothing

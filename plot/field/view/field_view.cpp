@@ -330,6 +330,11 @@ SpaceView FieldView::spaceView() const
 std::optional<double> FieldView::proposal(style::Key value, int index) const
 {
     constexpr const auto& kAxes = style::fieldAxes;
+    const auto legend = legendCorner(index);
+    if (legend && value == style::contourGroups.legendX)
+        return legend->x();
+    if (legend && value == style::contourGroups.legendY)
+        return legend->y();
     const PlaneWindow window = m_flat ? planeWindow() : PlaneWindow();
     const vtkBoundingBox box = m_scene->bounds();
     if (!isAxisRange(value) || !box.IsValid())
@@ -392,10 +397,8 @@ void FieldView::paintDecorations(QPainter& painter)
                     : notice);
 }
 
-CvlInt64 FieldView::zoneAt(const QPointF& point)
+PickRay FieldView::rayAt(const QPointF& point)
 {
-    if (!m_layout.plot.contains(point))
-        return 0;
     const auto worldAt = [&](double depth) {
         m_back->SetDisplayPoint(m_magnification * point.x(),
                                 m_magnification * (m_size.height() - point.y()) - 1.0, depth);
@@ -404,7 +407,47 @@ CvlInt64 FieldView::zoneAt(const QPointF& point)
         return std::array<double, 3> {world[0] / world[3], world[1] / world[3],
                                       world[2] / world[3]};
     };
-    return m_scene->zoneAt({worldAt(0.0), worldAt(1.0), kPickPixels / pixelsPerUnit()});
+    return {worldAt(0.0), worldAt(1.0), kPickPixels / pixelsPerUnit()};
+}
+
+CvlInt64 FieldView::zoneAt(const QPointF& point)
+{
+    return m_layout.plot.contains(point) ? m_scene->zoneAt(rayAt(point)) : 0;
+}
+
+std::optional<std::array<double, 3>> FieldView::placeAt(const QPointF& point)
+{
+    return m_layout.plot.contains(point) ? m_scene->placeAt(rayAt(point)) : std::nullopt;
+}
+
+int FieldView::legendAt(const QPointF& point) const
+{
+    int group = 0;
+    for (std::size_t i = 0; i < m_layout.legends.size(); ++i)
+        if (m_layout.legends[i].contains(point)) // a later one covers those before
+            group = m_legends[i].group;
+    return group;
+}
+
+void FieldView::moveLegend(int group, const QPointF& pixels)
+{
+    for (std::size_t i = 0; i < m_layout.legends.size(); ++i) {
+        QRectF& area = m_layout.legends[i];
+        const double right = std::max(m_size.width() - area.width(), 0.0);
+        const double bottom = std::max(m_size.height() - area.height(), 0.0);
+        if (m_legends[i].group == group)
+            area.moveTo(std::clamp(area.left() + pixels.x(), 0.0, right),
+                        std::clamp(area.top() + pixels.y(), 0.0, bottom));
+    }
+}
+
+std::optional<QPointF> FieldView::legendCorner(int group) const
+{
+    for (std::size_t i = 0; i < m_layout.legends.size(); ++i)
+        if (m_legends[i].group == group)
+            return QPointF(100.0 * m_layout.legends[i].left() / m_size.width(),
+                           100.0 * m_layout.legends[i].top() / m_size.height());
+    return std::nullopt;
 }
 
 } // namespace corvala::plot

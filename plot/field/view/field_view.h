@@ -83,11 +83,19 @@ public:
     /// Axes, legends and remarks, over the drawing.
     void paintDecorations(QPainter& painter);
 
-    /// As of the scene; for the ranges of axes what is seen.
+    /// As of the scene; for the ranges of axes and the places of legends what is seen.
     std::optional<double> proposal(style::Key value, int index) const;
 
     /// The zone at a point of the picture, from top left; 0 for none.
     CvlInt64 zoneAt(const QPointF& point);
+    /// Coordinates of what is seen there, as FieldScene::placeAt.
+    std::optional<std::array<double, 3>> placeAt(const QPointF& point);
+    /// The contour group of the legend there; 0 for none.
+    int legendAt(const QPointF& point) const;
+    /// Moves the legend of a group within the picture, until the next `prepare`.
+    void moveLegend(int group, const QPointF& pixels);
+    /// Its upper left corner, in percent of the picture; nothing when the group has no legend.
+    std::optional<QPointF> legendCorner(int group) const;
 
 private:
     double pixelsPerUnit() const;
@@ -97,6 +105,7 @@ private:
     void layOutPlot(double yTexts);
     SpaceView spaceView() const;
     PlaneWindow planeWindow() const;
+    PickRay rayAt(const QPointF& point);
     void placeCamera();
     void fitFlat(const vtkBoundingBox& box);
     void fitSpace(const vtkBoundingBox& box);

@@ -23,6 +23,7 @@ static constexpr double kBarWidth = 1.4;
 static constexpr double kTallestBar = 26.0;
 static constexpr double kSingleBand = 3.0;
 static constexpr double kTitleHeight = 1.6;
+static constexpr double kBarTop = 2.0;
 
 std::vector<LegendText> legendTexts(const std::optional<ContourLevels>& levels, double gap)
 {
@@ -61,6 +62,23 @@ double legendWidth(const FieldLegend& legend, double font)
                       kWidest * font);
 }
 
+static int bandsOf(const FieldLegend& legend)
+{
+    return legend.levels ? legend.levels->bands : 1;
+}
+
+/// Of the bar and what is above it.
+static double fullHeight(const FieldLegend& legend)
+{
+    return kBarTop + (bandsOf(legend) > 1 ? kTallestBar : kSingleBand);
+}
+
+double legendHeight(const FieldLegend& legend, double font)
+{
+    constexpr double kHalfText = 0.7; // of the lowest number
+    return (fullHeight(legend) + kHalfText) * font;
+}
+
 static void paintBands(QPainter& painter, const QRectF& bar, const std::vector<host::Rgb>& colors)
 {
     const double height = bar.height() / static_cast<double>(colors.size());
@@ -81,10 +99,10 @@ static void paintLegend(QPainter& painter, const QRectF& area, double font,
                      Qt::AlignLeft | Qt::AlignTop,
                      QFontMetricsF(painter.font())
                          .elidedText(legend.title, Qt::ElideRight, area.width() - 0.3 * font));
-    const int bands = legend.levels ? legend.levels->bands : 1;
-    const double tallest = (bands > 1 ? kTallestBar : kSingleBand) * font;
-    const QRectF bar(area.left(), area.top() + 2.0 * font, kBarWidth * font,
-                     std::min(area.height() - 2.0 * font, tallest));
+    const int bands = bandsOf(legend);
+    const QRectF bar(QPointF(area.left(), area.top() + kBarTop * font),
+                     QSizeF(kBarWidth * font,
+                            std::min(area.height(), fullHeight(legend) * font) - kBarTop * font));
     paintBands(painter, bar,
                legend.levels ? bandColors(legend.colors, bands)
                              : std::vector<host::Rgb> {noValueColor()});
@@ -104,8 +122,13 @@ void paintLegends(QPainter& painter, const FieldLayout& layout,
     painter.save();
     painter.setPen(QPen(inkColor(), std::max(1.0, layout.font / 12.0)));
     painter.setBrush(Qt::NoBrush);
-    for (std::size_t i = 0; i < legends.size(); ++i)
-        paintLegend(painter, layout.legends[i], layout.font, legends[i]);
+    for (std::size_t i = 0; i < legends.size(); ++i) {
+        const QRectF& area = layout.legends[i];
+        const double rim = 0.5 * layout.font;
+        if (area.intersects(layout.plot)) // it is read on any colour
+            painter.fillRect(area.adjusted(-rim, -rim, 0.0, rim), QColor(255, 255, 255, 200));
+        paintLegend(painter, area, layout.font, legends[i]);
+    }
     painter.restore();
 }
 

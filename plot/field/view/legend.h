@@ -19,6 +19,9 @@ std::vector<LegendText> legendTexts(const std::optional<ContourLevels>& levels, 
 /// Width in pixels that a legend needs with texts `font` pixels high.
 double legendWidth(const FieldLegend& legend, double font);
 
+/// Height in pixels of a legend with its tallest bar.
+double legendHeight(const FieldLegend& legend, double font);
+
 /// Draws the legends where the layout has them.
 void paintLegends(QPainter& painter, const FieldLayout& layout,
                   const std::vector<FieldLegend>& legends);

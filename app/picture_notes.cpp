@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/picture_notes.h"
+
+#include "app/notice_bar.h"
+#include "host/document/document.h"
+
+#include <utility>
+
+namespace corvala::app {
+
+PictureNotes::PictureNotes(NoticeBar& bar, QObject* parent)
+    : QObject(parent)
+    , m_bar(bar)
+{
+}
+
+void PictureNotes::tell(const std::optional<plot::SceneNote>& note)
+{
+    const QString text = note ? note->text : QString();
+    if (std::exchange(m_told, text) == text)
+        return;
+    if (!note) {
+        if (m_bar.isShown(m_note))
+            m_bar.tell({});
+        return;
+    }
+    if (note->mending.empty())
+        m_note = m_bar.tell(text, tr("Plot Details..."),
+                            [this, value = note->about] { Q_EMIT detailsWanted(value); });
+    else
+        m_note = m_bar.tell(text, note->caption, [values = note->mending] {
+            for (const host::SetStyle& value : values)
+                host::Document::instance().execute(value);
+        });
+}
+
+} // namespace corvala::app

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/common/scene_note.h"
+
+#include <QObject>
+
+#include <optional>
+
+namespace corvala::app {
+
+class NoticeBar;
+
+/// Tells in the notice bar what one would wonder at in the picture, once: a note that is closed
+/// comes again only after the picture was without it.
+class PictureNotes : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The notice bar must outlive the notes.
+    explicit PictureNotes(NoticeBar& bar, QObject* parent = nullptr);
+
+    /// A picture is complete, and this is to be said of it.
+    void tell(const std::optional<plot::SceneNote>& note);
+
+Q_SIGNALS:
+    /// The user asks for the values of the frame among which this one is.
+    void detailsWanted(corvala::style::Key value);
+
+private:
+    NoticeBar& m_bar;
+    QString m_told; ///< while it is true
+    int m_note = 0;
+};
+
+} // namespace corvala::app

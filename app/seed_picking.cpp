@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/seed_picking.h"
+
+#include "app/details/details_dock.h"
+#include "host/document/document.h"
+#include "plot/frame_view.h"
+
+#include <QShortcut>
+
+namespace corvala::app {
+
+using host::Document;
+
+/// Shows the streamtraces, too: a point without its line would tell nothing.
+static void addSeed(double x, double y, double z)
+{
+    constexpr const auto& streams = style::streamtraces;
+    const host::Frame* const frame = Document::instance().activeFrame();
+    if (!frame)
+        return;
+    const host::Schema& schema = host::Schema::instance();
+    const auto& points = std::get<std::string>(frame->values().get(schema.at(streams.points)));
+    QStringList numbers =
+        QString::fromStdString(points).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const double number : {x, y, z})
+        numbers << QString::number(number, 'g', 7);
+    host::UndoHistory& undo = Document::instance().undo();
+    undo.begin(UndoKind_StyleGroup);
+    Document::instance().execute(host::SetStyle {host::pathOf(streams.points),
+                                                 numbers.join(QLatin1Char(' ')).toStdString()});
+    if (!frame->isOn(streams.show))
+        Document::instance().execute(host::SetStyle {host::pathOf(streams.show), true});
+    undo.end(host::UndoHistory::Closing::OneStep);
+}
+
+SeedPicking::SeedPicking(DetailsDock& details, plot::FrameView& view, QObject* parent)
+    : QObject(parent)
+{
+    auto* escape = new QShortcut(Qt::Key_Escape, &details);
+    escape->setContext(Qt::ApplicationShortcut);
+    escape->setEnabled(false);
+    connect(escape, &QShortcut::activated, &details, &DetailsDock::endPicking);
+    connect(&details, &DetailsDock::pickingSwitched, &view, &plot::FrameView::setPicksPlaces);
+    connect(&details, &DetailsDock::pickingSwitched, escape, &QShortcut::setEnabled);
+    connect(&view, &plot::FrameView::placePicked, this, addSeed);
+}
+
+} // namespace corvala::app

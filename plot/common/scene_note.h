@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/operations/operation.h"
+#include "vocabulary/style.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace corvala::plot {
+
+/// Something in a picture at which its user would wonder, and what mends it.
+struct SceneNote
+{
+    QString text; ///< one sentence that names the thing and the place
+    style::Key about; ///< a value of the style that it comes from
+    QString caption = {}; ///< of what mends it; empty without
+    std::vector<host::SetStyle> mending = {};
+};
+
+} // namespace corvala::plot

@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/field/scene/scene_notes.h"
+
+#include "host/document/line_map_name.h"
+#include "host/style/schema.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace corvala::plot {
+
+namespace {
+
+class Notes
+{
+    Q_DECLARE_TR_FUNCTIONS(corvala::plot::Notes)
+
+public:
+    explicit Notes(const NoteFacts& facts)
+        : m_facts(facts)
+    {
+    }
+
+    std::optional<SceneNote> first() const;
+
+private:
+    std::optional<SceneNote> blanking() const;
+    std::optional<SceneNote> slices() const;
+    std::optional<SceneNote> slice(int number) const;
+    std::optional<SceneNote> isoSurfaces() const;
+    std::optional<SceneNote> streamtraces() const;
+    std::optional<SceneNote> vectors() const;
+    std::optional<SceneNote> scatter() const;
+
+    int number(style::Key key, int index = -1) const
+    {
+        return m_facts.frame.values().integer(host::Schema::instance().at(key), index);
+    }
+    double real(style::Key key, int index = -1) const
+    {
+        return m_facts.frame.values().real(host::Schema::instance().at(key), index);
+    }
+    QString nameOf(CvlInt64 variable) const
+    {
+        return QString::fromStdString(host::shownVariableName(m_facts.frame.data(), variable));
+    }
+    /// Whether a layer that is on shows something of a map for which `counts` holds.
+    template<class Counts>
+    bool shows(FieldLayer layer, Counts counts) const
+    {
+        if (!isLayerOn(m_facts.frame, layer))
+            return false;
+        for (const std::uint32_t map : m_facts.maps) {
+            const ShownMap shown {m_facts.frame, map, m_facts.frame.candidateZone(map)};
+            const auto look = lookOf(layer, shown, m_facts.groups);
+            if (look && counts(*look))
+                return true;
+        }
+        return false;
+    }
+    /// Whether a value is none of a group; not while these are not known.
+    bool isBeyond(double value, int group) const
+    {
+        return m_facts.groups.hasRange(group)
+            && (value < m_facts.groups.minimum(group) || value > m_facts.groups.maximum(group));
+    }
+
+    const NoteFacts& m_facts;
+};
+
+bool anyLook(const BlockLook&)
+{
+    return true;
+}
+
+host::SetStyle switched(style::SwitchKey key, bool isOn, int index = -1)
+{
+    host::SetStyle value {host::pathOf(key), isOn, std::nullopt};
+    if (index > 0)
+        value.index = index;
+    return value;
+}
+
+std::optional<SceneNote> Notes::blanking() const
+{
+    constexpr const auto& value = style::blanking.value;
+    if (!m_facts.isAllBlanked)
+        return std::nullopt;
+    QStringList constraints;
+    for (int i = 1; i <= value.constraint.kCount; ++i)
+        if (number(value.constraint.include, i) != 0)
+            constraints << tr("%1 (\"%2\")").arg(i).arg(nameOf(number(value.constraint.var, i)));
+    return SceneNote {tr("Value blanking takes away every cell of the active zones, by constraint "
+                         "%1.")
+                          .arg(constraints.join(QStringLiteral(", "))),
+                      value.include,
+                      tr("Switch Off Value Blanking"),
+                      {switched(value.include, false)}};
+}
+
+std::optional<SceneNote> Notes::slice(int slice) const
+{
+    constexpr const char* kNames[] = {"X", "Y", "Z", "I", "J", "K"};
+    const int plane = number(style::slices.plane, slice);
+    const int group = ContourGroups::kPlace + plane;
+    const bool isOfIndex = plane >= SlicePlane_I;
+    const double position = real(style::slices.position, slice);
+    const auto layer = static_cast<FieldLayer>(static_cast<int>(FieldLayer::Slice1) + slice - 1);
+    const auto isThere = [](const BlockLook& look) {
+        return look.recipe.surfaces.surfaces != SurfacesToPlot_None;
+    };
+    const bool isBeside = number(style::slices.automaticPosition, slice) == 0
+        && (isOfIndex ? !shows(layer, isThere) : isBeyond(position, group));
+    if (!isBeside || !shows(layer, anyLook))
+        return std::nullopt;
+    const QString where = QLatin1String(kNames[plane]);
+    const QString text = isOfIndex
+        ? tr("Slice %1 shows nothing: no zone that shows slices has a plane %2 = %3.")
+              .arg(slice)
+              .arg(where)
+              .arg(position)
+        : tr("Slice %1 at %2 = %3 lies outside the zones that show slices (%4 to %5).")
+              .arg(slice)
+              .arg(where)
+              .arg(position)
+              .arg(m_facts.groups.minimum(group))
+              .arg(m_facts.groups.maximum(group));
+    return SceneNote {text,
+                      style::slices.position,
+                      tr("Move It to the Middle"),
+                      {switched(style::slices.automaticPosition, true, slice)}};
+}
+
+std::optional<SceneNote> Notes::slices() const
+{
+    for (int number = 1; number <= style::Slices::kCount; ++number)
+        if (const auto note = slice(number))
+            return note;
+    return std::nullopt;
+}
+
+std::optional<SceneNote> Notes::isoSurfaces() const
+{
+    constexpr const auto& iso = style::isoSurfaces;
+    constexpr style::Key kValues[] = {iso.value1, iso.value2, iso.value3};
+    constexpr int kGroup = ContourGroups::kIso;
+    if (number(iso.automaticValues) != 0)
+        return std::nullopt;
+    for (int i = 0; i < number(iso.count); ++i) {
+        const double value = real(kValues[i]);
+        if (isBeyond(value, kGroup) && shows(FieldLayer::IsoSurfaces, anyLook))
+            return SceneNote {
+                tr("The iso-surface value %1 lies outside the values of \"%2\" (%3 to "
+                   "%4).")
+                    .arg(value)
+                    .arg(nameOf(m_facts.groups.variable(kGroup)))
+                    .arg(m_facts.groups.minimum(kGroup))
+                    .arg(m_facts.groups.maximum(kGroup)),
+                kValues[i],
+                tr("Take Values of the Data"),
+                {switched(iso.automaticValues, true)}};
+    }
+    return std::nullopt;
+}
+
+std::optional<SceneNote> Notes::streamtraces() const
+{
+    constexpr const auto& streams = style::streamtraces;
+    if (!m_facts.startsOutside)
+        return std::nullopt;
+    SceneNote note {tr("No streamtrace is drawn: the rake and all points lie outside the cells of "
+                       "the zones that show streamtraces."),
+                    streams.automaticRake};
+    if (number(streams.automaticRake) == 0) {
+        note.caption = tr("Lay the Rake Across the Data");
+        note.mending = {switched(streams.automaticRake, true)};
+    }
+    return note;
+}
+
+std::optional<SceneNote> Notes::vectors() const
+{
+    const ContourGroups& groups = m_facts.groups;
+    QStringList names;
+    for (int group = ContourGroups::kVector; group < ContourGroups::kVector + 3; ++group) {
+        if (groups.hasRange(group)
+            && (groups.minimum(group) != 0.0 || groups.maximum(group) != 0.0))
+            return std::nullopt;
+        if (groups.hasRange(group))
+            names << nameOf(groups.variable(group));
+    }
+    if (names.isEmpty() || !shows(FieldLayer::Vectors, anyLook))
+        return std::nullopt;
+    return SceneNote {tr("No arrow is drawn: the vectors (%1) are zero in all active zones.")
+                          .arg(names.join(QStringLiteral(", "))),
+                      style::globalVector.uVar};
+}
+
+std::optional<SceneNote> Notes::scatter() const
+{
+    constexpr int kGroup = ContourGroups::kSize;
+    const ContourGroups& groups = m_facts.groups;
+    const auto hasOwnSizes = [](const BlockLook& look) { return look.recipe.sizes.areOwn; };
+    if (number(style::globalScatter.automaticRange) == 0 || !groups.hasRange(kGroup)
+        || groups.minimum(kGroup) < groups.maximum(kGroup)
+        || !shows(FieldLayer::Scatter, hasOwnSizes))
+        return std::nullopt;
+    return SceneNote {
+        tr("All symbols have one size: their size variable \"%1\" is %2 in all active "
+           "zones.")
+            .arg(nameOf(groups.variable(kGroup)))
+            .arg(groups.minimum(kGroup)),
+        style::globalScatter.var};
+}
+
+std::optional<SceneNote> Notes::first() const
+{
+    using Note = std::optional<SceneNote> (Notes::*)() const;
+    for (const Note note : {&Notes::blanking, &Notes::slices, &Notes::isoSurfaces,
+                            &Notes::streamtraces, &Notes::vectors, &Notes::scatter})
+        if (auto found = (this->*note)())
+            return found;
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<SceneNote> noteOn(const NoteFacts& facts)
+{
+    return Notes(facts).first();
+}
+
+} // namespace corvala::plot

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/common/scene_note.h"
+#include "plot/field/scene/layer_looks.h"
+
+#include <optional>
+
+namespace corvala::plot {
+
+/// What notes about a scene that is complete go by.
+struct NoteFacts
+{
+    const host::Frame& frame;
+    const ContourGroups& groups;
+    const host::NumberSet& maps; ///< that are shown
+    bool isAllBlanked; ///< cells are there, and none is left
+    bool startsOutside; ///< no streamtrace starts in a cell
+};
+
+/// The first thing to wonder about; nothing when all is as it should be.
+std::optional<SceneNote> noteOn(const NoteFacts& facts);
+
+} // namespace corvala::plot
