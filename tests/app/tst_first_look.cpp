@@ -43,29 +43,23 @@ static QString nameOf(const host::Frame& frame, style::VariableKey key, int inde
     return variable > 0 ? QString::fromStdString(frame.data()->variable(variable).name) : QString();
 }
 
-/// What is to be seen: "colors", "greys" of faces, "lines" in black.
+/// What is to be seen: "colors", and "lines" in black.
 static QString seenIn(const QImage& image)
 {
-    constexpr double kFew = 0.001; // of the pixels
-    double colors = 0;
-    double greys = 0;
-    double lines = 0;
+    int colors = 0;
+    int lines = 0;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width() * 2 / 3; ++x) { // without legends
             const QColor color = image.pixelColor(x, y);
-            const bool isGrey = color.hsvSaturation() < 25;
-            colors += isGrey ? 0 : 1;
-            greys += isGrey && color.value() > 90 && color.value() < 235 ? 1 : 0;
-            lines += isGrey && color.value() < 30 ? 1 : 0;
+            colors += color.hsvSaturation() >= 25 ? 1 : 0;
+            lines += color.hsvSaturation() < 25 && color.value() < 30 ? 1 : 0;
         }
     }
-    const double few = kFew * image.width() * image.height();
+    const int pixels = image.width() * image.height();
     QStringList seen;
-    if (colors > 50 * few)
+    if (colors > pixels / 20)
         seen << QStringLiteral("colors");
-    if (greys > 50 * few)
-        seen << QStringLiteral("greys");
-    if (lines > few)
+    if (lines > pixels / 1000)
         seen << QStringLiteral("lines");
     return seen.join(' ');
 }
@@ -141,7 +135,7 @@ private Q_SLOTS:
                 "many.vtm",
                 "<VTKFile type='vtkMultiBlockDataSet' version='1.0'><vtkMultiBlockDataSet>" + blocks
                     + "</vtkMultiBlockDataSet></VTKFile>")},
-            "2D shade mesh", "", "greys lines");
+            "2D shade mesh", "", "colors");
     }
 
     void dependsOnTheData()
