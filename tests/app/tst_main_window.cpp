@@ -4,6 +4,7 @@
 #include "app/details/details_dock.h"
 #include "app/main_window.h"
 #include "app/program.h"
+#include "app/recent_files.h"
 #include "app/style_dialog.h"
 #include "host/document/document.h"
 #include "play/dialog_driver.h"
@@ -176,6 +177,16 @@ private Q_SLOTS:
         Document::instance().undo().undo();
         play::waitUntilIdle();
         QVERIFY(!button("Show in All Zones"));
+
+        m_window->openDemo(QStringLiteral("xy"));
+        write({{"ActiveLineMaps"}, host::NumberSet()});
+        play::waitUntilIdle();
+        layer("ShowLines").trigger();
+        play::waitUntilIdle();
+        layer("ShowLines").trigger();
+        play::waitUntilIdle();
+        button("Activate All Line Maps")->click();
+        QCOMPARE(frame().activeLineMaps(), host::allUpTo(6));
     }
 
     void picturesThatMakeWonderSayWhy()
@@ -259,6 +270,14 @@ private Q_SLOTS:
         QCOMPARE(frame().solutionTime(), 3.0);
         play::pressKey(slider, Qt::Key_Left);
         QCOMPARE(frame().solutionTime(), 2.0);
+        const QList<QAction*> bar = m_window->findChild<QToolBar*>("timeBar")->actions();
+        for (const auto& [name, time] : {std::pair("Later", 3.0), std::pair("Earlier", 2.0)}) {
+            play::waitUntilIdle();
+            for (QAction* action : bar)
+                if (action->text() == QLatin1String(name))
+                    action->trigger();
+            QCOMPARE(frame().solutionTime(), time);
+        }
         Document::instance().execute(host::SetSolutionTime {1.5});
         play::waitUntilIdle();
         QCOMPARE(slider->value(), 1);
@@ -429,6 +448,13 @@ private Q_SLOTS:
         change->click();
         QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 3, 60000);
         QCOMPARE(ended.last().first().toBool(), true);
+        m_window->openDemo(QStringLiteral("kinds"));
+        QVERIFY(!shownTexts().contains(QLatin1String("Detected")));
+        rememberFiles({QStringLiteral("/a")});
+        rememberFiles({sample("combustor_plot3d/multi-bin.xyz")});
+        QCOMPARE(recentFiles().mid(0, 2),
+                 (QList<QStringList> {{sample("combustor_plot3d/multi-bin.xyz")}, {"/a"}}));
+        QCOMPARE(recentFiles().count({"/a"}), 1);
     }
 
 private:

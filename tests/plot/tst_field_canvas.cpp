@@ -380,6 +380,17 @@ private Q_SLOTS:
                 QVERIFY2(isNew(), QByteArray::number(10 * type + head));
             }
         }
+        const auto differ = [&isNew](const std::vector<std::pair<const char*, double>>& values) {
+            for (const auto& [path, value] : values) {
+                write(path, "", value);
+                QVERIFY2(isNew(), path);
+            }
+        };
+        differ({{"GlobalVector/RelativeLength", 2},
+                {"GlobalVector/HeadSize", 60},
+                {"GlobalVector/HeadAngle", 45},
+                {"GlobalVector/ReferenceMagnitude", 1.5},
+                {"GlobalVector/IsUniform", 1}});
         write("FieldLayers/ShowVector", "", 0);
         write("FieldLayers/ShowScatter", "", 1);
         for (int shape = GeomShape_Square; shape <= GeomShape_LineArt; ++shape) {
@@ -394,6 +405,13 @@ private Q_SLOTS:
         QVERIFY(isNew());
         write("FieldMap/Scatter/FillColor", "all", 101);
         QVERIFY(!isNew()); // as filled with the colours of the lines
+        write("FieldMap/Scatter/SizeByVariable", "all", 1);
+        differ({{"GlobalScatter/Var", 5},
+                {"GlobalScatter/AutomaticRange", 0},
+                {"GlobalScatter/RangeMin", -1},
+                {"GlobalScatter/RangeMax", 3},
+                {"GlobalScatter/SmallestSize", 2},
+                {"GlobalScatter/LargestSize", 9}});
     }
 
     void numbersKeepClearOfTitles_data()
@@ -711,6 +729,32 @@ private Q_SLOTS:
             shown.settle();
             QCOMPARE(corner(), before);
             QCOMPARE(shown.fieldView().camera().position, place); // the hand did not turn it
+        }
+    }
+
+    /// What is proposed for the ends of an axis is what the plot shows along it.
+    void axesShowTheirRange()
+    {
+        constexpr const auto& kAxes = style::fieldAxes;
+        for (const char* demo : {"field2d", "field3d"}) {
+            openDemo(demo);
+            ShownPlot shown;
+            const auto ends = [&](const style::FieldAxis& axis) {
+                return std::pair(*shown.canvas().proposal(axis.rangeMin, -1),
+                                 *shown.canvas().proposal(axis.rangeMax, -1));
+            };
+            for (const auto* axis : {&kAxes.x, &kAxes.y})
+                QVERIFY(ends(*axis).first < ends(*axis).second);
+            shown.drag(shown.middle(), shown.middle() + QPoint(60, 30));
+            const QImage moved = shown.grabbed();
+            write("FieldAxes/Y/RangeMin", "", -2);
+            write("FieldAxes/Y/RangeMax", "", 8);
+            write("FieldAxes/Y/AutomaticRange", "", 0);
+            shown.settle(); // it fits, whatever was seen before
+            QVERIFY(shareOfChange(shown.grabbed(), moved) > 0.01);
+            const auto [least, most] = ends(kAxes.y);
+            if (document().activeFrame()->plotType() == PlotType_Field2D)
+                QVERIFY(std::abs(least + most - 6.0) < 0.01 && least <= -2.0);
         }
     }
 

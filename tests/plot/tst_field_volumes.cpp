@@ -578,6 +578,13 @@ private Q_SLOTS:
         QCOMPARE(shown.scene.legends().size(), std::size_t {1});
         activate("2", false);
         QCOMPARE(bounds(), 0.0);
+        activate("2", true);
+        for (const char* value : {"AutomaticRake=0", "StartX=1", "StartY=0.5", "StartZ=1", "EndX=1",
+                                  "EndY=2.5", "EndZ=1"})
+            edit(QStringLiteral("Streamtraces/") + value);
+        QVERIFY(bounds() > 1.5);
+        const vtkBoundingBox rake = shown.scene.layer(FieldLayer::Streamtraces).bounds();
+        QVERIFY(rake.GetLength(1) > 1.5 && rake.GetLength(2) < 0.01);
     }
 };
 

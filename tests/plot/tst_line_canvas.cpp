@@ -6,6 +6,7 @@
 #include "plot_document.h"
 #include "tests/support/rows.h"
 
+#include <QLabel>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -83,6 +84,7 @@ private Q_SLOTS:
         ShownCanvas shown;
         QCOMPARE(shown.lineCount(), 6);
         QCOMPARE(shown.line(1).points.size(), std::size_t(101));
+        QVERIFY(shown.plot().axisRect()->axis(QCPAxis::atBottom)->range().contains(0.0));
         write("LineMap/Lines/Show", "2", 0);
         shown.settle();
         QCOMPARE(shown.lineCount(), 5);
@@ -198,6 +200,11 @@ private Q_SLOTS:
         };
         QCOMPARE(title(QCPAxis::atBottom), QStringLiteral("Time"));
         QCOMPARE(title(QCPAxis::atLeft), QStringLiteral("Force, Moment, Power"));
+        write("LineMap/Assign/YAxisVar", "4", 5);
+        write("LineMap/Assign/YAxisVar", "5", 6);
+        shown.settle();
+        QVERIFY(title(QCPAxis::atLeft).startsWith("Force, Moment, Power, Error, "));
+        QCOMPARE(title(QCPAxis::atLeft).size(), 30); // and an ellipsis
         document().execute(host::RenameVariable {2, "Kraft"});
         write("LineMap/Lines/Show", "2-6", 0);
         shown.settle();
@@ -302,6 +309,8 @@ private Q_SLOTS:
         shown.settle();
         const QCPRange moved = across();
         QVERIFY(moved.size() < 0.9 * fitted.size());
+        QVERIFY(shown.view.render(kSize, nullptr)
+                != renderToImage(document().activeFrameId(), kSize, nullptr));
 
         // Whatever changes in the frame, and while another plot type is shown.
         write("LinePlotLayers/ShowLines", "", 0);
@@ -383,6 +392,8 @@ private Q_SLOTS:
         view.resize(kSize);
         view.show();
         QVERIFY(!view.canvas());
+        const auto* hint = view.findChild<QLabel*>();
+        QVERIFY(hint->text().startsWith("No data"));
         std::string error;
         QVERIFY(samples::openDemo("xy", 0, error));
         QVERIFY(qobject_cast<LineCanvas*>(view.canvas()));
@@ -394,7 +405,7 @@ private Q_SLOTS:
         QVERIFY(qobject_cast<LineCanvas*>(view.canvas()));
         QVERIFY(view.problem().isEmpty());
         write("PlotType", "", PlotType_Annotation);
-        QVERIFY(!view.canvas());
+        QVERIFY(!view.canvas() && hint->text().startsWith("Nothing is drawn"));
         const CvlUniqueId first = document().activeFrameId();
         document().undo().undo();
         QVERIFY(view.canvas());
