@@ -199,37 +199,24 @@ private Q_SLOTS:
         row("mesh color", "Mesh/Color", 7.0, mesh, 0, 0, 2, 0);
         row("mesh thickness", "Mesh/LineThickness", 1.2, mesh, 0, 2, 0, 0);
         row("mesh pattern", "Mesh/LinePattern", 2.0, mesh, 2, 0, 0, 0);
-        row("length of solid lines", "Mesh/PatternLength", 4.0, mesh, 0, 0, 0, 0);
-        row("mesh type", "Mesh/MeshType", 0.0, mesh, 0, 2, 0, 0);
         row("mesh off", "Mesh/Show", 0.0, mesh, 0, 0, 0, 2);
         row("mesh by group", "Mesh/Color", 101.0, mesh, 2, 0, 0, 0);
         row("shade color", "Shade/Color", 7.0, shade, 0, 0, 2, 0);
-        row("shade off", "Shade/Show", 0.0, shade, 0, 0, 0, 2);
         row("flood by density", "Contour/FloodColoring", 2.0, flood, 2, 0, 0, 0);
-        row("flood by cell", "Contour/ContourType", 3.0, flood, 2, 0, 0, 0);
         const int vectors = int(FieldLayer::Vectors);
         row("vector type", "Vector/VectorType", 2.0, vectors, 2, 0, 0, 0);
-        row("tangents", "Vector/IsTangent", 1.0, vectors, 2, 0, 0, 0);
-        row("arrowheads", "Vector/ArrowheadStyle", 1.0, vectors, 2, 0, 0, 0);
         row("vector color", "Vector/Color", 7.0, vectors, 0, 0, 2, 0);
         row("vectors by group", "Vector/Color", 101.0, vectors, 2, 0, 0, 0);
-        row("vector pattern", "Vector/LinePattern", 1.0, vectors, 2, 0, 0, 0);
-        row("length of solid vectors", "Vector/PatternLength", 4.0, vectors, 0, 0, 0, 0);
         row("vector thickness", "Vector/LineThickness", 1.2, vectors, 0, 2, 0, 0);
-        row("vectors off", "Vector/Show", 0.0, vectors, 0, 0, 0, 2);
         row("points", "Points/PointsToPlot", 3.0, vectors, 2, 0, 0, 0);
         row("skip", "Points/IJKSkip/J", 3.0, vectors, 1, 0, 0, 0); // map 8 is not ordered
         const int scatter = int(FieldLayer::Scatter);
         row("symbol shape", "Scatter/SymbolShape/GeomShape", 6.0, scatter, 0, 2, 0, 0);
-        row("symbol size", "Scatter/FrameSize", 4.0, scatter, 0, 2, 0, 0);
         row("size by variable", "Scatter/SizeByVariable", 1.0, scatter, 2, 0, 0, 0);
         row("symbol color", "Scatter/Color", 7.0, scatter, 0, 0, 2, 0);
         row("symbols by group", "Scatter/Color", 101.0, scatter, 2, 0, 0, 0);
         row("symbol thickness", "Scatter/LineThickness", 1.2, scatter, 0, 2, 0, 0);
-        row("symbol fill", "Scatter/FillMode", 3.0, scatter, 0, 2, 0, 0);
         row("color of no fill", "Scatter/FillColor", 7.0, scatter, 0, 0, 0, 0);
-        row("symbols off", "Scatter/Show", 0.0, scatter, 0, 0, 0, 2);
-        row("points of symbols", "Points/PointsToPlot", 3.0, scatter, 2, 0, 0, 0);
         row("points of nothing", "Points/PointsToPlot", 3.0, mesh, 0, 0, 0, 0);
     }
 

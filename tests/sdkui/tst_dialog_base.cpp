@@ -164,16 +164,6 @@ private Q_SLOTS:
         QVERIFY(!second);
     }
 
-    void helpWithoutAReferenceAsksNothing()
-    {
-        int calls = 0;
-        LaunchHelpAction::setHandler([&calls](const QString&) { ++calls; });
-        LaunchHelpAction("page.html", nullptr).trigger();
-        LaunchHelpAction(QString(), nullptr).trigger();
-        QCOMPARE(calls, 1);
-        QCOMPARE(LaunchHelpAction::lastRequest(), QString("page.html"));
-    }
-
     void launchActionFollowsTheRelevance()
     {
         tests::openDemo("xy");

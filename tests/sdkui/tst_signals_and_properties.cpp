@@ -20,7 +20,6 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPushButton>
 
 #include <boost/make_shared.hpp>
@@ -137,20 +136,6 @@ private Q_SLOTS:
         QCOMPARE(runs, 3);
     }
 
-    void performerRunsInsideAMenu()
-    {
-        QMenu menu;
-        menu.addAction(QStringLiteral("entry"));
-        bool wasOpen = false;
-        OnIdleActionPerformerSingleShot performer([&] {
-            wasOpen = menu.isVisible();
-            menu.close();
-        });
-        performer.enableNotification();
-        menu.exec();
-        QVERIFY(wasOpen);
-    }
-
     void collectionBlocksAsAState()
     {
         boost::signals2::signal<void()> source;
@@ -204,30 +189,6 @@ private Q_SLOTS:
         bare.code = StateCode_ColorTableChanged;
         host::Document::instance().raise(bare);
         QCOMPARE(seen, QStringList({"7|style||FieldMap|Mesh|MeshType|", "22|bare|||||"}));
-    }
-
-    void slotsMayConnectAndDisconnectOthers()
-    {
-        tests::openDemo("field2d");
-        auto& observable = signaling::StateChangeEventObservable::getInstance();
-        QStringList order;
-        boost::signals2::scoped_connection second;
-        boost::signals2::scoped_connection third;
-        const boost::signals2::scoped_connection first =
-            observable.connect([&](const toolbox::StateChangeEventInterface&) {
-                order << "first";
-                second.disconnect();
-                if (!third.connected())
-                    third = observable.connect(
-                        [&order](const toolbox::StateChangeEventInterface&) { order << "third"; });
-            });
-        second = observable.connect(
-            [&order](const toolbox::StateChangeEventInterface&) { order << "second"; });
-        const host::StateEvent event;
-        host::Document::instance().raise(event);
-        order.clear();
-        host::Document::instance().raise(event);
-        QCOMPARE(order, QStringList({"first", "third"}));
     }
 
     void expressionsFollowTheirOperands_data()
@@ -292,21 +253,6 @@ private Q_SLOTS:
         QCOMPARE(notField.isRelevant(), !isField);
         QCOMPARE(line.isRelevant(), isLine);
         QCOMPARE(notLine.isRelevant(), !isLine);
-    }
-
-    void plotTypeRelevanceIgnoresEditsOfStyle()
-    {
-        tests::openDemo("field2d");
-        const propertymanager::FieldPlotTypeDependentRelevance field(true);
-        int changes = 0;
-        const boost::signals2::scoped_connection connection =
-            field.connectChanged([&changes] { ++changes; });
-        const toolbox::Set map = tests::setOf({1});
-        sdk::ui::writeStyle(style::fieldMap.group, &map, 4);
-        QCOMPARE(changes, 0);
-        sdk::ui::writeStyle(style::plotType, nullptr, PlotType_LineXY);
-        QCOMPARE(changes, 1);
-        QVERIFY(!field.isRelevant());
     }
 
     void predicateRelevance()

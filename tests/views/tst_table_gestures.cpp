@@ -131,30 +131,6 @@ private Q_SLOTS:
         QCOMPARE(takeWrites(), "FieldMap.Mesh.Show 3 = false; FieldMap.Mesh.Show 3 = true");
     }
 
-    void keysMoveTheCurrentCell_data()
-    {
-        const Rows<QPoint, int, int, QPoint> row; // from (column and map), key, modifiers, to
-        row("right", {3, 2}, Qt::Key_Right, 0, {4, 2});
-        row("left at the edge", {0, 2}, Qt::Key_Left, 0, {0, 2});
-        row("right at the edge", {9, 2}, Qt::Key_Right, 0, {9, 2});
-        row("up at the edge", {3, 1}, Qt::Key_Up, 0, {3, 1});
-        row("down at the edge", {3, 12}, Qt::Key_Down, 0, {3, 12});
-        row("home", {3, 5}, Qt::Key_Home, 0, {0, 5});
-        row("end", {3, 5}, Qt::Key_End, 0, {9, 5});
-        row("last cell", {3, 5}, Qt::Key_End, Qt::ControlModifier, {9, 12});
-        row("first cell", {3, 5}, Qt::Key_Home, Qt::ControlModifier, {0, 1});
-    }
-
-    void keysMoveTheCurrentCell()
-    {
-        const auto [from, key, modifiers, to] = currentRow<QPoint, int, int, QPoint>();
-        DialogFixture fixture("field2d");
-        fixture.clickCell(from.y(), from.x());
-        fixture.key(key, Qt::KeyboardModifiers(modifiers));
-        const QModelIndex current = fixture.table().currentIndex();
-        QCOMPARE(QPoint(current.column(), current.row() + 1), to);
-    }
-
     void keysOpenTheMenuAtTheCurrentCell_data()
     {
         const Rows<int, int> row;
