@@ -313,6 +313,14 @@ std::int64_t FieldScene::drawingCost() const
     return all;
 }
 
+std::int64_t FieldScene::expectedCost() const
+{
+    std::int64_t all = 0;
+    for (const auto& layer : m_layers)
+        all += layer->cost();
+    return all;
+}
+
 std::int64_t FieldScene::translucentCost() const
 {
     std::int64_t all = 0;

@@ -68,8 +68,8 @@ public:
     std::int64_t drawingCost() const;
     /// The same of everything that is translucent.
     std::int64_t translucentCost() const;
-    /// The same of all symbols, whether or not they are in order.
-    std::int64_t symbolCost() const { return layer(FieldLayer::Scatter).cost(); }
+    /// The same of everything that is shown, before it is put in order.
+    std::int64_t expectedCost() const;
     /// Draws a few points in place of everything, until this is taken back: for a scene that takes
     /// too long to be drawn while it is moved.
     void setStandIn(bool standsIn);

@@ -31,9 +31,8 @@ static constexpr double kMovingSeconds = 0.12; ///< for a picture while the view
 /// Software renderers leave holes in lines when they smooth by samples; there the picture at rest
 /// is drawn with twice the pixels each way, and made smaller.
 static constexpr int kSoftwareSamples = 2;
-/// Cost of the symbols of a picture that is smoothed so. More of them cover so many pixels that it
-/// would take seconds; their own edges are smooth as they are.
-static constexpr std::int64_t kMostSmoothedSymbols = 10 * kLargestPiece;
+/// Cost of a picture that is smoothed so, at most: more takes many seconds.
+static constexpr std::int64_t kMostSmoothed = 5'000'000;
 static constexpr double kWheelStep = 1.15; ///< magnification of one notch
 
 /// Lets its interactor draw while Qt paints it, and at no other time.
@@ -198,7 +197,7 @@ void FieldCanvas::reduce()
 /// every machine.
 bool FieldCanvas::isSmooth() const
 {
-    return !m_isQuick && m_view.scene().symbolCost() <= kMostSmoothedSymbols;
+    return !m_isQuick && m_view.scene().expectedCost() <= kMostSmoothed;
 }
 
 /// A full smooth picture when the hand rests, else a quick one.
