@@ -514,6 +514,8 @@ private Q_SLOTS:
         painter.fillRect(image.rect(), Qt::white);
         painter.end();
         QCOMPARE(inkIn(image, image.rect()), ink);
+        // Two lines at least of each axis, on as many faces as are behind.
+        QVERIFY(spaceGrid(layout, box, view).size() >= static_cast<std::size_t>(2 * axes));
     }
 
     void badPictures()

@@ -113,7 +113,7 @@ void paintPlaneGrid(QPainter& painter, const FieldLayout& layout, const PlaneWin
 {
     const QRectF& plot = layout.plot;
     QColor color = inkColor();
-    color.setAlphaF(0.25);
+    color.setAlphaF(kGridStrength);
     painter.save();
     painter.setPen(QPen(color, std::max(1.0, layout.font / 16.0)));
     for (const double x : xTicks(layout, window).places) {

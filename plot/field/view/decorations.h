@@ -20,6 +20,9 @@ using AxisDirections = std::array<std::array<double, 3>, 3>;
 /// The colour of axes and texts.
 QColor inkColor();
 
+/// How much ink grid lines have.
+constexpr double kGridStrength = 0.25;
+
 /// Where the plot and what belongs to it lie in a picture, in pixels.
 struct FieldLayout
 {

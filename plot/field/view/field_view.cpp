@@ -32,6 +32,7 @@ FieldView::FieldView(std::shared_ptr<SurfaceCache> cache)
     : m_scene(std::make_unique<FieldScene>(*m_back, *m_front, std::move(cache)))
     , m_parts({m_paper, m_back, m_front},
               [this](vtkProp* prop) { return m_scene->drawingCost(prop); })
+    , m_grid(*m_paper)
 {
     m_paper->SetBackground(1.0, 1.0, 1.0);
     m_paper->SetInteractive(0);
@@ -134,8 +135,17 @@ void FieldView::prepare()
         bounds[5] += m_flat ? 1.0 : 0.0;
         m_back->ResetCameraClippingRange(bounds);
     }
+    showGrid(box);
     m_scene->prepare(viewScale());
     m_back->SetMaximumNumberOfPeels(peelCount(m_scene->translucentCost()));
+}
+
+/// The grid of a flat plot lies over the drawing, as its cells fill the plane.
+void FieldView::showGrid(const vtkBoundingBox& box)
+{
+    const bool hasGrid = m_axes.hasGrid && !m_flat && box.IsValid();
+    m_grid.show(hasGrid ? spaceGrid(m_layout, box, spaceView()) : std::vector<QLineF>(), m_size,
+                m_magnification * std::max(1.0, m_layout.font / 16.0));
 }
 
 void FieldView::placeCamera()

@@ -6,6 +6,7 @@
 #include "plot/field/view/decorations.h"
 #include "plot/field/view/drawing_parts.h"
 #include "plot/field/view/space_axes.h"
+#include "plot/field/view/space_grid.h"
 
 #include <QCoreApplication>
 #include <QSize>
@@ -104,6 +105,7 @@ private:
     void updateFitBox(const vtkBoundingBox& box);
     void layOutPlot(double yTexts);
     SpaceView spaceView() const;
+    void showGrid(const vtkBoundingBox& box);
     PlaneWindow planeWindow() const;
     PickRay rayAt(const QPointF& point);
     void placeCamera();
@@ -116,6 +118,7 @@ private:
     vtkNew<vtkLight> m_light; ///< goes with the camera
     std::unique_ptr<FieldScene> m_scene;
     DrawingParts m_parts;
+    SpaceGrid m_grid;
     vtkRenderWindow* m_window = nullptr; // not owned
     bool m_isCut = false;
     bool m_flat = false;

@@ -7,6 +7,8 @@
 #include <QLineF>
 #include <QPainter>
 
+#include <vtkBox.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -107,6 +109,13 @@ static double paintBeside(QPainter& painter, const QPointF& place, const QPointF
     return gap + 2.0 * reach;
 }
 
+static AxisTicks ticksAlong(const AxisEdge& edge, std::size_t axis, double font)
+{
+    const bool isUpright = std::abs(edge.line.dy()) > std::abs(edge.line.dx());
+    return axisTicks(edge.from[axis], edge.to[axis], edge.line.length(), font,
+                     isUpright ? TickTexts::Stacked : TickTexts::SideBySide);
+}
+
 static void paintAxis(QPainter& painter, const FieldLayout& layout, const SpaceView& view,
                       const AxisEdge& edge, std::size_t axis, const QPointF& inside,
                       const QString& title)
@@ -116,10 +125,7 @@ static void paintAxis(QPainter& painter, const FieldLayout& layout, const SpaceV
     painter.drawLine(edge.line);
     painter.setFont(plotFont(font));
     double reach = 0.5 * font;
-    const AxisTicks ticks =
-        axisTicks(edge.from[axis], edge.to[axis], edge.line.length(), font,
-                  std::abs(edge.line.dy()) > std::abs(edge.line.dx()) ? TickTexts::Stacked
-                                                                      : TickTexts::SideBySide);
+    const AxisTicks ticks = ticksAlong(edge, axis, font);
     for (std::size_t i = 0; i < ticks.places.size() && edge.line.length() > 4.0 * font; ++i) {
         Point place = edge.from;
         place[axis] = ticks.places[i];
@@ -135,12 +141,74 @@ static void paintAxis(QPainter& painter, const FieldLayout& layout, const SpaceV
         paintBeside(painter, edge.line.center(), away, reach + 0.1 * font, title);
 }
 
-void paintSpaceAxes(QPainter& painter, const FieldLayout& layout, const vtkBoundingBox& shown,
-                    const SpaceView& view, const std::array<QString, 3>& titles)
+/// Of the axes, a little outside.
+static vtkBoundingBox axesBox(const vtkBoundingBox& shown)
 {
     constexpr double kDistance = 0.02;
     vtkBoundingBox box = shown;
     box.Inflate(kDistance * shown.GetMaxLength());
+    return box;
+}
+
+/// What of a line between two points is seen within the plot.
+static std::optional<QLineF> seenLine(const Point& from, const Point& to, const SpaceView& view,
+                                      const QRectF& plot)
+{
+    const auto start = view.project(from, plot);
+    const auto end = view.project(to, plot);
+    if (!start || !end)
+        return std::nullopt;
+    const double first[] = {start->x(), start->y(), 0.0};
+    const double last[] = {end->x(), end->y(), 0.0};
+    double area[] = {plot.left(), plot.right(), plot.top(), plot.bottom(), -1.0, 1.0};
+    double shares[2];
+    double ends[2][3];
+    int planes[2];
+    if (!vtkBox::IntersectWithLine(area, first, last, shares[0], shares[1], ends[0], ends[1],
+                                   planes[0], planes[1]))
+        return std::nullopt;
+    return QLineF(ends[0][0], ends[0][1], ends[1][0], ends[1][1]);
+}
+
+/// The line at a place along an axis, across the face at the far end of another one.
+static std::optional<QLineF> gridLine(const vtkBoundingBox& box, const SpaceView& view,
+                                      const QRectF& plot, std::size_t axis, double place,
+                                      std::size_t across)
+{
+    const bool isUpperSeen = isFaceSeen(box, view.eye, across, true);
+    if (!isUpperSeen && !isFaceSeen(box, view.eye, across, false))
+        return std::nullopt; // from between both
+    const std::size_t along = 3 - axis - across;
+    Point from {};
+    from[axis] = place;
+    from[across] = (isUpperSeen ? box.GetMinPoint() : box.GetMaxPoint())[across];
+    from[along] = box.GetMinPoint()[along];
+    Point to = from;
+    to[along] = box.GetMaxPoint()[along];
+    return seenLine(from, to, view, plot);
+}
+
+std::vector<QLineF> spaceGrid(const FieldLayout& layout, const vtkBoundingBox& shown,
+                              const SpaceView& view)
+{
+    const vtkBoundingBox box = axesBox(shown);
+    std::vector<QLineF> lines;
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        const auto edges = outerEdges(box, view, layout.plot, axis);
+        if (edges.empty() || !(shown.GetLength(static_cast<int>(axis)) > 0.0))
+            continue;
+        for (const double place : ticksAlong(bestEdge(edges), axis, layout.font).places)
+            for (const std::size_t across : {(axis + 1) % 3, (axis + 2) % 3})
+                if (const auto line = gridLine(box, view, layout.plot, axis, place, across))
+                    lines.push_back(*line);
+    }
+    return lines;
+}
+
+void paintSpaceAxes(QPainter& painter, const FieldLayout& layout, const vtkBoundingBox& shown,
+                    const SpaceView& view, const std::array<QString, 3>& titles)
+{
+    const vtkBoundingBox box = axesBox(shown);
     Point middle;
     box.GetCenter(middle.data());
     const std::optional<QPointF> inside = view.project(middle, layout.plot);

@@ -3,9 +3,12 @@
 
 #include "plot/field/view/decorations.h"
 
+#include <QLineF>
+
 #include <vtkBoundingBox.h>
 
 #include <optional>
+#include <vector>
 
 namespace corvala::plot {
 
@@ -22,6 +25,11 @@ struct SpaceView
 
 /// Room that axes of this size of text take round what they measure, in pixels.
 QSizeF spaceAxesMargin(double font);
+
+/// Lines at the ticks of the axes, across those faces of their box that are not seen: they lie
+/// behind what is shown. Within the plot.
+std::vector<QLineF> spaceGrid(const FieldLayout& layout, const vtkBoundingBox& shown,
+                              const SpaceView& view);
 
 /// Axes with ticks, numbers and titles a little outside the box of what is shown, along edges that
 /// cover nothing of it: where a face that is seen meets one that is not. There are none for a
