@@ -225,6 +225,8 @@ private Q_SLOTS:
         QCOMPARE(zoneNames(*one),
                  (QStringList {"wing/left/Block 1", "wing/left/tip", "Block 2", "wing/left/tip"}));
         QCOMPARE(QString::fromStdString(one->notes.at(0)), QString("1 empty block was left out."));
+        QCOMPARE(QString::fromStdString(dataOf({path, path})->notes.at(0)),
+                 QString("2 empty blocks were left out."));
 
         const auto two = dataOf({path, m_folder->path("p.vtp")});
         QCOMPARE(zoneNames(*two).mid(3), (QStringList {"tree/wing/left/tip", "p"}));
@@ -254,12 +256,18 @@ private Q_SLOTS:
         row("a tree as part",
             "<DataSet timestep='1' file='t.vtm'/><DataSet timestep='2' file='p.vtp'/>",
             "all/a@1s1 all@2s2");
+        row("a part that is always empty",
+            "<DataSet timestep='1' part='0' file='e.vtm'/>"
+            "<DataSet timestep='1' part='1' file='p.vtp'/>"
+            "<DataSet timestep='2' part='1' file='p.vtp'/>",
+            "Piece 2@1s1 Piece 2@2s1");
     }
 
     void collectionsByTimeGroupAndPart()
     {
         const auto [entries, wanted] = currentRow<QByteArray, QString>();
         m_folder->write("p.vtp", polyData());
+        m_folder->write("e.vtm", xml("vtkMultiBlockDataSet", "><DataSet index='0' name='a'/>"));
         m_folder->write("t.vtm",
                         "<VTKFile type=\"vtkMultiBlockDataSet\" version=\"1.0\">"
                         "<vtkMultiBlockDataSet><DataSet index=\"0\" name=\"a\" file=\"p.vtp\"/>"

@@ -375,6 +375,7 @@ private Q_SLOTS:
         const LineInk& ink = canvas.scene().chart().ink();
         QCOMPARE(ink.missingCount(), std::int64_t(1));
         QVERIFY(!canvas.scene().notice().isEmpty());
+        QTRY_COMPARE(canvas.findChild<QLabel*>()->text(), canvas.scene().notice());
         view.resumeWork();
         QTRY_VERIFY_WITH_TIMEOUT(!view.isBusy(), 60000);
         QCOMPARE(ended.takeFirst()[0].toBool(), false);
