@@ -58,8 +58,10 @@ double legendWidth(const FieldLegend& legend, double font)
     double widest = 0.0;
     for (const LegendText& text : legendTexts(legend.levels, 1.0))
         widest = std::max(widest, numbers.horizontalAdvance(text.text));
-    return std::clamp(std::max(title, widest + (kBarWidth + 1.1) * font), kNarrowest * font,
-                      kWidest * font);
+    const double needed = std::max(title, widest + (kBarWidth + 1.1) * font);
+    const double least =
+        legend.place ? 0.0 : kNarrowest; // over the plot it hides no more than that
+    return std::clamp(needed, least * font, kWidest * font);
 }
 
 static int bandsOf(const FieldLegend& legend)
