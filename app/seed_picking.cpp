@@ -3,6 +3,7 @@
 
 #include "app/details/details_dock.h"
 #include "host/document/document.h"
+#include "plot/field/scene/volume_looks.h"
 #include "plot/frame_view.h"
 
 #include <QShortcut>
@@ -22,8 +23,9 @@ static void addSeed(double x, double y, double z)
     const auto& points = std::get<std::string>(frame->values().get(schema.at(streams.points)));
     QStringList numbers =
         QString::fromStdString(points).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    auto place = static_cast<int>(plot::pointsIn(points).size()); // before what is no point
     for (const double number : {x, y, z})
-        numbers << QString::number(number, 'g', 7);
+        numbers.insert(place++, QString::number(number, 'g', 7));
     host::UndoHistory& undo = Document::instance().undo();
     undo.begin(UndoKind_StyleGroup);
     Document::instance().execute(host::SetStyle {host::pathOf(streams.points),

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace corvala::app {
 
@@ -104,6 +105,13 @@ void DetailsDock::refresh()
     const host::Frame* const frame = host::Document::instance().activeFrame();
     const bool hasPlot = frame && frame->isFieldPlot() && frame->hasData();
     widget()->setEnabled(hasPlot);
+    const Subject subject = hasPlot
+        ? Subject {host::Document::instance().activeFrameId(), &*frame->data(), frame->plotType()}
+        : Subject();
+    const Subject before = std::exchange(m_subject, subject);
+    if (before.frame != subject.frame || before.data != subject.data
+        || before.plotType != subject.plotType)
+        endPicking();
     if (isVisible() && hasPlot)
         m_pages[static_cast<std::size_t>(m_stack->currentIndex())]->refresh(*frame);
 }

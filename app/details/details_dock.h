@@ -40,9 +40,18 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    /// What places are picked in; another one ends that.
+    struct Subject
+    {
+        CvlUniqueId frame = 0;
+        const host::DataSet* data = nullptr; ///< compared only; null without a plot
+        PlotType_e plotType {};
+    };
+
     QComboBox* m_choice; // not owned
     QStackedWidget* m_stack; // not owned
     std::vector<DetailPageWidget*> m_pages; // not owned
+    Subject m_subject;
 };
 
 } // namespace corvala::app

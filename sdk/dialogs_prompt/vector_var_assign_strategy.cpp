@@ -105,9 +105,9 @@ bool VectorVarAssignStrategy::operator()(PlotType_e plotType) const
     const int components = componentCount(plotType);
     if (components == 0 || !CvlUtilDataSetIsAvailable())
         return false;
-    bool isAssigned = true;
+    bool isAssigned = false; // one component makes vectors
     for (int component = 0; component < components; ++component)
-        isAssigned = isAssigned && assignedVariable(component) != 0;
+        isAssigned = isAssigned || assignedVariable(component) != 0;
     if (isAssigned)
         return true;
 

@@ -239,6 +239,18 @@ private Q_SLOTS:
         QCOMPARE(picks.size(), 1);
         Document::instance().undo().undo();
         QCOMPARE(seeds(), 1);
+        // A point goes before what is none, and what is picked does not outlive its data.
+        const auto path = host::pathOf(style::streamtraces.points);
+        Document::instance().execute(host::SetStyle {path, std::string("1 2 3 4 none")});
+        pick->click();
+        click({});
+        const auto written = Document::instance().read(Document::instance().activeFrameId(),
+                                                       style::streamtraces.points);
+        const QString text = QString::fromStdString(std::get<std::string>(*written));
+        QVERIFY2(text.startsWith("1 2 3 ") && text.endsWith(" 4 none"), qPrintable(text));
+        m_window->openDemo(QStringLiteral("field2d"));
+        play::waitUntilIdle();
+        QVERIFY(!pick->isChecked());
     }
 
     void undoIsNamedAndWorksByShortcut()

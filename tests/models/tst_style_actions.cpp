@@ -164,7 +164,8 @@ private Q_SLOTS:
     void asksForVectorVariables()
     {
         QVERIFY(openDemo("field3d", 1));
-        QVERIFY(setStyle("GlobalVector.UVar", "", 0));
+        for (const char* component : {"UVar", "VVar", "WVar"})
+            QVERIFY(setStyle(QByteArray("GlobalVector.").append(component), "", 0));
         StyleAction<char> action("Yes", fieldRows({0}), 1, style::fieldMap.vector.show);
         m_user->accept().reject();
         action.trigger();

@@ -81,6 +81,24 @@ private Q_SLOTS:
         QCOMPARE(texts.join(' '), expected);
     }
 
+    /// Levels that the user chose have the digits that they need.
+    void chosenLegends_data()
+    {
+        const Rows<double, double, int, QString> row;
+        row("quarters", 0.15, 0.025, 4, "0.150 0.175 0.200 0.225 0.250");
+        row("tens", 0.0, 25.0, 3, "0 25 50 75");
+        row("thirds", 0.15, 0.01 / 3, 3, "0.15000 0.15333 0.15667 0.16000");
+    }
+
+    void chosenLegends()
+    {
+        const auto [minimum, step, bands, expected] = currentRow<double, double, int, QString>();
+        QStringList texts;
+        for (const LegendText& text : legendTexts(ContourLevels {minimum, step, bands}, 1.0))
+            texts.append(text.text);
+        QCOMPARE(texts.join(' '), expected);
+    }
+
     void ticks_data()
     {
         const Rows<double, double, QString> row;

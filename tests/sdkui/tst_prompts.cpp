@@ -497,16 +497,22 @@ private Q_SLOTS:
         QVERIFY(strategy(type)); // assigned
         QCOMPARE(responder.takeSeen(), QStringList());
 
-        sdk::ui::writeStyle(style::globalVector.vVar, nullptr, 0);
+        for (const style::Key component :
+             {style::globalVector.wVar, style::globalVector.uVar, style::globalVector.vVar}) {
+            QVERIFY(strategy(type)); // as long as one is left
+            sdk::ui::writeStyle(component, nullptr, 0);
+        }
+        QCOMPARE(responder.takeSeen(), QStringList());
         const int steps = tests::undoSteps();
         responder.answer(ending([components = components](QDialog& shown) {
             const auto boxes = shown.findChildren<ui::ComboBoxAutoFilter*>();
             QCOMPARE(boxes.size(), components);
-            QVERIFY(!okButton(shown)->isEnabled()); // V is not chosen
-            play::enter(*boxes.at(1), "density");
+            for (int component = components - 1; component > 0; --component)
+                play::enter(*boxes.at(component), "density");
+            QVERIFY(!okButton(shown)->isEnabled()); // U is not chosen
+            play::enter(*boxes.at(0), "pressure");
             QVERIFY(okButton(shown)->isEnabled());
             QVERIFY(shown.isVisible()); // Return chose the entry only
-            play::enter(*boxes.at(0), "pressure");
             QTest::mouseClick(okButton(shown), Qt::LeftButton);
         }));
         QVERIFY(strategy(type));
@@ -519,7 +525,9 @@ private Q_SLOTS:
 
     void vectorVariablesCancelled()
     {
-        sdk::ui::writeStyle(style::globalVector.uVar, nullptr, 0);
+        for (const style::Key component :
+             {style::globalVector.uVar, style::globalVector.vVar, style::globalVector.wVar})
+            sdk::ui::writeStyle(component, nullptr, 0);
         const int steps = tests::undoSteps();
         ModalResponder responder;
         responder.answer(ending([](QDialog& shown) { play::pressKey(&shown, Qt::Key_Escape); }));

@@ -25,13 +25,14 @@ public:
 
     const QModelIndexList& selectedIndexes() const { return m_selectedIndexes; }
 
-    /// All maps of the rows have the value already that the action would write. False for an
-    /// action that asks for its value, and without rows.
-    virtual bool isPresentValue() const { return false; }
-
 public Q_SLOTS:
     // Does what the action stands for; called when it is triggered.
     virtual void invokeAction();
+
+public:
+    /// All maps of the rows have the value already that the action would write. False for an
+    /// action that asks for its value, and without rows.
+    virtual bool isPresentValue() const { return false; }
 
 protected:
     /// The same column in every row of the model that is not selected; found out once.

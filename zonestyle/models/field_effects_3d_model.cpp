@@ -48,7 +48,7 @@ static constexpr ColumnDescriptor kColumns[] = {
                  kMap.effects.surfaceTranslucency, kPercentages, kPrompt)
         .shows(percentage)
         .editor(EditorType_ListPopup, 0)
-        .offers(plainNumberMenu)
+        .offers(plainNumberMenu) // Deliberate: without a line before the entry that asks
         .relevantWhileOn(kMap.effects.useTranslucency)
         .relevantWhen(canBeTranslucent),
 };

@@ -37,6 +37,7 @@ static QVariant sizeText(const Cell& cell)
     return cell.value(kScatter.sizeByVariable) ? byVariable(cell.frame) : percentText(cell);
 }
 
+/// Deliberate: a size of the menu ends the size by a variable, an edit of the cell does not.
 static QList<QAction*> scatterSizeMenu(const MenuRequest& request)
 {
     const auto& model = static_cast<const FieldScatterModel&>(request.model);

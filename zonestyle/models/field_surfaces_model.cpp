@@ -22,7 +22,8 @@ static bool hasIndexPlanes(const Cell& cell)
     return CvlUtilFieldMapHasIJKOrderedZonesForFrame(cell.frame, cell.map);
 }
 
-/// The planes of one index; `without` are the choices of surfaces that draw none of them.
+/// The planes of one index; `without` are the choices of surfaces for which they do not apply.
+/// Deliberate: no surfaces at all are not among them, all surfaces are.
 static constexpr ColumnDescriptor planes(const char* header, const style::IndexRange& range,
                                          const StyleTarget& edited,
                                          std::initializer_list<SurfacesToPlot_e> without)

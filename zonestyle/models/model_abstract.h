@@ -42,8 +42,6 @@ public:
     Q_INVOKABLE virtual bool isRelevant(const QModelIndex& index) const;
     // New entries for the menu of a column, for the rows selected now. The caller owns them.
     virtual QList<QAction*> localActions(QItemSelectionModel* selection, int column) const = 0;
-    // Whether localActions gives any, for whatever rows; cheaper than to ask it.
-    virtual bool localHasActions(int column) const;
     // Whether one of the link's own cells applies.
     virtual bool isLocalRelevant(const QModelIndex& index) const = 0;
     // An EditorType_e.
@@ -51,6 +49,8 @@ public:
     // How wide the column's delegate makes it; what the number means is the delegate's business.
     virtual int localEditorOption(int column) const;
 
+    // Whether localActions gives any, for whatever rows; cheaper than to ask it.
+    virtual bool localHasActions(int column) const;
     // What is wrong with a text that an editor of one of the link's own columns is to deliver;
     // empty for one that fits.
     virtual QString localTextProblem(int column, const QString& text) const;

@@ -101,7 +101,7 @@ bool BooleanItemDelegate::handleKey(const QKeyEvent& event, const QModelIndex& i
     return toggles && !selects && toggleSelectedRows(index);
 }
 
-/// The check box of a cell that is greyed works all the same.
+/// Deliberate: the check box of a cell that is greyed works all the same.
 bool BooleanItemDelegate::handlePress(QMouseEvent& event, QAbstractItemModel& model,
                                       const QStyleOptionViewItem& option, const QModelIndex& index)
 {

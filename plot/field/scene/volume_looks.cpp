@@ -133,8 +133,7 @@ std::vector<StreamMap> streamMaps(const host::Frame& frame)
     return maps;
 }
 
-/// The numbers in a text, by threes; nothing from the first word on that is no number.
-static std::vector<double> pointsIn(const std::string& text)
+std::vector<double> pointsIn(const std::string& text)
 {
     std::vector<double> numbers;
     const QString words = QString::fromStdString(text).simplified();

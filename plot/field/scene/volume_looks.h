@@ -23,4 +23,7 @@ struct StreamMap
 /// All of them, ascending.
 std::vector<StreamMap> streamMaps(const host::Frame& frame);
 
+/// The numbers in a text, by threes; nothing from the first word on that is no number.
+std::vector<double> pointsIn(const std::string& text);
+
 } // namespace corvala::plot

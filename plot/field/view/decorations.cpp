@@ -129,6 +129,11 @@ void paintPlaneGrid(QPainter& painter, const FieldLayout& layout, const PlaneWin
     painter.restore();
 }
 
+static QString cutTo(double width, const QString& text, const QPainter& painter)
+{
+    return QFontMetricsF(painter.font()).elidedText(text, Qt::ElideMiddle, width);
+}
+
 void paintPlaneAxes(QPainter& painter, const FieldLayout& layout, const PlaneWindow& window,
                     const QString& xTitle, const QString& yTitle)
 {
@@ -154,11 +159,11 @@ void paintPlaneAxes(QPainter& painter, const FieldLayout& layout, const PlaneWin
     painter.setFont(plotFont(1.1 * font, true));
     painter.drawText(
         QRectF(plot.left(), plot.bottom() + 2.1 * font, plot.width(), kTitleHeight * font),
-        Qt::AlignHCenter | Qt::AlignTop, xTitle);
+        Qt::AlignHCenter | Qt::AlignTop, cutTo(plot.width(), xTitle, painter));
     painter.translate(0.3 * font, plot.center().y());
     painter.rotate(-90.0);
     painter.drawText(QRectF(-plot.height() / 2, 0.0, plot.height(), kTitleHeight * font),
-                     Qt::AlignHCenter | Qt::AlignTop, yTitle);
+                     Qt::AlignHCenter | Qt::AlignTop, cutTo(plot.height(), yTitle, painter));
     painter.restore();
 }
 
@@ -180,7 +185,7 @@ void paintOrientation(QPainter& painter, const FieldLayout& layout,
         painter.drawLine(origin, origin + direction * length);
         QRectF box(0.0, 0.0, 8.0 * layout.font, 1.6 * layout.font);
         box.moveCenter(origin + direction * (length + 0.9 * layout.font));
-        painter.drawText(box, Qt::AlignCenter, titles[axis]);
+        painter.drawText(box, Qt::AlignCenter, cutTo(box.width(), titles[axis], painter));
     }
     painter.restore();
 }

@@ -25,6 +25,28 @@ static constexpr double kSingleBand = 3.0;
 static constexpr double kTitleHeight = 1.6;
 static constexpr double kBarTop = 2.0;
 
+/// That of the last digit with which all levels are told apart, and told exactly where two digits
+/// more than those of their distance do.
+static double lastUnit(const ContourLevels& levels)
+{
+    constexpr int kMoreDigits = 2;
+    constexpr double kExact = 1e-3; // of the distance
+    const auto isTold = [&](int level, double unit) {
+        const double units = (levels.minimum + levels.step * level) / unit;
+        return std::abs(units - std::round(units)) * unit < kExact * levels.step;
+    };
+    const int coarsest = static_cast<int>(std::floor(std::log10(levels.step) + 1e-9));
+    for (int power = coarsest; power > coarsest - kMoreDigits; --power) {
+        const double unit = std::pow(10.0, power);
+        int level = 0;
+        while (level <= levels.bands && isTold(level, unit))
+            ++level;
+        if (level > levels.bands)
+            return unit;
+    }
+    return std::pow(10.0, coarsest - kMoreDigits);
+}
+
 std::vector<LegendText> legendTexts(const std::optional<ContourLevels>& levels, double gap)
 {
     if (!levels)
@@ -32,9 +54,10 @@ std::vector<LegendText> legendTexts(const std::optional<ContourLevels>& levels, 
     if (levels->isSingleValue())
         return {{0.5, QString::number(levels->minimum + levels->step / 2, 'g', 7)}};
     const int bands = levels->bands;
+    const double unit = lastUnit(*levels);
     const auto textAt = [&](int level) {
         return LegendText {static_cast<double>(level),
-                           tickText(levels->minimum + levels->step * level, levels->step)};
+                           tickText(levels->minimum + levels->step * level, unit)};
     };
     static constexpr int kStrides[] = {1, 2, 5, 10};
     const auto* const found = std::find_if(std::begin(kStrides), std::end(kStrides),

@@ -96,24 +96,53 @@ static QPointF outward(const QLineF& line, const QPointF& inside)
     return QPointF::dotProduct(across, line.center() - inside) < 0.0 ? -across : across;
 }
 
-/// Writes a text beside a place, so that it keeps clear by `gap`. Returns how far it reaches.
-static double paintBeside(QPainter& painter, const QPointF& place, const QPointF& direction,
-                          double gap, const QString& text)
+/// Writes a text beside a place, so that it keeps clear by `gap`, but wholly within an area.
+/// Returns how far it reaches.
+static double paintBeside(QPainter& painter, const QRectF& area, const QPointF& place,
+                          const QPointF& direction, double gap, const QString& text)
 {
     const QFontMetricsF metrics(painter.font());
     QRectF box(0.0, 0.0, metrics.horizontalAdvance(text) + 2.0, metrics.height());
     const double reach =
         (std::abs(direction.x()) * box.width() + std::abs(direction.y()) * box.height()) / 2;
     box.moveCenter(place + direction * (gap + reach));
+    box.moveRight(std::min(box.right(), area.right()));
+    box.moveLeft(std::max(box.left(), area.left()));
+    box.moveBottom(std::min(box.bottom(), area.bottom()));
+    box.moveTop(std::max(box.top(), area.top()));
     painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip, text);
     return gap + 2.0 * reach;
 }
 
+static bool isUpright(const AxisEdge& edge)
+{
+    return std::abs(edge.line.dy()) > std::abs(edge.line.dx());
+}
+
+/// Long titles of upright axes run upwards.
+static void paintTitle(QPainter& painter, const FieldLayout& layout, const AxisEdge& edge,
+                       const QPointF& away, double gap, const QString& title)
+{
+    const QFontMetricsF metrics(painter.font());
+    const QPointF middle = edge.line.center();
+    if (!isUpright(edge) || metrics.horizontalAdvance(title) < 3.0 * layout.font) {
+        paintBeside(painter, layout.plot, middle, away, gap, title);
+        return;
+    }
+    const QString shown = metrics.elidedText(title, Qt::ElideMiddle, layout.plot.height());
+    QRectF box(0.0, 0.0, metrics.horizontalAdvance(shown) + 2.0, metrics.height());
+    box.moveCenter({0.0, 0.0});
+    painter.save();
+    painter.translate(middle + away * (gap + metrics.height() / 2));
+    painter.rotate(-90.0);
+    painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip, shown);
+    painter.restore();
+}
+
 static AxisTicks ticksAlong(const AxisEdge& edge, std::size_t axis, double font)
 {
-    const bool isUpright = std::abs(edge.line.dy()) > std::abs(edge.line.dx());
     return axisTicks(edge.from[axis], edge.to[axis], edge.line.length(), font,
-                     isUpright ? TickTexts::Stacked : TickTexts::SideBySide);
+                     isUpright(edge) ? TickTexts::Stacked : TickTexts::SideBySide);
 }
 
 static void paintAxis(QPainter& painter, const FieldLayout& layout, const SpaceView& view,
@@ -133,12 +162,13 @@ static void paintAxis(QPainter& painter, const FieldLayout& layout, const SpaceV
         if (!at || !layout.plot.contains(*at))
             continue;
         painter.drawLine(*at, *at + away * 0.4 * font);
-        reach = std::max(
-            reach, paintBeside(painter, *at, away, 0.5 * font, ticks.texts[static_cast<int>(i)]));
+        reach = std::max(reach,
+                         paintBeside(painter, layout.plot, *at, away, 0.5 * font,
+                                     ticks.texts[static_cast<int>(i)]));
     }
     painter.setFont(plotFont(1.1 * font, true));
     if (layout.plot.contains(edge.line.center()))
-        paintBeside(painter, edge.line.center(), away, reach + 0.1 * font, title);
+        paintTitle(painter, layout, edge, away, reach + 0.1 * font, title);
 }
 
 /// Of the axes, a little outside.
