@@ -56,6 +56,13 @@ static constexpr DetailRow kEdge[] = {
 static constexpr DetailRow kLight[] = {
     {style::lightSource.azimuth, DETAIL_TEXT("From the right [\302\260]")},
     {style::lightSource.elevation, DETAIL_TEXT("From above [\302\260]")},
+    {style::fieldLayers.useTranslucency, DETAIL_TEXT("Translucent surfaces")},
+};
+
+static constexpr DetailRow kRgb[] = {
+    {style::globalRgb.redVar, DETAIL_TEXT("Red variable")},
+    {style::globalRgb.greenVar, DETAIL_TEXT("Green variable")},
+    {style::globalRgb.blueVar, DETAIL_TEXT("Blue variable")},
 };
 
 static constexpr const auto& kConstraint = style::blanking.value.constraint;
@@ -128,6 +135,7 @@ const std::vector<DetailPage>& detailPages()
     static const std::vector<DetailPage> kPages = {
         {"contour", DETAIL_TEXT("Contour"), style::fieldLayers.showContour, DETAIL_TEXT("Group"),
          kContour},
+        {"rgb", DETAIL_TEXT("RGB"), kNoLayer, nullptr, kRgb},
         {"vector", DETAIL_TEXT("Vector"), style::fieldLayers.showVector, nullptr, kVector},
         {"scatter", DETAIL_TEXT("Scatter"), style::fieldLayers.showScatter, nullptr, kScatter},
         {"edge", DETAIL_TEXT("Edge"), style::fieldLayers.showEdge, nullptr, kEdge},

@@ -524,7 +524,14 @@ private Q_SLOTS:
             "Streamtraces/AutomaticRake=0 Streamtraces/StartX=90 Streamtraces/EndX=99 "
             "Streamtraces/Show=1",
             "No streamtrace is drawn");
-        row("no flow", "GlobalVector/UVar=0 Streamtraces/Show=1", "");
+        row("no flow", "GlobalVector/UVar=0 Streamtraces/Show=1",
+            "No streamtrace is drawn: no vector variables");
+        const QString levels = QString("FieldLayers/ShowContour=1 ContourGroups/Var[1]=%1 "
+                                       "ContourGroups/AutomaticLevels[1]=0 "
+                                       "ContourGroups/LevelMin[1]=")
+                                   .arg(X);
+        row("levels upside down", levels + "5", "Contour group 1 has levels by the data");
+        row("levels", levels + "0", "");
         const QString vectors = "FieldLayers/ShowVector=1 GlobalVector/UVar=%1 "
                                 "FieldMap/Vector/Show=1 ActiveFieldMaps=3-4";
         row("no length", vectors.arg(Z), "No arrow is drawn: the vectors (Z) are zero");

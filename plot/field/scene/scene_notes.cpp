@@ -25,6 +25,8 @@ public:
 
 private:
     std::optional<SceneNote> blanking() const;
+    std::optional<SceneNote> levels() const;
+    std::optional<SceneNote> volumes() const;
     std::optional<SceneNote> slices() const;
     std::optional<SceneNote> slice(int number) const;
     std::optional<SceneNote> isoSurfaces() const;
@@ -96,6 +98,47 @@ std::optional<SceneNote> Notes::blanking() const
                       value.include,
                       tr("Switch Off Value Blanking"),
                       {switched(value.include, false)}};
+}
+
+std::optional<SceneNote> Notes::levels() const
+{
+    constexpr const auto& groups = style::contourGroups;
+    for (int group = 1; group <= style::ContourGroups::kCount; ++group) {
+        const double lowest = real(groups.levelMin, group);
+        const double highest = real(groups.levelMax, group);
+        if (number(groups.automaticLevels, group) != 0 || lowest < highest
+            || !m_facts.groups.hasRange(group))
+            continue;
+        return SceneNote {
+            tr("Contour group %1 has levels by the data: its lowest level, %2, is not "
+               "below its highest, %3.")
+                .arg(group)
+                .arg(lowest)
+                .arg(highest),
+            groups.levelMin,
+            tr("Keep Levels by the Data"),
+            {switched(groups.automaticLevels, true, group)}};
+    }
+    return std::nullopt;
+}
+
+/// What is switched on and has nothing to be drawn of.
+std::optional<SceneNote> Notes::volumes() const
+{
+    constexpr const auto& vector = style::globalVector;
+    const bool hasStreams = number(style::streamtraces.show) != 0;
+    bool hasAny = hasStreams || number(style::isoSurfaces.show) != 0;
+    for (int slice = 1; slice <= style::Slices::kCount; ++slice)
+        hasAny = hasAny || number(style::slices.show, slice) != 0;
+    if (hasAny && m_facts.frame.plotType() != PlotType_Field3D)
+        return SceneNote {tr("Slices, iso-surfaces and streamtraces are drawn in 3D plots only."),
+                          style::streamtraces.show};
+    const bool hasVectors =
+        number(vector.uVar) != 0 || number(vector.vVar) != 0 || number(vector.wVar) != 0;
+    if (hasStreams && !hasVectors)
+        return SceneNote {tr("No streamtrace is drawn: no vector variables are chosen."),
+                          vector.uVar};
+    return std::nullopt;
 }
 
 std::optional<SceneNote> Notes::slice(int slice) const
@@ -216,8 +259,9 @@ std::optional<SceneNote> Notes::scatter() const
 std::optional<SceneNote> Notes::first() const
 {
     using Note = std::optional<SceneNote> (Notes::*)() const;
-    for (const Note note : {&Notes::blanking, &Notes::slices, &Notes::isoSurfaces,
-                            &Notes::streamtraces, &Notes::vectors, &Notes::scatter})
+    for (const Note note :
+         {&Notes::blanking, &Notes::levels, &Notes::volumes, &Notes::slices, &Notes::isoSurfaces,
+          &Notes::streamtraces, &Notes::vectors, &Notes::scatter})
         if (auto found = (this->*note)())
             return found;
     return std::nullopt;
