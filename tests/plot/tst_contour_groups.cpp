@@ -10,6 +10,8 @@
 
 #include <QtTest>
 
+#include <vtkPolyData.h>
+
 #include <cmath>
 #include <limits>
 
@@ -150,9 +152,16 @@ private Q_SLOTS:
         vtkNew<vtkDoubleArray> values;
         values->InsertNextValue(0.5);
         values->InsertNextValue(std::numeric_limits<double>::quiet_NaN());
-        const auto places = floodCoordinates(*values, 1, groups);
+        values->InsertNextValue(0.7);
+        vtkNew<vtkPolyData> triangle;
+        triangle->AllocateEstimate(1, 3);
+        const vtkIdType corners[] = {0, 1, 2};
+        triangle->InsertNextCell(VTK_TRIANGLE, 3, corners);
+        const auto places = floodCoordinates(*values, 1, groups, *triangle);
         QVERIFY(places->GetComponent(0, 1) < 0.5 && places->GetComponent(1, 1) > 0.5);
-        QVERIFY(std::isfinite(places->GetComponent(1, 0)));
+        // Between its neighbours, so that no other band is met on the way.
+        const double mean = (places->GetComponent(0, 0) + places->GetComponent(2, 0)) / 2.0;
+        QVERIFY(std::abs(places->GetComponent(1, 0) - mean) < 1e-6);
         const auto colors = groupColors(*values, 1, groups);
         QCOMPARE(static_cast<int>(colors->GetComponent(1, 0)), int(noValueColor().red));
         QVERIFY(!groups.setRange(1, 1.0, 0.0)); // no values at all

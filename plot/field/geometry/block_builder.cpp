@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace corvala::plot {
 
@@ -153,7 +154,8 @@ vtkSmartPointer<vtkDataArray> BlockBuilder::floodArray(const BlockRecipe& recipe
     if (recipe.colorGroup > 0)
         return colors(recipe, placed);
     const auto floodValues = values(recipe.group, recipe, placed);
-    return floodValues ? floodCoordinates(*floodValues, recipe.group, m_groups) : nullptr;
+    return floodValues ? floodCoordinates(*floodValues, recipe.group, m_groups, *placed.shape)
+                       : nullptr;
 }
 
 static void setFloodArray(const BlockRecipe& recipe, vtkPolyData& shape, vtkDataArray* array)
@@ -219,6 +221,9 @@ Shape BlockBuilder::contourLines(const BlockRecipe& recipe, const PlacedSurface&
     if (!scalars)
         return nullptr;
     scalars->SetName("value");
+    for (vtkIdType i = 0; i < scalars->GetNumberOfTuples(); ++i) // lines end at NaN alone
+        if (!std::isfinite(scalars->GetValue(i)))
+            scalars->SetValue(i, std::numeric_limits<double>::quiet_NaN());
     Shape shape = facesOf(placed.shape, false);
     const auto lineColors = recipe.colorGroup > 0 ? lineColorsOf(recipe, placed) : nullptr;
     shape->GetPointData()->SetScalars(scalars);

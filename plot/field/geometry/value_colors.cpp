@@ -3,11 +3,16 @@
 
 #include "plot/field/geometry/color_map.h"
 
+#include <vtkCellArray.h>
+#include <vtkCellArrayIterator.h>
 #include <vtkFloatArray.h>
+#include <vtkPolyData.h>
 #include <vtkUnsignedCharArray.h>
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <utility>
 
 namespace corvala::plot {
 
@@ -15,19 +20,53 @@ namespace corvala::plot {
 static constexpr double kBandRow = 0.25;
 static constexpr double kNoValueRow = 0.75;
 
+/// Gives points without a value the mean place of those that they share a face with.
+static void placeAmongNeighbours(vtkFloatArray& places, vtkPolyData& surface)
+{
+    const auto isValue = [&](vtkIdType point) {
+        return places.GetTypedComponent(point, 1) < (kBandRow + kNoValueRow) / 2;
+    };
+    std::map<vtkIdType, std::pair<double, int>> sums;
+    const auto faces = vtk::TakeSmartPointer(surface.GetPolys()->NewIterator());
+    for (faces->GoToFirstCell(); !faces->IsDoneWithTraversal(); faces->GoToNextCell()) {
+        vtkIdType count = 0;
+        const vtkIdType* points = nullptr;
+        faces->GetCurrentCell(count, points);
+        const auto known = std::count_if(points, points + count, isValue);
+        if (known == 0 || known == count)
+            continue;
+        double sum = 0.0;
+        for (vtkIdType i = 0; i < count; ++i)
+            sum += isValue(points[i]) ? places.GetTypedComponent(points[i], 0) : 0.0;
+        for (vtkIdType i = 0; i < count; ++i) {
+            if (isValue(points[i]))
+                continue;
+            auto& [all, number] = sums[points[i]];
+            all += sum;
+            number += static_cast<int>(known);
+        }
+    }
+    for (const auto& [point, sum] : sums)
+        places.SetTypedComponent(point, 0, static_cast<float>(sum.first / sum.second));
+}
+
 vtkSmartPointer<vtkDataArray> floodCoordinates(vtkDoubleArray& values, int group,
-                                               const ContourGroups& groups)
+                                               const ContourGroups& groups, vtkPolyData& surface)
 {
     auto result = vtkSmartPointer<vtkFloatArray>::New();
     result->SetName("value");
     result->SetNumberOfComponents(2);
     result->SetNumberOfTuples(values.GetNumberOfTuples());
+    bool hasAll = true;
     for (vtkIdType i = 0; i < values.GetNumberOfTuples(); ++i) {
         const double value = values.GetValue(i);
         const bool isValue = std::isfinite(value);
+        hasAll = hasAll && isValue;
         result->SetTuple2(i, isValue ? groups.coordinate(group, value) : 0.0,
                           isValue ? kBandRow : kNoValueRow);
     }
+    if (!hasAll)
+        placeAmongNeighbours(*result, surface);
     return result;
 }
 

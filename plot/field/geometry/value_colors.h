@@ -9,12 +9,15 @@
 #include <array>
 
 class vtkDataArray;
+class vtkPolyData;
 
 namespace corvala::plot {
 
-/// Places of values in the flood texture of a group (see bandImage).
+/// Places of the values at the points of a surface in the flood texture of a group (see bandImage).
+/// A point without a value has the place of its neighbours' mean in the row of no value, so that no
+/// other band is met on the way there.
 vtkSmartPointer<vtkDataArray> floodCoordinates(vtkDoubleArray& values, int group,
-                                               const ContourGroups& groups);
+                                               const ContourGroups& groups, vtkPolyData& surface);
 
 /// Colours of values by the levels of a group; three bytes each.
 vtkSmartPointer<vtkDataArray> groupColors(vtkDoubleArray& values, int group,
