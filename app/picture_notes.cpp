@@ -24,13 +24,12 @@ void PictureNotes::tell(const std::optional<plot::SceneNote>& note)
             m_bar.tell({});
         return;
     }
-    if (note->mending.empty())
+    if (!note->mending)
         m_note = m_bar.tell(text, tr("Plot Details..."),
                             [this, value = note->about] { Q_EMIT detailsWanted(value); });
     else
-        m_note = m_bar.tell(text, note->caption, [values = note->mending] {
-            for (const host::SetStyle& value : values)
-                host::Document::instance().execute(value);
+        m_note = m_bar.tell(text, note->caption, [value = *note->mending] {
+            host::Document::instance().execute(value);
         });
 }
 

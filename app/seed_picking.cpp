@@ -22,7 +22,7 @@ static void addSeed(double x, double y, double z)
     const host::Schema& schema = host::Schema::instance();
     const auto& points = std::get<std::string>(frame->values().get(schema.at(streams.points)));
     QStringList numbers =
-        QString::fromStdString(points).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        QString::fromStdString(points).simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
     auto place = static_cast<int>(plot::pointsIn(points).size()); // before what is no point
     for (const double number : {x, y, z})
         numbers.insert(place++, QString::number(number, 'g', 7));

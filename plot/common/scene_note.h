@@ -6,7 +6,7 @@
 
 #include <QString>
 
-#include <vector>
+#include <optional>
 
 namespace corvala::plot {
 
@@ -16,7 +16,7 @@ struct SceneNote
     QString text; ///< one sentence that names the thing and the place
     style::Key about; ///< a value of the style that it comes from
     QString caption = {}; ///< of what mends it; empty without
-    std::vector<host::SetStyle> mending = {};
+    std::optional<host::SetStyle> mending = {};
 };
 
 } // namespace corvala::plot

@@ -10,6 +10,7 @@
 
 #include <QtTest>
 
+#include <vtkFloatArray.h>
 #include <vtkPolyData.h>
 
 #include <cmath>
@@ -157,7 +158,8 @@ private Q_SLOTS:
         triangle->AllocateEstimate(1, 3);
         const vtkIdType corners[] = {0, 1, 2};
         triangle->InsertNextCell(VTK_TRIANGLE, 3, corners);
-        const auto places = floodCoordinates(*values, 1, groups, *triangle);
+        const auto places = floodCoordinates(*values, 1, groups);
+        placeAmongNeighbours(*places, *triangle);
         QVERIFY(places->GetComponent(0, 1) < 0.5 && places->GetComponent(1, 1) > 0.5);
         // Between its neighbours, so that no other band is met on the way.
         const double mean = (places->GetComponent(0, 0) + places->GetComponent(2, 0)) / 2.0;

@@ -119,9 +119,9 @@ private Q_SLOTS:
         const ShapePieces pieces = inPieces(shape, kLargest);
         QCOMPARE(pieces.size(), std::size_t {3});
         for (const auto& piece : pieces)
-            QVERIFY(cornerCount(*piece) <= kLargest);
+            QVERIFY(shapeCost(*piece) <= kLargest);
         QVERIFY(cornersOf(pieces) == cornersOf({&shape}));
-        QCOMPARE(inPieces(shape, cornerCount(shape)).front().Get(), &shape);
+        QCOMPARE(inPieces(shape, shapeCost(shape)).front().Get(), &shape);
     }
 
     void volumeSurfaces_data()

@@ -154,8 +154,12 @@ vtkSmartPointer<vtkDataArray> BlockBuilder::floodArray(const BlockRecipe& recipe
     if (recipe.colorGroup > 0)
         return colors(recipe, placed);
     const auto floodValues = values(recipe.group, recipe, placed);
-    return floodValues ? floodCoordinates(*floodValues, recipe.group, m_groups, *placed.shape)
-                       : nullptr;
+    if (!floodValues)
+        return nullptr;
+    const auto places = floodCoordinates(*floodValues, recipe.group, m_groups);
+    if (recipe.kind != BlockKind::CellFlood)
+        placeAmongNeighbours(*places, *placed.shape);
+    return places;
 }
 
 static void setFloodArray(const BlockRecipe& recipe, vtkPolyData& shape, vtkDataArray* array)

@@ -111,7 +111,7 @@ void PieceCutter::finish()
     begin();
 }
 
-vtkIdType cornerCount(vtkPolyData& shape)
+vtkIdType shapeCost(vtkPolyData& shape)
 {
     return kCosts[Verts] * shape.GetVerts()->GetNumberOfConnectivityIds()
         + kCosts[Lines] * shape.GetLines()->GetNumberOfConnectivityIds()
@@ -120,7 +120,7 @@ vtkIdType cornerCount(vtkPolyData& shape)
 
 ShapePieces inPieces(vtkPolyData& shape, vtkIdType largest)
 {
-    return cornerCount(shape) <= largest ? ShapePieces {&shape} : PieceCutter(shape, largest).cut();
+    return shapeCost(shape) <= largest ? ShapePieces {&shape} : PieceCutter(shape, largest).cut();
 }
 
 } // namespace corvala::plot

@@ -19,7 +19,7 @@ constexpr vtkIdType kLargestPiece = 300'000;
 constexpr vtkIdType kPointsPerSymbol = 4; ///< what a symbol costs, in points
 
 /// What drawing the shape costs: corners of faces; one of a line counts as two, a point as four.
-vtkIdType cornerCount(vtkPolyData& shape);
+vtkIdType shapeCost(vtkPolyData& shape);
 
 /// The cells of the shape in their order, with the values of their points. A shape that is no
 /// larger than a piece is the piece. Values of cells are dropped from larger ones.

@@ -20,20 +20,40 @@ namespace corvala::plot {
 static constexpr double kBandRow = 0.25;
 static constexpr double kNoValueRow = 0.75;
 
-/// Gives points without a value the mean place of those that they share a face with.
-static void placeAmongNeighbours(vtkFloatArray& places, vtkPolyData& surface)
+vtkSmartPointer<vtkFloatArray> floodCoordinates(vtkDoubleArray& values, int group,
+                                                const ContourGroups& groups)
+{
+    auto result = vtkSmartPointer<vtkFloatArray>::New();
+    result->SetName("value");
+    result->SetNumberOfComponents(2);
+    result->SetNumberOfTuples(values.GetNumberOfTuples());
+    for (vtkIdType i = 0; i < values.GetNumberOfTuples(); ++i) {
+        const double value = values.GetValue(i);
+        const bool isValue = std::isfinite(value);
+        result->SetTuple2(i, isValue ? groups.coordinate(group, value) : 0.0,
+                          isValue ? kBandRow : kNoValueRow);
+    }
+    return result;
+}
+
+void placeAmongNeighbours(vtkFloatArray& places, vtkPolyData& surface)
 {
     const auto isValue = [&](vtkIdType point) {
         return places.GetTypedComponent(point, 1) < (kBandRow + kNoValueRow) / 2;
     };
+    vtkIdType known = 0;
+    while (known < places.GetNumberOfTuples() && isValue(known))
+        ++known;
+    if (known == places.GetNumberOfTuples())
+        return;
     std::map<vtkIdType, std::pair<double, int>> sums;
     const auto faces = vtk::TakeSmartPointer(surface.GetPolys()->NewIterator());
     for (faces->GoToFirstCell(); !faces->IsDoneWithTraversal(); faces->GoToNextCell()) {
         vtkIdType count = 0;
         const vtkIdType* points = nullptr;
         faces->GetCurrentCell(count, points);
-        const auto known = std::count_if(points, points + count, isValue);
-        if (known == 0 || known == count)
+        const auto valued = std::count_if(points, points + count, isValue);
+        if (valued == 0 || valued == count)
             continue;
         double sum = 0.0;
         for (vtkIdType i = 0; i < count; ++i)
@@ -43,31 +63,11 @@ static void placeAmongNeighbours(vtkFloatArray& places, vtkPolyData& surface)
                 continue;
             auto& [all, number] = sums[points[i]];
             all += sum;
-            number += static_cast<int>(known);
+            number += static_cast<int>(valued);
         }
     }
     for (const auto& [point, sum] : sums)
         places.SetTypedComponent(point, 0, static_cast<float>(sum.first / sum.second));
-}
-
-vtkSmartPointer<vtkDataArray> floodCoordinates(vtkDoubleArray& values, int group,
-                                               const ContourGroups& groups, vtkPolyData& surface)
-{
-    auto result = vtkSmartPointer<vtkFloatArray>::New();
-    result->SetName("value");
-    result->SetNumberOfComponents(2);
-    result->SetNumberOfTuples(values.GetNumberOfTuples());
-    bool hasAll = true;
-    for (vtkIdType i = 0; i < values.GetNumberOfTuples(); ++i) {
-        const double value = values.GetValue(i);
-        const bool isValue = std::isfinite(value);
-        hasAll = hasAll && isValue;
-        result->SetTuple2(i, isValue ? groups.coordinate(group, value) : 0.0,
-                          isValue ? kBandRow : kNoValueRow);
-    }
-    if (!hasAll)
-        placeAmongNeighbours(*result, surface);
-    return result;
 }
 
 static vtkSmartPointer<vtkUnsignedCharArray> makeColors(vtkIdType count)

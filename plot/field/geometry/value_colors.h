@@ -9,15 +9,17 @@
 #include <array>
 
 class vtkDataArray;
+class vtkFloatArray;
 class vtkPolyData;
 
 namespace corvala::plot {
 
-/// Places of the values at the points of a surface in the flood texture of a group (see bandImage).
-/// A point without a value has the place of its neighbours' mean in the row of no value, so that no
-/// other band is met on the way there.
-vtkSmartPointer<vtkDataArray> floodCoordinates(vtkDoubleArray& values, int group,
-                                               const ContourGroups& groups, vtkPolyData& surface);
+/// Places of values, of points or of cells, in the flood texture of a group (see bandImage).
+vtkSmartPointer<vtkFloatArray> floodCoordinates(vtkDoubleArray& values, int group,
+                                                const ContourGroups& groups);
+/// Gives points of a surface that have no value the mean place of those that they share a face
+/// with, so that no other band is met on the way to the row of no value.
+void placeAmongNeighbours(vtkFloatArray& places, vtkPolyData& surface);
 
 /// Colours of values by the levels of a group; three bytes each.
 vtkSmartPointer<vtkDataArray> groupColors(vtkDoubleArray& values, int group,

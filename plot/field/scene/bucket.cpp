@@ -39,7 +39,7 @@ static vtkSmartPointer<vtkImageData> patternImage(int pattern)
 
 std::int64_t drawingCost(vtkPolyData& piece, const MapperLook& look)
 {
-    return cornerCount(piece) * (look.symbol.shape == SymbolLook::kNone ? 1 : kPointsPerSymbol);
+    return shapeCost(piece) * (look.symbol.shape == SymbolLook::kNone ? 1 : kPointsPerSymbol);
 }
 
 CompositeLayer::Bucket::Bucket(const MapperLook& look, CvlInt64 firstMap, FieldLayer layer,

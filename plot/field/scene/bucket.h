@@ -17,7 +17,7 @@
 
 namespace corvala::plot {
 
-/// What drawing a piece costs, as cornerCount.
+/// What drawing a piece costs, as shapeCost.
 std::int64_t drawingCost(vtkPolyData& piece, const MapperLook& look);
 
 /// One composite mapper with its actor, and the blocks that it draws.
@@ -49,7 +49,7 @@ public:
     /// Moves faces far enough back for lines of this width to be whole.
     void setWidestLine(double pixels);
     double linePixels() const { return m_linePixels; }
-    /// What drawing the blocks costs, as cornerCount.
+    /// What drawing the blocks costs, as shapeCost.
     std::int64_t size() const { return m_size; }
 
 private:

@@ -83,7 +83,7 @@ public:
     vtkBoundingBox bounds() const;
     bool draws(CvlInt64 map) const;
     bool hasGeometry() const; ///< of any map
-    /// What drawing all blocks costs, as cornerCount; 0 while the layer is invisible.
+    /// What drawing all blocks costs, as shapeCost; 0 while the layer is invisible.
     std::int64_t cost() const;
     /// The geometry of a map's block.
     const ShapePieces& pieces(CvlInt64 map) const;
@@ -96,7 +96,7 @@ public:
     const Counters& counters() const { return m_counters; }
     /// One actor per mapper, in the order in which they are to be drawn.
     std::vector<vtkActor*> actors() const;
-    /// What drawing each of them costs, as cornerCount.
+    /// What drawing each of them costs, as shapeCost.
     std::vector<std::int64_t> actorSizes() const;
 
 private:

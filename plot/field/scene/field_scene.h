@@ -61,7 +61,7 @@ public:
 
     /// Puts what is drawn in order and fits it to the view; call before drawing.
     void prepare(const ViewScale& scale);
-    /// What drawing one of its props costs, as cornerCount, since it was put in order; 0 for
+    /// What drawing one of its props costs, as shapeCost, since it was put in order; 0 for
     /// others.
     std::int64_t drawingCost(vtkProp* prop) const;
     /// The same of everything that is visible.

@@ -95,9 +95,8 @@ std::optional<SceneNote> Notes::blanking() const
     return SceneNote {tr("Value blanking takes away every cell of the active zones, by constraint "
                          "%1.")
                           .arg(constraints.join(QStringLiteral(", "))),
-                      value.include,
-                      tr("Switch Off Value Blanking"),
-                      {switched(value.include, false)}};
+                      value.include, tr("Switch Off Value Blanking"),
+                      switched(value.include, false)};
 }
 
 std::optional<SceneNote> Notes::levels() const
@@ -115,9 +114,8 @@ std::optional<SceneNote> Notes::levels() const
                 .arg(group)
                 .arg(lowest)
                 .arg(highest),
-            groups.levelMin,
-            tr("Keep Levels by the Data"),
-            {switched(groups.automaticLevels, true, group)}};
+            groups.levelMin, tr("Keep Levels by the Data"),
+            switched(groups.automaticLevels, true, group)};
     }
     return std::nullopt;
 }
@@ -127,12 +125,15 @@ std::optional<SceneNote> Notes::volumes() const
 {
     constexpr const auto& vector = style::globalVector;
     const bool hasStreams = number(style::streamtraces.show) != 0;
-    bool hasAny = hasStreams || number(style::isoSurfaces.show) != 0;
+    style::Key shown = hasStreams ? style::Key(style::streamtraces.show) : style::Key();
+    if (number(style::isoSurfaces.show) != 0)
+        shown = style::isoSurfaces.show;
     for (int slice = 1; slice <= style::Slices::kCount; ++slice)
-        hasAny = hasAny || number(style::slices.show, slice) != 0;
-    if (hasAny && m_facts.frame.plotType() != PlotType_Field3D)
+        if (number(style::slices.show, slice) != 0)
+            shown = style::slices.show;
+    if (shown.isValid() && m_facts.frame.plotType() != PlotType_Field3D)
         return SceneNote {tr("Slices, iso-surfaces and streamtraces are drawn in 3D plots only."),
-                          style::streamtraces.show};
+                          shown};
     const bool hasVectors =
         number(vector.uVar) != 0 || number(vector.vVar) != 0 || number(vector.wVar) != 0;
     if (hasStreams && !hasVectors)
@@ -168,10 +169,8 @@ std::optional<SceneNote> Notes::slice(int slice) const
               .arg(position)
               .arg(m_facts.groups.minimum(group))
               .arg(m_facts.groups.maximum(group));
-    return SceneNote {text,
-                      style::slices.position,
-                      tr("Move It to the Middle"),
-                      {switched(style::slices.automaticPosition, true, slice)}};
+    return SceneNote {text, style::slices.position, tr("Move It to the Middle"),
+                      switched(style::slices.automaticPosition, true, slice)};
 }
 
 std::optional<SceneNote> Notes::slices() const
@@ -199,9 +198,7 @@ std::optional<SceneNote> Notes::isoSurfaces() const
                     .arg(nameOf(m_facts.groups.variable(kGroup)))
                     .arg(m_facts.groups.minimum(kGroup))
                     .arg(m_facts.groups.maximum(kGroup)),
-                kValues[i],
-                tr("Take Values of the Data"),
-                {switched(iso.automaticValues, true)}};
+                kValues[i], tr("Take Values of the Data"), switched(iso.automaticValues, true)};
     }
     return std::nullopt;
 }
@@ -216,7 +213,7 @@ std::optional<SceneNote> Notes::streamtraces() const
                     streams.automaticRake};
     if (number(streams.automaticRake) == 0) {
         note.caption = tr("Lay the Rake Across the Data");
-        note.mending = {switched(streams.automaticRake, true)};
+        note.mending = switched(streams.automaticRake, true);
     }
     return note;
 }

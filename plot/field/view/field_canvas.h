@@ -42,7 +42,7 @@ public:
 
     /// From where the plot is seen, for tests and diagnosis.
     FieldView& fieldView() { return m_view; }
-    /// How much of a picture to draw at a time, as cornerCount, until the time that it takes says
+    /// How much of a picture to draw at a time, as shapeCost, until the time that it takes says
     /// better.
     void setPartSize(std::int64_t corners) { m_budget = corners; }
 

@@ -14,8 +14,6 @@
 #include <vtkProperty2D.h>
 #include <vtkRenderer.h>
 
-#include <algorithm>
-
 namespace corvala::plot {
 
 SpaceGrid::SpaceGrid(vtkRenderer& paper)
