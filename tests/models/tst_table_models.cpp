@@ -4,7 +4,6 @@
 #include "tests/support/modal_responder.h"
 #include "tests/support/rows.h"
 #include "zonestyle/actions/action.h"
-#include "zonestyle/models/columns/column_kinds.h"
 #include "zonestyle/models/field_contour_3d_model.h"
 #include "zonestyle/models/field_contour_model.h"
 #include "zonestyle/models/field_edge_model.h"
@@ -19,13 +18,18 @@
 #include "zonestyle/models/field_surfaces_model.h"
 #include "zonestyle/models/field_vector_model.h"
 #include "zonestyle/models/field_volume_model.h"
+#include "zonestyle/models/line_bars_model.h"
+#include "zonestyle/models/line_curves_model.h"
 #include "zonestyle/models/line_definitions_model.h"
 #include "zonestyle/models/line_definitions_polar_model.h"
 #include "zonestyle/models/line_definitions_xy_model.h"
+#include "zonestyle/models/line_error_bars_model.h"
+#include "zonestyle/models/line_indices_model.h"
+#include "zonestyle/models/line_lines_model.h"
 #include "zonestyle/models/line_static_area_model.h"
+#include "zonestyle/models/line_symbols_model.h"
 #include "zonestyle/models/model_for_page_map.h"
 #include "zonestyle/models/name_pattern.h"
-#include "zonestyle/tables/dependency_names.h"
 
 #include <sdk/base/cvl.h>
 
@@ -39,68 +43,9 @@ using namespace corvala::sdk::ui::dialogs::zonestyle::intern::models;
 using corvala::host::Document;
 
 namespace style = corvala::style;
-namespace tables = corvala::sdk::ui::dialogs::zonestyle::intern::tables;
 using corvala::sdk::ui::dialogs::zonestyle::intern::actions::Action;
-using corvala::sdk::ui::dialogs::zonestyle::intern::actions::keysOf;
-
-Q_DECLARE_METATYPE(FunctionDependency_e)
 
 namespace {
-
-/// Kinds and calls that no table of the dialog needs yet.
-class KindsModel : public DescribedModel<LineModelAbstract>
-{
-public:
-    using DescribedModel::DescribedModel;
-
-    const int firstUnowned = 2; ///< a table may own something that its cells ask for
-
-protected:
-    const ColumnTable& columnTable() const override;
-};
-
-QVariant contourVariable(const Cell& cell)
-{
-    return cell.value(style::contourGroups.var, cell.map);
-}
-
-bool isOwned(const Cell& cell)
-{
-    return cell.map < static_cast<const KindsModel&>(cell.model).firstUnowned;
-}
-
-Choices dependencies(CvlUniqueId frame)
-{
-    switch (CvlUtilFrameGetPlotTypeForFrame(frame)) {
-    case PlotType_LineXY: return style::kFunctionDependencies;
-    case PlotType_LinePolar: return tables::kPolarDependencies;
-    default: return {};
-    }
-}
-
-constexpr int kCounts[] = {250, 500, 1000};
-constexpr ThreeValuePrompt kRangePrompt {"Enter Range", {{"&Begin", "&End", "&Skip"}}, "anchor"};
-
-constexpr ColumnDescriptor kKindColumns[] = {
-    kinds::listedNumber("Points", style::lineMap.curves.numPts, kCounts, {"Number", "Points"}),
-    kinds::triple("Range", keysOf(style::lineMap.indices.ranges.iRange), kRangePrompt),
-    kinds::choice("Dependency", style::lineMap.assign.functionDependency)
-        .namedBy(dependencies)
-        .rawValue(kinds::enumValue<FunctionDependency_e>),
-    kinds::checkBox("Owned", style::lineMap.lines.show).existsWhere(isOwned),
-    kinds::percent("Thickness", style::lineMap.lines.lineThickness, {"Thickness", "[%]"})
-        .editWrites(StyleTarget::noValue("FieldMap", "Lines", "LineThickness"))
-        .relevantWhileOn(style::linePlotLayers.showLines),
-    ColumnDescriptor {"Contour"}.shows(contourVariable),
-    kinds::listedNumber("Order", style::lineMap.curves.polyOrder, kCounts, {"Order", "Order"})
-        .offers(kinds::plainNumberMenu),
-};
-constexpr ColumnTable kKindTable {kKindColumns};
-
-const ColumnTable& KindsModel::columnTable() const
-{
-    return kKindTable;
-}
 
 using Make = ModelAbstract* (*)();
 
@@ -137,8 +82,13 @@ const std::map<QString, Chain>& chains()
         {"polar",
          {"polar",
           makeChain<LineStaticAreaModel, LineDefinitionsModel, LineDefinitionsPolarModel>}},
-        {"kinds", {"xy", makeChain<KindsModel>}},
-        {"polar kinds", {"polar", makeChain<KindsModel>}},
+        {"lines", {"xy", makeChain<LineStaticAreaModel, LineLinesModel>}},
+        {"curves", {"xy", makeChain<LineStaticAreaModel, LineCurvesModel>}},
+        {"polar curves", {"polar", makeChain<LineStaticAreaModel, LineCurvesModel>}},
+        {"symbols", {"xy", makeChain<LineStaticAreaModel, LineSymbolsModel>}},
+        {"error bars", {"xy", makeChain<LineStaticAreaModel, LineErrorBarsModel>}},
+        {"bars", {"xy", makeChain<LineStaticAreaModel, LineBarsModel>}},
+        {"indices", {"xy", makeChain<LineStaticAreaModel, LineIndicesModel>}},
     };
     return all;
 }
@@ -343,11 +293,82 @@ private Q_SLOTS:
             "1|Force|[x]|1: Zone 1|Error|Always|1: Time|2: Force|X1|Y1");
         row("polar definitions", "polar", {}, "1|Gain|[x]|1: Zone 1|None|Always|6: Angle|7: Gain");
 
-        row("kinds", "kinds",
-            {{"LineMap.Indices.IRange.Skip", "1", 3}, {"LinePlotLayers.ShowLines", "", 0}},
-            "500|1,0,3|y=f(x)|[x]|(0.15%)|0|3");
-        row("names by plot type", "polar kinds", {{"LineMap.Assign.FunctionDependency", "1", 1}},
-            "500|1,0,1|Theta=f(R)|[x]|0.15%|0|3");
+        row("lines", "lines",
+            {{"LineMap.Lines.LineThickness", "1", 0.5}, {"LineMap.Lines.LinePattern", "1", 5}},
+            "1|Force|[x]|[x]|#d62728|0.50%|Dash dot dot|2.00%");
+        row("solid line", "lines", {}, "1|Force|[x]|[x]|#d62728|0.15%|Solid|(2.00%)");
+        row("line layer off", "lines", {{"LinePlotLayers.ShowLines", "", 0}},
+            "1|Force|[x]|([x])|(#d62728)|(0.15%)|(Solid)|(2.00%)");
+        row("line hidden", "lines", {{"LineMap.Lines.Show", "1", 0}},
+            "1|Force|[x]|([ ])|(#d62728)|(0.15%)|(Solid)|(2.00%)");
+
+        const auto curve = [](double type) {
+            return Setting {"LineMap.Curves.CurveType", "1", type};
+        };
+        const Setting inRange {"LineMap.Curves.UseIndVarRange", "1", 1};
+        const Setting weighted {"LineMap.Curves.UseWeightVar", "1", 1};
+        row("segments", "curves", {}, "1|Force|[x]|Line segments|y=f(x)|(500)|(N/A)");
+        row("polynomial", "curves", {curve(1)},
+            "1|Force|[x]|Polynomial fit|y=f(x)|500|Order=3, Using all points, Not using weighting "
+            "variable");
+        row("power", "curves",
+            {curve(3), inRange, weighted, {"LineMap.Curves.IndVarMax", "1", 2.5}},
+            "1|Force|[x]|Power fit|y=f(x)|500|Points range=0,2.5, Weighting variable=Time");
+        row("clamped spline", "polar curves",
+            {curve(4),
+             {"LineMap.Curves.ClampSpline", "1", 1},
+             {"LineMap.Assign.FunctionDependency", "1", 1}},
+            "1|Angle|[x]|Spline|Theta=f(R)|500|Clamped: D1=0, D2=0");
+        row("parametric spline", "curves", {curve(5)},
+            "1|Force|[x]|Parametric spline|(y=f(x))|500|Not clamped");
+        row("fit of another host", "curves", {curve(6)}, "1|Force|[x]|Unavailable fit|y=f(x)|500|");
+
+        const Setting marks {"LinePlotLayers.ShowSymbols", "", 1};
+        row("symbol layer off", "symbols", {},
+            "1|Force|[x]|([x])|(Square)|(2.00%)|(Draw all)|(#d62728)|(0.15%)|(None)|(#ffffff)");
+        row("symbols", "symbols",
+            {marks,
+             {"LineMap.Symbols.Skipping", "1", 3},
+             {"LineMap.Symbols.SymbolShape.GeomShape", "1", 255},
+             {"LineMap.Symbols.FillMode", "1", 1}},
+            "1|Force|[x]|[x]|Character|2.00%|I=3|#d62728|0.15%|Specific color|#ffffff");
+        row("symbols apart", "symbols",
+            {marks,
+             {"LineMap.Symbols.Skipping", "1", 2.5},
+             {"LineMap.Symbols.SkipMode", "1", 1},
+             {"LineMap.Symbols.FillMode", "1", 2}},
+            "1|Force|[x]|[x]|Square|2.00%|D=2.5%|#d62728|0.15%|Line color|(#ffffff)");
+        row("symbols at no distance", "symbols",
+            {marks, {"LineMap.Symbols.Skipping", "1", 0}, {"LineMap.Symbols.SkipMode", "1", 1}},
+            "1|Force|[x]|[x]|Square|2.00%|Draw all|#d62728|0.15%|None|(#ffffff)");
+        row("symbols hidden", "symbols", {marks, {"LineMap.Symbols.Show", "1", 0}},
+            "1|Force|[x]|([ ])|(Square)|(2.00%)|(Draw all)|(#d62728)|(0.15%)|(None)|(#ffffff)");
+
+        const Setting errors {"LinePlotLayers.ShowErrorBars", "", 1};
+        row("error bars hidden", "error bars", {errors},
+            "1|Force|[x]|([ ])|(<Undef>)|(Vertical)|(Draw all)|(#d62728)|(2.00%)|(0.15%)");
+        row("error bars", "error bars",
+            {errors,
+             {"LineMap.ErrorBars.Show", "1", 1},
+             {"LineMap.ErrorBars.Var", "1", 5},
+             {"LineMap.ErrorBars.Skipping", "1", 4}},
+            "1|Force|[x]|[x]|5: Error|Vertical|I=4|#d62728|2.00%|0.15%");
+        row("bar layer off", "bars", {},
+            "1|Force|[x]|([x])|(Vertical (y=f(x)))|(2.00%)|(#d62728)|(0.15%)|(Line color)|"
+            "(#ffffff)");
+        row("bars", "bars",
+            {{"LinePlotLayers.ShowBarCharts", "", 1},
+             {"LineMap.Assign.FunctionDependency", "1", 1},
+             {"LineMap.BarCharts.FillMode", "1", 1}},
+            "1|Time|[x]|[x]|Horizontal (x=f(y))|2.00%|#d62728|0.15%|Specific color|#ffffff");
+
+        const auto zone = [](double number) {
+            return Setting {"LineMap.Assign.Zone", "1", number};
+        };
+        row("line of points", "indices", {{"LineMap.Indices.IRange.Skip", "1", 3}},
+            "1|Force|[x]|I-Varying|1,0,3|(1,0,1)|(1,0,1)");
+        row("points without an order", "indices", {zone(4)},
+            "1|Force|[x]|(I-Varying)|1,0,1|(1,0,1)|(1,0,1)");
     }
 
     void showRows()
@@ -479,10 +500,23 @@ private Q_SLOTS:
         row("polar", "Theta Variable", "7: Gain", "LineMap.Assign.ThetaAxisVar 2-3 = 7");
         row("polar", "Radius Variable", 1, "LineMap.Assign.RAxisVar 2-3 = 2");
 
-        row("kinds", "Points", "250", "LineMap.Curves.NumPts 2-3 = 250");
-        row("kinds", "Range", "1,2,3", "");
-        row("polar kinds", "Dependency", "theta=f(r)", "LineMap.Assign.FunctionDependency 2-3 = 1");
-        row("kinds", "Thickness", 2, "FieldMap.Lines.LineThickness 2-3 = 2 (3)");
+        row("lines", "Line Thickness", 2, "FieldMap.Lines.LineThickness 2-3 = 2 (3)");
+        row("lines", "Pattern Length", 2, "FieldMap.Lines.PatternLength 2-3 = 2 (3)");
+        row("curves", "Curve Type", "power fit", "LineMap.Curves.CurveType 2-3 = 3");
+        row("curves", "Curve Type", 6, "");
+        row("curves", "Curve Points", "250", "LineMap.Curves.NumPts 2-3 = 250");
+        row("polar curves", "Dependent Variable", "theta=f(r)",
+            "LineMap.Assign.FunctionDependency 2-3 = 1");
+        row("symbols", "Symbol Shape", "Character",
+            "LineMap.Symbols.SymbolShape.GeomShape 2-3 = 255");
+        row("symbols", "Line Thickness", "0.60", "LineMap.Symbols.Size 2-3 = 1");
+        row("symbols", "Symbol Spacing", "2", "");
+        row("error bars", "Error Bar Variable", "4: Power", "LineMap.ErrorBars.Var 2-3 = 4");
+        row("error bars", "Show Error Bars", 0, "LineMap.ErrorBars.Show 2-3 = false");
+        row("bars", "Bar Direction", "Horizontal (x=f(y))",
+            "LineMap.Assign.FunctionDependency 2-3 = 1");
+        row("indices", "Varying Index", "K-Varying", "LineMap.Indices.IJKLines 2-3 = 2");
+        row("indices", "I-Index Range", "1,2,3", "");
 
         // What an edit of numbers and of choices stands for.
         const auto group = [&](const QVariant& value, const char* number) {
@@ -618,12 +652,38 @@ private Q_SLOTS:
         row("polar", "Radius Variable", "Select Variable...", "Select Variable...",
             "LineMap.Assign.YAxisVar 1,3 = 7");
 
-        row("kinds", "Points", "250|500|1000|-|Enter...", "1000",
+        row("lines", "Line Thickness", thicknesses, "0.05",
+            "LineMap.Lines.LineThickness 1,3 = 0.05");
+        row("lines", "Line Color", "<colors>");
+        row("curves", "Curve Type",
+            "Line segments|Polynomial fit|Exponential fit|Power fit|Spline|Parametric spline",
+            "Spline", "LineMap.Curves.CurveType 1,3 = 4");
+        row("curves", "Curve Points", "250|500|1000|-|Enter...", "1000",
             "LineMap.Curves.NumPts 1,3 = 1000");
-        row("kinds", "Order", "250|500|1000|Enter...");
-        row("kinds", "Range", "Enter range...");
-        row("polar kinds", "Dependency", "R=f(Theta)|Theta=f(R)", "Theta=f(R)",
+        row("curves", "Curve Setting", "(&Settings...)");
+        row("polar curves", "Dependent Variable", "R=f(Theta)|Theta=f(R)", "Theta=f(R)",
             "LineMap.Assign.FunctionDependency 1,3 = 1");
+        row("symbols", "Symbol Shape",
+            "Square|Delta|Gradient|Right triangle|Left triangle|Diamond|Circle|-|Enter "
+            "character...",
+            "Circle", "LineMap.Symbols.SymbolShape.GeomShape 1,3 = 6");
+        row("symbols", "Line Thickness", thicknesses, "0.60",
+            "LineMap.Symbols.LineThickness 1,3 = 0.6");
+        const char* spacings = "Draw all|-|I skip=2|I skip=3|I skip=4|-|Distance=1|Distance=2|"
+                               "Distance=3|-|Enter index...|-|Enter distance...";
+        row("symbols", "Symbol Spacing", spacings, "I skip=3",
+            "LineMap.Symbols.SkipMode 1,3 = 0; LineMap.Symbols.Skipping 1,3 = 3");
+        row("error bars", "Error Bar Spacing", spacings, "Distance=2",
+            "LineMap.ErrorBars.SkipMode 1,3 = 1; LineMap.ErrorBars.Skipping 1,3 = 2");
+        row("error bars", "Error Bar Type", "Up|Down|Left|Right|Horizontal|Vertical|Cross", "Cross",
+            "LineMap.ErrorBars.BarType 1,3 = 6");
+        row("error bars", "Error Bar Size", "0.50|1.00|2.00|3.00|5.00|-|Enter...", "5.00",
+            "LineMap.ErrorBars.Size 1,3 = 5");
+        row("bars", "Bar Direction", "Vertical (y=f(x))|Horizontal (x=f(y))", "Horizontal (x=f(y))",
+            "LineMap.Assign.FunctionDependency 1,3 = 1");
+        row("indices", "Varying Index", "I-Varying|J-Varying|K-Varying", "K-Varying",
+            "LineMap.Indices.IJKLines 1,3 = 2");
+        row("indices", "J-Index Range", "Enter range...");
     }
 
     void offerMenus()
@@ -744,6 +804,29 @@ private Q_SLOTS:
         add("polar",
             "Map Number i 0/0, Map Name i 9/2 e, Show Map i 7/0 c, Zone p 6/2 e, Sort s 3/1, Show "
             "in Legend s 3/1, Theta Variable p 6/3 e, Radius Variable p 6/3 e");
+        const auto ofLines = [&add](const char* chain, const QString& columns) {
+            add(chain, "Map Number i 0/0, Map Name i 9/2 e, Show Map i 7/0 c, " + columns);
+        };
+        ofLines("lines",
+                "Show Lines p 7/0 c, Line Color s 8/0, Line Thickness s 5/0, Line Pattern s 3/1, "
+                "Pattern Length s 5/0");
+        ofLines("curves",
+                "Curve Type p 3/1, Dependent Variable p 3/0, Curve Points s 5/1, Curve Setting s "
+                "0/3");
+        ofLines("symbols",
+                "Show Symbols p 7/0 c, Symbol Shape p 4/1, Symbol Size p 5/0, Symbol Spacing p "
+                "0/0, Outline Color s 8/0, Line Thickness s 5/0, Fill Mode s 3/1, Fill Color s "
+                "8/0");
+        ofLines("error bars",
+                "Show Error Bars p 7/0 c, Error Bar Variable p 6/3 e, Error Bar Type p 3/2, Error "
+                "Bar Spacing p 0/0, Error Bar Color p 8/0, Error Bar Size p 5/0, Line Thickness s "
+                "5/0");
+        ofLines("bars",
+                "Show Bars p 7/0 c, Bar Direction p 3/1, Bar Size p 5/0, Outline Color s 8/0, Line "
+                "Thickness s 5/0, Fill Mode s 3/1, Fill Color s 8/0");
+        ofLines("indices",
+                "Varying Index p 1/1, I-Index Range s 2/0, J-Index Range s 2/0, K-Index Range s "
+                "2/0");
     }
 
     void describeColumns()
@@ -771,21 +854,41 @@ private Q_SLOTS:
         QCOMPARE(texts.join(", "), columns);
     }
 
-    void giveWhatTheirModelsNeed()
+    void refuseEdits()
     {
-        open("kinds");
-        QVERIFY(setStyle("ContourGroups.Var", "", 4, 2));
-        QCOMPARE(rowText(*m_model, 1), QString("500|1,0,1|y=f(x)|(N/A)|0.15%|4|3"));
-        const QModelIndex unowned = m_model->index(1, columnOf("Owned"));
-        QVERIFY(!unowned.data(Qt::CheckStateRole).isValid());
-        const QVariant raw = m_model->index(1, columnOf("Dependency")).data(Qt::UserRole);
-        QVERIFY(raw.canConvert<FunctionDependency_e>() && raw.toInt() == FunctionDependency_YofX);
-        QCOMPARE(m_model->index(0, columnOf("Points")).data(Qt::EditRole).toStringList().join('|'),
-                 QString("250|500|1000"));
-
         open("points");
         QVERIFY(!m_model->setData(m_model->index(0, columnOf("Points to Plot")), 1));
         QCOMPARE(takeWrites(), QString());
+    }
+
+    /// Reading a step that marks nothing mends it, once.
+    void mendSpacing()
+    {
+        open("symbols");
+        QVERIFY(setStyle("LineMap.Symbols.Skipping", "2", 0));
+        const QModelIndex spacing = m_model->index(1, columnOf("Symbol Spacing"));
+        QCOMPARE(spacing.data().toString(), QString("Draw all"));
+        QCOMPARE(takeWrites(), QString("LineMap.Symbols.Skipping 2 = 1"));
+        QCOMPARE(spacing.data().toString(), QString("Draw all"));
+        QCOMPARE(takeWrites(), QString());
+    }
+
+    /// Error bars are not switched on without a variable.
+    void askForVariables()
+    {
+        open("error bars");
+        const QModelIndexList shown = cells(*m_model, {1, 2}, columnOf("Show Error Bars"));
+        ModalResponder user;
+        user.reject().reply("Error");
+        for (const char* written :
+             {"", "LineMap.ErrorBars.Var 2-3 = 5; LineMap.ErrorBars.Show 2-3 = true",
+              "LineMap.ErrorBars.Show 2-3 = true"}) {
+            QVERIFY(m_model->setDataForIndexes(shown, Qt::Checked, Qt::CheckStateRole));
+            QCOMPARE(takeWrites(), QString(written));
+        }
+        QVERIFY(user.isSettled());
+        QVERIFY(user.takeSeen().first().startsWith(
+            "Select the error bar variable: Select the error bar variable ["));
     }
 
     void renameMapsForAnyRole()

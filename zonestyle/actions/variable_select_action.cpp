@@ -31,6 +31,24 @@ static QStringList variableNames(const QList<int>& variables)
     return names;
 }
 
+std::optional<int> chooseVariable(const QString& title, const QString& label, int present)
+{
+    const QList<int> variables = enabledVariables();
+    if (variables.isEmpty())
+        return std::nullopt;
+    const QStringList names = variableNames(variables);
+    const QPointer<QInputDialog> prompt(new QInputDialog(&promptParent()));
+    prompt->setWindowTitle(title);
+    prompt->setLabelText(label);
+    prompt->setComboBoxItems(names);
+    prompt->setTextValue(names.value(variables.indexOf(present)));
+    const bool isAccepted = execInEditSession(*prompt) == QDialog::Accepted;
+    const QString name = isAccepted ? prompt->textValue() : QString();
+    delete prompt;
+    // Of variables with the same name only the first can be chosen.
+    return isAccepted ? std::optional<int>(variables.at(names.indexOf(name))) : std::nullopt;
+}
+
 VariableSelectAction::VariableSelectAction(const QString& text,
                                            const QModelIndexList& selectedIndexes,
                                            const QString& title, const QString& label,
@@ -43,22 +61,12 @@ VariableSelectAction::VariableSelectAction(const QString& text,
 
 void VariableSelectAction::invokeAction()
 {
-    const QList<int> variables = enabledVariables();
-    if (selectedIndexes().isEmpty() || variables.isEmpty())
+    if (selectedIndexes().isEmpty())
         return;
-    const QStringList names = variableNames(variables);
     const QPointer<Action> self(this);
-    const QPointer<QInputDialog> prompt(new QInputDialog(&promptParent()));
-    prompt->setWindowTitle(m_title);
-    prompt->setLabelText(m_label);
-    prompt->setComboBoxItems(names);
-    prompt->setTextValue(names.value(variables.indexOf(firstValue())));
-    const bool isAccepted = execInEditSession(*prompt) == QDialog::Accepted;
-    const QString name = isAccepted ? prompt->textValue() : QString();
-    delete prompt;
-    // Of variables with the same name only the first can be chosen.
-    if (isAccepted && self)
-        write(variables.at(names.indexOf(name)));
+    const std::optional<int> variable = chooseVariable(m_title, m_label, firstValue());
+    if (variable && self)
+        write(*variable);
 }
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions

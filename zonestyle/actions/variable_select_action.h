@@ -3,7 +3,13 @@
 
 #include "zonestyle/actions/style_action.h"
 
+#include <optional>
+
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::actions {
+
+/// Asks for one of the enabled variables, beginning with a present one. Nothing when the user
+/// cancels, there is none, or what it was for is gone. Title and label are shown as they are.
+std::optional<int> chooseVariable(const QString& title, const QString& label, int present);
 
 /// Asks for one of the enabled variables and writes its number to the selected line maps.
 class VariableSelectAction : public StyleAction<int>

@@ -15,10 +15,16 @@
 #include "zonestyle/models/field_surfaces_model.h"
 #include "zonestyle/models/field_vector_model.h"
 #include "zonestyle/models/field_volume_model.h"
+#include "zonestyle/models/line_bars_model.h"
+#include "zonestyle/models/line_curves_model.h"
 #include "zonestyle/models/line_definitions_model.h"
 #include "zonestyle/models/line_definitions_polar_model.h"
 #include "zonestyle/models/line_definitions_xy_model.h"
+#include "zonestyle/models/line_error_bars_model.h"
+#include "zonestyle/models/line_indices_model.h"
+#include "zonestyle/models/line_lines_model.h"
 #include "zonestyle/models/line_static_area_model.h"
+#include "zonestyle/models/line_symbols_model.h"
 #include "zonestyle/models/model_for_page_map.h"
 
 #include <sdk/base/enums.h>
@@ -75,12 +81,12 @@ const std::vector<ViewModel>& viewModels()
          line<LineDefinitionsModel, LineDefinitionsXYModel>},
         {"plotAttr_LPDefn_Page", PlotType_LinePolar,
          line<LineDefinitionsModel, LineDefinitionsPolarModel>},
-        {"plotAttr_LPLine_Page", kEvery, line<>},
-        {"plotAttr_LPCurv_Page", kEvery, line<>},
-        {"plotAttr_LPSymb_Page", kEvery, line<>},
-        {"plotAttr_LPEBar_Page", kEvery, line<>},
-        {"plotAttr_LPBars_Page", kEvery, line<>},
-        {"plotAttr_LPIndx_Page", kEvery, line<>},
+        {"plotAttr_LPLine_Page", kEvery, line<LineLinesModel>},
+        {"plotAttr_LPCurv_Page", kEvery, line<LineCurvesModel>},
+        {"plotAttr_LPSymb_Page", kEvery, line<LineSymbolsModel>},
+        {"plotAttr_LPEBar_Page", kEvery, line<LineErrorBarsModel>},
+        {"plotAttr_LPBars_Page", kEvery, line<LineBarsModel>},
+        {"plotAttr_LPIndx_Page", kEvery, line<LineIndicesModel>},
     };
     return table;
 }

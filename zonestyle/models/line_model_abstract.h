@@ -11,6 +11,8 @@ class LineModelAbstract : public ModelAbstract
 public:
     using ModelAbstract::ModelAbstract;
 
+    class SkipAction;
+
     int rowCount(const QModelIndex& parent = {}) const override;
     bool isLocalRelevant(const QModelIndex& index) const override;
 };

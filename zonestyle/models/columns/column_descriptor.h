@@ -63,6 +63,7 @@ struct ColumnDescriptor
     PromptTexts prompt = {"", ""};
     ListedNumbers numbers = {};
     const style::SymbolShape* symbol = nullptr; ///< of a column of symbols
+    style::ChoiceKey<SkipMode_e> skipMode = {}; ///< of a column of spacings
     ThreeKeys triple = {};
     const ThreeValuePrompt* triplePrompt = nullptr;
     int firstChoice = 0; ///< what the first entry of a list without choice names stands for

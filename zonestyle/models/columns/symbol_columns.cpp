@@ -38,12 +38,12 @@ QVariant shapeList(const Cell& cell)
     return names;
 }
 
-QList<QAction*> shapeMenu(const MenuRequest& request)
+static QList<QAction*> shapeEntries(const MenuRequest& request, bool (*isWanted)(int shape))
 {
     const QModelIndexList rows = request.rows();
     QList<QAction*> entries;
     for (const style::Choice& shape : request.column.names) {
-        if (!isOffered(shape.value))
+        if (!isWanted(shape.value))
             continue;
         auto* entry = new actions::StyleAction<GeomShape_e>(tables::textOf(shape), rows,
                                                             static_cast<GeomShape_e>(shape.value),
@@ -54,6 +54,33 @@ QList<QAction*> shapeMenu(const MenuRequest& request)
     return entries << actions::separator()
                    << new actions::EnterASCIICharacterAction(rows,
                                                              request.column.symbol->asciiShape);
+}
+
+QList<QAction*> shapeMenu(const MenuRequest& request)
+{
+    return shapeEntries(request, isOffered);
+}
+
+QVariant lineSymbolText(const Cell& cell)
+{
+    return cell.value(cell.column.symbol->isAscii)
+        ? tables::nameOf(cell.column.names, GeomShape_Character)
+        : choiceName(cell);
+}
+
+/// Deliberate: line art is offered only where pie charts are not.
+static bool isOfferedForLines(int shape)
+{
+    if (shape == GeomShape_LineArt && isOffered(GeomShape_PieChart))
+        return false;
+    const bool isFlat = shape <= GeomShape_Circle;
+    return isFlat
+        || ((shape == GeomShape_PieChart || shape == GeomShape_LineArt) && isOffered(shape));
+}
+
+QList<QAction*> lineShapeMenu(const MenuRequest& request)
+{
+    return shapeEntries(request, isOfferedForLines);
 }
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models::kinds
