@@ -255,6 +255,11 @@ inline constexpr Choice kCurveTypes[] = {
     {CurveType_Extended, CV_TEXT("Extended fit")},
 };
 
+inline constexpr Choice kExtendedFits[] = {
+    {ExtendedFit_SmoothingSpline, CV_TEXT("Smoothing spline")},
+    {ExtendedFit_Gaussian, CV_TEXT("Gaussian")},
+};
+
 inline constexpr Choice kSkipModes[] = {
     {SkipMode_ByIndex, CV_TEXT("By index")},
     {SkipMode_ByDistance, CV_TEXT("By distance")},
@@ -274,6 +279,24 @@ inline constexpr Choice kIJKLines[] = {
     {IJKLines_I, CV_TEXT("I-Varying")},
     {IJKLines_J, CV_TEXT("J-Varying")},
     {IJKLines_K, CV_TEXT("K-Varying")},
+};
+
+inline constexpr Choice kAxisScales[] = {
+    {AxisScale_Linear, CV_TEXT("Linear")},
+    {AxisScale_Logarithmic, CV_TEXT("Logarithmic")},
+};
+
+inline constexpr Choice kAxisSides[] = {
+    {AxisSide_InTurn, CV_TEXT("In turn")},
+    {AxisSide_BelowOrLeft, CV_TEXT("Below or left")},
+    {AxisSide_AboveOrRight, CV_TEXT("Above or right")},
+};
+
+inline constexpr Choice kPolarStarts[] = {
+    {PolarStart_Right, CV_TEXT("To the right")},
+    {PolarStart_Above, CV_TEXT("Above")},
+    {PolarStart_Left, CV_TEXT("To the left")},
+    {PolarStart_Below, CV_TEXT("Below")},
 };
 
 } // namespace corvala::style

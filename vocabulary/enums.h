@@ -198,6 +198,19 @@ enum CurveType_e : int {
     CurveType_Extended = 6
 };
 
+enum ExtendedFit_e : int { ExtendedFit_SmoothingSpline = 0, ExtendedFit_Gaussian = 1 };
+
+enum AxisScale_e : int { AxisScale_Linear = 0, AxisScale_Logarithmic = 1 };
+
+enum AxisSide_e : int { AxisSide_InTurn = 0, AxisSide_BelowOrLeft = 1, AxisSide_AboveOrRight = 2 };
+
+enum PolarStart_e : int {
+    PolarStart_Right = 0,
+    PolarStart_Above = 1,
+    PolarStart_Left = 2,
+    PolarStart_Below = 3
+};
+
 enum SkipMode_e : int { SkipMode_ByIndex = 0, SkipMode_ByDistance = 1 };
 
 enum ErrorBar_e : int {

@@ -46,6 +46,11 @@ struct LineCurves
     Group in;
     ChoiceKey<CurveType_e> curveType =
         in.choice("CurveType", CV_TEXT("Curve type"), kCurveTypes, CurveType_LineSegments);
+    /// Which of the extended fits; choosing one makes the curve type that of extended fits.
+    ChoiceKey<ExtendedFit_e> extendedFit = in.choice("ExtendedFit", CV_TEXT("Extended fit"),
+                                                     kExtendedFits, ExtendedFit_SmoothingSpline);
+    /// Of a smoothing spline: 0 is a straight line, 1 runs through all points.
+    RealKey smoothing = in.real("Smoothing", CV_TEXT("Closeness of a smoothing spline"), 0, 1, 0.9);
     IntegerKey numPts = in.integer("NumPts", CV_TEXT("Curve points"), 2, 2000, 500);
     IntegerKey polyOrder = in.integer("PolyOrder", CV_TEXT("Polynomial order"), 1, 10, 3);
     SwitchKey useIndVarRange = in.flag("UseIndVarRange", CV_TEXT("Limit fit range"), false);

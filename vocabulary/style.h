@@ -3,6 +3,7 @@
 
 #include "vocabulary/field_frame_values.h"
 #include "vocabulary/field_map_values.h"
+#include "vocabulary/line_frame_values.h"
 #include "vocabulary/line_map_values.h"
 
 #include <string_view>
@@ -37,6 +38,9 @@ struct Dictionary
     LightSource lightSource {frame / "LightSource"};
     EdgeDetails edgeDetails {frame / "EdgeDetails"};
     FieldAxes fieldAxes {frame / "FieldAxes"};
+    LineAxes lineAxes {frame / "LineAxes"};
+    LineLegend lineLegend {frame / "LineLegend"};
+    LineFrame lineFrame {frame / "LineFrame"};
 
     FieldMap fieldMap {Group(entries, Scope::FieldMap) / "FieldMap", basicSize};
     LineMap lineMap {Group(entries, Scope::LineMap) / "LineMap", basicSize};
@@ -62,6 +66,9 @@ inline constexpr const auto& streamtraces = kDictionary.streamtraces;
 inline constexpr const auto& lightSource = kDictionary.lightSource;
 inline constexpr const auto& edgeDetails = kDictionary.edgeDetails;
 inline constexpr const auto& fieldAxes = kDictionary.fieldAxes;
+inline constexpr const auto& lineAxes = kDictionary.lineAxes;
+inline constexpr const auto& lineLegend = kDictionary.lineLegend;
+inline constexpr const auto& lineFrame = kDictionary.lineFrame;
 inline constexpr const auto& fieldMap = kDictionary.fieldMap;
 inline constexpr const auto& lineMap = kDictionary.lineMap;
 

@@ -31,9 +31,24 @@ CvlInt64 Frame::shownMapCount() const
     return isFieldPlot() ? fieldMapCount() : isLinePlot() ? lineMapCount() : 0;
 }
 
-bool Frame::isOn(style::SwitchKey key) const
+bool Frame::isOn(style::SwitchKey key, int index) const
 {
-    return m_values.integer(Schema::instance().at(key)) != 0;
+    return integer(key, index) != 0;
+}
+
+std::int32_t Frame::integer(style::Key key, int index) const
+{
+    return m_values.integer(Schema::instance().at(key), index);
+}
+
+double Frame::real(style::RealKey key, int index) const
+{
+    return m_values.real(Schema::instance().at(key), index);
+}
+
+const std::string& Frame::text(style::TextKey key, int index) const
+{
+    return std::get<std::string>(m_values.get(Schema::instance().at(key), index));
 }
 
 std::int32_t Frame::fieldInteger(AttributeId attribute, CvlInt64 map) const

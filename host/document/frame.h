@@ -10,6 +10,7 @@
 #include "vocabulary/types.h"
 
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace corvala::host {
@@ -65,7 +66,12 @@ public:
     const ValueList& values() const { return m_values; }
 
     /// A switch of the frame, such as a layer.
-    bool isOn(style::SwitchKey key) const;
+    bool isOn(style::SwitchKey key, int index = -1) const;
+
+    // Values of the frame; `index` is from 1 for those that have one.
+    std::int32_t integer(style::Key key, int index = -1) const;
+    double real(style::RealKey key, int index = -1) const;
+    const std::string& text(style::TextKey key, int index = -1) const;
 
     // Style of one map by attribute; the map must exist and the attribute have that scope and type.
     std::int32_t fieldInteger(AttributeId attribute, CvlInt64 map) const;

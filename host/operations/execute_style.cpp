@@ -30,10 +30,11 @@ namespace {
 struct Follower
 {
     AttributeId attribute = kNoAttribute;
-    bool value = false;
+    std::int32_t value = 0;
 };
 
 /// A symbol is a shape or a character, whichever was chosen last: "IsASCII" follows both choices.
+/// Choosing one of the extended fits makes the curve one.
 Follower followerOf(const Attribute& attribute, const ValueList::Value& value)
 {
     for (const style::SymbolShape* symbol :
@@ -43,6 +44,8 @@ Follower followerOf(const Attribute& attribute, const ValueList::Value& value)
         if (attribute.id == symbol->asciiShape.asciiChar)
             return {symbol->isAscii, true};
     }
+    if (attribute.id == style::lineMap.curves.extendedFit)
+        return {style::lineMap.curves.curveType, CurveType_Extended};
     return {};
 }
 

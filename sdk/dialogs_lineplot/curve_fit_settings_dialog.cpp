@@ -4,34 +4,37 @@
 #include <sdk/base/cvl.h>
 #include <sdk/private/curve_fit_settings_form.h>
 #include <sdk/private/shared_instance.h>
+#include <sdk/propertybindings/curve_fit_collection.h>
+#include <sdk/propertybindings/curve_fit_report.h>
 #include <sdk/signals/state_change_event_observable.h>
-#include <sdk/toolbox/style_value.h>
 #include <sdk/uicommon/host_command_scope.h>
 #include <sdk/uicommon/style_writing.h>
 
 #include <QDialogButtonBox>
+#include <QFontDatabase>
 #include <QHideEvent>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
-#include <optional>
-
 namespace corvala::dialogs::lineplot {
 
-/// The curve type that all line maps of the active frame have; none when they differ, one does not
+using propertybindings::CurveFitInfo;
+
+/// The fit that all line maps of the active frame have; not valid when they differ, one does not
 /// exist, or there are none.
-static std::optional<CurveType_e> commonCurveType(const toolbox::Set& lineMaps)
+static CurveFitInfo commonFit(const toolbox::Set& lineMaps)
 {
-    const toolbox::StyleValue curveType(style::lineMap.curves.curveType);
-    const auto type = curveType.read<int>(lineMaps.next(0));
+    const CvlUniqueId frame = CvlUtilFrameGetUniqueID();
+    const propertybindings::CurveFitCollection fits;
+    const CurveFitInfo fit = fits.curveFitForLineMap(frame, lineMaps.next(0));
     const bool isCommon = std::all_of(lineMaps.begin(), lineMaps.end(), [&](CvlInt64 map) {
-        return curveType.read<int>(map) == type;
+        return fits.curveFitForLineMap(frame, map) == fit;
     });
-    return type && isCommon ? std::optional<CurveType_e>(static_cast<CurveType_e>(*type))
-                            : std::nullopt;
+    return isCommon ? fit : CurveFitInfo();
 }
 
 static QString nameOf(CvlUniqueId frame, CvlInt64 lineMap)
@@ -49,10 +52,14 @@ CurveFitSettingsDialog& CurveFitSettingsDialog::getInstance(QWidget* parent)
                                   [](QWidget* owner) { return new CurveFitSettingsDialog(owner); });
 }
 
+static constexpr int kReportColumns = 52;
+static constexpr int kReportRows = 9;
+
 CurveFitSettingsDialog::CurveFitSettingsDialog(QWidget* parent)
     : QDialog(parent)
     , m_lineMapsLabel(new QLabel(this))
     , m_form(new CurveFitSettingsForm(this))
+    , m_report(new QPlainTextEdit(this))
 {
     setWindowTitle(tr("Curve Fit Settings"));
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -63,9 +70,16 @@ CurveFitSettingsDialog::CurveFitSettingsDialog(QWidget* parent)
     m_okButton->setDefault(true);
     m_applyButton = buttons->button(QDialogButtonBox::Apply);
     m_lineMapsLabel->setTextFormat(Qt::PlainText);
+    m_report->setReadOnly(true);
+    m_report->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_report->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_report->setAccessibleName(tr("Result of the fit"));
+    m_report->setMinimumSize(m_report->fontMetrics().averageCharWidth() * kReportColumns,
+                             m_report->fontMetrics().lineSpacing() * kReportRows);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_lineMapsLabel);
     layout->addWidget(m_form);
+    layout->addWidget(m_report);
     layout->addWidget(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize); // follows the fields that are shown
 
@@ -83,12 +97,12 @@ CurveFitSettingsDialog::CurveFitSettingsDialog(QWidget* parent)
 
 void CurveFitSettingsDialog::launch(CvlUniqueId frame, toolbox::Set lineMaps)
 {
-    const auto type = commonCurveType(lineMaps);
-    if (frame != CvlUtilFrameGetUniqueID() || !type || !CurveFitSettingsForm::hasSettings(*type))
+    const CurveFitInfo fit = commonFit(lineMaps);
+    if (frame != CvlUtilFrameGetUniqueID() || fit.settingsDialogAction(frame, lineMaps).empty())
         return;
     m_frame = frame;
     m_lineMaps = std::move(lineMaps);
-    m_type = *type;
+    m_fit = fit;
     readSettings();
     m_connections.disconnectAll();
     m_connections.add(signaling::StateChangeEventObservable::getInstance().connect(
@@ -107,7 +121,8 @@ void CurveFitSettingsDialog::hideEvent(QHideEvent* event)
 
 bool CurveFitSettingsDialog::isUpToDate() const
 {
-    return m_frame == CvlUtilFrameGetUniqueID() && commonCurveType(m_lineMaps) == m_type;
+    return m_frame == CvlUtilFrameGetUniqueID() && m_fit.isValid()
+        && commonFit(m_lineMaps) == m_fit;
 }
 
 void CurveFitSettingsDialog::readSettings()
@@ -116,7 +131,16 @@ void CurveFitSettingsDialog::readSettings()
     m_lineMapsLabel->setText(m_lineMaps.count() == 1
                                  ? nameOf(m_frame, first)
                                  : tr("%n line maps", "", static_cast<int>(m_lineMaps.count())));
-    m_form->read(m_type, first);
+    m_form->read(m_fit, first);
+    showReport();
+}
+
+void CurveFitSettingsDialog::showReport()
+{
+    const QString report = propertybindings::curveFitReport(m_frame, m_lineMaps.next(0));
+    m_report->setVisible(!report.isEmpty());
+    if (report != m_report->toPlainText())
+        m_report->setPlainText(report);
 }
 
 void CurveFitSettingsDialog::apply()
@@ -128,13 +152,14 @@ void CurveFitSettingsDialog::apply()
     const sdk::ui::HostCommandScope command;
     const sdk::ui::StyleUndoStep step;
     m_form->write(m_lineMaps);
+    showReport();
 }
 
 void CurveFitSettingsDialog::stateChanged(const toolbox::StateChangeEventInterface& event)
 {
     switch (event.stateChange()) {
     case StateCode_Style:
-        if (event.styleParam(1) == "LineMap" && event.styleParam(3) == "CurveType" && !isUpToDate())
+        if (event.styleParam(1) == "LineMap" && event.styleParam(2) == "Curves" && !isUpToDate())
             reject();
         break;
     case StateCode_UndoApplied:

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <sdk/base/enums.h>
 #include <sdk/base/types.h>
+#include <sdk/propertybindings/curve_fit_info.h>
 #include <sdk/signals/signal_connection_collection.h>
 #include <sdk/toolbox/set.h>
 #include <sdk/toolbox/state_change_event.h>
@@ -10,6 +10,7 @@
 #include <QDialog>
 
 class QLabel;
+class QPlainTextEdit;
 class QPushButton;
 
 namespace corvala::dialogs::lineplot {
@@ -29,7 +30,8 @@ public:
 
     /// Shows the settings of the first line map; OK and Apply give them to all, as one undo step.
     /// Does nothing when the frame is not active, a line map does not exist, the line maps have
-    /// different curve types, or their curve type has no settings.
+    /// different fits, or their fit has no settings. Below stands what came of the fit, for the
+    /// first line map, where the program reports that.
     void launch(CvlUniqueId frame, toolbox::Set lineMaps);
 
 protected:
@@ -39,16 +41,18 @@ private:
     explicit CurveFitSettingsDialog(QWidget* parent);
     bool isUpToDate() const;
     void readSettings();
+    void showReport();
     void apply();
     void stateChanged(const toolbox::StateChangeEventInterface& event);
 
     QLabel* m_lineMapsLabel;
     CurveFitSettingsForm* m_form;
+    QPlainTextEdit* m_report;
     QPushButton* m_okButton;
     QPushButton* m_applyButton;
     CvlUniqueId m_frame = 0;
     toolbox::Set m_lineMaps;
-    CurveType_e m_type = CurveType_LineSegments;
+    propertybindings::CurveFitInfo m_fit;
     signaling::SignalConnectionCollection m_connections;
 };
 

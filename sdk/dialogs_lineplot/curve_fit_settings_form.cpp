@@ -6,6 +6,7 @@
 #include <sdk/toolbox/style_value.h>
 #include <sdk/uicommon/style_writing.h>
 
+#include <QDoubleSpinBox>
 #include <QDoubleValidator>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -21,7 +22,7 @@ static constexpr int kHighestOrder = 10;
 static bool isFit(CurveType_e type)
 {
     return type == CurveType_PolynomialFit || type == CurveType_ExponentialFit
-        || type == CurveType_PowerFit;
+        || type == CurveType_PowerFit || type == CurveType_Extended;
 }
 
 static bool isSpline(CurveType_e type)
@@ -54,14 +55,10 @@ CurveFitSettingsForm::CurveFitSettingsForm(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(makeOrderRow());
+    layout->addWidget(makeSmoothingRow());
     layout->addWidget(makeRangeGroup());
     layout->addWidget(makeWeightGroup());
     layout->addWidget(makeClampGroup());
-}
-
-bool CurveFitSettingsForm::hasSettings(CurveType_e type)
-{
-    return isFit(type) || isSpline(type);
 }
 
 QWidget* CurveFitSettingsForm::makeOrderRow()
@@ -73,6 +70,22 @@ QWidget* CurveFitSettingsForm::makeOrderRow()
     m_order->setRange(1, kHighestOrder);
     form->addRow(tr("&Polynomial order:"), m_order);
     return m_orderRow;
+}
+
+QWidget* CurveFitSettingsForm::makeSmoothingRow()
+{
+    constexpr int kDecimals = 6; // close to 1 the last ones matter
+    constexpr double kStep = 0.05;
+    m_smoothingRow = new QWidget(this);
+    auto* form = new QFormLayout(m_smoothingRow);
+    form->setContentsMargins(0, 0, 0, 0);
+    m_smoothing = new QDoubleSpinBox(m_smoothingRow);
+    m_smoothing->setRange(0.0, 1.0);
+    m_smoothing->setDecimals(kDecimals);
+    m_smoothing->setSingleStep(kStep);
+    m_smoothing->setToolTip(tr("0 is a straight line, 1 runs through all points"));
+    form->addRow(tr("C&loseness:"), m_smoothing);
+    return m_smoothingRow;
 }
 
 static QGroupBox* makeSwitchedGroup(const QString& title, CurveFitSettingsForm* parent)
@@ -124,14 +137,18 @@ QLineEdit* CurveFitSettingsForm::addNumber(QGroupBox& group, const QString& labe
     return edit;
 }
 
-void CurveFitSettingsForm::read(CurveType_e type, CvlInt64 lineMap)
+void CurveFitSettingsForm::read(const propertybindings::CurveFitInfo& fit, CvlInt64 lineMap)
 {
+    const CurveType_e type = fit.type();
     m_orderRow->setVisible(type == CurveType_PolynomialFit);
+    m_smoothingRow->setVisible(type == CurveType_Extended
+                               && fit.extendedFit() == ExtendedFit_SmoothingSpline);
     m_range->setVisible(isFit(type));
     m_weight->setVisible(isFit(type));
     m_clamp->setVisible(isSpline(type));
 
     m_order->setValue(setting<int>(kCurves.polyOrder, lineMap));
+    m_smoothing->setValue(setting<double>(kCurves.smoothing, lineMap));
     m_range->setChecked(setting<bool>(kCurves.useIndVarRange, lineMap));
     setNumber(*m_rangeBegin, setting<double>(kCurves.indVarMin, lineMap));
     setNumber(*m_rangeEnd, setting<double>(kCurves.indVarMax, lineMap));
@@ -173,6 +190,8 @@ void CurveFitSettingsForm::write(const toolbox::Set& lineMaps) const
     };
     if (!m_orderRow->isHidden())
         assign(kCurves.polyOrder, m_order->value());
+    if (!m_smoothingRow->isHidden())
+        assign(kCurves.smoothing, m_smoothing->value());
     if (assignSwitch(kCurves.useIndVarRange, m_range)) {
         assign(kCurves.indVarMin, number(*m_rangeBegin));
         assign(kCurves.indVarMax, number(*m_rangeEnd));

@@ -8,6 +8,7 @@
 namespace corvala::propertybindings {
 
 /// A small picture of points and of the curve that a fit draws through them.
-QIcon curveFitIcon(CurveType_e type);
+/// `extended` says which of the extended fits.
+QIcon curveFitIcon(CurveType_e type, ExtendedFit_e extended);
 
 } // namespace corvala::propertybindings

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <sdk/base/enums.h>
 #include <sdk/base/types.h>
+#include <sdk/propertybindings/curve_fit_info.h>
 #include <sdk/toolbox/set.h>
 
 #include <QWidget>
@@ -10,6 +10,7 @@
 #include <optional>
 
 class QCheckBox;
+class QDoubleSpinBox;
 class QGroupBox;
 class QLineEdit;
 class QSpinBox;
@@ -31,10 +32,8 @@ class CurveFitSettingsForm : public QWidget
 public:
     explicit CurveFitSettingsForm(QWidget* parent);
 
-    static bool hasSettings(CurveType_e type);
-
-    /// Shows the settings of a line map of the active frame, for that curve type.
-    void read(CurveType_e type, CvlInt64 lineMap);
+    /// Shows the settings of a line map of the active frame, for that fit.
+    void read(const propertybindings::CurveFitInfo& fit, CvlInt64 lineMap);
 
     /// Everything that would be written is complete, and the range does not end before it begins.
     bool isAcceptable() const;
@@ -47,6 +46,7 @@ Q_SIGNALS:
 
 private:
     QWidget* makeOrderRow();
+    QWidget* makeSmoothingRow();
     QGroupBox* makeRangeGroup();
     QGroupBox* makeWeightGroup();
     QGroupBox* makeClampGroup();
@@ -54,6 +54,8 @@ private:
 
     QWidget* m_orderRow;
     QSpinBox* m_order;
+    QWidget* m_smoothingRow;
+    QDoubleSpinBox* m_smoothing;
     QGroupBox* m_range;
     QLineEdit* m_rangeBegin;
     QLineEdit* m_rangeEnd;

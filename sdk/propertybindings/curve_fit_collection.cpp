@@ -9,14 +9,18 @@
 
 namespace corvala::propertybindings {
 
+static QString nameOf(const style::Choice& choice)
+{
+    return QCoreApplication::translate("StyleValues", choice.name);
+}
+
 CurveFitCollection::CurveFitCollection()
 {
-    for (const style::Choice& type : style::entryOf(style::lineMap.curves.curveType).choices) {
-        // A document says that a fit is extended, but not which one, so none can be offered.
+    for (const style::Choice& type : style::kCurveTypes)
         if (type.value != CurveType_Extended)
-            m_fits.emplace_back(static_cast<CurveType_e>(type.value),
-                                QCoreApplication::translate("StyleValues", type.name));
-    }
+            m_fits.emplace_back(static_cast<CurveType_e>(type.value), nameOf(type));
+    for (const style::Choice& fit : style::kExtendedFits)
+        m_fits.emplace_back(static_cast<ExtendedFit_e>(fit.value), nameOf(fit));
 }
 
 CurveFitInfo CurveFitCollection::get(int index) const
@@ -26,17 +30,15 @@ CurveFitInfo CurveFitCollection::get(int index) const
 
 CurveFitInfo CurveFitCollection::curveFitForLineMap(CvlUniqueId frame, CvlInt64 lineMap) const
 {
-    const toolbox::FrameStyleValue curveType(frame, style::lineMap.curves.curveType);
-    const auto type = curveType.read<int>(lineMap);
-    if (!type)
-        return {};
-    for (const CurveFitInfo& fit : m_fits) {
-        if (fit.type() == *type)
+    const auto read = [&](style::Key key) {
+        return toolbox::FrameStyleValue(frame, key).read<int>(lineMap).value_or(-1);
+    };
+    const int type = read(style::lineMap.curves.curveType);
+    const int extended = type == CurveType_Extended ? read(style::lineMap.curves.extendedFit) : -1;
+    for (const CurveFitInfo& fit : m_fits)
+        if (fit.type() == type && (extended < 0 || fit.extendedFit() == extended))
             return fit;
-    }
-    return CurveFitInfo::unavailable(
-        static_cast<CurveType_e>(*type),
-        QCoreApplication::translate("CurveFitCollection", "Unavailable fit"));
+    return {};
 }
 
 } // namespace corvala::propertybindings

@@ -7,7 +7,7 @@
 
 namespace corvala::propertybindings {
 
-/// The fits that this host offers, in the order of their types; extended fits would come last.
+/// The fits that this host offers, in the order of their types, the extended ones last.
 class CurveFitCollection
 {
 public:
@@ -20,8 +20,7 @@ public:
     const_iterator begin() const { return m_fits.begin(); }
     const_iterator end() const { return m_fits.end(); }
 
-    /// The fit that a line map has. Not valid for a line map or frame that does not exist, and for
-    /// a fit that this host does not offer (which still has its type and a name).
+    /// The fit that a line map has. Not valid for a line map or frame that does not exist.
     CurveFitInfo curveFitForLineMap(CvlUniqueId frame, CvlInt64 lineMap) const;
 
 private:

@@ -51,6 +51,8 @@ public:
             : tr("Not clamped");
     }
 
+    QString closeness() const { return tr("Closeness=%1").arg(number(kCurves.smoothing)); }
+
     static QString none() { return tr("N/A"); }
 
 private:
@@ -69,21 +71,23 @@ private:
 
 } // namespace
 
-QString curveFitDetails(CurveType_e type, CvlUniqueId frame, CvlInt64 lineMap)
+QString curveFitDetails(const CurveFitInfo& fit, CvlUniqueId frame, CvlInt64 lineMap)
 {
     const Details details(frame, lineMap);
     const QString separator = QStringLiteral(", ");
-    switch (type) {
+    const QString points = details.range() + separator + details.weighting();
+    switch (fit.type()) {
     case CurveType_LineSegments: return Details::none();
-    case CurveType_PolynomialFit:
-        return details.order() + separator + details.range() + separator + details.weighting();
+    case CurveType_PolynomialFit: return details.order() + separator + points;
     case CurveType_ExponentialFit:
-    case CurveType_PowerFit: return details.range() + separator + details.weighting();
+    case CurveType_PowerFit: return points;
     case CurveType_Spline:
     case CurveType_ParametricSpline: return details.clamping();
     case CurveType_Extended: break;
     }
-    return {};
+    return fit.extendedFit() == ExtendedFit_SmoothingSpline
+        ? details.closeness() + separator + points
+        : points;
 }
 
 } // namespace corvala::propertybindings

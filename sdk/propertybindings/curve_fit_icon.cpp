@@ -12,7 +12,7 @@ static constexpr int kPixelSides[] = {16, 24, 32, 48};
 
 static constexpr QPointF kPoints[] = {{2, 12}, {6, 5}, {10, 9}, {14, 3}};
 
-static QPainterPath curveOf(CurveType_e type)
+static QPainterPath curveOf(CurveType_e type, ExtendedFit_e extended)
 {
     QPainterPath path(kPoints[0]);
     switch (type) {
@@ -33,12 +33,20 @@ static QPainterPath curveOf(CurveType_e type)
         path.cubicTo(QPointF(7, 9), QPointF(8, 11), kPoints[2]);
         path.cubicTo(QPointF(12, 7), QPointF(11, 2), kPoints[3]);
         break;
-    case CurveType_Extended: path.lineTo(QPointF(14, 4)); break;
+    case CurveType_Extended:
+        if (extended == ExtendedFit_Gaussian) {
+            path = QPainterPath(QPointF(1, 13));
+            path.cubicTo(QPointF(6, 13), QPointF(6, 4), QPointF(8, 4));
+            path.cubicTo(QPointF(10, 4), QPointF(10, 13), QPointF(15, 13));
+        } else {
+            path.cubicTo(QPointF(6, 5), QPointF(9, 10), kPoints[3]);
+        }
+        break;
     }
     return path;
 }
 
-static QPixmap painted(CurveType_e type, int side)
+static QPixmap painted(const QPainterPath& curve, int side)
 {
     QPixmap pixmap(side, side);
     pixmap.fill(Qt::transparent);
@@ -46,7 +54,7 @@ static QPixmap painted(CurveType_e type, int side)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(double(side) / kSide, double(side) / kSide);
     painter.setPen(QPen(QColor(58, 90, 149), 1.2));
-    painter.drawPath(curveOf(type));
+    painter.drawPath(curve);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(194, 72, 9));
     for (const QPointF& point : kPoints)
@@ -54,11 +62,11 @@ static QPixmap painted(CurveType_e type, int side)
     return pixmap;
 }
 
-QIcon curveFitIcon(CurveType_e type)
+QIcon curveFitIcon(CurveType_e type, ExtendedFit_e extended)
 {
     QIcon icon;
     for (const int side : kPixelSides)
-        icon.addPixmap(painted(type, side));
+        icon.addPixmap(painted(curveOf(type, extended), side));
     return icon;
 }
 

@@ -16,31 +16,36 @@ CurveFitInfo::CurveFitInfo(CurveType_e type, QString name)
 {
 }
 
-CurveFitInfo CurveFitInfo::unavailable(CurveType_e type, QString name)
+CurveFitInfo::CurveFitInfo(ExtendedFit_e fit, QString name)
+    : m_isValid(true)
+    , m_type(CurveType_Extended)
+    , m_extendedFit(fit)
+    , m_name(std::move(name))
 {
-    CurveFitInfo info(type, std::move(name));
-    info.m_isValid = false;
-    return info;
 }
 
 QIcon CurveFitInfo::icon() const
 {
-    return m_isValid ? curveFitIcon(m_type) : QIcon();
+    return m_isValid ? curveFitIcon(m_type, m_extendedFit) : QIcon();
 }
 
 boost::function<void(const toolbox::Set&)> CurveFitInfo::curveFitAssigner() const
 {
     if (!m_isValid)
         return {};
-    return [type = m_type](const toolbox::Set& lineMaps) {
-        sdk::ui::writeStyle(style::lineMap.curves.curveType, &lineMaps, type);
+    return [type = m_type, extended = m_extendedFit](const toolbox::Set& lineMaps) {
+        // The type follows the choice among the extended fits.
+        if (type == CurveType_Extended)
+            sdk::ui::writeStyle(style::lineMap.curves.extendedFit, &lineMaps, extended);
+        else
+            sdk::ui::writeStyle(style::lineMap.curves.curveType, &lineMaps, type);
     };
 }
 
 QString CurveFitInfo::detailsForLineMap(CvlUniqueId frame, CvlInt64 lineMap) const
 {
     const bool exists = lineMap >= 1 && lineMap <= CvlUtilLineMapGetCountForFrame(frame);
-    return m_isValid && exists ? curveFitDetails(m_type, frame, lineMap) : QString();
+    return m_isValid && exists ? curveFitDetails(*this, frame, lineMap) : QString();
 }
 
 boost::function<void()> CurveFitInfo::settingsDialogAction(CvlUniqueId frame,
@@ -56,7 +61,7 @@ boost::function<void()> CurveFitInfo::settingsDialogAction(CvlUniqueId frame,
 bool operator==(const CurveFitInfo& left, const CurveFitInfo& right)
 {
     return left.m_isValid == right.m_isValid && left.m_type == right.m_type
-        && (left.m_type != CurveType_Extended || left.m_name == right.m_name);
+        && (left.m_type != CurveType_Extended || left.m_extendedFit == right.m_extendedFit);
 }
 
 } // namespace corvala::propertybindings

@@ -18,11 +18,13 @@ class CurveFitInfo
 public:
     CurveFitInfo() = default; ///< not valid
     CurveFitInfo(CurveType_e type, QString name); ///< `name` as shown, translated
+    CurveFitInfo(ExtendedFit_e fit, QString name); ///< one of the extended fits
 
-    /// False for a fit that this host does not offer; it cannot be assigned and has no settings.
     bool isValid() const { return m_isValid; }
     QString name() const { return m_name; }
     CurveType_e type() const { return m_type; }
+    /// Which of the extended fits; of no meaning for other types.
+    ExtendedFit_e extendedFit() const { return m_extendedFit; }
     QIcon icon() const; ///< painted when first asked for; null for a fit that is not valid
 
     /// Gives the fit to line maps of the active frame, in one host call. Empty when not valid.
@@ -36,10 +38,7 @@ public:
     boost::function<void()> settingsDialogAction(CvlUniqueId frame,
                                                  const toolbox::Set& lineMaps) const;
 
-    /// A fit the host does not offer, but a document has.
-    static CurveFitInfo unavailable(CurveType_e type, QString name);
-
-    /// Same type, and for an extended fit the same name.
+    /// Same type, and the same one of the extended fits.
     friend bool operator==(const CurveFitInfo& left, const CurveFitInfo& right);
     friend bool operator!=(const CurveFitInfo& left, const CurveFitInfo& right)
     {
@@ -49,6 +48,7 @@ public:
 private:
     bool m_isValid = false;
     CurveType_e m_type = CurveType_LineSegments;
+    ExtendedFit_e m_extendedFit = ExtendedFit_SmoothingSpline;
     QString m_name;
 };
 

@@ -305,15 +305,7 @@ private Q_SLOTS:
         const auto curve = [](double type) {
             return Setting {"LineMap.Curves.CurveType", "1", type};
         };
-        const Setting inRange {"LineMap.Curves.UseIndVarRange", "1", 1};
-        const Setting weighted {"LineMap.Curves.UseWeightVar", "1", 1};
         row("segments", "curves", {}, "1|Force|[x]|Line segments|y=f(x)|(500)|(N/A)");
-        row("polynomial", "curves", {curve(1)},
-            "1|Force|[x]|Polynomial fit|y=f(x)|500|Order=3, Using all points, Not using weighting "
-            "variable");
-        row("power", "curves",
-            {curve(3), inRange, weighted, {"LineMap.Curves.IndVarMax", "1", 2.5}},
-            "1|Force|[x]|Power fit|y=f(x)|500|Points range=0,2.5, Weighting variable=Time");
         row("clamped spline", "polar curves",
             {curve(4),
              {"LineMap.Curves.ClampSpline", "1", 1},
@@ -321,7 +313,9 @@ private Q_SLOTS:
             "1|Angle|[x]|Spline|Theta=f(R)|500|Clamped: D1=0, D2=0");
         row("parametric spline", "curves", {curve(5)},
             "1|Force|[x]|Parametric spline|(y=f(x))|500|Not clamped");
-        row("fit of another host", "curves", {curve(6)}, "1|Force|[x]|Unavailable fit|y=f(x)|500|");
+        row("extended fit", "curves", {curve(6)},
+            "1|Force|[x]|Smoothing spline|y=f(x)|500|Closeness=0.9, Using all points, Not using "
+            "weighting variable");
 
         const Setting marks {"LinePlotLayers.ShowSymbols", "", 1};
         row("symbol layer off", "symbols", {},
@@ -503,7 +497,8 @@ private Q_SLOTS:
         row("lines", "Line Thickness", 2, "FieldMap.Lines.LineThickness 2-3 = 2 (3)");
         row("lines", "Pattern Length", 2, "FieldMap.Lines.PatternLength 2-3 = 2 (3)");
         row("curves", "Curve Type", "power fit", "LineMap.Curves.CurveType 2-3 = 3");
-        row("curves", "Curve Type", 6, "");
+        row("curves", "Curve Type", 6, "LineMap.Curves.ExtendedFit 2-3 = 0");
+        row("curves", "Curve Type", 8, "");
         row("curves", "Curve Points", "250", "LineMap.Curves.NumPts 2-3 = 250");
         row("polar curves", "Dependent Variable", "theta=f(r)",
             "LineMap.Assign.FunctionDependency 2-3 = 1");
@@ -656,8 +651,9 @@ private Q_SLOTS:
             "LineMap.Lines.LineThickness 1,3 = 0.05");
         row("lines", "Line Color", "<colors>");
         row("curves", "Curve Type",
-            "Line segments|Polynomial fit|Exponential fit|Power fit|Spline|Parametric spline",
-            "Spline", "LineMap.Curves.CurveType 1,3 = 4");
+            "Line segments|Polynomial fit|Exponential fit|Power fit|Spline|Parametric spline|-|"
+            "Smoothing spline|Gaussian",
+            "Gaussian", "LineMap.Curves.ExtendedFit 1,3 = 1");
         row("curves", "Curve Points", "250|500|1000|-|Enter...", "1000",
             "LineMap.Curves.NumPts 1,3 = 1000");
         row("curves", "Curve Setting", "(&Settings...)");

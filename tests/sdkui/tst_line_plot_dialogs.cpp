@@ -88,7 +88,7 @@ private Q_SLOTS:
         }
         QCOMPARE(names,
                  QStringList({"Line segments", "Polynomial fit", "Exponential fit", "Power fit",
-                              "Spline", "Parametric spline"}));
+                              "Spline", "Parametric spline", "Smoothing spline", "Gaussian"}));
         QVERIFY(fits.get(1).icon().pixmap(16).toImage() != fits.get(3).icon().pixmap(16).toImage());
         QVERIFY(!fits.get(-1).isValid());
         QVERIFY(!fits.get(fits.size()).isValid());
@@ -96,24 +96,22 @@ private Q_SLOTS:
 
     void collectionFindsTheFitOfALineMap_data()
     {
-        const Rows<int, bool> row;
-        for (int type = CurveType_LineSegments; type <= CurveType_ParametricSpline; ++type)
-            row(QString::asprintf("%d", type), type, true);
-        row("extended", CurveType_Extended, false);
+        const Rows<int> row;
+        for (int type = CurveType_LineSegments; type <= CurveType_Extended; ++type)
+            row(QString::asprintf("%d", type), type);
     }
 
     void collectionFindsTheFitOfALineMap()
     {
-        const auto [type, valid] = currentRow<int, bool>();
+        const auto [type] = currentRow<int>();
         setCurve(tests::setOf({2}), "CurveType", type);
         const CurveFitCollection fits;
         const CurveFitInfo fit = fits.curveFitForLineMap(CvlUtilFrameGetUniqueID(), 2);
-        QCOMPARE(fit.isValid(), valid);
         QCOMPARE(int(fit.type()), type);
         QVERIFY(!fit.name().isEmpty());
-        QCOMPARE(bool(fit.curveFitAssigner()), valid);
+        QVERIFY(fit.isValid() && fit.curveFitAssigner());
         QCOMPARE(bool(fit.settingsDialogAction(CvlUtilFrameGetUniqueID(), tests::setOf({2}))),
-                 valid && type != CurveType_LineSegments);
+                 type != CurveType_LineSegments);
         for (const CvlInt64 map : {0, 7})
             QVERIFY(!fits.curveFitForLineMap(CvlUtilFrameGetUniqueID(), map).isValid());
         QVERIFY(!fits.curveFitForLineMap(987654, 2).isValid());
@@ -123,7 +121,8 @@ private Q_SLOTS:
     {
         QVERIFY(CurveFitInfo(CurveType_Spline, "a") == CurveFitInfo(CurveType_Spline, "b"));
         QVERIFY(CurveFitInfo(CurveType_Spline, "a") != CurveFitInfo(CurveType_PowerFit, "a"));
-        QVERIFY(CurveFitInfo(CurveType_Extended, "a") != CurveFitInfo(CurveType_Extended, "b"));
+        QVERIFY(CurveFitInfo(ExtendedFit_Gaussian, "a")
+                != CurveFitInfo(ExtendedFit_SmoothingSpline, "a"));
         QVERIFY(CurveFitInfo() != CurveFitInfo(CurveType_LineSegments, {}));
     }
 
@@ -154,6 +153,9 @@ private Q_SLOTS:
             "Order=5, Points range=0.5,2e+07, Weighting variable=Error");
         row("power", {{"CurveType", 3}, {"PolyOrder", 5}},
             "Using all points, Not using weighting variable");
+        row("smoothing spline", {{"ExtendedFit", 0}, {"Smoothing", 0.25}},
+            "Closeness=0.25, Using all points, Not using weighting variable");
+        row("Gaussian", {{"ExtendedFit", 1}}, "Using all points, Not using weighting variable");
         row("spline", {{"CurveType", 4}}, "Not clamped");
         row("clamped spline",
             {{"CurveType", 5}, {"ClampSpline", 1}, {"SplineDerivativeAtEnd", -1.25}},
