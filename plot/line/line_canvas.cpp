@@ -63,7 +63,7 @@ void LineCanvas::resizeEvent(QResizeEvent* event)
 
 CvlInt64 LineCanvas::numberAt(const QPointF& place)
 {
-    return m_plot.chart().lineAt(place, kPickPixels);
+    return m_plot.chart().mapAt(place, kPickPixels);
 }
 
 bool LineCanvas::dragged(const QPointF&)

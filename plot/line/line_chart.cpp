@@ -5,7 +5,7 @@
 
 namespace corvala::plot {
 
-/// What the plot knows of the lines: something to draw between its grid and its axes.
+/// What the plot knows of the shapes: something to draw between its grid and its axes.
 class LineChart::Sheet : public QCPLayerable
 {
 public:
@@ -31,29 +31,21 @@ LineChart::LineChart(QCustomPlot& plot)
 
 LineChart::~LineChart() = default;
 
-void LineChart::setLinesVisible(bool isVisible)
-{
-    m_sheet->setVisible(isVisible);
-}
-
-bool LineChart::areLinesVisible() const
-{
-    return m_sheet->visible();
-}
-
-bool LineChart::hasWork() const
-{
-    return areLinesVisible() && m_ink.hasWork();
-}
-
 void LineChart::draw(QCPPainter& painter)
 {
+    if (m_beforeDrawing)
+        m_beforeDrawing();
     const QRegion shape = outline();
     const QRect place = shape.boundingRect();
-    const double ratio = painter.device()->devicePixelRatioF();
     ChartView seen = view();
     seen.visible = {static_cast<double>(place.left()), place.left() + place.width() + 0.0,
                     static_cast<double>(place.top()), place.top() + place.height() + 0.0};
+    painter.setClipRegion(shape, Qt::IntersectClip);
+    if (painter.modes().testFlag(QCPPainter::pmVectorized)) {
+        m_ink.paint(painter, seen);
+        return;
+    }
+    const double ratio = painter.device()->devicePixelRatioF();
     const QSize size(static_cast<int>(std::ceil(place.width() * ratio)),
                      static_cast<int>(std::ceil(place.height() * ratio)));
     m_ink.setView(seen.seenFrom(place.topLeft(), ratio), size, ratio);
@@ -61,14 +53,12 @@ void LineChart::draw(QCPPainter& painter)
         m_ink.advance(m_patience);
     QImage picture = m_ink.picture();
     picture.setDevicePixelRatio(ratio);
-    painter.setClipRegion(shape, Qt::IntersectClip);
     painter.drawImage(place.topLeft(), picture);
 }
 
-std::int64_t LineChart::lineAt(const QPointF& pixel, double tolerance)
+std::int64_t LineChart::mapAt(const QPointF& pixel, double tolerance)
 {
-    const bool isSeen = areLinesVisible() && outline().contains(pixel.toPoint());
-    return isSeen ? m_ink.lineAt(view(), pixel, tolerance) : 0;
+    return outline().contains(pixel.toPoint()) ? m_ink.mapAt(view(), pixel, tolerance) : 0;
 }
 
 } // namespace corvala::plot

@@ -3,20 +3,15 @@
 
 #include "plot/line/custom_plot.h"
 #include "plot/line/line_ink.h"
+#include "plot/line/line_plane.h"
 
 #include <QString>
 
+#include <functional>
 #include <memory>
-#include <vector>
+#include <utility>
 
 namespace corvala::plot {
-
-/// Points of a line in the order in which they are joined.
-struct LineData
-{
-    std::vector<double> first; ///< X, or the angle in degrees
-    std::vector<double> second; ///< Y, or the radius
-};
 
 /// What is written along the axes.
 struct ChartTitles
@@ -25,43 +20,42 @@ struct ChartTitles
     std::array<QString, kAxisCount> second;
 };
 
-/// Axes with lines in a QCustomPlot; XY and polar charts are its kinds. Lines are known by the
-/// number of their map. Whenever the plot is drawn, the lines follow the axes for a moment; what is
-/// left then is work of the ink.
+/// Axes with the shapes of line maps in a QCustomPlot; XY and polar charts are its kinds. Whenever
+/// the plot is drawn, the shapes follow the axes for a moment; what is left then is work of the
+/// ink.
 class LineChart
 {
 public:
     explicit LineChart(QCustomPlot& plot);
     virtual ~LineChart();
 
-    virtual void setLine(std::int64_t map, LineData data) = 0; ///< new or changed
-    virtual void removeLine(std::int64_t map) { m_ink.remove(map); }
+    /// The plane in which shapes along two axes lie at present.
+    virtual LinePlane plane(const LineAxes& axes) const = 0;
+    /// To be called before each drawing, as long as the chart lives: shapes that lie in another
+    /// plane than the present one are to be made again.
+    void setBeforeDrawing(std::function<void()> action) { m_beforeDrawing = std::move(action); }
     virtual void setTitles(const ChartTitles& titles) = 0;
-    /// Shows the axes that lines are drawn along.
+    /// Shows the axes that shapes are drawn along.
     virtual void updateAxes() { }
-    /// Shows all lines with a margin.
-    virtual void fit() = 0;
+    /// Shows all shapes with a margin; `radii` are those of all points.
+    virtual void fit(const AxisRange& radii) = 0;
     virtual ChartRange range() const = 0;
     virtual void setRange(const ChartRange& range) = 0;
     virtual void setFont(const QFont& font) = 0;
 
-    /// The line nearest to a pixel, up to `tolerance` pixels away; 0 for none.
-    std::int64_t lineAt(const QPointF& pixel, double tolerance);
+    /// The map of the shape nearest to a pixel, up to `tolerance` pixels away; 0 for none.
+    std::int64_t mapAt(const QPointF& pixel, double tolerance);
     LineInk& ink() { return m_ink; }
     const LineInk& ink() const { return m_ink; }
-    /// Shows or hides all lines.
-    void setLinesVisible(bool isVisible);
-    bool areLinesVisible() const;
-    /// Whether lines are to be seen that are not drawn yet.
-    bool hasWork() const;
-    /// How long drawing the plot may draw lines at once; negative until all is done.
+    bool hasWork() const { return m_ink.hasWork(); }
+    /// How long drawing the plot may draw shapes at once; negative until all is done.
     void setPatience(int milliseconds) { m_patience = milliseconds; }
     int patience() const { return m_patience; }
 
 protected:
-    /// How the lines lie in the widget at present, whatever is outside left out.
+    /// How the shapes lie in the widget at present, whatever is outside left out.
     virtual ChartView view() = 0;
-    virtual QRegion outline() const = 0; ///< of the lines
+    virtual QRegion outline() const = 0; ///< of the shapes
 
 private:
     class Sheet;
@@ -69,6 +63,7 @@ private:
 
     LineInk m_ink;
     std::unique_ptr<Sheet> m_sheet;
+    std::function<void()> m_beforeDrawing;
     int m_patience = 60;
 };
 

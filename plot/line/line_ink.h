@@ -1,94 +1,96 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "plot/line/chart_shape.h"
 #include "plot/line/line_axes.h"
-#include "plot/line/line_tracer.h"
-#include "plot/line/stroke_mask.h"
 
-#include <QColor>
 #include <QImage>
 
 #include <cstdint>
 #include <map>
 #include <memory>
-#include <optional>
+#include <tuple>
 #include <utility>
-#include <vector>
 
 namespace corvala::plot {
 
-/// How a line is stroked; lengths in pixels of the widget.
-struct LineStroke
+/// Which shape of a chart: by layer, from back to front, and within a layer by map.
+struct ShapeKey
 {
-    QColor color;
-    double width = 1.0; ///< at least 1
-    std::vector<double> pattern; ///< strokes and gaps in turn; empty for a solid line
+    std::size_t layer = 0;
+    std::int64_t map = 0;
+
+    bool operator<(const ShapeKey& other) const
+    {
+        return std::tie(layer, map) < std::tie(other.layer, other.map);
+    }
 };
 
-/// A picture of lines, made in slices. Lines are known by the number of their map and drawn in this
-/// order. What a picture shows depends on the lines and the view only, and not on the slices.
+/// A picture of the shapes of a chart, made in slices in the order of their keys. What a picture
+/// shows depends on the shapes and the view only, and not on the slices.
 class LineInk
 {
 public:
     LineInk();
     ~LineInk();
 
-    /// Pixels that the strokes of one line may cover at its own width, each as often as it is
-    /// covered. A line that would cover more is drawn thin, solid and without smoothing.
-    static constexpr double kMostInk = 3e8;
-
-    /// A new or changed line.
-    void setLine(std::int64_t map, Polyline line);
-    /// How a line that is there is drawn.
-    void setLook(std::int64_t map, LineStroke stroke, const LineAxes& axes = {});
-    void remove(std::int64_t map);
+    /// A new or changed shape, along two of the axes.
+    void set(const ShapeKey& key, std::shared_ptr<const ChartShape> shape,
+             const LineAxes& axes = {});
+    void remove(const ShapeKey& key);
+    /// Shows the layers of these bits; all are shown at first.
+    void setLayers(std::uint32_t layers);
 
     /// Draws what this view shows from now on, `ratio` pixels to a pixel of the widget.
     void setView(const ChartView& view, const QSize& size, double ratio);
-    /// Whether nothing is drawn yet of the lines and the view as they are now.
+    /// Whether nothing is drawn yet of the shapes and the view as they are now.
     bool isStale() const { return m_isStale; }
     /// Works for about `milliseconds`, negative until all is done; true while work is left.
     bool advance(int milliseconds);
     bool hasWork() const { return m_hasWork && !m_isCancelled; }
-    /// Done and in all, in hundredths of a line.
+    /// Done and in all, in hundredths of a shape.
     std::pair<std::int64_t, std::int64_t> progress() const;
     void cancel() { m_isCancelled = m_hasWork; }
     void resume() { m_isCancelled = false; }
 
-    /// What is drawn so far; of lines or a view that are no more, while it is stale.
+    /// What is drawn so far; of shapes or a view that are no more, while it is stale.
     QImage picture() const;
-    /// Lines that are missing because drawing was cancelled.
+    /// Shapes that are missing because drawing was cancelled.
     std::int64_t missingCount() const;
-    /// Lines that are drawn thinner than they look.
-    int thinnedCount() const { return m_thinned; }
+    /// Shapes that are drawn simpler than they look.
+    int simplifiedCount() const { return m_simplified; }
 
-    /// The line nearest to a pixel of a view, less than `tolerance` pixels away; 0 for none.
-    std::int64_t lineAt(const ChartView& view, const QPointF& pixel, double tolerance) const;
+    /// Draws all shapes of a view at once, as lines, areas and texts of the painter.
+    void paint(QPainter& painter, const ChartView& view) const;
 
-    struct Line
+    /// The map of the shape nearest to a pixel of a view, less than `tolerance` pixels away; 0 for
+    /// none.
+    std::int64_t mapAt(const ChartView& view, const QPointF& pixel, double tolerance) const;
+
+    struct Placed
     {
-        Polyline points; ///< in the plane of its axes
-        LineStroke stroke;
+        std::shared_ptr<const ChartShape> shape;
         LineAxes axes;
     };
-    const std::map<std::int64_t, Line>& lines() const { return m_lines; }
+    const std::map<ShapeKey, Placed>& shapes() const { return m_shapes; }
+    bool isShown(const ShapeKey& key) const { return (m_layers >> key.layer & 1U) != 0; }
 
 private:
-    class Stroker;
-
     void restart();
     void wipe();
-    void paintOn(QImage& picture) const; ///< what there is of the line in work
+    bool beginNext();
+    std::int64_t shownCount() const;
 
-    std::map<std::int64_t, Line> m_lines;
+    std::map<ShapeKey, Placed> m_shapes;
+    std::uint32_t m_layers = ~0U;
     ChartView m_view; ///< in pixels of the picture
     double m_ratio = 1.0;
-    QImage m_picture; ///< the lines that are done
+    QImage m_picture; ///< the shapes that are done
     StrokeMask m_mask;
-    std::int64_t m_current = 0; ///< map of the line in work
-    std::unique_ptr<Stroker> m_stroker; ///< of the line in work; null between lines
-    std::int64_t m_done = 0; ///< lines
-    int m_thinned = 0;
+    ShapeKey m_current; ///< of the shape in work, or of the one before
+    std::unique_ptr<ShapeDrawing> m_drawing; ///< null between shapes
+    std::int64_t m_done = 0; ///< shapes
+    int m_simplified = 0;
     bool m_hasWork = false;
     bool m_isStale = false;
     bool m_isCancelled = false;

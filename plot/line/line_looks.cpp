@@ -8,15 +8,6 @@ namespace corvala::plot {
 
 static constexpr const auto& kMap = style::lineMap;
 
-LineRecipe recipeOf(const host::Frame& frame, CvlInt64 map)
-{
-    const bool isPolar = frame.plotType() == PlotType_LinePolar;
-    const auto& keys = kMap.assign;
-    return {frame.lineInteger(keys.zone, map),
-            frame.lineInteger(isPolar ? keys.thetaAxisVar : keys.xAxisVar, map),
-            frame.lineInteger(isPolar ? keys.rAxisVar : keys.yAxisVar, map)};
-}
-
 LineAxes axesOf(const host::Frame& frame, CvlInt64 map)
 {
     if (frame.plotType() == PlotType_LinePolar)
@@ -29,10 +20,25 @@ LineAxes axesOf(const host::Frame& frame, CvlInt64 map)
 
 /// What layers use besides the values of their own.
 enum Use : unsigned {
-    Assigned = 1 ///< zone, variables and axes
+    Points = 1, ///< zone, variables, axes and indices, and how the axes are divided
+    Curves = 2, ///< how points are joined or fitted
+    Beside = 4 ///< no layer: axes, legend and titles
 };
 static constexpr SharedStyle kShared[] = {
-    {kMap.assign.zone, true, Assigned},
+    {kMap.assign.zone, true, Points},
+    {kMap.indices.ijkLines, true, Points},
+    {kMap.indices.ranges.iRange.min, true, Points},
+    {kMap.indices.ranges.jRange.min, true, Points},
+    {kMap.indices.ranges.kRange.min, true, Points},
+    {kMap.curves.curveType, true, Curves},
+    {style::lineAxes.x.scale, false, Points},
+    {style::lineAxes.y.scale, false, Points},
+    {style::lineAxes.x.scale, true, Beside},
+    {style::lineAxes.y.scale, true, Beside},
+    {style::lineAxes.polar.start, true, Beside},
+    {style::lineLegend.show, true, Beside},
+    {style::lineFrame.title, true, Beside},
+    {kMap.name, false, Beside},
     {style::activeLineMaps, false},
 };
 
@@ -40,7 +46,7 @@ static constexpr SharedStyle kShared[] = {
 struct LineLayerDescription
 {
     SceneLayer layer;
-    const ChartLayer* chart;
+    std::shared_ptr<const ChartShape> (*shape)(const ShownLine&, const LineGeometry&);
 
     bool isIn(const host::Frame& frame, CvlInt64 map) const
     {
@@ -48,7 +54,10 @@ struct LineLayerDescription
     }
 };
 static constexpr LineLayerDescription kLayers[] = {
-    {{&style::kLinesLayer, Assigned}, &kChartLines},
+    {{&style::kBarChartsLayer, Points}, barShape},
+    {{&style::kErrorBarsLayer, Points}, errorBarShape},
+    {{&style::kLinesLayer, Points | Curves}, curveShape},
+    {{&style::kSymbolsLayer, Points}, symbolShape},
 };
 
 static const SceneLayer& layerAt(std::size_t number)
@@ -69,9 +78,10 @@ const SceneKind& lineSceneKind()
     return kKind;
 }
 
-const ChartLayer& chartLayer(std::size_t layer)
+std::shared_ptr<const ChartShape> shapeIn(std::size_t layer, const ShownLine& line,
+                                          const LineGeometry& geometry)
 {
-    return *kLayers[layer].chart;
+    return kLayers[layer].shape(line, geometry);
 }
 
 bool isInLayer(const host::Frame& frame, CvlInt64 map, std::size_t layer)
@@ -82,6 +92,13 @@ bool isInLayer(const host::Frame& frame, CvlInt64 map, std::size_t layer)
 bool isLayerOn(const host::Frame& frame, std::size_t layer)
 {
     return frame.isOn(layerAt(layer).shown);
+}
+
+bool isSeen(const host::Frame& frame, CvlInt64 map)
+{
+    return std::any_of(std::begin(kLayers), std::end(kLayers), [&](const auto& layer) {
+        return frame.isOn(layer.layer.shown) && layer.isIn(frame, map);
+    });
 }
 
 bool isInAnyLayer(const host::Frame& frame, CvlInt64 map)

@@ -2,11 +2,12 @@
 #include "plot/line/line_plot.h"
 
 #include "host/document/line_map_name.h"
-#include "plot/line/line_data.h"
 
 #include <QElapsedTimer>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <utility>
 
 namespace corvala::plot {
@@ -16,7 +17,6 @@ LinePlot::LinePlot(QCustomPlot& plot)
     , m_plot(plot)
     , m_chart(makeXyChart(plot))
     , m_patience(m_chart->patience())
-    , m_recipes(lineSceneKind().layerCount)
 {
 }
 
@@ -28,9 +28,10 @@ void LinePlot::clear(const host::Frame* drawn, Fresh)
     m_chart.reset();
     m_chart = isPolar() ? makePolarChart(m_plot) : makeXyChart(m_plot);
     m_chart->setPatience(m_patience);
+    m_chart->setBeforeDrawing([this] { followPlanes(); });
     if (!m_isFitted && m_plotType == plotTypeBefore)
         m_chart->setRange(range);
-    m_recipes.assign(m_recipes.size(), {});
+    m_geometries.clear();
     applyHeight();
 }
 
@@ -57,11 +58,9 @@ void LinePlot::setPatience(int milliseconds)
 LayerMask LinePlot::showLayers(const host::Frame& drawn)
 {
     LayerMask shown = 0;
-    for (std::size_t layer = 0; layer < m_recipes.size(); ++layer) {
-        const bool isOn = isLayerOn(drawn, layer);
-        chartLayer(layer).setVisible(*m_chart, isOn);
-        shown |= isOn ? maskOf(layer) : 0;
-    }
+    for (std::size_t layer = 0; layer < lineSceneKind().layerCount; ++layer)
+        shown |= isLayerOn(drawn, layer) ? maskOf(layer) : 0;
+    m_chart->ink().setLayers(shown);
     return shown;
 }
 
@@ -72,35 +71,76 @@ bool LinePlot::canShow(const host::Frame& drawn, CvlInt64 map) const
 
 void LinePlot::forget(CvlInt64 map)
 {
-    for (std::size_t layer = 0; layer < m_recipes.size(); ++layer)
-        removeFrom(layer, map);
+    for (std::size_t layer = 0; layer < lineSceneKind().layerCount; ++layer)
+        m_chart->ink().remove({layer, map});
+    m_geometries.erase(map);
 }
 
-void LinePlot::removeFrom(std::size_t layer, CvlInt64 map)
+/// Made again only where something of it is another one.
+const LineGeometry& LinePlot::geometryOf(const ShownLine& line)
 {
-    chartLayer(layer).remove(*m_chart, map);
-    m_recipes[layer].erase(map);
+    LineGeometry& geometry = m_geometries[line.map];
+    const LineRecipe recipe = recipeOf(line.frame, line.map);
+    const LinePlane plane = m_chart->plane(axesOf(line.frame, line.map));
+    const bool hasPoints = geometry.points && geometry.recipe == recipe;
+    if (!hasPoints) {
+        geometry.recipe = recipe;
+        geometry.points =
+            std::make_shared<const LinePoints>(linePoints(*line.frame.data(), recipe));
+    }
+    if (!hasPoints || !(geometry.plane == plane)) {
+        geometry.plane = plane;
+        geometry.places = std::make_shared<const Polyline>(inPlane(*geometry.points, plane));
+        geometry.curve = geometry.places;
+    }
+    return geometry;
 }
 
 void LinePlot::syncLayer(std::size_t layer, const ShownLine& line, bool isShown)
 {
-    if (!isShown || !isInLayer(line.frame, line.map, layer)) {
-        removeFrom(layer, line.map);
+    std::shared_ptr<const ChartShape> shape;
+    if (isShown && isInLayer(line.frame, line.map, layer))
+        shape = shapeIn(layer, line, geometryOf(line));
+    if (shape)
+        m_chart->ink().set({layer, line.map}, std::move(shape), axesOf(line.frame, line.map));
+    else
+        m_chart->ink().remove({layer, line.map});
+}
+
+/// Shapes are made again whose plane the user has changed by moving an axis.
+void LinePlot::followPlanes()
+{
+    const host::Frame* const drawn = frame();
+    if (!drawn)
         return;
+    for (const auto& [map, geometry] : m_geometries) {
+        if (geometry.plane == m_chart->plane(axesOf(*drawn, map)))
+            continue;
+        for (std::size_t layer = 0; layer < lineSceneKind().layerCount; ++layer)
+            if (m_chart->ink().shapes().count({layer, map}) > 0)
+                syncLayer(layer, {*drawn, map, m_height}, true);
     }
-    const LineRecipe recipe = recipeOf(line.frame, line.map);
-    const auto known = m_recipes[layer].find(line.map);
-    if (known == m_recipes[layer].end() || !(known->second == recipe)) {
-        chartLayer(layer).setPoints(*m_chart, line.map, lineData(*line.frame.data(), recipe));
-        m_recipes[layer][line.map] = recipe;
+}
+
+AxisRange LinePlot::radii() const
+{
+    AxisRange range {std::numeric_limits<double>::infinity(),
+                     -std::numeric_limits<double>::infinity()};
+    for (const auto& [map, geometry] : m_geometries) {
+        for (const double value : geometry.points->second) {
+            if (std::isfinite(value)) {
+                range.minimum = std::min(range.minimum, value);
+                range.maximum = std::max(range.maximum, value);
+            }
+        }
     }
-    chartLayer(layer).setLook(*m_chart, line);
+    return range;
 }
 
 LayerMask LinePlot::sync(const host::Frame& drawn, CvlInt64 map, LayerMask layers, bool isShown)
 {
     ++m_syncs;
-    for (std::size_t layer = 0; layer < m_recipes.size(); ++layer)
+    for (std::size_t layer = 0; layer < lineSceneKind().layerCount; ++layer)
         if (layers & maskOf(layer))
             syncLayer(layer, {drawn, map, m_height}, isShown);
     return layers;
@@ -123,7 +163,7 @@ void LinePlot::prepare()
     if (const host::Frame* const drawn = frame())
         updateTitles(*drawn);
     if (m_isFitted)
-        m_chart->fit();
+        m_chart->fit(isPolar() ? radii() : AxisRange());
     m_chart->updateAxes();
 }
 
@@ -161,6 +201,8 @@ void LinePlot::updateTitles(const host::Frame& drawn)
     std::array<QStringList, kAxisCount> first;
     std::array<QStringList, kAxisCount> second;
     for (const std::uint32_t map : shownMaps()) {
+        if (!isSeen(drawn, map))
+            continue;
         const LineRecipe recipe = recipeOf(drawn, map);
         const LineAxes axes = axesOf(drawn, map);
         addName(first[axes.first], drawn, recipe.first);
@@ -181,7 +223,7 @@ QString LinePlot::notice() const
         return notice;
     if (const auto missing = static_cast<int>(m_chart->ink().missingCount()))
         return tr("Drawing was cancelled: %Ln line(s) missing", nullptr, missing);
-    return m_chart->ink().thinnedCount() > 0 ? tr("Dense lines are drawn thin") : QString();
+    return m_chart->ink().simplifiedCount() > 0 ? tr("Dense lines are drawn thin") : QString();
 }
 
 } // namespace corvala::plot

@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 
 #include <unordered_map>
-#include <vector>
 
 namespace corvala::plot {
 
@@ -58,8 +57,11 @@ protected:
 
 private:
     void applyHeight();
+    /// Puts the map into a layer, or takes it out.
     void syncLayer(std::size_t layer, const ShownLine& line, bool isShown);
-    void removeFrom(std::size_t layer, CvlInt64 map);
+    const LineGeometry& geometryOf(const ShownLine& line);
+    void followPlanes();
+    AxisRange radii() const;
     void updateTitles(const host::Frame& frame);
 
     QCustomPlot& m_plot;
@@ -68,8 +70,7 @@ private:
     bool m_isFitted = true;
     int m_height = 1;
     int m_patience;
-    /// By layer, of the maps that have points there.
-    std::vector<std::unordered_map<CvlInt64, LineRecipe>> m_recipes;
+    std::unordered_map<CvlInt64, LineGeometry> m_geometries; ///< of the maps in some layer
     std::int64_t m_syncs = 0;
 };
 

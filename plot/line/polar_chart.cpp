@@ -2,13 +2,8 @@
 #include "plot/line/line_chart.h"
 
 #include <QCoreApplication>
-#include <QtMath>
 
 #include <algorithm>
-#include <cmath>
-#include <map>
-#include <utility>
-#include <vector>
 
 namespace corvala::plot {
 
@@ -21,10 +16,9 @@ class PolarChart : public LineChart
 public:
     explicit PolarChart(QCustomPlot& plot);
 
-    void setLine(std::int64_t map, LineData data) override;
-    void removeLine(std::int64_t map) override;
+    LinePlane plane(const LineAxes& axes) const override;
     void setTitles(const ChartTitles& titles) override;
-    void fit() override;
+    void fit(const AxisRange& radii) override;
     ChartRange range() const override;
     void setRange(const ChartRange& range) override;
     void setFont(const QFont& font) override;
@@ -35,12 +29,9 @@ protected:
 
 private:
     QCPPolarAxisRadial* radius() const { return m_angle->radialAxis(); }
-    Polyline unrolled(const LineData& data) const;
 
     QCPPolarAxisAngular* m_angle; // owned by the plot
     QCPTextElement* m_title; // owned by the plot
-    std::map<std::int64_t, LineData> m_data;
-    double m_middle = 0.0; ///< radius at the middle, for which the lines are made
 };
 
 PolarChart::PolarChart(QCustomPlot& plot)
@@ -62,28 +53,12 @@ PolarChart::PolarChart(QCustomPlot& plot)
     radius()->setAngle(90.0);
 }
 
-Polyline PolarChart::unrolled(const LineData& data) const
+LinePlane PolarChart::plane(const LineAxes&) const
 {
-    std::vector<double> x(data.first.size());
-    std::vector<double> y(data.first.size());
-    for (std::size_t i = 0; i < x.size(); ++i) {
-        const double angle = qDegreesToRadians(data.first[i]);
-        x[i] = (data.second[i] - m_middle) * std::cos(angle);
-        y[i] = (data.second[i] - m_middle) * std::sin(angle);
-    }
-    return {std::move(x), std::move(y)};
-}
-
-void PolarChart::setLine(std::int64_t map, LineData data)
-{
-    ink().setLine(map, unrolled(data));
-    m_data[map] = std::move(data);
-}
-
-void PolarChart::removeLine(std::int64_t map)
-{
-    LineChart::removeLine(map);
-    m_data.erase(map);
+    LinePlane plane;
+    plane.isPolar = true;
+    plane.middle = radius()->range().lower;
+    return plane;
 }
 
 void PolarChart::setTitles(const ChartTitles& titles)
@@ -92,18 +67,10 @@ void PolarChart::setTitles(const ChartTitles& titles)
     m_title->setText(angle.isEmpty() ? QString() : tr("%1 over %2").arg(titles.second[0], angle));
 }
 
-void PolarChart::fit()
+void PolarChart::fit(const AxisRange& radii)
 {
-    double lowest = 0.0;
-    double highest = 0.0;
-    for (const auto& [map, data] : m_data) {
-        for (const double value : data.second) {
-            if (std::isfinite(value)) {
-                lowest = std::min(lowest, value);
-                highest = std::max(highest, value);
-            }
-        }
-    }
+    const double lowest = std::min(0.0, radii.minimum <= radii.maximum ? radii.minimum : 0.0);
+    const double highest = std::max(0.0, radii.minimum <= radii.maximum ? radii.maximum : 0.0);
     radius()->setRange(lowest,
                        highest > lowest ? highest + 0.05 * (highest - lowest) : lowest + 1.0);
 }
@@ -111,11 +78,6 @@ void PolarChart::fit()
 ChartView PolarChart::view()
 {
     const QCPRange range = radius()->range();
-    if (range.lower != m_middle) {
-        m_middle = range.lower;
-        for (const auto& [map, data] : m_data)
-            ink().setLine(map, unrolled(data));
-    }
     ChartView view;
     view.first[0] = {0.0, m_angle->center().x(), m_angle->radius() / range.size()};
     view.second[0] = {0.0, m_angle->center().y(), -m_angle->radius() / range.size()};

@@ -92,7 +92,7 @@ LineBox Polyline::bounds() const
     return m_levels.empty() ? LineBox() : m_levels.back().front().box;
 }
 
-static double distanceToSegment(const QPointF& pixel, const QPointF& from, const QPointF& to)
+double distanceToSegment(const QPointF& pixel, const QPointF& from, const QPointF& to)
 {
     const QPointF along = to - from;
     const double square = QPointF::dotProduct(along, along);

@@ -25,6 +25,9 @@ struct LineBox
     bool isThin(double width) const;
 };
 
+/// From a pixel to the nearest one of a segment.
+double distanceToSegment(const QPointF& pixel, const QPointF& from, const QPointF& to);
+
 /// How one coordinate becomes pixels: `value` lies at `pixel`, and a unit is `scale` pixels long.
 struct LineScale
 {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_chart.h"
 
-#include <utility>
+#include <cmath>
 
 namespace corvala::plot {
 
@@ -12,10 +12,10 @@ class XyChart : public LineChart
 public:
     explicit XyChart(QCustomPlot& plot);
 
-    void setLine(std::int64_t map, LineData data) override;
+    LinePlane plane(const LineAxes& axes) const override;
     void setTitles(const ChartTitles& titles) override;
     void updateAxes() override;
-    void fit() override;
+    void fit(const AxisRange& radii) override;
     ChartRange range() const override;
     void setRange(const ChartRange& range) override;
     void setFont(const QFont& font) override;
@@ -70,9 +70,24 @@ XyChart::XyChart(QCustomPlot& plot)
     updateAxes();
 }
 
-void XyChart::setLine(std::int64_t map, LineData data)
+static bool isLogarithmic(const QCPAxis& axis)
 {
-    ink().setLine(map, Polyline(std::move(data.first), std::move(data.second)));
+    return axis.scaleType() == QCPAxis::stLogarithmic;
+}
+
+/// What an axis shows, in the plane of the shapes.
+static QCPRange inPlane(const QCPAxis& axis)
+{
+    const QCPRange range = axis.range();
+    return isLogarithmic(axis) ? QCPRange(std::log10(range.lower), std::log10(range.upper)) : range;
+}
+
+LinePlane XyChart::plane(const LineAxes& axes) const
+{
+    LinePlane plane;
+    plane.isFirstLogarithmic = isLogarithmic(*m_first[axes.first].axis);
+    plane.isSecondLogarithmic = isLogarithmic(*m_second[axes.second].axis);
+    return plane;
 }
 
 void XyChart::setTitles(const ChartTitles& titles)
@@ -87,8 +102,8 @@ void XyChart::updateAxes()
 {
     std::array<bool, kAxisCount> isFirst {true};
     std::array<bool, kAxisCount> isSecond {true};
-    for (const auto& [map, line] : ink().lines())
-        isFirst[line.axes.first] = isSecond[line.axes.second] = true;
+    for (const auto& [key, placed] : ink().shapes())
+        isFirst[placed.axes.first] = isSecond[placed.axes.second] = true;
     QCPAxisRect& box = *m_plot.axisRect();
     QList<QCPAxis*> moved;
     const auto show = [&](Axes& axes, const auto& isInUse, QCPAxis::AxisType across) {
@@ -113,9 +128,9 @@ void XyChart::fit(Axes& axes, std::size_t number)
 {
     const bool isFirst = &axes == &m_first;
     LineBox box;
-    for (const auto& [map, line] : ink().lines())
-        if ((isFirst ? line.axes.first : line.axes.second) == number)
-            box.add(line.points.bounds());
+    for (const auto& [key, placed] : ink().shapes())
+        if (ink().isShown(key) && (isFirst ? placed.axes.first : placed.axes.second) == number)
+            box.add(placed.shape->bounds());
     QCPAxis& axis = *axes[number].axis;
     axes[number].hasRange = !box.isEmpty();
     if (box.isEmpty()) {
@@ -125,10 +140,13 @@ void XyChart::fit(Axes& axes, std::size_t number)
     const double minimum = isFirst ? box.left : box.low;
     const double maximum = isFirst ? box.right : box.high;
     const double margin = maximum > minimum ? 0.05 * (maximum - minimum) : 0.5;
-    axis.setRange(minimum - margin, maximum + margin);
+    if (isLogarithmic(axis))
+        axis.setRange(std::pow(10.0, minimum - margin), std::pow(10.0, maximum + margin));
+    else
+        axis.setRange(minimum - margin, maximum + margin);
 }
 
-void XyChart::fit()
+void XyChart::fit(const AxisRange&)
 {
     for (std::size_t i = 0; i < kAxisCount; ++i) {
         fit(m_first, i);
@@ -166,9 +184,9 @@ void XyChart::setRange(const ChartRange& range)
 
 static LineScale scaleOf(const QCPAxis& axis)
 {
-    const QCPRange range = axis.range();
-    const double first = axis.coordToPixel(range.lower);
-    return {range.lower, first, (axis.coordToPixel(range.upper) - first) / range.size()};
+    const QCPRange range = inPlane(axis);
+    const double first = axis.coordToPixel(axis.range().lower);
+    return {range.lower, first, (axis.coordToPixel(axis.range().upper) - first) / range.size()};
 }
 
 ChartView XyChart::view()

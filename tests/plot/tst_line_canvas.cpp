@@ -2,6 +2,7 @@
 #include "pictures.h"
 #include "plot/frame_view.h"
 #include "plot/line/line_canvas.h"
+#include "plot/line/stroked_line.h"
 #include "plot/render.h"
 #include "plot_document.h"
 #include "tests/support/rows.h"
@@ -48,8 +49,23 @@ struct ShownCanvas
     LinePlot& scene() { return canvas().scene(); }
     QCustomPlot& plot() { return canvas().plot(); }
     const LineInk& ink() { return scene().chart().ink(); }
-    const LineInk::Line& line(int map) { return ink().lines().at(map); }
-    int lineCount() { return static_cast<int>(ink().lines().size()); }
+    /// The line of a map, or null.
+    const StrokedLine* find(int map)
+    {
+        constexpr std::size_t kLines = 2; // the layer
+        const auto found = ink().shapes().find({kLines, map});
+        return found == ink().shapes().end()
+            ? nullptr
+            : dynamic_cast<const StrokedLine*>(found->second.shape.get());
+    }
+    const StrokedLine& line(int map) { return *find(map); }
+    int lineCount()
+    {
+        int count = 0;
+        for (int map = 1; map <= LinePlot::kLargestPlot + 5; ++map)
+            count += find(map) ? 1 : 0;
+        return count;
+    }
 
     FrameView view;
 };
@@ -83,14 +99,14 @@ private Q_SLOTS:
         openDemo("xy");
         ShownCanvas shown;
         QCOMPARE(shown.lineCount(), 6);
-        QCOMPARE(shown.line(1).points.size(), std::size_t(101));
+        QCOMPARE(shown.line(1).points().size(), std::size_t(101));
         QVERIFY(shown.plot().axisRect()->axis(QCPAxis::atBottom)->range().contains(0.0));
         write("LineMap/Lines/Show", "2", 0);
         shown.settle();
         QCOMPARE(shown.lineCount(), 5);
         write("LinePlotLayers/ShowLines", "", 0);
         shown.settle();
-        QVERIFY(!shown.scene().chart().areLinesVisible());
+        QVERIFY(!shown.ink().isShown({2, 1}));
         document().undo().undo();
         document().undo().undo();
         shown.settle();
@@ -122,7 +138,7 @@ private Q_SLOTS:
         write("LineMap/Lines/LinePattern", "1", pattern);
         write("LineMap/Lines/PatternLength", "1", length);
         ShownCanvas shown;
-        const LineStroke look = shown.line(1).stroke;
+        const LineStroke look = shown.line(1).stroke();
         const host::Rgb color = document().color(4);
         QCOMPARE(look.color, QColor(color.red, color.green, color.blue));
         QCOMPARE(look.width, width);
@@ -142,14 +158,13 @@ private Q_SLOTS:
         shown.settle();
         QCOMPARE(shown.scene().syncCount() - before, 2);
         QCOMPARE(shown.view.redrawCount(), redraws + 1);
-        write("LineMap/Curves/NumPts", "all", 100); // not drawn
         write("FieldMap/Mesh/Color", "1", 3);
         shown.settle();
         QCOMPARE(shown.view.redrawCount(), redraws + 1);
         write("LineMap/Assign/YAxisVar", "3", 5);
         shown.settle();
         QCOMPARE(shown.scene().syncCount() - before, 3);
-        QVERIFY(shown.line(3).points.y(50) != shown.line(9).points.y(50));
+        QVERIFY(shown.line(3).points().y(50) != shown.line(9).points().y(50));
     }
 
     void zonesWithoutTheVariable()
@@ -237,7 +252,7 @@ private Q_SLOTS:
         QCOMPARE(second.label(), QStringLiteral("Angle"));
         QVERIFY(second.range().upper > 300.0 && before.upper < 10.0);
         QVERIFY(box.axis(QCPAxis::atLeft)->range().upper < 10.0);
-        const Polyline& points = shown.line(1).points;
+        const Polyline& points = shown.line(1).points();
         const QPoint place(
             static_cast<int>(box.axis(QCPAxis::atBottom)->coordToPixel(points.x(70))),
             static_cast<int>(second.coordToPixel(points.y(70))));
@@ -268,8 +283,8 @@ private Q_SLOTS:
         QSignalSpy picked(&shown.view, &FrameView::lineMapPicked);
         const QCPAxisRect& axes = *shown.plot().axisRect();
         const QPoint place =
-            QPointF(axes.axis(QCPAxis::atBottom)->coordToPixel(shown.line(1).points.x(30)),
-                    axes.axis(QCPAxis::atLeft)->coordToPixel(shown.line(1).points.y(30)))
+            QPointF(axes.axis(QCPAxis::atBottom)->coordToPixel(shown.line(1).points().x(30)),
+                    axes.axis(QCPAxis::atLeft)->coordToPixel(shown.line(1).points().y(30)))
                 .toPoint();
         QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, place);
         QCOMPARE(picked.size(), 1);
@@ -346,7 +361,8 @@ private Q_SLOTS:
         ShownCanvas shown;
         QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot));
         QVERIFY(!shown.scene().notice().isEmpty());
-        write("LineMap/Lines/Show", "1-10", 0);
+        for (const char* layer : {"Lines", "Symbols", "BarCharts"})
+            write(QStringLiteral("LineMap/%1/Show").arg(layer), "1-10", 0);
         shown.settle();
         QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot) - 5);
         QVERIFY(shown.scene().notice().isEmpty());

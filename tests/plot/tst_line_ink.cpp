@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_ink.h"
+#include "plot/line/stroked_line.h"
 #include "tests/support/rows.h"
 
 #include <QPainter>
@@ -86,12 +87,16 @@ static QImage fullPicture(const Polyline& line, const LineView& view, const Line
     return image.scaled(kSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+static std::shared_ptr<const ChartShape> stroked(Polyline line, const LineStroke& stroke)
+{
+    return std::make_shared<StrokedLine>(std::make_shared<const Polyline>(std::move(line)), stroke);
+}
+
 static QImage inkPicture(Polyline line, const LineView& view, const LineStroke& stroke,
                          int slice = -1)
 {
     LineInk ink;
-    ink.setLine(1, std::move(line));
-    ink.setLook(1, stroke);
+    ink.set({0, 1}, stroked(std::move(line), stroke));
     ink.setView(chartOf(view), kSize, 1.0);
     while (ink.advance(slice)) { }
     return ink.picture();
@@ -187,16 +192,16 @@ private Q_SLOTS:
     void denseLinesAreThinned()
     {
         LineInk ink;
-        ink.setLine(1, sampled([](double) { return QPointF(noise(), noise()); }, 400'000));
-        ink.setLine(2, sampled(wave, 400'000));
-        for (const int map : {1, 2})
-            ink.setLook(map, {Qt::blue, 5.0, {10.0, 5.0}});
+        const LineStroke stroke {Qt::blue, 5.0, {10.0, 5.0}};
+        const auto scribble = [](double) { return QPointF(noise(), noise()); };
+        ink.set({0, 1}, stroked(sampled(scribble, 400'000), stroke));
+        ink.set({0, 2}, stroked(sampled(wave, 400'000), stroke));
         ink.setView(chartOf(viewOf(1.0)), kSize, 1.0);
         ink.advance(-1);
-        QCOMPARE(ink.thinnedCount(), 1);
-        ink.remove(1);
+        QCOMPARE(ink.simplifiedCount(), 1);
+        ink.remove({0, 1});
         ink.advance(-1);
-        QCOMPARE(ink.thinnedCount(), 0);
+        QCOMPARE(ink.simplifiedCount(), 0);
     }
 };
 

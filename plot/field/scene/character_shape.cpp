@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/scene/character_shape.h"
 
-#include "vocabulary/enums.h"
+#include "plot/common/character_path.h"
 
-#include <QFontMetricsF>
-#include <QGuiApplication>
-#include <QPainterPath>
+#include <QList>
+#include <QPolygonF>
 
 #include <vtkImageData.h>
 
@@ -17,49 +16,6 @@ namespace corvala::plot {
 static constexpr int kTexels = 96; ///< each way
 static constexpr double kReach = 1.7; ///< of the picture, from its middle
 static constexpr double kFarthest = 0.5; ///< distance that the picture can tell
-
-/// The letter that a Greek font shows for a Latin one.
-static QString greek(const QString& text)
-{
-    static const QString kLatin =
-        QStringLiteral("abgdezhqiklmnxoprstufcywABGDEZHQIKLMNXOPRSTUFCYW");
-    static const QString kGreek =
-        QString::fromUtf8("αβγδεζηθικλμνξοπρστυφχψωΑΒΓΔΕΖΗΘΙΚΛΜΝΞΟΠΡΣΤΥΦΧΨΩ");
-    QString result = text;
-    for (QChar& letter : result) {
-        const int place = kLatin.indexOf(letter);
-        letter = place < 0 ? letter : kGreek[place];
-    }
-    return result;
-}
-
-static QFont fontOf(int font)
-{
-    QFont result = QGuiApplication::font();
-    if (font == FontOverride_Math) {
-        result = QFont(QStringLiteral("serif"));
-        result.setStyleHint(QFont::Serif);
-        result.setItalic(true);
-    } else if (font == FontOverride_User) {
-        result = QFont(QStringLiteral("monospace"));
-        result.setStyleHint(QFont::Monospace);
-    }
-    result.setPixelSize(100);
-    return result;
-}
-
-/// The outlines of a character round the origin, a capital letter from -1 to 1, upwards.
-static QList<QPolygonF> outlinesOf(const std::string& character, int font)
-{
-    const QString text = QString::fromStdString(character).left(1);
-    const QFont drawn = fontOf(font);
-    QPainterPath path;
-    path.addText(0.0, 0.0, drawn, font == FontOverride_Greek ? greek(text) : text);
-    const QPointF middle = path.boundingRect().center();
-    const double scale = 2.0 / std::max(QFontMetricsF(drawn).capHeight(), 1.0);
-    return path.toSubpathPolygons(
-        QTransform::fromScale(scale, -scale).translate(-middle.x(), -middle.y()));
-}
 
 /// From a place to the outlines, negative inside.
 static double distanceTo(const QList<QPolygonF>& outlines, const QPointF& place)
@@ -85,7 +41,8 @@ static double distanceTo(const QList<QPolygonF>& outlines, const QPointF& place)
 
 vtkSmartPointer<vtkImageData> characterImage(const std::string& character, int font)
 {
-    const QList<QPolygonF> outlines = outlinesOf(character, font);
+    const QList<QPolygonF> outlines =
+        characterPath(QString::fromStdString(character), font).toSubpathPolygons();
     auto image = vtkSmartPointer<vtkImageData>::New();
     image->SetDimensions(kTexels, kTexels, 1);
     image->AllocateScalars(VTK_UNSIGNED_CHAR, 1);

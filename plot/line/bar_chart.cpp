@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/line/bar_chart.h"
+
+#include "plot/line/marked_points.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvala::plot {
+
+namespace {
+
+class BarChartDrawing : public ShapeDrawing
+{
+public:
+    BarChartDrawing(const InkSheet& sheet, const BarChart& chart, const LineView& view)
+        : m_sheet(sheet)
+        , m_chart(chart)
+        , m_view(view)
+        , m_ends(view.visible)
+    {
+    }
+
+    bool step() override
+    {
+        constexpr std::size_t kPoints = 500;
+        const std::size_t end = std::min(m_next + kPoints, m_chart.places().size());
+        const double ratio = m_sheet.ratio;
+        QPainter painter(&m_sheet.picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(ratio, ratio);
+        for (; m_next < end; ++m_next) {
+            const QRectF bar = m_chart.bar(m_next, m_view, m_chart.style().width * ratio);
+            if (!bar.isNull() && m_ends.isNew(valueEnd(bar)))
+                m_chart.style().paint(painter, {bar.topLeft() / ratio, bar.size() / ratio});
+        }
+        return m_next < m_chart.places().size();
+    }
+    double share() const override
+    {
+        return static_cast<double>(m_next)
+            / static_cast<double>(std::max<std::size_t>(m_chart.places().size(), 1));
+    }
+
+private:
+    /// Bars from one line that end at the same place show the same.
+    QPointF valueEnd(const QRectF& bar) const
+    {
+        const QPointF value = m_view.pixel(m_chart.places().x(m_next), m_chart.places().y(m_next));
+        return m_chart.style().isUpright ? QPointF(bar.center().x(), value.y())
+                                         : QPointF(value.x(), bar.center().y());
+    }
+
+    InkSheet m_sheet;
+    const BarChart& m_chart;
+    LineView m_view;
+    MarkPlaces m_ends;
+    std::size_t m_next = 0;
+};
+
+} // namespace
+
+void BarStyle::paint(QPainter& painter, const QRectF& bar) const
+{
+    painter.setPen(QPen(line, lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    painter.setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
+    painter.drawRect(bar);
+}
+
+QRectF BarChart::bar(std::size_t point, const LineView& view, double width) const
+{
+    constexpr double kBeyond = 20.0; // pixels; where outlines are not seen
+    if (!m_places->isFinite(point))
+        return {};
+    const QPointF value = view.pixel(m_places->x(point), m_places->y(point));
+    const LineBox& seen = view.visible;
+    const bool isUpright = m_style.isUpright;
+    const LineScale& scale = isUpright ? view.y : view.x;
+    const double first = (isUpright ? seen.low : seen.left) - kBeyond;
+    const double last = (isUpright ? seen.high : seen.right) + kBeyond;
+    const double edge = scale.scale > 0.0 ? first : last;
+    const double zero = std::clamp(m_hasZero ? scale(0.0) : edge, first, last);
+    const double end = std::clamp(isUpright ? value.y() : value.x(), first, last);
+    const QRectF bar = isUpright
+        ? QRectF(QPointF(value.x() - width / 2.0, zero), QPointF(value.x() + width / 2.0, end))
+        : QRectF(QPointF(zero, value.y() - width / 2.0), QPointF(end, value.y() + width / 2.0));
+    const QRectF shown = bar.normalized();
+    const QRectF all(QPointF(seen.left, seen.low), QPointF(seen.right, seen.high));
+    const QRectF reached = all.adjusted(-kBeyond, -kBeyond, kBeyond, kBeyond);
+    return shown.right() < reached.left() || shown.left() > reached.right()
+            || shown.bottom() < reached.top() || shown.top() > reached.bottom()
+        ? QRectF()
+        : shown;
+}
+
+LineBox BarChart::bounds() const
+{
+    LineBox box = m_places->bounds();
+    if (!box.isEmpty() && m_hasZero)
+        box.add(m_style.isUpright ? box.left : 0.0, m_style.isUpright ? 0.0 : box.low);
+    return box;
+}
+
+double BarChart::distance(const LineView& view, const QPointF& pixel, double limit) const
+{
+    for (std::size_t point = 0; point < m_places->size() && limit > 0.0; ++point) {
+        const QRectF shown = bar(point, view, m_style.width);
+        if (shown.isNull())
+            continue;
+        const double across = std::max({shown.left() - pixel.x(), pixel.x() - shown.right(), 0.0});
+        const double up = std::max({shown.top() - pixel.y(), pixel.y() - shown.bottom(), 0.0});
+        limit = std::min(limit, std::hypot(across, up));
+    }
+    return limit;
+}
+
+std::unique_ptr<ShapeDrawing> BarChart::begin(const InkSheet& sheet, const LineView& view) const
+{
+    return std::make_unique<BarChartDrawing>(sheet, *this, view);
+}
+
+void BarChart::paint(QPainter& painter, const LineView& view) const
+{
+    for (std::size_t point = 0; point < m_places->size(); ++point) {
+        const QRectF shown = bar(point, view, m_style.width);
+        if (!shown.isNull())
+            m_style.paint(painter, shown);
+    }
+}
+
+} // namespace corvala::plot

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/line/chart_shape.h"
+
+#include <QColor>
+#include <QRectF>
+
+#include <utility>
+
+namespace corvala::plot {
+
+/// How bars are drawn; lengths in pixels of the widget.
+struct BarStyle
+{
+    bool isUpright =
+        true; ///< bars stand on 0 of the second axis, else they lie on that of the first
+    double width = 10.0;
+    QColor line;
+    double lineWidth = 1.0;
+    QColor fill; ///< not valid for none
+
+    void paint(QPainter& painter, const QRectF& bar) const;
+};
+
+/// A bar at every point of a line map, from 0 to the value. On a logarithmic axis they come from
+/// the edge of the plot.
+class BarChart : public ChartShape
+{
+public:
+    /// `hasZero` says that 0 has a place along the axis of the values.
+    BarChart(std::shared_ptr<const Polyline> places, bool hasZero, BarStyle style)
+        : m_places(std::move(places))
+        , m_hasZero(hasZero)
+        , m_style(std::move(style))
+    {
+    }
+
+    const Polyline& places() const { return *m_places; }
+    const BarStyle& style() const { return m_style; }
+    /// The bar at a point, `width` pixels wide; null for one that is not seen.
+    QRectF bar(std::size_t point, const LineView& view, double width) const;
+
+    LineBox bounds() const override;
+    double distance(const LineView& view, const QPointF& pixel, double limit) const override;
+    std::unique_ptr<ShapeDrawing> begin(const InkSheet& sheet, const LineView& view) const override;
+    void paint(QPainter& painter, const LineView& view) const override;
+
+private:
+    std::shared_ptr<const Polyline> m_places;
+    bool m_hasZero;
+    BarStyle m_style;
+};
+
+} // namespace corvala::plot

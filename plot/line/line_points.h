@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/document/data_set.h"
+#include "plot/line/line_plane.h"
+#include "plot/line/polyline.h"
+#include "vocabulary/types.h"
+
+#include <array>
+#include <cstdint>
+#include <tuple>
+#include <vector>
+
+namespace corvala::host {
+class Frame;
+}
+
+namespace corvala::plot {
+
+/// A part of the values of an index, from 1; an end of 0 is the last one.
+struct IndexPart
+{
+    std::int64_t begin = 1;
+    std::int64_t end = 0;
+    std::int64_t step = 1;
+
+    auto tied() const { return std::tie(begin, end, step); }
+};
+
+/// How the points of a line map are made from data.
+struct LineRecipe
+{
+    std::int64_t zone = 0;
+    std::int64_t first = 0; ///< variable along X, or of the angle
+    std::int64_t second = 0; ///< variable along Y, or of the radius
+    std::int64_t sortedBy = 0; ///< variable in whose order they are joined; 0 for their own order
+    int varying = 0; ///< the index along which an ordered zone is followed, 0 to 2
+    std::array<IndexPart, 3> parts;
+
+    bool operator==(const LineRecipe& other) const;
+};
+
+LineRecipe recipeOf(const host::Frame& frame, CvlInt64 map);
+
+/// The points of a line map in the order in which they are joined, in runs that are not joined with
+/// each other: a zone of more than one index gives one run for each of the other indices.
+struct LinePoints
+{
+    std::vector<double> first; ///< X, or the angle in degrees
+    std::vector<double> second; ///< Y, or the radius
+    std::vector<std::int64_t> sources; ///< place of each among the values of the zone, from 0
+    std::vector<std::size_t> runEnds; ///< one beyond the last point of each run
+
+    std::size_t size() const { return first.size(); }
+};
+
+/// Empty when the zone lacks one of the variables, or has one at its points and the other in its
+/// cells. Ranges beyond the zone give what of them there is.
+LinePoints linePoints(const host::DataSet& data, const LineRecipe& recipe);
+
+/// The values of another variable at these points; not a number where there are none.
+std::vector<double> valuesAt(const host::DataSet& data, const LineRecipe& recipe,
+                             const LinePoints& points, std::int64_t variable);
+
+/// The points as they lie in a plane, runs one after the other: a place that is not finite lies
+/// between them.
+Polyline inPlane(const LinePoints& points, const LinePlane& plane);
+
+} // namespace corvala::plot

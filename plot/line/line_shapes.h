@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/line/chart_shape.h"
+#include "plot/line/line_axes.h"
+#include "plot/line/line_points.h"
+
+#include <memory>
+
+namespace corvala::plot {
+
+/// A line map in a picture `height` pixels high, of which thicknesses and lengths are a share.
+struct ShownLine
+{
+    const host::Frame& frame;
+    CvlInt64 map;
+    int height;
+};
+
+/// The points of a line map and what runs through them, in a plane.
+struct LineGeometry
+{
+    LineRecipe recipe;
+    LinePlane plane;
+    std::shared_ptr<const LinePoints> points;
+    std::shared_ptr<const Polyline> places; ///< of the points
+    std::shared_ptr<const Polyline> curve;
+};
+
+// What the layers show of a line map; null for nothing.
+std::shared_ptr<const ChartShape> curveShape(const ShownLine& line, const LineGeometry& geometry);
+std::shared_ptr<const ChartShape> symbolShape(const ShownLine& line, const LineGeometry& geometry);
+std::shared_ptr<const ChartShape> errorBarShape(const ShownLine& line,
+                                                const LineGeometry& geometry);
+std::shared_ptr<const ChartShape> barShape(const ShownLine& line, const LineGeometry& geometry);
+
+} // namespace corvala::plot
