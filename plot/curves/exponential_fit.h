@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/curves/curve_fit.h"
+
+namespace corvala::plot {
+
+// Both have the least weighted squares of vertical distances, as the other fits: the distances that
+// one sees, and not those of the logarithms, which would follow the smallest values. Weights of
+// 1 / y^2 make it relative distances. Coefficients are "a" and "b"; two abscissas are needed.
+
+/// y = a exp(b x), through points with y > 0.
+CurveFit fitExponential(const CurvePoints& points);
+/// y = a x^b, through points with x > 0 and y > 0.
+CurveFit fitPower(const CurvePoints& points);
+
+} // namespace corvala::plot
