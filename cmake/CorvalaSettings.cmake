@@ -32,7 +32,7 @@ endfunction()
 foreach(folder vocabulary host samples sdk/private
     zonestyle/controls zonestyle/tables zonestyle/actions zonestyle/models zonestyle/views
     zonestyle/dialog
-    play plot plot/common plot/field/geometry plot/field/scene app tests)
+    play plot plot/common plot/curves plot/field/geometry plot/field/scene app tests)
   string(REPLACE "/" "-" root "${folder}")
   corvala_include_root(${root} "${folder}")
 endforeach()

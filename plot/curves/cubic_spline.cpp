@@ -73,6 +73,12 @@ CubicSpline::CubicSpline(std::vector<double> x, std::vector<double> y, const End
 {
 }
 
+bool CubicSpline::isFinite() const
+{
+    return std::all_of(m_slopes.begin(), m_slopes.end(),
+                       [](double slope) { return std::isfinite(slope); });
+}
+
 double CubicSpline::operator()(double x) const
 {
     if (m_x.empty() || std::isnan(x))
@@ -103,20 +109,51 @@ CurveFit splineThrough(const CurvePoints& points, const EndSlopes& ends)
                     [](double) { return std::vector<Coefficient>(); });
 }
 
+namespace {
+
+/// Points that differ from the one before them, with the parameter of a path through them.
+struct Chain
+{
+    std::vector<double> at;
+    std::vector<double> x;
+    std::vector<double> y;
+    double extentX = 1.0;
+    double extentY = 1.0;
+};
+
+} // namespace
+
 static double extent(const std::vector<double>& numbers)
 {
     const auto [low, high] = std::minmax_element(numbers.begin(), numbers.end());
     return *low < *high ? *high - *low : 1.0;
 }
 
-/// The direction of a slope, of length 1 in the plane of equal extents, that goes the way of a
-/// chord; not finite for a slope that is not.
-static std::pair<double, double> direction(double slope, double chordX, double chordY,
-                                           double extentX, double extentY)
+static Chain chained(const CurvePoints& points)
 {
-    const double across = 1.0 / extentX;
-    const double up = slope / extentY;
-    const double along = across * chordX / extentX + up * chordY / extentY;
+    Chain chain {{0.0}, {points.x[0]}, {points.y[0]}, extent(points.x), extent(points.y)};
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        const double at = chain.at.back()
+            + std::hypot((points.x[i] - chain.x.back()) / chain.extentX,
+                         (points.y[i] - chain.y.back()) / chain.extentY);
+        // A chord may be too short to be seen in the sum.
+        if (at <= chain.at.back())
+            continue;
+        chain.at.push_back(at);
+        chain.x.push_back(points.x[i]);
+        chain.y.push_back(points.y[i]);
+    }
+    return chain;
+}
+
+/// The derivatives of x and y by the parameter for a slope that goes the way of the chord after a
+/// point; not finite for a slope that is not.
+static std::pair<double, double> direction(const Chain& chain, std::size_t point, double slope)
+{
+    const double across = 1.0 / chain.extentX;
+    const double up = slope / chain.extentY;
+    const double along = across * (chain.x[point + 1] - chain.x[point]) / chain.extentX
+        + up * (chain.y[point + 1] - chain.y[point]) / chain.extentY;
     const double speed = std::copysign(std::hypot(across, up), along);
     return {1.0 / speed, slope / speed};
 }
@@ -126,45 +163,26 @@ SplinePath parametricSplineThrough(const CurvePoints& points, const EndSlopes& e
     const CurvePoints used = usable(points);
     SplinePath path;
     path.pointCount = used.size();
-    if (used.size() < 2) {
+    const Chain chain = used.size() > 0 ? chained(used) : Chain();
+    const std::size_t count = chain.at.size();
+    if (count < 2) {
         path.problem = CurveProblem::TooFewPoints;
         return path;
     }
-    const double extentX = extent(used.x);
-    const double extentY = extent(used.y);
-    std::vector<double> at;
-    std::vector<double> x;
-    std::vector<double> y;
-    for (std::size_t i = 0; i < used.size(); ++i) {
-        const double chord = i == 0
-            ? 0.0
-            : std::hypot((used.x[i] - x.back()) / extentX, (used.y[i] - y.back()) / extentY);
-        // A chord may be too short to be seen in the sum.
-        if (i > 0 && path.length + chord <= path.length)
-            continue;
-        path.length += chord;
-        at.push_back(path.length);
-        x.push_back(used.x[i]);
-        y.push_back(used.y[i]);
-    }
-    if (at.size() < 2) {
-        path.problem = CurveProblem::TooFewPoints;
-        return path;
-    }
-    const std::size_t last = at.size() - 1;
-    const auto [startX, startY] = direction(ends.start, x[1] - x[0], y[1] - y[0], extentX, extentY);
-    const auto [endX, endY] =
-        direction(ends.end, x[last] - x[last - 1], y[last] - y[last - 1], extentX, extentY);
-    path.x = CubicSpline(at, std::move(x), EndSlopes {startX, endX});
-    path.y = CubicSpline(std::move(at), std::move(y), EndSlopes {startY, endY});
+    const auto [startX, startY] = direction(chain, 0, ends.start);
+    const auto [endX, endY] = direction(chain, count - 2, ends.end);
+    path.length = chain.at.back();
+    path.x = CubicSpline(chain.at, chain.x, EndSlopes {startX, endX});
+    path.y = CubicSpline(chain.at, chain.y, EndSlopes {startY, endY});
+    if (!path.x.isFinite() || !path.y.isFinite())
+        path.problem = CurveProblem::OutOfRange;
     return path;
 }
 
 CurvePoints samplePath(const SplinePath& path, std::size_t count)
 {
     CurvePoints result;
-    const CurvePoints across = sampleCurve(path.x, 0.0, path.length, count);
-    result.x = across.y;
+    result.x = sampleCurve(path.x, 0.0, path.length, count).y;
     result.y = sampleCurve(path.y, 0.0, path.length, count).y;
     return result;
 }

@@ -26,6 +26,8 @@ public:
     /// The one of continuous curvature; of two knots at least.
     CubicSpline(std::vector<double> x, std::vector<double> y, const EndSlopes& ends);
 
+    /// Whether no slope is beyond what double precision holds.
+    bool isFinite() const;
     /// Takes logarithmic time; NaN without knots.
     double operator()(double x) const;
 

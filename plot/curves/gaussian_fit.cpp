@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace corvala::plot {
 
@@ -27,12 +28,25 @@ static double gaussian(double at, const Parameters& parameters, double* slopes)
     return parameters[Base] + parameters[Amplitude] * peak;
 }
 
+/// Some thousand of the points, or all.
+static ScaledPoints thinned(const ScaledPoints& points)
+{
+    constexpr std::size_t kEnough = 20000;
+    const std::size_t step = points.at.size() / kEnough + 1;
+    ScaledPoints result;
+    result.weightSum = points.weightSum;
+    for (std::size_t i = 0; i < points.at.size(); i += step) {
+        result.at.push_back(points.at[i]);
+        result.values.push_back(points.values[i]);
+        result.weights.push_back(points.weights[i]);
+    }
+    return result;
+}
+
 /// The best base and amplitude of a peak, and the share of the squares of the values that they
-/// explain. Looks at some thousand points at most.
+/// explain.
 static double setHeights(const ScaledPoints& points, Parameters& parameters)
 {
-    constexpr std::size_t kEnough = 2000;
-    const std::size_t step = points.at.size() / kEnough + 1;
     double sum = 0.0;
     double mean = 0.0;
     double peakMean = 0.0;
@@ -41,7 +55,7 @@ static double setHeights(const ScaledPoints& points, Parameters& parameters)
     parameters[Base] = 0.0;
     parameters[Amplitude] = 1.0;
     std::array<double, 4> slopes {};
-    for (std::size_t i = 0; i < points.at.size(); i += step) {
+    for (std::size_t i = 0; i < points.at.size(); ++i) {
         const double weight = points.weights[i];
         const double fromPeak = gaussian(points.at[i], parameters, slopes.data()) - peakMean;
         const double fromMean = points.values[i] - mean;
@@ -58,9 +72,9 @@ static double setHeights(const ScaledPoints& points, Parameters& parameters)
     return product * product / square;
 }
 
-/// The best of peaks of many widths, in steps along the abscissas and at the highest and lowest
-/// points.
-static Parameters startOf(const ScaledPoints& points)
+/// The best dip and the best peak of many widths, in steps along the abscissas and at the lowest
+/// and highest points.
+static std::array<Parameters, 2> startsOf(const ScaledPoints& points)
 {
     constexpr double kWidest = 1.0; // half of the range at least
     constexpr double kNarrowest = 1e-4;
@@ -70,19 +84,36 @@ static Parameters startOf(const ScaledPoints& points)
     for (double centre = -1.0; centre <= 1.0; centre += 0.125)
         centres.push_back(centre);
 
-    Parameters best(4);
-    double mostExplained = -1.0;
+    std::array<Parameters, 2> best;
+    std::array<double, 2> mostExplained {0.0, 0.0};
     for (double sigma = kWidest; sigma > kNarrowest; sigma /= 2.0) {
         for (const double centre : centres) {
             Parameters parameters {0.0, 0.0, centre, std::log(sigma)};
             const double explained = setHeights(points, parameters);
-            if (explained > mostExplained) {
-                mostExplained = explained;
-                best = parameters;
+            const std::size_t kind = parameters[Amplitude] > 0.0;
+            if (explained > mostExplained[kind]) {
+                mostExplained[kind] = explained;
+                best[kind] = parameters;
             }
         }
     }
     return best;
+}
+
+/// The better of dip and peak, which a part of the points decides.
+static NonlinearFit search(const ScaledPoints& points)
+{
+    const ScaledPoints part = thinned(points);
+    NonlinearFit best;
+    for (const Parameters& start : startsOf(part)) {
+        if (start.empty())
+            continue;
+        NonlinearFit found = fitNonlinear(gaussian, part, start);
+        if (found.distance < best.distance)
+            best = std::move(found);
+    }
+    const bool isAll = part.at.size() == points.at.size();
+    return isAll || !best.isConverged ? best : fitNonlinear(gaussian, points, best.parameters);
 }
 
 static std::vector<Coefficient> coefficientsOf(const NonlinearFit& found,
@@ -116,8 +147,7 @@ CurveFit fitGaussian(const CurvePoints& points)
     const AbscissaScale scale(used.x);
     const double shift = *low / 2.0 + *high / 2.0;
     const double unit = *high / 2.0 - *low / 2.0;
-    const ScaledPoints search = scaled(used, scale, shift, unit);
-    const NonlinearFit found = fitNonlinear(gaussian, search, startOf(search));
+    const NonlinearFit found = search(scaled(used, scale, shift, unit));
     if (!found.isConverged)
         return withoutCurve(CurveProblem::NoConvergence, used.size());
 

@@ -86,17 +86,23 @@ static bool isAtMinimum(const gsl_multifit_nlinear_workspace& space)
     return std::isfinite(length);
 }
 
-static NonlinearFit resultOf(const gsl_multifit_nlinear_workspace& space, double weightSum)
+static NonlinearFit resultOf(const gsl_multifit_nlinear_workspace& space, long double weightSum)
 {
     NonlinearFit fit;
     const std::size_t count = space.x->size;
     fit.parameters.assign(space.x->data, space.x->data + count);
+    fit.distance = gsl_blas_dnrm2(space.f);
     fit.covariance.resize(count * count);
     gsl_matrix_view view = gsl_matrix_view_array(fit.covariance.data(), count, count);
     fit.isConverged =
         isAtMinimum(space) && gsl_multifit_nlinear_covar(space.J, 0.0, &view.matrix) == GSL_SUCCESS;
     for (double& element : fit.covariance)
-        element /= weightSum;
+        element = static_cast<double>(element / weightSum);
+    for (std::size_t i = 0; i < count; ++i) {
+        double& variance = fit.covariance[i * count + i];
+        if (variance == 0.0)
+            variance = std::numeric_limits<double>::quiet_NaN();
+    }
     return fit;
 }
 
@@ -111,7 +117,7 @@ ScaledPoints scaled(const CurvePoints& points, const AbscissaScale& scale, doubl
         result.weightSum += points.weight(i);
     }
     for (double& weight : result.weights)
-        weight /= result.weightSum;
+        weight = static_cast<double>(weight / result.weightSum);
     return result;
 }
 
@@ -119,7 +125,7 @@ NonlinearFit fitNonlinear(const ParametricCurve& curve, const ScaledPoints& poin
                           const Parameters& start)
 {
     constexpr std::size_t kMostSteps = 500;
-    constexpr double kParameterTolerance = 1e-13;
+    constexpr double kParameterTolerance = 1e-11;
     // By default an error ends the process.
     static const gsl_error_handler_t* const former = gsl_set_error_handler_off();
     static_cast<void>(former);

@@ -4,6 +4,7 @@
 #include "plot/curves/curve_points.h"
 
 #include <functional>
+#include <limits>
 #include <vector>
 
 namespace corvala::plot {
@@ -18,7 +19,10 @@ struct NonlinearFit
 {
     bool isConverged = false;
     Parameters parameters;
-    /// Of the parameters, by rows, if points of weight 1 deviate by 1.
+    /// Of the scaled points, the root of the mean square.
+    double distance = std::numeric_limits<double>::infinity();
+    /// Of the parameters, by rows, if points of weight 1 deviate by 1; the variance of a parameter
+    /// on which nothing depends is NaN.
     std::vector<double> covariance;
 
     double covarianceOf(std::size_t one, std::size_t other) const
@@ -33,8 +37,9 @@ struct ScaledPoints
     std::vector<double> at;
     std::vector<double> values;
     std::vector<double> weights; ///< with a sum of 1
-    double weightSum = 0.0; ///< by which the weights were divided
+    long double weightSum = 0.0L; ///< by which the weights were divided
 };
+
 /// Values become (y - shift) / unit.
 ScaledPoints scaled(const CurvePoints& points, const AbscissaScale& scale, double shift,
                     double unit);

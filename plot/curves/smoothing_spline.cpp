@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <limits>
 #include <tuple>
 #include <utility>
@@ -58,33 +59,40 @@ static double product(const Row& one, const Row& other, const Covariance& next)
         + one[3] * (next.both * other[2] + next.slope * other[3]);
 }
 
-/// Makes a block upper triangular by reflections. The largest row goes first, without which the
-/// small ones would lose their digits to it.
+/// Makes one column of a block 0 below the diagonal by a reflection.
+static void reflect(Block& block, std::size_t column)
+{
+    double square = 0.0;
+    for (std::size_t row = column; row < 5; ++row)
+        square += block[row][column] * block[row][column];
+    if (square == 0.0)
+        return;
+    const double length = std::copysign(std::sqrt(square), -block[column][column]);
+    block[column][column] -= length;
+    const double half = -length * block[column][column];
+    for (std::size_t other = column + 1; other < 5; ++other) {
+        double sum = 0.0;
+        for (std::size_t row = column; row < 5; ++row)
+            sum += block[row][column] * block[row][other];
+        for (std::size_t row = column; row < 5; ++row)
+            block[row][other] -= sum / half * block[row][column];
+    }
+    block[column][column] = length;
+    for (std::size_t row = column + 1; row < 5; ++row)
+        block[row][column] = 0.0;
+}
+
+/// Makes a block upper triangular. The largest row goes first, without which the small ones would
+/// lose their digits to it.
 static void reduce(Block& block)
 {
     for (std::size_t column = 0; column < 4; ++column) {
         const auto smaller = [column](const Row& one, const Row& other) {
             return std::fabs(one[column]) < std::fabs(other[column]);
         };
-        std::swap(block[column], *std::max_element(block.begin() + column, block.end(), smaller));
-        double square = 0.0;
-        for (std::size_t row = column; row < 5; ++row)
-            square += block[row][column] * block[row][column];
-        if (square == 0.0)
-            continue;
-        const double length = std::copysign(std::sqrt(square), -block[column][column]);
-        block[column][column] -= length;
-        const double half = -length * block[column][column];
-        for (std::size_t other = column + 1; other < 5; ++other) {
-            double product = 0.0;
-            for (std::size_t row = column; row < 5; ++row)
-                product += block[row][column] * block[row][other];
-            for (std::size_t row = column; row < 5; ++row)
-                block[row][other] -= product / half * block[row][column];
-        }
-        block[column][column] = length;
-        for (std::size_t row = column + 1; row < 5; ++row)
-            block[row][column] = 0.0;
+        const auto from = block.begin() + static_cast<std::ptrdiff_t>(column);
+        std::iter_swap(from, std::max_element(from, block.end(), smaller));
+        reflect(block, column);
     }
 }
 
