@@ -127,7 +127,7 @@ NonlinearFit fitNonlinear(const ParametricCurve& curve, const ScaledPoints& poin
     constexpr std::size_t kMostSteps = 500;
     constexpr double kParameterTolerance = 1e-11;
     // By default an error ends the process.
-    static const gsl_error_handler_t* const former = gsl_set_error_handler_off();
+    static gsl_error_handler_t* const former = gsl_set_error_handler_off();
     static_cast<void>(former);
 
     Search search {curve, points, start, start};
