@@ -283,13 +283,14 @@ void TestCurveFits::curves()
     QVERIFY(digits(fit.rSquared, rSquared) >= 9);
 }
 
-/// Points of a circle of radius 1 from its top, all the way round, each several times.
+/// Points of a circle of radius 1 from its top to the left and all the way round, each several
+/// times.
 static CurvePoints circle(std::size_t count, int times)
 {
     CurvePoints points;
     for (std::size_t i = 0; i <= count; ++i) {
         const double angle = 2 * M_PI * static_cast<double>(i) / static_cast<double>(count);
-        points.x.insert(points.x.end(), std::size_t(times), std::sin(angle));
+        points.x.insert(points.x.end(), std::size_t(times), -std::sin(angle));
         points.y.insert(points.y.end(), std::size_t(times), std::cos(angle));
     }
     return points;
