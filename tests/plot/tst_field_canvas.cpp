@@ -310,6 +310,15 @@ private Q_SLOTS:
         write("FieldMap/Shade/UseLightingEffect", "3", 1);
         activate("3", false);
         QVERIFY(isSeen(2));
+        write("FieldMap/Shade/UseLightingEffect", "3", 0);
+        write("FieldLayers/UseTranslucency", "", 1);
+        write("FieldMap/Effects/UseTranslucency", "all", 1);
+        const host::Rgb behind = document().color(1);
+        const host::Rgb before = document().color(2);
+        const auto half = [](int back, int front) { return (255 + back + 2 * front) / 4; };
+        const QColor mixed(half(behind.red, before.red), half(behind.green, before.green),
+                           half(behind.blue, before.blue));
+        QVERIFY(shareOfColor(picture(), mixed) > 0.1);
     }
 
     void thickLinesScaleWithThePicture()

@@ -112,11 +112,26 @@ void CompositeLayer::Bucket::setDepth(FieldLayer layer, bool flat)
             setDepthShader("gl_FragCoord.z + " + std::to_string(place.inFront) + "e-6");
         return;
     }
-    setDepthShader("gl_FragCoord.z + " + std::to_string(kMostLineLayers)
-                   + "e-6\n"
-                     "  + setBack * max(abs(dFdx(gl_FragCoord.z)), abs(dFdy(gl_FragCoord.z)))");
+    const std::string stepsBack = m_look.translucency == 0 ? "0.0"
+        : place.isWithin                                   ? "stepsBack"
+                         : "(stepsBack + (gl_FrontFacing ? 1.0 : 2.0))";
+    setDepthShader("gl_FragCoord.z + " + std::to_string(kMostLineLayers) + "e-6 + 2e-6 * "
+                   + stepsBack + "\n  + (setBack + 0.02 * " + stepsBack
+                   + ") * max(abs(dFdx(gl_FragCoord.z)), abs(dFdy(gl_FragCoord.z)))");
+    if (m_look.translucency > 0)
+        m_actor->GetShaderProperty()->GetFragmentCustomUniforms()->SetUniformf("stepsBack", 0.0F);
     m_layersInFront = static_cast<float>(place.inFront);
     setWidestLine(1.0);
+}
+
+/// What is translucent is sorted by depth in each pixel, also what lies in the same place: so a map
+/// lies in front of the one before it, and has three steps for its faces that look away, for the
+/// other ones, and for what lies within it. Maps are counted anew after so many, since depth has
+/// too few steps for all.
+static float stepsBack(CvlInt64 map)
+{
+    constexpr CvlInt64 kCount = 23; // a prime, which blocks in rows seldom lie apart
+    return static_cast<float>(3 * (kCount - 1 - map % kCount));
 }
 
 void CompositeLayer::Bucket::setWidestLine(double pixels)
@@ -154,6 +169,7 @@ void CompositeLayer::Bucket::setBlocks(std::vector<Block> blocks)
     std::sort(m_shells.begin(), m_shells.end(), [](const Shell& left, const Shell& right) {
         return std::less<>()(left.data.Get(), right.data.Get());
     });
+    std::vector<float> steps;
     m_attributes->RemoveBlockColors();
     m_drawn->SetNumberOfBlocks(static_cast<unsigned int>(count));
     for (std::size_t i = 0; i < count; ++i) {
@@ -163,12 +179,14 @@ void CompositeLayer::Bucket::setBlocks(std::vector<Block> blocks)
             shell.source = m_blocks[i].data;
             fill(*shell.data, *shell.source);
         }
+        steps.push_back(stepsBack(m_blocks[i].map));
         const host::Rgb& color = m_blocks[i].color;
         const double parts[3] = {color.red / 255.0, color.green / 255.0, color.blue / 255.0};
         if (hasBlockColors())
             m_attributes->SetBlockColor(shell.data, parts);
         m_drawn->SetBlock(static_cast<unsigned int>(i), shell.data);
     }
+    m_mapper->setStepsBack(std::move(steps));
     m_mapper->Modified();
 }
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "plot/field/scene/block_mapper.h"
 #include "plot/field/scene/composite_layer.h"
 
 #include <vtkActor.h>
 #include <vtkCompositeDataDisplayAttributes.h>
-#include <vtkCompositePolyDataMapper2.h>
 #include <vtkMultiBlockDataSet.h>
 #include <vtkNew.h>
 #include <vtkTexture.h>
@@ -28,10 +28,11 @@ public:
     {
         vtkSmartPointer<vtkPolyData> data;
         host::Rgb color;
+        CvlInt64 map = 0;
 
         bool operator==(const Block& other) const
         {
-            return data == other.data && isSameColor(color, other.color);
+            return data == other.data && isSameColor(color, other.color) && map == other.map;
         }
     };
 
@@ -68,7 +69,7 @@ private:
     MapperLook m_look;
     CvlInt64 m_firstMap;
     vtkNew<vtkActor> m_actor;
-    vtkNew<vtkCompositePolyDataMapper2> m_mapper;
+    vtkNew<BlockMapper> m_mapper;
     vtkNew<vtkMultiBlockDataSet> m_drawn;
     vtkNew<vtkCompositeDataDisplayAttributes> m_attributes;
     vtkSmartPointer<vtkTexture> m_texture;

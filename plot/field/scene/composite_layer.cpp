@@ -91,7 +91,7 @@ void CompositeLayer::addShares(Part::const_iterator begin, Part::const_iterator 
                 shares.push_back({look, first, {}});
                 size = 0;
             }
-            shares.back().blocks.push_back({piece, (*begin)->second.look.color});
+            shares.back().blocks.push_back({piece, (*begin)->second.look.color, (*begin)->first});
             size += added;
         }
     }

@@ -354,7 +354,8 @@ LayerPlace placeOf(FieldLayer layer)
     LayerPlace place;
     place.number = static_cast<std::size_t>(layer);
     place.isOfFaces = has(place.number, Faces);
-    for (std::size_t i = place.number + 1; i < kFieldLayerCount && !has(place.number, Within); ++i)
+    place.isWithin = has(place.number, Within);
+    for (std::size_t i = place.number + 1; i < kFieldLayerCount && !place.isWithin; ++i)
         place.inFront += has(i, Faces) == place.isOfFaces && !has(i, Within) ? 1 : 0;
     return place;
 }

@@ -39,6 +39,7 @@ struct LayerPlace
 {
     std::size_t number = 0; ///< from the back
     bool isOfFaces = false;
+    bool isWithin = false; ///< zones, and not on their surfaces
     int inFront = 0; ///< layers of faces, or else of others, that come later on the same surfaces
 };
 LayerPlace placeOf(FieldLayer layer);
