@@ -112,26 +112,28 @@ void CompositeLayer::Bucket::setDepth(FieldLayer layer, bool flat)
             setDepthShader("gl_FragCoord.z + " + std::to_string(place.inFront) + "e-6");
         return;
     }
-    const std::string stepsBack = m_look.translucency == 0 ? "0.0"
-        : place.isWithin                                   ? "stepsBack"
-                         : "(stepsBack + (gl_FrontFacing ? 1.0 : 2.0))";
-    setDepthShader("gl_FragCoord.z + " + std::to_string(kMostLineLayers) + "e-6 + 2e-6 * "
-                   + stepsBack + "\n  + (setBack + 0.02 * " + stepsBack
+    const std::string steps = place.isWithin ? "stepsBack"
+        : m_look.translucency > 0            ? "(stepsBack + (gl_FrontFacing ? 1.0 : 2.0))"
+                                             : "(stepsBack + 1.0)";
+    setDepthShader("gl_FragCoord.z + " + std::to_string(kMostLineLayers) + "e-6 + 2e-6 * " + steps
+                   + "\n  + (setBack + 0.02 * " + steps
                    + ") * max(abs(dFdx(gl_FragCoord.z)), abs(dFdy(gl_FragCoord.z)))");
-    if (m_look.translucency > 0)
-        m_actor->GetShaderProperty()->GetFragmentCustomUniforms()->SetUniformf("stepsBack", 0.0F);
+    m_actor->GetShaderProperty()->GetFragmentCustomUniforms()->SetUniformf("stepsBack", 0.0F);
     m_layersInFront = static_cast<float>(place.inFront);
     setWidestLine(1.0);
 }
 
-/// What is translucent is sorted by depth in each pixel, also what lies in the same place: so a map
-/// lies in front of the one before it, and has three steps for its faces that look away, for the
-/// other ones, and for what lies within it. Maps are counted anew after so many, since depth has
-/// too few steps for all.
-static float stepsBack(CvlInt64 map)
+/// How far the faces of a map lie behind those of the last one: by three steps a map, for what lies
+/// within it, for its faces that look at the viewer, and for the others. Depth has room for the
+/// steps of so many maps. Beyond, opaque faces take smaller ones, since rounding leaves most of
+/// these in order. Translucent faces in the same place are better in any order than in none: their
+/// maps are counted anew.
+float CompositeLayer::Bucket::stepsBack(CvlInt64 map, CvlInt64 mapCount) const
 {
-    constexpr CvlInt64 kCount = 23; // a prime, which blocks in rows seldom lie apart
-    return static_cast<float>(3 * (kCount - 1 - map % kCount));
+    constexpr CvlInt64 kRoom = 23; // a prime, which blocks in rows seldom lie apart
+    const CvlInt64 period = m_look.translucency > 0 ? std::min(mapCount, kRoom) : mapCount;
+    const double step = std::min(1.0, static_cast<double>(kRoom) / static_cast<double>(period));
+    return static_cast<float>(3.0 * step * static_cast<double>(period - 1 - map % period));
 }
 
 void CompositeLayer::Bucket::setWidestLine(double pixels)
@@ -156,11 +158,13 @@ static void fill(vtkPolyData& shell, vtkPolyData& source)
 
 /// The mapper draws its blocks in the order of their addresses, and what is drawn later covers what
 /// lies in the same place. So the mapper gets shells, which the blocks take in ascending order.
-void CompositeLayer::Bucket::setBlocks(std::vector<Block> blocks)
+void CompositeLayer::Bucket::setBlocks(std::vector<Block> blocks, CvlInt64 mapCount)
 {
-    if (std::equal(blocks.begin(), blocks.end(), m_blocks.begin(), m_blocks.end()))
+    const bool isSame = std::equal(blocks.begin(), blocks.end(), m_blocks.begin(), m_blocks.end());
+    if (isSame && m_mapCount == mapCount)
         return;
     m_blocks = std::move(blocks);
+    m_mapCount = mapCount;
     m_size = 0;
     const std::size_t count = m_blocks.size();
     while (m_shells.size() < count)
@@ -179,7 +183,7 @@ void CompositeLayer::Bucket::setBlocks(std::vector<Block> blocks)
             shell.source = m_blocks[i].data;
             fill(*shell.data, *shell.source);
         }
-        steps.push_back(stepsBack(m_blocks[i].map));
+        steps.push_back(stepsBack(m_blocks[i].map, mapCount));
         const host::Rgb& color = m_blocks[i].color;
         const double parts[3] = {color.red / 255.0, color.green / 255.0, color.blue / 255.0};
         if (hasBlockColors())

@@ -43,8 +43,8 @@ public:
     CvlInt64 firstMap() const { return m_firstMap; }
     vtkActor* actor() const { return m_actor; }
 
-    /// What is drawn, in this order.
-    void setBlocks(std::vector<Block> blocks);
+    /// What is drawn, in this order; `mapCount` is at least the number of any map.
+    void setBlocks(std::vector<Block> blocks, CvlInt64 mapCount);
     void setScale(const ViewScale& scale);
     void updateLevels(const ContourGroups& groups);
     /// Moves faces far enough back for lines of this width to be whole.
@@ -65,6 +65,7 @@ private:
     void setProperties();
     void setDepth(FieldLayer layer, bool flat);
     void setDepthShader(const std::string& depth);
+    float stepsBack(CvlInt64 map, CvlInt64 mapCount) const;
 
     MapperLook m_look;
     CvlInt64 m_firstMap;
@@ -80,6 +81,7 @@ private:
     int m_textureBands = 0;
     ColorScale m_textureColors;
     std::vector<Block> m_blocks;
+    CvlInt64 m_mapCount = 0;
     std::vector<Shell> m_shells;
 };
 

@@ -102,13 +102,19 @@ std::vector<CompositeLayer::Share> CompositeLayer::shares() const
     std::vector<Part> drawn = parts(!m_flat);
     if (drawn.size() > kMostMappers)
         drawn = parts(false);
-    CvlInt64 count = kMostMaps;
-    while (!m_blocks.empty() && count <= m_blocks.rbegin()->first)
-        count *= 2;
     std::vector<Share> shares;
     for (const Part& part : drawn)
-        addShares(part.begin(), part.end(), 0, count, shares);
+        addShares(part.begin(), part.end(), 0, mapCount(), shares);
     return shares;
+}
+
+/// A power of two that is above the number of each map, so that it seldom changes.
+CvlInt64 CompositeLayer::mapCount() const
+{
+    CvlInt64 count = 16;
+    while (!m_blocks.empty() && count <= m_blocks.rbegin()->first)
+        count *= 2;
+    return count;
 }
 
 void CompositeLayer::arrange()
@@ -127,7 +133,7 @@ void CompositeLayer::arrange()
                 std::make_unique<Bucket>(share.look, share.firstMap, m_layer, m_flat));
             rendererOf(share.look).AddActor(m_buckets.back()->actor());
         }
-        m_buckets.back()->setBlocks(std::move(share.blocks));
+        m_buckets.back()->setBlocks(std::move(share.blocks), mapCount());
     }
     for (const auto& [key, bucket] : free)
         rendererOf(bucket->look()).RemoveActor(bucket->actor());

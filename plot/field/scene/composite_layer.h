@@ -114,6 +114,7 @@ private:
     static void addShares(Part::const_iterator begin, Part::const_iterator end, CvlInt64 first,
                           CvlInt64 count, std::vector<Share>& shares);
     std::vector<Share> shares() const;
+    CvlInt64 mapCount() const;
     void arrange();
     vtkRenderer& rendererOf(const MapperLook& look) { return look.inFront ? m_front : m_back; }
     void updateVisibility();
