@@ -140,7 +140,8 @@ private Q_SLOTS:
         for (const double value : {-100.0, 15.0, 290.0}) {
             const double moved =
                 groups.coordinate(1, value) * groups.textureScale(1) + groups.textureShift(1);
-            QCOMPARE(moved, groups.levels(1).fraction(value));
+            const double above = moved - groups.levels(1).fraction(value);
+            QVERIFY(above > 1e-6 && above < 1e-4); // rounding moves no value below its level
         }
     }
 

@@ -238,7 +238,7 @@ Shape BlockBuilder::contourLines(const BlockRecipe& recipe, const PlacedSurface&
     contours->ComputeNormalsOff();
     const std::vector<double> levels = m_groups.lineLevels(recipe.group);
     for (std::size_t i = 0; i < levels.size(); ++i)
-        contours->SetValue(static_cast<int>(i), levels[i]);
+        contours->SetValue(static_cast<int>(i), levels[i] - m_groups.rounding(recipe.group));
     contours->Update();
     Shape lines = contours->GetOutput();
     if (lineColors)

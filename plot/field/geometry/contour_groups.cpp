@@ -227,7 +227,15 @@ double ContourGroups::textureScale(int group) const
 
 double ContourGroups::textureShift(int group) const
 {
-    return at(group).levels.fraction(at(group).reference);
+    return at(group).levels.fraction(at(group).reference + rounding(group));
+}
+
+/// What floats between 0 and 1 lose by being interpolated, with room.
+double ContourGroups::rounding(int group) const
+{
+    constexpr double kLoss = 2e-6;
+    const ContourLevels& levels = at(group).levels;
+    return kLoss * std::max(at(group).unit, levels.maximum() - levels.minimum);
 }
 
 } // namespace corvala::plot

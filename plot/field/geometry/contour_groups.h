@@ -95,6 +95,9 @@ public:
     double coordinate(int group, double value) const;
     double textureScale(int group) const;
     double textureShift(int group) const;
+    /// Values below a level by less than this belong to the band above it, so that whatever equals
+    /// a level is of one colour, and no lines cross it.
+    double rounding(int group) const;
 
     /// True when it is another than before.
     bool setVectorScale(const VectorScale& scale);
