@@ -15,7 +15,8 @@
 namespace corvala::plot {
 
 /// Makes two triangles of a point: a square as large as its symbol. In space it comes as near as a
-/// ball of its size, so that the surface on which the point lies does not hide half of it.
+/// ball of its size, so that the surface on which the point lies does not hide half of it; of a
+/// body it lies in front, which then writes the depth of each of its places.
 static constexpr const char* kSquares = R"(//VTK::System::Dec
 //VTK::CustomUniforms::Dec
 //VTK::PositionVC::Dec
@@ -34,6 +35,7 @@ in vec3 ownVSOutput[];
 out vec2 cornerGSOutput;
 flat out float radiusGSOutput;
 flat out vec3 fillGSOutput;
+flat out vec2 depthGSOutput;
 
 void main()
 {
@@ -43,9 +45,9 @@ void main()
   float code = ownVSOutput[0].y;
   float reach = extent + margin / radius;
   vec4 centre = gl_in[0].gl_Position;
+  vec2 place = vec2(centre.z / centre.w - depthSlope, radius * nearness);
   if (nearness > 0.0) {
-    float w = centre.w * (1.0 - min(radius * nearness, 0.9));
-    float depth = depthSlope + (centre.z - depthSlope * centre.w) / w;
+    float depth = depthSlope + place.x / (1.0 - min(lift * place.y, 0.9));
     centre.z = max(depth, -0.99999) * centre.w;
   }
   for (int corner = 0; corner < 4; ++corner) {
@@ -63,6 +65,7 @@ void main()
     radiusGSOutput = radius;
     fillGSOutput = vec3(floor(code / 65536.0), mod(floor(code / 256.0), 256.0),
                         mod(code, 256.0)) / 255.0;
+    depthGSOutput = place;
     gl_Position = centre + vec4(2.0 * radius * at / viewport * centre.w, 0.0, 0.0);
     EmitVertex();
   }
@@ -130,6 +133,14 @@ static std::string light()
 )";
 }
 
+/// Depth of a place of a body, `height` in front of its centre, in units of half the size.
+static std::string depthAt(const char* height)
+{
+    return std::string("  float share = 1.0 - min((1.0 + ") + height
+        + ") * depthVSOutput.y, 0.9);\n"
+          "  gl_FragDepth = 0.5 + 0.5 * max(depthSlope + depthVSOutput.x / share, -0.99999);\n";
+}
+
 static std::string ball()
 {
     return R"(
@@ -139,7 +150,7 @@ static std::string ball()
   if (coverage <= (isSmooth > 0.5 ? 0.0 : 0.5)) discard;
   vec3 normal = vec3(p, sqrt(max(1.0 - dot(p, p), 0.0)));
 )" + light()
-        + "  opacity *= isSmooth > 0.5 ? coverage : 1.0;\n";
+        + depthAt("normal.z") + "  opacity *= isSmooth > 0.5 ? coverage : 1.0;\n";
 }
 
 /// A body between pairs of planes: a line of sight enters it where it enters the last pair.
@@ -164,7 +175,8 @@ static std::string body(int shape)
     if (near < enters) { enters = near; normal = normalize(n); }
   }
   if (enters < leaves) discard;
-)" + light();
+)" + light()
+        + depthAt("enters");
 }
 
 /// How far a symbol reaches, in units of half its size.
@@ -205,7 +217,7 @@ void drawSymbols(vtkActor& actor, const SymbolLook& look)
         declaration, true,
         after(declaration,
               "in vec2 cornerVSOutput;\nflat in float radiusVSOutput;\nflat in vec3 "
-              "fillVSOutput;\n"),
+              "fillVSOutput;\nflat in vec2 depthVSOutput;\n"),
         false);
     shader.AddFragmentShaderReplacement("//VTK::Color::Impl", true,
                                         after("//VTK::Color::Impl", symbolCode(look)), false);
@@ -234,10 +246,13 @@ void scaleSymbols(vtkActor& actor, const SymbolLook& look, const ViewScale& scal
     squares.SetUniformf("pixelsPerPercent", pixels(scale.frameHeight / 100.0));
     squares.SetUniformf("margin", pixels(linePixels + 1.0));
     squares.SetUniformf("extent", pixels(extentOf(look)));
+    squares.SetUniformf("lift", pixels(look.isSolid ? 1.0 + extentOf(look) : 1.0));
     squares.SetUniformf("leastRadius", pixels(scale.thinnestLine / 2));
     squares.SetUniformf("nearness", pixels(scale.nearness));
     squares.SetUniformf("depthSlope", pixels(scale.depthSlope));
     vtkUniforms& symbols = *shader.GetFragmentCustomUniforms();
+    if (look.isSolid)
+        symbols.SetUniformf("depthSlope", pixels(scale.depthSlope));
     symbols.SetUniformf("halfLine", pixels(look.shape == GeomShape_Point ? 0.0 : linePixels / 2));
     // In space smooth edges would cover what lies behind them and is drawn later; a picture of more
     // pixels than are shown is smooth by itself.
