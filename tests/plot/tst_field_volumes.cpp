@@ -524,6 +524,12 @@ private Q_SLOTS:
             "Streamtraces/AutomaticRake=0 Streamtraces/StartX=90 Streamtraces/EndX=99 "
             "Streamtraces/Show=1",
             "No streamtrace is drawn");
+        const QString faces =
+            "Slices/Show[3]=1 FieldLayers/ShowShade=1 "
+            "FieldMap/Surfaces/SurfacesToPlot=0 FieldMap/Effects/UseTranslucency=1 "
+            "FieldLayers/UseTranslucency=";
+        row("behind faces", faces + '0', "Slices, iso-surfaces and streamtraces are hidden");
+        row("behind translucent faces", faces + '1', "");
         row("no flow", "GlobalVector/UVar=0 Streamtraces/Show=1",
             "No streamtrace is drawn: no vector variables");
         const QString levels = QString("FieldLayers/ShowContour=1 ContourGroups/Var[1]=%1 "

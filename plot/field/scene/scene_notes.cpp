@@ -3,6 +3,7 @@
 
 #include "host/document/line_map_name.h"
 #include "host/style/schema.h"
+#include "plot/field/scene/map_style.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -33,6 +34,7 @@ private:
     std::optional<SceneNote> streamtraces() const;
     std::optional<SceneNote> vectors() const;
     std::optional<SceneNote> scatter() const;
+    std::optional<SceneNote> inside() const;
 
     int number(style::Key key, int index = -1) const
     {
@@ -60,6 +62,8 @@ private:
         }
         return false;
     }
+    bool showsWithin(const ShownMap& shown) const;
+    bool isClosed(const ShownMap& shown) const;
     /// Whether a value is none of a group; not while these are not known.
     bool isBeyond(double value, int group) const
     {
@@ -253,12 +257,56 @@ std::optional<SceneNote> Notes::scatter() const
         style::globalScatter.var};
 }
 
+/// Whether the map shows something that lies within its zone.
+bool Notes::showsWithin(const ShownMap& shown) const
+{
+    for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
+        const auto layer = static_cast<FieldLayer>(i);
+        if (placeOf(layer).isWithin && isLayerOn(m_facts.frame, layer)
+            && lookOf(layer, shown, m_facts.groups))
+            return true;
+    }
+    return false;
+}
+
+/// Whether opaque faces stand all round the zone of the map.
+bool Notes::isClosed(const ShownMap& shown) const
+{
+    const MapStyle style(shown);
+    const int surfaces = style.number(style::fieldMap.surfaces.surfacesToPlot);
+    return (surfaces == SurfacesToPlot_BoundaryCellFaces
+            || surfaces == SurfacesToPlot_ExposedCellFaces || surfaces == SurfacesToPlot_All)
+        && style.translucency() == 0 && style.blanking().tests.empty()
+        && (style.showsHiddenLines() || style.showsShade() || style.showsFlood(m_facts.groups));
+}
+
+std::optional<SceneNote> Notes::inside() const
+{
+    host::NumberSet closed;
+    for (const std::uint32_t map : m_facts.maps) {
+        const ShownMap shown {m_facts.frame, map, m_facts.frame.candidateZone(map)};
+        if (!showsWithin(shown))
+            continue;
+        if (!isClosed(shown))
+            return std::nullopt;
+        closed.add(map);
+    }
+    if (closed.isEmpty())
+        return std::nullopt;
+    constexpr style::Key kSurfaces = style::fieldMap.surfaces.surfacesToPlot;
+    return SceneNote {
+        tr("Slices, iso-surfaces and streamtraces are hidden: opaque faces stand all "
+           "round the zones that show them."),
+        kSurfaces, tr("Hide These Faces"),
+        host::SetStyle {host::pathOf(kSurfaces), double {SurfacesToPlot_None}, closed}};
+}
+
 std::optional<SceneNote> Notes::first() const
 {
     using Note = std::optional<SceneNote> (Notes::*)() const;
     for (const Note note :
          {&Notes::blanking, &Notes::levels, &Notes::volumes, &Notes::slices, &Notes::isoSurfaces,
-          &Notes::streamtraces, &Notes::vectors, &Notes::scatter})
+          &Notes::streamtraces, &Notes::vectors, &Notes::scatter, &Notes::inside})
         if (auto found = (this->*note)())
             return found;
     return std::nullopt;
