@@ -51,7 +51,7 @@ const PlacedSurface* BlockBuilder::surface(const BlockRecipe& recipe, const doub
     if (!surface)
         return nullptr;
     const Shape shape = laidDown(separateShape(*surface->shape), height);
-    placed.push_back({recipe.zone, choice, surface, shape, nullptr});
+    placed.push_back({recipe.zone, choice, surface, shape});
     return &placed.back();
 }
 
@@ -323,7 +323,7 @@ BlockBuilder::Carriers BlockBuilder::carriers(const BlockRecipe& recipe, const d
     if (!isOfSurface) {
         placed.erase(std::remove_if(placed.begin(), placed.end(), isOfPoints), placed.end());
         placed.push_back(
-            {recipe.zone, recipe.surfaces, nullptr, vertices(result.points.places), nullptr});
+            {recipe.zone, recipe.surfaces, nullptr, vertices(result.points.places)});
     }
     return result;
 }

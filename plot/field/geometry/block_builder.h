@@ -6,8 +6,6 @@
 #include "plot/field/geometry/shape_pieces.h"
 #include "plot/field/geometry/surface_cache.h"
 
-#include <vtkCellLocator.h>
-
 namespace corvala::plot {
 
 /// A surface in the place where it is drawn.
@@ -18,7 +16,6 @@ struct PlacedSurface
     std::shared_ptr<const ZoneSurface> surface; ///< null for points that are of no surface
     /// The surface's shape, of one thread only; in a flat plot laid down at the height of its map.
     vtkSmartPointer<vtkPolyData> shape;
-    vtkSmartPointer<vtkCellLocator> locator; ///< null until something is picked
 };
 
 /// Makes the geometry of blocks from zones. The layers of a map share its surfaces.

@@ -402,12 +402,12 @@ vtkBoundingBox FieldScene::drawnBounds() const
 FieldScene::Hit FieldScene::nearestHit(const PickRay& ray, LayerMask layers)
 {
     Hit nearest {0, 1.5};
-    for (auto& [map, surfaces] : m_surfaces) {
+    for (const auto& [map, surfaces] : m_surfaces) {
         bool isSeen = false;
         for (std::size_t i = 0; i < kFieldLayerCount; ++i)
             isSeen = isSeen || ((layers & maskOf(i)) && m_layers[i]->draws(map));
-        for (PlacedSurface& placed : surfaces) {
-            const double position = isSeen ? ray.hitPosition(placed) : nearest.position;
+        for (const PlacedSurface& placed : surfaces) {
+            const double position = isSeen ? ray.hitPosition(*placed.shape) : nearest.position;
             if (position < nearest.position)
                 nearest = {placed.zone, position};
         }

@@ -24,10 +24,8 @@ std::function<ScenePiece()> makerOfRanges(std::shared_ptr<const host::DataSet> d
 
 std::function<ScenePiece()> makerOfBlock(BlockOrder order)
 {
-    for (PlacedSurface& placed : order.surfaces) {
+    for (PlacedSurface& placed : order.surfaces)
         placed.shape = separateShape(*placed.shape);
-        placed.locator = nullptr;
-    }
     return [order = std::move(order)]() mutable {
         ScenePiece piece;
         piece.map = order.map;
