@@ -322,8 +322,7 @@ BlockBuilder::Carriers BlockBuilder::carriers(const BlockRecipe& recipe, const d
     const auto isOfPoints = [](const PlacedSurface& known) { return !known.surface; };
     if (!isOfSurface) {
         placed.erase(std::remove_if(placed.begin(), placed.end(), isOfPoints), placed.end());
-        placed.push_back(
-            {recipe.zone, recipe.surfaces, nullptr, vertices(result.points.places)});
+        placed.push_back({recipe.zone, recipe.surfaces, nullptr, vertices(result.points.places)});
     }
     return result;
 }
