@@ -435,6 +435,7 @@ private Q_SLOTS:
         row("vector", "Head Style", "Hollow", "FieldMap.Vector.ArrowheadStyle 2-3 = 2");
         row("vector", "Pattern Length", "1.60", "FieldMap.Vector.PatternLength 2-3 = 2");
         row("scatter", "Symbol Shape", "Sphere", "FieldMap.Scatter.SymbolShape.GeomShape 2-3 = 8");
+        row("scatter", "Symbol Shape", "LineArt", ""); // not offered
         row("scatter", "Scatter Size", "3.00", "FieldMap.Scatter.FrameSize 2-3 = 3");
         row("edge", "K-Index Border", 1, "FieldMap.EdgeLayer.KBorder 2-3 = 1");
         row("surfaces", "Surfaces to Plot", "None", "FieldMap.Surfaces.SurfacesToPlot 2-3 = 10");

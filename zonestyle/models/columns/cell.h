@@ -58,7 +58,7 @@ struct EditRequest
     const QVariant& value;
 
     /// The whole number that the value stands for in a column of choices; nothing for a text that
-    /// is no choice.
+    /// is no choice, or one that is not offered.
     std::optional<int> choice() const;
     /// The whole number that the value stands for in a column of numbers.
     int number() const;

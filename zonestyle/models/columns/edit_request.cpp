@@ -8,12 +8,19 @@
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 
-static std::optional<int> positionIn(const CellReader list, const EditRequest& edit)
+/// What the editor offers. Long lists, of zones for example, are made for a text alone.
+static QStringList entriesFor(const EditRequest& edit)
 {
-    // Long lists, of zones for example, are made for a text alone.
     const bool isText = edit.value.userType() == QMetaType::QString;
     const Cell first {edit.frame, edit.cells.first().row() + 1, edit.column, edit.model};
-    return editedPosition(edit.value, isText && list ? list(first).toStringList() : QStringList());
+    return isText && edit.column.edit ? edit.column.edit(first).toStringList() : QStringList();
+}
+
+/// What a text stands for is one of the entries, when there are any.
+static bool isOffered(int choice, const Choices& choices, const QStringList& entries)
+{
+    const QString name = tables::nameOf(choices, choice);
+    return name.isEmpty() || entries.isEmpty() || entries.contains(name);
 }
 
 /// Stops at the highest number, which no list reaches.
@@ -26,9 +33,12 @@ static int shifted(int position, int first)
 std::optional<int> EditRequest::choice() const
 {
     const Choices choices = column.choices(frame);
-    if (!choices.isEmpty())
-        return editedChoice(value, choices);
-    const std::optional<int> position = positionIn(column.edit, *this);
+    const QStringList entries = entriesFor(*this);
+    if (!choices.isEmpty()) {
+        const std::optional<int> choice = editedChoice(value, choices);
+        return choice && isOffered(*choice, choices, entries) ? choice : std::nullopt;
+    }
+    const std::optional<int> position = editedPosition(value, entries);
     return position ? std::optional<int>(shifted(*position, column.firstChoice)) : std::nullopt;
 }
 
