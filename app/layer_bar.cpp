@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QMenu>
 #include <QToolButton>
 
 #include <algorithm>
@@ -55,6 +56,25 @@ void LayerBar::addLayers()
         m_layers << action;
         m_details << addDetails(layer.key);
     }
+    addOtherDetails();
+}
+
+/// The pages that no layer leads to.
+void LayerBar::addOtherDetails()
+{
+    auto* button = new QToolButton(this);
+    button->setObjectName(QStringLiteral("otherDetails"));
+    button->setText(QStringLiteral("..."));
+    button->setPopupMode(QToolButton::InstantPopup);
+    button->setToolTip(tr("Details of slices, axes and others"));
+    button->setAccessibleName(button->toolTip());
+    auto* menu = new QMenu(button);
+    for (const DetailPage& page : detailPages())
+        if (!page.layer.isValid())
+            menu->addAction(shownTitle(page), this,
+                            [this, &page] { Q_EMIT detailsWanted(QLatin1String(page.name)); });
+    button->setMenu(menu);
+    m_otherDetails = addWidget(button);
 }
 
 QAction* LayerBar::addDetails(style::SwitchKey layer)
@@ -81,6 +101,7 @@ void LayerBar::refresh()
 {
     const host::Frame* frame = Document::instance().activeFrame();
     const bool hasData = frame && frame->hasData();
+    m_otherDetails->setVisible(hasData && frame->isFieldPlot());
     for (int i = 0; i < m_layers.size(); ++i) {
         const style::SwitchKey key = kLayers[i].key;
         const bool isField = style::isInGroupOf(key, style::fieldLayers.showMesh);

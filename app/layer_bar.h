@@ -25,15 +25,17 @@ public:
 Q_SIGNALS:
     /// The user switched a layer on or off, which is done.
     void layerSwitched(QAction* layer);
-    /// The user wants to see what is set for the plot as a whole of a layer: the name of the page.
+    /// The user wants to see what is set for the plot as a whole: the name of the page.
     void detailsWanted(const QString& page);
 
 private:
     void addLayers();
     QAction* addDetails(style::SwitchKey layer);
+    void addOtherDetails();
 
     QList<QAction*> m_layers; // not owned
     QList<QAction*> m_details; ///< beside each of them; null without
+    QAction* m_otherDetails = nullptr; // not owned
 };
 
 } // namespace corvala::app

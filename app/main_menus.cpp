@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/main_menus.h"
 
+#include "app/details/detail_pages.h"
 #include "app/recent_files.h"
 #include "host/document/document.h"
 #include "host/io/sample_list.h"
@@ -149,11 +150,20 @@ void MainMenus::makePlotMenu(QAction& details, const QList<QAction*>& layers)
     QMenu* menu = m_window.menuBar()->addMenu(tr("&Plot"));
     menu->addAction(&m_styleDialog);
     menu->addAction(&details);
+    addDetailsMenu(*menu);
     menu->addSeparator();
     menu->addActions(layers);
     menu->addSeparator();
     m_fitView = menu->addAction(tr("&Fit View"), this, &MainMenus::fitWanted);
     setKeys(*m_fitView, QKeySequence(QStringLiteral("Ctrl+0")));
+}
+
+void MainMenus::addDetailsMenu(QMenu& menu)
+{
+    m_details = menu.addMenu(tr("D&etails Of"));
+    for (const DetailPage& page : detailPages())
+        m_details->addAction(shownTitle(page), this,
+                             [this, &page] { Q_EMIT detailsWanted(QLatin1String(page.name)); });
 }
 
 void MainMenus::makeHelpMenu()
@@ -194,6 +204,7 @@ void MainMenus::refresh(bool hasPlot)
                                                        : tr("&Zone Style..."));
     m_savePicture->setEnabled(frame && frame->hasData());
     m_fitView->setEnabled(hasPlot);
+    m_details->setEnabled(hasPlot && frame->isFieldPlot());
     refreshUndo();
 }
 

@@ -36,6 +36,7 @@ Q_SIGNALS:
     void demoWanted(const QString& name);
     void pictureWanted();
     void fitWanted();
+    void detailsWanted(const QString& page); ///< the name of the page
 
 private:
     void makeFileMenu();
@@ -44,6 +45,7 @@ private:
     void fillRecentMenu(QMenu& menu);
     void makeEditMenu();
     void makePlotMenu(QAction& details, const QList<QAction*>& layers);
+    void addDetailsMenu(QMenu& menu);
     void makeHelpMenu();
     void makeToolBar();
     void refreshUndo();
@@ -56,6 +58,7 @@ private:
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
     QAction* m_fitView = nullptr;
+    QMenu* m_details = nullptr; ///< the pages of details
     QAction* m_savePicture = nullptr;
 };
 

@@ -102,6 +102,7 @@ void MainWindow::makeBars()
             showProblem(problem);
     });
     connect(m_layerBar, &LayerBar::detailsWanted, m_details, &DetailsDock::openPage);
+    connect(m_menus, &MainMenus::detailsWanted, m_details, &DetailsDock::openPage);
     connect(m_pictureNotes, &PictureNotes::detailsWanted, m_details, &DetailsDock::openPageOf);
     connect(m_layerBar, &LayerBar::layerSwitched, m_layerNotes,
             [this](QAction* layer) { m_layerNotes->explain(*layer); });
@@ -135,7 +136,7 @@ void MainWindow::connectCanvas()
     plot::FrameView* view = m_plotArea->frameView();
     if (!view)
         return;
-    new SeedPicking(*m_details, *view, this);
+    letPickSeeds(*m_details, *view);
     connect(m_menus, &MainMenus::fitWanted, view, &plot::FrameView::fitView);
     connect(view, &plot::FrameView::zonePicked, this,
             [this](CvlInt64 zone, bool activate) { pick(PickType_Zone, zone, activate); });
@@ -144,7 +145,7 @@ void MainWindow::connectCanvas()
     connect(view, &plot::FrameView::workEnded, this, &MainWindow::awaitPicture);
     connect(view, &plot::FrameView::completed, this, [this, view] {
         m_details->refresh(); // what follows from the data is known
-        m_pictureNotes->tell(view->canvas()->scene().note());
+        m_pictureNotes->tell(view->canvas()->scene().notes());
     });
     connect(view, &plot::FrameView::workProgressed, this, [this](CvlInt64 done, CvlInt64 total) {
         if (m_data->opener().isRunning())

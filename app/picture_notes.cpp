@@ -14,8 +14,9 @@ PictureNotes::PictureNotes(NoticeBar& bar, QObject* parent)
 {
 }
 
-void PictureNotes::tell(const std::optional<plot::SceneNote>& note)
+void PictureNotes::tell(const std::vector<plot::SceneNote>& notes)
 {
+    const plot::SceneNote* const note = notes.empty() ? nullptr : &notes.front();
     const QString text = note ? note->text : QString();
     if (std::exchange(m_told, text) == text)
         return;

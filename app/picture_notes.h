@@ -5,7 +5,7 @@
 
 #include <QObject>
 
-#include <optional>
+#include <vector>
 
 namespace corvala::app {
 
@@ -21,8 +21,9 @@ public:
     /// The notice bar must outlive the notes.
     explicit PictureNotes(NoticeBar& bar, QObject* parent = nullptr);
 
-    /// A picture is complete, and this is to be said of it.
-    void tell(const std::optional<plot::SceneNote>& note);
+    /// A picture is complete, and this is to be said of it: the first one is told, and the others
+    /// when that is mended.
+    void tell(const std::vector<plot::SceneNote>& notes);
 
 Q_SIGNALS:
     /// The user asks for the values of the frame among which this one is.

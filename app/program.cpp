@@ -85,8 +85,11 @@ static QString writeReport(MainWindow& window, const QString& file)
 static QString drawPicture(const QString& file)
 {
     QString error;
-    const QImage image =
-        plot::renderToImage(host::Document::instance().activeFrameId(), kPictureSize, &error);
+    std::vector<plot::SceneNote> notes;
+    const QImage image = plot::renderToImage(host::Document::instance().activeFrameId(),
+                                             kPictureSize, &error, &notes);
+    for (const plot::SceneNote& note : notes)
+        std::fprintf(stderr, "%s\n", qUtf8Printable(named(Program::tr("note: %1").arg(note.text))));
     if (image.isNull())
         return Program::tr("%1 cannot be drawn: %2").arg(file, error);
     return play::writePicture(image, file);

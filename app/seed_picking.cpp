@@ -35,16 +35,16 @@ static void addSeed(double x, double y, double z)
     undo.end(host::UndoHistory::Closing::OneStep);
 }
 
-SeedPicking::SeedPicking(DetailsDock& details, plot::FrameView& view, QObject* parent)
-    : QObject(parent)
+void letPickSeeds(DetailsDock& details, plot::FrameView& view)
 {
     auto* escape = new QShortcut(Qt::Key_Escape, &details);
     escape->setContext(Qt::ApplicationShortcut);
     escape->setEnabled(false);
-    connect(escape, &QShortcut::activated, &details, &DetailsDock::endPicking);
-    connect(&details, &DetailsDock::pickingSwitched, &view, &plot::FrameView::setPicksPlaces);
-    connect(&details, &DetailsDock::pickingSwitched, escape, &QShortcut::setEnabled);
-    connect(&view, &plot::FrameView::placePicked, this, addSeed);
+    QObject::connect(escape, &QShortcut::activated, &details, &DetailsDock::endPicking);
+    QObject::connect(&details, &DetailsDock::pickingSwitched, &view,
+                     &plot::FrameView::setPicksPlaces);
+    QObject::connect(&details, &DetailsDock::pickingSwitched, escape, &QShortcut::setEnabled);
+    QObject::connect(&view, &plot::FrameView::placePicked, &details, addSeed);
 }
 
 } // namespace corvala::app

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QObject>
-
 namespace corvala::plot {
 class FrameView;
 }
@@ -12,14 +10,7 @@ namespace corvala::app {
 class DetailsDock;
 
 /// While the button of the page is held down, each click in the plot gives streamtraces one more
-/// point to start from. Esc lets the button go.
-class SeedPicking : public QObject
-{
-    Q_OBJECT
-
-public:
-    /// Both must outlive it.
-    SeedPicking(DetailsDock& details, plot::FrameView& view, QObject* parent);
-};
+/// point to start from. Esc lets the button go. Lasts as long as both live.
+void letPickSeeds(DetailsDock& details, plot::FrameView& view);
 
 } // namespace corvala::app

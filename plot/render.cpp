@@ -9,7 +9,8 @@
 
 namespace corvala::plot {
 
-QImage renderToImage(CvlUniqueId frame, const QSize& size, QString* error)
+QImage renderToImage(CvlUniqueId frame, const QSize& size, QString* error,
+                     std::vector<SceneNote>* notes)
 {
     const host::Frame* const drawn = host::Document::instance().frame(frame);
     if (!drawn || !drawn->hasData() || !(drawn->isFieldPlot() || drawn->isLinePlot())) {
@@ -18,7 +19,7 @@ QImage renderToImage(CvlUniqueId frame, const QSize& size, QString* error)
         return {};
     }
     return drawn->isFieldPlot()
-        ? drawFieldImage(frame, CameraState(), std::make_shared<SurfaceCache>(), size, error)
+        ? drawFieldImage(frame, CameraState(), std::make_shared<SurfaceCache>(), size, error, notes)
         : drawLineImage(frame, nullptr, size, error);
 }
 

@@ -35,7 +35,12 @@ struct GlobalVector
     VariableKey uVar = in.variable("UVar", CV_TEXT("U variable"), 0, 0);
     VariableKey vVar = in.variable("VVar", CV_TEXT("V variable"), 0, 0);
     VariableKey wVar = in.variable("WVar", CV_TEXT("W variable"), 0, 0);
-    /// Against the length that is proposed from the data.
+    SwitchKey automaticLength =
+        in.flag("AutomaticLength", CV_TEXT("Vector length by the data"), true);
+    /// Of a vector of magnitude 1, in the unit of the coordinates.
+    RealKey lengthOfOne =
+        in.real("LengthOfOne", CV_TEXT("Length of a vector of magnitude 1"), 1e-30, kUnlimited, 1);
+    /// Against either length.
     RealKey relativeLength =
         in.real("RelativeLength", CV_TEXT("Relative vector length"), 0.001, 1000, 1);
     SwitchKey isUniform = in.flag("IsUniform", CV_TEXT("Vectors of the same length"), false);
@@ -56,13 +61,16 @@ struct ContourGroups
     Group in;
     VariableKey var = in.indexed(kCount).variable("Var", CV_TEXT("Contour variable"), 0, 0);
     SwitchKey automaticLevels = in.indexed(kCount).flag(
-        "AutomaticLevels", CV_TEXT("Contour levels by the range of values"), true);
+        "AutomaticLevels", CV_TEXT("Contour levels over the range of values"), true);
     RealKey levelMin = in.indexed(kCount).limitless("LevelMin", CV_TEXT("Lowest contour level"), 0);
     RealKey levelMax =
         in.indexed(kCount).limitless("LevelMax", CV_TEXT("Highest contour level"), 1);
-    /// Bands of colour between the lowest and the highest level.
-    IntegerKey bandCount =
-        in.indexed(kCount).integer("BandCount", CV_TEXT("Number of contour bands"), 1, 250, 10);
+    /// Bands of colour between the lowest and the highest level; 0: as many as are round.
+    IntegerKey bandCount = in.indexed(kCount).integer(
+        "BandCount", CV_TEXT("Number of contour bands, 0 by the data"), 0, 250, 0);
+    /// Values that have lines besides the levels, separated by blanks.
+    TextKey moreLines =
+        in.indexed(kCount).text("MoreLines", CV_TEXT("Contour lines at more values"), "");
     ChoiceKey<ColorMap_e> colorMap =
         in.indexed(kCount).choice("ColorMap", CV_TEXT("Color map"), kColorMaps, ColorMap_Viridis);
     SwitchKey reversesColors =

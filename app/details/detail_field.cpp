@@ -21,6 +21,8 @@
 
 #include <cmath>
 #include <limits>
+#include <map>
+#include <utility>
 
 namespace corvala::app {
 
@@ -48,6 +50,29 @@ void DetailField::write(const host::StyleInput& value)
         operation.index = m_index;
     Document::instance().execute(operation);
     Q_EMIT written();
+}
+
+/// Of a value that is not a text, a number.
+static host::StyleInput defaultOf(const style::Entry& entry)
+{
+    return entry.isText() ? host::StyleInput(std::string(entry.defaultText))
+                          : host::StyleInput(entry.defaultNumber);
+}
+
+void DetailField::writeDefault()
+{
+    const host::Frame* const frame = Document::instance().activeFrame();
+    if (frame && !hasDefault(*frame))
+        write(defaultOf(entry()));
+}
+
+bool DetailField::hasDefault(const Frame& frame) const
+{
+    const host::StyleOutput value = present(frame);
+    if (const std::string* const text = std::get_if<std::string>(&value))
+        return *text == entry().defaultText;
+    const double* const real = std::get_if<double>(&value);
+    return (real ? *real : std::get<std::int32_t>(value)) == entry().defaultNumber;
 }
 
 namespace {
@@ -155,6 +180,7 @@ public:
     NumberDetail(style::Key key, ui::NumberField* field)
         : DetailField(key, field)
         , m_field(*field)
+        , m_line(*field->findChild<QLineEdit*>())
     {
         constexpr double kInfinity = std::numeric_limits<double>::infinity();
         const auto limit = [](double number) {
@@ -163,6 +189,7 @@ public:
         field->setLimits(limit(entry().minimum), limit(entry().maximum));
         field->setSingleStep(entry().isPercent ? 0.1 : 1.0);
         field->setMinimumWidth(kShownLetters * field->fontMetrics().averageCharWidth());
+        connect(&m_line, &QLineEdit::textEdited, this, [this] { m_isTyped = true; });
         connect(field, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
                 &NumberDetail::take);
         connect(field, &QDoubleSpinBox::editingFinished, this, &NumberDetail::take);
@@ -173,16 +200,16 @@ public:
     {
         const host::StyleOutput value = present(frame);
         const double* const real = std::get_if<double>(&value);
-        const double number = real ? *real : std::get<std::int32_t>(value);
-        if (m_shown == number && m_field.hasFocus())
-            return;
-        m_shown = number;
-        showNumber(number);
+        show(real ? *real : std::get<std::int32_t>(value), false);
     }
-    void showInstead(double number) override
+    void showInstead(double number) override { show(number, true); }
+    /// What was typed and does not fit waits for its index to be shown again.
+    void setIndex(int index) override
     {
+        if (std::exchange(m_isTyped, false) && !m_field.number())
+            m_refused[DetailField::index()] = m_line.text();
         m_shown.reset();
-        showNumber(number);
+        DetailField::setIndex(index);
     }
     bool eventFilter(QObject*, QEvent* event) override
     {
@@ -195,6 +222,22 @@ public:
     }
 
 private:
+    void show(double number, bool isInstead)
+    {
+        m_isInstead = isInstead;
+        if (m_shown == number && (m_isTyped || m_field.hasFocus()))
+            return;
+        m_shown = number;
+        m_isTyped = false;
+        showNumber(number);
+        const auto refused = m_refused.find(index());
+        if (refused == m_refused.end())
+            return;
+        m_line.setText(refused->second);
+        m_refused.erase(refused);
+        m_isTyped = true;
+    }
+
     void showNumber(double number)
     {
         const QSignalBlocker blocker(&m_field);
@@ -207,14 +250,20 @@ private:
         if (!number)
             return;
         showNumber(*number); // in the notation of the program, whatever was typed
-        if (number == m_shown)
+        const bool isOwnNow = std::exchange(m_isTyped, false) && m_isInstead;
+        if (number == m_shown && !isOwnNow)
             return;
         m_shown = number;
+        m_isInstead = false;
         write(*number);
     }
 
     ui::NumberField& m_field;
+    QLineEdit& m_line; ///< of the field
     std::optional<double> m_shown;
+    bool m_isInstead = false; ///< of what the frame says
+    bool m_isTyped = false; ///< by hand, and not taken
+    std::map<int, QString> m_refused; ///< by indexes that are not shown
 };
 
 class TextField : public DetailField

@@ -27,13 +27,15 @@ public:
     style::Key key() const { return m_key; }
 
     /// Which one of an indexed value is meant, from 1.
-    void setIndex(int index) { m_index = index; }
-    /// Shows what the frame says. What is being typed stays.
+    virtual void setIndex(int index) { m_index = index; }
+    /// Shows what the frame says. What is being typed stays, and what was typed and does not fit.
     virtual void refresh(const host::Frame& frame) = 0;
     /// Shows a number in place of what the frame says, which is not in force.
     virtual void showInstead(double) { }
     /// Gives the frame the value.
     void write(const host::StyleInput& value);
+    void writeDefault();
+    bool hasDefault(const host::Frame& frame) const;
 
 Q_SIGNALS:
     /// The user gave the value, which is written.
@@ -44,6 +46,7 @@ protected:
 
     const style::Entry& entry() const { return style::entryOf(m_key); }
     host::StyleOutput present(const host::Frame& frame) const;
+    int index() const { return m_index; }
 
 private:
     QWidget* m_widget; // owns this

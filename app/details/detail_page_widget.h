@@ -12,6 +12,7 @@
 
 class QComboBox;
 class QFormLayout;
+class QLabel;
 class QPushButton;
 
 namespace corvala::app {
@@ -42,23 +43,33 @@ private:
     struct Line
     {
         DetailField* field; // owned by its widget
-        style::SwitchKey follows;
+        const DetailRow* row;
+        QLabel* seen; // not owned; null where nothing is told
         std::optional<double> proposed = {}; ///< while it follows from the data
     };
 
     void addIndexChoice(QFormLayout& form);
     void addField(QFormLayout& form, const DetailRow& row);
+    QLabel* addSeen(QFormLayout& form);
     void addPicking(QFormLayout& form);
+    void addReset(QFormLayout& form);
     void chooseIndex(int index);
+    void refreshActive();
     int shownIndex() const; ///< -1 without indexes
+    host::StyleOutput read(style::Key key, const host::Frame& frame) const;
+    bool holds(const DetailCondition& condition, const host::Frame& frame) const;
     bool follows(const Line& line, const host::Frame& frame) const;
+    bool matters(const Line& line, const host::Frame& frame) const;
     void refreshLine(Line& line, const host::Frame& frame);
+    void tellSeen(Line& line, const host::Frame& frame);
     void keepProposals(style::Key written);
+    void reset();
 
     const DetailPage& m_page;
     Proposal m_proposal;
     QComboBox* m_index = nullptr; // not owned; null without indexes
     QPushButton* m_picking = nullptr; // not owned; null where no places are picked
+    QPushButton* m_reset = nullptr; // not owned; null without one
     std::vector<Line> m_lines;
 };
 

@@ -1,41 +1,67 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/details/detail_pages.h"
 
-#include <QtGlobal>
+#include <QCoreApplication>
 
 #define DETAIL_TEXT(text) QT_TRANSLATE_NOOP("PlotDetails", text)
 
 namespace corvala::app {
 
+using Proposal = DetailRow::Proposal;
+
+static constexpr DetailCondition kInSpace {style::plotType, PlotType_Field3D};
+static constexpr style::SwitchKey kOwn {}; ///< does not follow from the data
+
+static constexpr DetailCondition kHasLegend {style::contourGroups.showLegend};
 static constexpr DetailRow kContour[] = {
     {style::contourGroups.var, DETAIL_TEXT("Variable")},
-    {style::contourGroups.automaticLevels, DETAIL_TEXT("Levels by the data")},
+    {style::contourGroups.automaticLevels, DETAIL_TEXT("Range by the data")},
     {style::contourGroups.levelMin, DETAIL_TEXT("Lowest level"),
      style::contourGroups.automaticLevels},
     {style::contourGroups.levelMax, DETAIL_TEXT("Highest level"),
      style::contourGroups.automaticLevels},
-    {style::contourGroups.bandCount, DETAIL_TEXT("Bands"), style::contourGroups.automaticLevels},
+    {style::contourGroups.bandCount, DETAIL_TEXT("Bands"), kOwn, {}, Proposal::AtZero},
+    {style::contourGroups.moreLines, DETAIL_TEXT("Lines besides at (values)")},
     {style::contourGroups.colorMap, DETAIL_TEXT("Colors")},
     {style::contourGroups.reversesColors, DETAIL_TEXT("Colors reversed")},
     {style::contourGroups.showLegend, DETAIL_TEXT("Legend")},
-    {style::contourGroups.legendTitle, DETAIL_TEXT("Title of the legend")},
-    {style::contourGroups.automaticLegend, DETAIL_TEXT("Legend beside the plot")},
-    {style::contourGroups.legendX, DETAIL_TEXT("Its left edge [%]"),
-     style::contourGroups.automaticLegend},
-    {style::contourGroups.legendY, DETAIL_TEXT("Its upper edge [%]"),
-     style::contourGroups.automaticLegend},
+    {style::contourGroups.legendTitle, DETAIL_TEXT("Title of the legend"), kOwn, {kHasLegend}},
+    {style::contourGroups.automaticLegend,
+     DETAIL_TEXT("Legend beside the plot"),
+     kOwn,
+     {kHasLegend}},
+    {style::contourGroups.legendX,
+     DETAIL_TEXT("Its left edge [%]"),
+     style::contourGroups.automaticLegend,
+     {kHasLegend}},
+    {style::contourGroups.legendY,
+     DETAIL_TEXT("Its upper edge [%]"),
+     style::contourGroups.automaticLegend,
+     {kHasLegend}},
 };
+static constexpr DetailReset kResetLevels {DETAIL_TEXT("Reset Levels"),
+                                           style::contourGroups.moreLines,
+                                           {style::contourGroups.automaticLevels,
+                                            style::contourGroups.bandCount,
+                                            style::contourGroups.moreLines}};
 
+static constexpr DetailCondition kOfAnyLength {style::globalVector.isUniform, 0};
 static constexpr DetailRow kVector[] = {
     {style::globalVector.uVar, DETAIL_TEXT("U variable")},
     {style::globalVector.vVar, DETAIL_TEXT("V variable")},
-    {style::globalVector.wVar, DETAIL_TEXT("W variable")},
+    {style::globalVector.wVar, DETAIL_TEXT("W variable"), kOwn, {kInSpace}},
+    {style::globalVector.automaticLength, DETAIL_TEXT("Length by the data")},
+    {style::globalVector.lengthOfOne, DETAIL_TEXT("Length of magnitude 1"),
+     style::globalVector.automaticLength},
     {style::globalVector.relativeLength, DETAIL_TEXT("Relative length")},
     {style::globalVector.isUniform, DETAIL_TEXT("All of the same length")},
     {style::globalVector.headSize, DETAIL_TEXT("Head size [% of the vector]")},
     {style::globalVector.headAngle, DETAIL_TEXT("Head angle [\302\260]")},
-    {style::globalVector.showReference, DETAIL_TEXT("Reference arrow")},
-    {style::globalVector.referenceMagnitude, DETAIL_TEXT("Its magnitude (0: a round one)")},
+    {style::globalVector.showReference, DETAIL_TEXT("Reference arrow"), kOwn, {kOfAnyLength}},
+    {style::globalVector.referenceMagnitude,
+     DETAIL_TEXT("Its magnitude (0: a round one)"),
+     kOwn,
+     {kOfAnyLength, {style::globalVector.showReference}}},
 };
 
 static constexpr DetailRow kScatter[] = {
@@ -54,9 +80,9 @@ static constexpr DetailRow kEdge[] = {
 };
 
 static constexpr DetailRow kLight[] = {
-    {style::lightSource.azimuth, DETAIL_TEXT("From the right [\302\260]")},
-    {style::lightSource.elevation, DETAIL_TEXT("From above [\302\260]")},
-    {style::fieldLayers.useTranslucency, DETAIL_TEXT("Translucent surfaces")},
+    {style::lightSource.azimuth, DETAIL_TEXT("From the right [\302\260]"), kOwn, {kInSpace}},
+    {style::lightSource.elevation, DETAIL_TEXT("From above [\302\260]"), kOwn, {kInSpace}},
+    {style::fieldLayers.useTranslucency, DETAIL_TEXT("Translucent surfaces"), kOwn, {kInSpace}},
 };
 
 static constexpr DetailRow kRgb[] = {
@@ -73,58 +99,93 @@ static constexpr DetailRow kBlanking[] = {
     {kConstraint.var, DETAIL_TEXT("Where the variable")},
     {kConstraint.relation, DETAIL_TEXT("is")},
     {kConstraint.comparedWith, DETAIL_TEXT("a")},
-    {kConstraint.constant, DETAIL_TEXT("Constant")},
-    {kConstraint.comparedVar, DETAIL_TEXT("Other variable")},
+    {kConstraint.constant,
+     DETAIL_TEXT("Constant"),
+     kOwn,
+     {{{kConstraint.comparedWith, ComparedWith_Constant}}}},
+    {kConstraint.comparedVar,
+     DETAIL_TEXT("Other variable"),
+     kOwn,
+     {{{kConstraint.comparedWith, ComparedWith_Variable}}}},
 };
 
 static constexpr DetailRow kSlices[] = {
     {style::slices.show, DETAIL_TEXT("Shown")},
-    {style::slices.plane, DETAIL_TEXT("Across")},
-    {style::slices.automaticPosition, DETAIL_TEXT("In the middle")},
-    {style::slices.position, DETAIL_TEXT("Position"), style::slices.automaticPosition},
-    {style::slices.coloring, DETAIL_TEXT("Flood by")},
+    {style::slices.plane, DETAIL_TEXT("Across"), kOwn, {kInSpace}},
+    {style::slices.automaticPosition, DETAIL_TEXT("In the middle"), kOwn, {kInSpace}},
+    {style::slices.position, DETAIL_TEXT("Position"), style::slices.automaticPosition, {kInSpace}},
+    {style::slices.coloring, DETAIL_TEXT("Flood by"), kOwn, {kInSpace}},
 };
 
+static constexpr DetailCondition isoSurfaces(int least)
+{
+    return {style::isoSurfaces.count, least, style::IsoSurfaces::kCount};
+}
 static constexpr DetailRow kIsoSurfaces[] = {
     {style::isoSurfaces.show, DETAIL_TEXT("Shown")},
-    {style::isoSurfaces.var, DETAIL_TEXT("Variable")},
-    {style::isoSurfaces.count, DETAIL_TEXT("Number")},
-    {style::isoSurfaces.automaticValues, DETAIL_TEXT("Values by the data")},
-    {style::isoSurfaces.value1, DETAIL_TEXT("First value"), style::isoSurfaces.automaticValues},
-    {style::isoSurfaces.value2, DETAIL_TEXT("Second value"), style::isoSurfaces.automaticValues},
-    {style::isoSurfaces.value3, DETAIL_TEXT("Third value"), style::isoSurfaces.automaticValues},
-    {style::isoSurfaces.coloring, DETAIL_TEXT("Flood by")},
+    {style::isoSurfaces.var, DETAIL_TEXT("Variable"), kOwn, {kInSpace}},
+    {style::isoSurfaces.count, DETAIL_TEXT("Number"), kOwn, {kInSpace}},
+    {style::isoSurfaces.automaticValues, DETAIL_TEXT("Values by the data"), kOwn, {kInSpace}},
+    {style::isoSurfaces.value1,
+     DETAIL_TEXT("First value"),
+     style::isoSurfaces.automaticValues,
+     {kInSpace}},
+    {style::isoSurfaces.value2,
+     DETAIL_TEXT("Second value"),
+     style::isoSurfaces.automaticValues,
+     {kInSpace, isoSurfaces(2)}},
+    {style::isoSurfaces.value3,
+     DETAIL_TEXT("Third value"),
+     style::isoSurfaces.automaticValues,
+     {kInSpace, isoSurfaces(3)}},
+    {style::isoSurfaces.coloring, DETAIL_TEXT("Flood by"), kOwn, {kInSpace}},
 };
 
+static constexpr DetailRow ofRake(style::RealKey key, const char* text)
+{
+    return {key,
+            text,
+            style::streamtraces.automaticRake,
+            {kInSpace, {style::streamtraces.seedCount, 1, 1000}}};
+}
 static constexpr DetailRow kStreamtraces[] = {
     {style::streamtraces.show, DETAIL_TEXT("Shown")},
-    {style::streamtraces.direction, DETAIL_TEXT("Direction")},
-    {style::streamtraces.seedCount, DETAIL_TEXT("Lines of the rake")},
-    {style::streamtraces.automaticRake, DETAIL_TEXT("Rake across the data")},
-    {style::streamtraces.startX, DETAIL_TEXT("Rake from X"), style::streamtraces.automaticRake},
-    {style::streamtraces.startY, DETAIL_TEXT("Y"), style::streamtraces.automaticRake},
-    {style::streamtraces.startZ, DETAIL_TEXT("Z"), style::streamtraces.automaticRake},
-    {style::streamtraces.endX, DETAIL_TEXT("Rake to X"), style::streamtraces.automaticRake},
-    {style::streamtraces.endY, DETAIL_TEXT("Y"), style::streamtraces.automaticRake},
-    {style::streamtraces.endZ, DETAIL_TEXT("Z"), style::streamtraces.automaticRake},
-    {style::streamtraces.points, DETAIL_TEXT("Points besides (X Y Z ...)")},
-    {style::streamtraces.color, DETAIL_TEXT("Color")},
-    {style::streamtraces.lineThickness, DETAIL_TEXT("Line thickness [%]")},
+    {style::streamtraces.direction, DETAIL_TEXT("Direction"), kOwn, {kInSpace}},
+    {style::streamtraces.seedCount, DETAIL_TEXT("Lines of the rake"), kOwn, {kInSpace}},
+    {style::streamtraces.automaticRake, DETAIL_TEXT("Rake across the data"), kOwn, {kInSpace}},
+    ofRake(style::streamtraces.startX, DETAIL_TEXT("Rake from X")),
+    ofRake(style::streamtraces.startY, DETAIL_TEXT("Y")),
+    ofRake(style::streamtraces.startZ, DETAIL_TEXT("Z")),
+    ofRake(style::streamtraces.endX, DETAIL_TEXT("Rake to X")),
+    ofRake(style::streamtraces.endY, DETAIL_TEXT("Y")),
+    ofRake(style::streamtraces.endZ, DETAIL_TEXT("Z")),
+    {style::streamtraces.points, DETAIL_TEXT("Points besides (X Y Z ...)"), kOwn, {kInSpace}},
+    {style::streamtraces.color, DETAIL_TEXT("Color"), kOwn, {kInSpace}},
+    {style::streamtraces.lineThickness, DETAIL_TEXT("Line thickness [%]"), kOwn, {kInSpace}},
 };
 
+/// An end of the range of an axis. Equal scales of the axes show more of one than was set.
+static constexpr DetailRow endOf(const style::FieldAxis& axis, style::RealKey end, const char* text,
+                                 DetailCondition matters = {})
+{
+    return {end, text, axis.automaticRange, {matters}, Proposal::BesideOwn};
+}
+static constexpr const auto& kX = style::fieldAxes.x;
+static constexpr const auto& kY = style::fieldAxes.y;
+static constexpr const auto& kZ = style::fieldAxes.z;
 static constexpr DetailRow kAxes[] = {
-    {style::fieldAxes.x.automaticRange, DETAIL_TEXT("X range by the data")},
-    {style::fieldAxes.x.rangeMin, DETAIL_TEXT("X minimum"), style::fieldAxes.x.automaticRange},
-    {style::fieldAxes.x.rangeMax, DETAIL_TEXT("X maximum"), style::fieldAxes.x.automaticRange},
-    {style::fieldAxes.x.title, DETAIL_TEXT("X title")},
-    {style::fieldAxes.y.automaticRange, DETAIL_TEXT("Y range by the data")},
-    {style::fieldAxes.y.rangeMin, DETAIL_TEXT("Y minimum"), style::fieldAxes.y.automaticRange},
-    {style::fieldAxes.y.rangeMax, DETAIL_TEXT("Y maximum"), style::fieldAxes.y.automaticRange},
-    {style::fieldAxes.y.title, DETAIL_TEXT("Y title")},
-    {style::fieldAxes.z.automaticRange, DETAIL_TEXT("Z range by the data")},
-    {style::fieldAxes.z.rangeMin, DETAIL_TEXT("Z minimum"), style::fieldAxes.z.automaticRange},
-    {style::fieldAxes.z.rangeMax, DETAIL_TEXT("Z maximum"), style::fieldAxes.z.automaticRange},
-    {style::fieldAxes.z.title, DETAIL_TEXT("Z title")},
+    {kX.automaticRange, DETAIL_TEXT("X range by the data")},
+    endOf(kX, kX.rangeMin, DETAIL_TEXT("X minimum")),
+    endOf(kX, kX.rangeMax, DETAIL_TEXT("X maximum")),
+    {kX.title, DETAIL_TEXT("X title")},
+    {kY.automaticRange, DETAIL_TEXT("Y range by the data")},
+    endOf(kY, kY.rangeMin, DETAIL_TEXT("Y minimum")),
+    endOf(kY, kY.rangeMax, DETAIL_TEXT("Y maximum")),
+    {kY.title, DETAIL_TEXT("Y title")},
+    {kZ.automaticRange, DETAIL_TEXT("Z range by the data"), kOwn, {kInSpace}},
+    endOf(kZ, kZ.rangeMin, DETAIL_TEXT("Z minimum"), kInSpace),
+    endOf(kZ, kZ.rangeMax, DETAIL_TEXT("Z maximum"), kInSpace),
+    {kZ.title, DETAIL_TEXT("Z title"), kOwn, {kInSpace}},
     {style::fieldAxes.fontSize, DETAIL_TEXT("Font size [%]")},
     {style::fieldAxes.showGrid, DETAIL_TEXT("Grid")},
 };
@@ -133,8 +194,13 @@ const std::vector<DetailPage>& detailPages()
 {
     static constexpr style::SwitchKey kNoLayer {};
     static const std::vector<DetailPage> kPages = {
-        {"contour", DETAIL_TEXT("Contour"), style::fieldLayers.showContour, DETAIL_TEXT("Group"),
-         kContour},
+        {"contour",
+         DETAIL_TEXT("Contour"),
+         style::fieldLayers.showContour,
+         DETAIL_TEXT("Group"),
+         kContour,
+         {},
+         kResetLevels},
         {"rgb", DETAIL_TEXT("RGB"), kNoLayer, nullptr, kRgb},
         {"vector", DETAIL_TEXT("Vector"), style::fieldLayers.showVector, nullptr, kVector},
         {"scatter", DETAIL_TEXT("Scatter"), style::fieldLayers.showScatter, nullptr, kScatter},
@@ -148,6 +214,11 @@ const std::vector<DetailPage>& detailPages()
         {"axes", DETAIL_TEXT("Axes"), kNoLayer, nullptr, kAxes},
     };
     return kPages;
+}
+
+QString shownTitle(const DetailPage& page)
+{
+    return QCoreApplication::translate("PlotDetails", page.title);
 }
 
 } // namespace corvala::app

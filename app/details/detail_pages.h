@@ -3,17 +3,37 @@
 
 #include "vocabulary/style.h"
 
+#include <QString>
+
+#include <array>
 #include <cstddef>
 #include <vector>
 
 namespace corvala::app {
 
+/// Holds while a value of the frame is a switch that is on, one of a choice, or within a range. No
+/// key: always.
+struct DetailCondition
+{
+    style::Key key = {};
+    int least = 1;
+    int most = least;
+};
+
 /// One value of the frame on a page. An indexed value is that of the index chosen on the page.
 struct DetailRow
 {
+    enum class Proposal {
+        WhileFollowing,
+        AtZero, ///< 0 follows from the data, too, and is never seen
+        BesideOwn ///< what is seen in the plot is told where it is not what was set
+    };
+
     style::Key key;
     const char* text; ///< beside its field; in the translation context "PlotDetails"
     style::SwitchKey follows = {}; ///< while it is on, the value follows from the data
+    std::array<DetailCondition, 2> matters = {}; ///< only while all of them hold
+    Proposal proposal = Proposal::WhileFollowing;
 };
 
 /// A view of a static array.
@@ -34,6 +54,14 @@ private:
     const DetailRow* m_end;
 };
 
+/// A button that gives values their defaults.
+struct DetailReset
+{
+    const char* text = nullptr; ///< in the translation context "PlotDetails"; null without a button
+    style::Key after = {}; ///< the row that it stands below
+    std::array<style::Key, 3> keys = {};
+};
+
 /// What is set per frame of one subject.
 struct DetailPage
 {
@@ -44,6 +72,7 @@ struct DetailPage
     DetailRows rows;
     /// The value, one of the rows, that has places clicked in the plot; not valid without one.
     style::TextKey places = {};
+    DetailReset reset = {};
 
     /// How many indexes there are; 0 without.
     constexpr int indexCount() const
@@ -57,5 +86,8 @@ struct DetailPage
 
 /// All pages, in the order in which they are offered.
 const std::vector<DetailPage>& detailPages();
+
+/// Of a page, in the language of the user.
+QString shownTitle(const DetailPage& page);
 
 } // namespace corvala::app

@@ -3,7 +3,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStackedWidget>
@@ -58,8 +57,7 @@ DetailsDock::DetailsDock(DetailPageWidget::Proposal proposal, QWidget* parent)
         m_pages.back()->setObjectName(QLatin1String(page.name));
         scroll->setWidget(m_pages.back());
         m_stack->addWidget(scroll);
-        m_choice->addItem(QCoreApplication::translate("PlotDetails", page.title),
-                          QLatin1String(page.name));
+        m_choice->addItem(shownTitle(page), QLatin1String(page.name));
     }
     connect(m_choice, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int page) {
         m_stack->setCurrentIndex(page);

@@ -42,8 +42,9 @@ public:
     virtual void resume();
     /// A remark for the user on what is not shown; empty without one.
     virtual QString notice() const;
-    /// What the user may wonder at in the complete picture; nothing while it is not complete.
-    virtual std::optional<SceneNote> note() const { return std::nullopt; }
+    /// What the user may wonder at in the complete picture, the gravest first; none while it is not
+    /// complete.
+    virtual std::vector<SceneNote> notes() const { return {}; }
 
 protected:
     /// Why a scene starts again; each includes those before.

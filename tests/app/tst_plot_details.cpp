@@ -180,17 +180,25 @@ private:
                                                                  index);
     }
 
-    /// Frees a value from following the data.
+    static void write(style::Key key, double value)
+    {
+        const std::int64_t index = style::entryOf(key).indexCount > 0 ? 1 : -1;
+        QVERIFY(Document::instance()
+                    .execute(host::SetStyle {host::pathOf(key), value, {}, index})
+                    .isDone());
+    }
+
+    /// Frees a value from following the data, and makes it matter.
     void letGo(const DetailField& field)
     {
         for (const DetailPage& page : detailPages())
             for (const DetailRow& row : page.rows)
-                if (row.key == field.key() && row.follows.isValid()) {
-                    const std::int64_t index = style::entryOf(row.key).indexCount > 0 ? 1 : -1;
-                    QVERIFY(
-                        Document::instance()
-                            .execute(host::SetStyle {host::pathOf(row.follows), false, {}, index})
-                            .isDone());
+                if (row.key == field.key()) {
+                    if (row.follows.isValid())
+                        write(row.follows, 0);
+                    for (const DetailCondition& condition : row.matters)
+                        if (condition.key.isValid())
+                            write(condition.key, condition.most);
                 }
         m_dock->refresh();
     }

@@ -510,6 +510,11 @@ private Q_SLOTS:
         row("all blanked", blanking.arg(9),
             "Value blanking takes away every cell of the active zones, by constraint 2 (\"X\").");
         row("some blanked", blanking.arg(3), "");
+        row("blanked by nothing", blanking.arg(3) + " Blanking/Value/Constraint/Include[4]=1",
+            "Blanking constraint 4 takes nothing away");
+        row("axis upside down",
+            "FieldAxes/Z/AutomaticRange=0 FieldAxes/Z/RangeMin=3 FieldAxes/Z/RangeMax=1",
+            "The Z axis has the range of the data: its minimum, 3, is not below its maximum, 1.");
         const QString slice = "Slices/Show[3]=1 Slices/AutomaticPosition[3]=0 Slices/Plane[3]=%1 "
                               "Slices/Position[3]=%2";
         row("slice beside", slice.arg(2).arg(-4),
@@ -520,6 +525,8 @@ private Q_SLOTS:
         row("no such value", iso + "-9",
             "The iso-surface value -9 lies outside the values of \"X\"");
         row("value of the data", iso + '2', "");
+        row("surfaces of a constant", QString("IsoSurfaces/Show=1 IsoSurfaces/Var=%1").arg(One),
+            "No iso-surface is drawn: its variable");
         row("seeds beside",
             "Streamtraces/AutomaticRake=0 Streamtraces/StartX=90 Streamtraces/EndX=99 "
             "Streamtraces/Show=1",
@@ -560,13 +567,13 @@ private Q_SLOTS:
                 edit(text);
         }
         shown.work();
-        const auto found = shown.scene.note();
-        QCOMPARE(found ? found->text.left(note.size()) : QString(), note);
-        QCOMPARE(found.has_value(), !note.isEmpty());
-        const bool isMended = found && found->mending;
-        QVERIFY(!isMended || document().execute(*found->mending).isDone());
+        const auto found = shown.scene.notes();
+        QCOMPARE(found.empty() ? QString() : found.front().text.left(note.size()), note);
+        QCOMPARE(found.empty(), note.isEmpty());
+        const bool isMended = !found.empty() && found.front().mending;
+        QVERIFY(!isMended || document().execute(*found.front().mending).isDone());
         shown.work();
-        QVERIFY(!isMended || !shown.scene.note());
+        QVERIFY(!isMended || shown.scene.notes().empty());
     }
 
     void streamsAreOfAllMaps()

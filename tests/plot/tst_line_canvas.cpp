@@ -361,8 +361,9 @@ private Q_SLOTS:
         ShownCanvas shown;
         QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot));
         QVERIFY(!shown.scene().notice().isEmpty());
-        for (const char* layer : {"Lines", "Symbols", "BarCharts"})
-            write(QStringLiteral("LineMap/%1/Show").arg(layer), "1-10", 0);
+        for (const char* shown :
+             {"LineMap/Lines/Show", "LineMap/Symbols/Show", "LineMap/BarCharts/Show"})
+            write(shown, "1-10", 0);
         shown.settle();
         QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot) - 5);
         QVERIFY(shown.scene().notice().isEmpty());

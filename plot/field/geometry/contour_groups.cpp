@@ -2,6 +2,7 @@
 #include "plot/field/geometry/contour_groups.h"
 
 #include "plot/common/nice_steps.h"
+#include "plot/common/number_list.h"
 
 #include <algorithm>
 #include <cmath>
@@ -39,12 +40,20 @@ ContourLevels levelsFor(double minimum, double maximum)
     return levels;
 }
 
-std::optional<ContourLevels> ChosenLevels::levels() const
+/// So that ends which `levelsFor` proposed have the bands that it proposed.
+static int roundBands(double span)
 {
-    const double span = maximum - minimum;
-    return span > 0.0 && std::isfinite(span)
-        ? std::optional(ContourLevels {minimum, span / bands, bands})
-        : std::nullopt;
+    return std::max(static_cast<int>(std::lround(span / niceStep(span, kMostBands + 1))), 1);
+}
+
+ContourLevels ChosenLevels::levels(double minimum, double maximum) const
+{
+    const ContourLevels round = levelsFor(minimum, maximum);
+    if (!ends && (bands == 0 || round.isSingleValue()))
+        return round;
+    const auto [lowest, highest] = ends.value_or(std::pair(minimum, maximum));
+    const int count = bands > 0 ? bands : roundBands(highest - lowest);
+    return {lowest, (highest - lowest) / count, count};
 }
 
 /// The variable of the coordinate X, Y or Z; 0 without one.
@@ -61,8 +70,8 @@ static CvlInt64 coordinateOf(const host::Frame& frame, int axis)
 
 bool operator==(const ChosenLevels& left, const ChosenLevels& right)
 {
-    return left.minimum == right.minimum && left.maximum == right.maximum
-        && left.bands == right.bands;
+    return left.ends == right.ends && left.bands == right.bands
+        && left.moreLines == right.moreLines;
 }
 
 /// What the style says of a group.
@@ -85,13 +94,20 @@ public:
                 m_frame.values().integer(host::Schema::instance().at(style::contourGroups.var), 1);
         return m_frame.data() && m_frame.data()->hasVariable(variable) ? variable : 0;
     }
-    std::optional<ChosenLevels> levels() const
+    /// Ends that span nothing are not in force.
+    ChosenLevels levels() const
     {
         constexpr const auto& kGroup = style::contourGroups;
-        if (!isContour() || integer(kGroup.automaticLevels) != 0)
-            return std::nullopt;
-        return ChosenLevels {real(kGroup.levelMin), real(kGroup.levelMax),
-                             integer(kGroup.bandCount)};
+        if (!isContour())
+            return {};
+        ChosenLevels chosen {
+            {}, integer(kGroup.bandCount), numbersIn(text(kGroup.moreLines)).numbers};
+        const std::pair ends(real(kGroup.levelMin), real(kGroup.levelMax));
+        const bool areInForce = integer(kGroup.automaticLevels) == 0 && ends.first < ends.second
+            && std::isfinite(ends.second - ends.first);
+        if (areInForce)
+            chosen.ends = ends;
+        return chosen;
     }
     ColorScale colors() const
     {
@@ -119,6 +135,11 @@ private:
     {
         return m_frame.values().real(host::Schema::instance().at(id), m_group);
     }
+    const std::string& text(style::TextKey key) const
+    {
+        return std::get<std::string>(
+            m_frame.values().get(host::Schema::instance().at(key), m_group));
+    }
 
     const host::Frame& m_frame;
     int m_group;
@@ -139,12 +160,18 @@ void ContourGroups::takeStyle(const host::Frame& frame)
             group.colors = style.colors();
             ++group.recolorings;
         }
-        if (!(style.levels() == group.chosen)) {
-            group.chosen = style.levels();
+        const ChosenLevels chosen = style.levels();
+        if (!(chosen == group.chosen)) {
+            group.revision += chosen.moreLines == group.chosen.moreLines ? 0 : 1;
+            group.chosen = chosen;
             if (group.hasRange)
                 setLevels(group, number < kRed);
         }
     }
+    constexpr const auto& kVectors = style::globalVector;
+    m_chosenLengthOfOne = frame.isOn(kVectors.automaticLength)
+        ? 0.0
+        : frame.values().real(host::Schema::instance().at(kVectors.lengthOfOne));
 }
 
 void ContourGroups::clear()
@@ -176,11 +203,18 @@ bool ContourGroups::setVectorScale(const VectorScale& scale)
     return changed;
 }
 
+VectorScale ContourGroups::vectorScale() const
+{
+    if (!(m_chosenLengthOfOne > 0.0) || !(m_vectorScale.lengthOfOne > 0.0))
+        return m_vectorScale;
+    const double factor = m_chosenLengthOfOne / m_vectorScale.lengthOfOne;
+    return {m_chosenLengthOfOne, factor * m_vectorScale.length};
+}
+
 /// All but contours go by the range itself.
 void ContourGroups::setLevels(Group& group, bool isContour)
 {
-    const auto chosen = group.chosen ? group.chosen->levels() : std::nullopt;
-    const ContourLevels levels = chosen ? *chosen : levelsFor(group.minimum, group.maximum);
+    const ContourLevels levels = group.chosen.levels(group.minimum, group.maximum);
     group.revision += !isContour || !(levels == group.levels) ? 1 : 0;
     group.levels = levels;
 }
@@ -207,10 +241,13 @@ std::vector<double> ContourGroups::lineLevels(int number) const
 {
     const Group& group = at(number);
     std::vector<double> lines = group.levels.inner();
-    if (group.chosen && group.levels.minimum > group.minimum)
-        lines.insert(lines.begin(), group.levels.minimum);
-    if (group.chosen && group.levels.maximum() < group.maximum)
+    if (group.levels.minimum > group.minimum)
+        lines.push_back(group.levels.minimum);
+    if (group.levels.maximum() < group.maximum)
         lines.push_back(group.levels.maximum());
+    lines.insert(lines.end(), group.chosen.moreLines.begin(), group.chosen.moreLines.end());
+    std::sort(lines.begin(), lines.end());
+    lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
     return lines;
 }
 

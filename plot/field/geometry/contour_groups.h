@@ -6,6 +6,7 @@
 
 #include <array>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace corvala::plot {
@@ -37,15 +38,15 @@ struct VectorScale
     double length = 0.0; ///< of a large one of those that are shown
 };
 
-/// The levels that a user chose instead of those that follow from the values.
+/// What a user chose of the levels; the rest follows from the values.
 struct ChosenLevels
 {
-    double minimum = 0.0;
-    double maximum = 1.0;
-    int bands = 1;
+    std::optional<std::pair<double, double>> ends; ///< the first one below the other
+    int bands = 0; ///< 0: as many as are round
+    std::vector<double> moreLines; ///< that have no part in the bands
 
-    /// Nothing when they span nothing.
-    std::optional<ContourLevels> levels() const;
+    /// The levels of values with this range.
+    ContourLevels levels(double minimum, double maximum) const;
 };
 
 bool operator==(const ChosenLevels& left, const ChosenLevels& right);
@@ -82,7 +83,7 @@ public:
 
     const ContourLevels& levels(int group) const { return at(group).levels; }
     /// The levels at which the values have lines: also the ends of chosen levels that leave values
-    /// out.
+    /// out, and what was chosen besides. In ascending order.
     std::vector<double> lineLevels(int group) const;
     const ColorScale& colors(int group) const { return at(group).colors; }
     /// Differs whenever variable or levels do.
@@ -99,9 +100,10 @@ public:
     /// a level is of one colour, and no lines cross it.
     double rounding(int group) const;
 
-    /// True when it is another than before.
+    /// Gives what is proposed from the values; true when it is another than before.
     bool setVectorScale(const VectorScale& scale);
-    const VectorScale& vectorScale() const { return m_vectorScale; }
+    /// What is proposed, or as long as was chosen for magnitude 1.
+    VectorScale vectorScale() const;
 
     /// The range as it is, not rounded to levels.
     double minimum(int group) const { return at(group).minimum; }
@@ -117,7 +119,7 @@ private:
         double reference = 0.0; ///< value at coordinate 0
         double unit = 1.0; ///< change of value from coordinate 0 to 1
         ContourLevels levels;
-        std::optional<ChosenLevels> chosen;
+        ChosenLevels chosen;
         ColorScale colors;
         int revision = 0;
         int recolorings = 0;
@@ -129,7 +131,8 @@ private:
     const Group& at(int group) const { return m_groups[static_cast<std::size_t>(group - 1)]; }
 
     std::array<Group, kCount> m_groups;
-    VectorScale m_vectorScale;
+    VectorScale m_vectorScale; ///< as proposed
+    double m_chosenLengthOfOne = 0.0; ///< 0 while it follows from the values
 };
 
 } // namespace corvala::plot

@@ -584,15 +584,15 @@ bool FieldScene::isAllBlanked() const
     return isBlanked;
 }
 
-std::optional<SceneNote> FieldScene::note() const
+std::vector<SceneNote> FieldScene::notes() const
 {
     const host::Frame* const drawn = frame();
     if (!drawn || hasWork())
-        return std::nullopt;
+        return {};
     const CompositeLayer& streams = layer(FieldLayer::Streamtraces);
     const bool startsOutside = streams.isVisible() && m_streamStart.isOutside;
-    return noteOn({*drawn, m_groups, shownMaps(), isAllBlanked(),
-                   startsOutside && !streamMaps(*drawn).empty()});
+    return notesOn({*drawn, m_groups, shownMaps(), isAllBlanked(),
+                    startsOutside && !streamMaps(*drawn).empty()});
 }
 
 } // namespace corvala::plot

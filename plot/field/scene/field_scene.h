@@ -57,7 +57,7 @@ public:
     bool advance(int milliseconds) override;
     void cancel() override;
     QString notice() const override;
-    std::optional<SceneNote> note() const override;
+    std::vector<SceneNote> notes() const override;
 
     /// Puts what is drawn in order and fits it to the view; call before drawing.
     void prepare(const ViewScale& scale);

@@ -310,9 +310,9 @@ std::optional<BlockLook> lookOf(FieldLayer layer, const ShownMap& map, const Con
 
 double arrowScale(const host::Frame& frame, const ContourGroups& groups)
 {
-    const VectorScale& proposed = groups.vectorScale();
+    const VectorScale scale = groups.vectorScale();
     const bool isUniform = frame.isOn(style::globalVector.isUniform);
-    return (isUniform ? proposed.length : proposed.lengthOfOne)
+    return (isUniform ? scale.length : scale.lengthOfOne)
         * frame.values().real(host::Schema::instance().at(style::globalVector.relativeLength));
 }
 

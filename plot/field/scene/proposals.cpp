@@ -64,6 +64,9 @@ std::optional<double> proposedValue(const host::Frame& frame, const ContourGroup
     }
     if (style::isInGroupOf(value, style::isoSurfaces.var))
         return proposedIso(frame, groups, value);
+    const VectorScale scale = groups.vectorScale();
+    if (value == style::globalVector.lengthOfOne)
+        return scale.lengthOfOne > 0.0 ? std::optional(scale.lengthOfOne) : std::nullopt;
     return value == style::globalScatter.rangeMin ? between(groups, ContourGroups::kSize, 0.0)
         : value == style::globalScatter.rangeMax  ? between(groups, ContourGroups::kSize, 1.0)
                                                   : std::nullopt;

@@ -3,10 +3,13 @@
 
 #include "host/document/line_map_name.h"
 #include "host/style/schema.h"
+#include "plot/common/number_list.h"
 #include "plot/field/scene/map_style.h"
 
 #include <QCoreApplication>
 #include <QStringList>
+
+#include <utility>
 
 namespace corvala::plot {
 
@@ -22,16 +25,21 @@ public:
     {
     }
 
-    std::optional<SceneNote> first() const;
+    std::vector<SceneNote> all() const;
 
 private:
     std::optional<SceneNote> blanking() const;
+    std::optional<SceneNote> constraints() const;
+    std::optional<SceneNote> axes() const;
     std::optional<SceneNote> levels() const;
+    std::optional<SceneNote> lines() const;
     std::optional<SceneNote> volumes() const;
     std::optional<SceneNote> slices() const;
     std::optional<SceneNote> slice(int number) const;
     std::optional<SceneNote> isoSurfaces() const;
+    std::optional<SceneNote> isoValues() const;
     std::optional<SceneNote> streamtraces() const;
+    std::optional<SceneNote> points() const;
     std::optional<SceneNote> vectors() const;
     std::optional<SceneNote> scatter() const;
     std::optional<SceneNote> inside() const;
@@ -43,6 +51,11 @@ private:
     double real(style::Key key, int index = -1) const
     {
         return m_facts.frame.values().real(host::Schema::instance().at(key), index);
+    }
+    const std::string& text(style::TextKey key, int index = -1) const
+    {
+        return std::get<std::string>(
+            m_facts.frame.values().get(host::Schema::instance().at(key), index));
     }
     QString nameOf(CvlInt64 variable) const
     {
@@ -103,6 +116,51 @@ std::optional<SceneNote> Notes::blanking() const
                       switched(value.include, false)};
 }
 
+/// Those that take nothing away, whatever the data are.
+std::optional<SceneNote> Notes::constraints() const
+{
+    constexpr const auto& constraint = style::blanking.value.constraint;
+    if (number(style::blanking.value.include) == 0)
+        return std::nullopt;
+    for (int i = 1; i <= constraint.kCount; ++i) {
+        const bool hasVariables = number(constraint.var, i) != 0
+            && (number(constraint.comparedWith, i) == ComparedWith_Constant
+                || number(constraint.comparedVar, i) != 0);
+        if (number(constraint.include, i) != 0 && !hasVariables)
+            return SceneNote {
+                tr("Blanking constraint %1 takes nothing away: it has no variable.").arg(i),
+                number(constraint.var, i) == 0 ? constraint.var : constraint.comparedVar,
+                tr("Switch Off the Constraint"), switched(constraint.include, false, i)};
+    }
+    return std::nullopt;
+}
+
+std::optional<SceneNote> Notes::axes() const
+{
+    struct Axis
+    {
+        const char* name;
+        const style::FieldAxis& style;
+    };
+    const Axis kAxes[] = {
+        {"X", style::fieldAxes.x}, {"Y", style::fieldAxes.y}, {"Z", style::fieldAxes.z}};
+    const int count = m_facts.frame.plotType() == PlotType_Field3D ? 3 : 2;
+    for (int i = 0; i < count; ++i) {
+        const style::FieldAxis& axis = kAxes[i].style;
+        const double least = real(axis.rangeMin);
+        const double most = real(axis.rangeMax);
+        if (number(axis.automaticRange) == 0 && !(least < most))
+            return SceneNote {tr("The %1 axis has the range of the data: its minimum, %2, is not "
+                                 "below its maximum, %3.")
+                                  .arg(QLatin1String(kAxes[i].name))
+                                  .arg(least)
+                                  .arg(most),
+                              axis.rangeMin, tr("Keep the Range of the Data"),
+                              switched(axis.automaticRange, true)};
+    }
+    return std::nullopt;
+}
+
 std::optional<SceneNote> Notes::levels() const
 {
     constexpr const auto& groups = style::contourGroups;
@@ -120,6 +178,21 @@ std::optional<SceneNote> Notes::levels() const
                 .arg(highest),
             groups.levelMin, tr("Keep Levels by the Data"),
             switched(groups.automaticLevels, true, group)};
+    }
+    return std::nullopt;
+}
+
+std::optional<SceneNote> Notes::lines() const
+{
+    constexpr const auto& groups = style::contourGroups;
+    for (int group = 1; group <= style::ContourGroups::kCount; ++group) {
+        const QString rest = numbersIn(text(groups.moreLines, group)).rest;
+        if (!rest.isEmpty() && m_facts.groups.hasRange(group))
+            return SceneNote {tr("The values of more lines of contour group %1 end before \"%2\", "
+                                 "which is no number.")
+                                  .arg(group)
+                                  .arg(rest),
+                              groups.moreLines};
     }
     return std::nullopt;
 }
@@ -187,6 +260,22 @@ std::optional<SceneNote> Notes::slices() const
 
 std::optional<SceneNote> Notes::isoSurfaces() const
 {
+    constexpr int kGroup = ContourGroups::kIso;
+    const ContourGroups& groups = m_facts.groups;
+    const bool isConstant =
+        groups.hasRange(kGroup) && groups.minimum(kGroup) == groups.maximum(kGroup);
+    if (!isConstant || !shows(FieldLayer::IsoSurfaces, anyLook))
+        return isoValues();
+    return SceneNote {
+        tr("No iso-surface is drawn: its variable \"%1\" is %2 in all zones that show "
+           "them.")
+            .arg(nameOf(groups.variable(kGroup)))
+            .arg(groups.minimum(kGroup)),
+        style::isoSurfaces.var};
+}
+
+std::optional<SceneNote> Notes::isoValues() const
+{
     constexpr const auto& iso = style::isoSurfaces;
     constexpr style::Key kValues[] = {iso.value1, iso.value2, iso.value3};
     constexpr int kGroup = ContourGroups::kIso;
@@ -220,6 +309,20 @@ std::optional<SceneNote> Notes::streamtraces() const
         note.mending = switched(streams.automaticRake, true);
     }
     return note;
+}
+
+std::optional<SceneNote> Notes::points() const
+{
+    constexpr const auto& streams = style::streamtraces;
+    const NumberList list = numbersIn(text(streams.points));
+    const bool isWhole = list.rest.isEmpty() && list.numbers.size() % 3 == 0;
+    if (isWhole || !shows(FieldLayer::Streamtraces, anyLook))
+        return std::nullopt;
+    return SceneNote {list.rest.isEmpty()
+                          ? tr("The last of the points besides the rake has no three coordinates.")
+                          : tr("The points besides the rake end before \"%1\", which is no number.")
+                                .arg(list.rest),
+                      streams.points};
 }
 
 std::optional<SceneNote> Notes::vectors() const
@@ -301,22 +404,24 @@ std::optional<SceneNote> Notes::inside() const
         host::SetStyle {host::pathOf(kSurfaces), double {SurfacesToPlot_None}, closed}};
 }
 
-std::optional<SceneNote> Notes::first() const
+std::vector<SceneNote> Notes::all() const
 {
     using Note = std::optional<SceneNote> (Notes::*)() const;
+    std::vector<SceneNote> notes;
     for (const Note note :
-         {&Notes::blanking, &Notes::levels, &Notes::volumes, &Notes::slices, &Notes::isoSurfaces,
-          &Notes::streamtraces, &Notes::vectors, &Notes::scatter, &Notes::inside})
+         {&Notes::blanking, &Notes::constraints, &Notes::axes, &Notes::levels, &Notes::lines,
+          &Notes::volumes, &Notes::slices, &Notes::isoSurfaces, &Notes::streamtraces,
+          &Notes::points, &Notes::vectors, &Notes::scatter, &Notes::inside})
         if (auto found = (this->*note)())
-            return found;
-    return std::nullopt;
+            notes.push_back(std::move(*found));
+    return notes;
 }
 
 } // namespace
 
-std::optional<SceneNote> noteOn(const NoteFacts& facts)
+std::vector<SceneNote> notesOn(const NoteFacts& facts)
 {
-    return Notes(facts).first();
+    return Notes(facts).all();
 }
 
 } // namespace corvala::plot

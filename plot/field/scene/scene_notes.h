@@ -4,7 +4,7 @@
 #include "plot/common/scene_note.h"
 #include "plot/field/scene/layer_looks.h"
 
-#include <optional>
+#include <vector>
 
 namespace corvala::plot {
 
@@ -18,7 +18,7 @@ struct NoteFacts
     bool startsOutside; ///< no streamtrace starts in a cell
 };
 
-/// The first thing to wonder about; nothing when all is as it should be.
-std::optional<SceneNote> noteOn(const NoteFacts& facts);
+/// What to wonder about, the gravest first; of things of one kind the first one.
+std::vector<SceneNote> notesOn(const NoteFacts& facts);
 
 } // namespace corvala::plot

@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/scene/volume_looks.h"
 
+#include "plot/common/number_list.h"
 #include "plot/field/scene/map_style.h"
 #include "plot/field/scene/proposals.h"
-
-#include <QString>
-#include <QStringList>
-
-#include <cmath>
 
 namespace corvala::plot {
 
@@ -135,15 +131,7 @@ std::vector<StreamMap> streamMaps(const host::Frame& frame)
 
 std::vector<double> pointsIn(const std::string& text)
 {
-    std::vector<double> numbers;
-    const QString words = QString::fromStdString(text).simplified();
-    for (const QString& word : words.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        bool isNumber = false;
-        const double number = word.toDouble(&isNumber);
-        if (!isNumber || !std::isfinite(number))
-            break;
-        numbers.push_back(number);
-    }
+    std::vector<double> numbers = numbersIn(text).numbers;
     numbers.resize(numbers.size() / 3 * 3);
     return numbers;
 }

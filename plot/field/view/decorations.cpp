@@ -35,35 +35,91 @@ static QRectF placedLegend(const FieldLegend& legend, const QSizeF& picture, dou
         size};
 }
 
+/// Rows of legends, each with so many of them and as wide as they are together.
+static double widestRow(const std::vector<double>& widths, std::size_t perRow)
+{
+    double widest = 0.0;
+    for (std::size_t first = 0; first < widths.size(); first += perRow) {
+        double all = 0.0;
+        for (std::size_t i = first; i < std::min(first + perRow, widths.size()); ++i)
+            all += widths[i];
+        widest = std::max(widest, all);
+    }
+    return widest;
+}
+
+/// As few rows as leave the plot its share of the picture, as long as bars have a height.
+static std::size_t legendsPerRow(const std::vector<double>& widths, double picture, double height)
+{
+    constexpr double kMostWidth = 0.4; // of the picture
+    constexpr double kLeastHeight = 9.0; // of a row
+    const std::size_t count = widths.size();
+    for (std::size_t rows = 1; rows < count; ++rows) {
+        const std::size_t perRow = (count + rows - 1) / rows;
+        if (widestRow(widths, perRow) <= kMostWidth * picture
+            || height / static_cast<double>(rows + 1) < kLeastHeight)
+            return perRow;
+    }
+    return 1;
+}
+
+/// The legends that have no place of their own stand in rows.
+static void placeLegends(FieldLayout& layout, const std::vector<FieldLegend>& legends,
+                         const QSizeF& picture, const QRectF& room, std::size_t perRow,
+                         double shrink)
+{
+    const auto count = std::count_if(legends.begin(), legends.end(),
+                                     [](const FieldLegend& legend) { return !legend.place; });
+    const std::size_t rows = (static_cast<std::size_t>(count) + perRow - 1) / perRow;
+    const double height = room.height() / static_cast<double>(std::max<std::size_t>(rows, 1));
+    std::size_t number = 0;
+    double left = room.left();
+    for (const FieldLegend& legend : legends) {
+        if (legend.place) {
+            layout.legends.push_back(placedLegend(legend, picture, layout.font));
+            continue;
+        }
+        if (number % perRow == 0)
+            left = room.left();
+        const double width = legendWidth(legend, layout.font) * shrink;
+        layout.legends.emplace_back(left,
+                                    room.top() + height * static_cast<double>(number / perRow),
+                                    width, rows > 1 ? height - 1.5 * layout.font : height);
+        left += width;
+        ++number;
+    }
+}
+
+static double fontFor(const QSize& size, double fontScale)
+{
+    constexpr double kLargestShare = 10.0; // of the picture, in heights of text
+    const double usual = std::clamp(std::min(size.height() / 45.0, size.width() / 50.0), 9.0, 40.0);
+    return std::max(
+        1.0, std::min(usual * fontScale, std::min(size.width(), size.height()) / kLargestShare));
+}
+
 FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>& legends,
                    double yTexts, bool hasVectorKey, double fontScale)
 {
-    constexpr double kLargestShare = 10.0; // of the picture, in heights of text
     FieldLayout layout;
-    const double usual = std::clamp(std::min(size.height() / 45.0, size.width() / 50.0), 9.0, 40.0);
-    layout.font = std::max(
-        1.0, std::min(usual * fontScale, std::min(size.width(), size.height()) / kLargestShare));
+    layout.font = fontFor(size, fontScale);
     const double font = layout.font;
     QRectF area(0, 0, size.width(), size.height());
-    double all = 0.0;
+    std::vector<double> widths;
     for (const FieldLegend& legend : legends)
-        all += legend.place ? 0.0 : legendWidth(legend, font);
-    all = std::max(all, hasVectorKey ? kVectorKeyWidth * font : 0.0);
-    const double shrink = all > 0.0 ? std::min(size.width() / 2.0 / all, 1.0) : 1.0;
-    double left = area.right() - all * shrink;
-    area.setRight(left);
+        if (!legend.place)
+            widths.push_back(legendWidth(legend, font));
+    const double top = 1.5 * font;
     const double below = (hasVectorKey ? 8.5 : 5.5) * font;
+    const std::size_t perRow = legendsPerRow(widths, size.width(), (size.height() - below) / font);
+    const double all =
+        std::max(widestRow(widths, perRow), hasVectorKey ? kVectorKeyWidth * font : 0.0);
+    const double shrink = all > 0.0 ? std::min(size.width() / 2.0 / all, 1.0) : 1.0;
+    area.setRight(area.right() - all * shrink);
     if (hasVectorKey)
-        layout.vectorKey = {left, area.height() - 6.0 * font, all * shrink, 4.5 * font};
-    for (const FieldLegend& legend : legends) {
-        if (legend.place) {
-            layout.legends.push_back(placedLegend(legend, size, font));
-            continue;
-        }
-        const double width = legendWidth(legend, font) * shrink;
-        layout.legends.emplace_back(left, 1.5 * font, width, area.height() - below);
-        left += width;
-    }
+        layout.vectorKey = {area.right(), area.height() - 6.0 * font, all * shrink, 4.5 * font};
+    placeLegends(layout, legends, size, {area.right(), top, all * shrink, area.height() - below},
+                 perRow, shrink);
     const double leftMargin =
         std::max(kSmallestLeftMargin * font, yTexts + (kTextGap + kTitleHeight + 0.6) * font);
     layout.plot = flat ? area.adjusted(leftMargin, 1.5 * font, -1.5 * font, -4.0 * font) : area;

@@ -33,9 +33,9 @@ struct FieldLayout
 };
 
 /// A flat plot leaves room for its axes, whose numbers at the left side are `yTexts` pixels wide;
-/// legends stand at the right, each as wide as its title and numbers need, and below them what the
-/// length of arrows means. Legends with a place lie over the plot, all within the picture. Texts
-/// are `fontScale` times as high as usual.
+/// legends stand at the right, each as wide as its title and numbers need, in rows where they
+/// would take too much of the picture, and below them what the length of arrows means. Legends with
+/// a place lie over the plot, all within the picture. Texts are `fontScale` times as high as usual.
 FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>& legends,
                    double yTexts = 0.0, bool hasVectorKey = false, double fontScale = 1.0);
 

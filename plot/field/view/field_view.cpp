@@ -165,13 +165,15 @@ void FieldView::fitFlat(const vtkBoundingBox& box)
     box.GetCenter(center);
     box.GetLengths(lengths);
     const double aspect = m_layout.plot.width() / m_layout.plot.height();
+    for (const std::size_t axis : {0, 1}) // a range that was set is shown as it is
+        lengths[axis] *= m_axes.ranges[axis] ? 1.0 : kFitMargin;
     const double halfHeight = std::max(lengths[1], lengths[0] / aspect) / 2;
     const double top = box.GetMaxPoint()[2];
     vtkCamera* const camera = m_back->GetActiveCamera();
     camera->SetFocalPoint(center[0], center[1], 0.0);
     camera->SetPosition(center[0], center[1], 2.0 * top + 10.0);
     camera->SetViewUp(0.0, 1.0, 0.0);
-    camera->SetParallelScale(halfHeight > 0.0 ? kFitMargin * halfHeight : 1.0);
+    camera->SetParallelScale(halfHeight > 0.0 ? halfHeight : 1.0);
 }
 
 static AxisDirections axisDirections(vtkCamera& camera)
@@ -345,21 +347,28 @@ std::optional<double> FieldView::proposal(style::Key value, int index) const
         return legend->x();
     if (legend && value == style::contourGroups.legendY)
         return legend->y();
-    const PlaneWindow window = m_flat ? planeWindow() : PlaneWindow();
+    constexpr style::Key kEnds[] = {kAxes.x.rangeMin, kAxes.x.rangeMax, kAxes.y.rangeMin,
+                                    kAxes.y.rangeMax, kAxes.z.rangeMin, kAxes.z.rangeMax};
+    const auto* const end = std::find(std::begin(kEnds), std::end(kEnds), value);
+    return end == std::end(kEnds) ? m_scene->proposal(value, index)
+                                  : seenEnd(static_cast<int>(end - std::begin(kEnds)));
+}
+
+std::optional<double> FieldView::seenEnd(int number) const
+{
+    constexpr double kSame = 1e-9; // of what is seen
     const vtkBoundingBox box = m_scene->bounds();
-    if (!isAxisRange(value) || !box.IsValid())
-        return m_scene->proposal(value, index);
-    const std::pair<style::Key, double> ends[] = {
-        {kAxes.x.rangeMin, m_flat ? window.xMinimum : box.GetBound(0)},
-        {kAxes.x.rangeMax, m_flat ? window.xMaximum : box.GetBound(1)},
-        {kAxes.y.rangeMin, m_flat ? window.yMinimum : box.GetBound(2)},
-        {kAxes.y.rangeMax, m_flat ? window.yMaximum : box.GetBound(3)},
-        {kAxes.z.rangeMin, box.GetBound(4)},
-        {kAxes.z.rangeMax, box.GetBound(5)}};
-    for (const auto& [key, end] : ends)
-        if (key == value)
-            return end;
-    return std::nullopt;
+    const auto& range = m_axes.ranges[static_cast<std::size_t>(number / 2)];
+    const bool hasEnds = m_flat ? number < 4 : !range;
+    if (!box.IsValid() || !hasEnds)
+        return std::nullopt;
+    if (!m_flat)
+        return box.GetBound(number);
+    const PlaneWindow window = planeWindow();
+    const double ends[] = {window.xMinimum, window.xMaximum, window.yMinimum, window.yMaximum};
+    const double set = !range ? ends[number] : number % 2 == 0 ? range->first : range->second;
+    const double seen = window.yMaximum - window.yMinimum;
+    return std::abs(ends[number] - set) < kSame * seen ? set : ends[number];
 }
 
 void FieldView::pan(const QPointF& pixels)

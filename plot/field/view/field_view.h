@@ -107,6 +107,9 @@ private:
     SpaceView spaceView() const;
     void showGrid(const vtkBoundingBox& box);
     PlaneWindow planeWindow() const;
+    /// Of an axis, by twice its number and 1 for the upper end; nothing where it has none, as
+    /// ranges that are set in space.
+    std::optional<double> seenEnd(int number) const;
     PickRay rayAt(const QPointF& point);
     void placeCamera();
     void fitFlat(const vtkBoundingBox& box);

@@ -19,11 +19,13 @@ namespace corvala::plot {
 // Sizes are in heights of text.
 static constexpr double kNarrowest = 7.5;
 static constexpr double kWidest = 16.0;
+static constexpr double kWidestLine = 10.0; ///< of a title, before it takes two lines
+static constexpr double kShareOfTwoLines = 0.6; ///< of what a title takes in one
 static constexpr double kBarWidth = 1.4;
 static constexpr double kTallestBar = 26.0;
 static constexpr double kSingleBand = 3.0;
-static constexpr double kTitleHeight = 1.6;
-static constexpr double kBarTop = 2.0;
+static constexpr double kTitleLine = 1.3;
+static constexpr double kBarTop = 2.0; ///< below a title of one line
 
 /// That of the last digit with which all levels are told apart, and told exactly where two digits
 /// more than those of their distance do.
@@ -76,8 +78,10 @@ std::vector<LegendText> legendTexts(const std::optional<ContourLevels>& levels, 
 double legendWidth(const FieldLegend& legend, double font)
 {
     const QFontMetricsF numbers(plotFont(font));
-    const double title =
+    const double line =
         QFontMetricsF(plotFont(1.1 * font, true)).horizontalAdvance(legend.title) + 0.5 * font;
+    const double title =
+        line > kWidestLine * font ? std::max(kWidestLine * font, kShareOfTwoLines * line) : line;
     double widest = 0.0;
     for (const LegendText& text : legendTexts(legend.levels, 1.0))
         widest = std::max(widest, numbers.horizontalAdvance(text.text));
@@ -92,16 +96,45 @@ static int bandsOf(const FieldLegend& legend)
     return legend.levels ? legend.levels->bands : 1;
 }
 
-/// Of the bar and what is above it.
-static double fullHeight(const FieldLegend& legend)
+/// How many letters stand in the first line: up to the last place where a name may be broken.
+static int firstLineLength(const QString& title, double width, const QFontMetricsF& metrics)
 {
-    return kBarTop + (bandsOf(legend) > 1 ? kTallestBar : kSingleBand);
+    static const QString kBreaks = QStringLiteral(" _-/,.)");
+    int fitting = 1;
+    while (fitting < title.size() && metrics.horizontalAdvance(title.left(fitting + 1)) <= width)
+        ++fitting;
+    for (int length = fitting; length > fitting / 3; --length)
+        if (kBreaks.contains(title[length - 1]))
+            return length;
+    return fitting;
+}
+
+QStringList legendTitleLines(const QString& title, double width, double font)
+{
+    const QFontMetricsF metrics(plotFont(1.1 * font, true));
+    const double room = width - 0.3 * font;
+    if (metrics.horizontalAdvance(title) <= room)
+        return {title};
+    const int length = firstLineLength(title, room, metrics);
+    return {title.left(length).trimmed(),
+            metrics.elidedText(title.mid(length).trimmed(), Qt::ElideMiddle, room)};
+}
+
+static double barTop(int titleLines)
+{
+    return kBarTop + kTitleLine * (titleLines - 1);
+}
+
+static double barHeight(const FieldLegend& legend)
+{
+    return bandsOf(legend) > 1 ? kTallestBar : kSingleBand;
 }
 
 double legendHeight(const FieldLegend& legend, double font)
 {
     constexpr double kHalfText = 0.7; // of the lowest number
-    return (fullHeight(legend) + kHalfText) * font;
+    const auto lines = legendTitleLines(legend.title, legendWidth(legend, font), font).size();
+    return (barTop(lines) + barHeight(legend) + kHalfText) * font;
 }
 
 static void paintBands(QPainter& painter, const QRectF& bar, const std::vector<host::Rgb>& colors)
@@ -116,18 +149,26 @@ static void paintBands(QPainter& painter, const QRectF& bar, const std::vector<h
     painter.drawRect(bar);
 }
 
-static void paintLegend(QPainter& painter, const QRectF& area, double font,
-                        const FieldLegend& legend)
+static void paintTitle(QPainter& painter, const QRectF& area, double font, const QStringList& lines)
 {
     painter.setFont(plotFont(1.1 * font, true));
-    painter.drawText(QRectF(area.left(), area.top(), area.width(), kTitleHeight * font),
-                     Qt::AlignLeft | Qt::AlignTop,
-                     QFontMetricsF(painter.font())
-                         .elidedText(legend.title, Qt::ElideRight, area.width() - 0.3 * font));
+    QRectF place(area.topLeft(), QSizeF(area.width(), 1.6 * font));
+    for (const QString& line : lines) {
+        painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, line);
+        place.translate(0.0, kTitleLine * font);
+    }
+}
+
+/// The bar begins below `titleLines` lines.
+static void paintBar(QPainter& painter, const QRectF& area, double font, const FieldLegend& legend,
+                     int titleLines)
+{
     const int bands = bandsOf(legend);
-    const QRectF bar(QPointF(area.left(), area.top() + kBarTop * font),
-                     QSizeF(kBarWidth * font,
-                            std::min(area.height(), fullHeight(legend) * font) - kBarTop * font));
+    const double top = barTop(titleLines) * font;
+    const QRectF bar(
+        QPointF(area.left(), area.top() + top),
+        QSizeF(kBarWidth * font,
+               std::max(std::min(area.height() - top, barHeight(legend) * font), font)));
     paintBands(painter, bar,
                legend.levels ? bandColors(legend.colors, bands)
                              : std::vector<host::Rgb> {noValueColor()});
@@ -141,18 +182,33 @@ static void paintLegend(QPainter& painter, const QRectF& area, double font,
     }
 }
 
+/// Bars beside the plot begin at one height.
+static int besideTitleLines(const FieldLayout& layout, const std::vector<FieldLegend>& legends)
+{
+    int most = 1;
+    for (std::size_t i = 0; i < legends.size(); ++i)
+        if (!legends[i].place)
+            most = std::max(
+                most,
+                legendTitleLines(legends[i].title, layout.legends[i].width(), layout.font).size());
+    return most;
+}
+
 void paintLegends(QPainter& painter, const FieldLayout& layout,
                   const std::vector<FieldLegend>& legends)
 {
     painter.save();
     painter.setPen(QPen(inkColor(), std::max(1.0, layout.font / 12.0)));
     painter.setBrush(Qt::NoBrush);
+    const int beside = besideTitleLines(layout, legends);
     for (std::size_t i = 0; i < legends.size(); ++i) {
         const QRectF& area = layout.legends[i];
+        const QStringList title = legendTitleLines(legends[i].title, area.width(), layout.font);
         const double rim = 0.5 * layout.font;
         if (area.intersects(layout.plot)) // it is read on any colour
             painter.fillRect(area.adjusted(-rim, -rim, 0.0, rim), QColor(255, 255, 255, 200));
-        paintLegend(painter, area, layout.font, legends[i]);
+        paintTitle(painter, area, layout.font, title);
+        paintBar(painter, area, layout.font, legends[i], legends[i].place ? title.size() : beside);
     }
     painter.restore();
 }

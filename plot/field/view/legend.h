@@ -3,6 +3,8 @@
 
 #include "plot/field/view/decorations.h"
 
+#include <QStringList>
+
 namespace corvala::plot {
 
 /// A text beside the bar of a legend, and where: in bands from its lower end.
@@ -15,6 +17,10 @@ struct LegendText
 /// Both ends, and between them the roundest levels that leave at least `gap` bands between two
 /// texts. A single value is named in the middle of its band.
 std::vector<LegendText> legendTexts(const std::optional<ContourLevels>& levels, double gap);
+
+/// A title in one line, where it is no wider than `width` pixels, else in two, the second one with
+/// its middle left out where it is too long.
+QStringList legendTitleLines(const QString& title, double width, double font);
 
 /// Width in pixels that a legend needs with texts `font` pixels high.
 double legendWidth(const FieldLegend& legend, double font);

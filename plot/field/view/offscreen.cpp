@@ -28,7 +28,8 @@ static QImage pixelsOf(vtkRenderWindow& window, const QSize& size)
 }
 
 QImage drawFieldImage(CvlUniqueId frame, const CameraState& camera,
-                      std::shared_ptr<SurfaceCache> cache, const QSize& size, QString* error)
+                      std::shared_ptr<SurfaceCache> cache, const QSize& size, QString* error,
+                      std::vector<SceneNote>* notes)
 {
     QString problem = sizeProblem(size);
     if (problem.isEmpty())
@@ -56,6 +57,8 @@ QImage drawFieldImage(CvlUniqueId frame, const CameraState& camera,
         pixelsOf(*window, drawnSize).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     QPainter painter(&image);
     view.paintDecorations(painter);
+    if (notes)
+        *notes = view.scene().notes();
     return image;
 }
 

@@ -8,8 +8,10 @@
 namespace corvala::plot {
 
 /// Draws a frame, with the work that it takes, as an image of `size` pixels. Null, with the reason
-/// in `error` (may be null), without OpenGL, for an empty size or one too large for it.
+/// in `error` (may be null), without OpenGL, for an empty size or one too large for it. `notes`
+/// (may be null) gets what there is to wonder at.
 QImage drawFieldImage(CvlUniqueId frame, const CameraState& camera,
-                      std::shared_ptr<SurfaceCache> cache, const QSize& size, QString* error);
+                      std::shared_ptr<SurfaceCache> cache, const QSize& size, QString* error,
+                      std::vector<SceneNote>* notes = nullptr);
 
 } // namespace corvala::plot
