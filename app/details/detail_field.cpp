@@ -189,7 +189,8 @@ public:
         field->setLimits(limit(entry().minimum), limit(entry().maximum));
         field->setSingleStep(entry().isPercent ? 0.1 : 1.0);
         field->setMinimumWidth(kShownLetters * field->fontMetrics().averageCharWidth());
-        connect(&m_line, &QLineEdit::textEdited, this, [this] { m_isTyped = true; });
+        connect(&m_line, &QLineEdit::textEdited, this,
+                [this] { m_isTyped = m_field.number().has_value(); });
         connect(field, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
                 &NumberDetail::take);
         connect(field, &QDoubleSpinBox::editingFinished, this, &NumberDetail::take);
@@ -206,7 +207,8 @@ public:
     /// What was typed and does not fit waits for its index to be shown again.
     void setIndex(int index) override
     {
-        if (std::exchange(m_isTyped, false) && !m_field.number())
+        m_isTyped = false;
+        if (!m_field.number())
             m_refused[DetailField::index()] = m_line.text();
         m_shown.reset();
         DetailField::setIndex(index);
@@ -225,7 +227,8 @@ private:
     void show(double number, bool isInstead)
     {
         m_isInstead = isInstead;
-        if (m_shown == number && (m_isTyped || m_field.hasFocus()))
+        const bool isKept = m_isTyped || m_field.hasFocus() || !m_field.number();
+        if (m_shown == number && isKept)
             return;
         m_shown = number;
         m_isTyped = false;
@@ -235,7 +238,6 @@ private:
             return;
         m_line.setText(refused->second);
         m_refused.erase(refused);
-        m_isTyped = true;
     }
 
     void showNumber(double number)
@@ -262,7 +264,7 @@ private:
     QLineEdit& m_line; ///< of the field
     std::optional<double> m_shown;
     bool m_isInstead = false; ///< of what the frame says
-    bool m_isTyped = false; ///< by hand, and not taken
+    bool m_isTyped = false; ///< by hand, fits, and is not taken yet
     std::map<int, QString> m_refused; ///< by indexes that are not shown
 };
 

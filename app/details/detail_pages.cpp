@@ -21,7 +21,7 @@ static constexpr DetailRow kContour[] = {
     {style::contourGroups.levelMax, DETAIL_TEXT("Highest level"),
      style::contourGroups.automaticLevels},
     {style::contourGroups.bandCount, DETAIL_TEXT("Bands"), kOwn, {}, Proposal::AtZero},
-    {style::contourGroups.moreLines, DETAIL_TEXT("Lines besides at (values)")},
+    {style::contourGroups.moreLines, DETAIL_TEXT("More lines at (values)")},
     {style::contourGroups.colorMap, DETAIL_TEXT("Colors")},
     {style::contourGroups.reversesColors, DETAIL_TEXT("Colors reversed")},
     {style::contourGroups.showLegend, DETAIL_TEXT("Legend")},

@@ -138,6 +138,13 @@ void NumberField::hideEvent(QHideEvent* event)
     lineEdit()->setText(text);
 }
 
+void NumberField::showEvent(QShowEvent* event)
+{
+    const QString text = lineEdit()->text();
+    QDoubleSpinBox::showEvent(event);
+    lineEdit()->setText(text);
+}
+
 /// Return is for the window, which accepts the number or does not.
 void NumberField::keyPressEvent(QKeyEvent* event)
 {

@@ -11,6 +11,7 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
 #include <QTest>
@@ -104,6 +105,14 @@ private Q_SLOTS:
         QCOMPARE(real(style::contourGroups.levelMin, 1), kProposed);
         QCOMPARE(real(style::contourGroups.levelMin, 2), 0.0);
         QCOMPARE(Document::instance().undo().stepCount(), steps + 1);
+        QTest::qWait(0); // a gesture ends in the event loop
+        QTest::keyClick(child<QDoubleSpinBox>("BandCount"), Qt::Key_Up);
+        QTest::qWait(0);
+        m_dock->refresh();
+        QTest::mouseClick(child<QPushButton>("reset"), Qt::LeftButton);
+        m_dock->refresh();
+        QVERIFY(box->isChecked() && !child<QPushButton>("reset")->isEnabled());
+        QCOMPARE(Document::instance().undo().stepCount(), steps + 3);
     }
 
     void indexes()
@@ -120,6 +129,13 @@ private Q_SLOTS:
         QCOMPARE(colorMap(1), std::int32_t {ColorMap_Viridis});
         QTest::keyClick(index, Qt::Key_Up);
         QCOMPARE(child<QComboBox>("ColorMap")->currentText(), QStringLiteral("Viridis"));
+        auto* const bands = child<QDoubleSpinBox>("BandCount");
+        bands->selectAll();
+        QTest::keyClicks(bands, "999");
+        QTest::keyClick(index, Qt::Key_Down);
+        QCOMPARE(bands->text(), QStringLiteral("3"));
+        QTest::keyClick(index, Qt::Key_Up);
+        QCOMPARE(bands->text(), QStringLiteral("999"));
     }
 
     void heldArrowIsOneStep()
@@ -140,7 +156,8 @@ private Q_SLOTS:
         QCOMPARE(Document::instance().undo().stepCount(), steps + 1);
     }
 
-    /// A text that does not fit is not taken, and what is typed outlives changes elsewhere.
+    /// A text that does not fit is not taken and stays with its page, and what is typed outlives
+    /// changes elsewhere.
     void typedNumbers_data()
     {
         const Rows<QString, double, QString> row;
@@ -161,6 +178,8 @@ private Q_SLOTS:
         QCOMPARE(field->text(), text);
         QTest::keyClick(field, Qt::Key_Return);
         QCOMPARE(real(style::edgeDetails.creaseAngle, -1), angle);
+        m_dock->openPage("contour");
+        m_dock->openPage("edge");
         QCOMPARE(field->text(), shown);
     }
 

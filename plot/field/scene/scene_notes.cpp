@@ -188,7 +188,7 @@ std::optional<SceneNote> Notes::lines() const
     for (int group = 1; group <= style::ContourGroups::kCount; ++group) {
         const QString rest = numbersIn(text(groups.moreLines, group)).rest;
         if (!rest.isEmpty() && m_facts.groups.hasRange(group))
-            return SceneNote {tr("The values of more lines of contour group %1 end before \"%2\", "
+            return SceneNote {tr("The list of more lines of contour group %1 ends before \"%2\", "
                                  "which is no number.")
                                   .arg(group)
                                   .arg(rest),
