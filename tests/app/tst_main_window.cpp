@@ -20,6 +20,7 @@
 #include <QComboBox>
 #include <QDropEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
@@ -32,6 +33,7 @@
 #include <QThread>
 #include <QTimer>
 #include <QToolBar>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -208,7 +210,11 @@ private Q_SLOTS:
     {
         m_window->openDemo(QStringLiteral("field3d"));
         auto* details = m_window->findChild<DetailsDock*>();
-        details->openPage(QStringLiteral("streamtraces"));
+        m_window->findChild<QToolButton*>(QStringLiteral("otherDetails"))
+            ->menu()
+            ->actions()
+            .value(4)
+            ->trigger();
         play::waitUntilIdle();
         auto* pick = details->findChild<QPushButton*>(QStringLiteral("pick"));
         auto* view = m_window->findChild<plot::FrameView*>();

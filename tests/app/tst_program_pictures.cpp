@@ -51,14 +51,18 @@ private Q_SLOTS:
     {
         const QString plain = m_folder.filePath(QStringLiteral("plain.png"));
         const QString styled = m_folder.filePath(QStringLiteral("styled.png"));
-        const QString script = writeScript(m_folder.path(),
-                                           {R"({"dialog": "open"})", R"({"select": "all"})",
-                                            R"({"menu": 1, "column": "Mesh\nColor", "color": 2})"});
+        const QString script =
+            writeScript(m_folder.path(),
+                        {R"({"dialog": "open"})", R"({"select": "all"})",
+                         R"({"menu": 1, "column": "Mesh\nColor", "color": 2})",
+                         R"({"set": ["FieldAxes", "Y", "RangeMin"], "value": 9})",
+                         R"({"set": ["FieldAxes", "Y", "AutomaticRange"], "value": false})"});
         QCOMPARE(runProgram({"--demo", "field2d", "--render", plain}).exitCode, 0);
         const ProgramRun run =
             runProgram({"--demo", "field2d", "--play", script, "--render", styled});
         QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
         QVERIFY(QImage(plain) != QImage(styled));
+        QVERIFY2(run.errors.contains("corvala: note: The Y axis"), qPrintable(run.errors));
         QCOMPARE(QImage(plain).size(), QImage(styled).size());
     }
 

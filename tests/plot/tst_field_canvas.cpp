@@ -456,6 +456,18 @@ private Q_SLOTS:
         QVERIFY2(ticks.widest < gap, QByteArray::number(ticks.widest / gap));
     }
 
+    void manyLegendsStandInRows()
+    {
+        const std::vector<FieldLegend> legends(7, {"Stress of the mean flow", levelsFor(0.0, 8.0)});
+        const FieldLayout layout = layOut({1200, 900}, true, legends);
+        QVERIFY(layout.plot.width() > 0.4 * 1200);
+        for (std::size_t i = 1; i < legends.size(); ++i)
+            QVERIFY(!layout.legends[i].intersects(layout.legends[i - 1])
+                    && QRectF(0, 0, 1200, 900).contains(layout.legends[i]));
+        const QStringList title = legendTitleLines(legends[0].title, 12 * layout.font, layout.font);
+        QVERIFY(title.size() == 2 && title.join(' ') == legends[0].title);
+    }
+
     void legendsShowTheirBands()
     {
         const std::vector<FieldLegend> legends = {{"Pressure", levelsFor(0.0, 8.0)}};

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace corvala::plot {
 
@@ -63,31 +64,26 @@ static std::size_t legendsPerRow(const std::vector<double>& widths, double pictu
     return 1;
 }
 
-/// The legends that have no place of their own stand in rows.
-static void placeLegends(FieldLayout& layout, const std::vector<FieldLegend>& legends,
-                         const QSizeF& picture, const QRectF& room, std::size_t perRow,
-                         double shrink)
+/// Where the legends beside the plot stand, by rows; one that is too wide for the room has narrower
+/// legends.
+static std::vector<QRectF> inRows(const std::vector<double>& widths, const QRectF& room,
+                                  std::size_t perRow, double gap)
 {
-    const auto count = std::count_if(legends.begin(), legends.end(),
-                                     [](const FieldLegend& legend) { return !legend.place; });
-    const std::size_t rows = (static_cast<std::size_t>(count) + perRow - 1) / perRow;
+    const std::size_t rows = (widths.size() + perRow - 1) / perRow;
     const double height = room.height() / static_cast<double>(std::max<std::size_t>(rows, 1));
-    std::size_t number = 0;
-    double left = room.left();
-    for (const FieldLegend& legend : legends) {
-        if (legend.place) {
-            layout.legends.push_back(placedLegend(legend, picture, layout.font));
-            continue;
+    std::vector<QRectF> places;
+    for (std::size_t first = 0; first < widths.size(); first += perRow) {
+        const auto begin = widths.begin() + static_cast<std::ptrdiff_t>(first);
+        const auto end =
+            widths.begin() + static_cast<std::ptrdiff_t>(std::min(first + perRow, widths.size()));
+        const double shrink = std::min(room.width() / std::accumulate(begin, end, 0.0), 1.0);
+        QPointF corner(room.left(), room.top() + height * static_cast<double>(first / perRow));
+        for (auto width = begin; width != end; ++width) {
+            places.emplace_back(corner, QSizeF(*width * shrink, height - (rows > 1 ? gap : 0.0)));
+            corner.rx() += *width * shrink;
         }
-        if (number % perRow == 0)
-            left = room.left();
-        const double width = legendWidth(legend, layout.font) * shrink;
-        layout.legends.emplace_back(left,
-                                    room.top() + height * static_cast<double>(number / perRow),
-                                    width, rows > 1 ? height - 1.5 * layout.font : height);
-        left += width;
-        ++number;
     }
+    return places;
 }
 
 static double fontFor(const QSize& size, double fontScale)
@@ -112,14 +108,17 @@ FieldLayout layOut(const QSize& size, bool flat, const std::vector<FieldLegend>&
     const double top = 1.5 * font;
     const double below = (hasVectorKey ? 8.5 : 5.5) * font;
     const std::size_t perRow = legendsPerRow(widths, size.width(), (size.height() - below) / font);
-    const double all =
-        std::max(widestRow(widths, perRow), hasVectorKey ? kVectorKeyWidth * font : 0.0);
-    const double shrink = all > 0.0 ? std::min(size.width() / 2.0 / all, 1.0) : 1.0;
-    area.setRight(area.right() - all * shrink);
+    const double key = hasVectorKey ? kVectorKeyWidth * font : 0.0;
+    const double beside = std::min(std::max(widestRow(widths, perRow), key), size.width() / 2.0);
+    area.setRight(area.right() - beside);
     if (hasVectorKey)
-        layout.vectorKey = {area.right(), area.height() - 6.0 * font, all * shrink, 4.5 * font};
-    placeLegends(layout, legends, size, {area.right(), top, all * shrink, area.height() - below},
-                 perRow, shrink);
+        layout.vectorKey = {area.right(), area.height() - 6.0 * font, std::min(beside, 1.5 * key),
+                            4.5 * font};
+    const std::vector<QRectF> places =
+        inRows(widths, {area.right(), top, beside, area.height() - below}, perRow, top);
+    std::size_t next = 0;
+    for (const FieldLegend& legend : legends)
+        layout.legends.push_back(legend.place ? placedLegend(legend, size, font) : places[next++]);
     const double leftMargin =
         std::max(kSmallestLeftMargin * font, yTexts + (kTextGap + kTitleHeight + 0.6) * font);
     layout.plot = flat ? area.adjusted(leftMargin, 1.5 * font, -1.5 * font, -4.0 * font) : area;

@@ -20,7 +20,6 @@ namespace corvala::plot {
 static constexpr double kNarrowest = 7.5;
 static constexpr double kWidest = 16.0;
 static constexpr double kWidestLine = 10.0; ///< of a title, before it takes two lines
-static constexpr double kShareOfTwoLines = 0.6; ///< of what a title takes in one
 static constexpr double kBarWidth = 1.4;
 static constexpr double kTallestBar = 26.0;
 static constexpr double kSingleBand = 3.0;
@@ -75,13 +74,33 @@ std::vector<LegendText> legendTexts(const std::optional<ContourLevels>& levels, 
     return texts;
 }
 
+static bool canBreakAfter(QChar letter)
+{
+    static const QString kBreaks = QStringLiteral(" _-/,.)");
+    return kBreaks.contains(letter);
+}
+
+/// What a title takes in one line, or in two where that is too wide.
+static double titleWidth(const QString& title, double font)
+{
+    const QFontMetricsF metrics(plotFont(1.1 * font, true));
+    const auto widthOf = [&](const QString& line) {
+        return metrics.horizontalAdvance(line.trimmed()) + 0.8 * font;
+    };
+    double narrowest = widthOf(title);
+    if (narrowest <= kWidestLine * font)
+        return narrowest;
+    for (int length = 1; length < title.size(); ++length)
+        if (canBreakAfter(title[length - 1]))
+            narrowest = std::min(narrowest,
+                                 std::max(widthOf(title.left(length)), widthOf(title.mid(length))));
+    return std::max(narrowest, kWidestLine * font);
+}
+
 double legendWidth(const FieldLegend& legend, double font)
 {
     const QFontMetricsF numbers(plotFont(font));
-    const double line =
-        QFontMetricsF(plotFont(1.1 * font, true)).horizontalAdvance(legend.title) + 0.5 * font;
-    const double title =
-        line > kWidestLine * font ? std::max(kWidestLine * font, kShareOfTwoLines * line) : line;
+    const double title = titleWidth(legend.title, font);
     double widest = 0.0;
     for (const LegendText& text : legendTexts(legend.levels, 1.0))
         widest = std::max(widest, numbers.horizontalAdvance(text.text));
@@ -99,12 +118,12 @@ static int bandsOf(const FieldLegend& legend)
 /// How many letters stand in the first line: up to the last place where a name may be broken.
 static int firstLineLength(const QString& title, double width, const QFontMetricsF& metrics)
 {
-    static const QString kBreaks = QStringLiteral(" _-/,.)");
     int fitting = 1;
-    while (fitting < title.size() && metrics.horizontalAdvance(title.left(fitting + 1)) <= width)
+    while (fitting < title.size()
+           && metrics.horizontalAdvance(title.left(fitting + 1).trimmed()) <= width)
         ++fitting;
     for (int length = fitting; length > fitting / 3; --length)
-        if (kBreaks.contains(title[length - 1]))
+        if (canBreakAfter(title[length - 1]))
             return length;
     return fitting;
 }
