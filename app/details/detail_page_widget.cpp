@@ -89,7 +89,7 @@ void DetailPageWidget::addReset(QFormLayout& form)
 {
     m_reset = new QPushButton(shownText(m_page.reset.text), this);
     m_reset->setObjectName(QStringLiteral("reset"));
-    m_reset->setToolTip(tr("All of them by the data"));
+    m_reset->setToolTip(tr("All that the data can say follows from them again"));
     form.addRow(QString(), m_reset);
     connect(m_reset, &QPushButton::clicked, this, &DetailPageWidget::reset);
 }
@@ -213,12 +213,15 @@ void DetailPageWidget::tellSeen(Line& line, const host::Frame& frame)
 void DetailPageWidget::keepProposals(style::Key written)
 {
     const host::Frame* const frame = host::Document::instance().activeFrame();
-    for (Line& line : m_lines) {
+    std::vector<std::pair<DetailField*, double>> kept; // each write shows the page anew
+    for (const Line& line : m_lines) {
         const bool isSetFree =
             line.row->follows.isValid() && line.row->follows == written && line.proposed;
         if (isSetFree && frame && !follows(line, *frame))
-            line.field->write(*std::exchange(line.proposed, {}));
+            kept.emplace_back(line.field, *line.proposed);
     }
+    for (const auto& [field, value] : kept)
+        field->write(value);
 }
 
 } // namespace corvala::app

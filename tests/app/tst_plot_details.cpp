@@ -103,6 +103,7 @@ private Q_SLOTS:
         m_dock->refresh();
         QVERIFY(lowest->isEnabled());
         QCOMPARE(real(style::contourGroups.levelMin, 1), kProposed);
+        QCOMPARE(real(style::contourGroups.levelMax, 1), kProposed);
         QCOMPARE(real(style::contourGroups.levelMin, 2), 0.0);
         QCOMPARE(Document::instance().undo().stepCount(), steps + 1);
         QTest::qWait(0); // a gesture ends in the event loop
