@@ -13,8 +13,10 @@
 #include "play/picture_file.h"
 #include "play/player.h"
 #include "play/style_report.h"
+#include "plot/line/line_curves.h"
 #include "plot/render.h"
 #include "samples/demo_data.h"
+#include "sdk/propertybindings/curve_fit_report.h"
 
 #include <QApplication>
 #include <QFile>
@@ -95,6 +97,16 @@ static QString drawPicture(const QString& file)
     return play::writePicture(image, file);
 }
 
+/// The settings of curve fits show what comes of the fits that the plots draw.
+static void reportCurveFits()
+{
+    propertybindings::setCurveFitReporter([](CvlUniqueId frame, CvlInt64 map) {
+        const host::Frame* const shown = host::Document::instance().frame(frame);
+        const bool exists = shown && map >= 1 && map <= shown->lineMapCount();
+        return exists ? plot::fitReport(*shown, map) : QString();
+    });
+}
+
 static int runBatch(MainWindow& window, const Options& options)
 {
     QString error = openDataNow(options);
@@ -167,6 +179,7 @@ static int runApplication(int argc, char** argv, const Options& options)
 {
     QApplication application(argc, argv);
     setUpLocale();
+    reportCurveFits();
     const host::GestureTracker gestures(host::Document::instance().undo());
     MainWindow window;
     if (!options.isBatch()) {

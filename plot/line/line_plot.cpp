@@ -76,24 +76,41 @@ void LinePlot::forget(CvlInt64 map)
     m_geometries.erase(map);
 }
 
-/// Made again only where something of it is another one.
+/// Makes again what of it is another one.
 const LineGeometry& LinePlot::geometryOf(const ShownLine& line)
 {
     LineGeometry& geometry = m_geometries[line.map];
     const LineRecipe recipe = recipeOf(line.frame, line.map);
+    const CurveRecipe curve = curveRecipeOf(line.frame, line.map);
     const LinePlane plane = m_chart->plane(axesOf(line.frame, line.map));
     const bool hasPoints = geometry.points && geometry.recipe == recipe;
+    const bool hasPlaces = hasPoints && geometry.plane == plane;
     if (!hasPoints) {
         geometry.recipe = recipe;
         geometry.points =
             std::make_shared<const LinePoints>(linePoints(*line.frame.data(), recipe));
     }
-    if (!hasPoints || !(geometry.plane == plane)) {
+    if (!hasPlaces) {
         geometry.plane = plane;
         geometry.places = std::make_shared<const Polyline>(inPlane(*geometry.points, plane));
-        geometry.curve = geometry.places;
+    }
+    if (!hasPlaces || !(geometry.curveRecipe == curve)) {
+        geometry.curveRecipe = curve;
+        makeCurve(line, geometry);
     }
     return geometry;
+}
+
+void LinePlot::makeCurve(const ShownLine& line, LineGeometry& geometry)
+{
+    geometry.curveProblem = CurveProblem::None;
+    geometry.curve = geometry.places;
+    if (geometry.curveRecipe.type == CurveType_LineSegments)
+        return;
+    const LineCurve curve = curveThrough(*line.frame.data(), geometry.recipe, *geometry.points,
+                                         geometry.curveRecipe, geometry.plane);
+    geometry.curveProblem = curve.problem();
+    geometry.curve = std::make_shared<const Polyline>(inPlane(curve.points, geometry.plane));
 }
 
 void LinePlot::syncLayer(std::size_t layer, const ShownLine& line, bool isShown)
@@ -214,6 +231,30 @@ void LinePlot::updateTitles(const host::Frame& drawn)
         titles.second[i] = second[i].join(QStringLiteral(", "));
     }
     m_chart->setTitles(titles);
+}
+
+/// The first map whose curve is missing.
+std::optional<SceneNote> LinePlot::curveNote() const
+{
+    const host::Frame* const drawn = frame();
+    CvlInt64 first = 0;
+    for (const auto& [map, geometry] : m_geometries)
+        if (geometry.curveProblem != CurveProblem::None && (first == 0 || map < first))
+            first = map;
+    if (!drawn || first == 0)
+        return std::nullopt;
+    return SceneNote {tr("There is no curve through the points of \"%1\": %2.")
+                          .arg(QString::fromStdString(host::shownLineMapName(*drawn, first)),
+                               problemText(m_geometries.at(first).curveProblem)),
+                      style::lineMap.curves.curveType};
+}
+
+std::vector<SceneNote> LinePlot::notes() const
+{
+    std::vector<SceneNote> notes;
+    if (auto note = curveNote())
+        notes.push_back(std::move(*note));
+    return notes;
 }
 
 QString LinePlot::notice() const

@@ -7,7 +7,9 @@
 
 #include <QCoreApplication>
 
+#include <optional>
 #include <unordered_map>
+#include <vector>
 
 namespace corvala::plot {
 
@@ -29,6 +31,7 @@ public:
     void cancel() override;
     void resume() override;
     QString notice() const override;
+    std::vector<SceneNote> notes() const override;
 
     /// Pixels; thicknesses and pattern lengths are a share of it.
     void setFrameHeight(int height);
@@ -60,6 +63,8 @@ private:
     /// Puts the map into a layer, or takes it out.
     void syncLayer(std::size_t layer, const ShownLine& line, bool isShown);
     const LineGeometry& geometryOf(const ShownLine& line);
+    static void makeCurve(const ShownLine& line, LineGeometry& geometry);
+    std::optional<SceneNote> curveNote() const;
     void followPlanes();
     AxisRange radii() const;
     void updateTitles(const host::Frame& frame);

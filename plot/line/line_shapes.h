@@ -3,6 +3,7 @@
 
 #include "plot/line/chart_shape.h"
 #include "plot/line/line_axes.h"
+#include "plot/line/line_curves.h"
 #include "plot/line/line_points.h"
 
 #include <memory>
@@ -24,6 +25,8 @@ struct LineGeometry
     LinePlane plane;
     std::shared_ptr<const LinePoints> points;
     std::shared_ptr<const Polyline> places; ///< of the points
+    CurveRecipe curveRecipe;
+    CurveProblem curveProblem = CurveProblem::None;
     std::shared_ptr<const Polyline> curve;
 };
 

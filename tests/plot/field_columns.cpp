@@ -1,35 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/plot/field_columns.h"
 
-#include "host/style/schema.h"
 #include "tests/plot/plot_document.h"
 
 #include <QStringList>
 
-#include <stdexcept>
-
 namespace corvala::tests {
-
-void editStyle(const QString& texts, const QByteArray& maps)
-{
-    for (const QString& text : texts.split(' ', Qt::SkipEmptyParts)) {
-        const QString value = text.section('=', 1);
-        host::SetStyle set {{"FieldMap"}, value.toStdString(), mapsOf(maps)};
-        for (const QString& name : text.section('=', 0, 0).section('[', 0, 0).split('/'))
-            set.path.push_back(name.toStdString());
-        if (host::Schema::instance().find(set.path) < 0) {
-            set.path.erase(set.path.begin());
-            set.maps.reset();
-        }
-        bool isNumber = false;
-        if (const double number = value.toDouble(&isNumber); isNumber)
-            set.value = number;
-        if (text.contains('['))
-            set.index = text.section('[', 1).section(']', 0, 0).toInt();
-        if (!document().execute(set).isDone())
-            throw std::runtime_error(text.toStdString());
-    }
-}
 
 void openColumnsData(std::int64_t zones)
 {

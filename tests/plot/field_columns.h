@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 #include <cstdint>
@@ -27,8 +26,5 @@ std::vector<Column> fieldColumns();
 
 /// Opens so many zones with the style in which the states of the columns are counted.
 void openColumnsData(std::int64_t zones);
-
-/// Writes values of maps or of the frame: "PATH=VALUE", "PATH[INDEX]=VALUE", separated by blanks.
-void editStyle(const QString& texts, const QByteArray& maps = "all");
 
 } // namespace corvala::tests

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/document/document.h"
+#include "host/style/schema.h"
 #include "samples/demo_data.h"
 
 #include <QString>
@@ -43,6 +44,30 @@ inline void write(const char* path, const char* maps, double value, std::int64_t
         set.maps = mapsOf(maps);
     if (!document().execute(set).isDone())
         throw std::runtime_error(path);
+}
+
+/// Writes values of the shown maps or of the frame: "PATH=VALUE", "PATH[INDEX]=VALUE", separated by
+/// blanks.
+inline void editStyle(const QString& texts, const QByteArray& maps = "all")
+{
+    for (const QString& text : texts.split(' ', Qt::SkipEmptyParts)) {
+        const QString value = text.section('=', 1);
+        const char* group = document().activeFrame()->isLinePlot() ? "LineMap" : "FieldMap";
+        host::SetStyle set {{group}, value.toStdString(), mapsOf(maps.constData())};
+        for (const QString& name : text.section('=', 0, 0).section('[', 0, 0).split('/'))
+            set.path.push_back(name.toStdString());
+        if (host::Schema::instance().find(set.path) < 0) {
+            set.path.erase(set.path.begin());
+            set.maps.reset();
+        }
+        bool isNumber = false;
+        if (const double number = value.toDouble(&isNumber); isNumber)
+            set.value = number;
+        if (text.contains('['))
+            set.index = text.section('[', 1).section(']', 0, 0).toInt();
+        if (!document().execute(set).isDone())
+            throw std::runtime_error(text.toStdString());
+    }
 }
 
 /// Adds maps to the active ones, or removes them.
