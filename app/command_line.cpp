@@ -77,6 +77,10 @@ private:
                            CommandLine::tr("Layout of Plot3D files, such as "
                                            "format=binary,grids=many,endian=big."),
                            CommandLine::tr("layout")};
+    const Option m_table {QStringLiteral("table"),
+                          CommandLine::tr("How tables of text are written, such as "
+                                          "separator=tab,decimal=comma,header=1,bad=skip."),
+                          CommandLine::tr("dialect")};
 };
 
 Parser::Parser()
@@ -87,7 +91,7 @@ Parser::Parser()
                         "Data are opened first; then a script is played, a report written, a "
                         "picture drawn.\n"
                         "Exit codes: 0 success, 1 failure, 2 wrong usage."));
-    addOptions({m_demo, m_play, m_report, m_render, m_plot3d});
+    addOptions({m_demo, m_play, m_report, m_render, m_plot3d, m_table});
     addPositionalArgument(QStringLiteral("files"),
                           CommandLine::tr("Data files, opened together, or the folder of a case."),
                           QStringLiteral("[files...]"));
@@ -118,11 +122,10 @@ QString Parser::read(const QStringList& arguments, Options& options)
     if (!parse(QStringList(QStringLiteral("corvala")) + withDemoNamed(arguments)))
         return errorText();
     QString layout;
-    const std::pair<const Option&, QString&> texts[] = {{m_demo, options.demo},
-                                                        {m_play, options.script},
-                                                        {m_report, options.report},
-                                                        {m_render, options.picture},
-                                                        {m_plot3d, layout}};
+    QString table;
+    const std::pair<const Option&, QString&> texts[] = {
+        {m_demo, options.demo},      {m_play, options.script}, {m_report, options.report},
+        {m_render, options.picture}, {m_plot3d, layout},       {m_table, table}};
     for (const auto& [option, value] : texts) {
         const QString error = text(option, value);
         if (!error.isEmpty())
@@ -131,7 +134,9 @@ QString Parser::read(const QStringList& arguments, Options& options)
     options.files = positionalArguments();
     options.help = isSet(m_help);
     options.version = isSet(m_version);
-    const QString error = parsePlot3DLayout(layout, options.plot3d);
+    QString error = parsePlot3DLayout(layout, options.plot3d);
+    if (error.isEmpty())
+        error = host::io::parseTextDialect(table, options.table);
     return error.isEmpty() ? check(options) : error;
 }
 

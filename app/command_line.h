@@ -17,6 +17,7 @@ struct Options
     QString report;
     QString picture;
     host::io::Plot3DLayout plot3d;
+    host::io::TextDialect table;
     bool help = false;
     bool version = false;
 

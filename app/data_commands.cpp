@@ -5,10 +5,13 @@
 #include "app/plot3d_dialog.h"
 #include "app/plot3d_layout.h"
 #include "app/recent_files.h"
+#include "app/text_import_dialog.h"
 #include "samples/demo_data.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
 
 namespace corvala::app {
 
@@ -18,15 +21,31 @@ DataCommands::DataCommands(QWidget& window, NoticeBar& notice)
     , m_notice(notice)
 {
     connect(&m_opener, &DataOpener::opened, this, &DataCommands::tellOpened);
+    connect(&m_opener, &DataOpener::previewed, this, &DataCommands::askForDialect);
+    connect(&m_opener, &DataOpener::badRowsMet, this, &DataCommands::askToSkip);
     connect(&m_opener, &DataOpener::failed, this, &DataCommands::failed);
 }
 
 void DataCommands::open(const QStringList& files, const host::io::Plot3DLayout& plot3d)
 {
     host::io::ReadRequest request;
-    for (const QString& file : files) // which are remembered, too
-        request.files << QFileInfo(file).absoluteFilePath();
+    request.files = files;
     request.plot3d = plot3d;
+    open(request);
+}
+
+void DataCommands::open(host::io::ReadRequest request)
+{
+    for (QString& file : request.files) // which are remembered, too
+        file = QFileInfo(file).absoluteFilePath();
+    if (host::io::toText(request.text).isEmpty())
+        request.purpose = host::io::ReadPurpose::DataIfSure;
+    m_opener.start(request);
+}
+
+void DataCommands::preview(host::io::ReadRequest request)
+{
+    request.purpose = host::io::ReadPurpose::Preview;
     m_opener.start(request);
 }
 
@@ -72,21 +91,65 @@ void DataCommands::changePlot3DLayout(const host::io::ReadRequest& request,
         open(request.files, dialog.chosenLayout());
 }
 
+void DataCommands::chooseTables()
+{
+    host::io::ReadRequest request;
+    request.files = QFileDialog::getOpenFileNames(&m_window, tr("Open Tables of Text"));
+    if (!request.files.isEmpty())
+        preview(request);
+}
+
+void DataCommands::askForDialect(const host::io::TextPreview& preview)
+{
+    auto* dialog = new TextImportDialog(m_opener.request(), preview, &m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { open(dialog->request()); });
+    dialog->open();
+}
+
+void DataCommands::askToSkip(const host::io::ReadResult& result)
+{
+    host::io::ReadRequest request = m_opener.request();
+    request.text.badRows = host::io::TextBadRows::Skip;
+    request.purpose = host::io::ReadPurpose::Data;
+    const int count = static_cast<int>(result.badRowCount);
+    auto* box = new QMessageBox(QMessageBox::Question, tr("Bad Rows"),
+                                tr("Skip %n bad row(s)?", nullptr, count), QMessageBox::NoButton,
+                                &m_window);
+    QStringList rows = result.badRows;
+    if (rows.size() < result.badRowCount)
+        rows << tr("...");
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(result.error.section(QStringLiteral(": "), 0, 0) + QLatin1String(":\n")
+                            + rows.join(QLatin1Char('\n')));
+    QPushButton* const skip = box->addButton(tr("Skip"), QMessageBox::AcceptRole);
+    box->addButton(QMessageBox::Cancel);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    connect(skip, &QPushButton::clicked, this, [this, request] { m_opener.start(request); });
+    box->open();
+}
+
+void DataCommands::tellDetected(const QString& detected, QStringList notes,
+                                const std::function<void()>& change)
+{
+    notes.prepend(tr("Detected: %1.").arg(detected));
+    m_notice.tell(notes.join(QLatin1Char(' ')), tr("Change..."), change);
+}
+
 void DataCommands::tellOpened(const host::io::ReadResult& result)
 {
-    rememberFiles(m_opener.request().files);
+    const host::io::ReadRequest request = m_opener.request();
+    rememberFiles(request.files);
     QStringList notes;
     for (const std::string& note : result.data->notes)
         notes << QString::fromStdString(note);
-    if (!result.detectedPlot3D) {
+    if (const std::optional<host::io::Plot3DLayout>& detected = result.detectedPlot3D)
+        tellDetected(describePlot3DLayout(*detected), notes,
+                     [this, request, layout = *detected] { changePlot3DLayout(request, layout); });
+    else if (result.detectedText)
+        tellDetected(describe(*result.detectedText), notes, [this, request] { preview(request); });
+    else
         m_notice.tell(notes.join(QLatin1Char(' ')));
-        return;
-    }
-    const host::io::Plot3DLayout detected = *result.detectedPlot3D;
-    const host::io::ReadRequest request = m_opener.request();
-    notes.prepend(tr("Detected: %1.").arg(describePlot3DLayout(detected)));
-    m_notice.tell(notes.join(QLatin1Char(' ')), tr("Change..."),
-                  [this, request, detected] { changePlot3DLayout(request, detected); });
 }
 
 } // namespace corvala::app

@@ -3,6 +3,8 @@
 
 #include "app/data_opening.h"
 
+#include <functional>
+
 class QWidget;
 
 namespace corvala::app {
@@ -20,12 +22,15 @@ public:
 
     DataOpener& opener() { return m_opener; }
 
-    /// Ignored while a reading runs.
+    // Ignored while a reading runs.
     void open(const QStringList& files, const host::io::Plot3DLayout& plot3d = {});
+    /// Asks how a table of text is written when that is not sure.
+    void open(host::io::ReadRequest request);
     void openDemo(const QString& name);
     void chooseFiles();
     void chooseFolder();
     void choosePlot3DFiles();
+    void chooseTables();
 
 Q_SIGNALS:
     void failed(const QString& problem);
@@ -33,7 +38,12 @@ Q_SIGNALS:
 private:
     void changePlot3DLayout(const host::io::ReadRequest& request,
                             const host::io::Plot3DLayout& detected);
+    void askForDialect(const host::io::TextPreview& preview);
+    void askToSkip(const host::io::ReadResult& result);
+    void preview(host::io::ReadRequest request);
     void tellOpened(const host::io::ReadResult& result);
+    void tellDetected(const QString& detected, QStringList notes,
+                      const std::function<void()>& change);
 
     QWidget& m_window;
     NoticeBar& m_notice;

@@ -4,17 +4,26 @@
 #include "app/first_look.h"
 #include "host/document/document.h"
 
+#include <algorithm>
+
 namespace corvala::app {
 
 using host::io::ReadRequest;
 using host::io::ReadResult;
 
-static void attach(const ReadResult& result)
+static void attach(const ReadResult& result, const ReadRequest& request)
 {
     host::Document& document = host::Document::instance();
-    document.execute(host::AttachData {
-        {result.data->files, {}}, result.data, result.data->suggestedPlotType(), 1});
+    const PlotType_e plotType = result.data->suggestedPlotType();
+    const std::vector<FirstLine> lines =
+        plotType == PlotType_LineXY ? firstLines(*result.data) : std::vector<FirstLine>();
+    const host::DataOrigin origin {
+        result.data->files, {}, 0, host::io::toText(request.text).toStdString()};
+    document.execute(host::AttachData {origin, result.data, plotType,
+                                       std::max<CvlInt64>(1, static_cast<CvlInt64>(lines.size()))});
     for (const host::SetStyle& value : firstLook(*document.activeFrame()))
+        document.execute(value);
+    for (const host::SetStyle& value : firstLook(lines))
         document.execute(value);
 }
 
@@ -31,7 +40,7 @@ OpenedData openAndWait(const ReadRequest& request)
     const ReadResult result = host::io::DataReader::read(request);
     if (!result.data)
         return {result.error, {}};
-    attach(result);
+    attach(result, request);
     return {{}, notesOf(*result.data)};
 }
 
@@ -54,8 +63,12 @@ void DataOpener::start(const ReadRequest& request)
 void DataOpener::take(const ReadResult& result)
 {
     if (result.data) {
-        attach(result);
+        attach(result, m_request);
         Q_EMIT opened(result);
+    } else if (result.preview) {
+        Q_EMIT previewed(*result.preview);
+    } else if (result.badRowCount > 0) {
+        Q_EMIT badRowsMet(result);
     } else if (!result.cancelled) {
         Q_EMIT failed(result.error);
     }

@@ -39,6 +39,10 @@ Q_SIGNALS:
     /// The result of a reading that was not cancelled; `ended` follows.
     void opened(const corvala::host::io::ReadResult& result);
     void failed(const QString& error);
+    /// How a table of text would be read; `ended` follows.
+    void previewed(const corvala::host::io::TextPreview& preview);
+    /// A table that can be read without some of its rows; `ended` follows.
+    void badRowsMet(const corvala::host::io::ReadResult& result);
     void ended(bool opened);
 
 private:

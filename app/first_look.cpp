@@ -94,6 +94,25 @@ private:
 
 } // namespace
 
+std::vector<SetStyle> firstLook(const std::vector<FirstLine>& lines)
+{
+    const bool haveZones = !lines.empty() && lines.front().zone != lines.back().zone;
+    Look look;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        host::NumberSet map;
+        map.add(static_cast<std::uint32_t>(i + 1));
+        const auto& assign = style::lineMap.assign;
+        look.give(assign.zone, lines[i].zone, map);
+        look.give(assign.xAxisVar, lines[i].x, map);
+        look.give(assign.yAxisVar, lines[i].y, map);
+        look.give(assign.yAxis, lines[i].yAxis, map);
+    }
+    if (haveZones)
+        look.add(SetStyle {host::pathOf(style::lineMap.name), std::string("&ZN&: &DV&"),
+                           host::allUpTo(static_cast<CvlInt64>(lines.size()))});
+    return look.take();
+}
+
 std::vector<SetStyle> firstLook(const host::Frame& frame)
 {
     if (!frame.isFieldPlot() || !frame.hasData() || frame.fieldMapCount() == 0)

@@ -56,9 +56,10 @@ void MainMenus::makeFileMenu()
     setKeys(*open, QKeySequence::Open);
     QAction* folder = menu->addAction(tr("Open Case &Folder..."), this, &MainMenus::folderWanted);
     QAction* plot3d = menu->addAction(tr("Open &Plot3D..."), this, &MainMenus::plot3DWanted);
+    QAction* table = menu->addAction(tr("Open &Table..."), this, &MainMenus::tableWanted);
     QMenu* recent = menu->addMenu(tr("Open &Recent"));
     connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentMenu(*recent); });
-    m_openCommands << open << folder << plot3d << recent->menuAction();
+    m_openCommands << open << folder << plot3d << table << recent->menuAction();
     addSampleMenu(*menu);
     addDemoMenu(*menu);
     menu->addSeparator();

@@ -31,6 +31,7 @@ public:
 Q_SIGNALS:
     void openWanted();
     void plot3DWanted();
+    void tableWanted();
     void folderWanted();
     void filesWanted(const QStringList& files);
     void demoWanted(const QString& name);

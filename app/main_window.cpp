@@ -93,6 +93,7 @@ void MainWindow::makeBars()
     connect(m_menus, &MainMenus::openWanted, m_data, &DataCommands::chooseFiles);
     connect(m_menus, &MainMenus::folderWanted, m_data, &DataCommands::chooseFolder);
     connect(m_menus, &MainMenus::plot3DWanted, m_data, &DataCommands::choosePlot3DFiles);
+    connect(m_menus, &MainMenus::tableWanted, m_data, &DataCommands::chooseTables);
     connect(m_menus, &MainMenus::filesWanted, m_data,
             [this](const QStringList& files) { m_data->open(files); });
     connect(m_menus, &MainMenus::demoWanted, m_data, &DataCommands::openDemo);
@@ -218,9 +219,14 @@ void MainWindow::showOpened()
     repaint();
 }
 
-void MainWindow::openFiles(const QStringList& files, const host::io::Plot3DLayout& plot3d)
+void MainWindow::openFiles(const QStringList& files)
 {
-    m_data->open(files, plot3d);
+    m_data->open(files);
+}
+
+void MainWindow::openFiles(const host::io::ReadRequest& request)
+{
+    m_data->open(request);
 }
 
 void MainWindow::openDemo(const QString& name)

@@ -37,7 +37,8 @@ public:
 
     /// Reads the files, or the data in a folder, into the active frame while the window goes on.
     /// Ignored while a reading runs; the commands that lead here are disabled then.
-    void openFiles(const QStringList& files, const host::io::Plot3DLayout& plot3d = {});
+    void openFiles(const QStringList& files);
+    void openFiles(const host::io::ReadRequest& request);
     void openDemo(const QString& name);
     void openStyleDialog(corvala::dialogs::common::DialogInitialization_e initialization);
     /// Opens the style dialog beside the plot, as at the start of the program.

@@ -72,6 +72,7 @@ static QString openDataNow(const Options& options)
     host::io::ReadRequest request;
     request.files = options.files;
     request.plot3d = options.plot3d;
+    request.text = options.table;
     const OpenedData opened = openAndWait(request);
     for (const QString& note : opened.notes)
         std::fprintf(stderr, "%s\n", qUtf8Printable(named(note)));
@@ -136,7 +137,11 @@ void startInteractive(MainWindow& window, const Options& options)
             if (opened)
                 window.openStyleDialogBeside();
         });
-        window.openFiles(options.files, options.plot3d);
+        host::io::ReadRequest request;
+        request.files = options.files;
+        request.plot3d = options.plot3d;
+        request.text = options.table;
+        window.openFiles(request);
     } else if (!options.demo.isEmpty()) {
         window.openDemo(options.demo);
         window.openStyleDialogBeside();

@@ -11,10 +11,13 @@ QWidget& ProgramStage::window()
     return m_window;
 }
 
-QString ProgramStage::openFiles(const QStringList& files)
+QString ProgramStage::openFiles(const QStringList& files, const QString& table)
 {
     host::io::ReadRequest request;
     request.files = files;
+    const QString problem = host::io::parseTextDialect(table, request.text);
+    if (!problem.isEmpty())
+        return problem;
     return openAndWait(request).error;
 }
 

@@ -18,7 +18,7 @@ public:
     }
 
     QWidget& window() override;
-    QString openFiles(const QStringList& files) override;
+    QString openFiles(const QStringList& files, const QString& table) override;
     QImage canvasImage(QString* error) override;
 
 private:

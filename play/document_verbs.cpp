@@ -27,7 +27,7 @@ static void attach(ScriptRun& run, const host::DataOrigin& origin)
         QStringList files;
         for (const std::string& file : origin.files)
             files << QString::fromStdString(file);
-        error = run.stage().openFiles(files);
+        error = run.stage().openFiles(files, QString::fromStdString(origin.table));
     } else {
         std::string reason;
         samples::openDemo(origin.demo, origin.scale, reason);

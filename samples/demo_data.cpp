@@ -258,7 +258,7 @@ bool openDemo(const std::string& name, std::int64_t scale, std::string& error)
     }
     const auto attach = [&](std::shared_ptr<DataSet> data, PlotType_e plotType, CvlInt64 lineMaps) {
         Document::instance().execute(
-            host::AttachData {{{}, name, scale}, std::move(data), plotType, lineMaps});
+            host::AttachData {{{}, name, scale, {}}, std::move(data), plotType, lineMaps});
     };
     if (isField) {
         const bool planar = name == "field2d";

@@ -38,6 +38,13 @@ struct ZoneInfo
     }
 };
 
+/// What the values of a variable stand for.
+enum class VariableKind {
+    Number,
+    Instant, ///< seconds since 1970-01-01 00:00 UTC, without leap seconds
+    Words ///< the number of a word, from 1 in the order in which they come in a table
+};
+
 /// A field variable: a coordinate, or one component of an array of the zones.
 struct Variable
 {
@@ -46,6 +53,7 @@ struct Variable
     std::string array; ///< array of the zones' point or cell data; empty for a coordinate
     int component = 0; ///< component of the array, or 0, 1, 2 for the coordinate X, Y, Z
     bool isConstant = false; ///< one value everywhere and at all times, or none
+    VariableKind kind = VariableKind::Number;
     bool isCoordinate() const { return array.empty(); }
 };
 

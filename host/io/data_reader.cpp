@@ -16,6 +16,7 @@
 #include <atomic>
 #include <csignal>
 #include <thread>
+#include <tuple>
 #include <utility>
 
 namespace corvala::host::io {
@@ -53,6 +54,7 @@ private:
     QString currentFile;
     QByteArray complaints; ///< the end of what libraries printed
     QString reason; ///< why it cannot be read, as far as known
+    BadRows badRows; ///< which are the reason
     std::atomic<bool> cancelled {false};
     std::thread loader; ///< runs while the folder of the reading program is loaded
     bool hasSpoken = false; ///< the reading program came to work
@@ -99,6 +101,7 @@ void DataReader::Private::start(const ReadRequest& request)
     cancelled = false;
     hasSpoken = false;
     reason.clear();
+    badRows = {};
     complaints.clear();
     currentFile = QDir().absoluteFilePath(request.files.value(0));
     const QString program = readerProgram();
@@ -162,7 +165,7 @@ void DataReader::Private::takeLine(const QByteArray& text)
     hasSpoken = true;
     currentFile = QString::fromStdString(line->file);
     if (line->isError)
-        reason = line->what.toString();
+        std::tie(reason, badRows) = std::make_tuple(line->what.toString(), line->badRows);
     else
         Q_EMIT q->progress(line->percent, line->what.toString());
 }
@@ -189,6 +192,9 @@ void DataReader::Private::giveUp()
     if (!cancelled)
         result.error = DataReader::tr("%1 could not be read: %2")
                            .arg(QDir::toNativeSeparators(currentFile), reason);
+    result.badRowCount = badRows.count;
+    for (const ReadMessage& row : badRows.first)
+        result.badRows << row.toString();
     finish(result);
 }
 
@@ -231,13 +237,15 @@ void DataReader::Private::startLoading()
 void DataReader::Private::takeLoaded(const LoadedData& loaded)
 {
     loader.join();
-    if (!loaded.data && !cancelled)
+    if (!loaded.data && !loaded.preview && !cancelled)
         reason = DataReader::tr("the reader gave an answer that cannot be understood");
-    if (!loaded.data || cancelled)
+    if (!reason.isEmpty() || cancelled)
         return giveUp();
     ReadResult result;
     result.data = loaded.data;
     result.detectedPlot3D = loaded.plot3d;
+    result.detectedText = loaded.text;
+    result.preview = loaded.preview;
     finish(result);
 }
 
@@ -319,6 +327,7 @@ QString DataReader::nameFilters()
         {tr("EnSight files"), QStringLiteral("*.case *.encas")},
         {tr("Exodus II files"), QStringLiteral("*.exo *.e *.ex2 *.exii *.g *.gen")},
         {tr("OpenFOAM cases"), QStringLiteral("*.foam *.OpenFOAM controlDict")},
+        {tr("Tables of text"), QStringLiteral("*.csv *.tsv *.tab *.txt *.dat *.prn *.asc")},
     };
     QStringList all;
     QStringList filters;

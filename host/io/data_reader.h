@@ -3,6 +3,7 @@
 
 #include "host/document/data_set.h"
 #include "host/io/read_request.h"
+#include "host/io/text_preview.h"
 
 #include <QMetaType>
 #include <QObject>
@@ -15,10 +16,14 @@ namespace corvala::host::io {
 
 struct ReadResult
 {
-    std::shared_ptr<DataSet> data; ///< null on failure
+    std::shared_ptr<DataSet> data; ///< null on failure, and for a preview
     bool cancelled = false;
     QString error; ///< one sentence naming the file and the reason; empty on success
     std::optional<Plot3DLayout> detectedPlot3D; ///< every field filled in, for Plot3D files
+    std::optional<TextDialect> detectedText; ///< for tables of text
+    std::optional<TextPreview> preview; ///< instead of data, as the request says
+    qint64 badRowCount = 0; ///< of a table that can be read without them
+    QStringList badRows; ///< some of these, with line and column
 };
 
 /// Reads data files in a child process, so that the caller stays responsive, can cancel, and

@@ -54,6 +54,24 @@ static Plot3DLayout layoutFrom(const json& value)
     return result;
 }
 
+static json dialectJson(const TextDialect& dialect)
+{
+    json result = json::object();
+    for (const TextProperty& property : textProperties())
+        if (const std::string word = property.word(property, dialect); !word.empty())
+            result[property.key] = word;
+    return result;
+}
+
+static TextDialect dialectFrom(const json& value)
+{
+    TextDialect result;
+    for (const TextProperty& property : textProperties())
+        if (value.contains(property.key))
+            property.set(property, value.at(property.key).get<std::string>(), result);
+    return result;
+}
+
 static json messageJson(const ReadMessage& message)
 {
     return {{"text", message.text}, {"arguments", message.arguments}};
@@ -67,6 +85,22 @@ static ReadMessage messageFrom(const json& value)
     return result;
 }
 
+template<class Items, class Convert>
+static json listJson(const Items& items, Convert convert)
+{
+    json result = json::array();
+    for (const auto& item : items)
+        result.push_back(convert(item));
+    return result;
+}
+
+template<class T, class Convert>
+static void listFrom(const json& value, std::vector<T>& items, Convert convert)
+{
+    for (const json& item : value)
+        items.push_back(convert(item));
+}
+
 std::string toJson(const ReadRequest& request)
 {
     json files = json::array();
@@ -74,6 +108,8 @@ std::string toJson(const ReadRequest& request)
         files.push_back(file.toStdString());
     return dump({{"files", files},
                  {"plot3d", layoutJson(request.plot3d)},
+                 {"text", dialectJson(request.text)},
+                 {"purpose", request.purpose},
                  {"memoryBytes", request.limits.memoryBytes}});
 }
 
@@ -84,6 +120,8 @@ std::optional<ReadRequest> requestFromJson(const std::string& text)
         for (const std::string& file : value.at("files").get<std::vector<std::string>>())
             request.files << QString::fromStdString(file);
         request.plot3d = layoutFrom(value.at("plot3d"));
+        request.text = dialectFrom(value.at("text"));
+        value.at("purpose").get_to(request.purpose);
         value.at("memoryBytes").get_to(request.limits.memoryBytes);
         return request;
     });
@@ -94,7 +132,9 @@ std::string toJson(const ReaderLine& line)
     return dump({{"percent", line.percent},
                  {"file", line.file},
                  {"what", messageJson(line.what)},
-                 {"error", line.isError}});
+                 {"error", line.isError},
+                 {"badRowCount", line.badRows.count},
+                 {"badRows", listJson(line.badRows.first, messageJson)}});
 }
 
 std::optional<ReaderLine> lineFromJson(const std::string& text)
@@ -105,6 +145,8 @@ std::optional<ReaderLine> lineFromJson(const std::string& text)
         value.at("file").get_to(line.file);
         line.what = messageFrom(value.at("what"));
         value.at("error").get_to(line.isError);
+        value.at("badRowCount").get_to(line.badRows.count);
+        listFrom(value.at("badRows"), line.badRows.first, messageFrom);
         return line;
     });
 }
@@ -137,7 +179,8 @@ static json variableJson(const Variable& variable)
     return {{"name", variable.name},
             {"array", variable.array},
             {"component", variable.component},
-            {"constant", variable.isConstant}};
+            {"constant", variable.isConstant},
+            {"kind", variable.kind}};
 }
 
 static Variable variableFrom(const json& value)
@@ -147,23 +190,8 @@ static Variable variableFrom(const json& value)
     value.at("array").get_to(variable.array);
     value.at("component").get_to(variable.component);
     value.at("constant").get_to(variable.isConstant);
+    value.at("kind").get_to(variable.kind);
     return variable;
-}
-
-template<class Items, class Convert>
-static json listJson(const Items& items, Convert convert)
-{
-    json result = json::array();
-    for (const auto& item : items)
-        result.push_back(convert(item));
-    return result;
-}
-
-template<class T, class Convert>
-static void listFrom(const json& value, std::vector<T>& items, Convert convert)
-{
-    for (const json& item : value)
-        items.push_back(convert(item));
 }
 
 std::string toJson(const DataSetIndex& index)
@@ -181,6 +209,8 @@ std::string toJson(const DataSetIndex& index)
                 {"notes", listJson(index.notes, messageJson)}};
     if (index.plot3d)
         value["plot3d"] = layoutJson(*index.plot3d);
+    if (index.text)
+        value["text"] = dialectJson(*index.text);
     return dump(value);
 }
 
@@ -219,9 +249,49 @@ std::optional<DataSetIndex> indexFromJson(const std::string& text)
         listFrom(value.at("notes"), index.notes, messageFrom);
         if (value.contains("plot3d"))
             index.plot3d = layoutFrom(value.at("plot3d"));
+        if (value.contains("text"))
+            index.text = dialectFrom(value.at("text"));
         return index;
     });
     return result && isConsistent(*result) ? result : std::nullopt;
+}
+
+static json rowJson(const TextPreview::Row& row)
+{
+    return {{"line", row.line}, {"role", row.role}, {"fields", row.fields}};
+}
+
+static TextPreview::Row rowFrom(const json& value)
+{
+    TextPreview::Row row;
+    value.at("line").get_to(row.line);
+    value.at("role").get_to(row.role);
+    value.at("fields").get_to(row.fields);
+    return row;
+}
+
+std::string toJson(const TextPreview& preview)
+{
+    return dump({{"file", preview.file},
+                 {"dialect", dialectJson(preview.dialect)},
+                 {"sure", preview.isSure},
+                 {"columns", preview.columns},
+                 {"kinds", preview.kinds},
+                 {"rows", listJson(preview.rows, rowJson)}});
+}
+
+std::optional<TextPreview> previewFromJson(const std::string& text)
+{
+    return parse<TextPreview>(text, [](const json& value) {
+        TextPreview preview;
+        value.at("file").get_to(preview.file);
+        preview.dialect = dialectFrom(value.at("dialect"));
+        value.at("sure").get_to(preview.isSure);
+        value.at("columns").get_to(preview.columns);
+        value.at("kinds").get_to(preview.kinds);
+        listFrom(value.at("rows"), preview.rows, rowFrom);
+        return preview;
+    });
 }
 
 } // namespace corvala::host::io

@@ -4,6 +4,7 @@
 #include "host/document/data_set.h"
 #include "host/io/read_message.h"
 #include "host/io/read_request.h"
+#include "host/io/text_preview.h"
 
 #include <optional>
 #include <string>
@@ -17,6 +18,7 @@ namespace corvala::host::io {
 
 constexpr char kRequestFile[] = "request.json";
 constexpr char kIndexFile[] = "index.json";
+constexpr char kPreviewFile[] = "preview.json"; ///< instead of the index
 
 /// One line from the reading program: progress, or the end.
 struct ReaderLine
@@ -25,6 +27,7 @@ struct ReaderLine
     std::string file; ///< the file that is being read
     ReadMessage what; ///< what is being done with it
     bool isError = false; ///< `what` is the reason why `file` cannot be read
+    BadRows badRows {}; ///< which are that reason; the file can be read without them
 };
 
 /// The data set without its points.
@@ -34,15 +37,18 @@ struct DataSetIndex
     std::vector<std::string> zoneFiles; ///< names in the folder; ZoneInfo::sourceIndex counts them
     std::vector<ReadMessage> notes;
     std::optional<Plot3DLayout> plot3d;
+    std::optional<TextDialect> text;
 };
 
 std::string toJson(const ReadRequest& request);
 std::string toJson(const ReaderLine& line); ///< without line end
 std::string toJson(const DataSetIndex& index);
+std::string toJson(const TextPreview& preview);
 
 // Empty when the text is no such thing.
 std::optional<ReadRequest> requestFromJson(const std::string& text);
 std::optional<ReaderLine> lineFromJson(const std::string& text);
 std::optional<DataSetIndex> indexFromJson(const std::string& text);
+std::optional<TextPreview> previewFromJson(const std::string& text);
 
 } // namespace corvala::host::io

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "host/io/text_dialect.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -32,10 +34,19 @@ struct ReadLimits
     int patienceMilliseconds = 300'000; ///< longest silence of the reader
 };
 
+/// What is wanted of files.
+enum class ReadPurpose {
+    Data,
+    DataIfSure, ///< a preview where tables of text could be meant in several ways
+    Preview ///< of the first table of text
+};
+
 struct ReadRequest
 {
     QStringList files; ///< opened together as one data set
     Plot3DLayout plot3d;
+    TextDialect text;
+    ReadPurpose purpose = ReadPurpose::Data;
     ReadLimits limits;
 };
 

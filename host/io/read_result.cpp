@@ -38,15 +38,25 @@ static void loadLargeZones(const DataSet& data, const ZoneFileSource& source,
     }
 }
 
+/// Empty for a file that is not there.
+static std::string contentOf(const ReadFolder& folder, const char* name)
+{
+    QFile file(folder.filePath(QString::fromLatin1(name)));
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+}
+
 LoadedData loadData(std::unique_ptr<ReadFolder> folder, const LoadProgress& progress)
 {
-    QFile file(folder->filePath(QString::fromLatin1(kIndexFile)));
-    std::optional<DataSetIndex> index;
-    if (progress(0) && file.open(QIODevice::ReadOnly))
-        index = indexFromJson(file.readAll().toStdString());
+    LoadedData result;
+    if (!progress(0))
+        return result;
+    result.preview = previewFromJson(contentOf(*folder, kPreviewFile));
+    std::optional<DataSetIndex> index = indexFromJson(contentOf(*folder, kIndexFile));
     if (!index)
-        return {};
-    LoadedData result {std::make_shared<DataSet>(std::move(index->data)), index->plot3d};
+        return result;
+    result.data = std::make_shared<DataSet>(std::move(index->data));
+    result.plot3d = index->plot3d;
+    result.text = index->text;
     for (const ReadMessage& note : index->notes)
         result.data->notes.push_back(note.toString().toStdString());
     const auto source =

@@ -4,6 +4,7 @@
 #include "host/document/data_set.h"
 #include "host/io/read_folder.h"
 #include "host/io/read_request.h"
+#include "host/io/text_preview.h"
 
 #include <functional>
 #include <memory>
@@ -17,8 +18,10 @@ using LoadProgress = std::function<bool(int percent)>;
 /// What the reading program left in its folder.
 struct LoadedData
 {
-    std::shared_ptr<DataSet> data; ///< null when it is no answer
+    std::shared_ptr<DataSet> data; ///< null for a preview, and when it is no answer
     std::optional<Plot3DLayout> plot3d;
+    std::optional<TextDialect> text;
+    std::optional<TextPreview> preview;
 };
 
 /// Loads the index and, so that drawing finds them in memory, those large zones that are shown at

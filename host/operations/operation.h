@@ -163,7 +163,8 @@ struct DataOrigin
     std::vector<std::string> files; ///< absolute paths
     std::string demo; ///< name of embedded data
     std::int64_t scale = 0; ///< its number of zones or line maps; 0 is its usual size
-    auto fields() const { return std::tie(files, demo, scale); }
+    std::string table; ///< how text files are read (text_dialect.h); empty: as is detected
+    auto fields() const { return std::tie(files, demo, scale, table); }
 };
 
 /// Gives the active frame (made when there is none) data and a plot type to show them: default

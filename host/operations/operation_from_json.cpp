@@ -197,6 +197,7 @@ Operation readOpen(const JsonObject& object, const TextContext& context)
     AttachData attach;
     for (const QString& file : object.texts("open"))
         attach.origin.files.push_back(QDir(context.folder).absoluteFilePath(file).toStdString());
+    attach.origin.table = object.text("table", {}).toStdString();
     return attach;
 }
 
@@ -244,7 +245,7 @@ const std::vector<Reader>& readers()
         {{"pick", {}}, readPick},
         {{"paletteColor", {"rgb"}}, readPaletteColor},
         {{"frame", {}}, readFrame},
-        {{"open", {}}, readOpen},
+        {{"open", {"table"}}, readOpen},
         {{"demo", {"zones", "maps"}}, readDemo},
         {{"data", {}}, readData}};
     return readers;

@@ -173,8 +173,12 @@ Json json(const DeleteFrame&)
 Json json(const AttachData& attach)
 {
     const DataOrigin& origin = attach.origin;
-    if (origin.demo.empty())
-        return {{"open", origin.files}};
+    if (origin.demo.empty()) {
+        Json object {{"open", origin.files}};
+        if (!origin.table.empty())
+            object["table"] = origin.table;
+        return object;
+    }
     Json object {{"demo", origin.demo}};
     if (origin.scale != 0)
         object[isScaledByMaps(origin.demo) ? "maps" : "zones"] = origin.scale;

@@ -13,11 +13,18 @@
 
 namespace corvala::plot {
 
+/// What is written along an axis.
+struct AxisTitle
+{
+    QString text;
+    bool isOfInstants = false; ///< values are seconds since 1970-01-01 00:00 UTC
+};
+
 /// What is written along the axes.
 struct ChartTitles
 {
-    std::array<QString, kAxisCount> first;
-    std::array<QString, kAxisCount> second;
+    std::array<AxisTitle, kAxisCount> first;
+    std::array<AxisTitle, kAxisCount> second;
 };
 
 /// Axes with the shapes of line maps in a QCustomPlot; XY and polar charts are its kinds. Whenever

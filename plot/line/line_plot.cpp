@@ -204,31 +204,51 @@ void LinePlot::resume()
     m_chart->ink().resume();
 }
 
-/// Adds the name of a variable to the title of an axis, after a comma; an ellipsis when it is full.
-static void addName(QStringList& names, const host::Frame& drawn, CvlInt64 variable)
+namespace {
+
+/// Collects the variables along an axis.
+struct AxisVariables
+{
+    QStringList names;
+    bool areInstants = true;
+
+    void add(const host::Frame& drawn, CvlInt64 variable);
+    AxisTitle title() const
+    {
+        return {names.join(QStringLiteral(", ")), areInstants && !names.isEmpty()};
+    }
+};
+
+} // namespace
+
+/// Names come after commas; an ellipsis when there are many.
+void AxisVariables::add(const host::Frame& drawn, CvlInt64 variable)
 {
     constexpr int kMostNames = 4;
-    const QString name = QString::fromStdString(host::shownVariableName(drawn.data(), variable));
+    const host::DataSet* const data = drawn.data();
+    const QString name = QString::fromStdString(host::shownVariableName(data, variable));
     if (names.size() <= kMostNames && !names.contains(name))
         names.append(names.size() < kMostNames ? name : QStringLiteral("\u2026"));
+    areInstants = areInstants && data && data->hasVariable(variable)
+        && data->variable(variable).kind == host::VariableKind::Instant;
 }
 
 void LinePlot::updateTitles(const host::Frame& drawn)
 {
-    std::array<QStringList, kAxisCount> first;
-    std::array<QStringList, kAxisCount> second;
+    std::array<AxisVariables, kAxisCount> first;
+    std::array<AxisVariables, kAxisCount> second;
     for (const std::uint32_t map : shownMaps()) {
         if (!isSeen(drawn, map))
             continue;
         const LineRecipe recipe = recipeOf(drawn, map);
         const LineAxes axes = axesOf(drawn, map);
-        addName(first[axes.first], drawn, recipe.first);
-        addName(second[axes.second], drawn, recipe.second);
+        first[axes.first].add(drawn, recipe.first);
+        second[axes.second].add(drawn, recipe.second);
     }
     ChartTitles titles;
     for (std::size_t i = 0; i < kAxisCount; ++i) {
-        titles.first[i] = first[i].join(QStringLiteral(", "));
-        titles.second[i] = second[i].join(QStringLiteral(", "));
+        titles.first[i] = first[i].title();
+        titles.second[i] = second[i].title();
     }
     m_chart->setTitles(titles);
 }

@@ -63,8 +63,9 @@ LinePlane PolarChart::plane(const LineAxes&) const
 
 void PolarChart::setTitles(const ChartTitles& titles)
 {
-    const QString& angle = titles.first[0];
-    m_title->setText(angle.isEmpty() ? QString() : tr("%1 over %2").arg(titles.second[0], angle));
+    const QString& angle = titles.first[0].text;
+    m_title->setText(angle.isEmpty() ? QString()
+                                     : tr("%1 over %2").arg(titles.second[0].text, angle));
 }
 
 void PolarChart::fit(const AxisRange& radii)

@@ -5,6 +5,27 @@
 
 namespace corvala::plot {
 
+/// Dates and times of day in UTC, as exact as the ticks are close.
+class DateTicker : public QCPAxisTickerDateTime
+{
+public:
+    DateTicker() { setDateTimeSpec(Qt::UTC); }
+
+protected:
+    double getTickStep(const QCPRange& range) override
+    {
+        constexpr double kMinute = 60;
+        constexpr double kDay = 86'400;
+        const double step = QCPAxisTickerDateTime::getTickStep(range);
+        const QString time = step < kMinute ? QStringLiteral("hh:mm:ss") : QStringLiteral("hh:mm");
+        const QString date = QStringLiteral("yyyy-MM-dd");
+        setDateTimeFormat(step >= kDay               ? date
+                              : range.size() >= kDay ? date + QLatin1Char('\n') + time
+                                                     : time);
+        return step;
+    }
+};
+
 /// Lines over rectangular axes. The first axis of each direction is always there, below and to the
 /// left; the others come when a line is drawn along them, on the sides in turn.
 class XyChart : public LineChart
@@ -30,10 +51,12 @@ private:
     {
         QCPAxis* axis = nullptr; // owned by the plot
         bool hasRange = false;
+        bool hasDates = false;
     };
     using Axes = std::array<Axis, kAxisCount>;
 
     void fit(Axes& axes, std::size_t number);
+    static void setTitle(Axis& axis, const AxisTitle& title);
 
     QCustomPlot& m_plot;
     Axes m_first;
@@ -93,9 +116,19 @@ LinePlane XyChart::plane(const LineAxes& axes) const
 void XyChart::setTitles(const ChartTitles& titles)
 {
     for (std::size_t i = 0; i < kAxisCount; ++i) {
-        m_first[i].axis->setLabel(titles.first[i]);
-        m_second[i].axis->setLabel(titles.second[i]);
+        setTitle(m_first[i], titles.first[i]);
+        setTitle(m_second[i], titles.second[i]);
     }
+}
+
+void XyChart::setTitle(Axis& axis, const AxisTitle& title)
+{
+    axis.axis->setLabel(title.text);
+    if (axis.hasDates == title.isOfInstants)
+        return;
+    axis.hasDates = title.isOfInstants;
+    axis.axis->setTicker(axis.hasDates ? QSharedPointer<QCPAxisTicker>(new DateTicker)
+                                       : QSharedPointer<QCPAxisTicker>(new QCPAxisTicker));
 }
 
 void XyChart::updateAxes()

@@ -263,7 +263,7 @@ private Q_SLOTS:
               R"({"frame": "new"})",
               R"({"frame": 2})",
               R"({"frame": "delete"})",
-              R"({"open": ["/a.csv", "/b.csv"]})",
+              R"({"open": ["/a.csv", "/b.csv"], "table": "separator=tab"})",
               R"({"demo": "kinds"})",
               R"({"demo": "polar", "maps": 12})",
               R"({"demo": "field3d", "zones": 12})",

@@ -21,7 +21,7 @@ public:
     }
 
     QWidget& window() override { return m_window; }
-    QString openFiles(const QStringList&) override
+    QString openFiles(const QStringList&, const QString&) override
     {
         return QStringLiteral("this stage reads no files");
     }

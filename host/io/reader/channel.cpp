@@ -21,13 +21,13 @@ void Channel::report(const QString& file, int percent, const ReadMessage& what)
         return;
     m_lastReport = now;
     m_file = std::move(name);
-    write({percent, m_file, what, false});
+    write({percent, m_file, what, false, {}});
 }
 
 void Channel::fail(const ReadFailure& failure)
 {
-    write(
-        {-1, failure.file.isEmpty() ? m_file : failure.file.toStdString(), failure.message, true});
+    write({-1, failure.file.isEmpty() ? m_file : failure.file.toStdString(), failure.message, true,
+           failure.badRows});
 }
 
 void Channel::write(const ReaderLine& line) const

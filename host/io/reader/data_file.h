@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "host/document/data_set.h"
 #include "host/io/read_message.h"
 #include "host/io/read_request.h"
 
@@ -35,6 +36,14 @@ public:
     virtual std::vector<ReadMessage> notes() const { return {}; }
     /// Layout of a Plot3D file, once it is read.
     virtual std::optional<Plot3DLayout> plot3dLayout() const { return std::nullopt; }
+    /// How a table of text is written, once it is read.
+    virtual std::optional<TextDialect> textDialect() const { return std::nullopt; }
+    /// False for a table of text that could be meant in another way.
+    virtual bool isSure() const { return true; }
+    /// False where points have no place, as in a table.
+    virtual bool hasCoordinates() const { return true; }
+    /// What an array stands for, once it is read.
+    virtual VariableKind kindOf(const std::string& /*array*/) const { return VariableKind::Number; }
 };
 
 } // namespace corvala::host::io::reader

@@ -74,9 +74,13 @@ DataSetIndex DataSetBuilder::build(const std::vector<std::unique_ptr<DataFile>>&
     numberZones();
     noteOmissions();
     m_index.zoneFiles = m_writer.files();
-    m_index.data.variables = m_variables.variables();
+    m_index.data.variables = m_variables.variables(m_hasCoordinates);
+    for (Variable& variable : m_index.data.variables)
+        for (const auto& file : files)
+            if (variable.kind == VariableKind::Number && !variable.isCoordinate())
+                variable.kind = file->kindOf(variable.array);
     m_index.data.vectorVariables = proposedVector(m_index.data.variables);
-    m_index.data.contourVariables = m_variables.proposeContours();
+    m_index.data.contourVariables = m_variables.proposeContours(m_hasCoordinates);
     return std::move(m_index);
 }
 
@@ -98,6 +102,9 @@ void DataSetBuilder::readFile(DataFile& file, const std::string& fileName)
     m_index.notes.insert(m_index.notes.end(), notes.begin(), notes.end());
     if (!m_index.plot3d)
         m_index.plot3d = file.plot3dLayout();
+    if (!m_index.text)
+        m_index.text = file.textDialect();
+    m_hasCoordinates = m_hasCoordinates || file.hasCoordinates();
 }
 
 /// Indices of the times, ascending; of equal times only the first, as VTK tells times by value.

@@ -64,6 +64,7 @@ private:
     std::map<BlockKey, std::size_t> m_blockOfKey; ///< of the file that is being read
     vtkBoundingBox m_bounds;
     Enclosure m_enclosure;
+    bool m_hasCoordinates = false; ///< in some file
     QSet<QString> m_droppedArrays;
     std::set<QString> m_warnings; ///< with the names of the files
     std::size_t m_fileNumber = 0;

@@ -12,7 +12,7 @@
 namespace corvala::host::io::reader {
 
 /// Which of the files in a folder stand for the others, first ones first.
-enum Rank { Case, Index, Part, RankCount };
+enum Rank { Case, Index, Part, Values, RankCount };
 
 struct FormatEndings
 {
@@ -32,6 +32,7 @@ static constexpr FormatEndings kFormats[] = {
     {Format::Foam, Case, "foam openfoam"},
     {Format::Plot3D, Part, "xyz x xy grd g bin q f fun fmt"},
     {Format::Plot3D, Index, "p3d"},
+    {Format::Table, Values, "csv tsv tab txt dat prn asc"},
 };
 
 static constexpr FormatEndings kControlDict {Format::Foam, Case, ""};

@@ -6,7 +6,18 @@
 
 namespace corvala::host::io::reader {
 
-enum class Format { Unknown, LegacyVtk, XmlVtk, Collection, Cgns, EnSight, Exodus, Foam, Plot3D };
+enum class Format {
+    Unknown,
+    LegacyVtk,
+    XmlVtk,
+    Collection,
+    Cgns,
+    EnSight,
+    Exodus,
+    Foam,
+    Plot3D,
+    Table
+};
 
 /// By the name of a file, and its first bytes where formats share an ending.
 Format formatOf(const QString& path);

@@ -5,6 +5,7 @@
 #include "host/io/reader/open_files.h"
 #include "host/io/reader/read_failure.h"
 #include "host/io/reader/resource_limits.h"
+#include "host/io/reader/text/table_preview.h"
 #include "host/io/reader/vtk_messages.h"
 
 #include <QDir>
@@ -27,23 +28,39 @@ static std::optional<ReadRequest> loadRequest(const QDir& folder)
     return requestFromJson(file.readAll().toStdString());
 }
 
-static void storeIndex(const QDir& folder, DataSetIndex index, const ReadRequest& request)
+static void store(const QDir& folder, const char* name, const std::string& json)
 {
-    for (const QString& file : request.files)
-        index.data.files.push_back(file.toStdString());
-    QFile file(folder.filePath(QString::fromLatin1(kIndexFile)));
-    const QByteArray text = QByteArray::fromStdString(toJson(index));
+    QFile file(folder.filePath(QString::fromLatin1(name)));
+    const QByteArray text = QByteArray::fromStdString(json);
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush())
         throw reader::ReadFailure::ofFullDisk(folder.path());
+}
+
+static void storeData(const QDir& folder, const ReadRequest& request,
+                      const std::vector<std::unique_ptr<reader::DataFile>>& files,
+                      std::int64_t memoryBytes, reader::Channel& channel)
+{
+    reader::DataSetBuilder builder(folder.path(), channel, memoryBytes);
+    DataSetIndex index = builder.build(files);
+    for (const QString& file : request.files)
+        index.data.files.push_back(file.toStdString());
+    store(folder, kIndexFile, toJson(index));
 }
 
 static void readAll(const QDir& folder, const ReadRequest& request, std::int64_t memoryBytes,
                     reader::Channel& channel)
 {
     removeAbandonedFolders(QFileInfo(folder.path()).path());
+    const auto preview = [&](const QString& file) {
+        store(folder, kPreviewFile, toJson(reader::previewOf(file, request.text)));
+    };
+    if (request.purpose == ReadPurpose::Preview)
+        return preview(request.files.first());
     const auto files = reader::openFiles(request, folder, channel);
-    reader::DataSetBuilder builder(folder.path(), channel, memoryBytes);
-    storeIndex(folder, builder.build(files), request);
+    for (const auto& file : files)
+        if (request.purpose == ReadPurpose::DataIfSure && !file->isSure())
+            return preview(file->path());
+    storeData(folder, request, files, memoryBytes, channel);
 }
 
 /// Reads as `folder` asks. Returns the exit code.

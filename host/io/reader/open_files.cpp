@@ -6,6 +6,7 @@
 #include "host/io/reader/formats.h"
 #include "host/io/reader/plot3d_format.h"
 #include "host/io/reader/read_failure.h"
+#include "host/io/reader/text/table_file.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -61,6 +62,7 @@ std::vector<std::unique_ptr<DataFile>> openFiles(const ReadRequest& request, con
 {
     std::vector<std::unique_ptr<DataFile>> result;
     QStringList plot3d;
+    QStringList tables;
     for (const QString& named : request.files) {
         const QString path = QFileInfo(named).isDir() ? mainFileIn(named) : named;
         channel.report(path, 0,
@@ -71,11 +73,15 @@ std::vector<std::unique_ptr<DataFile>> openFiles(const ReadRequest& request, con
         requireReadable(path, format == Format::Foam);
         if (format == Format::Plot3D)
             plot3d << path;
+        else if (format == Format::Table || (format == Format::Unknown && isTable(path)))
+            tables << path;
         else
             result.push_back(openFile(format, path, newHelperFolder(folder, result.size())));
     }
     for (const Plot3DSeries& series : groupPlot3D(plot3d, request.plot3d))
         result.push_back(openPlot3D(series, newHelperFolder(folder, result.size())));
+    for (std::unique_ptr<DataFile>& table : openTables(tables, request.text))
+        result.push_back(std::move(table));
     return result;
 }
 

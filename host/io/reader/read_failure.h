@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "host/io/read_message.h"
+#include "host/io/text_preview.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -37,6 +37,7 @@ struct ReadFailure
 
     QString file; ///< empty for the one that is being read
     ReadMessage message;
+    BadRows badRows {}; ///< without which the file can be read
 };
 
 } // namespace corvala::host::io::reader

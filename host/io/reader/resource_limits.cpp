@@ -36,4 +36,12 @@ std::int64_t limitResources(std::int64_t memoryBytes)
     return bytes;
 }
 
+std::int64_t memoryLimit()
+{
+    rlimit limit {};
+    getrlimit(RLIMIT_AS, &limit);
+    return limit.rlim_cur == RLIM_INFINITY ? usualLimit()
+                                           : static_cast<std::int64_t>(limit.rlim_cur);
+}
+
 } // namespace corvala::host::io::reader

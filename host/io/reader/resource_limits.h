@@ -10,4 +10,7 @@ namespace corvala::host::io::reader {
 /// machine's memory, at least 2 GiB. Returns the limit in bytes.
 std::int64_t limitResources(std::int64_t memoryBytes);
 
+/// The limit of the address space of this process in bytes.
+std::int64_t memoryLimit();
+
 } // namespace corvala::host::io::reader

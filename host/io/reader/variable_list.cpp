@@ -69,10 +69,10 @@ std::string VariableList::Array::componentLabel(std::size_t component) const
     return given.empty() ? std::to_string(component + 1) : given;
 }
 
-std::vector<Variable> VariableList::variables() const
+std::vector<Variable> VariableList::variables(bool hasCoordinates) const
 {
     std::vector<Variable> result;
-    for (int axis = 0; axis < 3; ++axis)
+    for (int axis = 0; hasCoordinates && axis < 3; ++axis)
         result.push_back({kAxes[axis], {}, {}, axis});
     for (const Array& array : m_arrays) {
         for (std::size_t c = 0; c < array.components.size(); ++c) {
@@ -86,11 +86,11 @@ std::vector<Variable> VariableList::variables() const
     return result;
 }
 
-std::vector<int> VariableList::proposeContours() const
+std::vector<int> VariableList::proposeContours(bool hasCoordinates) const
 {
     enum Rank { Scalar, ComponentOfArray, Bookkeeping, Constant, RankCount };
     std::array<std::vector<int>, RankCount> ranked;
-    int number = 3; // of the coordinates
+    int number = hasCoordinates ? 3 : 0;
     for (const Array& array : m_arrays) {
         const Rank rank = array.isBookkeeping ? Bookkeeping
             : array.components.size() == 1    ? Scalar

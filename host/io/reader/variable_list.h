@@ -20,9 +20,10 @@ class VariableList
 public:
     void add(vtkDataSet& zone);
 
-    std::vector<Variable> variables() const;
+    /// Where there are coordinates, these come first.
+    std::vector<Variable> variables(bool hasCoordinates) const;
     /// For the contour groups: scalars first, then components of vectors; constants last.
-    std::vector<int> proposeContours() const;
+    std::vector<int> proposeContours(bool hasCoordinates) const;
 
 private:
     struct Component

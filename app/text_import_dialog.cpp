@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/text_import_dialog.h"
+
+#include "app/text_preview_table.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace corvala::app {
+
+using host::io::ReadPurpose;
+using host::io::TextPreview;
+using host::io::TextProperty;
+
+static constexpr int kLastLine = 1'000'000'000;
+static constexpr int kDetected = -1; ///< of a number that is left to the reader
+
+static QString shown(const char* text)
+{
+    return QCoreApplication::translate("TextDialect", text);
+}
+
+TextImportDialog::TextImportDialog(const host::io::ReadRequest& request, const TextPreview& preview,
+                                   QWidget* parent)
+    : QDialog(parent)
+    , m_request(request)
+    , m_note(new QLabel(this))
+    , m_table(new TextPreviewTable(this))
+{
+    setWindowTitle(tr("Import %1").arg(QFileInfo(QString::fromStdString(preview.file)).fileName()));
+    m_note->setWordWrap(true);
+    m_note->setTextFormat(Qt::PlainText);
+    auto* form = new QFormLayout;
+    addFields(*form);
+    auto* right = new QVBoxLayout;
+    right->addWidget(m_note);
+    right->addWidget(m_table, 1);
+    auto* both = new QHBoxLayout;
+    both->addLayout(form);
+    both->addLayout(right, 1);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Open | QDialogButtonBox::Cancel);
+    m_open = buttons->button(QDialogButtonBox::Open);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(both, 1);
+    layout->addWidget(buttons);
+    connect(&m_reader, &host::io::DataReader::finished, this, &TextImportDialog::takeResult);
+    resize(1000, 600);
+    showPreview(preview);
+}
+
+void TextImportDialog::addFields(QFormLayout& form)
+{
+    for (const TextProperty& property : host::io::textProperties()) {
+        QWidget* const field = makeField(property);
+        field->setObjectName(QLatin1String(property.key));
+        form.addRow(shown(property.label), field);
+        m_fields.push_back({&property, field});
+    }
+}
+
+QWidget* TextImportDialog::makeField(const TextProperty& property)
+{
+    const QString word = QString::fromStdString(property.word(property, m_request.text));
+    if (!property.choices.empty()) {
+        auto* choice = new QComboBox(this);
+        choice->addItem(tr("detect"));
+        for (const TextProperty::Choice& each : property.choices)
+            choice->addItem(shown(each.label), QLatin1String(each.word));
+        choice->setCurrentIndex(std::max(0, word.isEmpty() ? 0 : choice->findData(word)));
+        connect(choice, QOverload<int>::of(&QComboBox::activated), this, [this, choice, &property] {
+            take(property, choice->currentData().toString().toStdString());
+        });
+        return choice;
+    }
+    if (property.isText) {
+        auto* text = new QLineEdit(word, this);
+        text->setPlaceholderText(tr("words, such as -999"));
+        connect(text, &QLineEdit::editingFinished, this,
+                [this, text, &property] { take(property, text->text().toStdString()); });
+        return text;
+    }
+    auto* number = new QSpinBox(this);
+    number->setRange(kDetected, kLastLine);
+    number->setKeyboardTracking(false);
+    number->setValue(word.isEmpty() ? kDetected : word.toInt());
+    connect(number, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            [this, &property](int value) {
+                take(property, value == kDetected ? std::string() : std::to_string(value));
+            });
+    return number;
+}
+
+void TextImportDialog::take(const TextProperty& property, const std::string& word)
+{
+    if (property.word(property, m_request.text) == word)
+        return;
+    property.set(property, word, m_request.text);
+    refresh();
+}
+
+/// Asks the reading program for the preview, after the one that is being made.
+void TextImportDialog::refresh()
+{
+    m_isStale = m_reader.isRunning();
+    if (m_isStale)
+        return;
+    host::io::ReadRequest request = m_request;
+    request.purpose = ReadPurpose::Preview;
+    m_reader.start(request);
+}
+
+void TextImportDialog::takeResult(const host::io::ReadResult& result)
+{
+    if (m_isStale)
+        return refresh();
+    if (result.preview)
+        return showPreview(*result.preview);
+    m_note->setText(result.error);
+    m_open->setEnabled(false);
+}
+
+static int badRowCount(const TextPreview& preview)
+{
+    return static_cast<int>(
+        std::count_if(preview.rows.begin(), preview.rows.end(), [](const TextPreview::Row& row) {
+            return row.role == TextPreview::Role::Bad;
+        }));
+}
+
+void TextImportDialog::showPreview(const TextPreview& preview)
+{
+    for (const Field& field : m_fields) {
+        const TextProperty& property = *field.property;
+        const std::string word = property.word(property, preview.dialect);
+        QString detected = QString::fromStdString(word);
+        for (const TextProperty::Choice& choice : property.choices)
+            if (word == choice.word)
+                detected = shown(choice.label);
+        const QString text = detected.isEmpty() ? tr("detect") : tr("detected: %1").arg(detected);
+        if (auto* const choice = qobject_cast<QComboBox*>(field.widget)) {
+            if (choice->currentIndex() == 0)
+                choice->setItemText(0, text);
+        } else if (auto* const number = qobject_cast<QSpinBox*>(field.widget)) {
+            if (number->value() == kDetected)
+                number->setSpecialValueText(text);
+        }
+    }
+    const bool isTable = !preview.columns.empty();
+    QStringList notes;
+    if (!isTable)
+        notes << tr("No table is seen in this way.");
+    else if (!preview.isSure)
+        notes << tr("This can be meant in several ways: please check the columns.");
+    if (const int bad = badRowCount(preview))
+        notes << tr("Of these rows, %n cannot be read.", nullptr, bad);
+    m_note->setText(notes.join(QLatin1Char(' ')));
+    m_table->show(preview);
+    m_open->setEnabled(isTable);
+}
+
+} // namespace corvala::app

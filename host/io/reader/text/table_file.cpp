@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/text/table_file.h"
+
+#include "host/io/reader/read_failure.h"
+#include "host/io/reader/text/table_data.h"
+#include "host/io/reader/text/table_layout.h"
+
+#include <QFileInfo>
+
+#include <vtkCompositeDataSet.h>
+#include <vtkDoubleArray.h>
+#include <vtkImageData.h>
+#include <vtkInformation.h>
+#include <vtkMultiBlockDataSet.h>
+#include <vtkNew.h>
+#include <vtkPointData.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace corvala::host::io::reader {
+
+static constexpr double kLeastScore = 0.02; ///< of anything that can be a table
+static constexpr double kSecondsOfDay = 86'400;
+static constexpr std::size_t kMostListed = 12; ///< words of a column in a note
+static constexpr int kMostColumns = 5; ///< in a note
+
+/// A table whose zones are ordered along I and have no coordinates but the index.
+class TableFile : public DataFile
+{
+public:
+    TableFile(const QString& path, const TextDialect& wanted);
+
+    QString path() const override { return m_path; }
+    std::vector<double> times() const override { return {}; }
+    vtkSmartPointer<vtkDataObject> read(std::size_t timeIndex,
+                                        const ProgressCall& progress) override;
+    std::vector<ReadMessage> notes() const override { return m_notes; }
+    std::optional<TextDialect> textDialect() const override { return m_layout.dialect; }
+    bool isSure() const override { return m_layout.isSure; }
+    bool hasCoordinates() const override { return false; }
+    VariableKind kindOf(const std::string& array) const override;
+
+    const TableLayout& layout() const { return m_layout; }
+    void takeNames(const TableLayout& other);
+
+private:
+    void requireGoodRows() const;
+    void joinDatesAndTimes();
+    void addRowNumbers();
+    void noteWords();
+    void note(const char* text, const QStringList& parts);
+    vtkSmartPointer<vtkImageData> zone(std::size_t number);
+
+    QString m_path;
+    TableLayout m_layout;
+    double m_expectedRows;
+    TableData m_table; ///< whose memory the zones use
+    std::vector<ReadMessage> m_notes;
+};
+
+TableFile::TableFile(const QString& path, const TextDialect& wanted)
+    : m_path(path)
+{
+    const TextSample sample = sampleOf(path, wanted.encoding);
+    m_layout = layoutOf(sample, wanted);
+    m_expectedRows = static_cast<double>(sample.fileBytes) / sample.bytesOfLine;
+    if (m_layout.columns.empty() || (m_layout.score < kLeastScore && !wanted.separator))
+        throw ReadFailure(path,
+                          QT_TRANSLATE_NOOP("ReadMessage",
+                                            "it has no rows of equally many fields, so it is no "
+                                            "table, or one that is written in an unusual way"));
+    if (!m_layout.isSure && toText(wanted).isEmpty())
+        note(QT_TRANSLATE_NOOP("ReadMessage",
+                               "%1 can be meant in several ways; it was read as: %2."),
+             {describe(m_layout.dialect)});
+    if (m_layout.linesLeftOut > 0)
+        note(QT_TRANSLATE_NOOP("ReadMessage", "%1: lines above the table were left out: %2."),
+             {QString::number(m_layout.linesLeftOut)});
+}
+
+VariableKind TableFile::kindOf(const std::string& array) const
+{
+    for (const TableColumn& column : m_layout.columns)
+        if (column.name == array)
+            return column.kind == CellKind::Instant ? VariableKind::Instant
+                : column.kind == CellKind::Words    ? VariableKind::Words
+                                                    : VariableKind::Number;
+    return VariableKind::Number;
+}
+
+void TableFile::takeNames(const TableLayout& other)
+{
+    for (std::size_t c = 0; c < m_layout.columns.size(); ++c)
+        m_layout.columns[c].name = other.columns[c].name;
+}
+
+/// Nothing is handed over while rows are bad, unless that is wanted.
+void TableFile::requireGoodRows() const
+{
+    const std::int64_t bad = m_table.badRowCount;
+    if (m_table.rowCount == 0 && bad == 0)
+        throw ReadFailure(m_path,
+                          QT_TRANSLATE_NOOP("ReadMessage", "there are no rows of data in it"));
+    const bool mayBeSkipped = m_table.rowCount > 0;
+    if (bad == 0 || (mayBeSkipped && m_layout.dialect.badRows == TextBadRows::Skip))
+        return;
+    ReadFailure failure(
+        m_path, QT_TRANSLATE_NOOP("ReadMessage", "%1 of its %2 rows are bad. %3"),
+        {QString::number(bad),
+         QString::number(static_cast<qint64>(m_table.rowCount) + static_cast<qint64>(bad)),
+         m_table.badRows.front().toString()});
+    if (mayBeSkipped)
+        failure.badRows = {bad, m_table.badRows};
+    throw failure;
+}
+
+/// A column of days beside one of times of day becomes one of instants.
+void TableFile::joinDatesAndTimes()
+{
+    std::vector<TableColumn>& columns = m_layout.columns;
+    for (std::size_t c = 0; c + 1 < columns.size(); ++c) {
+        if (columns[c].kind != CellKind::Instant || columns[c + 1].kind != CellKind::TimeOfDay)
+            continue;
+        std::vector<double>& days = m_table.columns[c].numbers;
+        const std::vector<double>& times = m_table.columns[c + 1].numbers;
+        const auto isDay = [](double value) {
+            return std::isnan(value) || std::fmod(value, kSecondsOfDay) == 0.0;
+        };
+        if (!std::all_of(days.begin(), days.end(), isDay))
+            continue;
+        std::transform(days.begin(), days.end(), times.begin(), days.begin(), std::plus<>());
+        columns[c].name += ' ' + columns[c + 1].name;
+    }
+}
+
+/// A single column is drawn over the numbers of its rows.
+void TableFile::addRowNumbers()
+{
+    const auto isNumeric = [](const TableColumn& column) { return column.kind != CellKind::Words; };
+    if (std::count_if(m_layout.columns.begin(), m_layout.columns.end(), isNumeric) > 1)
+        return;
+    ColumnValues rows;
+    rows.numbers.resize(m_table.rowCount);
+    std::iota(rows.numbers.begin(), rows.numbers.end(), 1.0);
+    m_table.columns.insert(m_table.columns.begin(), std::move(rows));
+    m_layout.columns.insert(m_layout.columns.begin(), {"Row", CellKind::Number});
+}
+
+static QString numberedWords(const QString& name, const std::vector<std::string>& words)
+{
+    QStringList list;
+    for (std::size_t i = 0; i < std::min(words.size(), kMostListed); ++i)
+        list << QStringLiteral("%1 %2").arg(i + 1).arg(QString::fromStdString(words[i]));
+    if (words.size() > kMostListed)
+        list << QStringLiteral("...");
+    return QStringLiteral("%1 (%2)").arg(name, list.join(QStringLiteral(", ")));
+}
+
+void TableFile::noteWords()
+{
+    QStringList dropped;
+    QStringList numbered;
+    for (std::size_t c = 0; c < m_layout.columns.size(); ++c) {
+        const QString name = QString::fromStdString(m_layout.columns[c].name);
+        const ColumnValues& column = m_table.columns[c];
+        if (column.isDropped)
+            dropped << name;
+        if (!column.words.empty() && numbered.size() < kMostColumns)
+            numbered << numberedWords(name, column.words);
+    }
+    note(QT_TRANSLATE_NOOP("ReadMessage", "%1: columns of words are numbered: %2."), numbered);
+    note(QT_TRANSLATE_NOOP("ReadMessage", "%1: columns of text were left out: %2."), dropped);
+}
+
+/// Tells something about parts of the file, if there are any.
+void TableFile::note(const char* text, const QStringList& parts)
+{
+    if (!parts.isEmpty())
+        m_notes.emplace_back(text,
+                             std::initializer_list<QString> {QFileInfo(m_path).fileName(),
+                                                             parts.join(QStringLiteral(", "))});
+}
+
+vtkSmartPointer<vtkImageData> TableFile::zone(std::size_t number)
+{
+    const std::vector<TableZone>& zones = m_table.zones;
+    const std::size_t first = zones[number].firstRow;
+    const std::size_t end =
+        number + 1 < zones.size() ? zones[number + 1].firstRow : m_table.rowCount;
+    auto result = vtkSmartPointer<vtkImageData>::New();
+    result->SetDimensions(static_cast<int>(end - first), 1, 1);
+    for (std::size_t c = 0; c < m_layout.columns.size(); ++c) {
+        if (m_table.columns[c].isDropped)
+            continue;
+        vtkNew<vtkDoubleArray> array;
+        constexpr int kKeepMemory = 1;
+        array->SetArray(m_table.columns[c].numbers.data() + first,
+                        static_cast<vtkIdType>(end - first), kKeepMemory);
+        array->SetName(m_layout.columns[c].name.c_str());
+        result->GetPointData()->AddArray(array);
+    }
+    return result;
+}
+
+vtkSmartPointer<vtkDataObject> TableFile::read(std::size_t, const ProgressCall& progress)
+{
+    m_table = readTable(m_path, m_layout, m_expectedRows, progress);
+    requireGoodRows();
+    if (m_table.badRowCount > 0)
+        note(QT_TRANSLATE_NOOP("ReadMessage", "%1: bad rows were left out: %2."),
+             {QStringLiteral("%1 (%2)")
+                  .arg(m_table.badRowCount)
+                  .arg(m_table.badRows.front().toString())});
+    TextDialect& dialect = m_layout.dialect;
+    if (m_table.zones.size() < 2 && dialect.zones.value_or(TextZones::Words) == TextZones::Words)
+        dialect.zones = divideByWords(m_table, m_layout) ? TextZones::Words : TextZones::One;
+    noteWords();
+    joinDatesAndTimes();
+    addRowNumbers();
+    if (m_table.zones.size() == 1)
+        return zone(0);
+    auto result = vtkSmartPointer<vtkMultiBlockDataSet>::New();
+    for (unsigned int i = 0; i < m_table.zones.size(); ++i) {
+        result->SetBlock(i, zone(i));
+        const std::string& name = m_table.zones[i].name;
+        if (!name.empty())
+            result->GetMetaData(i)->Set(vtkCompositeDataSet::NAME(), name.c_str());
+    }
+    return result;
+}
+
+std::vector<std::unique_ptr<DataFile>> openTables(const QStringList& paths,
+                                                  const TextDialect& wanted)
+{
+    std::vector<std::unique_ptr<TableFile>> tables;
+    for (const QString& path : paths)
+        tables.push_back(std::make_unique<TableFile>(path, wanted));
+    for (const auto& table : tables) {
+        const auto lender = std::find_if(tables.begin(), tables.end(), [&](const auto& other) {
+            return !table->layout().isNamed && other->layout().isNamed
+                && other->layout().columns.size() == table->layout().columns.size();
+        });
+        if (lender != tables.end())
+            table->takeNames((*lender)->layout());
+    }
+    std::vector<std::unique_ptr<DataFile>> result;
+    for (std::unique_ptr<TableFile>& table : tables)
+        result.push_back(std::move(table));
+    return result;
+}
+
+bool isTable(const QString& path)
+{
+    try {
+        const TableLayout layout = layoutOf(sampleOf(path, std::nullopt), {});
+        return !layout.columns.empty() && layout.isSure;
+    } catch (const ReadFailure&) {
+        return false;
+    }
+}
+
+} // namespace corvala::host::io::reader

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/text/text_sample.h"
+
+#include "host/io/reader/file_format.h"
+#include "host/io/reader/read_failure.h"
+#include "host/io/reader/text/text_source.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace corvala::host::io::reader {
+
+static constexpr std::int64_t kHeadBytes = 256 << 10;
+static constexpr std::int64_t kPartBytes = 64 << 10;
+static constexpr std::size_t kLeastLines = 12; ///< of the head, however long
+static constexpr std::int64_t kMostBytes = 32 << 20; ///< of any part
+
+/// Lines up to a number of bytes, but at least some.
+static std::vector<std::string> linesFrom(LineReader& reader, std::int64_t bytes,
+                                          std::size_t leastLines)
+{
+    std::vector<std::string> lines;
+    std::string_view line;
+    std::int64_t taken = 0;
+    const auto wantsMore = [&] {
+        return taken < bytes || (lines.size() < leastLines && taken < kMostBytes);
+    };
+    while (wantsMore() && reader.next(line)) {
+        taken += static_cast<std::int64_t>(line.size()) + 1;
+        lines.emplace_back(line);
+    }
+    return lines;
+}
+
+/// Lines from a place on; the first and the last may be cut and are left out.
+static std::vector<std::string> linesAt(const QString& path, TextEncoding encoding,
+                                        std::int64_t byte)
+{
+    LineReader reader(path, encoding, byte / 2 * 2);
+    std::vector<std::string> lines = linesFrom(reader, kPartBytes, 0);
+    if (!lines.empty())
+        lines.erase(lines.begin());
+    if (!lines.empty())
+        lines.pop_back();
+    return lines;
+}
+
+TextSample sampleOf(const QString& path, std::optional<TextEncoding> encoding)
+{
+    TextSample sample;
+    sample.fileBytes = QFileInfo(path).size();
+    const std::optional<TextEncoding> found = encodingOf(firstBytes(path, kHeadBytes));
+    if (!found && !encoding)
+        throw ReadFailure(path, QT_TRANSLATE_NOOP("ReadMessage", "it is no text"));
+    sample.encoding = encoding ? *encoding : *found;
+    LineReader reader(path, sample.encoding);
+    sample.parts.push_back(linesFrom(reader, kHeadBytes, kLeastLines));
+    std::int64_t headBytes = 0;
+    for (const std::string& line : sample.parts.front())
+        headBytes += static_cast<std::int64_t>(line.size()) + 1;
+    if (sample.fileBytes > 2 * (headBytes + kPartBytes)) {
+        sample.parts.push_back(linesAt(path, sample.encoding, sample.fileBytes / 2));
+        sample.parts.push_back(linesAt(path, sample.encoding, sample.fileBytes - kPartBytes));
+    }
+    sample.bytesOfLine = static_cast<double>(std::max<std::int64_t>(1, headBytes))
+        / static_cast<double>(std::max<std::size_t>(1, sample.parts.front().size()));
+    return sample;
+}
+
+} // namespace corvala::host::io::reader
