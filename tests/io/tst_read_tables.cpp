@@ -49,6 +49,8 @@ private Q_SLOTS:
         row("commas", "x,y\n1,2\n3,4\n", "", xy);
         row("semicolons and decimal commas", "x;y\n1,5;2\n-3,25;+4E1\n", "",
             "a: x=1.5,-3.25 y=2,40");
+        row("groups of digits", "x;y\n1.234,5;2\n-3,25;1.000.000\n", "",
+            "a: x=1234.5,-3.25 y=2,1000000");
         row("tabs, one or two", "1.0\t2\n3.0\t\t4\n5\t6\n", "", "a: Column 1=1,3,5 Column 2=2,4,6");
         row("tabs round empty fields", "x\ty\tz\n1\t\t2\n3\t4\t5\n", "", "a: x=1,3 y=nan,4 z=2,5");
         row("blanks", "  x   y\n 1.5   2\n10   -.5\n", "", "a: x=1.5,10 y=2,-0.5");
@@ -74,6 +76,9 @@ private Q_SLOTS:
             "a: x=1,4 x 2=2,5 Column 3=3,6");
         row("lines above the table", "Measured by Ada\n\nx,y,z\n1,2,3\n4,5,6\n", "",
             "a: x=1,4 y=2,5 z=3,6");
+        row("blanks in names", "x [m]\ty 1\n1\t2\n3\t4\n", "", "a: x [m]=1,3 y 1=2,4");
+        row("rows that have names", "x y\n1 2.5 3\n2 4.5 5\n", "",
+            "a: Column 1=1,2 x=2.5,4.5 y=3,5");
         row("header that is chosen", "1,2\n3,4\n", "header=1,data=2", "a: 1=3 2=4");
         // Times, words, missing values.
         row("dates", "day,v\n2012-01-02,1\n2012-01-03,2\n", "",
@@ -106,8 +111,8 @@ private Q_SLOTS:
         row("blank lines between all rows", "x y\n\n1.5 2\n\n3 4\n", "", "a: x=1.5,3 y=2,4");
         row("repeated headers", "x,y\n1,2\nx,y\n3,4\n5,6\n", "",
             "Block 1: x=1 y=2; Block 2: x=3,5 y=4,6");
-        row("words that divide", "at,t,v\nhome,1,5\nhome,2,6\naway,1,7\n", "",
-            "home: at=1,1 t=1,2 v=5,6; away: at=2 t=1 v=7");
+        row("words that divide", "at,t,v\nhome,1,5\nhome,2,6\naway,1,7\naway,2,8\n", "",
+            "home: at=1,1 t=1,2 v=5,6; away: at=2,2 t=1,2 v=7,8");
         row("words that tell a state", "t,v,state\n1,5,cold\n2,6,cold\n3,7,warm\n", "",
             "a: t=1,2,3 v=5,6,7 state=1,1,2");
         // What is bad, or little.
@@ -121,9 +126,14 @@ private Q_SLOTS:
         row("one column", "x\n5\n7\n", "", "a: Row=1,2 x=5,7");
         row("one row", "x,y\n1,2\n", "", "a: x=1 y=2");
         row("one number", "5", "", "a: Row=1 Column 1=5");
-        row("no rows", "# x y\n", "",
-            "it has no rows of equally many fields, so it is no table, or "
-            "one that is written in an unusual way");
+        row("no rows", "x,y,z\n", "", "there are no rows of data in it");
+        row("prose", "Once upon a time,\nthere was, I think,\na king\nwho had\none, two, three\n",
+            "",
+            "it has no rows of equally many fields, so it is no table, or one that is written in "
+            "an "
+            "unusual way");
+        row("an endless line", QByteArray("1,2,").repeated(2'000'000), "",
+            "line 1 is longer than 4 MiB, so it is no table");
         row("bytes", QByteArray("x,y\n1,2\n\0\1\2\3\0\0\0", 14).repeated(9), "", "it is no text");
         row("compressed bytes", QByteArray("\x1f\x8b\b\x01\x02\x03\x04\x05 abc").repeated(50), "",
             "it is no text");

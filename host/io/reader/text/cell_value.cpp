@@ -44,21 +44,41 @@ static bool convert(const char* begin, const char* end, double& value)
     return error == std::errc();
 }
 
-/// Other ways of writing a number: a decimal comma, exponents after D.
+/// Whether the sign stands before every third digit from the right, as in 1,234,567.
+static bool isGrouping(std::string_view whole, char sign)
+{
+    if (!whole.empty() && (whole.front() == '-' || whole.front() == '+'))
+        whole.remove_prefix(1);
+    std::size_t digits = 0;
+    bool isFirst = true;
+    for (const char character : whole) {
+        if (character == sign && (isFirst ? digits < 1 || digits > 3 : digits != 3))
+            return false;
+        if (character != sign && !isDigit(character))
+            return false;
+        isFirst = isFirst && character != sign;
+        digits = character == sign ? 0 : digits + 1;
+    }
+    return digits == 3;
+}
+
+/// Other ways of writing a number: a decimal comma, groups of digits, exponents after D.
 static bool convertUnusual(std::string_view text, TextDecimal decimal, double& value)
 {
-    std::array<char, kLongestNumber> copy {};
-    if (text.size() > copy.size())
+    const char point = decimal == TextDecimal::Comma ? ',' : '.';
+    const char group = decimal == TextDecimal::Comma ? '.' : ',';
+    if (text.empty() || text.size() > kLongestNumber || text.front() == ',' || text.back() == ',')
         return false;
-    const bool hasComma = decimal == TextDecimal::Comma;
-    const bool isCut = hasComma && !text.empty() && (text.front() == ',' || text.back() == ',');
-    if (isCut || (hasComma && text.find('.') != std::string_view::npos))
+    const bool hasGroups = text.find(group) != std::string_view::npos;
+    if (hasGroups && !isGrouping(text.substr(0, text.find(point)), group))
         return false;
-    std::transform(text.begin(), text.end(), copy.begin(), [hasComma](char character) {
+    std::string plain;
+    for (const char character : text) {
         const bool isExponent = character == 'd' || character == 'D';
-        return isExponent ? 'e' : hasComma && character == ',' ? '.' : character;
-    });
-    return convert(copy.data(), copy.data() + text.size(), value);
+        if (character != group)
+            plain += isExponent ? 'e' : character == point ? '.' : character;
+    }
+    return convert(plain.data(), plain.data() + plain.size(), value);
 }
 
 bool toNumber(std::string_view text, TextDecimal decimal, double& value)
@@ -164,7 +184,7 @@ std::array<int, 3> placesOf(const std::array<DatePart, 3>& parts, TextDates orde
         return {2, 0, 1};
     if (parts[1].digits == 0)
         return {2, 1, 0};
-    if (order == TextDates::Year && parts[2].digits <= 2)
+    if (order == TextDates::Year)
         return {0, 1, 2};
     return order == TextDates::Month ? std::array<int, 3> {2, 0, 1} : std::array<int, 3> {2, 1, 0};
 }
@@ -190,7 +210,8 @@ bool takeDate(Scanner& text, TextDates order, double& seconds)
     const QDate date(year, parts[static_cast<std::size_t>(places[1])].value,
                      parts[static_cast<std::size_t>(places[2])].value);
     seconds = kSecondsOfDay * static_cast<double>(date.toJulianDay() - kJulianDayOf1970);
-    return date.isValid() && yearPart.digits > 0;
+    const bool hasTwoYears = places[0] == 0 && parts[2].digits > 2;
+    return date.isValid() && yearPart.digits > 0 && !hasTwoYears;
 }
 
 /// Hours, minutes and, where they are given, seconds.
@@ -265,7 +286,7 @@ static constexpr std::string_view kMissing[] = {
 
 CellReader::CellReader(const TextDialect& dialect)
     : m_decimal(dialect.decimal.value_or(TextDecimal::Point))
-    , m_dates(dialect.dates.value_or(TextDates::Year))
+    , m_dates(dialect.dates)
 {
     const QString words = QString::fromStdString(dialect.missing.value_or(std::string()));
     for (const QString& word : words.split(QLatin1Char(' '), Qt::SkipEmptyParts))
@@ -289,6 +310,15 @@ bool CellReader::isMissing(double value) const
         != m_missingNumbers.end();
 }
 
+CellValue CellReader::instantIn(std::string_view field) const
+{
+    CellValue cell;
+    for (const TextDates order : {TextDates::Year, TextDates::Day, TextDates::Month})
+        if (cell.kind == CellKind::Words && m_dates.value_or(order) == order)
+            cell = toInstant(field, order, m_decimal);
+    return cell;
+}
+
 CellValue CellReader::read(std::string_view field) const
 {
     if (isMissing(field))
@@ -296,7 +326,7 @@ CellValue CellReader::read(std::string_view field) const
     double value = 0.0;
     if (toNumber(field, m_decimal, value))
         return {isMissing(value) ? CellKind::Missing : CellKind::Number, value};
-    return toInstant(field, m_dates, m_decimal);
+    return instantIn(field);
 }
 
 bool CellReader::read(std::string_view field, CellKind kind, double& value) const
@@ -309,7 +339,7 @@ bool CellReader::read(std::string_view field, CellKind kind, double& value) cons
     }
     if (kind == CellKind::Number)
         return isNumber;
-    const CellValue cell = toInstant(field, m_dates, m_decimal);
+    const CellValue cell = instantIn(field);
     value = cell.value;
     return cell.kind == kind;
 }

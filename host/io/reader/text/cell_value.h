@@ -41,9 +41,10 @@ public:
 
 private:
     bool isMissing(double value) const;
+    CellValue instantIn(std::string_view field) const;
 
     TextDecimal m_decimal;
-    TextDates m_dates;
+    std::optional<TextDates> m_dates; ///< none: any order
     std::vector<std::string> m_missing;
     std::vector<double> m_missingNumbers;
 };

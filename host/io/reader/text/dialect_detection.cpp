@@ -12,7 +12,7 @@ namespace corvala::host::io::reader {
 static constexpr std::size_t kMostLines = 200; ///< of each part that are tried
 static constexpr std::size_t kMostFields = 50'000; ///< that are tried in all
 static constexpr double kSure = 0.25; ///< least score of a table without doubt
-static constexpr double kRival = 0.7; ///< of the score, that another way must not reach
+static constexpr double kRival = 0.55; ///< of the score, that another way must not reach
 
 namespace {
 
@@ -34,7 +34,7 @@ struct Reading
 
 } // namespace
 
-/// The mark with which most lines of the beginning start, but not all.
+/// The mark with which most lines of the beginning start.
 static TextComment commentOf(const std::vector<std::string>& lines)
 {
     TextComment best = TextComment::None;
@@ -45,7 +45,7 @@ static TextComment commentOf(const std::vector<std::string>& lines)
             std::count_if(lines.begin(), lines.end(), [comment](const std::string& line) {
                 return commentIn(line, comment).has_value();
             });
-        if (count > most && count < static_cast<std::ptrdiff_t>(lines.size())) {
+        if (count > most) {
             best = comment;
             most = count;
         }
@@ -101,17 +101,11 @@ static std::vector<Row> rowsOf(const Trial& trial, const RowSplitter& splitter)
     return rows;
 }
 
-/// Whether the first row, or the comment before it, names the columns.
-static bool hasHeader(const Trial& trial, const RowSplitter& splitter, const CellReader& cells,
-                      const Row& first)
+static bool areWords(const Row& row, const CellReader& cells)
 {
-    Row comment;
-    splitter.split(trial.lastComment, comment);
-    const auto isWords = [&](std::string_view field) {
+    return std::all_of(row.fields.begin(), row.fields.end(), [&](std::string_view field) {
         return cells.read(field).kind == CellKind::Words;
-    };
-    return comment.fields.size() == first.fields.size()
-        || std::all_of(first.fields.begin(), first.fields.end(), isWords);
+    });
 }
 
 static Reading readingOf(const Trial& trial, const TextDialect& dialect)
@@ -126,13 +120,17 @@ static Reading readingOf(const Trial& trial, const TextDialect& dialect)
     const auto first = std::find_if(rows.begin(), rows.end(), isUsual);
     if (first == rows.end())
         return reading;
+    Row comment;
+    splitter.split(trial.lastComment, comment);
+    const bool isHeader = areWords(*first, cells);
+    const bool hasHeader = isHeader || comment.fields.size() == reading.columns;
     double usual = 0;
     double numbers = 0;
     double fields = 0;
     for (auto row = first; row != rows.end(); ++row) {
-        if (!isUsual(*row))
+        usual += isUsual(*row) ? 1 : 0;
+        if (!isUsual(*row) || (row == first && isHeader && reading.columns > 1))
             continue;
-        ++usual;
         for (const std::string_view field : row->fields) {
             const CellKind kind = cells.read(field).kind;
             fields += kind == CellKind::Missing ? 0 : 1;
@@ -142,15 +140,16 @@ static Reading readingOf(const Trial& trial, const TextDialect& dialect)
     const double consistency = usual / static_cast<double>(rows.end() - first);
     const auto columns = static_cast<double>(reading.columns);
     reading.numberShare = fields > 0 ? numbers / fields : 0;
-    reading.score = consistency * consistency * (1 - 1 / (columns + 1));
+    reading.score = consistency * (1 - 1 / (columns + 1));
     if (reading.columns > 1) {
         constexpr double kColon = 0.6; // which also stands inside of words and times
         constexpr double kHeader = 1.2;
         reading.score *= 0.3 + 0.7 * reading.numberShare;
         reading.score *= dialect.separator == TextSeparator::Colon ? kColon : 1;
-        reading.score *= hasHeader(trial, splitter, cells, *first) ? kHeader : 1;
+        reading.score *= hasHeader ? kHeader : 1;
     } else {
-        reading.score *= reading.numberShare;
+        constexpr double kOne = 0.8; // which all lines have
+        reading.score *= kOne * reading.numberShare;
     }
     return reading;
 }

@@ -199,7 +199,10 @@ std::optional<std::size_t> divideByWords(TableData& table, const TableLayout& la
         if (columns[c].kind != CellKind::Words || words.isDropped)
             continue;
         const std::vector<std::size_t> changes = changesOf(words.numbers);
-        const bool isGroup = !changes.empty()
+        constexpr std::size_t kLeastRows = 2; // of a group, on average
+        const bool areGroups =
+            !changes.empty() && kLeastRows * (changes.size() + 1) <= table.rowCount;
+        const bool isGroup = areGroups
             && (layout.dialect.zones == TextZones::Words
                 || std::any_of(columns.begin(), columns.end(), [&](const TableColumn& column) {
                        const auto& values =

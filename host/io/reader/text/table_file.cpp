@@ -21,7 +21,8 @@
 
 namespace corvala::host::io::reader {
 
-static constexpr double kLeastScore = 0.02; ///< of anything that can be a table
+static constexpr double kLeastScore = 0.06; ///< of anything that can be a table
+static constexpr std::size_t kMostTableColumns = 100'000;
 static constexpr double kSecondsOfDay = 86'400;
 static constexpr std::size_t kMostListed = 12; ///< words of a column in a note
 static constexpr int kMostColumns = 5; ///< in a note
@@ -46,6 +47,7 @@ public:
     void takeNames(const TableLayout& other);
 
 private:
+    ReadFailure noTable() const;
     void requireGoodRows() const;
     void joinDatesAndTimes();
     void addRowNumbers();
@@ -54,6 +56,7 @@ private:
     vtkSmartPointer<vtkImageData> zone(std::size_t number);
 
     QString m_path;
+    bool m_isChosen; ///< by the user: how it is written
     TableLayout m_layout;
     double m_expectedRows;
     TableData m_table; ///< whose memory the zones use
@@ -62,15 +65,17 @@ private:
 
 TableFile::TableFile(const QString& path, const TextDialect& wanted)
     : m_path(path)
+    , m_isChosen(wanted.separator.has_value())
 {
     const TextSample sample = sampleOf(path, wanted.encoding);
     m_layout = layoutOf(sample, wanted);
     m_expectedRows = static_cast<double>(sample.fileBytes) / sample.bytesOfLine;
-    if (m_layout.columns.empty() || (m_layout.score < kLeastScore && !wanted.separator))
-        throw ReadFailure(path,
-                          QT_TRANSLATE_NOOP("ReadMessage",
-                                            "it has no rows of equally many fields, so it is no "
-                                            "table, or one that is written in an unusual way"));
+    if (m_layout.columns.empty() || (m_layout.score < kLeastScore && !m_isChosen))
+        throw noTable();
+    if (m_layout.columns.size() > kMostTableColumns)
+        throw ReadFailure(
+            path, QT_TRANSLATE_NOOP("ReadMessage", "it has %1 columns, which are more than %2"),
+            {QString::number(m_layout.columns.size()), QString::number(kMostTableColumns)});
     if (!m_layout.isSure && toText(wanted).isEmpty())
         note(QT_TRANSLATE_NOOP("ReadMessage",
                                "%1 can be meant in several ways; it was read as: %2."),
@@ -96,13 +101,27 @@ void TableFile::takeNames(const TableLayout& other)
         m_layout.columns[c].name = other.columns[c].name;
 }
 
+ReadFailure TableFile::noTable() const
+{
+    return {m_path,
+            QT_TRANSLATE_NOOP("ReadMessage",
+                              "it has no rows of equally many fields, so it is no table, or one "
+                              "that is written in an unusual way")};
+}
+
 /// Nothing is handed over while rows are bad, unless that is wanted.
 void TableFile::requireGoodRows() const
 {
     const std::int64_t bad = m_table.badRowCount;
-    if (m_table.rowCount == 0 && bad == 0)
+    const bool isHeader = m_table.rowCount == 1 && bad == 0 && !m_layout.isNamed
+        && m_layout.linesLeftOut == 0
+        && std::all_of(m_layout.columns.begin(), m_layout.columns.end(),
+                       [](const TableColumn& column) { return column.kind == CellKind::Words; });
+    if (isHeader || (m_table.rowCount == 0 && bad == 0))
         throw ReadFailure(m_path,
                           QT_TRANSLATE_NOOP("ReadMessage", "there are no rows of data in it"));
+    if (bad > static_cast<std::int64_t>(m_table.rowCount) && !m_isChosen)
+        throw noTable();
     const bool mayBeSkipped = m_table.rowCount > 0;
     if (bad == 0 || (mayBeSkipped && m_layout.dialect.badRows == TextBadRows::Skip))
         return;

@@ -22,7 +22,8 @@ struct HeaderLine
 {
     std::string_view text; ///< without the mark of a comment
     bool isComment;
-    Names names; ///< of the columns; empty for a line that does not fit them
+    Names names {}; ///< of the columns; empty for a line that does not fit them
+    bool isNumbered = false; ///< a word, and then numbers
 };
 
 /// Cuts header lines into the names of columns.
@@ -39,16 +40,16 @@ public:
     }
 
     HeaderLine read(std::string_view line) const;
-    bool isWord(const std::string& field) const
-    {
-        return m_cells.read(field).kind == CellKind::Words;
-    }
     std::size_t fieldCount(const HeaderLine& line) const
     {
         return fieldsOf(line.text, *m_dialect.separator).size();
     }
 
 private:
+    bool isWord(const std::string& field) const
+    {
+        return m_cells.read(field).kind == CellKind::Words;
+    }
     Names fieldsOf(std::string_view text, TextSeparator separator) const;
     Names fitted(Names fields) const;
 
@@ -107,14 +108,22 @@ Names HeaderReader::fitted(Names fields) const
 HeaderLine HeaderReader::read(std::string_view line) const
 {
     const std::optional<std::string_view> comment = commentIn(line, *m_dialect.comment);
-    HeaderLine result {comment ? *comment : trimmed(line), comment.has_value(), {}};
-    result.names = fitted(fieldsOf(result.text, *m_dialect.separator));
+    HeaderLine result {comment ? *comment : trimmed(line), comment.has_value()};
+    const Names fields = fieldsOf(result.text, *m_dialect.separator);
+    result.names = fitted(fields);
+    // Some leave the column of the rows' names without one.
+    if (result.names.empty() && !comment && m_columns > 2 && fields.size() + 1 == m_columns) {
+        result.names = fields;
+        result.names.insert(result.names.begin(), std::string());
+    }
     // Comments list the columns by commas, whatever separates these.
     if (result.names.empty() && comment)
         result.names = fitted(fieldsOf(result.text, TextSeparator::Comma));
-    const auto hasWord = [this](const std::string& name) { return isWord(name); };
-    if (std::none_of(result.names.begin(), result.names.end(), hasWord))
+    const auto words = std::count_if(fields.begin(), fields.end(),
+                                     [this](const std::string& name) { return isWord(name); });
+    if (words == 0 && !m_dialect.headerRows)
         result.names.clear();
+    result.isNumbered = words == 1 && fields.size() > 1 && isWord(fields.front());
     return result;
 }
 
@@ -152,13 +161,8 @@ static std::string stripped(std::string unit)
 }
 
 /// A row such as "Probe 0 1 2" over one that names the first column numbers the others.
-static Names numbered(const Names& row, const HeaderReader& reader)
+static Names numbered(const Names& row)
 {
-    const bool isLabel = row.size() > 1 && reader.isWord(row.front())
-        && std::none_of(row.begin() + 1, row.end(),
-                        [&](const auto& n) { return reader.isWord(n); });
-    if (!isLabel)
-        return row;
     Names result {{}};
     for (std::size_t i = 1; i < row.size(); ++i)
         result.push_back(row.front() + ' ' + row[i]);
@@ -166,12 +170,10 @@ static Names numbered(const Names& row, const HeaderReader& reader)
 }
 
 /// Rows of a header from the top down become one name per column.
-static Names joined(const std::vector<Names>& rows, bool hasUnits, const HeaderReader& reader)
+static Names joined(const std::vector<Names>& rows, bool hasUnits, bool isNumbered)
 {
-    Names names = rows.front();
     const std::size_t named = rows.size() - (hasUnits ? 1 : 0);
-    if (named > 1)
-        names = numbered(names, reader);
+    Names names = isNumbered && named > 1 ? numbered(rows.front()) : rows.front();
     for (std::size_t i = 1; i < named; ++i)
         for (std::size_t c = 0; c < names.size() && c < rows[i].size(); ++c)
             if (!rows[i][c].empty() && rows[i][c] != names[c])
@@ -258,7 +260,7 @@ TableHeader headerOf(const std::vector<std::string>& linesAbove, const std::stri
     if (last > 0)
         header.hasUnits =
             dialect.units ? *dialect.units == TextUnits::Yes : areUnits(rows[last], rows[last - 1]);
-    header.names = joined(rows, header.hasUnits, reader);
+    header.names = joined(rows, header.hasUnits, lines.back().isNumbered);
     return header;
 }
 

@@ -61,7 +61,7 @@ static CellKind kindOf(const std::vector<SampleRow>& rows, std::size_t firstRow,
     for (std::size_t kind = 1; kind < counts.size(); ++kind)
         known += counts[kind];
     if (known == 0)
-        return firstRow > 0 ? kindOf(rows, 0, column) : CellKind::Number;
+        return firstRow > 1 ? kindOf(rows, 1, column) : CellKind::Number;
     for (const CellKind kind : {CellKind::Number, CellKind::Instant, CellKind::TimeOfDay})
         if (counts[static_cast<std::size_t>(kind)] >= kMost * known)
             return kind;
@@ -82,9 +82,19 @@ static bool looksLikeHeader(const SampleRow& row, const std::vector<CellKind>& k
     return known > 0 && 2 * words >= known;
 }
 
+static bool areWords(const SampleRow& row)
+{
+    return std::all_of(row.kinds.begin(), row.kinds.end(), [](CellKind kind) {
+        return kind == CellKind::Words || kind == CellKind::Missing;
+    });
+}
+
+/// By the rows below those of words, which may be a header.
 static std::vector<CellKind> kindsOf(const std::vector<SampleRow>& rows, std::size_t columns)
 {
-    const std::size_t first = std::min(kMostHeaders, rows.size() - 1);
+    std::size_t first = 0;
+    while (first < std::min(kMostHeaders, rows.size() - 1) && areWords(rows[first]))
+        ++first;
     std::vector<CellKind> kinds;
     for (std::size_t c = 0; c < columns; ++c)
         kinds.push_back(kindOf(rows, first, c));

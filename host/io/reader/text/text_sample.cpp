@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <string_view>
 
 namespace corvala::host::io::reader {
 
@@ -31,6 +32,37 @@ static std::vector<std::string> linesFrom(LineReader& reader, std::int64_t bytes
         lines.emplace_back(line);
     }
     return lines;
+}
+
+/// Whether the last quote of a line begins a field, so that the field may go on in the next line.
+static bool opensQuote(const std::string& line)
+{
+    const auto quotes = std::count(line.begin(), line.end(), '"');
+    const std::size_t last = line.rfind('"');
+    return quotes % 2 == 1
+        && (last == 0 || std::string_view(",;\t |:").find(line[last - 1]) != std::string::npos);
+}
+
+/// Puts rows of several lines into their first line, and leaves the others blank.
+static void joinQuoted(std::vector<std::string>& lines)
+{
+    constexpr std::size_t kMostJoined = 20;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (!opensQuote(lines[i]))
+            continue;
+        const auto first = lines.begin() + static_cast<std::ptrdiff_t>(i) + 1;
+        const auto end =
+            first + static_cast<std::ptrdiff_t>(std::min(kMostJoined, lines.size() - i - 1));
+        const auto closing = std::find_if(first, end, [](const std::string& line) {
+            return std::count(line.begin(), line.end(), '"') % 2 == 1;
+        });
+        if (closing == end)
+            continue;
+        for (auto line = first; line != closing + 1; ++line) {
+            lines[i] += '\n' + *line;
+            line->clear();
+        }
+    }
 }
 
 /// Lines from a place on; the first and the last may be cut and are left out.
@@ -63,6 +95,12 @@ TextSample sampleOf(const QString& path, std::optional<TextEncoding> encoding)
         sample.parts.push_back(linesAt(path, sample.encoding, sample.fileBytes / 2));
         sample.parts.push_back(linesAt(path, sample.encoding, sample.fileBytes - kPartBytes));
     }
+    for (std::vector<std::string>& part : sample.parts)
+        joinQuoted(part);
+    // Spreadsheets may say in the first line which separator they write.
+    std::string* const first = sample.parts.front().empty() ? nullptr : &sample.parts.front()[0];
+    if (first && first->size() == 5 && first->compare(0, 4, "sep=") == 0)
+        first->clear();
     sample.bytesOfLine = static_cast<double>(std::max<std::int64_t>(1, headBytes))
         / static_cast<double>(std::max<std::size_t>(1, sample.parts.front().size()));
     return sample;

@@ -131,7 +131,7 @@ bool LineReader::refill()
     m_heldPosition = 0;
     const QByteArray bytes = m_file.read(kPartBytes);
     m_decoder.decode(bytes.constData(), static_cast<std::size_t>(bytes.size()), m_text);
-    if (m_text.size() > kLongestLine)
+    if (m_text.size() - m_position > kLongestLine + kPartBytes)
         throw ReadFailure(
             m_file.fileName(),
             QT_TRANSLATE_NOOP("ReadMessage", "line %1 is longer than %2 MiB, so it is no table"),

@@ -39,7 +39,7 @@ private:
 class LineReader
 {
 public:
-    static constexpr std::size_t kLongestLine = std::size_t(256) << 20;
+    static constexpr std::size_t kLongestLine = std::size_t(4) << 20; ///< bytes
 
     /// Begins at a byte, which must be even for UTF-16. Throws ReadFailure when the file cannot be
     /// opened.
