@@ -103,7 +103,11 @@ void DataCommands::askForDialect(const host::io::TextPreview& preview)
 {
     auto* dialog = new TextImportDialog(m_opener.request(), preview, &m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] { open(dialog->request()); });
+    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+        host::io::ReadRequest request = dialog->request();
+        request.purpose = host::io::ReadPurpose::Data;
+        m_opener.start(request);
+    });
     dialog->open();
 }
 

@@ -29,6 +29,9 @@
 #include <QSet>
 #include <QSignalSpy>
 #include <QSlider>
+#include <QSpinBox>
+#include <QTableWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 #include <QTimer>
@@ -473,6 +476,43 @@ private Q_SLOTS:
         QCOMPARE(recentFiles().mid(0, 2),
                  (QList<QStringList> {{sample("combustor_plot3d/multi-bin.xyz")}, {"/a"}}));
         QCOMPARE(recentFiles().count({"/a"}), 1);
+    }
+
+    /// A table that can be meant in several ways, with a row that is bad in the way chosen.
+    void asksHowTablesAreWritten()
+    {
+        QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("a.csv")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray("1,2\n3,4\n").repeated(15) + "five,6\n");
+        file.close();
+        QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
+        m_window->openFiles({file.fileName()});
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog && !frame().hasData());
+        auto* header = dialog->findChild<QSpinBox*>(QStringLiteral("header"));
+        auto* preview = dialog->findChild<QTableWidget*>();
+        QVERIFY(header && preview);
+        QCOMPARE(header->text(), QStringLiteral("detected: 0"));
+        QCOMPARE(preview->rowCount(), 31);
+        QCOMPARE(preview->item(1, 1)->text(), QStringLiteral("4"));
+        QCOMPARE(preview->verticalHeaderItem(30)->text(), QStringLiteral("31 bad"));
+        dialog->findChild<QSpinBox*>(QStringLiteral("data"))->setValue(2);
+        header->setValue(1);
+        QTRY_VERIFY(preview->horizontalHeaderItem(1)->text().startsWith(QLatin1String("2\n")));
+        dialog->accept();
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 2, 60000);
+        QTRY_VERIFY(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
+        auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY2(question->informativeText().contains(QLatin1String("line 31, column 1 (1): ")),
+                 qPrintable(question->informativeText()));
+        question->buttons().value(0)->click();
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 3, 60000);
+        QVERIFY(frame().hasData());
+        QCOMPARE(int(frame().plotType()), int(PlotType_LineXY));
+        QCOMPARE(int(frame().data()->zone(1).pointCount), 29);
+        QVERIFY(button("Change..."));
     }
 
 private:

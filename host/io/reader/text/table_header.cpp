@@ -23,6 +23,7 @@ struct HeaderLine
     std::string_view text; ///< without the mark of a comment
     bool isComment;
     Names names {}; ///< of the columns; empty for a line that does not fit them
+    bool hasWords = false;
     bool isNumbered = false; ///< a word, and then numbers
 };
 
@@ -123,6 +124,7 @@ HeaderLine HeaderReader::read(std::string_view line) const
                                      [this](const std::string& name) { return isWord(name); });
     if (words == 0 && !m_dialect.headerRows)
         result.names.clear();
+    result.hasWords = words > 0;
     result.isNumbered = words == 1 && fields.size() > 1 && isWord(fields.front());
     return result;
 }
@@ -253,8 +255,10 @@ TableHeader headerOf(const std::vector<std::string>& linesAbove, const std::stri
     header.rows = static_cast<int>(lines.size());
     if (lines.empty())
         return header;
-    for (const std::string_view line : nearestLines(linesAbove, lines.size()))
-        header.lines.emplace_back(line);
+    const std::vector<std::string_view> texts = nearestLines(linesAbove, lines.size());
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        if (lines[i].hasWords)
+            header.lines.emplace_back(texts[i]);
     const std::vector<Names> rows = rowsOf(lines, columns);
     const std::size_t last = rows.size() - 1;
     if (last > 0)

@@ -14,7 +14,7 @@ struct TableHeader
     int rows = 0; ///< that name the columns, with the units
     bool hasUnits = false;
     std::vector<std::string> names; ///< of the columns; empty without header
-    std::vector<std::string> lines; ///< as they stand in the file, without blanks around
+    std::vector<std::string> lines; ///< those with words, as they stand in the file
 };
 
 /// Looks for the header in the lines above the data; the dialect tells of what is known, and which

@@ -143,8 +143,8 @@ static TextSample withoutLinesAbove(TextSample sample, int dataLine)
 }
 
 /// Without columns at the end that have neither name nor value.
-static void dropEmptyColumns(std::size_t& columns, const std::vector<SampleRow>& rows,
-                             const TableHeader& header)
+static std::size_t columnCount(std::size_t columns, const std::vector<SampleRow>& rows,
+                               const TableHeader& header)
 {
     const auto isEmpty = [&](std::size_t column) {
         const bool hasName = column < header.names.size() && !header.names[column].empty();
@@ -154,19 +154,22 @@ static void dropEmptyColumns(std::size_t& columns, const std::vector<SampleRow>&
     };
     while (columns > 1 && isEmpty(columns - 1))
         --columns;
+    return columns;
 }
 
-static int linesLeftOut(const std::vector<std::string>& head, std::size_t firstLine,
-                        const TableHeader& header, const TextDialect& dialect)
+/// Sorts the lines above the data: those of the header, and others that are neither blank nor
+/// comments.
+static void sortLinesAbove(const std::vector<std::string>& head, std::size_t firstLine,
+                           int headerRows, TableLayout& layout)
 {
-    int lines = 0;
-    for (std::size_t i = 0; i < firstLine; ++i) {
-        const std::string_view line = trimmed(head[i]);
-        const bool isHeader =
-            std::find(header.lines.begin(), header.lines.end(), line) != header.lines.end();
-        lines += line.empty() || isHeader || commentIn(line, *dialect.comment) ? 0 : 1;
+    for (std::size_t i = firstLine; i-- > 0;) {
+        if (trimmed(head[i]).empty())
+            continue;
+        if (static_cast<int>(layout.headerLines.size()) < headerRows)
+            layout.headerLines.push_back(static_cast<std::int64_t>(i) + 1);
+        else if (!commentIn(head[i], *layout.dialect.comment))
+            ++layout.linesLeftOut;
     }
-    return lines;
 }
 
 TableLayout layoutOf(const TextSample& sample, const TextDialect& wanted)
@@ -175,8 +178,10 @@ TableLayout layoutOf(const TextSample& sample, const TextDialect& wanted)
     const int knownLine = std::max(1, wanted.dataLine.value_or(1));
     const TextSample data = withoutLinesAbove(sample, knownLine);
     const DetectedFields fields = detectFields(data, wanted);
-    TableLayout layout {
-        completed(wanted, fields.dialect), {}, false, {}, 0, fields.isSure, fields.score};
+    TableLayout layout;
+    layout.dialect = completed(wanted, fields.dialect);
+    layout.isSure = fields.isSure;
+    layout.score = fields.score;
     TextDialect& dialect = layout.dialect;
     dialect.encoding = sample.encoding;
     dialect.badRows = wanted.badRows.value_or(TextBadRows::Refuse);
@@ -197,9 +202,8 @@ TableLayout layoutOf(const TextSample& sample, const TextDialect& wanted)
         dialect.dates = wanted.dates;
     layout.header = header.lines;
     layout.isNamed = !header.names.empty();
-    layout.linesLeftOut = linesLeftOut(head, first, header, dialect);
-    std::size_t columns = fields.columns;
-    dropEmptyColumns(columns, rows, header);
+    sortLinesAbove(head, first, header.rows, layout);
+    const std::size_t columns = columnCount(fields.columns, rows, header);
     const std::vector<std::string> names = columnNames(header.names, columns);
     for (std::size_t c = 0; c < columns; ++c)
         layout.columns.push_back({names[c], kinds[c]});

@@ -22,6 +22,7 @@ struct TableLayout
     TextDialect dialect;
     std::vector<TableColumn> columns; ///< empty when nothing looks like a table
     bool isNamed = false; ///< by the file
+    std::vector<std::int64_t> headerLines; ///< numbers of the lines above the data, from 1
     std::vector<std::string> header; ///< lines that begin another zone when they are repeated
     int linesLeftOut = 0; ///< above the header, besides comments
     bool isSure = false; ///< nothing but what was found comes into question

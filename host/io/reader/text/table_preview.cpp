@@ -21,6 +21,12 @@ static std::vector<std::string> shownFields(const Row& row)
     return fields;
 }
 
+template<class Values, class Value>
+static bool contains(const Values& values, const Value& value)
+{
+    return std::find(values.begin(), values.end(), value) != values.end();
+}
+
 static void addRows(const QString& path, const TableLayout& layout, TextPreview& preview)
 {
     LineReader lines(path, *layout.dialect.encoding);
@@ -37,15 +43,15 @@ static void addRows(const QString& path, const TableLayout& layout, TextPreview&
             continue;
         TextPreview::Row& shown = preview.rows.emplace_back();
         shown.line = line.number;
-        const bool isHeader =
-            std::find(layout.header.begin(), layout.header.end(), line.text) != layout.header.end();
+        const bool isHeader = contains(layout.headerLines, line.number)
+            || (isData && contains(layout.header, line.text));
         shown.role = isHeader ? TextPreview::Role::Header
             : isData          ? TextPreview::Role::Data
                               : TextPreview::Role::Above;
         if (isData && !isHeader && !layout.columns.empty()
             && parser.parse(row, values).kind != RowFault::None)
             shown.role = TextPreview::Role::Bad;
-        if (isData)
+        if (isData && !isHeader)
             shown.fields = shownFields(row);
         else
             shown.fields = {cleanName(std::string(line.text.substr(0, kMostBytes)).c_str(), {})};
