@@ -19,8 +19,7 @@ static void addSeed(double x, double y, double z)
     const host::Frame* const frame = Document::instance().activeFrame();
     if (!frame)
         return;
-    const host::Schema& schema = host::Schema::instance();
-    const auto& points = std::get<std::string>(frame->values().get(schema.at(streams.points)));
+    const auto& points = frame->text(streams.points);
     QStringList numbers =
         QString::fromStdString(points).simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
     auto place = static_cast<int>(plot::pointsIn(points).size()); // before what is no point

@@ -34,9 +34,7 @@ static bool hasContourVariable(const Frame& frame, CvlInt64 map)
 static bool hasVector(const Frame& frame)
 {
     const bool isInSpace = frame.plotType() == PlotType_Field3D;
-    const auto isSet = [&](style::VariableKey key) {
-        return frame.values().integer(Schema::instance().at(key)) > 0;
-    };
+    const auto isSet = [&](style::VariableKey key) { return frame.integer(key) > 0; };
     return isSet(style::globalVector.uVar) || isSet(style::globalVector.vVar)
         || (isInSpace && isSet(style::globalVector.wVar));
 }

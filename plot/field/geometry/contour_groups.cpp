@@ -90,8 +90,7 @@ public:
             return coordinateOf(m_frame, m_group - ContourGroups::kPlace);
         CvlInt64 variable = integer(variableKey());
         if (m_group == ContourGroups::kIso && variable == 0)
-            variable =
-                m_frame.values().integer(host::Schema::instance().at(style::contourGroups.var), 1);
+            variable = m_frame.integer(style::contourGroups.var, 1);
         return m_frame.data() && m_frame.data()->hasVariable(variable) ? variable : 0;
     }
     /// Ends that span nothing are not in force.
@@ -127,19 +126,9 @@ private:
             style::globalVector.vVar, style::globalVector.wVar};
         return isContour() ? style::contourGroups.var : kOthers[m_group - ContourGroups::kRed];
     }
-    std::int32_t integer(host::AttributeId id) const
-    {
-        return m_frame.values().integer(host::Schema::instance().at(id), m_group);
-    }
-    double real(host::AttributeId id) const
-    {
-        return m_frame.values().real(host::Schema::instance().at(id), m_group);
-    }
-    const std::string& text(style::TextKey key) const
-    {
-        return std::get<std::string>(
-            m_frame.values().get(host::Schema::instance().at(key), m_group));
-    }
+    std::int32_t integer(style::Key key) const { return m_frame.integer(key, m_group); }
+    double real(style::RealKey key) const { return m_frame.real(key, m_group); }
+    const std::string& text(style::TextKey key) const { return m_frame.text(key, m_group); }
 
     const host::Frame& m_frame;
     int m_group;
@@ -169,9 +158,8 @@ void ContourGroups::takeStyle(const host::Frame& frame)
         }
     }
     constexpr const auto& kVectors = style::globalVector;
-    m_chosenLengthOfOne = frame.isOn(kVectors.automaticLength)
-        ? 0.0
-        : frame.values().real(host::Schema::instance().at(kVectors.lengthOfOne));
+    m_chosenLengthOfOne =
+        frame.isOn(kVectors.automaticLength) ? 0.0 : frame.real(kVectors.lengthOfOne);
 }
 
 void ContourGroups::clear()

@@ -449,9 +449,8 @@ std::array<double, 3> FieldScene::lightDirection() const
 {
     const host::Frame* const drawn = frame();
     const auto angle = [drawn](style::RealKey key) {
-        return vtkMath::RadiansFromDegrees(
-            drawn ? drawn->values().real(host::Schema::instance().at(key))
-                  : style::entryOf(key).defaultNumber);
+        return vtkMath::RadiansFromDegrees(drawn ? drawn->real(key)
+                                                 : style::entryOf(key).defaultNumber);
     };
     const double right = angle(style::lightSource.azimuth);
     const double up = angle(style::lightSource.elevation);
@@ -467,12 +466,9 @@ static QString shownName(const host::Frame& drawn, CvlInt64 variable)
 static std::optional<QString> legendTitle(const host::Frame& drawn, int group, CvlInt64 variable)
 {
     constexpr const auto& kGroup = style::contourGroups;
-    const host::Schema& schema = host::Schema::instance();
-    if (!drawn.data()->hasVariable(variable)
-        || drawn.values().integer(schema.at(kGroup.showLegend), group) == 0)
+    if (!drawn.data()->hasVariable(variable) || drawn.integer(kGroup.showLegend, group) == 0)
         return std::nullopt;
-    const auto& title =
-        std::get<std::string>(drawn.values().get(schema.at(kGroup.legendTitle), group));
+    const auto& title = drawn.text(kGroup.legendTitle, group);
     return title.empty() ? shownName(drawn, variable) : QString::fromStdString(title);
 }
 
@@ -480,11 +476,10 @@ static std::optional<QString> legendTitle(const host::Frame& drawn, int group, C
 static std::optional<std::array<double, 2>> legendPlace(const host::Frame& drawn, int group)
 {
     constexpr const auto& kGroup = style::contourGroups;
-    const host::Schema& schema = host::Schema::instance();
-    if (drawn.values().integer(schema.at(kGroup.automaticLegend), group) != 0)
+    if (drawn.integer(kGroup.automaticLegend, group) != 0)
         return std::nullopt;
-    return std::array<double, 2> {drawn.values().real(schema.at(kGroup.legendX), group) / 100.0,
-                                  drawn.values().real(schema.at(kGroup.legendY), group) / 100.0};
+    return std::array<double, 2> {drawn.real(kGroup.legendX, group) / 100.0,
+                                  drawn.real(kGroup.legendY, group) / 100.0};
 }
 
 std::vector<FieldLegend> FieldScene::legends() const
@@ -539,9 +534,7 @@ std::optional<VectorKey> FieldScene::vectorKey() const
         || drawn->isOn(style::globalVector.isUniform) || !vectors.isVisible()
         || !vectors.hasGeometry())
         return std::nullopt;
-    const auto real = [&](style::RealKey key) {
-        return drawn->values().real(host::Schema::instance().at(key));
-    };
+    const auto real = [&](style::RealKey key) { return drawn->real(key); };
     return VectorKey {vectorTitle(*drawn, m_groups), arrowScale(*drawn, m_groups),
                       real(style::globalVector.referenceMagnitude),
                       real(style::globalVector.headSize) / 100.0,

@@ -313,13 +313,13 @@ double arrowScale(const host::Frame& frame, const ContourGroups& groups)
     const VectorScale scale = groups.vectorScale();
     const bool isUniform = frame.isOn(style::globalVector.isUniform);
     return (isUniform ? scale.length : scale.lengthOfOne)
-        * frame.values().real(host::Schema::instance().at(style::globalVector.relativeLength));
+        * frame.real(style::globalVector.relativeLength);
 }
 
 bool isLayerOn(const host::Frame& frame, FieldLayer layer)
 {
     const SceneLayer& it = layerAt(static_cast<std::size_t>(layer));
-    return frame.values().integer(host::Schema::instance().at(it.shown), it.index) != 0;
+    return frame.integer(it.shown, it.index) != 0;
 }
 
 QString layerName(FieldLayer layer)

@@ -12,20 +12,20 @@ static constexpr const style::IndexRange* kPlanes[] = {
 
 std::int32_t MapStyle::frameNumber(style::Key key, int index) const
 {
-    return m_shown.frame.values().integer(host::Schema::instance().at(key), index);
+    return m_shown.frame.integer(key, index);
 }
 
-double MapStyle::frameReal(style::Key key, int index) const
+double MapStyle::frameReal(style::RealKey key, int index) const
 {
-    return m_shown.frame.values().real(host::Schema::instance().at(key), index);
+    return m_shown.frame.real(key, index);
 }
 
-std::string MapStyle::frameText(style::Key key) const
+std::string MapStyle::frameText(style::TextKey key) const
 {
-    return std::get<std::string>(m_shown.frame.values().get(host::Schema::instance().at(key)));
+    return m_shown.frame.text(key);
 }
 
-std::optional<double> MapStyle::inForce(style::SwitchKey follows, style::Key key,
+std::optional<double> MapStyle::inForce(style::SwitchKey follows, style::RealKey key,
                                         const ContourGroups& groups, int index) const
 {
     return frameFlag(follows, index) ? proposedValue(m_shown.frame, groups, key, index)

@@ -26,10 +26,10 @@ public:
     // Values of the frame; `index` is from 1 for those that have one.
     std::int32_t frameNumber(style::Key key, int index = -1) const;
     bool frameFlag(style::Key key, int index = -1) const { return frameNumber(key, index) != 0; }
-    double frameReal(style::Key key, int index = -1) const;
-    std::string frameText(style::Key key) const;
+    double frameReal(style::RealKey key, int index = -1) const;
+    std::string frameText(style::TextKey key) const;
     /// A number of the frame, or what is proposed for it while it follows from the data.
-    std::optional<double> inForce(style::SwitchKey follows, style::Key key,
+    std::optional<double> inForce(style::SwitchKey follows, style::RealKey key,
                                   const ContourGroups& groups, int index = -1) const;
     const ShownMap& shown() const { return m_shown; }
     BlankingChoice blanking() const;

@@ -34,7 +34,7 @@ static std::optional<double> proposedIso(const host::Frame& frame, const Contour
     constexpr const auto& iso = style::isoSurfaces;
     constexpr style::Key kValues[] = {iso.value1, iso.value2, iso.value3};
     const auto* const found = std::find(std::begin(kValues), std::end(kValues), value);
-    const int count = frame.values().integer(host::Schema::instance().at(iso.count));
+    const int count = frame.integer(iso.count);
     const auto number = static_cast<int>(found - std::begin(kValues)) + 1;
     return found == std::end(kValues) || number > count
         ? std::nullopt
@@ -57,8 +57,7 @@ std::optional<double> proposedValue(const host::Frame& frame, const ContourGroup
     if (style::isInGroupOf(value, style::contourGroups.var))
         return proposedLevel(groups, value, index);
     if (value == style::slices.position) {
-        const int plane =
-            frame.values().integer(host::Schema::instance().at(style::slices.plane), index);
+        const int plane = frame.integer(style::slices.plane, index);
         return plane < SlicePlane_I ? between(groups, ContourGroups::kPlace + plane, 0.5)
                                     : proposedPlane(frame, plane - SlicePlane_I);
     }

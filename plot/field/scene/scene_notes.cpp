@@ -44,18 +44,11 @@ private:
     std::optional<SceneNote> scatter() const;
     std::optional<SceneNote> inside() const;
 
-    int number(style::Key key, int index = -1) const
-    {
-        return m_facts.frame.values().integer(host::Schema::instance().at(key), index);
-    }
-    double real(style::Key key, int index = -1) const
-    {
-        return m_facts.frame.values().real(host::Schema::instance().at(key), index);
-    }
+    int number(style::Key key, int index = -1) const { return m_facts.frame.integer(key, index); }
+    double real(style::RealKey key, int index = -1) const { return m_facts.frame.real(key, index); }
     const std::string& text(style::TextKey key, int index = -1) const
     {
-        return std::get<std::string>(
-            m_facts.frame.values().get(host::Schema::instance().at(key), index));
+        return m_facts.frame.text(key, index);
     }
     QString nameOf(CvlInt64 variable) const
     {
@@ -277,7 +270,7 @@ std::optional<SceneNote> Notes::isoSurfaces() const
 std::optional<SceneNote> Notes::isoValues() const
 {
     constexpr const auto& iso = style::isoSurfaces;
-    constexpr style::Key kValues[] = {iso.value1, iso.value2, iso.value3};
+    constexpr style::RealKey kValues[] = {iso.value1, iso.value2, iso.value3};
     constexpr int kGroup = ContourGroups::kIso;
     if (number(iso.automaticValues) != 0)
         return std::nullopt;

@@ -93,7 +93,7 @@ std::optional<BlockLook> sliceLook(int number, const ShownMap& shown, const Cont
 static std::vector<double> isoValues(const MapStyle& map, const ContourGroups& groups)
 {
     constexpr const auto& iso = style::isoSurfaces;
-    constexpr style::Key kValues[] = {iso.value1, iso.value2, iso.value3};
+    constexpr style::RealKey kValues[] = {iso.value1, iso.value2, iso.value3};
     std::vector<double> values;
     for (int i = 0; i < map.frameNumber(iso.count); ++i)
         if (const auto value = map.inForce(iso.automaticValues, kValues[i], groups))
@@ -139,8 +139,8 @@ std::vector<double> pointsIn(const std::string& text)
 static StreamChoice streamChoice(const MapStyle& map)
 {
     constexpr const auto& streams = style::streamtraces;
-    constexpr style::Key kRake[] = {streams.startX, streams.startY, streams.startZ,
-                                    streams.endX,   streams.endY,   streams.endZ};
+    constexpr style::RealKey kRake[] = {streams.startX, streams.startY, streams.startZ,
+                                        streams.endX,   streams.endY,   streams.endZ};
     constexpr style::Key kVector[] = {style::globalVector.uVar, style::globalVector.vVar,
                                       style::globalVector.wVar};
     StreamChoice choice;
