@@ -361,9 +361,9 @@ private Q_SLOTS:
         ShownCanvas shown;
         QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot));
         QVERIFY(!shown.scene().notice().isEmpty());
-        for (const char* shown :
+        for (const char* layer :
              {"LineMap/Lines/Show", "LineMap/Symbols/Show", "LineMap/BarCharts/Show"})
-            write(shown, "1-10", 0);
+            write(layer, "1-10", 0);
         shown.settle();
         QCOMPARE(shown.lineCount(), int(LinePlot::kLargestPlot) - 5);
         QVERIFY(shown.scene().notice().isEmpty());

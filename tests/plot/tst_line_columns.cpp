@@ -188,7 +188,8 @@ private Q_SLOTS:
 
     void noColumnIsLeftOut()
     {
-        QStringList shown = {"Name", "Assign/ThetaAxisVar", "Assign/RAxisVar"};
+        QStringList shown = {"Name", "Assign/ThetaAxisVar", "Assign/RAxisVar",
+                             "Assign/ShowInLegend"};
         for (const LineColumn& column : lineColumns())
             shown << column.change.section('=', 0, 0);
         const auto& schema = host::Schema::instance();
