@@ -167,7 +167,7 @@ void TextImportDialog::showPreview(const TextPreview& preview)
     if (const int bad = badRowCount(preview))
         notes << tr("Of these rows, %n cannot be read.", nullptr, bad);
     m_note->setText(notes.join(QLatin1Char(' ')));
-    m_table->show(preview);
+    m_table->showPreview(preview);
     m_open->setEnabled(isTable);
 }
 

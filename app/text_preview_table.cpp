@@ -34,7 +34,7 @@ static QString kindText(TextColumnKind kind)
     return TextPreviewTable::tr("words");
 }
 
-void TextPreviewTable::show(const TextPreview& preview)
+void TextPreviewTable::showPreview(const TextPreview& preview)
 {
     clearSpans();
     clear();

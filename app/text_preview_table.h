@@ -16,7 +16,7 @@ class TextPreviewTable : public QTableWidget
 public:
     explicit TextPreviewTable(QWidget* parent = nullptr);
 
-    void show(const host::io::TextPreview& preview);
+    void showPreview(const host::io::TextPreview& preview);
 
 private:
     void showRow(int row, const host::io::TextPreview::Row& shown);

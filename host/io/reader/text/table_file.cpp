@@ -151,6 +151,9 @@ void TableFile::joinDatesAndTimes()
             continue;
         std::transform(days.begin(), days.end(), times.begin(), days.begin(), std::plus<>());
         columns[c].name += ' ' + columns[c + 1].name;
+        const auto place = static_cast<std::ptrdiff_t>(c) + 1;
+        columns.erase(columns.begin() + place);
+        m_table.columns.erase(m_table.columns.begin() + place);
     }
 }
 
