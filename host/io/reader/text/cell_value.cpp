@@ -209,9 +209,11 @@ bool takeDate(Scanner& text, TextDates order, double& seconds)
                                          : 1900 + yearPart.value;
     const QDate date(year, parts[static_cast<std::size_t>(places[1])].value,
                      parts[static_cast<std::size_t>(places[2])].value);
-    seconds = kSecondsOfDay * static_cast<double>(date.toJulianDay() - kJulianDayOf1970);
     const bool hasTwoYears = places[0] == 0 && parts[2].digits > 2;
-    return date.isValid() && yearPart.digits > 0 && !hasTwoYears;
+    if (!date.isValid() || yearPart.digits == 0 || hasTwoYears)
+        return false;
+    seconds = kSecondsOfDay * static_cast<double>(date.toJulianDay() - kJulianDayOf1970);
+    return true;
 }
 
 /// Hours, minutes and, where they are given, seconds.

@@ -26,6 +26,7 @@ static constexpr std::size_t kMostTableColumns = 100'000;
 static constexpr double kSecondsOfDay = 86'400;
 static constexpr std::size_t kMostListed = 12; ///< words of a column in a note
 static constexpr int kMostColumns = 5; ///< in a note
+static constexpr int kLongestWord = 20; ///< letters of it in a note
 
 /// A table whose zones are ordered along I and have no coordinates but the index.
 class TableFile : public DataFile
@@ -174,7 +175,8 @@ static QString numberedWords(const QString& name, const std::vector<std::string>
 {
     QStringList list;
     for (std::size_t i = 0; i < std::min(words.size(), kMostListed); ++i)
-        list << QStringLiteral("%1 %2").arg(i + 1).arg(QString::fromStdString(words[i]));
+        list << QStringLiteral("%1 %2").arg(i + 1).arg(
+            QString::fromStdString(words[i]).left(kLongestWord));
     if (words.size() > kMostListed)
         list << QStringLiteral("...");
     return QStringLiteral("%1 (%2)").arg(name, list.join(QStringLiteral(", ")));
