@@ -4,6 +4,7 @@
 #include "tests/support/rows.h"
 
 #include <vtkFieldData.h>
+#include <vtkImageData.h>
 #include <vtkPolyData.h>
 #include <vtkStructuredGrid.h>
 #include <vtkUnstructuredGrid.h>
@@ -104,6 +105,8 @@ private Q_SLOTS:
             int dimensions[3] = {0, 0, 0};
             if (auto* grid = vtkStructuredGrid::SafeDownCast(geometry))
                 grid->GetDimensions(dimensions);
+            else if (auto* row = vtkImageData::SafeDownCast(geometry)) // of a table
+                row->GetDimensions(dimensions);
             for (std::size_t i = 0; i < 3; ++i)
                 QCOMPARE(std::int64_t(dimensions[i]), zone.dimensions[i]);
         }

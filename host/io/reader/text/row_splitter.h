@@ -17,9 +17,14 @@ std::string_view trimmed(std::string_view text);
 /// What is behind the mark of a comment line; empty for a line that is none.
 std::optional<std::string_view> commentIn(std::string_view line, TextComment comment);
 
-/// The fields of a row, without blanks around them and without their quotes.
+/// The fields of a row, without blanks around them and without their quotes. Can be moved, but not
+/// copied, since fields may point into it.
 struct Row
 {
+    Row() = default;
+    Row(Row&&) = default;
+    Row& operator=(Row&&) = default;
+
     std::vector<std::string_view> fields; ///< valid as long as row and text are
     bool isClosed = true; ///< else a quoted field goes on in the next line
 
