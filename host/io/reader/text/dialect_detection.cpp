@@ -108,49 +108,58 @@ static bool areWords(const Row& row, const CellReader& cells)
     });
 }
 
-static Reading readingOf(const Trial& trial, const TextDialect& dialect)
+/// The share of numbers and times among the fields of some rows that are not missing.
+static double numberShareOf(const std::vector<const Row*>& rows, const CellReader& cells)
 {
-    const RowSplitter splitter(*dialect.separator, *dialect.quote);
-    const CellReader cells(dialect);
-    const std::vector<Row> rows = rowsOf(trial, splitter);
-    Reading reading {dialect, usualCount(rows)};
-    const auto isUsual = [&](const Row& row) {
-        return row.fields.size() == reading.columns && row.isClosed;
-    };
-    const auto first = std::find_if(rows.begin(), rows.end(), isUsual);
-    if (first == rows.end())
-        return reading;
-    Row comment;
-    splitter.split(trial.lastComment, comment);
-    const bool isHeader = areWords(*first, cells);
-    const bool hasHeader = isHeader || comment.fields.size() == reading.columns;
-    double usual = 0;
     double numbers = 0;
     double fields = 0;
-    for (auto row = first; row != rows.end(); ++row) {
-        usual += isUsual(*row) ? 1 : 0;
-        if (!isUsual(*row) || (row == first && isHeader && reading.columns > 1))
-            continue;
+    for (const Row* const row : rows) {
         for (const std::string_view field : row->fields) {
             const CellKind kind = cells.read(field).kind;
             fields += kind == CellKind::Missing ? 0 : 1;
             numbers += kind == CellKind::Missing || kind == CellKind::Words ? 0 : 1;
         }
     }
-    const double consistency = usual / static_cast<double>(rows.end() - first);
-    const auto columns = static_cast<double>(reading.columns);
-    reading.numberShare = fields > 0 ? numbers / fields : 0;
-    reading.score = consistency * (1 - 1 / (columns + 1));
-    if (reading.columns > 1) {
-        constexpr double kColon = 0.6; // which also stands inside of words and times
-        constexpr double kHeader = 1.2;
-        reading.score *= 0.3 + 0.7 * reading.numberShare;
-        reading.score *= dialect.separator == TextSeparator::Colon ? kColon : 1;
-        reading.score *= hasHeader ? kHeader : 1;
-    } else {
-        constexpr double kOne = 0.8; // which all lines have
-        reading.score *= kOne * reading.numberShare;
+    return fields > 0 ? numbers / fields : 0;
+}
+
+/// `consistency` is the share of rows that have as many fields as there are columns.
+static double scoreOf(const Reading& reading, double consistency, bool hasHeader)
+{
+    constexpr double kColon = 0.6; // which also stands inside of words and times
+    constexpr double kHeader = 1.2;
+    constexpr double kOne = 0.8; // column, which all lines have
+    const double score = consistency * (1 - 1 / (static_cast<double>(reading.columns) + 1));
+    if (reading.columns == 1)
+        return score * kOne * reading.numberShare;
+    return score * (0.3 + 0.7 * reading.numberShare) * (hasHeader ? kHeader : 1)
+        * (reading.dialect.separator == TextSeparator::Colon ? kColon : 1);
+}
+
+static Reading readingOf(const Trial& trial, const TextDialect& dialect)
+{
+    const RowSplitter splitter(*dialect.separator, *dialect.quote);
+    const CellReader cells(dialect);
+    const std::vector<Row> rows = rowsOf(trial, splitter);
+    Reading reading {dialect, usualCount(rows)};
+    std::vector<const Row*> usual;
+    std::size_t tried = 0; // from the first one that is usual
+    for (const Row& row : rows) {
+        if (row.fields.size() == reading.columns && row.isClosed)
+            usual.push_back(&row);
+        tried += usual.empty() ? 0 : 1;
     }
+    if (usual.empty())
+        return reading;
+    const double consistency = static_cast<double>(usual.size()) / static_cast<double>(tried);
+    Row comment;
+    splitter.split(trial.lastComment, comment);
+    const bool isHeader = areWords(*usual.front(), cells);
+    if (isHeader && reading.columns > 1)
+        usual.erase(usual.begin());
+    reading.numberShare = numberShareOf(usual, cells);
+    reading.score =
+        scoreOf(reading, consistency, isHeader || comment.fields.size() == reading.columns);
     return reading;
 }
 
