@@ -7,6 +7,7 @@
 #include "app/display.h"
 #include "app/main_window.h"
 #include "app/program_stage.h"
+#include "app/style_dialog.h"
 #include "host/document/document.h"
 #include "host/undo/gesture_tracker.h"
 #include "play/dialog_driver.h"
@@ -129,6 +130,7 @@ static int runBatch(MainWindow& window, const Options& options)
 
 void startInteractive(MainWindow& window, const Options& options)
 {
+    offerAllLineTabs();
     window.show();
     if (!options.files.isEmpty()) {
         auto* first = new QObject(&window);

@@ -9,6 +9,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <set>
 
 namespace corvala::app {
 
@@ -32,6 +33,15 @@ static ZoneStyleDialog& styleDialog(QWidget& mainWindow, DialogInitialization_e 
         dialog.move(std::max(right, screen.left()), std::max(window.top(), screen.top()));
     }
     return dialog;
+}
+
+void offerAllLineTabs()
+{
+    std::set<ZoneStyleDialog::MappingStyleTab_e> tabs;
+    for (int tab = ZoneStyleDialog::MappingStyleTab_Definitions;
+         tab <= ZoneStyleDialog::MappingStyleTab_Indices; ++tab)
+        tabs.insert(static_cast<ZoneStyleDialog::MappingStyleTab_e>(tab));
+    ZoneStyleDialog::setAvailableMappingStyleTabs(tabs);
 }
 
 QWidget& openStyleDialog(QWidget& mainWindow, DialogInitialization_e initialization)

@@ -19,6 +19,9 @@ QWidget& openStyleDialog(QWidget& mainWindow,
 /// the window.
 void placeSideBySide(QWidget& mainWindow, QWidget& dialog, const QRect& screen);
 
+/// Offers all tabs of line plots, the indices included, which the dialog leaves out unless told.
+void offerAllLineTabs();
+
 /// The command that opens the dialog; enabled while the active frame has styles to edit.
 QAction* makeStyleDialogAction(QWidget& mainWindow);
 

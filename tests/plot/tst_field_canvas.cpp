@@ -159,8 +159,10 @@ static QString outputWith(const QMap<QString, QString>& variables)
 static int reportPictures()
 {
     const auto report = [](const char* name) {
-        write("FieldLayers/ShowContour", "", 1);
-        write("FieldMap/Surfaces/SurfacesToPlot", "all", SurfacesToPlot_BoundaryCellFaces);
+        if (document().activeFrame()->isFieldPlot()) {
+            write("FieldLayers/ShowContour", "", 1);
+            write("FieldMap/Surfaces/SurfacesToPlot", "all", SurfacesToPlot_BoundaryCellFaces);
+        }
         const QImage image = picture();
         QCryptographicHash sum(QCryptographicHash::Md5);
         sum.addData(reinterpret_cast<const char*>(image.constBits()),

@@ -13,7 +13,9 @@ static QStringList entriesFor(const EditRequest& edit)
 {
     const bool isText = edit.value.userType() == QMetaType::QString;
     const Cell first {edit.frame, edit.cells.first().row() + 1, edit.column, edit.model};
-    return isText && edit.column.edit ? edit.column.edit(first).toStringList() : QStringList();
+    const QVariant offered = isText && edit.column.edit ? edit.column.edit(first) : QVariant();
+    const bool isList = offered.userType() == QMetaType::QStringList; // else the text to begin with
+    return isList ? offered.toStringList() : QStringList();
 }
 
 /// What a text stands for is one of the entries, when there are any.
