@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/command_line.h"
 
+#include "app/picture_output.h"
 #include "app/plot3d_layout.h"
 #include "samples/demo_data.h"
 
@@ -71,8 +72,16 @@ private:
                            CommandLine::tr("Write what the style dialog shows, then end."),
                            CommandLine::tr("file")};
     const Option m_render {QStringLiteral("render"),
-                           CommandLine::tr("Write a picture of the plot, then end."),
+                           CommandLine::tr("Write a picture of the plot, then end: .png, .pdf, "
+                                           ".svg, .jpg or .bmp."),
                            CommandLine::tr("file")};
+    const Option m_size {QStringLiteral("size"),
+                         CommandLine::tr("Size of the picture on paper, as 160x120mm (usual for "
+                                         ".pdf and .svg), or in pixels, as 1200x900."),
+                         CommandLine::tr("size")};
+    const Option m_dpi {QStringLiteral("dpi"),
+                        CommandLine::tr("Pixels of the picture to an inch (300)."),
+                        CommandLine::tr("number")};
     const Option m_plot3d {QStringLiteral("plot3d"),
                            CommandLine::tr("Layout of Plot3D files, such as "
                                            "format=binary,grids=many,endian=big."),
@@ -91,7 +100,7 @@ Parser::Parser()
                         "Data are opened first; then a script is played, a report written, a "
                         "picture drawn.\n"
                         "Exit codes: 0 success, 1 failure, 2 wrong usage."));
-    addOptions({m_demo, m_play, m_report, m_render, m_plot3d, m_table});
+    addOptions({m_demo, m_play, m_report, m_render, m_size, m_dpi, m_plot3d, m_table});
     addPositionalArgument(QStringLiteral("files"),
                           CommandLine::tr("Data files, opened together, or the folder of a case."),
                           QStringLiteral("[files...]"));
@@ -117,15 +126,39 @@ QString Parser::check(const Options& options) const
         : CommandLine::tr("give either files or --demo");
 }
 
+/// Of the picture.
+static QString readSize(const QString& size, const QString& resolution, Options& options)
+{
+    options.pictureSize = usualPictureSize(options.picture);
+    double& dots = options.pictureSize.dotsPerInch;
+    bool isNumber = true;
+    if (!resolution.isEmpty())
+        dots = resolution.toDouble(&isNumber);
+    if (!isNumber || !(dots >= plot::kLowestResolution && dots <= plot::kHighestResolution))
+        return CommandLine::tr("\"%1\" is no number of pixels to an inch: from %2 to %3")
+            .arg(resolution)
+            .arg(plot::kLowestResolution)
+            .arg(plot::kHighestResolution);
+    const auto chosen = size.isEmpty() ? options.pictureSize : plot::pictureSizeOf(size, dots);
+    if (!chosen)
+        return CommandLine::tr("\"%1\" is no size of a picture, such as 160x120mm or 1200x900")
+            .arg(size);
+    options.pictureSize = *chosen;
+    return plot::sizeProblem(chosen->pixels());
+}
+
 QString Parser::read(const QStringList& arguments, Options& options)
 {
     if (!parse(QStringList(QStringLiteral("corvala")) + withDemoNamed(arguments)))
         return errorText();
+    QString size;
+    QString resolution;
     QString layout;
     QString table;
     const std::pair<const Option&, QString&> texts[] = {
         {m_demo, options.demo},      {m_play, options.script}, {m_report, options.report},
-        {m_render, options.picture}, {m_plot3d, layout},       {m_table, table}};
+        {m_render, options.picture}, {m_size, size},           {m_dpi, resolution},
+        {m_plot3d, layout},          {m_table, table}};
     for (const auto& [option, value] : texts) {
         const QString error = text(option, value);
         if (!error.isEmpty())
@@ -137,6 +170,10 @@ QString Parser::read(const QStringList& arguments, Options& options)
     QString error = parsePlot3DLayout(layout, options.plot3d);
     if (error.isEmpty())
         error = host::io::parseTextDialect(table, options.table);
+    if (error.isEmpty() && !options.picture.isEmpty())
+        error = pictureFormatProblem(options.picture);
+    if (error.isEmpty())
+        error = readSize(size, resolution, options);
     return error.isEmpty() ? check(options) : error;
 }
 

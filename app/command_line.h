@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/io/data_reader.h"
+#include "plot/common/picture_size.h"
 
 #include <QString>
 #include <QStringList>
@@ -16,6 +17,7 @@ struct Options
     QString script;
     QString report;
     QString picture;
+    plot::PictureSize pictureSize;
     host::io::Plot3DLayout plot3d;
     host::io::TextDialect table;
     bool help = false;

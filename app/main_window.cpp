@@ -251,9 +251,9 @@ void MainWindow::dropEvent(QDropEvent* event)
     openFiles(files);
 }
 
-QImage MainWindow::canvasImage(QString* error)
+QString MainWindow::saveCanvas(const QString& file)
 {
-    return m_plotArea->image(error);
+    return m_plotArea->saveCanvas(file);
 }
 
 void MainWindow::openStyleDialog(DialogInitialization_e initialization)

@@ -44,8 +44,8 @@ public:
     /// Opens the style dialog beside the plot, as at the start of the program.
     void openStyleDialogBeside();
 
-    /// The plot as it is on the screen. Null, with the reason in `error`, when it cannot be drawn.
-    QImage canvasImage(QString* error);
+    /// As PlotArea::saveCanvas.
+    QString saveCanvas(const QString& file);
 
 Q_SIGNALS:
     /// Files that openFiles was asked for are opened, or could not be, or the user cancelled.

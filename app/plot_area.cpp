@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/plot_area.h"
 
-#include "host/document/document.h"
-#include "play/picture_file.h"
+#include "app/busy_cursor.h"
+#include "app/picture_output.h"
+#include "app/picture_size_dialog.h"
 #include "plot/frame_view.h"
-#include "plot/render.h"
 
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QVBoxLayout>
 
 namespace corvala::app {
@@ -36,26 +37,44 @@ PlotArea::PlotArea(QWidget* parent)
     layout->addWidget(note);
 }
 
-QImage PlotArea::image(QString* error)
+QString PlotArea::paint(QPaintDevice& device)
 {
-    if (m_frameView)
-        return m_frameView->render(m_frameView->size(), error);
-    *error = tr("the plot is drawn on an X screen only (QT_QPA_PLATFORM=xcb, for example under "
-                "xvfb-run)");
-    return {};
+    return m_frameView ? m_frameView->paint(device)
+                       : tr("the plot is drawn on an X screen only (QT_QPA_PLATFORM=xcb, for "
+                            "example under xvfb-run)");
+}
+
+QString PlotArea::saveCanvas(const QString& file)
+{
+    const QSize shown = m_frameView ? m_frameView->size() : size();
+    return writePicture(file, plot::PictureSize::ofPixels(shown, logicalDpiX()),
+                        [this](QPaintDevice& device) { return paint(device); });
 }
 
 QString PlotArea::savePicture()
 {
-    QFileDialog dialog(this, tr("Save Picture"), {}, tr("Pictures (*.png *.jpg *.bmp)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("png"));
-    dialog.selectFile(QStringLiteral("plot.png"));
-    if (dialog.exec() != QDialog::Accepted)
+    QFileDialog chooser(this, tr("Save Picture"));
+    chooser.setAcceptMode(QFileDialog::AcceptSave);
+    chooser.setNameFilters(pictureFilters());
+    const auto followFilter = [&chooser](const QString& filter) {
+        static const QRegularExpression kFirst(QStringLiteral("\\*\\.(\\w+)"));
+        chooser.setDefaultSuffix(kFirst.match(filter).captured(1));
+    };
+    connect(&chooser, &QFileDialog::filterSelected, &chooser, followFilter);
+    followFilter(chooser.selectedNameFilter());
+    chooser.selectFile(QStringLiteral("plot"));
+    if (chooser.exec() != QDialog::Accepted)
         return {};
-    QString error;
-    const QImage picture = image(&error);
-    return picture.isNull() ? error : play::writePicture(picture, dialog.selectedFiles().value(0));
+    const QString file = chooser.selectedFiles().value(0);
+    const QString problem = pictureFormatProblem(file);
+    if (!problem.isEmpty())
+        return problem;
+    PictureSizeDialog sizes(this);
+    if (sizes.exec() != QDialog::Accepted)
+        return {};
+    const BusyCursor busy;
+    return writePicture(file, sizes.chosenSize(),
+                        [this](QPaintDevice& device) { return paint(device); });
 }
 
 } // namespace corvala::app

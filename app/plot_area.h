@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QImage>
 #include <QWidget>
 
 namespace corvala::plot {
@@ -22,15 +21,18 @@ public:
     /// Null where no canvas can be shown.
     plot::FrameView* frameView() const { return m_frameView; }
 
-    /// The plot as it is on the screen. Null, with the reason in `error`, when it cannot be drawn.
-    QImage image(QString* error);
+    /// Writes the plot as it is on the screen, as writePicture.
+    QString saveCanvas(const QString& file);
 
-    /// Asks for a file and writes the plot to it; empty, or what went wrong.
+    /// Asks for a file and a size, and writes the plot so; empty, or what went wrong.
     QString savePicture();
 
     QSize sizeHint() const override { return {900, 700}; }
 
 private:
+    /// As PaintPicture.
+    QString paint(QPaintDevice& device);
+
     plot::FrameView* m_frameView = nullptr; // not owned
 };
 

@@ -6,12 +6,12 @@
 #include "app/data_opening.h"
 #include "app/display.h"
 #include "app/main_window.h"
+#include "app/picture_output.h"
 #include "app/program_stage.h"
 #include "app/style_dialog.h"
 #include "host/document/document.h"
 #include "host/undo/gesture_tracker.h"
 #include "play/dialog_driver.h"
-#include "play/picture_file.h"
 #include "play/player.h"
 #include "play/style_report.h"
 #include "plot/line/line_curves.h"
@@ -34,8 +34,6 @@
 namespace corvala::app {
 
 enum ExitCode { Success = 0, Failure = 1, WrongUsage = 2 };
-
-static constexpr QSize kPictureSize(1200, 900);
 
 struct Program
 {
@@ -86,17 +84,16 @@ static QString writeReport(MainWindow& window, const QString& file)
     return play::writeStyleReport(play::DialogDriver(), QStringLiteral("all"), file);
 }
 
-static QString drawPicture(const QString& file)
+static QString drawPicture(const Options& options)
 {
-    QString error;
     std::vector<plot::SceneNote> notes;
-    const QImage image = plot::renderToImage(host::Document::instance().activeFrameId(),
-                                             kPictureSize, &error, &notes);
+    QString problem =
+        writePicture(options.picture, options.pictureSize, [&notes](QPaintDevice& device) {
+            return plot::paintFrame(host::Document::instance().activeFrameId(), device, &notes);
+        });
     for (const plot::SceneNote& note : notes)
         std::fprintf(stderr, "%s\n", qUtf8Printable(named(Program::tr("note: %1").arg(note.text))));
-    if (image.isNull())
-        return Program::tr("%1 cannot be drawn: %2").arg(file, error);
-    return play::writePicture(image, file);
+    return problem;
 }
 
 /// The settings of curve fits show what comes of the fits that the plots draw.
@@ -124,7 +121,7 @@ static int runBatch(MainWindow& window, const Options& options)
     if (!options.report.isEmpty())
         error = writeReport(window, options.report);
     if (error.isEmpty() && !options.picture.isEmpty())
-        error = drawPicture(options.picture);
+        error = drawPicture(options);
     return error.isEmpty() ? Success : fail(named(error));
 }
 

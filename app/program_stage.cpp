@@ -21,9 +21,9 @@ QString ProgramStage::openFiles(const QStringList& files, const QString& table)
     return openAndWait(request).error;
 }
 
-QImage ProgramStage::canvasImage(QString* error)
+QString ProgramStage::saveCanvas(const QString& file)
 {
-    return m_window.canvasImage(error);
+    return m_window.saveCanvas(file);
 }
 
 } // namespace corvala::app

@@ -19,7 +19,7 @@ public:
 
     QWidget& window() override;
     QString openFiles(const QStringList& files, const QString& table) override;
-    QImage canvasImage(QString* error) override;
+    QString saveCanvas(const QString& file) override;
 
 private:
     MainWindow& m_window;

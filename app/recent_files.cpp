@@ -1,24 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/recent_files.h"
 
-#include <QSettings>
+#include "app/user_settings.h"
 
 namespace corvala::app {
 
 static constexpr int kMostEntries = 10;
 static const char* const kKey = "recentFiles";
 
-static QSettings settings()
-{
-    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("corvala"),
-                     QStringLiteral("corvala"));
-}
-
 /// Anything else that stands in the settings counts as nothing.
 QList<QStringList> recentFiles()
 {
     QList<QStringList> entries;
-    for (const QVariant& entry : settings().value(QLatin1String(kKey)).toList()) {
+    for (const QVariant& entry : userSettings().value(QLatin1String(kKey)).toList()) {
         const QStringList files = entry.toStringList();
         if (!files.isEmpty() && entries.size() < kMostEntries)
             entries << files;
@@ -34,7 +28,7 @@ void rememberFiles(const QStringList& files)
     QVariantList values;
     for (const QStringList& entry : entries.mid(0, kMostEntries))
         values << QVariant(entry);
-    settings().setValue(QLatin1String(kKey), values);
+    userSettings().setValue(QLatin1String(kKey), values);
 }
 
 } // namespace corvala::app

@@ -36,19 +36,15 @@ static QImage imageOf(ScriptRun& run, const QString& what)
         return run.dialog().dialog().grab().toImage();
     if (what == QLatin1String("window"))
         return run.stage().window().grab().toImage();
-    if (what != QLatin1String("canvas"))
-        throw ScriptError(Text::tr("\"of\" must be \"dialog\", \"canvas\" or \"window\""));
-    QString error;
-    const QImage image = run.stage().canvasImage(&error);
-    if (image.isNull())
-        throw ScriptError(Text::tr("no picture of the canvas: %1").arg(error));
-    return image;
+    throw ScriptError(Text::tr("\"of\" must be \"dialog\", \"canvas\" or \"window\""));
 }
 
 static void screenshot(ScriptRun& run, const Arguments& arguments)
 {
-    const QImage image = imageOf(run, arguments.text("of"));
-    const QString error = writePicture(image, arguments.file("screenshot"));
+    const QString what = arguments.text("of");
+    const QString file = arguments.file("screenshot");
+    const QString error = what == QLatin1String("canvas") ? run.stage().saveCanvas(file)
+                                                          : writePicture(imageOf(run, what), file);
     if (!error.isEmpty())
         throw ScriptError(error);
 }

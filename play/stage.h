@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QImage>
 #include <QStringList>
 
 class QWidget;
@@ -21,8 +20,9 @@ public:
     /// DataOrigin::table does. Empty on success, else the reason.
     virtual QString openFiles(const QStringList& files, const QString& table) = 0;
 
-    /// The plot as it is on the screen. Null, with the reason in `error`, when it cannot be drawn.
-    virtual QImage canvasImage(QString* error) = 0;
+    /// Writes the plot as it is on the screen to a file, in the format that its ending names. Empty
+    /// on success, else a text that names the file and the reason.
+    virtual QString saveCanvas(const QString& file) = 0;
 };
 
 } // namespace corvala::play

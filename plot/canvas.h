@@ -3,7 +3,6 @@
 
 #include "plot/common/map_scene.h"
 
-#include <QImage>
 #include <QPointF>
 #include <QWidget>
 
@@ -37,10 +36,9 @@ public:
     virtual void stopDrawing() { }
     /// What is drawn of an unfinished picture, and the whole.
     virtual std::pair<CvlInt64, CvlInt64> drawingProgress() const { return {0, 0}; }
-    /// The frame with the present view as an image of `size` pixels, drawn without the window and
-    /// complete even while work is pending. Null, with the reason in `error` (may be null), when it
-    /// cannot be drawn.
-    virtual QImage render(const QSize& size, QString* error) = 0;
+    /// Draws the frame with the present view all over a device, without the window and complete
+    /// even while work is pending; as PaintPicture.
+    virtual QString paint(QPaintDevice& device) = 0;
     /// Why this canvas cannot draw on this machine, for the user; empty when it can.
     virtual QString problem() const { return {}; }
     /// True while the hand moves the view: another picture follows when it rests.

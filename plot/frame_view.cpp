@@ -3,6 +3,7 @@
 
 #include "host/document/document.h"
 #include "plot/common/document_events.h"
+#include "plot/common/picture.h"
 #include "plot/field/view/field_canvas.h"
 #include "plot/line/line_canvas.h"
 #include "plot/render.h"
@@ -174,9 +175,15 @@ void FrameView::endWork(bool cancelled)
         Q_EMIT workEnded(cancelled);
 }
 
+QString FrameView::paint(QPaintDevice& device)
+{
+    return m_canvas ? m_canvas->paint(device) : paintFrame(m_key.first, device);
+}
+
 QImage FrameView::render(const QSize& size, QString* error)
 {
-    return m_canvas ? m_canvas->render(size, error) : renderToImage(m_key.first, size, error);
+    return pictureImage(
+        size, [this](QPaintDevice& device) { return paint(device); }, error);
 }
 
 QString FrameView::problem() const

@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 #include <QHash>
+#include <QImage>
 #include <QTimer>
 
 #include <memory>
@@ -34,6 +35,8 @@ public:
     bool isBusy() const { return m_idle.isActive() || (m_canvas && m_canvas->isBeingMoved()); }
 
     /// As of the canvas, also for a frame without data.
+    QString paint(QPaintDevice& device);
+    /// The same, as pictureImage.
     QImage render(const QSize& size, QString* error);
     QString problem() const;
 

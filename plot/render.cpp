@@ -9,18 +9,20 @@
 
 namespace corvala::plot {
 
-QImage renderToImage(CvlUniqueId frame, const QSize& size, QString* error,
-                     std::vector<SceneNote>* notes)
+QString paintFrame(CvlUniqueId frame, QPaintDevice& device, std::vector<SceneNote>* notes)
 {
     const host::Frame* const drawn = host::Document::instance().frame(frame);
-    if (!drawn || !drawn->hasData() || !(drawn->isFieldPlot() || drawn->isLinePlot())) {
-        if (error)
-            *error = QCoreApplication::translate("corvala::plot", "The frame shows no data");
-        return {};
-    }
+    if (!drawn || !drawn->hasData() || !(drawn->isFieldPlot() || drawn->isLinePlot()))
+        return QCoreApplication::translate("corvala::plot", "The frame shows no data");
     return drawn->isFieldPlot()
-        ? drawFieldImage(frame, CameraState(), std::make_shared<SurfaceCache>(), size, error, notes)
-        : drawLineImage(frame, nullptr, size, error);
+        ? paintField(frame, CameraState(), std::make_shared<SurfaceCache>(), device, notes)
+        : paintLines(frame, nullptr, device);
+}
+
+QImage renderToImage(CvlUniqueId frame, const QSize& size, QString* error)
+{
+    return pictureImage(
+        size, [frame](QPaintDevice& device) { return paintFrame(frame, device); }, error);
 }
 
 } // namespace corvala::plot

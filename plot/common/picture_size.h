@@ -2,9 +2,30 @@
 #pragma once
 
 #include <QSize>
+#include <QSizeF>
 #include <QString>
 
+#include <optional>
+
 namespace corvala::plot {
+
+// Dots per inch.
+constexpr double kLowestResolution = 10.0;
+constexpr double kHighestResolution = 2400.0;
+
+/// How large a picture is on paper, and how many pixels it has there.
+struct PictureSize
+{
+    QSizeF millimetres {160.0, 120.0};
+    double dotsPerInch = 300.0;
+
+    QSize pixels() const;
+    static PictureSize ofPixels(const QSizeF& pixels, double dotsPerInch);
+};
+
+/// The size that a text gives in pixels, as "1200x900", or on paper, as "160x120mm". Nothing, when
+/// it is neither, or a side is not above 0.
+std::optional<PictureSize> pictureSizeOf(const QString& text, double dotsPerInch);
 
 /// Why a picture of this size cannot be drawn, for the user; empty when it can.
 QString sizeProblem(const QSize& size);

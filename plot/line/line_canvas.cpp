@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_canvas.h"
 
-#include "plot/common/picture_size.h"
+#include "plot/common/picture.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -78,29 +78,28 @@ bool LineCanvas::wheelTurned(const QWheelEvent&)
     return false;
 }
 
-QImage LineCanvas::render(const QSize& size, QString* error)
+QString LineCanvas::paint(QPaintDevice& device)
 {
     const ChartRange range = m_plot.chart().range();
-    return drawLineImage(m_plot.frameId(), m_plot.isFitted() ? nullptr : &range, size, error);
+    return paintLines(m_plot.frameId(), m_plot.isFitted() ? nullptr : &range, device);
 }
 
-QImage drawLineImage(CvlUniqueId frame, const ChartRange* range, const QSize& size, QString* error)
+QString paintLines(CvlUniqueId frame, const ChartRange* range, QPaintDevice& device)
 {
-    const QString problem = sizeProblem(size);
-    if (error)
-        *error = problem;
-    if (!problem.isEmpty())
-        return {};
     QCustomPlot widget;
     LinePlot plot(widget);
     plot.setPatience(-1);
-    plot.setFrameHeight(size.height());
+    plot.setFrameHeight(device.height());
     plot.setFrame(frame);
     plot.advance(-1);
     plot.prepare();
     if (range)
         plot.chart().setRange(*range);
-    return widget.toPixmap(size.width(), size.height()).toImage();
+    QCPPainter painter(&device);
+    if (isVectorDevice(device))
+        painter.setModes(QCPPainter::pmVectorized | QCPPainter::pmNonCosmetic);
+    widget.toPainter(&painter, device.width(), device.height());
+    return {};
 }
 
 } // namespace corvala::plot

@@ -18,7 +18,7 @@ public:
 
     LinePlot& scene() override { return m_plot; }
     void draw() override;
-    QImage render(const QSize& size, QString* error) override;
+    QString paint(QPaintDevice& device) override;
     std::any view() const override;
     void setView(const std::any& view) override;
 
@@ -37,8 +37,7 @@ private:
     QLabel* m_notice; // not owned
 };
 
-/// Draws a line frame as an image of `size` pixels, showing `range` of its axes, or all of it when
-/// null. Null, with the reason in `error` (may be null), for an empty size or one too large.
-QImage drawLineImage(CvlUniqueId frame, const ChartRange* range, const QSize& size, QString* error);
+/// Draws a line frame, showing `range` of its axes, or all of it when null; as PaintPicture.
+QString paintLines(CvlUniqueId frame, const ChartRange* range, QPaintDevice& device);
 
 } // namespace corvala::plot

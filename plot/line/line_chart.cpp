@@ -17,7 +17,7 @@ public:
 
 protected:
     void applyDefaultAntialiasingHint(QCPPainter*) const override { }
-    QRect clipRect() const override { return m_chart.outline().boundingRect(); }
+    QRect clipRect() const override { return m_chart.outline().boundingRect().toAlignedRect(); }
     void draw(QCPPainter* painter) override { m_chart.draw(*painter); }
 
 private:
@@ -35,12 +35,12 @@ void LineChart::draw(QCPPainter& painter)
 {
     if (m_beforeDrawing)
         m_beforeDrawing();
-    const QRegion shape = outline();
-    const QRect place = shape.boundingRect();
+    const QPainterPath shape = outline();
+    const QRect place = shape.boundingRect().toAlignedRect();
     ChartView seen = view();
     seen.visible = {static_cast<double>(place.left()), place.left() + place.width() + 0.0,
                     static_cast<double>(place.top()), place.top() + place.height() + 0.0};
-    painter.setClipRegion(shape, Qt::IntersectClip);
+    painter.setClipPath(shape, Qt::IntersectClip);
     if (painter.modes().testFlag(QCPPainter::pmVectorized)) {
         m_ink.paint(painter, seen);
         return;
@@ -58,7 +58,7 @@ void LineChart::draw(QCPPainter& painter)
 
 std::int64_t LineChart::mapAt(const QPointF& pixel, double tolerance)
 {
-    return outline().contains(pixel.toPoint()) ? m_ink.mapAt(view(), pixel, tolerance) : 0;
+    return outline().contains(pixel) ? m_ink.mapAt(view(), pixel, tolerance) : 0;
 }
 
 } // namespace corvala::plot

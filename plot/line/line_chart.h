@@ -62,7 +62,7 @@ public:
 protected:
     /// How the shapes lie in the widget at present, whatever is outside left out.
     virtual ChartView view() = 0;
-    virtual QRegion outline() const = 0; ///< of the shapes
+    virtual QPainterPath outline() const = 0; ///< of the shapes
 
 private:
     class Sheet;

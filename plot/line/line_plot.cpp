@@ -38,7 +38,7 @@ void LinePlot::clear(const host::Frame* drawn, Fresh)
 void LinePlot::applyHeight()
 {
     QFont font = m_plot.font();
-    font.setPixelSize(static_cast<int>(std::clamp(m_height / 45.0, 9.0, 40.0)));
+    font.setPixelSize(static_cast<int>(std::max(m_height / 45.0, 9.0)));
     m_chart->setFont(font);
 }
 

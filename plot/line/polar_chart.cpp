@@ -25,7 +25,7 @@ public:
 
 protected:
     ChartView view() override;
-    QRegion outline() const override { return m_angle->exactClipRegion(); }
+    QPainterPath outline() const override;
 
 private:
     QCPPolarAxisRadial* radius() const { return m_angle->radialAxis(); }
@@ -51,6 +51,13 @@ PolarChart::PolarChart(QCustomPlot& plot)
     m_angle->grid()->setAngularPen(QPen(QColor(200, 200, 200), 0, Qt::DotLine));
     m_angle->grid()->setRadialPen(QPen(QColor(200, 200, 200), 0, Qt::DotLine));
     radius()->setAngle(90.0);
+}
+
+QPainterPath PolarChart::outline() const
+{
+    QPainterPath outline;
+    outline.addEllipse(m_angle->center(), m_angle->radius(), m_angle->radius());
+    return outline;
 }
 
 LinePlane PolarChart::plane(const LineAxes&) const

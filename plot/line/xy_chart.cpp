@@ -43,7 +43,7 @@ public:
 
 protected:
     ChartView view() override;
-    QRegion outline() const override { return m_plot.axisRect()->rect(); }
+    QPainterPath outline() const override;
 
 private:
     /// An axis, and whether it shows what somebody has chosen or fitted.
@@ -62,6 +62,13 @@ private:
     Axes m_first;
     Axes m_second;
 };
+
+QPainterPath XyChart::outline() const
+{
+    QPainterPath outline;
+    outline.addRect(m_plot.axisRect()->rect());
+    return outline;
+}
 
 /// Axes of one direction: the first on a side of the box, the others outside.
 template<class Axes>

@@ -20,6 +20,10 @@ static QString summary(const Options& options)
     add("script", options.script);
     add("report", options.report);
     add("picture", options.picture);
+    if (!options.picture.isEmpty()) {
+        const QSize size = options.pictureSize.pixels();
+        add("size", QStringLiteral("%1x%2").arg(size.width()).arg(size.height()));
+    }
     add("plot3d", plot3DLayoutText(options.plot3d));
     add("help", options.help ? QStringLiteral("yes") : QString());
     add("version", options.version ? QStringLiteral("yes") : QString());
@@ -42,8 +46,13 @@ private Q_SLOTS:
         row("demo with equals sign", "--demo=xy", "demo:xy", false);
         row("demo before an option", "--demo --report r.json", "demo:field2d report:r.json", true);
         row("script, picture and file in any order", "--play s.jsonl --render p.png d.cgns",
-            "files:d.cgns script:s.jsonl picture:p.png", true);
-        row("value that begins with a dash", "--render -p.png", "picture:-p.png", true);
+            "files:d.cgns script:s.jsonl picture:p.png size:1200x900", true);
+        row("value that begins with a dash", "--render -p.png", "picture:-p.png size:1200x900",
+            true);
+        row("page", "--render p.PDF", "picture:p.PDF size:1890x1417", true);
+        row("resolution", "--render p.svg --size 25.4x12.7mm --dpi 600",
+            "picture:p.svg size:600x300", true);
+        row("pixels", "--render p.svg --size 640x480", "picture:p.svg size:640x480", true);
         row("file that looks like an option", "-- --demo", "files:--demo", false);
         row("plot3d", "--plot3d format=ascii,grids=many m.xyz",
             "files:m.xyz plot3d:format=ascii,grids=many", false);
@@ -72,6 +81,11 @@ private Q_SLOTS:
         row("given twice", "--play a --play b", "--play");
         row("unknown demo", "--demo field4d", "field4d");
         row("demo and files", "--demo xy a.vtu", "--demo");
+        row("picture of no format", "--render p.foo", "p.foo");
+        row("bad size", "--render p.png --size 160mm", "160mm");
+        row("size of nothing", "--render p.png --size 0x10", "0x10");
+        row("too large a picture", "--render p.pdf --size 2000x2000mm", "23622");
+        row("bad resolution", "--render p.pdf --dpi -1", "-1");
         row("bad layout", "--plot3d endian=middle a.xyz", "middle");
     }
 

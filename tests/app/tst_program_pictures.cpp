@@ -47,6 +47,36 @@ private Q_SLOTS:
         QVERIFY2(colorsOf(image) > 3, "the picture is not empty");
     }
 
+    void keepsLinesAndTexts_data()
+    {
+        const Rows<QStringList, QString, QByteArrayList, QByteArray> row;
+
+        row("lines as PDF", {"--demo", "xy"}, "a.pdf",
+            {"%PDF-", "/MediaBox [0 0 454 340]", "/FontFile2"}, "/Image");
+        row("lines as SVG", {"--demo", "xy", "--size", "80x60mm"}, "a.svg",
+            {"<svg ", "width=\"80mm\"", "clip-path=\"url(#clip", ">Time</text>"}, "<image");
+        row("field as PDF", {"--demo", "field2d", "--size", "600x450"}, "a.pdf",
+            {"%PDF-", "/FontFile2", "/Width 600"}, "CreationDate");
+    }
+
+    void keepsLinesAndTexts()
+    {
+        const auto [arguments, name, parts, lacking] =
+            currentRow<QStringList, QString, QByteArrayList, QByteArray>();
+        QByteArrayList written;
+        for (int i = 0; i < 2; ++i) {
+            QFile file(m_folder.filePath(name));
+            const ProgramRun run =
+                runProgram(arguments + QStringList {"--render", file.fileName()});
+            QVERIFY2(run.exitCode == 0 && file.open(QIODevice::ReadOnly), qPrintable(run.errors));
+            written << file.readAll();
+        }
+        for (const QByteArray& part : parts)
+            QVERIFY2(written[0].contains(part), part.constData());
+        QVERIFY2(!written[0].contains(lacking), lacking.constData());
+        QVERIFY2(written[0] == written[1], "the same picture gives the same bytes");
+    }
+
     void aScriptChangesThePicture()
     {
         const QString plain = m_folder.filePath(QStringLiteral("plain.png"));

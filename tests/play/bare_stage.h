@@ -25,10 +25,9 @@ public:
     {
         return QStringLiteral("this stage reads no files");
     }
-    QImage canvasImage(QString* error) override
+    QString saveCanvas(const QString&) override
     {
-        *error = QStringLiteral("this stage has no canvas");
-        return {};
+        return QStringLiteral("this stage has no canvas");
     }
 
 private:

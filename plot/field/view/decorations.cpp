@@ -89,7 +89,7 @@ static std::vector<QRectF> inRows(const std::vector<double>& widths, const QRect
 static double fontFor(const QSize& size, double fontScale)
 {
     constexpr double kLargestShare = 10.0; // of the picture, in heights of text
-    const double usual = std::clamp(std::min(size.height() / 45.0, size.width() / 50.0), 9.0, 40.0);
+    const double usual = std::max(std::min(size.height() / 45.0, size.width() / 50.0), 9.0);
     return std::max(
         1.0, std::min(usual * fontScale, std::min(size.width(), size.height()) / kLargestShare));
 }

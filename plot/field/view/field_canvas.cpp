@@ -277,9 +277,9 @@ void FieldCanvas::learn(double seconds)
         known = m_isUnfinished ? std::max(known, m_pictureTime) : m_pictureTime;
 }
 
-QImage FieldCanvas::render(const QSize& size, QString* error)
+QString FieldCanvas::paint(QPaintDevice& device)
 {
-    return drawFieldImage(scene().frameId(), m_view.camera(), m_cache, size, error);
+    return paintField(scene().frameId(), m_view.camera(), m_cache, device);
 }
 
 bool FieldCanvas::eventFilter(QObject* watched, QEvent* event)

@@ -29,7 +29,7 @@ public:
     void drawMore() override;
     void stopDrawing() override;
     std::pair<CvlInt64, CvlInt64> drawingProgress() const override;
-    QImage render(const QSize& size, QString* error) override;
+    QString paint(QPaintDevice& device) override;
     QString problem() const override { return m_problem; }
     bool isBeingMoved() const override { return m_hand.isActive(); }
     void sceneChanged(const host::StateEvent& event) override;

@@ -156,14 +156,15 @@ double legendHeight(const FieldLegend& legend, double font)
     return (barTop(lines) + barHeight(legend) + kHalfText) * font;
 }
 
+/// Each band reaches below all above it, so that no paper shines through between two.
 static void paintBands(QPainter& painter, const QRectF& bar, const std::vector<host::Rgb>& colors)
 {
     const double height = bar.height() / static_cast<double>(colors.size());
     double bottom = bar.bottom();
     for (const host::Rgb& color : colors) {
-        bottom -= height;
-        painter.fillRect(QRectF(bar.left(), bottom, bar.width(), height),
+        painter.fillRect(QRectF(bar.topLeft(), QPointF(bar.right(), bottom)),
                          QColor(color.red, color.green, color.blue));
+        bottom -= height;
     }
     painter.drawRect(bar);
 }

@@ -27,17 +27,16 @@ static QImage pixelsOf(vtkRenderWindow& window, const QSize& size)
     return upsideDown.mirrored().convertToFormat(QImage::Format_RGB32);
 }
 
-QImage drawFieldImage(CvlUniqueId frame, const CameraState& camera,
-                      std::shared_ptr<SurfaceCache> cache, const QSize& size, QString* error,
-                      std::vector<SceneNote>* notes)
+QString paintField(CvlUniqueId frame, const CameraState& camera,
+                   std::shared_ptr<SurfaceCache> cache, QPaintDevice& device,
+                   std::vector<SceneNote>* notes)
 {
+    const QSize size(device.width(), device.height());
     QString problem = sizeProblem(size);
     if (problem.isEmpty())
         problem = openGlProblem();
-    if (error)
-        *error = problem;
     if (!problem.isEmpty())
-        return {};
+        return problem;
     vtkNew<vtkRenderWindow> window;
     window->SetOffScreenRendering(1);
     window->SetMultiSamples(0);
@@ -53,13 +52,15 @@ QImage drawFieldImage(CvlUniqueId frame, const CameraState& camera,
     view.scene().advance(-1);
     view.prepare();
     window->Render();
-    QImage image =
-        pixelsOf(*window, drawnSize).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    QPainter painter(&image);
+    QPainter painter(&device);
+    painter.setRenderHint(QPainter::LosslessImageRendering);
+    painter.drawImage(
+        0, 0,
+        pixelsOf(*window, drawnSize).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     view.paintDecorations(painter);
     if (notes)
         *notes = view.scene().notes();
-    return image;
+    return {};
 }
 
 } // namespace corvala::plot

@@ -3,15 +3,15 @@
 
 #include "plot/field/view/field_view.h"
 
-#include <QImage>
+class QPaintDevice;
 
 namespace corvala::plot {
 
-/// Draws a frame, with the work that it takes, as an image of `size` pixels. Null, with the reason
-/// in `error` (may be null), without OpenGL, for an empty size or one too large for it. `notes`
-/// (may be null) gets what there is to wonder at.
-QImage drawFieldImage(CvlUniqueId frame, const CameraState& camera,
-                      std::shared_ptr<SurfaceCache> cache, const QSize& size, QString* error,
-                      std::vector<SceneNote>* notes = nullptr);
+/// Draws a frame, with the work that it takes, as PaintPicture: the scene is an image everywhere,
+/// axes, legends and remarks are lines and texts. Not without OpenGL, or for a device too large for
+/// it. `notes` (may be null) gets what there is to wonder at.
+QString paintField(CvlUniqueId frame, const CameraState& camera,
+                   std::shared_ptr<SurfaceCache> cache, QPaintDevice& device,
+                   std::vector<SceneNote>* notes = nullptr);
 
 } // namespace corvala::plot

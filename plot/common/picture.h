@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plot/common/picture_size.h"
+
+#include <QByteArray>
+#include <QImage>
+
+#include <functional>
+
+class QPaintDevice;
+
+namespace corvala::plot {
+
+/// Draws a picture all over a device, in its pixels. Empty on success, else the reason why it
+/// cannot be drawn, for the user.
+using PaintPicture = std::function<QString(QPaintDevice&)>;
+
+/// Whether a device takes lines, areas and texts as such, and not as pixels.
+bool isVectorDevice(const QPaintDevice& device);
+
+// A picture in one of the ways to keep it. Empty, with the reason in `error` (may be null), when it
+// cannot be drawn. The same picture gives the same bytes.
+
+QImage pictureImage(const QSize& size, const PaintPicture& paint, QString* error);
+/// A page of this size; images are as they are, with `dotsPerInch`.
+QByteArray picturePdf(const PictureSize& size, const PaintPicture& paint, QString* error);
+QByteArray pictureSvg(const PictureSize& size, const PaintPicture& paint, QString* error);
+
+} // namespace corvala::plot
