@@ -92,9 +92,12 @@ XyChart::XyChart(QCustomPlot& plot)
     box->setupFullAxesBox(true);
     addAxes(*box, m_first, QCPAxis::atBottom, QCPAxis::atTop);
     addAxes(*box, m_second, QCPAxis::atLeft, QCPAxis::atRight);
-    for (QCPAxis* const axis : box->axes()) {
-        axis->grid()->setLayer("grid");
-        axis->setLayer("axes");
+    // Drawn in this order; that of all axes is another one in each run.
+    for (const auto side : {QCPAxis::atLeft, QCPAxis::atRight, QCPAxis::atTop, QCPAxis::atBottom}) {
+        for (QCPAxis* const axis : box->axes(side)) {
+            axis->grid()->setLayer("grid");
+            axis->setLayer("axes");
+        }
     }
     plot.setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
     updateAxes();
