@@ -52,7 +52,7 @@ private Q_SLOTS:
         const Rows<QStringList, QString, QByteArrayList, QByteArray> row;
 
         row("lines as PDF", {"--demo", "xy"}, "a.pdf",
-            {"%PDF-", "/MediaBox [0 0 454.0", "/FontFile2"}, "/Image");
+            {"%PDF-", "/MediaBox [0 0 454.0", "/FontFile2"}, "/Subtype /Image");
         row("lines as SVG", {"--demo", "xy", "--size", "80x60mm"}, "a.svg",
             {"<svg ", "width=\"80mm\"", "clip-path=\"url(#clip", ">Time</text>"}, "<image");
         row("field as PDF", {"--demo", "field2d", "--size", "600x450"}, "a.pdf",
