@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_canvas.h"
 
+#include "host/document/document.h"
 #include "plot/common/picture.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace corvala::plot {
 
@@ -61,9 +64,65 @@ void LineCanvas::resizeEvent(QResizeEvent* event)
     m_plot.setFrameHeight(height());
 }
 
+void LineCanvas::sceneChanged(const host::StateEvent& event)
+{
+    for (const host::StyleChange& change : event.styleChanges)
+        if (isChartRange(style::Key {change.attribute}))
+            m_plot.fit();
+}
+
 CvlInt64 LineCanvas::numberAt(const QPointF& place)
 {
+    if (m_plot.legend().box().contains(place))
+        return m_plot.legend().mapAt(place);
     return m_plot.chart().mapAt(place, kPickPixels);
+}
+
+bool LineCanvas::takesHold(const QPointF& place)
+{
+    return m_plot.legend().box().contains(place);
+}
+
+void LineCanvas::moveHeld(const QPointF& by)
+{
+    m_plot.legend().move(by);
+    m_widget->replot(QCustomPlot::rpQueuedReplot);
+}
+
+/// The place of the legend becomes one of the style, in one undo step.
+void LineCanvas::letGo()
+{
+    const QPointF corner = m_plot.legend().corner();
+    host::Document& document = host::Document::instance();
+    const auto write = [&](style::Key key, const host::StyleInput& value) {
+        document.execute(host::SetStyle {host::pathOf(key), value, std::nullopt});
+    };
+    document.undo().begin(UndoKind_StyleGroup);
+    write(style::lineLegend.automaticPlace, false);
+    write(style::lineLegend.x, corner.x());
+    write(style::lineLegend.y, corner.y());
+    document.undo().end(host::UndoHistory::Closing::OneStep);
+}
+
+/// What the axes show at first, and where the legend is.
+std::optional<double> LineCanvas::proposal(style::Key value, int index) const
+{
+    if (value == style::lineLegend.x || value == style::lineLegend.y) {
+        const QPointF corner = m_plot.legend().corner();
+        return value == style::lineLegend.x ? corner.x() : corner.y();
+    }
+    const ChartRange home = m_plot.home();
+    const auto end = [&](const auto& axis, const AxisRange& range) -> std::optional<double> {
+        const bool isKnown = range.minimum < range.maximum;
+        if (isKnown && value == axis.rangeMin)
+            return range.minimum;
+        return isKnown && value == axis.rangeMax ? std::optional(range.maximum) : std::nullopt;
+    };
+    const auto number = static_cast<std::size_t>(std::max(index, 1)) - 1;
+    if (m_plot.isPolar())
+        return end(style::lineAxes.polar, home.second[0]);
+    const auto first = end(style::lineAxes.x, home.first[number]);
+    return first ? first : end(style::lineAxes.y, home.second[number]);
 }
 
 bool LineCanvas::dragged(const QPointF&)

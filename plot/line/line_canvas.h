@@ -21,12 +21,17 @@ public:
     QString paint(QPaintDevice& device) override;
     std::any view() const override;
     void setView(const std::any& view) override;
+    std::optional<double> proposal(style::Key value, int index) const override;
+    void sceneChanged(const host::StateEvent& event) override;
 
     /// The plot, for tests and diagnosis.
     QCustomPlot& plot() { return *m_widget; }
 
 protected:
     CvlInt64 numberAt(const QPointF& place) override;
+    bool takesHold(const QPointF& place) override;
+    void moveHeld(const QPointF& by) override;
+    void letGo() override;
     bool dragged(const QPointF& by) override;
     bool wheelTurned(const QWheelEvent& wheel) override;
     void resizeEvent(QResizeEvent* event) override;

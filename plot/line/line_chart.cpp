@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_chart.h"
 
+#include "plot/common/axis_ticks.h"
+#include "plot/line/broken_text.h"
+
 #include <cmath>
 
 namespace corvala::plot {
@@ -24,12 +27,51 @@ private:
     LineChart& m_chart;
 };
 
+BrokenTitle::BrokenTitle(QCustomPlot& plot)
+    : QCPTextElement(&plot)
+{
+}
+
+void BrokenTitle::set(const QString& text, const QFont& font)
+{
+    m_whole = text;
+    setFont(font);
+}
+
+void BrokenTitle::update(UpdatePhase phase)
+{
+    constexpr double kShare = 0.95; // of the width
+    if (phase == upPreparation) {
+        const int gap = QFontMetrics(font()).height() / 4;
+        setMargins({gap, gap, gap, 0});
+        setText(brokenText(m_whole, font(), kShare * parentPlot()->viewport().width()));
+    }
+    QCPTextElement::update(phase);
+}
+
 LineChart::LineChart(QCustomPlot& plot)
-    : m_sheet(std::make_unique<Sheet>(plot, *this))
+    : m_plot(plot)
+    , m_sheet(std::make_unique<Sheet>(plot, *this))
 {
 }
 
 LineChart::~LineChart() = default;
+
+void LineChart::setTitle(const ChartLook& look)
+{
+    constexpr double kTimesLarger = 1.2;
+    QCPLayoutGrid& layout = *m_plot.plotLayout();
+    if (!m_title && !look.title.isEmpty()) {
+        m_title = new BrokenTitle(m_plot);
+        layout.insertRow(0);
+        layout.addElement(0, 0, m_title);
+    } else if (m_title && look.title.isEmpty()) {
+        layout.remove(std::exchange(m_title, nullptr));
+        layout.simplify();
+    }
+    if (m_title)
+        m_title->set(look.title, plotFont(kTimesLarger * look.font, true));
+}
 
 void LineChart::draw(QCPPainter& painter)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "plot/line/chart_look.h"
 #include "plot/line/custom_plot.h"
 #include "plot/line/line_ink.h"
 #include "plot/line/line_plane.h"
@@ -13,18 +14,16 @@
 
 namespace corvala::plot {
 
-/// What is written along an axis.
-struct AxisTitle
+/// A text above or below a chart, in as many lines as the width of the plot asks for.
+class BrokenTitle : public QCPTextElement
 {
-    QString text;
-    bool isOfInstants = false; ///< values are seconds since 1970-01-01 00:00 UTC
-};
+public:
+    explicit BrokenTitle(QCustomPlot& plot);
+    void set(const QString& text, const QFont& font);
+    void update(UpdatePhase phase) override;
 
-/// What is written along the axes.
-struct ChartTitles
-{
-    std::array<AxisTitle, kAxisCount> first;
-    std::array<AxisTitle, kAxisCount> second;
+private:
+    QString m_whole;
 };
 
 /// Axes with the shapes of line maps in a QCustomPlot; XY and polar charts are its kinds. Whenever
@@ -41,15 +40,19 @@ public:
     /// To be called before each drawing, as long as the chart lives: shapes that lie in another
     /// plane than the present one are to be made again.
     void setBeforeDrawing(std::function<void()> action) { m_beforeDrawing = std::move(action); }
-    virtual void setTitles(const ChartTitles& titles) = 0;
+    /// Draws titles, axes and grid so from now on.
+    virtual void setLook(const ChartLook& look) = 0;
     /// Shows the axes that shapes are drawn along.
     virtual void updateAxes() { }
-    /// Shows all shapes with a margin; `radii` are those of all points.
-    virtual void fit(const AxisRange& radii) = 0;
+    /// What is shown at first: the ranges that were set, else all shapes with a margin; `radii` are
+    /// those of all points.
+    virtual ChartRange home(const AxisRange& radii) const = 0;
+    virtual void fit(const AxisRange& radii) { setRange(home(radii)); }
     virtual ChartRange range() const = 0;
     virtual void setRange(const ChartRange& range) = 0;
-    virtual void setFont(const QFont& font) = 0;
 
+    /// Where a legend has its corners, in pixels.
+    virtual QRect area() const = 0;
     /// The map of the shape nearest to a pixel, up to `tolerance` pixels away; 0 for none.
     std::int64_t mapAt(const QPointF& pixel, double tolerance);
     LineInk& ink() { return m_ink; }
@@ -63,12 +66,16 @@ protected:
     /// How the shapes lie in the widget at present, whatever is outside left out.
     virtual ChartView view() = 0;
     virtual QPainterPath outline() const = 0; ///< of the shapes
+    /// Puts the title of the plot above it; none when it is empty.
+    void setTitle(const ChartLook& look);
 
 private:
     class Sheet;
     void draw(QCPPainter& painter);
 
     LineInk m_ink;
+    QCustomPlot& m_plot;
+    BrokenTitle* m_title = nullptr; // owned by the plot
     std::unique_ptr<Sheet> m_sheet;
     std::function<void()> m_beforeDrawing;
     int m_patience = 60;

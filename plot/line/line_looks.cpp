@@ -47,6 +47,7 @@ struct LineLayerDescription
 {
     SceneLayer layer;
     std::shared_ptr<const ChartShape> (*shape)(const ShownLine&, const LineGeometry&);
+    LegendSample (*sample)(const ShownLine&);
 
     bool isIn(const host::Frame& frame, CvlInt64 map) const
     {
@@ -54,10 +55,10 @@ struct LineLayerDescription
     }
 };
 static constexpr LineLayerDescription kLayers[] = {
-    {{&style::kBarChartsLayer, Points}, barShape},
-    {{&style::kErrorBarsLayer, Points}, errorBarShape},
-    {{&style::kLinesLayer, Points | Curves}, curveShape},
-    {{&style::kSymbolsLayer, Points}, symbolShape},
+    {{&style::kBarChartsLayer, Points}, barShape, barSample},
+    {{&style::kErrorBarsLayer, Points}, errorBarShape, errorBarSample},
+    {{&style::kLinesLayer, Points | Curves}, curveShape, curveSample},
+    {{&style::kSymbolsLayer, Points}, symbolShape, symbolSample},
 };
 
 static const SceneLayer& layerAt(std::size_t number)
@@ -82,6 +83,11 @@ std::shared_ptr<const ChartShape> shapeIn(std::size_t layer, const ShownLine& li
                                           const LineGeometry& geometry)
 {
     return kLayers[layer].shape(line, geometry);
+}
+
+LegendSample sampleIn(std::size_t layer, const ShownLine& line)
+{
+    return kLayers[layer].sample(line);
 }
 
 bool isInLayer(const host::Frame& frame, CvlInt64 map, std::size_t layer)

@@ -15,8 +15,10 @@ static double logarithm(double value)
 std::pair<double, double> LinePlane::place(double first, double second) const
 {
     if (isPolar) {
-        const double angle = qDegreesToRadians(first);
-        return {(second - middle) * std::cos(angle), (second - middle) * std::sin(angle)};
+        const double angle = qDegreesToRadians(isClockwise ? start - first : start + first);
+        const double radius =
+            second >= middle ? second - middle : std::numeric_limits<double>::quiet_NaN();
+        return {radius * std::cos(angle), radius * std::sin(angle)};
     }
     return {isFirstLogarithmic ? logarithm(first) : first,
             isSecondLogarithmic ? logarithm(second) : second};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cmath>
+#include <tuple>
 #include <utility>
 
 namespace corvala::plot {
@@ -14,15 +15,17 @@ struct LinePlane
     bool isFirstLogarithmic = false;
     bool isSecondLogarithmic = false;
     bool isPolar = false;
-    double middle = 0.0; ///< radius at the origin of a polar plane
+    double middle = 0.0; ///< radius at the origin of a polar plane: less has no place
+    double start = 0.0; ///< degrees against the clock from the right to the angle 0
+    bool isClockwise = false; ///< polar angles
 
-    std::pair<double, double> place(double first, double second) const;
-    bool operator==(const LinePlane& other) const
+    auto tied() const
     {
-        return isFirstLogarithmic == other.isFirstLogarithmic
-            && isSecondLogarithmic == other.isSecondLogarithmic && isPolar == other.isPolar
-            && middle == other.middle;
+        return std::tie(isFirstLogarithmic, isSecondLogarithmic, isPolar, middle, start,
+                        isClockwise);
     }
+    std::pair<double, double> place(double first, double second) const;
+    bool operator==(const LinePlane& other) const { return tied() == other.tied(); }
 };
 
 } // namespace corvala::plot

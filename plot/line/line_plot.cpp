@@ -2,6 +2,7 @@
 #include "plot/line/line_plot.h"
 
 #include "host/document/line_map_name.h"
+#include "plot/line/line_notes.h"
 
 #include <QElapsedTimer>
 
@@ -16,8 +17,10 @@ LinePlot::LinePlot(QCustomPlot& plot)
     : MapScene(lineSceneKind(), kLargestPlot)
     , m_plot(plot)
     , m_chart(makeXyChart(plot))
+    , m_legend(plot)
     , m_patience(m_chart->patience())
 {
+    m_legend.setChart(*m_chart);
 }
 
 void LinePlot::clear(const host::Frame* drawn, Fresh)
@@ -27,25 +30,19 @@ void LinePlot::clear(const host::Frame* drawn, Fresh)
         std::exchange(m_plotType, drawn ? drawn->plotType() : PlotType_None);
     m_chart.reset();
     m_chart = isPolar() ? makePolarChart(m_plot) : makeXyChart(m_plot);
+    m_legend.setChart(*m_chart);
     m_chart->setPatience(m_patience);
     m_chart->setBeforeDrawing([this] { followPlanes(); });
+    m_geometries.clear();
+    if (drawn)
+        applyLook(*drawn);
     if (!m_isFitted && m_plotType == plotTypeBefore)
         m_chart->setRange(range);
-    m_geometries.clear();
-    applyHeight();
-}
-
-void LinePlot::applyHeight()
-{
-    QFont font = m_plot.font();
-    font.setPixelSize(static_cast<int>(std::max(m_height / 45.0, 9.0)));
-    m_chart->setFont(font);
 }
 
 void LinePlot::setFrameHeight(int height)
 {
     m_height = height;
-    applyHeight();
     pend(lineSceneKind().allLayers(), shownMaps());
 }
 
@@ -55,8 +52,10 @@ void LinePlot::setPatience(int milliseconds)
     m_chart->setPatience(milliseconds);
 }
 
+/// Scales of axes come first: shapes are made by them.
 LayerMask LinePlot::showLayers(const host::Frame& drawn)
 {
+    applyLook(drawn);
     LayerMask shown = 0;
     for (std::size_t layer = 0; layer < lineSceneKind().layerCount; ++layer)
         shown |= isLayerOn(drawn, layer) ? maskOf(layer) : 0;
@@ -177,8 +176,10 @@ bool LinePlot::advance(int milliseconds)
 
 void LinePlot::prepare()
 {
-    if (const host::Frame* const drawn = frame())
-        updateTitles(*drawn);
+    const host::Frame* const drawn = frame();
+    if (drawn)
+        applyLook(*drawn);
+    m_legend.set(drawn ? legendLookOf(*drawn, shownMaps(), m_height) : LegendLook());
     if (m_isFitted)
         m_chart->fit(isPolar() ? radii() : AxisRange());
     m_chart->updateAxes();
@@ -213,27 +214,41 @@ struct AxisVariables
     bool areInstants = true;
 
     void add(const host::Frame& drawn, CvlInt64 variable);
-    AxisTitle title() const
-    {
-        return {names.join(QStringLiteral(", ")), areInstants && !names.isEmpty()};
-    }
+    QString title(bool hasLegend) const;
+    void title(AxisLook& axis, bool hasLegend) const;
 };
 
 } // namespace
 
-/// Names come after commas; an ellipsis when there are many.
 void AxisVariables::add(const host::Frame& drawn, CvlInt64 variable)
 {
-    constexpr int kMostNames = 4;
     const host::DataSet* const data = drawn.data();
     const QString name = QString::fromStdString(host::shownVariableName(data, variable));
-    if (names.size() <= kMostNames && !names.contains(name))
-        names.append(names.size() < kMostNames ? name : QStringLiteral("\u2026"));
+    if (!names.contains(name))
+        names.append(name);
     areInstants = areInstants && data && data->hasVariable(variable)
         && data->variable(variable).kind == host::VariableKind::Instant;
 }
 
-void LinePlot::updateTitles(const host::Frame& drawn)
+/// Many names are those of a legend, or the first ones and an ellipsis.
+QString AxisVariables::title(bool hasLegend) const
+{
+    constexpr int kMostNames = 4;
+    const QString separator = QStringLiteral(", ");
+    if (names.size() <= kMostNames)
+        return names.join(separator);
+    return hasLegend ? QString() : names.mid(0, kMostNames).join(separator) + ", \u2026";
+}
+
+void AxisVariables::title(AxisLook& axis, bool hasLegend) const
+{
+    axis.isOfInstants = areInstants && !names.isEmpty();
+    if (axis.title.isEmpty())
+        axis.title = title(hasLegend);
+}
+
+/// Axes without a title of their own have the names of the variables along them.
+void LinePlot::addNames(const host::Frame& drawn, ChartLook& look) const
 {
     std::array<AxisVariables, kAxisCount> first;
     std::array<AxisVariables, kAxisCount> second;
@@ -245,36 +260,28 @@ void LinePlot::updateTitles(const host::Frame& drawn)
         first[axes.first].add(drawn, recipe.first);
         second[axes.second].add(drawn, recipe.second);
     }
-    ChartTitles titles;
+    const bool hasLegend = drawn.isOn(style::lineLegend.show);
     for (std::size_t i = 0; i < kAxisCount; ++i) {
-        titles.first[i] = first[i].title();
-        titles.second[i] = second[i].title();
+        first[i].title(look.first[i], hasLegend);
+        second[i].title(look.second[i], hasLegend);
     }
-    m_chart->setTitles(titles);
+    const QString angle = first[0].title(hasLegend);
+    const QString radius = second[0].title(hasLegend);
+    if (look.polar.title.isEmpty() && !angle.isEmpty() && !radius.isEmpty())
+        look.polar.title = tr("%1 over %2").arg(radius, angle);
 }
 
-/// The first map whose curve is missing.
-std::optional<SceneNote> LinePlot::curveNote() const
+void LinePlot::applyLook(const host::Frame& drawn)
 {
-    const host::Frame* const drawn = frame();
-    CvlInt64 first = 0;
-    for (const auto& [map, geometry] : m_geometries)
-        if (geometry.curveProblem != CurveProblem::None && (first == 0 || map < first))
-            first = map;
-    if (!drawn || first == 0)
-        return std::nullopt;
-    return SceneNote {tr("There is no curve through the points of \"%1\": %2.")
-                          .arg(QString::fromStdString(host::shownLineMapName(*drawn, first)),
-                               problemText(m_geometries.at(first).curveProblem)),
-                      style::lineMap.curves.curveType};
+    ChartLook look = chartLookOf(drawn, m_height);
+    addNames(drawn, look);
+    m_chart->setLook(look);
 }
 
 std::vector<SceneNote> LinePlot::notes() const
 {
-    std::vector<SceneNote> notes;
-    if (auto note = curveNote())
-        notes.push_back(std::move(*note));
-    return notes;
+    const host::Frame* const drawn = frame();
+    return drawn ? lineNotesOn({*drawn, shownMaps(), m_geometries}) : std::vector<SceneNote>();
 }
 
 QString LinePlot::notice() const

@@ -3,11 +3,11 @@
 
 #include "plot/common/map_scene.h"
 #include "plot/line/line_chart.h"
+#include "plot/line/line_legend.h"
 #include "plot/line/line_looks.h"
 
 #include <QCoreApplication>
 
-#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -35,16 +35,20 @@ public:
 
     /// Pixels; thicknesses and pattern lengths are a share of it.
     void setFrameHeight(int height);
-    /// Brings titles and range up to date before the plot is drawn.
+    /// Brings axes, titles and range up to date before the plot is drawn.
     void prepare();
     /// How long drawing the plot itself may draw lines; negative until all is done.
     void setPatience(int milliseconds);
 
+    /// What the axes show at first.
+    ChartRange home() const { return m_chart->home(isPolar() ? radii() : AxisRange()); }
     void fit() { m_isFitted = true; }
     void setMoved() { m_isFitted = false; }
     bool isFitted() const { return m_isFitted; }
     LineChart& chart() { return *m_chart; }
     const LineChart& chart() const { return *m_chart; }
+    LineLegend& legend() { return m_legend; }
+    const LineLegend& legend() const { return m_legend; }
     /// What is drawn; PlotType_None without a line frame.
     PlotType_e plotType() const { return m_plotType; }
     bool isPolar() const { return m_plotType == PlotType_LinePolar; }
@@ -59,18 +63,18 @@ protected:
     void forget(CvlInt64 map) override;
 
 private:
-    void applyHeight();
     /// Puts the map into a layer, or takes it out.
     void syncLayer(std::size_t layer, const ShownLine& line, bool isShown);
     const LineGeometry& geometryOf(const ShownLine& line);
     static void makeCurve(const ShownLine& line, LineGeometry& geometry);
-    std::optional<SceneNote> curveNote() const;
     void followPlanes();
     AxisRange radii() const;
-    void updateTitles(const host::Frame& frame);
+    void applyLook(const host::Frame& frame);
+    void addNames(const host::Frame& frame, ChartLook& look) const;
 
     QCustomPlot& m_plot;
     std::unique_ptr<LineChart> m_chart;
+    LineLegend m_legend;
     PlotType_e m_plotType = PlotType_None;
     bool m_isFitted = true;
     int m_height = 1;

@@ -8,6 +8,8 @@
 #include "plot/line/stroked_line.h"
 #include "plot/line/symbol_marks.h"
 
+#include <QPainter>
+
 #include <limits>
 #include <utility>
 
@@ -81,6 +83,21 @@ std::shared_ptr<const ChartShape> curveShape(const ShownLine& line, const LineGe
     return std::make_shared<StrokedLine>(geometry.curve, strokeOf(LineStyle(line)));
 }
 
+LegendSample curveSample(const ShownLine& line)
+{
+    return [stroke = strokeOf(LineStyle(line))](QPainter& painter, const QRectF& place) {
+        LineStroke fitting = stroke;
+        fitting.width = std::min(fitting.width, 0.7 * place.height());
+        const double height = place.center().y();
+        const std::vector<double> ends {place.left(), place.right()};
+        LineView view; // pixels as they are
+        view.visible = {place.left(), place.right(), place.top(), place.bottom()};
+        StrokedLine(std::make_shared<const Polyline>(ends, std::vector<double> {height, height}),
+                    std::move(fitting))
+            .paint(painter, view);
+    };
+}
+
 static SymbolStyle symbolStyleOf(const LineStyle& style)
 {
     const auto& symbols = kMap.symbols;
@@ -105,6 +122,15 @@ std::shared_ptr<const ChartShape> symbolShape(const ShownLine& line, const LineG
     return std::make_shared<SymbolMarks>(
         MarkedPoints {geometry.places, style.spacing(kMap.symbols.skipMode, kMap.symbols.skipping)},
         symbolStyleOf(style));
+}
+
+LegendSample symbolSample(const ShownLine& line)
+{
+    return [symbol = symbolStyleOf(LineStyle(line))](QPainter& painter, const QRectF& place) {
+        SymbolStyle fitting = symbol;
+        fitting.size = std::min(fitting.size, place.height());
+        fitting.paint(painter, place.center());
+    };
 }
 
 /// How far bars of a type extend to the left, to the right, down and up.
@@ -154,6 +180,12 @@ static ErrorBars::Ends endsOf(const LineGeometry& geometry, const std::vector<do
     return ends;
 }
 
+static ErrorBarStyle errorBarStyleOf(const LineStyle& style)
+{
+    const auto& keys = kMap.errorBars;
+    return {style.color(keys.color), style.width(keys.lineThickness), style.pixels(keys.size)};
+}
+
 std::shared_ptr<const ChartShape> errorBarShape(const ShownLine& line, const LineGeometry& geometry)
 {
     const LineStyle style(line);
@@ -165,23 +197,53 @@ std::shared_ptr<const ChartShape> errorBarShape(const ShownLine& line, const Lin
         valuesAt(*line.frame.data(), geometry.recipe, *geometry.points, variable);
     return std::make_shared<ErrorBars>(
         MarkedPoints {geometry.places, style.spacing(keys.skipMode, keys.skipping)},
-        endsOf(geometry, extents, style.number(keys.barType)),
-        ErrorBarStyle {style.color(keys.color), style.width(keys.lineThickness),
-                       style.pixels(keys.size)});
+        endsOf(geometry, extents, style.number(keys.barType)), errorBarStyleOf(style));
 }
 
-std::shared_ptr<const ChartShape> barShape(const ShownLine& line, const LineGeometry& geometry)
+LegendSample errorBarSample(const ShownLine& line)
 {
     const LineStyle style(line);
+    if (line.frame.plotType() == PlotType_LinePolar || style.number(kMap.errorBars.var) == 0)
+        return {};
+    return [bar = errorBarStyleOf(style)](QPainter& painter, const QRectF& place) {
+        const double cap = std::min(bar.capSize, place.height()) / 2.0;
+        const QPointF middle = place.center();
+        const QPointF up(0.0, 0.45 * place.height());
+        painter.setPen(QPen(bar.color, bar.width, Qt::SolidLine, Qt::FlatCap));
+        painter.drawLine(middle - up, middle + up);
+        for (const QPointF& end : {middle - up, middle + up})
+            painter.drawLine(end - QPointF(cap, 0.0), end + QPointF(cap, 0.0));
+    };
+}
+
+static BarStyle barStyleOf(const LineStyle& style)
+{
     const auto& keys = kMap.barCharts;
-    if (geometry.plane.isPolar)
-        return nullptr;
     BarStyle bars;
     bars.isUpright = style.number(kMap.assign.functionDependency) == FunctionDependency_YofX;
     bars.width = style.pixels(keys.size);
     bars.line = style.color(keys.color);
     bars.lineWidth = style.width(keys.lineThickness);
     bars.fill = style.fill(keys.fillMode, keys.fillColor, keys.color);
+    return bars;
+}
+
+LegendSample barSample(const ShownLine& line)
+{
+    if (line.frame.plotType() == PlotType_LinePolar)
+        return {};
+    return [bar = barStyleOf(LineStyle(line))](QPainter& painter, const QRectF& place) {
+        QRectF swatch(0.0, 0.0, 1.2 * place.height(), 0.7 * place.height());
+        swatch.moveCenter(place.center());
+        bar.paint(painter, swatch);
+    };
+}
+
+std::shared_ptr<const ChartShape> barShape(const ShownLine& line, const LineGeometry& geometry)
+{
+    if (geometry.plane.isPolar)
+        return nullptr;
+    BarStyle bars = barStyleOf(LineStyle(line));
     const bool hasZero =
         bars.isUpright ? !geometry.plane.isSecondLogarithmic : !geometry.plane.isFirstLogarithmic;
     return std::make_shared<BarChart>(geometry.places, hasZero, std::move(bars));

@@ -6,6 +6,9 @@
 #include "plot/line/line_curves.h"
 #include "plot/line/line_points.h"
 
+#include <QRectF>
+
+#include <functional>
 #include <memory>
 
 namespace corvala::plot {
@@ -36,5 +39,14 @@ std::shared_ptr<const ChartShape> symbolShape(const ShownLine& line, const LineG
 std::shared_ptr<const ChartShape> errorBarShape(const ShownLine& line,
                                                 const LineGeometry& geometry);
 std::shared_ptr<const ChartShape> barShape(const ShownLine& line, const LineGeometry& geometry);
+
+/// Draws what stands for a layer of a line map in a rectangle of a legend.
+using LegendSample = std::function<void(QPainter&, const QRectF&)>;
+
+// The samples of the layers; null for nothing.
+LegendSample curveSample(const ShownLine& line);
+LegendSample symbolSample(const ShownLine& line);
+LegendSample errorBarSample(const ShownLine& line);
+LegendSample barSample(const ShownLine& line);
 
 } // namespace corvala::plot

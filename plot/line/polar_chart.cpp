@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/common/axis_ticks.h"
 #include "plot/line/line_chart.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -11,17 +10,15 @@ namespace corvala::plot {
 /// is the middle of the chart.
 class PolarChart : public LineChart
 {
-    Q_DECLARE_TR_FUNCTIONS(corvala::plot::PolarChart)
-
 public:
     explicit PolarChart(QCustomPlot& plot);
 
     LinePlane plane(const LineAxes& axes) const override;
-    void setTitles(const ChartTitles& titles) override;
-    void fit(const AxisRange& radii) override;
+    void setLook(const ChartLook& look) override;
+    ChartRange home(const AxisRange& radii) const override;
     ChartRange range() const override;
     void setRange(const ChartRange& range) override;
-    void setFont(const QFont& font) override;
+    QRect area() const override { return m_angle->outerRect(); }
 
 protected:
     ChartView view() override;
@@ -31,7 +28,8 @@ private:
     QCPPolarAxisRadial* radius() const { return m_angle->radialAxis(); }
 
     QCPPolarAxisAngular* m_angle; // owned by the plot
-    QCPTextElement* m_title; // owned by the plot
+    BrokenTitle* m_titles; // owned by the plot
+    PolarLook m_look;
 };
 
 PolarChart::PolarChart(QCustomPlot& plot)
@@ -39,18 +37,15 @@ PolarChart::PolarChart(QCustomPlot& plot)
 {
     plot.plotLayout()->clear();
     m_angle = new QCPPolarAxisAngular(&plot);
-    m_title = new QCPTextElement(&plot);
+    m_titles = new BrokenTitle(plot);
     plot.plotLayout()->addElement(0, 0, m_angle);
-    plot.plotLayout()->addElement(1, 0, m_title);
+    plot.plotLayout()->addElement(1, 0, m_titles);
     plot.setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
     m_angle->setRange(0.0, 360.0);
     m_angle->setRangeDrag(false);
     m_angle->setRangeZoom(false);
-    m_angle->setRangeReversed(true); // counted against the clock, from the right
-    m_angle->setAngle(0.0);
     m_angle->grid()->setAngularPen(QPen(QColor(200, 200, 200), 0, Qt::DotLine));
     m_angle->grid()->setRadialPen(QPen(QColor(200, 200, 200), 0, Qt::DotLine));
-    radius()->setAngle(90.0);
 }
 
 QPainterPath PolarChart::outline() const
@@ -65,22 +60,36 @@ LinePlane PolarChart::plane(const LineAxes&) const
     LinePlane plane;
     plane.isPolar = true;
     plane.middle = radius()->range().lower;
+    plane.start = m_look.start;
+    plane.isClockwise = m_look.isClockwise;
     return plane;
 }
 
-void PolarChart::setTitles(const ChartTitles& titles)
+void PolarChart::setLook(const ChartLook& look)
 {
-    const QString& angle = titles.first[0].text;
-    m_title->setText(angle.isEmpty() ? QString()
-                                     : tr("%1 over %2").arg(titles.second[0].text, angle));
+    setTitle(look);
+    m_look = look.polar;
+    m_titles->set(m_look.title, plotFont(look.font, true));
+    m_angle->setRangeReversed(!m_look.isClockwise);
+    m_angle->setAngle(-m_look.start);
+    radius()->setAngle(90.0 + m_look.start); // downwards, whatever the angle is there
+    m_angle->setBasePen(look.showsBox ? QPen(Qt::black, 0) : QPen(Qt::NoPen));
+    m_angle->grid()->setVisible(look.showsGrid);
+    m_angle->setTickLabelFont(plotFont(look.font));
+    radius()->setTickLabelFont(plotFont(look.font));
 }
 
-void PolarChart::fit(const AxisRange& radii)
+ChartRange PolarChart::home(const AxisRange& radii) const
 {
+    ChartRange home;
+    home.second[0] = m_look.radii;
+    if (m_look.radii.minimum < m_look.radii.maximum)
+        return home;
     const double lowest = std::min(0.0, radii.minimum <= radii.maximum ? radii.minimum : 0.0);
     const double highest = std::max(0.0, radii.minimum <= radii.maximum ? radii.maximum : 0.0);
-    radius()->setRange(lowest,
-                       highest > lowest ? highest + 0.05 * (highest - lowest) : lowest + 1.0);
+    home.second[0] = {lowest,
+                      highest > lowest ? highest + 0.05 * (highest - lowest) : lowest + 1.0};
+    return home;
 }
 
 ChartView PolarChart::view()
@@ -102,15 +111,6 @@ ChartRange PolarChart::range() const
 void PolarChart::setRange(const ChartRange& range)
 {
     radius()->setRange(range.second[0].minimum, range.second[0].maximum);
-}
-
-void PolarChart::setFont(const QFont& font)
-{
-    QFont bold = font;
-    bold.setBold(true);
-    m_title->setFont(bold);
-    m_angle->setTickLabelFont(font);
-    radius()->setTickLabelFont(font);
 }
 
 std::unique_ptr<LineChart> makePolarChart(QCustomPlot& plot)

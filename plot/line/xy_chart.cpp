@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/common/axis_ticks.h"
+#include "plot/line/broken_text.h"
 #include "plot/line/line_chart.h"
+#include "plot/line/log_ticker.h"
 
+#include <algorithm>
 #include <cmath>
+#include <initializer_list>
+#include <utility>
 
 namespace corvala::plot {
 
@@ -26,86 +32,244 @@ protected:
     }
 };
 
-/// Lines over rectangular axes. The first axis of each direction is always there, below and to the
-/// left; the others come when a line is drawn along them, on the sides in turn.
+enum class Ticks { Numbers, Powers, Dates };
+
+/// Lines over rectangular axes. An axis is there while a line is drawn along it; without any line,
+/// the first one of each direction is.
 class XyChart : public LineChart
 {
 public:
     explicit XyChart(QCustomPlot& plot);
 
     LinePlane plane(const LineAxes& axes) const override;
-    void setTitles(const ChartTitles& titles) override;
+    void setLook(const ChartLook& look) override;
     void updateAxes() override;
+    ChartRange home(const AxisRange& radii) const override;
     void fit(const AxisRange& radii) override;
     ChartRange range() const override;
     void setRange(const ChartRange& range) override;
-    void setFont(const QFont& font) override;
+    QRect area() const override;
 
 protected:
     ChartView view() override;
     QPainterPath outline() const override;
 
 private:
-    /// An axis, and whether it shows what somebody has chosen or fitted.
+    class Box;
+
+    /// An axis stands on one of two sides of the box.
     struct Axis
     {
-        QCPAxis* axis = nullptr; // owned by the plot
-        bool hasRange = false;
-        bool hasDates = false;
-    };
-    using Axes = std::array<Axis, kAxisCount>;
+        std::array<QCPAxis*, 2> sides {}; // owned by the plot
+        AxisLook look;
+        Ticks ticks = Ticks::Numbers;
+        bool hasRange = false; ///< that somebody has chosen or fitted
 
-    void fit(Axes& axes, std::size_t number);
-    static void setTitle(Axis& axis, const AxisTitle& title);
+        QCPAxis& shown() const { return *sides[look.isOpposite ? 1 : 0]; }
+    };
+    struct Direction
+    {
+        std::array<Axis, kAxisCount> axes;
+        std::array<QCPAxis*, 2> borders {}; ///< without an axis, its sides of the box
+        std::size_t leading = 0; ///< the first axis that is there: grid and borders are its
+        bool isFirst = true;
+    };
+
+    void addAxes(Direction& direction, QCPAxis::AxisType side, QCPAxis::AxisType across);
+    void applyLook(Axis& axis);
+    void showInUse(Direction& direction, QList<QCPAxis*>& shown);
+    void followBorders(Direction& direction);
+    AxisRange home(const Direction& direction, std::size_t number) const;
+    void adaptToSize();
 
     QCustomPlot& m_plot;
-    Axes m_first;
-    Axes m_second;
+    Box* m_box; // owned by the plot
+    Direction m_first;
+    Direction m_second;
+    bool m_showsGrid = true;
+    bool m_showsBox = true;
+    double m_font = 12.0;
 };
 
-QPainterPath XyChart::outline() const
+/// Adapts the texts before each layout.
+class XyChart::Box : public QCPAxisRect
 {
-    QPainterPath outline;
-    outline.addRect(m_plot.axisRect()->rect());
-    return outline;
-}
-
-/// Axes of one direction: the first on a side of the box, the others outside.
-template<class Axes>
-static void addAxes(QCPAxisRect& box, Axes& axes, QCPAxis::AxisType side, QCPAxis::AxisType across)
-{
-    axes[0].axis = box.axis(side);
-    for (std::size_t i = 1; i < axes.size(); ++i) {
-        axes[i].axis = box.addAxis(i % 2 == 0 ? side : across);
-        axes[i].axis->grid()->setVisible(false);
-        axes[i].axis->setVisible(false);
+public:
+    Box(QCustomPlot& plot, XyChart& chart)
+        : QCPAxisRect(&plot, false)
+        , m_chart(chart)
+    {
     }
-}
+    void update(UpdatePhase phase) override
+    {
+        if (phase == upPreparation)
+            m_chart.adaptToSize();
+        QCPAxisRect::update(phase);
+    }
+
+private:
+    XyChart& m_chart;
+};
 
 XyChart::XyChart(QCustomPlot& plot)
     : LineChart(plot)
     , m_plot(plot)
 {
     plot.plotLayout()->clear();
-    auto* box = new QCPAxisRect(&plot);
-    plot.plotLayout()->addElement(0, 0, box);
-    box->setupFullAxesBox(true);
-    addAxes(*box, m_first, QCPAxis::atBottom, QCPAxis::atTop);
-    addAxes(*box, m_second, QCPAxis::atLeft, QCPAxis::atRight);
-    // Drawn in this order; that of all axes is another one in each run.
-    for (const auto side : {QCPAxis::atLeft, QCPAxis::atRight, QCPAxis::atTop, QCPAxis::atBottom}) {
-        for (QCPAxis* const axis : box->axes(side)) {
-            axis->grid()->setLayer("grid");
-            axis->setLayer("axes");
-        }
-    }
+    m_box = new Box(plot, *this);
+    plot.plotLayout()->addElement(0, 0, m_box);
+    m_second.isFirst = false;
+    addAxes(m_first, QCPAxis::atBottom, QCPAxis::atTop);
+    addAxes(m_second, QCPAxis::atLeft, QCPAxis::atRight);
     plot.setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
     updateAxes();
+}
+
+/// Both sides have the axes of a direction in their order, and a border after them.
+void XyChart::addAxes(Direction& direction, QCPAxis::AxisType side, QCPAxis::AxisType across)
+{
+    const std::array<QCPAxis::AxisType, 2> sides {side, across};
+    for (std::size_t i = 0; i < sides.size(); ++i) {
+        const auto add = [&] {
+            QCPAxis* const axis = m_box->addAxis(sides[i]);
+            axis->grid()->setLayer("grid");
+            axis->setLayer("axes");
+            axis->grid()->setVisible(false);
+            axis->setVisible(false);
+            return axis;
+        };
+        for (Axis& axis : direction.axes) {
+            axis.sides[i] = add();
+            QObject::connect(axis.sides[i], QOverload<const QCPRange&>::of(&QCPAxis::rangeChanged),
+                             m_box, [this, &direction] { followBorders(direction); });
+        }
+        direction.borders[i] = add();
+        direction.borders[i]->setTickLabels(false);
+    }
 }
 
 static bool isLogarithmic(const QCPAxis& axis)
 {
     return axis.scaleType() == QCPAxis::stLogarithmic;
+}
+
+static Ticks ticksOf(const AxisLook& look)
+{
+    return look.isLogarithmic ? Ticks::Powers : look.isOfInstants ? Ticks::Dates : Ticks::Numbers;
+}
+
+static QSharedPointer<QCPAxisTicker> tickerOf(Ticks ticks)
+{
+    switch (ticks) {
+    case Ticks::Powers: return QSharedPointer<QCPAxisTicker>(new LogTicker);
+    case Ticks::Dates: return QSharedPointer<QCPAxisTicker>(new DateTicker);
+    default: return QSharedPointer<QCPAxisTicker>::create();
+    }
+}
+
+static void setScale(QCPAxis& axis, bool isLogarithmic)
+{
+    axis.setScaleType(isLogarithmic ? QCPAxis::stLogarithmic : QCPAxis::stLinear);
+}
+
+static void setColor(QCPAxis& axis, const QColor& color)
+{
+    const QPen pen(color, 0, Qt::SolidLine, Qt::SquareCap);
+    axis.setBasePen(pen);
+    axis.setTickPen(pen);
+    axis.setSubTickPen(pen);
+    axis.setTickLabelColor(color);
+    axis.setLabelColor(color);
+}
+
+/// Texts, ticks and distances with a font of some pixels.
+static void setFont(QCPAxis& axis, double font)
+{
+    const auto share = [font](double part) { return static_cast<int>(std::lround(part * font)); };
+    axis.setTickLabelFont(plotFont(font));
+    axis.setLabelFont(plotFont(font, true));
+    axis.setTickLength(share(0.4));
+    axis.setSubTickLength(share(0.2));
+    axis.setTickLabelPadding(share(0.35));
+    axis.setLabelPadding(share(0.25));
+    axis.setPadding(share(0.4));
+}
+
+void XyChart::applyLook(Axis& axis)
+{
+    const Ticks ticks = ticksOf(axis.look);
+    const bool isOther = std::exchange(axis.ticks, ticks) != ticks;
+    for (QCPAxis* const side : axis.sides) {
+        const QCPRange range = side->range();
+        setScale(*side, axis.look.isLogarithmic);
+        if (axis.look.isLogarithmic && range.lower <= 0.0) {
+            side->setRange(1.0, 10.0);
+            axis.hasRange = axis.hasRange && side != &axis.shown();
+        }
+        if (isOther)
+            side->setTicker(tickerOf(ticks));
+        side->setRangeReversed(axis.look.isReversed);
+        setColor(*side, axis.look.color);
+        setFont(*side, m_font);
+    }
+}
+
+void XyChart::setLook(const ChartLook& look)
+{
+    setTitle(look);
+    m_font = look.font;
+    m_showsGrid = look.showsGrid;
+    m_showsBox = look.showsBox;
+    const auto take = [this](Direction& direction, const auto& looks) {
+        for (std::size_t i = 0; i < kAxisCount; ++i) {
+            Axis& axis = direction.axes[i];
+            const QCPRange range = axis.shown().range();
+            axis.look = looks[i];
+            axis.shown().setRange(range);
+            applyLook(axis);
+        }
+        for (QCPAxis* const border : direction.borders)
+            setFont(*border, m_font);
+    };
+    take(m_first, look.first);
+    take(m_second, look.second);
+    updateAxes();
+}
+
+/// Titles are as long as the plot, and as many numbers are written as have room.
+void XyChart::adaptToSize()
+{
+    constexpr double kShare = 0.85; // of the plot
+    const auto adapt = [this](Direction& direction, double length, double perNumber) {
+        const int most = std::clamp(static_cast<int>(length / (perNumber * m_font)), 2, 5);
+        for (Axis& axis : direction.axes) {
+            QCPAxis& shown = axis.shown();
+            shown.ticker()->setTickCount(most);
+            shown.setLabel(brokenText(axis.look.title, shown.labelFont(), kShare * length));
+        }
+    };
+    adapt(m_first, m_plot.viewport().width(), 7.0);
+    adapt(m_second, m_plot.viewport().height(), 3.5);
+}
+
+QRect XyChart::area() const
+{
+    return m_box->rect();
+}
+
+QPainterPath XyChart::outline() const
+{
+    QPainterPath outline;
+    outline.addRect(m_box->rect());
+    return outline;
+}
+
+LinePlane XyChart::plane(const LineAxes& axes) const
+{
+    LinePlane plane;
+    plane.isFirstLogarithmic = m_first.axes[axes.first].look.isLogarithmic;
+    plane.isSecondLogarithmic = m_second.axes[axes.second].look.isLogarithmic;
+    return plane;
 }
 
 /// What an axis shows, in the plane of the shapes.
@@ -115,114 +279,141 @@ static QCPRange inPlane(const QCPAxis& axis)
     return isLogarithmic(axis) ? QCPRange(std::log10(range.lower), std::log10(range.upper)) : range;
 }
 
-LinePlane XyChart::plane(const LineAxes& axes) const
+/// Sides without an axis show the leading axis once more, without its texts.
+void XyChart::followBorders(Direction& direction)
 {
-    LinePlane plane;
-    plane.isFirstLogarithmic = isLogarithmic(*m_first[axes.first].axis);
-    plane.isSecondLogarithmic = isLogarithmic(*m_second[axes.second].axis);
-    return plane;
-}
-
-void XyChart::setTitles(const ChartTitles& titles)
-{
-    for (std::size_t i = 0; i < kAxisCount; ++i) {
-        setTitle(m_first[i], titles.first[i]);
-        setTitle(m_second[i], titles.second[i]);
+    const QCPAxis& leading = direction.axes[direction.leading].shown();
+    for (QCPAxis* const border : direction.borders) {
+        setScale(*border, isLogarithmic(leading));
+        border->setTicker(leading.ticker());
+        border->setRangeReversed(leading.rangeReversed());
+        border->setRange(leading.range());
+        setColor(*border, leading.basePen().color());
     }
 }
 
-void XyChart::setTitle(Axis& axis, const AxisTitle& title)
+void XyChart::showInUse(Direction& direction, QList<QCPAxis*>& shown)
 {
-    axis.axis->setLabel(title.text);
-    if (axis.hasDates == title.isOfInstants)
-        return;
-    axis.hasDates = title.isOfInstants;
-    axis.axis->setTicker(axis.hasDates ? QSharedPointer<QCPAxisTicker>(new DateTicker)
-                                       : QSharedPointer<QCPAxisTicker>(new QCPAxisTicker));
+    std::array<bool, kAxisCount> isInUse {};
+    for (const auto& [key, placed] : ink().shapes())
+        isInUse[direction.isFirst ? placed.axes.first : placed.axes.second] = true;
+    const auto first = std::find(isInUse.begin(), isInUse.end(), true);
+    direction.leading =
+        first == isInUse.end() ? 0 : static_cast<std::size_t>(first - isInUse.begin());
+    isInUse[direction.leading] = true;
+    std::array<bool, 2> isTaken {};
+    for (std::size_t i = 0; i < kAxisCount; ++i) {
+        Axis& axis = direction.axes[i];
+        const std::size_t side = axis.look.isOpposite ? 1 : 0;
+        for (QCPAxis* const one : axis.sides) {
+            one->setVisible(isInUse[i] && one == axis.sides[side]);
+            one->grid()->setVisible(one->visible() && m_showsGrid && i == direction.leading);
+        }
+        if (!isInUse[i])
+            continue;
+        isTaken[side] = true;
+        shown.append(&axis.shown());
+    }
+    for (std::size_t side = 0; side < isTaken.size(); ++side)
+        direction.borders[side]->setVisible(m_showsBox && !isTaken[side]);
+    followBorders(direction);
 }
 
 void XyChart::updateAxes()
 {
-    std::array<bool, kAxisCount> isFirst {true};
-    std::array<bool, kAxisCount> isSecond {true};
-    for (const auto& [key, placed] : ink().shapes())
-        isFirst[placed.axes.first] = isSecond[placed.axes.second] = true;
-    QCPAxisRect& box = *m_plot.axisRect();
-    QList<QCPAxis*> moved;
-    const auto show = [&](Axes& axes, const auto& isInUse, QCPAxis::AxisType across) {
+    QList<QCPAxis*> shown;
+    showInUse(m_first, shown);
+    showInUse(m_second, shown);
+    m_box->setRangeDragAxes(shown);
+    m_box->setRangeZoomAxes(shown);
+    // Axes that have come to be in use begin with all that is drawn along them.
+    const auto fitNew = [this](Direction& direction) {
         for (std::size_t i = 0; i < kAxisCount; ++i) {
-            axes[i].axis->setVisible(isInUse[i]);
-            if (isInUse[i] && !axes[i].hasRange)
-                fit(axes, i);
-            if (isInUse[i])
-                moved.append(axes[i].axis);
+            Axis& axis = direction.axes[i];
+            const AxisRange range = axis.hasRange ? AxisRange() : home(direction, i);
+            if (range.minimum < range.maximum) {
+                axis.shown().setRange(range.minimum, range.maximum);
+                axis.hasRange = true;
+            } else if (!axis.hasRange) {
+                axis.shown().setRange(axis.look.isLogarithmic ? 1.0 : 0.0,
+                                      axis.look.isLogarithmic ? 10.0 : 1.0);
+            }
         }
-        // The side of the box opposite to the first axis repeats it while it is free.
-        box.axis(across)->setVisible(!isInUse[1] && !isInUse[3]);
     };
-    show(m_first, isFirst, QCPAxis::atTop);
-    show(m_second, isSecond, QCPAxis::atRight);
-    box.setRangeDragAxes(moved);
-    box.setRangeZoomAxes(moved);
+    fitNew(m_first);
+    fitNew(m_second);
 }
 
-/// Shows all lines along an axis with a margin; 0 to 1 when there is none.
-void XyChart::fit(Axes& axes, std::size_t number)
+/// The range that was set, else all lines along an axis with a margin; nothing when there is none.
+AxisRange XyChart::home(const Direction& direction, std::size_t number) const
 {
-    const bool isFirst = &axes == &m_first;
+    constexpr double kMargin = 0.05;
+    const AxisLook& look = direction.axes[number].look;
+    if (look.range.minimum < look.range.maximum)
+        return look.range;
     LineBox box;
     for (const auto& [key, placed] : ink().shapes())
-        if (ink().isShown(key) && (isFirst ? placed.axes.first : placed.axes.second) == number)
+        if (ink().isShown(key)
+            && (direction.isFirst ? placed.axes.first : placed.axes.second) == number)
             box.add(placed.shape->bounds());
-    QCPAxis& axis = *axes[number].axis;
-    axes[number].hasRange = !box.isEmpty();
-    if (box.isEmpty()) {
-        axis.setRange(0.0, 1.0);
-        return;
+    if (box.isEmpty())
+        return {};
+    const double minimum = direction.isFirst ? box.left : box.low;
+    const double maximum = direction.isFirst ? box.right : box.high;
+    const double margin = maximum > minimum ? kMargin * (maximum - minimum) : 0.5;
+    if (look.isLogarithmic)
+        return {std::pow(10.0, minimum - margin), std::pow(10.0, maximum + margin)};
+    return {minimum - margin, maximum + margin};
+}
+
+ChartRange XyChart::home(const AxisRange&) const
+{
+    ChartRange range;
+    for (std::size_t i = 0; i < kAxisCount; ++i) {
+        range.first[i] = home(m_first, i);
+        range.second[i] = home(m_second, i);
     }
-    const double minimum = isFirst ? box.left : box.low;
-    const double maximum = isFirst ? box.right : box.high;
-    const double margin = maximum > minimum ? 0.05 * (maximum - minimum) : 0.5;
-    if (isLogarithmic(axis))
-        axis.setRange(std::pow(10.0, minimum - margin), std::pow(10.0, maximum + margin));
-    else
-        axis.setRange(minimum - margin, maximum + margin);
+    return range;
 }
 
 void XyChart::fit(const AxisRange&)
 {
-    for (std::size_t i = 0; i < kAxisCount; ++i) {
-        fit(m_first, i);
-        fit(m_second, i);
-    }
+    for (Direction* const direction : {&m_first, &m_second})
+        for (Axis& axis : direction->axes)
+            axis.hasRange = false;
+    updateAxes();
 }
 
 ChartRange XyChart::range() const
 {
     ChartRange result;
-    for (std::size_t i = 0; i < kAxisCount; ++i) {
-        const auto take = [i](const Axes& axes, auto& ranges) {
-            if (axes[i].hasRange)
-                ranges[i] = {axes[i].axis->range().lower, axes[i].axis->range().upper};
-        };
-        take(m_first, result.first);
-        take(m_second, result.second);
-    }
+    const auto take = [](const Direction& direction, auto& ranges) {
+        for (std::size_t i = 0; i < kAxisCount; ++i) {
+            const QCPRange range = direction.axes[i].shown().range();
+            if (direction.axes[i].hasRange)
+                ranges[i] = {range.lower, range.upper};
+        }
+    };
+    take(m_first, result.first);
+    take(m_second, result.second);
     return result;
 }
 
 void XyChart::setRange(const ChartRange& range)
 {
-    for (std::size_t i = 0; i < kAxisCount; ++i) {
-        const auto put = [i](Axes& axes, const auto& ranges) {
-            if (ranges[i].minimum < ranges[i].maximum) {
-                axes[i].axis->setRange(ranges[i].minimum, ranges[i].maximum);
-                axes[i].hasRange = true;
+    const auto put = [](Direction& direction, const auto& ranges) {
+        for (std::size_t i = 0; i < kAxisCount; ++i) {
+            Axis& axis = direction.axes[i];
+            const AxisRange& given = ranges[i];
+            if (given.minimum < given.maximum
+                && (!axis.look.isLogarithmic || given.minimum > 0.0)) {
+                axis.shown().setRange(given.minimum, given.maximum);
+                axis.hasRange = true;
             }
-        };
-        put(m_first, range.first);
-        put(m_second, range.second);
-    }
+        }
+    };
+    put(m_first, range.first);
+    put(m_second, range.second);
 }
 
 static LineScale scaleOf(const QCPAxis& axis)
@@ -236,20 +427,10 @@ ChartView XyChart::view()
 {
     ChartView view;
     for (std::size_t i = 0; i < kAxisCount; ++i) {
-        view.first[i] = scaleOf(*m_first[i].axis);
-        view.second[i] = scaleOf(*m_second[i].axis);
+        view.first[i] = scaleOf(m_first.axes[i].shown());
+        view.second[i] = scaleOf(m_second.axes[i].shown());
     }
     return view;
-}
-
-void XyChart::setFont(const QFont& font)
-{
-    QFont bold = font;
-    bold.setBold(true);
-    for (QCPAxis* const axis : m_plot.axisRect()->axes()) {
-        axis->setTickLabelFont(font);
-        axis->setLabelFont(bold);
-    }
 }
 
 std::unique_ptr<LineChart> makeXyChart(QCustomPlot& plot)

@@ -15,6 +15,7 @@
 #include <vtkPoints.h>
 #include <vtkPolyData.h>
 
+#include <functional>
 #include <numeric>
 #include <random>
 
@@ -218,8 +219,10 @@ private Q_SLOTS:
         write("LineMap/Assign/YAxisVar", "4", 5);
         write("LineMap/Assign/YAxisVar", "5", 6);
         shown.settle();
-        QVERIFY(title(QCPAxis::atLeft).startsWith("Force, Moment, Power, Error, "));
-        QCOMPARE(title(QCPAxis::atLeft).size(), 30); // and an ellipsis
+        QVERIFY(title(QCPAxis::atLeft).isEmpty()); // the legend says more
+        write("LineLegend/Show", "", 0);
+        shown.settle();
+        QCOMPARE(title(QCPAxis::atLeft), QStringLiteral("Force, Moment, Power, Error, \u2026"));
         document().execute(host::RenameVariable {2, "Kraft"});
         write("LineMap/Lines/Show", "2-6", 0);
         shown.settle();
@@ -273,6 +276,106 @@ private Q_SLOTS:
         write("LineMap/Assign/YAxis", "1,4", 1);
         shown.settle();
         QVERIFY(!shown.plot().axisRect()->axes(QCPAxis::atRight)[1]->visible());
+    }
+
+    /// What a value of the frame does; all of them change the picture, each time alike.
+    void frameValues_data()
+    {
+        using Check = std::function<bool(ShownCanvas&)>;
+        const Rows<const char*, const char*, Check> row;
+        const auto axis = [](QCPAxis::AxisType side, auto check) -> Check {
+            return [=](ShownCanvas& shown) { return check(*shown.plot().axisRect()->axis(side)); };
+        };
+        const auto plane = [](auto check) -> Check {
+            return [=](ShownCanvas& shown) { return check(shown.scene().chart().plane({})); };
+        };
+        const Check any = [](ShownCanvas&) { return true; };
+        const Check oneNote = [](ShownCanvas& shown) { return shown.scene().notes().size() == 1; };
+        row("range", "xy", "LineAxes/X/AutomaticRange[1]=0 LineAxes/X/RangeMax[1]=3",
+            axis(QCPAxis::atBottom, [](auto& x) { return x.range() == QCPRange(0, 3); }));
+        row("logarithmic", "xy", "LineAxes/Y/Scale[1]=1", axis(QCPAxis::atLeft, [](auto& y) {
+                return y.scaleType() == QCPAxis::stLogarithmic && y.range().lower > 0;
+            }));
+        row("points left out", "xy", "LineAxes/Y/Scale[1]=1", oneNote);
+        row("minimum left out", "xy", "LineAxes/X/Scale[1]=1 LineAxes/X/AutomaticRange[1]=0",
+            [](ShownCanvas& shown) { return shown.scene().notes().size() == 2; });
+        row("no error bars", "xy", "LinePlotLayers/ShowErrorBars=1 LineLegend/ShowBox=0", oneNote);
+        row("reversed", "xy", "LineAxes/X/Reversed[1]=1",
+            axis(QCPAxis::atBottom, [](auto& x) { return x.rangeReversed(); }));
+        row("title", "xy", "LineAxes/X/Title[1]=Zeit",
+            axis(QCPAxis::atBottom, [](auto& x) { return x.label() == "Zeit"; }));
+        row("color", "xy", "LineAxes/Y/Color[1]=4", axis(QCPAxis::atLeft, [](auto& y) {
+                const host::Rgb color = document().color(4);
+                return y.tickLabelColor() == QColor(color.red, color.green, color.blue);
+            }));
+        row("side", "xy", "LineAxes/Y/Side[1]=2",
+            axis(QCPAxis::atRight, [](auto& y) { return y.visible() && y.tickLabels(); }));
+        row("angle 0", "polar", "LineAxes/Polar/ThetaStart=1",
+            plane([](const LinePlane& it) { return it.place(0, 1).second > 0.9; }));
+        row("clockwise", "polar", "LineAxes/Polar/Clockwise=1",
+            plane([](const LinePlane& it) { return it.place(90, 1).second < -0.9; }));
+        row("radii", "polar",
+            "LineAxes/Polar/AutomaticRange=0 LineAxes/Polar/RangeMin=0.2 "
+            "LineAxes/Polar/RangeMax=2",
+            plane([](const LinePlane& it) { return it.middle == 0.2; }));
+        row("polar title", "polar", "LineAxes/Polar/Title=Kraft", any);
+        row("plot title", "xy", "LineFrame/Title=Kraft", [](ShownCanvas& shown) {
+            return dynamic_cast<QCPTextElement*>(shown.plot().plotLayout()->element(0, 0));
+        });
+        row("font", "xy", "LineFrame/FontSize=4", axis(QCPAxis::atLeft, [](auto& y) {
+                return y.tickLabelFont().pixelSize() == kSize.height() / 25;
+            }));
+        row("grid", "xy", "LineFrame/ShowGrid=0",
+            axis(QCPAxis::atLeft, [](auto& y) { return !y.grid()->visible(); }));
+        row("box", "xy", "LineFrame/ShowBox=0", any);
+        row("no legend", "xy", "LineLegend/Show=0",
+            [](ShownCanvas& shown) { return shown.scene().legend().box().isEmpty(); });
+        row("legend", "xy", "LineLegend/AutomaticPlace=0 LineLegend/X=20 LineLegend/Y=100",
+            [](ShownCanvas& shown) {
+                const QRectF box = shown.scene().legend().box();
+                return box.left() == 0.2 * kSize.width() && box.bottom() <= kSize.height();
+            });
+        row("legend box", "xy", "LineLegend/ShowBox=0", any);
+    }
+
+    void frameValues()
+    {
+        using Check = std::function<bool(ShownCanvas&)>;
+        const auto [demo, values, check] = currentRow<const char*, const char*, Check>();
+        openDemo(demo);
+        ShownCanvas shown;
+        const auto picture = [] {
+            return renderToImage(document().activeFrameId(), kSize, nullptr);
+        };
+        const QImage before = picture();
+        editStyle(values);
+        shown.settle();
+        QVERIFY(check(shown));
+        QVERIFY(picture() != before);
+        QCOMPARE(picture(), picture());
+    }
+
+    void legendIsMoved()
+    {
+        openDemo("xy");
+        ShownCanvas shown;
+        const QRectF before = shown.scene().legend().box();
+        QVERIFY(shown.plot().rect().contains(before.toRect()));
+        const QPoint by(-60, 40);
+        QTest::mousePress(&shown.plot(), Qt::LeftButton, {}, before.center().toPoint());
+        for (const QPoint& way : {by / 2, by}) {
+            QMouseEvent move(QEvent::MouseMove, before.center().toPoint() + way, Qt::NoButton,
+                             Qt::LeftButton, {});
+            QCoreApplication::sendEvent(&shown.plot(), &move);
+        }
+        QTest::mouseRelease(&shown.plot(), Qt::LeftButton, {}, before.center().toPoint() + by);
+        shown.settle();
+        QCOMPARE(shown.scene().legend().box(), before.translated(by));
+        QVERIFY(!document().activeFrame()->isOn(style::lineLegend.automaticPlace));
+        QCOMPARE(document().undo().stepCount(), 1);
+        write("LineMap/Assign/ShowInLegend", "1", LegendShow_Never);
+        shown.settle();
+        QVERIFY(shown.scene().legend().box().height() < before.height());
     }
 
     void clickPicksALine()

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/document/frame.h"
+#include "plot/line/line_axes.h"
+
+#include <QColor>
+#include <QString>
+
+#include <array>
+
+namespace corvala::plot {
+
+/// What the style says of an axis.
+struct AxisLook
+{
+    QString title;
+    bool isOfInstants = false; ///< values are seconds since 1970-01-01 00:00 UTC
+    AxisRange range; ///< that was set and can be shown; nothing when it follows from the data
+    bool isLogarithmic = false;
+    bool isReversed = false;
+    bool isOpposite = false; ///< above, or to the right
+    QColor color = Qt::black;
+};
+
+struct PolarLook
+{
+    QString title;
+    AxisRange radii; ///< as in AxisLook
+    double start = 0.0; ///< degrees against the clock from the right to the angle 0
+    bool isClockwise = false;
+};
+
+/// What the style says of a chart beside its shapes.
+struct ChartLook
+{
+    std::array<AxisLook, kAxisCount> first;
+    std::array<AxisLook, kAxisCount> second;
+    PolarLook polar;
+    QString title;
+    double font = 12.0; ///< height of texts in pixels
+    bool showsGrid = true;
+    bool showsBox = true;
+};
+
+/// The look of a frame in a picture `height` pixels high. Titles are those that were set.
+ChartLook chartLookOf(const host::Frame& frame, int height);
+
+/// Whether the value is a range that a view begins with.
+bool isChartRange(style::Key value);
+
+} // namespace corvala::plot
