@@ -33,6 +33,9 @@ static constexpr LayerButton kLayers[] = {
     {style::fieldLayers.useLightingEffect,
      style::entryOf(style::fieldLayers.useLightingEffect).label},
     {style::kLinesLayer.shown, style::kLinesLayer.name},
+    {style::kSymbolsLayer.shown, style::kSymbolsLayer.name},
+    {style::kErrorBarsLayer.shown, style::kErrorBarsLayer.name},
+    {style::kBarChartsLayer.shown, style::kBarChartsLayer.name},
 };
 
 LayerBar::LayerBar(QWidget* parent)
@@ -66,13 +69,14 @@ void LayerBar::addOtherDetails()
     button->setObjectName(QStringLiteral("otherDetails"));
     button->setText(QStringLiteral("..."));
     button->setPopupMode(QToolButton::InstantPopup);
-    button->setToolTip(tr("Details of slices, axes and others"));
+    button->setToolTip(tr("Details of axes and others"));
     button->setAccessibleName(button->toolTip());
     auto* menu = new QMenu(button);
     for (const DetailPage& page : detailPages())
         if (!page.layer.isValid())
-            menu->addAction(shownTitle(page), this,
-                            [this, &page] { Q_EMIT detailsWanted(QLatin1String(page.name)); });
+            m_otherPages.insert(&page, menu->addAction(shownTitle(page), this, [this, &page] {
+                Q_EMIT detailsWanted(QLatin1String(page.name));
+            }));
     button->setMenu(menu);
     m_otherDetails = addWidget(button);
 }
@@ -101,7 +105,9 @@ void LayerBar::refresh()
 {
     const host::Frame* frame = Document::instance().activeFrame();
     const bool hasData = frame && frame->hasData();
-    m_otherDetails->setVisible(hasData && frame->isFieldPlot());
+    m_otherDetails->setVisible(hasData && (frame->isFieldPlot() || frame->isLinePlot()));
+    for (auto page = m_otherPages.begin(); page != m_otherPages.end(); ++page)
+        page.value()->setVisible(hasData && page.key()->isFor(*frame));
     for (int i = 0; i < m_layers.size(); ++i) {
         const style::SwitchKey key = kLayers[i].key;
         const bool isField = style::isInGroupOf(key, style::fieldLayers.showMesh);

@@ -3,11 +3,14 @@
 
 #include "vocabulary/style.h"
 
+#include <QHash>
 #include <QToolBar>
 
 class QAction;
 
 namespace corvala::app {
+
+struct DetailPage;
 
 /// The layers of the active frame to switch on and off.
 class LayerBar : public QToolBar
@@ -36,6 +39,7 @@ private:
     QList<QAction*> m_layers; // not owned
     QList<QAction*> m_details; ///< beside each of them; null without
     QAction* m_otherDetails = nullptr; // not owned
+    QHash<const DetailPage*, QAction*> m_otherPages; // not owned
 };
 
 } // namespace corvala::app

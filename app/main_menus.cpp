@@ -163,8 +163,9 @@ void MainMenus::addDetailsMenu(QMenu& menu)
 {
     m_details = menu.addMenu(tr("D&etails Of"));
     for (const DetailPage& page : detailPages())
-        m_details->addAction(shownTitle(page), this,
-                             [this, &page] { Q_EMIT detailsWanted(QLatin1String(page.name)); });
+        m_detailPages.insert(&page, m_details->addAction(shownTitle(page), this, [this, &page] {
+            Q_EMIT detailsWanted(QLatin1String(page.name));
+        }));
 }
 
 void MainMenus::makeHelpMenu()
@@ -205,7 +206,9 @@ void MainMenus::refresh(bool hasPlot)
                                                        : tr("&Zone Style..."));
     m_savePicture->setEnabled(frame && frame->hasData());
     m_fitView->setEnabled(hasPlot);
-    m_details->setEnabled(hasPlot && frame->isFieldPlot());
+    m_details->setEnabled(hasPlot);
+    for (auto page = m_detailPages.begin(); page != m_detailPages.end(); ++page)
+        page.value()->setVisible(hasPlot && page.key()->isFor(*frame));
     refreshUndo();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QHash>
 #include <QObject>
 
 class QAction;
@@ -9,6 +10,8 @@ class QMenu;
 class QToolBar;
 
 namespace corvala::app {
+
+struct DetailPage;
 
 /// The menus of the main window and its toolbar of common commands. Says what the user wants; the
 /// window does it.
@@ -60,6 +63,7 @@ private:
     QAction* m_redo = nullptr;
     QAction* m_fitView = nullptr;
     QMenu* m_details = nullptr; ///< the pages of details
+    QHash<const DetailPage*, QAction*> m_detailPages;
     QAction* m_savePicture = nullptr;
 };
 

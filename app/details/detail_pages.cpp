@@ -190,6 +190,64 @@ static constexpr DetailRow kAxes[] = {
     {style::fieldAxes.showGrid, DETAIL_TEXT("Grid")},
 };
 
+static constexpr DetailCondition kInXy {style::plotType, PlotType_LineXY};
+static constexpr DetailCondition kInPolar {style::plotType, PlotType_LinePolar};
+
+/// The rows of one direction of an XY plot.
+#define LINE_AXIS_ROWS(axis)                                                                       \
+    {axis.title, DETAIL_TEXT("Title (empty: by the variables)"), kOwn, {kInXy}},                   \
+        {axis.automaticRange, DETAIL_TEXT("Range by the data"), kOwn, {kInXy}},                    \
+        {axis.rangeMin, DETAIL_TEXT("Minimum"), axis.automaticRange, {kInXy}},                     \
+        {axis.rangeMax, DETAIL_TEXT("Maximum"), axis.automaticRange, {kInXy}},                     \
+        {axis.scale, DETAIL_TEXT("Scale"), kOwn, {kInXy}},                                         \
+        {axis.isReversed, DETAIL_TEXT("Reversed"), kOwn, {kInXy}},                                 \
+        {axis.color, DETAIL_TEXT("Color"), kOwn, {kInXy}},                                         \
+        {axis.side, DETAIL_TEXT("Side"), kOwn, {kInXy}},
+static constexpr DetailRow kXAxes[] = {LINE_AXIS_ROWS(style::lineAxes.x)};
+static constexpr DetailRow kYAxes[] = {LINE_AXIS_ROWS(style::lineAxes.y)};
+#undef LINE_AXIS_ROWS
+
+static constexpr const auto& kPolar = style::lineAxes.polar;
+static constexpr DetailRow kPolarAxes[] = {
+    {kPolar.title, DETAIL_TEXT("Title (empty: by the variables)"), kOwn, {kInPolar}},
+    {kPolar.automaticRange, DETAIL_TEXT("Radius by the data"), kOwn, {kInPolar}},
+    {kPolar.rangeMin, DETAIL_TEXT("Radius at the middle"), kPolar.automaticRange, {kInPolar}},
+    {kPolar.rangeMax, DETAIL_TEXT("Radius at the rim"), kPolar.automaticRange, {kInPolar}},
+    {kPolar.start, DETAIL_TEXT("Angle 0"), kOwn, {kInPolar}},
+    {kPolar.isClockwise, DETAIL_TEXT("Clockwise"), kOwn, {kInPolar}},
+};
+
+static constexpr DetailCondition kHasLineLegend {style::lineLegend.show};
+static constexpr DetailRow kLineLegend[] = {
+    {style::lineLegend.show, DETAIL_TEXT("Legend")},
+    {style::lineLegend.automaticPlace,
+     DETAIL_TEXT("In the corner where it hides least"),
+     kOwn,
+     {kHasLineLegend}},
+    {style::lineLegend.x,
+     DETAIL_TEXT("Its left edge [%]"),
+     style::lineLegend.automaticPlace,
+     {kHasLineLegend}},
+    {style::lineLegend.y,
+     DETAIL_TEXT("Its upper edge [%]"),
+     style::lineLegend.automaticPlace,
+     {kHasLineLegend}},
+    {style::lineLegend.showBox, DETAIL_TEXT("Box"), kOwn, {kHasLineLegend}},
+};
+
+static constexpr DetailRow kLineFrame[] = {
+    {style::lineFrame.title, DETAIL_TEXT("Title of the plot")},
+    {style::lineFrame.fontSize, DETAIL_TEXT("Font size [%]")},
+    {style::lineFrame.showGrid, DETAIL_TEXT("Grid")},
+    {style::lineFrame.showBox, DETAIL_TEXT("Box")},
+};
+
+static DetailPage ofLines(const char* name, const char* title, const char* indexText,
+                          const DetailRows& rows)
+{
+    return {name, title, {}, indexText, rows, {}, {}, true};
+}
+
 const std::vector<DetailPage>& detailPages()
 {
     static constexpr style::SwitchKey kNoLayer {};
@@ -212,6 +270,11 @@ const std::vector<DetailPage>& detailPages()
         {"streamtraces", DETAIL_TEXT("Streamtraces"), kNoLayer, nullptr, kStreamtraces,
          style::streamtraces.points},
         {"axes", DETAIL_TEXT("Axes"), kNoLayer, nullptr, kAxes},
+        ofLines("xAxes", DETAIL_TEXT("X Axes"), DETAIL_TEXT("Axis"), kXAxes),
+        ofLines("yAxes", DETAIL_TEXT("Y Axes"), DETAIL_TEXT("Axis"), kYAxes),
+        ofLines("polarAxes", DETAIL_TEXT("Polar Axes"), nullptr, kPolarAxes),
+        ofLines("lineLegend", DETAIL_TEXT("Legend"), nullptr, kLineLegend),
+        ofLines("lineFrame", DETAIL_TEXT("Frame"), nullptr, kLineFrame),
     };
     return kPages;
 }

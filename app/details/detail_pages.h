@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "host/document/frame.h"
 #include "vocabulary/style.h"
 
 #include <QString>
@@ -73,7 +74,13 @@ struct DetailPage
     /// The value, one of the rows, that has places clicked in the plot; not valid without one.
     style::TextKey places = {};
     DetailReset reset = {};
+    bool isOfLines = false; ///< is of line plots, else of field plots
 
+    /// Whether the frame is of the kind that it sets something for.
+    bool isFor(const host::Frame& frame) const
+    {
+        return isOfLines ? frame.isLinePlot() : frame.isFieldPlot();
+    }
     /// How many indexes there are; 0 without.
     constexpr int indexCount() const
     {

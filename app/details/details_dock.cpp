@@ -57,10 +57,9 @@ DetailsDock::DetailsDock(DetailPageWidget::Proposal proposal, QWidget* parent)
         m_pages.back()->setObjectName(QLatin1String(page.name));
         scroll->setWidget(m_pages.back());
         m_stack->addWidget(scroll);
-        m_choice->addItem(shownTitle(page), QLatin1String(page.name));
     }
-    connect(m_choice, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int page) {
-        m_stack->setCurrentIndex(page);
+    connect(m_choice, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
+        showChosen();
         refresh();
     });
     setWidget(content);
@@ -69,8 +68,40 @@ DetailsDock::DetailsDock(DetailPageWidget::Proposal proposal, QWidget* parent)
 
 DetailsDock::~DetailsDock() = default;
 
+/// Where a page stands among all; -1 for none of this name.
+static int positionOf(const QString& name)
+{
+    const std::vector<DetailPage>& pages = detailPages();
+    const auto found = std::find_if(pages.begin(), pages.end(), [&](const DetailPage& page) {
+        return name == QLatin1String(page.name);
+    });
+    return found == pages.end() ? -1 : static_cast<int>(found - pages.begin());
+}
+
+void DetailsDock::showChosen()
+{
+    m_stack->setCurrentIndex(positionOf(m_choice->currentData().toString()));
+}
+
+/// The pages for plots like this one; back from another kind, the page that was chosen before.
+void DetailsDock::offerPages(const host::Frame& frame)
+{
+    const QString chosen = m_choice->currentData().toString();
+    const int position = positionOf(chosen);
+    if (position >= 0 && detailPages()[static_cast<std::size_t>(position)].isFor(frame))
+        return;
+    const QSignalBlocker blocker(m_choice);
+    m_choice->clear();
+    for (const DetailPage& page : detailPages())
+        if (page.isFor(frame))
+            m_choice->addItem(shownTitle(page), QLatin1String(page.name));
+    m_choice->setCurrentIndex(std::max(m_choice->findData(std::exchange(m_otherPage, chosen)), 0));
+    showChosen();
+}
+
 void DetailsDock::openPage(const QString& name)
 {
+    refresh();
     m_choice->setCurrentIndex(m_choice->findData(name));
     show();
     raise();
@@ -101,8 +132,10 @@ void DetailsDock::showEvent(QShowEvent* event)
 void DetailsDock::refresh()
 {
     const host::Frame* const frame = host::Document::instance().activeFrame();
-    const bool hasPlot = frame && frame->isFieldPlot() && frame->hasData();
+    const bool hasPlot = frame && frame->hasData() && (frame->isFieldPlot() || frame->isLinePlot());
     widget()->setEnabled(hasPlot);
+    if (hasPlot)
+        offerPages(*frame);
     const Subject subject = hasPlot
         ? Subject {host::Document::instance().activeFrameId(), &*frame->data(), frame->plotType()}
         : Subject();

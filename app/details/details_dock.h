@@ -48,9 +48,13 @@ private:
         PlotType_e plotType {};
     };
 
-    QComboBox* m_choice; // not owned
+    void offerPages(const host::Frame& frame);
+    void showChosen();
+
+    QComboBox* m_choice; // not owned; the pages for plots of one kind
     QStackedWidget* m_stack; // not owned
     std::vector<DetailPageWidget*> m_pages; // not owned
+    QString m_otherPage; ///< chosen for plots of the other kind
     Subject m_subject;
 };
 

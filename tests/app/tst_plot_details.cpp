@@ -64,6 +64,10 @@ private Q_SLOTS:
     void everyFieldWrites()
     {
         const auto [page, number] = currentRow<QString, int>();
+        const auto isMeant = [name = page](const DetailPage& some) { return some.name == name; };
+        const auto& pages = detailPages();
+        if (std::find_if(pages.begin(), pages.end(), isMeant)->isOfLines)
+            write(style::plotType, PlotType_LineXY);
         m_dock->openPage(page);
         DetailField* const field =
             m_dock->findChild<QWidget*>(page)->findChildren<DetailField*>().value(number);
