@@ -36,7 +36,7 @@ public:
     {
     }
 
-    const Polyline& places() const { return *m_places; }
+    const Polyline& places() const override { return *m_places; }
     const BarStyle& style() const { return m_style; }
     /// The bar at a point, `width` pixels wide; null for one that is not seen.
     QRectF bar(std::size_t point, const LineView& view, double width) const;

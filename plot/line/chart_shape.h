@@ -40,6 +40,8 @@ class ChartShape
 {
 public:
     virtual ~ChartShape() = default;
+    /// The points that it shows, in the plane of its axes.
+    virtual const Polyline& places() const = 0;
     /// Of what must be seen, in the plane of its axes.
     virtual LineBox bounds() const = 0;
     /// Pixels between the shape and a pixel, when less than `limit`, else `limit`.

@@ -41,6 +41,7 @@ public:
     std::vector<std::pair<QPointF, QPointF>> strokes(std::size_t point, const LineView& view,
                                                      double size) const;
 
+    const Polyline& places() const override { return *m_points.places; }
     LineBox bounds() const override;
     double distance(const LineView& view, const QPointF& pixel, double limit) const override;
     std::unique_ptr<ShapeDrawing> begin(const InkSheet& sheet, const LineView& view) const override;

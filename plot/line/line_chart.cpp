@@ -3,6 +3,7 @@
 
 #include "plot/common/axis_ticks.h"
 #include "plot/line/broken_text.h"
+#include "plot/line/cover_grid.h"
 
 #include <cmath>
 
@@ -96,6 +97,20 @@ void LineChart::draw(QCPPainter& painter)
     QImage picture = m_ink.picture();
     picture.setDevicePixelRatio(ratio);
     painter.drawImage(place.topLeft(), picture);
+}
+
+int LineChart::hiddenBy(const QRectF& box)
+{
+    constexpr std::size_t kMostPoints = 100'000;
+    std::size_t points = 0;
+    for (const auto& [key, placed] : m_ink.shapes())
+        points += m_ink.isShown(key) ? placed.shape->places().size() : 0;
+    const ChartView seen = view();
+    CoverGrid grid(box);
+    for (const auto& [key, placed] : m_ink.shapes())
+        if (m_ink.isShown(key))
+            grid.add(placed.shape->places(), seen.along(placed.axes), points / kMostPoints + 1);
+    return grid.count();
 }
 
 std::int64_t LineChart::mapAt(const QPointF& pixel, double tolerance)

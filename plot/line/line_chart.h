@@ -53,6 +53,9 @@ public:
 
     /// Where a legend has its corners, in pixels.
     virtual QRect area() const = 0;
+    /// How much of a rectangle in pixels is over shapes that are shown, in hundredths; of many
+    /// points some are looked at.
+    int hiddenBy(const QRectF& box);
     /// The map of the shape nearest to a pixel, up to `tolerance` pixels away; 0 for none.
     std::int64_t mapAt(const QPointF& pixel, double tolerance);
     LineInk& ink() { return m_ink; }

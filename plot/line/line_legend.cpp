@@ -99,21 +99,6 @@ LineLegend::Grid LineLegend::layOut() const
     return grid;
 }
 
-/// Probes of the box that are near something that is drawn.
-int LineLegend::hiddenBy(const QRectF& box) const
-{
-    constexpr int kProbes = 10; // each way
-    const double apart = std::max(box.width(), box.height()) / kProbes;
-    int hidden = 0;
-    for (int i = 0; i < kProbes; ++i)
-        for (int j = 0; j < kProbes; ++j) {
-            const QPointF share((i + 0.5) / kProbes, (j + 0.5) / kProbes);
-            const QPointF at(share.x() * box.width(), share.y() * box.height());
-            hidden += m_chart->mapAt(box.topLeft() + at, 0.7 * apart) != 0 ? 1 : 0;
-        }
-    return hidden;
-}
-
 QRectF LineLegend::leastHiding(const QSizeF& size) const
 {
     const QRectF area = m_chart->area();
@@ -126,7 +111,7 @@ QRectF LineLegend::leastHiding(const QSizeF& size) const
     for (const QPointF& corner : {QPointF(right, upperLeft.y()), upperLeft, QPointF(right, lower),
                                   QPointF(upperLeft.x(), lower)}) {
         const QRectF box(corner, size);
-        const int hidden = hiddenBy(box);
+        const int hidden = m_chart->hiddenBy(box);
         if (least >= 0 && hidden >= least)
             continue;
         least = hidden;

@@ -78,7 +78,6 @@ private:
     Grid layOut() const;
     QRectF place(const QSizeF& size) const;
     QRectF leastHiding(const QSizeF& size) const;
-    int hiddenBy(const QRectF& box) const;
     void drawEntry(QPainter& painter, const LegendEntry& entry, const QRectF& place) const;
 
     QCustomPlot& m_plot;

@@ -35,6 +35,7 @@ public:
     const Polyline& points() const { return *m_points; }
     const LineStroke& stroke() const { return m_stroke; }
 
+    const Polyline& places() const override { return *m_points; }
     LineBox bounds() const override { return m_points->bounds(); }
     double distance(const LineView& view, const QPointF& pixel, double limit) const override
     {

@@ -39,6 +39,7 @@ public:
     const MarkedPoints& points() const { return m_points; }
     const SymbolStyle& style() const { return m_style; }
 
+    const Polyline& places() const override { return *m_points.places; }
     LineBox bounds() const override { return m_points.places->bounds(); }
     double distance(const LineView& view, const QPointF& pixel, double limit) const override;
     std::unique_ptr<ShapeDrawing> begin(const InkSheet& sheet, const LineView& view) const override;
