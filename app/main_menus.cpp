@@ -64,6 +64,7 @@ void MainMenus::makeFileMenu()
     addDemoMenu(*menu);
     menu->addSeparator();
     m_savePicture = menu->addAction(tr("&Save Picture..."), this, &MainMenus::pictureWanted);
+    m_savePicture->setObjectName(QStringLiteral("savePicture"));
     menu->addSeparator();
     setKeys(*menu->addAction(tr("&Quit"), qApp, &QApplication::closeAllWindows),
             QKeySequence::Quit);

@@ -6,6 +6,7 @@
 #include "app/program.h"
 #include "app/recent_files.h"
 #include "app/style_dialog.h"
+#include "app/user_settings.h"
 #include "host/document/document.h"
 #include "play/dialog_driver.h"
 #include "play/idle.h"
@@ -18,8 +19,10 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QDropEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -87,6 +90,31 @@ private Q_SLOTS:
         QVERIFY(!layer("ShowContour").isChecked());
         QVERIFY(!layer("ShowLines").isVisible());
         QVERIFY(!m_window->findChild<QSlider*>(QStringLiteral("solutionTime"))->isVisible());
+    }
+
+    void savesThePicture()
+    {
+        const QTemporaryDir folder;
+        m_window->openDemo(QStringLiteral("xy"));
+        play::waitUntilIdle();
+        const auto save = [&](double before, double width) {
+            ModalResponder responder;
+            responder.answer([&](QDialog& dialog) {
+                dialog.findChild<QLineEdit*>()->setText(folder.filePath(QString::number(width)));
+                dialog.accept();
+            });
+            responder.answer([=](QDialog& dialog) {
+                auto* field = dialog.findChild<QDoubleSpinBox*>(QStringLiteral("picture/width"));
+                QCOMPARE(field->value(), before);
+                field->setValue(width);
+                dialog.accept();
+            });
+            layer("savePicture").trigger();
+            return responder.isSettled();
+        };
+        userSettings().remove(QStringLiteral("picture"));
+        QVERIFY(save(160.0, 254.0) && save(254.0, 160.0));
+        QCOMPARE(QImage(folder.filePath(QStringLiteral("254.png"))).width(), 3000);
     }
 
     void accessKeysAreUnique()
