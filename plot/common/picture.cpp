@@ -8,7 +8,6 @@
 #include <QPageSize>
 #include <QPaintEngine>
 #include <QPdfWriter>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>

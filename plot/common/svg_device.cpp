@@ -3,12 +3,12 @@
 
 #include <QBuffer>
 #include <QFontInfo>
-#include <QFontMetricsF>
 #include <QHash>
 #include <QImage>
 #include <QPaintEngine>
 #include <QPainterPath>
 #include <QPixmap>
+#include <QRegularExpression>
 
 #include <cmath>
 #include <limits>
@@ -74,6 +74,14 @@ static QByteArray transformAttribute(const QTransform& transform)
     return attribute("transform",
                      "matrix(" + parts + number(transform.dx()) + ' ' + number(transform.dy())
                          + ')');
+}
+
+/// Without the characters that no XML document may hold.
+static QByteArray escaped(QString text)
+{
+    static const QRegularExpression kForbidden(
+        QStringLiteral("[\\x{00}-\\x{08}\\x{0b}\\x{0c}\\x{0e}-\\x{1f}\\x{fffe}\\x{ffff}]"));
+    return text.remove(kForbidden).toHtmlEscaped().toUtf8();
 }
 
 static QByteArray place(const QPointF& point)
@@ -226,15 +234,15 @@ void SvgEngine::drawTextItem(const QPointF& at, const QTextItem& item)
 {
     const QFont font = item.font();
     const QFontInfo shown(font);
-    const QByteArray family = shown.family().toHtmlEscaped().toUtf8();
     write("<text" + transformAttribute(state->transform()) + attribute("x", at.x())
-          + attribute("y", at.y()) + attribute("font-family", family + ", sans-serif")
+          + attribute("y", at.y())
+          + attribute("font-family", escaped(shown.family()) + ", sans-serif")
           + attribute("font-size", shown.pixelSize())
           + (font.bold() ? attribute("font-weight", "bold") : "")
           + (font.italic() ? attribute("font-style", "italic") : "")
           + colorAttributes("fill", state->pen().color(), state->opacity())
           + attribute("textLength", item.width()) + attribute("xml:space", "preserve") + '>'
-          + item.text().toHtmlEscaped().toUtf8() + "</text>\n");
+          + escaped(item.text()) + "</text>\n");
 }
 
 void SvgEngine::drawPixmap(const QRectF& area, const QPixmap& pixmap, const QRectF& part)
