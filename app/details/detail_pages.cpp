@@ -193,19 +193,22 @@ static constexpr DetailRow kAxes[] = {
 static constexpr DetailCondition kInXy {style::plotType, PlotType_LineXY};
 static constexpr DetailCondition kInPolar {style::plotType, PlotType_LinePolar};
 
-/// The rows of one direction of an XY plot.
-#define LINE_AXIS_ROWS(axis)                                                                       \
-    {axis.title, DETAIL_TEXT("Title (empty: by the variables)"), kOwn, {kInXy}},                   \
-        {axis.automaticRange, DETAIL_TEXT("Range by the data"), kOwn, {kInXy}},                    \
-        {axis.rangeMin, DETAIL_TEXT("Minimum"), axis.automaticRange, {kInXy}},                     \
-        {axis.rangeMax, DETAIL_TEXT("Maximum"), axis.automaticRange, {kInXy}},                     \
-        {axis.scale, DETAIL_TEXT("Scale"), kOwn, {kInXy}},                                         \
-        {axis.isReversed, DETAIL_TEXT("Reversed"), kOwn, {kInXy}},                                 \
-        {axis.color, DETAIL_TEXT("Color"), kOwn, {kInXy}},                                         \
+/// Of one direction of an XY plot.
+static constexpr std::array<DetailRow, 8> rowsOf(const style::LineAxis& axis)
+{
+    return {{
+        {axis.title, DETAIL_TEXT("Title (empty: by the variables)"), kOwn, {kInXy}},
+        {axis.automaticRange, DETAIL_TEXT("Range by the data"), kOwn, {kInXy}},
+        {axis.rangeMin, DETAIL_TEXT("Minimum"), axis.automaticRange, {kInXy}},
+        {axis.rangeMax, DETAIL_TEXT("Maximum"), axis.automaticRange, {kInXy}},
+        {axis.scale, DETAIL_TEXT("Scale"), kOwn, {kInXy}},
+        {axis.isReversed, DETAIL_TEXT("Reversed"), kOwn, {kInXy}},
+        {axis.color, DETAIL_TEXT("Color"), kOwn, {kInXy}},
         {axis.side, DETAIL_TEXT("Side"), kOwn, {kInXy}},
-static constexpr DetailRow kXAxes[] = {LINE_AXIS_ROWS(style::lineAxes.x)};
-static constexpr DetailRow kYAxes[] = {LINE_AXIS_ROWS(style::lineAxes.y)};
-#undef LINE_AXIS_ROWS
+    }};
+}
+static constexpr std::array<DetailRow, 8> kXAxes = rowsOf(style::lineAxes.x);
+static constexpr std::array<DetailRow, 8> kYAxes = rowsOf(style::lineAxes.y);
 
 static constexpr const auto& kPolar = style::lineAxes.polar;
 static constexpr DetailRow kPolarAxes[] = {

@@ -47,6 +47,12 @@ public:
         , m_end(rows + N)
     {
     }
+    template<std::size_t N>
+    constexpr DetailRows(const std::array<DetailRow, N>& rows)
+        : m_begin(rows.data())
+        , m_end(rows.data() + N)
+    {
+    }
     constexpr const DetailRow* begin() const { return m_begin; }
     constexpr const DetailRow* end() const { return m_end; }
 

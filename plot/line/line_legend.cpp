@@ -122,8 +122,10 @@ QRectF LineLegend::leastHiding(const QSizeF& size) const
     return best;
 }
 
-static QRectF within(const QRectF& plot, QRectF box)
+/// A box with its outline within the plot.
+static QRectF within(const QRectF& whole, QRectF box)
 {
+    const QRectF plot = whole.adjusted(0.0, 0.0, -1.0, -1.0);
     box.moveLeft(std::max(std::min(box.left(), plot.right() - box.width()), plot.left()));
     box.moveTop(std::max(std::min(box.top(), plot.bottom() - box.height()), plot.top()));
     return box;

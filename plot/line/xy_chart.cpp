@@ -136,6 +136,8 @@ void XyChart::addAxes(Direction& direction, QCPAxis::AxisType side, QCPAxis::Axi
             axis->setLayer("axes");
             axis->grid()->setVisible(false);
             axis->setVisible(false);
+            axis->setLowerEnding({});
+            axis->setUpperEnding({});
             return axis;
         };
         for (Axis& axis : direction.axes) {
