@@ -4,6 +4,7 @@
 #include "plot/common/svg_device.h"
 
 #include <QBuffer>
+#include <QHash>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPaintEngine>
@@ -45,8 +46,17 @@ QImage pictureImage(const QSize& size, const PaintPicture& paint, QString* error
     return isPainted(image, paint, error) ? image : QImage();
 }
 
-/// The time when it was written is the only thing that two equal pictures differ in; blanks keep
-/// the places in the file that its table names.
+/// Fonts stand in a PDF in the order of a hash, which is the same one as long as this lives.
+class FixedHashOrder
+{
+public:
+    FixedHashOrder() { qSetGlobalQHashSeed(0); }
+    ~FixedHashOrder() { qSetGlobalQHashSeed(-1); }
+    FixedHashOrder(const FixedHashOrder&) = delete;
+    FixedHashOrder& operator=(const FixedHashOrder&) = delete;
+};
+
+/// Takes out when it was written; blanks keep the places in the file that its table names.
 static void removeDate(QByteArray& pdf)
 {
     const int begin = pdf.indexOf("/CreationDate");
@@ -59,6 +69,7 @@ QByteArray picturePdf(const PictureSize& size, const PaintPicture& paint, QStrin
 {
     if (!canBeDrawn(size.pixels(), error))
         return {};
+    const FixedHashOrder order;
     QBuffer pdf;
     pdf.open(QIODevice::WriteOnly);
     {
