@@ -121,6 +121,7 @@ static std::vector<LineColumn> lineColumns()
                    {"YAxis=2", "", ""},
                    {"Sort=2", "", "Curves/CurveType=4"},
                    {"SortVar=7", "@Sort=3", "@Sort=0"},
+                   {"ShowInLegend=1", "LineLegend/Show=1", ""},
                    {"FunctionDependency=1", bars, "LinePlotLayers/ShowBarCharts=0"}}),
           curveColumns(),
           ofGroup("Indices", block, "Assign/Zone=4",
@@ -161,7 +162,8 @@ private Q_SLOTS:
         const auto [column] = currentRow<LineColumn>();
         for (const QString& state : QStringList {""} + column.grey.split('|', Qt::SkipEmptyParts)) {
             openDemo("xy", 2);
-            editStyle("LineAxes/X/AutomaticRange[1]=0 LineAxes/X/RangeMax[1]=10");
+            editStyle("LineAxes/X/AutomaticRange[1]=0 LineAxes/X/RangeMax[1]=10 "
+                      "LineLegend/Show=0"); // which has names of variables
             editStyle(column.before + " " + state, "1");
             const QImage before = picture();
             editStyle(column.change, "1");
@@ -179,7 +181,7 @@ private Q_SLOTS:
         openDemo("xy", 2);
         document().execute(
             host::SetStyle {{"ActiveLineMaps"}, mapsOf("1"), {}, -1, AssignOp_Remove});
-        editStyle("LinePlotLayers/ShowSymbols=1 LinePlotLayers/ShowBarCharts=1");
+        editStyle("LinePlotLayers/ShowSymbols=1 LinePlotLayers/ShowBarCharts=1 LineLegend/Show=0");
         const QImage before = picture();
         for (const LineColumn& column : lineColumns())
             editStyle(column.change, "1");
