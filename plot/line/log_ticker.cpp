@@ -70,9 +70,14 @@ void LogTicker::generate(const QCPRange& range, const QLocale& locale, QChar, in
     if (subTicks && isUsable && hasPowers)
         *subTicks = apart > 1 ? powers(decades, 1)
                               : multiples(range, {2.0, 3.0, 4.0, 5.0, 6.0, 7.0, 8.0, 9.0});
-    for (int i = 0; tickLabels && i < ticks.size(); ++i)
-        tickLabels->append(hasPowers ? locale.toString(ticks[i], 'e', 0)
-                                     : locale.toString(ticks[i], 'g', 6));
+    else if (subTicks)
+        subTicks->clear(); // of what was shown before
+    if (!tickLabels)
+        return;
+    tickLabels->clear();
+    for (const double tick : ticks)
+        tickLabels->append(hasPowers ? locale.toString(tick, 'e', 0)
+                                     : locale.toString(tick, 'g', 6));
 }
 
 } // namespace corvala::plot
