@@ -56,9 +56,16 @@ static PolarLook polarLook(const host::Frame& frame)
     return look;
 }
 
+double lineFontOf(const host::Frame& frame, int height)
+{
+    constexpr double kSmallest = 4.0; // pixels
+    constexpr double kLargest = 0.1; // of the height
+    const double font = frame.real(style::lineFrame.fontSize) / 100.0 * height;
+    return std::max(std::min(font, kLargest * height), kSmallest);
+}
+
 ChartLook chartLookOf(const host::Frame& frame, int height)
 {
-    constexpr double kSmallestFont = 4.0; // pixels
     ChartLook look;
     for (std::size_t i = 0; i < kAxisCount; ++i) {
         look.first[i] = axisLook(frame, style::lineAxes.x, static_cast<int>(i) + 1);
@@ -66,7 +73,7 @@ ChartLook chartLookOf(const host::Frame& frame, int height)
     }
     look.polar = polarLook(frame);
     look.title = QString::fromStdString(frame.text(style::lineFrame.title));
-    look.font = std::max(frame.real(style::lineFrame.fontSize) / 100.0 * height, kSmallestFont);
+    look.font = lineFontOf(frame, height);
     look.showsGrid = frame.isOn(style::lineFrame.showGrid);
     look.showsBox = frame.isOn(style::lineFrame.showBox);
     return look;

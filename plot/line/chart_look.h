@@ -46,6 +46,9 @@ struct ChartLook
 /// The look of a frame in a picture `height` pixels high. Titles are those that were set.
 ChartLook chartLookOf(const host::Frame& frame, int height);
 
+/// The height in pixels of all texts in such a picture: what was set, at most a tenth of it.
+double lineFontOf(const host::Frame& frame, int height);
+
 /// Whether the value is a range that a view begins with.
 bool isChartRange(style::Key value);
 

@@ -29,7 +29,7 @@ LegendLook legendLookOf(const host::Frame& frame, const host::NumberSet& drawn, 
     LegendLook look;
     if (!frame.isOn(style::lineLegend.show))
         return look;
-    look.font = frame.real(style::lineFrame.fontSize) / 100.0 * height;
+    look.font = lineFontOf(frame, height);
     look.hasBox = frame.isOn(style::lineLegend.showBox);
     if (!frame.isOn(style::lineLegend.automaticPlace))
         look.corner = {frame.real(style::lineLegend.x), frame.real(style::lineLegend.y)};
