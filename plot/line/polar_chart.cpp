@@ -3,6 +3,7 @@
 #include "plot/line/line_chart.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace corvala::plot {
 
@@ -75,6 +76,9 @@ void PolarChart::setLook(const ChartLook& look)
     radius()->setAngle(90.0 + m_look.start); // downwards, whatever the angle is there
     m_angle->setBasePen(look.showsBox ? QPen(Qt::black, 0) : QPen(Qt::NoPen));
     m_angle->grid()->setVisible(look.showsGrid);
+    const int above = static_cast<int>(std::lround(1.7 * look.font)); // room for numbers
+    const int beside = static_cast<int>(std::lround(2.6 * look.font));
+    m_angle->setMinimumMargins({beside, above, beside, above});
     m_angle->setTickLabelFont(plotFont(look.font));
     radius()->setTickLabelFont(plotFont(look.font));
 }
