@@ -42,6 +42,7 @@ PolarChart::PolarChart(QCustomPlot& plot)
     plot.plotLayout()->addElement(0, 0, m_angle);
     plot.plotLayout()->addElement(1, 0, m_titles);
     plot.setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
+    plot.setPlottingHint(QCP::phCacheLabels, false); // polar axes would keep those of another font
     m_angle->setRange(0.0, 360.0);
     m_angle->setRangeDrag(false);
     m_angle->setRangeZoom(false);
