@@ -96,6 +96,7 @@ private:
 
 std::vector<SetStyle> firstLook(const std::vector<FirstLine>& lines)
 {
+    constexpr std::size_t kColors = 6; // that maps have in turn
     const bool haveZones = !lines.empty() && lines.front().zone != lines.back().zone;
     Look look;
     for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -106,6 +107,8 @@ std::vector<SetStyle> firstLook(const std::vector<FirstLine>& lines)
         look.give(assign.xAxisVar, lines[i].x, map);
         look.give(assign.yAxisVar, lines[i].y, map);
         look.give(assign.yAxis, lines[i].yAxis, map);
+        if (i >= kColors)
+            look.give(style::lineMap.lines.linePattern, LinePattern_Dashed, map);
     }
     if (haveZones)
         look.add(SetStyle {host::pathOf(style::lineMap.name), std::string("&ZN&: &DV&"),

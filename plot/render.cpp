@@ -16,7 +16,7 @@ QString paintFrame(CvlUniqueId frame, QPaintDevice& device, std::vector<SceneNot
         return QCoreApplication::translate("corvala::plot", "The frame shows no data");
     return drawn->isFieldPlot()
         ? paintField(frame, CameraState(), std::make_shared<SurfaceCache>(), device, notes)
-        : paintLines(frame, nullptr, device);
+        : paintLines(frame, nullptr, device, notes);
 }
 
 QImage renderToImage(CvlUniqueId frame, const QSize& size, QString* error)

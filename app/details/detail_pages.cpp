@@ -197,7 +197,7 @@ static constexpr DetailCondition kInPolar {style::plotType, PlotType_LinePolar};
 static constexpr std::array<DetailRow, 8> rowsOf(const style::LineAxis& axis)
 {
     return {{
-        {axis.title, DETAIL_TEXT("Title (empty: by the variables)"), kOwn, {kInXy}},
+        {axis.title, DETAIL_TEXT("Title"), kOwn, {kInXy}},
         {axis.automaticRange, DETAIL_TEXT("Range by the data"), kOwn, {kInXy}},
         {axis.rangeMin, DETAIL_TEXT("Minimum"), axis.automaticRange, {kInXy}},
         {axis.rangeMax, DETAIL_TEXT("Maximum"), axis.automaticRange, {kInXy}},
@@ -212,7 +212,7 @@ static constexpr std::array<DetailRow, 8> kYAxes = rowsOf(style::lineAxes.y);
 
 static constexpr const auto& kPolar = style::lineAxes.polar;
 static constexpr DetailRow kPolarAxes[] = {
-    {kPolar.title, DETAIL_TEXT("Title (empty: by the variables)"), kOwn, {kInPolar}},
+    {kPolar.title, DETAIL_TEXT("Title"), kOwn, {kInPolar}},
     {kPolar.automaticRange, DETAIL_TEXT("Radius by the data"), kOwn, {kInPolar}},
     {kPolar.rangeMin, DETAIL_TEXT("Radius at the middle"), kPolar.automaticRange, {kInPolar}},
     {kPolar.rangeMax, DETAIL_TEXT("Radius at the rim"), kPolar.automaticRange, {kInPolar}},

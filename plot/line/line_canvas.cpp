@@ -143,7 +143,8 @@ QString LineCanvas::paint(QPaintDevice& device)
     return paintLines(m_plot.frameId(), m_plot.isFitted() ? nullptr : &range, device);
 }
 
-QString paintLines(CvlUniqueId frame, const ChartRange* range, QPaintDevice& device)
+QString paintLines(CvlUniqueId frame, const ChartRange* range, QPaintDevice& device,
+                   std::vector<SceneNote>* notes)
 {
     QCustomPlot widget;
     LinePlot plot(widget);
@@ -158,6 +159,8 @@ QString paintLines(CvlUniqueId frame, const ChartRange* range, QPaintDevice& dev
     if (isVectorDevice(device))
         painter.setModes(QCPPainter::pmVectorized | QCPPainter::pmNonCosmetic);
     widget.toPainter(&painter, device.width(), device.height());
+    if (notes)
+        *notes = plot.notes();
     return {};
 }
 

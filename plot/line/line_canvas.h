@@ -43,6 +43,8 @@ private:
 };
 
 /// Draws a line frame, showing `range` of its axes, or all of it when null; as PaintPicture.
-QString paintLines(CvlUniqueId frame, const ChartRange* range, QPaintDevice& device);
+/// `notes` (may be null) gets what there is to wonder at.
+QString paintLines(CvlUniqueId frame, const ChartRange* range, QPaintDevice& device,
+                   std::vector<SceneNote>* notes = nullptr);
 
 } // namespace corvala::plot

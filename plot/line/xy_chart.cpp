@@ -194,7 +194,7 @@ static void setFont(QCPAxis& axis, double font)
     axis.setSubTickLength(share(0.2));
     axis.setTickLabelPadding(share(0.35));
     axis.setLabelPadding(share(0.25));
-    axis.setPadding(share(0.4));
+    axis.setPadding(share(1.0)); // the widths of powers are underestimated
 }
 
 void XyChart::applyLook(Axis& axis)

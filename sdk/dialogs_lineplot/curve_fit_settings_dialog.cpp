@@ -52,7 +52,7 @@ CurveFitSettingsDialog& CurveFitSettingsDialog::getInstance(QWidget* parent)
                                   [](QWidget* owner) { return new CurveFitSettingsDialog(owner); });
 }
 
-static constexpr int kReportColumns = 52;
+static constexpr int kReportColumns = 62;
 static constexpr int kReportRows = 9;
 
 CurveFitSettingsDialog::CurveFitSettingsDialog(QWidget* parent)
