@@ -15,7 +15,7 @@ static void clip(double from, double to, double low, double high, double& begin,
             end = -1.0;
         return;
     }
-    const auto [first, last] = std::minmax((low - from) / way, (high - from) / way);
+    const auto [first, last] = std::minmax({(low - from) / way, (high - from) / way});
     begin = std::max(begin, first);
     end = std::min(end, last);
 }
