@@ -3,6 +3,7 @@
 
 #include "host/document/change.h"
 #include "host/document/document.h"
+#include "vocabulary/undo_kinds.h"
 
 #include <QStringList>
 
@@ -14,9 +15,10 @@ namespace corvala::host {
 class UndoHistory::Step : public QUndoCommand
 {
 public:
-    Step(Document& document, std::uint64_t gesture)
+    Step(Document& document, std::uint64_t gesture, bool isMend = false)
         : m_document(document)
         , m_gesture(gesture)
+        , m_isMend(isMend)
     {
     }
 
@@ -26,6 +28,7 @@ public:
         m_changes.push_back(std::make_shared<Change>(std::move(change)));
     }
     bool isEmpty() const { return m_changes.empty(); }
+    bool isMend() const { return m_isMend; }
     const std::vector<std::shared_ptr<Change>>& changes() const { return m_changes; }
 
     int id() const override { return m_gesture != 0 ? 1 : -1; }
@@ -36,8 +39,12 @@ public:
             return false;
         for (const auto& change : later.m_changes)
             describe(*change);
-        m_changes.insert(m_changes.end(), later.m_changes.begin(), later.m_changes.end());
+        join(later);
         return true;
+    }
+    void join(const Step& later)
+    {
+        m_changes.insert(m_changes.end(), later.m_changes.begin(), later.m_changes.end());
     }
 
     void undo() override
@@ -69,6 +76,7 @@ private:
 
     Document& m_document;
     std::uint64_t m_gesture;
+    bool m_isMend;
     bool m_done = false;
     std::vector<std::shared_ptr<Change>> m_changes;
     QStringList m_texts; ///< different ones, up to one more than are shown
@@ -144,10 +152,10 @@ void UndoHistory::clear()
     m_stack.clear();
 }
 
-void UndoHistory::begin(CvlInt64)
+void UndoHistory::begin(CvlInt64 kind)
 {
     if (m_depth++ == 0)
-        m_open = std::make_unique<Step>(m_document, m_gesture);
+        m_open = std::make_unique<Step>(m_document, m_gesture, kind == kUndoMend);
 }
 
 void UndoHistory::end(Closing closing)
@@ -157,6 +165,12 @@ void UndoHistory::end(Closing closing)
     std::unique_ptr<Step> step = std::move(m_open);
     if (step->isEmpty())
         return;
+    if (step->isMend()) {
+        const int last = m_stack.count() - 1;
+        if (last >= 0 && m_stack.index() > last) // the stack hands out what it holds as constant
+            const_cast<Step&>(static_cast<const Step&>(*m_stack.command(last))).join(*step);
+        return;
+    }
     switch (closing) {
     case Closing::OneStep: m_stack.push(step.release()); break;
     case Closing::SeparateSteps:

@@ -19,7 +19,7 @@ public:
         : m_sheet(sheet)
         , m_chart(chart)
         , m_view(view)
-        , m_ends(view.visible)
+        , m_ends(view.visible, chart.style().width * sheet.ratio)
     {
     }
 

@@ -115,6 +115,8 @@ LineBox ErrorBars::bounds() const
 {
     LineBox box;
     for (std::size_t point = 0; point < m_points.places->size(); ++point) {
+        if (!m_points.places->isFinite(point))
+            continue;
         for (const End across : {Left, Right}) {
             for (const End up : {Low, High}) {
                 const double x = m_ends[across][point];

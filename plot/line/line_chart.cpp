@@ -44,7 +44,7 @@ void BrokenTitle::update(UpdatePhase phase)
     constexpr double kShare = 0.95; // of the width
     if (phase == upPreparation) {
         const int gap = QFontMetrics(font()).height() / 4;
-        setMargins({gap, gap, gap, 0});
+        setMargins({gap, gap, gap, gap});
         setText(brokenText(m_whole, font(), kShare * parentPlot()->viewport().width()));
     }
     QCPTextElement::update(phase);
@@ -74,15 +74,20 @@ void LineChart::setTitle(const ChartLook& look)
         m_title->set(look.title, plotFont(kTimesLarger * look.font, true));
 }
 
+ChartView LineChart::seenIn(const QRectF& place)
+{
+    ChartView seen = view();
+    seen.visible = {place.left(), place.right(), place.top(), place.bottom()};
+    return seen;
+}
+
 void LineChart::draw(QCPPainter& painter)
 {
     if (m_beforeDrawing)
         m_beforeDrawing();
     const QPainterPath shape = outline();
     const QRect place = shape.boundingRect().toAlignedRect();
-    ChartView seen = view();
-    seen.visible = {static_cast<double>(place.left()), place.left() + place.width() + 0.0,
-                    static_cast<double>(place.top()), place.top() + place.height() + 0.0};
+    const ChartView seen = seenIn(place);
     painter.setClipPath(shape, Qt::IntersectClip);
     if (painter.modes().testFlag(QCPPainter::pmVectorized)) {
         m_ink.paint(painter, seen);
@@ -115,7 +120,8 @@ int LineChart::hiddenBy(const QRectF& box)
 
 std::int64_t LineChart::mapAt(const QPointF& pixel, double tolerance)
 {
-    return outline().contains(pixel) ? m_ink.mapAt(view(), pixel, tolerance) : 0;
+    const QPainterPath shape = outline();
+    return shape.contains(pixel) ? m_ink.mapAt(seenIn(shape.boundingRect()), pixel, tolerance) : 0;
 }
 
 } // namespace corvala::plot

@@ -42,8 +42,9 @@ public:
     void setBeforeDrawing(std::function<void()> action) { m_beforeDrawing = std::move(action); }
     /// Draws titles, axes and grid so from now on.
     virtual void setLook(const ChartLook& look) = 0;
-    /// Shows the axes that shapes are drawn along.
-    virtual void updateAxes() { }
+    /// Shows the axes that shapes are drawn along; an axis that is new shows all of them once all
+    /// are there.
+    virtual void updateAxes(bool /*isComplete*/) { }
     /// What is shown at first: the ranges that were set, else all shapes with a margin; `radii` are
     /// those of all points.
     virtual ChartRange home(const AxisRange& radii) const = 0;
@@ -74,6 +75,8 @@ protected:
 
 private:
     class Sheet;
+    /// The view, of which a part of the widget is seen.
+    ChartView seenIn(const QRectF& place);
     void draw(QCPPainter& painter);
 
     LineInk m_ink;

@@ -19,9 +19,12 @@ void LineInk::set(const ShapeKey& key, std::shared_ptr<const ChartShape> shape,
 
 void LineInk::remove(const ShapeKey& key)
 {
+    const auto found = m_shapes.find(key);
+    if (found == m_shapes.end())
+        return;
     m_drawing.reset();
-    if (m_shapes.erase(key) > 0)
-        restart();
+    m_shapes.erase(found);
+    restart();
 }
 
 void LineInk::setLayers(std::uint32_t layers)

@@ -174,8 +174,9 @@ void LineLegend::draw(QCPPainter* painter)
     painter->setPen(Qt::black);
     painter->setBrush(Qt::NoBrush);
     painter->setFont(plotFont(m_look.font));
-    const bool areAll = m_look.count <= m_grid.places();
-    const int drawn = areAll ? static_cast<int>(m_look.count) : m_grid.places() - 1;
+    const int room = std::min(m_grid.places(), static_cast<int>(m_look.entries.size()));
+    const bool areAll = m_look.count <= room;
+    const int drawn = areAll ? room : room - 1;
     for (int i = 0; i < drawn; ++i)
         drawEntry(*painter, m_look.entries[static_cast<std::size_t>(i)],
                   m_grid.place(m_box.topLeft(), i));
@@ -202,8 +203,9 @@ QPointF LineLegend::corner() const
 
 CvlInt64 LineLegend::mapAt(const QPointF& pixel) const
 {
-    const int count = std::min(m_grid.places(), static_cast<int>(m_look.entries.size()));
-    for (int i = 0; i < count && m_box.contains(pixel); ++i)
+    const int room = std::min(m_grid.places(), static_cast<int>(m_look.entries.size()));
+    const int drawn = m_look.count <= room ? room : room - 1;
+    for (int i = 0; i < drawn && m_box.contains(pixel); ++i)
         if (m_grid.place(m_box.topLeft(), i).contains(pixel))
             return m_look.entries[static_cast<std::size_t>(i)].map;
     return 0;

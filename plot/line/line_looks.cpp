@@ -31,6 +31,7 @@ static constexpr SharedStyle kShared[] = {
     {kMap.indices.ranges.jRange.min, true, Points},
     {kMap.indices.ranges.kRange.min, true, Points},
     {kMap.curves.curveType, true, Curves},
+    {kMap.curves.curveType, false, Points}, // a spline is not sorted
     {style::lineAxes.x.scale, false, Points},
     {style::lineAxes.y.scale, false, Points},
     {style::lineAxes.x.scale, true, Beside},

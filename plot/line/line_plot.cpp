@@ -182,7 +182,7 @@ void LinePlot::prepare()
     m_legend.set(drawn ? legendLookOf(*drawn, shownMaps(), m_height) : LegendLook());
     if (m_isFitted)
         m_chart->fit(isPolar() ? radii() : AxisRange());
-    m_chart->updateAxes();
+    m_chart->updateAxes(!MapScene::hasWork());
 }
 
 std::pair<CvlInt64, CvlInt64> LinePlot::progress() const

@@ -93,6 +93,11 @@ std::optional<std::size_t> MarkWalker::next()
 
 static constexpr double kCells = 2.0; ///< of a pixel, each way
 
+MarkPlaces::MarkPlaces(const LineBox& visible, double reach)
+    : MarkPlaces(grown(visible, reach))
+{
+}
+
 MarkPlaces::MarkPlaces(const LineBox& visible)
     : m_width(static_cast<std::size_t>(kCells * std::max(visible.right - visible.left, 0.0)) + 2)
     , m_height(static_cast<std::size_t>(kCells * std::max(visible.high - visible.low, 0.0)) + 2)

@@ -55,10 +55,13 @@ private:
 class MarkPlaces
 {
 public:
-    explicit MarkPlaces(const LineBox& visible);
+    /// `reach` is how far marks extend from their places, in pixels.
+    MarkPlaces(const LineBox& visible, double reach);
     bool isNew(const QPointF& pixel); ///< and remembers it
 
 private:
+    explicit MarkPlaces(const LineBox& all);
+
     std::size_t m_width;
     std::size_t m_height;
     QPointF m_origin;

@@ -128,6 +128,8 @@ void StrokeMask::Stroke::cover(int y, int left, int right, std::uint8_t* row) co
 void StrokeMask::add(const QPointF& from, const QPointF& to, double width, StrokeEnd start,
                      StrokeEnd end)
 {
+    if (!std::isfinite(from.x() + to.x()) || !std::isfinite(from.y() + to.y()))
+        return;
     const Stroke stroke(from, to, width, start, end);
     const double height = m_size.height() - 1.0;
     const int top = static_cast<int>(std::clamp(stroke.top(), 0.0, height + 1.0));

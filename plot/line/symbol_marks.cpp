@@ -3,6 +3,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -60,7 +61,7 @@ public:
         , m_points(marks.points())
         , m_walker(m_points, view, marks.style().reach() * sheet.ratio)
         , m_stamps(marks.style(), sheet.ratio)
-        , m_places(view.visible)
+        , m_places(view.visible, marks.style().reach() * sheet.ratio)
     {
         m_points.spacing.step *= m_points.spacing.isByDistance ? sheet.ratio : 1.0;
     }
@@ -90,6 +91,14 @@ private:
 };
 
 } // namespace
+
+/// Characters may be wider than high.
+double SymbolStyle::reach() const
+{
+    const QRectF box = path.outline.boundingRect().united(path.details.boundingRect());
+    const double most = std::max({1.0, -box.left(), box.right(), -box.top(), box.bottom()});
+    return most * size / 2.0 + lineWidth;
+}
 
 void SymbolStyle::paint(QPainter& painter, const QPointF& middle) const
 {
@@ -129,7 +138,7 @@ std::unique_ptr<ShapeDrawing> SymbolMarks::begin(const InkSheet& sheet, const Li
 void SymbolMarks::paint(QPainter& painter, const LineView& view) const
 {
     MarkWalker walker(m_points, view, m_style.reach());
-    MarkPlaces places(view.visible);
+    MarkPlaces places(view.visible, m_style.reach());
     while (const auto point = walker.next())
         if (const QPointF pixel = walker.pixel(*point); places.isNew(pixel))
             m_style.paint(painter, pixel);

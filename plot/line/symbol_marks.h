@@ -21,7 +21,7 @@ struct SymbolStyle
     QColor fill; ///< not valid for none
 
     /// How far it extends from its middle.
-    double reach() const { return size / 2.0 + lineWidth; }
+    double reach() const;
     /// Draws one round a place.
     void paint(QPainter& painter, const QPointF& middle) const;
 };

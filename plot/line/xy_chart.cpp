@@ -43,7 +43,7 @@ public:
 
     LinePlane plane(const LineAxes& axes) const override;
     void setLook(const ChartLook& look) override;
-    void updateAxes() override;
+    void updateAxes(bool isComplete) override;
     ChartRange home(const AxisRange& radii) const override;
     void fit(const AxisRange& radii) override;
     ChartRange range() const override;
@@ -122,7 +122,7 @@ XyChart::XyChart(QCustomPlot& plot)
     addAxes(m_first, QCPAxis::atBottom, QCPAxis::atTop);
     addAxes(m_second, QCPAxis::atLeft, QCPAxis::atRight);
     plot.setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
-    updateAxes();
+    updateAxes(false);
 }
 
 /// Both sides have the axes of a direction in their order, and a border after them.
@@ -235,7 +235,7 @@ void XyChart::setLook(const ChartLook& look)
     };
     take(m_first, look.first);
     take(m_second, look.second);
-    updateAxes();
+    updateAxes(false); // shapes may lie in another plane yet
 }
 
 /// Titles are as long as the plot, and as many numbers are written as have room.
@@ -321,7 +321,7 @@ void XyChart::showInUse(Direction& direction, QList<QCPAxis*>& shown)
     followBorders(direction);
 }
 
-void XyChart::updateAxes()
+void XyChart::updateAxes(bool isComplete)
 {
     QList<QCPAxis*> shown;
     showInUse(m_first, shown);
@@ -329,13 +329,13 @@ void XyChart::updateAxes()
     m_box->setRangeDragAxes(shown);
     m_box->setRangeZoomAxes(shown);
     // Axes that have come to be in use begin with all that is drawn along them.
-    const auto fitNew = [this](Direction& direction) {
+    const auto fitNew = [this, isComplete](Direction& direction) {
         for (std::size_t i = 0; i < kAxisCount; ++i) {
             Axis& axis = direction.axes[i];
             const AxisRange range = axis.hasRange ? AxisRange() : home(direction, i);
             if (range.minimum < range.maximum) {
                 axis.shown().setRange(range.minimum, range.maximum);
-                axis.hasRange = true;
+                axis.hasRange = isComplete;
             } else if (!axis.hasRange) {
                 axis.shown().setRange(axis.look.isLogarithmic ? 1.0 : 0.0,
                                       axis.look.isLogarithmic ? 10.0 : 1.0);
@@ -344,6 +344,13 @@ void XyChart::updateAxes()
     };
     fitNew(m_first);
     fitNew(m_second);
+}
+
+/// What the plotting library takes for a range.
+static AxisRange withinLimits(const AxisRange& range)
+{
+    constexpr double kMost = 1e249;
+    return {std::clamp(range.minimum, -kMost, kMost), std::clamp(range.maximum, -kMost, kMost)};
 }
 
 /// The range that was set, else all lines along an axis with a margin; nothing when there is none.
@@ -362,10 +369,13 @@ AxisRange XyChart::home(const Direction& direction, std::size_t number) const
         return {};
     const double minimum = direction.isFirst ? box.left : box.low;
     const double maximum = direction.isFirst ? box.right : box.high;
-    const double margin = maximum > minimum ? kMargin * (maximum - minimum) : 0.5;
-    if (look.isLogarithmic)
-        return {std::pow(10.0, minimum - margin), std::pow(10.0, maximum + margin)};
-    return {minimum - margin, maximum + margin};
+    const double size = maximum - minimum;
+    if (look.isLogarithmic) {
+        const double margin = size > 0.0 ? kMargin * size : 0.5;
+        return withinLimits({std::pow(10.0, minimum - margin), std::pow(10.0, maximum + margin)});
+    }
+    const double margin = size > 0.0 ? kMargin * size : std::max(0.5, kMargin * std::abs(maximum));
+    return withinLimits({minimum - margin, maximum + margin});
 }
 
 ChartRange XyChart::home(const AxisRange&) const
@@ -383,7 +393,7 @@ void XyChart::fit(const AxisRange&)
     for (Direction* const direction : {&m_first, &m_second})
         for (Axis& axis : direction->axes)
             axis.hasRange = false;
-    updateAxes();
+    updateAxes(true);
 }
 
 ChartRange XyChart::range() const
@@ -422,7 +432,9 @@ static LineScale scaleOf(const QCPAxis& axis)
 {
     const QCPRange range = inPlane(axis);
     const double first = axis.coordToPixel(axis.range().lower);
-    return {range.lower, first, (axis.coordToPixel(axis.range().upper) - first) / range.size()};
+    // A range may be too narrow for its logarithms to differ.
+    const double length = axis.coordToPixel(axis.range().upper) - first;
+    return {range.lower, first, range.size() > 0.0 ? length / range.size() : 0.0};
 }
 
 ChartView XyChart::view()

@@ -667,7 +667,7 @@ private Q_SLOTS:
         row("symbols", "Line Thickness", thicknesses, "0.60",
             "LineMap.Symbols.LineThickness 1,3 = 0.6");
         const char* spacings = "Draw all|-|I skip=2|I skip=3|I skip=4|-|Distance=1|Distance=2|"
-                               "Distance=3|-|Enter index...|-|Enter distance...";
+                               "Distance=3|-|Enter index...|Enter distance...";
         row("symbols", "Symbol Spacing", spacings, "I skip=3",
             "LineMap.Symbols.SkipMode 1,3 = 0; LineMap.Symbols.Skipping 1,3 = 3");
         row("error bars", "Error Bar Spacing", spacings, "Distance=2",
@@ -858,16 +858,21 @@ private Q_SLOTS:
         QCOMPARE(takeWrites(), QString());
     }
 
-    /// Reading a step that marks nothing mends it, once.
+    /// Reading a step that marks nothing mends it, once, and undo leads back before it.
     void mendSpacing()
     {
         open("symbols");
+        QVERIFY(setStyle("LineMap.Symbols.Skipping", "2", 3));
         QVERIFY(setStyle("LineMap.Symbols.Skipping", "2", 0));
         const QModelIndex spacing = m_model->index(1, columnOf("Symbol Spacing"));
         QCOMPARE(spacing.data().toString(), QString("Draw all"));
         QCOMPARE(takeWrites(), QString("LineMap.Symbols.Skipping 2 = 1"));
         QCOMPARE(spacing.data().toString(), QString("Draw all"));
         QCOMPARE(takeWrites(), QString());
+        Document::instance().undo().undo();
+        QCOMPARE(spacing.data().toString(), QString("I=3"));
+        QVERIFY(Document::instance().undo().redo());
+        QCOMPARE(spacing.data().toString(), QString("Draw all"));
     }
 
     /// Error bars are not switched on without a variable.

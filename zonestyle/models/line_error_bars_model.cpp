@@ -5,8 +5,9 @@
 #include "zonestyle/models/columns/line_columns.h"
 #include "zonestyle/models/columns/size_prompts.h"
 
+#include <sdk/uicommon/style_writing.h>
+
 #include <QCoreApplication>
-#include <QPointer>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 
@@ -35,13 +36,16 @@ public:
             return;
         const QModelIndexList rows = selectedIndexes(); // the action may go while it asks
         const bool isOn = m_isOn;
+        std::optional<int> variable;
         if (isOn && !hasVariable()) {
             const QString prompt = QCoreApplication::translate("Prompt", kVariablePrompt);
-            const std::optional<int> variable = actions::chooseVariable(prompt, prompt, 0);
+            variable = actions::chooseVariable(prompt, prompt, 0);
             if (!variable)
                 return;
-            actions::runAction<StyleAction<int>>(QString(), rows, *variable, kErrorBars.var);
         }
+        const StyleUndoStep step;
+        if (variable)
+            actions::runAction<StyleAction<int>>(QString(), rows, *variable, kErrorBars.var);
         actions::runAction<StyleAction<char>>(QString(), rows, char {isOn}, kErrorBars.show);
     }
 

@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 
+#include <cmath>
 #include <limits>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
@@ -73,7 +74,8 @@ std::optional<double> LineModelAbstract::SkipAction::entered() const
             translated(QT_TRANSLATE_NOOP("Prompt", "Enter the distance in frame units")),
             translated(QT_TRANSLATE_NOOP("Prompt", "Distance [%]")), 1.0, kHighestDistance, 0};
     const double present = toolbox::StyleValue(m_skipping).read<double>(firstMap()).value_or(1.0);
-    return corvala::dialogs::prompt::enterNumber(actions::promptParent(), prompt, present);
+    return corvala::dialogs::prompt::enterNumber(actions::promptParent(), prompt,
+                                                 std::round(present));
 }
 
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models

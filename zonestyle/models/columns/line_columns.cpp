@@ -3,6 +3,7 @@
 
 #include "zonestyle/models/line_skip_action.h"
 
+#include <sdk/uicommon/style_mend.h>
 #include <sdk/uicommon/style_writing.h>
 
 #include <QCoreApplication>
@@ -25,6 +26,7 @@ static double mendedStep(const Cell& cell)
         return step;
     toolbox::Set map;
     map.add(cell.map);
+    const StyleMend mend;
     writeStyle(cell.column.key, &map, 1);
     return 1.0;
 }
@@ -63,7 +65,6 @@ QList<QAction*> spacingMenu(const MenuRequest& request)
     return entries << actions::separator()
                    << entry(translated(QT_TRANSLATE_NOOP("Menu", "Enter index...")),
                             SkipAction::Mode::EnteredIndex)
-                   << actions::separator()
                    << entry(translated(QT_TRANSLATE_NOOP("Menu", "Enter distance...")),
                             SkipAction::Mode::EnteredDistance);
 }
