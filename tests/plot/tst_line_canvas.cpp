@@ -399,6 +399,15 @@ private Q_SLOTS:
         QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, {3, 3});
         QCOMPARE(picked.last()[0].value<CvlInt64>(), 0);
 
+        // Half way up its bar.
+        const QCPAxis& up = *axes.axis(QCPAxis::atLeft);
+        editStyle("BarCharts/Show=0", "2-6");
+        editStyle("LinePlotLayers/ShowLines=0 LinePlotLayers/ShowBarCharts=1", "1");
+        shown.settle();
+        const double half = (place.y() + up.coordToPixel(0.0)) / 2.0;
+        QTest::mouseClick(&shown.plot(), Qt::LeftButton, {}, {place.x(), int(half)});
+        QCOMPARE(picked.last()[0].value<CvlInt64>(), 1);
+
         // In a polar plot, also after another radius has come to its middle.
         std::string error;
         QVERIFY(samples::openDemo("polar", 0, error));
@@ -447,6 +456,24 @@ private Q_SLOTS:
         QVERIFY(samples::openDemo("xy", 0, error));
         shown.settle();
         QCOMPARE(across(), fitted);
+    }
+
+    /// Extremes that once ended the program, or left nothing to see.
+    void extremes_data()
+    {
+        const Rows<int, QString> row;
+        row("a legend of more maps than it looks at", 1200, "LineFrame/FontSize=0.8");
+        row("a range too narrow for its logarithms", 1,
+            "LineAxes/X/AutomaticRange[1]=0 LineAxes/X/RangeMin[1]=5 "
+            "LineAxes/X/RangeMax[1]=5.000000000000001 LineAxes/X/Scale[1]=1");
+    }
+
+    void extremes()
+    {
+        const auto [maps, settings] = currentRow<int, QString>();
+        openDemo("xy", maps);
+        editStyle(settings);
+        QVERIFY(!renderToImage(document().activeFrameId(), {800, 600}, nullptr).isNull());
     }
 
     void badPictures()

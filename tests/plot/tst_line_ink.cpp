@@ -189,6 +189,24 @@ private Q_SLOTS:
         QCOMPARE(inkPicture(line, viewOf(1.0), stroke, 0), inkPicture(line, viewOf(1.0), stroke));
     }
 
+    /// Layers that a map is not in are cleared of it while another line is in work.
+    void removalsOfNothingDisturbNothing()
+    {
+        const LineStroke stroke {Qt::blue, 3.0, {}};
+        const auto drawn = [&](bool isDisturbed) {
+            LineInk ink;
+            ink.set({0, 1}, stroked(sampled(wave, 20'000), stroke));
+            ink.set({0, 2}, stroked(sampled(wave, 10), {Qt::red, 3.0, {}}));
+            ink.setView(chartOf(viewOf(1.0)), kSize, 1.0);
+            ink.advance(0);
+            if (isDisturbed)
+                ink.remove({3, 99});
+            ink.advance(-1);
+            return ink.picture();
+        };
+        QCOMPARE(drawn(true), drawn(false));
+    }
+
     void denseLinesAreThinned()
     {
         LineInk ink;
