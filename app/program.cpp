@@ -14,7 +14,7 @@
 #include "play/dialog_driver.h"
 #include "play/player.h"
 #include "play/style_report.h"
-#include "plot/line/line_curves.h"
+#include "plot/line/fit_report.h"
 #include "plot/render.h"
 #include "samples/demo_data.h"
 #include "sdk/propertybindings/curve_fit_report.h"

@@ -32,6 +32,8 @@ private:
 class LineChart
 {
 public:
+    static constexpr int kPatience = 60; ///< milliseconds, unless told
+
     explicit LineChart(QCustomPlot& plot);
     virtual ~LineChart();
 
@@ -64,7 +66,6 @@ public:
     bool hasWork() const { return m_ink.hasWork(); }
     /// How long drawing the plot may draw shapes at once; negative until all is done.
     void setPatience(int milliseconds) { m_patience = milliseconds; }
-    int patience() const { return m_patience; }
 
 protected:
     /// How the shapes lie in the widget at present, whatever is outside left out.
@@ -84,7 +85,7 @@ private:
     BrokenTitle* m_title = nullptr; // owned by the plot
     std::unique_ptr<Sheet> m_sheet;
     std::function<void()> m_beforeDrawing;
-    int m_patience = 60;
+    int m_patience = kPatience;
 };
 
 std::unique_ptr<LineChart> makeXyChart(QCustomPlot& plot);

@@ -8,8 +8,6 @@
 #include "plot/curves/polynomial_fit.h"
 #include "plot/curves/smoothing_spline.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <tuple>
 #include <utility>
@@ -27,7 +25,7 @@ bool CurveRecipe::operator==(const CurveRecipe& other) const
     return tied(*this) == tied(other);
 }
 
-static bool isSplineType(int type)
+bool isSplineType(int type)
 {
     return type == CurveType_Spline || type == CurveType_ParametricSpline;
 }
@@ -166,83 +164,6 @@ LineCurve curveThrough(const host::DataSet& data, const LineRecipe& line, const 
         begin = end;
     }
     return curve;
-}
-
-#define LINE_CURVES_TEXT(text) QT_TRANSLATE_NOOP("LineCurves", text)
-
-static QString translated(const char* text)
-{
-    return QCoreApplication::translate("LineCurves", text);
-}
-
-QString problemText(CurveProblem problem)
-{
-    switch (problem) {
-    case CurveProblem::None: break;
-    case CurveProblem::TooFewPoints: return translated(LINE_CURVES_TEXT("too few points"));
-    case CurveProblem::SameAbscissas:
-        return translated(LINE_CURVES_TEXT("too few different values of the independent variable"));
-    case CurveProblem::NonPositiveX:
-        return translated(LINE_CURVES_TEXT("values of the independent variable are not positive"));
-    case CurveProblem::NonPositiveY:
-        return translated(LINE_CURVES_TEXT("values of the dependent variable are not positive"));
-    case CurveProblem::NoPeak:
-        return translated(LINE_CURVES_TEXT("all points lie at the same height"));
-    case CurveProblem::NoConvergence:
-        return translated(LINE_CURVES_TEXT("no such curve comes near the points"));
-    case CurveProblem::OutOfRange: return translated(LINE_CURVES_TEXT("the numbers are too large"));
-    }
-    return {};
-}
-
-static QString numberText(double number)
-{
-    constexpr int kDigits = 12;
-    return std::isfinite(number) ? QString::number(number, 'g', kDigits) : QStringLiteral("-");
-}
-
-static QStringList reportLines(const CurveFit& fit)
-{
-    constexpr int kNameWidth = 18;
-    constexpr int kNumberWidth = 19;
-    QStringList lines;
-    const auto row = [&lines](const QString& name, const QString& value, const QString& error) {
-        QString line = name.leftJustified(kNameWidth) + value.rightJustified(kNumberWidth)
-            + error.rightJustified(kNumberWidth);
-        while (line.endsWith(QLatin1Char(' ')))
-            line.chop(1);
-        lines << line;
-    };
-    if (!fit.coefficients.empty())
-        row({}, translated(LINE_CURVES_TEXT("value")),
-            translated(LINE_CURVES_TEXT("standard error")));
-    for (const Coefficient& some : fit.coefficients)
-        row(QString::fromStdString(some.name), numberText(some.value),
-            numberText(some.standardError));
-    row(translated(LINE_CURVES_TEXT("R squared")), numberText(fit.rSquared), {});
-    row(translated(LINE_CURVES_TEXT("residual deviation")), numberText(fit.residualDeviation), {});
-    row(translated(LINE_CURVES_TEXT("points")), QString::number(fit.pointCount), {});
-    return lines;
-}
-
-QString fitReport(const host::Frame& frame, CvlInt64 map)
-{
-    const CurveRecipe recipe = curveRecipeOf(frame, map);
-    if (!frame.hasData() || recipe.type == CurveType_LineSegments || isSplineType(recipe.type))
-        return {};
-    const LineRecipe line = recipeOf(frame, map);
-    const LinePoints points = linePoints(*frame.data(), line);
-    const LineCurve curve = curveThrough(*frame.data(), line, points, recipe, {});
-    if (curve.fits.empty() || !curve.fits.front().isValid()) {
-        const CurveProblem problem =
-            curve.fits.empty() ? CurveProblem::TooFewPoints : curve.problem();
-        return translated(LINE_CURVES_TEXT("There is no curve: %1.")).arg(problemText(problem));
-    }
-    QStringList lines = reportLines(curve.fits.front());
-    if (curve.fits.size() > 1)
-        lines << translated(LINE_CURVES_TEXT("This is the first of %1 lines of the map."))
-                     .arg(curve.fits.size());
-    return lines.join(QLatin1Char('\n'));
 }
 
 } // namespace corvala::plot

@@ -4,8 +4,6 @@
 #include "plot/curves/curve_fit.h"
 #include "plot/line/line_points.h"
 
-#include <QString>
-
 #include <vector>
 
 namespace corvala::plot {
@@ -28,6 +26,8 @@ struct CurveRecipe
     bool operator==(const CurveRecipe& other) const;
 };
 
+/// Whether a curve of the type (a CurveType_e) runs through its points, so that nothing is fitted.
+bool isSplineType(int type);
 CurveRecipe curveRecipeOf(const host::Frame& frame, CvlInt64 map);
 
 /// A curve as points to be joined, and what came of the fit of each run.
@@ -44,12 +44,5 @@ struct LineCurve
 /// shows.
 LineCurve curveThrough(const host::DataSet& data, const LineRecipe& line, const LinePoints& points,
                        const CurveRecipe& recipe, const LinePlane& plane);
-
-/// A problem in words, such as "too few points"; empty for none.
-QString problemText(CurveProblem problem);
-
-/// What came of the fit of a line map: coefficients with their standard errors and R squared, or
-/// the problem, in lines of plain text. Empty for a map without a fit. The map must exist.
-QString fitReport(const host::Frame& frame, CvlInt64 map);
 
 } // namespace corvala::plot

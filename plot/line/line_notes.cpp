@@ -2,7 +2,7 @@
 #include "plot/line/line_notes.h"
 
 #include "host/document/line_map_name.h"
-#include "host/style/schema.h"
+#include "plot/line/fit_report.h"
 #include "plot/line/line_looks.h"
 
 #include <QCoreApplication>

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_plot.h"
 
-#include "host/document/line_map_name.h"
+#include "plot/line/axis_names.h"
 #include "plot/line/line_notes.h"
-
-#include <QElapsedTimer>
 
 #include <algorithm>
 #include <cmath>
@@ -16,11 +14,18 @@ namespace corvala::plot {
 LinePlot::LinePlot(QCustomPlot& plot)
     : MapScene(lineSceneKind(), kLargestPlot)
     , m_plot(plot)
-    , m_chart(makeXyChart(plot))
     , m_legend(plot)
-    , m_patience(m_chart->patience())
 {
+    makeChart();
+}
+
+void LinePlot::makeChart()
+{
+    m_chart.reset(); // before another one takes the plot
+    m_chart = isPolar() ? makePolarChart(m_plot) : makeXyChart(m_plot);
     m_legend.setChart(*m_chart);
+    m_chart->setPatience(m_patience);
+    m_chart->setBeforeDrawing([this] { followPlanes(); });
 }
 
 void LinePlot::clear(const host::Frame* drawn, Fresh)
@@ -28,11 +33,7 @@ void LinePlot::clear(const host::Frame* drawn, Fresh)
     const ChartRange range = m_chart->range();
     const PlotType_e plotTypeBefore =
         std::exchange(m_plotType, drawn ? drawn->plotType() : PlotType_None);
-    m_chart.reset();
-    m_chart = isPolar() ? makePolarChart(m_plot) : makeXyChart(m_plot);
-    m_legend.setChart(*m_chart);
-    m_chart->setPatience(m_patience);
-    m_chart->setBeforeDrawing([this] { followPlanes(); });
+    makeChart();
     m_geometries.clear();
     if (drawn)
         applyLook(*drawn);
@@ -205,76 +206,10 @@ void LinePlot::resume()
     m_chart->ink().resume();
 }
 
-namespace {
-
-/// Collects the variables along an axis.
-struct AxisVariables
-{
-    QStringList names;
-    bool areInstants = true;
-
-    void add(const host::Frame& drawn, CvlInt64 variable);
-    QString title(bool hasLegend) const;
-    void title(AxisLook& axis, bool hasLegend) const;
-};
-
-} // namespace
-
-void AxisVariables::add(const host::Frame& drawn, CvlInt64 variable)
-{
-    const host::DataSet* const data = drawn.data();
-    const QString name = QString::fromStdString(host::shownVariableName(data, variable));
-    if (!names.contains(name))
-        names.append(name);
-    areInstants = areInstants && data && data->hasVariable(variable)
-        && data->variable(variable).kind == host::VariableKind::Instant;
-}
-
-/// Many names are those of a legend, or the first ones and an ellipsis.
-QString AxisVariables::title(bool hasLegend) const
-{
-    constexpr int kMostNames = 4;
-    const QString separator = QStringLiteral(", ");
-    if (names.size() <= kMostNames)
-        return names.join(separator);
-    return hasLegend ? QString() : names.mid(0, kMostNames).join(separator) + ", \u2026";
-}
-
-void AxisVariables::title(AxisLook& axis, bool hasLegend) const
-{
-    axis.isOfInstants = areInstants && !names.isEmpty();
-    if (axis.title.isEmpty())
-        axis.title = title(hasLegend);
-}
-
-/// Axes without a title of their own have the names of the variables along them.
-void LinePlot::addNames(const host::Frame& drawn, ChartLook& look) const
-{
-    std::array<AxisVariables, kAxisCount> first;
-    std::array<AxisVariables, kAxisCount> second;
-    for (const std::uint32_t map : shownMaps()) {
-        if (!isSeen(drawn, map))
-            continue;
-        const LineRecipe recipe = recipeOf(drawn, map);
-        const LineAxes axes = axesOf(drawn, map);
-        first[axes.first].add(drawn, recipe.first);
-        second[axes.second].add(drawn, recipe.second);
-    }
-    const bool hasLegend = drawn.isOn(style::lineLegend.show);
-    for (std::size_t i = 0; i < kAxisCount; ++i) {
-        first[i].title(look.first[i], hasLegend);
-        second[i].title(look.second[i], hasLegend);
-    }
-    const QString angle = first[0].title(hasLegend);
-    const QString radius = second[0].title(hasLegend);
-    if (look.polar.title.isEmpty() && !angle.isEmpty() && !radius.isEmpty())
-        look.polar.title = tr("%1 over %2").arg(radius, angle);
-}
-
 void LinePlot::applyLook(const host::Frame& drawn)
 {
     ChartLook look = chartLookOf(drawn, m_height);
-    addNames(drawn, look);
+    addVariableNames(drawn, shownMaps(), look);
     m_chart->setLook(look);
 }
 

@@ -63,6 +63,7 @@ protected:
     void forget(CvlInt64 map) override;
 
 private:
+    void makeChart();
     /// Puts the map into a layer, or takes it out.
     void syncLayer(std::size_t layer, const ShownLine& line, bool isShown);
     const LineGeometry& geometryOf(const ShownLine& line);
@@ -70,7 +71,6 @@ private:
     void followPlanes();
     AxisRange radii() const;
     void applyLook(const host::Frame& frame);
-    void addNames(const host::Frame& frame, ChartLook& look) const;
 
     QCustomPlot& m_plot;
     std::unique_ptr<LineChart> m_chart;
@@ -78,7 +78,7 @@ private:
     PlotType_e m_plotType = PlotType_None;
     bool m_isFitted = true;
     int m_height = 1;
-    int m_patience;
+    int m_patience = LineChart::kPatience;
     std::unordered_map<CvlInt64, LineGeometry> m_geometries; ///< of the maps in some layer
     std::int64_t m_syncs = 0;
 };

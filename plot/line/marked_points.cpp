@@ -6,20 +6,11 @@
 
 namespace corvala::plot {
 
-static LineBox grown(LineBox box, double by)
-{
-    box.left -= by;
-    box.right += by;
-    box.low -= by;
-    box.high += by;
-    return box;
-}
-
 MarkWalker::MarkWalker(const MarkedPoints& points, const LineView& view, double reach)
     : m_points(points)
     , m_view(view)
 {
-    m_view.visible = grown(view.visible, reach);
+    m_view.visible = view.visible.grown(reach);
 }
 
 QPointF MarkWalker::pixel(std::size_t point) const
@@ -94,7 +85,7 @@ std::optional<std::size_t> MarkWalker::next()
 static constexpr double kCells = 2.0; ///< of a pixel, each way
 
 MarkPlaces::MarkPlaces(const LineBox& visible, double reach)
-    : MarkPlaces(grown(visible, reach))
+    : MarkPlaces(visible.grown(reach))
 {
 }
 

@@ -21,6 +21,8 @@ struct LineBox
     void add(double x, double y);
     void add(const LineBox& other);
     bool meets(const LineBox& other) const;
+    /// The same with so much more on each side.
+    LineBox grown(double by) const { return {left - by, right + by, low - by, high + by}; }
     /// Whether it is at most this wide, or this high.
     bool isThin(double width) const;
 };

@@ -37,15 +37,6 @@ std::optional<std::pair<double, double>> clipped(const LineSegment& segment, con
     return std::pair(first, last);
 }
 
-LineBox grown(LineBox box, double by)
-{
-    box.left -= by;
-    box.right += by;
-    box.low -= by;
-    box.high += by;
-    return box;
-}
-
 /// Pixels that the strokes of a line cover, each as often as it is covered.
 class InkMeter : public SegmentSink
 {
@@ -109,7 +100,7 @@ Stroker::Stroker(const InkSheet& sheet, const StrokedLine& line, const LineView&
 {
     constexpr double kShortestPeriod = 2.0; // of which strokes and gaps can be told apart
     LineView reached = view;
-    reached.visible = grown(view.visible, m_width + 2.0);
+    reached.visible = view.visible.grown(m_width + 2.0);
     m_isThinned = isTooDense(reached);
     if (m_isThinned)
         reached.visible = view.visible;
@@ -238,7 +229,7 @@ void StrokedLine::paint(QPainter& painter, const LineView& view) const
 {
     constexpr double kFine = 0.1; // pixels; a page is looked at closer than a screen
     LineView fine = view;
-    fine.visible = grown(view.visible, m_stroke.width + 2.0);
+    fine.visible = view.visible.grown(m_stroke.width + 2.0);
     fine.resolution = kFine;
     PathSink sink;
     const std::vector<double> noLengths;

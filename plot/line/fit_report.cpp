@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/line/fit_report.h"
+
+#include "host/document/frame.h"
+#include "plot/line/line_curves.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <cmath>
+
+namespace corvala::plot {
+
+#define FIT_TEXT(text) QT_TRANSLATE_NOOP("FitReport", text)
+
+static QString translated(const char* text)
+{
+    return QCoreApplication::translate("FitReport", text);
+}
+
+QString problemText(CurveProblem problem)
+{
+    switch (problem) {
+    case CurveProblem::None: break;
+    case CurveProblem::TooFewPoints: return translated(FIT_TEXT("too few points"));
+    case CurveProblem::SameAbscissas:
+        return translated(FIT_TEXT("too few different values of the independent variable"));
+    case CurveProblem::NonPositiveX:
+        return translated(FIT_TEXT("values of the independent variable are not positive"));
+    case CurveProblem::NonPositiveY:
+        return translated(FIT_TEXT("values of the dependent variable are not positive"));
+    case CurveProblem::NoPeak: return translated(FIT_TEXT("all points lie at the same height"));
+    case CurveProblem::NoConvergence:
+        return translated(FIT_TEXT("no such curve comes near the points"));
+    case CurveProblem::OutOfRange: return translated(FIT_TEXT("the numbers are too large"));
+    }
+    return {};
+}
+
+static QString numberText(double number)
+{
+    constexpr int kDigits = 12;
+    return std::isfinite(number) ? QString::number(number, 'g', kDigits) : QStringLiteral("-");
+}
+
+static QStringList reportLines(const CurveFit& fit)
+{
+    constexpr int kNameWidth = 18;
+    constexpr int kNumberWidth = 19;
+    QStringList lines;
+    const auto row = [&lines](const QString& name, const QString& value, const QString& error) {
+        QString line = name.leftJustified(kNameWidth) + value.rightJustified(kNumberWidth)
+            + error.rightJustified(kNumberWidth);
+        while (line.endsWith(QLatin1Char(' ')))
+            line.chop(1);
+        lines << line;
+    };
+    if (!fit.coefficients.empty())
+        row({}, translated(FIT_TEXT("value")), translated(FIT_TEXT("standard error")));
+    for (const Coefficient& some : fit.coefficients)
+        row(QString::fromStdString(some.name), numberText(some.value),
+            numberText(some.standardError));
+    row(translated(FIT_TEXT("R squared")), numberText(fit.rSquared), {});
+    row(translated(FIT_TEXT("residual deviation")), numberText(fit.residualDeviation), {});
+    row(translated(FIT_TEXT("points")), QString::number(fit.pointCount), {});
+    return lines;
+}
+
+QString fitReport(const host::Frame& frame, CvlInt64 map)
+{
+    const CurveRecipe recipe = curveRecipeOf(frame, map);
+    if (!frame.hasData() || recipe.type == CurveType_LineSegments || isSplineType(recipe.type))
+        return {};
+    const LineRecipe line = recipeOf(frame, map);
+    const LinePoints points = linePoints(*frame.data(), line);
+    const LineCurve curve = curveThrough(*frame.data(), line, points, recipe, {});
+    if (curve.fits.empty() || !curve.fits.front().isValid()) {
+        const CurveProblem problem =
+            curve.fits.empty() ? CurveProblem::TooFewPoints : curve.problem();
+        return translated(FIT_TEXT("There is no curve: %1.")).arg(problemText(problem));
+    }
+    QStringList lines = reportLines(curve.fits.front());
+    if (curve.fits.size() > 1)
+        lines << translated(FIT_TEXT("This is the first of %1 lines of the map."))
+                     .arg(curve.fits.size());
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace corvala::plot
