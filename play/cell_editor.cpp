@@ -67,11 +67,16 @@ static void chooseInCombo(QComboBox& combo, const Json& choice)
     pressKey(list, Qt::Key_Return);
 }
 
-static void chooseInList(QAbstractItemView& list, const Json& choice)
+/// A click chooses the entry; beside a text field it takes two to insert it there.
+static void chooseInList(QAbstractItemView& list, bool besideText, const Json& choice)
 {
     const QModelIndex entry = list.model()->index(positionOf(choice, list), 0);
     list.scrollTo(entry);
-    click(list.viewport(), list.visualRect(entry).center());
+    const QPoint position = list.visualRect(entry).center();
+    if (besideText)
+        doubleClick(list.viewport(), position);
+    else
+        click(list.viewport(), position);
 }
 
 static void enter(QWidget& editor, const CellEdit& edit)
@@ -86,7 +91,7 @@ static void enter(QWidget& editor, const CellEdit& edit)
     if (combo)
         return chooseInCombo(*combo, edit.choose);
     if (auto* list = editor.findChild<QAbstractItemView*>())
-        return chooseInList(*list, edit.choose);
+        return chooseInList(*list, editor.findChild<QLineEdit*>(), edit.choose);
     throw ScriptError(Text::tr("the editor has no list"));
 }
 

@@ -156,8 +156,23 @@ void DynamicLineMapTextEditDialog::insertCurrentToken()
     m_lineEdit->setFocus();
 }
 
+/// A line edit drops its selection with the focus; here a token is to take the place of what was
+/// selected when the hand went to the list.
+void DynamicLineMapTextEditDialog::leaveSelected(QEvent& focusOut)
+{
+    const int start = m_lineEdit->selectionStart();
+    const int length = m_lineEdit->selectionLength();
+    m_lineEdit->event(&focusOut);
+    if (length > 0)
+        m_lineEdit->setSelection(start, length);
+}
+
 bool DynamicLineMapTextEditDialog::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_lineEdit && event->type() == QEvent::FocusOut) {
+        leaveSelected(*event);
+        return true;
+    }
     const int key =
         event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : Qt::Key_unknown;
     if (watched == m_lineEdit && key == Qt::Key_Down) {

@@ -41,6 +41,7 @@ private:
                                const QString& text);
     void setUpTokenList();
     void insertCurrentToken();
+    void leaveSelected(QEvent& focusOut);
 
     QLineEdit* m_lineEdit = nullptr;
     QToolButton* m_insertButton = nullptr;
