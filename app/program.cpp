@@ -9,6 +9,7 @@
 #include "app/picture_output.h"
 #include "app/program_stage.h"
 #include "app/style_dialog.h"
+#include "app/termination.h"
 #include "host/document/document.h"
 #include "host/undo/gesture_tracker.h"
 #include "play/dialog_driver.h"
@@ -183,16 +184,17 @@ static int runApplication(int argc, char** argv, const Options& options)
 {
     QApplication application(argc, argv);
     setUpLocale();
+    const Termination termination;
     reportCurveFits();
     const host::GestureTracker gestures(host::Document::instance().undo());
     MainWindow window;
     if (!options.isBatch()) {
         const BusyCursor busy;
         startInteractive(window, options);
-        return QApplication::exec();
+        return Termination::exitCode(QApplication::exec());
     }
     QTimer::singleShot(0, &window, [&] { QApplication::exit(runBatch(window, options)); });
-    return QApplication::exec();
+    return Termination::exitCode(QApplication::exec());
 }
 
 int runProgram(int argc, char** argv)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/data_reader.h"
 
+#include "host/io/process_vitals.h"
 #include "host/io/read_folder.h"
 #include "host/io/read_protocol.h"
 #include "host/io/read_result.h"
@@ -23,6 +24,7 @@ namespace corvala::host::io {
 
 static constexpr int kLongestLine = 1 << 20;
 static constexpr int kLongestComplaint = 200;
+static constexpr int kLooksInPatience = 20; ///< at whether the reading program moves
 
 class DataReader::Private
 {
@@ -39,6 +41,9 @@ public:
 
 private:
     bool prepareFolder(const ReadRequest& request);
+    void watch(int patienceMilliseconds);
+    void endWatch();
+    void lookForLife();
     void readLines();
     void takeLine(const QByteArray& text);
     void processEnded(int code, QProcess::ExitStatus status);
@@ -49,7 +54,10 @@ private:
     void finish(const ReadResult& result);
 
     DataReader* q;
-    QTimer silence;
+    QTimer standstill; ///< ends when nothing moved for as long as one is patient
+    QTimer look;
+    QByteArray vitals; ///< at the last look
+    QByteArray lastLine;
     std::unique_ptr<ReadFolder> folder;
     QString currentFile;
     QByteArray complaints; ///< the end of what libraries printed
@@ -64,12 +72,13 @@ DataReader::Private::Private(DataReader* reader)
     : q(reader)
 {
     process.setStandardInputFile(QProcess::nullDevice());
-    silence.setSingleShot(true);
-    QObject::connect(&silence, &QTimer::timeout, q, [this] {
+    standstill.setSingleShot(true);
+    QObject::connect(&standstill, &QTimer::timeout, q, [this] {
         reason = DataReader::tr("the reader made no progress for %n second(s)", nullptr,
-                                silence.interval() / 1000);
+                                standstill.interval() / 1000);
         process.kill();
     });
+    QObject::connect(&look, &QTimer::timeout, q, [this] { lookForLife(); });
     QObject::connect(&process, &QProcess::readyReadStandardOutput, q, [this] { readLines(); });
     QObject::connect(&process, &QProcess::readyReadStandardError, q, [this] {
         complaints = (complaints + process.readAllStandardError()).right(kLongestComplaint);
@@ -111,7 +120,7 @@ void DataReader::Private::start(const ReadRequest& request)
         return fail(DataReader::tr("the reading program corvala-read is missing"));
     if (!prepareFolder(request))
         return fail(DataReader::tr("no temporary folder can be made in %1").arg(QDir::tempPath()));
-    silence.start(request.limits.patienceMilliseconds);
+    watch(request.limits.patienceMilliseconds);
     process.start(program, {folder->path()});
 }
 
@@ -128,6 +137,28 @@ bool DataReader::Private::prepareFolder(const ReadRequest& request)
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush();
 }
 
+void DataReader::Private::watch(int patienceMilliseconds)
+{
+    vitals.clear();
+    lastLine.clear();
+    standstill.start(patienceMilliseconds);
+    look.start(patienceMilliseconds / kLooksInPatience);
+}
+
+void DataReader::Private::endWatch()
+{
+    standstill.stop();
+    look.stop();
+}
+
+void DataReader::Private::lookForLife()
+{
+    if (const QByteArray now = vitalsOf(process.processId()); now != vitals) {
+        vitals = now;
+        standstill.start();
+    }
+}
+
 void DataReader::Private::end(bool byUser)
 {
     cancelled = cancelled || byUser;
@@ -137,7 +168,7 @@ void DataReader::Private::end(bool byUser)
 /// Ends a reading that did not come to run a process. Later, as `finished` follows `start`.
 void DataReader::Private::fail(const QString& why)
 {
-    silence.stop();
+    endWatch();
     reason = why;
     QTimer::singleShot(0, q, [this] { processEnded(-1, QProcess::NormalExit); });
 }
@@ -145,8 +176,11 @@ void DataReader::Private::fail(const QString& why)
 void DataReader::Private::readLines()
 {
     while (process.canReadLine()) {
-        silence.start();
-        takeLine(process.readLine().trimmed());
+        const QByteArray line = process.readLine().trimmed();
+        if (line != lastLine)
+            standstill.start();
+        lastLine = line;
+        takeLine(line);
     }
     if (process.bytesAvailable() > kLongestLine) {
         process.readAllStandardOutput();
@@ -174,7 +208,7 @@ void DataReader::Private::processEnded(int code, QProcess::ExitStatus status)
 {
     if (!running)
         return;
-    silence.stop();
+    endWatch();
     if (process.isOpen())
         readLines();
     if (reason.isEmpty() && !cancelled)
@@ -292,6 +326,8 @@ ReadResult DataReader::read(const ReadRequest& request)
     DataReader reader;
     QEventLoop loop;
     ReadResult result;
+    result.cancelled = true; // the program may end while it is being read
+    result.error = tr("the reading was given up");
     connect(&reader, &DataReader::finished, &loop, [&](const ReadResult& found) {
         result = found;
         loop.quit();

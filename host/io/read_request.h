@@ -31,7 +31,7 @@ QString describe(const Plot3DLayout& layout);
 struct ReadLimits
 {
     std::int64_t memoryBytes = 0; ///< address space of the reader; 0 is 3/4 of the machine's memory
-    int patienceMilliseconds = 300'000; ///< longest silence of the reader
+    int patienceMilliseconds = 20'000; ///< longest standstill: of bytes read, memory, progress
 };
 
 /// What is wanted of files.

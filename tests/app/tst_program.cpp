@@ -3,11 +3,13 @@
 #include "tests/support/rows.h"
 
 #include <QDir>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <nlohmann/json.hpp>
 
+#include <csignal>
 #include <fstream>
 
 using namespace corvala::tests;
@@ -81,6 +83,27 @@ private Q_SLOTS:
         QCOMPARE(run.exitCode, 1);
         QVERIFY2(run.errors.contains(named), qPrintable(run.errors));
         QCOMPARE(run.errors.count(QLatin1Char('\n')), 1);
+    }
+
+    void endsInGoodOrderWhenAskedTo()
+    {
+        const QTemporaryDir temporary;
+        QProcessEnvironment environment = environmentWithoutDisplay();
+        environment.insert(QStringLiteral("TMPDIR"), temporary.path());
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(
+            QStringLiteral(CORVALA_PROGRAM),
+            {"--report", m_folder.filePath("never.json"),
+             QStringLiteral(CORVALA_SAMPLES "/exodus_biplane/biplane_rms_pressure_bs.exo")});
+        const auto folders = [&temporary] {
+            return QDir(temporary.path()).entryList({"corvala-*"}, QDir::Dirs);
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(!folders().isEmpty(), 60000);
+        program.terminate();
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitCode(), 128 + SIGTERM);
+        QCOMPARE(folders(), QStringList());
     }
 
     void wrongScriptsNameTheirLine_data()

@@ -401,6 +401,9 @@ private Q_SLOTS:
         row("no index", "exit 0", "cannot be understood");
         row("rubbish as index", "echo '{}' > \"$1/index.json\"", "cannot be understood");
         row("exit code", "exit 7", "exit code 7");
+        row("silent but at work", "for i in 1 2 3 4; do sleep 0.5; cat /dev/null; done; exit 7",
+            "exit code 7");
+        row("in a loop", "while :; do :; done", "no progress for 1 second");
         row("last words", "echo first >&2; echo the disk is full >&2; exit 7",
             "(the disk is full)");
     }
@@ -411,7 +414,10 @@ private Q_SLOTS:
         const QString program = m_folder->write("reader.sh", "#!/bin/sh\n" + script + '\n');
         QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
         qputenv("CORVALA_READ", QFile::encodeName(program));
-        const ReadResult result = read({"/data/a.vtu"});
+        ReadRequest request;
+        request.files = QStringList {"/data/a.vtu"};
+        request.limits.patienceMilliseconds = 1500;
+        const ReadResult result = DataReader::read(request);
         QVERIFY(!result.data);
         QVERIFY2(result.error.startsWith("/data/a.vtu could not be read: the reader "),
                  qPrintable(result.error));
