@@ -14,7 +14,6 @@
 #include <QProcess>
 #include <QTimer>
 
-#include <atomic>
 #include <csignal>
 #include <thread>
 #include <tuple>
@@ -63,7 +62,7 @@ private:
     QByteArray complaints; ///< the end of what libraries printed
     QString reason; ///< why it cannot be read, as far as known
     BadRows badRows; ///< which are the reason
-    std::atomic<bool> cancelled {false};
+    bool cancelled = false;
     std::thread loader; ///< runs while the folder of the reading program is loaded
     bool hasSpoken = false; ///< the reading program came to work
 };
@@ -255,14 +254,9 @@ QString DataReader::Private::reasonForEnd(int code, QProcess::ExitStatus status)
 /// On a thread of its own, so that the program goes on meanwhile.
 void DataReader::Private::startLoading()
 {
-    const QString what = DataReader::tr("Loading %1").arg(QFileInfo(currentFile).fileName());
-    const auto report = [this, what](int percent) {
-        QMetaObject::invokeMethod(
-            q, [this, what, percent] { Q_EMIT q->progress(percent, what); }, Qt::QueuedConnection);
-        return !cancelled;
-    };
-    loader = std::thread([this, report, taken = folder.release()] {
-        const LoadedData loaded = loadData(std::unique_ptr<ReadFolder>(taken), report);
+    Q_EMIT q->progress(-1, DataReader::tr("Loading %1").arg(QFileInfo(currentFile).fileName()));
+    loader = std::thread([this, taken = folder.release()] {
+        const LoadedData loaded = loadData(std::unique_ptr<ReadFolder>(taken));
         QMetaObject::invokeMethod(
             q, [this, loaded] { takeLoaded(loaded); }, Qt::QueuedConnection);
     });

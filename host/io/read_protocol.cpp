@@ -205,7 +205,6 @@ std::string toJson(const DataSetIndex& index)
                 {"contours", data.contourVariables},
                 {"planar", data.isPlanar},
                 {"enclosed", data.surfacesEncloseVolumes},
-                {"zoneFiles", index.zoneFiles},
                 {"notes", listJson(index.notes, messageJson)}};
     if (index.plot3d)
         value["plot3d"] = layoutJson(*index.plot3d);
@@ -214,21 +213,12 @@ std::string toJson(const DataSetIndex& index)
     return dump(value);
 }
 
-/// The index stays within the folder and its own lists.
+/// The index stays within its own lists.
 static bool isConsistent(const DataSetIndex& index)
 {
     const DataSet& data = index.data;
-    const auto staysInside = [](const std::string& name) {
-        return name.find('/') == std::string::npos;
-    };
-    const auto hasFile = [&](const ZoneInfo& zone) {
-        return zone.sourceIndex >= 0
-            && zone.sourceIndex < static_cast<std::int64_t>(index.zoneFiles.size());
-    };
     const auto isVariable = [&](int number) { return number == 0 || data.hasVariable(number); };
-    return std::all_of(index.zoneFiles.begin(), index.zoneFiles.end(), staysInside)
-        && std::all_of(data.zones.begin(), data.zones.end(), hasFile)
-        && std::all_of(data.vectorVariables.begin(), data.vectorVariables.end(), isVariable)
+    return std::all_of(data.vectorVariables.begin(), data.vectorVariables.end(), isVariable)
         && std::all_of(data.contourVariables.begin(), data.contourVariables.end(), isVariable);
 }
 
@@ -245,7 +235,6 @@ std::optional<DataSetIndex> indexFromJson(const std::string& text)
         value.at("contours").get_to(data.contourVariables);
         value.at("planar").get_to(data.isPlanar);
         value.at("enclosed").get_to(data.surfacesEncloseVolumes);
-        value.at("zoneFiles").get_to(index.zoneFiles);
         listFrom(value.at("notes"), index.notes, messageFrom);
         if (value.contains("plot3d"))
             index.plot3d = layoutFrom(value.at("plot3d"));

@@ -12,7 +12,7 @@
 
 /// What the program and its reading program tell each other. The program makes a private folder,
 /// writes the request into it and starts the reading program with the folder as its argument. That
-/// one writes lines of JSON on its standard output while it works, zone files and at last the index
+/// one writes lines of JSON on its standard output while it works, the zones and at last the index
 /// into the folder, and exits with 0; or writes a line with the reason and exits with 1.
 namespace corvala::host::io {
 
@@ -33,8 +33,7 @@ struct ReaderLine
 /// The data set without its points.
 struct DataSetIndex
 {
-    DataSet data; ///< `source` and `notes` are empty
-    std::vector<std::string> zoneFiles; ///< names in the folder; ZoneInfo::sourceIndex counts them
+    DataSet data; ///< `source` and `notes` are empty; its zones count those of the ZoneTable
     std::vector<ReadMessage> notes;
     std::optional<Plot3DLayout> plot3d;
     std::optional<TextDialect> text;

@@ -6,14 +6,10 @@
 #include "host/io/read_request.h"
 #include "host/io/text_preview.h"
 
-#include <functional>
 #include <memory>
 #include <optional>
 
 namespace corvala::host::io {
-
-/// Told how much is loaded, 0 to 100 percent; false ends the loading.
-using LoadProgress = std::function<bool(int percent)>;
 
 /// What the reading program left in its folder.
 struct LoadedData
@@ -24,8 +20,8 @@ struct LoadedData
     std::optional<TextPreview> preview;
 };
 
-/// Loads the index and, so that drawing finds them in memory, those large zones that are shown at
-/// first. For any thread: it takes as long as the zones are large.
-LoadedData loadData(std::unique_ptr<ReadFolder> folder, const LoadProgress& progress);
+/// Loads what is to be known of the zones; their points and cells stay where they are until they
+/// are asked for. For any thread.
+LoadedData loadData(std::unique_ptr<ReadFolder> folder);
 
 } // namespace corvala::host::io

@@ -1,20 +1,35 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/zone_file_source.h"
 
+#include "host/io/zone_assembly.h"
+
 #include <QFile>
 
 #include <vtkDataSet.h>
-#include <vtkNew.h>
-#include <vtkXMLGenericDataObjectReader.h>
 
 namespace corvala::host::io {
 
-ZoneFileSource::ZoneFileSource(std::unique_ptr<ReadFolder> folder, std::vector<std::string> files,
-                               std::int64_t cacheBytes)
+ZoneFileSource::ZoneFileSource(std::unique_ptr<ReadFolder> folder, ZoneTable table,
+                               std::shared_ptr<MappedNumbers> numbers, std::int64_t cacheBytes)
     : m_folder(std::move(folder))
-    , m_files(std::move(files))
+    , m_table(std::move(table))
+    , m_numbers(std::move(numbers))
     , m_cacheBytes(cacheBytes)
 {
+}
+
+std::shared_ptr<ZoneFileSource> ZoneFileSource::open(std::unique_ptr<ReadFolder> folder,
+                                                     std::int64_t cacheBytes)
+{
+    const auto numbers = MappedNumbers::open(folder->filePath(QLatin1String(kNumbersFile)));
+    QFile file(folder->filePath(QLatin1String(kZoneTableFile)));
+    if (!numbers || !file.open(QIODevice::ReadOnly))
+        return nullptr;
+    std::optional<ZoneTable> table = zoneTableFromBytes(file.readAll(), numbers->size());
+    if (!table)
+        return nullptr;
+    return std::shared_ptr<ZoneFileSource>(
+        new ZoneFileSource(std::move(folder), std::move(*table), numbers, cacheBytes));
 }
 
 ZoneFileSource::~ZoneFileSource() = default;
@@ -30,7 +45,7 @@ static vtkSmartPointer<vtkDataSet> separate(vtkDataSet& zone)
 
 vtkSmartPointer<vtkDataSet> ZoneFileSource::zone(std::int64_t sourceIndex) const
 {
-    if (sourceIndex < 0 || sourceIndex >= static_cast<std::int64_t>(m_files.size()))
+    if (sourceIndex < 0 || sourceIndex >= zoneCount())
         return nullptr;
     const std::lock_guard<std::mutex> lock(m_mutex);
     const auto found = m_cached.find(sourceIndex);
@@ -38,29 +53,10 @@ vtkSmartPointer<vtkDataSet> ZoneFileSource::zone(std::int64_t sourceIndex) const
         m_cache.splice(m_cache.begin(), m_cache, found->second);
         return separate(*found->second->data);
     }
-    const vtkSmartPointer<vtkDataSet> data = load(sourceIndex);
-    if (!data)
-        return nullptr;
+    const vtkSmartPointer<vtkDataSet> data =
+        assembleZone(m_table, static_cast<std::size_t>(sourceIndex), *m_numbers);
     keep(sourceIndex, data);
     return separate(*data);
-}
-
-bool ZoneFileSource::hasRoom() const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_bytesUsed < m_cacheBytes;
-}
-
-vtkSmartPointer<vtkDataSet> ZoneFileSource::load(std::int64_t sourceIndex) const
-{
-    const QString path =
-        m_folder->filePath(QString::fromStdString(m_files[static_cast<std::size_t>(sourceIndex)]));
-    if (!QFile::exists(path))
-        return nullptr;
-    vtkNew<vtkXMLGenericDataObjectReader> reader;
-    reader->SetFileName(QFile::encodeName(path).constData());
-    reader->Update();
-    return vtkDataSet::SafeDownCast(reader->GetOutputDataObject(0));
 }
 
 void ZoneFileSource::keep(std::int64_t sourceIndex, const vtkSmartPointer<vtkDataSet>& data) const

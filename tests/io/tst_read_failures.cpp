@@ -287,31 +287,14 @@ private Q_SLOTS:
         QVERIFY(read({path}).error.contains("ermission"));
     }
 
-    /// Large zones are in memory before the data are handed over; reading can be cancelled until
-    /// then.
-    void largeZonesAreLoaded()
+    void endsWhileWhatWasReadIsLoaded()
     {
-        const auto image = [](const char* points) {
-            return legacy(QByteArray("DATASET STRUCTURED_POINTS\nDIMENSIONS ") + points
-                          + "\nORIGIN 0 0 0\nSPACING 1 1 1\n");
-        };
-        ReadRequest request;
-        request.files = QStringList {m_folder->write("large.vtk", image("30 30 30")),
-                                     m_folder->write("small.vtk", image("3 3 3"))};
-        const ReadResult result = DataReader::read(request);
-        QVERIFY2(result.data, qPrintable(result.error));
-        QDirIterator files(m_folder->path("tmp"), QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext())
-            QVERIFY(QFile::remove(files.next()));
-        QVERIFY(result.data->geometry(1));
-        QVERIFY(!result.data->geometry(2));
-
         DataReader reader;
         connect(&reader, &DataReader::progress, &reader, [&](int, const QString& what) {
             if (what.startsWith("Loading"))
                 reader.cancel();
         });
-        reader.start(request);
+        reader.start(cavity());
         const ReadResult cancelled = waitFor(reader);
         QVERIFY(cancelled.cancelled && !cancelled.data && cancelled.error.isEmpty());
     }

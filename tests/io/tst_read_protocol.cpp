@@ -29,7 +29,6 @@ static DataSetIndex exampleIndex()
     index.data.vectorVariables = {{1, 2, 0}};
     index.data.contourVariables = {2};
     index.data.isPlanar = true;
-    index.zoneFiles = {"zone-0.xml"};
     index.notes = {ReadMessage("%1 empty blocks were left out.", {"3"})};
     index.plot3d = Plot3DLayout();
     index.plot3d->iblank = true;
@@ -59,12 +58,9 @@ private Q_SLOTS:
     void brokenIndexIsRefused_data()
     {
         const Rows<QByteArray, QByteArray> row;
-        row("zone without file", "/zones/0/source", "1");
-        row("negative file", "/zones/0/source", "-1");
         row("text as number", "/zones/0/points", "\"many\"");
         row("two dimensions", "/zones/0/size", "[1,2]");
         row("zones missing", "/zones", "7");
-        row("file outside", "/zoneFiles/0", "\"../../home/secret\"");
         row("vector that is none", "/vectors/2", "3");
         row("contour that is none", "/contours/0", "-1");
         row("note without text", "/notes/0", "{}");

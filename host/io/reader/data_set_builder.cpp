@@ -3,6 +3,7 @@
 
 #include "host/io/reader/block_tree.h"
 #include "host/io/reader/channel.h"
+#include "host/io/reader/clean_zone.h"
 #include "host/io/reader/read_failure.h"
 #include "host/io/reader/vector_proposal.h"
 #include "host/io/reader/vtk_messages.h"
@@ -73,7 +74,7 @@ DataSetIndex DataSetBuilder::build(const std::vector<std::unique_ptr<DataFile>>&
     m_index.data.surfacesEncloseVolumes = m_enclosure.isClosed();
     numberZones();
     noteOmissions();
-    m_index.zoneFiles = m_writer.files();
+    m_writer.finish();
     m_index.data.variables = m_variables.variables(m_hasCoordinates);
     for (Variable& variable : m_index.data.variables)
         for (const auto& file : files)

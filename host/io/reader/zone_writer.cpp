@@ -1,158 +1,166 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/zone_writer.h"
 
-#include "host/io/reader/block_tree.h"
 #include "host/io/reader/read_failure.h"
-#include "host/io/reader/vtk_messages.h"
 
-#include <QFile>
+#include <QDir>
 
+#include <vtkCellArray.h>
 #include <vtkCellData.h>
-#include <vtkCellType.h>
-#include <vtkCellTypes.h>
 #include <vtkDataArray.h>
-#include <vtkFieldData.h>
-#include <vtkGenericCell.h>
 #include <vtkImageData.h>
-#include <vtkInformation.h>
-#include <vtkNew.h>
+#include <vtkMatrix3x3.h>
 #include <vtkPointData.h>
+#include <vtkPoints.h>
+#include <vtkPolyData.h>
 #include <vtkRectilinearGrid.h>
+#include <vtkSmartPointer.h>
 #include <vtkStructuredGrid.h>
-#include <vtkXMLDataSetWriter.h>
+#include <vtkUnsignedCharArray.h>
+#include <vtkUnstructuredGrid.h>
 
 #include <algorithm>
 
 namespace corvala::host::io::reader {
 
-/// The same values under clean names, so that the array of the reader stays as it is.
-static vtkSmartPointer<vtkDataArray> cleanArray(vtkDataArray& array, const std::string& name)
-{
-    vtkSmartPointer<vtkDataArray> copy;
-    copy.TakeReference(array.NewInstance());
-    copy->ShallowCopy(&array);
-    if (copy->HasInformation())
-        copy->GetInformation()->Clear();
-    copy->SetName(name.c_str());
-    for (int c = 0; array.HasAComponentName() && c < array.GetNumberOfComponents(); ++c)
-        if (array.GetComponentName(c))
-            copy->SetComponentName(c, cleanName(array.GetComponentName(c), {}).c_str());
-    return copy;
-}
-
-static void cleanAttributes(vtkDataSetAttributes& source, vtkIdType tuples,
-                            vtkDataSetAttributes& target, QSet<QString>& droppedArrays)
-{
-    target.Initialize();
-    for (int i = 0; i < source.GetNumberOfArrays(); ++i) {
-        vtkAbstractArray* any = source.GetAbstractArray(i);
-        const std::string name = cleanName(any->GetName(), "Array " + std::to_string(i + 1));
-        auto* array = vtkDataArray::SafeDownCast(any);
-        if (array && array->GetNumberOfTuples() == tuples && array->GetNumberOfComponents() > 0)
-            target.AddArray(cleanArray(*array, name));
-        else
-            droppedArrays.insert(QString::fromStdString(name));
-    }
-}
-
-vtkSmartPointer<vtkDataSet> cleanZone(vtkDataSet& zone, QSet<QString>& droppedArrays)
-{
-    // Only the plain kinds have a file format: a grid with holes is an image with ghost cells.
-    vtkSmartPointer<vtkDataSet> copy;
-    if (vtkImageData::SafeDownCast(&zone))
-        copy = vtkSmartPointer<vtkImageData>::New();
-    else
-        copy.TakeReference(zone.NewInstance());
-    copy->CopyStructure(&zone);
-    copy->SetFieldData(vtkNew<vtkFieldData>());
-    cleanAttributes(*zone.GetPointData(), zone.GetNumberOfPoints(), *copy->GetPointData(),
-                    droppedArrays);
-    cleanAttributes(*zone.GetCellData(), zone.GetNumberOfCells(), *copy->GetCellData(),
-                    droppedArrays);
-    return copy;
-}
-
-static int cellDimension(vtkDataSet& zone)
-{
-    vtkNew<vtkCellTypes> types;
-    zone.GetCellTypes(types);
-    int result = 0;
-    vtkNew<vtkGenericCell> cell;
-    for (vtkIdType i = 0; i < types->GetNumberOfTypes(); ++i) {
-        cell->SetCellType(types->GetCellType(i));
-        result = std::max(result, cell->GetCellDimension());
-    }
-    return result;
-}
-
-/// I, J, K of an ordered grid; false for any other zone.
-static bool getDimensions(vtkDataSet& zone, int dimensions[3])
-{
-    if (auto* grid = vtkStructuredGrid::SafeDownCast(&zone))
-        grid->GetDimensions(dimensions);
-    else if (auto* image = vtkImageData::SafeDownCast(&zone))
-        image->GetDimensions(dimensions);
-    else if (auto* rectilinear = vtkRectilinearGrid::SafeDownCast(&zone))
-        rectilinear->GetDimensions(dimensions);
-    else
-        return false;
-    return true;
-}
-
-ZoneInfo zoneInfo(vtkDataSet& zone)
-{
-    ZoneInfo info;
-    int dimensions[3] = {0, 0, 0};
-    info.ordered = getDimensions(zone, dimensions);
-    std::copy(dimensions, dimensions + 3, info.dimensions.begin());
-    info.pointCount = zone.GetNumberOfPoints();
-    info.cellCount = zone.GetNumberOfCells();
-    info.cellDimension = info.ordered ? static_cast<int>(std::count_if(
-                             dimensions, dimensions + 3, [](int size) { return size > 1; }))
-                                      : cellDimension(zone);
-    return info;
-}
-
-/// VTK's writers put names into the XML as they are.
-static void escapeNames(vtkDataSetAttributes& attributes)
-{
-    const auto escaped = [](const char* name) {
-        return QString::fromUtf8(name).toHtmlEscaped().toStdString();
-    };
-    for (int i = 0; i < attributes.GetNumberOfArrays(); ++i) {
-        vtkDataArray* array = attributes.GetArray(i);
-        array->SetName(escaped(array->GetName()).c_str());
-        for (int c = 0; array->HasAComponentName() && c < array->GetNumberOfComponents(); ++c)
-            if (array->GetComponentName(c))
-                array->SetComponentName(c, escaped(array->GetComponentName(c)).c_str());
-    }
-}
-
 ZoneWriter::ZoneWriter(const QString& folder)
     : m_folder(folder)
+    , m_numbers(QDir(folder).filePath(QLatin1String(kNumbersFile)))
 {
+}
+
+void ZoneWriter::failWithFullDisk() const
+{
+    throw ReadFailure::ofFullDisk(m_folder);
+}
+
+void ZoneWriter::append(const void* numbers, std::int64_t bytes)
+{
+    if (m_numbers.write(static_cast<const char*>(numbers), bytes) != bytes)
+        failWithFullDisk();
+    m_size += bytes;
+}
+
+static ArrayLabel nameOf(vtkDataArray& array)
+{
+    ArrayLabel label {array.GetName() ? array.GetName() : "", {}};
+    for (int c = 0; array.HasAComponentName() && c < array.GetNumberOfComponents(); ++c)
+        label.components.emplace_back(array.GetComponentName(c) ? array.GetComponentName(c) : "");
+    return label;
+}
+
+std::int32_t ZoneWriter::labelOf(vtkDataArray& array)
+{
+    const auto next = static_cast<std::int32_t>(m_table.labels.size());
+    const auto [place, isNew] = m_labels.try_emplace(nameOf(array), next);
+    if (isNew)
+        m_table.labels.push_back(place->first);
+    return place->second;
+}
+
+/// The same numbers as one plain list: some arrays keep each component apart, or bits.
+static vtkSmartPointer<vtkDataArray> plain(vtkDataArray& array)
+{
+    if (array.HasStandardMemoryLayout() && array.GetDataType() != VTK_BIT)
+        return &array;
+    const int type = array.GetDataType() == VTK_BIT ? VTK_UNSIGNED_CHAR : array.GetDataType();
+    auto copy = vtkSmartPointer<vtkDataArray>::Take(vtkDataArray::CreateDataArray(type));
+    copy->DeepCopy(&array);
+    return copy;
+}
+
+void ZoneWriter::writeArray(vtkDataArray* array)
+{
+    StoredArray& stored = m_table.arrays.emplace_back();
+    if (!array)
+        return;
+    static constexpr char kPadding[kAlignment] = {};
+    append(kPadding, (kAlignment - m_size % kAlignment) % kAlignment);
+    const vtkSmartPointer<vtkDataArray> numbers = plain(*array);
+    stored.label = labelOf(*array);
+    stored.type = numbers->GetDataType();
+    stored.components = numbers->GetNumberOfComponents();
+    stored.tuples = numbers->GetNumberOfTuples();
+    stored.offset = m_size;
+    append(numbers->GetVoidPointer(0), stored.bytes());
+}
+
+void ZoneWriter::writeCells(vtkCellArray* cells)
+{
+    writeArray(cells ? cells->GetOffsetsArray() : nullptr);
+    writeArray(cells ? cells->GetConnectivityArray() : nullptr);
+}
+
+std::int32_t ZoneWriter::writeAttributes(vtkDataSetAttributes& attributes)
+{
+    for (int i = 0; i < attributes.GetNumberOfArrays(); ++i)
+        writeArray(attributes.GetArray(i));
+    return attributes.GetNumberOfArrays();
+}
+
+static void describe(vtkImageData& image, StoredZone& stored)
+{
+    image.GetExtent(stored.extent.data());
+    image.GetOrigin(stored.origin.data());
+    image.GetSpacing(stored.spacing.data());
+    std::copy_n(image.GetDirectionMatrix()->GetData(), stored.direction.size(),
+                stored.direction.begin());
+}
+
+static vtkDataArray* numbersOf(vtkPoints* points)
+{
+    return points ? points->GetData() : nullptr;
+}
+
+void ZoneWriter::writeStructure(vtkDataSet& zone, StoredZone& stored)
+{
+    if (auto* image = vtkImageData::SafeDownCast(&zone))
+        return describe(*image, stored);
+    if (auto* grid = vtkRectilinearGrid::SafeDownCast(&zone)) {
+        grid->GetExtent(stored.extent.data());
+        for (vtkDataArray* axis :
+             {grid->GetXCoordinates(), grid->GetYCoordinates(), grid->GetZCoordinates()})
+            writeArray(axis);
+    } else if (auto* curved = vtkStructuredGrid::SafeDownCast(&zone)) {
+        curved->GetExtent(stored.extent.data());
+        writeArray(numbersOf(curved->GetPoints()));
+    } else if (auto* free = vtkUnstructuredGrid::SafeDownCast(&zone)) {
+        writeArray(numbersOf(free->GetPoints()));
+        writeArray(free->GetCellTypesArray());
+        writeCells(free->GetCells());
+        writeArray(free->GetFaceLocations());
+        writeArray(free->GetFaces());
+    } else if (auto* surface = vtkPolyData::SafeDownCast(&zone)) {
+        writeArray(numbersOf(surface->GetPoints()));
+        for (vtkCellArray* cells :
+             {surface->GetVerts(), surface->GetLines(), surface->GetPolys(), surface->GetStrips()})
+            writeCells(cells);
+    }
 }
 
 std::int64_t ZoneWriter::write(vtkDataSet& zone)
 {
-    const auto index = static_cast<std::int64_t>(m_files.size());
-    const QString name = QStringLiteral("zone-%1.xml").arg(index);
-    const QString path = m_folder + QLatin1Char('/') + name;
-    escapeNames(*zone.GetPointData());
-    escapeNames(*zone.GetCellData());
-    vtkNew<vtkXMLDataSetWriter> writer;
-    writer->SetInputData(&zone);
-    writer->SetFileName(QFile::encodeName(path).constData());
-    writer->SetDataModeToAppended();
-    writer->EncodeAppendedDataOff();
-    writer->SetCompressorTypeToNone();
-    writer->SetHeaderTypeToUInt64();
-    writer->SetIdTypeToInt64();
-    const bool written = writer->Write() != 0;
-    if (!written || !VtkMessages::takeError().isEmpty())
-        throw ReadFailure::ofFullDisk(m_folder);
-    m_files.push_back(name.toStdString());
-    return index;
+    if (!m_numbers.isOpen() && !m_numbers.open(QIODevice::WriteOnly))
+        failWithFullDisk();
+    StoredZone stored;
+    stored.kind = zone.GetDataObjectType();
+    stored.firstArray = static_cast<std::int64_t>(m_table.arrays.size());
+    writeStructure(zone, stored);
+    stored.structureArrays = static_cast<std::int32_t>(
+        static_cast<std::int64_t>(m_table.arrays.size()) - stored.firstArray);
+    stored.pointArrays = writeAttributes(*zone.GetPointData());
+    stored.cellArrays = writeAttributes(*zone.GetCellData());
+    m_table.zones.push_back(stored);
+    return static_cast<std::int64_t>(m_table.zones.size()) - 1;
+}
+
+void ZoneWriter::finish()
+{
+    QFile table(QDir(m_folder).filePath(QLatin1String(kZoneTableFile)));
+    const QByteArray bytes = toBytes(m_table);
+    if (!m_numbers.flush() || !table.open(QIODevice::WriteOnly)
+        || table.write(bytes) != bytes.size() || !table.flush())
+        failWithFullDisk();
 }
 
 } // namespace corvala::host::io::reader

@@ -1,42 +1,47 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "host/document/data_set.h"
+#include "host/io/stored_zone.h"
 
-#include <QSet>
+#include <QFile>
 #include <QString>
 
-#include <string>
-#include <vector>
+#include <map>
 
-#include <vtkSmartPointer.h>
-
+class vtkCellArray;
+class vtkDataArray;
+class vtkDataSet;
 class vtkDataSetAttributes;
 
 namespace corvala::host::io::reader {
 
-/// A zone as it goes into a file: only arrays of numbers that fit its points or cells, under clean
-/// names. It shares points, cells and values with the original.
-vtkSmartPointer<vtkDataSet> cleanZone(vtkDataSet& zone, QSet<QString>& droppedArrays);
-
-/// Kind, dimensions and counts of a zone.
-ZoneInfo zoneInfo(vtkDataSet& zone);
-
-/// Writes zones as uncompressed VTK XML files into a folder.
+/// Writes zones into a folder as they are handed over.
 class ZoneWriter
 {
 public:
     explicit ZoneWriter(const QString& folder);
 
-    /// Writes a clean zone, whose arrays get other names thereby, and returns its source index.
-    /// Throws ReadFailure when the folder's disk is full.
+    /// Appends a clean zone of a plain kind and returns its source index. Throws ReadFailure when
+    /// the folder's disk is full.
     std::int64_t write(vtkDataSet& zone);
 
-    const std::vector<std::string>& files() const { return m_files; }
+    /// Ends the files; once. Throws as above.
+    void finish();
 
 private:
+    void writeStructure(vtkDataSet& zone, StoredZone& stored);
+    std::int32_t writeAttributes(vtkDataSetAttributes& attributes);
+    void writeCells(vtkCellArray* cells);
+    void writeArray(vtkDataArray* array);
+    void append(const void* numbers, std::int64_t bytes);
+    std::int32_t labelOf(vtkDataArray& array);
+    [[noreturn]] void failWithFullDisk() const;
+
     QString m_folder;
-    std::vector<std::string> m_files;
+    QFile m_numbers;
+    std::int64_t m_size = 0; ///< bytes that are written
+    ZoneTable m_table;
+    std::map<ArrayLabel, std::int32_t> m_labels;
 };
 
 } // namespace corvala::host::io::reader

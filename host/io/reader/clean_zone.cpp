@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/clean_zone.h"
+
+#include "host/io/reader/block_tree.h"
+
+#include <vtkCellData.h>
+#include <vtkCellType.h>
+#include <vtkCellTypes.h>
+#include <vtkDataArray.h>
+#include <vtkFieldData.h>
+#include <vtkGenericCell.h>
+#include <vtkImageData.h>
+#include <vtkInformation.h>
+#include <vtkNew.h>
+#include <vtkPointData.h>
+#include <vtkRectilinearGrid.h>
+#include <vtkStructuredGrid.h>
+
+#include <algorithm>
+
+namespace corvala::host::io::reader {
+
+/// The same values under clean names, so that the array of the reader stays as it is.
+static vtkSmartPointer<vtkDataArray> cleanArray(vtkDataArray& array, const std::string& name)
+{
+    vtkSmartPointer<vtkDataArray> copy;
+    copy.TakeReference(array.NewInstance());
+    copy->ShallowCopy(&array);
+    if (copy->HasInformation())
+        copy->GetInformation()->Clear();
+    copy->SetName(name.c_str());
+    for (int c = 0; array.HasAComponentName() && c < array.GetNumberOfComponents(); ++c)
+        if (array.GetComponentName(c))
+            copy->SetComponentName(c, cleanName(array.GetComponentName(c), {}).c_str());
+    return copy;
+}
+
+static void cleanAttributes(vtkDataSetAttributes& source, vtkIdType tuples,
+                            vtkDataSetAttributes& target, QSet<QString>& droppedArrays)
+{
+    target.Initialize();
+    for (int i = 0; i < source.GetNumberOfArrays(); ++i) {
+        vtkAbstractArray* any = source.GetAbstractArray(i);
+        const std::string name = cleanName(any->GetName(), "Array " + std::to_string(i + 1));
+        auto* array = vtkDataArray::SafeDownCast(any);
+        if (array && array->GetNumberOfTuples() == tuples && array->GetNumberOfComponents() > 0)
+            target.AddArray(cleanArray(*array, name));
+        else
+            droppedArrays.insert(QString::fromStdString(name));
+    }
+}
+
+vtkSmartPointer<vtkDataSet> cleanZone(vtkDataSet& zone, QSet<QString>& droppedArrays)
+{
+    // Only the plain kinds are handed over: a grid with holes is an image with ghost cells.
+    vtkSmartPointer<vtkDataSet> copy;
+    if (vtkImageData::SafeDownCast(&zone))
+        copy = vtkSmartPointer<vtkImageData>::New();
+    else
+        copy.TakeReference(zone.NewInstance());
+    copy->CopyStructure(&zone);
+    copy->SetFieldData(vtkNew<vtkFieldData>());
+    cleanAttributes(*zone.GetPointData(), zone.GetNumberOfPoints(), *copy->GetPointData(),
+                    droppedArrays);
+    cleanAttributes(*zone.GetCellData(), zone.GetNumberOfCells(), *copy->GetCellData(),
+                    droppedArrays);
+    return copy;
+}
+
+static int cellDimension(vtkDataSet& zone)
+{
+    vtkNew<vtkCellTypes> types;
+    zone.GetCellTypes(types);
+    int result = 0;
+    vtkNew<vtkGenericCell> cell;
+    for (vtkIdType i = 0; i < types->GetNumberOfTypes(); ++i) {
+        cell->SetCellType(types->GetCellType(i));
+        result = std::max(result, cell->GetCellDimension());
+    }
+    return result;
+}
+
+/// I, J, K of an ordered grid; false for any other zone.
+static bool getDimensions(vtkDataSet& zone, int dimensions[3])
+{
+    if (auto* grid = vtkStructuredGrid::SafeDownCast(&zone))
+        grid->GetDimensions(dimensions);
+    else if (auto* image = vtkImageData::SafeDownCast(&zone))
+        image->GetDimensions(dimensions);
+    else if (auto* rectilinear = vtkRectilinearGrid::SafeDownCast(&zone))
+        rectilinear->GetDimensions(dimensions);
+    else
+        return false;
+    return true;
+}
+
+ZoneInfo zoneInfo(vtkDataSet& zone)
+{
+    ZoneInfo info;
+    int dimensions[3] = {0, 0, 0};
+    info.ordered = getDimensions(zone, dimensions);
+    std::copy(dimensions, dimensions + 3, info.dimensions.begin());
+    info.pointCount = zone.GetNumberOfPoints();
+    info.cellCount = zone.GetNumberOfCells();
+    info.cellDimension = info.ordered ? static_cast<int>(std::count_if(
+                             dimensions, dimensions + 3, [](int size) { return size > 1; }))
+                                      : cellDimension(zone);
+    return info;
+}
+
+} // namespace corvala::host::io::reader

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/io/mapped_numbers.h"
+#include "host/io/stored_zone.h"
+
+#include <vtkDataSet.h>
+#include <vtkSmartPointer.h>
+
+#include <cstddef>
+
+namespace corvala::host::io {
+
+/// The zone with this index, whose arrays show the numbers where they lie; null when its arrays do
+/// not make a zone.
+vtkSmartPointer<vtkDataSet> assembleZone(const ZoneTable& table, std::size_t index,
+                                         const MappedNumbers& numbers);
+
+} // namespace corvala::host::io
