@@ -73,16 +73,17 @@ QString fitReport(const host::Frame& frame, CvlInt64 map)
         return {};
     const LineRecipe line = recipeOf(frame, map);
     const LinePoints points = linePoints(*frame.data(), line);
-    const LineCurve curve = curveThrough(*frame.data(), line, points, recipe, {});
-    if (curve.fits.empty() || !curve.fits.front().isValid()) {
+    const std::vector<RunCurve> curves =
+        curvesThrough(points, weightsOf(*frame.data(), line, points, recipe), recipe);
+    if (curves.empty() || !curves.front().fit.isValid()) {
         const CurveProblem problem =
-            curve.fits.empty() ? CurveProblem::TooFewPoints : curve.problem();
+            curves.empty() ? CurveProblem::TooFewPoints : problemOf(curves);
         return translated(FIT_TEXT("There is no curve: %1.")).arg(problemText(problem));
     }
-    QStringList lines = reportLines(curve.fits.front());
-    if (curve.fits.size() > 1)
+    QStringList lines = reportLines(curves.front().fit);
+    if (curves.size() > 1)
         lines << translated(FIT_TEXT("This is the first of %1 lines of the map."))
-                     .arg(curve.fits.size());
+                     .arg(curves.size());
     return lines.join(QLatin1Char('\n'));
 }
 

@@ -2,7 +2,6 @@
 #include "plot/line/line_curves.h"
 
 #include "host/document/frame.h"
-#include "plot/curves/cubic_spline.h"
 #include "plot/curves/exponential_fit.h"
 #include "plot/curves/gaussian_fit.h"
 #include "plot/curves/polynomial_fit.h"
@@ -19,7 +18,7 @@ static constexpr const auto& kCurves = style::lineMap.curves;
 bool CurveRecipe::operator==(const CurveRecipe& other) const
 {
     const auto tied = [](const CurveRecipe& some) {
-        return std::tie(some.type, some.extendedFit, some.sampleCount, some.order, some.detail,
+        return std::tie(some.type, some.extendedFit, some.order, some.detail,
                         some.range, some.weight, some.isClamped, some.slopes, some.isSwapped);
     };
     return tied(*this) == tied(other);
@@ -38,7 +37,6 @@ CurveRecipe curveRecipeOf(const host::Frame& frame, CvlInt64 map)
     recipe.type = number(kCurves.curveType);
     if (recipe.type == CurveType_LineSegments)
         return recipe;
-    recipe.sampleCount = number(kCurves.numPts);
     recipe.isSwapped = recipe.type != CurveType_ParametricSpline
         && number(style::lineMap.assign.functionDependency) == FunctionDependency_XofY;
     if (isSplineType(recipe.type)) {
@@ -61,9 +59,14 @@ CurveRecipe curveRecipeOf(const host::Frame& frame, CvlInt64 map)
     return recipe;
 }
 
-CurveProblem LineCurve::problem() const
+int curvePlaceCount(const host::Frame& frame, CvlInt64 map)
 {
-    return fits.empty() ? CurveProblem::None : fits.front().problem;
+    return std::max(frame.lineInteger(kCurves.numPts, map), 2);
+}
+
+CurveProblem problemOf(const std::vector<RunCurve>& curves)
+{
+    return curves.empty() ? CurveProblem::None : curves.front().fit.problem;
 }
 
 static EndSlopes slopesOf(const CurveRecipe& recipe)
@@ -104,66 +107,75 @@ static CurvePoints runOf(const LinePoints& points, std::size_t begin, std::size_
     return run;
 }
 
-/// Places along a function over the abscissas that took part.
-static CurvePoints sampled(const CurveFit& fit, const CurvePoints& points,
-                           const CurveRecipe& recipe, bool isLogarithmic)
+static RunCurve curveThrough(const CurvePoints& run, const CurveRecipe& recipe)
 {
-    const CurvePoints taken = usable(points);
-    if (!fit.isValid() || taken.x.empty())
-        return {};
-    const auto [first, last] = std::minmax_element(taken.x.begin(), taken.x.end());
-    const auto count = static_cast<std::size_t>(std::max(recipe.sampleCount, 2));
-    if (!isLogarithmic || *first <= 0.0)
-        return sampleCurve(fit.value, *first, *last, count);
-    const auto value = fit.value;
-    CurvePoints places = sampleCurve([value](double power) { return value(std::pow(10.0, power)); },
-                                     std::log10(*first), std::log10(*last), count);
+    RunCurve curve;
+    if (recipe.type == CurveType_ParametricSpline) {
+        curve.path = parametricSplineThrough(run, slopesOf(recipe));
+        curve.fit = withoutCurve(curve.path.problem, curve.path.pointCount);
+        return curve;
+    }
+    curve.fit = fitted(run, recipe);
+    const CurvePoints taken = usable(run);
+    const auto [least, largest] = std::minmax_element(taken.x.begin(), taken.x.end());
+    if (least != taken.x.end())
+        curve.ends = {{*least, *largest}};
+    return curve;
+}
+
+std::vector<RunCurve> curvesThrough(const LinePoints& points, const std::vector<double>& weights,
+                                    const CurveRecipe& recipe)
+{
+    std::vector<RunCurve> curves;
+    std::size_t begin = 0;
+    for (const std::size_t end : points.runEnds) {
+        curves.push_back(curveThrough(runOf(points, begin, end, weights, recipe), recipe));
+        begin = end;
+    }
+    return curves;
+}
+
+std::vector<double> weightsOf(const host::DataSet& data, const LineRecipe& line,
+                              const LinePoints& points, const CurveRecipe& recipe)
+{
+    return recipe.weight > 0 ? valuesAt(data, line, points, recipe.weight) : std::vector<double>();
+}
+
+/// Places along a function over the abscissas that took part.
+static CurvePoints sampled(const RunCurve& curve, std::size_t count, bool isLogarithmic)
+{
+    const auto [first, last] = curve.ends;
+    const auto& value = curve.fit.value;
+    if (!isLogarithmic || first <= 0.0)
+        return sampleCurve(value, first, last, count);
+    CurvePoints places = sampleCurve([&value](double power) { return value(std::pow(10.0, power)); },
+                                     std::log10(first), std::log10(last), count);
     for (double& x : places.x)
         x = std::pow(10.0, x);
     return places;
 }
 
-/// Adds the curve of one run.
-static void add(LineCurve& curve, const CurvePoints& places, bool isSwapped)
+LinePoints placesAlong(const std::vector<RunCurve>& curves, const CurveRecipe& recipe, int count,
+                       const LinePlane& plane)
 {
-    LinePoints& points = curve.points;
+    const bool isLogarithmic =
+        recipe.isSwapped ? plane.isSecondLogarithmic : plane.isFirstLogarithmic;
+    const auto number = static_cast<std::size_t>(count);
+    LinePoints points;
     const auto append = [](std::vector<double>& to, const std::vector<double>& from) {
         to.insert(to.end(), from.begin(), from.end());
     };
-    append(points.first, isSwapped ? places.y : places.x);
-    append(points.second, isSwapped ? places.x : places.y);
-    points.runEnds.push_back(points.first.size());
-}
-
-static CurvePoints addFit(LineCurve& curve, const CurvePoints& run, const CurveRecipe& recipe,
-                          bool isLogarithmic)
-{
-    if (recipe.type == CurveType_ParametricSpline) {
-        const SplinePath path = parametricSplineThrough(run, slopesOf(recipe));
-        curve.fits.push_back(withoutCurve(path.problem, path.pointCount));
-        return path.problem == CurveProblem::None
-            ? samplePath(path, static_cast<std::size_t>(std::max(recipe.sampleCount, 2)))
-            : CurvePoints();
+    for (const RunCurve& curve : curves) {
+        CurvePoints places;
+        if (curve.fit.isValid())
+            places = recipe.type == CurveType_ParametricSpline
+                ? samplePath(curve.path, number)
+                : sampled(curve, number, isLogarithmic);
+        append(points.first, recipe.isSwapped ? places.y : places.x);
+        append(points.second, recipe.isSwapped ? places.x : places.y);
+        points.runEnds.push_back(points.first.size());
     }
-    curve.fits.push_back(fitted(run, recipe));
-    return sampled(curve.fits.back(), run, recipe, isLogarithmic);
-}
-
-LineCurve curveThrough(const host::DataSet& data, const LineRecipe& line, const LinePoints& points,
-                       const CurveRecipe& recipe, const LinePlane& plane)
-{
-    const std::vector<double> weights =
-        recipe.weight > 0 ? valuesAt(data, line, points, recipe.weight) : std::vector<double>();
-    const bool isLogarithmic =
-        recipe.isSwapped ? plane.isSecondLogarithmic : plane.isFirstLogarithmic;
-    LineCurve curve;
-    std::size_t begin = 0;
-    for (const std::size_t end : points.runEnds) {
-        const CurvePoints run = runOf(points, begin, end, weights, recipe);
-        add(curve, addFit(curve, run, recipe, isLogarithmic), recipe.isSwapped);
-        begin = end;
-    }
-    return curve;
+    return points;
 }
 
 } // namespace corvala::plot

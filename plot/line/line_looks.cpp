@@ -86,6 +86,11 @@ std::shared_ptr<const ChartShape> shapeIn(std::size_t layer, const ShownLine& li
     return kLayers[layer].shape(line, geometry);
 }
 
+bool followsCurve(std::size_t layer)
+{
+    return (layerAt(layer).uses & Curves) != 0;
+}
+
 LegendSample sampleIn(std::size_t layer, const ShownLine& line)
 {
     return kLayers[layer].sample(line);

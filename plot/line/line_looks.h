@@ -20,6 +20,8 @@ bool isSeen(const host::Frame& frame, CvlInt64 map);
 /// What a layer shows of a map; null for nothing.
 std::shared_ptr<const ChartShape> shapeIn(std::size_t layer, const ShownLine& line,
                                           const LineGeometry& geometry);
+/// Whether the layer shows what runs through the points, and not these alone.
+bool followsCurve(std::size_t layer);
 /// What stands for a layer of a map in a legend; null for nothing.
 LegendSample sampleIn(std::size_t layer, const ShownLine& line);
 

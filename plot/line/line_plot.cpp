@@ -76,48 +76,62 @@ void LinePlot::forget(CvlInt64 map)
     m_geometries.erase(map);
 }
 
-/// Makes again what of it is another one.
-const LineGeometry& LinePlot::geometryOf(const ShownLine& line)
+/// Makes again what of it is another one, but for the curve.
+LineGeometry& LinePlot::geometryOf(const ShownLine& line)
 {
     LineGeometry& geometry = m_geometries[line.map];
     const LineRecipe recipe = recipeOf(line.frame, line.map);
-    const CurveRecipe curve = curveRecipeOf(line.frame, line.map);
     const LinePlane plane = m_chart->plane(axesOf(line.frame, line.map));
-    const bool hasPoints = geometry.points && geometry.recipe == recipe;
-    const bool hasPlaces = hasPoints && geometry.plane == plane;
-    if (!hasPoints) {
+    if (!geometry.points || !(geometry.recipe == recipe)) {
+        geometry = LineGeometry();
         geometry.recipe = recipe;
         geometry.points =
             std::make_shared<const LinePoints>(linePoints(*line.frame.data(), recipe));
     }
-    if (!hasPlaces) {
+    if (!geometry.places || !(geometry.plane == plane)) {
         geometry.plane = plane;
         geometry.places = std::make_shared<const Polyline>(inPlane(*geometry.points, plane));
-    }
-    if (!hasPlaces || !(geometry.curveRecipe == curve)) {
-        geometry.curveRecipe = curve;
-        makeCurve(line, geometry);
+        geometry.curve.reset();
     }
     return geometry;
 }
 
+/// What was fitted stays while its places move.
 void LinePlot::makeCurve(const ShownLine& line, LineGeometry& geometry)
 {
-    geometry.curveProblem = CurveProblem::None;
-    geometry.curve = geometry.places;
-    if (geometry.curveRecipe.type == CurveType_LineSegments)
+    const CurveRecipe recipe = curveRecipeOf(line.frame, line.map);
+    const int placeCount = curvePlaceCount(line.frame, line.map);
+    if (recipe.type == CurveType_LineSegments) {
+        geometry.curves.reset();
+        geometry.curveProblem = CurveProblem::None;
+        geometry.curve = geometry.places;
         return;
-    const LineCurve curve = curveThrough(*line.frame.data(), geometry.recipe, *geometry.points,
-                                         geometry.curveRecipe, geometry.plane);
-    geometry.curveProblem = curve.problem();
-    geometry.curve = std::make_shared<const Polyline>(inPlane(curve.points, geometry.plane));
+    }
+    if (!geometry.curves || !(geometry.curveRecipe == recipe)) {
+        geometry.curveRecipe = recipe;
+        geometry.curves = std::make_shared<const std::vector<RunCurve>>(curvesThrough(
+            *geometry.points,
+            weightsOf(*line.frame.data(), geometry.recipe, *geometry.points, recipe), recipe));
+        geometry.curveProblem = problemOf(*geometry.curves);
+        geometry.curve.reset();
+    }
+    if (!geometry.curve || geometry.curvePlaceCount != placeCount) {
+        geometry.curvePlaceCount = placeCount;
+        geometry.curve = std::make_shared<const Polyline>(
+            inPlane(placesAlong(*geometry.curves, recipe, placeCount, geometry.plane),
+                    geometry.plane));
+    }
 }
 
 void LinePlot::syncLayer(std::size_t layer, const ShownLine& line, bool isShown)
 {
     std::shared_ptr<const ChartShape> shape;
-    if (isShown && isInLayer(line.frame, line.map, layer))
-        shape = shapeIn(layer, line, geometryOf(line));
+    if (isShown && isInLayer(line.frame, line.map, layer)) {
+        LineGeometry& geometry = geometryOf(line);
+        if (followsCurve(layer))
+            makeCurve(line, geometry);
+        shape = shapeIn(layer, line, geometry);
+    }
     if (shape)
         m_chart->ink().set({layer, line.map}, std::move(shape), axesOf(line.frame, line.map));
     else

@@ -66,7 +66,7 @@ private:
     void makeChart();
     /// Puts the map into a layer, or takes it out.
     void syncLayer(std::size_t layer, const ShownLine& line, bool isShown);
-    const LineGeometry& geometryOf(const ShownLine& line);
+    LineGeometry& geometryOf(const ShownLine& line);
     static void makeCurve(const ShownLine& line, LineGeometry& geometry);
     void followPlanes();
     AxisRange radii() const;

@@ -29,7 +29,9 @@ struct LineGeometry
     std::shared_ptr<const LinePoints> points;
     std::shared_ptr<const Polyline> places; ///< of the points
     CurveRecipe curveRecipe;
+    std::shared_ptr<const std::vector<RunCurve>> curves; ///< null where points are only joined
     CurveProblem curveProblem = CurveProblem::None;
+    int curvePlaceCount = 0;
     std::shared_ptr<const Polyline> curve;
 };
 
