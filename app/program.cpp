@@ -100,10 +100,11 @@ static QString drawPicture(const Options& options)
 /// The settings of curve fits show what comes of the fits that the plots draw.
 static void reportCurveFits()
 {
-    propertybindings::setCurveFitReporter([](CvlUniqueId frame, CvlInt64 map) {
+    const auto reports = std::make_shared<plot::FitReports>();
+    propertybindings::setCurveFitReporter([reports](CvlUniqueId frame, CvlInt64 map) {
         const host::Frame* const shown = host::Document::instance().frame(frame);
         const bool exists = shown && map >= 1 && map <= shown->lineMapCount();
-        return exists ? plot::fitReport(*shown, map) : QString();
+        return exists ? reports->of(*shown, map) : std::optional(QString());
     });
 }
 

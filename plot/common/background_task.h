@@ -4,6 +4,7 @@
 #include <QThreadPool>
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <exception>
 #include <functional>
@@ -14,8 +15,9 @@
 namespace corvala::plot {
 
 /// A function that runs on another thread. It must share nothing that changes meanwhile: when the
-/// task is destroyed before it is done, the function goes on to its end and its result is dropped.
-/// What the function holds is gone when its result is there.
+/// task is destroyed before it is done, a function that has begun goes on to its end and its result
+/// is dropped; one that still waits for a thread never runs. What the function holds is gone when
+/// its result is there.
 template<class Result>
 class BackgroundTask
 {
@@ -24,8 +26,12 @@ public:
     {
         auto task = std::make_shared<Task>(std::move(function));
         m_result = task->promise.get_future();
+        m_isWanted = task->isWanted;
         QThreadPool::globalInstance()->start([task] { task->run(); });
     }
+    ~BackgroundTask() { *m_isWanted = false; }
+    BackgroundTask(const BackgroundTask&) = delete;
+    BackgroundTask& operator=(const BackgroundTask&) = delete;
 
     /// Waits for the result, at most so long; negative waits to the end. True when it is there.
     bool wait(int milliseconds) const
@@ -47,6 +53,8 @@ private:
         }
         void run()
         {
+            if (!*isWanted)
+                return;
             try {
                 Result result = std::exchange(function, nullptr)();
                 promise.set_value(std::move(result));
@@ -56,9 +64,11 @@ private:
         }
         std::function<Result()> function;
         std::promise<Result> promise;
+        std::shared_ptr<std::atomic<bool>> isWanted = std::make_shared<std::atomic<bool>>(true);
     };
 
     std::future<Result> m_result;
+    std::shared_ptr<std::atomic<bool>> m_isWanted;
 };
 
 } // namespace corvala::plot

@@ -20,6 +20,7 @@ enum class CurveProblem {
     NoPeak, ///< all points lie at the same height
     NoConvergence, ///< no curve of the kind comes nearest to the points
     OutOfRange, ///< numbers of the curve are too large to be held
+    NoMemory, ///< there is not enough for so many points
 };
 
 /// A number that describes a curve.

@@ -2,12 +2,11 @@
 #include "plot/line/fit_report.h"
 
 #include "host/document/frame.h"
-#include "plot/line/line_curves.h"
-
 #include <QCoreApplication>
 #include <QStringList>
 
 #include <cmath>
+#include <utility>
 
 namespace corvala::plot {
 
@@ -33,6 +32,7 @@ QString problemText(CurveProblem problem)
     case CurveProblem::NoConvergence:
         return translated(FIT_TEXT("no such curve comes near the points"));
     case CurveProblem::OutOfRange: return translated(FIT_TEXT("the numbers are too large"));
+    case CurveProblem::NoMemory: return translated(FIT_TEXT("not enough memory"));
     }
     return {};
 }
@@ -66,15 +66,8 @@ static QStringList reportLines(const CurveFit& fit)
     return lines;
 }
 
-QString fitReport(const host::Frame& frame, CvlInt64 map)
+static QString reportOn(const std::vector<RunCurve>& curves)
 {
-    const CurveRecipe recipe = curveRecipeOf(frame, map);
-    if (!frame.hasData() || recipe.type == CurveType_LineSegments || isSplineType(recipe.type))
-        return {};
-    const LineRecipe line = recipeOf(frame, map);
-    const LinePoints points = linePoints(*frame.data(), line);
-    const std::vector<RunCurve> curves =
-        curvesThrough(points, weightsOf(*frame.data(), line, points, recipe), recipe);
     if (curves.empty() || !curves.front().fit.isValid()) {
         const CurveProblem problem =
             curves.empty() ? CurveProblem::TooFewPoints : problemOf(curves);
@@ -85,6 +78,25 @@ QString fitReport(const host::Frame& frame, CvlInt64 map)
         lines << translated(FIT_TEXT("This is the first of %1 lines of the map."))
                      .arg(curves.size());
     return lines.join(QLatin1Char('\n'));
+}
+
+std::optional<QString> FitReports::of(const host::Frame& frame, CvlInt64 map)
+{
+    const CurveRecipe recipe = curveRecipeOf(frame, map);
+    if (!frame.hasData() || recipe.type == CurveType_LineSegments || isSplineType(recipe.type))
+        return QString();
+    const LineRecipe line = recipeOf(frame, map);
+    const auto data = frame.sharedData();
+    if (m_data.lock() != data || !(m_line == line) || !m_maker.makes(m_points, recipe)) {
+        m_data = data;
+        m_line = line;
+        m_points = std::make_shared<const LinePoints>(linePoints(*data, line));
+        CurveOrder order {m_points, weightsOf(*data, line, *m_points, recipe), recipe};
+        if (!areManyToFit(*m_points))
+            return reportOn(curvesThrough(*m_points, order.weights, recipe));
+        m_maker.begin(std::move(order));
+    }
+    return m_maker.wait(0) ? std::optional(reportOn(m_maker.take())) : std::nullopt;
 }
 
 } // namespace corvala::plot

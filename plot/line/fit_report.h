@@ -1,22 +1,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "plot/curves/curve_fit.h"
-#include "vocabulary/types.h"
+#include "plot/line/curve_maker.h"
 
 #include <QString>
 
-namespace corvala::host {
-class Frame;
-}
+#include <optional>
 
 namespace corvala::plot {
 
 /// A problem in words, such as "too few points"; empty for none.
 QString problemText(CurveProblem problem);
 
-/// What came of the fit of a line map: coefficients with their standard errors and R squared, or
-/// the problem, in lines of plain text. Empty for a map without a fit. The map must exist.
-QString fitReport(const host::Frame& frame, CvlInt64 map);
+/// Reports what came of the fits of line maps. Many points are fitted on another thread.
+class FitReports
+{
+public:
+    /// Coefficients with their standard errors and R squared, or the problem, in lines of plain
+    /// text; empty for a map without a fit. Nothing while it is being made: to be asked again, and
+    /// begun anew when another report is asked for in between. The map must exist.
+    std::optional<QString> of(const host::Frame& frame, CvlInt64 map);
+
+private:
+    // What is in work.
+    std::weak_ptr<const host::DataSet> m_data;
+    LineRecipe m_line;
+    std::shared_ptr<const LinePoints> m_points;
+    CurveMaker m_maker;
+};
 
 } // namespace corvala::plot

@@ -8,6 +8,7 @@
 #include "plot/curves/smoothing_spline.h"
 
 #include <algorithm>
+#include <new>
 #include <tuple>
 #include <utility>
 
@@ -129,7 +130,11 @@ std::vector<RunCurve> curvesThrough(const LinePoints& points, const std::vector<
     std::vector<RunCurve> curves;
     std::size_t begin = 0;
     for (const std::size_t end : points.runEnds) {
-        curves.push_back(curveThrough(runOf(points, begin, end, weights, recipe), recipe));
+        try {
+            curves.push_back(curveThrough(runOf(points, begin, end, weights, recipe), recipe));
+        } catch (const std::bad_alloc&) {
+            curves.push_back({withoutCurve(CurveProblem::NoMemory, end - begin), {}, {}});
+        }
         begin = end;
     }
     return curves;

@@ -91,6 +91,13 @@ bool followsCurve(std::size_t layer)
     return (layerAt(layer).uses & Curves) != 0;
 }
 
+bool isSeenAsCurve(const host::Frame& frame, CvlInt64 map)
+{
+    return std::any_of(std::begin(kLayers), std::end(kLayers), [&](const auto& layer) {
+        return (layer.layer.uses & Curves) != 0 && layer.isIn(frame, map);
+    });
+}
+
 LegendSample sampleIn(std::size_t layer, const ShownLine& line)
 {
     return kLayers[layer].sample(line);

@@ -34,6 +34,7 @@ void LinePlot::clear(const host::Frame* drawn, Fresh)
     const PlotType_e plotTypeBefore =
         std::exchange(m_plotType, drawn ? drawn->plotType() : PlotType_None);
     makeChart();
+    m_maker.drop();
     m_geometries.clear();
     if (drawn)
         applyLook(*drawn);
@@ -96,24 +97,44 @@ LineGeometry& LinePlot::geometryOf(const ShownLine& line)
     return geometry;
 }
 
-/// What was fitted stays while its places move.
-void LinePlot::makeCurve(const ShownLine& line, LineGeometry& geometry)
+/// Hands over what takes long. Nothing while another thread works on it.
+std::optional<std::vector<RunCurve>> LinePlot::fittedCurves(const ShownLine& line,
+                                                            const LineGeometry& geometry,
+                                                            const CurveRecipe& recipe)
+{
+    if (!m_maker.makes(geometry.points, recipe)) {
+        const LinePoints& points = *geometry.points;
+        std::vector<double> weights =
+            weightsOf(*line.frame.data(), geometry.recipe, points, recipe);
+        if (m_mayWait || !areManyToFit(points))
+            return curvesThrough(points, weights, recipe);
+        m_maker.begin({geometry.points, std::move(weights), recipe});
+        m_handedMap = line.map;
+    }
+    return m_maker.wait(0) ? std::optional(m_maker.take()) : std::nullopt;
+}
+
+/// What was fitted stays while its places move. False while another thread fits.
+bool LinePlot::makeCurve(const ShownLine& line, LineGeometry& geometry)
 {
     const CurveRecipe recipe = curveRecipeOf(line.frame, line.map);
     const int placeCount = curvePlaceCount(line.frame, line.map);
-    if (recipe.type == CurveType_LineSegments) {
-        geometry.curves.reset();
-        geometry.curveProblem = CurveProblem::None;
-        geometry.curve = geometry.places;
-        return;
-    }
     if (!geometry.curves || !(geometry.curveRecipe == recipe)) {
-        geometry.curveRecipe = recipe;
-        geometry.curves = std::make_shared<const std::vector<RunCurve>>(curvesThrough(
-            *geometry.points,
-            weightsOf(*line.frame.data(), geometry.recipe, *geometry.points, recipe), recipe));
-        geometry.curveProblem = problemOf(*geometry.curves);
+        geometry.curves.reset();
         geometry.curve.reset();
+        geometry.curveProblem = CurveProblem::None;
+    }
+    if (recipe.type == CurveType_LineSegments) {
+        geometry.curve = geometry.places;
+        return true;
+    }
+    if (!geometry.curves) {
+        auto curves = fittedCurves(line, geometry, recipe);
+        if (!curves)
+            return false;
+        geometry.curveRecipe = recipe;
+        geometry.curveProblem = problemOf(*curves);
+        geometry.curves = std::make_shared<const std::vector<RunCurve>>(std::move(*curves));
     }
     if (!geometry.curve || geometry.curvePlaceCount != placeCount) {
         geometry.curvePlaceCount = placeCount;
@@ -121,21 +142,43 @@ void LinePlot::makeCurve(const ShownLine& line, LineGeometry& geometry)
             inPlane(placesAlong(*geometry.curves, recipe, placeCount, geometry.plane),
                     geometry.plane));
     }
+    return true;
 }
 
-void LinePlot::syncLayer(std::size_t layer, const ShownLine& line, bool isShown)
+/// Whether the fit that another thread makes is still one of the picture.
+bool LinePlot::isHandedWanted(const host::Frame& drawn) const
+{
+    const CvlInt64 map = m_handedMap;
+    const auto known = m_geometries.find(map);
+    return known != m_geometries.end() && shownMaps().contains(static_cast<std::uint32_t>(map))
+        && drawn.activeLineMaps().contains(static_cast<std::uint32_t>(map))
+        && isSeenAsCurve(drawn, map) && known->second.recipe == recipeOf(drawn, map)
+        && m_maker.makes(known->second.points, curveRecipeOf(drawn, map));
+}
+
+bool LinePlot::takeBack(const host::Frame& drawn, int milliseconds)
+{
+    if (m_maker.isAtWork() && !isHandedWanted(drawn))
+        m_maker.drop();
+    return m_maker.wait(milliseconds);
+}
+
+/// False while its curve is in work: it is not there until it is ready.
+bool LinePlot::syncLayer(std::size_t layer, const ShownLine& line, bool isShown)
 {
     std::shared_ptr<const ChartShape> shape;
+    bool isMade = true;
     if (isShown && isInLayer(line.frame, line.map, layer)) {
         LineGeometry& geometry = geometryOf(line);
-        if (followsCurve(layer))
-            makeCurve(line, geometry);
-        shape = shapeIn(layer, line, geometry);
+        isMade = !followsCurve(layer) || makeCurve(line, geometry);
+        if (isMade)
+            shape = shapeIn(layer, line, geometry);
     }
     if (shape)
         m_chart->ink().set({layer, line.map}, std::move(shape), axesOf(line.frame, line.map));
     else
         m_chart->ink().remove({layer, line.map});
+    return isMade;
 }
 
 /// Shapes are made again whose plane the user has changed by moving an axis.
@@ -148,8 +191,9 @@ void LinePlot::followPlanes()
         if (geometry.plane == m_chart->plane(axesOf(*drawn, map)))
             continue;
         for (std::size_t layer = 0; layer < lineSceneKind().layerCount; ++layer)
-            if (m_chart->ink().shapes().count({layer, map}) > 0)
-                syncLayer(layer, {*drawn, map, m_height}, true);
+            if (m_chart->ink().shapes().count({layer, map}) > 0
+                && !syncLayer(layer, {*drawn, map, m_height}, true))
+                pend(maskOf(layer), host::NumberSet::bitmapOf(1, static_cast<std::uint32_t>(map)));
     }
 }
 
@@ -171,10 +215,11 @@ AxisRange LinePlot::radii() const
 LayerMask LinePlot::sync(const host::Frame& drawn, CvlInt64 map, LayerMask layers, bool isShown)
 {
     ++m_syncs;
+    LayerMask done = 0;
     for (std::size_t layer = 0; layer < lineSceneKind().layerCount; ++layer)
-        if (layers & maskOf(layer))
-            syncLayer(layer, {drawn, map, m_height}, isShown);
-    return layers;
+        if ((layers & maskOf(layer)) && syncLayer(layer, {drawn, map, m_height}, isShown))
+            done |= maskOf(layer);
+    return done;
 }
 
 bool LinePlot::hasWork() const
@@ -184,6 +229,7 @@ bool LinePlot::hasWork() const
 
 bool LinePlot::advance(int milliseconds)
 {
+    m_mayWait = milliseconds < 0;
     if (MapScene::hasWork())
         return MapScene::advance(milliseconds);
     return m_chart->hasWork() && m_chart->ink().advance(milliseconds);
@@ -195,7 +241,7 @@ void LinePlot::prepare()
     if (drawn)
         applyLook(*drawn);
     m_legend.set(drawn ? legendLookOf(*drawn, shownMaps(), m_height) : LegendLook());
-    if (m_isFitted)
+    if (m_isFitted && !m_maker.isAtWork()) // a line that comes soon has its place
         m_chart->fit(isPolar() ? radii() : AxisRange());
     m_chart->updateAxes(!MapScene::hasWork());
 }
@@ -205,12 +251,14 @@ std::pair<CvlInt64, CvlInt64> LinePlot::progress() const
     constexpr int kSyncing = 100; // as much as drawing a line
     const auto [synced, toSync] = MapScene::progress();
     const auto [drawn, toDraw] = m_chart->ink().progress();
-    return {kSyncing * synced + drawn, kSyncing * toSync + toDraw};
+    const int handed = m_maker.isAtWork() ? kSyncing / 2 : 0;
+    return {kSyncing * synced + handed + drawn, kSyncing * toSync + toDraw};
 }
 
 void LinePlot::cancel()
 {
     MapScene::cancel();
+    m_maker.drop();
     m_chart->ink().cancel();
 }
 

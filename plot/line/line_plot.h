@@ -2,12 +2,14 @@
 #pragma once
 
 #include "plot/common/map_scene.h"
+#include "plot/line/curve_maker.h"
 #include "plot/line/line_chart.h"
 #include "plot/line/line_legend.h"
 #include "plot/line/line_looks.h"
 
 #include <QCoreApplication>
 
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -61,13 +63,17 @@ protected:
     bool canShow(const host::Frame& frame, CvlInt64 map) const override;
     LayerMask sync(const host::Frame& frame, CvlInt64 map, LayerMask layers, bool isShown) override;
     void forget(CvlInt64 map) override;
+    bool takeBack(const host::Frame& frame, int milliseconds) override;
 
 private:
     void makeChart();
     /// Puts the map into a layer, or takes it out.
-    void syncLayer(std::size_t layer, const ShownLine& line, bool isShown);
+    bool syncLayer(std::size_t layer, const ShownLine& line, bool isShown);
     LineGeometry& geometryOf(const ShownLine& line);
-    static void makeCurve(const ShownLine& line, LineGeometry& geometry);
+    bool makeCurve(const ShownLine& line, LineGeometry& geometry);
+    std::optional<std::vector<RunCurve>>
+    fittedCurves(const ShownLine& line, const LineGeometry& geometry, const CurveRecipe& recipe);
+    bool isHandedWanted(const host::Frame& frame) const;
     void followPlanes();
     AxisRange radii() const;
     void applyLook(const host::Frame& frame);
@@ -80,6 +86,9 @@ private:
     int m_height = 1;
     int m_patience = LineChart::kPatience;
     std::unordered_map<CvlInt64, LineGeometry> m_geometries; ///< of the maps in some layer
+    CurveMaker m_maker;
+    CvlInt64 m_handedMap = 0; ///< that the maker works for
+    bool m_mayWait = false; ///< at present, for as long as it takes: nothing is handed over
     std::int64_t m_syncs = 0;
 };
 

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -54,12 +55,14 @@ CurveFitSettingsDialog& CurveFitSettingsDialog::getInstance(QWidget* parent)
 
 static constexpr int kReportColumns = 62;
 static constexpr int kReportRows = 9;
+static constexpr int kBetweenQuestions = 100; ///< milliseconds
 
 CurveFitSettingsDialog::CurveFitSettingsDialog(QWidget* parent)
     : QDialog(parent)
     , m_lineMapsLabel(new QLabel(this))
     , m_form(new CurveFitSettingsForm(this))
     , m_report(new QPlainTextEdit(this))
+    , m_askAgain(new QTimer(this))
 {
     setWindowTitle(tr("Curve Fit Settings"));
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -83,6 +86,9 @@ CurveFitSettingsDialog::CurveFitSettingsDialog(QWidget* parent)
     layout->addWidget(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize); // follows the fields that are shown
 
+    m_askAgain->setSingleShot(true);
+    m_askAgain->setInterval(kBetweenQuestions);
+    connect(m_askAgain, &QTimer::timeout, this, &CurveFitSettingsDialog::showReport);
     connect(m_form, &CurveFitSettingsForm::changed, this, [this] {
         m_okButton->setEnabled(m_form->isAcceptable());
         m_applyButton->setEnabled(m_form->isAcceptable());
@@ -114,8 +120,10 @@ void CurveFitSettingsDialog::launch(CvlUniqueId frame, toolbox::Set lineMaps)
 
 void CurveFitSettingsDialog::hideEvent(QHideEvent* event)
 {
-    if (!event->spontaneous())
+    if (!event->spontaneous()) {
         m_connections.disconnectAll();
+        m_askAgain->stop();
+    }
     QDialog::hideEvent(event);
 }
 
@@ -137,10 +145,13 @@ void CurveFitSettingsDialog::readSettings()
 
 void CurveFitSettingsDialog::showReport()
 {
-    const QString report = propertybindings::curveFitReport(m_frame, m_lineMaps.next(0));
-    m_report->setVisible(!report.isEmpty());
-    if (report != m_report->toPlainText())
-        m_report->setPlainText(report);
+    const auto report = propertybindings::curveFitReport(m_frame, m_lineMaps.next(0));
+    const QString text = report.value_or(tr("The curve is being fitted."));
+    m_report->setVisible(!text.isEmpty());
+    if (text != m_report->toPlainText())
+        m_report->setPlainText(text);
+    if (!report)
+        m_askAgain->start();
 }
 
 void CurveFitSettingsDialog::apply()

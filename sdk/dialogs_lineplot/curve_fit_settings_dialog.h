@@ -12,6 +12,7 @@
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
+class QTimer;
 
 namespace corvala::dialogs::lineplot {
 
@@ -48,6 +49,7 @@ private:
     QLabel* m_lineMapsLabel;
     CurveFitSettingsForm* m_form;
     QPlainTextEdit* m_report;
+    QTimer* m_askAgain; ///< while the fit is being made
     QPushButton* m_okButton;
     QPushButton* m_applyButton;
     CvlUniqueId m_frame = 0;

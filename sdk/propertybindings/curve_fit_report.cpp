@@ -16,7 +16,7 @@ void setCurveFitReporter(CurveFitReporter other)
     reporter() = std::move(other);
 }
 
-QString curveFitReport(CvlUniqueId frame, CvlInt64 lineMap)
+std::optional<QString> curveFitReport(CvlUniqueId frame, CvlInt64 lineMap)
 {
     return reporter() ? reporter()(frame, lineMap) : QString();
 }

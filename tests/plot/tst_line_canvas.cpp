@@ -90,6 +90,18 @@ public:
     }
 };
 
+static void openCloud()
+{
+    document().clear();
+    auto data = std::make_shared<host::DataSet>();
+    data->variables = {{"X", {}, {}, 0}, {"Y", {}, {}, 1}};
+    host::ZoneInfo zone;
+    zone.pointCount = Cloud::kPoints;
+    data->zones = {zone};
+    data->source = std::make_shared<Cloud>();
+    document().execute(host::AttachData {{}, data, PlotType_LineXY, 1});
+}
+
 class tst_LineCanvas : public QObject
 {
     Q_OBJECT
@@ -502,14 +514,7 @@ private Q_SLOTS:
 
     void longWorkIsReported()
     {
-        document().clear();
-        auto data = std::make_shared<host::DataSet>();
-        data->variables = {{"X", {}, {}, 0}, {"Y", {}, {}, 1}};
-        host::ZoneInfo zone;
-        zone.pointCount = Cloud::kPoints;
-        data->zones = {zone};
-        data->source = std::make_shared<Cloud>();
-        document().execute(host::AttachData {{}, data, PlotType_LineXY, 1});
+        openCloud();
         FrameView view;
         view.resize(kSize);
         QSignalSpy progressed(&view, &FrameView::workProgressed);
@@ -532,6 +537,44 @@ private Q_SLOTS:
         canvas.plot().replot(); // for the same view nothing is drawn again
         QVERIFY(!view.isBusy());
         QCOMPARE(ink.picture(), drawn);
+    }
+
+    /// They are made beside the window, and none is seen that is not that of the style.
+    void fitsOfManyPoints()
+    {
+        openCloud();
+        write("LineMap/Curves/CurveType", "1", CurveType_PolynomialFit);
+        ShownCanvas shown;
+        const auto begin = [&shown](int order) {
+            write("LineMap/Curves/PolyOrder", "1", order);
+            QCoreApplication::processEvents();
+            return !shown.find(1) && shown.scene().hasWork();
+        };
+        QVERIFY(shown.find(1) && begin(5) && begin(2));
+        shown.settle();
+        QCustomPlot widget;
+        LinePlot atOnce(widget);
+        atOnce.setFrame(document().activeFrameId());
+        QVERIFY(!atOnce.advance(-1));
+        const auto bounds = [](const LineInk& ink) {
+            const LineBox box = ink.shapes().at({2, 1}).shape->bounds();
+            return std::vector<double> {box.left, box.right, box.low, box.high};
+        };
+        QCOMPARE(bounds(shown.ink()), bounds(atOnce.chart().ink()));
+
+        QVERIFY(begin(6));
+        shown.view.cancelWork();
+        QVERIFY(!shown.scene().hasWork() && !shown.scene().notice().isEmpty());
+        shown.view.resumeWork();
+        shown.settle();
+        QVERIFY(shown.find(1) && begin(7));
+        document().execute(host::DeleteMaps {mapsOf("1")});
+        shown.settle();
+        QCOMPARE(shown.lineCount(), 0);
+        document().undo().undo();
+        shown.settle();
+        QVERIFY(shown.find(1) && begin(3));
+        document().clear(); // while it is fitted
     }
 
     void viewChoosesTheCanvas()

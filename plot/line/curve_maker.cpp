@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/line/curve_maker.h"
+
+#include <utility>
+
+namespace corvala::plot {
+
+/// Steep curves take some hundred passes through their points.
+bool areManyToFit(const LinePoints& points)
+{
+    constexpr std::size_t kMany = 2'000;
+    return points.size() >= kMany;
+}
+
+void CurveMaker::begin(CurveOrder order)
+{
+    m_points = order.points;
+    m_recipe = order.recipe;
+    m_task = std::make_unique<BackgroundTask<std::vector<RunCurve>>>([order = std::move(order)] {
+        return curvesThrough(*order.points, order.weights, order.recipe);
+    });
+}
+
+void CurveMaker::drop()
+{
+    m_task.reset();
+    m_points.reset();
+}
+
+bool CurveMaker::makes(const std::shared_ptr<const LinePoints>& points,
+                       const CurveRecipe& recipe) const
+{
+    return m_task && m_points == points && m_recipe == recipe;
+}
+
+std::vector<RunCurve> CurveMaker::take()
+{
+    std::vector<RunCurve> curves = m_task->take();
+    drop();
+    return curves;
+}
+
+} // namespace corvala::plot
