@@ -16,7 +16,7 @@ enum class CurveProblem {
     TooFewPoints,
     SameAbscissas, ///< fewer abscissas that can be told apart than the curve needs
     NonPositiveX,
-    NonPositiveY,
+    NoCommonSign, ///< values of y are 0, or on both sides of it
     NoPeak, ///< all points lie at the same height
     NoConvergence, ///< no curve of the kind comes nearest to the points
     OutOfRange, ///< numbers of the curve are too large to be held

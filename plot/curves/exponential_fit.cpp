@@ -34,9 +34,10 @@ static Parameters startOf(const ScaledPoints& points)
                           : Parameters {0.0, 0.0};
 }
 
+/// `sign` is that of all values.
 static std::vector<Coefficient> coefficientsOf(const NonlinearFit& found,
-                                               const AbscissaScale& scale, double logarithm,
-                                               double deviation)
+                                               const AbscissaScale& scale, double sign,
+                                               double logarithm, double deviation)
 {
     const double unit = static_cast<double>(scale.unit);
     const double shift = static_cast<double>(scale.middle / scale.unit);
@@ -44,12 +45,12 @@ static std::vector<Coefficient> coefficientsOf(const NonlinearFit& found,
     const double variance = found.covarianceOf(0, 0) - 2.0 * shift * found.covarianceOf(0, 1)
         + shift * shift * found.covarianceOf(1, 1);
     return {
-        {"a", factor, deviation * factor * std::sqrt(variance)},
+        {"a", sign * factor, deviation * factor * std::sqrt(variance)},
         {"b", found.parameters[1] / unit, deviation * std::sqrt(found.covarianceOf(1, 1)) / unit},
     };
 }
 
-/// y = a exp(b abscissa(x)), through usable points with y > 0.
+/// y = a exp(b abscissa(x)), through usable points whose y have one sign.
 static CurveFit fitGrowth(const CurvePoints& points, double (*abscissa)(double))
 {
     const CurveProblem problem = abscissaProblem(points, 2);
@@ -58,19 +59,21 @@ static CurveFit fitGrowth(const CurvePoints& points, double (*abscissa)(double))
     CurvePoints placed = points;
     std::transform(points.x.begin(), points.x.end(), placed.x.begin(), abscissa);
     const AbscissaScale scale(placed.x);
-    const double unit = *std::max_element(points.y.begin(), points.y.end());
-    const ScaledPoints search = scaled(placed, scale, 0.0, unit);
+    const auto [low, high] = std::minmax_element(points.y.begin(), points.y.end());
+    const double sign = *low < 0.0 ? -1.0 : 1.0;
+    const double unit = std::max(std::fabs(*low), std::fabs(*high));
+    const ScaledPoints search = scaled(placed, scale, 0.0, sign * unit);
     const NonlinearFit found = fitNonlinear(exponential, search, startOf(search));
     if (!found.isConverged)
         return withoutCurve(CurveProblem::NoConvergence, points.size());
 
     const double logarithm = found.parameters[0] + std::log(unit);
     const double slope = found.parameters[1];
-    const auto value = [abscissa, scale, logarithm, slope](double x) {
-        return std::exp(logarithm + slope * static_cast<double>(scale(abscissa(x))));
+    const auto value = [abscissa, scale, sign, logarithm, slope](double x) {
+        return sign * std::exp(logarithm + slope * static_cast<double>(scale(abscissa(x))));
     };
     return assessed(value, points, 2.0, [&](double deviation) {
-        return coefficientsOf(found, scale, logarithm, deviation / unit);
+        return coefficientsOf(found, scale, sign, logarithm, deviation / unit);
     });
 }
 
@@ -79,11 +82,17 @@ static bool isPositive(const std::vector<double>& numbers)
     return std::all_of(numbers.begin(), numbers.end(), [](double number) { return number > 0.0; });
 }
 
+static bool haveCommonSign(const std::vector<double>& numbers)
+{
+    return isPositive(numbers)
+        || std::all_of(numbers.begin(), numbers.end(), [](double number) { return number < 0.0; });
+}
+
 CurveFit fitExponential(const CurvePoints& points)
 {
     const CurvePoints used = usable(points);
-    if (!isPositive(used.y))
-        return withoutCurve(CurveProblem::NonPositiveY, used.size());
+    if (!haveCommonSign(used.y))
+        return withoutCurve(CurveProblem::NoCommonSign, used.size());
     return fitGrowth(used, [](double x) { return x; });
 }
 
@@ -92,8 +101,8 @@ CurveFit fitPower(const CurvePoints& points)
     const CurvePoints used = usable(points);
     if (!isPositive(used.x))
         return withoutCurve(CurveProblem::NonPositiveX, used.size());
-    if (!isPositive(used.y))
-        return withoutCurve(CurveProblem::NonPositiveY, used.size());
+    if (!haveCommonSign(used.y))
+        return withoutCurve(CurveProblem::NoCommonSign, used.size());
     return fitGrowth(used, [](double x) { return std::log(x); });
 }
 

@@ -9,9 +9,11 @@ namespace corvala::plot {
 // one sees, and not those of the logarithms, which would follow the smallest values. Weights of
 // 1 / y^2 make it relative distances. Coefficients are "a" and "b"; two abscissas are needed.
 
-/// y = a exp(b x), through points with y > 0.
+// The values of y are all positive, or all negative: so is "a" then.
+
+/// y = a exp(b x).
 CurveFit fitExponential(const CurvePoints& points);
-/// y = a x^b, through points with x > 0 and y > 0.
+/// y = a x^b, through points with x > 0.
 CurveFit fitPower(const CurvePoints& points);
 
 } // namespace corvala::plot

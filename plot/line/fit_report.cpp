@@ -26,8 +26,8 @@ QString problemText(CurveProblem problem)
         return translated(FIT_TEXT("too few different values of the independent variable"));
     case CurveProblem::NonPositiveX:
         return translated(FIT_TEXT("values of the independent variable are not positive"));
-    case CurveProblem::NonPositiveY:
-        return translated(FIT_TEXT("values of the dependent variable are not positive"));
+    case CurveProblem::NoCommonSign:
+        return translated(FIT_TEXT("values of the dependent variable are 0 or have both signs"));
     case CurveProblem::NoPeak: return translated(FIT_TEXT("all points lie at the same height"));
     case CurveProblem::NoConvergence:
         return translated(FIT_TEXT("no such curve comes near the points"));

@@ -218,6 +218,8 @@ void TestCurveFits::curves_data()
         {5e-12, 1e-12, 1e9 + 700.5, 1.5}, 1);
     const Function decay = [](double x) { return 3 * std::exp(-0.25 * x); };
     row("exponential", fitExponential, pointsOf(decay, -5, 12), decay, {3, -0.25}, 1);
+    const Function debt = [](double x) { return -3 * std::exp(-0.25 * x); };
+    row("negative exponential", fitExponential, pointsOf(debt, -5, 12), debt, {-3, -0.25}, 1);
     const Function decades = [](double x) { return std::exp(20 * x); };
     row("over 170 decades", fitExponential, pointsOf(decades, -10, 21), decades, {1, 20}, 1);
     const Function law = [](double x) { return 0.5 * std::pow(x, -1.5); };
@@ -343,7 +345,7 @@ void TestCurveFits::problems_data()
     }
     row("places that merge", polynomial(3), {{0, 1e-60, 1, 2}, {0, 1, 2, 3}},
         CurveProblem::SameAbscissas);
-    row("y of 0", fitExponential, {{1, 2}, {0, 1}}, CurveProblem::NonPositiveY);
+    row("y of 0", fitExponential, {{1, 2}, {0, 1}}, CurveProblem::NoCommonSign);
     row("x of 0", fitPower, {{0, 2}, {1, 1}}, CurveProblem::NonPositiveX);
     row("no peak", fitGaussian, pointsOf([](double) { return 3; }, 0, 9), CurveProblem::NoPeak);
     row("overflow", spline(), {{0, 1, 2}, {-1.7e308, 1.7e308, 0}}, CurveProblem::OutOfRange);
