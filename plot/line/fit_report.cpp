@@ -5,7 +5,9 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
 #include <utility>
 
 namespace corvala::plot {
@@ -45,6 +47,8 @@ static QString numberText(double number)
 
 static QStringList reportLines(const CurveFit& fit)
 {
+    if (!fit.isValid())
+        return {translated(FIT_TEXT("There is no curve: %1.")).arg(problemText(fit.problem))};
     constexpr int kNameWidth = 18;
     constexpr int kNumberWidth = 19;
     QStringList lines;
@@ -66,16 +70,38 @@ static QStringList reportLines(const CurveFit& fit)
     return lines;
 }
 
-static QString reportOn(const std::vector<RunCurve>& curves)
+/// What tells a line of a map from the others, such as "J = 2, K = 1".
+static QString lineName(const host::DataSet& data, const LineRecipe& recipe,
+                        const LinePoints& points, std::size_t line)
 {
-    if (curves.empty() || !curves.front().fit.isValid()) {
-        const CurveProblem problem =
-            curves.empty() ? CurveProblem::TooFewPoints : problemOf(curves);
-        return translated(FIT_TEXT("There is no curve: %1.")).arg(problemText(problem));
+    const std::size_t begin = line == 0 ? 0 : points.runEnds[line - 1];
+    if (begin == points.runEnds[line])
+        return {};
+    const std::array<std::int64_t, 3> indices = indicesOf(data, recipe, points.sources[begin]);
+    QStringList names;
+    for (std::size_t axis = 0; axis < indices.size(); ++axis)
+        if (indices[axis] > 0 && static_cast<int>(axis) != recipe.varying)
+            names << QStringLiteral("%1 = %2").arg(QLatin1Char("IJK"[axis])).arg(indices[axis]);
+    return names.join(QStringLiteral(", "));
+}
+
+static QString reportOn(const std::vector<RunCurve>& curves,
+                        const std::function<QString(std::size_t)>& nameOf)
+{
+    constexpr std::size_t kMost = 50;
+    if (curves.empty())
+        return reportLines(withoutCurve(CurveProblem::TooFewPoints, 0)).first();
+    QStringList lines;
+    for (std::size_t i = 0; i < std::min(curves.size(), kMost); ++i) {
+        if (curves.size() > 1)
+            lines << nameOf(i);
+        lines << reportLines(curves[i].fit);
+        if (i + 1 < curves.size())
+            lines << QString();
     }
-    QStringList lines = reportLines(curves.front().fit);
-    if (curves.size() > 1)
-        lines << translated(FIT_TEXT("This is the first of %1 lines of the map."))
+    if (curves.size() > kMost)
+        lines << translated(FIT_TEXT("These are the first %1 of %2 lines of the map."))
+                     .arg(kMost)
                      .arg(curves.size());
     return lines.join(QLatin1Char('\n'));
 }
@@ -87,16 +113,17 @@ std::optional<QString> FitReports::of(const host::Frame& frame, CvlInt64 map)
         return QString();
     const LineRecipe line = recipeOf(frame, map);
     const auto data = frame.sharedData();
+    const auto nameOf = [&](std::size_t i) { return lineName(*data, line, *m_points, i); };
     if (m_data.lock() != data || !(m_line == line) || !m_maker.makes(m_points, recipe)) {
         m_data = data;
         m_line = line;
         m_points = std::make_shared<const LinePoints>(linePoints(*data, line));
         CurveOrder order {m_points, weightsOf(*data, line, *m_points, recipe), recipe};
         if (!areManyToFit(*m_points))
-            return reportOn(curvesThrough(*m_points, order.weights, recipe));
+            return reportOn(curvesThrough(*m_points, order.weights, recipe), nameOf);
         m_maker.begin(std::move(order));
     }
-    return m_maker.wait(0) ? std::optional(reportOn(m_maker.take())) : std::nullopt;
+    return m_maker.wait(0) ? std::optional(reportOn(m_maker.take(), nameOf)) : std::nullopt;
 }
 
 } // namespace corvala::plot

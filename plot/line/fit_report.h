@@ -17,8 +17,9 @@ class FitReports
 {
 public:
     /// Coefficients with their standard errors and R squared, or the problem, in lines of plain
-    /// text; empty for a map without a fit. Nothing while it is being made: to be asked again, and
-    /// begun anew when another report is asked for in between. The map must exist.
+    /// text, for each line of the map up to fifty; empty for a map without a fit. Nothing while it
+    /// is being made: to be asked again, and begun anew when another report is asked for in
+    /// between. The map must exist.
     std::optional<QString> of(const host::Frame& frame, CvlInt64 map);
 
 private:

@@ -115,6 +115,21 @@ static std::vector<double> gathered(vtkDataArray& values, const std::vector<std:
     return result;
 }
 
+std::array<std::int64_t, 3> indicesOf(const host::DataSet& data, const LineRecipe& recipe,
+                                      std::int64_t source)
+{
+    const host::ZoneValues drawn = data.values(recipe.zone, recipe.first);
+    const std::array<std::int64_t, 3> sizes = sizesOf(
+        data.zone(recipe.zone), drawn.location, drawn.array ? drawn.array->GetNumberOfTuples() : 0);
+    std::array<std::int64_t, 3> indices {};
+    for (std::size_t axis = 0; axis < sizes.size(); ++axis) {
+        if (sizes[axis] > 1)
+            indices[axis] = source % sizes[axis] + 1;
+        source /= std::max<std::int64_t>(sizes[axis], 1);
+    }
+    return indices;
+}
+
 /// Every run in the order of some values; what is not a number comes last.
 static void sortRuns(LinePoints& points, const std::vector<double>& values)
 {

@@ -62,6 +62,11 @@ LinePoints linePoints(const host::DataSet& data, const LineRecipe& recipe);
 std::vector<double> valuesAt(const host::DataSet& data, const LineRecipe& recipe,
                              const LinePoints& points, std::int64_t variable);
 
+/// I, J and K, from 1, of one of the places among the values of the zone; 0 for an index of which
+/// the zone has one value only.
+std::array<std::int64_t, 3> indicesOf(const host::DataSet& data, const LineRecipe& recipe,
+                                      std::int64_t source);
+
 /// The points as they lie in a plane, runs one after the other: a place that is not finite lies
 /// between them.
 Polyline inPlane(const LinePoints& points, const LinePlane& plane);

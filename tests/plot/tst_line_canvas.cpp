@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures.h"
 #include "plot/frame_view.h"
+#include "plot/line/fit_report.h"
 #include "plot/line/line_canvas.h"
 #include "plot/line/stroked_line.h"
 #include "plot/render.h"
@@ -575,6 +576,20 @@ private Q_SLOTS:
         shown.settle();
         QVERIFY(shown.find(1) && begin(3));
         document().clear(); // while it is fitted
+    }
+
+    void reportsOfFits()
+    {
+        openDemo("field2d");
+        document().execute(host::CreateLineMaps {1});
+        write("PlotType", "", PlotType_LineXY);
+        editStyle("Curves/CurveType=1 Assign/YAxisVar=4");
+        FitReports reports;
+        std::optional<QString> report;
+        QTRY_VERIFY((report = reports.of(*document().activeFrame(), 1)));
+        const auto& zone = document().activeFrame()->data()->zone(1);
+        QCOMPARE(report->count("R squared"), zone.dimensions[1]);
+        QVERIFY(report->startsWith("J = 1\n") && report->contains("\n\nJ = 2\n"));
     }
 
     void viewChoosesTheCanvas()
