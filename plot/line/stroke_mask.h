@@ -37,12 +37,16 @@ public:
 private:
     class Stroke;
 
+    void touch(int top, int bottom);
+
     static constexpr int kTile = 16; ///< pixels of a row that are painted and cleared together
 
     QSize m_size;
     std::size_t m_tilesOfRow = 0;
     std::vector<std::uint8_t> m_coverage; ///< 0 to 255, row by row of whole tiles
     std::vector<std::uint8_t> m_tiles; ///< whether something is in it
+    int m_top = 0; ///< of the rows that strokes have touched
+    int m_bottom = -1;
 };
 
 } // namespace corvala::plot
