@@ -82,29 +82,33 @@ std::optional<std::size_t> MarkWalker::next()
     return nextOf(m_points.places->size() + 1);
 }
 
-static constexpr double kCells = 2.0; ///< of a pixel, each way
+/// The half of a pixel that a place lies in, as symbols are drawn.
+static std::int64_t cellOf(double place)
+{
+    constexpr double kCells = 2.0; // of a pixel, each way
+    return static_cast<std::int64_t>(std::floor(kCells * place));
+}
 
 MarkPlaces::MarkPlaces(const LineBox& visible, double reach)
     : MarkPlaces(visible.grown(reach))
 {
 }
 
-MarkPlaces::MarkPlaces(const LineBox& visible)
-    : m_width(static_cast<std::size_t>(kCells * std::max(visible.right - visible.left, 0.0)) + 2)
-    , m_height(static_cast<std::size_t>(kCells * std::max(visible.high - visible.low, 0.0)) + 2)
-    , m_origin(visible.left, visible.low)
-    , m_isTaken(m_width * m_height)
+MarkPlaces::MarkPlaces(const LineBox& all)
+    : m_left(cellOf(all.left))
+    , m_low(cellOf(all.low))
+    , m_width(std::max<std::int64_t>(cellOf(all.right) - m_left, 0) + 1)
+    , m_height(std::max<std::int64_t>(cellOf(all.high) - m_low, 0) + 1)
+    , m_isTaken(static_cast<std::size_t>(m_width * m_height))
 {
 }
 
 bool MarkPlaces::isNew(const QPointF& pixel)
 {
-    const auto cell = [](double distance, std::size_t count) {
-        return static_cast<std::size_t>(
-            std::clamp(kCells * distance, 0.0, static_cast<double>(count - 1)));
-    };
-    const QPointF place = pixel - m_origin;
-    const std::size_t number = cell(place.y(), m_height) * m_width + cell(place.x(), m_width);
+    const std::int64_t column =
+        std::clamp<std::int64_t>(cellOf(pixel.x()) - m_left, 0, m_width - 1);
+    const std::int64_t row = std::clamp<std::int64_t>(cellOf(pixel.y()) - m_low, 0, m_height - 1);
+    const auto number = static_cast<std::size_t>(row * m_width + column);
     const bool isNew = !m_isTaken[number];
     m_isTaken[number] = true;
     return isNew;

@@ -62,9 +62,11 @@ public:
 private:
     explicit MarkPlaces(const LineBox& all);
 
-    std::size_t m_width;
-    std::size_t m_height;
-    QPointF m_origin;
+    // In halves of pixels.
+    std::int64_t m_left;
+    std::int64_t m_low;
+    std::int64_t m_width;
+    std::int64_t m_height;
     std::vector<bool> m_isTaken;
 };
 

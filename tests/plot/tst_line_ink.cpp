@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_ink.h"
 #include "plot/line/stroked_line.h"
+#include "plot/line/symbol_marks.h"
 #include "tests/support/rows.h"
+#include "vocabulary/enums.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -9,6 +11,7 @@
 #include <cmath>
 #include <functional>
 #include <random>
+#include <set>
 
 using namespace corvala::plot;
 using namespace corvala::tests;
@@ -180,6 +183,53 @@ private Q_SLOTS:
         }
         QVERIFY2(difference < 0.005,
                  qPrintable(QStringLiteral("%1 of %2").arg(difference).arg(ink)));
+    }
+
+    /// Marks beyond the picture, and a second one in the same place, make no difference.
+    void marksLikeSingleOnes_data()
+    {
+        const Rows<Curve, int, double, double> row;
+        row("smooth", wave, 200, 1.0, 1.0);
+        row("smooth, every third", wave, 3'000, 1.0, 3.0);
+        row("smooth, magnified", wave, 5'000, 40.0, 1.0);
+        row(
+            "on each other", [](double t) { return QPointF(t, 0.5 + 0.02 * noise()); }, 5'000, 1.0,
+            1.0);
+    }
+
+    void marksLikeSingleOnes()
+    {
+        const auto [curve, points, zoom, step] = currentRow<Curve, int, double, double>();
+        const LineView view = viewOf(zoom);
+        SymbolStyle style;
+        style.path = symbolPath(GeomShape_Diamond, {}, FontOverride_None);
+        style.size = 7.3;
+        style.lineWidth = 1.4;
+        style.line = Qt::blue;
+        style.fill = Qt::yellow;
+        LineInk reduced;
+        LineInk single;
+        const auto mark = [&](LineInk& ink, Polyline places, double every) {
+            const auto number = static_cast<std::int64_t>(ink.shapes().size()) + 1;
+            ink.set({0, number},
+                    std::make_shared<SymbolMarks>(
+                        MarkedPoints {std::make_shared<const Polyline>(std::move(places)),
+                                      {false, every}},
+                        style));
+        };
+        const Polyline all = sampled(curve, points);
+        mark(reduced, all, step);
+        std::set<std::pair<double, double>> places; // halves of pixels
+        for (std::size_t i = 0; i < all.size(); i += static_cast<std::size_t>(step)) {
+            const QPointF pixel = 2.0 * view.pixel(all.x(i), all.y(i));
+            if (places.insert({std::floor(pixel.x()), std::floor(pixel.y())}).second)
+                mark(single, Polyline({all.x(i)}, {all.y(i)}), 1.0);
+        }
+        for (LineInk* const ink : {&reduced, &single}) {
+            ink->setView(chartOf(view), kSize, 1.0);
+            ink->advance(-1);
+        }
+        QCOMPARE(reduced.picture(), single.picture());
     }
 
     void slicesDrawTheSame()
