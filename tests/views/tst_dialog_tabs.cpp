@@ -174,6 +174,25 @@ private Q_SLOTS:
         QVERIFY(fixture.table().columnWidth(kMeshType) < 201);
     }
 
+    /// Settings of a curve may become any longer; a width that the user gave stays.
+    void columnOfSettingsGrows()
+    {
+        DialogFixture fixture("xy");
+        ZoneStyleDialog::setAvailableMappingStyleTabs(mappingTabs({0, 2}));
+        fixture.clickTab("Curves");
+        const int column = fixture.table().model()->columnCount() - 1;
+        const auto widthFor = [&](int curveType) {
+            change("LineMap.Curves.CurveType", "2", curveType);
+            return fixture.table().columnWidth(column);
+        };
+        const int narrow = widthFor(0);
+        const int wide = widthFor(1);
+        QVERIFY(wide > 3 * narrow);
+        QCOMPARE(widthFor(0), wide);
+        fixture.table().setColumnWidth(column, wide - 30);
+        QCOMPARE(widthFor(1), wide - 30);
+    }
+
     /// Where one table serves several plot types it stays as it is; each has its own when it comes
     /// back.
     void keepsColumnWidthsOfPlotTypesApart()

@@ -18,4 +18,8 @@ enum EditorType_e {
     EditorType_DynamicTextPopup = 9 ///< pop-up: line-map name, seeded with the edit-role text
 };
 
+/// The option of plain cells whose text may become any longer: the column widens with what is seen
+/// of it.
+constexpr int kGrowsWithText = 3;
+
 } // namespace corvala::sdk::ui::dialogs::zonestyle::intern::models

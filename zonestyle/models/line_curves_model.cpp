@@ -101,7 +101,7 @@ static constexpr ColumnDescriptor curveType(const char* header)
 static constexpr ColumnDescriptor curveSettings(const char* header)
 {
     ColumnDescriptor column {header};
-    return column.shows(fitSettings).offers(settingsMenu).editor(EditorType_None, 3);
+    return column.shows(fitSettings).offers(settingsMenu).editor(EditorType_None, kGrowsWithText);
 }
 
 static constexpr int kPoints[] = {250, 500, 1000};

@@ -31,10 +31,16 @@ using namespace models; // EditorType_e
 
 namespace {
 
-/// Widths by plot type, tab and column, for the life of the process.
-std::map<std::tuple<CvlInt64, int, int>, int>& columnWidths()
+struct ColumnWidth
 {
-    static std::map<std::tuple<CvlInt64, int, int>, int> widths;
+    int pixels = 0;
+    bool isOfTable = false; ///< and not of the user
+};
+
+/// Widths by plot type, tab and column, for the life of the process.
+std::map<std::tuple<CvlInt64, int, int>, ColumnWidth>& columnWidths()
+{
+    static std::map<std::tuple<CvlInt64, int, int>, ColumnWidth> widths;
     return widths;
 }
 
@@ -102,6 +108,8 @@ void StyleTableView::setModel(ModelAbstract* newModel, int tabKey)
 {
     disconnect(verticalHeader(), &QHeaderView::sectionCountChanged, this,
                &StyleTableView::sectionCountChanged);
+    if (m_model)
+        disconnect(m_model, &QAbstractItemModel::layoutChanged, this, &StyleTableView::growColumns);
     m_model = newModel;
     m_tabKey = tabKey;
     adoptRowHeight();
@@ -111,6 +119,8 @@ void StyleTableView::setModel(ModelAbstract* newModel, int tabKey)
     sizeColumns(Sizing::KeepRemembered);
     connect(verticalHeader(), &QHeaderView::sectionCountChanged, this,
             &StyleTableView::sectionCountChanged);
+    if (m_model)
+        connect(m_model, &QAbstractItemModel::layoutChanged, this, &StyleTableView::growColumns);
 }
 
 void StyleTableView::adoptPlotType()
@@ -183,27 +193,50 @@ void StyleTableView::sizeColumns(Sizing sizing)
     }
 }
 
+/// A width that the user gave stays.
+void StyleTableView::growColumns()
+{
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        if (m_model->columnEditorType(column) != EditorType_None
+            || m_model->columnEditorOption(column) != kGrowsWithText
+            || !columnWidths()[widthKey(column)].isOfTable)
+            continue;
+        const int needed = widestSeen(column);
+        if (needed <= columnWidth(column))
+            continue;
+        setColumnWidth(column, needed);
+        storeColumnWidth(column, columnWidth(column));
+    }
+}
+
 void StyleTableView::sectionCountChanged(int, int)
 {
     adoptRowHeight();
     sizeColumns(Sizing::Reset);
 }
 
+std::tuple<CvlInt64, int, int> StyleTableView::widthKey(int column) const
+{
+    return {CvlUtilFrameGetPlotType(), m_tabKey, column};
+}
+
 void StyleTableView::storeColumnWidth(int column, int width)
 {
-    columnWidths()[{CvlUtilFrameGetPlotType(), m_tabKey, column}] = width;
+    columnWidths()[widthKey(column)] = {width, true};
 }
 
 void StyleTableView::rememberColumnWidth(int column)
 {
-    if (m_model && horizontalHeader()->model() == m_model && columnWidth(column) >= 1)
-        storeColumnWidth(column, columnWidth(column));
+    const int width = columnWidth(column);
+    if (m_model && horizontalHeader()->model() == m_model && width >= 1
+        && width != rememberedColumnWidth(column))
+        columnWidths()[widthKey(column)] = {width, false};
 }
 
 int StyleTableView::rememberedColumnWidth(int column) const
 {
-    const auto found = columnWidths().find({CvlUtilFrameGetPlotType(), m_tabKey, column});
-    return found == columnWidths().end() ? 0 : found->second;
+    const auto found = columnWidths().find(widthKey(column));
+    return found == columnWidths().end() ? 0 : found->second.pixels;
 }
 
 /// All rows are equally high; QTableView::sizeHintForRow would measure the cells of one.
@@ -343,21 +376,25 @@ int StyleTableView::fittingWidth(const QModelIndex& index) const
     return delegate ? delegate->fittingWidth(viewOptions(), index) : 0;
 }
 
+/// What the rows that are seen need.
+int StyleTableView::widestSeen(int column) const
+{
+    const int rows = m_model ? m_model->rowCount() : 0;
+    const int last = rowAt(viewport()->height() - 1);
+    int widest = 0;
+    for (int row = qMax(0, rowAt(0)); row <= (last < 0 ? rows - 1 : last); ++row)
+        widest = qMax(widest, fittingWidth(m_model->index(row, column)));
+    return widest + (showGrid() ? 1 : 0);
+}
+
 int StyleTableView::sizeHintForColumn(int column) const
 {
     constexpr int kSample = 500;
     const int rows = m_model ? m_model->rowCount() : 0;
     int widest = 0;
-    const auto measure = [&](int row) {
-        widest = qMax(widest, fittingWidth(m_model->index(row, column)));
-    };
-    const int first = qMax(0, rowAt(0));
-    const int last = rowAt(viewport()->height() - 1);
-    for (int row = first; row <= (last < 0 ? rows - 1 : last); ++row)
-        measure(row);
     for (int row = 0; row < rows; row += qMax(1, rows / kSample))
-        measure(row);
-    return widest + (showGrid() ? 1 : 0);
+        widest = qMax(widest, fittingWidth(m_model->index(row, column)));
+    return qMax(widestSeen(column), widest + (showGrid() ? 1 : 0));
 }
 
 void StyleTableView::contextMenuEvent(QContextMenuEvent* event)

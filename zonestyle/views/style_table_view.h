@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include <memory>
+#include <tuple>
 
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 class ModelAbstract;
@@ -63,6 +64,8 @@ protected:
 private Q_SLOTS:
     /// The rows are others: all columns are sized to their contents again.
     void sectionCountChanged(int oldCount, int newCount);
+    /// What is seen may be longer.
+    void growColumns();
 
 private:
     enum class Sizing { Reset, KeepRemembered };
@@ -77,12 +80,15 @@ private:
     void selectRowIfNone(const QModelIndex& index);
     QRect visibleRect(const QModelIndex& index) const;
     int fittingWidth(const QModelIndex& index) const;
+    int widestSeen(int column) const;
     void showMenu(const QList<QAction*>& actions, const QPoint& globalPosition);
     void commitToSelectedRows(int column, const QString& text);
     void installDelegates();
     ItemDelegate* makeDelegate(int column);
     void sizeColumns(Sizing sizing);
     void adoptRowHeight();
+    std::tuple<CvlInt64, int, int> widthKey(int column) const;
+    /// Of the table's own accord.
     void storeColumnWidth(int column, int width);
 
     QPointer<models::ModelAbstract> m_model; ///< not owned
