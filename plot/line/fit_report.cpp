@@ -123,7 +123,11 @@ std::optional<QString> FitReports::of(const host::Frame& frame, CvlInt64 map)
             return reportOn(curvesThrough(*m_points, order.weights, recipe), nameOf);
         m_maker.begin(std::move(order));
     }
-    return m_maker.wait(0) ? std::optional(reportOn(m_maker.take(), nameOf)) : std::nullopt;
+    if (!m_maker.wait(0))
+        return std::nullopt;
+    const QString report = reportOn(m_maker.take(), nameOf);
+    m_points.reset();
+    return report;
 }
 
 } // namespace corvala::plot

@@ -94,7 +94,8 @@ bool followsCurve(std::size_t layer)
 bool isSeenAsCurve(const host::Frame& frame, CvlInt64 map)
 {
     return std::any_of(std::begin(kLayers), std::end(kLayers), [&](const auto& layer) {
-        return (layer.layer.uses & Curves) != 0 && layer.isIn(frame, map);
+        return (layer.layer.uses & Curves) != 0 && frame.isOn(layer.layer.shown)
+            && layer.isIn(frame, map);
     });
 }
 

@@ -22,7 +22,7 @@ std::shared_ptr<const ChartShape> shapeIn(std::size_t layer, const ShownLine& li
                                           const LineGeometry& geometry);
 /// Whether the layer shows what runs through the points, and not these alone.
 bool followsCurve(std::size_t layer);
-/// Whether the map appears in such a layer, were it on.
+/// Whether the map appears in such a layer that is on.
 bool isSeenAsCurve(const host::Frame& frame, CvlInt64 map);
 /// What stands for a layer of a map in a legend; null for nothing.
 LegendSample sampleIn(std::size_t layer, const ShownLine& line);

@@ -58,6 +58,7 @@ void LinePlot::setPatience(int milliseconds)
 LayerMask LinePlot::showLayers(const host::Frame& drawn)
 {
     applyLook(drawn);
+    dropUnwanted(drawn);
     LayerMask shown = 0;
     for (std::size_t layer = 0; layer < lineSceneKind().layerCount; ++layer)
         shown |= isLayerOn(drawn, layer) ? maskOf(layer) : 0;
@@ -138,9 +139,8 @@ bool LinePlot::makeCurve(const ShownLine& line, LineGeometry& geometry)
     }
     if (!geometry.curve || geometry.curvePlaceCount != placeCount) {
         geometry.curvePlaceCount = placeCount;
-        geometry.curve = std::make_shared<const Polyline>(
-            inPlane(placesAlong(*geometry.curves, recipe, placeCount, geometry.plane),
-                    geometry.plane));
+        geometry.curve = std::make_shared<const Polyline>(inPlane(
+            placesAlong(*geometry.curves, recipe, placeCount, geometry.plane), geometry.plane));
     }
     return true;
 }
@@ -156,10 +156,15 @@ bool LinePlot::isHandedWanted(const host::Frame& drawn) const
         && m_maker.makes(known->second.points, curveRecipeOf(drawn, map));
 }
 
-bool LinePlot::takeBack(const host::Frame& drawn, int milliseconds)
+void LinePlot::dropUnwanted(const host::Frame& drawn)
 {
     if (m_maker.isAtWork() && !isHandedWanted(drawn))
         m_maker.drop();
+}
+
+bool LinePlot::takeBack(const host::Frame& drawn, int milliseconds)
+{
+    dropUnwanted(drawn);
     return m_maker.wait(milliseconds);
 }
 

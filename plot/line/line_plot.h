@@ -74,6 +74,7 @@ private:
     std::optional<std::vector<RunCurve>>
     fittedCurves(const ShownLine& line, const LineGeometry& geometry, const CurveRecipe& recipe);
     bool isHandedWanted(const host::Frame& frame) const;
+    void dropUnwanted(const host::Frame& frame);
     void followPlanes();
     AxisRange radii() const;
     void applyLook(const host::Frame& frame);

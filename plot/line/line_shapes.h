@@ -29,7 +29,8 @@ struct LineGeometry
     std::shared_ptr<const LinePoints> points;
     std::shared_ptr<const Polyline> places; ///< of the points
     CurveRecipe curveRecipe;
-    std::shared_ptr<const std::vector<RunCurve>> curves; ///< null where points are only joined
+    std::shared_ptr<const std::vector<RunCurve>>
+        curves; ///< null without any, and until they are made
     CurveProblem curveProblem = CurveProblem::None;
     int curvePlaceCount = 0;
     std::shared_ptr<const Polyline> curve;

@@ -568,6 +568,12 @@ private Q_SLOTS:
         QVERIFY(!shown.scene().hasWork() && !shown.scene().notice().isEmpty());
         shown.view.resumeWork();
         shown.settle();
+        QVERIFY(shown.find(1) && begin(8));
+        write("LinePlotLayers/ShowLines", "", 0);
+        shown.settle();
+        QCOMPARE(shown.scene().progress().first, shown.scene().progress().second);
+        write("LinePlotLayers/ShowLines", "", 1);
+        shown.settle();
         QVERIFY(shown.find(1) && begin(7));
         document().execute(host::DeleteMaps {mapsOf("1")});
         shown.settle();
