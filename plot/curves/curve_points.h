@@ -2,10 +2,15 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <limits>
 #include <vector>
 
 namespace corvala::plot {
+
+/// Asked from time to time by what takes long: once it answers false the work is given up, and what
+/// comes of it means nothing. Empty for work that goes on to its end.
+using GoesOn = std::function<bool()>;
 
 /// The points that a curve is drawn through, and which of them take part.
 struct CurvePoints

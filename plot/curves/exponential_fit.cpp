@@ -51,7 +51,8 @@ static std::vector<Coefficient> coefficientsOf(const NonlinearFit& found,
 }
 
 /// y = a exp(b abscissa(x)), through usable points whose y have one sign.
-static CurveFit fitGrowth(const CurvePoints& points, double (*abscissa)(double))
+static CurveFit fitGrowth(const CurvePoints& points, double (*abscissa)(double),
+                          const GoesOn& goesOn)
 {
     const CurveProblem problem = abscissaProblem(points, 2);
     if (problem != CurveProblem::None)
@@ -63,7 +64,7 @@ static CurveFit fitGrowth(const CurvePoints& points, double (*abscissa)(double))
     const double sign = *low < 0.0 ? -1.0 : 1.0;
     const double unit = std::max(std::fabs(*low), std::fabs(*high));
     const ScaledPoints search = scaled(placed, scale, 0.0, sign * unit);
-    const NonlinearFit found = fitNonlinear(exponential, search, startOf(search));
+    const NonlinearFit found = fitNonlinear(exponential, search, startOf(search), goesOn);
     if (!found.isConverged)
         return withoutCurve(CurveProblem::NoConvergence, points.size());
 
@@ -88,22 +89,24 @@ static bool haveCommonSign(const std::vector<double>& numbers)
         || std::all_of(numbers.begin(), numbers.end(), [](double number) { return number < 0.0; });
 }
 
-CurveFit fitExponential(const CurvePoints& points)
+CurveFit fitExponential(const CurvePoints& points, const GoesOn& goesOn)
 {
     const CurvePoints used = usable(points);
     if (!haveCommonSign(used.y))
         return withoutCurve(CurveProblem::NoCommonSign, used.size());
-    return fitGrowth(used, [](double x) { return x; });
+    return fitGrowth(
+        used, [](double x) { return x; }, goesOn);
 }
 
-CurveFit fitPower(const CurvePoints& points)
+CurveFit fitPower(const CurvePoints& points, const GoesOn& goesOn)
 {
     const CurvePoints used = usable(points);
     if (!isPositive(used.x))
         return withoutCurve(CurveProblem::NonPositiveX, used.size());
     if (!haveCommonSign(used.y))
         return withoutCurve(CurveProblem::NoCommonSign, used.size());
-    return fitGrowth(used, [](double x) { return std::log(x); });
+    return fitGrowth(
+        used, [](double x) { return std::log(x); }, goesOn);
 }
 
 } // namespace corvala::plot

@@ -12,8 +12,8 @@ namespace corvala::plot {
 // The values of y are all positive, or all negative: so is "a" then.
 
 /// y = a exp(b x).
-CurveFit fitExponential(const CurvePoints& points);
+CurveFit fitExponential(const CurvePoints& points, const GoesOn& goesOn = {});
 /// y = a x^b, through points with x > 0.
-CurveFit fitPower(const CurvePoints& points);
+CurveFit fitPower(const CurvePoints& points, const GoesOn& goesOn = {});
 
 } // namespace corvala::plot

@@ -101,19 +101,20 @@ static std::array<Parameters, 2> startsOf(const ScaledPoints& points)
 }
 
 /// The better of dip and peak, which a part of the points decides.
-static NonlinearFit search(const ScaledPoints& points)
+static NonlinearFit search(const ScaledPoints& points, const GoesOn& goesOn)
 {
     const ScaledPoints part = thinned(points);
     NonlinearFit best;
     for (const Parameters& start : startsOf(part)) {
         if (start.empty())
             continue;
-        NonlinearFit found = fitNonlinear(gaussian, part, start);
+        NonlinearFit found = fitNonlinear(gaussian, part, start, goesOn);
         if (found.distance < best.distance)
             best = std::move(found);
     }
     const bool isAll = part.at.size() == points.at.size();
-    return isAll || !best.isConverged ? best : fitNonlinear(gaussian, points, best.parameters);
+    return isAll || !best.isConverged ? best
+                                      : fitNonlinear(gaussian, points, best.parameters, goesOn);
 }
 
 static std::vector<Coefficient> coefficientsOf(const NonlinearFit& found,
@@ -134,7 +135,7 @@ static std::vector<Coefficient> coefficientsOf(const NonlinearFit& found,
     };
 }
 
-CurveFit fitGaussian(const CurvePoints& points)
+CurveFit fitGaussian(const CurvePoints& points, const GoesOn& goesOn)
 {
     const CurvePoints used = usable(points);
     const CurveProblem problem = abscissaProblem(used, 4);
@@ -147,7 +148,7 @@ CurveFit fitGaussian(const CurvePoints& points)
     const AbscissaScale scale(used.x);
     const double shift = *low / 2.0 + *high / 2.0;
     const double unit = *high / 2.0 - *low / 2.0;
-    const NonlinearFit found = search(scaled(used, scale, shift, unit));
+    const NonlinearFit found = search(scaled(used, scale, shift, unit), goesOn);
     if (!found.isConverged)
         return withoutCurve(CurveProblem::NoConvergence, used.size());
 

@@ -17,6 +17,7 @@ struct Search
 {
     const ParametricCurve& curve;
     const ScaledPoints& points;
+    const GoesOn& goesOn;
     Parameters parameters; ///< of the last call
     Parameters slopes;
 
@@ -49,6 +50,8 @@ double Search::residual(std::size_t point)
 static int residuals(const gsl_vector* parameters, void* data, gsl_vector* result)
 {
     Search& search = *static_cast<Search*>(data);
+    if (search.goesOn && !search.goesOn())
+        return GSL_EFAILED;
     search.take(parameters);
     for (std::size_t i = 0; i < result->size; ++i)
         gsl_vector_set(result, i, std::sqrt(search.points.weights[i]) * search.residual(i));
@@ -122,7 +125,7 @@ ScaledPoints scaled(const CurvePoints& points, const AbscissaScale& scale, doubl
 }
 
 NonlinearFit fitNonlinear(const ParametricCurve& curve, const ScaledPoints& points,
-                          const Parameters& start)
+                          const Parameters& start, const GoesOn& goesOn)
 {
     constexpr std::size_t kMostSteps = 500;
     constexpr double kParameterTolerance = 1e-11;
@@ -130,7 +133,7 @@ NonlinearFit fitNonlinear(const ParametricCurve& curve, const ScaledPoints& poin
     static gsl_error_handler_t* const former = gsl_set_error_handler_off();
     static_cast<void>(former);
 
-    Search search {curve, points, start, start};
+    Search search {curve, points, goesOn, start, start};
     gsl_multifit_nlinear_fdf problem {};
     problem.f = residuals;
     problem.df = jacobian;
@@ -148,7 +151,7 @@ NonlinearFit fitNonlinear(const ParametricCurve& curve, const ScaledPoints& poin
     int reason = 0;
     gsl_multifit_nlinear_driver(kMostSteps, kParameterTolerance, 0.0, 0.0, nullptr, nullptr,
                                 &reason, space.get());
-    return resultOf(*space, points.weightSum);
+    return goesOn && !goesOn() ? NonlinearFit() : resultOf(*space, points.weightSum);
 }
 
 } // namespace corvala::plot

@@ -45,7 +45,8 @@ ScaledPoints scaled(const CurvePoints& points, const AbscissaScale& scale, doubl
                     double unit);
 
 /// Searches from a start by Levenberg's and Marquardt's method; needs as many points as parameters.
+/// Not converged when it is given up.
 NonlinearFit fitNonlinear(const ParametricCurve& curve, const ScaledPoints& points,
-                          const Parameters& start);
+                          const Parameters& start, const GoesOn& goesOn);
 
 } // namespace corvala::plot

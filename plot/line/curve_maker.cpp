@@ -14,15 +14,22 @@ bool areManyToFit(const LinePoints& points)
 
 void CurveMaker::begin(CurveOrder order)
 {
+    drop();
+    m_isWanted = std::make_shared<std::atomic<bool>>(true);
     m_points = order.points;
     m_recipe = order.recipe;
-    m_task = std::make_unique<BackgroundTask<std::vector<RunCurve>>>([order = std::move(order)] {
-        return curvesThrough(*order.points, order.weights, order.recipe);
-    });
+    m_task = std::make_unique<BackgroundTask<std::vector<RunCurve>>>(
+        [order = std::move(order), isWanted = m_isWanted] {
+            return curvesThrough(*order.points, order.weights, order.recipe,
+                                 [&isWanted] { return isWanted->load(); });
+        });
 }
 
 void CurveMaker::drop()
 {
+    if (m_isWanted)
+        *m_isWanted = false;
+    m_isWanted.reset();
     m_task.reset();
     m_points.reset();
 }

@@ -4,6 +4,7 @@
 #include "plot/common/background_task.h"
 #include "plot/line/line_curves.h"
 
+#include <atomic>
 #include <memory>
 
 namespace corvala::plot {
@@ -19,10 +20,15 @@ struct CurveOrder
 /// Whether making curves through these takes so long that another thread is to do it.
 bool areManyToFit(const LinePoints& points);
 
-/// Makes the curves of one order at a time on another thread.
+/// Makes the curves of one order at a time on another thread. An order that is dropped ends soon.
 class CurveMaker
 {
 public:
+    CurveMaker() = default;
+    ~CurveMaker() { drop(); }
+    CurveMaker(const CurveMaker&) = delete;
+    CurveMaker& operator=(const CurveMaker&) = delete;
+
     /// Drops the order before.
     void begin(CurveOrder order);
     void drop();
@@ -38,6 +44,7 @@ public:
 private:
     std::shared_ptr<const LinePoints> m_points;
     CurveRecipe m_recipe;
+    std::shared_ptr<std::atomic<bool>> m_isWanted; ///< what the task asks; null without an order
     std::unique_ptr<BackgroundTask<std::vector<RunCurve>>> m_task; ///< null without an order
 };
 

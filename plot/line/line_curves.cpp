@@ -19,8 +19,8 @@ static constexpr const auto& kCurves = style::lineMap.curves;
 bool CurveRecipe::operator==(const CurveRecipe& other) const
 {
     const auto tied = [](const CurveRecipe& some) {
-        return std::tie(some.type, some.extendedFit, some.order, some.detail,
-                        some.range, some.weight, some.isClamped, some.slopes, some.isSwapped);
+        return std::tie(some.type, some.extendedFit, some.order, some.detail, some.range,
+                        some.weight, some.isClamped, some.slopes, some.isSwapped);
     };
     return tied(*this) == tied(other);
 }
@@ -75,16 +75,16 @@ static EndSlopes slopesOf(const CurveRecipe& recipe)
     return recipe.isClamped ? EndSlopes {recipe.slopes[0], recipe.slopes[1]} : EndSlopes {};
 }
 
-static CurveFit fitted(const CurvePoints& points, const CurveRecipe& recipe)
+static CurveFit fitted(const CurvePoints& points, const CurveRecipe& recipe, const GoesOn& goesOn)
 {
     switch (recipe.type) {
     case CurveType_PolynomialFit: return fitPolynomial(points, recipe.order);
-    case CurveType_ExponentialFit: return fitExponential(points);
-    case CurveType_PowerFit: return fitPower(points);
+    case CurveType_ExponentialFit: return fitExponential(points, goesOn);
+    case CurveType_PowerFit: return fitPower(points, goesOn);
     case CurveType_Spline: return splineThrough(points, slopesOf(recipe));
     default: break;
     }
-    return recipe.extendedFit == ExtendedFit_Gaussian ? fitGaussian(points)
+    return recipe.extendedFit == ExtendedFit_Gaussian ? fitGaussian(points, goesOn)
                                                       : fitSmoothingSpline(points, recipe.detail);
 }
 
@@ -108,7 +108,8 @@ static CurvePoints runOf(const LinePoints& points, std::size_t begin, std::size_
     return run;
 }
 
-static RunCurve curveThrough(const CurvePoints& run, const CurveRecipe& recipe)
+static RunCurve curveThrough(const CurvePoints& run, const CurveRecipe& recipe,
+                             const GoesOn& goesOn)
 {
     RunCurve curve;
     if (recipe.type == CurveType_ParametricSpline) {
@@ -116,7 +117,7 @@ static RunCurve curveThrough(const CurvePoints& run, const CurveRecipe& recipe)
         curve.fit = withoutCurve(curve.path.problem, curve.path.pointCount);
         return curve;
     }
-    curve.fit = fitted(run, recipe);
+    curve.fit = fitted(run, recipe, goesOn);
     const CurvePoints taken = usable(run);
     const auto [least, largest] = std::minmax_element(taken.x.begin(), taken.x.end());
     if (least != taken.x.end())
@@ -125,13 +126,16 @@ static RunCurve curveThrough(const CurvePoints& run, const CurveRecipe& recipe)
 }
 
 std::vector<RunCurve> curvesThrough(const LinePoints& points, const std::vector<double>& weights,
-                                    const CurveRecipe& recipe)
+                                    const CurveRecipe& recipe, const GoesOn& goesOn)
 {
     std::vector<RunCurve> curves;
     std::size_t begin = 0;
     for (const std::size_t end : points.runEnds) {
+        if (goesOn && !goesOn())
+            break;
         try {
-            curves.push_back(curveThrough(runOf(points, begin, end, weights, recipe), recipe));
+            curves.push_back(
+                curveThrough(runOf(points, begin, end, weights, recipe), recipe, goesOn));
         } catch (const std::bad_alloc&) {
             curves.push_back({withoutCurve(CurveProblem::NoMemory, end - begin), {}, {}});
         }
@@ -153,8 +157,9 @@ static CurvePoints sampled(const RunCurve& curve, std::size_t count, bool isLoga
     const auto& value = curve.fit.value;
     if (!isLogarithmic || first <= 0.0)
         return sampleCurve(value, first, last, count);
-    CurvePoints places = sampleCurve([&value](double power) { return value(std::pow(10.0, power)); },
-                                     std::log10(first), std::log10(last), count);
+    CurvePoints places =
+        sampleCurve([&value](double power) { return value(std::pow(10.0, power)); },
+                    std::log10(first), std::log10(last), count);
     for (double& x : places.x)
         x = std::pow(10.0, x);
     return places;

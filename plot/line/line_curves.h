@@ -42,7 +42,7 @@ struct RunCurve
 
 /// The curve through each run of points. `weights` are those of the points, by `weightsOf`.
 std::vector<RunCurve> curvesThrough(const LinePoints& points, const std::vector<double>& weights,
-                                    const CurveRecipe& recipe);
+                                    const CurveRecipe& recipe, const GoesOn& goesOn = {});
 /// None where all points count alike.
 std::vector<double> weightsOf(const host::DataSet& data, const LineRecipe& line,
                               const LinePoints& points, const CurveRecipe& recipe);

@@ -126,6 +126,21 @@ static Fit smoothing(double detail)
     return [detail](const CurvePoints& points) { return fitSmoothingSpline(points, detail); };
 }
 
+static Fit gaussian(const GoesOn& goesOn = {})
+{
+    return [goesOn](const CurvePoints& points) { return fitGaussian(points, goesOn); };
+}
+
+static Fit exponential()
+{
+    return [](const CurvePoints& points) { return fitExponential(points); };
+}
+
+static Fit power()
+{
+    return [](const CurvePoints& points) { return fitPower(points); };
+}
+
 static Fit spline(const EndSlopes& ends = {})
 {
     return [ends](const CurvePoints& points) { return splineThrough(points, ends); };
@@ -181,7 +196,7 @@ void TestCurveFits::certified_values_data()
         0.957478440825662, 236014.502379268);
     row("Wampler 5", polynomial(5), wampler(10000.0), ones, times(10000.0, kWamplerErrors),
         0.224668921574940E-02, 23601450.2379268);
-    row("DanWood", fitPower,
+    row("DanWood", power(),
         {{1.309, 1.471, 1.490, 1.565, 1.611, 1.680}, {2.138, 3.421, 3.597, 4.340, 4.882, 5.660}},
         {7.6886226176E-01, 3.8604055871E+00}, {1.8281973860E-02, 5.1726610913E-02},
         1 - 4.3173084083E-03 / 7.61357733333333, 3.2853114039E-02);
@@ -210,20 +225,20 @@ void TestCurveFits::curves_data()
     // What is fitted, its points, the curve, its coefficients, R squared.
     const Rows<Fit, CurvePoints, Function, Numbers, double> row;
     const Function dip = [](double x) { return 2 - 3 * std::exp(-std::pow(x - 30.2, 2) / 32); };
-    row("Gaussian dip", fitGaussian, pointsOf(dip, 0, 60), dip, {2, -3, 30.2, 4}, 1);
+    row("Gaussian dip", gaussian(), pointsOf(dip, 0, 60), dip, {2, -3, 30.2, 4}, 1);
     const Function needle = [](double x) {
         return 5e-12 + 1e-12 * std::exp(-std::pow(x - 1e9 - 700.5, 2) / 4.5);
     };
-    row("narrow Gaussian far out", fitGaussian, pointsOf(needle, 1e9, 1000), needle,
+    row("narrow Gaussian far out", gaussian(), pointsOf(needle, 1e9, 1000), needle,
         {5e-12, 1e-12, 1e9 + 700.5, 1.5}, 1);
     const Function decay = [](double x) { return 3 * std::exp(-0.25 * x); };
-    row("exponential", fitExponential, pointsOf(decay, -5, 12), decay, {3, -0.25}, 1);
+    row("exponential", exponential(), pointsOf(decay, -5, 12), decay, {3, -0.25}, 1);
     const Function debt = [](double x) { return -3 * std::exp(-0.25 * x); };
-    row("negative exponential", fitExponential, pointsOf(debt, -5, 12), debt, {-3, -0.25}, 1);
+    row("negative exponential", exponential(), pointsOf(debt, -5, 12), debt, {-3, -0.25}, 1);
     const Function decades = [](double x) { return std::exp(20 * x); };
-    row("over 170 decades", fitExponential, pointsOf(decades, -10, 21), decades, {1, 20}, 1);
+    row("over 170 decades", exponential(), pointsOf(decades, -10, 21), decades, {1, 20}, 1);
     const Function law = [](double x) { return 0.5 * std::pow(x, -1.5); };
-    row("power", fitPower, pointsOf(law, 1, 9), law, {0.5, -1.5}, 1);
+    row("power", power(), pointsOf(law, 1, 9), law, {0.5, -1.5}, 1);
     const Function farLine = [](double x) { return 2e-12 + 1e-21 * (x - 1e9); };
     row("line far out", polynomial(1), pointsOf(farLine, 1e9, 100), farLine, {1e-12, 1e-21}, 1);
     const Function constant = [](double) { return 0.5; };
@@ -332,8 +347,8 @@ void TestCurveFits::problems_data()
     const CurvePoints two {{0, 1e-300, kNaN}, {1, 2, 3}};
     const std::vector<std::tuple<QString, Fit, CurveProblem>> fits {
         {"polynomial", polynomial(2), CurveProblem::TooFewPoints},
-        {"exponential", fitExponential, CurveProblem::None},
-        {"Gaussian", fitGaussian, CurveProblem::TooFewPoints},
+        {"exponential", exponential(), CurveProblem::None},
+        {"Gaussian", gaussian(), CurveProblem::TooFewPoints},
         {"spline", spline(), CurveProblem::None},
         {"smoothing", smoothing(0.5), CurveProblem::None},
     };
@@ -345,9 +360,11 @@ void TestCurveFits::problems_data()
     }
     row("places that merge", polynomial(3), {{0, 1e-60, 1, 2}, {0, 1, 2, 3}},
         CurveProblem::SameAbscissas);
-    row("y of 0", fitExponential, {{1, 2}, {0, 1}}, CurveProblem::NoCommonSign);
-    row("x of 0", fitPower, {{0, 2}, {1, 1}}, CurveProblem::NonPositiveX);
-    row("no peak", fitGaussian, pointsOf([](double) { return 3; }, 0, 9), CurveProblem::NoPeak);
+    row("y of 0", exponential(), {{1, 2}, {0, 1}}, CurveProblem::NoCommonSign);
+    row("x of 0", power(), {{0, 2}, {1, 1}}, CurveProblem::NonPositiveX);
+    row("no peak", gaussian(), pointsOf([](double) { return 3; }, 0, 9), CurveProblem::NoPeak);
+    row("given up", gaussian([] { return false; }),
+        pointsOf([](double x) { return std::exp(-x * x); }, -4, 9), CurveProblem::NoConvergence);
     row("overflow", spline(), {{0, 1, 2}, {-1.7e308, 1.7e308, 0}}, CurveProblem::OutOfRange);
 }
 
