@@ -45,6 +45,11 @@ TextImportDialog::TextImportDialog(const host::io::ReadRequest& request, const T
     addFields(*form);
     auto* right = new QVBoxLayout;
     right->addWidget(m_note);
+    auto* hint = new QLabel(tr("&Preview (click a title, or press Return in a column, to say what "
+                               "the column holds):"),
+                            this);
+    hint->setBuddy(m_table);
+    right->addWidget(hint);
     right->addWidget(m_table, 1);
     auto* both = new QHBoxLayout;
     both->addLayout(form);
@@ -56,6 +61,7 @@ TextImportDialog::TextImportDialog(const host::io::ReadRequest& request, const T
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(both, 1);
     layout->addWidget(buttons);
+    connect(m_table, &TextPreviewTable::kindChosen, this, &TextImportDialog::takeKind);
     connect(&m_reader, &host::io::DataReader::finished, this, &TextImportDialog::takeResult);
     resize(1000, 600);
     showPreview(preview);
@@ -64,6 +70,8 @@ TextImportDialog::TextImportDialog(const host::io::ReadRequest& request, const T
 void TextImportDialog::addFields(QFormLayout& form)
 {
     for (const TextProperty& property : host::io::textProperties()) {
+        if (property.form == TextProperty::Form::Columns) // in the titles of the preview
+            continue;
         QWidget* const field = makeField(property);
         field->setObjectName(QLatin1String(property.key));
         form.addRow(shown(property.label), field);
@@ -74,7 +82,7 @@ void TextImportDialog::addFields(QFormLayout& form)
 QWidget* TextImportDialog::makeField(const TextProperty& property)
 {
     const QString word = QString::fromStdString(property.word(property, m_request.text));
-    if (!property.choices.empty()) {
+    if (property.form == TextProperty::Form::Choice) {
         auto* choice = new QComboBox(this);
         choice->addItem(tr("detect"));
         for (const TextProperty::Choice& each : property.choices)
@@ -85,7 +93,7 @@ QWidget* TextImportDialog::makeField(const TextProperty& property)
         });
         return choice;
     }
-    if (property.isText) {
+    if (property.form == TextProperty::Form::Text) {
         auto* text = new QLineEdit(word, this);
         text->setPlaceholderText(tr("words, such as -999"));
         connect(text, &QLineEdit::editingFinished, this,
@@ -108,6 +116,18 @@ void TextImportDialog::take(const TextProperty& property, const std::string& wor
     if (property.word(property, m_request.text) == word)
         return;
     property.set(property, word, m_request.text);
+    refresh();
+}
+
+void TextImportDialog::takeKind(const QVector<int>& columns,
+                                std::optional<host::io::TextColumnKind> kind)
+{
+    for (const int column : columns) {
+        if (kind)
+            m_request.text.columns[column] = *kind;
+        else
+            m_request.text.columns.erase(column);
+    }
     refresh();
 }
 
@@ -167,7 +187,7 @@ void TextImportDialog::showPreview(const TextPreview& preview)
     if (const int bad = badRowCount(preview))
         notes << tr("Of these rows, %n cannot be read.", nullptr, bad);
     m_note->setText(notes.join(QLatin1Char(' ')));
-    m_table->showPreview(preview);
+    m_table->showPreview(preview, m_request.text.columns);
     m_open->setEnabled(isTable);
 }
 

@@ -39,6 +39,8 @@ private:
     void addFields(QFormLayout& form);
     QWidget* makeField(const host::io::TextProperty& property);
     void take(const host::io::TextProperty& property, const std::string& word);
+    /// What columns hold; none leaves it to the reader.
+    void takeKind(const QVector<int>& columns, std::optional<host::io::TextColumnKind> kind);
     void refresh();
     void takeResult(const host::io::ReadResult& result);
     void showPreview(const host::io::TextPreview& preview);

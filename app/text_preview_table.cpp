@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/text_preview_table.h"
 
+#include <QApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -17,40 +21,125 @@ TextPreviewTable::TextPreviewTable(QWidget* parent)
     : QTableWidget(parent)
 {
     setEditTriggers(NoEditTriggers);
-    setSelectionMode(NoSelection);
+    setSelectionBehavior(SelectColumns);
+    setTabKeyNavigation(false);
     setWordWrap(false);
     setAccessibleName(tr("Preview"));
     verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
-}
-
-static QString kindText(TextColumnKind kind)
-{
-    switch (kind) {
-    case TextColumnKind::Numbers: return TextPreviewTable::tr("numbers");
-    case TextColumnKind::Instants: return TextPreviewTable::tr("dates");
-    case TextColumnKind::TimesOfDay: return TextPreviewTable::tr("times");
-    case TextColumnKind::Words: break;
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this] {
+        const bool extendsSelection =
+            QApplication::keyboardModifiers() & (Qt::ShiftModifier | Qt::ControlModifier);
+        if (!extendsSelection)
+            askForKind();
+    });
+    for (QWidget* const part :
+         {static_cast<QWidget*>(this), static_cast<QWidget*>(horizontalHeader())}) {
+        part->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(part, &QWidget::customContextMenuRequested, this, &TextPreviewTable::askForKind);
     }
-    return TextPreviewTable::tr("words");
 }
 
-void TextPreviewTable::showPreview(const TextPreview& preview)
+void TextPreviewTable::showPreview(const TextPreview& preview,
+                                   const std::map<int, TextColumnKind>& chosen)
 {
+    const int current = std::max(0, currentColumn());
+    const int scrolled = horizontalScrollBar()->value();
+    const QVector<int> selected = selectedColumns();
+    m_chosen = chosen;
     clearSpans();
     clear();
     const int known = static_cast<int>(preview.columns.size());
     setColumnCount(std::clamp(known, 1, kMostColumns));
     setRowCount(static_cast<int>(preview.rows.size()));
-    QStringList titles;
-    for (std::size_t i = 0; i < preview.columns.size() && i < kMostColumns; ++i)
-        titles << QString::fromStdString(preview.columns[i]) + QLatin1Char('\n')
-                + kindText(preview.kinds[i]);
-    setHorizontalHeaderLabels(titles);
-    for (int row = 0; row < rowCount(); ++row)
+    for (int column = 0; column < std::min(known, kMostColumns); ++column)
+        showTitle(column, preview.columns[static_cast<std::size_t>(column)],
+                  preview.kinds[static_cast<std::size_t>(column)]);
+    m_firstDataRow = -1;
+    for (int row = rowCount(); row-- > 0;) {
         showRow(row, preview.rows[static_cast<std::size_t>(row)]);
+        m_firstDataRow = columnSpan(row, 0) == 1 ? row : m_firstDataRow;
+    }
     resizeColumnsToContents();
     for (int column = 0; column < columnCount(); ++column)
         setColumnWidth(column, std::min(columnWidth(column), kWidestColumn));
+    setCurrentCell(std::max(0, m_firstDataRow), std::min(current, columnCount() - 1));
+    for (const int column : selected)
+        selectionModel()->select(model()->index(0, column - 1),
+                                 QItemSelectionModel::Select | QItemSelectionModel::Columns);
+    horizontalScrollBar()->setValue(scrolled);
+}
+
+void TextPreviewTable::showTitle(int column, const std::string& name, TextColumnKind kind)
+{
+    auto* title = new QTableWidgetItem(
+        QStringLiteral("%1\n%2 \u25BE").arg(QString::fromStdString(name), labelOf(kind)));
+    QFont font = title->font();
+    font.setBold(m_chosen.count(column + 1) > 0);
+    title->setFont(font);
+    setHorizontalHeaderItem(column, title);
+}
+
+/// From 1.
+QVector<int> TextPreviewTable::selectedColumns() const
+{
+    QVector<int> columns;
+    for (const QModelIndex& index : selectionModel()->selectedColumns())
+        columns << index.column() + 1;
+    if (columns.isEmpty() && currentColumn() >= 0)
+        columns << currentColumn() + 1;
+    return columns;
+}
+
+/// A menu below the title of the current column, for the selected ones.
+void TextPreviewTable::askForKind()
+{
+    const QVector<int> columns = selectedColumns();
+    if (columns.isEmpty() || !horizontalHeaderItem(columns.front() - 1))
+        return;
+    const auto chosen = m_chosen.find(columns.front());
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const auto add = [&](const QString& text, std::optional<TextColumnKind> kind) {
+        QAction* const action = menu->addAction(text);
+        action->setCheckable(true);
+        const bool isChosen = chosen != m_chosen.end();
+        action->setChecked(kind ? isChosen && chosen->second == *kind : !isChosen);
+        connect(action, &QAction::triggered, this,
+                [this, columns, kind] { Q_EMIT kindChosen(columns, kind); });
+        if (action->isChecked())
+            menu->setActiveAction(action);
+    };
+    add(tr("detect"), std::nullopt);
+    for (const TextColumnKind kind :
+         {TextColumnKind::Numbers, TextColumnKind::Instants, TextColumnKind::TimesOfDay,
+          TextColumnKind::Words, TextColumnKind::Skipped})
+        add(labelOf(kind), kind);
+    const int column = currentColumn();
+    scrollTo(model()->index(std::max(0, m_firstDataRow), column));
+    menu->popup(horizontalHeader()->mapToGlobal(
+        {horizontalHeader()->sectionViewportPosition(column), horizontalHeader()->height()}));
+}
+
+void TextPreviewTable::keyPressEvent(QKeyEvent* event)
+{
+    const bool opensMenu = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
+        || event->key() == Qt::Key_Space
+        || (event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier);
+    if (opensMenu)
+        askForKind();
+    else
+        QTableWidget::keyPressEvent(event);
+}
+
+/// Lines that are shown whole have no columns: from there on, left and right go through the data.
+QModelIndex TextPreviewTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const bool isWhole = currentRow() >= 0 && columnSpan(currentRow(), 0) > 1;
+    if (isWhole && m_firstDataRow >= 0 && (action == MoveLeft || action == MoveRight)) {
+        const int column = currentColumn() + (action == MoveLeft ? -1 : 1);
+        return model()->index(m_firstDataRow, std::clamp(column, 0, columnCount() - 1));
+    }
+    return QTableWidget::moveCursor(action, modifiers);
 }
 
 void TextPreviewTable::showRow(int row, const TextPreview::Row& shown)

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <algorithm>
 #include <charconv>
 
 namespace corvala::host::io {
@@ -60,17 +61,71 @@ static bool setMissing(const TextProperty&, const std::string& word, TextDialect
     return true;
 }
 
+static constexpr int kMostColumns = 100'000;
+
+/// Such as "3:words" or "4-9:skip".
+static bool setColumnRange(const TextProperty& property, const QString& text,
+                           std::map<int, TextColumnKind>& columns)
+{
+    const QString range = text.section(QLatin1Char(':'), 0, 0);
+    const std::string word = text.section(QLatin1Char(':'), 1).toStdString();
+    const int first = range.section(QLatin1Char('-'), 0, 0).toInt();
+    const int last = range.section(QLatin1Char('-'), -1).toInt();
+    if (first < 1 || last < first || last > kMostColumns)
+        return false;
+    const auto& kinds = property.choices;
+    const auto kind = std::find_if(kinds.begin(), kinds.end(),
+                                   [&](const auto& choice) { return word == choice.word; });
+    if (kind == kinds.end())
+        return false;
+    for (int column = first; column <= last; ++column)
+        columns[column] = static_cast<TextColumnKind>(kind - kinds.begin());
+    return true;
+}
+
+static bool setColumns(const TextProperty& property, const std::string& words, TextDialect& dialect)
+{
+    dialect.columns.clear();
+    const QStringList parts =
+        QString::fromStdString(words).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return std::all_of(parts.begin(), parts.end(), [&](const QString& part) {
+        return setColumnRange(property, part, dialect.columns);
+    });
+}
+
+static std::string columnWords(const TextProperty& property, const TextDialect& dialect)
+{
+    std::string words;
+    const auto& columns = dialect.columns;
+    for (auto first = columns.begin(); first != columns.end();) {
+        auto end = first;
+        int last = first->first - 1;
+        while (end != columns.end() && end->first == last + 1 && end->second == first->second)
+            last = (end++)->first;
+        words += (words.empty() ? "" : " ") + std::to_string(first->first)
+            + (last > first->first ? '-' + std::to_string(last) : std::string()) + ':'
+            + property.choices.at(static_cast<std::size_t>(first->second)).word;
+        first = end;
+    }
+    return words;
+}
+
 template<auto member>
 static TextProperty choice(const char* key, const char* label,
                            std::vector<TextProperty::Choice> choices)
 {
-    return {key, label, std::move(choices), false, choiceWord<member>, setChoice<member>};
+    return {key,
+            label,
+            TextProperty::Form::Choice,
+            std::move(choices),
+            choiceWord<member>,
+            setChoice<member>};
 }
 
 template<auto member>
 static TextProperty number(const char* key, const char* label)
 {
-    return {key, label, {}, false, numberWord<member>, setNumber<member>};
+    return {key, label, TextProperty::Form::Number, {}, numberWord<member>, setNumber<member>};
 }
 
 #define TEXT(text) QT_TRANSLATE_NOOP("TextDialect", text)
@@ -110,7 +165,7 @@ const std::vector<TextProperty>& textProperties()
                                 {{"day", TEXT("day first")},
                                  {"month", TEXT("month first")},
                                  {"year", TEXT("year first")}}),
-        {"missing", TEXT("Also missing"), {}, true, missingWords, setMissing},
+        {"missing", TEXT("Also missing"), TextProperty::Form::Text, {}, missingWords, setMissing},
         choice<&Dialect::zones>("zones", TEXT("Zones"),
                                 {{"one", TEXT("one zone")},
                                  {"blank", TEXT("zones by blank lines")},
@@ -123,6 +178,16 @@ const std::vector<TextProperty>& textProperties()
                                     {"utf-16le", TEXT("UTF-16, little-endian")},
                                     {"utf-16be", TEXT("UTF-16, big-endian")},
                                     {"latin-1", TEXT("Latin-1")}}),
+        {"columns",
+         TEXT("Columns"),
+         TextProperty::Form::Columns,
+         {{"numbers", TEXT("numbers")},
+          {"dates", TEXT("dates")},
+          {"times", TEXT("times")},
+          {"words", TEXT("words")},
+          {"skip", TEXT("left out")}},
+         columnWords,
+         setColumns},
     };
     return properties;
 }
@@ -152,7 +217,12 @@ static QString knownWords(const TextProperty& property)
         words << QLatin1String(choice.word);
     if (words.isEmpty())
         words << TextDialectTexts::tr("a number from 0");
-    return words.join(QStringLiteral(", "));
+    const QString known = words.join(QStringLiteral(", "));
+    return property.form != TextProperty::Form::Columns
+        ? known
+        : TextDialectTexts::tr("columns such as 2:words or 4-9:skip (from 1 to %1; %2)")
+              .arg(kMostColumns)
+              .arg(known);
 }
 
 QString parseTextDialect(const QString& text, TextDialect& dialect)
@@ -173,6 +243,12 @@ QString parseTextDialect(const QString& text, TextDialect& dialect)
     }
     dialect = parsed;
     return {};
+}
+
+QString labelOf(TextColumnKind kind)
+{
+    const TextProperty& property = *propertyOf(QStringLiteral("columns"));
+    return TextDialectTexts::tr(property.choices.at(static_cast<std::size_t>(kind)).label);
 }
 
 QString toText(const TextDialect& dialect)

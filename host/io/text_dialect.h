@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,6 +21,8 @@ enum class TextUnits { No, Yes };
 /// What begins another zone, besides a repeated header.
 enum class TextZones { One, BlankLines, Words };
 enum class TextBadRows { Refuse, Skip };
+/// What a column holds. An instant is a date, with or without a time of day.
+enum class TextColumnKind { Numbers, Instants, TimesOfDay, Words, Skipped };
 
 /// How a table of text is written; the reader detects what is left empty.
 struct TextDialect
@@ -36,6 +39,7 @@ struct TextDialect
     std::optional<std::string> missing; ///< words for missing values besides the usual ones
     std::optional<TextZones> zones;
     std::optional<TextBadRows> badRows;
+    std::map<int, TextColumnKind> columns; ///< by their numbers in the file, from 1
 };
 
 /// One property of a dialect. Its key and words stand on the command line and in files.
@@ -47,10 +51,17 @@ struct TextProperty
         const char* label; ///< untranslated, context "TextDialect"
     };
 
+    enum class Form {
+        Choice,
+        Number,
+        Text,
+        Columns ///< a choice for each of some columns, such as "2:words 5-9:skip"
+    };
+
     const char* key;
     const char* label; ///< untranslated, context "TextDialect"
+    Form form;
     std::vector<Choice> choices; ///< empty for a number or a text
-    bool isText;
     /// The value as a word; empty where it is left to the reader.
     std::string (*word)(const TextProperty& property, const TextDialect& dialect);
     /// False for a word that is no value; an empty one leaves the value to the reader.
@@ -58,6 +69,9 @@ struct TextProperty
 };
 
 const std::vector<TextProperty>& textProperties();
+
+/// What a column holds, for the user.
+QString labelOf(TextColumnKind kind);
 
 /// Sets what a text such as "separator=tab,decimal=comma" says; a value of "auto" leaves it to the
 /// reader. Empty on success, else what is wrong; the dialect is then unchanged.

@@ -10,9 +10,6 @@
 
 namespace corvala::host::io {
 
-/// What a column of a table of text holds.
-enum class TextColumnKind { Numbers, Instants, TimesOfDay, Words };
-
 /// The beginning of a table of text, as it would be read.
 struct TextPreview
 {

@@ -95,6 +95,8 @@ private Q_SLOTS:
             "a: x=1,nan,3 y=nan,nan,nan z=nan,2,nan");
         row("numbers without end", "x,y\n1,inf\n2,-Infinity\n3,1e999\n", "",
             "a: x=1,2,3 y=inf,-inf,inf");
+        row("columns that are chosen", "at,day,n,x\n1,20120102,007,5\n2,20120103,008,6\n",
+            "columns=1:skip 2:dates 3:words", "a: day=1325462400,1325548800 n=1,2 x=5,6");
         // Encodings and line ends.
         const QString text = QStringLiteral("x;\u00e4\n1;2\n3;4\n");
         const QString told = QStringLiteral("a: x=1,3 \u00e4=2,4");
@@ -121,6 +123,8 @@ private Q_SLOTS:
         row("rows of unequal length, left out", "x,y\n1,2\n3\n4,5,6\n3,4\n", "bad=skip", xy);
         row("text among numbers", "x,y\n1,2\n3,4\n5,six\n7,8\n", "",
             "1 of its 4 rows are bad. line 4, column 2 (y): \"six\" is no number");
+        row("words where numbers are chosen", "x,y\n1,a\n2,b\n", "columns=2-9:numbers",
+            "2 of its 2 rows are bad. line 2, column 2 (y): \"a\" is no number");
         row("a quote without end", "x,y\n1,2\n3,\"4\n5,6\n", "",
             "1 of its 3 rows are bad. line 3, column 2: a quote is not closed");
         row("one column", "x\n5\n7\n", "", "a: Row=1,2 x=5,7");

@@ -260,8 +260,20 @@ bool takeOffset(Scanner& text, double& seconds)
 
 } // namespace
 
-CellValue toInstant(std::string_view text, TextDates order, TextDecimal decimal)
+/// A date without signs, such as 20120304, with them.
+static std::string spacedOut(std::string_view text)
 {
+    constexpr std::size_t kDigits = 8;
+    const auto digits = std::find_if_not(text.begin(), text.end(), isDigit) - text.begin();
+    std::string date(text);
+    if (digits == kDigits)
+        date.insert(4, "-").insert(7, "-");
+    return date;
+}
+
+CellValue toInstant(std::string_view field, TextDates order, TextDecimal decimal)
+{
+    const std::string text = spacedOut(field);
     double time = 0.0;
     Scanner asTime(text);
     if (takeTime(asTime, decimal, time) && asTime.isAtEnd())

@@ -11,7 +11,8 @@
 namespace corvala::host::io::reader {
 
 /// What the fields of a column say. An instant is a date, with or without a time of day.
-enum class CellKind { Missing, Number, Instant, TimeOfDay, Words };
+/// Skipped ones are not looked at.
+enum class CellKind { Missing, Number, Instant, TimeOfDay, Words, Skipped };
 
 /// A field and its value: a number; seconds since 1970-01-01 00:00 UTC; seconds since midnight;
 /// none.
@@ -24,9 +25,9 @@ struct CellValue
 /// A number of C or Fortran, also one that is infinite. False for anything else.
 bool toNumber(std::string_view text, TextDecimal decimal, double& value);
 
-/// A date such as 2012-03-04, 04.03.2012, 3/4/12 or 4-Mar-2012, a time of day such as 12:30 or
-/// 12:30:05.25, or both, with an offset from UTC or without. Kind Words for anything else.
-CellValue toInstant(std::string_view text, TextDates order, TextDecimal decimal);
+/// A date such as 2012-03-04, 04.03.2012, 3/4/12, 4-Mar-2012 or 20120304, a time of day such as
+/// 12:30 or 12:30:05.25, or both, with an offset from UTC or without. Kind Words for anything else.
+CellValue toInstant(std::string_view field, TextDates order, TextDecimal decimal);
 
 /// Tells what fields are, by the dialect of their table.
 class CellReader

@@ -54,6 +54,10 @@ private:
     void takeRow(Row& row, std::int64_t line);
     void takeWords(const Row& row);
     void requireMemory(double rows) const;
+    bool isSkipped(std::size_t column) const
+    {
+        return m_layout.columns[column].kind == CellKind::Skipped;
+    }
 
     const QString& m_path;
     const TableLayout& m_layout;
@@ -74,16 +78,20 @@ TableCollector::TableCollector(const QString& path, const TableLayout& layout, d
     , m_words(layout.columns.size())
     , m_values(layout.columns.size())
 {
+    const auto kept = static_cast<std::size_t>(
+        std::count_if(layout.columns.begin(), layout.columns.end(),
+                      [](const TableColumn& column) { return column.kind != CellKind::Skipped; }));
     // The values go into a file as well, which the program loads.
-    const auto bytesOfRow = static_cast<std::int64_t>(layout.columns.size() * sizeof(double));
+    const auto bytesOfRow = static_cast<std::int64_t>(kept * sizeof(double));
     m_mostRows = static_cast<std::size_t>(
         std::min<std::int64_t>(memoryLimit() / 2 / bytesOfRow, std::numeric_limits<int>::max()));
     constexpr double kUnequalLines = 0.8; // of the file, against those of the sample
     requireMemory(kUnequalLines * expectedRows);
     m_table.columns.resize(layout.columns.size());
-    for (ColumnValues& column : m_table.columns)
-        column.numbers.reserve(
-            std::min(m_mostRows, static_cast<std::size_t>(1.05 * expectedRows) + 100));
+    for (std::size_t c = 0; c < layout.columns.size(); ++c)
+        if (!isSkipped(c))
+            m_table.columns[c].numbers.reserve(
+                std::min(m_mostRows, static_cast<std::size_t>(1.05 * expectedRows) + 100));
 }
 
 void TableCollector::requireMemory(double rows) const
@@ -122,7 +130,8 @@ void TableCollector::takeRow(Row& row, std::int64_t line)
     m_beginsZone = false;
     takeWords(row);
     for (std::size_t c = 0; c < m_values.size(); ++c)
-        m_table.columns[c].numbers.push_back(m_values[c]);
+        if (!isSkipped(c))
+            m_table.columns[c].numbers.push_back(m_values[c]);
     ++m_table.rowCount;
 }
 

@@ -23,7 +23,7 @@ struct ColumnValues
     bool isDropped = false; ///< it had more words than are counted
 };
 
-/// Everything in a table.
+/// Everything in a table but the columns that are skipped.
 struct TableData
 {
     std::vector<ColumnValues> columns;

@@ -50,6 +50,8 @@ public:
 private:
     ReadFailure noTable() const;
     void requireGoodRows() const;
+    void takeOut(std::size_t column);
+    void takeOutSkipped();
     void joinDatesAndTimes();
     void addRowNumbers();
     void noteWords();
@@ -64,9 +66,14 @@ private:
     std::vector<ReadMessage> m_notes;
 };
 
+static bool isSkipped(const TableColumn& column)
+{
+    return column.kind == CellKind::Skipped;
+}
+
 TableFile::TableFile(const QString& path, const TextDialect& wanted)
     : m_path(path)
-    , m_isChosen(wanted.separator.has_value())
+    , m_isChosen(wanted.separator.has_value() || !wanted.columns.empty())
 {
     const TextSample sample = sampleOf(path, wanted.encoding);
     m_layout = layoutOf(sample, wanted);
@@ -77,6 +84,8 @@ TableFile::TableFile(const QString& path, const TextDialect& wanted)
         throw ReadFailure(
             path, QT_TRANSLATE_NOOP("ReadMessage", "it has %1 columns, which are more than %2"),
             {QString::number(m_layout.columns.size()), QString::number(kMostTableColumns)});
+    if (std::all_of(m_layout.columns.begin(), m_layout.columns.end(), isSkipped))
+        throw ReadFailure(path, QT_TRANSLATE_NOOP("ReadMessage", "all its columns are left out"));
     if (!m_layout.isSure && toText(wanted).isEmpty())
         note(QT_TRANSLATE_NOOP("ReadMessage",
                                "%1 can be meant in several ways; it was read as: %2."),
@@ -136,6 +145,20 @@ void TableFile::requireGoodRows() const
     throw failure;
 }
 
+void TableFile::takeOutSkipped()
+{
+    for (std::size_t c = m_layout.columns.size(); c-- > 0;)
+        if (isSkipped(m_layout.columns[c]))
+            takeOut(c);
+}
+
+void TableFile::takeOut(std::size_t column)
+{
+    const auto place = static_cast<std::ptrdiff_t>(column);
+    m_layout.columns.erase(m_layout.columns.begin() + place);
+    m_table.columns.erase(m_table.columns.begin() + place);
+}
+
 /// A column of days beside one of times of day becomes one of instants.
 void TableFile::joinDatesAndTimes()
 {
@@ -152,9 +175,7 @@ void TableFile::joinDatesAndTimes()
             continue;
         std::transform(days.begin(), days.end(), times.begin(), days.begin(), std::plus<>());
         columns[c].name += ' ' + columns[c + 1].name;
-        const auto place = static_cast<std::ptrdiff_t>(c) + 1;
-        columns.erase(columns.begin() + place);
-        m_table.columns.erase(m_table.columns.begin() + place);
+        takeOut(c + 1);
     }
 }
 
@@ -237,6 +258,7 @@ vtkSmartPointer<vtkDataObject> TableFile::read(std::size_t, const ProgressCall& 
              {QStringLiteral("%1 (%2)")
                   .arg(m_table.badRowCount)
                   .arg(m_table.badRows.front().toString())});
+    takeOutSkipped();
     TextDialect& dialect = m_layout.dialect;
     if (m_table.zones.size() < 2 && dialect.zones.value_or(TextZones::Words) == TextZones::Words)
         dialect.zones = divideByWords(m_table, m_layout) ? TextZones::Words : TextZones::One;

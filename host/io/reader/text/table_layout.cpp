@@ -133,6 +133,16 @@ static bool hasGroups(const std::vector<std::string>& lines, std::size_t firstLi
         && std::all_of(groups.begin(), groups.end(), [](int rows) { return rows > 1; });
 }
 
+/// What was found to be in a column, or what is said of it.
+static CellKind chosenKind(const TextDialect& dialect, std::size_t column, CellKind found)
+{
+    constexpr CellKind kKinds[] = {CellKind::Number, CellKind::Instant, CellKind::TimeOfDay,
+                                   CellKind::Words, CellKind::Skipped};
+    const auto chosen = dialect.columns.find(static_cast<int>(column) + 1);
+    return chosen != dialect.columns.end() ? kKinds[static_cast<std::size_t>(chosen->second)]
+                                           : found;
+}
+
 /// The lines above the data as if they were blank, so that they do not count.
 static TextSample withoutLinesAbove(TextSample sample, int dataLine)
 {
@@ -198,15 +208,16 @@ TableLayout layoutOf(const TextSample& sample, const TextDialect& wanted)
     dialect.units = header.hasUnits ? TextUnits::Yes : TextUnits::No;
     if (!wanted.zones && hasGroups(head, first, dialect))
         dialect.zones = TextZones::BlankLines;
-    if (std::find(kinds.begin(), kinds.end(), CellKind::Instant) == kinds.end())
-        dialect.dates = wanted.dates;
     layout.header = header.lines;
     layout.isNamed = !header.names.empty();
     sortLinesAbove(head, first, header.rows, layout);
     const std::size_t columns = columnCount(fields.columns, rows, header);
     const std::vector<std::string> names = columnNames(header.names, columns);
     for (std::size_t c = 0; c < columns; ++c)
-        layout.columns.push_back({names[c], kinds[c]});
+        layout.columns.push_back({names[c], chosenKind(dialect, c, kinds[c])});
+    if (std::none_of(layout.columns.begin(), layout.columns.end(),
+                     [](const TableColumn& column) { return column.kind == CellKind::Instant; }))
+        dialect.dates = wanted.dates;
     return layout;
 }
 

@@ -50,7 +50,7 @@ RowFault RowParser::parse(Row& row, std::vector<double>& values) const
         return {
             RowFault::Fields, std::min(row.fields.size(), columns.size()), row.fields.size(), {}};
     for (std::size_t c = 0; c < columns.size(); ++c)
-        if (columns[c].kind != CellKind::Words
+        if (columns[c].kind != CellKind::Words && columns[c].kind != CellKind::Skipped
             && !m_cells.read(row.fields[c], columns[c].kind, values[c]))
             return {RowFault::Cell, c, 0, std::string(row.fields[c])};
     return {};

@@ -28,7 +28,8 @@ class RowParser
 public:
     explicit RowParser(const TableLayout& layout);
 
-    /// A number per column; that of words is left alone. Takes empty fields off the end of the row.
+    /// A number per column; those of words and of what is skipped are left alone. Takes empty
+    /// fields off the end of the row.
     RowFault parse(Row& row, std::vector<double>& values) const;
 
 private:
