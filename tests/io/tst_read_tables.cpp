@@ -165,6 +165,7 @@ private Q_SLOTS:
         const Rows<QByteArray, QString> row; // content, what is previewed
         row("clear", "Report\n\n# x,y\n1.5,2\n3,4\n,b\n",
             "sure: x y: Above, Header, Data, Data, Bad");
+        row("one row of words", "one,two,three\n", "unsure: Column 1 Column 2 Column 3: Data");
         row("ambiguous numbers", "1,2\n3,4\n", "unsure: Column 1 Column 2: Data, Data");
         row("ambiguous dates", "t,v\n1/2/2003,1.5\n3/4/2003,2.5\n",
             "unsure: t v: Header, Data, Data");

@@ -237,7 +237,7 @@ DetectedFields detectFields(const TextSample& sample, const TextDialect& wanted)
         result.dialect.separator = TextSeparator::None;
     const auto [dates, areClear] = datesOf(trial, result.dialect);
     result.dialect.dates = wanted.dates.value_or(dates);
-    result.isSure = best->score >= kSure && (areClear || wanted.dates)
+    result.isSure = best->score >= kSure && best->numberShare > 0 && (areClear || wanted.dates)
         && std::none_of(readings.begin(), readings.end(), isRival);
     return result;
 }

@@ -101,7 +101,10 @@ TextSample sampleOf(const QString& path, std::optional<TextEncoding> encoding)
     std::string* const first = sample.parts.front().empty() ? nullptr : &sample.parts.front()[0];
     if (first && first->size() == 5 && first->compare(0, 4, "sep=") == 0)
         first->clear();
+    const bool isWide =
+        sample.encoding == TextEncoding::Utf16Little || sample.encoding == TextEncoding::Utf16Big;
     sample.bytesOfLine = static_cast<double>(std::max<std::int64_t>(1, headBytes))
+        * (isWide ? 2 : 1)
         / static_cast<double>(std::max<std::size_t>(1, sample.parts.front().size()));
     return sample;
 }

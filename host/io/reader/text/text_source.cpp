@@ -61,6 +61,16 @@ std::optional<TextEncoding> encodingOf(const QByteArray& bytes)
                                                              : TextEncoding::Latin1;
 }
 
+/// What Windows writes where Latin-1 has control characters that nobody uses, from 0x80 on.
+static unsigned latinCode(unsigned byte)
+{
+    static constexpr unsigned kWindows[] = {
+        0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+        0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+        0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+    return byte >= 0x80 && byte < 0x80 + std::size(kWindows) ? kWindows[byte - 0x80] : byte;
+}
+
 static void append(unsigned code, std::string& text)
 {
     if (code == kByteOrderMark)
@@ -98,7 +108,7 @@ void TextDecoder::decode(const char* bytes, std::size_t count, std::string& text
     for (std::size_t i = 0; i < count; ++i) {
         const unsigned byte = static_cast<unsigned char>(bytes[i]);
         if (m_encoding == TextEncoding::Latin1) {
-            append(byte, text);
+            append(latinCode(byte), text);
         } else if (m_firstByte < 0) {
             m_firstByte = static_cast<int>(byte);
         } else {
