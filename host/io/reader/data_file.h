@@ -42,6 +42,8 @@ public:
     virtual bool isSure() const { return true; }
     /// False where points have no place, as in a table.
     virtual bool hasCoordinates() const { return true; }
+    /// Whether an array says where points are, as columns of a table do; once it is read.
+    virtual bool isPlace(const std::string& /*array*/) const { return false; }
     /// What an array stands for, once it is read.
     virtual VariableKind kindOf(const std::string& /*array*/) const { return VariableKind::Number; }
 };

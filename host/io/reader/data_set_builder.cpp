@@ -82,6 +82,13 @@ DataSetIndex DataSetBuilder::build(const std::vector<std::unique_ptr<DataFile>>&
                 variable.kind = file->kindOf(variable.array);
     m_index.data.vectorVariables = proposedVector(m_index.data.variables);
     m_index.data.contourVariables = m_variables.proposeContours(m_hasCoordinates);
+    std::stable_partition(m_index.data.contourVariables.begin(),
+                          m_index.data.contourVariables.end(), [&](int number) {
+                              return std::none_of(
+                                  files.begin(), files.end(), [&](const auto& file) {
+                                      return file->isPlace(m_index.data.variable(number).array);
+                                  });
+                          });
     return std::move(m_index);
 }
 

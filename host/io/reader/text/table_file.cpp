@@ -4,6 +4,7 @@
 #include "host/io/reader/read_failure.h"
 #include "host/io/reader/text/table_data.h"
 #include "host/io/reader/text/table_layout.h"
+#include "host/io/reader/text/table_places.h"
 
 #include <QFileInfo>
 
@@ -14,6 +15,7 @@
 #include <vtkMultiBlockDataSet.h>
 #include <vtkNew.h>
 #include <vtkPointData.h>
+#include <vtkStructuredGrid.h>
 
 #include <algorithm>
 #include <cmath>
@@ -28,7 +30,8 @@ static constexpr std::size_t kMostListed = 12; ///< words of a column in a note
 static constexpr int kMostColumns = 5; ///< in a note
 static constexpr int kLongestWord = 20; ///< letters of it in a note
 
-/// A table whose zones are ordered along I and have no coordinates but the index.
+/// A table whose zones are ordered along I. They have no coordinates, but places for field plots
+/// where columns are named like coordinates.
 class TableFile : public DataFile
 {
 public:
@@ -42,6 +45,7 @@ public:
     std::optional<TextDialect> textDialect() const override { return m_layout.dialect; }
     bool isSure() const override { return m_layout.isSure; }
     bool hasCoordinates() const override { return false; }
+    bool isPlace(const std::string& array) const override;
     VariableKind kindOf(const std::string& array) const override;
 
     const TableLayout& layout() const { return m_layout; }
@@ -56,13 +60,15 @@ private:
     void addRowNumbers();
     void noteWords();
     void note(const char* text, const QStringList& parts);
-    vtkSmartPointer<vtkImageData> zone(std::size_t number);
+    void findPlaces();
+    vtkSmartPointer<vtkDataSet> zone(std::size_t number);
 
     QString m_path;
     bool m_isChosen; ///< by the user: how it is written
     TableLayout m_layout;
     double m_expectedRows;
     TableData m_table; ///< whose memory the zones use
+    PlaceColumns m_places;
     std::vector<ReadMessage> m_notes;
 };
 
@@ -93,6 +99,14 @@ TableFile::TableFile(const QString& path, const TextDialect& wanted)
     if (m_layout.linesLeftOut > 0)
         note(QT_TRANSLATE_NOOP("ReadMessage", "%1: lines above the table were left out: %2."),
              {QString::number(m_layout.linesLeftOut)});
+}
+
+bool TableFile::isPlace(const std::string& array) const
+{
+    return std::any_of(m_places.begin(), m_places.end(),
+                       [&](const std::optional<std::size_t>& column) {
+                           return column && m_layout.columns[*column].name == array;
+                       });
 }
 
 VariableKind TableFile::kindOf(const std::string& array) const
@@ -228,21 +242,47 @@ void TableFile::note(const char* text, const QStringList& parts)
                                                              parts.join(QStringLiteral(", "))});
 }
 
-vtkSmartPointer<vtkImageData> TableFile::zone(std::size_t number)
+void TableFile::findPlaces()
+{
+    m_places = placeColumns(m_table, m_layout.columns);
+    QStringList names;
+    for (const std::optional<std::size_t>& column : m_places)
+        if (column)
+            names << QString::fromStdString(m_layout.columns[*column].name);
+    note(QT_TRANSLATE_NOOP("ReadMessage", "%1: field plots show a point per row, at %2."), names);
+}
+
+static vtkSmartPointer<vtkDataSet> withPlaces(vtkSmartPointer<vtkPoints> places)
+{
+    auto grid = vtkSmartPointer<vtkStructuredGrid>::New();
+    grid->SetDimensions(static_cast<int>(places->GetNumberOfPoints()), 1, 1);
+    grid->SetPoints(places);
+    return grid;
+}
+
+static vtkSmartPointer<vtkDataSet> withoutPlaces(std::size_t rows)
+{
+    auto grid = vtkSmartPointer<vtkImageData>::New();
+    grid->SetDimensions(static_cast<int>(rows), 1, 1);
+    return grid;
+}
+
+vtkSmartPointer<vtkDataSet> TableFile::zone(std::size_t number)
 {
     const std::vector<TableZone>& zones = m_table.zones;
     const std::size_t first = zones[number].firstRow;
     const std::size_t end =
         number + 1 < zones.size() ? zones[number + 1].firstRow : m_table.rowCount;
-    auto result = vtkSmartPointer<vtkImageData>::New();
-    result->SetDimensions(static_cast<int>(end - first), 1, 1);
+    const std::size_t rows = end - first;
+    const auto result =
+        m_places[0] ? withPlaces(placesOf(m_table, m_places, first, rows)) : withoutPlaces(rows);
     for (std::size_t c = 0; c < m_layout.columns.size(); ++c) {
         if (m_table.columns[c].isDropped)
             continue;
         vtkNew<vtkDoubleArray> array;
         constexpr int kKeepMemory = 1;
-        array->SetArray(m_table.columns[c].numbers.data() + first,
-                        static_cast<vtkIdType>(end - first), kKeepMemory);
+        array->SetArray(m_table.columns[c].numbers.data() + first, static_cast<vtkIdType>(rows),
+                        kKeepMemory);
         array->SetName(m_layout.columns[c].name.c_str());
         result->GetPointData()->AddArray(array);
     }
@@ -265,6 +305,7 @@ vtkSmartPointer<vtkDataObject> TableFile::read(std::size_t, const ProgressCall& 
     noteWords();
     joinDatesAndTimes();
     addRowNumbers();
+    findPlaces();
     if (m_table.zones.size() == 1)
         return zone(0);
     auto result = vtkSmartPointer<vtkMultiBlockDataSet>::New();
