@@ -14,9 +14,12 @@ using host::io::ReadResult;
 static void attach(const ReadResult& result, const ReadRequest& request)
 {
     host::Document& document = host::Document::instance();
-    const PlotType_e plotType = result.data->suggestedPlotType();
-    const std::vector<FirstLine> lines =
-        plotType == PlotType_LineXY ? firstLines(*result.data) : std::vector<FirstLine>();
+    PlotType_e plotType = result.data->suggestedPlotType();
+    std::vector<FirstLine> lines;
+    if (plotType == PlotType_LineXY) {
+        lines = firstLines(*result.data);
+        plotType = firstPlotType(*result.data, lines);
+    }
     const host::DataOrigin origin {
         result.data->files, {}, 0, host::io::toText(request.text).toStdString()};
     document.execute(host::AttachData {origin, result.data, plotType,

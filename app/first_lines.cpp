@@ -4,6 +4,7 @@
 #include <vtkDataArray.h>
 #include <vtkDataSet.h>
 #include <vtkPointData.h>
+#include <vtkPointSet.h>
 
 #include <algorithm>
 #include <cmath>
@@ -66,21 +67,6 @@ static bool goesOneWay(vtkDataArray& values)
     return way != 0;
 }
 
-static const Column& abscissaOf(const std::vector<Column>& columns)
-{
-    constexpr std::size_t kTried = 20;
-    const auto end =
-        columns.begin() + static_cast<std::ptrdiff_t>(std::min(columns.size(), kTried));
-    const auto instants = std::find_if(columns.begin(), end, [](const Column& column) {
-        return column.kind == host::VariableKind::Instant;
-    });
-    if (instants != end)
-        return *instants;
-    const auto found = std::find_if(
-        columns.begin(), end, [](const Column& column) { return goesOneWay(*column.values); });
-    return found != end ? *found : columns.front();
-}
-
 static Range rangeOf(vtkDataArray& values)
 {
     std::optional<Range> range;
@@ -96,6 +82,90 @@ static Range rangeOf(vtkDataArray& values)
     return range.value_or(Range());
 }
 
+namespace {
+
+/// How the values of a column follow each other.
+class Course
+{
+public:
+    explicit Course(vtkDataArray& values);
+
+    /// One way, but for jumps back.
+    bool goesInCycles() const
+    {
+        const int back = std::min(m_ups, m_downs);
+        return m_repeats == 0 && back > 0 && back == m_jumps && 2 * back <= m_steps;
+    }
+    /// Stays the same for some rows, and then goes on.
+    bool goesInSteps() const
+    {
+        return m_steps > 0 && std::min(m_ups, m_downs) == 0 && 2 * m_repeats > m_steps;
+    }
+    /// A line through the values would go to and fro, or up and down in the same place.
+    bool isScattered() const
+    {
+        constexpr int kLeastSteps = 9;
+        const bool isOften = 10 * m_turns > m_steps || 4 * m_repeats > m_steps;
+        return m_steps >= kLeastSteps && (goesInCycles() || isOften);
+    }
+
+private:
+    void take(double step, double range);
+
+    int m_steps = 0;
+    int m_ups = 0;
+    int m_downs = 0;
+    int m_repeats = 0;
+    int m_turns = 0;
+    int m_jumps = 0; ///< over more than half of the range
+    int m_way = 0; ///< of the last step
+};
+
+} // namespace
+
+Course::Course(vtkDataArray& values)
+{
+    constexpr vtkIdType kLookedAt = 100'000;
+    const double range = rangeOf(values).size();
+    std::optional<double> before;
+    for (vtkIdType i = 0; i < std::min(values.GetNumberOfTuples(), kLookedAt); ++i) {
+        const double value = values.GetComponent(i, 0);
+        if (!std::isfinite(value))
+            continue;
+        if (before)
+            take(value - *before, range);
+        before = value;
+    }
+}
+
+void Course::take(double step, double range)
+{
+    const int way = (step > 0) - (step < 0);
+    ++m_steps;
+    m_ups += way > 0 ? 1 : 0;
+    m_downs += way < 0 ? 1 : 0;
+    m_repeats += way == 0 ? 1 : 0;
+    m_turns += way != 0 && m_way != 0 && way != m_way ? 1 : 0;
+    m_jumps += 2 * std::abs(step) > range ? 1 : 0;
+    m_way = way != 0 ? way : m_way;
+}
+
+/// The first of some columns that goes one way, or else in cycles, or else the first.
+static const Column& abscissaOf(const std::vector<Column>& columns)
+{
+    constexpr std::size_t kTried = 20;
+    const auto end =
+        columns.begin() + static_cast<std::ptrdiff_t>(std::min(columns.size(), kTried));
+    const auto first = [&](auto isIt) { return std::find_if(columns.begin(), end, isIt); };
+    const auto tries = {
+        first([](const Column& column) { return column.kind == host::VariableKind::Instant; }),
+        first([](const Column& column) { return goesOneWay(*column.values); }),
+        first([](const Column& column) { return Course(*column.values).goesInCycles(); })};
+    const auto found = std::find_if(tries.begin(), tries.end(),
+                                    [end](const auto& column) { return column != end; });
+    return found != tries.end() ? **found : columns.front();
+}
+
 /// Whether both can be told from a straight line along the same axis.
 static bool fit(const Range& one, const Range& other)
 {
@@ -107,14 +177,16 @@ static std::vector<FirstLine> linesOf(const std::vector<Column>& columns, int zo
 {
     std::vector<FirstLine> lines;
     const Column& x = abscissaOf(columns);
+    const bool isScattered = !goesOneWay(*x.values) && Course(*x.values).isScattered();
     std::optional<Range> first;
     for (const Column& y : columns) {
         const bool isOther = y.variable != x.variable && y.kind == host::VariableKind::Number;
-        if (!isOther || static_cast<int>(lines.size()) == most)
+        const bool numbersCycles = isScattered && Course(*y.values).goesInSteps();
+        if (!isOther || numbersCycles || static_cast<int>(lines.size()) == most)
             continue;
         const Range range = rangeOf(*y.values);
         first = first.value_or(range);
-        lines.push_back({zone, x.variable, y.variable, fit(*first, range) ? 1 : 2});
+        lines.push_back({zone, x.variable, y.variable, fit(*first, range) ? 1 : 2, isScattered});
     }
     return lines;
 }
@@ -133,6 +205,29 @@ std::vector<FirstLine> firstLines(const host::DataSet& data)
         lines.insert(lines.end(), some.begin(), some.end());
     }
     return lines;
+}
+
+bool havePlaces(const host::DataSet& data)
+{
+    const bool hasCoordinates =
+        std::any_of(data.variables.begin(), data.variables.end(),
+                    [](const host::Variable& variable) { return variable.isCoordinate(); });
+    return !hasCoordinates && vtkPointSet::SafeDownCast(data.geometry(1));
+}
+
+PlotType_e firstPlotType(const host::DataSet& data, const std::vector<FirstLine>& lines)
+{
+    const auto values = std::count_if(
+        data.variables.begin(), data.variables.end(), [](const host::Variable& variable) {
+            return !variable.isConstant && variable.kind == host::VariableKind::Number;
+        });
+    const bool areScattered = !lines.empty()
+        && std::all_of(lines.begin(), lines.end(),
+                       [](const FirstLine& line) { return line.isScattered; });
+    const bool isField = areScattered && values > (data.isPlanar ? 2 : 3) && havePlaces(data);
+    if (!isField)
+        return PlotType_LineXY;
+    return data.isPlanar ? PlotType_Field2D : PlotType_Field3D;
 }
 
 } // namespace corvala::app

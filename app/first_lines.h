@@ -14,11 +14,18 @@ struct FirstLine
     int x; ///< variables
     int y;
     int yAxis; ///< from 1
+    bool isScattered; ///< the rows do not follow the abscissa: points, not a line
 };
 
-/// The lines of an XY plot: the first column of a zone that goes one way only, or else the first
-/// one, against the next ones, on a second axis those that are much larger or smaller.
-/// docs/decisions.md has the numbers.
+/// The lines of an XY plot: the first column of a zone that goes one way only, or else does so in
+/// cycles, or else the first one, against the next ones, on a second axis those that are much
+/// larger or smaller. docs/decisions.md has the numbers.
 std::vector<FirstLine> firstLines(const host::DataSet& data);
+
+/// Whether the data are tables whose rows are points of a field plot.
+bool havePlaces(const host::DataSet& data);
+
+/// For tables an XY plot, or a field plot where the rows have places and follow no abscissa.
+PlotType_e firstPlotType(const host::DataSet& data, const std::vector<FirstLine>& lines);
 
 } // namespace corvala::app

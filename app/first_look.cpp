@@ -3,7 +3,9 @@
 
 #include "host/document/layer_facts.h"
 #include "host/style/schema.h"
+#include "vocabulary/colors.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace corvala::app {
@@ -16,6 +18,7 @@ constexpr double kMostMeshCells = 3000; ///< more are too small to be told apart
 constexpr std::uint64_t kMostEdgedMaps = 1000; ///< more drown in their edges
 constexpr double kThinLine = 0.1; ///< percent of the frame height
 constexpr double kBlack = 0;
+constexpr double kSmallSymbol = 1.0; ///< percent of the frame height
 
 /// What decides on the look.
 struct Facts
@@ -97,6 +100,8 @@ private:
 std::vector<SetStyle> firstLook(const std::vector<FirstLine>& lines)
 {
     constexpr std::size_t kColors = 6; // that maps have in turn
+    const bool areScattered = std::any_of(lines.begin(), lines.end(),
+                                          [](const FirstLine& line) { return line.isScattered; });
     const bool haveZones = !lines.empty() && lines.front().zone != lines.back().zone;
     Look look;
     for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -109,15 +114,39 @@ std::vector<SetStyle> firstLook(const std::vector<FirstLine>& lines)
         look.give(assign.yAxis, lines[i].yAxis, map);
         if (i >= kColors)
             look.give(style::lineMap.lines.linePattern, LinePattern_Dashed, map);
+        if (lines[i].isScattered) {
+            look.give(style::lineMap.lines.show, 0, map);
+            look.give(style::lineMap.symbols.size, kSmallSymbol, map);
+        } else if (areScattered) {
+            look.give(style::lineMap.symbols.show, 0, map);
+        }
     }
+    look.turn(style::linePlotLayers.showSymbols, areScattered);
     if (haveZones)
         look.add(SetStyle {host::pathOf(style::lineMap.name), std::string("&ZN&: &DV&"),
                            host::allUpTo(static_cast<CvlInt64>(lines.size()))});
     return look.take();
 }
 
+/// Of the rows of tables: points in the colours of the first variable that is no place, also where
+/// they are an XY plot at first.
+static std::vector<SetStyle> lookOfRows(const host::Frame& frame)
+{
+    const host::NumberSet maps = host::allUpTo(frame.fieldMapCount());
+    Look look;
+    for (const style::SwitchKey layer :
+         {style::fieldLayers.showMesh, style::fieldLayers.showEdge, style::fieldLayers.showContour})
+        look.turn(layer, false);
+    look.turn(style::fieldLayers.showScatter, true);
+    look.give(style::fieldMap.scatter.color, style::kFirstGroupColor, maps);
+    look.give(style::fieldMap.scatter.frameSize, kSmallSymbol, maps);
+    return look.take();
+}
+
 std::vector<SetStyle> firstLook(const host::Frame& frame)
 {
+    if (frame.hasData() && frame.fieldMapCount() > 0 && havePlaces(*frame.data()))
+        return lookOfRows(frame);
     if (!frame.isFieldPlot() || !frame.hasData() || frame.fieldMapCount() == 0)
         return {};
     const Facts facts = factsOf(frame);

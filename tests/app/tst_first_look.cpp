@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/data_opening.h"
+#include "app/first_lines.h"
 #include "host/document/document.h"
 #include "host/style/schema.h"
 #include "plot/render.h"
@@ -20,7 +21,8 @@ static QString lookOf(const host::Frame& frame)
         {style::fieldLayers.showShade, "shade"},
         {style::fieldLayers.useLightingEffect, "light"},
         {style::fieldLayers.showMesh, "mesh"},
-        {style::fieldLayers.showEdge, "edges"}};
+        {style::fieldLayers.showEdge, "edges"},
+        {style::fieldLayers.showScatter, "scatter"}};
     QStringList texts {frame.plotType() == PlotType_Field2D ? "2D" : "3D"};
     for (const auto& [key, name] : layers)
         if (frame.isOn(key))
@@ -92,6 +94,12 @@ private Q_SLOTS:
         row("surfaces over time", {sample("two_spheres/dualSphereAnimation4.pvd")},
             "3D contour shade light mesh edges", "Normals X, Normals X, Normals X", "colors lines");
 
+        QByteArray rows = "x [m],y [m],T\n";
+        for (int i = 0; i < 90; ++i)
+            rows += QByteArray::number(i % 9) + ',' + QByteArray::number(i / 9) + ','
+                + QByteArray::number(i % 7) + '\n';
+        row("rows with places", {m_folder.write("places.csv", rows)}, "2D scatter", "T, T",
+            "colors");
         const QByteArray box = "DATASET STRUCTURED_POINTS\nDIMENSIONS 30 30 30\nORIGIN 0 0 0\n"
                                "SPACING 1 1 1\n";
         const QByteArray slice = "DATASET STRUCTURED_POINTS\nDIMENSIONS 30 30 1\nORIGIN 0 0 15\n"
@@ -136,6 +144,39 @@ private Q_SLOTS:
                 "<VTKFile type='vtkMultiBlockDataSet' version='1.0'><vtkMultiBlockDataSet>" + blocks
                     + "</vtkMultiBlockDataSet></VTKFile>")},
             "2D shade mesh", "", "colors");
+    }
+
+    void linesOfTables_data()
+    {
+        const Rows<QByteArray, QString> row; // rows, abscissa and ordinates
+        row("one way", "a b\n3 2\n2 2.5\n1 2.5\n", "line over a: b");
+        row("cycles in steps",
+            "a b c\n0 1 5.5\n0 2 6\n0 3 7\n1 1 7\n1 2 6\n1 3 5\n2 1 5\n2 2 6\n2 3 4\n"
+            "3 1 6\n3 2 6\n3 3 7\n",
+            "points over b: c");
+        row("to and fro", "a b\n3 1.5\n0 2\n2 3\n1 1\n2 1\n1 2\n4 3\n2 2\n6 3\n3 2\n4 1\n",
+            "points over a: b");
+        row("a curve", "a b\n5 0.5\n3 1\n1 2\n0 3\n0 4\n1 5\n2 6\n3 5\n4 3\n5 1\n6 3\n7 3\n",
+            "line over a: b");
+    }
+
+    void linesOfTables()
+    {
+        const auto [content, told] = currentRow<QByteArray, QString>();
+        host::io::ReadRequest request;
+        request.files << m_folder.write("a.txt", content);
+        const host::io::ReadResult result = host::io::DataReader::read(request);
+        QVERIFY2(result.data, qPrintable(result.error));
+        const auto nameOf = [&](int variable) {
+            return QString::fromStdString(result.data->variable(variable).name);
+        };
+        QStringList ordinates;
+        const std::vector<app::FirstLine> lines = app::firstLines(*result.data);
+        for (const app::FirstLine& line : lines)
+            ordinates << nameOf(line.y);
+        QCOMPARE(QString(lines.front().isScattered ? "points over " : "line over ")
+                     + nameOf(lines.front().x) + ": " + ordinates.join(' '),
+                 told);
     }
 
     void dependsOnTheData()
