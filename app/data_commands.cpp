@@ -136,7 +136,11 @@ void DataCommands::askToSkip(const host::io::ReadResult& result)
 void DataCommands::tellDetected(const QString& detected, QStringList notes,
                                 const std::function<void()>& change)
 {
-    notes.prepend(tr("Detected: %1.").arg(detected));
+    const QStringList& files = m_opener.request().files;
+    notes.prepend(
+        files.size() == 1
+            ? tr("Detected: %1.").arg(detected)
+            : tr("Detected in %1: %2.").arg(QFileInfo(files.value(0)).fileName(), detected));
     m_notice.tell(notes.join(QLatin1Char(' ')), tr("Change..."), change);
 }
 

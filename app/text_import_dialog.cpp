@@ -26,6 +26,8 @@ using host::io::TextProperty;
 static constexpr int kLastLine = 1'000'000'000;
 static constexpr int kDetected = -1; ///< of a number that is left to the reader
 
+static constexpr char kWords[] = "words"; ///< that a button proposes
+
 static QString shown(const char* text)
 {
     return QCoreApplication::translate("TextDialect", text);
@@ -76,7 +78,24 @@ void TextImportDialog::addFields(QFormLayout& form)
         field->setObjectName(QLatin1String(property.key));
         form.addRow(shown(property.label), field);
         m_fields.push_back({&property, field});
+        if (auto* const text = qobject_cast<QLineEdit*>(field))
+            addProposal(form, *text);
     }
+}
+
+/// A button below the field for missing values, shown while there is something to propose.
+void TextImportDialog::addProposal(QFormLayout& form, QLineEdit& missing)
+{
+    m_missing = new QPushButton(this);
+    m_missing->setAutoDefault(false);
+    m_missing->hide();
+    form.addRow(QString(), m_missing);
+    connect(m_missing, &QPushButton::clicked, this, [this, &missing] {
+        missing.setText(
+            (missing.text() + QLatin1Char(' ') + m_missing->property(kWords).toString()).trimmed());
+        missing.setFocus();
+        Q_EMIT missing.editingFinished();
+    });
 }
 
 QWidget* TextImportDialog::makeField(const TextProperty& property)
@@ -180,6 +199,9 @@ void TextImportDialog::showPreview(const TextPreview& preview)
     }
     const bool isTable = !preview.columns.empty();
     QStringList notes;
+    if (m_request.files.size() > 1)
+        notes << tr("This is one of %n files; the choices hold for all of them.", nullptr,
+                    m_request.files.size());
     if (!isTable)
         notes << tr("No table is seen in this way.");
     else if (!preview.isSure)
@@ -187,6 +209,12 @@ void TextImportDialog::showPreview(const TextPreview& preview)
     if (const int bad = badRowCount(preview))
         notes << tr("Of these rows, %n cannot be read.", nullptr, bad);
     m_note->setText(notes.join(QLatin1Char(' ')));
+    QStringList sentinels;
+    for (const std::string& word : preview.sentinels)
+        sentinels << QString::fromStdString(word);
+    m_missing->setProperty(kWords, sentinels.join(QLatin1Char(' ')));
+    m_missing->setText(tr("&Take %1 as Missing").arg(sentinels.join(QStringLiteral(", "))));
+    m_missing->setVisible(!sentinels.isEmpty());
     m_table->showPreview(preview, m_request.text.columns);
     m_open->setEnabled(isTable);
 }

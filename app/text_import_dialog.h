@@ -9,6 +9,7 @@
 
 class QFormLayout;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 
 namespace corvala::app {
@@ -43,6 +44,7 @@ private:
     void takeKind(const QVector<int>& columns, std::optional<host::io::TextColumnKind> kind);
     void refresh();
     void takeResult(const host::io::ReadResult& result);
+    void addProposal(QFormLayout& form, QLineEdit& missing);
     void showPreview(const host::io::TextPreview& preview);
 
     host::io::ReadRequest m_request;
@@ -51,6 +53,7 @@ private:
     std::vector<Field> m_fields;
     QLabel* m_note; // not owned, nor are those below
     TextPreviewTable* m_table;
+    QPushButton* m_missing = nullptr; ///< takes the numbers that look like missing values as such
     QPushButton* m_open;
 };
 

@@ -17,12 +17,19 @@ using host::io::TextPreview;
 static constexpr int kMostColumns = 100;
 static constexpr int kWidestColumn = 200; ///< pixels
 
+/// A line without columns.
+static bool isWhole(const TextPreview::Row& row)
+{
+    return row.role == TextPreview::Role::Above || row.role == TextPreview::Role::Header;
+}
+
 TextPreviewTable::TextPreviewTable(QWidget* parent)
     : QTableWidget(parent)
 {
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectColumns);
     setTabKeyNavigation(false);
+    horizontalHeader()->setHighlightSections(false); // bold titles are those that are chosen
     setWordWrap(false);
     setAccessibleName(tr("Preview"));
     verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -56,12 +63,19 @@ void TextPreviewTable::showPreview(const TextPreview& preview,
                   preview.kinds[static_cast<std::size_t>(column)]);
     m_firstDataRow = -1;
     for (int row = rowCount(); row-- > 0;) {
-        showRow(row, preview.rows[static_cast<std::size_t>(row)]);
-        m_firstDataRow = columnSpan(row, 0) == 1 ? row : m_firstDataRow;
+        const TextPreview::Row& shown = preview.rows[static_cast<std::size_t>(row)];
+        if (isWhole(shown))
+            continue;
+        showRow(row, shown);
+        m_firstDataRow = row;
     }
     resizeColumnsToContents();
     for (int column = 0; column < columnCount(); ++column)
         setColumnWidth(column, std::min(columnWidth(column), kWidestColumn));
+    for (int row = 0; row < rowCount(); ++row) // which do not count for the widths
+        if (const TextPreview::Row& shown = preview.rows[static_cast<std::size_t>(row)];
+            isWhole(shown))
+            showRow(row, shown);
     setCurrentCell(std::max(0, m_firstDataRow), std::min(current, columnCount() - 1));
     for (const int column : selected)
         selectionModel()->select(model()->index(0, column - 1),
@@ -134,8 +148,8 @@ void TextPreviewTable::keyPressEvent(QKeyEvent* event)
 /// Lines that are shown whole have no columns: from there on, left and right go through the data.
 QModelIndex TextPreviewTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
-    const bool isWhole = currentRow() >= 0 && columnSpan(currentRow(), 0) > 1;
-    if (isWhole && m_firstDataRow >= 0 && (action == MoveLeft || action == MoveRight)) {
+    const bool isInWhole = currentRow() >= 0 && columnSpan(currentRow(), 0) > 1;
+    if (isInWhole && m_firstDataRow >= 0 && (action == MoveLeft || action == MoveRight)) {
         const int column = currentColumn() + (action == MoveLeft ? -1 : 1);
         return model()->index(m_firstDataRow, std::clamp(column, 0, columnCount() - 1));
     }
@@ -144,8 +158,6 @@ QModelIndex TextPreviewTable::moveCursor(CursorAction action, Qt::KeyboardModifi
 
 void TextPreviewTable::showRow(int row, const TextPreview::Row& shown)
 {
-    const bool isWhole =
-        shown.role == TextPreview::Role::Above || shown.role == TextPreview::Role::Header;
     const bool isBad = shown.role == TextPreview::Role::Bad;
     auto* number = new QTableWidgetItem(QString::number(shown.line));
     if (isBad)
@@ -156,7 +168,7 @@ void TextPreviewTable::showRow(int row, const TextPreview::Row& shown)
         auto* item = new QTableWidgetItem(
             QString::fromStdString(shown.fields[static_cast<std::size_t>(column)]));
         QFont font = item->font();
-        font.setItalic(isWhole);
+        font.setItalic(isWhole(shown));
         font.setBold(shown.role == TextPreview::Role::Header || isBad);
         item->setFont(font);
         if (isBad)
@@ -165,7 +177,7 @@ void TextPreviewTable::showRow(int row, const TextPreview::Row& shown)
             item->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
         setItem(row, column, item);
     }
-    if (isWhole && columnCount() > 1)
+    if (isWhole(shown) && columnCount() > 1)
         setSpan(row, 0, 1, columnCount());
 }
 

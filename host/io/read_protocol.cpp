@@ -266,6 +266,7 @@ std::string toJson(const TextPreview& preview)
                  {"sure", preview.isSure},
                  {"columns", preview.columns},
                  {"kinds", preview.kinds},
+                 {"sentinels", preview.sentinels},
                  {"rows", listJson(preview.rows, rowJson)}});
 }
 
@@ -278,6 +279,7 @@ std::optional<TextPreview> previewFromJson(const std::string& text)
         value.at("sure").get_to(preview.isSure);
         value.at("columns").get_to(preview.columns);
         value.at("kinds").get_to(preview.kinds);
+        value.at("sentinels").get_to(preview.sentinels);
         listFrom(value.at("rows"), preview.rows, rowFrom);
         return preview;
     });

@@ -31,6 +31,7 @@ struct TextPreview
     bool isSure = false; ///< it can hardly be meant in another way
     std::vector<std::string> columns; ///< their names; empty where no table is seen
     std::vector<TextColumnKind> kinds; ///< of the columns
+    std::vector<std::string> sentinels; ///< numbers that look like missing values, such as "-999"
     std::vector<Row> rows; ///< of the first lines; without blank ones and comments in the data
 };
 

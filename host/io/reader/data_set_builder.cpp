@@ -110,9 +110,22 @@ void DataSetBuilder::readFile(DataFile& file, const std::string& fileName)
     m_index.notes.insert(m_index.notes.end(), notes.begin(), notes.end());
     if (!m_index.plot3d)
         m_index.plot3d = file.plot3dLayout();
-    if (!m_index.text)
-        m_index.text = file.textDialect();
+    noteDialect(file);
     m_hasCoordinates = m_hasCoordinates || file.hasCoordinates();
+}
+
+/// The first dialect is told with the data; of others, a few are noted.
+void DataSetBuilder::noteDialect(const DataFile& file)
+{
+    constexpr int kMostNoted = 3;
+    const std::optional<TextDialect> dialect = file.textDialect();
+    if (!m_index.text)
+        m_index.text = dialect;
+    else if (dialect && describe(*dialect) != describe(*m_index.text)
+             && ++m_otherDialects <= kMostNoted)
+        m_index.notes.emplace_back(
+            QT_TRANSLATE_NOOP("ReadMessage", "%1 was read in another way: %2."),
+            std::initializer_list<QString> {QFileInfo(file.path()).fileName(), describe(*dialect)});
 }
 
 /// Indices of the times, ascending; of equal times only the first, as VTK tells times by value.

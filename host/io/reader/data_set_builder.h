@@ -51,6 +51,7 @@ private:
     void addLeaf(Block& block, vtkDataSet* data, double time);
     void nameZones(std::size_t firstBlock, const std::string& fileName);
     std::vector<std::size_t> timesInOrder(const DataFile& file, const std::vector<double>& times);
+    void noteDialect(const DataFile& file);
     void noteWarnings(const DataFile& file);
     void noteOmissions();
     void numberZones();
@@ -65,6 +66,7 @@ private:
     vtkBoundingBox m_bounds;
     Enclosure m_enclosure;
     bool m_hasCoordinates = false; ///< in some file
+    int m_otherDialects = 0; ///< files whose dialect is another one than that of the first
     QSet<QString> m_droppedArrays;
     std::set<QString> m_warnings; ///< with the names of the files
     std::size_t m_fileNumber = 0;

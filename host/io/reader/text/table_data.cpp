@@ -6,6 +6,9 @@
 #include "host/io/reader/resource_limits.h"
 #include "host/io/reader/text/table_rows.h"
 
+#include <QDir>
+#include <QStorageInfo>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -53,7 +56,10 @@ public:
 private:
     void takeRow(Row& row, std::int64_t line);
     void takeWords(const Row& row);
+    /// The numbers may take half of the memory, since they go into a file as well, which the
+    /// program loads.
     void requireMemory(double rows) const;
+    void requireDiskSpace(double rows) const;
     bool isSkipped(std::size_t column) const
     {
         return m_layout.columns[column].kind == CellKind::Skipped;
@@ -65,7 +71,8 @@ private:
     TableData m_table;
     std::vector<WordCounter> m_words;
     std::vector<double> m_values; ///< of the row
-    std::size_t m_mostRows;
+    std::int64_t m_bytesOfRow;
+    std::int64_t m_mostBytes;
     bool m_beginsZone = true;
 };
 
@@ -81,27 +88,53 @@ TableCollector::TableCollector(const QString& path, const TableLayout& layout, d
     const auto kept = static_cast<std::size_t>(
         std::count_if(layout.columns.begin(), layout.columns.end(),
                       [](const TableColumn& column) { return column.kind != CellKind::Skipped; }));
-    // The values go into a file as well, which the program loads.
-    const auto bytesOfRow = static_cast<std::int64_t>(kept * sizeof(double));
-    m_mostRows = static_cast<std::size_t>(
-        std::min<std::int64_t>(memoryLimit() / 2 / bytesOfRow, std::numeric_limits<int>::max()));
+    m_bytesOfRow = static_cast<std::int64_t>(kept * sizeof(double));
+    m_mostBytes = memoryLimit() / 2;
     constexpr double kUnequalLines = 0.8; // of the file, against those of the sample
     requireMemory(kUnequalLines * expectedRows);
+    requireDiskSpace(kUnequalLines * expectedRows);
     m_table.columns.resize(layout.columns.size());
     for (std::size_t c = 0; c < layout.columns.size(); ++c)
         if (!isSkipped(c))
-            m_table.columns[c].numbers.reserve(
-                std::min(m_mostRows, static_cast<std::size_t>(1.05 * expectedRows) + 100));
+            m_table.columns[c].numbers.reserve(static_cast<std::size_t>(1.05 * expectedRows) + 100);
 }
 
 void TableCollector::requireMemory(double rows) const
 {
-    if (rows <= static_cast<double>(m_mostRows))
-        return;
-    throw ReadFailure(
-        m_path,
-        QT_TRANSLATE_NOOP("ReadMessage", "more than %1 rows of %2 columns do not fit the memory"),
-        {QString::number(m_mostRows), QString::number(m_layout.columns.size())});
+    const auto gibibytes = [](double bytes) { return QString::number(bytes / (1 << 30), 'g', 3); };
+    const double bytesOfRow = static_cast<double>(m_bytesOfRow);
+    const double bytes = rows * bytesOfRow;
+    const double mostBytes = static_cast<double>(m_mostBytes);
+    if (bytes > mostBytes)
+        throw ReadFailure(
+            m_path,
+            QT_TRANSLATE_NOOP("ReadMessage",
+                              "the numbers of its %1 columns in %2 rows or more need %3 GiB of "
+                              "memory, and %4 GiB is the limit; columns that are left out need "
+                              "none"),
+            {QString::number(m_bytesOfRow / static_cast<std::int64_t>(sizeof(double))),
+             QString::number(rows, 'f', 0), gibibytes(bytes), gibibytes(mostBytes)});
+    if (rows > std::numeric_limits<int>::max())
+        throw ReadFailure(
+            m_path,
+            QT_TRANSLATE_NOOP("ReadMessage", "it has more than %1 rows, which is the limit"),
+            {QString::number(std::numeric_limits<int>::max())});
+}
+
+/// Where the program takes the numbers from.
+void TableCollector::requireDiskSpace(double rows) const
+{
+    const QStorageInfo disk(QDir::tempPath());
+    const double bytes = rows * static_cast<double>(m_bytesOfRow);
+    const auto gibibytes = [](double size) { return QString::number(size / (1 << 30), 'g', 3); };
+    if (disk.isValid() && bytes > static_cast<double>(disk.bytesAvailable()))
+        throw ReadFailure(
+            m_path,
+            QT_TRANSLATE_NOOP("ReadMessage",
+                              "its numbers need %1 GiB in the folder for temporary files, %2, "
+                              "where %3 GiB are free"),
+            {gibibytes(bytes), QDir::toNativeSeparators(QDir::tempPath()),
+             gibibytes(static_cast<double>(disk.bytesAvailable()))});
 }
 
 void TableCollector::take(const RowReader::Line& line, Row& row)

@@ -2,6 +2,7 @@
 #include "host/io/reader/text/table_file.h"
 
 #include "host/io/reader/read_failure.h"
+#include "host/io/reader/text/sentinel_search.h"
 #include "host/io/reader/text/table_data.h"
 #include "host/io/reader/text/table_layout.h"
 #include "host/io/reader/text/table_places.h"
@@ -59,6 +60,7 @@ private:
     void joinDatesAndTimes();
     void addRowNumbers();
     void noteWords();
+    void noteSentinels();
     void note(const char* text, const QStringList& parts);
     void findPlaces();
     vtkSmartPointer<vtkDataSet> zone(std::size_t number);
@@ -81,7 +83,7 @@ TableFile::TableFile(const QString& path, const TextDialect& wanted)
     : m_path(path)
     , m_isChosen(wanted.separator.has_value() || !wanted.columns.empty())
 {
-    const TextSample sample = sampleOf(path, wanted.encoding);
+    const TextSample sample = sampleOf(path, wanted);
     m_layout = layoutOf(sample, wanted);
     m_expectedRows = static_cast<double>(sample.fileBytes) / sample.bytesOfLine;
     if (m_layout.columns.empty() || (m_layout.score < kLeastScore && !m_isChosen))
@@ -233,6 +235,29 @@ void TableFile::noteWords()
     note(QT_TRANSLATE_NOOP("ReadMessage", "%1: columns of text were left out: %2."), dropped);
 }
 
+void TableFile::noteSentinels()
+{
+    constexpr std::size_t kMostRows = 100'000; // that are looked at
+    QStringList found;
+    for (std::size_t c = 0; c < m_layout.columns.size() && found.size() < kMostColumns; ++c) {
+        if (m_layout.columns[c].kind != CellKind::Number)
+            continue;
+        const std::vector<double>& numbers = m_table.columns[c].numbers;
+        SentinelSearch search;
+        std::for_each(numbers.begin(),
+                      numbers.begin()
+                          + static_cast<std::ptrdiff_t>(std::min(numbers.size(), kMostRows)),
+                      [&](double number) { search.take(number); });
+        if (const std::string word = search.found(); !word.empty())
+            found << QStringLiteral("%1 (%2)").arg(QString::fromStdString(m_layout.columns[c].name),
+                                                   QString::fromStdString(word));
+    }
+    note(QT_TRANSLATE_NOOP("ReadMessage",
+                           "%1: numbers that often stand for missing values were read as numbers: "
+                           "%2."),
+         found);
+}
+
 /// Tells something about parts of the file, if there are any.
 void TableFile::note(const char* text, const QStringList& parts)
 {
@@ -303,6 +328,7 @@ vtkSmartPointer<vtkDataObject> TableFile::read(std::size_t, const ProgressCall& 
     if (m_table.zones.size() < 2 && dialect.zones.value_or(TextZones::Words) == TextZones::Words)
         dialect.zones = divideByWords(m_table, m_layout) ? TextZones::Words : TextZones::One;
     noteWords();
+    noteSentinels();
     joinDatesAndTimes();
     addRowNumbers();
     findPlaces();
@@ -341,7 +367,7 @@ std::vector<std::unique_ptr<DataFile>> openTables(const QStringList& paths,
 bool isTable(const QString& path)
 {
     try {
-        const TableLayout layout = layoutOf(sampleOf(path, std::nullopt), {});
+        const TableLayout layout = layoutOf(sampleOf(path, {}), {});
         return !layout.columns.empty() && layout.isSure;
     } catch (const ReadFailure&) {
         return false;

@@ -146,9 +146,10 @@ static CellKind chosenKind(const TextDialect& dialect, std::size_t column, CellK
 /// The lines above the data as if they were blank, so that they do not count.
 static TextSample withoutLinesAbove(TextSample sample, int dataLine)
 {
-    std::vector<std::string>& head = sample.parts.front();
-    for (std::size_t i = 0; i + 1 < static_cast<std::size_t>(dataLine) && i < head.size(); ++i)
-        head[i].clear();
+    std::int64_t number = sample.firstLine;
+    for (std::string& line : sample.parts.front())
+        if (number++ < dataLine)
+            line.clear();
     return sample;
 }
 
@@ -169,17 +170,19 @@ static std::size_t columnCount(std::size_t columns, const std::vector<SampleRow>
 
 /// Sorts the lines above the data: those of the header, and others that are neither blank nor
 /// comments.
-static void sortLinesAbove(const std::vector<std::string>& head, std::size_t firstLine,
-                           int headerRows, TableLayout& layout)
+static void sortLinesAbove(const TextSample& sample, std::size_t dataRow, int headerRows,
+                           TableLayout& layout)
 {
-    for (std::size_t i = firstLine; i-- > 0;) {
+    const std::vector<std::string>& head = sample.parts.front();
+    for (std::size_t i = dataRow; i-- > 0;) {
         if (trimmed(head[i]).empty())
             continue;
         if (static_cast<int>(layout.headerLines.size()) < headerRows)
-            layout.headerLines.push_back(static_cast<std::int64_t>(i) + 1);
+            layout.headerLines.push_back(static_cast<std::int64_t>(i) + sample.firstLine);
         else if (!commentIn(head[i], *layout.dialect.comment))
             ++layout.linesLeftOut;
     }
+    layout.linesLeftOut += sample.firstLine - 1;
 }
 
 TableLayout layoutOf(const TextSample& sample, const TextDialect& wanted)
@@ -203,14 +206,15 @@ TableLayout layoutOf(const TextSample& sample, const TextDialect& wanted)
     const TableHeader header =
         headerOf({head.begin(), head.begin() + static_cast<std::ptrdiff_t>(first)}, head[first],
                  fields.columns, dialect);
-    dialect.dataLine = wanted.dataLine.value_or(static_cast<int>(first) + 1);
+    dialect.dataLine =
+        wanted.dataLine.value_or(static_cast<int>(sample.firstLine) + static_cast<int>(first));
     dialect.headerRows = header.rows;
     dialect.units = header.hasUnits ? TextUnits::Yes : TextUnits::No;
     if (!wanted.zones && hasGroups(head, first, dialect))
         dialect.zones = TextZones::BlankLines;
     layout.header = header.lines;
     layout.isNamed = !header.names.empty();
-    sortLinesAbove(head, first, header.rows, layout);
+    sortLinesAbove(sample, first, header.rows, layout);
     const std::size_t columns = columnCount(fields.columns, rows, header);
     const std::vector<std::string> names = columnNames(header.names, columns);
     for (std::size_t c = 0; c < columns; ++c)

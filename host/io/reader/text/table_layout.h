@@ -24,7 +24,7 @@ struct TableLayout
     bool isNamed = false; ///< by the file
     std::vector<std::int64_t> headerLines; ///< numbers of the lines above the data, from 1
     std::vector<std::string> header; ///< lines that begin another zone when they are repeated
-    int linesLeftOut = 0; ///< above the header, besides comments
+    std::int64_t linesLeftOut = 0; ///< above the header, besides comments
     bool isSure = false; ///< nothing but what was found comes into question
     double score = 0.0; ///< as DetectedFields::score
 };

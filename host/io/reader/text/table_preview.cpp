@@ -3,6 +3,7 @@
 
 #include "host/io/reader/block_tree.h"
 #include "host/io/reader/formats.h"
+#include "host/io/reader/text/sentinel_search.h"
 #include "host/io/reader/text/table_rows.h"
 
 #include <algorithm>
@@ -11,6 +12,8 @@ namespace corvala::host::io::reader {
 
 static constexpr std::size_t kMostRows = 200;
 static constexpr std::size_t kMostFields = 20'000;
+static constexpr int kFarDown = 100; ///< line of data, before which not all lines are shown
+static constexpr int kLinesAbove = 10; ///< that are shown then
 static constexpr std::size_t kMostBytes = 200; ///< of a field
 
 static std::vector<std::string> shownFields(const Row& row)
@@ -33,7 +36,11 @@ static void addRows(const QString& path, const TableLayout& layout, TextPreview&
     RowReader reader(lines, layout.dialect);
     const RowParser parser(layout);
     std::vector<double> values(layout.columns.size());
+    std::vector<SentinelSearch> searches(layout.columns.size());
     const int dataLine = layout.dialect.dataLine.value_or(1);
+    std::string_view above;
+    if (dataLine > kFarDown)
+        while (lines.number() + 1 < dataLine - kLinesAbove && lines.next(above)) { }
     RowReader::Line line;
     Row row;
     std::size_t fields = 0;
@@ -48,21 +55,30 @@ static void addRows(const QString& path, const TableLayout& layout, TextPreview&
         shown.role = isHeader ? TextPreview::Role::Header
             : isData          ? TextPreview::Role::Data
                               : TextPreview::Role::Above;
-        if (isData && !isHeader && !layout.columns.empty()
-            && parser.parse(row, values).kind != RowFault::None)
-            shown.role = TextPreview::Role::Bad;
+        if (isData && !isHeader && !layout.columns.empty()) {
+            if (parser.parse(row, values).kind != RowFault::None)
+                shown.role = TextPreview::Role::Bad;
+            else
+                for (std::size_t c = 0; c < values.size(); ++c)
+                    if (layout.columns[c].kind == CellKind::Number)
+                        searches[c].take(values[c]);
+        }
         if (isData && !isHeader)
             shown.fields = shownFields(row);
         else
             shown.fields = {cleanName(std::string(line.text.substr(0, kMostBytes)).c_str(), {})};
         fields += shown.fields.size() + 1;
     }
+    for (const SentinelSearch& search : searches)
+        if (const std::string word = search.found();
+            !word.empty() && !contains(preview.sentinels, word))
+            preview.sentinels.push_back(word);
 }
 
 TextPreview previewOf(const QString& path, const TextDialect& wanted)
 {
     requireReadable(path);
-    const TableLayout layout = layoutOf(sampleOf(path, wanted.encoding), wanted);
+    const TableLayout layout = layoutOf(sampleOf(path, wanted), wanted);
     TextPreview preview;
     preview.file = path.toStdString();
     preview.dialect = layout.dialect;

@@ -78,28 +78,51 @@ static std::vector<std::string> linesAt(const QString& path, TextEncoding encodi
     return lines;
 }
 
-TextSample sampleOf(const QString& path, std::optional<TextEncoding> encoding)
+/// The beginning of the file, or the lines round the one where the data are said to begin. Returns
+/// the byte near which they begin.
+static std::int64_t takeHead(const QString& path, int dataLine, TextSample& sample)
+{
+    constexpr std::int64_t kLinesAbove = 50;
+    LineReader reader(path, sample.encoding);
+    sample.parts = {linesFrom(reader, kHeadBytes, kLeastLines)};
+    if (dataLine <= reader.number())
+        return 0;
+    LineReader again(path, sample.encoding);
+    sample.firstLine = std::max<std::int64_t>(1, dataLine - kLinesAbove);
+    std::string_view above;
+    while (again.number() + 1 < sample.firstLine && again.next(above)) { }
+    const std::int64_t begin = again.bytesRead();
+    sample.parts = {linesFrom(again, kHeadBytes, kLinesAbove + kLeastLines)};
+    if (again.number() < dataLine)
+        throw ReadFailure(path,
+                          QT_TRANSLATE_NOOP("ReadMessage",
+                                            "its data cannot begin in line %1, since it has %2 "
+                                            "lines"),
+                          {QString::number(dataLine), QString::number(again.number())});
+    return begin;
+}
+
+TextSample sampleOf(const QString& path, const TextDialect& wanted)
 {
     TextSample sample;
     sample.fileBytes = QFileInfo(path).size();
     const std::optional<TextEncoding> found = encodingOf(firstBytes(path, kHeadBytes));
-    if (!found && !encoding)
+    if (!found && !wanted.encoding)
         throw ReadFailure(path, QT_TRANSLATE_NOOP("ReadMessage", "it is no text"));
-    sample.encoding = encoding ? *encoding : *found;
-    LineReader reader(path, sample.encoding);
-    sample.parts.push_back(linesFrom(reader, kHeadBytes, kLeastLines));
+    sample.encoding = wanted.encoding ? *wanted.encoding : *found;
+    const std::int64_t begin = takeHead(path, wanted.dataLine.value_or(0), sample);
     std::int64_t headBytes = 0;
     for (const std::string& line : sample.parts.front())
         headBytes += static_cast<std::int64_t>(line.size()) + 1;
-    if (sample.fileBytes > 2 * (headBytes + kPartBytes)) {
-        sample.parts.push_back(linesAt(path, sample.encoding, sample.fileBytes / 2));
+    if (sample.fileBytes - begin > 2 * (headBytes + kPartBytes)) {
+        sample.parts.push_back(linesAt(path, sample.encoding, (begin + sample.fileBytes) / 2));
         sample.parts.push_back(linesAt(path, sample.encoding, sample.fileBytes - kPartBytes));
     }
     for (std::vector<std::string>& part : sample.parts)
         joinQuoted(part);
     // Spreadsheets may say in the first line which separator they write.
     std::string* const first = sample.parts.front().empty() ? nullptr : &sample.parts.front()[0];
-    if (first && first->size() == 5 && first->compare(0, 4, "sep=") == 0)
+    if (first && sample.firstLine == 1 && first->size() == 5 && first->compare(0, 4, "sep=") == 0)
         first->clear();
     const bool isWide =
         sample.encoding == TextEncoding::Utf16Little || sample.encoding == TextEncoding::Utf16Big;

@@ -15,14 +15,15 @@ namespace corvala::host::io::reader {
 struct TextSample
 {
     TextEncoding encoding = TextEncoding::Utf8;
-    /// Without their ends; those of the beginning first, which are the lines 1, 2 and so on of the
-    /// file.
+    /// Without their ends; those of the beginning first.
     std::vector<std::vector<std::string>> parts;
+    std::int64_t firstLine = 1; ///< of the file in the first part: its beginning, or a chosen one
     double bytesOfLine = 1.0; ///< on average
     std::int64_t fileBytes = 0;
 };
 
-/// Throws ReadFailure for a file that is no text.
-TextSample sampleOf(const QString& path, std::optional<TextEncoding> encoding);
+/// Of a table whose data are said to begin far down, the first part begins above these. Throws
+/// ReadFailure for a file that is no text, or has no such line.
+TextSample sampleOf(const QString& path, const TextDialect& wanted);
 
 } // namespace corvala::host::io::reader

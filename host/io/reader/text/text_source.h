@@ -50,6 +50,7 @@ public:
     bool next(std::string_view& line);
     std::int64_t number() const { return m_number; } ///< of that line, from 1
     double part() const; ///< of the file that is read, 0 to 1
+    std::int64_t bytesRead() const { return m_file.pos(); } ///< up to the line, or a part more
 
     /// The present line; the file can be read again from behind it while it is held.
     void hold();
