@@ -58,6 +58,7 @@ TextImportDialog::TextImportDialog(const host::io::ReadRequest& request, const T
     both->addLayout(right, 1);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Open | QDialogButtonBox::Cancel);
     m_open = buttons->button(QDialogButtonBox::Open);
+    m_open->setText(tr("&Open"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* layout = new QVBoxLayout(this);

@@ -53,6 +53,7 @@ void TextPreviewTable::showPreview(const TextPreview& preview,
     const int scrolled = horizontalScrollBar()->value();
     const QVector<int> selected = selectedColumns();
     m_chosen = chosen;
+    m_kinds = preview.kinds;
     clearSpans();
     clear();
     const int known = static_cast<int>(preview.columns.size());
@@ -173,7 +174,10 @@ void TextPreviewTable::showRow(int row, const TextPreview::Row& shown)
         item->setFont(font);
         if (isBad)
             item->setToolTip(tr("This row cannot be read."));
-        if (shown.role == TextPreview::Role::Above)
+        const auto place = static_cast<std::size_t>(column);
+        const bool isLeftOut =
+            !isWhole(shown) && place < m_kinds.size() && m_kinds[place] == TextColumnKind::Skipped;
+        if (isLeftOut || shown.role == TextPreview::Role::Above)
             item->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
         setItem(row, column, item);
     }

@@ -37,6 +37,7 @@ private:
     QVector<int> selectedColumns() const;
 
     std::map<int, host::io::TextColumnKind> m_chosen;
+    std::vector<host::io::TextColumnKind> m_kinds;
     int m_firstDataRow = -1;
 };
 

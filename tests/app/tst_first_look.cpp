@@ -98,7 +98,7 @@ private Q_SLOTS:
         for (int i = 0; i < 90; ++i)
             rows += QByteArray::number(i % 9) + ',' + QByteArray::number(i / 9) + ','
                 + QByteArray::number(i % 7) + '\n';
-        row("rows with places", {m_folder.write("places.csv", rows)}, "2D scatter", "T, T",
+        row("rows with places", {m_folder.write("places.csv", rows)}, "2D scatter", "T, x [m]",
             "colors");
         const QByteArray box = "DATASET STRUCTURED_POINTS\nDIMENSIONS 30 30 30\nORIGIN 0 0 0\n"
                                "SPACING 1 1 1\n";
