@@ -95,8 +95,8 @@ private Q_SLOTS:
             "3D contour shade light mesh edges", "Normals X, Normals X, Normals X", "colors lines");
 
         QByteArray rows = "x [m],y [m],T\n";
-        for (int i = 0; i < 90; ++i)
-            rows += QByteArray::number(i % 9) + ',' + QByteArray::number(i / 9) + ','
+        for (int i = 0; i < 900; ++i)
+            rows += QByteArray::number(i % 30) + ',' + QByteArray::number(i / 30) + ','
                 + QByteArray::number(i % 7) + '\n';
         row("rows with places", {m_folder.write("places.csv", rows)}, "2D scatter", "T, x [m]",
             "colors");

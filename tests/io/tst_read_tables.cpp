@@ -117,6 +117,10 @@ private Q_SLOTS:
             "home: at=1,1 t=1,2 v=5,6; away: at=2,2 t=1,2 v=7,8");
         row("words that tell a state", "t,v,state\n1,5,cold\n2,6,cold\n3,7,warm\n", "",
             "a: t=1,2,3 v=5,6,7 state=1,1,2");
+        row("data far down", QByteArray("junk, more\n").repeated(40'000) + "\nx,y\n1,2\n3,4\n",
+            "data=40003", xy);
+        row("data below the end", "x,y\n1,2\n", "data=9",
+            "its data cannot begin in line 9, since it has 2 lines");
         // What is bad, or little.
         row("rows of unequal length", "x,y\n1,2\n3\n4,5,6\n7,8\n", "",
             "2 of its 4 rows are bad. line 3, column 2: the row has 1 fields, not 2");
@@ -166,6 +170,8 @@ private Q_SLOTS:
         row("clear", "Report\n\n# x,y\n1.5,2\n3,4\n,b\n",
             "sure: x y: Above, Header, Data, Data, Bad");
         row("one row of words", "one,two,three\n", "unsure: Column 1 Column 2 Column 3: Data");
+        row("numbers that look missing", "x,y\n1,2\n2,-999\n3,-999\n",
+            "sure: x y: Header, Data, Data, Data, missing: -999");
         row("ambiguous numbers", "1,2\n3,4\n", "unsure: Column 1 Column 2: Data, Data");
         row("ambiguous dates", "t,v\n1/2/2003,1.5\n3/4/2003,2.5\n",
             "unsure: t v: Header, Data, Data");
@@ -184,6 +190,8 @@ private Q_SLOTS:
         QStringList roles;
         for (const TextPreview::Row& line : result.preview->rows)
             roles << kRoles[static_cast<int>(line.role)];
+        for (const std::string& word : result.preview->sentinels)
+            roles << "missing: " + QString::fromStdString(word);
         QStringList columns;
         for (const std::string& name : result.preview->columns)
             columns << QString::fromStdString(name);

@@ -274,7 +274,12 @@ void TableFile::findPlaces()
     for (const std::optional<std::size_t>& column : m_places)
         if (column)
             names << QString::fromStdString(m_layout.columns[*column].name);
-    note(QT_TRANSLATE_NOOP("ReadMessage", "%1: field plots show a point per row, at %2."), names);
+    const auto isValue = [this](const TableColumn& column) {
+        return column.kind == CellKind::Number && !isPlace(column.name);
+    };
+    if (std::any_of(m_layout.columns.begin(), m_layout.columns.end(), isValue))
+        note(QT_TRANSLATE_NOOP("ReadMessage", "%1: field plots show a point per row, at %2."),
+             names);
 }
 
 static vtkSmartPointer<vtkDataSet> withPlaces(vtkSmartPointer<vtkPoints> places)

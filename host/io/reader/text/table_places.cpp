@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/text/table_places.h"
 
-#include "host/io/reader/vector_proposal.h"
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -9,10 +9,20 @@
 namespace corvala::host::io::reader {
 
 static constexpr std::size_t kMostRows = 10'000'000;
-static constexpr const char* kNames[] = {
-    R"(^(x([-_ ]?coord(inate)?)?|points[:_ ]0)\s*([\[(].*)?$)",
-    R"(^(y([-_ ]?coord(inate)?)?|points[:_ ]1)\s*([\[(].*)?$)",
-    R"(^(z([-_ ]?coord(inate)?)?|points[:_ ]2)\s*([\[(].*)?$)"};
+
+/// Names of columns with the coordinate X, Y or Z.
+static std::array<QRegularExpression, 3> coordinateNames()
+{
+    std::array<QRegularExpression, 3> names;
+    for (int axis = 0; axis < 3; ++axis) {
+        const QString pattern =
+            QStringLiteral(R"(^(%1([-_ ]?coord(inate)?)?|points[:_ ]%2)\s*([\[(].*)?$)");
+        names[static_cast<std::size_t>(axis)] =
+            QRegularExpression(pattern.arg(QLatin1Char("xyz"[axis])).arg(axis),
+                               QRegularExpression::CaseInsensitiveOption);
+    }
+    return names;
+}
 
 static bool areFinite(const std::vector<double>& numbers)
 {
@@ -23,10 +33,12 @@ static bool areFinite(const std::vector<double>& numbers)
 PlaceColumns placeColumns(const TableData& table, const std::vector<TableColumn>& columns)
 {
     PlaceColumns places;
+    const std::array<QRegularExpression, 3> names = coordinateNames();
     for (std::size_t axis = 0; axis < 3; ++axis) {
         const auto found =
-            std::find_if(columns.begin(), columns.end(), [axis](const TableColumn& column) {
-                return column.kind == CellKind::Number && matches(column.name, kNames[axis]);
+            std::find_if(columns.begin(), columns.end(), [&](const TableColumn& column) {
+                return column.kind == CellKind::Number
+                    && names[axis].match(QString::fromStdString(column.name)).hasMatch();
             });
         if (found != columns.end())
             places[axis] = static_cast<std::size_t>(found - columns.begin());
