@@ -127,9 +127,11 @@ void DataCommands::askToSkip(const host::io::ReadResult& result)
     box->setInformativeText(result.error.section(QStringLiteral(": "), 0, 0) + QLatin1String(":\n")
                             + rows.join(QLatin1Char('\n')));
     QPushButton* const skip = box->addButton(tr("Skip"), QMessageBox::AcceptRole);
+    QPushButton* const change = box->addButton(tr("Change..."), QMessageBox::ActionRole);
     box->addButton(QMessageBox::Cancel);
     box->setAttribute(Qt::WA_DeleteOnClose);
     connect(skip, &QPushButton::clicked, this, [this, request] { m_opener.start(request); });
+    connect(change, &QPushButton::clicked, this, [this] { preview(m_opener.request()); });
     box->open();
 }
 

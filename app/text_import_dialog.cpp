@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -66,6 +67,8 @@ TextImportDialog::TextImportDialog(const host::io::ReadRequest& request, const T
     layout->addWidget(buttons);
     connect(m_table, &TextPreviewTable::kindChosen, this, &TextImportDialog::takeKind);
     connect(&m_reader, &host::io::DataReader::finished, this, &TextImportDialog::takeResult);
+    setTabOrder(m_fields.back().widget, m_table);
+    m_fields.front().widget->setFocus();
     resize(1000, 600);
     showPreview(preview);
 }
@@ -172,6 +175,16 @@ void TextImportDialog::takeResult(const host::io::ReadResult& result)
     m_open->setEnabled(false);
 }
 
+/// Return in a field shows what it brings; only the next one opens the file.
+void TextImportDialog::keyPressEvent(QKeyEvent* event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && m_reader.isRunning())
+        event->accept();
+    else
+        QDialog::keyPressEvent(event);
+}
+
 static int badRowCount(const TextPreview& preview)
 {
     return static_cast<int>(
@@ -198,6 +211,10 @@ void TextImportDialog::showPreview(const TextPreview& preview)
                 number->setSpecialValueText(text);
         }
     }
+    const bool hasColumns =
+        std::any_of(preview.kinds.begin(), preview.kinds.end(), [](host::io::TextColumnKind kind) {
+            return kind != host::io::TextColumnKind::Skipped;
+        });
     const bool isTable = !preview.columns.empty();
     QStringList notes;
     if (m_request.files.size() > 1)
@@ -205,8 +222,14 @@ void TextImportDialog::showPreview(const TextPreview& preview)
                     m_request.files.size());
     if (!isTable)
         notes << tr("No table is seen in this way.");
+    else if (!hasColumns)
+        notes << tr("All columns are left out.");
     else if (!preview.isSure)
         notes << tr("This can be meant in several ways: please check the columns.");
+    if (preview.columns.size() > TextPreviewTable::kMostColumns)
+        notes << tr("The first %1 of %2 columns are shown.")
+                     .arg(TextPreviewTable::kMostColumns)
+                     .arg(preview.columns.size());
     if (const int bad = badRowCount(preview))
         notes << tr("Of these rows, %n cannot be read.", nullptr, bad);
     m_note->setText(notes.join(QLatin1Char(' ')));
@@ -217,7 +240,7 @@ void TextImportDialog::showPreview(const TextPreview& preview)
     m_missing->setText(tr("&Take %1 as Missing").arg(sentinels.join(QStringLiteral(", "))));
     m_missing->setVisible(!sentinels.isEmpty());
     m_table->showPreview(preview, m_request.text.columns);
-    m_open->setEnabled(isTable);
+    m_open->setEnabled(hasColumns);
 }
 
 } // namespace corvala::app

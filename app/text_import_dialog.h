@@ -29,6 +29,9 @@ public:
     /// The request with the dialect that was chosen.
     const host::io::ReadRequest& request() const { return m_request; }
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     /// The field of a property: a choice among words, a number or a text.
     struct Field

@@ -14,7 +14,6 @@ namespace corvala::app {
 using host::io::TextColumnKind;
 using host::io::TextPreview;
 
-static constexpr int kMostColumns = 100;
 static constexpr int kWidestColumn = 200; ///< pixels
 
 /// A line without columns.
@@ -94,12 +93,13 @@ void TextPreviewTable::showTitle(int column, const std::string& name, TextColumn
     setHorizontalHeaderItem(column, title);
 }
 
-/// From 1.
+/// From 1, the current one at least.
 QVector<int> TextPreviewTable::selectedColumns() const
 {
     QVector<int> columns;
-    for (const QModelIndex& index : selectionModel()->selectedColumns())
-        columns << index.column() + 1;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        for (int column = range.left(); column <= range.right(); ++column)
+            columns << column + 1;
     if (columns.isEmpty() && currentColumn() >= 0)
         columns << currentColumn() + 1;
     return columns;
@@ -146,17 +146,6 @@ void TextPreviewTable::keyPressEvent(QKeyEvent* event)
         QTableWidget::keyPressEvent(event);
 }
 
-/// Lines that are shown whole have no columns: from there on, left and right go through the data.
-QModelIndex TextPreviewTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
-{
-    const bool isInWhole = currentRow() >= 0 && columnSpan(currentRow(), 0) > 1;
-    if (isInWhole && m_firstDataRow >= 0 && (action == MoveLeft || action == MoveRight)) {
-        const int column = currentColumn() + (action == MoveLeft ? -1 : 1);
-        return model()->index(m_firstDataRow, std::clamp(column, 0, columnCount() - 1));
-    }
-    return QTableWidget::moveCursor(action, modifiers);
-}
-
 void TextPreviewTable::showRow(int row, const TextPreview::Row& shown)
 {
     const bool isBad = shown.role == TextPreview::Role::Bad;
@@ -177,6 +166,10 @@ void TextPreviewTable::showRow(int row, const TextPreview::Row& shown)
         const auto place = static_cast<std::size_t>(column);
         const bool isLeftOut =
             !isWhole(shown) && place < m_kinds.size() && m_kinds[place] == TextColumnKind::Skipped;
+        if (isWhole(shown)) { // which has no columns to be chosen
+            item->setFlags(Qt::NoItemFlags);
+            item->setForeground(palette().brush(QPalette::Active, QPalette::Text));
+        }
         if (isLeftOut || shown.role == TextPreview::Role::Above)
             item->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
         setItem(row, column, item);

@@ -16,6 +16,8 @@ class TextPreviewTable : public QTableWidget
     Q_OBJECT
 
 public:
+    static constexpr int kMostColumns = 100; ///< that are shown
+
     explicit TextPreviewTable(QWidget* parent = nullptr);
 
     /// `chosen` are the kinds that the user gave.
@@ -28,7 +30,6 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
 private:
     void showTitle(int column, const std::string& name, host::io::TextColumnKind kind);

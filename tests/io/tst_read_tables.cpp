@@ -66,7 +66,7 @@ private Q_SLOTS:
         row("Fortran", "1.5D+01  2d0\n-1.D-1 ****\n", "", "a: Column 1=15,-0.1 Column 2=2,nan");
         // Headers, units, comments.
         row("comments", "# of today\n# x\ty\n1\t2\n# between\n3\t4\n", "", xy);
-        row("units", "time,speed\n(s),m/s\n0,1.5\n1,2.5\n", "",
+        row("units", "time,speed [m/s]\n(s),m/s\n0,1.5\n1,2.5\n", "",
             "a: time [s]=0,1 speed [m/s]=1.5,2.5");
         row("two rows of names", "flow,flow,wall\nspeed,temperature,temperature\n1,2,3\n4,5,6\n",
             "", "a: flow speed=1,4 flow temperature=2,5 wall temperature=3,6");

@@ -162,6 +162,13 @@ static std::string stripped(std::string unit)
     return unit;
 }
 
+/// Whether the unit stands in brackets in a name.
+static bool namesUnit(const std::string& name, const std::string& unit)
+{
+    return name.find('[' + unit + ']') != std::string::npos
+        || name.find('(' + unit + ')') != std::string::npos;
+}
+
 /// A row such as "Probe 0 1 2" over one that names the first column numbers the others.
 static Names numbered(const Names& row)
 {
@@ -182,7 +189,8 @@ static Names joined(const std::vector<Names>& rows, bool hasUnits, bool isNumber
                 names[c] += (names[c].empty() ? "" : " ") + rows[i][c];
     if (hasUnits)
         for (std::size_t c = 0; c < names.size(); ++c)
-            if (const std::string unit = stripped(rows.back()[c]); !unit.empty() && unit != "-")
+            if (const std::string unit = stripped(rows.back()[c]);
+                !unit.empty() && unit != "-" && !namesUnit(names[c], unit))
                 names[c] += " [" + unit + ']';
     return names;
 }
