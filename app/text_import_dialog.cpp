@@ -34,6 +34,25 @@ static QString shown(const char* text)
     return QCoreApplication::translate("TextDialect", text);
 }
 
+namespace {
+
+/// A number that is left to the reader while the field is empty.
+class OptionalNumber : public QSpinBox
+{
+public:
+    using QSpinBox::QSpinBox;
+
+    void fixup(QString& text) const override
+    {
+        if (text.isEmpty())
+            text = QString::number(kDetected);
+        else
+            QSpinBox::fixup(text);
+    }
+};
+
+} // namespace
+
 TextImportDialog::TextImportDialog(const host::io::ReadRequest& request, const TextPreview& preview,
                                    QWidget* parent)
     : QDialog(parent)
@@ -123,7 +142,7 @@ QWidget* TextImportDialog::makeField(const TextProperty& property)
                 [this, text, &property] { take(property, text->text().toStdString()); });
         return text;
     }
-    auto* number = new QSpinBox(this);
+    auto* number = new OptionalNumber(this);
     number->setRange(kDetected, kLastLine);
     number->setKeyboardTracking(false);
     number->setValue(word.isEmpty() ? kDetected : word.toInt());

@@ -119,6 +119,7 @@ private Q_SLOTS:
             "a: t=1,2,3 v=5,6,7 state=1,1,2");
         row("data far down", QByteArray("junk, more\n").repeated(40'000) + "\nx,y\n1,2\n3,4\n",
             "data=40003", xy);
+        row("data below others", "n,x,y\na,7,2\nb,3,4\nc,5,6\n", "data=3", "a: n=1,2 x=3,5 y=4,6");
         row("data below the end", "x,y\n1,2\n", "data=9",
             "its data cannot begin in line 9, since it has 2 lines");
         // What is bad, or little.

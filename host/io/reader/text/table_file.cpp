@@ -84,7 +84,7 @@ TableFile::TableFile(const QString& path, const TextDialect& wanted)
     , m_isChosen(wanted.separator.has_value() || !wanted.columns.empty())
 {
     const TextSample sample = sampleOf(path, wanted);
-    m_layout = layoutOf(sample, wanted);
+    m_layout = layoutOf(path, sample, wanted);
     m_expectedRows = static_cast<double>(sample.fileBytes) / sample.bytesOfLine;
     if (m_layout.columns.empty() || (m_layout.score < kLeastScore && !m_isChosen))
         throw noTable();

@@ -5,6 +5,7 @@
 #include "host/io/reader/text/row_splitter.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <optional>
 #include <set>
 #include <utility>
@@ -106,6 +107,15 @@ Names HeaderReader::fitted(Names fields) const
     return names.size() == m_columns ? names : Names();
 }
 
+/// A word, and then numbers one after the other.
+static bool countsUp(const Names& fields)
+{
+    for (std::size_t i = 2; i < fields.size(); ++i)
+        if (std::atoi(fields[i].c_str()) != std::atoi(fields[i - 1].c_str()) + 1)
+            return false;
+    return fields.size() > 1;
+}
+
 HeaderLine HeaderReader::read(std::string_view line) const
 {
     const std::optional<std::string_view> comment = commentIn(line, *m_dialect.comment);
@@ -122,10 +132,13 @@ HeaderLine HeaderReader::read(std::string_view line) const
         result.names = fitted(fieldsOf(result.text, TextSeparator::Comma));
     const auto words = std::count_if(fields.begin(), fields.end(),
                                      [this](const std::string& name) { return isWord(name); });
-    if (words == 0 && !m_dialect.headerRows)
-        result.names.clear();
     result.hasWords = words > 0;
-    result.isNumbered = words == 1 && fields.size() > 1 && isWord(fields.front());
+    result.isNumbered = words == 1 && isWord(fields.front()) && countsUp(fields);
+    const auto known = std::count_if(fields.begin(), fields.end(),
+                                     [](const std::string& name) { return !name.empty(); });
+    const bool looksLikeData = words == 0 || (2 * words < known && !result.isNumbered);
+    if (looksLikeData && !m_dialect.headerRows)
+        result.names.clear();
     return result;
 }
 

@@ -225,4 +225,25 @@ TableLayout layoutOf(const TextSample& sample, const TextDialect& wanted)
     return layout;
 }
 
+TableLayout layoutOf(const QString& path, const TextSample& sample, const TextDialect& wanted)
+{
+    TableLayout layout = layoutOf(sample, wanted);
+    if (!wanted.dataLine || wanted.headerRows || layout.isNamed)
+        return layout;
+    TextDialect fromTop = wanted;
+    fromTop.dataLine.reset();
+    const TableLayout top = layoutOf(sampleOf(path, fromTop), fromTop);
+    if (!top.isNamed || top.columns.size() != layout.columns.size()
+        || *top.dialect.dataLine > *wanted.dataLine)
+        return layout;
+    for (std::size_t c = 0; c < layout.columns.size(); ++c)
+        layout.columns[c].name = top.columns[c].name;
+    layout.isNamed = true;
+    layout.header = top.header;
+    layout.headerLines = top.headerLines;
+    layout.dialect.headerRows = top.dialect.headerRows;
+    layout.dialect.units = top.dialect.units;
+    return layout;
+}
+
 } // namespace corvala::host::io::reader

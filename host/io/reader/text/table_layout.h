@@ -32,4 +32,8 @@ struct TableLayout
 /// Finds out what `wanted` leaves open.
 TableLayout layoutOf(const TextSample& sample, const TextDialect& wanted);
 
+/// The same for a file. Rows far below its header that are said to be the first have the names that
+/// stand there.
+TableLayout layoutOf(const QString& path, const TextSample& sample, const TextDialect& wanted);
+
 } // namespace corvala::host::io::reader

@@ -32,23 +32,23 @@ static bool areFinite(const std::vector<double>& numbers)
 
 PlaceColumns placeColumns(const TableData& table, const std::vector<TableColumn>& columns)
 {
-    PlaceColumns places;
     const std::array<QRegularExpression, 3> names = coordinateNames();
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-        const auto found =
-            std::find_if(columns.begin(), columns.end(), [&](const TableColumn& column) {
-                return column.kind == CellKind::Number
-                    && names[axis].match(QString::fromStdString(column.name)).hasMatch();
-            });
-        if (found != columns.end())
-            places[axis] = static_cast<std::size_t>(found - columns.begin());
+    const auto isPlace = [&](std::size_t column, std::size_t axis) {
+        return column < columns.size() && columns[column].kind == CellKind::Number
+            && names[axis].match(QString::fromStdString(columns[column].name)).hasMatch()
+            && areFinite(table.columns[column].numbers);
+    };
+    PlaceColumns places;
+    if (table.rowCount > kMostRows)
+        return places;
+    for (std::size_t c = 0; c < columns.size() && !places[0]; ++c) {
+        if (!isPlace(c, 0) || !isPlace(c + 1, 1))
+            continue;
+        places = {c, c + 1, std::nullopt};
+        if (isPlace(c + 2, 2))
+            places[2] = c + 2;
     }
-    const bool areUsable =
-        std::all_of(places.begin(), places.end(), [&](const std::optional<std::size_t>& column) {
-            return !column || areFinite(table.columns[*column].numbers);
-        });
-    return places[0] && places[1] && areUsable && table.rowCount <= kMostRows ? places
-                                                                              : PlaceColumns();
+    return places;
 }
 
 vtkSmartPointer<vtkPoints> placesOf(const TableData& table, const PlaceColumns& columns,

@@ -78,7 +78,7 @@ static void addRows(const QString& path, const TableLayout& layout, TextPreview&
 TextPreview previewOf(const QString& path, const TextDialect& wanted)
 {
     requireReadable(path);
-    const TableLayout layout = layoutOf(sampleOf(path, wanted), wanted);
+    const TableLayout layout = layoutOf(path, sampleOf(path, wanted), wanted);
     TextPreview preview;
     preview.file = path.toStdString();
     preview.dialect = layout.dialect;
