@@ -88,7 +88,8 @@ private:
                            CommandLine::tr("layout")};
     const Option m_table {QStringLiteral("table"),
                           CommandLine::tr("How tables of text are written, such as "
-                                          "separator=tab,decimal=comma,header=1,bad=skip."),
+                                          "separator=tab,decimal=comma,header=1,columns=2:words "
+                                          "5-9:skip,bad=skip."),
                           CommandLine::tr("dialect")};
 };
 
