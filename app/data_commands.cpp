@@ -106,6 +106,8 @@ void DataCommands::askForDialect(const host::io::TextPreview& preview)
     connect(dialog, &QDialog::accepted, this, [this, dialog] {
         host::io::ReadRequest request = dialog->request();
         request.purpose = host::io::ReadPurpose::Data;
+        if (!request.text.badRows) // so that something is chosen, and nothing in doubt any more
+            request.text.badRows = host::io::TextBadRows::Refuse;
         m_opener.start(request);
     });
     dialog->open();

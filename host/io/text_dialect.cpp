@@ -220,9 +220,9 @@ static QString knownWords(const TextProperty& property)
     const QString known = words.join(QStringLiteral(", "));
     return property.form != TextProperty::Form::Columns
         ? known
-        : TextDialectTexts::tr("columns such as 2:words or 4-9:skip (from 1 to %1; %2)")
-              .arg(kMostColumns)
-              .arg(known);
+        : TextDialectTexts::tr("%1 for columns from 1 to %2, as in 2:words 4-9:skip")
+              .arg(known)
+              .arg(kMostColumns);
 }
 
 QString parseTextDialect(const QString& text, TextDialect& dialect)

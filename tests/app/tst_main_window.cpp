@@ -529,6 +529,14 @@ private Q_SLOTS:
         dialog->findChild<QSpinBox*>(QStringLiteral("data"))->setValue(2);
         header->setValue(1);
         QTRY_VERIFY(preview->horizontalHeaderItem(1)->text().startsWith(QLatin1String("2\n")));
+        QTest::keyClick(preview, Qt::Key_Right);
+        QTest::keyClick(preview, Qt::Key_Return);
+        auto* kinds = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(kinds && kinds->actions().value(0)->isChecked());
+        QTest::keyClick(kinds, Qt::Key_Up);
+        QTest::keyClick(kinds, Qt::Key_Return);
+        QTRY_VERIFY(
+            preview->horizontalHeaderItem(1)->text().startsWith(QLatin1String("2\nleft out")));
         dialog->accept();
         QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 2, 60000);
         QTRY_VERIFY(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
@@ -540,6 +548,7 @@ private Q_SLOTS:
         QVERIFY(frame().hasData());
         QCOMPARE(int(frame().plotType()), int(PlotType_LineXY));
         QCOMPARE(int(frame().data()->zone(1).pointCount), 29);
+        QCOMPARE(QString::fromStdString(frame().data()->variable(1).name), QStringLiteral("Row"));
         QVERIFY(button("Change..."));
     }
 
