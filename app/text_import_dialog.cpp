@@ -204,12 +204,14 @@ void TextImportDialog::keyPressEvent(QKeyEvent* event)
         QDialog::keyPressEvent(event);
 }
 
-static int badRowCount(const TextPreview& preview)
+/// Lines of the rows that cannot be read.
+static QVector<qint64> badLines(const TextPreview& preview)
 {
-    return static_cast<int>(
-        std::count_if(preview.rows.begin(), preview.rows.end(), [](const TextPreview::Row& row) {
-            return row.role == TextPreview::Role::Bad;
-        }));
+    QVector<qint64> lines;
+    for (const TextPreview::Row& row : preview.rows)
+        if (row.role == TextPreview::Role::Bad)
+            lines << row.line;
+    return lines;
 }
 
 void TextImportDialog::showPreview(const TextPreview& preview)
@@ -249,8 +251,9 @@ void TextImportDialog::showPreview(const TextPreview& preview)
         notes << tr("The first %1 of %2 columns are shown.")
                      .arg(TextPreviewTable::kMostColumns)
                      .arg(preview.columns.size());
-    if (const int bad = badRowCount(preview))
-        notes << tr("Of these rows, %n cannot be read.", nullptr, bad);
+    if (const QVector<qint64> bad = badLines(preview); !bad.isEmpty())
+        notes << tr("Of these rows, %n cannot be read, the first in line %1.", nullptr, bad.size())
+                     .arg(bad.front());
     m_note->setText(notes.join(QLatin1Char(' ')));
     QStringList sentinels;
     for (const std::string& word : preview.sentinels)

@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <numeric>
 
 namespace corvala::host::io::reader {
@@ -63,6 +64,7 @@ private:
     void noteSentinels();
     void note(const char* text, const QStringList& parts);
     void findPlaces();
+    void listKinds();
     vtkSmartPointer<vtkDataSet> zone(std::size_t number);
 
     QString m_path;
@@ -71,6 +73,7 @@ private:
     double m_expectedRows;
     TableData m_table; ///< whose memory the zones use
     PlaceColumns m_places;
+    std::map<std::string, VariableKind> m_kinds; ///< of columns that are no numbers
     std::vector<ReadMessage> m_notes;
 };
 
@@ -113,12 +116,18 @@ bool TableFile::isPlace(const std::string& array) const
 
 VariableKind TableFile::kindOf(const std::string& array) const
 {
+    const auto found = m_kinds.find(array);
+    return found != m_kinds.end() ? found->second : VariableKind::Number;
+}
+
+/// Of the columns that are no numbers.
+void TableFile::listKinds()
+{
     for (const TableColumn& column : m_layout.columns)
-        if (column.name == array)
-            return column.kind == CellKind::Instant ? VariableKind::Instant
-                : column.kind == CellKind::Words    ? VariableKind::Words
-                                                    : VariableKind::Number;
-    return VariableKind::Number;
+        if (column.kind == CellKind::Instant)
+            m_kinds[column.name] = VariableKind::Instant;
+        else if (column.kind == CellKind::Words)
+            m_kinds[column.name] = VariableKind::Words;
 }
 
 void TableFile::takeNames(const TableLayout& other)
@@ -337,6 +346,7 @@ vtkSmartPointer<vtkDataObject> TableFile::read(std::size_t, const ProgressCall& 
     joinDatesAndTimes();
     addRowNumbers();
     findPlaces();
+    listKinds();
     if (m_table.zones.size() == 1)
         return zone(0);
     auto result = vtkSmartPointer<vtkMultiBlockDataSet>::New();
