@@ -2,9 +2,9 @@
 #include "host/io/reader/text/table_file.h"
 
 #include "host/io/reader/read_failure.h"
-#include "host/io/reader/text/sentinel_search.h"
 #include "host/io/reader/text/table_data.h"
 #include "host/io/reader/text/table_layout.h"
+#include "host/io/reader/text/table_notes.h"
 #include "host/io/reader/text/table_places.h"
 
 #include <QFileInfo>
@@ -28,9 +28,6 @@ namespace corvala::host::io::reader {
 static constexpr double kLeastScore = 0.06; ///< of anything that can be a table
 static constexpr std::size_t kMostTableColumns = 100'000;
 static constexpr double kSecondsOfDay = 86'400;
-static constexpr std::size_t kMostListed = 12; ///< words of a column in a note
-static constexpr int kMostColumns = 5; ///< in a note
-static constexpr int kLongestWord = 20; ///< letters of it in a note
 
 /// A table whose zones are ordered along I. They have no coordinates, but places for field plots
 /// where columns are named like coordinates.
@@ -60,10 +57,7 @@ private:
     void takeOutSkipped();
     void joinDatesAndTimes();
     void addRowNumbers();
-    void noteWords();
-    void noteSentinels();
     void note(const char* text, const QStringList& parts);
-    void findPlaces();
     void listKinds();
     vtkSmartPointer<vtkDataSet> zone(std::size_t number);
 
@@ -217,56 +211,6 @@ void TableFile::addRowNumbers()
     m_layout.columns.insert(m_layout.columns.begin(), {"Row", CellKind::Number});
 }
 
-static QString numberedWords(const QString& name, const std::vector<std::string>& words)
-{
-    QStringList list;
-    for (std::size_t i = 0; i < std::min(words.size(), kMostListed); ++i)
-        list << QStringLiteral("%1 %2").arg(i + 1).arg(
-            QString::fromStdString(words[i]).left(kLongestWord));
-    if (words.size() > kMostListed)
-        list << QStringLiteral("...");
-    return QStringLiteral("%1 (%2)").arg(name, list.join(QStringLiteral(", ")));
-}
-
-void TableFile::noteWords()
-{
-    QStringList dropped;
-    QStringList numbered;
-    for (std::size_t c = 0; c < m_layout.columns.size(); ++c) {
-        const QString name = QString::fromStdString(m_layout.columns[c].name);
-        const ColumnValues& column = m_table.columns[c];
-        if (column.isDropped)
-            dropped << name;
-        if (!column.words.empty() && numbered.size() < kMostColumns)
-            numbered << numberedWords(name, column.words);
-    }
-    note(QT_TRANSLATE_NOOP("ReadMessage", "%1: columns of words are numbered: %2."), numbered);
-    note(QT_TRANSLATE_NOOP("ReadMessage", "%1: columns of text were left out: %2."), dropped);
-}
-
-void TableFile::noteSentinels()
-{
-    constexpr std::size_t kMostRows = 100'000; // that are looked at
-    QStringList found;
-    for (std::size_t c = 0; c < m_layout.columns.size() && found.size() < kMostColumns; ++c) {
-        if (m_layout.columns[c].kind != CellKind::Number)
-            continue;
-        const std::vector<double>& numbers = m_table.columns[c].numbers;
-        SentinelSearch search;
-        std::for_each(numbers.begin(),
-                      numbers.begin()
-                          + static_cast<std::ptrdiff_t>(std::min(numbers.size(), kMostRows)),
-                      [&](double number) { search.take(number); });
-        if (const std::string word = search.found(); !word.empty())
-            found << QStringLiteral("%1 (%2)").arg(QString::fromStdString(m_layout.columns[c].name),
-                                                   QString::fromStdString(word));
-    }
-    note(QT_TRANSLATE_NOOP("ReadMessage",
-                           "%1: numbers that often stand for missing values were read as numbers: "
-                           "%2."),
-         found);
-}
-
 /// Tells something about parts of the file, if there are any.
 void TableFile::note(const char* text, const QStringList& parts)
 {
@@ -274,21 +218,6 @@ void TableFile::note(const char* text, const QStringList& parts)
         m_notes.emplace_back(text,
                              std::initializer_list<QString> {QFileInfo(m_path).fileName(),
                                                              parts.join(QStringLiteral(", "))});
-}
-
-void TableFile::findPlaces()
-{
-    m_places = placeColumns(m_table, m_layout.columns);
-    QStringList names;
-    for (const std::optional<std::size_t>& column : m_places)
-        if (column)
-            names << QString::fromStdString(m_layout.columns[*column].name);
-    const auto isValue = [this](const TableColumn& column) {
-        return column.kind == CellKind::Number && !isPlace(column.name);
-    };
-    if (std::any_of(m_layout.columns.begin(), m_layout.columns.end(), isValue))
-        note(QT_TRANSLATE_NOOP("ReadMessage", "%1: field plots show a point per row, at %2."),
-             names);
 }
 
 static vtkSmartPointer<vtkDataSet> withPlaces(vtkSmartPointer<vtkPoints> places)
@@ -341,11 +270,12 @@ vtkSmartPointer<vtkDataObject> TableFile::read(std::size_t, const ProgressCall& 
     TextDialect& dialect = m_layout.dialect;
     if (m_table.zones.size() < 2 && dialect.zones.value_or(TextZones::Words) == TextZones::Words)
         dialect.zones = divideByWords(m_table, m_layout) ? TextZones::Words : TextZones::One;
-    noteWords();
-    noteSentinels();
     joinDatesAndTimes();
     addRowNumbers();
-    findPlaces();
+    m_places = placeColumns(m_table, m_layout.columns);
+    const std::vector<ReadMessage> notes =
+        notesOf(QFileInfo(m_path).fileName(), m_layout.columns, m_table, m_places);
+    m_notes.insert(m_notes.end(), notes.begin(), notes.end());
     listKinds();
     if (m_table.zones.size() == 1)
         return zone(0);
