@@ -56,8 +56,6 @@ public:
 private:
     void takeRow(Row& row, std::int64_t line);
     void takeWords(const Row& row);
-    /// The numbers may take half of the memory, since they go into a file as well, which the
-    /// program loads.
     void requireMemory(double rows) const;
     void requireDiskSpace(double rows) const;
     bool isSkipped(std::size_t column) const
@@ -89,7 +87,8 @@ TableCollector::TableCollector(const QString& path, const TableLayout& layout, d
         std::count_if(layout.columns.begin(), layout.columns.end(),
                       [](const TableColumn& column) { return column.kind != CellKind::Skipped; }));
     m_bytesOfRow = static_cast<std::int64_t>(kept * sizeof(double));
-    m_mostBytes = memoryLimit() / 2;
+    constexpr int kMostFifths = 4; // of the memory; the rest is for what the file is read with
+    m_mostBytes = memoryLimit() / 5 * kMostFifths;
     constexpr double kUnequalLines = 0.8; // of the file, against those of the sample
     requireMemory(kUnequalLines * expectedRows);
     requireDiskSpace(kUnequalLines * expectedRows);
