@@ -214,11 +214,41 @@ static QVector<qint64> badLines(const TextPreview& preview)
     return lines;
 }
 
-void TextImportDialog::showPreview(const TextPreview& preview)
+static bool hasColumns(const TextPreview& preview)
+{
+    return std::any_of(
+        preview.kinds.begin(), preview.kinds.end(),
+        [](host::io::TextColumnKind kind) { return kind != host::io::TextColumnKind::Skipped; });
+}
+
+QString TextImportDialog::noteOn(const TextPreview& preview) const
+{
+    QStringList notes;
+    if (m_request.files.size() > 1)
+        notes << tr("This is one of %n files; the choices hold for all of them.", nullptr,
+                    m_request.files.size());
+    if (preview.columns.empty())
+        notes << tr("No table is seen in this way.");
+    else if (!hasColumns(preview))
+        notes << tr("All columns are left out.");
+    else if (!preview.isSure)
+        notes << tr("This can be meant in several ways: please check the columns.");
+    if (preview.columns.size() > TextPreviewTable::kMostColumns)
+        notes << tr("The first %1 of %2 columns are shown.")
+                     .arg(TextPreviewTable::kMostColumns)
+                     .arg(preview.columns.size());
+    if (const QVector<qint64> bad = badLines(preview); !bad.isEmpty())
+        notes << tr("Of these rows, %n cannot be read, the first in line %1.", nullptr, bad.size())
+                     .arg(bad.front());
+    return notes.join(QLatin1Char(' '));
+}
+
+/// What was detected, where nothing is chosen.
+void TextImportDialog::showDetected(const host::io::TextDialect& dialect)
 {
     for (const Field& field : m_fields) {
         const TextProperty& property = *field.property;
-        const std::string word = property.word(property, preview.dialect);
+        const std::string word = property.word(property, dialect);
         QString detected = QString::fromStdString(word);
         for (const TextProperty::Choice& choice : property.choices)
             if (word == choice.word)
@@ -232,29 +262,12 @@ void TextImportDialog::showPreview(const TextPreview& preview)
                 number->setSpecialValueText(text);
         }
     }
-    const bool hasColumns =
-        std::any_of(preview.kinds.begin(), preview.kinds.end(), [](host::io::TextColumnKind kind) {
-            return kind != host::io::TextColumnKind::Skipped;
-        });
-    const bool isTable = !preview.columns.empty();
-    QStringList notes;
-    if (m_request.files.size() > 1)
-        notes << tr("This is one of %n files; the choices hold for all of them.", nullptr,
-                    m_request.files.size());
-    if (!isTable)
-        notes << tr("No table is seen in this way.");
-    else if (!hasColumns)
-        notes << tr("All columns are left out.");
-    else if (!preview.isSure)
-        notes << tr("This can be meant in several ways: please check the columns.");
-    if (preview.columns.size() > TextPreviewTable::kMostColumns)
-        notes << tr("The first %1 of %2 columns are shown.")
-                     .arg(TextPreviewTable::kMostColumns)
-                     .arg(preview.columns.size());
-    if (const QVector<qint64> bad = badLines(preview); !bad.isEmpty())
-        notes << tr("Of these rows, %n cannot be read, the first in line %1.", nullptr, bad.size())
-                     .arg(bad.front());
-    m_note->setText(notes.join(QLatin1Char(' ')));
+}
+
+void TextImportDialog::showPreview(const TextPreview& preview)
+{
+    showDetected(preview.dialect);
+    m_note->setText(noteOn(preview));
     QStringList sentinels;
     for (const std::string& word : preview.sentinels)
         sentinels << QString::fromStdString(word);
@@ -262,7 +275,7 @@ void TextImportDialog::showPreview(const TextPreview& preview)
     m_missing->setText(tr("&Take %1 as Missing").arg(sentinels.join(QStringLiteral(", "))));
     m_missing->setVisible(!sentinels.isEmpty());
     m_table->showPreview(preview, m_request.text.columns);
-    m_open->setEnabled(hasColumns);
+    m_open->setEnabled(hasColumns(preview));
 }
 
 } // namespace corvala::app

@@ -48,6 +48,8 @@ private:
     void refresh();
     void takeResult(const host::io::ReadResult& result);
     void addProposal(QFormLayout& form, QLineEdit& missing);
+    QString noteOn(const host::io::TextPreview& preview) const;
+    void showDetected(const host::io::TextDialect& dialect);
     void showPreview(const host::io::TextPreview& preview);
 
     host::io::ReadRequest m_request;
