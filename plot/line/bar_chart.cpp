@@ -32,7 +32,7 @@ public:
         painter.setRenderHint(QPainter::Antialiasing);
         painter.scale(ratio, ratio);
         for (; m_next < end; ++m_next) {
-            const QRectF bar = m_chart.bar(m_next, m_view, m_chart.style().width * ratio);
+            const QRectF bar = m_chart.bar(m_next, m_view, ratio);
             if (!bar.isNull() && m_ends.isNew(valueEnd(bar)))
                 m_chart.style().paint(painter, {bar.topLeft() / ratio, bar.size() / ratio});
         }
@@ -69,17 +69,18 @@ void BarStyle::paint(QPainter& painter, const QRectF& bar) const
     painter.drawRect(bar);
 }
 
-QRectF BarChart::bar(std::size_t point, const LineView& view, double width) const
+QRectF BarChart::bar(std::size_t point, const LineView& view, double ratio) const
 {
-    constexpr double kBeyond = 20.0; // pixels; where outlines are not seen
+    const double width = m_style.width * ratio;
+    const double beyond = 2.0 + m_style.lineWidth * ratio; // where outlines are not seen
     if (!m_places->isFinite(point))
         return {};
     const QPointF value = view.pixel(m_places->x(point), m_places->y(point));
     const LineBox& seen = view.visible;
     const bool isUpright = m_style.isUpright;
     const LineScale& scale = isUpright ? view.y : view.x;
-    const double first = (isUpright ? seen.low : seen.left) - kBeyond;
-    const double last = (isUpright ? seen.high : seen.right) + kBeyond;
+    const double first = (isUpright ? seen.low : seen.left) - beyond;
+    const double last = (isUpright ? seen.high : seen.right) + beyond;
     const double edge = scale.scale > 0.0 ? first : last;
     const double zero = std::clamp(m_hasZero ? scale(0.0) : edge, first, last);
     const double end = std::clamp(isUpright ? value.y() : value.x(), first, last);
@@ -88,7 +89,7 @@ QRectF BarChart::bar(std::size_t point, const LineView& view, double width) cons
         : QRectF(QPointF(zero, value.y() - width / 2.0), QPointF(end, value.y() + width / 2.0));
     const QRectF shown = bar.normalized();
     const QRectF all(QPointF(seen.left, seen.low), QPointF(seen.right, seen.high));
-    const QRectF reached = all.adjusted(-kBeyond, -kBeyond, kBeyond, kBeyond);
+    const QRectF reached = all.adjusted(-beyond, -beyond, beyond, beyond);
     return shown.right() < reached.left() || shown.left() > reached.right()
             || shown.bottom() < reached.top() || shown.top() > reached.bottom()
         ? QRectF()
@@ -106,7 +107,7 @@ LineBox BarChart::bounds() const
 double BarChart::distance(const LineView& view, const QPointF& pixel, double limit) const
 {
     for (std::size_t point = 0; point < m_places->size() && limit > 0.0; ++point) {
-        const QRectF shown = bar(point, view, m_style.width);
+        const QRectF shown = bar(point, view);
         if (shown.isNull())
             continue;
         const double across = std::max({shown.left() - pixel.x(), pixel.x() - shown.right(), 0.0});
@@ -124,7 +125,7 @@ std::unique_ptr<ShapeDrawing> BarChart::begin(const InkSheet& sheet, const LineV
 void BarChart::paint(QPainter& painter, const LineView& view) const
 {
     for (std::size_t point = 0; point < m_places->size(); ++point) {
-        const QRectF shown = bar(point, view, m_style.width);
+        const QRectF shown = bar(point, view);
         if (!shown.isNull())
             m_style.paint(painter, shown);
     }

@@ -38,8 +38,9 @@ public:
 
     const Polyline& places() const override { return *m_places; }
     const BarStyle& style() const { return m_style; }
-    /// The bar at a point, `width` pixels wide; null for one that is not seen.
-    QRectF bar(std::size_t point, const LineView& view, double width) const;
+    /// The bar at a point in a view of `ratio` pixels to a pixel of the widget; null for one that
+    /// is not seen.
+    QRectF bar(std::size_t point, const LineView& view, double ratio = 1.0) const;
 
     LineBox bounds() const override;
     double distance(const LineView& view, const QPointF& pixel, double limit) const override;

@@ -4,6 +4,7 @@
 #include "host/document/document.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace corvala::plot {
 
@@ -64,6 +65,17 @@ double lineFontOf(const host::Frame& frame, int height)
     return std::max(std::min(font, kLargest * height), kSmallest);
 }
 
+double axisWidthOf(int height)
+{
+    constexpr double kPercent = 0.13; // of the height
+    return std::max(std::round(kPercent / 100.0 * height), 1.0);
+}
+
+int ChartLook::share(double part) const
+{
+    return static_cast<int>(std::lround(part * font));
+}
+
 ChartLook chartLookOf(const host::Frame& frame, int height)
 {
     ChartLook look;
@@ -74,6 +86,7 @@ ChartLook chartLookOf(const host::Frame& frame, int height)
     look.polar = polarLook(frame);
     look.title = QString::fromStdString(frame.text(style::lineFrame.title));
     look.font = lineFontOf(frame, height);
+    look.lineWidth = axisWidthOf(height);
     look.showsGrid = frame.isOn(style::lineFrame.showGrid);
     look.showsBox = frame.isOn(style::lineFrame.showBox);
     return look;

@@ -5,6 +5,7 @@
 #include "plot/line/line_axes.h"
 
 #include <QColor>
+#include <QPen>
 #include <QString>
 
 #include <array>
@@ -39,8 +40,21 @@ struct ChartLook
     PolarLook polar;
     QString title;
     double font = 12.0; ///< height of texts in pixels
+    double lineWidth = 1.0; ///< of axes, ticks and grid, in whole pixels
     bool showsGrid = true;
     bool showsBox = true;
+
+    /// Of axes and ticks.
+    QPen axisPen(const QColor& color) const
+    {
+        return {color, lineWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
+    }
+    QPen gridPen(Qt::PenStyle style) const
+    {
+        return {QColor(200, 200, 200), lineWidth, style, Qt::SquareCap};
+    }
+    /// A length in whole pixels that is a part of the height of texts.
+    int share(double part) const;
 };
 
 /// The look of a frame in a picture `height` pixels high. Titles are those that were set.
@@ -48,6 +62,9 @@ ChartLook chartLookOf(const host::Frame& frame, int height);
 
 /// The height in pixels of all texts in such a picture: what was set, at most a tenth of it.
 double lineFontOf(const host::Frame& frame, int height);
+
+/// The width in whole pixels of axes, ticks, grid and boxes in such a picture.
+double axisWidthOf(int height);
 
 /// Whether the value is a range that a view begins with.
 bool isChartRange(style::Key value);

@@ -47,8 +47,7 @@ public:
             const auto point = m_walker.nextOf(kPoints);
             if (!point)
                 continue;
-            for (const auto& [from, to] :
-                 m_bars.strokes(*point, m_view, style.capSize * m_sheet.ratio))
+            for (const auto& [from, to] : m_bars.strokes(*point, m_view, m_sheet.ratio))
                 m_sheet.mask.add(from, to, width, StrokeEnd::Flat, StrokeEnd::Flat);
         }
         if (!m_walker.isAtEnd())
@@ -81,11 +80,12 @@ private:
 
 } // namespace
 
-Strokes ErrorBars::strokes(std::size_t point, const LineView& view, double size) const
+Strokes ErrorBars::strokes(std::size_t point, const LineView& view, double ratio) const
 {
+    const double size = m_style.capSize * ratio;
     const QPointF middle = view.pixel(m_points.places->x(point), m_points.places->y(point));
     const LineBox& seen = view.visible;
-    constexpr double kBeyond = 10.0; // pixels; where caps are not seen
+    const double beyond = 2.0 + size + m_style.width * ratio; // where caps are not seen
     Strokes strokes;
     const auto add = [&](double from, double to, bool isUpright) {
         const auto at = [&](double along, double across) {
@@ -101,7 +101,7 @@ Strokes ErrorBars::strokes(std::size_t point, const LineView& view, double size)
                 strokes.emplace_back(at(end, -size / 2.0), at(end, size / 2.0));
     };
     const auto end = [&](End which, const LineScale& scale, double below, double above) {
-        return pixelOf(scale, m_ends[which][point], below - kBeyond - size, above + kBeyond + size);
+        return pixelOf(scale, m_ends[which][point], below - beyond, above + beyond);
     };
     if (!std::isnan(m_ends[Left][point]))
         add(end(Left, view.x, seen.left, seen.right), end(Right, view.x, seen.left, seen.right),
@@ -133,7 +133,7 @@ double ErrorBars::distance(const LineView& view, const QPointF& pixel, double li
 {
     MarkWalker walker(m_points, BarDrawing::everything(view), 0.0);
     while (const auto point = walker.next()) {
-        for (const auto& [from, to] : strokes(*point, view, m_style.capSize))
+        for (const auto& [from, to] : strokes(*point, view))
             limit = std::min(limit, distanceToSegment(pixel, from, to));
     }
     return limit;
@@ -149,7 +149,7 @@ void ErrorBars::paint(QPainter& painter, const LineView& view) const
     painter.setPen(QPen(m_style.color, m_style.width, Qt::SolidLine, Qt::FlatCap));
     MarkWalker walker(m_points, BarDrawing::everything(view), 0.0);
     while (const auto point = walker.next())
-        for (const auto& [from, to] : strokes(*point, view, m_style.capSize))
+        for (const auto& [from, to] : strokes(*point, view))
             painter.drawLine(from, to);
 }
 

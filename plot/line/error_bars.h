@@ -37,9 +37,9 @@ public:
 
     const MarkedPoints& points() const { return m_points; }
     const ErrorBarStyle& style() const { return m_style; }
-    /// The strokes of the bar at a point, in pixels; `size` is that of the caps.
+    /// The strokes of the bar at a point in a view of `ratio` pixels to a pixel of the widget.
     std::vector<std::pair<QPointF, QPointF>> strokes(std::size_t point, const LineView& view,
-                                                     double size) const;
+                                                     double ratio = 1.0) const;
 
     const Polyline& places() const override { return *m_points.places; }
     LineBox bounds() const override;

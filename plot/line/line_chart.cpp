@@ -58,10 +58,11 @@ LineChart::LineChart(QCustomPlot& plot)
 
 LineChart::~LineChart() = default;
 
-void LineChart::setTitle(const ChartLook& look)
+void LineChart::takeTitle(const ChartLook& look)
 {
     constexpr double kTimesLarger = 1.2;
     QCPLayoutGrid& layout = *m_plot.plotLayout();
+    layout.setRowSpacing(look.share(0.23));
     if (!m_title && !look.title.isEmpty()) {
         m_title = new BrokenTitle(m_plot);
         layout.insertRow(0);

@@ -71,8 +71,8 @@ protected:
     /// How the shapes lie in the widget at present, whatever is outside left out.
     virtual ChartView view() = 0;
     virtual QPainterPath outline() const = 0; ///< of the shapes
-    /// Puts the title of the plot above it; none when it is empty.
-    void setTitle(const ChartLook& look);
+    /// Puts the title of the plot above it, none when it is empty, with the gaps between the parts.
+    void takeTitle(const ChartLook& look);
 
 private:
     class Sheet;

@@ -30,6 +30,7 @@ LegendLook legendLookOf(const host::Frame& frame, const host::NumberSet& drawn, 
     if (!frame.isOn(style::lineLegend.show))
         return look;
     look.font = lineFontOf(frame, height);
+    look.lineWidth = axisWidthOf(height);
     look.hasBox = frame.isOn(style::lineLegend.showBox);
     if (!frame.isOn(style::lineLegend.automaticPlace))
         look.corner = {frame.real(style::lineLegend.x), frame.real(style::lineLegend.y)};
@@ -122,10 +123,12 @@ QRectF LineLegend::leastHiding(const QSizeF& size) const
     return best;
 }
 
-/// A box with its outline within the plot.
-static QRectF within(const QRectF& whole, QRectF box)
+/// A box with its outline, which lies half outside, within the plot.
+static QRectF within(const QRectF& whole, QRectF box, double outline)
 {
-    const QRectF plot = whole.adjusted(0.0, 0.0, -1.0, -1.0);
+    const double before = std::floor(outline / 2.0);
+    const double behind = std::ceil(outline / 2.0);
+    const QRectF plot = whole.adjusted(before, before, -behind, -behind);
     box.moveLeft(std::max(std::min(box.left(), plot.right() - box.width()), plot.left()));
     box.moveTop(std::max(std::min(box.top(), plot.bottom() - box.height()), plot.top()));
     return box;
@@ -140,7 +143,7 @@ QRectF LineLegend::place(const QSizeF& size) const
                                                       m_look.corner->y() / 100.0 * plot.height()),
                                         size)
                                : leastHiding(size);
-    box = within(plot, box);
+    box = within(plot, box, m_look.lineWidth);
     return {QPointF(std::round(box.left()), std::round(box.top())), size};
 }
 
@@ -167,7 +170,8 @@ void LineLegend::draw(QCPPainter* painter)
     m_box = place(m_grid.size());
     painter->save();
     if (m_look.hasBox) {
-        painter->setPen(QPen(Qt::black, 0));
+        painter->setPen(
+            QPen(Qt::black, m_look.lineWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter->setBrush(Qt::white);
         painter->drawRect(m_box);
     }
@@ -190,7 +194,7 @@ void LineLegend::draw(QCPPainter* painter)
 
 void LineLegend::move(const QPointF& by)
 {
-    m_box = within(m_plot.viewport(), m_box.translated(by));
+    m_box = within(m_plot.viewport(), m_box.translated(by), m_look.lineWidth);
     m_look.corner = corner();
 }
 

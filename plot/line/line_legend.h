@@ -28,6 +28,7 @@ struct LegendLook
     std::optional<QPointF> corner; ///< upper left, in percent of the plot; nothing: where it hides
                                    ///< least
     double font = 12.0; ///< height of texts in pixels
+    double lineWidth = 1.0; ///< of the box, in whole pixels
     bool hasBox = true;
 };
 

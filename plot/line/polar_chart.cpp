@@ -46,8 +46,6 @@ PolarChart::PolarChart(QCustomPlot& plot)
     m_angle->setRange(0.0, 360.0);
     m_angle->setRangeDrag(false);
     m_angle->setRangeZoom(false);
-    m_angle->grid()->setAngularPen(QPen(QColor(200, 200, 200), 0, Qt::DotLine));
-    m_angle->grid()->setRadialPen(QPen(QColor(200, 200, 200), 0, Qt::DotLine));
 }
 
 QPainterPath PolarChart::outline() const
@@ -67,21 +65,38 @@ LinePlane PolarChart::plane(const LineAxes&) const
     return plane;
 }
 
+/// Texts, ticks and distances of the angle or the radius.
+template<typename Axis>
+static void setSizes(Axis& axis, const ChartLook& look)
+{
+    const QPen pen = look.axisPen(Qt::black);
+    axis.setBasePen(pen);
+    axis.setTickPen(pen);
+    axis.setSubTickPen(pen);
+    axis.setTickLabelFont(plotFont(look.font));
+    axis.setTickLength(look.share(0.25));
+    axis.setSubTickLength(look.share(0.1));
+    axis.setTickLabelPadding(look.share(0.25));
+}
+
 void PolarChart::setLook(const ChartLook& look)
 {
-    setTitle(look);
+    takeTitle(look);
     m_look = look.polar;
     m_titles->set(m_look.title, plotFont(look.font, true));
     m_angle->setRangeReversed(!m_look.isClockwise);
     m_angle->setAngle(-m_look.start);
     radius()->setAngle(90.0 + m_look.start); // downwards, whatever the angle is there
-    m_angle->setBasePen(look.showsBox ? QPen(Qt::black, 0) : QPen(Qt::NoPen));
+    m_angle->grid()->setAngularPen(look.gridPen(Qt::DotLine));
+    m_angle->grid()->setRadialPen(look.gridPen(Qt::DotLine));
     m_angle->grid()->setVisible(look.showsGrid);
-    const int above = static_cast<int>(std::lround(1.7 * look.font)); // room for numbers
-    const int beside = static_cast<int>(std::lround(2.6 * look.font));
+    const int above = look.share(1.7); // room for numbers
+    const int beside = look.share(2.6);
     m_angle->setMinimumMargins({beside, above, beside, above});
-    m_angle->setTickLabelFont(plotFont(look.font));
-    radius()->setTickLabelFont(plotFont(look.font));
+    setSizes(*m_angle, look);
+    setSizes(*radius(), look);
+    if (!look.showsBox)
+        m_angle->setBasePen(Qt::NoPen);
 }
 
 ChartRange PolarChart::home(const AxisRange& radii) const

@@ -76,7 +76,7 @@ private:
     };
 
     void addAxes(Direction& direction, QCPAxis::AxisType side, QCPAxis::AxisType across);
-    void applyLook(Axis& axis);
+    static void applyLook(Axis& axis, const ChartLook& look);
     void showInUse(Direction& direction, QList<QCPAxis*>& shown);
     void followBorders(Direction& direction);
     AxisRange home(const Direction& direction, std::size_t number) const;
@@ -86,9 +86,7 @@ private:
     Box* m_box; // owned by the plot
     Direction m_first;
     Direction m_second;
-    bool m_showsGrid = true;
-    bool m_showsBox = true;
-    double m_font = 12.0;
+    ChartLook m_look;
 };
 
 /// Adapts the texts before each layout.
@@ -174,30 +172,30 @@ static void setScale(QCPAxis& axis, bool isLogarithmic)
     axis.setScaleType(isLogarithmic ? QCPAxis::stLogarithmic : QCPAxis::stLinear);
 }
 
-static void setColor(QCPAxis& axis, const QColor& color)
+static void setPen(QCPAxis& axis, const QPen& pen)
 {
-    const QPen pen(color, 0, Qt::SolidLine, Qt::SquareCap);
     axis.setBasePen(pen);
     axis.setTickPen(pen);
     axis.setSubTickPen(pen);
-    axis.setTickLabelColor(color);
-    axis.setLabelColor(color);
+    axis.setTickLabelColor(pen.color());
+    axis.setLabelColor(pen.color());
 }
 
-/// Texts, ticks and distances with a font of some pixels.
-static void setFont(QCPAxis& axis, double font)
+/// Texts, ticks, distances and the grid.
+static void setSizes(QCPAxis& axis, const ChartLook& look)
 {
-    const auto share = [font](double part) { return static_cast<int>(std::lround(part * font)); };
-    axis.setTickLabelFont(plotFont(font));
-    axis.setLabelFont(plotFont(font, true));
-    axis.setTickLength(share(0.4));
-    axis.setSubTickLength(share(0.2));
-    axis.setTickLabelPadding(share(0.35));
-    axis.setLabelPadding(share(0.25));
-    axis.setPadding(share(1.0)); // the widths of powers are underestimated
+    axis.setTickLabelFont(plotFont(look.font));
+    axis.setLabelFont(plotFont(look.font, true));
+    axis.setTickLength(look.share(0.4));
+    axis.setSubTickLength(look.share(0.2));
+    axis.setTickLabelPadding(look.share(0.35));
+    axis.setLabelPadding(look.share(0.25));
+    axis.setPadding(look.share(1.0)); // the widths of powers are underestimated
+    axis.grid()->setPen(look.gridPen(Qt::DotLine));
+    axis.grid()->setZeroLinePen(look.gridPen(Qt::SolidLine));
 }
 
-void XyChart::applyLook(Axis& axis)
+void XyChart::applyLook(Axis& axis, const ChartLook& look)
 {
     const Ticks ticks = ticksOf(axis.look);
     const bool isOther = std::exchange(axis.ticks, ticks) != ticks;
@@ -211,27 +209,27 @@ void XyChart::applyLook(Axis& axis)
         if (isOther)
             side->setTicker(tickerOf(ticks));
         side->setRangeReversed(axis.look.isReversed);
-        setColor(*side, axis.look.color);
-        setFont(*side, m_font);
+        setPen(*side, look.axisPen(axis.look.color));
+        setSizes(*side, look);
     }
 }
 
 void XyChart::setLook(const ChartLook& look)
 {
-    setTitle(look);
-    m_font = look.font;
-    m_showsGrid = look.showsGrid;
-    m_showsBox = look.showsBox;
-    const auto take = [this](Direction& direction, const auto& looks) {
+    takeTitle(look);
+    m_look = look;
+    const int margin = look.share(0.7);
+    m_box->setMinimumMargins({margin, margin, margin, margin});
+    const auto take = [&look](Direction& direction, const auto& looks) {
         for (std::size_t i = 0; i < kAxisCount; ++i) {
             Axis& axis = direction.axes[i];
             const QCPRange range = axis.shown().range();
             axis.look = looks[i];
             axis.shown().setRange(range);
-            applyLook(axis);
+            applyLook(axis, look);
         }
         for (QCPAxis* const border : direction.borders)
-            setFont(*border, m_font);
+            setSizes(*border, look);
     };
     take(m_first, look.first);
     take(m_second, look.second);
@@ -243,7 +241,7 @@ void XyChart::adaptToSize()
 {
     constexpr double kShare = 0.85; // of the plot
     const auto adapt = [this](Direction& direction, double length, double perNumber) {
-        const int most = std::clamp(static_cast<int>(length / (perNumber * m_font)), 2, 5);
+        const int most = std::clamp(static_cast<int>(length / (perNumber * m_look.font)), 2, 5);
         for (Axis& axis : direction.axes) {
             QCPAxis& shown = axis.shown();
             shown.ticker()->setTickCount(most);
@@ -290,7 +288,7 @@ void XyChart::followBorders(Direction& direction)
         border->setTicker(leading.ticker());
         border->setRangeReversed(leading.rangeReversed());
         border->setRange(leading.range());
-        setColor(*border, leading.basePen().color());
+        setPen(*border, leading.basePen());
     }
 }
 
@@ -309,7 +307,7 @@ void XyChart::showInUse(Direction& direction, QList<QCPAxis*>& shown)
         const std::size_t side = axis.look.isOpposite ? 1 : 0;
         for (QCPAxis* const one : axis.sides) {
             one->setVisible(isInUse[i] && one == axis.sides[side]);
-            one->grid()->setVisible(one->visible() && m_showsGrid && i == direction.leading);
+            one->grid()->setVisible(one->visible() && m_look.showsGrid && i == direction.leading);
         }
         if (!isInUse[i])
             continue;
@@ -317,7 +315,7 @@ void XyChart::showInUse(Direction& direction, QList<QCPAxis*>& shown)
         shown.append(&axis.shown());
     }
     for (std::size_t side = 0; side < isTaken.size(); ++side)
-        direction.borders[side]->setVisible(m_showsBox && !isTaken[side]);
+        direction.borders[side]->setVisible(m_look.showsBox && !isTaken[side]);
     followBorders(direction);
 }
 
