@@ -2,11 +2,13 @@
 #pragma once
 
 #include "host/operations/operation.h"
+#include "host/style/schema.h"
 #include "vocabulary/style.h"
 
 #include <QString>
 
 #include <optional>
+#include <utility>
 
 namespace corvala::plot {
 
@@ -18,5 +20,11 @@ struct SceneNote
     QString caption = {}; ///< of what mends it; empty without
     std::optional<host::SetStyle> mending = {};
 };
+
+/// Gives the frame a value; `index`, from 1, is that of one of several.
+inline host::SetStyle frameValue(style::Key key, host::StyleInput value, int index = -1)
+{
+    return {host::pathOf(key), std::move(value), std::nullopt, index};
+}
 
 } // namespace corvala::plot

@@ -94,13 +94,10 @@ void LineCanvas::letGo()
 {
     const QPointF corner = m_plot.legend().corner();
     host::Document& document = host::Document::instance();
-    const auto write = [&](style::Key key, const host::StyleInput& value) {
-        document.execute(host::SetStyle {host::pathOf(key), value, std::nullopt});
-    };
     document.undo().begin(UndoKind_StyleGroup);
-    write(style::lineLegend.automaticPlace, false);
-    write(style::lineLegend.x, corner.x());
-    write(style::lineLegend.y, corner.y());
+    document.execute(frameValue(style::lineLegend.automaticPlace, false));
+    document.execute(frameValue(style::lineLegend.x, corner.x()));
+    document.execute(frameValue(style::lineLegend.y, corner.y()));
     document.undo().end(host::UndoHistory::Closing::OneStep);
 }
 

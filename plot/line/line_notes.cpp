@@ -47,14 +47,6 @@ private:
     const LineNoteFacts& m_facts;
 };
 
-host::SetStyle written(style::Key key, int value, int index)
-{
-    host::SetStyle operation {host::pathOf(key), double(value), std::nullopt};
-    if (index > 0)
-        operation.index = index;
-    return operation;
-}
-
 LineNotes::Axis LineNotes::xyAxis(const style::LineAxis& style, bool isFirst, int number) const
 {
     const bool isLogarithmic = m_facts.frame.integer(style.scale, number) == AxisScale_Logarithmic;
@@ -101,7 +93,7 @@ std::optional<SceneNote> LineNotes::range(const Axis& axis) const
     else
         return std::nullopt;
     return SceneNote {text, axis.rangeMin, tr("Keep the Range of the Data"),
-                      written(axis.automaticRange, 1, axis.index)};
+                      frameValue(axis.automaticRange, true, axis.index)};
 }
 
 /// Points that have no place along a logarithmic axis.
@@ -128,7 +120,7 @@ std::optional<SceneNote> LineNotes::leftOut(bool isFirst, int number) const
                          nullptr, static_cast<int>(count))
                           .arg(axis.name),
                       style.scale, tr("Make the Axis Linear"),
-                      written(style.scale, AxisScale_Linear, number)};
+                      frameValue(style.scale, double {AxisScale_Linear}, number)};
 }
 
 /// The first map whose curve is missing.
@@ -153,7 +145,7 @@ std::optional<SceneNote> LineNotes::errorBars() const
     const host::Frame& frame = m_facts.frame;
     if (!frame.isOn(style::kErrorBarsLayer.shown) || frame.activeLineMaps().isEmpty())
         return std::nullopt;
-    const host::SetStyle off = written(style::kErrorBarsLayer.shown, 0, -1);
+    const host::SetStyle off = frameValue(style::kErrorBarsLayer.shown, false);
     if (frame.plotType() == PlotType_LinePolar)
         return SceneNote {tr("Error bars are drawn in XY plots only."), bars.show,
                           tr("Switch Off the Layer"), off};

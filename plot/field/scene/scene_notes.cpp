@@ -85,14 +85,6 @@ bool anyLook(const BlockLook&)
     return true;
 }
 
-host::SetStyle switched(style::SwitchKey key, bool isOn, int index = -1)
-{
-    host::SetStyle value {host::pathOf(key), isOn, std::nullopt};
-    if (index > 0)
-        value.index = index;
-    return value;
-}
-
 std::optional<SceneNote> Notes::blanking() const
 {
     constexpr const auto& value = style::blanking.value;
@@ -106,7 +98,7 @@ std::optional<SceneNote> Notes::blanking() const
                          "%1.")
                           .arg(constraints.join(QStringLiteral(", "))),
                       value.include, tr("Switch Off Value Blanking"),
-                      switched(value.include, false)};
+                      frameValue(value.include, false)};
 }
 
 /// Those that take nothing away, whatever the data are.
@@ -123,7 +115,7 @@ std::optional<SceneNote> Notes::constraints() const
             return SceneNote {
                 tr("Blanking constraint %1 takes nothing away: it has no variable.").arg(i),
                 number(constraint.var, i) == 0 ? constraint.var : constraint.comparedVar,
-                tr("Switch Off the Constraint"), switched(constraint.include, false, i)};
+                tr("Switch Off the Constraint"), frameValue(constraint.include, false, i)};
     }
     return std::nullopt;
 }
@@ -149,7 +141,7 @@ std::optional<SceneNote> Notes::axes() const
                                   .arg(least)
                                   .arg(most),
                               axis.rangeMin, tr("Keep the Range of the Data"),
-                              switched(axis.automaticRange, true)};
+                              frameValue(axis.automaticRange, true)};
     }
     return std::nullopt;
 }
@@ -170,7 +162,7 @@ std::optional<SceneNote> Notes::levels() const
                 .arg(lowest)
                 .arg(highest),
             groups.levelMin, tr("Keep Levels by the Data"),
-            switched(groups.automaticLevels, true, group)};
+            frameValue(groups.automaticLevels, true, group)};
     }
     return std::nullopt;
 }
@@ -240,7 +232,7 @@ std::optional<SceneNote> Notes::slice(int slice) const
               .arg(m_facts.groups.minimum(group))
               .arg(m_facts.groups.maximum(group));
     return SceneNote {text, style::slices.position, tr("Move It to the Middle"),
-                      switched(style::slices.automaticPosition, true, slice)};
+                      frameValue(style::slices.automaticPosition, true, slice)};
 }
 
 std::optional<SceneNote> Notes::slices() const
@@ -284,7 +276,7 @@ std::optional<SceneNote> Notes::isoValues() const
                     .arg(nameOf(m_facts.groups.variable(kGroup)))
                     .arg(m_facts.groups.minimum(kGroup))
                     .arg(m_facts.groups.maximum(kGroup)),
-                kValues[i], tr("Take Values of the Data"), switched(iso.automaticValues, true)};
+                kValues[i], tr("Take Values of the Data"), frameValue(iso.automaticValues, true)};
     }
     return std::nullopt;
 }
@@ -299,7 +291,7 @@ std::optional<SceneNote> Notes::streamtraces() const
                     streams.automaticRake};
     if (number(streams.automaticRake) == 0) {
         note.caption = tr("Lay the Rake Across the Data");
-        note.mending = switched(streams.automaticRake, true);
+        note.mending = frameValue(streams.automaticRake, true);
     }
     return note;
 }
