@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/bar_chart.h"
 
+#include "plot/line/cover_grid.h"
+
 #include "plot/line/marked_points.h"
 
 #include <QPainter>
@@ -69,6 +71,13 @@ void BarStyle::paint(QPainter& painter, const QRectF& bar) const
     painter.drawRect(bar);
 }
 
+double BarChart::base(const LineView& view) const
+{
+    const LineScale& scale = m_style.isUpright ? view.y : view.x;
+    constexpr double kFar = 1e12; // where 0 of a logarithmic axis is
+    return m_hasZero ? scale(0.0) : scale.scale > 0.0 ? -kFar : kFar;
+}
+
 QRectF BarChart::bar(std::size_t point, const LineView& view, double ratio) const
 {
     const double width = m_style.width * ratio;
@@ -78,11 +87,9 @@ QRectF BarChart::bar(std::size_t point, const LineView& view, double ratio) cons
     const QPointF value = view.pixel(m_places->x(point), m_places->y(point));
     const LineBox& seen = view.visible;
     const bool isUpright = m_style.isUpright;
-    const LineScale& scale = isUpright ? view.y : view.x;
     const double first = (isUpright ? seen.low : seen.left) - beyond;
     const double last = (isUpright ? seen.high : seen.right) + beyond;
-    const double edge = scale.scale > 0.0 ? first : last;
-    const double zero = std::clamp(m_hasZero ? scale(0.0) : edge, first, last);
+    const double zero = std::clamp(base(view), first, last);
     const double end = std::clamp(isUpright ? value.y() : value.x(), first, last);
     const QRectF bar = isUpright
         ? QRectF(QPointF(value.x() - width / 2.0, zero), QPointF(value.x() + width / 2.0, end))
@@ -115,6 +122,25 @@ double BarChart::distance(const LineView& view, const QPointF& pixel, double lim
         limit = std::min(limit, std::hypot(across, up));
     }
     return limit;
+}
+
+void BarChart::cover(CoverGrid& grid, const LineView& view) const
+{
+    const double across = m_style.width / 2.0;
+    const double zero = base(view);
+    const auto reach = [&](LineBox box) {
+        if (m_style.isUpright)
+            return LineBox {box.left - across, box.right + across, std::min(box.low, zero),
+                            std::max(box.high, zero)};
+        return LineBox {std::min(box.left, zero), std::max(box.right, zero), box.low - across,
+                        box.high + across};
+    };
+    grid.addRuns(*m_places, view, reach, [&](std::size_t point) {
+        LineBox value;
+        const QPointF pixel = view.pixel(m_places->x(point), m_places->y(point));
+        value.add(pixel.x(), pixel.y());
+        grid.add(reach(value));
+    });
 }
 
 std::unique_ptr<ShapeDrawing> BarChart::begin(const InkSheet& sheet, const LineView& view) const

@@ -44,10 +44,14 @@ public:
 
     LineBox bounds() const override;
     double distance(const LineView& view, const QPointF& pixel, double limit) const override;
+    void cover(CoverGrid& grid, const LineView& view) const override;
     std::unique_ptr<ShapeDrawing> begin(const InkSheet& sheet, const LineView& view) const override;
     void paint(QPainter& painter, const LineView& view) const override;
 
 private:
+    /// The pixel where bars come from.
+    double base(const LineView& view) const;
+
     std::shared_ptr<const Polyline> m_places;
     bool m_hasZero;
     BarStyle m_style;

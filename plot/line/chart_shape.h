@@ -12,6 +12,8 @@ class QPainter;
 
 namespace corvala::plot {
 
+class CoverGrid;
+
 /// Where shapes are drawn in slices. The mask is of the picture's size, and empty before and after
 /// each shape.
 struct InkSheet
@@ -46,6 +48,8 @@ public:
     virtual LineBox bounds() const = 0;
     /// Pixels between the shape and a pixel, when less than `limit`, else `limit`.
     virtual double distance(const LineView& view, const QPointF& pixel, double limit) const = 0;
+    /// Adds what it covers in a view.
+    virtual void cover(CoverGrid& grid, const LineView& view) const = 0;
     /// Begins to draw it as it is seen in a view, which is in pixels of the sheet. The sheet must
     /// outlive the drawing, and so must the shape.
     virtual std::unique_ptr<ShapeDrawing> begin(const InkSheet& sheet,

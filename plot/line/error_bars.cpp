@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/error_bars.h"
 
+#include "plot/line/cover_grid.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -137,6 +139,16 @@ double ErrorBars::distance(const LineView& view, const QPointF& pixel, double li
             limit = std::min(limit, distanceToSegment(pixel, from, to));
     }
     return limit;
+}
+
+/// The ends of bars are in no boxes of runs: of many bars, some are looked at.
+void ErrorBars::cover(CoverGrid& grid, const LineView& view) const
+{
+    constexpr std::size_t kMost = 10'000;
+    for (std::size_t point = 0; point < places().size(); point += places().size() / kMost + 1)
+        if (places().isFinite(point))
+            for (const auto& [from, to] : strokes(point, view))
+                grid.add(from, to);
 }
 
 std::unique_ptr<ShapeDrawing> ErrorBars::begin(const InkSheet& sheet, const LineView& view) const

@@ -28,6 +28,13 @@ private:
     LineChart& m_chart;
 };
 
+struct LineChart::Cover
+{
+    ChartView view;
+    std::int64_t changes; ///< of the ink
+    CoverGrid grid;
+};
+
 BrokenTitle::BrokenTitle(QCustomPlot& plot)
     : QCPTextElement(&plot)
 {
@@ -105,18 +112,23 @@ void LineChart::draw(QCPPainter& painter)
     painter.drawImage(place.topLeft(), picture);
 }
 
-int LineChart::hiddenBy(const QRectF& box)
+/// What is covered of a view, as long as shapes and view stay.
+const CoverGrid& LineChart::cover()
 {
-    constexpr std::size_t kMostPoints = 100'000;
-    std::size_t points = 0;
-    for (const auto& [key, placed] : m_ink.shapes())
-        points += m_ink.isShown(key) ? placed.shape->places().size() : 0;
-    const ChartView seen = view();
-    CoverGrid grid(box);
+    const ChartView seen = seenIn(area());
+    if (m_cover && m_cover->view == seen && m_cover->changes == m_ink.changeCount())
+        return m_cover->grid;
+    m_cover = std::make_unique<Cover>(Cover {seen, m_ink.changeCount(), CoverGrid(area())});
     for (const auto& [key, placed] : m_ink.shapes())
         if (m_ink.isShown(key))
-            grid.add(placed.shape->places(), seen.along(placed.axes), points / kMostPoints + 1);
-    return grid.count();
+            placed.shape->cover(m_cover->grid, seen.along(placed.axes));
+    coverTexts(m_cover->grid);
+    return m_cover->grid;
+}
+
+int LineChart::hiddenBy(const QRectF& box)
+{
+    return cover().count(box);
 }
 
 std::int64_t LineChart::mapAt(const QPointF& pixel, double tolerance)

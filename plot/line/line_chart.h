@@ -56,8 +56,8 @@ public:
 
     /// Where a legend has its corners, in pixels.
     virtual QRect area() const = 0;
-    /// How much of a rectangle in pixels is over shapes that are shown, in hundredths; of many
-    /// points some are looked at.
+    /// How much of a rectangle in pixels is over shapes that are shown, or over texts of the axes
+    /// in the area: cells of a grid over it.
     int hiddenBy(const QRectF& box);
     /// The map of the shape nearest to a pixel, up to `tolerance` pixels away; 0 for none.
     std::int64_t mapAt(const QPointF& pixel, double tolerance);
@@ -71,19 +71,23 @@ protected:
     /// How the shapes lie in the widget at present, whatever is outside left out.
     virtual ChartView view() = 0;
     virtual QPainterPath outline() const = 0; ///< of the shapes
+    virtual void coverTexts(CoverGrid&) const { } ///< of the axes, within the area
     /// Puts the title of the plot above it, none when it is empty, with the gaps between the parts.
     void takeTitle(const ChartLook& look);
 
 private:
     class Sheet;
+    struct Cover;
     /// The view, of which a part of the widget is seen.
     ChartView seenIn(const QRectF& place);
+    const CoverGrid& cover();
     void draw(QCPPainter& painter);
 
     LineInk m_ink;
     QCustomPlot& m_plot;
     BrokenTitle* m_title = nullptr; // owned by the plot
     std::unique_ptr<Sheet> m_sheet;
+    std::unique_ptr<Cover> m_cover; ///< of what was seen last; null at first
     std::function<void()> m_beforeDrawing;
     int m_patience = kPatience;
 };

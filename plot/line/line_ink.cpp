@@ -14,6 +14,7 @@ void LineInk::set(const ShapeKey& key, std::shared_ptr<const ChartShape> shape,
 {
     m_drawing.reset(); // which may be of the shape that goes
     m_shapes[key] = {std::move(shape), axes};
+    ++m_changes;
     restart();
 }
 
@@ -24,13 +25,16 @@ void LineInk::remove(const ShapeKey& key)
         return;
     m_drawing.reset();
     m_shapes.erase(found);
+    ++m_changes;
     restart();
 }
 
 void LineInk::setLayers(std::uint32_t layers)
 {
-    if (std::exchange(m_layers, layers) != layers)
-        restart();
+    if (std::exchange(m_layers, layers) == layers)
+        return;
+    ++m_changes;
+    restart();
 }
 
 void LineInk::restart()

@@ -72,6 +72,8 @@ public:
         std::shared_ptr<const ChartShape> shape;
         LineAxes axes;
     };
+    /// Grows with every change of what is shown.
+    std::int64_t changeCount() const { return m_changes; }
     const std::map<ShapeKey, Placed>& shapes() const { return m_shapes; }
     bool isShown(const ShapeKey& key) const { return (m_layers >> key.layer & 1U) != 0; }
 
@@ -90,6 +92,7 @@ private:
     ShapeKey m_current; ///< of the shape in work, or of the one before
     std::unique_ptr<ShapeDrawing> m_drawing; ///< null between shapes
     std::int64_t m_done = 0; ///< shapes
+    std::int64_t m_changes = 0;
     int m_simplified = 0;
     bool m_hasWork = false;
     bool m_isStale = false;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/common/axis_ticks.h"
+#include "plot/line/cover_grid.h"
 #include "plot/line/line_chart.h"
+
+#include <QFontMetricsF>
 
 #include <algorithm>
 #include <cmath>
@@ -24,6 +27,7 @@ public:
 protected:
     ChartView view() override;
     QPainterPath outline() const override;
+    void coverTexts(CoverGrid& grid) const override;
 
 private:
     QCPPolarAxisRadial* radius() const { return m_angle->radialAxis(); }
@@ -53,6 +57,23 @@ QPainterPath PolarChart::outline() const
     QPainterPath outline;
     outline.addEllipse(m_angle->center(), m_angle->radius(), m_angle->radius());
     return outline;
+}
+
+/// Numbers of the angle stand outside the circle.
+void PolarChart::coverTexts(CoverGrid& grid) const
+{
+    const QFontMetricsF metrics(m_angle->tickLabelFont());
+    const QVector<double> places = m_angle->tickVector();
+    const QVector<QString> texts = m_angle->tickVectorLabels();
+    for (int i = 0; i < std::min(places.size(), texts.size()); ++i) {
+        const QPointF rim = m_angle->coordToPixel(places[i], radius()->range().upper);
+        const QPointF out = (rim - m_angle->center()) / std::max(m_angle->radius(), 1.0);
+        const QSizeF half(metrics.horizontalAdvance(texts[i]) / 2.0, metrics.height() / 2.0);
+        const double away = std::abs(out.x()) * half.width() + std::abs(out.y()) * half.height();
+        const QPointF middle = rim + (m_angle->tickLabelPadding() + away) * out;
+        grid.add({middle.x() - half.width(), middle.x() + half.width(), middle.y() - half.height(),
+                  middle.y() + half.height()});
+    }
 }
 
 LinePlane PolarChart::plane(const LineAxes&) const

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/stroked_line.h"
 
+#include "plot/line/cover_grid.h"
+
 #include "plot/line/line_tracer.h"
 
 #include <QPainter>
@@ -219,6 +221,19 @@ private:
 };
 
 } // namespace
+
+void StrokedLine::cover(CoverGrid& grid, const LineView& view) const
+{
+    const auto pixel = [&](std::size_t point) {
+        return view.pixel(m_points->x(point), m_points->y(point));
+    };
+    grid.addRuns(
+        *m_points, view, [](const LineBox& box) { return box; },
+        [&](std::size_t point) {
+            const std::size_t next = std::min(point + 1, m_points->size() - 1);
+            grid.add(pixel(point), pixel(m_points->isFinite(next) ? next : point));
+        });
+}
 
 std::unique_ptr<ShapeDrawing> StrokedLine::begin(const InkSheet& sheet, const LineView& view) const
 {

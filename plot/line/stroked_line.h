@@ -41,6 +41,7 @@ public:
     {
         return m_points->distance(view, pixel, limit);
     }
+    void cover(CoverGrid& grid, const LineView& view) const override;
     std::unique_ptr<ShapeDrawing> begin(const InkSheet& sheet, const LineView& view) const override;
     void paint(QPainter& painter, const LineView& view) const override;
 

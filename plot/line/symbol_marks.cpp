@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/symbol_marks.h"
 
+#include "plot/line/cover_grid.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -128,6 +130,17 @@ double SymbolMarks::distance(const LineView& view, const QPointF& pixel, double 
         limit = std::min(limit, std::max(std::hypot(way.x(), way.y()) - m_style.size / 2.0, 0.0));
     }
     return limit;
+}
+
+void SymbolMarks::cover(CoverGrid& grid, const LineView& view) const
+{
+    const auto reach = [this](const LineBox& box) { return box.grown(m_style.reach()); };
+    grid.addRuns(*m_points.places, view, reach, [&](std::size_t point) {
+        LineBox box;
+        const QPointF pixel = view.pixel(places().x(point), places().y(point));
+        box.add(pixel.x(), pixel.y());
+        grid.add(reach(box));
+    });
 }
 
 std::unique_ptr<ShapeDrawing> SymbolMarks::begin(const InkSheet& sheet, const LineView& view) const

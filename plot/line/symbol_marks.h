@@ -42,6 +42,7 @@ public:
     const Polyline& places() const override { return *m_points.places; }
     LineBox bounds() const override { return m_points.places->bounds(); }
     double distance(const LineView& view, const QPointF& pixel, double limit) const override;
+    void cover(CoverGrid& grid, const LineView& view) const override;
     std::unique_ptr<ShapeDrawing> begin(const InkSheet& sheet, const LineView& view) const override;
     void paint(QPainter& painter, const LineView& view) const override;
 
