@@ -99,6 +99,7 @@ void LineCanvas::letGo()
     document.execute(frameValue(style::lineLegend.x, corner.x()));
     document.execute(frameValue(style::lineLegend.y, corner.y()));
     document.undo().end(host::UndoHistory::Closing::OneStep);
+    m_plot.legend().letGo();
 }
 
 /// What the axes show at first, and where the legend is.

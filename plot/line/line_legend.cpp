@@ -138,11 +138,13 @@ static QRectF within(const QRectF& whole, QRectF box, double outline)
 QRectF LineLegend::place(const QSizeF& size) const
 {
     const QRectF plot = m_plot.viewport();
-    QRectF box = m_look.corner ? QRectF(plot.topLeft()
-                                            + QPointF(m_look.corner->x() / 100.0 * plot.width(),
-                                                      m_look.corner->y() / 100.0 * plot.height()),
-                                        size)
-                               : leastHiding(size);
+    const auto set = [&plot](const QPointF& corner) {
+        return plot.topLeft()
+            + QPointF(corner.x() / 100.0 * plot.width(), corner.y() / 100.0 * plot.height());
+    };
+    QRectF box = m_held ? QRectF(*m_held, size)
+        : m_look.corner ? QRectF(set(*m_look.corner), size)
+                        : leastHiding(size);
     box = within(plot, box, m_look.lineWidth);
     return {QPointF(std::round(box.left()), std::round(box.top())), size};
 }
@@ -194,8 +196,8 @@ void LineLegend::draw(QCPPainter* painter)
 
 void LineLegend::move(const QPointF& by)
 {
-    m_box = within(m_plot.viewport(), m_box.translated(by), m_look.lineWidth);
-    m_look.corner = corner();
+    m_held = m_held.value_or(m_box.topLeft()) + by;
+    m_box = place(m_box.size());
 }
 
 QPointF LineLegend::corner() const

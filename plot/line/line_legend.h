@@ -50,8 +50,10 @@ public:
 
     /// Where it was drawn last; empty without entries.
     const QRectF& box() const { return m_box; }
-    /// Moves it by some pixels, within the plot.
+    /// Moves it by some pixels, seen within the plot only; it stays there, whatever is set, until
+    /// it is let go.
     void move(const QPointF& by);
+    void letGo() { m_held.reset(); }
     /// Its upper left corner in percent of the plot.
     QPointF corner() const;
     /// The map of the entry at a pixel; 0 for none.
@@ -84,6 +86,7 @@ private:
     QCustomPlot& m_plot;
     LineChart* m_chart = nullptr;
     LegendLook m_look;
+    std::optional<QPointF> m_held; ///< pixel of the corner that a hand has hold of
     Grid m_grid;
     QRectF m_box;
 };
