@@ -21,7 +21,7 @@ struct AxisVariables
 
     void add(const host::Frame& drawn, CvlInt64 variable);
     QString title(bool hasLegend) const;
-    void title(AxisLook& axis, bool hasLegend) const;
+    void title(AxisLook& axis, bool hasLegend, QStringList& told) const;
 };
 
 } // namespace
@@ -45,11 +45,13 @@ QString AxisVariables::title(bool hasLegend) const
     return hasLegend ? QString() : names.mid(0, kMostNames).join(separator) + ", \u2026";
 }
 
-void AxisVariables::title(AxisLook& axis, bool hasLegend) const
+void AxisVariables::title(AxisLook& axis, bool hasLegend, QStringList& told) const
 {
     axis.isOfInstants = areInstants && !names.isEmpty();
     if (axis.title.isEmpty())
         axis.title = title(hasLegend);
+    if (!names.isEmpty())
+        told.append(axis.title);
 }
 
 void addVariableNames(const host::Frame& drawn, const host::NumberSet& maps, ChartLook& look)
@@ -65,15 +67,20 @@ void addVariableNames(const host::Frame& drawn, const host::NumberSet& maps, Cha
         second[axes.second].add(drawn, recipe.second);
     }
     const bool hasLegend = drawn.isOn(style::lineLegend.show);
-    for (std::size_t i = 0; i < kAxisCount; ++i) {
-        first[i].title(look.first[i], hasLegend);
-        second[i].title(look.second[i], hasLegend);
+    if (drawn.plotType() != PlotType_LinePolar) {
+        for (std::size_t i = 0; i < kAxisCount; ++i) {
+            first[i].title(look.first[i], hasLegend, look.told);
+            second[i].title(look.second[i], hasLegend, look.told);
+        }
+        return;
     }
     const QString angle = first[0].title(hasLegend);
     const QString radius = second[0].title(hasLegend);
-    if (look.polar.title.isEmpty() && !angle.isEmpty() && !radius.isEmpty())
-        look.polar.title =
-            QCoreApplication::translate("AxisNames", "%1 over %2").arg(radius, angle);
+    look.told.append(look.polar.title);
+    if (!look.polar.title.isEmpty() || angle.isEmpty() || radius.isEmpty())
+        return;
+    look.polar.title = QCoreApplication::translate("AxisNames", "%1 over %2").arg(radius, angle);
+    look.told.append(radius);
 }
 
 } // namespace corvala::plot

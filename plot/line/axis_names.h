@@ -7,7 +7,7 @@
 namespace corvala::plot {
 
 /// Gives axes without a title of their own the names of the variables that maps have along them,
-/// and tells which of them show instants.
+/// and tells which of them show instants, and what all their titles say.
 void addVariableNames(const host::Frame& frame, const host::NumberSet& maps, ChartLook& look);
 
 } // namespace corvala::plot

@@ -57,7 +57,8 @@ static PolarLook polarLook(const host::Frame& frame)
     return look;
 }
 
-double lineFontOf(const host::Frame& frame, int height)
+/// What was set, at most a tenth of the height.
+static double fontOf(const host::Frame& frame, int height)
 {
     constexpr double kSmallest = 4.0; // pixels
     constexpr double kLargest = 0.1; // of the height
@@ -65,7 +66,8 @@ double lineFontOf(const host::Frame& frame, int height)
     return std::max(std::min(font, kLargest * height), kSmallest);
 }
 
-double axisWidthOf(int height)
+/// As other lines, a share of the height; of whole pixels, since axes are drawn without smoothing.
+static double axisWidthOf(int height)
 {
     constexpr double kPercent = 0.13; // of the height
     return std::max(std::round(kPercent / 100.0 * height), 1.0);
@@ -85,7 +87,7 @@ ChartLook chartLookOf(const host::Frame& frame, int height)
     }
     look.polar = polarLook(frame);
     look.title = QString::fromStdString(frame.text(style::lineFrame.title));
-    look.font = lineFontOf(frame, height);
+    look.font = fontOf(frame, height);
     look.lineWidth = axisWidthOf(height);
     look.showsGrid = frame.isOn(style::lineFrame.showGrid);
     look.showsBox = frame.isOn(style::lineFrame.showBox);

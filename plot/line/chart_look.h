@@ -6,7 +6,7 @@
 
 #include <QColor>
 #include <QPen>
-#include <QString>
+#include <QStringList>
 
 #include <array>
 
@@ -39,6 +39,7 @@ struct ChartLook
     std::array<AxisLook, kAxisCount> second;
     PolarLook polar;
     QString title;
+    QStringList told; ///< what titles of axes in use name, each as a whole
     double font = 12.0; ///< height of texts in pixels
     double lineWidth = 1.0; ///< of axes, ticks and grid, in whole pixels
     bool showsGrid = true;
@@ -59,12 +60,6 @@ struct ChartLook
 
 /// The look of a frame in a picture `height` pixels high. Titles are those that were set.
 ChartLook chartLookOf(const host::Frame& frame, int height);
-
-/// The height in pixels of all texts in such a picture: what was set, at most a tenth of it.
-double lineFontOf(const host::Frame& frame, int height);
-
-/// The width in whole pixels of axes, ticks, grid and boxes in such a picture.
-double axisWidthOf(int height);
 
 /// Whether the value is a range that a view begins with.
 bool isChartRange(style::Key value);

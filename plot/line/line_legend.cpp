@@ -24,13 +24,30 @@ static std::vector<LegendSample> samplesOf(const ShownLine& line)
     return samples;
 }
 
-LegendLook legendLookOf(const host::Frame& frame, const host::NumberSet& drawn, int height)
+/// Whether a legend would name nothing that a title does not, and tell no maps apart.
+static bool isTold(const host::Frame& frame, const host::NumberSet& drawn, const LegendLook& look,
+                   const QStringList& told)
+{
+    if (look.count != 1 || !told.contains(look.entries.front().name))
+        return false;
+    const std::string name = host::shownLineMapName(frame, look.entries.front().map);
+    for (const std::uint32_t map : drawn) {
+        const int mode = frame.lineInteger(style::lineMap.assign.showInLegend, map);
+        if (isSeen(frame, map)
+            && (mode != LegendShow_Auto || host::shownLineMapName(frame, map) != name))
+            return false;
+    }
+    return drawn.contains(static_cast<std::uint32_t>(look.entries.front().map));
+}
+
+LegendLook legendLookOf(const host::Frame& frame, const host::NumberSet& drawn, int height,
+                        const ChartLook& chart)
 {
     LegendLook look;
     if (!frame.isOn(style::lineLegend.show))
         return look;
-    look.font = lineFontOf(frame, height);
-    look.lineWidth = axisWidthOf(height);
+    look.font = chart.font;
+    look.lineWidth = chart.lineWidth;
     look.hasBox = frame.isOn(style::lineLegend.showBox);
     if (!frame.isOn(style::lineLegend.automaticPlace))
         look.corner = {frame.real(style::lineLegend.x), frame.real(style::lineLegend.y)};
@@ -51,7 +68,7 @@ LegendLook legendLookOf(const host::Frame& frame, const host::NumberSet& drawn, 
             look.entries.push_back(
                 {map, QString::fromStdString(name), samplesOf({frame, map, height})});
     }
-    return look;
+    return isTold(frame, drawn, look, chart.told) ? LegendLook() : look;
 }
 
 LineLegend::LineLegend(QCustomPlot& plot)

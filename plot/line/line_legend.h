@@ -33,8 +33,9 @@ struct LegendLook
 };
 
 /// The legend of a frame in a picture `height` pixels high; without entries when it has none.
-/// `drawn` are the maps in the picture.
-LegendLook legendLookOf(const host::Frame& frame, const host::NumberSet& drawn, int height);
+/// `drawn` are the maps in the picture, `chart` is the look of what they are drawn in.
+LegendLook legendLookOf(const host::Frame& frame, const host::NumberSet& drawn, int height,
+                        const ChartLook& chart);
 
 /// Names with samples over a chart, drawn by any painter.
 class LineLegend : public QCPLayerable

@@ -37,7 +37,7 @@ void LinePlot::clear(const host::Frame* drawn, Fresh)
     m_maker.drop();
     m_geometries.clear();
     if (drawn)
-        applyLook(*drawn);
+        m_chart->setLook(lookOf(*drawn));
     if (!m_isFitted && m_plotType == plotTypeBefore)
         m_chart->setRange(range);
 }
@@ -57,7 +57,7 @@ void LinePlot::setPatience(int milliseconds)
 /// Scales of axes come first: shapes are made by them.
 LayerMask LinePlot::showLayers(const host::Frame& drawn)
 {
-    applyLook(drawn);
+    m_chart->setLook(lookOf(drawn));
     dropUnwanted(drawn);
     LayerMask shown = 0;
     for (std::size_t layer = 0; layer < lineSceneKind().layerCount; ++layer)
@@ -243,9 +243,13 @@ bool LinePlot::advance(int milliseconds)
 void LinePlot::prepare()
 {
     const host::Frame* const drawn = frame();
-    if (drawn)
-        applyLook(*drawn);
-    m_legend.set(drawn ? legendLookOf(*drawn, shownMaps(), m_height) : LegendLook());
+    if (drawn) {
+        const ChartLook look = lookOf(*drawn);
+        m_chart->setLook(look);
+        m_legend.set(legendLookOf(*drawn, shownMaps(), m_height, look));
+    } else {
+        m_legend.set({});
+    }
     if (m_isFitted && !m_maker.isAtWork()) // a line that comes soon has its place
         m_chart->fit(isPolar() ? radii() : AxisRange());
     m_chart->updateAxes(!MapScene::hasWork());
@@ -273,11 +277,11 @@ void LinePlot::resume()
     m_chart->ink().resume();
 }
 
-void LinePlot::applyLook(const host::Frame& drawn)
+ChartLook LinePlot::lookOf(const host::Frame& drawn) const
 {
     ChartLook look = chartLookOf(drawn, m_height);
     addVariableNames(drawn, shownMaps(), look);
-    m_chart->setLook(look);
+    return look;
 }
 
 std::vector<SceneNote> LinePlot::notes() const

@@ -77,7 +77,7 @@ private:
     void dropUnwanted(const host::Frame& frame);
     void followPlanes();
     AxisRange radii() const;
-    void applyLook(const host::Frame& frame);
+    ChartLook lookOf(const host::Frame& frame) const;
 
     QCustomPlot& m_plot;
     std::unique_ptr<LineChart> m_chart;

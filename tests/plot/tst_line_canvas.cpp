@@ -240,6 +240,12 @@ private Q_SLOTS:
         write("LineMap/Lines/Show", "2-6", 0);
         shown.settle();
         QCOMPARE(title(QCPAxis::atLeft), QStringLiteral("Kraft"));
+        for (const auto& [mode, isEmpty] : {std::pair(0, false), std::pair(2, true)}) {
+            write("LineLegend/Show", "", 1);
+            write("LineMap/Assign/ShowInLegend", "all", mode); // what the title says, too
+            shown.settle();
+            QCOMPARE(shown.scene().legend().box().isEmpty(), isEmpty);
+        }
     }
 
     void axesInUse()
