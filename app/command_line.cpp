@@ -145,7 +145,7 @@ static QString readSize(const QString& size, const QString& resolution, Options&
         return CommandLine::tr("\"%1\" is no size of a picture, such as 160x120mm or 1200x900")
             .arg(size);
     options.pictureSize = *chosen;
-    return plot::sizeProblem(chosen->pixels());
+    return pictureSizeProblem(options.picture, *chosen);
 }
 
 QString Parser::read(const QStringList& arguments, Options& options)

@@ -80,6 +80,12 @@ plot::PictureSize usualPictureSize(const QString& file)
     return format && format->bytes ? page : plot::PictureSize::ofPixels(kWindow, page.dotsPerInch);
 }
 
+QString pictureSizeProblem(const QString& file, const plot::PictureSize& size)
+{
+    const PictureFormat* const format = formatOf(file);
+    return format && format->bytes ? plot::pageProblem(size) : plot::sizeProblem(size.pixels());
+}
+
 static QImage imageOf(const plot::PictureSize& size, const plot::PaintPicture& paint,
                       QString* error)
 {

@@ -17,6 +17,9 @@ QString pictureFormatProblem(const QString& file);
 /// window for others.
 plot::PictureSize usualPictureSize(const QString& file);
 
+/// Why such a file cannot have this size, for the user; empty when it can.
+QString pictureSizeProblem(const QString& file, const plot::PictureSize& size);
+
 /// Writes what is painted in the format that the ending of the file names, whole or not at all.
 /// Empty on success, else a text that names the file and the reason.
 QString writePicture(const QString& file, const plot::PictureSize& size,

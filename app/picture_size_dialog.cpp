@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/picture_size_dialog.h"
 
+#include "app/picture_output.h"
 #include "app/user_settings.h"
 
 #include <QDialogButtonBox>
@@ -30,8 +31,9 @@ static QDoubleSpinBox* makeField(const char* key, double usual, double least, do
     return field;
 }
 
-PictureSizeDialog::PictureSizeDialog(QWidget* parent)
+PictureSizeDialog::PictureSizeDialog(const QString& file, QWidget* parent)
     : QDialog(parent)
+    , m_file(file)
     , m_pixels(new QLabel)
 {
     constexpr double kLargestSide = 2000.0; // millimetres
@@ -68,7 +70,7 @@ plot::PictureSize PictureSizeDialog::chosenSize() const
 void PictureSizeDialog::showPixels()
 {
     const QSize pixels = chosenSize().pixels();
-    const QString problem = plot::sizeProblem(pixels);
+    const QString problem = pictureSizeProblem(m_file, chosenSize());
     m_pixels->setText(problem.isEmpty()
                           ? tr("%1 x %2 pixels").arg(pixels.width()).arg(pixels.height())
                           : problem);

@@ -17,7 +17,8 @@ class PictureSizeDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit PictureSizeDialog(QWidget* parent = nullptr);
+    /// `file` is the one to be written.
+    explicit PictureSizeDialog(const QString& file, QWidget* parent = nullptr);
 
     plot::PictureSize chosenSize() const;
     /// Remembers the size.
@@ -26,6 +27,7 @@ public:
 private:
     void showPixels();
 
+    QString m_file;
     // Owned by the dialog.
     QDoubleSpinBox* m_width; ///< millimetres
     QDoubleSpinBox* m_height; ///< millimetres

@@ -69,7 +69,7 @@ QString PlotArea::savePicture()
     const QString problem = pictureFormatProblem(file);
     if (!problem.isEmpty())
         return problem;
-    PictureSizeDialog sizes(this);
+    PictureSizeDialog sizes(file, this);
     if (sizes.exec() != QDialog::Accepted)
         return {};
     const BusyCursor busy;

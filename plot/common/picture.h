@@ -23,7 +23,7 @@ bool isVectorDevice(const QPaintDevice& device);
 // cannot be drawn. The same picture gives the same bytes.
 
 QImage pictureImage(const QSize& size, const PaintPicture& paint, QString* error);
-/// A page of this size; images are as they are, with `dotsPerInch`.
+/// A page of exactly this size; images are as they are, with `dotsPerInch`.
 QByteArray picturePdf(const PictureSize& size, const PaintPicture& paint, QString* error);
 QByteArray pictureSvg(const PictureSize& size, const PaintPicture& paint, QString* error);
 

@@ -21,6 +21,11 @@ QSize PictureSize::pixels() const
     return {count(millimetres.width()), count(millimetres.height())};
 }
 
+QSizeF PictureSize::points() const
+{
+    return millimetres * (72.0 / kMillimetresPerInch);
+}
+
 PictureSize PictureSize::ofPixels(const QSizeF& pixels, double dotsPerInch)
 {
     return {pixels * (kMillimetresPerInch / dotsPerInch), dotsPerInch};
@@ -41,15 +46,27 @@ std::optional<PictureSize> pictureSizeOf(const QString& text, double dotsPerInch
 
 QString sizeProblem(const QSize& size)
 {
-    constexpr int kLargestSide = 8192;
-    if (!size.isEmpty() && size.width() <= kLargestSide && size.height() <= kLargestSide)
+    if (!size.isEmpty() && std::max(size.width(), size.height()) <= kLargestImage)
         return {};
     return QCoreApplication::translate("corvala::plot",
                                        "An image of %1 by %2 pixels cannot be drawn; a side may "
                                        "have 1 to %3")
         .arg(size.width())
         .arg(size.height())
-        .arg(kLargestSide);
+        .arg(kLargestImage);
+}
+
+QString pageProblem(const PictureSize& size)
+{
+    const QSizeF& page = size.millimetres;
+    if (!size.pixels().isEmpty() && std::max(page.width(), page.height()) <= kLargestPage)
+        return {};
+    return QCoreApplication::translate("corvala::plot",
+                                       "A page of %1 by %2 mm cannot be drawn; a side may have "
+                                       "%3 at most, and no less than a dot")
+        .arg(page.width())
+        .arg(page.height())
+        .arg(kLargestPage);
 }
 
 } // namespace corvala::plot

@@ -20,6 +20,7 @@ struct PictureSize
     double dotsPerInch = 300.0;
 
     QSize pixels() const;
+    QSizeF points() const; ///< 72 to an inch
     static PictureSize ofPixels(const QSizeF& pixels, double dotsPerInch);
 };
 
@@ -27,7 +28,14 @@ struct PictureSize
 /// it is neither, or a side is not above 0.
 std::optional<PictureSize> pictureSizeOf(const QString& text, double dotsPerInch);
 
-/// Why a picture of this size cannot be drawn, for the user; empty when it can.
-QString sizeProblem(const QSize& size);
+// Sides that a picture may have at most.
+constexpr int kLargestImage = 8192; // pixels
+constexpr double kLargestPage = 5000.0; // millimetres; readers of PDF show no more
+
+// Why a picture of this size cannot be drawn, for the user; empty when it can.
+
+QString sizeProblem(const QSize& size); ///< of an image
+/// Of a page, which has no pixels of its own.
+QString pageProblem(const PictureSize& size);
 
 } // namespace corvala::plot

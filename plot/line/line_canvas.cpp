@@ -147,7 +147,11 @@ QString paintLines(CvlUniqueId frame, const ChartRange* range, QPaintDevice& dev
     QCustomPlot widget;
     LinePlot plot(widget);
     plot.setPatience(-1);
-    plot.setFrameHeight(device.height());
+    // A page that is larger than any image is laid out as the largest one, and enlarged.
+    const double scale = std::max(
+        {1.0, double(device.width()) / kLargestImage, double(device.height()) / kLargestImage});
+    const QSize size = QSize(device.width(), device.height()) / scale;
+    plot.setFrameHeight(size.height());
     plot.setFrame(frame);
     plot.advance(-1);
     plot.prepare();
@@ -156,7 +160,8 @@ QString paintLines(CvlUniqueId frame, const ChartRange* range, QPaintDevice& dev
     QCPPainter painter(&device);
     if (isVectorDevice(device))
         painter.setModes(QCPPainter::pmVectorized | QCPPainter::pmNonCosmetic);
-    widget.toPainter(&painter, device.width(), device.height());
+    painter.scale(scale, scale);
+    widget.toPainter(&painter, size.width(), size.height());
     if (notes)
         *notes = plot.notes();
     return {};

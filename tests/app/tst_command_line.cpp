@@ -84,7 +84,8 @@ private Q_SLOTS:
         row("picture of no format", "--render p.foo", "p.foo");
         row("bad size", "--render p.png --size 160mm", "160mm");
         row("size of nothing", "--render p.png --size 0x10", "0x10");
-        row("too large a picture", "--render p.pdf --size 2000x2000mm", "23622");
+        row("too large a picture", "--render p.png --size 2000x2000mm", "23622");
+        row("too large a page", "--render p.pdf --size 6000x90mm", "6000");
         row("bad resolution", "--render p.pdf --dpi -1", "-1");
         row("bad layout", "--plot3d endian=middle a.xyz", "middle");
     }

@@ -52,9 +52,12 @@ private Q_SLOTS:
         const Rows<QStringList, QString, QByteArrayList, QByteArray> row;
 
         row("lines as PDF", {"--demo", "xy"}, "a.pdf",
-            {"%PDF-", "/MediaBox [0 0 454.0", "/FontFile2"}, "/Subtype /Image");
+            {"%PDF-", "/MediaBox [0.0000 -0.1575 453.5433 340.0000]", "/FontFile2"},
+            "/Subtype /Image");
         row("lines as SVG", {"--demo", "xy", "--size", "80x60mm"}, "a.svg",
             {"<svg ", "width=\"80mm\"", "clip-path=\"url(#clip", ">Time</text>"}, "<image");
+        row("a large page", {"--demo", "xy", "--size", "2000x900mm"}, "a.pdf",
+            {"-0.1811 5669.2913 2551.0000]"}, "/Subtype /Image");
         row("field as PDF", {"--demo", "field2d", "--size", "600x450"}, "a.pdf",
             {"%PDF-", "/FontFile2", "/Width 600"}, "CreationDate");
     }
