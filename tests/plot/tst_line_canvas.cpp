@@ -316,6 +316,18 @@ private Q_SLOTS:
                 return y.scaleType() == QCPAxis::stLogarithmic && y.range().lower > 0
                     && y.tickVectorLabels().size() == y.tickVector().size();
             }));
+        row("a scale anew in a moved view", "xy", "LineAxes/Y/Scale[1]=1", [](ShownCanvas& shown) {
+            for (const char* scale : {"LineAxes/Y/Scale[1]=0", "LineAxes/Y/Scale[1]=1"}) {
+                turnWheel(shown.plot(), shown.plot().rect().center());
+                QCPAxis& y = *shown.plot().axisRect()->axis(QCPAxis::atLeft);
+                y.setRange(y.range().lower - 2.0, y.range().upper);
+                editStyle(scale);
+                shown.settle();
+            }
+            const AxisRange home = shown.scene().home().second[0];
+            return shown.plot().axisRect()->axis(QCPAxis::atLeft)->range()
+                == QCPRange(home.minimum, home.maximum);
+        });
         row("points left out", "xy", "LineAxes/Y/Scale[1]=1", oneNote);
         row("minimum left out", "xy", "LineAxes/X/Scale[1]=1 LineAxes/X/AutomaticRange[1]=0",
             [](ShownCanvas& shown) { return shown.scene().notes().size() == 2; });

@@ -257,6 +257,37 @@ private Q_SLOTS:
         QCOMPARE(drawn(true), drawn(false));
     }
 
+    /// What reaches into the picture, wide characters, too, is there as if there was more of it.
+    void marksAtTheRim_data()
+    {
+        const Rows<int, QPointF> row;
+        row("centre outside", GeomShape_Square, QPointF(-6.0, 150.0));
+        row("clipped by a corner", GeomShape_Circle, QPointF(398.0, 296.0));
+        row("a wide character", GeomShape_Character, QPointF(-11.0, 150.0));
+    }
+
+    void marksAtTheRim()
+    {
+        const auto [shape, at] = currentRow<int, QPointF>();
+        const SymbolStyle style {
+            symbolPath(shape, "W", FontOverride_None), 20.0, Qt::black, 1.0, {}};
+        const auto place = std::make_shared<const Polyline>(std::vector<double> {at.x()},
+                                                            std::vector<double> {at.y()});
+        const auto drawn = [&](int around) {
+            const QSize size = kSize + 2 * QSize(around, around);
+            const LineScale scale {0.0, double(around), 1.0};
+            LineInk ink;
+            ink.set({0, 1}, std::make_shared<SymbolMarks>(MarkedPoints {place, {}}, style));
+            ink.setView(
+                chartOf({scale, scale, {0.0, double(size.width()), 0.0, double(size.height())}}),
+                size, 1.0);
+            ink.advance(-1);
+            return ink.picture().copy({QPoint(around, around), kSize});
+        };
+        QCOMPARE(drawn(0), drawn(50));
+        QVERIFY(shareOfDifference(drawn(0), drawn(50).copy({QPoint(200, 0), kSize})) > 0.0);
+    }
+
     void denseLinesAreThinned()
     {
         LineInk ink;
@@ -273,6 +304,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_LineInk)
+QTEST_MAIN(tst_LineInk)
 
 #include "tst_line_ink.moc"
