@@ -56,6 +56,7 @@ void LineCanvas::draw()
     m_widget->replot(QCustomPlot::rpImmediateRefresh);
     m_notice->setText(m_plot.notice());
     m_notice->adjustSize();
+    m_notice->setVisible(!m_notice->text().isEmpty());
 }
 
 void LineCanvas::resizeEvent(QResizeEvent* event)
