@@ -137,7 +137,9 @@ void CoverGrid::addRun(const Runs& runs, std::size_t level, std::size_t run)
 
 int CoverGrid::count(const QRectF& box) const
 {
-    const Cells cells = cellsOf(boxOf(box));
+    const QSizeF half(m_area.width() / kCells / 2.0, m_area.height() / kCells / 2.0);
+    const QRectF middles = box.adjusted(half.width(), half.height(), -half.width(), -half.height());
+    const Cells cells = cellsOf(boxOf(middles));
     int covered = 0;
     for (int row = cells.top; row <= cells.bottom; ++row)
         for (int column = cells.left; column <= cells.right; ++column)

@@ -35,7 +35,9 @@ public:
                  const std::function<LineBox(const LineBox&)>& reach,
                  const std::function<void(std::size_t)>& addAt);
 
-    int count(const QRectF& box) const; ///< of the cells of a box in pixels that are covered
+    /// Of the cells of a box in pixels those that are covered; of cells at its edges, those that
+    /// are in it for the greater part.
+    int count(const QRectF& box) const;
 
 private:
     /// Cells from the first to the last one, each way.
