@@ -82,6 +82,12 @@ void LineChart::takeTitle(const ChartLook& look)
         m_title->set(look.title, plotFont(kTimesLarger * look.font, true));
 }
 
+int LineChart::titleHeight() const
+{
+    return m_title ? m_title->minimumOuterSizeHint().height() + m_plot.plotLayout()->rowSpacing()
+                   : 0;
+}
+
 ChartView LineChart::seenIn(const QRectF& place)
 {
     ChartView seen = view();

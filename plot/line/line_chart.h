@@ -21,6 +21,7 @@ public:
     explicit BrokenTitle(QCustomPlot& plot);
     void set(const QString& text, const QFont& font);
     void update(UpdatePhase phase) override;
+    using QCPTextElement::minimumOuterSizeHint;
 
 private:
     QString m_whole;
@@ -74,6 +75,7 @@ protected:
     virtual void coverTexts(CoverGrid&) const { } ///< of the axes, within the area
     /// Puts the title of the plot above it, none when it is empty, with the gaps between the parts.
     void takeTitle(const ChartLook& look);
+    int titleHeight() const; ///< with the gap below, as it was laid out at last
 
 private:
     class Sheet;

@@ -83,13 +83,20 @@ std::shared_ptr<const ChartShape> curveShape(const ShownLine& line, const LineGe
     return std::make_shared<StrokedLine>(geometry.curve, strokeOf(LineStyle(line)));
 }
 
+/// The width of a line in a sample.
+static double widthIn(const QRectF& place, double width)
+{
+    return std::min(width, 0.7 * place.height());
+}
+
 LegendSample curveSample(const ShownLine& line)
 {
     return [stroke = strokeOf(LineStyle(line))](QPainter& painter, const QRectF& place) {
         LineStroke fitting = stroke;
-        fitting.width = std::min(fitting.width, 0.7 * place.height());
+        fitting.width = widthIn(place, stroke.width);
         const double height = place.center().y();
-        const std::vector<double> ends {place.left(), place.right()};
+        const double cap = std::max(fitting.width / 2.0 - 0.1 * place.height(), 0.0);
+        const std::vector<double> ends {place.left() + cap, place.right() - cap};
         LineView view; // pixels as they are
         view.visible = {place.left(), place.right(), place.top(), place.bottom()};
         StrokedLine(std::make_shared<const Polyline>(ends, std::vector<double> {height, height}),
@@ -129,6 +136,7 @@ LegendSample symbolSample(const ShownLine& line)
     return [symbol = symbolStyleOf(LineStyle(line))](QPainter& painter, const QRectF& place) {
         SymbolStyle fitting = symbol;
         fitting.size = std::min(fitting.size, place.height());
+        fitting.lineWidth = std::min(fitting.lineWidth, 0.4 * fitting.size);
         fitting.paint(painter, place.center());
     };
 }
@@ -209,7 +217,7 @@ LegendSample errorBarSample(const ShownLine& line)
         const double cap = std::min(bar.capSize, place.height()) / 2.0;
         const QPointF middle = place.center();
         const QPointF up(0.0, 0.45 * place.height());
-        painter.setPen(QPen(bar.color, bar.width, Qt::SolidLine, Qt::FlatCap));
+        painter.setPen(QPen(bar.color, widthIn(place, bar.width), Qt::SolidLine, Qt::FlatCap));
         painter.drawLine(middle - up, middle + up);
         for (const QPointF& end : {middle - up, middle + up})
             painter.drawLine(end - QPointF(cap, 0.0), end + QPointF(cap, 0.0));
@@ -233,9 +241,12 @@ LegendSample barSample(const ShownLine& line)
     if (line.frame.plotType() == PlotType_LinePolar)
         return {};
     return [bar = barStyleOf(LineStyle(line))](QPainter& painter, const QRectF& place) {
-        QRectF swatch(0.0, 0.0, 1.2 * place.height(), 0.7 * place.height());
+        BarStyle fitting = bar;
+        fitting.lineWidth = std::min(bar.lineWidth, 0.3 * place.height());
+        const double outline = std::max(fitting.lineWidth - 0.2 * place.height(), 0.0);
+        QRectF swatch(0.0, 0.0, 1.2 * place.height(), 0.7 * place.height() - outline);
         swatch.moveCenter(place.center());
-        bar.paint(painter, swatch);
+        fitting.paint(painter, swatch);
     };
 }
 

@@ -30,18 +30,53 @@ protected:
     void coverTexts(CoverGrid& grid) const override;
 
 private:
+    class Disc;
+
+    void adaptToSize();
     QCPPolarAxisRadial* radius() const { return m_angle->radialAxis(); }
 
     QCPPolarAxisAngular* m_angle; // owned by the plot
     BrokenTitle* m_titles; // owned by the plot
     PolarLook m_look;
+    double m_font = 12.0;
 };
+
+/// Adapts the numbers before each layout.
+class PolarChart::Disc : public QCPPolarAxisAngular
+{
+public:
+    Disc(QCustomPlot& plot, PolarChart& chart)
+        : QCPPolarAxisAngular(&plot)
+        , m_chart(chart)
+    {
+    }
+    void update(UpdatePhase phase) override
+    {
+        if (phase == upPreparation)
+            m_chart.adaptToSize();
+        QCPPolarAxisAngular::update(phase);
+    }
+
+private:
+    PolarChart& m_chart;
+};
+
+/// As many numbers of the radius as have room.
+void PolarChart::adaptToSize()
+{
+    const QRect plot = m_angle->parentPlot()->viewport();
+    const QMargins margins = m_angle->minimumMargins();
+    const double across = std::min(plot.width() - margins.left() - margins.right(),
+                                   plot.height() - margins.top() - margins.bottom());
+    radius()->ticker()->setTickCount(
+        std::clamp(static_cast<int>(across / 2.0 / (1.5 * m_font)), 1, 5));
+}
 
 PolarChart::PolarChart(QCustomPlot& plot)
     : LineChart(plot)
 {
     plot.plotLayout()->clear();
-    m_angle = new QCPPolarAxisAngular(&plot);
+    m_angle = new Disc(plot, *this);
     m_titles = new BrokenTitle(plot);
     plot.plotLayout()->addElement(0, 0, m_angle);
     plot.plotLayout()->addElement(1, 0, m_titles);
@@ -104,6 +139,7 @@ void PolarChart::setLook(const ChartLook& look)
 {
     takeTitle(look);
     m_look = look.polar;
+    m_font = look.font;
     m_titles->set(m_look.title, plotFont(look.font, true));
     m_angle->setRangeReversed(!m_look.isClockwise);
     m_angle->setAngle(-m_look.start);

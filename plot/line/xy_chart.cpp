@@ -80,7 +80,7 @@ private:
     void showInUse(Direction& direction, QList<QCPAxis*>& shown);
     void followBorders(Direction& direction);
     AxisRange home(const Direction& direction, std::size_t number) const;
-    void adaptToSize();
+    void adaptTo(const QSizeF& axes, double beyond);
 
     QCustomPlot& m_plot;
     Box* m_box; // owned by the plot
@@ -89,7 +89,7 @@ private:
     ChartLook m_look;
 };
 
-/// Adapts the texts before each layout.
+/// Adapts the texts before each layout, first to the plot, then to what texts leave of it.
 class XyChart::Box : public QCPAxisRect
 {
 public:
@@ -100,12 +100,25 @@ public:
     }
     void update(UpdatePhase phase) override
     {
-        if (phase == upPreparation)
-            m_chart.adaptToSize();
+        if (phase == upPreparation) {
+            const QSizeF plot = parentPlot()->viewport().size();
+            m_chart.adaptTo(plot, 0.0);
+            QCPAxisRect::update(phase); // the margins follow from the ticks
+            const int above = margin(QCP::msTop);
+            const int below = margin(QCP::msBottom);
+            m_chart.adaptTo({plot.width() - margin(QCP::msLeft) - margin(QCP::msRight),
+                             plot.height() - m_chart.titleHeight() - above - below},
+                            2.0 * std::min(above, below));
+        }
         QCPAxisRect::update(phase);
     }
 
 private:
+    int margin(QCP::MarginSide side)
+    {
+        return std::max(calculateAutoMargin(side), QCP::getMarginValue(minimumMargins(), side));
+    }
+
     XyChart& m_chart;
 };
 
@@ -236,20 +249,21 @@ void XyChart::setLook(const ChartLook& look)
     updateAxes(false); // shapes may lie in another plane yet
 }
 
-/// Titles are as long as the plot, and as many numbers are written as have room.
-void XyChart::adaptToSize()
+/// Titles are as long as the axes, upright ones by so many pixels longer, and as many numbers are
+/// written as have room.
+void XyChart::adaptTo(const QSizeF& axes, double beyond)
 {
-    constexpr double kShare = 0.85; // of the plot
-    const auto adapt = [this](Direction& direction, double length, double perNumber) {
+    const auto adapt = [this](Direction& direction, double length, double longer,
+                              double perNumber) {
         const int most = std::clamp(static_cast<int>(length / (perNumber * m_look.font)), 2, 5);
         for (Axis& axis : direction.axes) {
             QCPAxis& shown = axis.shown();
             shown.ticker()->setTickCount(most);
-            shown.setLabel(brokenText(axis.look.title, shown.labelFont(), kShare * length));
+            shown.setLabel(brokenText(axis.look.title, shown.labelFont(), length + longer));
         }
     };
-    adapt(m_first, m_plot.viewport().width(), 7.0);
-    adapt(m_second, m_plot.viewport().height(), 3.5);
+    adapt(m_first, axes.width(), 0.0, 7.0);
+    adapt(m_second, axes.height(), beyond, 3.5);
 }
 
 QRect XyChart::area() const
