@@ -180,12 +180,21 @@ void LineLegend::drawEntry(QPainter& painter, const LegendEntry& entry, const QR
                      QFontMetricsF(painter.font()).elidedText(entry.name, Qt::ElideMiddle, room));
 }
 
+int LineLegend::drawnCount() const
+{
+    const int room = std::min(m_grid.places(), static_cast<int>(m_look.entries.size()));
+    return m_look.count <= room ? room : room - 1;
+}
+
 void LineLegend::draw(QCPPainter* painter)
 {
     m_box = {};
     if (m_look.entries.empty() || !m_chart)
         return;
     m_grid = layOut();
+    const int drawn = drawnCount();
+    if (drawn == 0) // no room for a name
+        return;
     m_box = place(m_grid.size());
     painter->save();
     if (m_look.hasBox) {
@@ -197,13 +206,10 @@ void LineLegend::draw(QCPPainter* painter)
     painter->setPen(Qt::black);
     painter->setBrush(Qt::NoBrush);
     painter->setFont(plotFont(m_look.font));
-    const int room = std::min(m_grid.places(), static_cast<int>(m_look.entries.size()));
-    const bool areAll = m_look.count <= room;
-    const int drawn = areAll ? room : room - 1;
     for (int i = 0; i < drawn; ++i)
         drawEntry(*painter, m_look.entries[static_cast<std::size_t>(i)],
                   m_grid.place(m_box.topLeft(), i));
-    if (!areAll) {
+    if (m_look.count > drawn) {
         const auto more = static_cast<int>(m_look.count - drawn);
         drawEntry(*painter, {0, QStringLiteral("\u2026 ") + tr("%Ln more", nullptr, more), {}},
                   m_grid.place(m_box.topLeft(), drawn));
@@ -226,9 +232,7 @@ QPointF LineLegend::corner() const
 
 CvlInt64 LineLegend::mapAt(const QPointF& pixel) const
 {
-    const int room = std::min(m_grid.places(), static_cast<int>(m_look.entries.size()));
-    const int drawn = m_look.count <= room ? room : room - 1;
-    for (int i = 0; i < drawn && m_box.contains(pixel); ++i)
+    for (int i = 0; i < drawnCount() && m_box.contains(pixel); ++i)
         if (m_grid.place(m_box.topLeft(), i).contains(pixel))
             return m_look.entries[static_cast<std::size_t>(i)].map;
     return 0;

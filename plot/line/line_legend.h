@@ -80,6 +80,7 @@ private:
     };
 
     Grid layOut() const;
+    int drawnCount() const; ///< of entries; the place after them may tell how many more there are
     QRectF place(const QSizeF& size) const;
     QRectF leastHiding(const QSizeF& size) const;
     void drawEntry(QPainter& painter, const LegendEntry& entry, const QRectF& place) const;
