@@ -4,6 +4,8 @@
 #include "plot/line/line_chart.h"
 #include "plot/line/log_ticker.h"
 
+#include <QFontMetrics>
+
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
@@ -81,6 +83,7 @@ private:
     void followBorders(Direction& direction);
     AxisRange home(const Direction& direction, std::size_t number) const;
     void adaptTo(const QSizeF& axes, double beyond);
+    int overhangOfDates() const;
 
     QCustomPlot& m_plot;
     Box* m_box; // owned by the plot
@@ -88,6 +91,18 @@ private:
     Direction m_second;
     ChartLook m_look;
 };
+
+static bool isLogarithmic(const QCPAxis& axis)
+{
+    return axis.scaleType() == QCPAxis::stLogarithmic;
+}
+
+/// What an axis shows, in the plane of the shapes.
+static QCPRange inPlane(const QCPAxis& axis)
+{
+    const QCPRange range = axis.range();
+    return isLogarithmic(axis) ? QCPRange(std::log10(range.lower), std::log10(range.upper)) : range;
+}
 
 /// Adapts the texts before each layout, first to the plot, then to what texts leave of it.
 class XyChart::Box : public QCPAxisRect
@@ -111,6 +126,15 @@ public:
                             2.0 * std::min(above, below));
         }
         QCPAxisRect::update(phase);
+    }
+
+protected:
+    /// Dates at the ends of level axes have room, wherever they stand.
+    int calculateAutoMargin(QCP::MarginSide side) override
+    {
+        const bool isBeside = side == QCP::msLeft || side == QCP::msRight;
+        const int margin = QCPAxisRect::calculateAutoMargin(side);
+        return isBeside ? std::max(margin, m_chart.overhangOfDates()) : margin;
     }
 
 private:
@@ -159,11 +183,6 @@ void XyChart::addAxes(Direction& direction, QCPAxis::AxisType side, QCPAxis::Axi
         direction.borders[i] = add();
         direction.borders[i]->setTickLabels(false);
     }
-}
-
-static bool isLogarithmic(const QCPAxis& axis)
-{
-    return axis.scaleType() == QCPAxis::stLogarithmic;
 }
 
 static Ticks ticksOf(const AxisLook& look)
@@ -266,6 +285,20 @@ void XyChart::adaptTo(const QSizeF& axes, double beyond)
     adapt(m_second, axes.height(), beyond, 3.5);
 }
 
+/// How far dates at the end of an axis stand out beside it at most.
+int XyChart::overhangOfDates() const
+{
+    int widest = 0;
+    for (const Axis& axis : m_first.axes) {
+        if (axis.ticks != Ticks::Dates || !axis.shown().visible())
+            continue;
+        const QFontMetrics metrics(axis.shown().tickLabelFont());
+        for (const QString& text : axis.shown().tickVectorLabels())
+            widest = std::max(widest, metrics.size(0, text).width() + metrics.height() / 2);
+    }
+    return (widest + 1) / 2;
+}
+
 QRect XyChart::area() const
 {
     return m_box->rect();
@@ -284,13 +317,6 @@ LinePlane XyChart::plane(const LineAxes& axes) const
     plane.isFirstLogarithmic = m_first.axes[axes.first].look.isLogarithmic;
     plane.isSecondLogarithmic = m_second.axes[axes.second].look.isLogarithmic;
     return plane;
-}
-
-/// What an axis shows, in the plane of the shapes.
-static QCPRange inPlane(const QCPAxis& axis)
-{
-    const QCPRange range = axis.range();
-    return isLogarithmic(axis) ? QCPRange(std::log10(range.lower), std::log10(range.upper)) : range;
 }
 
 /// Sides without an axis show the leading axis once more, without its texts.
