@@ -13,7 +13,8 @@
 
 namespace corvala::plot {
 
-/// Dates and times of day in UTC, as exact as the ticks are close.
+/// Dates or times of day in UTC, as exact as the ticks are close; below the first time of a day
+/// stands its date.
 class DateTicker : public QCPAxisTickerDateTime
 {
 public:
@@ -25,13 +26,30 @@ protected:
         constexpr double kMinute = 60;
         constexpr double kDay = 86'400;
         const double step = QCPAxisTickerDateTime::getTickStep(range);
-        const QString time = step < kMinute ? QStringLiteral("hh:mm:ss") : QStringLiteral("hh:mm");
-        const QString date = QStringLiteral("yyyy-MM-dd");
-        setDateTimeFormat(step >= kDay               ? date
-                              : range.size() >= kDay ? date + QLatin1Char('\n') + time
-                                                     : time);
+        m_areTimes = step < kDay;
+        setDateTimeFormat(!m_areTimes          ? dateFormat()
+                              : step < kMinute ? QStringLiteral("hh:mm:ss")
+                                               : QStringLiteral("hh:mm"));
         return step;
     }
+    QVector<QString> createLabelVector(const QVector<double>& ticks, const QLocale& locale,
+                                       QChar format, int precision) override
+    {
+        QVector<QString> texts =
+            QCPAxisTickerDateTime::createLabelVector(ticks, locale, format, precision);
+        QString last;
+        for (int i = 0; i < texts.size() && m_areTimes; ++i) {
+            const QString date = keyToDateTime(ticks[i]).toUTC().toString(dateFormat());
+            if (std::exchange(last, date) != date)
+                texts[i] += QLatin1Char('\n') + date;
+        }
+        return texts;
+    }
+
+private:
+    static QString dateFormat() { return QStringLiteral("yyyy-MM-dd"); }
+
+    bool m_areTimes = false;
 };
 
 enum class Ticks { Numbers, Powers, Dates };
