@@ -367,6 +367,21 @@ private Q_SLOTS:
                 const QRectF box = shown.scene().legend().box();
                 return box.left() == 0.2 * kSize.width() && box.bottom() <= kSize.height();
             });
+        row("bars hide", "xy", "LinePlotLayers/ShowLines=0 LinePlotLayers/ShowBarCharts=1",
+            [](ShownCanvas& shown) {
+                const QCPAxisRect& axes = *shown.plot().axisRect();
+                const QPointF half(axes.axis(QCPAxis::atBottom)->coordToPixel(0.0),
+                                   axes.axis(QCPAxis::atLeft)->coordToPixel(0.5));
+                return shown.scene().chart().hiddenBy(
+                    {half - QPointF(10, 10), half + QPointF(10, 10)});
+            });
+        row("numbers of angles hide", "polar", "LineFrame/FontSize=4", [](ShownCanvas& shown) {
+            LineChart& chart = shown.scene().chart();
+            const QRectF area = chart.area();
+            const QSizeF number(40.0, 20.0);
+            return chart.hiddenBy({{area.center().x() - 20.0, area.top()}, number})
+                && !chart.hiddenBy({area.topLeft(), number});
+        });
         row("legend box", "xy", "LineLegend/ShowBox=0", any);
     }
 
