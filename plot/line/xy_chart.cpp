@@ -103,7 +103,6 @@ private:
     void adaptTo(const QSizeF& axes, double beyond);
     int overhangOfDates() const;
 
-    QCustomPlot& m_plot;
     Box* m_box; // owned by the plot
     Direction m_first;
     Direction m_second;
@@ -166,7 +165,6 @@ private:
 
 XyChart::XyChart(QCustomPlot& plot)
     : LineChart(plot)
-    , m_plot(plot)
 {
     plot.plotLayout()->clear();
     m_box = new Box(plot, *this);
