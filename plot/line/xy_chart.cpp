@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "plot/common/axis_ticks.h"
 #include "plot/line/broken_text.h"
 #include "plot/line/line_chart.h"
-#include "plot/line/log_ticker.h"
+#include "plot/line/xy_axis.h"
 
 #include <QFontMetrics>
 
@@ -12,47 +11,6 @@
 #include <utility>
 
 namespace corvala::plot {
-
-/// Dates or times of day in UTC, as exact as the ticks are close; below the first time of a day
-/// stands its date.
-class DateTicker : public QCPAxisTickerDateTime
-{
-public:
-    DateTicker() { setDateTimeSpec(Qt::UTC); }
-
-protected:
-    double getTickStep(const QCPRange& range) override
-    {
-        constexpr double kMinute = 60;
-        constexpr double kDay = 86'400;
-        const double step = QCPAxisTickerDateTime::getTickStep(range);
-        m_areTimes = step < kDay;
-        setDateTimeFormat(!m_areTimes          ? dateFormat()
-                              : step < kMinute ? QStringLiteral("hh:mm:ss")
-                                               : QStringLiteral("hh:mm"));
-        return step;
-    }
-    QVector<QString> createLabelVector(const QVector<double>& ticks, const QLocale& locale,
-                                       QChar format, int precision) override
-    {
-        QVector<QString> texts =
-            QCPAxisTickerDateTime::createLabelVector(ticks, locale, format, precision);
-        QString last;
-        for (int i = 0; i < texts.size() && m_areTimes; ++i) {
-            const QString date = keyToDateTime(ticks[i]).toUTC().toString(dateFormat());
-            if (std::exchange(last, date) != date)
-                texts[i] += QLatin1Char('\n') + date;
-        }
-        return texts;
-    }
-
-private:
-    static QString dateFormat() { return QStringLiteral("yyyy-MM-dd"); }
-
-    bool m_areTimes = false;
-};
-
-enum class Ticks { Numbers, Powers, Dates };
 
 /// Lines over rectangular axes. An axis is there while a line is drawn along it; without any line,
 /// the first one of each direction is.
@@ -77,26 +35,15 @@ protected:
 private:
     class Box;
 
-    /// An axis stands on one of two sides of the box.
-    struct Axis
-    {
-        std::array<QCPAxis*, 2> sides {}; // owned by the plot
-        AxisLook look;
-        Ticks ticks = Ticks::Numbers;
-        bool hasRange = false; ///< that somebody has chosen or fitted
-
-        QCPAxis& shown() const { return *sides[look.isOpposite ? 1 : 0]; }
-    };
     struct Direction
     {
-        std::array<Axis, kAxisCount> axes;
+        std::array<XyAxis, kAxisCount> axes;
         std::array<QCPAxis*, 2> borders {}; ///< without an axis, its sides of the box
         std::size_t leading = 0; ///< the first axis that is there: grid and borders are its
         bool isFirst = true;
     };
 
     void addAxes(Direction& direction, QCPAxis::AxisType side, QCPAxis::AxisType across);
-    static void applyLook(Axis& axis, const ChartLook& look);
     void showInUse(Direction& direction, QList<QCPAxis*>& shown);
     void followBorders(Direction& direction);
     AxisRange home(const Direction& direction, std::size_t number) const;
@@ -108,18 +55,6 @@ private:
     Direction m_second;
     ChartLook m_look;
 };
-
-static bool isLogarithmic(const QCPAxis& axis)
-{
-    return axis.scaleType() == QCPAxis::stLogarithmic;
-}
-
-/// What an axis shows, in the plane of the shapes.
-static QCPRange inPlane(const QCPAxis& axis)
-{
-    const QCPRange range = axis.range();
-    return isLogarithmic(axis) ? QCPRange(std::log10(range.lower), std::log10(range.upper)) : range;
-}
 
 /// Adapts the texts before each layout, first to the plot, then to what texts leave of it.
 class XyChart::Box : public QCPAxisRect
@@ -191,74 +126,13 @@ void XyChart::addAxes(Direction& direction, QCPAxis::AxisType side, QCPAxis::Axi
             axis->setUpperEnding({});
             return axis;
         };
-        for (Axis& axis : direction.axes) {
+        for (XyAxis& axis : direction.axes) {
             axis.sides[i] = add();
             QObject::connect(axis.sides[i], QOverload<const QCPRange&>::of(&QCPAxis::rangeChanged),
                              m_box, [this, &direction] { followBorders(direction); });
         }
         direction.borders[i] = add();
         direction.borders[i]->setTickLabels(false);
-    }
-}
-
-static Ticks ticksOf(const AxisLook& look)
-{
-    return look.isLogarithmic ? Ticks::Powers : look.isOfInstants ? Ticks::Dates : Ticks::Numbers;
-}
-
-static QSharedPointer<QCPAxisTicker> tickerOf(Ticks ticks)
-{
-    switch (ticks) {
-    case Ticks::Powers: return QSharedPointer<QCPAxisTicker>(new LogTicker);
-    case Ticks::Dates: return QSharedPointer<QCPAxisTicker>(new DateTicker);
-    default: return QSharedPointer<QCPAxisTicker>::create();
-    }
-}
-
-static void setScale(QCPAxis& axis, bool isLogarithmic)
-{
-    axis.setScaleType(isLogarithmic ? QCPAxis::stLogarithmic : QCPAxis::stLinear);
-}
-
-static void setPen(QCPAxis& axis, const QPen& pen)
-{
-    axis.setBasePen(pen);
-    axis.setTickPen(pen);
-    axis.setSubTickPen(pen);
-    axis.setTickLabelColor(pen.color());
-    axis.setLabelColor(pen.color());
-}
-
-/// Texts, ticks, distances and the grid.
-static void setSizes(QCPAxis& axis, const ChartLook& look)
-{
-    axis.setTickLabelFont(plotFont(look.font));
-    axis.setLabelFont(plotFont(look.font, true));
-    axis.setTickLength(look.share(0.4));
-    axis.setSubTickLength(look.share(0.2));
-    axis.setTickLabelPadding(look.share(0.35));
-    axis.setLabelPadding(look.share(0.25));
-    axis.setPadding(look.share(1.0)); // the widths of powers are underestimated
-    axis.grid()->setPen(look.gridPen(Qt::DotLine));
-    axis.grid()->setZeroLinePen(look.gridPen(Qt::SolidLine));
-}
-
-void XyChart::applyLook(Axis& axis, const ChartLook& look)
-{
-    const Ticks ticks = ticksOf(axis.look);
-    const bool isOther = std::exchange(axis.ticks, ticks) != ticks;
-    for (QCPAxis* const side : axis.sides) {
-        const QCPRange range = side->range();
-        setScale(*side, axis.look.isLogarithmic);
-        if (axis.look.isLogarithmic && range.lower <= 0.0) {
-            side->setRange(1.0, 10.0);
-            axis.hasRange = axis.hasRange && side != &axis.shown();
-        }
-        if (isOther)
-            side->setTicker(tickerOf(ticks));
-        side->setRangeReversed(axis.look.isReversed);
-        setPen(*side, look.axisPen(axis.look.color));
-        setSizes(*side, look);
     }
 }
 
@@ -270,11 +144,11 @@ void XyChart::setLook(const ChartLook& look)
     m_box->setMinimumMargins({margin, margin, margin, margin});
     const auto take = [&look](Direction& direction, const auto& looks) {
         for (std::size_t i = 0; i < kAxisCount; ++i) {
-            Axis& axis = direction.axes[i];
+            XyAxis& axis = direction.axes[i];
             const QCPRange range = axis.shown().range();
             axis.look = looks[i];
             axis.shown().setRange(range);
-            applyLook(axis, look);
+            axis.apply(look);
         }
         for (QCPAxis* const border : direction.borders)
             setSizes(*border, look);
@@ -291,7 +165,7 @@ void XyChart::adaptTo(const QSizeF& axes, double beyond)
     const auto adapt = [this](Direction& direction, double length, double longer,
                               double perNumber) {
         const int most = std::clamp(static_cast<int>(length / (perNumber * m_look.font)), 2, 5);
-        for (Axis& axis : direction.axes) {
+        for (XyAxis& axis : direction.axes) {
             QCPAxis& shown = axis.shown();
             shown.ticker()->setTickCount(most);
             shown.setLabel(brokenText(axis.look.title, shown.labelFont(), length + longer));
@@ -305,7 +179,7 @@ void XyChart::adaptTo(const QSizeF& axes, double beyond)
 int XyChart::overhangOfDates() const
 {
     int widest = 0;
-    for (const Axis& axis : m_first.axes) {
+    for (const XyAxis& axis : m_first.axes) {
         if (axis.ticks != Ticks::Dates || !axis.shown().visible())
             continue;
         const QFontMetrics metrics(axis.shown().tickLabelFont());
@@ -340,7 +214,7 @@ void XyChart::followBorders(Direction& direction)
 {
     const QCPAxis& leading = direction.axes[direction.leading].shown();
     for (QCPAxis* const border : direction.borders) {
-        setScale(*border, isLogarithmic(leading));
+        setLogarithmic(*border, isLogarithmic(leading));
         border->setTicker(leading.ticker());
         border->setRangeReversed(leading.rangeReversed());
         border->setRange(leading.range());
@@ -359,7 +233,7 @@ void XyChart::showInUse(Direction& direction, QList<QCPAxis*>& shown)
     isInUse[direction.leading] = true;
     std::array<bool, 2> isTaken {};
     for (std::size_t i = 0; i < kAxisCount; ++i) {
-        Axis& axis = direction.axes[i];
+        XyAxis& axis = direction.axes[i];
         const std::size_t side = axis.look.isOpposite ? 1 : 0;
         for (QCPAxis* const one : axis.sides) {
             one->setVisible(isInUse[i] && one == axis.sides[side]);
@@ -385,7 +259,7 @@ void XyChart::updateAxes(bool isComplete)
     // Axes that have come to be in use begin with all that is drawn along them.
     const auto fitNew = [this, isComplete](Direction& direction) {
         for (std::size_t i = 0; i < kAxisCount; ++i) {
-            Axis& axis = direction.axes[i];
+            XyAxis& axis = direction.axes[i];
             const AxisRange range = axis.hasRange ? AxisRange() : home(direction, i);
             if (range.minimum < range.maximum) {
                 axis.shown().setRange(range.minimum, range.maximum);
@@ -445,7 +319,7 @@ ChartRange XyChart::home(const AxisRange&) const
 void XyChart::fit(const AxisRange&)
 {
     for (Direction* const direction : {&m_first, &m_second})
-        for (Axis& axis : direction->axes)
+        for (XyAxis& axis : direction->axes)
             axis.hasRange = false;
     updateAxes(true);
 }
@@ -469,7 +343,7 @@ void XyChart::setRange(const ChartRange& range)
 {
     const auto put = [](Direction& direction, const auto& ranges) {
         for (std::size_t i = 0; i < kAxisCount; ++i) {
-            Axis& axis = direction.axes[i];
+            XyAxis& axis = direction.axes[i];
             const AxisRange& given = ranges[i];
             if (given.minimum < given.maximum
                 && (!axis.look.isLogarithmic || given.minimum > 0.0)) {
@@ -480,15 +354,6 @@ void XyChart::setRange(const ChartRange& range)
     };
     put(m_first, range.first);
     put(m_second, range.second);
-}
-
-static LineScale scaleOf(const QCPAxis& axis)
-{
-    const QCPRange range = inPlane(axis);
-    const double first = axis.coordToPixel(axis.range().lower);
-    // A range may be too narrow for its logarithms to differ.
-    const double length = axis.coordToPixel(axis.range().upper) - first;
-    return {range.lower, first, range.size() > 0.0 ? length / range.size() : 0.0};
 }
 
 ChartView XyChart::view()
