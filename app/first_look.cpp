@@ -122,6 +122,8 @@ std::vector<SetStyle> firstLook(const std::vector<FirstLine>& lines)
         }
     }
     look.turn(style::linePlotLayers.showSymbols, areScattered);
+    if (lines.size() == 1) // which the axes name
+        look.give(style::lineMap.assign.showInLegend, LegendShow_Auto, host::allUpTo(1));
     if (haveZones)
         look.add(SetStyle {host::pathOf(style::lineMap.name), std::string("&ZN&: &DV&"),
                            host::allUpTo(static_cast<CvlInt64>(lines.size()))});
