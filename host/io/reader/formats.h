@@ -28,8 +28,8 @@ std::unique_ptr<DataFile> openCgns(const QString& path);
 /// Element blocks, side sets and node sets with all their variables.
 std::unique_ptr<DataFile> openExodus(const QString& path);
 
-/// `helperFolder` takes a copy of a case file that VTK does not understand as it is.
-std::unique_ptr<DataFile> openEnSight(const QString& path, const QDir& helperFolder);
+/// A case of EnSight Gold or EnSight 6.
+std::unique_ptr<DataFile> openEnSight(const QString& path);
 
 /// A case by its controlDict or by a marker file beside its folders.
 std::unique_ptr<DataFile> openFoam(const QString& path);
