@@ -152,9 +152,7 @@ void DataCommands::tellOpened(const host::io::ReadResult& result)
 {
     const host::io::ReadRequest request = m_opener.request();
     rememberFiles(request.files);
-    QStringList notes;
-    for (const std::string& note : result.data->notes)
-        notes << QString::fromStdString(note);
+    const QStringList& notes = result.noteGroups;
     if (const std::optional<host::io::Plot3DLayout>& detected = result.detectedPlot3D)
         tellDetected(describePlot3DLayout(*detected), notes,
                      [this, request, layout = *detected] { changePlot3DLayout(request, layout); });
@@ -162,6 +160,11 @@ void DataCommands::tellOpened(const host::io::ReadResult& result)
         tellDetected(describe(*result.detectedText), notes, [this, request] { preview(request); });
     else
         m_notice.tell(notes.join(QLatin1Char(' ')));
+    QStringList all;
+    for (const std::string& note : result.data->notes)
+        all << QString::fromStdString(note);
+    if (all.size() > notes.size())
+        m_notice.addDetails(all);
 }
 
 } // namespace corvala::app

@@ -271,6 +271,7 @@ void DataReader::Private::takeLoaded(const LoadedData& loaded)
         return giveUp();
     ReadResult result;
     result.data = loaded.data;
+    result.noteGroups = loaded.noteGroups;
     result.detectedPlot3D = loaded.plot3d;
     result.detectedText = loaded.text;
     result.preview = loaded.preview;

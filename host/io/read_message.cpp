@@ -3,6 +3,9 @@
 
 #include <QCoreApplication>
 
+#include <map>
+#include <utility>
+
 namespace corvala::host::io {
 
 ReadMessage::ReadMessage(const char* english, std::initializer_list<QString> values)
@@ -32,6 +35,24 @@ static QString filledIn(const QString& text, const std::vector<std::string>& arg
 QString ReadMessage::toString() const
 {
     return filledIn(QCoreApplication::translate("ReadMessage", text.c_str()), arguments);
+}
+
+QStringList grouped(const std::vector<ReadMessage>& messages)
+{
+    std::map<std::string, int> uses;
+    for (const ReadMessage& message : messages)
+        ++uses[message.text];
+    QStringList result;
+    for (const ReadMessage& message : messages) {
+        const int more = std::exchange(uses[message.text], 0) - 1;
+        if (more == 0)
+            result << message.toString();
+        else if (more > 0)
+            result << QCoreApplication::translate("ReadMessage", "%1 (and %n more like it)",
+                                                  nullptr, more)
+                          .arg(message.toString());
+    }
+    return result;
 }
 
 } // namespace corvala::host::io

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <initializer_list>
 #include <string>
@@ -22,5 +23,9 @@ struct ReadMessage
     QString toString() const; ///< translated, with the arguments filled in
     bool isEmpty() const { return text.empty(); }
 };
+
+/// One sentence for all messages that say the same of different things: the first of them, and how
+/// many are like it.
+QStringList grouped(const std::vector<ReadMessage>& messages);
 
 } // namespace corvala::host::io

@@ -41,6 +41,7 @@ LoadedData loadData(std::unique_ptr<ReadFolder> folder)
     result.text = index->text;
     for (const ReadMessage& note : index->notes)
         result.data->notes.push_back(note.toString().toStdString());
+    result.noteGroups = grouped(index->notes);
     result.data->source = source;
     return result;
 }

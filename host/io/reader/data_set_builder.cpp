@@ -21,7 +21,6 @@ namespace corvala::host::io::reader {
 /// Z range of planar data against their extent: rounding in a file must not make a plane thick.
 static constexpr double kFlatness = 1e-6;
 static constexpr double kPartOfReading = 0.5; ///< of the progress; the rest is handing over
-static constexpr std::size_t kMostWarnings = 5; ///< that are shown
 static constexpr std::int64_t kBytesOfPoint = 3 * sizeof(float);
 
 DataSetBuilder::DataSetBuilder(const QString& folder, Channel& channel, std::int64_t memoryBytes)
@@ -256,19 +255,13 @@ void DataSetBuilder::noteWarnings(const DataFile& file)
 {
     const QString name = QFileInfo(file.path()).fileName();
     for (const QString& warning : VtkMessages::takeWarnings()) {
-        if (!m_warnings.insert(name + QLatin1Char('\n') + warning).second
-            || m_warnings.size() > kMostWarnings)
-            continue;
-        m_index.notes.emplace_back("%1: %2", std::initializer_list<QString> {name, warning});
+        if (m_warnings.insert(name + QLatin1Char('\n') + warning).second)
+            m_index.notes.emplace_back("%1: %2", std::initializer_list<QString> {name, warning});
     }
 }
 
 void DataSetBuilder::noteOmissions()
 {
-    if (m_warnings.size() > kMostWarnings)
-        m_index.notes.emplace_back(
-            QT_TRANSLATE_NOOP("ReadMessage", "There were %1 more warnings like these."),
-            std::initializer_list<QString> {QString::number(m_warnings.size() - kMostWarnings)});
     const auto empty = std::count_if(m_blocks.begin(), m_blocks.end(),
                                      [](const Block& block) { return block.zones.empty(); });
     if (empty == 1)
