@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "tests/io/damage.h"
+
+namespace corvala::host::io {
+
+/// How a made-up EnSight case is written.
+struct EnSightForm
+{
+    enum Coding { Text, Binary, BinaryBigEndian, Fortran, FortranBigEndian };
+
+    Coding coding = Text;
+    bool isGold = true;
+    bool isOneFile = false; ///< all time steps in one file each
+};
+
+/// A case "a.case" with the times 0.5 and 1.5 of several parts: "solid", "block" and, of Gold, one
+/// of each other kind, an empty one, and particles. At point or cell n, from 0, of part k at a
+/// time, "p" at the points is 100 k + n + 10 time, and so is component c of "v" in the cells, with
+/// c / 10 more; "dust" of the particles is like "p" of part 0.
+MadeData ensightCase(const EnSightForm& form);
+
+} // namespace corvala::host::io
