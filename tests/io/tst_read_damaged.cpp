@@ -2,6 +2,16 @@
 #include "tests/io/ensight_files.h"
 #include "tests/support/rows.h"
 
+#include <vtkCellData.h>
+#include <vtkCellType.h>
+#include <vtkDoubleArray.h>
+#include <vtkNew.h>
+#include <vtkPointData.h>
+#include <vtkPoints.h>
+#include <vtkUnstructuredGrid.h>
+#include <vtkUnstructuredGridWriter.h>
+#include <vtkXMLUnstructuredGridWriter.h>
+
 using namespace corvala::host;
 using namespace corvala::host::io;
 using namespace corvala::tests;
@@ -12,6 +22,31 @@ static QVector<double> numbers(int count, double first)
     for (int i = 0; i < count; ++i)
         result << static_cast<double>(static_cast<float>(first + i));
     return result;
+}
+
+/// Six tetrahedra with values at the points and in the cells.
+static vtkSmartPointer<vtkUnstructuredGrid> mesh()
+{
+    constexpr int kPoints = 9;
+    auto grid = vtkSmartPointer<vtkUnstructuredGrid>::New();
+    vtkNew<vtkPoints> points;
+    vtkNew<vtkDoubleArray> p;
+    p->SetName("p");
+    vtkNew<vtkDoubleArray> q;
+    q->SetName("q");
+    for (int i = 0; i < kPoints; ++i) {
+        points->InsertNextPoint(i, i * i, i % 2);
+        p->InsertNextValue(100.5 + i);
+    }
+    grid->SetPoints(points);
+    for (vtkIdType i = 0; i + 3 < kPoints; ++i) {
+        const vtkIdType corners[] = {i, i + 1, i + 2, i + 3};
+        grid->InsertNextCell(VTK_TETRA, 4, corners);
+        q->InsertNextValue(7.25 * static_cast<double>(i));
+    }
+    grid->GetPointData()->AddArray(p);
+    grid->GetCellData()->AddArray(q);
+    return grid;
 }
 
 class TestReadDamaged : public QObject
@@ -75,7 +110,45 @@ private Q_SLOTS:
                                     : QStringList {"p_1", "v_1", "places1", "dust0"});
     }
 
+    void damagedFiles_data()
+    {
+        const Rows<QString, MadeFile (*)(const QByteArray&)> row;
+        row("XML, text", "text.vtu", textFile);
+        row("XML, base64", "base64.vtu", textFile);
+        row("XML, appended", "appended.vtu", plainFile);
+        row("legacy, binary", "binary.vtk", plainFile);
+        row("CGNS", "cgns_hexa/cgnslib_vers-4400.cgns", plainFile);
+        row("Plot3D", "combustor_plot3d/multi-bin.xyz", plainFile);
+    }
+
+    void damagedFiles()
+    {
+        const auto [name, made] = currentRow<QString, MadeFile (*)(const QByteArray&)>();
+        writeMesh(vtkNew<vtkXMLUnstructuredGridWriter>(), "text.vtu",
+                  [](auto& file) { file.SetDataModeToAscii(); });
+        writeMesh(vtkNew<vtkXMLUnstructuredGridWriter>(), "base64.vtu",
+                  [](auto& file) { file.SetDataModeToBinary(); });
+        writeMesh(vtkNew<vtkXMLUnstructuredGridWriter>(), "appended.vtu",
+                  [](auto& file) { file.EncodeAppendedDataOff(); });
+        writeMesh(vtkNew<vtkUnstructuredGridWriter>(), "binary.vtk",
+                  [](auto& file) { file.SetFileTypeToBinary(); });
+        if (name.contains('/'))
+            m_folder->copySample(name.section('/', 0, 0));
+        QFile file(m_folder->path(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        checkDamages({{{name, made(file.readAll())}}, {name}}, {name});
+    }
+
 private:
+    template<class Writer, class Set>
+    void writeMesh(const vtkNew<Writer>& writer, const char* name, Set set) const
+    {
+        writer->SetFileName(qPrintable(m_folder->path(name)));
+        writer->SetInputData(mesh());
+        set(*writer);
+        writer->Write();
+    }
+
     void write(const MadeData& data) const
     {
         for (auto file = data.files.begin(); file != data.files.end(); ++file)

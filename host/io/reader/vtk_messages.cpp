@@ -25,11 +25,11 @@ static QString essence(const char* text)
 }
 
 /// Says only that something went wrong, so that a later message may say it better. Pipelines pass
-/// on that a reader failed.
+/// on that a reader failed; a name of a type that is cut off is whatever the memory held.
 static bool isVague(const char* text)
 {
     static const QRegularExpression vague(
-        QStringLiteral("Pipeline \\(0x|: (Read|stat) failed\\.?\\s*$"));
+        QStringLiteral("Pipeline \\(0x|Unsupported data type|: (Read|stat) failed\\.?\\s*$"));
     return vague.match(QString::fromUtf8(text)).hasMatch();
 }
 
