@@ -41,7 +41,8 @@ static std::pair<int, int> sectionAt(const MadeFile& file, double part)
 std::vector<Damage> damages()
 {
     std::vector<Damage> result {
-        {"empty", [](const MadeFile&) { return QByteArray(); }},
+        {"missing", [](const MadeFile&) { return QByteArray(); }},
+        {"empty", [](const MadeFile&) { return QByteArray(""); }},
         {"a byte short", [](const MadeFile& file) { return file.content.chopped(1); }},
         {"some bytes short", [](const MadeFile& file) { return file.content.chopped(7); }}};
     const auto add = [&](const char* name, double part, auto change) {

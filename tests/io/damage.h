@@ -33,7 +33,7 @@ MadeFile plainFile(const QByteArray& content);
 struct Damage
 {
     QString name;
-    std::function<QByteArray(const MadeFile&)> apply;
+    std::function<QByteArray(const MadeFile&)> apply; ///< null for a file that is missing
 };
 
 /// Cuts at sections and inside them, sections that are missing or repeated, counts that are

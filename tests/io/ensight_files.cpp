@@ -249,6 +249,9 @@ static void writeEnSight6Geometry(EnSightWriter& file, double time)
         file.floats(numbers(12, first, step), 6);
 }
 
+static constexpr int kPartial = 3; ///< the part with values at some points only
+static constexpr int kUndefined = 6; ///< the part with a value that says there is none
+
 static void writeGoldValues(EnSightWriter& file, double time, bool isOfCells)
 {
     file.line("values");
@@ -259,16 +262,26 @@ static void writeGoldValues(EnSightWriter& file, double time, bool isOfCells)
         file.ints({k});
         if (part.points == 0)
             continue;
-        if (!isOfCells) {
+        const double first = 100 * k + 10 * time;
+        if (!isOfCells && k == kPartial) {
+            file.line("coordinates partial");
+            file.count(2);
+            file.ints({1, 3});
+            file.floats({first, first + 2});
+        } else if (!isOfCells && k == kUndefined) {
+            file.line("block undef");
+            file.floats({-1});
+            file.floats({first, first + 1, -1, first + 3, first + 4, first + 5});
+        } else if (!isOfCells) {
             file.line(part.block.isEmpty() ? "coordinates" : "block");
-            file.floats(numbers(part.points, 100 * k + 10 * time, 1));
+            file.floats(numbers(part.points, first, 1));
         }
-        int first = 0;
+        int cell = 0;
         for (const auto& [kind, count] : isOfCells ? part.cells : decltype(part.cells)()) {
             file.line(kind);
             for (int c = 0; c < 3; ++c)
-                file.floats(numbers(count, 100 * k + 10 * time + c / 10.0 + first, 1));
-            first += kind.startsWith("g_") ? 0 : count;
+                file.floats(numbers(count, first + c / 10.0 + cell, 1));
+            cell += kind.startsWith("g_") ? 0 : count;
         }
     }
 }
@@ -350,7 +363,8 @@ MadeData ensightCase(const EnSightForm& form)
     const QByteArray text = QByteArray("FORMAT\ntype: ensight ") + (form.isGold ? "gold" : "")
         + "\nGEOMETRY\nmodel: " + sets + " geo" + end + "measured: " + sets + " places" + end
         + "VARIABLE\nscalar per node: " + sets + " p p_" + end + "vector per element: " + sets
-        + " v \"v_" + end.chopped(1) + "\"\nscalar per measured node: " + sets + " dust dust" + end
+        + " v \"my data/v_" + end.chopped(1) + "\"\nscalar per measured node: " + sets
+        + " dust dust" + end
         + "TIME\ntime set: 1\nnumber of steps: 2\nfilename start number: 0\n"
           "filename increment: 1\ntime values: 0.5\n1.5\n"
         + (form.isOneFile ? "FILE\nfile set: 1\nnumber of steps: 2\n" : "");
@@ -361,10 +375,11 @@ MadeData ensightCase(const EnSightForm& form)
     addFiles(data, form, "places", true, writeParticles);
     addFiles(data, form, "dust", false, writeParticleValues);
     for (const bool isOfCells : {false, true})
-        addFiles(data, form, isOfCells ? "v_" : "p_", false, [&](EnSightWriter& file, double time) {
-            form.isGold ? writeGoldValues(file, time, isOfCells)
-                        : writeEnSight6Values(file, time, isOfCells);
-        });
+        addFiles(data, form, isOfCells ? "my data/v_" : "p_", false,
+                 [&](EnSightWriter& file, double time) {
+                     form.isGold ? writeGoldValues(file, time, isOfCells)
+                                 : writeEnSight6Values(file, time, isOfCells);
+                 });
     return data;
 }
 

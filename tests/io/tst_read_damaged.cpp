@@ -2,6 +2,11 @@
 #include "tests/io/ensight_files.h"
 #include "tests/support/rows.h"
 
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <iterator>
+
 #include <vtkCellData.h>
 #include <vtkCellType.h>
 #include <vtkDoubleArray.h>
@@ -49,6 +54,14 @@ static vtkSmartPointer<vtkUnstructuredGrid> mesh()
     return grid;
 }
 
+static QVector<double> definedIn(const QVector<double>& values)
+{
+    QVector<double> result;
+    std::copy_if(values.begin(), values.end(), std::back_inserter(result),
+                 [](double value) { return std::isfinite(value); });
+    return result;
+}
+
 class TestReadDamaged : public QObject
 {
     Q_OBJECT
@@ -87,6 +100,11 @@ private Q_SLOTS:
         QCOMPARE(values(*data, 4, "X"),
                  (QVector<double> {1.5, 2, 2.5, 3, 3.5, 4, 4.5, 5, 5.5, 6, 6.5, 7}));
         QCOMPARE(values(*data, data->zoneCount(), "dust"), numbers(3, 15));
+        if (form.isGold) {
+            QCOMPARE(definedIn(values(*data, 6, "p")), (QVector<double> {315, 317}));
+            QCOMPARE(definedIn(values(*data, 10, "p")),
+                     (QVector<double> {615, 616, 618, 619, 620}));
+        }
         QCOMPARE(data->notes.size(), std::size_t(form.isGold ? 1 : 0)); // the empty part
     }
 
@@ -106,8 +124,44 @@ private Q_SLOTS:
         const MadeData made = ensightCase(form);
         checkDamages(made, {form.isOneFile ? "geo" : "geo1"});
         checkDamages(made,
-                     form.isOneFile ? QStringList {"p_", "v_", "dust"}
-                                    : QStringList {"p_1", "v_1", "places1", "dust0"});
+                     form.isOneFile ? QStringList {"p_", "my data/v_", "dust"}
+                                    : QStringList {"p_1", "my data/v_1", "places1", "dust0"});
+    }
+
+    void notesOfEnSight_data()
+    {
+        const Rows<QString, std::function<QByteArray(const QByteArray&)>, QString> row;
+        const auto nothing = [](const QByteArray&) { return QByteArray(); };
+        row("values are missing", "p_1", nothing,
+            "p was left out at time 1.5: p_1: there is no such file.");
+        row(
+            "values are cut off", "p_1", [](const QByteArray& all) { return all.chopped(1); },
+            "p was left out in uniform at time 1.5: p_1: it is cut off: 1323 of at least 1324 "
+            "bytes "
+            "are there.");
+        row(
+            "no parts", "my data/v_1", [](const QByteArray& all) { return all.left(80); },
+            "v was left out at time 1.5: v_1: there are no values of it.");
+        row("no geometry at one time", "geo1", nothing,
+            "Time 1.5 was left out: geo1: there is no such file.");
+        row("no particles at one time", "places1", nothing,
+            "Particles were left out at time 1.5: places1: there is no such file.");
+        row(
+            "no field", "a.case",
+            [](QByteArray all) { return all.replace("TIME", "constant per case: M 0.8\nTIME"); },
+            "Line 10 of the case was left out: constant per case: M 0.8 is no field.");
+    }
+
+    void notesOfEnSight()
+    {
+        const auto [file, change, note] =
+            currentRow<QString, std::function<QByteArray(const QByteArray&)>, QString>();
+        const MadeData made = ensightCase({EnSightForm::Binary, true, false});
+        write(made);
+        replace(file, change(made.files[file].content));
+        const ReadResult result = read({m_folder->path("a.case")});
+        QVERIFY2(result.data, qPrintable(result.error));
+        QVERIFY2(result.noteGroups.contains(note), qPrintable(result.noteGroups.join('\n')));
     }
 
     void damagedFiles_data()
@@ -155,6 +209,12 @@ private:
             m_folder->write(file.key(), file->content);
     }
 
+    void replace(const QString& file, const QByteArray& content) const
+    {
+        content.isNull() ? QFile::remove(m_folder->path(file))
+                         : m_folder->write(file, content).isEmpty();
+    }
+
     /// Damages all of the files in each of the ways.
     void checkDamages(const MadeData& made, const QStringList& damaged) const
     {
@@ -163,7 +223,7 @@ private:
         QVERIFY2(sound.error.isEmpty(), qPrintable(sound.error));
         for (const Damage& damage : damages()) {
             for (const QString& file : damaged)
-                m_folder->write(file, damage.apply(made.files[file]));
+                replace(file, damage.apply(made.files[file]));
             const QString problem = Shown(*m_folder, made.opened).problemAgainst(sound, damaged);
             if (!problem.isEmpty())
                 QTest::qFail(qPrintable(damage.name + QStringLiteral(": ") + problem), __FILE__,

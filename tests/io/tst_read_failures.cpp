@@ -206,11 +206,8 @@ private Q_SLOTS:
     void cutSamples_data()
     {
         const Rows<QString, QString> row;
-        row("VTK XML", "combustor_three_blocks/multicomb_0.vts",
-            "combustor_three_blocks/multicomb_0.vts");
         row("Exodus", "exodus_biplane/biplane_rms_pressure_bs.exo",
             "exodus_biplane/biplane_rms_pressure_bs.exo");
-        row("CGNS", "cgns_hexa/cgnslib_vers-4400.cgns", "cgns_hexa/cgnslib_vers-4400.cgns");
         row("EnSight geometry", "naca_transient/naca.bin.case", "naca_transient/naca.gold.bin.geo");
         row("OpenFOAM mesh", "cavity_transient/case.foam",
             "cavity_transient/constant/polyMesh/points");

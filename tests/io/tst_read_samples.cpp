@@ -161,9 +161,9 @@ private Q_SLOTS:
         const ReadResult result = read({folder.filePath("case.foam")});
         QVERIFY2(result.data, qPrintable(result.error));
         QCOMPARE(result.data->notes.size(), std::size_t(12));
-        QCOMPARE(result.noteGroups,
-                 QStringList(QString::fromStdString(result.data->notes[0])
-                             + " (and 11 more like it)"));
+        QCOMPARE(
+            result.noteGroups,
+            QStringList(QString::fromStdString(result.data->notes[0]) + " (and 11 more like it)"));
     }
 
     void decomposedCase()
@@ -174,32 +174,6 @@ private Q_SLOTS:
         const auto result = dataOf({m_folder.write("parts/case.foam", {})});
         QCOMPARE(result->zoneCount(), std::int64_t(24));
         QCOMPARE(result->zone(1).cellCount, std::int64_t(800));
-    }
-
-    void quotedNamesInACaseFile()
-    {
-        const QDir sample(m_folder.copySample("naca_transient"));
-        QDir(sample).mkdir("my data");
-        for (const char* name :
-             {"naca.gold.bin.geo", "naca.gold.bin.DENS_1", "naca.gold.bin.DENS_3"})
-            QVERIFY(QFile::rename(sample.filePath(name), sample.filePath("my data/") + name));
-        const QString path = m_folder.write("naca_transient/quoted.case", R"(FORMAT
-type: ensight gold
-GEOMETRY
-model: "my data/naca.gold.bin.geo"
-VARIABLE
-scalar per node: 1 "DENS" "my data/naca.gold.bin.DENS_*"
-TIME
-time set: 1
-number of steps: 2
-filename numbers: 1 3
-time values: 0.1 3
-)");
-        const auto result = dataOf({path});
-        const ReadResult plain = read({DataFolder::sample("naca_transient/naca.bin.case")});
-        QCOMPARE(result->zoneCount(), plain.data->zoneCount());
-        QCOMPARE(result->solutionTimes(), (std::vector<double> {0.1, 3.0}));
-        QCOMPARE(values(*result, 2, "DENS"), values(*plain.data, 2, "DENS"));
     }
 };
 

@@ -125,7 +125,7 @@ void EnSightCaseParser::take(const Line& line)
         takeFormat(line);
     else if (line.section == QLatin1String("GEOMETRY"))
         takeGeometry(line);
-    else if (line.section == QLatin1String("VARIABLE"))
+    else if (line.section.startsWith(QLatin1String("VARIABLE")))
         takeVariable(line);
     else if (line.section == QLatin1String("TIME"))
         takeTime(line);
@@ -185,15 +185,18 @@ void EnSightCaseParser::takeVariable(const Line& line)
                        "(node|element|measured node)$"));
     const QRegularExpressionMatch match = kind.match(line.key);
     QStringList words = line.words;
-    if (line.key.startsWith(QLatin1String("constant"))) {
-        takeSets(words, 2);
-        m_case.constants << words.value(0);
+    if (!match.hasMatch()) {
+        m_case.notes.emplace_back(
+            QT_TRANSLATE_NOOP("ReadMessage", "Line %1 of the case was left out: %2 is no field."),
+            std::initializer_list<QString> {QString::number(line.number),
+                                            line.key + QStringLiteral(": ")
+                                                + line.words.join(QLatin1Char(' '))});
         return;
     }
     const bool isComplex = !match.captured(1).isEmpty();
     EnSightVariable variable;
     variable.files = takeSets(words, isComplex ? 3 : 2);
-    if (!match.hasMatch() || words.size() < (isComplex ? 3 : 2))
+    if (words.size() < (isComplex ? 3 : 2))
         refuse(line);
     static const std::map<QString, int> components {{QStringLiteral("scalar"), 1},
                                                     {QStringLiteral("vector"), 3},

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "host/io/read_message.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -57,7 +59,7 @@ public:
     EnSightFiles geometry;
     std::optional<EnSightFiles> particles;
     std::vector<EnSightVariable> variables;
-    QStringList constants; ///< names of variables that have one value in all
+    std::vector<ReadMessage> notes; ///< what it says that is left out
 
     /// All solution times, ascending and distinct; empty for steady data.
     std::vector<double> times() const;

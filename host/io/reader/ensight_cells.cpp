@@ -19,6 +19,24 @@ struct EnSightCells::Kind
     std::array<int, 15> order {}; ///< place of each corner in the cell, where it differs
 };
 
+const EnSightCells::Kind EnSightCells::s_kinds[] = {
+    {"point", VTK_VERTEX, 1},
+    {"bar2", VTK_LINE, 2},
+    {"bar3", VTK_QUADRATIC_EDGE, 3},
+    {"tria3", VTK_TRIANGLE, 3},
+    {"tria6", VTK_QUADRATIC_TRIANGLE, 6},
+    {"quad4", VTK_QUAD, 4},
+    {"quad8", VTK_QUADRATIC_QUAD, 8},
+    {"tetra4", VTK_TETRA, 4},
+    {"tetra10", VTK_QUADRATIC_TETRA, 10},
+    {"pyramid5", VTK_PYRAMID, 5},
+    {"pyramid13", VTK_QUADRATIC_PYRAMID, 13},
+    {"hexa8", VTK_HEXAHEDRON, 8},
+    {"hexa20", VTK_QUADRATIC_HEXAHEDRON, 20},
+    {"penta6", VTK_WEDGE, 6, {0, 2, 1, 3, 5, 4}},
+    {"penta15", VTK_QUADRATIC_WEDGE, 15, {0, 2, 1, 3, 5, 4, 8, 7, 6, 11, 10, 9, 12, 14, 13}},
+};
+
 static constexpr char kPolygons[] = "nsided";
 static constexpr char kPolyhedra[] = "nfaced";
 
@@ -48,29 +66,12 @@ EnSightCells::EnSightCells(EnSightStream& file, const EnSightNodes& nodes, EnSig
 
 void EnSightCells::read(const std::string& name)
 {
-    static constexpr Kind kKinds[] = {
-        {"point", VTK_VERTEX, 1},
-        {"bar2", VTK_LINE, 2},
-        {"bar3", VTK_QUADRATIC_EDGE, 3},
-        {"tria3", VTK_TRIANGLE, 3},
-        {"tria6", VTK_QUADRATIC_TRIANGLE, 6},
-        {"quad4", VTK_QUAD, 4},
-        {"quad8", VTK_QUADRATIC_QUAD, 8},
-        {"tetra4", VTK_TETRA, 4},
-        {"tetra10", VTK_QUADRATIC_TETRA, 10},
-        {"pyramid5", VTK_PYRAMID, 5},
-        {"pyramid13", VTK_QUADRATIC_PYRAMID, 13},
-        {"hexa8", VTK_HEXAHEDRON, 8},
-        {"hexa20", VTK_QUADRATIC_HEXAHEDRON, 20},
-        {"penta6", VTK_WEDGE, 6, {0, 2, 1, 3, 5, 4}},
-        {"penta15", VTK_QUADRATIC_WEDGE, 15, {0, 2, 1, 3, 5, 4, 8, 7, 6, 11, 10, 9, 12, 14, 13}},
-    };
     const std::string word = name.substr(0, name.find(' '));
     const bool isGhost = word.rfind("g_", 0) == 0;
     const std::string base = isGhost ? word.substr(2) : word;
-    const Kind* const kind = std::find_if(std::begin(kKinds), std::end(kKinds),
+    const Kind* const kind = std::find_if(std::begin(s_kinds), std::end(s_kinds),
                                           [&](const Kind& each) { return base == each.name; });
-    const bool isKnown = kind != std::end(kKinds) || base == kPolygons || base == kPolyhedra;
+    const bool isKnown = kind != std::end(s_kinds) || base == kPolygons || base == kPolyhedra;
     const bool isNew = std::none_of(m_elements.begin(), m_elements.end(),
                                     [&](const EnSightElements& each) { return each.kind == word; });
     if (!isKnown || !isNew)

@@ -50,6 +50,7 @@ public:
 
 private:
     struct Kind;
+    static const Kind s_kinds[];
 
     void readPlain(const Kind& kind, qint64 count, bool isGhost);
     void readPolygons(qint64 count, bool isGhost);

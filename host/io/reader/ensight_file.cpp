@@ -75,11 +75,8 @@ EnSightFile::EnSightFile(const QString& path)
     : m_path(path)
     , m_case(path)
     , m_times(m_case.times())
+    , m_notes(m_case.notes)
 {
-    if (!m_case.constants.isEmpty())
-        note(QT_TRANSLATE_NOOP("ReadMessage",
-                               "Variables with one value for the whole case were left out: %1."),
-             {m_case.constants.join(QStringLiteral(", "))});
 }
 
 void EnSightFile::note(const char* text, std::initializer_list<QString> values)

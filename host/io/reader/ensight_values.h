@@ -18,9 +18,9 @@ using TakeEnSightValues =
 vtkIdType valueCount(const EnSightVariable& variable, const EnSightPart& part);
 
 /// Reads one step of a variable, of version Gold or 6, from its description to its end. The parts
-/// are those of the geometry or, for a variable of particles, these. Values are those of a part when
-/// what follows them is what must follow. Throws ReadFailure where the file is not sound; what was
-/// taken before that stays good.
+/// are those of the geometry or, for a variable of particles, these. Values are those of a part
+/// when what follows them is what must follow. Throws ReadFailure where the file is not sound; what
+/// was taken before that stays good.
 void readEnSightValues(EnSightStream& file, bool isGold, const EnSightVariable& variable,
                        const std::vector<EnSightPart>& parts, const TakeEnSightValues& take);
 
