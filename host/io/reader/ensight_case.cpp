@@ -250,7 +250,8 @@ void EnSightCaseParser::takeTime(const Line& line)
             refuse(line);
         for (int i = 0; i < set.stepCount; ++i) {
             bool isNumber = false;
-            const double time = words[i].toDouble(&isNumber);
+            const double time =
+                QString(words[i]).replace(QLatin1Char('D'), QLatin1Char('e')).toDouble(&isNumber);
             if (!isNumber || !std::isfinite(time))
                 refuse(line);
             set.steps.emplace(time, i);

@@ -67,7 +67,8 @@ private:
     std::map<int, unsigned int> m_blockOfPart; ///< in the order in which parts were met
     std::vector<std::string> m_blockNames;
     std::set<int> m_bareParts; ///< that were noted
-    std::optional<ReadFailure> m_failure; ///< of the geometry, while no time has one
+    bool m_hasGeometry = false; ///< at some time
+    std::optional<ReadFailure> m_failure; ///< of the first geometry that is not sound
     std::vector<ReadMessage> m_notes;
 };
 
@@ -133,18 +134,16 @@ bool EnSightFile::loadGeometry(std::size_t timeIndex)
     const EnSightStep step = m_case.step(m_case.geometry, time);
     if (holds(m_geometry, step))
         return true;
-    const bool wasFound = m_geometry.has_value();
     try {
         readGeometry(step);
-        m_failure.reset();
+        m_hasGeometry = true;
         noteBareParts(m_geometry->parts);
         return true;
     } catch (const ReadFailure& failure) {
         const bool isForAll = !m_case.geometry.hasNumber() && !m_steps.areIn(step.path);
         const bool isLast = timeIndex + 1 >= m_times.size();
-        if (!m_failure && !wasFound)
-            m_failure = failure;
-        if (isForAll || (isLast && m_failure))
+        m_failure = m_failure.value_or(failure);
+        if (!m_hasGeometry && (isForAll || isLast))
             throw ReadFailure(*m_failure);
         note(QT_TRANSLATE_NOOP("ReadMessage", "Time %1 was left out: %2: %3."),
              {timeText(time), QFileInfo(failure.file).fileName(), failure.message.toString()});

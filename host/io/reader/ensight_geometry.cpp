@@ -19,6 +19,8 @@
 
 namespace corvala::host::io::reader {
 
+static constexpr int kParticles = -1; ///< in place of a part number
+
 /// What stands before the parts.
 struct Preamble
 {
@@ -327,7 +329,7 @@ EnSightPart readParticles(EnSightStream& file)
     auto grid = vtkSmartPointer<vtkPolyData>::New();
     grid->SetPoints(points);
     grid->SetVerts(vertices);
-    return {0, "Particles", false, {}, grid};
+    return {kParticles, "Particles", false, {}, grid};
 }
 
 } // namespace corvala::host::io::reader

@@ -9,7 +9,7 @@
 
 namespace corvala::host::io::reader {
 
-static constexpr qint64 kBufferSize = 1 << 18;
+static constexpr qint64 kBufferSize = 1 << 16;
 
 FileBytes::FileBytes(const QString& path)
     : m_file(path)
@@ -38,10 +38,12 @@ void FileBytes::fill()
     m_bufferStart = position();
     m_place = 0;
     m_buffer.resize(static_cast<std::size_t>(std::min(kBufferSize, left())));
-    const bool isRead = m_file.seek(m_bufferStart)
-        && m_file.read(m_buffer.data(), static_cast<qint64>(m_buffer.size()))
-            == static_cast<qint64>(m_buffer.size());
-    if (!isRead)
+    readFrom(m_bufferStart, m_buffer.data(), static_cast<qint64>(m_buffer.size()));
+}
+
+void FileBytes::readFrom(qint64 position, char* target, qint64 count)
+{
+    if (!m_file.seek(position) || m_file.read(target, count) != count)
         throw ReadFailure(path(), QT_TRANSLATE_NOOP("ReadMessage", "it changed while it was read"));
 }
 
@@ -56,16 +58,13 @@ std::string_view FileBytes::peek(qint64 count)
 
 void FileBytes::read(char* target, qint64 count)
 {
-    while (count > 0) {
-        const std::string_view bytes = peek(std::min(count, kBufferSize));
-        if (bytes.empty())
-            throw ReadFailure(path(),
-                              QT_TRANSLATE_NOOP("ReadMessage", "it changed while it was read"));
-        std::memcpy(target, bytes.data(), bytes.size());
-        m_place += static_cast<qint64>(bytes.size());
-        target += bytes.size();
-        count -= static_cast<qint64>(bytes.size());
-    }
+    const qint64 inBuffer = std::min(count, static_cast<qint64>(m_buffer.size()) - m_place);
+    std::memcpy(target, m_buffer.data() + m_place, static_cast<std::size_t>(inBuffer));
+    m_place += inBuffer;
+    if (count == inBuffer)
+        return;
+    readFrom(position(), target + inBuffer, count - inBuffer);
+    skip(count - inBuffer);
 }
 
 } // namespace corvala::host::io::reader

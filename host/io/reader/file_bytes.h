@@ -30,6 +30,7 @@ public:
 
 private:
     void fill();
+    void readFrom(qint64 position, char* target, qint64 count);
 
     QFile m_file;
     qint64 m_size = 0;
