@@ -27,6 +27,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QSet>
@@ -504,6 +505,25 @@ private Q_SLOTS:
         QCOMPARE(recentFiles().mid(0, 2),
                  (QList<QStringList> {{sample("combustor_plot3d/multi-bin.xyz")}, {"/a"}}));
         QCOMPARE(recentFiles().count({"/a"}), 1);
+    }
+
+    /// The values of both times are missing.
+    void listsWhatWasLeftOut()
+    {
+        QTemporaryDir folder;
+        for (const char* const name : {"naca.bin.case", "naca.gold.bin.geo"})
+            QVERIFY(QFile::copy(sample("naca_transient/") + name, folder.filePath(name)));
+        QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
+        m_window->openFiles({folder.filePath("naca.bin.case")});
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
+        QVERIFY2(shownTexts().contains(" there is no such file. (and 1 more like it)"),
+                 qPrintable(shownTexts()));
+        button("Details...")->click();
+        const auto* const list = QApplication::activeModalWidget()->findChild<QPlainTextEdit*>();
+        QCOMPARE(list->toPlainText().count("DENS was left out at time"), 2);
+        QApplication::activeModalWidget()->close();
+        m_window->openDemo(QStringLiteral("kinds"));
+        QVERIFY(!button("Details..."));
     }
 
     /// A table that can be meant in several ways, with a row that is bad in the way chosen.
