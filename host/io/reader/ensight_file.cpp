@@ -14,6 +14,7 @@
 #include <vtkMultiBlockDataSet.h>
 #include <vtkPointData.h>
 
+#include <cstring>
 #include <map>
 #include <set>
 
@@ -32,7 +33,7 @@ public:
     std::vector<double> times() const override { return m_times; }
     vtkSmartPointer<vtkDataObject> read(std::size_t timeIndex,
                                         const ProgressCall& progress) override;
-    std::vector<ReadMessage> notes() const override { return m_notes; }
+    std::vector<ReadMessage> notes() const override;
 
 private:
     using Parts = std::vector<EnSightPart>;
@@ -41,6 +42,16 @@ private:
     {
         EnSightStep step;
         Parts parts;
+    };
+
+    /// Where a variable is missing.
+    struct Gap
+    {
+        const EnSightVariable* variable;
+        double time;
+        QStringList parts; ///< names
+        bool isAll; ///< it is missing everywhere
+        ReadFailure reason; ///< empty where the file is sound
     };
 
     Parts readParts(EnSightStream& file, qint64& place) const;
@@ -53,8 +64,7 @@ private:
     void readVariable(const EnSightVariable& variable, double time, const Parts& parts);
     void noteBareParts(const Parts& parts);
     void note(const char* text, std::initializer_list<QString> values);
-    void noteMissing(const EnSightVariable& variable, double time, const QStringList& missing,
-                     bool isAll, const ReadFailure& reason);
+    ReadMessage noteOf(const Gap& gap) const;
     QString timeText(double time) const { return QString::number(time, 'g', 10); }
 
     QString m_path;
@@ -69,7 +79,9 @@ private:
     std::set<int> m_bareParts; ///< that were noted
     bool m_hasGeometry = false; ///< at some time
     std::optional<ReadFailure> m_failure; ///< of the first geometry that is not sound
-    std::vector<ReadMessage> m_notes;
+    std::vector<Gap> m_gaps;
+    std::map<const EnSightVariable*, int> m_readings;
+    std::vector<ReadMessage> m_notes; ///< of the case and the geometry
 };
 
 EnSightFile::EnSightFile(const QString& path)
@@ -213,63 +225,98 @@ bool EnSightFile::isCurrent(const EnSightVariable& variable, double time) const
     return own && (!geometry || *own >= *geometry);
 }
 
+static bool isSame(vtkFloatArray& one, vtkFloatArray& other)
+{
+    const vtkIdType count = one.GetNumberOfValues();
+    const auto size = sizeof(float) * static_cast<std::size_t>(count);
+    return count == other.GetNumberOfValues()
+        && std::memcmp(one.GetPointer(0), other.GetPointer(0), size) == 0;
+}
+
 void EnSightFile::readVariable(const EnSightVariable& variable, double time, const Parts& parts)
 {
     const EnSightStep step = m_case.step(variable.files, time);
-    std::vector<bool> isTaken(parts.size());
+    std::vector<vtkSmartPointer<vtkFloatArray>> taken(parts.size());
+    std::set<std::size_t> unclear;
     const auto take = [&](std::size_t part, const vtkSmartPointer<vtkFloatArray>& values) {
-        vtkDataSet& grid = *parts[part].grid;
-        const bool isOfCells = variable.place == EnSightVariable::Place::Elements;
-        grid.GetAttributes(isOfCells ? vtkDataObject::CELL : vtkDataObject::POINT)
-            ->AddArray(values);
-        isTaken[part] = true;
+        if (taken[part] && !isSame(*taken[part], *values))
+            unclear.insert(part);
+        taken[part] = values;
     };
-    ReadFailure reason(step.path, ReadMessage());
+    Gap gap {&variable, time, {}, true, ReadFailure(step.path, ReadMessage())};
     try {
         m_steps.read(step, m_codings.front(), [&](EnSightStream& file, bool wanted) {
             readEnSightValues(
                 file, m_case.isGold, variable, parts,
                 wanted ? TakeEnSightValues(take) : [](auto&&...) {});
         });
+        if (!unclear.empty())
+            gap.reason.message =
+                ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "it has several values for a place"));
     } catch (const ReadFailure& failure) {
-        reason = failure;
+        gap.reason = failure;
     }
-    QStringList missing;
-    for (std::size_t i = 0; i < parts.size(); ++i)
-        if (!isTaken[i] && valueCount(variable, parts[i]) > 0)
-            missing << QString::fromStdString(parts[i].name);
-    const bool isAll = std::find(isTaken.begin(), isTaken.end(), true) == isTaken.end();
-    if (!missing.isEmpty() || !reason.message.isEmpty())
-        noteMissing(variable, time, missing, isAll, reason);
+    const bool isOfCells = variable.place == EnSightVariable::Place::Elements;
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        vtkDataSet& grid = *parts[i].grid;
+        const bool isTaken = taken[i] && unclear.count(i) == 0;
+        if (isTaken)
+            grid.GetAttributes(isOfCells ? vtkDataObject::CELL : vtkDataObject::POINT)
+                ->AddArray(taken[i]);
+        else if (valueCount(variable, parts[i]) > 0)
+            gap.parts << QString::fromStdString(parts[i].name);
+        gap.isAll = gap.isAll && !isTaken;
+    }
+    ++m_readings[&variable];
+    const bool isWhole = gap.reason.message.isEmpty()
+        && (gap.parts.isEmpty() || taken.back() || m_steps.areIn(step.path));
+    if (!isWhole)
+        m_gaps.push_back(gap);
 }
 
-/// `reason` is empty where the file is sound.
-void EnSightFile::noteMissing(const EnSightVariable& variable, double time,
-                              const QStringList& missing, bool isAll, const ReadFailure& reason)
+/// What a sound file does not say of the last parts, it perhaps says never; but if it does so at
+/// other times, or there is one time only, it can be cut off.
+std::vector<ReadMessage> EnSightFile::notes() const
 {
-    const QString name = QString::fromStdString(variable.name);
-    const QString file = QFileInfo(reason.file).fileName();
-    const QString why = reason.message.isEmpty()
+    std::map<std::pair<const EnSightVariable*, QStringList>, int> uses;
+    for (const Gap& gap : m_gaps)
+        uses[{gap.variable, gap.parts}] += gap.reason.message.isEmpty() ? 1 : 0;
+    std::vector<ReadMessage> result = m_notes;
+    for (const Gap& gap : m_gaps) {
+        const int readings = m_readings.at(gap.variable);
+        if (readings == 1 || uses[{gap.variable, gap.parts}] < readings)
+            result.push_back(noteOf(gap));
+    }
+    return result;
+}
+
+ReadMessage EnSightFile::noteOf(const Gap& gap) const
+{
+    const QString name = QString::fromStdString(gap.variable->name);
+    const QString file = QFileInfo(gap.reason.file).fileName();
+    const QString why = gap.reason.message.isEmpty()
         ? ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "there are no values of it")).toString()
-        : reason.message.toString();
-    QStringList parts = missing.mid(0, kMostNames);
-    if (missing.size() > kMostNames)
+        : gap.reason.message.toString();
+    QStringList parts = gap.parts.mid(0, kMostNames);
+    if (gap.parts.size() > kMostNames)
         parts << QStringLiteral("...");
     const QString where = parts.join(QStringLiteral(", "));
-    if (isAll && m_times.empty())
-        note(QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out: %2: %3."), {name, file, why});
-    else if (isAll)
-        note(QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out at time %4: %2: %3."),
-             {name, file, why, timeText(time)});
-    else if (missing.isEmpty())
-        note(QT_TRANSLATE_NOOP("ReadMessage", "%1: what follows the values was left out: %2."),
-             {file, why});
-    else if (m_times.empty())
-        note(QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out in %4: %2: %3."),
-             {name, file, why, where});
-    else
-        note(QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out in %4 at time %5: %2: %3."),
-             {name, file, why, where, timeText(time)});
+    if (gap.isAll && m_times.empty())
+        return ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out: %2: %3."),
+                           {name, file, why});
+    if (gap.isAll)
+        return ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out at time %4: %2: %3."),
+                           {name, file, why, timeText(gap.time)});
+    if (gap.parts.isEmpty())
+        return ReadMessage(
+            QT_TRANSLATE_NOOP("ReadMessage", "%1: what follows the values was left out: %2."),
+            {file, why});
+    if (m_times.empty())
+        return ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out in %4: %2: %3."),
+                           {name, file, why, where});
+    return ReadMessage(
+        QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out in %4 at time %5: %2: %3."),
+        {name, file, why, where, timeText(gap.time)});
 }
 
 vtkSmartPointer<vtkDataObject> EnSightFile::read(std::size_t timeIndex,

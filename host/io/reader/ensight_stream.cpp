@@ -56,7 +56,7 @@ public:
 protected:
     std::optional<std::string> nextLine() override
     {
-        if (isRestEmpty())
+        if (m_bytes.left() == 0)
             return std::nullopt;
         char text[kLineLength];
         record(text, kLineLength);
@@ -86,14 +86,6 @@ private:
             qFromBigEndian<quint32>(words, count, words);
         else
             qFromLittleEndian<quint32>(words, count, words);
-    }
-
-    /// Less than a line of zeros or blanks may fill up the file.
-    bool isRestEmpty()
-    {
-        const std::string_view rest = m_bytes.peek(kLineLength);
-        return rest.size() < static_cast<std::size_t>(kLineLength)
-            && rest.find_first_not_of(std::string_view("\0 \n", 3)) == std::string_view::npos;
     }
 
     /// Some programs write one for a list of nothing.

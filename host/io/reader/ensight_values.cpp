@@ -78,7 +78,6 @@ private:
     const std::vector<EnSightPart>& m_parts;
     const TakeEnSightValues& m_take;
     std::map<int, std::size_t> m_partOfNumber;
-    std::set<int> m_numbers; ///< of the parts that were met
     bool m_areTogether = false; ///< components of an element
 };
 
@@ -93,9 +92,8 @@ void EnSightValueReader::failOf(const std::string& line) const
 std::size_t EnSightValueReader::nextPart(int number)
 {
     const auto found = m_partOfNumber.find(number);
-    if (found == m_partOfNumber.end() || !m_numbers.insert(number).second)
-        m_file.fail(QT_TRANSLATE_NOOP("ReadMessage",
-                                      "part %1 stands in it twice, or is not in the geometry"),
+    if (found == m_partOfNumber.end())
+        m_file.fail(QT_TRANSLATE_NOOP("ReadMessage", "part %1 is not in the geometry"),
                     {QString::number(number)});
     return found->second;
 }

@@ -10,7 +10,7 @@
 
 namespace corvala::host::io::reader {
 
-/// Takes the values of one of the parts once they are known to be whole.
+/// Takes the values of one of the parts once they are known to be whole. A part can come again.
 using TakeEnSightValues =
     std::function<void(std::size_t part, const vtkSmartPointer<vtkFloatArray>& values)>;
 
