@@ -37,6 +37,7 @@ public:
 
 private:
     using Parts = std::vector<EnSightPart>;
+    using Values = vtkSmartPointer<vtkFloatArray>;
     /// What was read last, which other times may share.
     struct Geometry
     {
@@ -64,6 +65,7 @@ private:
     void readVariable(const EnSightVariable& variable, double time, const Parts& parts);
     void noteBareParts(const Parts& parts);
     void note(const char* text, std::initializer_list<QString> values);
+    static void add(const std::vector<Values>& taken, const Parts& parts, Gap& gap);
     ReadMessage noteOf(const Gap& gap) const;
     QString timeText(double time) const { return QString::number(time, 'g', 10); }
 
@@ -236,9 +238,9 @@ static bool isSame(vtkFloatArray& one, vtkFloatArray& other)
 void EnSightFile::readVariable(const EnSightVariable& variable, double time, const Parts& parts)
 {
     const EnSightStep step = m_case.step(variable.files, time);
-    std::vector<vtkSmartPointer<vtkFloatArray>> taken(parts.size());
+    std::vector<Values> taken(parts.size());
     std::set<std::size_t> unclear;
-    const auto take = [&](std::size_t part, const vtkSmartPointer<vtkFloatArray>& values) {
+    const auto take = [&](std::size_t part, const Values& values) {
         if (taken[part] && !isSame(*taken[part], *values))
             unclear.insert(part);
         taken[part] = values;
@@ -256,22 +258,30 @@ void EnSightFile::readVariable(const EnSightVariable& variable, double time, con
     } catch (const ReadFailure& failure) {
         gap.reason = failure;
     }
-    const bool isOfCells = variable.place == EnSightVariable::Place::Elements;
-    for (std::size_t i = 0; i < parts.size(); ++i) {
-        vtkDataSet& grid = *parts[i].grid;
-        const bool isTaken = taken[i] && unclear.count(i) == 0;
-        if (isTaken)
-            grid.GetAttributes(isOfCells ? vtkDataObject::CELL : vtkDataObject::POINT)
-                ->AddArray(taken[i]);
-        else if (valueCount(variable, parts[i]) > 0)
-            gap.parts << QString::fromStdString(parts[i].name);
-        gap.isAll = gap.isAll && !isTaken;
-    }
+    for (const std::size_t part : unclear)
+        taken[part] = nullptr;
+    add(taken, parts, gap);
     ++m_readings[&variable];
     const bool isWhole = gap.reason.message.isEmpty()
         && (gap.parts.isEmpty() || taken.back() || m_steps.areIn(step.path));
     if (!isWhole)
         m_gaps.push_back(gap);
+}
+
+/// Adds the values that were taken to the parts, and those parts to the gap that have none.
+void EnSightFile::add(const std::vector<Values>& taken, const Parts& parts, Gap& gap)
+{
+    const EnSightVariable& variable = *gap.variable;
+    const bool isOfCells = variable.place == EnSightVariable::Place::Elements;
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        vtkDataSet& grid = *parts[i].grid;
+        if (taken[i])
+            grid.GetAttributes(isOfCells ? vtkDataObject::CELL : vtkDataObject::POINT)
+                ->AddArray(taken[i]);
+        else if (valueCount(variable, parts[i]) > 0)
+            gap.parts << QString::fromStdString(parts[i].name);
+        gap.isAll = gap.isAll && !taken[i];
+    }
 }
 
 /// What a sound file does not say of the last parts, it perhaps says never; but if it does so at
