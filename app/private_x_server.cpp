@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <sys/prctl.h>
+#include <unistd.h>
 
 namespace corvala::app {
 
@@ -25,6 +26,7 @@ PrivateXServer::~PrivateXServer()
 void PrivateXServer::setupChildProcess()
 {
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+    setpgid(0, 0); // what a terminal tells its programs is for the program to hear
 }
 
 QString PrivateXServer::launch()

@@ -97,16 +97,25 @@ static QString drawPicture(const Options& options)
     return problem;
 }
 
-/// The settings of curve fits show what comes of the fits that the plots draw.
-static void reportCurveFits()
+/// The settings of curve fits show what comes of the fits that the plots draw, while this lives.
+class CurveFitReports
 {
-    const auto reports = std::make_shared<plot::FitReports>();
-    propertybindings::setCurveFitReporter([reports](CvlUniqueId frame, CvlInt64 map) {
-        const host::Frame* const shown = host::Document::instance().frame(frame);
-        const bool exists = shown && map >= 1 && map <= shown->lineMapCount();
-        return exists ? reports->of(*shown, map) : std::optional(QString());
-    });
-}
+public:
+    CurveFitReports()
+    {
+        propertybindings::setCurveFitReporter([this](CvlUniqueId frame, CvlInt64 map) {
+            const host::Frame* const shown = host::Document::instance().frame(frame);
+            const bool exists = shown && map >= 1 && map <= shown->lineMapCount();
+            return exists ? m_reports.of(*shown, map) : std::optional(QString());
+        });
+    }
+    ~CurveFitReports() { propertybindings::setCurveFitReporter({}); }
+    CurveFitReports(const CurveFitReports&) = delete;
+    CurveFitReports& operator=(const CurveFitReports&) = delete;
+
+private:
+    plot::FitReports m_reports;
+};
 
 static int runBatch(MainWindow& window, const Options& options)
 {
@@ -186,7 +195,7 @@ static int runApplication(int argc, char** argv, const Options& options)
     QApplication application(argc, argv);
     setUpLocale();
     const Termination termination;
-    reportCurveFits();
+    const CurveFitReports reports;
     const host::GestureTracker gestures(host::Document::instance().undo());
     MainWindow window;
     if (!options.isBatch()) {

@@ -4,14 +4,11 @@
 #include <QCoreApplication>
 #include <QSocketNotifier>
 
-#include <csignal>
-
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace corvala::app {
 
-static constexpr int kSignals[] = {SIGTERM, SIGINT, SIGHUP};
 static constexpr int kShellOffset = 128;
 
 static int pipeEnds[2] = {-1, -1};
@@ -26,14 +23,11 @@ static void noteSignal(int signal)
 }
 
 /// What the program was told to ignore at its start, as under nohup, stays ignored.
-static void catchSignal(int signal)
+static void catchSignal(int signal, const struct sigaction& before)
 {
-    struct sigaction action
-    {
-    };
-    sigaction(signal, nullptr, &action);
-    if (action.sa_handler == SIG_IGN)
+    if (before.sa_handler == SIG_IGN)
         return;
+    struct sigaction action = before;
     action.sa_handler = noteSignal;
     action.sa_flags = SA_RESTART | SA_RESETHAND;
     sigaction(signal, &action, nullptr);
@@ -41,6 +35,8 @@ static void catchSignal(int signal)
 
 Termination::Termination()
 {
+    for (std::size_t i = 0; i < std::size(kSignals); ++i)
+        sigaction(kSignals[i], nullptr, &m_before[i]);
     if (pipe2(pipeEnds, O_CLOEXEC | O_NONBLOCK) != 0)
         return;
     m_notifier = new QSocketNotifier(pipeEnds[0], QSocketNotifier::Read, qApp);
@@ -48,14 +44,14 @@ Termination::Termination()
         m_notifier->setEnabled(false);
         QCoreApplication::exit(exitCode(0));
     });
-    for (const int signal : kSignals)
-        catchSignal(signal);
+    for (std::size_t i = 0; i < std::size(kSignals); ++i)
+        catchSignal(kSignals[i], m_before[i]);
 }
 
 Termination::~Termination()
 {
-    for (const int signal : kSignals)
-        std::signal(signal, SIG_DFL);
+    for (std::size_t i = 0; i < std::size(kSignals); ++i)
+        sigaction(kSignals[i], &m_before[i], nullptr);
     delete m_notifier;
     for (int& end : pipeEnds) {
         close(end);

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <csignal>
+#include <iterator>
+
 class QSocketNotifier;
 
 namespace corvala::app {
@@ -20,7 +23,10 @@ public:
     static int exitCode(int usual);
 
 private:
+    static constexpr int kSignals[] = {SIGTERM, SIGINT, SIGHUP};
+
     QSocketNotifier* m_notifier = nullptr;
+    struct sigaction m_before[std::size(kSignals)] {}; ///< what was done about each
 };
 
 } // namespace corvala::app

@@ -38,11 +38,21 @@ TextPreviewTable::TextPreviewTable(QWidget* parent)
         if (!extendsSelection)
             askForKind();
     });
-    for (QWidget* const part :
-         {static_cast<QWidget*>(this), static_cast<QWidget*>(horizontalHeader())}) {
-        part->setContextMenuPolicy(Qt::CustomContextMenu);
-        connect(part, &QWidget::customContextMenuRequested, this, &TextPreviewTable::askForKind);
-    }
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(this, &QWidget::customContextMenuRequested, this, &TextPreviewTable::askForKind);
+    horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(horizontalHeader(), &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& place) {
+                goTo(horizontalHeader()->logicalIndexAt(place));
+                askForKind();
+            });
+}
+
+/// Leaves a selection alone that the column is in.
+void TextPreviewTable::goTo(int column)
+{
+    if (column >= 0 && !selectedColumns().contains(column))
+        selectColumn(column);
 }
 
 void TextPreviewTable::showPreview(const TextPreview& preview,

@@ -35,6 +35,7 @@ private:
     void showTitle(int column, const std::string& name, host::io::TextColumnKind kind);
     void showRow(int row, const host::io::TextPreview::Row& shown);
     void askForKind();
+    void goTo(int column);
     QVector<int> selectedColumns() const;
 
     std::map<int, host::io::TextColumnKind> m_chosen;

@@ -13,7 +13,6 @@
 namespace corvala::host::io {
 
 static constexpr quint32 kMagic = 0x435A5431; ///< of the first version of the table
-static constexpr int kLongestRead = 1 << 30;
 
 int StoredArray::bytesOfNumber() const
 {
@@ -61,15 +60,8 @@ static void writeRecords(QDataStream& stream, const std::vector<Record>& records
 {
     static_assert(std::is_trivially_copyable_v<Record>);
     stream << static_cast<quint64>(records.size());
-    auto left = static_cast<std::int64_t>(records.size() * sizeof(Record));
-    const char* place = reinterpret_cast<const char*>(records.data());
-    while (left > 0) {
-        const int part = static_cast<int>(std::min<std::int64_t>(left, kLongestRead));
-        if (stream.writeRawData(place, part) != part)
-            return;
-        place += part;
-        left -= part;
-    }
+    stream.writeRawData(reinterpret_cast<const char*>(records.data()),
+                        static_cast<int>(records.size() * sizeof(Record)));
 }
 
 template<typename Record>

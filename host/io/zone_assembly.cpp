@@ -11,6 +11,7 @@
 #include <vtkPoints.h>
 #include <vtkPolyData.h>
 #include <vtkRectilinearGrid.h>
+#include <vtkStructuredData.h>
 #include <vtkStructuredGrid.h>
 #include <vtkTypeInt32Array.h>
 #include <vtkTypeInt64Array.h>
@@ -130,11 +131,11 @@ void Assembly::takeAttributes(std::int32_t count, vtkIdType tuples,
                               vtkDataSetAttributes& attributes)
 {
     for (std::int32_t i = 0; i < count; ++i) {
-        const ArrayLabel& label =
-            m_table.labels[static_cast<std::size_t>(m_table.arrays[m_next].label)];
+        const std::int32_t number = m_table.arrays[m_next].label;
         const vtkSmartPointer<vtkDataArray> array = takeArray();
         if (!array || array->GetNumberOfTuples() != tuples)
             continue;
+        const ArrayLabel& label = m_table.labels[static_cast<std::size_t>(number)];
         array->SetName(label.name.c_str());
         for (std::size_t c = 0; c < label.components.size(); ++c)
             array->SetComponentName(static_cast<vtkIdType>(c), label.components[c].c_str());
@@ -156,9 +157,16 @@ vtkSmartPointer<vtkDataSet> Assembly::rectilinearGrid()
 {
     const auto grid = vtkSmartPointer<vtkRectilinearGrid>::New();
     grid->SetExtent(m_zone.extent.data());
-    grid->SetXCoordinates(takeArray());
-    grid->SetYCoordinates(takeArray());
-    grid->SetZCoordinates(takeArray());
+    std::array<vtkSmartPointer<vtkDataArray>, 3> axes;
+    for (std::size_t i = 0; i < axes.size(); ++i) {
+        axes[i] = takeArray();
+        const std::int64_t size = std::int64_t(m_zone.extent[2 * i + 1]) - m_zone.extent[2 * i] + 1;
+        if (!axes[i] || axes[i]->GetNumberOfTuples() != size)
+            return nullptr;
+    }
+    grid->SetXCoordinates(axes[0]);
+    grid->SetYCoordinates(axes[1]);
+    grid->SetZCoordinates(axes[2]);
     return grid;
 }
 
@@ -166,8 +174,13 @@ vtkSmartPointer<vtkDataSet> Assembly::structuredGrid()
 {
     const auto grid = vtkSmartPointer<vtkStructuredGrid>::New();
     grid->SetExtent(m_zone.extent.data());
-    grid->SetPoints(takePoints());
-    return grid;
+    const vtkSmartPointer<vtkPoints> points = takePoints();
+    grid->SetPoints(points);
+    return points
+            && vtkStructuredData::GetNumberOfPoints(m_zone.extent.data())
+                == points->GetNumberOfPoints()
+        ? grid
+        : nullptr;
 }
 
 vtkSmartPointer<vtkDataSet> Assembly::unstructuredGrid()
@@ -208,6 +221,8 @@ vtkSmartPointer<vtkDataSet> Assembly::structure()
 vtkSmartPointer<vtkDataSet> Assembly::make()
 {
     const vtkSmartPointer<vtkDataSet> zone = structure();
+    if (!zone)
+        return nullptr;
     takeAttributes(m_zone.pointArrays, zone->GetNumberOfPoints(), *zone->GetPointData());
     takeAttributes(m_zone.cellArrays, zone->GetNumberOfCells(), *zone->GetCellData());
     return zone;

@@ -11,8 +11,8 @@
 
 namespace corvala::host::io {
 
-/// The zone with this index, whose arrays show the numbers where they lie; null when its arrays do
-/// not make a zone.
+/// The zone with this index, whose arrays show the numbers where they lie; null when they are too
+/// many or too few for an ordered zone. What cells name was checked by the reading program.
 vtkSmartPointer<vtkDataSet> assembleZone(const ZoneTable& table, std::size_t index,
                                          const MappedNumbers& numbers);
 

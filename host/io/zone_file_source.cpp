@@ -55,6 +55,8 @@ vtkSmartPointer<vtkDataSet> ZoneFileSource::zone(std::int64_t sourceIndex) const
     }
     const vtkSmartPointer<vtkDataSet> data =
         assembleZone(m_table, static_cast<std::size_t>(sourceIndex), *m_numbers);
+    if (!data)
+        return nullptr;
     keep(sourceIndex, data);
     return separate(*data);
 }

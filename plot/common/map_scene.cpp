@@ -86,7 +86,9 @@ bool MapScene::apply(const host::StateEvent& event)
             pendAtOtherTime(*drawn);
         return drawn != nullptr;
     case StateCode_VariableListChanged:
-    case StateCode_VariableRenamed: return true;
+    case StateCode_VariableRenamed:
+    case StateCode_ZoneRenamed:
+    case StateCode_LineMapRenamed: return true; // names in legends and titles
     default: return false;
     }
 }

@@ -4,6 +4,7 @@
 #include "plot/common/axis_ticks.h"
 #include "plot/line/date_ticker.h"
 #include "plot/line/log_ticker.h"
+#include "plot/line/number_ticker.h"
 
 #include <cmath>
 #include <utility>
@@ -40,7 +41,7 @@ static QSharedPointer<QCPAxisTicker> tickerOf(Ticks ticks)
     switch (ticks) {
     case Ticks::Powers: return QSharedPointer<QCPAxisTicker>(new LogTicker);
     case Ticks::Dates: return QSharedPointer<QCPAxisTicker>(new DateTicker);
-    default: return QSharedPointer<QCPAxisTicker>::create();
+    default: return QSharedPointer<QCPAxisTicker>(new NumberTicker);
     }
 }
 
@@ -83,7 +84,7 @@ void XyAxis::apply(const ChartLook& shared)
             hasRange = hasRange && side != &shown();
         }
         if (isOther)
-            side->setTicker(tickerOf(ticks));
+            side->setTicker(tickerOf(now));
         side->setRangeReversed(look.isReversed);
         setPen(*side, shared.axisPen(look.color));
         setSizes(*side, shared);

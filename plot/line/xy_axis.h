@@ -6,6 +6,7 @@
 #include "plot/line/line_plane.h"
 
 #include <array>
+#include <optional>
 
 namespace corvala::plot {
 
@@ -16,7 +17,7 @@ struct XyAxis
 {
     std::array<QCPAxis*, 2> sides {}; // owned by the plot
     AxisLook look;
-    Ticks ticks = Ticks::Numbers;
+    std::optional<Ticks> ticks; ///< once it has a look
     bool hasRange = false; ///< that somebody has chosen or fitted
 
     QCPAxis& shown() const { return *sides[look.isOpposite ? 1 : 0]; }

@@ -246,6 +246,9 @@ private Q_SLOTS:
             shown.settle();
             QCOMPARE(shown.scene().legend().box().isEmpty(), isEmpty);
         }
+        document().execute(host::RenameLineMaps {host::allUpTo(1), "lift"});
+        shown.settle();
+        QVERIFY(!shown.scene().legend().box().isEmpty());
     }
 
     void axesInUse()
@@ -312,6 +315,13 @@ private Q_SLOTS:
         const Check oneNote = [](ShownCanvas& shown) { return shown.scene().notes().size() == 1; };
         row("range", "xy", "LineAxes/X/AutomaticRange[1]=0 LineAxes/X/RangeMax[1]=3",
             axis(QCPAxis::atBottom, [](auto& x) { return x.range() == QCPRange(0, 3); }));
+        row("range far from 0", "xy",
+            "LineAxes/X/AutomaticRange[1]=0 LineAxes/X/RangeMin[1]=3.0000001 "
+            "LineAxes/X/RangeMax[1]=3.0000002",
+            axis(QCPAxis::atBottom, [](auto& x) {
+                return x.tickVectorLabels().size() > 2
+                    && x.tickVectorLabels().toList().removeDuplicates() == 0;
+            }));
         row("logarithmic", "xy", "LineAxes/Y/Scale[1]=1", axis(QCPAxis::atLeft, [](auto& y) {
                 return y.scaleType() == QCPAxis::stLogarithmic && y.range().lower > 0
                     && y.tickVectorLabels().size() == y.tickVector().size();

@@ -32,6 +32,7 @@ std::int64_t limitResources(std::int64_t memoryBytes)
     setLimit(RLIMIT_AS, bytes);
     setLimit(RLIMIT_CORE, 0);
     prctl(PR_SET_PDEATHSIG, SIGKILL);
+    setpgid(0, 0); // what a terminal tells its programs is for the parent to hear
     std::ofstream("/proc/self/oom_score_adj") << 1000;
     return bytes;
 }
