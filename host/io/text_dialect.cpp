@@ -71,7 +71,7 @@ static bool setColumnRange(const TextProperty& property, const QString& text,
     const std::string word = text.section(QLatin1Char(':'), 1).toStdString();
     const int first = range.section(QLatin1Char('-'), 0, 0).toInt();
     const int last = range.section(QLatin1Char('-'), -1).toInt();
-    if (first < 1 || last < first || last > kMostColumns)
+    if (first < 1 || last < first || last > kMostColumns || range.count(QLatin1Char('-')) > 1)
         return false;
     const auto& kinds = property.choices;
     const auto kind = std::find_if(kinds.begin(), kinds.end(),

@@ -126,7 +126,7 @@ void TableCollector::requireDiskSpace(double rows) const
     const QStorageInfo disk(QDir::tempPath());
     const double bytes = rows * static_cast<double>(m_bytesOfRow);
     const auto gibibytes = [](double size) { return QString::number(size / (1 << 30), 'g', 3); };
-    if (disk.isValid() && bytes > static_cast<double>(disk.bytesAvailable()))
+    if (disk.isValid() && disk.isReady() && bytes > static_cast<double>(disk.bytesAvailable()))
         throw ReadFailure(
             m_path,
             QT_TRANSLATE_NOOP("ReadMessage",

@@ -111,7 +111,7 @@ Names HeaderReader::fitted(Names fields) const
 static bool countsUp(const Names& fields)
 {
     for (std::size_t i = 2; i < fields.size(); ++i)
-        if (std::atoi(fields[i].c_str()) != std::atoi(fields[i - 1].c_str()) + 1)
+        if (std::atof(fields[i].c_str()) != std::atof(fields[i - 1].c_str()) + 1.0)
             return false;
     return fields.size() > 1;
 }
