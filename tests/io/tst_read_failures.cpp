@@ -211,7 +211,6 @@ private Q_SLOTS:
         row("EnSight geometry", "naca_transient/naca.bin.case", "naca_transient/naca.gold.bin.geo");
         row("OpenFOAM mesh", "cavity_transient/case.foam",
             "cavity_transient/constant/polyMesh/points");
-        row("OpenFOAM values", "cavity_transient/case.foam", "cavity_transient/2/U");
         row("part of a collection", "two_spheres/dualSphereAnimation4.pvd",
             "two_spheres/dualSphereAnimation/dualSphereAnimation_P00T0002.vtp");
     }

@@ -23,7 +23,8 @@ std::unique_ptr<DataFile> openXmlVtk(const QString& path);
 /// A .pvd collection of VTK XML files by time, group and part.
 std::unique_ptr<DataFile> openCollection(const QString& path);
 
-std::unique_ptr<DataFile> openCgns(const QString& path);
+/// `helper` is an empty folder for files that are needed until the data are read.
+std::unique_ptr<DataFile> openCgns(const QString& path, const QDir& helper);
 
 /// Element blocks, side sets and node sets with all their variables.
 std::unique_ptr<DataFile> openExodus(const QString& path);

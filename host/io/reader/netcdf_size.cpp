@@ -19,7 +19,7 @@ public:
     {
     }
 
-    std::optional<std::int64_t> fileSize();
+    std::optional<NetcdfSize> fileSize();
 
 private:
     struct Array
@@ -41,7 +41,7 @@ private:
     void readDimensions();
     void skipAttributes();
     Array readArray();
-    std::int64_t endOf(const std::vector<Array>& arrays);
+    void measure(const std::vector<Array>& arrays, NetcdfSize& size);
 
     QIODevice& m_file;
     int m_version = 0;
@@ -134,22 +134,21 @@ static bool extend(std::int64_t& end, std::int64_t begin, std::int64_t records, 
     return !overflows;
 }
 
-std::int64_t NetcdfHeader::endOf(const std::vector<Array>& arrays)
+void NetcdfHeader::measure(const std::vector<Array>& arrays, NetcdfSize& size)
 {
-    std::int64_t recordBytes = 0;
     for (const Array& array : arrays)
         if (array.isRecord)
-            extend(recordBytes, recordBytes, 1, 0, (array.bytes + 3) / 4 * 4);
-    std::int64_t end = 0;
+            extend(size.recordBytes, size.recordBytes, 1, 0, (array.bytes + 3) / 4 * 4);
+    size.records = m_records;
     for (const Array& array : arrays) {
         const std::int64_t records = array.isRecord ? m_records : 1;
-        if (records > 0 && !extend(end, array.begin, records, recordBytes, array.bytes))
+        std::int64_t& end = array.isRecord ? size.recordsEnd : size.fixedEnd;
+        if (records > 0 && !extend(end, array.begin, records, size.recordBytes, array.bytes))
             m_failed = true;
     }
-    return end;
 }
 
-std::optional<std::int64_t> NetcdfHeader::fileSize()
+std::optional<NetcdfSize> NetcdfHeader::fileSize()
 {
     const QByteArray magic = m_file.read(4);
     m_version = magic.size() == 4 ? magic[3] : 0;
@@ -163,11 +162,21 @@ std::optional<std::int64_t> NetcdfHeader::fileSize()
     std::vector<Array> arrays;
     for (std::int64_t left = listLength(); left > 0 && !m_failed; --left)
         arrays.push_back(readArray());
-    const std::int64_t end = endOf(arrays);
-    return m_failed ? kUnknownNetcdfSize : end;
+    NetcdfSize size;
+    measure(arrays, size);
+    size.isSound = !m_failed;
+    return size;
 }
 
-std::optional<std::int64_t> netcdfSize(const QString& path)
+std::int64_t NetcdfSize::recordsIn(std::int64_t bytes) const
+{
+    if (bytes < fixedEnd || recordBytes <= 0)
+        return 0;
+    const std::int64_t missing = std::max<std::int64_t>(recordsEnd - bytes, 0);
+    return std::max<std::int64_t>(records - (missing + recordBytes - 1) / recordBytes, 0);
+}
+
+std::optional<NetcdfSize> netcdfSize(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))

@@ -3,15 +3,28 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 
 namespace corvala::host::io::reader {
 
-/// The size of a file whose own header is cut off or damaged, which no file reaches.
-constexpr std::int64_t kUnknownNetcdfSize = INT64_MAX;
+/// How long a classic netCDF file must be by its own header. Arrays are fixed, or have a part in
+/// each of the records that follow the fixed ones.
+struct NetcdfSize
+{
+    bool isSound = true; ///< false where the header is cut off or damaged
+    std::int64_t fixedEnd = 0; ///< of arrays without records
+    std::int64_t records = 0;
+    std::int64_t recordBytes = 0;
+    std::int64_t recordsEnd = 0; ///< of the last record; 0 without records
 
-/// Bytes that a classic netCDF file must have by its own header; empty for any other file.
-std::optional<std::int64_t> netcdfSize(const QString& path);
+    std::int64_t bytes() const { return std::max(fixedEnd, recordsEnd); }
+    /// The records that are whole in a file of this size; 0 where fixed arrays are not.
+    std::int64_t recordsIn(std::int64_t bytes) const;
+};
+
+/// Empty for any other file.
+std::optional<NetcdfSize> netcdfSize(const QString& path);
 
 } // namespace corvala::host::io::reader

@@ -39,13 +39,13 @@ static QDir newHelperFolder(const QDir& folder, std::size_t number)
     return QDir(folder.filePath(name));
 }
 
-static std::unique_ptr<DataFile> openFile(Format format, const QString& path)
+static std::unique_ptr<DataFile> openFile(Format format, const QString& path, const QDir& helper)
 {
     switch (format) {
     case Format::LegacyVtk: return openLegacyVtk(path);
     case Format::XmlVtk: return openXmlVtk(path);
     case Format::Collection: return openCollection(path);
-    case Format::Cgns: return openCgns(path);
+    case Format::Cgns: return openCgns(path, helper);
     case Format::EnSight: return openEnSight(path);
     case Format::Exodus: return openExodus(path);
     case Format::Foam: return openFoam(path);
@@ -75,7 +75,7 @@ std::vector<std::unique_ptr<DataFile>> openFiles(const ReadRequest& request, con
         else if (format == Format::Table || (format == Format::Unknown && isTable(path)))
             tables << path;
         else
-            result.push_back(openFile(format, path));
+            result.push_back(openFile(format, path, newHelperFolder(folder, result.size())));
     }
     for (const Plot3DSeries& series : groupPlot3D(plot3d, request.plot3d))
         result.push_back(openPlot3D(series, newHelperFolder(folder, result.size())));

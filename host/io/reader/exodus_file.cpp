@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/formats.h"
+#include "host/io/reader/hdf5_size.h"
+#include "host/io/reader/netcdf_size.h"
+#include "host/io/reader/selective_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <vtkCompositeDataSet.h>
+#include <vtkExodusIIReader.h>
+#include <vtkInformation.h>
+#include <vtkMultiBlockDataSet.h>
+
+#include <cstring>
+
+namespace corvala::host::io::reader {
+
+static constexpr vtkExodusIIReader::ObjectType kKinds[] = {
+    vtkExodusIIReader::ELEM_BLOCK, vtkExodusIIReader::SIDE_SET, vtkExodusIIReader::NODE_SET};
+
+/// The netCDF library reads what is missing at the end of a file as zeros, without an error.
+/// Returns how many times are there.
+static std::int64_t requireMesh(const QString& path, std::vector<ReadMessage>& notes)
+{
+    requireWholeHdf5(path);
+    const std::optional<NetcdfSize> size = netcdfSize(path);
+    const qint64 actual = QFileInfo(path).size();
+    if (size && !size->isSound)
+        throw ReadFailure(path,
+                          QT_TRANSLATE_NOOP("ReadMessage", "its header is cut off or damaged"));
+    if (!size || actual >= size->bytes())
+        return INT64_MAX;
+    const std::int64_t whole = size->recordsIn(actual);
+    if (whole <= 0)
+        throw ReadFailure(
+            path, QT_TRANSLATE_NOOP("ReadMessage", "it is cut off: %1 of %2 bytes are there"),
+            {QString::number(actual), QString::number(size->bytes())});
+    notes.emplace_back(
+        QT_TRANSLATE_NOOP("ReadMessage",
+                          "%1: %2 of %3 times were left out: it is cut off: %4 of %5 bytes are "
+                          "there."),
+        std::initializer_list<QString> {QFileInfo(path).fileName(),
+                                        QString::number(size->records - whole),
+                                        QString::number(size->records), QString::number(actual),
+                                        QString::number(size->bytes())});
+    return whole;
+}
+
+static std::vector<FilePart> partsOf(vtkExodusIIReader* reader)
+{
+    std::vector<FilePart> parts;
+    const auto addArrays = [&](int kind) {
+        for (int i = 0; i < reader->GetNumberOfObjectArrays(kind); ++i) {
+            const std::string name = reader->GetObjectArrayName(kind, i);
+            parts.push_back({QString::fromStdString(name), false, [=](bool isOn) {
+                                 reader->SetObjectArrayStatus(kind, name.c_str(), isOn ? 1 : 0);
+                             }});
+        }
+    };
+    for (const auto kind : kKinds) {
+        for (int i = 0; i < reader->GetNumberOfObjects(kind); ++i)
+            parts.push_back({QString::fromUtf8(reader->GetObjectName(kind, i)).trimmed(), true,
+                             [=](bool isOn) { reader->SetObjectStatus(kind, i, isOn ? 1 : 0); }});
+        addArrays(kind);
+    }
+    addArrays(vtkExodusIIReader::NODAL);
+    return parts;
+}
+
+/// VTK puts blocks and sets into groups by kind. Element blocks, which are what the file is about,
+/// come without their group.
+class ExodusFile : public SelectiveFile
+{
+public:
+    ExodusFile(const QString& path, vtkSmartPointer<vtkExodusIIReader> reader,
+               std::int64_t timeCount, const std::vector<ReadMessage>& notes)
+        : SelectiveFile(path, reader, [reader] { return partsOf(reader); })
+        , m_timeCount(timeCount)
+    {
+        m_notes = notes;
+    }
+
+    std::vector<double> times() const override
+    {
+        std::vector<double> times = SelectiveFile::times();
+        if (static_cast<std::int64_t>(times.size()) > m_timeCount)
+            times.resize(static_cast<std::size_t>(m_timeCount));
+        return times;
+    }
+
+    vtkSmartPointer<vtkDataObject> read(std::size_t timeIndex,
+                                        const ProgressCall& progress) override
+    {
+        const vtkSmartPointer<vtkDataObject> tree = SelectiveFile::read(timeIndex, progress);
+        auto* const groups = vtkMultiBlockDataSet::SafeDownCast(tree);
+        if (!groups)
+            return tree;
+        auto result = vtkSmartPointer<vtkMultiBlockDataSet>::New();
+        for (unsigned int i = 0; i < groups->GetNumberOfBlocks(); ++i) {
+            auto* const group = vtkMultiBlockDataSet::SafeDownCast(groups->GetBlock(i));
+            const char* const name = groups->GetMetaData(i)->Get(vtkCompositeDataSet::NAME());
+            if (group && name && std::strcmp(name, "Element Blocks") == 0)
+                append(*group, 0, group->GetNumberOfBlocks(), *result);
+            else
+                append(*groups, i, i + 1, *result);
+        }
+        return result;
+    }
+
+private:
+    static void append(vtkMultiBlockDataSet& from, unsigned int first, unsigned int end,
+                       vtkMultiBlockDataSet& to)
+    {
+        for (unsigned int i = first; i < end; ++i) {
+            const unsigned int place = to.GetNumberOfBlocks();
+            to.SetBlock(place, from.GetBlock(i));
+            to.GetMetaData(place)->Copy(from.GetMetaData(i));
+        }
+    }
+
+    std::int64_t m_timeCount;
+};
+
+std::unique_ptr<DataFile> openExodus(const QString& path)
+{
+    std::vector<ReadMessage> notes;
+    const std::int64_t timeCount = requireMesh(path, notes);
+    auto reader = vtkSmartPointer<vtkExodusIIReader>::New();
+    reader->SetFileName(QFile::encodeName(path).constData());
+    reader->ApplyDisplacementsOff();
+    reader->UpdateInformation();
+    for (const auto kind : kKinds) {
+        for (int i = 0; i < reader->GetNumberOfObjects(kind); ++i)
+            reader->SetObjectStatus(kind, i, 1);
+        reader->SetAllArrayStatus(kind, 1);
+    }
+    reader->SetAllArrayStatus(vtkExodusIIReader::NODAL, 1);
+    return std::make_unique<ExodusFile>(path, reader, timeCount, notes);
+}
+
+} // namespace corvala::host::io::reader

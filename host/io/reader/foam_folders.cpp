@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/foam_folders.h"
+
+#include "host/io/reader/read_failure.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <map>
+#include <set>
+
+namespace corvala::host::io::reader {
+
+/// The files of fields in the folder of each time, without the ending of packed ones.
+using Results = std::map<QString, std::set<QString>>;
+
+/// The folder of a case, which holds the folders "constant" and "system".
+static QDir caseFolder(const QString& path)
+{
+    QDir folder = QFileInfo(path).dir();
+    if (QFileInfo(path).fileName() == QLatin1String("controlDict"))
+        folder.cdUp();
+    return folder;
+}
+
+/// Of the whole domain or of a region.
+static bool hasMesh(const QDir& folder)
+{
+    QDirIterator each(folder.filePath(QStringLiteral("constant")), {QStringLiteral("polyMesh")},
+                      QDir::Dirs, QDirIterator::Subdirectories);
+    return each.hasNext();
+}
+
+static Results resultsIn(const QDir& folder)
+{
+    Results results;
+    for (const QString& name : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        bool isTime = false;
+        name.toDouble(&isTime);
+        if (!isTime)
+            continue;
+        std::set<QString>& fields = results[name];
+        const QDir time(folder.filePath(name));
+        QDirIterator files(time.path(), QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QString field = time.relativeFilePath(files.next());
+            const bool isOther = field.startsWith(QLatin1String("uniform/"))
+                || field.contains(QLatin1String("polyMesh/"));
+            if (field.endsWith(QLatin1String(".gz")))
+                field.chop(3);
+            if (!isOther)
+                fields.insert(field);
+        }
+    }
+    return results;
+}
+
+/// The times and fields that are in `some` but not in `others`.
+static QStringList lacking(const Results& some, const Results& others)
+{
+    QStringList result;
+    for (const auto& [time, fields] : some) {
+        const auto there = others.find(time);
+        if (there == others.end() && !fields.empty())
+            result << time;
+        else
+            for (const QString& field : fields)
+                if (there->second.count(field) == 0)
+                    result << time + QLatin1Char('/') + field;
+    }
+    return result;
+}
+
+/// By number.
+static QStringList foldersLike(const QDir& folder, const char* pattern)
+{
+    const QRegularExpression expression(
+        QRegularExpression::anchoredPattern(QString::fromLatin1(pattern)));
+    std::map<int, QString> found;
+    for (const QString& name : folder.entryList(QDir::Dirs)) {
+        const QRegularExpressionMatch match = expression.match(name);
+        if (match.hasMatch())
+            found[match.captured(1).toInt()] = folder.filePath(name);
+    }
+    QStringList result;
+    for (const auto& [number, path] : found)
+        result << path;
+    return result;
+}
+
+/// Clouds may have particles in some of the processors only.
+static bool isOfCloud(const QString& name)
+{
+    return name.contains(QLatin1String("lagrangian/"));
+}
+
+/// What the pieces do not all have is not shown, since VTK joins them.
+static void noteGaps(const QStringList& processors, FoamFolders& result)
+{
+    Results all;
+    std::vector<Results> each;
+    for (const QString& processor : processors) {
+        each.push_back(resultsIn(QDir(processor)));
+        for (const auto& [time, fields] : each.back())
+            all[time].insert(fields.begin(), fields.end());
+    }
+    std::set<QString> noted;
+    for (std::size_t i = 0; i < each.size(); ++i)
+        for (const QString& name : lacking(all, each[i]))
+            if (!isOfCloud(name) && noted.insert(name).second)
+                result.notes.emplace_back(
+                    QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out: %2 does not have it."),
+                    std::initializer_list<QString> {
+                        name, QDir(processors[static_cast<int>(i)]).dirName()});
+}
+
+static void noteElsewhere(const QStringList& names, const QString& folder, FoamFolders& result)
+{
+    for (const QString& name : names)
+        result.notes.emplace_back(
+            QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out: only %2 has it."),
+            std::initializer_list<QString> {name, folder});
+}
+
+FoamFolders foamFoldersOf(const QString& path)
+{
+    const QDir folder = caseFolder(path);
+    const QStringList processors = foldersLike(folder, "processor(\\d+)");
+    const QStringList collated = foldersLike(folder, "processors(\\d+)(_\\d+-\\d+)?");
+    const Results own = hasMesh(folder) ? resultsIn(folder) : Results();
+    FoamFolders result;
+    if (!processors.isEmpty() && hasMesh(QDir(processors.first()))) {
+        const Results first = resultsIn(QDir(processors.first()));
+        result.isDecomposed = !hasMesh(folder) || !lacking(first, own).isEmpty();
+        if (result.isDecomposed) {
+            noteGaps(processors, result);
+            noteElsewhere(lacking(own, first), QStringLiteral("the case folder"), result);
+            return result;
+        }
+    }
+    if (collated.isEmpty())
+        return result;
+    const QString name = QDir(collated.first()).dirName();
+    if (!hasMesh(folder))
+        throw ReadFailure(
+            path,
+            QT_TRANSLATE_NOOP("ReadMessage",
+                              "%1 has the files of several processors in one (collated), which "
+                              "cannot be read; reconstruct the case, or write it uncollated"),
+            {name});
+    noteElsewhere(lacking(resultsIn(QDir(collated.first())), own), name, result);
+    return result;
+}
+
+} // namespace corvala::host::io::reader

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "host/io/read_message.h"
+
+namespace corvala::host::io::reader {
+
+/// Where an OpenFOAM case has its results.
+struct FoamFolders
+{
+    bool isDecomposed = false; ///< in the folders of its processors
+    std::vector<ReadMessage> notes; ///< what lies elsewhere, or is not in all of these folders
+};
+
+/// Of the case of a controlDict or marker file. The folders of processors count when they have
+/// times or fields that the folder of the case lacks. Throws ReadFailure when only folders of
+/// several processors each have a mesh, which cannot be read.
+FoamFolders foamFoldersOf(const QString& path);
+
+} // namespace corvala::host::io::reader
