@@ -352,11 +352,12 @@ QString DataReader::nameFilters()
         {tr("VTK files"),
          QStringLiteral("*.vtm *.vtu *.vtp *.vts *.vtr *.vti *.pvtu *.pvtp *.pvts *.pvtr *.pvti "
                         "*.pvd *.vtk")},
-        {tr("CGNS files"), QStringLiteral("*.cgns")},
+        {tr("CGNS files"), QStringLiteral("*.cgns *.adf *.hdf5")},
         {tr("Plot3D files"),
-         QStringLiteral("*.xyz *.x *.xy *.p3d *.grd *.g *.bin *.q *.f *.fun *.fmt")},
+         QStringLiteral("*.xyz *.x *.xy *.p3d *.grd *.g *.bin *.q *.f *.fun *.fmt *.p3dfmt")},
         {tr("EnSight files"), QStringLiteral("*.case *.encas")},
-        {tr("Exodus II files"), QStringLiteral("*.exo *.e *.ex2 *.exii *.g *.gen")},
+        {tr("Exodus II files"), QStringLiteral("*.exo *.e *.ex2 *.exii *.g *.gen *.ncdf *.e-s* "
+                        "*.e.*.* *.exo.*.* *.g.*.* *.gen.*.*")},
         {tr("OpenFOAM cases"), QStringLiteral("*.foam *.OpenFOAM controlDict")},
         {tr("Tables of text"), QStringLiteral("*.csv *.tsv *.tab *.txt *.dat *.prn *.asc")},
     };

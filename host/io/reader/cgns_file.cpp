@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/adf_size.h"
 #include "host/io/reader/cgns_solutions.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/hdf5_size.h"
@@ -40,6 +41,7 @@ public:
 std::unique_ptr<DataFile> openCgns(const QString& path, const QDir& helper)
 {
     requireWholeHdf5(path);
+    requireWholeAdf(path);
     const CgnsSolutions sound = withSoundSolutions(path, helper);
     auto reader = vtkSmartPointer<vtkCGNSReader>::New();
     reader->SetFileName(QFile::encodeName(sound.path).constData());

@@ -26,6 +26,7 @@ struct ZoneSolutions
     std::map<std::string, Names> solutions; ///< by the place of their values
     std::vector<Names> pointers; ///< one list or more, each with a name per time
     bool hasMainPointers = false; ///< without which VTK looks at none
+    bool isSteady = false; ///< says nothing, and has one solution for all times
     enum State { Sound, Mended, Ordered, Unclear } state = Sound;
 };
 
@@ -101,16 +102,19 @@ static Names inOrder(Names solutions)
 /// zone does not say anything else.
 static void orderSolutions(ZoneSolutions& zone, std::size_t times)
 {
-    const bool isSteady = zone.pointers.empty();
+    const bool isSilent = zone.pointers.empty();
     std::vector<Names> pointers;
+    zone.isSteady = isSilent;
     for (const auto& [place, solutions] : zone.solutions) {
         if (solutions.size() == times)
             pointers.push_back(inOrder(solutions));
-        else if (isSteady && solutions.size() == 1)
+        else if (isSilent && solutions.size() == 1)
             pointers.emplace_back(times, solutions.front());
+        zone.isSteady = zone.isSteady && solutions.size() == 1;
     }
     const bool areAll = pointers.size() == zone.solutions.size();
-    zone.state = areAll ? ZoneSolutions::Ordered : ZoneSolutions::Unclear;
+    if (!zone.isSteady)
+        zone.state = areAll ? ZoneSolutions::Ordered : ZoneSolutions::Unclear;
     zone.pointers = pointers;
 }
 
@@ -173,7 +177,7 @@ static void mend(BaseSolutions& base, CgnsSolutions& result)
     for (ZoneSolutions& zone : base.zones)
         mend(zone, base.times, result);
     const bool arePointers = std::any_of(base.zones.begin(), base.zones.end(), [](auto& zone) {
-        return !zone.pointers.empty() && zone.state != ZoneSolutions::Unclear;
+        return !zone.pointers.empty() && !zone.isSteady && zone.state != ZoneSolutions::Unclear;
     });
     if (!arePointers || base.zones.front().hasMainPointers)
         return;

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/exodus_names.h"
+#include "host/io/reader/exodus_run.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/hdf5_size.h"
 #include "host/io/reader/netcdf_size.h"
@@ -122,7 +124,7 @@ private:
     std::int64_t m_timeCount;
 };
 
-std::unique_ptr<DataFile> openExodus(const QString& path)
+static std::unique_ptr<DataFile> openOne(const QString& path)
 {
     std::vector<ReadMessage> notes;
     const std::int64_t timeCount = requireMesh(path, notes);
@@ -137,6 +139,13 @@ std::unique_ptr<DataFile> openExodus(const QString& path)
     }
     reader->SetAllArrayStatus(vtkExodusIIReader::NODAL, 1);
     return std::make_unique<ExodusFile>(path, reader, timeCount, notes);
+}
+
+std::unique_ptr<DataFile> openExodus(const QString& path)
+{
+    const std::map<int, QStringList> stages = exodusRun(path);
+    const bool isOne = stages.size() == 1 && stages.begin()->second.size() == 1;
+    return isOne ? openOne(path) : openExodusRun(path, stages, openOne);
 }
 
 } // namespace corvala::host::io::reader

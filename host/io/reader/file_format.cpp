@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/file_format.h"
 
+#include "host/io/reader/exodus_names.h"
 #include "host/io/reader/read_failure.h"
 
 #include <QDir>
@@ -8,6 +9,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <set>
+#include <utility>
 
 namespace corvala::host::io::reader {
 
@@ -26,11 +29,11 @@ static constexpr FormatEndings kFormats[] = {
     {Format::XmlVtk, Part, "vtu vtp vts vtr vti"},
     {Format::XmlVtk, Index, "vtm vtmb pvtu pvtp pvts pvtr pvti"},
     {Format::Collection, Case, "pvd"},
-    {Format::Cgns, Part, "cgns"},
+    {Format::Cgns, Part, "cgns adf hdf5"},
     {Format::EnSight, Case, "case encas"},
-    {Format::Exodus, Part, "exo e ex2 exii exoii g gen"},
+    {Format::Exodus, Part, "exo e ex2 exii exoii g gen ncdf"},
     {Format::Foam, Case, "foam openfoam"},
-    {Format::Plot3D, Part, "xyz x xy grd g bin q f fun fmt"},
+    {Format::Plot3D, Part, "xyz x xy grd g bin q f fun fmt p3dfmt"},
     {Format::Plot3D, Index, "p3d"},
     {Format::Table, Values, "csv tsv tab txt dat prn asc"},
 };
@@ -60,7 +63,7 @@ static const FormatEndings* kindOf(const QString& path)
 {
     if (QFileInfo(path).fileName() == QLatin1String("controlDict"))
         return &kControlDict;
-    const QString ending = QFileInfo(path).suffix();
+    const QString ending = endingOf(path);
     const FormatEndings* result = nullptr;
     for (const FormatEndings& each : kFormats) {
         const QStringList endings = QString::fromLatin1(each.endings).split(QLatin1Char(' '));
@@ -81,11 +84,16 @@ QString mainFileIn(const QString& folder)
     const QDir files(folder);
     const bool isFoamCase = files.exists(QLatin1String(kControlDictPath));
     QStringList found[RankCount];
+    std::set<std::pair<QString, int>> runs;
     if (isFoamCase)
         found[Case] << QLatin1String(kControlDictPath);
     for (const QString& name : files.entryList(QDir::Files, QDir::Name)) {
         const FormatEndings* kind = kindOf(files.filePath(name));
-        if (kind && !(isFoamCase && kind->format == Format::Foam)) // markers of the same case
+        const bool isMarker = isFoamCase && kind && kind->format == Format::Foam;
+        const ExodusName exodus = exodusNameOf(name);
+        const bool goesOn = kind && kind->format == Format::Exodus
+            && !runs.insert({exodus.first, exodus.pieceCount}).second;
+        if (kind && !isMarker && !goesOn) // which belong to what was found
             found[kind->rank] << name;
     }
     const auto* best = std::find_if(std::begin(found), std::end(found),

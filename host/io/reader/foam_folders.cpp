@@ -33,8 +33,9 @@ static bool hasMesh(const QDir& folder)
     return each.hasNext();
 }
 
-static Results resultsIn(const QDir& folder)
+static Results resultsIn(const QString& path)
 {
+    const QDir folder(path);
     Results results;
     for (const QString& name : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         bool isTime = false;
@@ -46,6 +47,8 @@ static Results resultsIn(const QDir& folder)
         QDirIterator files(time.path(), QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             QString field = time.relativeFilePath(files.next());
+            if (files.fileInfo().size() == 0)
+                continue;
             const bool isOther = field.startsWith(QLatin1String("uniform/"))
                 || field.contains(QLatin1String("polyMesh/"));
             if (field.endsWith(QLatin1String(".gz")))
@@ -102,7 +105,7 @@ static void noteGaps(const QStringList& processors, FoamFolders& result)
     Results all;
     std::vector<Results> each;
     for (const QString& processor : processors) {
-        each.push_back(resultsIn(QDir(processor)));
+        each.push_back(resultsIn(processor));
         for (const auto& [time, fields] : each.back())
             all[time].insert(fields.begin(), fields.end());
     }
@@ -124,22 +127,53 @@ static void noteElsewhere(const QStringList& names, const QString& folder, FoamF
             std::initializer_list<QString> {name, folder});
 }
 
+/// Fields of the first time may be those that the run began with; later ones go on.
+static void noteMissing(const QString& folder, FoamFolders& result)
+{
+    std::map<double, std::pair<QString, std::set<QString>>> steps;
+    for (const auto& [time, fields] : resultsIn(folder))
+        steps[time.toDouble()] = {time, fields};
+    std::set<QString> known;
+    bool isFirst = true;
+    for (const auto& [value, step] : steps) {
+        const auto& [time, fields] = step;
+        for (const QString& field : known) {
+            if (fields.count(field) > 0)
+                continue;
+            const QString path = time + QLatin1Char('/') + field;
+            const ReadMessage reason(
+                QDir(folder).exists(path)
+                    ? QT_TRANSLATE_NOOP("ReadMessage", "it is empty")
+                    : QT_TRANSLATE_NOOP("ReadMessage", "there is no such file"));
+            result.notes.emplace_back(
+                QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out at time %4: %2: %3."),
+                std::initializer_list<QString> {field, path, reason.toString(), time});
+        }
+        for (const QString& field : fields)
+            if (!isFirst && !isOfCloud(field))
+                known.insert(field);
+        isFirst = false;
+    }
+}
+
 FoamFolders foamFoldersOf(const QString& path)
 {
     const QDir folder = caseFolder(path);
     const QStringList processors = foldersLike(folder, "processor(\\d+)");
     const QStringList collated = foldersLike(folder, "processors(\\d+)(_\\d+-\\d+)?");
-    const Results own = hasMesh(folder) ? resultsIn(folder) : Results();
+    const Results own = hasMesh(folder) ? resultsIn(folder.path()) : Results();
     FoamFolders result;
     if (!processors.isEmpty() && hasMesh(QDir(processors.first()))) {
-        const Results first = resultsIn(QDir(processors.first()));
+        const Results first = resultsIn(processors.first());
         result.isDecomposed = !hasMesh(folder) || !lacking(first, own).isEmpty();
         if (result.isDecomposed) {
             noteGaps(processors, result);
             noteElsewhere(lacking(own, first), QStringLiteral("the case folder"), result);
+            noteMissing(processors.first(), result);
             return result;
         }
     }
+    noteMissing(folder.path(), result);
     if (collated.isEmpty())
         return result;
     const QString name = QDir(collated.first()).dirName();
@@ -150,7 +184,7 @@ FoamFolders foamFoldersOf(const QString& path)
                               "%1 has the files of several processors in one (collated), which "
                               "cannot be read; reconstruct the case, or write it uncollated"),
             {name});
-    noteElsewhere(lacking(resultsIn(QDir(collated.first())), own), name, result);
+    noteElsewhere(lacking(resultsIn(collated.first()), own), name, result);
     return result;
 }
 

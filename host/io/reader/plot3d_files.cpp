@@ -18,7 +18,7 @@ enum class Role { Grid, Solution, Function };
 /// what a file is: flowxyz.bin, flowq.bin, flowf.bin.
 static QStringList endings(Role role)
 {
-    static const char* const lists[] = {"xyz x xy p3d grd g fmt", "q", "f fun"};
+    static const char* const lists[] = {"xyz x xy p3d grd g fmt p3dfmt", "q", "f fun"};
     return QString::fromLatin1(lists[static_cast<int>(role)]).split(QLatin1Char(' '));
 }
 

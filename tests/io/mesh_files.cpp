@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "tests/io/mesh_files.h"
+
+#include <vtk_cgns.h>
+#include <vtk_exodusII.h>
+
+// clang-format off
+#include VTK_CGNS(cgnslib.h)
+// clang-format on
+
+namespace corvala::host::io {
+
+static constexpr int kPoints = 8;
+
+static void writePointers(int file, int zone, const QStringList& names)
+{
+    QByteArray text;
+    for (const QString& name : names)
+        text += name.leftJustified(32).toLatin1();
+    const cgsize_t sizes[] = {32, names.size()};
+    cg_ziter_write(file, 1, zone, "ZoneIterativeData");
+    cg_goto(file, 1, "Zone_t", zone, "ZoneIterativeData_t", 1, "end");
+    cg_array_write("FlowSolutionPointers", CGNS_ENUMV(Character), 2, sizes, text.constData());
+}
+
+static void writeZone(int file, int zone, const QStringList& solutions)
+{
+    int number = 0;
+    const QByteArray name = "Z" + QByteArray::number(zone);
+    const cgsize_t sizes[] = {2, 2, 2, 1, 1, 1, 0, 0, 0};
+    cg_zone_write(file, 1, name.constData(), sizes, CGNS_ENUMV(Structured), &zone);
+    const char* const axes[] = {"CoordinateX", "CoordinateY", "CoordinateZ"};
+    double values[kPoints];
+    for (int axis = 0; axis < 3; ++axis) {
+        for (int i = 0; i < kPoints; ++i)
+            values[i] = (i >> axis) & 1;
+        cg_coord_write(file, 1, zone, CGNS_ENUMV(RealDouble), axes[axis], values, &number);
+    }
+    for (int solution = 1; solution <= solutions.size(); ++solution) {
+        for (int i = 0; i < kPoints; ++i)
+            values[i] = 100 * solution + i;
+        cg_sol_write(file, 1, zone, qPrintable(solutions[solution - 1]), CGNS_ENUMV(Vertex),
+                     &number);
+        cg_field_write(file, 1, zone, solution, CGNS_ENUMV(RealDouble), "p", values, &number);
+    }
+}
+
+void writeCgns(const QString& path, const CgnsForm& form, bool isHdf5)
+{
+    const double times[] = {0.5, 1.5, 2.5};
+    const cgsize_t count = 3;
+    int file = 0;
+    int base = 0;
+    cg_set_file_type(isHdf5 ? CG_FILE_HDF5 : CG_FILE_ADF);
+    cg_open(qPrintable(path), CG_MODE_WRITE, &file);
+    cg_base_write(file, "Base", 3, 3, &base);
+    cg_biter_write(file, base, "BaseIterativeData", 3);
+    cg_goto(file, base, "BaseIterativeData_t", 1, "end");
+    cg_array_write("TimeValues", CGNS_ENUMV(RealDouble), 1, &count, times);
+    for (int zone = 1; zone <= 2; ++zone) {
+        writeZone(file, zone, form.solutions);
+        if (!form.pointers.isEmpty() && (zone == 2 || form.isFirstNamed))
+            writePointers(file, zone, form.pointers);
+    }
+    cg_close(file);
+}
+
+void writeExodus(const QString& path, const ExodusForm& form)
+{
+    int realSize = sizeof(double);
+    const int format = form.isHdf5 ? EX_NETCDF4 | EX_NOCLASSIC : 0;
+    const int file = ex_create(qPrintable(path), EX_CLOBBER | format, &realSize, &realSize);
+    ex_put_init(file, "cube", 3, kPoints, 1, 1, 0, 1);
+    const double x[] = {0, 1, 1, 0, 0, 1, 1, 0};
+    const double y[] = {0, 0, 1, 1, 0, 0, 1, 1};
+    const double z[] = {0, 0, 0, 0, 1, 1, 1, 1};
+    ex_put_coord(file, x, y, z);
+    ex_put_block(file, EX_ELEM_BLOCK, 1, "HEX8", 1, kPoints, 0, 0, 0);
+    const int corners[] = {1, 2, 3, 4, 5, 6, 7, 8};
+    ex_put_conn(file, EX_ELEM_BLOCK, 1, corners, nullptr, nullptr);
+    const int element = 1;
+    ex_put_set_param(file, EX_SIDE_SET, 7, 1, 0);
+    ex_put_set(file, EX_SIDE_SET, 7, &element, &form.side);
+    ex_put_variable_param(file, EX_NODAL, 1);
+    ex_put_variable_name(file, EX_NODAL, 1, "T");
+    for (std::size_t i = 0; i < form.times.size(); ++i) {
+        const int step = static_cast<int>(i) + 1;
+        double values[kPoints];
+        for (int point = 0; point < kPoints; ++point)
+            values[point] = form.first + 100 * step + point;
+        ex_put_time(file, step, &form.times[i]);
+        ex_put_var(file, step, EX_NODAL, 1, 1, kPoints, values);
+    }
+    ex_close(file);
+}
+
+} // namespace corvala::host::io

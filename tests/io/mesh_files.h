@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace corvala::host::io {
+
+/// How a CGNS file says which solutions belong to which times.
+struct CgnsForm
+{
+    QStringList solutions; ///< of both zones
+    QStringList pointers; ///< of the last zone; empty for none
+    bool isFirstNamed = true; ///< whether the first zone has pointers as well
+};
+
+/// Two zones of eight points with p, 100 times the number of the solution and the number of the
+/// point, at the times 0.5, 1.5 and 2.5.
+void writeCgns(const QString& path, const CgnsForm& form, bool isHdf5);
+
+/// An Exodus file of format netCDF 3 or HDF5.
+struct ExodusForm
+{
+    std::vector<double> times {0.5, 1.5, 2.5};
+    double first = 0.0; ///< added to all values
+    bool isHdf5 = false;
+    int side = 2; ///< the number of a side of the element, in a side set
+};
+
+/// A cube of one element with T, 100 times the number of the time and the number of the point; a
+/// side set.
+void writeExodus(const QString& path, const ExodusForm& form);
+
+} // namespace corvala::host::io

@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "tests/io/damage.h"
+#include "tests/io/mesh_files.h"
+#include "tests/support/rows.h"
+
+using namespace corvala::host;
+using namespace corvala::host::io;
+using namespace corvala::tests;
+
+using Times = std::vector<double>;
+using Change = std::function<QByteArray(QByteArray)>;
+
+/// The first values of a variable in each zone; NaN where it has none.
+static QVector<double> firstValues(const DataSet& data, const QString& variable)
+{
+    QVector<double> result;
+    for (std::int64_t zone = 1; zone <= data.zoneCount(); ++zone)
+        result << values(data, zone, variable).value(0, -1);
+    return result;
+}
+
+/// Sound data of which nothing else was said.
+static void verify(const ReadResult& result, const Times& times, const QVector<double>& first,
+                   const QString& note, const QString& variable)
+{
+    QVERIFY2(result.data, qPrintable(result.error));
+    QCOMPARE(result.data->solutionTimes(), times);
+    const QVector<double> shown = firstValues(*result.data, variable);
+    QString text;
+    QDebug(&text) << shown;
+    QVERIFY2(shown == first, qPrintable(text));
+    const QString notes = result.noteGroups.join('\n');
+    QVERIFY2(note.isEmpty() ? notes.isEmpty() : notes.contains(note), qPrintable(notes));
+}
+
+class TestReadMeshes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_folder = std::make_unique<DataFolder>(); }
+
+    void solutionsOfCgns_data()
+    {
+        const Rows<CgnsForm, Times, QVector<double>, QString> row;
+        const Times all {0.5, 1.5, 2.5};
+        const QVector<double> inOrder {100, 200, 300, 100, 200, 300};
+        const QStringList three {"Sol#1", "Sol#2", "Sol#3"};
+        row("as it should be", {three, three, true}, all, inOrder, {});
+        row("pointers to nothing", {{"Sol#4", "Sol#20", "Sol#100"}, {"A", "B", "C"}, true}, all,
+            inOrder, "they were taken in their order");
+        row("no numbers", {{"Start", "Middle", "End"}, {"A", "B", "C"}, true}, all, inOrder,
+            "they were taken in their order");
+        row("no pointers", {three, {}, true}, all, inOrder, "they were taken in their order");
+        row("pointers in one zone", {three, {"Sol#3", "Sol#2", "Sol#1"}, false}, all,
+            {100, 200, 300, 300, 200, 100}, "they were taken in their order");
+        row("one pointer to nothing", {three, {"Sol#1", "B", "Sol#3"}, true}, all,
+            {100, -1, 300, 100, -1, 300},
+            "a.cgns: the solution B of Z1 was left out: there is none. (and 1 more like it)");
+        row("too few solutions", {{"Sol#1", "Sol#2"}, {"A", "B", "C"}, true}, {}, {100, 100},
+            "the first ones are shown, without a time");
+        row("one solution for all", {{"Sol"}, {}, true}, all, {100, 100, 100, 100, 100, 100}, {});
+    }
+
+    void solutionsOfCgns()
+    {
+        const auto [form, times, first, note] =
+            currentRow<CgnsForm, Times, QVector<double>, QString>();
+        for (const bool isHdf5 : {true, false}) {
+            writeCgns(m_folder->path("a.cgns"), form, isHdf5);
+            verify(read({m_folder->path("a.cgns")}), times, first, note, "p");
+        }
+    }
+
+    void damagedFiles_data()
+    {
+        const Rows<QString> row;
+        for (const char* const file :
+             {"links.cgns", "adf.cgns", "a.e", "hdf5.e", "case/2.5/U", "case/1/p",
+              "case/constant/polyMesh/faces", "case/constant/polyMesh/owner"})
+            row(file, file);
+    }
+
+    void damagedFiles()
+    {
+        const auto [name] = currentRow<QString>();
+        const QStringList three {"Sol#1", "Sol#2", "Sol#3"};
+        writeCgns(m_folder->path("links.cgns"), {three, {"A", "B", "C"}, true}, true);
+        writeCgns(m_folder->path("adf.cgns"), {three, three, true}, false);
+        writeExodus(m_folder->path("a.e"), {});
+        writeExodus(m_folder->path("hdf5.e"), {{0.5, 1.5, 2.5}, 0.0, true, 2});
+        m_folder->copySample("cavity_transient", "case");
+        const bool isText = name.contains('/');
+        const QString opened = isText ? QString("case/case.foam") : name;
+        const QByteArray content = contentOf(name);
+        const MadeFile made = isText ? textFile(content) : plainFile(content);
+        const Shown sound(*m_folder, {opened});
+        QVERIFY2(sound.error.isEmpty(), qPrintable(sound.error));
+        for (const Damage& damage : damages()) {
+            const QByteArray damaged = damage.apply(made);
+            QFile::remove(m_folder->path(name));
+            if (!damaged.isNull())
+                m_folder->write(name, damaged);
+            const Shown shown(*m_folder, {opened});
+            const QString problem =
+                shown.problemAgainst(sound, {name, shown.error.isEmpty() ? name : opened});
+            if (!problem.isEmpty())
+                QTest::qFail(qPrintable(damage.name + QStringLiteral(": ") + problem), __FILE__,
+                             __LINE__);
+        }
+    }
+
+    void exodus_data()
+    {
+        const Rows<Change, Times, QVector<double>, QString> row;
+        row("sound", [](QByteArray all) { return all; }, {0.5, 1.5, 2.5},
+            {100, 200, 300, 101, 201, 301}, {});
+        row(
+            "cut in the last time", [](QByteArray all) { return all.chopped(20); }, {0.5, 1.5},
+            {100, 200, 101, 201}, "a.e: 1 of 3 times were left out: it is cut off: ");
+    }
+
+    void exodus()
+    {
+        const auto [change, times, first, note] =
+            currentRow<Change, Times, QVector<double>, QString>();
+        writeExodus(m_folder->path("a.e"), {});
+        m_folder->write("a.e", change(contentOf("a.e")));
+        verify(read({m_folder->path("a.e")}), times, first, note, "T");
+    }
+
+    void runsOfExodus_data()
+    {
+        const Rows<QStringList, QString, Times, QVector<double>, QString> row;
+        const QStringList run {"a.e", "a.e-s002", "a.e-s003"};
+        row("a run", run, "a.e-s002", {0.5, 1, 2, 4},
+            {100, 1100, 2100, 2200, 101, 1101, 2101, 2201}, {});
+        row("a folder", run, {}, {0.5, 1, 2, 4}, {100, 1100, 2100, 2200, 101, 1101, 2101, 2201},
+            {});
+        row("pieces", {"a.e.2.0", "a.e.2.1"}, "a.e.2.1", {0.5, 1.5},
+            {100, 200, 101, 201, 1100, 1200, 1101, 1201}, {});
+        row("a piece is missing", {"a.e.03.00", "a.e.03.02"}, "a.e.03.00", {0.5, 1.5},
+            {100, 200, 101, 201, 1100, 1200, 1101, 1201},
+            "a.e.03.01 was left out: there is no such file.");
+    }
+
+    /// Each stage of a run has the times of the next one, too, which count.
+    void runsOfExodus()
+    {
+        const auto [files, opened, times, first, note] =
+            currentRow<QStringList, QString, Times, QVector<double>, QString>();
+        for (int i = 0; i < files.size(); ++i) {
+            const bool isRun = files[0] == "a.e";
+            const Times own = isRun ? Times {0.5 * (1 << i), 1.0 * (1 << i)} : Times {0.5, 1.5};
+            writeExodus(m_folder->write("run/" + files[i], {}), {own, 1000.0 * i, false, 2});
+        }
+        verify(read({m_folder->path("run/" + opened)}), times, first, note, "T");
+    }
+
+private:
+    QByteArray contentOf(const QString& name) const
+    {
+        QFile file(m_folder->path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    std::unique_ptr<DataFolder> m_folder;
+};
+
+QTEST_GUILESS_MAIN(TestReadMeshes)
+#include "tst_read_meshes.moc"
