@@ -110,6 +110,92 @@ private Q_SLOTS:
         }
     }
 
+    void foam_data()
+    {
+        const Rows<std::function<void(const QDir&)>, int, QVector<int>, QString> row;
+        const auto eachTime = [](const QDir& folder, auto change) {
+            for (const QString& time : folder.entryList({"[0-2]*"}, QDir::Dirs))
+                change(QDir(folder.filePath(time)));
+        };
+        const QStringList two {"processor0", "processor1"};
+        const auto erase = [](QDir folder) { folder.removeRecursively(); };
+        row("one case", [](auto&) {}, 1, {}, {});
+        row("processors alone",
+            [=](const QDir& folder) {
+                split(two);
+                erase(folder.filePath("constant"));
+                eachTime(folder, erase);
+            },
+            2, {}, {});
+        row("a mesh in the case",
+            [=](const QDir& folder) {
+                split(two);
+                eachTime(folder, erase);
+            },
+            2, {}, {});
+        row("one field in the case",
+            [=](const QDir& folder) {
+                split(two);
+                eachTime(folder, [](QDir time) { time.remove("p"); });
+            },
+            2, {}, {});
+        row("all in the case", [=](auto&) { split(two); }, 1, {}, {});
+        row(
+            "one processor is behind",
+            [=](const QDir& folder) {
+                split(two);
+                eachTime(folder, erase);
+                erase(folder.filePath("processor1/2.5"));
+            },
+            2, {6}, "2.5 was left out: processor1 does not have it.");
+        row(
+            "collated results",
+            [=](const QDir& folder) {
+                split({"processors2"});
+                QDir(folder.filePath("2.5")).remove("p");
+            },
+            1, {6}, "2.5/p was left out: only processors2 has it.");
+        row(
+            "an unknown directive",
+            [](const QDir& folder) {
+                QFile file(folder.filePath("2.5/p"));
+                QVERIFY(file.open(QIODevice::ReadWrite));
+                const QByteArray all =
+                    file.readAll().replace("boundaryField", "#calc boundaryField");
+                file.seek(0);
+                file.write(all);
+            },
+            1, {6}, "p was left out at time 2.5: case.foam: ");
+    }
+
+    void foam()
+    {
+        const auto [change, parts, missing, note] =
+            currentRow<std::function<void(const QDir&)>, int, QVector<int>, QString>();
+        const auto sound = dataOf({DataFolder::sample("cavity_transient/case.foam")});
+        QVector<double> first = firstValues(*sound, "p");
+        const QDir folder(m_folder->copySample("cavity_transient", "case"));
+        change(folder);
+        const ReadResult result = read({folder.filePath("case.foam")});
+        QVERIFY2(result.data, qPrintable(result.error));
+        QCOMPARE(result.data->zone(1).cellCount, std::int64_t(400 * parts));
+        for (int time = 1; time <= 6; ++time)
+            QCOMPARE(values(*result.data, time, "p").value(0, -1),
+                     missing.contains(time) ? -1 : first[time - 1]);
+        const QString notes = result.noteGroups.join('\n');
+        QVERIFY2(note.isEmpty() ? notes.isEmpty() : notes.contains(note), qPrintable(notes));
+    }
+
+    void collatedFoam()
+    {
+        const QDir folder(m_folder->copySample("cavity_transient", "case"));
+        split({"processors2_0-1"});
+        QDir(folder.filePath("constant")).removeRecursively();
+        const QString error = read({folder.filePath("case.foam")}).error;
+        QVERIFY2(error.contains("processors2_0-1 has the files of several processors in one"),
+                 qPrintable(error));
+    }
+
     void exodus_data()
     {
         const Rows<Change, Times, QVector<double>, QString> row;
@@ -158,6 +244,13 @@ private Q_SLOTS:
     }
 
 private:
+    /// Gives the case these folders, each with all of the case.
+    void split(const QStringList& names) const
+    {
+        for (const QString& name : names)
+            m_folder->copySample("cavity_transient", "case/" + name);
+    }
+
     QByteArray contentOf(const QString& name) const
     {
         QFile file(m_folder->path(name));

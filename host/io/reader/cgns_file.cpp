@@ -27,17 +27,6 @@ static std::vector<FilePart> partsOf(vtkCGNSReader* reader)
     return parts;
 }
 
-class CgnsFile : public SelectiveFile
-{
-public:
-    CgnsFile(const QString& path, vtkSmartPointer<vtkCGNSReader> reader,
-             const std::vector<ReadMessage>& notes)
-        : SelectiveFile(path, reader, [reader] { return partsOf(reader); })
-    {
-        m_notes = notes;
-    }
-};
-
 std::unique_ptr<DataFile> openCgns(const QString& path, const QDir& helper)
 {
     requireWholeHdf5(path);
@@ -50,7 +39,8 @@ std::unique_ptr<DataFile> openCgns(const QString& path, const QDir& helper)
     reader->EnableAllFamilies();
     reader->EnableAllPointArrays();
     reader->EnableAllCellArrays();
-    return std::make_unique<CgnsFile>(path, reader, sound.notes);
+    return std::make_unique<SelectiveFile>(
+        path, reader, [reader] { return partsOf(reader); }, sound.notes);
 }
 
 } // namespace corvala::host::io::reader

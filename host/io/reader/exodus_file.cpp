@@ -21,24 +21,34 @@ namespace corvala::host::io::reader {
 static constexpr vtkExodusIIReader::ObjectType kKinds[] = {
     vtkExodusIIReader::ELEM_BLOCK, vtkExodusIIReader::SIDE_SET, vtkExodusIIReader::NODE_SET};
 
-/// The netCDF library reads what is missing at the end of a file as zeros, without an error.
-/// Returns how many times are there.
-static std::int64_t requireMesh(const QString& path, std::vector<ReadMessage>& notes)
+/// What the size of a file tells.
+struct ExodusState
 {
+    std::int64_t timeCount = INT64_MAX; ///< that are whole
+    std::vector<ReadMessage> notes;
+};
+
+/// The netCDF library reads what is missing at the end of a file as zeros, without an error.
+static ExodusState requireMesh(const QString& path)
+{
+    ExodusState state;
     requireWholeHdf5(path);
     const std::optional<NetcdfSize> size = netcdfSize(path);
     const qint64 actual = QFileInfo(path).size();
     if (size && !size->isSound)
         throw ReadFailure(path,
                           QT_TRANSLATE_NOOP("ReadMessage", "its header is cut off or damaged"));
+    if (size && !size->mayHave(actual))
+        throw ReadFailure(path,
+                          QT_TRANSLATE_NOOP("ReadMessage", "it is longer than its header says"));
     if (!size || actual >= size->bytes())
-        return INT64_MAX;
+        return state;
     const std::int64_t whole = size->recordsIn(actual);
     if (whole <= 0)
         throw ReadFailure(
             path, QT_TRANSLATE_NOOP("ReadMessage", "it is cut off: %1 of %2 bytes are there"),
             {QString::number(actual), QString::number(size->bytes())});
-    notes.emplace_back(
+    state.notes.emplace_back(
         QT_TRANSLATE_NOOP("ReadMessage",
                           "%1: %2 of %3 times were left out: it is cut off: %4 of %5 bytes are "
                           "there."),
@@ -46,7 +56,8 @@ static std::int64_t requireMesh(const QString& path, std::vector<ReadMessage>& n
                                         QString::number(size->records - whole),
                                         QString::number(size->records), QString::number(actual),
                                         QString::number(size->bytes())});
-    return whole;
+    state.timeCount = whole;
+    return state;
 }
 
 static std::vector<FilePart> partsOf(vtkExodusIIReader* reader)
@@ -76,11 +87,11 @@ class ExodusFile : public SelectiveFile
 {
 public:
     ExodusFile(const QString& path, vtkSmartPointer<vtkExodusIIReader> reader,
-               std::int64_t timeCount, const std::vector<ReadMessage>& notes)
-        : SelectiveFile(path, reader, [reader] { return partsOf(reader); })
-        , m_timeCount(timeCount)
+               const ExodusState& state)
+        : SelectiveFile(
+            path, reader, [reader] { return partsOf(reader); }, state.notes)
+        , m_timeCount(state.timeCount)
     {
-        m_notes = notes;
     }
 
     std::vector<double> times() const override
@@ -126,8 +137,7 @@ private:
 
 static std::unique_ptr<DataFile> openOne(const QString& path)
 {
-    std::vector<ReadMessage> notes;
-    const std::int64_t timeCount = requireMesh(path, notes);
+    const ExodusState state = requireMesh(path);
     auto reader = vtkSmartPointer<vtkExodusIIReader>::New();
     reader->SetFileName(QFile::encodeName(path).constData());
     reader->ApplyDisplacementsOff();
@@ -138,7 +148,7 @@ static std::unique_ptr<DataFile> openOne(const QString& path)
         reader->SetAllArrayStatus(kind, 1);
     }
     reader->SetAllArrayStatus(vtkExodusIIReader::NODAL, 1);
-    return std::make_unique<ExodusFile>(path, reader, timeCount, notes);
+    return std::make_unique<ExodusFile>(path, reader, state);
 }
 
 std::unique_ptr<DataFile> openExodus(const QString& path)

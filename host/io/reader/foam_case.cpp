@@ -33,17 +33,6 @@ static std::vector<FilePart> partsOf(vtkPOpenFOAMReader* reader)
     return parts;
 }
 
-class FoamCase : public SelectiveFile
-{
-public:
-    FoamCase(const QString& path, vtkSmartPointer<vtkPOpenFOAMReader> reader,
-             const std::vector<ReadMessage>& notes)
-        : SelectiveFile(path, reader, [reader] { return partsOf(reader); })
-    {
-        m_notes = notes;
-    }
-};
-
 std::unique_ptr<DataFile> openFoam(const QString& path)
 {
     const FoamFolders folders = foamFoldersOf(path);
@@ -60,7 +49,8 @@ std::unique_ptr<DataFile> openFoam(const QString& path)
     reader->EnableAllCellArrays();
     reader->EnableAllPointArrays();
     reader->EnableAllLagrangianArrays();
-    return std::make_unique<FoamCase>(path, reader, folders.notes);
+    return std::make_unique<SelectiveFile>(
+        path, reader, [reader] { return partsOf(reader); }, folders.notes);
 }
 
 } // namespace corvala::host::io::reader

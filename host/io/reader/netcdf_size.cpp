@@ -168,6 +168,14 @@ std::optional<NetcdfSize> NetcdfHeader::fileSize()
     return size;
 }
 
+bool NetcdfSize::mayHave(std::int64_t actual) const
+{
+    constexpr std::int64_t kPadding = 3;
+    const std::int64_t more = actual - bytes();
+    return more <= std::max(recordBytes, kPadding)
+        || (recordBytes > 0 && more % recordBytes <= kPadding);
+}
+
 std::int64_t NetcdfSize::recordsIn(std::int64_t bytes) const
 {
     if (bytes < fixedEnd || recordBytes <= 0)

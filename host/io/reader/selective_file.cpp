@@ -12,8 +12,10 @@
 
 namespace corvala::host::io::reader {
 
-SelectiveFile::SelectiveFile(const QString& path, vtkSmartPointer<vtkAlgorithm> reader, Parts parts)
+SelectiveFile::SelectiveFile(const QString& path, vtkSmartPointer<vtkAlgorithm> reader, Parts parts,
+                             std::vector<ReadMessage> notes)
     : AlgorithmFile(path, std::move(reader))
+    , m_notes(std::move(notes))
     , m_parts(std::move(parts))
 {
     const ReadMessage error = VtkMessages::takeError();

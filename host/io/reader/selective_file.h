@@ -26,7 +26,9 @@ public:
     /// What the reader can leave out at the time that it has come to.
     using Parts = std::function<std::vector<FilePart>()>;
 
-    SelectiveFile(const QString& path, vtkSmartPointer<vtkAlgorithm> reader, Parts parts);
+    /// With what was noted before.
+    SelectiveFile(const QString& path, vtkSmartPointer<vtkAlgorithm> reader, Parts parts,
+                  std::vector<ReadMessage> notes);
 
     vtkSmartPointer<vtkDataObject> read(std::size_t timeIndex,
                                         const ProgressCall& progress) override;
