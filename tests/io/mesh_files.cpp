@@ -78,9 +78,9 @@ void writeExodus(const QString& path, const ExodusForm& form)
     ex_put_block(file, EX_ELEM_BLOCK, 1, "HEX8", 1, kPoints, 0, 0, 0);
     const int corners[] = {1, 2, 3, 4, 5, 6, 7, 8};
     ex_put_conn(file, EX_ELEM_BLOCK, 1, corners, nullptr, nullptr);
-    const int element = 1;
+    const int side = 2;
     ex_put_set_param(file, EX_SIDE_SET, 7, 1, 0);
-    ex_put_set(file, EX_SIDE_SET, 7, &element, &form.side);
+    ex_put_set(file, EX_SIDE_SET, 7, &form.element, &side);
     ex_put_variable_param(file, EX_NODAL, 1);
     ex_put_variable_name(file, EX_NODAL, 1, "T");
     for (std::size_t i = 0; i < form.times.size(); ++i) {

@@ -26,7 +26,7 @@ struct ExodusForm
     std::vector<double> times {0.5, 1.5, 2.5};
     double first = 0.0; ///< added to all values
     bool isHdf5 = false;
-    int side = 2; ///< the number of a side of the element, in a side set
+    int element = 1; ///< whose second side is a side set
 };
 
 /// A cube of one element with T, 100 times the number of the time and the number of the point; a

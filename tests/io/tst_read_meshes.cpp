@@ -88,7 +88,7 @@ private Q_SLOTS:
         writeCgns(m_folder->path("links.cgns"), {three, {"A", "B", "C"}, true}, true);
         writeCgns(m_folder->path("adf.cgns"), {three, three, true}, false);
         writeExodus(m_folder->path("a.e"), {});
-        writeExodus(m_folder->path("hdf5.e"), {{0.5, 1.5, 2.5}, 0.0, true, 2});
+        writeExodus(m_folder->path("hdf5.e"), {{0.5, 1.5, 2.5}, 0.0, true, 1});
         m_folder->copySample("cavity_transient", "case");
         const bool isText = name.contains('/');
         const QString opened = isText ? QString("case/case.foam") : name;
@@ -198,20 +198,23 @@ private Q_SLOTS:
 
     void exodus_data()
     {
-        const Rows<Change, Times, QVector<double>, QString> row;
-        row("sound", [](QByteArray all) { return all; }, {0.5, 1.5, 2.5},
-            {100, 200, 300, 101, 201, 301}, {});
-        row(
-            "cut in the last time", [](QByteArray all) { return all.chopped(20); }, {0.5, 1.5},
-            {100, 200, 101, 201}, "a.e: 1 of 3 times were left out: it is cut off: ");
+        const Rows<ExodusForm, int, Times, QVector<double>, QString> row;
+        const Times all {0.5, 1.5, 2.5};
+        row("sound", {}, 0, all, {100, 200, 300, 101, 201, 301}, {});
+        row("cut in the last time", {}, 20, {0.5, 1.5}, {100, 200, 101, 201},
+            "a.e: 1 of 3 times were left out: it is cut off: ");
+        row("a set of no element", {all, 0, false, 9}, 0, all, {100, 200, 300},
+            "a.e: the set \"Unnamed set ID: 7\" was left out: what it names is not there.");
+        row("a set of no element, HDF5", {all, 0, true, 9}, 0, all, {100, 200, 300},
+            "a.e: the set \"Unnamed set ID: 7\" was left out: what it names is not there.");
     }
 
     void exodus()
     {
-        const auto [change, times, first, note] =
-            currentRow<Change, Times, QVector<double>, QString>();
-        writeExodus(m_folder->path("a.e"), {});
-        m_folder->write("a.e", change(contentOf("a.e")));
+        const auto [form, cut, times, first, note] =
+            currentRow<ExodusForm, int, Times, QVector<double>, QString>();
+        writeExodus(m_folder->path("a.e"), form);
+        m_folder->write("a.e", contentOf("a.e").chopped(cut));
         verify(read({m_folder->path("a.e")}), times, first, note, "T");
     }
 
@@ -238,7 +241,7 @@ private Q_SLOTS:
         for (int i = 0; i < files.size(); ++i) {
             const bool isRun = files[0] == "a.e";
             const Times own = isRun ? Times {0.5 * (1 << i), 1.0 * (1 << i)} : Times {0.5, 1.5};
-            writeExodus(m_folder->write("run/" + files[i], {}), {own, 1000.0 * i, false, 2});
+            writeExodus(m_folder->write("run/" + files[i], {}), {own, 1000.0 * i, false, 1});
         }
         verify(read({m_folder->path("run/" + opened)}), times, first, note, "T");
     }

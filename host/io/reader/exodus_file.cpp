@@ -10,11 +10,13 @@
 #include <QFileInfo>
 
 #include <vtkCompositeDataSet.h>
+#include <vtkDataSet.h>
 #include <vtkExodusIIReader.h>
 #include <vtkInformation.h>
 #include <vtkMultiBlockDataSet.h>
 
 #include <cstring>
+#include <set>
 
 namespace corvala::host::io::reader {
 
@@ -90,6 +92,7 @@ public:
                const ExodusState& state)
         : SelectiveFile(
             path, reader, [reader] { return partsOf(reader); }, state.notes)
+        , m_reader(reader)
         , m_timeCount(state.timeCount)
     {
     }
@@ -113,15 +116,46 @@ public:
         for (unsigned int i = 0; i < groups->GetNumberOfBlocks(); ++i) {
             auto* const group = vtkMultiBlockDataSet::SafeDownCast(groups->GetBlock(i));
             const char* const name = groups->GetMetaData(i)->Get(vtkCompositeDataSet::NAME());
-            if (group && name && std::strcmp(name, "Element Blocks") == 0)
+            const bool areBlocks = group && name && std::strcmp(name, "Element Blocks") == 0;
+            if (areBlocks) {
                 append(*group, 0, group->GetNumberOfBlocks(), *result);
-            else
-                append(*groups, i, i + 1, *result);
+                continue;
+            }
+            if (group)
+                noteEmptySets(*group);
+            append(*groups, i, i + 1, *result);
         }
         return result;
     }
 
 private:
+    /// VTK leaves a set empty when it names elements or sides that do not exist.
+    void noteEmptySets(vtkMultiBlockDataSet& group)
+    {
+        for (unsigned int i = 0; i < group.GetNumberOfBlocks(); ++i) {
+            auto* const set = vtkDataSet::SafeDownCast(group.GetBlock(i));
+            const QString name =
+                QString::fromUtf8(group.GetMetaData(i)->Get(vtkCompositeDataSet::NAME()));
+            if (set && set->GetNumberOfPoints() == 0 && hasEntries(name)
+                && m_emptySets.insert(name).second)
+                m_notes.emplace_back(
+                    QT_TRANSLATE_NOOP(
+                        "ReadMessage",
+                        "%1: the set \"%2\" was left out: what it names is not there."),
+                    std::initializer_list<QString> {QFileInfo(path()).fileName(), name});
+        }
+    }
+
+    bool hasEntries(const QString& set) const
+    {
+        for (const auto kind : kKinds)
+            for (int i = 0; i < m_reader->GetNumberOfObjects(kind); ++i)
+                if (set == QString::fromUtf8(m_reader->GetObjectName(kind, i))
+                    && m_reader->GetNumberOfEntriesInObject(kind, i) > 0)
+                    return true;
+        return false;
+    }
+
     static void append(vtkMultiBlockDataSet& from, unsigned int first, unsigned int end,
                        vtkMultiBlockDataSet& to)
     {
@@ -132,7 +166,9 @@ private:
         }
     }
 
+    vtkSmartPointer<vtkExodusIIReader> m_reader;
     std::int64_t m_timeCount;
+    std::set<QString> m_emptySets; ///< that were noted
 };
 
 static std::unique_ptr<DataFile> openOne(const QString& path)
