@@ -127,6 +127,13 @@ private Q_SLOTS:
                 eachTime(folder, erase);
             },
             2, {}, {});
+        row("a part of a mesh in the case",
+            [=](const QDir& folder) {
+                split(two);
+                eachTime(folder, erase);
+                QDir(folder.filePath("constant/polyMesh")).remove("faces");
+            },
+            2, {}, {});
         row("a mesh in the case",
             [=](const QDir& folder) {
                 split(two);

@@ -25,12 +25,15 @@ static QDir caseFolder(const QString& path)
     return folder;
 }
 
-/// Of the whole domain or of a region.
+/// Of the whole domain or of a region. The folder of a mesh may hold no more than how to make it.
 static bool hasMesh(const QDir& folder)
 {
-    QDirIterator each(folder.filePath(QStringLiteral("constant")), {QStringLiteral("polyMesh")},
-                      QDir::Dirs, QDirIterator::Subdirectories);
-    return each.hasNext();
+    QDirIterator faces(folder.filePath(QStringLiteral("constant")), {QStringLiteral("faces*")},
+                       QDir::Files, QDirIterator::Subdirectories);
+    while (faces.hasNext())
+        if (QFileInfo(faces.next()).dir().dirName() == QLatin1String("polyMesh"))
+            return true;
+    return false;
 }
 
 static Results resultsIn(const QString& path)
