@@ -245,10 +245,11 @@ QString DataReader::Private::reasonForEnd(int code, QProcess::ExitStatus status)
         how = DataReader::tr("signal %1").arg(code);
     else if (how.isEmpty())
         how = DataReader::tr("exit code %1").arg(code);
-    return hasSpoken ? DataReader::tr("the reader stopped unexpectedly (%1); the file, or one that "
-                                      "it names, is probably cut off or damaged")
-                           .arg(how)
-                     : DataReader::tr("the reader stopped unexpectedly (%1)").arg(how);
+    if (!hasSpoken)
+        return DataReader::tr("the reader stopped unexpectedly (%1)").arg(how);
+    return DataReader::tr("the reader failed (%1); the file, or one that it names, holds something "
+                          "that it cannot read, or is damaged")
+        .arg(how);
 }
 
 /// On a thread of its own, so that the program goes on meanwhile.
@@ -356,7 +357,8 @@ QString DataReader::nameFilters()
         {tr("Plot3D files"),
          QStringLiteral("*.xyz *.x *.xy *.p3d *.grd *.g *.bin *.q *.f *.fun *.fmt *.p3dfmt")},
         {tr("EnSight files"), QStringLiteral("*.case *.encas")},
-        {tr("Exodus II files"), QStringLiteral("*.exo *.e *.ex2 *.exii *.g *.gen *.ncdf *.e-s* "
+        {tr("Exodus II files"),
+         QStringLiteral("*.exo *.e *.ex2 *.exii *.g *.gen *.ncdf *.e-s* "
                         "*.e.*.* *.exo.*.* *.g.*.* *.gen.*.*")},
         {tr("OpenFOAM cases"), QStringLiteral("*.foam *.OpenFOAM controlDict")},
         {tr("Tables of text"), QStringLiteral("*.csv *.tsv *.tab *.txt *.dat *.prn *.asc")},

@@ -70,14 +70,17 @@ void writeExodus(const QString& path, const ExodusForm& form)
     int realSize = sizeof(double);
     const int format = form.isHdf5 ? EX_NETCDF4 | EX_NOCLASSIC : 0;
     const int file = ex_create(qPrintable(path), EX_CLOBBER | format, &realSize, &realSize);
-    ex_put_init(file, "cube", 3, kPoints, 1, 1, 0, 1);
+    ex_put_init(file, "cubes", 3, kPoints, 2, 2, 0, 1);
     const double x[] = {0, 1, 1, 0, 0, 1, 1, 0};
     const double y[] = {0, 0, 1, 1, 0, 0, 1, 1};
     const double z[] = {0, 0, 0, 0, 1, 1, 1, 1};
     ex_put_coord(file, x, y, z);
-    ex_put_block(file, EX_ELEM_BLOCK, 1, "HEX8", 1, kPoints, 0, 0, 0);
     const int corners[] = {1, 2, 3, 4, 5, 6, 7, 8};
-    ex_put_conn(file, EX_ELEM_BLOCK, 1, corners, nullptr, nullptr);
+    for (const int block : {1, 2}) {
+        ex_put_block(file, EX_ELEM_BLOCK, block, block == 2 ? form.kind : "HEX8", 1, kPoints, 0, 0,
+                     0);
+        ex_put_conn(file, EX_ELEM_BLOCK, block, corners, nullptr, nullptr);
+    }
     const int side = 2;
     ex_put_set_param(file, EX_SIDE_SET, 7, 1, 0);
     ex_put_set(file, EX_SIDE_SET, 7, &form.element, &side);

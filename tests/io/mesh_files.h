@@ -27,10 +27,11 @@ struct ExodusForm
     double first = 0.0; ///< added to all values
     bool isHdf5 = false;
     int element = 1; ///< whose second side is a side set
+    const char* kind = "HEX8"; ///< of the element in the second block
 };
 
-/// A cube of one element with T, 100 times the number of the time and the number of the point; a
-/// side set.
+/// Two blocks of one element, the same cube, with T, 100 times the number of the time and the
+/// number of the point; a side set.
 void writeExodus(const QString& path, const ExodusForm& form);
 
 } // namespace corvala::host::io

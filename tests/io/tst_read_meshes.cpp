@@ -88,7 +88,7 @@ private Q_SLOTS:
         writeCgns(m_folder->path("links.cgns"), {three, {"A", "B", "C"}, true}, true);
         writeCgns(m_folder->path("adf.cgns"), {three, three, true}, false);
         writeExodus(m_folder->path("a.e"), {});
-        writeExodus(m_folder->path("hdf5.e"), {{0.5, 1.5, 2.5}, 0.0, true, 1});
+        writeExodus(m_folder->path("hdf5.e"), {{0.5, 1.5, 2.5}, 0.0, true, 1, "HEX8"});
         m_folder->copySample("cavity_transient", "case");
         const bool isText = name.contains('/');
         const QString opened = isText ? QString("case/case.foam") : name;
@@ -207,13 +207,16 @@ private Q_SLOTS:
     {
         const Rows<ExodusForm, int, Times, QVector<double>, QString> row;
         const Times all {0.5, 1.5, 2.5};
-        row("sound", {}, 0, all, {100, 200, 300, 101, 201, 301}, {});
-        row("cut in the last time", {}, 20, {0.5, 1.5}, {100, 200, 101, 201},
+        const QVector<double> blocks {100, 200, 300, 100, 200, 300};
+        const QString set =
+            "a.e: the set \"Unnamed set ID: 7\" was left out: what it names is not there.";
+        row("sound", {}, 0, all, blocks + QVector<double> {101, 201, 301}, {});
+        row("cut in the last time", {}, 20, {0.5, 1.5}, {100, 200, 100, 200, 101, 201},
             "a.e: 1 of 3 times were left out: it is cut off: ");
-        row("a set of no element", {all, 0, false, 9}, 0, all, {100, 200, 300},
-            "a.e: the set \"Unnamed set ID: 7\" was left out: what it names is not there.");
-        row("a set of no element, HDF5", {all, 0, true, 9}, 0, all, {100, 200, 300},
-            "a.e: the set \"Unnamed set ID: 7\" was left out: what it names is not there.");
+        row("a set of no element", {all, 0, false, 9, "HEX8"}, 0, all, blocks, set);
+        row("a set of no element, HDF5", {all, 0, true, 9, "HEX8"}, 0, all, blocks, set);
+        row("unknown elements", {all, 0, false, 1, "BLOB"}, 0, all, {100, 200, 300, 101, 201, 301},
+            "a.e: element block 2 was left out: its elements (BLOB) cannot be read.");
     }
 
     void exodus()
@@ -228,15 +231,15 @@ private Q_SLOTS:
     void runsOfExodus_data()
     {
         const Rows<QStringList, QString, Times, QVector<double>, QString> row;
+        const QVector<double> stages {100,  1100, 2100, 2200, 100,  1100,
+                                      2100, 2200, 101,  1101, 2101, 2201};
+        const QVector<double> pieces {100,  200,  100,  200,  101,  201,
+                                      1100, 1200, 1100, 1200, 1101, 1201};
         const QStringList run {"a.e", "a.e-s002", "a.e-s003"};
-        row("a run", run, "a.e-s002", {0.5, 1, 2, 4},
-            {100, 1100, 2100, 2200, 101, 1101, 2101, 2201}, {});
-        row("a folder", run, {}, {0.5, 1, 2, 4}, {100, 1100, 2100, 2200, 101, 1101, 2101, 2201},
-            {});
-        row("pieces", {"a.e.2.0", "a.e.2.1"}, "a.e.2.1", {0.5, 1.5},
-            {100, 200, 101, 201, 1100, 1200, 1101, 1201}, {});
-        row("a piece is missing", {"a.e.03.00", "a.e.03.02"}, "a.e.03.00", {0.5, 1.5},
-            {100, 200, 101, 201, 1100, 1200, 1101, 1201},
+        row("a run", run, "a.e-s002", {0.5, 1, 2, 4}, stages, {});
+        row("a folder", run, {}, {0.5, 1, 2, 4}, stages, {});
+        row("pieces", {"a.e.2.0", "a.e.2.1"}, "a.e.2.1", {0.5, 1.5}, pieces, {});
+        row("a piece is missing", {"a.e.03.00", "a.e.03.02"}, "a.e.03.00", {0.5, 1.5}, pieces,
             "a.e.03.01 was left out: there is no such file.");
     }
 
@@ -248,7 +251,8 @@ private Q_SLOTS:
         for (int i = 0; i < files.size(); ++i) {
             const bool isRun = files[0] == "a.e";
             const Times own = isRun ? Times {0.5 * (1 << i), 1.0 * (1 << i)} : Times {0.5, 1.5};
-            writeExodus(m_folder->write("run/" + files[i], {}), {own, 1000.0 * i, false, 1});
+            writeExodus(m_folder->write("run/" + files[i], {}),
+                        {own, 1000.0 * i, false, 1, "HEX8"});
         }
         verify(read({m_folder->path("run/" + opened)}), times, first, note, "T");
     }

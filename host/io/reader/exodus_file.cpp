@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/exodus_elements.h"
 #include "host/io/reader/exodus_names.h"
 #include "host/io/reader/exodus_run.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/hdf5_size.h"
 #include "host/io/reader/netcdf_size.h"
 #include "host/io/reader/selective_file.h"
+#include "host/io/reader/vtk_messages.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -16,6 +18,7 @@
 #include <vtkMultiBlockDataSet.h>
 
 #include <cstring>
+#include <map>
 #include <set>
 
 namespace corvala::host::io::reader {
@@ -27,6 +30,7 @@ static constexpr vtkExodusIIReader::ObjectType kKinds[] = {
 struct ExodusState
 {
     std::int64_t timeCount = INT64_MAX; ///< that are whole
+    std::map<int, QString> unknown; ///< kinds of elements, by the index of their block
     std::vector<ReadMessage> notes;
 };
 
@@ -62,7 +66,12 @@ static ExodusState requireMesh(const QString& path)
     return state;
 }
 
-static std::vector<FilePart> partsOf(vtkExodusIIReader* reader)
+static bool isUnknown(const ExodusState& state, int kind, int object)
+{
+    return kind == vtkExodusIIReader::ELEM_BLOCK && state.unknown.count(object) > 0;
+}
+
+static std::vector<FilePart> partsOf(vtkExodusIIReader* reader, const ExodusState& state)
 {
     std::vector<FilePart> parts;
     const auto addArrays = [&](int kind) {
@@ -75,8 +84,10 @@ static std::vector<FilePart> partsOf(vtkExodusIIReader* reader)
     };
     for (const auto kind : kKinds) {
         for (int i = 0; i < reader->GetNumberOfObjects(kind); ++i)
-            parts.push_back({QString::fromUtf8(reader->GetObjectName(kind, i)).trimmed(), true,
-                             [=](bool isOn) { reader->SetObjectStatus(kind, i, isOn ? 1 : 0); }});
+            if (!isUnknown(state, kind, i))
+                parts.push_back(
+                    {QString::fromUtf8(reader->GetObjectName(kind, i)).trimmed(), true,
+                     [=](bool isOn) { reader->SetObjectStatus(kind, i, isOn ? 1 : 0); }});
         addArrays(kind);
     }
     addArrays(vtkExodusIIReader::NODAL);
@@ -91,7 +102,7 @@ public:
     ExodusFile(const QString& path, vtkSmartPointer<vtkExodusIIReader> reader,
                const ExodusState& state)
         : SelectiveFile(
-            path, reader, [reader] { return partsOf(reader); }, state.notes)
+            path, reader, [=] { return partsOf(reader, state); }, state.notes)
         , m_reader(reader)
         , m_timeCount(state.timeCount)
     {
@@ -171,16 +182,35 @@ private:
     std::set<QString> m_emptySets; ///< that were noted
 };
 
+/// Blocks of other elements can be read. Throws ReadFailure for any error but that of unknown ones.
+static void noteUnknownElements(const QString& path, ExodusState& state)
+{
+    const ReadMessage error = VtkMessages::takeError();
+    if (error.isEmpty())
+        return;
+    state.unknown = unknownExodusElements(path);
+    if (state.unknown.empty())
+        throw ReadFailure(path, error);
+    for (const auto& [block, kind] : state.unknown)
+        state.notes.emplace_back(
+            QT_TRANSLATE_NOOP(
+                "ReadMessage",
+                "%1: element block %2 was left out: its elements (%3) cannot be read."),
+            std::initializer_list<QString> {QFileInfo(path).fileName(), QString::number(block + 1),
+                                            kind});
+}
+
 static std::unique_ptr<DataFile> openOne(const QString& path)
 {
-    const ExodusState state = requireMesh(path);
+    ExodusState state = requireMesh(path);
     auto reader = vtkSmartPointer<vtkExodusIIReader>::New();
     reader->SetFileName(QFile::encodeName(path).constData());
     reader->ApplyDisplacementsOff();
     reader->UpdateInformation();
+    noteUnknownElements(path, state);
     for (const auto kind : kKinds) {
         for (int i = 0; i < reader->GetNumberOfObjects(kind); ++i)
-            reader->SetObjectStatus(kind, i, 1);
+            reader->SetObjectStatus(kind, i, isUnknown(state, kind, i) ? 0 : 1);
         reader->SetAllArrayStatus(kind, 1);
     }
     reader->SetAllArrayStatus(vtkExodusIIReader::NODAL, 1);
