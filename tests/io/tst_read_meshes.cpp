@@ -230,16 +230,16 @@ private Q_SLOTS:
 
     void runsOfExodus_data()
     {
-        const Rows<QStringList, QString, Times, QVector<double>, QString> row;
+        const Rows<QStringList, QStringList, Times, QVector<double>, QString> row;
         const QVector<double> stages {100,  1100, 2100, 2200, 100,  1100,
                                       2100, 2200, 101,  1101, 2101, 2201};
         const QVector<double> pieces {100,  200,  100,  200,  101,  201,
                                       1100, 1200, 1100, 1200, 1101, 1201};
         const QStringList run {"a.e", "a.e-s002", "a.e-s003"};
-        row("a run", run, "a.e-s002", {0.5, 1, 2, 4}, stages, {});
-        row("a folder", run, {}, {0.5, 1, 2, 4}, stages, {});
-        row("pieces", {"a.e.2.0", "a.e.2.1"}, "a.e.2.1", {0.5, 1.5}, pieces, {});
-        row("a piece is missing", {"a.e.03.00", "a.e.03.02"}, "a.e.03.00", {0.5, 1.5}, pieces,
+        row("a run", run, {"a.e-s002"}, {0.5, 1, 2, 4}, stages, {});
+        row("a folder", run, {""}, {0.5, 1, 2, 4}, stages, {});
+        row("pieces", {"a.e.2.0", "a.e.2.1"}, {"a.e.2.1", "a.e.2.0"}, {0.5, 1.5}, pieces, {});
+        row("a piece is missing", {"a.e.03.00", "a.e.03.02"}, {"a.e.03.00"}, {0.5, 1.5}, pieces,
             "a.e.03.01 was left out: there is no such file.");
     }
 
@@ -247,14 +247,17 @@ private Q_SLOTS:
     void runsOfExodus()
     {
         const auto [files, opened, times, first, note] =
-            currentRow<QStringList, QString, Times, QVector<double>, QString>();
+            currentRow<QStringList, QStringList, Times, QVector<double>, QString>();
         for (int i = 0; i < files.size(); ++i) {
             const bool isRun = files[0] == "a.e";
             const Times own = isRun ? Times {0.5 * (1 << i), 1.0 * (1 << i)} : Times {0.5, 1.5};
             writeExodus(m_folder->write("run/" + files[i], {}),
                         {own, 1000.0 * i, false, 1, "HEX8"});
         }
-        verify(read({m_folder->path("run/" + opened)}), times, first, note, "T");
+        QStringList paths;
+        for (const QString& file : opened)
+            paths << m_folder->path("run/" + file);
+        verify(read(paths), times, first, note, "T");
     }
 
 private:

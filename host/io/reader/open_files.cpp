@@ -2,6 +2,7 @@
 #include "host/io/reader/open_files.h"
 
 #include "host/io/reader/channel.h"
+#include "host/io/reader/exodus_names.h"
 #include "host/io/reader/file_format.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/plot3d_format.h"
@@ -13,6 +14,8 @@
 
 #include <cerrno>
 #include <cstring>
+#include <set>
+#include <utility>
 
 namespace corvala::host::io::reader {
 
@@ -62,6 +65,7 @@ std::vector<std::unique_ptr<DataFile>> openFiles(const ReadRequest& request, con
     std::vector<std::unique_ptr<DataFile>> result;
     QStringList plot3d;
     QStringList tables;
+    std::set<std::pair<QString, int>> runs; // of Exodus, which are opened by any of their files
     for (const QString& named : request.files) {
         const QString path = QFileInfo(named).isDir() ? mainFileIn(named) : named;
         channel.report(path, 0,
@@ -70,6 +74,9 @@ std::vector<std::unique_ptr<DataFile>> openFiles(const ReadRequest& request, con
         requireReadable(path, true);
         const Format format = formatOf(path);
         requireReadable(path, format == Format::Foam);
+        const ExodusName exodus = exodusNameOf(path);
+        if (format == Format::Exodus && !runs.insert({exodus.first, exodus.pieceCount}).second)
+            continue;
         if (format == Format::Plot3D)
             plot3d << path;
         else if (format == Format::Table || (format == Format::Unknown && isTable(path)))
