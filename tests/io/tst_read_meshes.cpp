@@ -84,12 +84,7 @@ private Q_SLOTS:
     void damagedFiles()
     {
         const auto [name] = currentRow<QString>();
-        const QStringList three {"Sol#1", "Sol#2", "Sol#3"};
-        writeCgns(m_folder->path("links.cgns"), {three, {"A", "B", "C"}, true}, true);
-        writeCgns(m_folder->path("adf.cgns"), {three, three, true}, false);
-        writeExodus(m_folder->path("a.e"), {});
-        writeExodus(m_folder->path("hdf5.e"), {{0.5, 1.5, 2.5}, 0.0, true, 1, "HEX8"});
-        m_folder->copySample("cavity_transient", "case");
+        writeMeshes();
         const bool isText = name.contains('/');
         const QString opened = isText ? QString("case/case.foam") : name;
         const QByteArray content = contentOf(name);
@@ -108,6 +103,24 @@ private Q_SLOTS:
                 QTest::qFail(qPrintable(damage.name + QStringLiteral(": ") + problem), __FILE__,
                              __LINE__);
         }
+    }
+
+    void cutFiles_data()
+    {
+        const Rows<QString> row;
+        for (const char* const file : {"hdf5.cgns", "adf.cgns", "a.e", "hdf5.e"})
+            row(file, file);
+    }
+
+    void cutFiles()
+    {
+        const auto [name] = currentRow<QString>();
+        writeMeshes();
+        QFile file(m_folder->path(name));
+        const qint64 half = file.size() / 2;
+        QVERIFY(file.resize(half));
+        const QString error = read({file.fileName()}).error;
+        QVERIFY2(error.contains(QString("it is cut off: %1 of ").arg(half)), qPrintable(error));
     }
 
     void foam_data()
@@ -261,6 +274,17 @@ private Q_SLOTS:
     }
 
 private:
+    void writeMeshes() const
+    {
+        const QStringList three {"Sol#1", "Sol#2", "Sol#3"};
+        writeCgns(m_folder->path("links.cgns"), {three, {"A", "B", "C"}, true}, true);
+        writeCgns(m_folder->path("hdf5.cgns"), {three, three, true}, true);
+        writeCgns(m_folder->path("adf.cgns"), {three, three, true}, false);
+        writeExodus(m_folder->path("a.e"), {});
+        writeExodus(m_folder->path("hdf5.e"), {{0.5, 1.5, 2.5}, 0.0, true, 1, "HEX8"});
+        m_folder->copySample("cavity_transient", "case");
+    }
+
     /// Gives the case these folders, each with all of the case.
     void split(const QStringList& names) const
     {
