@@ -1,33 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "tests/io/io_support.h"
+#include "tests/io/vtk_text.h"
 #include "tests/support/rows.h"
 
 using namespace corvala::host;
 using namespace corvala::host::io;
 using namespace corvala::tests;
-
-static QByteArray xml(const QByteArray& type, const QByteArray& inner)
-{
-    return "<VTKFile type=\"" + type + "\" version=\"1.0\"><" + type + ' ' + inner + "</" + type
-        + "></VTKFile>";
-}
-
-static QByteArray array(const QByteArray& attributes, const QByteArray& numbers)
-{
-    return "<DataArray format=\"ascii\" " + attributes + ">" + numbers + "</DataArray>";
-}
-
-/// A surface of two triangles over four points.
-static QByteArray polyData(const QByteArray& pointArrays = {}, const QByteArray& cellArrays = {})
-{
-    return xml("PolyData",
-               "><Piece NumberOfPoints=\"4\" NumberOfPolys=\"2\"><PointData>" + pointArrays
-                   + "</PointData><CellData>" + cellArrays + "</CellData><Points>"
-                   + array("type=\"Float32\" NumberOfComponents=\"3\"", "0 0 0 1 0 0 1 1 0 0 1 5")
-                   + "</Points><Polys>"
-                   + array("type=\"Int64\" Name=\"connectivity\"", "0 1 2 0 2 3")
-                   + array("type=\"Int64\" Name=\"offsets\"", "3 6") + "</Polys></Piece>");
-}
 
 static QByteArray image(const QByteArray& extent, const QByteArray& pointArrays)
 {

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/algorithm_file.h"
 
+#include "host/io/reader/read_failure.h"
+#include "host/io/reader/vtk_messages.h"
+
 #include <vtkCallbackCommand.h>
 #include <vtkCommand.h>
 #include <vtkInformation.h>
@@ -55,18 +58,48 @@ static void forwardProgress(vtkObject* caller, unsigned long, void* clientData, 
     progress(static_cast<vtkAlgorithm*>(caller)->GetProgress());
 }
 
+/// Forwards the progress of a reader as long as it lives.
+class ProgressForwarding
+{
+public:
+    ProgressForwarding(vtkAlgorithm& reader, const ProgressCall& progress)
+        : m_reader(reader)
+    {
+        vtkNew<vtkCallbackCommand> observer;
+        observer->SetClientData(const_cast<ProgressCall*>(&progress));
+        observer->SetCallback(forwardProgress);
+        m_tag = reader.AddObserver(vtkCommand::ProgressEvent, observer);
+    }
+
+    ~ProgressForwarding() { m_reader.RemoveObserver(m_tag); }
+
+    ProgressForwarding(const ProgressForwarding&) = delete;
+    ProgressForwarding& operator=(const ProgressForwarding&) = delete;
+
+private:
+    vtkAlgorithm& m_reader;
+    unsigned long m_tag;
+};
+
+vtkSmartPointer<vtkDataObject> updated(const QString& path, vtkAlgorithm& reader,
+                                       const ProgressCall& progress)
+{
+    const ProgressForwarding forwarding(reader, progress);
+    reader.Update();
+    const ReadMessage error = VtkMessages::takeError();
+    if (!error.isEmpty())
+        throw ReadFailure(path, error);
+    return reader.GetOutputDataObject(0);
+}
+
 vtkSmartPointer<vtkDataObject> AlgorithmFile::read(std::size_t timeIndex,
                                                    const ProgressCall& progress)
 {
-    vtkNew<vtkCallbackCommand> observer;
-    observer->SetClientData(const_cast<ProgressCall*>(&progress));
-    observer->SetCallback(forwardProgress);
-    const unsigned long tag = m_reader->AddObserver(vtkCommand::ProgressEvent, observer);
+    const ProgressForwarding forwarding(*m_reader, progress);
     if (m_times.empty())
         m_reader->Update();
     else
         m_reader->UpdateTimeStep(m_times[timeIndex]);
-    m_reader->RemoveObserver(tag);
     return m_reader->GetOutputDataObject(0);
 }
 

@@ -9,6 +9,11 @@
 
 namespace corvala::host::io::reader {
 
+/// What a reader of VTK gives, whose file name and options are set. Throws ReadFailure with its
+/// error when it has one; warnings are left for the caller to take.
+vtkSmartPointer<vtkDataObject> updated(const QString& path, vtkAlgorithm& reader,
+                                       const ProgressCall& progress);
+
 /// A file that one of VTK's readers reads, whose file name and options are set already. The
 /// information of the reader is fetched here.
 class AlgorithmFile : public DataFile

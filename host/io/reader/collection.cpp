@@ -1,25 +1,27 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/file_format.h"
 #include "host/io/reader/formats.h"
+#include "host/io/reader/piece_reader.h"
 #include "host/io/reader/read_failure.h"
-#include "host/io/reader/vtk_messages.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QXmlStreamReader>
 
 #include <vtkCompositeDataSet.h>
 #include <vtkInformation.h>
 #include <vtkMultiBlockDataSet.h>
-#include <vtkNew.h>
-#include <vtkXMLGenericDataObjectReader.h>
 
 #include <map>
-#include <set>
+#include <optional>
 
 namespace corvala::host::io::reader {
 
-/// A .pvd file, which VTK has no reader for: lists VTK XML files by time, group and part. The tree
-/// of a time has a block per part, in a block per group where groups are named.
+/// A .pvd file, which VTK has no reader for: lists files of VTK's formats by time, group and part.
+/// The tree of a time has a block per part, in a block per group where groups are named.
 class Collection : public DataFile
 {
 public:
@@ -27,6 +29,7 @@ public:
 
     QString path() const override { return m_path; }
     std::vector<double> times() const override { return m_times; }
+    std::vector<ReadMessage> notes() const override { return m_reader.notes; }
     vtkSmartPointer<vtkDataObject> read(std::size_t timeIndex,
                                         const ProgressCall& progress) override;
 
@@ -38,6 +41,8 @@ private:
         QString file;
     };
 
+    void parseSeries(const QByteArray& text);
+    void parseXml(QFile& file);
     void parse(QXmlStreamReader& xml);
     void addEntry(const QXmlStreamReader& xml);
     std::string blockName(const Entry& entry, std::map<QString, int>& uses) const;
@@ -46,18 +51,21 @@ private:
     std::map<double, std::vector<Entry>> m_entries;
     std::vector<double> m_times;
     bool m_hasSeveralParts = false; ///< at some time
+    PieceReader m_reader;
+    unsigned int m_partsRead = 0; ///< at all times
+    std::optional<ReadFailure> m_failure; ///< the first one
 };
 
 Collection::Collection(const QString& path)
     : m_path(path)
+    , m_reader(path)
 {
     QFile file(path);
     file.open(QIODevice::ReadOnly);
-    QXmlStreamReader xml(&file);
-    parse(xml);
-    if (xml.hasError())
-        throw ReadFailure(path, QT_TRANSLATE_NOOP("ReadMessage", "line %1: %2"),
-                          {QString::number(xml.lineNumber()), xml.errorString()});
+    if (file.peek(1) == "{")
+        parseSeries(file.readAll());
+    else
+        parseXml(file);
     if (m_entries.empty())
         throw ReadFailure(path,
                           QT_TRANSLATE_NOOP("ReadMessage", "it is no collection that lists files"));
@@ -65,6 +73,39 @@ Collection::Collection(const QString& path)
         m_times.push_back(time);
         m_hasSeveralParts = m_hasSeveralParts || entries.size() > 1;
     }
+}
+
+void Collection::parseSeries(const QByteArray& text)
+{
+    QJsonParseError error {};
+    const QJsonObject series = QJsonDocument::fromJson(text, &error).object();
+    if (error.error != QJsonParseError::NoError)
+        throw ReadFailure(m_path, QT_TRANSLATE_NOOP("ReadMessage", "byte %1: %2"),
+                          {QString::number(error.offset), error.errorString()});
+    for (const QJsonValue& each : series.value(QLatin1String("files")).toArray()) {
+        const QJsonValue time = each[QLatin1String("time")];
+        const QString name = each[QLatin1String("name")].toString();
+        if (name.isEmpty() || !time.isDouble())
+            throw ReadFailure(
+                m_path,
+                QT_TRANSLATE_NOOP("ReadMessage", "a file in the list has no name, or no time"));
+        m_entries[time.toDouble()].push_back(
+            {{}, {}, QFileInfo(m_path).dir().absoluteFilePath(name)});
+    }
+}
+
+void Collection::parseXml(QFile& file)
+{
+    QXmlStreamReader xml(&file);
+    parse(xml);
+    const bool isOpen = xml.error() == QXmlStreamReader::PrematureEndOfDocumentError;
+    if (xml.hasError() && (!isOpen || m_entries.empty()))
+        throw ReadFailure(m_path, QT_TRANSLATE_NOOP("ReadMessage", "line %1: %2"),
+                          {QString::number(xml.lineNumber()), xml.errorString()});
+    if (isOpen)
+        m_reader.notes.emplace_back(
+            QT_TRANSLATE_NOOP("ReadMessage", "%1 has no end; the files that it lists were read."),
+            std::initializer_list<QString> {QFileInfo(m_path).fileName()});
 }
 
 void Collection::parse(QXmlStreamReader& xml)
@@ -104,7 +145,7 @@ void Collection::addEntry(const QXmlStreamReader& xml)
 /// Parts that share group and number at one time are told apart by their order.
 std::string Collection::blockName(const Entry& entry, std::map<QString, int>& uses) const
 {
-    const QString base = QFileInfo(m_path).completeBaseName();
+    const QString base = nameWithoutEnding(m_path);
     if (!m_hasSeveralParts)
         return (entry.group.isEmpty() ? base : entry.group).toStdString();
     bool isNumber = false;
@@ -115,30 +156,31 @@ std::string Collection::blockName(const Entry& entry, std::map<QString, int>& us
     return (entry.group.isEmpty() ? part : entry.group + QLatin1Char('/') + part).toStdString();
 }
 
-static vtkSmartPointer<vtkDataObject> readPart(const QString& path)
-{
-    requireReadable(path);
-    requireXmlVtk(path);
-    vtkNew<vtkXMLGenericDataObjectReader> reader;
-    reader->SetFileName(QFile::encodeName(path).constData());
-    reader->Update();
-    const ReadMessage error = VtkMessages::takeError();
-    if (!error.isEmpty())
-        throw ReadFailure(path, error);
-    return reader->GetOutputDataObject(0);
-}
-
 vtkSmartPointer<vtkDataObject> Collection::read(std::size_t timeIndex, const ProgressCall& progress)
 {
     const std::vector<Entry>& entries = m_entries.at(m_times[timeIndex]);
+    const auto count = static_cast<double>(entries.size());
     auto result = vtkSmartPointer<vtkMultiBlockDataSet>::New();
     std::map<QString, int> uses;
-    for (unsigned int i = 0; i < entries.size(); ++i) {
-        progress(static_cast<double>(i) / static_cast<double>(entries.size()));
-        result->SetBlock(i, readPart(entries[i].file));
-        result->GetMetaData(i)->Set(vtkCompositeDataSet::NAME(),
-                                    blockName(entries[i], uses).c_str());
+    if (m_times.size() > 1)
+        m_reader.time = m_times[timeIndex];
+    unsigned int position = 0;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        const std::string name = blockName(entries[i], uses);
+        try {
+            result->SetBlock(position, m_reader.read(entries[i].file, [&](double part) {
+                progress((static_cast<double>(i) + part) / count);
+            }));
+            result->GetMetaData(position)->Set(vtkCompositeDataSet::NAME(), name.c_str());
+            ++position;
+        } catch (const ReadFailure& failure) {
+            m_reader.leaveOut(failure);
+            m_failure = m_failure ? m_failure : failure;
+        }
     }
+    m_partsRead += position;
+    if (m_partsRead == 0 && timeIndex + 1 == m_times.size() && m_failure)
+        throw ReadFailure(*m_failure);
     return result;
 }
 

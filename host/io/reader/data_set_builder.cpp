@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/data_set_builder.h"
 
-#include "host/io/reader/block_tree.h"
 #include "host/io/reader/channel.h"
 #include "host/io/reader/clean_zone.h"
+#include "host/io/reader/file_format.h"
 #include "host/io/reader/read_failure.h"
 #include "host/io/reader/vector_proposal.h"
 #include "host/io/reader/vtk_messages.h"
@@ -36,7 +36,7 @@ static std::string baseName(const DataFile& file)
     const QFileInfo info(file.path());
     if (info.fileName() == QLatin1String("controlDict"))
         return QFileInfo(info.path()).dir().dirName().toStdString();
-    const QString base = info.completeBaseName();
+    const QString base = nameWithoutEnding(file.path());
     return (base.isEmpty() ? info.dir().dirName() : base).toStdString();
 }
 
@@ -95,12 +95,15 @@ void DataSetBuilder::readFile(DataFile& file, const std::string& fileName)
 {
     const std::size_t firstBlock = m_blocks.size();
     m_blockOfKey.clear();
+    m_fault.reset();
     const std::vector<double> times = file.times();
     for (const std::size_t timeIndex : timesInOrder(file, times))
         readTime(file, times, timeIndex);
     const bool hasZones =
         std::any_of(m_blocks.begin() + static_cast<std::ptrdiff_t>(firstBlock), m_blocks.end(),
                     [](const Block& block) { return !block.zones.empty(); });
+    if (!hasZones && m_fault)
+        throw ReadFailure(*m_fault);
     if (!hasZones)
         throw ReadFailure(file.path(),
                           QT_TRANSLATE_NOOP("ReadMessage", "there are no zones with points in it"));
@@ -182,9 +185,10 @@ void DataSetBuilder::readTime(DataFile& file, const std::vector<double>& times,
         report(kPartOfReading
                + (1 - kPartOfReading) * static_cast<double>(i)
                    / static_cast<double>(leaves.size()));
-        if (leaf.data)
-            requireUsable(file, *leaf.data);
-        Block& block = blockAt(leaf.names, uses[leaf.names]++, times.size() > 1);
+        const int use = uses[leaf.names]++;
+        if (leaf.data && !isUsable(file, leaf))
+            continue;
+        Block& block = blockAt(leaf.names, use, times.size() > 1);
         addLeaf(block, leaf.data, times.empty() ? 0.0 : times[timeIndex]);
     }
 }
@@ -224,16 +228,27 @@ void DataSetBuilder::nameZones(std::size_t firstBlock, const std::string& fileNa
     }
 }
 
-void DataSetBuilder::requireUsable(const DataFile& file, vtkDataSet& data) const
+bool DataSetBuilder::isUsable(const DataFile& file, const LeafBlock& leaf)
 {
-    if (data.GetNumberOfPoints() > m_mostPoints)
-        throw ReadFailure(
-            file.path(),
+    ReadMessage fault;
+    if (leaf.data->GetNumberOfPoints() > m_mostPoints)
+        fault = ReadMessage(
             QT_TRANSLATE_NOOP("ReadMessage", "a zone of %1 points does not fit the memory"),
-            {QString::number(data.GetNumberOfPoints())});
-    const ReadMessage fault = faultOf(data);
-    if (!fault.isEmpty())
-        throw ReadFailure(file.path(), fault);
+            {QString::number(leaf.data->GetNumberOfPoints())});
+    else
+        fault = faultOf(*leaf.data);
+    if (fault.isEmpty())
+        return true;
+    std::string name;
+    for (const std::string& part : leaf.names)
+        name += (name.empty() ? "" : "/") + part;
+    m_index.notes.emplace_back(
+        QT_TRANSLATE_NOOP("ReadMessage", "%1: the zone \"%2\" was left out: %3."),
+        std::initializer_list<QString> {QFileInfo(file.path()).fileName(),
+                                        QString::fromStdString(name), fault.toString()});
+    if (!m_fault)
+        m_fault = ReadFailure(file.path(), fault);
+    return false;
 }
 
 void DataSetBuilder::addLeaf(Block& block, vtkDataSet* data, double time)

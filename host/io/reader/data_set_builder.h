@@ -2,8 +2,10 @@
 #pragma once
 
 #include "host/io/read_protocol.h"
+#include "host/io/reader/block_tree.h"
 #include "host/io/reader/data_file.h"
 #include "host/io/reader/enclosure.h"
+#include "host/io/reader/read_failure.h"
 #include "host/io/reader/variable_list.h"
 #include "host/io/reader/zone_writer.h"
 
@@ -46,7 +48,8 @@ private:
 
     void readFile(DataFile& file, const std::string& fileName);
     void readTime(DataFile& file, const std::vector<double>& times, std::size_t timeIndex);
-    void requireUsable(const DataFile& file, vtkDataSet& data) const;
+    /// False for a zone that would mislead, which is noted.
+    bool isUsable(const DataFile& file, const LeafBlock& leaf);
     Block& blockAt(const std::vector<std::string>& names, int use, bool isTransient);
     void addLeaf(Block& block, vtkDataSet* data, double time);
     void nameZones(std::size_t firstBlock, const std::string& fileName);
@@ -67,6 +70,7 @@ private:
     Enclosure m_enclosure;
     bool m_hasCoordinates = false; ///< in some file
     int m_otherDialects = 0; ///< files whose dialect is another one than that of the first
+    std::optional<ReadFailure> m_fault; ///< of the first zone of the file that is left out
     QSet<QString> m_droppedArrays;
     std::set<QString> m_warnings; ///< with the names of the files
     std::size_t m_fileNumber = 0;

@@ -27,8 +27,9 @@ struct FormatEndings
 static constexpr FormatEndings kFormats[] = {
     {Format::LegacyVtk, Part, "vtk"},
     {Format::XmlVtk, Part, "vtu vtp vts vtr vti"},
-    {Format::XmlVtk, Index, "vtm vtmb pvtu pvtp pvts pvtr pvti"},
-    {Format::Collection, Case, "pvd"},
+    {Format::XmlVtk, Index, "vtm vtmb vtpc vtpd vthb vth pvtu pvtp pvts pvtr pvti"},
+    {Format::Collection, Case, "pvd series"},
+    {Format::Surface, Part, "stl ply obj"},
     {Format::Cgns, Part, "cgns adf hdf5"},
     {Format::EnSight, Case, "case encas"},
     {Format::Exodus, Part, "exo e ex2 exii exoii g gen ncdf"},
@@ -47,6 +48,14 @@ QByteArray firstBytes(const QString& path, qint64 count)
     QFile file(path);
     file.open(QIODevice::ReadOnly);
     return file.read(count);
+}
+
+QString nameWithoutEnding(const QString& path)
+{
+    const QFileInfo info(path);
+    const bool isSeries = info.suffix() == QLatin1String("series");
+    return isSeries ? QFileInfo(info.completeBaseName()).completeBaseName()
+                    : info.completeBaseName();
 }
 
 /// Of the formats that share an ending, Exodus files are netCDF or HDF5 files.
@@ -73,10 +82,31 @@ static const FormatEndings* kindOf(const QString& path)
     return result;
 }
 
+/// By what stands at the begin of a file of an ending that is not known.
+static Format formatByContent(const QString& path)
+{
+    static constexpr int kStart = 1 << 16;
+    const QByteArray start = firstBytes(path, kStart);
+    const QByteArray text = start.trimmed();
+    if (start.startsWith("# vtk DataFile"))
+        return Format::LegacyVtk;
+    if (text.startsWith('<') && text.contains("<VTKFile"))
+        return text.contains("<Collection") ? Format::Collection : Format::XmlVtk;
+    if (text.startsWith('{') && text.contains("\"file-series-version\""))
+        return Format::Collection;
+    if (text.startsWith("ply\n") || text.startsWith("ply\r"))
+        return Format::Surface;
+    if (text.startsWith("FORMAT") && text.contains("ensight"))
+        return Format::EnSight;
+    if (start.startsWith("\x89HDF") && start.contains("CGNSLibraryVersion"))
+        return Format::Cgns;
+    return start.startsWith("CDF") ? Format::Exodus : Format::Unknown;
+}
+
 Format formatOf(const QString& path)
 {
     const FormatEndings* kind = kindOf(path);
-    return kind ? kind->format : Format::Unknown;
+    return kind ? kind->format : formatByContent(path);
 }
 
 QString mainFileIn(const QString& folder)

@@ -10,7 +10,8 @@ enum class Format {
     Unknown,
     LegacyVtk,
     XmlVtk,
-    Collection,
+    Collection, ///< .pvd, or a series of files in JSON
+    Surface,
     Cgns,
     EnSight,
     Exodus,
@@ -19,8 +20,11 @@ enum class Format {
     Table
 };
 
-/// By the name of a file, and its first bytes where formats share an ending.
+/// By the name of a file, and its first bytes where formats share an ending, or it is not known.
 Format formatOf(const QString& path);
+
+/// Of "a.vtu" and of "a.vtu.series", "a".
+QString nameWithoutEnding(const QString& path);
 
 /// The first bytes of a readable file.
 QByteArray firstBytes(const QString& path, qint64 count);

@@ -13,14 +13,13 @@ namespace corvala::host::io::reader {
 
 std::unique_ptr<DataFile> openLegacyVtk(const QString& path);
 
-/// Throws ReadFailure unless the file is a VTK XML file of a kind that holds data, and it and the
-/// files that it names have an end.
-void requireXmlVtk(const QString& path);
+/// STL, PLY and OBJ.
+std::unique_ptr<DataFile> openSurface(const QString& path);
 
-/// Serial and parallel VTK XML files of any kind.
+/// Serial and parallel VTK XML files of any kind, and trees of them.
 std::unique_ptr<DataFile> openXmlVtk(const QString& path);
 
-/// A .pvd collection of VTK XML files by time, group and part.
+/// A .pvd collection of files of VTK's formats by time, group and part.
 std::unique_ptr<DataFile> openCollection(const QString& path);
 
 /// `helper` is an empty folder for files that are needed until the data are read.

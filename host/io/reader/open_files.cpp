@@ -48,6 +48,7 @@ static std::unique_ptr<DataFile> openFile(Format format, const QString& path, co
     case Format::LegacyVtk: return openLegacyVtk(path);
     case Format::XmlVtk: return openXmlVtk(path);
     case Format::Collection: return openCollection(path);
+    case Format::Surface: return openSurface(path);
     case Format::Cgns: return openCgns(path, helper);
     case Format::EnSight: return openEnSight(path);
     case Format::Exodus: return openExodus(path);

@@ -2,30 +2,17 @@
 #include "host/io/reader/algorithm_file.h"
 #include "host/io/reader/file_format.h"
 #include "host/io/reader/formats.h"
+#include "host/io/reader/piece_reader.h"
 #include "host/io/reader/read_failure.h"
+#include "host/io/reader/vtk_messages.h"
 
 #include <QFile>
-#include <QFileInfo>
-#include <QSet>
-#include <QXmlStreamReader>
 
 #include <vtkGenericDataObjectReader.h>
-#include <vtkNew.h>
 #include <vtkXMLGenericDataObjectReader.h>
-
-#include <algorithm>
+#include <vtkXMLReader.h>
 
 namespace corvala::host::io::reader {
-
-static constexpr qint64 kLongestEnd = 4096; ///< of the last tag, with what may follow it
-
-static QByteArray lastBytes(const QString& path, qint64 count)
-{
-    QFile file(path);
-    file.open(QIODevice::ReadOnly);
-    file.seek(std::max<qint64>(file.size() - count, 0));
-    return file.read(count);
-}
 
 std::unique_ptr<DataFile> openLegacyVtk(const QString& path)
 {
@@ -51,61 +38,46 @@ std::unique_ptr<DataFile> openLegacyVtk(const QString& path)
     return std::make_unique<AlgorithmFile>(path, reader);
 }
 
-/// What a parallel file or a tree of blocks is made of, by the attributes before the first values.
-static QStringList filesNamedIn(const QString& path)
+/// Files whose parts are read one by one.
+class PieceFile : public DataFile
 {
-    QFile file(path);
-    file.open(QIODevice::ReadOnly);
-    QXmlStreamReader xml(&file);
-    QStringList result;
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (xml.name() == QLatin1String("DataArray") || xml.name() == QLatin1String("AppendedData"))
-            break;
-        for (const char* const attribute : {"file", "Source"})
-            if (xml.attributes().hasAttribute(QLatin1String(attribute)))
-                result << QFileInfo(path).dir().absoluteFilePath(
-                    xml.attributes().value(QLatin1String(attribute)).toString());
+public:
+    explicit PieceFile(const QString& path)
+        : m_path(path)
+        , m_reader(path)
+    {
     }
-    return result;
-}
 
-/// VTK takes values after the XML that are cut off for whatever the memory held.
-static void requireEnds(const QString& path)
-{
-    QStringList files {path};
-    QSet<QString> seen;
-    while (!files.isEmpty()) {
-        const QString each = files.takeLast();
-        if (seen.contains(each) || !QFileInfo(each).isFile())
-            continue;
-        seen.insert(each);
-        if (!lastBytes(each, kLongestEnd).contains("</VTKFile"))
-            throw ReadFailure(
-                each,
-                QT_TRANSLATE_NOOP("ReadMessage", "it is cut off: the end of the XML is missing"));
-        files += filesNamedIn(each);
+    QString path() const override { return m_path; }
+    std::vector<double> times() const override { return {}; }
+    std::vector<ReadMessage> notes() const override { return m_reader.notes; }
+    vtkSmartPointer<vtkDataObject> read(std::size_t, const ProgressCall& progress) override
+    {
+        return m_reader.read(m_path, progress);
     }
-}
 
-void requireXmlVtk(const QString& path)
+private:
+    QString m_path;
+    PieceReader m_reader;
+};
+
+std::unique_ptr<DataFile> openSurface(const QString& path)
 {
-    bool isParallel = false;
-    vtkNew<vtkXMLGenericDataObjectReader> reader;
-    if (reader->ReadOutputType(QFile::encodeName(path).constData(), isParallel) < 0)
-        throw ReadFailure(
-            path,
-            QT_TRANSLATE_NOOP("ReadMessage", "it is no VTK XML file of a kind that is known"));
-    requireEnds(path);
+    return std::make_unique<PieceFile>(path);
 }
 
 std::unique_ptr<DataFile> openXmlVtk(const QString& path)
 {
-    requireXmlVtk(path);
-    auto reader = vtkSmartPointer<vtkXMLGenericDataObjectReader>::New();
-    reader->SetFileName(QFile::encodeName(path).constData());
-    return std::make_unique<AlgorithmFile>(path, reader);
+    const XmlKind kind(path);
+    if (!kind.isTree && !kind.isParallel) {
+        auto reader = vtkXMLGenericDataObjectReader::CreateReader(kind.type, false);
+        reader->SetFileName(QFile::encodeName(path).constData());
+        auto file = std::make_unique<AlgorithmFile>(path, reader);
+        VtkMessages::takeError(); // which reading gives again
+        if (file->times().size() > 1)
+            return file;
+    }
+    return std::make_unique<PieceFile>(path);
 }
 
 } // namespace corvala::host::io::reader

@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/piece_reader.h"
+
+#include "host/io/reader/algorithm_file.h"
+#include "host/io/reader/file_format.h"
+#include "host/io/reader/formats.h"
+#include "host/io/reader/refined_levels.h"
+#include "host/io/reader/sound_subset.h"
+#include "host/io/reader/surface_file.h"
+#include "host/io/reader/zone_check.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <vtkCompositeDataSet.h>
+#include <vtkDataArraySelection.h>
+#include <vtkDataSet.h>
+#include <vtkInformation.h>
+#include <vtkMultiBlockDataSet.h>
+#include <vtkXMLGenericDataObjectReader.h>
+#include <vtkXMLReader.h>
+
+#include <utility>
+
+namespace corvala::host::io::reader {
+
+PieceReader::PieceReader(const QString& mainFile)
+    : m_folder(QFileInfo(mainFile).dir())
+{
+}
+
+QString PieceReader::shortName(const QString& path) const
+{
+    return m_folder.relativeFilePath(path);
+}
+
+void PieceReader::leaveOut(const ReadFailure& failure)
+{
+    const QString file = shortName(failure.file);
+    const QString reason = failure.message.toString();
+    if (time)
+        notes.emplace_back(QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out at time %2: %3."),
+                           std::initializer_list<QString> {file, QString::number(*time), reason});
+    else
+        notes.emplace_back(QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out: %2."),
+                           std::initializer_list<QString> {file, reason});
+}
+
+void PieceReader::leaveOutArray(const QString& path, const QString& array,
+                                const ReadFailure& failure)
+{
+    notes.emplace_back(
+        QT_TRANSLATE_NOOP("ReadMessage", "%1: the values of %2 were left out: %3."),
+        std::initializer_list<QString> {shortName(path), array, failure.message.toString()});
+}
+
+vtkSmartPointer<vtkDataObject> PieceReader::read(const QString& path, const ProgressCall& progress)
+{
+    requireReadable(path);
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    if (m_open.contains(canonical))
+        throw ReadFailure(path, QT_TRANSLATE_NOOP("ReadMessage", "it names itself as a part"));
+    m_open << canonical;
+    try {
+        auto result = readOne(path, progress);
+        m_open.removeLast();
+        return result;
+    } catch (const ReadFailure&) {
+        m_open.removeLast();
+        throw;
+    }
+}
+
+vtkSmartPointer<vtkDataObject> PieceReader::readOne(const QString& path,
+                                                    const ProgressCall& progress)
+{
+    switch (formatOf(path)) {
+    case Format::LegacyVtk: return readLegacy(path, progress);
+    case Format::Surface: return updated(path, *surfaceReader(path), progress);
+    default: return readXml(path, progress);
+    }
+}
+
+vtkSmartPointer<vtkDataObject> PieceReader::readLegacy(const QString& path,
+                                                       const ProgressCall& progress)
+{
+    return openLegacyVtk(path)->read(0, progress);
+}
+
+vtkSmartPointer<vtkDataObject> PieceReader::readXml(const QString& path,
+                                                    const ProgressCall& progress)
+{
+    const XmlKind kind(path);
+    if (kind.isTree)
+        return readTree(path, progress);
+    return kind.isParallel ? readParallel(path, kind, progress) : readSerial(path, kind, progress);
+}
+
+static vtkSmartPointer<vtkXMLReader> xmlReader(const QString& path, const XmlKind& kind)
+{
+    auto reader = vtkXMLGenericDataObjectReader::CreateReader(kind.type, kind.isParallel);
+    reader->SetFileName(QFile::encodeName(path).constData());
+    if (!kind.text.empty()) {
+        reader->ReadFromInputStringOn();
+        reader->SetInputString(kind.text);
+    }
+    return reader;
+}
+
+using ArrayName = std::pair<bool, std::string>; ///< of the points or the cells
+
+static vtkDataArraySelection& selection(vtkXMLReader& reader, bool isOfPoints)
+{
+    return isOfPoints ? *reader.GetPointDataArraySelection() : *reader.GetCellDataArraySelection();
+}
+
+static std::vector<ArrayName> arraysOf(vtkXMLReader& reader)
+{
+    std::vector<ArrayName> result;
+    for (const bool isOfPoints : {true, false})
+        for (int i = 0; i < selection(reader, isOfPoints).GetNumberOfArrays(); ++i)
+            result.emplace_back(isOfPoints, selection(reader, isOfPoints).GetArrayName(i));
+    return result;
+}
+
+vtkSmartPointer<vtkDataObject> PieceReader::readSerial(const QString& path, const XmlKind& kind,
+                                                       const ProgressCall& progress)
+{
+    const auto all = xmlReader(path, kind);
+    try {
+        return updated(path, *all, progress);
+    } catch (const ReadFailure&) {
+        const auto readArrays = [&](const std::vector<ArrayName>& arrays) {
+            const auto reader = xmlReader(path, kind);
+            reader->UpdateInformation();
+            for (const bool isOfPoints : {true, false})
+                selection(*reader, isOfPoints).DisableAllArrays();
+            for (const auto& [isOfPoints, name] : arrays)
+                selection(*reader, isOfPoints).EnableArray(name.c_str());
+            return updated(path, *reader, progress);
+        };
+        return readSoundSubset(
+            arraysOf(*all), readArrays, [&](const ArrayName& array, const ReadFailure& failure) {
+                leaveOutArray(path, QString::fromStdString(array.second), failure);
+            });
+    }
+}
+
+/// Throws ReadFailure unless all pieces are there and claim no more than they hold: VTK passes over
+/// some that are not.
+static void requirePieces(const QStringList& pieces)
+{
+    for (const QString& piece : pieces) {
+        requireReadable(piece);
+        XmlKind {piece};
+    }
+}
+
+/// As one zone by VTK when all pieces are sound, else those that are as zones of their own.
+vtkSmartPointer<vtkDataObject> PieceReader::readParallel(const QString& path, const XmlKind& kind,
+                                                         const ProgressCall& progress)
+{
+    const QStringList pieces = piecesOf(path);
+    try {
+        requirePieces(pieces);
+        auto data = updated(path, *xmlReader(path, kind), progress);
+        auto* const zone = vtkDataSet::SafeDownCast(data);
+        const ReadMessage fault = zone ? faultOf(*zone) : ReadMessage();
+        if (!fault.isEmpty())
+            throw ReadFailure(path, fault);
+        return data;
+    } catch (const ReadFailure&) {
+        if (pieces.isEmpty())
+            throw;
+        PieceNode root;
+        root.isBlock = true;
+        for (const QString& piece : pieces) {
+            root.children.emplace_back();
+            root.children.back().word = "Piece ";
+            root.children.back().index = root.children.size() - 1;
+            root.children.back().file = piece;
+        }
+        return readNode(root, progress);
+    }
+}
+
+vtkSmartPointer<vtkDataObject> PieceReader::readTree(const QString& path,
+                                                     const ProgressCall& progress)
+{
+    const PieceTree tree = pieceTree(path);
+    if (tree.isCutOff && tree.root.children.empty())
+        throw ReadFailure(path, QT_TRANSLATE_NOOP("ReadMessage", "it is cut off"));
+    if (tree.isCutOff)
+        notes.emplace_back(
+            QT_TRANSLATE_NOOP("ReadMessage", "%1 has no end; the files that it lists were read."),
+            std::initializer_list<QString> {shortName(path)});
+    auto data = readNode(tree.root, progress);
+    if (tree.hasLevels)
+        hideRefinedCells(*vtkMultiBlockDataSet::SafeDownCast(data));
+    return data;
+}
+
+/// Throws the first failure when no file in a block that names some can be read.
+vtkSmartPointer<vtkDataObject> PieceReader::readNode(const PieceNode& node,
+                                                     const ProgressCall& progress)
+{
+    if (!node.isBlock)
+        return node.file.isEmpty() ? nullptr : read(node.file, progress);
+    auto block = vtkSmartPointer<vtkMultiBlockDataSet>::New();
+    std::vector<ReadFailure> failures;
+    unsigned int position = 0;
+    const auto count = static_cast<double>(node.children.size());
+    for (const PieceNode& child : node.children) {
+        const double before = position + static_cast<double>(failures.size());
+        try {
+            block->SetBlock(
+                position, readNode(child, [&](double part) { progress((before + part) / count); }));
+        } catch (const ReadFailure& failure) {
+            failures.push_back(failure);
+            continue;
+        }
+        const QString number = QLatin1String(child.word) + QString::number(child.index + 1);
+        if (!child.name.isEmpty() || node.children.size() > 1 || child.index > 0)
+            block->GetMetaData(position)->Set(
+                vtkCompositeDataSet::NAME(),
+                (child.name.isEmpty() ? number : child.name).toUtf8().constData());
+        ++position;
+    }
+    if (!failures.empty() && position == 0)
+        throw failures.front();
+    for (const ReadFailure& failure : failures)
+        leaveOut(failure);
+    return block;
+}
+
+} // namespace corvala::host::io::reader

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/surface_file.h"
+
+#include "host/io/reader/mapped_file.h"
+#include "host/io/reader/ply_check.h"
+#include "host/io/reader/read_failure.h"
+
+#include <QFileInfo>
+
+#include <vtkOBJReader.h>
+#include <vtkPLYReader.h>
+#include <vtkSTLReader.h>
+
+#include <cstdint>
+#include <cstring>
+
+namespace corvala::host::io::reader {
+
+/// Text ends with "endsolid"; binary files tell the number of their triangles.
+static void requireWholeStl(const MappedFile& file)
+{
+    static constexpr std::size_t kHeader = 84;
+    static constexpr std::uint64_t kTriangle = 50;
+    const std::string_view bytes = file.bytes();
+    std::uint32_t triangles = 0;
+    if (bytes.size() >= kHeader)
+        std::memcpy(&triangles, bytes.data() + kHeader - sizeof triangles, sizeof triangles);
+    const std::uint64_t binarySize = kHeader + kTriangle * triangles;
+    const std::size_t start = bytes.find_first_not_of(" \t\r\n");
+    const bool isText = start < bytes.size() && bytes.substr(start, 5) == "solid"
+        && bytes.size() != binarySize && bytes.substr(0, 1000).find('\0') > bytes.size();
+    if (isText && bytes.rfind("endsolid") == std::string_view::npos)
+        throw ReadFailure(
+            file.path(),
+            QT_TRANSLATE_NOOP("ReadMessage",
+                              "it is cut off after %1 bytes: there is no \"endsolid\""),
+            {QString::number(bytes.size())});
+    if (!isText && (bytes.size() < kHeader || bytes.size() < binarySize))
+        throw ReadFailure(
+            file.path(),
+            QT_TRANSLATE_NOOP("ReadMessage", "it is cut off: %1 of %2 bytes are there"),
+            {QString::number(bytes.size()),
+             QString::number(bytes.size() < kHeader ? kHeader : binarySize)});
+}
+
+template<class Reader>
+static vtkSmartPointer<vtkAlgorithm> reading(const QString& path)
+{
+    auto reader = vtkSmartPointer<Reader>::New();
+    reader->SetFileName(QFile::encodeName(path).constData());
+    return reader;
+}
+
+vtkSmartPointer<vtkAlgorithm> surfaceReader(const QString& path)
+{
+    const MappedFile file(path);
+    if (file.bytes().substr(0, 3) == "ply") {
+        requireWholePly(file);
+        return reading<vtkPLYReader>(path);
+    }
+    if (QFileInfo(path).suffix().toLower() == QLatin1String("obj"))
+        return reading<vtkOBJReader>(path);
+    requireWholeStl(file);
+    return reading<vtkSTLReader>(path);
+}
+
+} // namespace corvala::host::io::reader

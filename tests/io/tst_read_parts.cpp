@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "tests/io/vtk_text.h"
+#include "tests/support/rows.h"
+
+#include <vtkDataSetAttributes.h>
+#include <vtkUnsignedCharArray.h>
+
+#include <algorithm>
+
+using namespace corvala::host;
+using namespace corvala::host::io;
+using namespace corvala::tests;
+
+/// A surface whose values of p begin with this number.
+static QByteArray piece(int first, const QByteArray& more = {})
+{
+    QByteArray numbers;
+    for (int i = 0; i < 4; ++i)
+        numbers += QByteArray::number(first + i) + ' ';
+    return polyData(array("type=\"Float64\" Name=\"p\"", numbers) + more);
+}
+
+/// A square of four cells of this width from a place, with the values q in the cells.
+static QByteArray square(double from, double width)
+{
+    const QByteArray edge = QByteArray::number(width);
+    const QByteArray start = QByteArray::number(from);
+    return xml("ImageData",
+               "WholeExtent=\"0 2 0 2 0 0\" Origin=\"" + start + ' ' + start + " 0\" Spacing=\""
+                   + edge + ' ' + edge + " 1\"><Piece Extent=\"0 2 0 2 0 0\"><CellData>"
+                   + array("type=\"Float64\" Name=\"p\"", "1 2 3 4") + "</CellData></Piece>");
+}
+
+static QByteArray tree(const QByteArray& blocks)
+{
+    return xml("vtkMultiBlockDataSet", ">" + blocks);
+}
+
+static QByteArray parallel(const QByteArray& pieces)
+{
+    return xml("PPolyData",
+               "GhostLevel=\"0\"><PPointData><PDataArray type=\"Float64\" "
+               "Name=\"p\"/></PPointData><PPoints><PDataArray type=\"Float32\" "
+               "NumberOfComponents=\"3\"/></PPoints>"
+                   + pieces);
+}
+
+/// "name@time: first value of p (hidden cells)" of each zone.
+static QString shown(const DataSet& data)
+{
+    QStringList zones;
+    for (std::int64_t number = 1; number <= data.zoneCount(); ++number) {
+        const ZoneInfo& zone = data.zone(number);
+        QString text = QString::fromStdString(zone.name);
+        if (zone.strand > 0)
+            text += QStringLiteral("@%1s%2").arg(zone.time).arg(zone.strand);
+        const QVector<double> p = values(data, number, "p");
+        zones << text + (p.isEmpty() ? QString() : QStringLiteral("=%1").arg(p[0]));
+        vtkUnsignedCharArray* const ghosts = data.geometry(number)->GetCellGhostArray();
+        const int hidden = ghosts ? static_cast<int>(std::count(ghosts->Begin(), ghosts->End(),
+                                                                vtkDataSetAttributes::HIDDENCELL))
+                                  : 0;
+        if (hidden > 0)
+            zones.last() += QStringLiteral(" (%1 hidden)").arg(hidden);
+    }
+    return zones.join(", ");
+}
+
+class TestReadParts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<DataFolder>();
+        for (int i = 1; i <= 3; ++i)
+            m_folder->write(QString::asprintf("p%d.vtp", i), piece(10 * i));
+        m_folder->write("cut.vtp", piece(5).chopped(60));
+        m_folder->write("damaged.vtp", piece(5).replace("0 1 2 0 2 3", "0 1 2 0 2 9"));
+        m_folder->write("l.vtk",
+                        legacy("DATASET POLYDATA\nPOINTS 1 float\n0 0 0\nPOINT_DATA 1\n"
+                               "SCALARS p float\nLOOKUP_TABLE default\n7\n"));
+        m_folder->write("coarse.vti", square(0, 1));
+        m_folder->write("fine.vti", square(1, 0.5));
+    }
+
+    void opens_data()
+    {
+        const Rows<QString, QByteArray, QString, QString> row;
+        const QByteArray steps = "<DataSet timestep='1' file='p1.vtp'/><DataSet timestep='2' "
+                                 "file='p2.vtp'/>";
+        row("collection, a time is missing", "a.pvd",
+            collection(steps + "<DataSet timestep='3' file='none.vtp'/>"), "a@1s1=10, a@2s1=20",
+            "none.vtp was left out at time 3: there is no such file.");
+        row("collection, a time is cut off", "a.pvd",
+            collection(steps + "<DataSet timestep='1.5' file='cut.vtp'/>"), "a@1s1=10, a@2s1=20",
+            "cut.vtp was left out at time 1.5: it is cut off after * bytes: *");
+        row("collection, a part is missing", "a.pvd",
+            collection("<DataSet part='0' file='none.vtp'/><DataSet part='1' file='p2.vtp'/>"),
+            "Piece 2=20", "none.vtp was left out: there is no such file.");
+        row("collection that is being written", "a.pvd",
+            collection(steps + "<DataSet timestep='3' fi").chopped(24), "a@1s1=10, a@2s1=20",
+            "a.pvd has no end; *");
+        row("collection of other formats", "a.pvd",
+            collection("<DataSet timestep='1' file='l.vtk'/>" + steps.mid(steps.indexOf('>') + 1)),
+            "a@1s1=7, a@2s1=20", {});
+        const QByteArray three = "<DataSet index='0' file='p1.vtp'/><DataSet index='1' "
+                                 "file='none.vtp'/><DataSet index='2' file='p3.vtp'/>";
+        row("tree, a file is missing", "a.vtm", tree(three), "Block 1=10, Block 3=30",
+            "none.vtp was left out: there is no such file.");
+        row("tree, a block is missing", "a.vtm",
+            tree("<Block index='0' name='b'><DataSet index='0' file='none.vtp'/></Block>" + three),
+            "Block 1=10, Block 3=30", "none.vtp was left out: *|none.vtp was left out: *");
+        row("tree, a file is damaged", "a.vtm", tree("<DataSet file='damaged.vtp'/>" + three),
+            "Block 1=10, Block 3=30",
+            "a.vtm: the zone \"Block 1\" was left out: a cell is *|none.vtp was left out: *");
+        row("tree with a large index", "a.vtm",
+            tree("<DataSet index='1000000006' file='p1.vtp'/><DataSet index='5' file='l.vtk'/>"),
+            "Block 6=7, Block 1000000007=10", {});
+        row("tree that is cut off", "a.vtm", tree(three).chopped(50), "Block 1=10",
+            "a.vtm has no end; *|none.vtp was left out: *");
+        row("tree in itself", "a.vtm", tree("<DataSet file='a.vtm'/><DataSet file='p2.vtp'/>"),
+            "Block 2=20", "a.vtm was left out: it names itself as a part.");
+        row("tree of old files", "a.vtm",
+            tree("<DataSet group='1' dataset='0' file='p1.vtp'/><DataSet group='0' dataset='1' "
+                 "file='p2.vtp'/>"),
+            "Block 1/Block 2=20, Block 2/Block 1=10", {});
+        row("parallel, sound", "a.pvtp",
+            parallel("<Piece Source='p1.vtp'/><Piece Source='p2.vtp'/>"), "a=10", {});
+        row("parallel, a piece is missing", "a.pvtp",
+            parallel("<Piece Source='none.vtp'/><Piece Source='p1.vtp'/><Piece Source='p2.vtp'/>"),
+            "Piece 2=10, Piece 3=20", "none.vtp was left out: there is no such file.");
+        row("parallel, a piece is damaged", "a.pvtp",
+            parallel("<Piece Source='p1.vtp'/><Piece Source='damaged.vtp'/>"), "Piece 1=10",
+            "a.pvtp: the zone \"Piece 2\" was left out: a cell is *");
+        row("partitions", "a.vtpc",
+            xml("vtkPartitionedDataSetCollection",
+                "><Partitions index='0' name='wing'><DataSet index='0' file='p1.vtp'/>"
+                "<DataSet index='1' file='p2.vtp'/></Partitions><Partitions index='1' "
+                "name='tail'><DataSet index='0' file='p3.vtp'/></Partitions>"),
+            "wing/Piece 1=10, wing/Piece 2=20, tail=30", {});
+        row("refined levels", "a.vthb",
+            xml("vtkOverlappingAMR",
+                "><Block level='0'><DataSet index='0' file='coarse.vti'/></Block><Block level='1'>"
+                "<DataSet index='0' file='fine.vti'/></Block>"),
+            "Level 0/Block 1=1 (1 hidden), Level 1/Block 1=1", {});
+        row("series", "a.vtp.series",
+            "{ \"file-series-version\": \"1.0\", \"files\": [{\"name\": \"p2.vtp\", "
+            "\"time\": 2.5}, {\"name\": \"p1.vtp\", \"time\": 1}, {\"name\": "
+            "\"none.vtp\", \"time\": 4}]}",
+            "a@1s1=10, a@2.5s1=20", "none.vtp was left out at time 4: *");
+        row("unknown ending, XML", "a.data", piece(60), "a=60", {});
+        row("unknown ending, legacy", "a.001",
+            legacy("DATASET STRUCTURED_POINTS\nDIMENSIONS 1 1 1\nORIGIN 0 0 0\nSPACING 1 1 1\n"),
+            "a", {});
+        row("text behind the XML", "a.vtp", piece(40) + QByteArray(5000, '\n') + "made by hand",
+            "a=40", {});
+        row("an array is damaged", "a.vtp",
+            piece(50, array("type=\"Float64\" Name=\"short\"", "1 2")), "a=50",
+            "a.vtp: the values of short were left out: *");
+    }
+
+    void opens()
+    {
+        const auto [file, content, zones, notes] =
+            currentRow<QString, QByteArray, QString, QString>();
+        const ReadResult result = read({m_folder->write(file, content)});
+        QVERIFY2(result.data, qPrintable(result.error));
+        QStringList said;
+        for (const std::string& note : result.data->notes)
+            said << QString::fromStdString(note);
+        QCOMPARE(shown(*result.data), zones);
+        QVERIFY2(QRegularExpression(QRegularExpression::wildcardToRegularExpression(
+                                        QString(notes).replace('/', '?')))
+                     .match(QString(said.join('|')).replace('/', '?'))
+                     .hasMatch(),
+                 qPrintable(said.join('|')));
+    }
+
+private:
+    std::unique_ptr<DataFolder> m_folder;
+};
+
+QTEST_GUILESS_MAIN(TestReadParts)
+#include "tst_read_parts.moc"
