@@ -7,12 +7,16 @@
 #include <functional>
 #include <iterator>
 
+#include <vtkCellArray.h>
 #include <vtkCellData.h>
 #include <vtkCellType.h>
 #include <vtkDoubleArray.h>
 #include <vtkNew.h>
+#include <vtkPLYWriter.h>
 #include <vtkPointData.h>
 #include <vtkPoints.h>
+#include <vtkPolyData.h>
+#include <vtkSTLWriter.h>
 #include <vtkUnstructuredGrid.h>
 #include <vtkUnstructuredGridWriter.h>
 #include <vtkXMLUnstructuredGridWriter.h>
@@ -59,6 +63,21 @@ static QVector<double> definedIn(const QVector<double>& values)
     QVector<double> result;
     std::copy_if(values.begin(), values.end(), std::back_inserter(result),
                  [](double value) { return std::isfinite(value); });
+    return result;
+}
+
+/// Six triangles.
+static vtkSmartPointer<vtkPolyData> surface()
+{
+    const auto grid = mesh();
+    auto result = vtkSmartPointer<vtkPolyData>::New();
+    result->SetPoints(grid->GetPoints());
+    vtkNew<vtkCellArray> triangles;
+    for (vtkIdType i = 0; i < 6; ++i) {
+        const vtkIdType corners[] = {i, i + 1, i + 3};
+        triangles->InsertNextCell(3, corners);
+    }
+    result->SetPolys(triangles);
     return result;
 }
 
@@ -171,6 +190,11 @@ private Q_SLOTS:
         row("XML, base64", "base64.vtu", textFile);
         row("XML, appended", "appended.vtu", plainFile);
         row("legacy, binary", "binary.vtk", plainFile);
+        row("legacy, text", "text.vtk", textFile);
+        row("STL, binary", "binary.stl", plainFile);
+        row("STL, text", "text.stl", textFile);
+        row("PLY, binary", "binary.ply", plainFile);
+        row("PLY, text", "text.ply", textFile);
         row("CGNS", "cgns_hexa/cgnslib_vers-4400.cgns", plainFile);
         row("Plot3D", "combustor_plot3d/multi-bin.xyz", plainFile);
     }
@@ -186,6 +210,20 @@ private Q_SLOTS:
                   [](auto& file) { file.EncodeAppendedDataOff(); });
         writeMesh(vtkNew<vtkUnstructuredGridWriter>(), "binary.vtk",
                   [](auto& file) { file.SetFileTypeToBinary(); });
+        writeMesh(vtkNew<vtkUnstructuredGridWriter>(), "text.vtk",
+                  [](auto& file) { file.SetFileTypeToASCII(); });
+        const auto setSurface = [](auto& file) { file.SetInputData(surface()); };
+        const auto setText = [&](auto& file) {
+            setSurface(file);
+            file.SetFileTypeToASCII();
+        };
+        writeMesh(vtkNew<vtkSTLWriter>(), "binary.stl", [&](auto& file) {
+            setSurface(file);
+            file.SetFileTypeToBinary();
+        });
+        writeMesh(vtkNew<vtkSTLWriter>(), "text.stl", setText);
+        writeMesh(vtkNew<vtkPLYWriter>(), "binary.ply", setSurface);
+        writeMesh(vtkNew<vtkPLYWriter>(), "text.ply", setText);
         if (name.contains('/'))
             m_folder->copySample(name.section('/', 0, 0));
         QFile file(m_folder->path(name));

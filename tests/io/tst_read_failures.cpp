@@ -120,11 +120,8 @@ private Q_SLOTS:
         row("legacy without geometry", "a.vtk", legacy("POINT_DATA 1\nSCALARS a float\n"),
             "no geometry");
         row("legacy ends in the points", "a.vtk",
-            legacy("DATASET POLYDATA\nPOINTS 9 float\n0 0 0 1 1"), "a.vtk");
-        row("legacy ends in the values", "a.vtk",
-            legacy("DATASET STRUCTURED_POINTS\nDIMENSIONS 2 2 2\nORIGIN 0 0 0\nSPACING 1 1 1\n"
-                   "POINT_DATA 8\nSCALARS p float\nLOOKUP_TABLE default\n1 2 3"),
-            "a.vtk");
+            legacy("DATASET POLYDATA\nPOINTS 9 float\n0 0 0 1 1"),
+            "cut off: 80 of at least 123 bytes are there");
         row("legacy without points", "a.vtk", legacy("DATASET POLYDATA\nPOINTS 0 float\n"),
             "no zones with points");
         row("legacy table", "a.vtk",
@@ -332,8 +329,7 @@ private Q_SLOTS:
         request.limits.memoryBytes = std::int64_t(3) << 30;
         const ReadResult result = DataReader::read(request);
         QVERIFY(!result.data);
-        QVERIFY2(result.error.contains("allocate") || result.error.contains("3 GiB"),
-                 qPrintable(result.error));
+        QVERIFY2(result.error.contains("cut off: "), qPrintable(result.error));
     }
 
     void cancelAndProgress()

@@ -6,6 +6,8 @@
 #include <vtkUnsignedCharArray.h>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 using namespace corvala::host;
 using namespace corvala::host::io;
@@ -161,24 +163,70 @@ private Q_SLOTS:
             "a.vtp: the values of short were left out: *");
     }
 
+    void opensLegacy_data()
+    {
+        const Rows<QByteArray, QVector<double>, QString> row;
+        const QByteArray grid = "DATASET STRUCTURED_POINTS\nDIMENSIONS 3 1 1\nORIGIN 0 0 0\n"
+                                "SPACING 1 1 1\nPOINT_DATA 3\n";
+        const QByteArray p = "SCALARS p float\nLOOKUP_TABLE default\n";
+        const double inf = std::numeric_limits<double>::infinity();
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        row("not finite", grid + p + "nan -Infinity 1.#INF\n", {nan, -inf, inf}, {});
+        row("exponents", grid + p + "1.5D+2 -2d-1\n3e0\n", {150, -0.2f, 3}, {});
+        row("a word at the end", grid + p + "1 2 3\nend of file\n", {1, 2, 3},
+            "a.vtk: what cannot be read of it was left out: \"end\".");
+        row("a word in between", grid + p + "1 2 3\nscalar q float\n4 5 6\n", {1, 2, 3},
+            "a.vtk: what cannot be read of it was left out: \"scalar\".");
+        row("ends in an array", grid + p + "1 2 3\nVECTORS v float\n1 2 3 4", {1, 2, 3},
+            "a.vtk: the values of v were left out: it is cut off: 188 of at least * bytes *");
+        row("ends in a field", grid + "FIELD f 2\np 1 3 double\n1 2 3\nq 1 3 double\n1", {1, 2, 3},
+            "a.vtk: the values of q were left out: it is cut off: *");
+        row("ends in a header", grid + "FIELD f 2\np 1 3 double\n1 2 3\nq 1 3 dou", {1, 2, 3},
+            "a.vtk: what cannot be read of it was left out: *");
+        row("a word in an array", grid + "FIELD f 2\nq 1 3 float\n1 two 3\np 1 3 float\n1 2 3\n",
+            {1, 2, 3}, "a.vtk: the values of q were left out: \"two\" is no number.");
+        row("more than announced", grid + "VECTORS v float\n1 2 3 4 5 6 7 8 9 10\n" + p + "1 2 3\n",
+            {1, 2, 3}, "a.vtk: the values of v were left out: more follows than it should hold.");
+        row("no number of an integer",
+            grid + "SCALARS i int\nLOOKUP_TABLE default\n1 nan 3\n" + p + "1 2 3\n", {1, 2, 3},
+            "a.vtk: the values of i were left out: *");
+    }
+
+    void opensLegacy()
+    {
+        const auto [content, p, note] = currentRow<QByteArray, QVector<double>, QString>();
+        const ReadResult result = read({m_folder->write("a.vtk", legacy(content))});
+        QVERIFY2(result.data, qPrintable(result.error));
+        const QVector<double> found = values(*result.data, 1, "p");
+        QCOMPARE(found.size(), p.size());
+        for (int i = 0; i < p.size(); ++i)
+            QVERIFY(found[i] == p[i] || (std::isnan(found[i]) && std::isnan(p[i])));
+        checkNotes(*result.data, note);
+    }
+
     void opens()
     {
         const auto [file, content, zones, notes] =
             currentRow<QString, QByteArray, QString, QString>();
         const ReadResult result = read({m_folder->write(file, content)});
         QVERIFY2(result.data, qPrintable(result.error));
-        QStringList said;
-        for (const std::string& note : result.data->notes)
-            said << QString::fromStdString(note);
         QCOMPARE(shown(*result.data), zones);
-        QVERIFY2(QRegularExpression(QRegularExpression::wildcardToRegularExpression(
-                                        QString(notes).replace('/', '?')))
-                     .match(QString(said.join('|')).replace('/', '?'))
-                     .hasMatch(),
-                 qPrintable(said.join('|')));
+        checkNotes(*result.data, notes);
     }
 
 private:
+    /// The notes, separated by bars, are like this pattern.
+    static void checkNotes(const DataSet& data, const QString& pattern)
+    {
+        QStringList said;
+        for (const std::string& note : data.notes)
+            said << QString::fromStdString(note);
+        const auto plain = [](QString text) { return text.replace('/', '?').remove('"'); };
+        const QRegularExpression wanted(
+            QRegularExpression::wildcardToRegularExpression(plain(pattern)));
+        QVERIFY2(wanted.match(plain(said.join('|'))).hasMatch(), qPrintable(said.join('|')));
+    }
+
     std::unique_ptr<DataFolder> m_folder;
 };
 

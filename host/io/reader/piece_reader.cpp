@@ -4,6 +4,9 @@
 #include "host/io/reader/algorithm_file.h"
 #include "host/io/reader/file_format.h"
 #include "host/io/reader/formats.h"
+#include "host/io/reader/legacy_layout.h"
+#include "host/io/reader/legacy_reader.h"
+#include "host/io/reader/mapped_file.h"
 #include "host/io/reader/refined_levels.h"
 #include "host/io/reader/sound_subset.h"
 #include "host/io/reader/surface_file.h"
@@ -81,10 +84,54 @@ vtkSmartPointer<vtkDataObject> PieceReader::readOne(const QString& path,
     }
 }
 
+void PieceReader::noteLeftOver(const QString& path, const QString& reason)
+{
+    notes.emplace_back(
+        QT_TRANSLATE_NOOP("ReadMessage", "%1: what cannot be read of it was left out: %2."),
+        std::initializer_list<QString> {shortName(path), reason});
+}
+
 vtkSmartPointer<vtkDataObject> PieceReader::readLegacy(const QString& path,
                                                        const ProgressCall& progress)
 {
-    return openLegacyVtk(path)->read(0, progress);
+    const MappedFile file(path);
+    const LegacyLayout layout(file);
+    const auto reader = legacyReader(path);
+    if (!layout.isPlain() && layout.hasStructure())
+        return readDamagedLegacy(layout, path, progress);
+    try {
+        return updated(path, *reader, progress);
+    } catch (const ReadFailure& failure) {
+        if (!layout.hasStructure())
+            throw;
+        auto result = readDamagedLegacy(layout, path, progress);
+        noteLeftOver(path, failure.message.toString());
+        return result;
+    }
+}
+
+vtkSmartPointer<vtkDataObject> PieceReader::readDamagedLegacy(const LegacyLayout& layout,
+                                                              const QString& path,
+                                                              const ProgressCall& progress)
+{
+    using Arrays = std::vector<std::size_t>;
+    const auto readArrays = [&](const Arrays& arrays) {
+        return readLegacyText(path, layout.text(arrays), progress);
+    };
+    for (const auto& [array, failure] : layout.faults())
+        leaveOutArray(path, array, failure);
+    if (!layout.strayText().isEmpty())
+        noteLeftOver(path, QLatin1Char('"') + layout.strayText() + QLatin1Char('"'));
+    if (!layout.isKnown())
+        noteLeftOver(path, QStringLiteral("..."));
+    try {
+        return readArrays(layout.arrays());
+    } catch (const ReadFailure&) {
+        return readSoundSubset(layout.arrays(), readArrays,
+                               [&](std::size_t array, const ReadFailure& failure) {
+                                   leaveOutArray(path, layout.nameOf(array), failure);
+                               });
+    }
 }
 
 vtkSmartPointer<vtkDataObject> PieceReader::readXml(const QString& path,

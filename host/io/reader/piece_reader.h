@@ -15,6 +15,8 @@ class vtkXMLReader;
 
 namespace corvala::host::io::reader {
 
+class LegacyLayout;
+
 /// Reads files of VTK's formats with the files that they name. What of them cannot be read is left
 /// out with a note.
 class PieceReader
@@ -35,6 +37,9 @@ public:
 private:
     vtkSmartPointer<vtkDataObject> readOne(const QString& path, const ProgressCall& progress);
     vtkSmartPointer<vtkDataObject> readLegacy(const QString& path, const ProgressCall& progress);
+    vtkSmartPointer<vtkDataObject> readDamagedLegacy(const LegacyLayout& layout,
+                                                     const QString& path,
+                                                     const ProgressCall& progress);
     vtkSmartPointer<vtkDataObject> readXml(const QString& path, const ProgressCall& progress);
     vtkSmartPointer<vtkDataObject> readSerial(const QString& path, const XmlKind& kind,
                                               const ProgressCall& progress);
@@ -43,6 +48,7 @@ private:
     vtkSmartPointer<vtkDataObject> readTree(const QString& path, const ProgressCall& progress);
     vtkSmartPointer<vtkDataObject> readNode(const PieceNode& node, const ProgressCall& progress);
     void leaveOutArray(const QString& path, const QString& array, const ReadFailure& failure);
+    void noteLeftOver(const QString& path, const QString& reason);
     QString shortName(const QString& path) const;
 
     QDir m_folder;

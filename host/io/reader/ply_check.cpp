@@ -41,6 +41,12 @@ public:
             for (std::int64_t i = 0; i < element.count; ++i)
                 for (const PlyProperty& property : element.properties)
                     m_isText ? passText(property) : passBinary(property);
+        if (m_rest.find_first_not_of(" \t\r\n") != std::string_view::npos)
+            throw ReadFailure(
+                m_file.path(),
+                QT_TRANSLATE_NOOP(
+                    "ReadMessage",
+                    "it is damaged: it holds more points or faces than it announces"));
     }
 
 private:

@@ -11,6 +11,7 @@
 #include <vtkPLYReader.h>
 #include <vtkSTLReader.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
@@ -35,12 +36,15 @@ static void requireWholeStl(const MappedFile& file)
             QT_TRANSLATE_NOOP("ReadMessage",
                               "it is cut off after %1 bytes: there is no \"endsolid\""),
             {QString::number(bytes.size())});
-    if (!isText && (bytes.size() < kHeader || bytes.size() < binarySize))
-        throw ReadFailure(
-            file.path(),
-            QT_TRANSLATE_NOOP("ReadMessage", "it is cut off: %1 of %2 bytes are there"),
-            {QString::number(bytes.size()),
-             QString::number(bytes.size() < kHeader ? kHeader : binarySize)});
+    if (isText || bytes.size() == binarySize)
+        return;
+    const bool isCut = bytes.size() < std::max<std::uint64_t>(kHeader, binarySize);
+    throw ReadFailure(
+        file.path(),
+        isCut ? QT_TRANSLATE_NOOP("ReadMessage", "it is cut off: %1 of %2 bytes are there")
+              : QT_TRANSLATE_NOOP("ReadMessage", "it is damaged: %1 bytes are there instead of %2"),
+        {QString::number(bytes.size()),
+         QString::number(std::max<std::uint64_t>(kHeader, binarySize))});
 }
 
 template<class Reader>

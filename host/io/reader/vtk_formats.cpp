@@ -1,42 +1,16 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/algorithm_file.h"
-#include "host/io/reader/file_format.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/piece_reader.h"
-#include "host/io/reader/read_failure.h"
 #include "host/io/reader/vtk_messages.h"
+#include "host/io/reader/xml_pieces.h"
 
 #include <QFile>
 
-#include <vtkGenericDataObjectReader.h>
 #include <vtkXMLGenericDataObjectReader.h>
 #include <vtkXMLReader.h>
 
 namespace corvala::host::io::reader {
-
-std::unique_ptr<DataFile> openLegacyVtk(const QString& path)
-{
-    if (!firstBytes(path, 14).startsWith("# vtk DataFile"))
-        throw ReadFailure(path,
-                          QT_TRANSLATE_NOOP("ReadMessage",
-                                            "it does not begin with \"# vtk DataFile\", as legacy "
-                                            "VTK files do"));
-    auto reader = vtkSmartPointer<vtkGenericDataObjectReader>::New();
-    reader->SetFileName(QFile::encodeName(path).constData());
-    if (reader->ReadOutputType() < 0)
-        throw ReadFailure(path,
-                          QT_TRANSLATE_NOOP("ReadMessage",
-                                            "there is no geometry in it (no DATASET line, or an "
-                                            "unknown kind of data set)"));
-    reader->ReadAllScalarsOn();
-    reader->ReadAllVectorsOn();
-    reader->ReadAllNormalsOn();
-    reader->ReadAllTensorsOn();
-    reader->ReadAllColorScalarsOn();
-    reader->ReadAllTCoordsOn();
-    reader->ReadAllFieldsOn();
-    return std::make_unique<AlgorithmFile>(path, reader);
-}
 
 /// Files whose parts are read one by one.
 class PieceFile : public DataFile
@@ -60,6 +34,11 @@ private:
     QString m_path;
     PieceReader m_reader;
 };
+
+std::unique_ptr<DataFile> openLegacyVtk(const QString& path)
+{
+    return std::make_unique<PieceFile>(path);
+}
 
 std::unique_ptr<DataFile> openSurface(const QString& path)
 {
