@@ -100,6 +100,10 @@ private Q_SLOTS:
         row("claims too many values", "a.vti",
             claim + "<DataArray type=\"Float64\" Name=\"p\" format=\"ascii\">1</DataArray>" + end,
             "takes at least 1000000000000000 bytes, of which");
+        row("claims too many corners", "a.vtu",
+            "<VTKFile type=\"UnstructuredGrid\"><UnstructuredGrid><Piece NumberOfPoints=\"2\" "
+            "NumberOfCells=\"1000000000007\"/></UnstructuredGrid></VTKFile>",
+            "takes at least 1000000000013 bytes, of which 137 are there");
         row("claims too many points", "a.vti", claim + end, "memory");
         row("array without a name", "a.vti",
             QByteArray("<VTKFile type=\"ImageData\"><ImageData WholeExtent=\"0 1 0 0 0 0\"><Piece "
@@ -151,6 +155,17 @@ private Q_SLOTS:
             legacy("DATASET RECTILINEAR_GRID\nDIMENSIONS 3 1 1\nX_COORDINATES 2 float\n0 1\n"
                    "Y_COORDINATES 1 float\n0\nZ_COORDINATES 1 float\n0\n"),
             "coordinates are missing");
+        row("STL of too many triangles", "a.stl", QByteArray(80, ' ') + "\1\2\3\4",
+            "cut off: 84 of 3365299334 bytes are there");
+        row("STL without an end", "a.stl", "solid a\nfacet normal 0 0 1\nouter loop\n",
+            "no \"endsolid\"");
+        row("PLY of too many points", "a.ply",
+            "ply\nformat ascii 1.0\nelement vertex 1000000000\nproperty float x\nend_header\n1\n",
+            "cut off after 77 bytes");
+        row("series without files", "a.vtu.series", "{\"files\": []}", "lists files");
+        row("series without a time", "a.vtu.series", "{\"files\": [{\"name\": \"a.vtu\"}]}",
+            "no time");
+        row("series that is cut off", "a.vtu.series", "{\"files\": [", "byte 11: ");
         row("collection of nothing", "a.pvd", collection({}), "lists files");
         row("collection with a fault", "a.pvd", "<VTKFile>\n<Collection>\n<DataSet></VTKFile>",
             "line 3");

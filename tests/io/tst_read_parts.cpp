@@ -214,6 +214,46 @@ private Q_SLOTS:
         checkNotes(*result.data, notes);
     }
 
+    /// Files that are opened together.
+    void opensTogether_data()
+    {
+        const Rows<QStringList, QString> row;
+        row("times in surfaces", {"s_1.vtp", "s_02.vtp"}, "s@0.5s1=10, s@1.5s1=20");
+        row("times in trees", {"t1.vtm", "t2.vtm"},
+            "Block 1@1.5s1=20, Block 1@3s1=10, Block 2@1.5s2=10, Block 2@3s2=20");
+        row("times in legacy files", {"l1.vtk", "l2.vtk"}, "l@2s1=7, l@4s1=8");
+        row("one of other names", {"s_1.vtp", "s_02.vtp", "p3.vtp"},
+            "p3=30, s@0.5s1=10, s@1.5s1=20");
+        row("other names", {"s_1.vtp", "t1.vtm"}, "s_1=10, t1/Block 1=20, t1/Block 2=10");
+        row("equal times", {"s_1.vtp", "s_1.vtp"}, "s_1.vtp=10, s_1.vtp=10");
+    }
+
+    void opensTogether()
+    {
+        const auto [names, zones] = currentRow<QStringList, QString>();
+        const auto field = [](const QByteArray& time) {
+            return "<FieldData>"
+                + array("type=\"Float64\" Name=\"TimeValue\" NumberOfTuples=\"1\"", time)
+                + "</FieldData>";
+        };
+        m_folder->write("s_1.vtp", piece(10).replace("<Piece", field("0.5") + "<Piece"));
+        m_folder->write("s_02.vtp", piece(20).replace("<Piece", field("1.5") + "<Piece"));
+        m_folder->write("t1.vtm", tree("<DataSet file='s_02.vtp'/><DataSet file='s_1.vtp'/>"));
+        m_folder->write("t2.vtm",
+                        tree("<DataSet file='s_1.vtp'/><DataSet file='s_02.vtp'/>" + field("3")));
+        for (const char* const name : {"1", "2"})
+            m_folder->write(QString("l%1.vtk").arg(name),
+                            legacy("DATASET POLYDATA\nFIELD FieldData 1\nTIME 1 1 double\n"
+                                   + QByteArray::number(2 * QByteArray(name).toInt())
+                                   + "\nPOINTS 1 float\n0 0 0\nPOINT_DATA 1\nSCALARS p float\n"
+                                     "LOOKUP_TABLE default\n"
+                                   + QByteArray::number(6 + QByteArray(name).toInt()) + '\n'));
+        QStringList files;
+        for (const QString& name : names)
+            files << m_folder->path(name);
+        QCOMPARE(shown(*dataOf(files)), zones);
+    }
+
 private:
     /// The notes, separated by bars, are like this pattern.
     static void checkNotes(const DataSet& data, const QString& pattern)

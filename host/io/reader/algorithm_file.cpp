@@ -13,6 +13,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <stdexcept>
 #include <utility>
 
 namespace corvala::host::io::reader {
@@ -85,7 +86,12 @@ vtkSmartPointer<vtkDataObject> updated(const QString& path, vtkAlgorithm& reader
                                        const ProgressCall& progress)
 {
     const ProgressForwarding forwarding(reader, progress);
-    reader.Update();
+    try {
+        reader.Update();
+    } catch (const std::length_error&) { // a size that is no size
+        VtkMessages::takeError();
+        throw ReadFailure(path, VtkMessages::damaged());
+    }
     const ReadMessage error = VtkMessages::takeError();
     if (!error.isEmpty())
         throw ReadFailure(path, error);

@@ -20,14 +20,17 @@
 
 namespace corvala::host::io::reader {
 
-/// A .pvd file, which VTK has no reader for: lists files of VTK's formats by time, group and part.
-/// The tree of a time has a block per part, in a block per group where groups are named.
+/// Files of VTK's formats that belong together: listed in a .pvd file, which VTK has no reader for:
+/// lists files of VTK's formats by time, group and part. The tree of a time has a block per part,
+/// in a block per group where groups are named.
 class Collection : public DataFile
 {
 public:
     explicit Collection(const QString& path);
+    Collection(const QString& path, const std::map<double, QString>& files);
 
     QString path() const override { return m_path; }
+    QString name() const override { return m_name; }
     std::vector<double> times() const override { return m_times; }
     std::vector<ReadMessage> notes() const override { return m_reader.notes; }
     vtkSmartPointer<vtkDataObject> read(std::size_t timeIndex,
@@ -48,6 +51,7 @@ private:
     std::string blockName(const Entry& entry, std::map<QString, int>& uses) const;
 
     QString m_path;
+    QString m_name;
     std::map<double, std::vector<Entry>> m_entries;
     std::vector<double> m_times;
     bool m_hasSeveralParts = false; ///< at some time
@@ -58,6 +62,7 @@ private:
 
 Collection::Collection(const QString& path)
     : m_path(path)
+    , m_name(nameWithoutEnding(path))
     , m_reader(path)
 {
     QFile file(path);
@@ -72,6 +77,22 @@ Collection::Collection(const QString& path)
     for (const auto& [time, entries] : m_entries) {
         m_times.push_back(time);
         m_hasSeveralParts = m_hasSeveralParts || entries.size() > 1;
+    }
+}
+
+Collection::Collection(const QString& path, const std::map<double, QString>& files)
+    : m_path(files.begin()->second)
+    , m_name(nameWithoutEnding(path))
+    , m_reader(path)
+{
+    while (m_name.endsWith(QLatin1Char('_')) || m_name.endsWith(QLatin1Char('-'))
+           || m_name.endsWith(QLatin1Char('.')))
+        m_name.chop(1);
+    if (m_name.isEmpty())
+        m_name = nameWithoutEnding(m_path);
+    for (const auto& [time, file] : files) {
+        m_entries[time].push_back({{}, {}, file});
+        m_times.push_back(time);
     }
 }
 
@@ -145,9 +166,8 @@ void Collection::addEntry(const QXmlStreamReader& xml)
 /// Parts that share group and number at one time are told apart by their order.
 std::string Collection::blockName(const Entry& entry, std::map<QString, int>& uses) const
 {
-    const QString base = nameWithoutEnding(m_path);
     if (!m_hasSeveralParts)
-        return (entry.group.isEmpty() ? base : entry.group).toStdString();
+        return (entry.group.isEmpty() ? m_name : entry.group).toStdString();
     bool isNumber = false;
     int number = entry.part.toInt(&isNumber) + 1;
     number += uses[entry.group + QLatin1Char('\n') + entry.part]++;
@@ -182,6 +202,11 @@ vtkSmartPointer<vtkDataObject> Collection::read(std::size_t timeIndex, const Pro
     if (m_partsRead == 0 && timeIndex + 1 == m_times.size() && m_failure)
         throw ReadFailure(*m_failure);
     return result;
+}
+
+std::unique_ptr<DataFile> openSeries(const QString& path, const std::map<double, QString>& files)
+{
+    return std::make_unique<Collection>(path, files);
 }
 
 std::unique_ptr<DataFile> openCollection(const QString& path)

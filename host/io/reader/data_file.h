@@ -26,6 +26,8 @@ public:
 
     /// The file that stands for the group in names and messages; an absolute path.
     virtual QString path() const = 0;
+    /// What stands for the group in names of zones; empty for the name of that file.
+    virtual QString name() const { return {}; }
     /// Solution times in the file; empty, or one, for steady data.
     virtual std::vector<double> times() const = 0;
     /// Data at the time with this index (0 for steady data): a vtkDataSet or a tree of blocks.

@@ -34,6 +34,8 @@ DataSetBuilder::DataSetBuilder(const QString& folder, Channel& channel, std::int
 static std::string baseName(const DataFile& file)
 {
     const QFileInfo info(file.path());
+    if (!file.name().isEmpty())
+        return file.name().toStdString();
     if (info.fileName() == QLatin1String("controlDict"))
         return QFileInfo(info.path()).dir().dirName().toStdString();
     const QString base = nameWithoutEnding(file.path());
@@ -220,8 +222,11 @@ void DataSetBuilder::nameZones(std::size_t firstBlock, const std::string& fileNa
             - names.begin();
     }
     for (auto block = first; block != m_blocks.end(); ++block) {
-        std::string name = block->names.empty() || m_fileCount > 1 ? fileName : std::string();
-        for (std::size_t i = static_cast<std::size_t>(shared); i < block->names.size(); ++i)
+        const auto start = static_cast<std::size_t>(shared);
+        const bool isNamed = start < block->names.size() && block->names[start] == fileName;
+        const bool needsFile = block->names.empty() || (m_fileCount > 1 && !isNamed);
+        std::string name = needsFile ? fileName : std::string();
+        for (std::size_t i = start; i < block->names.size(); ++i)
             name += (name.empty() ? "" : "/") + block->names[i];
         for (ZoneInfo& zone : block->zones)
             zone.name = name;

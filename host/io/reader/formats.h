@@ -5,6 +5,7 @@
 
 #include <QDir>
 
+#include <map>
 #include <memory>
 
 /// The formats, one function each. A path is absolute and names a file that can be opened; all
@@ -21,6 +22,9 @@ std::unique_ptr<DataFile> openXmlVtk(const QString& path);
 
 /// A .pvd collection of files of VTK's formats by time, group and part.
 std::unique_ptr<DataFile> openCollection(const QString& path);
+
+/// Files by their times, which belong together under a path without a number.
+std::unique_ptr<DataFile> openSeries(const QString& path, const std::map<double, QString>& files);
 
 /// `helper` is an empty folder for files that are needed until the data are read.
 std::unique_ptr<DataFile> openCgns(const QString& path, const QDir& helper);

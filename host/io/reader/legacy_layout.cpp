@@ -4,13 +4,10 @@
 #include "host/io/reader/legacy_number.h"
 #include "host/io/reader/mapped_file.h"
 
-#include <QtEndian>
-
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <cstring>
 #include <map>
 #include <set>
 #include <utility>
@@ -76,7 +73,9 @@ void LegacyLayout::requireWhole()
         throw ReadFailure(cut);
     const Span& last = m_spans.back();
     if (m_section >= 0 && last.kind != Kind::Array && m_faults.empty())
-        m_faults.push_back({QStringLiteral("POINT_DATA, CELL_DATA"), cut});
+        m_faults.push_back(
+            {QStringLiteral("POINT_DATA, CELL_DATA"),
+             ReadFailure(m_file.path(), QT_TRANSLATE_NOOP("ReadMessage", "no values follow"))});
 }
 
 /// Words of the next line that has some, in lower case but for names; none at the end.
@@ -260,7 +259,6 @@ bool LegacyLayout::addStructure(std::size_t begin, const Numbers& numbers)
 void LegacyLayout::addArray(std::size_t begin, const std::string& name, const Numbers& numbers,
                             std::ptrdiff_t field)
 {
-    const std::size_t start = m_place;
     const std::optional<ReadFailure> failure = pass(numbers);
     if (!m_isKnown)
         return;
@@ -268,8 +266,7 @@ void LegacyLayout::addArray(std::size_t begin, const std::string& name, const Nu
         m_faults.push_back({QString::fromStdString(name), *failure});
         seekArray();
     }
-    m_spans.push_back({Kind::Array, begin, m_place, !failure, m_section, field, name,
-                       m_bytes.substr(start, m_place - start), numbers.type});
+    m_spans.push_back({Kind::Array, begin, m_place, !failure, m_section, field, name});
 }
 
 /// Goes to the next line of text that begins an array or a section.
@@ -392,26 +389,6 @@ std::string LegacyLayout::text(const std::vector<std::size_t>& arrays) const
             result += '\n';
     }
     return result;
-}
-
-std::optional<double> LegacyLayout::time() const
-{
-    for (const Span& span : m_spans) {
-        const std::string name = lower(span.name);
-        if (span.kind != Kind::Array || !span.isWhole || span.section >= 0
-            || (name != "time" && name != "timevalue"))
-            continue;
-        if (m_isText)
-            return numberOf(span.numbers.substr(
-                std::min(span.numbers.find_first_not_of(kBlank), span.numbers.size())));
-        if (span.type == "double" && span.numbers.size() == sizeof(double)) {
-            const auto bits = qFromBigEndian<quint64>(span.numbers.data());
-            double result = 0;
-            std::memcpy(&result, &bits, sizeof result);
-            return result;
-        }
-    }
-    return std::nullopt;
 }
 
 } // namespace corvala::host::io::reader

@@ -46,8 +46,6 @@ public:
     /// The file with the points and cells and these arrays only. Numbers that VTK cannot read are
     /// written as by withPlainNumbers().
     std::string text(const std::vector<std::size_t>& arrays) const;
-    /// The solution time that the file tells in its field data.
-    std::optional<double> time() const;
 
 private:
     enum class Kind { Structure, Section, Field, Array };
@@ -61,8 +59,6 @@ private:
         std::ptrdiff_t section = -1; ///< the span of POINT_DATA or CELL_DATA that it belongs to
         std::ptrdiff_t field = -1; ///< the span of the FIELD that it belongs to
         std::string name {};
-        std::string_view numbers {}; ///< of an array that is whole
-        std::string type {};
     };
 
     /// What follows a line of a keyword.

@@ -79,8 +79,8 @@ static int run(const QDir& folder, const ReadRequest& request)
                       QT_TRANSLATE_NOOP("ReadMessage",
                                         "it needs more than %1 GiB of memory, which is the limit"),
                       {QString::number(gibibytes, 'g', 3)}});
-    } catch (const std::exception& exception) {
-        channel.fail({{}, "%1", {QString::fromUtf8(exception.what())}});
+    } catch (const std::exception&) { // of a library, about itself
+        channel.fail({{}, reader::VtkMessages::damaged()});
     }
     return 1;
 }

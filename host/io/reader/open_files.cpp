@@ -4,6 +4,7 @@
 #include "host/io/reader/channel.h"
 #include "host/io/reader/exodus_names.h"
 #include "host/io/reader/file_format.h"
+#include "host/io/reader/file_time.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/plot3d_format.h"
 #include "host/io/reader/read_failure.h"
@@ -85,6 +86,7 @@ std::vector<std::unique_ptr<DataFile>> openFiles(const ReadRequest& request, con
         else
             result.push_back(openFile(format, path, newHelperFolder(folder, result.size())));
     }
+    result = joinedByTime(std::move(result));
     for (const Plot3DSeries& series : groupPlot3D(plot3d, request.plot3d))
         result.push_back(openPlot3D(series, newHelperFolder(folder, result.size())));
     for (std::unique_ptr<DataFile>& table : openTables(tables, request.text))

@@ -10,6 +10,7 @@
 #include "host/io/reader/refined_levels.h"
 #include "host/io/reader/sound_subset.h"
 #include "host/io/reader/surface_file.h"
+#include "host/io/reader/vtk_messages.h"
 #include "host/io/reader/zone_check.h"
 
 #include <QFile>
@@ -23,12 +24,14 @@
 #include <vtkXMLGenericDataObjectReader.h>
 #include <vtkXMLReader.h>
 
+#include <new>
 #include <utility>
 
 namespace corvala::host::io::reader {
 
 PieceReader::PieceReader(const QString& mainFile)
-    : m_folder(QFileInfo(mainFile).dir())
+    : m_mainFile(mainFile)
+    , m_folder(QFileInfo(mainFile).dir())
 {
 }
 
@@ -71,6 +74,14 @@ vtkSmartPointer<vtkDataObject> PieceReader::read(const QString& path, const Prog
     } catch (const ReadFailure&) {
         m_open.removeLast();
         throw;
+    } catch (const std::bad_alloc&) {
+        m_open.removeLast();
+        VtkMessages::takeError();
+        if (path == m_mainFile)
+            throw;
+        throw ReadFailure(
+            path,
+            QT_TRANSLATE_NOOP("ReadMessage", "it needs more memory than the limit, or is damaged"));
     }
 }
 

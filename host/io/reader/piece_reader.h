@@ -51,6 +51,7 @@ private:
     void noteLeftOver(const QString& path, const QString& reason);
     QString shortName(const QString& path) const;
 
+    QString m_mainFile;
     QDir m_folder;
     QStringList m_open; ///< files that name each other
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/algorithm_file.h"
+#include "host/io/reader/file_time.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/piece_reader.h"
 #include "host/io/reader/vtk_messages.h"
@@ -19,11 +20,15 @@ public:
     explicit PieceFile(const QString& path)
         : m_path(path)
         , m_reader(path)
+        , m_time(fileTime(path))
     {
     }
 
     QString path() const override { return m_path; }
-    std::vector<double> times() const override { return {}; }
+    std::vector<double> times() const override
+    {
+        return m_time ? std::vector<double> {*m_time} : std::vector<double>();
+    }
     std::vector<ReadMessage> notes() const override { return m_reader.notes; }
     vtkSmartPointer<vtkDataObject> read(std::size_t, const ProgressCall& progress) override
     {
@@ -33,6 +38,7 @@ public:
 private:
     QString m_path;
     PieceReader m_reader;
+    std::optional<double> m_time;
 };
 
 std::unique_ptr<DataFile> openLegacyVtk(const QString& path)

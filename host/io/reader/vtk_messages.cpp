@@ -79,9 +79,14 @@ ReadMessage VtkMessages::takeError()
     if (error.isEmpty())
         return {};
     if (window().isErrorVague)
-        return ReadMessage(
-            QT_TRANSLATE_NOOP("ReadMessage", "it, or a file that it names, is cut off or damaged"));
+        return damaged();
     return ReadMessage("%1", {error});
+}
+
+ReadMessage VtkMessages::damaged()
+{
+    return ReadMessage(
+        QT_TRANSLATE_NOOP("ReadMessage", "it, or a file that it names, is cut off or damaged"));
 }
 
 QStringList VtkMessages::takeWarnings()

@@ -16,6 +16,8 @@ public:
     /// First error since the last call that says something, without the place in VTK's source;
     /// empty when there was none. Later errors mostly follow from the first.
     static ReadMessage takeError();
+    /// What can be said when no more is known.
+    static ReadMessage damaged();
     /// Distinct warnings since the last call.
     static QStringList takeWarnings();
 };
