@@ -110,13 +110,15 @@ static std::optional<double> timeInXml(const QString& path, int depth)
 
 static std::optional<double> timeOf(const QString& path, int depth)
 {
-    if (depth > kDeepest)
+    const Format format = formatOf(path);
+    if (depth > kDeepest || (format != Format::LegacyVtk && format != Format::XmlVtk))
         return std::nullopt;
     try {
         const std::optional<double> time =
-            formatOf(path) == Format::LegacyVtk ? timeInLegacy(path) : timeInXml(path, depth);
+            format == Format::LegacyVtk ? timeInLegacy(path) : timeInXml(path, depth);
         return time && std::isfinite(*time) ? time : std::nullopt;
     } catch (const ReadFailure&) {
+        VtkMessages::takeError(); // which reading gives again
         return std::nullopt;
     }
 }

@@ -73,6 +73,7 @@ vtkSmartPointer<vtkDataObject> PieceReader::read(const QString& path, const Prog
         return result;
     } catch (const ReadFailure&) {
         m_open.removeLast();
+        VtkMessages::takeError(); // which the failure tells
         throw;
     } catch (const std::bad_alloc&) {
         m_open.removeLast();
