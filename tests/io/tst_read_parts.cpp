@@ -83,6 +83,7 @@ private Q_SLOTS:
         m_folder->write("l.vtk",
                         legacy("DATASET POLYDATA\nPOINTS 1 float\n0 0 0\nPOINT_DATA 1\n"
                                "SCALARS p float\nLOOKUP_TABLE default\n7\n"));
+        m_folder->write("words.vtp", "hello");
         m_folder->write("coarse.vti", square(0, 1));
         m_folder->write("fine.vti", square(1, 0.5));
     }
@@ -124,6 +125,12 @@ private Q_SLOTS:
             "a.vtm has no end; *|none.vtp was left out: *");
         row("tree in itself", "a.vtm", tree("<DataSet file='a.vtm'/><DataSet file='p2.vtp'/>"),
             "Block 2=20", "a.vtm was left out: it names itself as a part.");
+        row("parallel in itself", "a.pvtp",
+            parallel("<Piece Source='a.pvtp'/><Piece Source='p2.vtp'/>"), "Piece 2=20",
+            "a.pvtp was left out: it names itself as a part.");
+        row("tree with a file that is no data", "a.vtm",
+            tree("<DataSet file='words.vtp'/><DataSet file='p2.vtp'/>"), "Block 2=20",
+            "words.vtp was left out: it is no VTK XML file of a kind that is known.");
         row("tree of old files", "a.vtm",
             tree("<DataSet group='1' dataset='0' file='p1.vtp'/><DataSet group='0' dataset='1' "
                  "file='p2.vtp'/>"),

@@ -114,6 +114,7 @@ static std::optional<double> timeOf(const QString& path, int depth)
     if (depth > kDeepest || (format != Format::LegacyVtk && format != Format::XmlVtk))
         return std::nullopt;
     try {
+        requireReadable(path);
         const std::optional<double> time =
             format == Format::LegacyVtk ? timeInLegacy(path) : timeInXml(path, depth);
         return time && std::isfinite(*time) ? time : std::nullopt;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/mapped_file.h"
 
-#include "host/io/reader/formats.h"
 #include "host/io/reader/read_failure.h"
 
 namespace corvala::host::io::reader {
@@ -9,7 +8,6 @@ namespace corvala::host::io::reader {
 MappedFile::MappedFile(const QString& path)
     : m_file(path)
 {
-    requireReadable(path);
     const bool isOpen = m_file.open(QIODevice::ReadOnly);
     const uchar* const start = isOpen ? m_file.map(0, m_file.size()) : nullptr;
     if (!start)

@@ -12,7 +12,7 @@ namespace corvala::host::io::reader {
 class MappedFile
 {
 public:
-    /// Throws ReadFailure when the file cannot be opened, or is empty.
+    /// Of what requireReadable() lets pass. Throws ReadFailure when it cannot be mapped.
     explicit MappedFile(const QString& path);
 
     QString path() const { return m_file.fileName(); }

@@ -15,6 +15,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 #include <vtkCompositeDataSet.h>
 #include <vtkDataArraySelection.h>
@@ -63,20 +64,12 @@ void PieceReader::leaveOutArray(const QString& path, const QString& array,
 vtkSmartPointer<vtkDataObject> PieceReader::read(const QString& path, const ProgressCall& progress)
 {
     requireReadable(path);
-    const QString canonical = QFileInfo(path).canonicalFilePath();
-    if (m_open.contains(canonical))
-        throw ReadFailure(path, QT_TRANSLATE_NOOP("ReadMessage", "it names itself as a part"));
-    m_open << canonical;
     try {
-        auto result = readOne(path, progress);
-        m_open.removeLast();
-        return result;
+        return readOne(path, progress);
     } catch (const ReadFailure&) {
-        m_open.removeLast();
         VtkMessages::takeError(); // which the failure tells
         throw;
     } catch (const std::bad_alloc&) {
-        m_open.removeLast();
         VtkMessages::takeError();
         if (path == m_mainFile)
             throw;
@@ -150,9 +143,14 @@ vtkSmartPointer<vtkDataObject> PieceReader::readXml(const QString& path,
                                                     const ProgressCall& progress)
 {
     const XmlKind kind(path);
-    if (kind.isTree)
-        return readTree(path, progress);
-    return kind.isParallel ? readParallel(path, kind, progress) : readSerial(path, kind, progress);
+    if (!kind.isTree && !kind.isParallel)
+        return readSerial(path, kind, progress);
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    if (m_open.contains(canonical))
+        throw ReadFailure(path, QT_TRANSLATE_NOOP("ReadMessage", "it names itself as a part"));
+    m_open << canonical;
+    const auto close = qScopeGuard([this] { m_open.removeLast(); });
+    return kind.isTree ? readTree(path, progress) : readParallel(path, kind, progress);
 }
 
 static vtkSmartPointer<vtkXMLReader> xmlReader(const QString& path, const XmlKind& kind)

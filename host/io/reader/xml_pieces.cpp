@@ -13,6 +13,9 @@
 #include <vtkXMLGenericDataObjectReader.h>
 
 #include <algorithm>
+#include <map>
+#include <tuple>
+#include <utility>
 
 namespace corvala::host::io::reader {
 
@@ -210,24 +213,40 @@ static std::size_t requireEnd(const MappedFile& file)
     return std::min(file.bytes().find('>', tag), file.bytes().size() - 1) + 1;
 }
 
-/// The types of all trees begin alike; VTK knows some of them only.
-static bool isTreeOfFiles(const QString& path)
+/// What the first tag tells of the kind of data; empty for other files.
+static std::string typeOf(const MappedFile& file)
 {
-    QFile file(path);
-    file.open(QIODevice::ReadOnly);
-    QXmlStreamReader xml(&file);
-    return xml.readNextStartElement() && xml.name() == QLatin1String("VTKFile")
-        && attribute(xml, "type").startsWith(QLatin1String("vtk"));
+    const std::string_view xml = file.bytes();
+    const std::string_view tag = xml.substr(std::min(xml.find("<VTKFile"), xml.size()));
+    const std::string_view attributes = tag.substr(0, tag.find('>'));
+    std::size_t at = attributes.find("type=");
+    while (at < attributes.size() && attributes[at - 1] == '_') // header_type
+        at = attributes.find("type=", at + 1);
+    if (at >= attributes.size())
+        return {};
+    const std::string_view value = attributes.substr(std::min(at + 6, attributes.size()));
+    return std::string(value.substr(0, value.find_first_of("\"'")));
+}
+
+/// The type of data object that VTK has for a kind, and whether it is parallel.
+static std::pair<int, bool> vtkTypeOf(const QString& path, const std::string& type)
+{
+    static std::map<std::string, std::pair<int, bool>> known; // asking VTK takes a while
+    const auto [place, isNew] = known.try_emplace(type, -1, false);
+    if (isNew || type.empty())
+        place->second.first = vtkNew<vtkXMLGenericDataObjectReader>()->ReadOutputType(
+            QFile::encodeName(path).constData(), place->second.second);
+    return place->second;
 }
 
 XmlKind::XmlKind(const QString& path)
 {
     const MappedFile file(path);
-    isTree = isTreeOfFiles(path);
+    const std::string kind = typeOf(file);
+    isTree = kind.rfind("vtk", 0) == 0; // VTK knows some of them only
     if (isTree) // which may be written just now
         return;
-    vtkNew<vtkXMLGenericDataObjectReader> reader;
-    type = reader->ReadOutputType(QFile::encodeName(path).constData(), isParallel);
+    std::tie(type, isParallel) = vtkTypeOf(path, kind);
     if (type < 0)
         throw ReadFailure(
             path,
