@@ -351,8 +351,9 @@ QString DataReader::nameFilters()
 {
     const std::pair<QString, QString> kinds[] = {
         {tr("VTK files"),
-         QStringLiteral("*.vtm *.vtu *.vtp *.vts *.vtr *.vti *.pvtu *.pvtp *.pvts *.pvtr *.pvti "
-                        "*.pvd *.vtk")},
+         QStringLiteral("*.vtm *.vtmb *.vtpc *.vtpd *.vthb *.vth *.vtu *.vtp *.vts *.vtr *.vti "
+                        "*.pvtu *.pvtp *.pvts *.pvtr *.pvti *.pvd *.series *.vtk")},
+        {tr("Surfaces"), QStringLiteral("*.stl *.ply *.obj")},
         {tr("CGNS files"), QStringLiteral("*.cgns *.adf *.hdf5")},
         {tr("Plot3D files"),
          QStringLiteral("*.xyz *.x *.xy *.p3d *.grd *.g *.bin *.q *.f *.fun *.fmt *.p3dfmt")},

@@ -83,6 +83,8 @@ private Q_SLOTS:
         m_folder->write("l.vtk",
                         legacy("DATASET POLYDATA\nPOINTS 1 float\n0 0 0\nPOINT_DATA 1\n"
                                "SCALARS p float\nLOOKUP_TABLE default\n7\n"));
+        m_folder->write("one.obj", "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n");
+        m_folder->write("short.vtp", polyData(array("type=\"Float64\" Name=\"p\"", "1 2")));
         m_folder->write("words.vtp", "hello");
         m_folder->write("coarse.vti", square(0, 1));
         m_folder->write("fine.vti", square(1, 0.5));
@@ -163,6 +165,23 @@ private Q_SLOTS:
         row("unknown ending, legacy", "a.001",
             legacy("DATASET STRUCTURED_POINTS\nDIMENSIONS 1 1 1\nORIGIN 0 0 0\nSPACING 1 1 1\n"),
             "a", {});
+        row("STL", "a.stl",
+            "solid b\nfacet normal 0 0 1\nouter loop\nvertex 0 0 0\nvertex 1 0 0\nvertex 0 1 0\n"
+            "endloop\nendfacet\nendsolid b\n",
+            "a", {});
+        row("PLY of an unknown ending", "a.1",
+            "ply\nformat ascii 1.0\nelement vertex 3\nproperty float x\nproperty float y\n"
+            "property float z\nelement face 1\nproperty list uchar int vertex_indices\n"
+            "end_header\n0 0 0\n1 0 0\n0 1 0\n3 0 1 2\n",
+            "a", {});
+        row("OBJ", "a.obj", "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n", "a", {});
+        row("surface in a series", "a.stl.series",
+            "{\"file-series-version\": \"1.0\", \"files\": [{\"name\": \"one.obj\", \"time\": 1},"
+            " {\"name\": \"two.obj\", \"time\": 2}]}",
+            "a@1s1", "two.obj was left out at time 2: there is no such file.");
+        row("parallel, an array is damaged", "a.pvtp",
+            parallel("<Piece Source='p1.vtp'/><Piece Source='short.vtp'/>"), "Piece 1=10, Piece 2",
+            "short.vtp: the values of p were left out: *");
         row("text behind the XML", "a.vtp", piece(40) + QByteArray(5000, '\n') + "made by hand",
             "a=40", {});
         row("an array is damaged", "a.vtp",
