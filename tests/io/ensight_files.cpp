@@ -104,14 +104,22 @@ private:
     MadeFile m_file;
 };
 
-/// A part: its points, and what follows them in the geometry.
+/// Elements of one kind, and the lists that follow their number in the geometry.
+struct MadeCells
+{
+    QByteArray kind;
+    int count;
+    QVector<QVector<int>> lists;
+};
+
+/// A part: a mesh or, with a function that writes what follows its first line, a block.
 struct MadePart
 {
     const char* name;
     int points;
-    QVector<QPair<QByteArray, int>> cells; ///< kinds and counts
+    QVector<MadeCells> cells;
     QByteArray block; ///< its first line, or empty
-    std::function<void(EnSightWriter&)> write;
+    std::function<void(EnSightWriter&)> writeBlock;
 };
 
 static Numbers numbers(int count, double first, double step)
@@ -139,39 +147,6 @@ static QVector<int> idsFrom1(int count)
 
 static QVector<MadePart> goldParts(double time)
 {
-    const auto mesh = [time](int points, auto elements) {
-        return [=](EnSightWriter& file) {
-            file.line("coordinates");
-            file.count(points);
-            file.ints(idsFrom1(points)); // ids
-            writePlaces(file, points, time);
-            elements(file);
-        };
-    };
-    const auto solid = [](EnSightWriter& file) {
-        file.line("hexa8");
-        file.count(1);
-        file.ints({1, 2, 3, 4, 5, 6, 7, 8}, 8);
-        file.line("g_tria3");
-        file.count(1);
-        file.ints({1, 2, 3}, 3);
-        file.line("tetra4");
-        file.count(2);
-        file.ints({1, 2, 3, 4, 5, 6, 7, 8}, 4);
-    };
-    const auto polygons = [](EnSightWriter& file) {
-        file.line("nsided");
-        file.count(2);
-        file.ints({5, 3});
-        file.ints({1, 2, 3, 4, 5, 1, 2, 3}, 8);
-    };
-    const auto polyhedron = [](EnSightWriter& file) {
-        file.line("nfaced");
-        file.count(1);
-        file.ints({4});
-        file.ints({3, 3, 3, 3});
-        file.ints({1, 2, 3, 1, 2, 4, 2, 3, 4, 3, 1, 4}, 3);
-    };
     const auto grid = [time](EnSightWriter& file) {
         file.ints({3, 2, 2}, 3);
         writePlaces(file, 12, time);
@@ -188,13 +163,34 @@ static QVector<MadePart> goldParts(double time)
         file.floats({0, 0, 0});
         file.floats({1, 2, 3});
     };
-    return {{"solid", 8, {{"hexa8", 1}, {"g_tria3", 1}, {"tetra4", 2}}, {}, mesh(8, solid)},
-            {"block", 12, {{"block", 2}}, "block iblanked", grid},
-            {"polygons", 5, {{"nsided", 2}}, {}, mesh(5, polygons)},
-            {"nothing", 0, {}, {}, mesh(0, [](EnSightWriter&) {})},
-            {"polyhedron", 4, {{"nfaced", 1}}, {}, mesh(4, polyhedron)},
-            {"stretched", 6, {{"block", 2}}, "block rectilinear", rectilinear},
-            {"uniform", 8, {{"block", 1}}, "block uniform", uniform}};
+    const MadeCells polyhedron {
+        "nfaced", 1, {{4}, {3, 3, 3, 3}, {1, 2, 3, 1, 2, 4, 2, 3, 4, 3, 1, 4}}};
+    return {
+        {"solid",
+         8,
+         {{"hexa8", 1, {idsFrom1(8)}}, {"g_tria3", 1, {idsFrom1(3)}}, {"tetra4", 2, {idsFrom1(8)}}},
+         {},
+         {}},
+        {"block", 12, {{"block", 2, {}}}, "block iblanked", grid},
+        {"polygons", 5, {{"nsided", 2, {{5, 3}, {1, 2, 3, 4, 5, 1, 2, 3}}}}, {}, {}},
+        {"nothing", 0, {}, {}, {}},
+        {"polyhedron", 4, {polyhedron}, {}, {}},
+        {"stretched", 6, {{"block", 2, {}}}, "block rectilinear", rectilinear},
+        {"uniform", 8, {{"block", 1, {}}}, "block uniform", uniform}};
+}
+
+static void writeMesh(EnSightWriter& file, const MadePart& part, double time)
+{
+    file.line("coordinates");
+    file.count(part.points);
+    file.ints(idsFrom1(part.points)); // ids
+    writePlaces(file, part.points, time);
+    for (const MadeCells& cells : part.cells) {
+        file.line(cells.kind);
+        file.count(cells.count);
+        for (const QVector<int>& list : cells.lists)
+            file.ints(list);
+    }
 }
 
 static void writeGoldGeometry(EnSightWriter& file, double time)
@@ -207,9 +203,12 @@ static void writeGoldGeometry(EnSightWriter& file, double time)
         file.line("part");
         file.ints({++number});
         file.line(part.name);
-        if (!part.block.isEmpty())
+        if (part.block.isEmpty()) {
+            writeMesh(file, part, time);
+        } else {
             file.line(part.block);
-        part.write(file);
+            part.writeBlock(file);
+        }
     }
 }
 
@@ -277,7 +276,7 @@ static void writeGoldValues(EnSightWriter& file, double time, bool isOfCells)
             file.floats(numbers(part.points, first, 1));
         }
         int cell = 0;
-        for (const auto& [kind, count] : isOfCells ? part.cells : decltype(part.cells)()) {
+        for (const auto& [kind, count, lists] : isOfCells ? part.cells : QVector<MadeCells>()) {
             file.line(kind);
             for (int c = 0; c < 3; ++c)
                 file.floats(numbers(count, first + c / 10.0 + cell, 1));

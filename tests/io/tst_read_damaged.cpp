@@ -186,7 +186,6 @@ private Q_SLOTS:
     void damagedFiles_data()
     {
         const Rows<QString, MadeFile (*)(const QByteArray&)> row;
-        row("XML, text", "text.vtu", textFile);
         row("XML, base64", "base64.vtu", textFile);
         row("XML, appended", "appended.vtu", plainFile);
         row("legacy, binary", "binary.vtk", plainFile);
@@ -202,8 +201,6 @@ private Q_SLOTS:
     void damagedFiles()
     {
         const auto [name, made] = currentRow<QString, MadeFile (*)(const QByteArray&)>();
-        writeMesh(vtkNew<vtkXMLUnstructuredGridWriter>(), "text.vtu",
-                  [](auto& file) { file.SetDataModeToAscii(); });
         writeMesh(vtkNew<vtkXMLUnstructuredGridWriter>(), "base64.vtu",
                   [](auto& file) { file.SetDataModeToBinary(); });
         writeMesh(vtkNew<vtkXMLUnstructuredGridWriter>(), "appended.vtu",

@@ -300,6 +300,8 @@ std::vector<EnSightPart> readEnSight6Geometry(EnSightStream& file)
         line = line && line->rfind("block", 0) == 0
             ? readBlock(file, *line, part)
             : readElements(file, nodes, points, ids, line, part);
+        if (!part.isBlock && part.elements.empty()) // its points are those of other parts
+            part.grid->Initialize();
         parts.push_back(std::move(part));
     }
     return parts;

@@ -235,7 +235,9 @@ void EnSightValueReader::readGold()
 /// Nodes of all parts that are no blocks come first.
 EnSightValueReader::Line EnSightValueReader::readSharedNodes()
 {
-    const auto shares = [](const EnSightPart& part) { return !part.isBlock; };
+    const auto shares = [](const EnSightPart& part) {
+        return !part.isBlock && part.grid->GetNumberOfPoints() > 0;
+    };
     const auto first = std::find_if(m_parts.begin(), m_parts.end(), shares);
     if (m_variable.place != Place::Nodes || first == m_parts.end())
         return m_file.keyword();
