@@ -351,6 +351,8 @@ static void addFiles(MadeData& data, const EnSightForm& form, const char* name, 
         else
             data.files[QStringLiteral("%1%2").arg(name).arg(time < 1 ? 0 : 1)] = one.file();
     }
+    if (form.isOneFile && !all.isText())
+        all.line("FILE_INDEX"); // what follows the steps is not needed
     if (form.isOneFile)
         data.files[name] = all.file();
 }
