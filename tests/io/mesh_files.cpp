@@ -42,6 +42,8 @@ static void writeZone(int file, int zone, const QStringList& solutions)
         cg_sol_write(file, 1, zone, qPrintable(solutions[solution - 1]), CGNS_ENUMV(Vertex),
                      &number);
         cg_field_write(file, 1, zone, solution, CGNS_ENUMV(RealDouble), "p", values, &number);
+        if (zone == 2)
+            cg_field_write(file, 1, zone, solution, CGNS_ENUMV(RealDouble), "q", values, &number);
     }
 }
 

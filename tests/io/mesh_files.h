@@ -17,7 +17,7 @@ struct CgnsForm
 };
 
 /// Two zones of eight points with p, 100 times the number of the solution and the number of the
-/// point, at the times 0.5, 1.5 and 2.5.
+/// point, at the times 0.5, 1.5 and 2.5; the last zone has the same as q.
 void writeCgns(const QString& path, const CgnsForm& form, bool isHdf5);
 
 /// An Exodus file of format netCDF 3 or HDF5.

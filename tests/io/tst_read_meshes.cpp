@@ -68,7 +68,9 @@ private Q_SLOTS:
             currentRow<CgnsForm, Times, QVector<double>, QString>();
         for (const bool isHdf5 : {true, false}) {
             writeCgns(m_folder->path("a.cgns"), form, isHdf5);
-            verify(read({m_folder->path("a.cgns")}), times, first, note, "p");
+            const ReadResult result = read({m_folder->path("a.cgns")});
+            verify(result, times, first, note, "p");
+            QCOMPARE(firstValues(*result.data, "q").last(), first.last());
         }
     }
 

@@ -37,6 +37,7 @@ static qint64 endOf(const QByteArray& start)
     return blocks * kBlockSize + number(offset, quint32());
 }
 
+/// The last block is filled up.
 void requireWholeAdf(const QString& path)
 {
     const QByteArray start = firstBytes(path, kEndPlace + kBlockBytes + kOffsetBytes);
@@ -45,14 +46,16 @@ void requireWholeAdf(const QString& path)
         || start.mid(kTagPlace, 4) != "AdF4")
         return;
     const qint64 end = endOf(start);
+    const qint64 whole = (end / kBlockSize + 1) * kBlockSize;
     const qint64 actual = QFileInfo(path).size();
-    if (actual > (end / kBlockSize + 1) * kBlockSize)
+    const bool endsThere = actual == end || actual == end + 1;
+    if (actual > whole)
         throw ReadFailure(path,
                           QT_TRANSLATE_NOOP("ReadMessage", "it is longer than its header says"));
-    if (actual < end)
+    if (actual < whole && !endsThere)
         throw ReadFailure(
             path, QT_TRANSLATE_NOOP("ReadMessage", "it is cut off: %1 of %2 bytes are there"),
-            {QString::number(actual), QString::number(end)});
+            {QString::number(actual), QString::number(whole)});
 }
 
 } // namespace corvala::host::io::reader
