@@ -171,6 +171,14 @@ private Q_SLOTS:
             },
             2, {6}, "2.5 was left out: processor1 does not have it.");
         row(
+            "one processor has no mesh",
+            [=](const QDir& folder) {
+                split({"processor0", "processor1", "processor2"});
+                eachTime(folder, erase);
+                erase(folder.filePath("processor1/constant"));
+            },
+            2, {}, "processor1 was left out: there is no mesh in it.");
+        row(
             "collated results",
             [=](const QDir& folder) {
                 split({"processors2"});

@@ -2,12 +2,15 @@
 #include "host/io/reader/foam_folders.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/selective_file.h"
+#include "host/io/reader/vtk_messages.h"
 
 #include <QFile>
 
 #include <vtkDummyController.h>
 #include <vtkNew.h>
 #include <vtkPOpenFOAMReader.h>
+
+#include <algorithm>
 
 namespace corvala::host::io::reader {
 
@@ -33,6 +36,19 @@ static std::vector<FilePart> partsOf(vtkPOpenFOAMReader* reader)
     return parts;
 }
 
+/// Forgets the error of processors that were left out. Throws ReadFailure for any other.
+static void requireKnownError(const QString& path, const QStringList& withoutMesh)
+{
+    const ReadMessage error = VtkMessages::takeError();
+    const QString text = error.toString();
+    const bool isKnown =
+        std::any_of(withoutMesh.begin(), withoutMesh.end(), [&](const QString& folder) {
+            return text.contains(folder + QLatin1Char('/')) || text.contains(path);
+        });
+    if (!error.isEmpty() && !isKnown)
+        throw ReadFailure(path, error);
+}
+
 std::unique_ptr<DataFile> openFoam(const QString& path)
 {
     const FoamFolders folders = foamFoldersOf(path);
@@ -45,6 +61,7 @@ std::unique_ptr<DataFile> openFoam(const QString& path)
     reader->CreateCellToPointOff();
     reader->SkipZeroTimeOff();
     reader->UpdateInformation();
+    requireKnownError(path, folders.withoutMesh);
     reader->EnableAllPatchArrays();
     reader->EnableAllCellArrays();
     reader->EnableAllPointArrays();

@@ -102,6 +102,22 @@ static bool isOfCloud(const QString& name)
     return name.contains(QLatin1String("lagrangian/"));
 }
 
+static QStringList withMesh(const QStringList& processors, FoamFolders& result)
+{
+    QStringList found;
+    for (const QString& processor : processors) {
+        if (hasMesh(QDir(processor))) {
+            found << processor;
+            continue;
+        }
+        result.withoutMesh << processor;
+        result.notes.emplace_back(
+            QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out: there is no mesh in it."),
+            std::initializer_list<QString> {QDir(processor).dirName()});
+    }
+    return found;
+}
+
 /// What the pieces do not all have is not shown, since VTK joins them.
 static void noteGaps(const QStringList& processors, FoamFolders& result)
 {
@@ -170,7 +186,7 @@ FoamFolders foamFoldersOf(const QString& path)
         const Results first = resultsIn(processors.first());
         result.isDecomposed = !hasMesh(folder) || !lacking(first, own).isEmpty();
         if (result.isDecomposed) {
-            noteGaps(processors, result);
+            noteGaps(withMesh(processors, result), result);
             noteElsewhere(lacking(own, first), QStringLiteral("the case folder"), result);
             noteMissing(processors.first(), result);
             return result;

@@ -9,6 +9,7 @@ namespace corvala::host::io::reader {
 struct FoamFolders
 {
     bool isDecomposed = false; ///< in the folders of its processors
+    QStringList withoutMesh; ///< folders of processors that cannot be read
     std::vector<ReadMessage> notes; ///< what lies elsewhere, or is not in all of these folders
 };
 
