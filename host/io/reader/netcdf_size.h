@@ -20,8 +20,8 @@ struct NetcdfSize
     std::int64_t recordsEnd = 0; ///< of the last record; 0 without records
 
     std::int64_t bytes() const { return std::max(fixedEnd, recordsEnd); }
-    /// A file that is being written may have a part of a record, or whole ones, that its header does
-    /// not count. What is longer has something in it twice, say.
+    /// A file that is being written may have a part of a record, or whole ones, that its header
+    /// does not count. What is longer has something in it twice, say.
     bool mayHave(std::int64_t bytes) const;
     /// The records that are whole in a file of this size; 0 where fixed arrays are not.
     std::int64_t recordsIn(std::int64_t bytes) const;
