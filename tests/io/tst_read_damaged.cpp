@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "tests/io/ensight_files.h"
+#include "tests/io/vtk_text.h"
 #include "tests/support/rows.h"
 
 #include <algorithm>
@@ -185,22 +186,30 @@ private Q_SLOTS:
 
     void damagedFiles_data()
     {
-        const Rows<QString, MadeFile (*)(const QByteArray&)> row;
-        row("XML, base64", "base64.vtu", textFile);
-        row("XML, appended", "appended.vtu", plainFile);
-        row("legacy, binary", "binary.vtk", plainFile);
-        row("legacy, text", "text.vtk", textFile);
-        row("STL, binary", "binary.stl", plainFile);
-        row("STL, text", "text.stl", textFile);
-        row("PLY, binary", "binary.ply", plainFile);
-        row("PLY, text", "text.ply", textFile);
-        row("CGNS", "cgns_hexa/cgnslib_vers-4400.cgns", plainFile);
-        row("Plot3D", "combustor_plot3d/multi-bin.xyz", plainFile);
+        const Rows<QString, MadeFile (*)(const QByteArray&), QString> row;
+        row("XML, text", "text.vtu", textFile, {});
+        row("XML, base64", "base64.vtu", textFile, {});
+        row("XML, appended", "appended.vtu", plainFile, {});
+        row("legacy, binary", "binary.vtk", plainFile, {});
+        row("legacy, text", "text.vtk", textFile, {});
+        row("XML in a tree", "appended.vtu", plainFile, "a.vtm");
+        row("legacy in a tree", "text.vtk", textFile, "a.vtm");
+        row("STL, binary", "binary.stl", plainFile, {});
+        row("STL, text", "text.stl", textFile, {});
+        row("PLY, binary", "binary.ply", plainFile, {});
+        row("PLY, text", "text.ply", textFile, {});
+        row("CGNS", "cgns_hexa/cgnslib_vers-4400.cgns", plainFile, {});
+        row("Plot3D", "combustor_plot3d/multi-bin.xyz", plainFile, {});
     }
 
     void damagedFiles()
     {
-        const auto [name, made] = currentRow<QString, MadeFile (*)(const QByteArray&)>();
+        const auto [name, made, opened] =
+            currentRow<QString, MadeFile (*)(const QByteArray&), QString>();
+        m_folder->write(
+            "a.vtm", tree("<DataSet file='" + name.toUtf8() + "'/><DataSet file='base64.vtu'/>"));
+        writeMesh(vtkNew<vtkXMLUnstructuredGridWriter>(), "text.vtu",
+                  [](auto& file) { file.SetDataModeToAscii(); });
         writeMesh(vtkNew<vtkXMLUnstructuredGridWriter>(), "base64.vtu",
                   [](auto& file) { file.SetDataModeToBinary(); });
         writeMesh(vtkNew<vtkXMLUnstructuredGridWriter>(), "appended.vtu",
@@ -225,7 +234,7 @@ private Q_SLOTS:
             m_folder->copySample(name.section('/', 0, 0));
         QFile file(m_folder->path(name));
         QVERIFY(file.open(QIODevice::ReadOnly));
-        checkDamages({{{name, made(file.readAll())}}, {name}}, {name});
+        checkDamages({{{name, made(file.readAll())}}, {opened.isEmpty() ? name : opened}}, {name});
     }
 
 private:

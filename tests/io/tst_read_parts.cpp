@@ -33,11 +33,6 @@ static QByteArray square(double from, double width)
                    + array("type=\"Float64\" Name=\"p\"", "1 2 3 4") + "</CellData></Piece>");
 }
 
-static QByteArray tree(const QByteArray& blocks)
-{
-    return xml("vtkMultiBlockDataSet", ">" + blocks);
-}
-
 static QByteArray parallel(const QByteArray& pieces)
 {
     return xml("PPolyData",

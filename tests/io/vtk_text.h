@@ -28,4 +28,10 @@ inline QByteArray polyData(const QByteArray& pointArrays = {}, const QByteArray&
                    + array("type=\"Int64\" Name=\"offsets\"", "3 6") + "</Polys></Piece>");
 }
 
+/// A tree of those blocks and files.
+inline QByteArray tree(const QByteArray& blocks)
+{
+    return xml("vtkMultiBlockDataSet", ">" + blocks);
+}
+
 } // namespace corvala::host::io
