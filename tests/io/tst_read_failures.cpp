@@ -104,6 +104,11 @@ private Q_SLOTS:
             "<VTKFile type=\"UnstructuredGrid\"><UnstructuredGrid><Piece NumberOfPoints=\"2\" "
             "NumberOfCells=\"1000000000007\"/></UnstructuredGrid></VTKFile>",
             "takes at least 1000000000013 bytes, of which 137 are there");
+        row("pieces with a gap", "a.vti",
+            "<VTKFile type=\"ImageData\"><ImageData WholeExtent=\"0 9 0 0 0 0\"><Piece Extent=\"0 "
+            "1 0 "
+            "0 0 0\"/><Piece Extent=\"4 9 0 0 0 0\"/></ImageData></VTKFile>",
+            "do not fill its grid: 2 points lack");
         row("claims too many points", "a.vti", claim + end, "memory");
         row("array without a name", "a.vti",
             QByteArray("<VTKFile type=\"ImageData\"><ImageData WholeExtent=\"0 1 0 0 0 0\"><Piece "

@@ -177,6 +177,11 @@ private Q_SLOTS:
         row("parallel, an array is damaged", "a.pvtp",
             parallel("<Piece Source='p1.vtp'/><Piece Source='short.vtp'/>"), "Piece 1=10, Piece 2",
             "short.vtp: the values of p were left out: *");
+        const QByteArray part =
+            xml("ImageData",
+                "WholeExtent='0 9 0 0 0 0'><Piece Extent='2 3 0 0 0 0'><PointData>"
+                    + array("type=\"Float64\" Name=\"p\"", "1 2") + "</PointData></Piece>");
+        row("a piece of a grid", "a.vti", part, "a=1", {});
         row("text behind the XML", "a.vtp", piece(40) + QByteArray(5000, '\n') + "made by hand",
             "a=40", {});
         row("an array is damaged", "a.vtp",

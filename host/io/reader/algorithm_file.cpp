@@ -83,11 +83,14 @@ private:
 };
 
 vtkSmartPointer<vtkDataObject> updated(const QString& path, vtkAlgorithm& reader,
-                                       const ProgressCall& progress)
+                                       const ProgressCall& progress, const std::vector<int>& extent)
 {
     const ProgressForwarding forwarding(reader, progress);
     try {
-        reader.Update();
+        if (extent.empty())
+            reader.Update();
+        else
+            reader.UpdateExtent(extent.data());
     } catch (const std::length_error&) { // a size that is no size
         VtkMessages::takeError();
         throw ReadFailure(path, VtkMessages::damaged());

@@ -10,9 +10,11 @@
 namespace corvala::host::io::reader {
 
 /// What a reader of VTK gives, whose file name and options are set. Throws ReadFailure with its
-/// error when it has one; warnings are left for the caller to take.
+/// error when it has one; warnings are left for the caller to take. Of a grid, only a part is read
+/// when its `extent` is given.
 vtkSmartPointer<vtkDataObject> updated(const QString& path, vtkAlgorithm& reader,
-                                       const ProgressCall& progress);
+                                       const ProgressCall& progress,
+                                       const std::vector<int>& extent = {});
 
 /// A file that one of VTK's readers reads, whose file name and options are set already. The
 /// information of the reader is fetched here.

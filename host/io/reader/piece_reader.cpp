@@ -185,7 +185,7 @@ vtkSmartPointer<vtkDataObject> PieceReader::readSerial(const QString& path, cons
 {
     const auto all = xmlReader(path, kind);
     try {
-        return updated(path, *all, progress);
+        return updated(path, *all, progress, kind.extent);
     } catch (const ReadFailure&) {
         const auto readArrays = [&](const std::vector<ArrayName>& arrays) {
             const auto reader = xmlReader(path, kind);
@@ -194,7 +194,7 @@ vtkSmartPointer<vtkDataObject> PieceReader::readSerial(const QString& path, cons
                 selection(*reader, isOfPoints).DisableAllArrays();
             for (const auto& [isOfPoints, name] : arrays)
                 selection(*reader, isOfPoints).EnableArray(name.c_str());
-            return updated(path, *reader, progress);
+            return updated(path, *reader, progress, kind.extent);
         };
         return readSoundSubset(
             arraysOf(*all), readArrays, [&](const ArrayName& array, const ReadFailure& failure) {

@@ -153,6 +153,25 @@ QStringList piecesOf(const QString& path)
     return result;
 }
 
+/// The range of points along each axis that a tag tells; empty when it tells none.
+static std::vector<int> extentOf(std::string_view tag, const char* name)
+{
+    QXmlStreamReader xml(QByteArray(tag.data(), static_cast<int>(tag.size())));
+    xml.readNextStartElement();
+    std::vector<int> result;
+    for (const QString& number : attribute(xml, name).simplified().split(QLatin1Char(' ')))
+        result.push_back(number.toInt());
+    return result.size() == 6 ? result : std::vector<int>();
+}
+
+static double pointsOf(const std::vector<int>& extent)
+{
+    double points = extent.empty() ? 0 : 1;
+    for (std::size_t i = 0; i < extent.size(); i += 2)
+        points *= std::max(static_cast<double>(extent[i + 1]) - extent[i] + 1, 0.0);
+    return points;
+}
+
 /// Least bytes that what a piece of a serial file claims takes when it is not compressed.
 static double leastBytesOf(std::string_view piece, std::string_view tag)
 {
@@ -162,17 +181,11 @@ static double leastBytesOf(std::string_view piece, std::string_view tag)
     for (const char* const cells :
          {"NumberOfCells", "NumberOfVerts", "NumberOfLines", "NumberOfStrips", "NumberOfPolys"})
         bytes += attribute(xml, cells).toDouble();
-    const QStringList extent = attribute(xml, "Extent").simplified().split(QLatin1Char(' '));
     const std::size_t values = piece.find("<PointData");
     const std::string_view arrays =
         values == std::string_view::npos ? std::string_view() : piece.substr(values);
-    if (extent.size() == 6
-        && arrays.substr(0, arrays.find("</PointData")).find("<DataArray") < arrays.size()) {
-        double points = 1;
-        for (int i = 0; i < 6; i += 2)
-            points *= extent[i + 1].toDouble() - extent[i].toDouble() + 1;
-        bytes += points;
-    }
+    if (arrays.substr(0, arrays.find("</PointData")).find("<DataArray") < arrays.size())
+        bytes += pointsOf(extentOf(tag, "Extent"));
     return bytes;
 }
 
@@ -197,6 +210,31 @@ static void requireRoom(const MappedFile& file)
                               "which %2 are there"),
             {QString::number(claimed / (isCompressed ? kMostCompression : 1), 'f', 0),
              QString::number(size, 'f', 0)});
+}
+
+/// VTK takes what no piece of a grid fills for whatever the memory held. Returns the extent of a
+/// piece that is all there is of a larger grid.
+static std::vector<int> extentToRead(const MappedFile& file)
+{
+    const std::string_view xml = file.bytes().substr(0, file.bytes().find("<AppendedData"));
+    const std::size_t whole = xml.substr(0, xml.find("<Piece")).find("WholeExtent");
+    if (whole == std::string_view::npos)
+        return {};
+    const auto tagAt = [&](std::size_t at) { return xml.substr(at, xml.substr(at).find('>') + 1); };
+    double missing = pointsOf(extentOf(tagAt(xml.rfind('<', whole)), "WholeExtent"));
+    std::vector<int> extent;
+    int pieces = 0;
+    for (std::size_t at = xml.find("<Piece"); at < xml.size(); at = xml.find("<Piece", at + 1)) {
+        extent = extentOf(tagAt(at), "Extent");
+        missing -= pointsOf(extent);
+        ++pieces;
+    }
+    if (missing > 0 && pieces != 1)
+        throw ReadFailure(
+            file.path(),
+            QT_TRANSLATE_NOOP("ReadMessage", "its pieces do not fill its grid: %1 points lack"),
+            {QString::number(missing, 'f', 0)});
+    return missing > 0 ? extent : std::vector<int>();
 }
 
 /// Returns where the XML ends. VTK takes values after the XML that are cut off for whatever the
@@ -255,6 +293,7 @@ XmlKind::XmlKind(const QString& path)
     if (isParallel)
         return;
     requireRoom(file);
+    extent = extentToRead(file);
     const std::string_view rest = file.bytes().substr(end);
     const bool isAppended = file.bytes().find("<AppendedData") != std::string_view::npos;
     if (!isAppended && rest.find_first_not_of(" \t\r\n") != std::string_view::npos)

@@ -43,6 +43,7 @@ struct XmlKind
     int type = -1; ///< of the data object
     bool isParallel = false;
     bool isTree = false;
+    std::vector<int> extent {}; ///< of the part of its grid that is in the file, if it is not all
     std::string text; ///< all of the XML, if something follows that VTK would stumble over
 };
 
