@@ -52,7 +52,7 @@ std::vector<Damage> damages()
                  return change(file.content, from, end - from);
              }});
     };
-    for (const double part : {0.4, 0.85}) {
+    for (const double part : {0.3, 0.6, 0.9}) {
         add("cut before a section", part, [](auto& all, int from, int) { return all.left(from); });
         add("cut inside a section", part,
             [](auto& all, int from, int size) { return all.left(from + size / 2); });
