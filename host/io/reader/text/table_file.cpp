@@ -142,14 +142,17 @@ ReadFailure TableFile::noTable() const
 void TableFile::requireGoodRows() const
 {
     const std::int64_t bad = m_table.badRowCount;
+    const bool areWords =
+        std::all_of(m_layout.columns.begin(), m_layout.columns.end(),
+                    [](const TableColumn& column) { return column.kind == CellKind::Words; });
     const bool isHeader = m_table.rowCount == 1 && bad == 0 && !m_layout.isNamed
-        && m_layout.linesLeftOut == 0
-        && std::all_of(m_layout.columns.begin(), m_layout.columns.end(),
-                       [](const TableColumn& column) { return column.kind == CellKind::Words; });
+        && m_layout.linesLeftOut == 0 && areWords;
     if (isHeader || (m_table.rowCount == 0 && bad == 0))
         throw ReadFailure(m_path,
                           QT_TRANSLATE_NOOP("ReadMessage", "there are no rows of data in it"));
-    if (bad > static_cast<std::int64_t>(m_table.rowCount) && !m_isChosen)
+    // A header above numbers tells a table, whatever its rows are like.
+    const bool isTold = m_isChosen || (m_layout.isNamed && !areWords && m_table.rowCount > 0);
+    if (bad > static_cast<std::int64_t>(m_table.rowCount) && !isTold)
         throw noTable();
     const bool mayBeSkipped = m_table.rowCount > 0;
     if (bad == 0 || (mayBeSkipped && m_layout.dialect.badRows == TextBadRows::Skip))
