@@ -49,6 +49,8 @@ private Q_SLOTS:
         row("commas", "x,y\n1,2\n3,4\n", "", xy);
         row("semicolons and decimal commas", "x;y\n1,5;2\n-3,25;+4E1\n", "",
             "a: x=1.5,-3.25 y=2,40");
+        row("decimal commas in quotes", "x,y\n1,\"2,5\"\n2,\"-3,25\"\n", "",
+            "a: x=1,2 y=2.5,-3.25");
         row("groups of digits", "x;y\n1.234,5;2\n-3,25;1.000.000\n", "",
             "a: x=1234.5,-3.25 y=2,1000000");
         row("tabs, one or two", "1.0\t2\n3.0\t\t4\n5\t6\n", "", "a: Column 1=1,3,5 Column 2=2,4,6");
@@ -125,6 +127,8 @@ private Q_SLOTS:
         // What is bad, or little.
         row("rows of unequal length", "x,y\n1,2\n3\n4,5,6\n7,8\n", "",
             "2 of its 4 rows are bad. line 3, column 2: the row has 1 fields, not 2");
+        row("more bad rows than good ones", "x,y,z\n1,2,3\n2,3\n3,4,5,6\n4\n5,6,7\n", "",
+            "3 of its 5 rows are bad. line 3, column 3: the row has 2 fields, not 3");
         row("rows of unequal length, left out", "x,y\n1,2\n3\n4,5,6\n3,4\n", "bad=skip", xy);
         row("text among numbers", "x,y\n1,2\n3,4\n5,six\n7,8\n", "",
             "1 of its 4 rows are bad. line 4, column 2 (y): \"six\" is no number");

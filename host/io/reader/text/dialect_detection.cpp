@@ -197,6 +197,7 @@ static std::vector<TextDialect> waysOf(const Trial& trial, const TextDialect& wa
     way.dates = wanted.dates;
     way.quote =
         wanted.quote.value_or(holds('\'') && !holds('"') ? TextQuote::Single : TextQuote::Double);
+    const bool hasQuotes = holds(way.quote == TextQuote::Single ? '\'' : '"');
     std::vector<TextDialect> ways;
     for (const TextSeparator separator :
          {TextSeparator::Tab, TextSeparator::Comma, TextSeparator::Semicolon, TextSeparator::Bar,
@@ -206,8 +207,9 @@ static std::vector<TextDialect> waysOf(const Trial& trial, const TextDialect& wa
             way.decimal = decimal;
             const bool isWanted = wanted.separator.value_or(separator) == separator
                 && wanted.decimal.value_or(decimal) == decimal;
+            // Between commas, decimal commas stand in quotes.
             const bool isPossible = separator != TextSeparator::Comma
-                || decimal == TextDecimal::Point || wanted.decimal.has_value();
+                || decimal == TextDecimal::Point || wanted.decimal.has_value() || hasQuotes;
             if (isWanted && isPossible)
                 ways.push_back(way);
         }
