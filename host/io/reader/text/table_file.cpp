@@ -277,7 +277,7 @@ vtkSmartPointer<vtkDataObject> TableFile::read(std::size_t, const ProgressCall& 
     addRowNumbers();
     m_places = placeColumns(m_table, m_layout.columns);
     const std::vector<ReadMessage> notes =
-        notesOf(QFileInfo(m_path).fileName(), m_layout.columns, m_table, m_places);
+        notesOf(QFileInfo(m_path).fileName(), m_layout.columns, m_table);
     m_notes.insert(m_notes.end(), notes.begin(), notes.end());
     listKinds();
     if (m_table.zones.size() == 1)

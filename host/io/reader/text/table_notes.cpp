@@ -66,21 +66,8 @@ static QStringList sentinelColumns(const std::vector<TableColumn>& columns, cons
     return found;
 }
 
-/// Names of the columns with places; none where nothing lies there.
-static QStringList placeNames(const std::vector<TableColumn>& columns, const PlaceColumns& places)
-{
-    QStringList names;
-    for (const std::optional<std::size_t>& column : places)
-        if (column)
-            names << QString::fromStdString(columns[*column].name);
-    const auto numbers =
-        std::count_if(columns.begin(), columns.end(),
-                      [](const TableColumn& column) { return column.kind == CellKind::Number; });
-    return numbers > names.size() ? names : QStringList();
-}
-
 std::vector<ReadMessage> notesOf(const QString& file, const std::vector<TableColumn>& columns,
-                                 const TableData& table, const PlaceColumns& places)
+                                 const TableData& table)
 {
     const std::pair<const char*, QStringList> parts[] = {
         {QT_TRANSLATE_NOOP("ReadMessage", "%1: columns of words are numbered: %2."),
@@ -90,9 +77,7 @@ std::vector<ReadMessage> notesOf(const QString& file, const std::vector<TableCol
         {QT_TRANSLATE_NOOP("ReadMessage",
                            "%1: numbers that often stand for missing values were read as numbers: "
                            "%2."),
-         sentinelColumns(columns, table)},
-        {QT_TRANSLATE_NOOP("ReadMessage", "%1: field plots show a point per row, at %2."),
-         placeNames(columns, places)}};
+         sentinelColumns(columns, table)}};
     std::vector<ReadMessage> notes;
     for (const auto& [text, what] : parts)
         if (!what.isEmpty())
