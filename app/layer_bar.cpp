@@ -114,6 +114,12 @@ void LayerBar::refresh()
         const bool isShown = hasData && (isField ? frame->isFieldPlot() : frame->isLinePlot());
         m_layers[i]->setVisible(isShown);
         m_layers[i]->setChecked(isShown && frame->isOn(key));
+        const bool isPossible = !isShown || frame->plotType() != PlotType_LinePolar
+            || (key != style::kErrorBarsLayer.shown && key != style::kBarChartsLayer.shown);
+        m_layers[i]->setEnabled(isPossible);
+        m_layers[i]->setToolTip(isPossible ? QString() : tr("XY plots only"));
+        if (m_details[i])
+            m_details[i]->setEnabled(isPossible);
         if (m_details[i])
             m_details[i]->setVisible(isShown);
     }
