@@ -1,18 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/first_lines.h"
 
+#include "app/error_columns.h"
+
 #include <vtkDataArray.h>
 #include <vtkDataSet.h>
 #include <vtkPointData.h>
 #include <vtkPointSet.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <iterator>
+#include <map>
 #include <optional>
+#include <set>
+#include <unordered_map>
 
 namespace corvala::app {
 
-static constexpr int kMostLines = 8; ///< of a zone
+static constexpr std::size_t kMostLines = 8; ///< in all, but for one of each zone
 static constexpr int kMostZones = 50;
 static constexpr double kManyTimes = 30.0; ///< as large: too much for one axis
 
@@ -38,13 +45,17 @@ struct Range
 
 static std::vector<Column> columnsOf(const host::DataSet& data, vtkDataSet& zone)
 {
+    std::unordered_map<std::string, vtkDataArray*> arrays; // VTK looks names up one by one
+    for (int i = 0; i < zone.GetPointData()->GetNumberOfArrays(); ++i)
+        if (vtkDataArray* const array = zone.GetPointData()->GetArray(i))
+            arrays.emplace(array->GetName(), array);
     std::vector<Column> columns;
     for (int number = 1; number <= data.variableCount(); ++number) {
         const host::Variable& variable = data.variable(number);
-        vtkDataArray* const values = zone.GetPointData()->GetArray(variable.array.c_str());
+        const auto array = arrays.find(variable.array);
         const bool isWords = variable.kind == host::VariableKind::Words;
-        if (values && values->GetNumberOfComponents() == 1 && !variable.isConstant && !isWords)
-            columns.push_back({number, values, variable.kind});
+        if (array != arrays.end() && array->second->GetNumberOfComponents() == 1 && !isWords)
+            columns.push_back({number, array->second, variable.kind});
     }
     return columns;
 }
@@ -173,7 +184,7 @@ static bool fit(const Range& one, const Range& other)
     return std::min(one.size(), other.size()) * kManyTimes >= both;
 }
 
-static std::vector<FirstLine> linesOf(const std::vector<Column>& columns, int zone, int most)
+static std::vector<FirstLine> linesOf(const std::vector<Column>& columns, int zone)
 {
     std::vector<FirstLine> lines;
     const Column& x = abscissaOf(columns);
@@ -182,7 +193,7 @@ static std::vector<FirstLine> linesOf(const std::vector<Column>& columns, int zo
     for (const Column& y : columns) {
         const bool isOther = y.variable != x.variable && y.kind == host::VariableKind::Number;
         const bool numbersCycles = isScattered && Course(*y.values).goesInSteps();
-        if (!isOther || numbersCycles || static_cast<int>(lines.size()) == most)
+        if (!isOther || numbersCycles || lines.size() == kMostLines)
             continue;
         const Range range = rangeOf(*y.values);
         first = first.value_or(range);
@@ -191,19 +202,77 @@ static std::vector<FirstLine> linesOf(const std::vector<Column>& columns, int zo
     return lines;
 }
 
+namespace {
+
+/// What a zone has to draw.
+struct Choice
+{
+    vtkSmartPointer<vtkDataSet> zone; ///< which has the values
+    std::vector<Column> columns; ///< that vary and are no errors
+    std::map<int, int> errors; ///< of variables: those of their errors
+};
+
+} // namespace
+
+static Choice choiceOf(const host::DataSet& data, int zone)
+{
+    Choice choice {data.geometry(zone), {}, {}};
+    if (!choice.zone)
+        return choice;
+    const std::vector<Column> columns = columnsOf(data, *choice.zone);
+    std::vector<std::string> names;
+    for (const Column& column : columns)
+        names.push_back(data.variable(column.variable).name);
+    std::set<int> left;
+    for (const auto& [column, error] : errorColumns(names)) {
+        choice.errors[columns[column].variable] = columns[error].variable;
+        left.insert(columns[error].variable);
+    }
+    std::copy_if(columns.begin(), columns.end(), std::back_inserter(choice.columns),
+                 [&](const Column& column) {
+                     return !data.variable(column.variable).isConstant
+                         && left.count(column.variable) == 0;
+                 });
+    return choice;
+}
+
+static std::vector<FirstLine> linesOf(const host::DataSet& data, int zone)
+{
+    const Choice choice = choiceOf(data, zone);
+    if (choice.columns.empty())
+        return {};
+    std::vector<FirstLine> lines = linesOf(choice.columns, zone);
+    for (FirstLine& line : lines)
+        if (const auto error = choice.errors.find(line.y); error != choice.errors.end())
+            line.error = error->second;
+    return lines;
+}
+
+/// How many lines each zone has: they take turns while there is room, and each has one at least.
+static std::vector<std::size_t> sharesOf(const std::vector<std::vector<FirstLine>>& zones)
+{
+    std::vector<std::size_t> shares(zones.size(), 0);
+    std::size_t room = std::max(kMostLines, zones.size());
+    for (std::size_t turn = 0; turn < kMostLines; ++turn)
+        for (std::size_t i = 0; i < zones.size() && room > 0; ++i)
+            if (zones[i].size() > turn) {
+                ++shares[i];
+                --room;
+            }
+    return shares;
+}
+
 std::vector<FirstLine> firstLines(const host::DataSet& data)
 {
+    const int count = static_cast<int>(std::min<std::int64_t>(data.zoneCount(), kMostZones));
+    std::vector<std::vector<FirstLine>> zones;
+    for (int number = 1; number <= count; ++number)
+        zones.push_back(linesOf(data, number));
+    const std::vector<std::size_t> shares = sharesOf(zones);
     std::vector<FirstLine> lines;
-    const int zones = static_cast<int>(std::min<std::int64_t>(data.zoneCount(), kMostZones));
-    const int most = std::max(1, kMostLines / std::max(1, zones));
-    for (int number = 1; number <= zones; ++number) {
-        const vtkSmartPointer<vtkDataSet> zone = data.geometry(number);
-        const std::vector<Column> columns = zone ? columnsOf(data, *zone) : std::vector<Column>();
-        if (columns.empty())
-            continue;
-        const std::vector<FirstLine> some = linesOf(columns, number, most);
-        lines.insert(lines.end(), some.begin(), some.end());
-    }
+    for (std::size_t i = 0; i < zones.size(); ++i)
+        lines.insert(lines.end(), zones[i].begin(),
+                     zones[i].begin() + static_cast<std::ptrdiff_t>(shares[i]));
     return lines;
 }
 
@@ -215,16 +284,33 @@ bool havePlaces(const host::DataSet& data)
     return !hasCoordinates && vtkPointSet::SafeDownCast(data.geometry(1));
 }
 
+/// Whether a few values come again and again along X and along Y, as on a grid.
+static bool areOnGrid(vtkDataSet& zone)
+{
+    std::array<std::set<double>, 2> values;
+    for (vtkIdType i = 0; i < zone.GetNumberOfPoints(); ++i)
+        for (std::size_t axis = 0; axis < 2; ++axis)
+            values[axis].insert(zone.GetPoint(i)[axis]);
+    const auto most = static_cast<std::size_t>(zone.GetNumberOfPoints()) / 2;
+    return values[0].size() <= most && values[1].size() <= most;
+}
+
 PlotType_e firstPlotType(const host::DataSet& data, const std::vector<FirstLine>& lines)
 {
-    const auto values = std::count_if(
-        data.variables.begin(), data.variables.end(), [](const host::Variable& variable) {
-            return !variable.isConstant && variable.kind == host::VariableKind::Number;
-        });
+    constexpr vtkIdType kManyRows = 100; // fewer may as well be measured over X
     const bool areScattered = !lines.empty()
         && std::all_of(lines.begin(), lines.end(),
                        [](const FirstLine& line) { return line.isScattered; });
-    const bool isField = areScattered && values > (data.isPlanar ? 2 : 3) && havePlaces(data);
+    if (!areScattered || !havePlaces(data))
+        return PlotType_LineXY;
+    const Choice choice = choiceOf(data, 1);
+    const auto values =
+        std::count_if(choice.columns.begin(), choice.columns.end(), [](const Column& column) {
+            return column.kind == host::VariableKind::Number;
+        });
+    const bool isField = values > (data.isPlanar ? 2 : 3)
+        && (!data.isPlanar || choice.zone->GetNumberOfPoints() >= kManyRows
+            || areOnGrid(*choice.zone));
     if (!isField)
         return PlotType_LineXY;
     return data.isPlanar ? PlotType_Field2D : PlotType_Field3D;

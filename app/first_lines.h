@@ -15,11 +15,13 @@ struct FirstLine
     int y;
     int yAxis; ///< from 1
     bool isScattered; ///< the rows do not follow the abscissa: points, not a line
+    int error = 0; ///< variable of its error bars; 0 for none
 };
 
 /// The lines of an XY plot: the first column of a zone that goes one way only, or else does so in
 /// cycles, or else the first one, against the next ones, on a second axis those that are much
-/// larger or smaller. docs/decisions.md has the numbers.
+/// larger or smaller. Columns with the errors of another one are no lines. docs/decisions.md has
+/// the numbers.
 std::vector<FirstLine> firstLines(const host::DataSet& data);
 
 /// Whether the data are tables whose rows are points of a field plot.

@@ -112,6 +112,10 @@ std::vector<SetStyle> firstLook(const std::vector<FirstLine>& lines)
         look.give(assign.xAxisVar, lines[i].x, map);
         look.give(assign.yAxisVar, lines[i].y, map);
         look.give(assign.yAxis, lines[i].yAxis, map);
+        if (lines[i].error > 0) {
+            look.give(style::lineMap.errorBars.var, lines[i].error, map);
+            look.give(style::lineMap.errorBars.show, 1, map);
+        }
         if (i >= kColors)
             look.give(style::lineMap.lines.linePattern, LinePattern_Dashed, map);
         if (lines[i].isScattered) {
@@ -122,6 +126,9 @@ std::vector<SetStyle> firstLook(const std::vector<FirstLine>& lines)
         }
     }
     look.turn(style::linePlotLayers.showSymbols, areScattered);
+    look.turn(style::linePlotLayers.showErrorBars,
+              std::any_of(lines.begin(), lines.end(),
+                          [](const FirstLine& line) { return line.error > 0; }));
     if (lines.size() == 1) // which the axes name
         look.give(style::lineMap.assign.showInLegend, LegendShow_Auto, host::allUpTo(1));
     if (haveZones)
