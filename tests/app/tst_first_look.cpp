@@ -157,8 +157,8 @@ private Q_SLOTS:
         row("to and fro", "a b\n3 1.5\n0 2\n2 3\n1 1\n2 1\n1 2\n4 3\n2 2\n6 3\n3 2\n4 1\n",
             "points over a: b");
         row("few rows with places, and errors",
-            "x y y_err c dx\n3 1.5 .1 5 1\n0 2 .2 6 2\n2 3 .3 7 1\n1 1 .1 8 2\n2 1 .2 6 1\n"
-            "1 2 .3 5 2\n4 3 .1 6 1\n2 2 .2 7 2\n6 3 .3 8 1\n5 2 .1 5 2\n7 1 .2 8 1\n",
+            "x y y_err c dx\n3 1.5 .1 5 1\n0 2 .2 7 2\n2 3 .3 6 1\n1 1 .1 8 2\n2 1 .2 5 1\n"
+            "1 2 .3 8 2\n4 3 .1 6 1\n2 2 .2 5 2\n6 3 .3 7 1\n5 2 .1 6 2\n7 1 .2 8 1\n",
             "points over x: y+-y_err c");
         row("errors without a name", "a b err\n1 2 .5\n2 3 .4\n", "line over a: b+-err");
         row("an error that is none", "a error b\n1 2 .5\n2 3 .4\n", "line over a: error b");
