@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/zone_assembly.h"
 
+#include "host/io/attribute_filler.h"
+
 #include <vtkCellArray.h>
 #include <vtkCellData.h>
 #include <vtkIdTypeArray.h>
@@ -130,16 +132,16 @@ vtkSmartPointer<vtkCellArray> Assembly::takeCells()
 void Assembly::takeAttributes(std::int32_t count, vtkIdType tuples,
                               vtkDataSetAttributes& attributes)
 {
+    AttributeFiller filler(attributes, count);
     for (std::int32_t i = 0; i < count; ++i) {
         const std::int32_t number = m_table.arrays[m_next].label;
         const vtkSmartPointer<vtkDataArray> array = takeArray();
         if (!array || array->GetNumberOfTuples() != tuples)
             continue;
         const ArrayLabel& label = m_table.labels[static_cast<std::size_t>(number)];
-        array->SetName(label.name.c_str());
         for (std::size_t c = 0; c < label.components.size(); ++c)
             array->SetComponentName(static_cast<vtkIdType>(c), label.components[c].c_str());
-        attributes.AddArray(array);
+        filler.add(*array, label.name);
     }
 }
 

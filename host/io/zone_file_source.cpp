@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/zone_file_source.h"
 
+#include "host/io/attribute_filler.h"
 #include "host/io/zone_assembly.h"
 
 #include <QFile>
 
+#include <vtkCellData.h>
 #include <vtkDataSet.h>
+#include <vtkPointData.h>
 
 namespace corvala::host::io {
 
@@ -39,6 +42,8 @@ ZoneFileSource::~ZoneFileSource() = default;
 static vtkSmartPointer<vtkDataSet> separate(vtkDataSet& zone)
 {
     auto result = vtkSmartPointer<vtkDataSet>::Take(zone.NewInstance());
+    const QuietAttributes quietPoints(*result->GetPointData());
+    const QuietAttributes quietCells(*result->GetCellData());
     result->ShallowCopy(&zone);
     return result;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/clean_zone.h"
 
+#include "host/io/attribute_filler.h"
 #include "host/io/reader/block_tree.h"
 
 #include <vtkCellData.h>
@@ -20,15 +21,15 @@
 
 namespace corvala::host::io::reader {
 
-/// The same values under clean names, so that the array of the reader stays as it is.
-static vtkSmartPointer<vtkDataArray> cleanArray(vtkDataArray& array, const std::string& name)
+/// The same values with clean names of the components, so that the array of the reader stays as it
+/// is.
+static vtkSmartPointer<vtkDataArray> cleanArray(vtkDataArray& array)
 {
     vtkSmartPointer<vtkDataArray> copy;
     copy.TakeReference(array.NewInstance());
     copy->ShallowCopy(&array);
     if (copy->HasInformation())
         copy->GetInformation()->Clear();
-    copy->SetName(name.c_str());
     for (int c = 0; array.HasAComponentName() && c < array.GetNumberOfComponents(); ++c)
         if (array.GetComponentName(c))
             copy->SetComponentName(c, cleanName(array.GetComponentName(c), {}).c_str());
@@ -39,12 +40,13 @@ static void cleanAttributes(vtkDataSetAttributes& source, vtkIdType tuples,
                             vtkDataSetAttributes& target, QSet<QString>& droppedArrays)
 {
     target.Initialize();
+    AttributeFiller filler(target, source.GetNumberOfArrays());
     for (int i = 0; i < source.GetNumberOfArrays(); ++i) {
         vtkAbstractArray* any = source.GetAbstractArray(i);
         const std::string name = cleanName(any->GetName(), "Array " + std::to_string(i + 1));
         auto* array = vtkDataArray::SafeDownCast(any);
         if (array && array->GetNumberOfTuples() == tuples && array->GetNumberOfComponents() > 0)
-            target.AddArray(cleanArray(*array, name));
+            filler.add(*cleanArray(*array), name);
         else
             droppedArrays.insert(QString::fromStdString(name));
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/text/table_file.h"
 
+#include "host/io/attribute_filler.h"
 #include "host/io/reader/read_failure.h"
 #include "host/io/reader/text/table_data.h"
 #include "host/io/reader/text/table_layout.h"
@@ -247,6 +248,7 @@ vtkSmartPointer<vtkDataSet> TableFile::zone(std::size_t number)
     const std::size_t rows = end - first;
     const auto result =
         m_places[0] ? withPlaces(placesOf(m_table, m_places, first, rows)) : withoutPlaces(rows);
+    AttributeFiller filler(*result->GetPointData(), static_cast<int>(m_layout.columns.size()));
     for (std::size_t c = 0; c < m_layout.columns.size(); ++c) {
         if (m_table.columns[c].isDropped)
             continue;
@@ -254,8 +256,7 @@ vtkSmartPointer<vtkDataSet> TableFile::zone(std::size_t number)
         constexpr int kKeepMemory = 1;
         array->SetArray(m_table.columns[c].numbers.data() + first, static_cast<vtkIdType>(rows),
                         kKeepMemory);
-        array->SetName(m_layout.columns[c].name.c_str());
-        result->GetPointData()->AddArray(array);
+        filler.add(*array, m_layout.columns[c].name);
     }
     return result;
 }
