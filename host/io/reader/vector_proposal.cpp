@@ -5,16 +5,26 @@
 #include <QString>
 
 #include <algorithm>
+#include <map>
 #include <tuple>
 #include <unordered_map>
 
 namespace corvala::host::io::reader {
 
+/// Made once: that takes longer than a match.
+static const QRegularExpression& expressionOf(const char* pattern)
+{
+    thread_local std::unordered_map<std::string, QRegularExpression> expressions;
+    const auto [place, isNew] = expressions.try_emplace(pattern);
+    if (isNew)
+        place->second = QRegularExpression(QString::fromLatin1(pattern),
+                                           QRegularExpression::CaseInsensitiveOption);
+    return place->second;
+}
+
 bool matches(const std::string& name, const char* pattern)
 {
-    const QRegularExpression expression(QString::fromLatin1(pattern),
-                                        QRegularExpression::CaseInsensitiveOption);
-    return expression.match(QString::fromStdString(name)).hasMatch();
+    return expressionOf(pattern).match(QString::fromStdString(name)).hasMatch();
 }
 
 bool namesBookkeeping(const std::string& name)
@@ -34,6 +44,20 @@ struct Candidate
 
     int likenessToVelocity() const; ///< 0 when it is no vector
     bool isConstant(const std::vector<Variable>& variables) const;
+};
+
+/// Candidates in the order in which they come.
+class CandidateList
+{
+public:
+    /// Adds a variable to its candidate. The names of kinds are those of their parts with a number,
+    /// so that letters before a name and behind it are kept apart.
+    void add(const std::string& name, const std::string& kind, std::size_t part, int number);
+    const std::vector<Candidate>& candidates() const { return m_candidates; }
+
+private:
+    std::vector<Candidate> m_candidates;
+    std::map<std::pair<std::string, std::string>, std::size_t> m_places; ///< by name and kind
 };
 
 /// What the names of components look like: a name with one of three letters behind or before.
@@ -77,42 +101,39 @@ bool Candidate::isConstant(const std::vector<Variable>& variables) const
     });
 }
 
-/// Adds a variable to its candidate. The names of kinds are those of their parts with a number, so
-/// that letters before a name and behind it are kept apart.
-static void add(std::vector<Candidate>& candidates, const std::string& name,
-                const std::string& kind, std::size_t part, int number)
+void CandidateList::add(const std::string& name, const std::string& kind, std::size_t part,
+                        int number)
 {
-    auto found = std::find_if(candidates.begin(), candidates.end(), [&](const Candidate& known) {
-        return known.name == name && known.kind == kind;
-    });
-    if (found == candidates.end())
-        found = candidates.insert(candidates.end(), {name, kind, {}});
-    if (found->numbers[part] == 0)
-        found->numbers[part] = number;
+    const auto [place, isNew] = m_places.try_emplace({name, kind}, m_candidates.size());
+    if (isNew)
+        m_candidates.push_back({name, kind, {}});
+    int& known = m_candidates[place->second].numbers[part];
+    if (known == 0)
+        known = number;
 }
 
-static void addByName(std::vector<Candidate>& candidates, const std::string& name, int number)
+static void addByName(CandidateList& candidates, const std::string& name, int number)
 {
     int kind = 0;
     for (const Naming& naming : kNamings) {
         ++kind;
-        const QRegularExpression expression(QString::fromLatin1(naming.pattern));
-        const auto match = expression.match(QString::fromStdString(name).toLower());
+        const auto match =
+            expressionOf(naming.pattern).match(QString::fromStdString(name).toLower());
         if (!match.hasMatch())
             continue;
         const std::string parts = naming.parts;
-        add(candidates, match.captured(QStringLiteral("name")).toStdString(),
-            parts[0] + std::to_string(kind),
-            parts.find(match.captured(QStringLiteral("part")).toStdString()), number);
+        candidates.add(match.captured(QStringLiteral("name")).toStdString(),
+                       parts[0] + std::to_string(kind),
+                       parts.find(match.captured(QStringLiteral("part")).toStdString()), number);
     }
 }
 
-static std::vector<Candidate> candidatesAmong(const std::vector<Variable>& variables)
+static CandidateList candidatesAmong(const std::vector<Variable>& variables)
 {
     std::unordered_map<std::string, int> inArray;
     for (const Variable& variable : variables)
         ++inArray[variable.array];
-    std::vector<Candidate> candidates;
+    CandidateList candidates;
     for (std::size_t i = 0; i < variables.size(); ++i) {
         const Variable& variable = variables[i];
         const auto number = static_cast<int>(i) + 1;
@@ -121,15 +142,16 @@ static std::vector<Candidate> candidatesAmong(const std::vector<Variable>& varia
         if (inArray[variable.array] == 1)
             addByName(candidates, variable.name, number);
         else if (inArray[variable.array] <= 3)
-            add(candidates, variable.array, {}, static_cast<std::size_t>(variable.component),
-                number);
+            candidates.add(variable.array, {}, static_cast<std::size_t>(variable.component),
+                           number);
     }
     return candidates;
 }
 
 std::array<int, 3> proposedVector(const std::vector<Variable>& variables)
 {
-    const std::vector<Candidate> candidates = candidatesAmong(variables);
+    const CandidateList list = candidatesAmong(variables);
+    const std::vector<Candidate>& candidates = list.candidates();
     const auto rankOf = [&](const Candidate& candidate) {
         const int likeness = candidate.likenessToVelocity();
         return std::make_tuple(likeness > 0, !candidate.isConstant(variables), likeness);
