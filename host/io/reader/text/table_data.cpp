@@ -18,7 +18,7 @@ namespace corvala::host::io::reader {
 
 static constexpr std::size_t kMostWords = 10'000; ///< of a column
 static constexpr std::size_t kMostShown = 5; ///< bad rows
-static constexpr std::int64_t kRowsPerReport = 5'000;
+static constexpr std::size_t kFieldsPerReport = 20'000;
 static constexpr std::size_t kMostGroups = 1'000;
 
 namespace {
@@ -197,10 +197,14 @@ TableData readTable(const QString& path, const TableLayout& layout, double expec
     while (lines.number() + 1 < *layout.dialect.dataLine && lines.next(above)) { }
     RowReader::Line line;
     Row row;
+    std::size_t fields = 0; // since the last report
     while (rows.next(line, row)) {
         collector.take(line, row);
-        if (line.number % kRowsPerReport == 0)
-            progress(lines.part());
+        fields += layout.columns.size();
+        if (fields < kFieldsPerReport)
+            continue;
+        progress(lines.part());
+        fields = 0;
     }
     return collector.finish();
 }
