@@ -71,13 +71,12 @@ static QStringList reportLines(const CurveFit& fit)
 }
 
 /// What tells a line of a map from the others, such as "J = 2, K = 1".
-static QString lineName(const host::DataSet& data, const LineRecipe& recipe,
-                        const LinePoints& points, std::size_t line)
+static QString lineName(const LineRecipe& recipe, const LinePoints& points, std::size_t line)
 {
     const std::size_t begin = line == 0 ? 0 : points.runEnds[line - 1];
     if (begin == points.runEnds[line])
         return {};
-    const std::array<std::int64_t, 3> indices = indicesOf(data, recipe, points.sources[begin]);
+    const std::array<std::int64_t, 3> indices = indicesOf(points, points.sources[begin]);
     QStringList names;
     for (std::size_t axis = 0; axis < indices.size(); ++axis)
         if (indices[axis] > 0 && static_cast<int>(axis) != recipe.varying)
@@ -113,7 +112,7 @@ std::optional<QString> FitReports::of(const host::Frame& frame, CvlInt64 map)
         return QString();
     const LineRecipe line = recipeOf(frame, map);
     const auto data = frame.sharedData();
-    const auto nameOf = [&](std::size_t i) { return lineName(*data, line, *m_points, i); };
+    const auto nameOf = [&](std::size_t i) { return lineName(line, *m_points, i); };
     if (m_data.lock() != data || !(m_line == line) || !m_maker.makes(m_points, recipe)) {
         m_data = data;
         m_line = line;

@@ -32,6 +32,8 @@ static constexpr SharedStyle kShared[] = {
     {kMap.indices.ranges.kRange.min, true, Points},
     {kMap.curves.curveType, true, Curves},
     {kMap.curves.curveType, false, Points}, // a spline is not sorted
+    {kMap.errorBars.show, false, Points}, // which may be of the cells
+    {kMap.errorBars.var, false, Points},
     {style::lineAxes.x.scale, false, Points},
     {style::lineAxes.y.scale, false, Points},
     {style::lineAxes.x.scale, true, Beside},

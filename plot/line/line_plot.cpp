@@ -85,10 +85,12 @@ LineGeometry& LinePlot::geometryOf(const ShownLine& line)
     const LineRecipe recipe = recipeOf(line.frame, line.map);
     const LinePlane plane = m_chart->plane(axesOf(line.frame, line.map));
     if (!geometry.points || !(geometry.recipe == recipe)) {
-        geometry = LineGeometry();
+        LinePoints points = linePoints(*line.frame.data(), recipe);
+        if (!geometry.points || !(*geometry.points == points)) {
+            geometry = LineGeometry();
+            geometry.points = std::make_shared<const LinePoints>(std::move(points));
+        }
         geometry.recipe = recipe;
-        geometry.points =
-            std::make_shared<const LinePoints>(linePoints(*line.frame.data(), recipe));
     }
     if (!geometry.places || !(geometry.plane == plane)) {
         geometry.plane = plane;

@@ -2,6 +2,7 @@
 #include "plot/line/line_points.h"
 
 #include "host/document/frame.h"
+#include "plot/common/zone_values.h"
 
 #include <vtkDataArray.h>
 
@@ -19,8 +20,9 @@ bool LineRecipe::operator==(const LineRecipe& other) const
     const auto areEqual = [](const IndexPart& one, const IndexPart& another) {
         return one.tied() == another.tied();
     };
-    return std::tie(zone, first, second, sortedBy, varying)
-        == std::tie(other.zone, other.first, other.second, other.sortedBy, other.varying)
+    return std::tie(zone, first, second, sortedBy, error, varying)
+        == std::tie(other.zone, other.first, other.second, other.sortedBy, other.error,
+                    other.varying)
         && std::equal(parts.begin(), parts.end(), other.parts.begin(), areEqual);
 }
 
@@ -48,6 +50,8 @@ LineRecipe recipeOf(const host::Frame& frame, CvlInt64 map)
     recipe.first = frame.lineInteger(isPolar ? keys.thetaAxisVar : keys.xAxisVar, map);
     recipe.second = frame.lineInteger(isPolar ? keys.rAxisVar : keys.yAxisVar, map);
     recipe.sortedBy = sortVariable(frame, map, recipe);
+    if (frame.lineInteger(kMap.errorBars.show, map) != 0)
+        recipe.error = frame.lineInteger(kMap.errorBars.var, map);
     recipe.varying = frame.lineInteger(kMap.indices.ijkLines, map);
     const style::IndexRanges& ranges = kMap.indices.ranges;
     const style::IndexRange* const all[] = {&ranges.iRange, &ranges.jRange, &ranges.kRange};
@@ -84,9 +88,9 @@ static std::array<std::int64_t, 3> sizesOf(const host::ZoneInfo& zone, host::Val
 }
 
 /// Fills the places of the runs.
-static void follow(const std::array<std::int64_t, 3>& sizes, const LineRecipe& recipe,
-                   bool isOrdered, LinePoints& points)
+static void follow(const LineRecipe& recipe, bool isOrdered, LinePoints& points)
 {
+    const std::array<std::int64_t, 3>& sizes = points.sizes;
     std::array<std::vector<std::int64_t>, 3> along;
     for (std::size_t axis = 0; axis < along.size(); ++axis)
         along[axis] =
@@ -115,17 +119,14 @@ static std::vector<double> gathered(vtkDataArray& values, const std::vector<std:
     return result;
 }
 
-std::array<std::int64_t, 3> indicesOf(const host::DataSet& data, const LineRecipe& recipe,
-                                      std::int64_t source)
+std::array<std::int64_t, 3> indicesOf(const LinePoints& points, std::int64_t source)
 {
-    const host::ZoneValues drawn = data.values(recipe.zone, recipe.first);
-    const std::array<std::int64_t, 3> sizes = sizesOf(
-        data.zone(recipe.zone), drawn.location, drawn.array ? drawn.array->GetNumberOfTuples() : 0);
     std::array<std::int64_t, 3> indices {};
-    for (std::size_t axis = 0; axis < sizes.size(); ++axis) {
-        if (sizes[axis] > 1)
-            indices[axis] = source % sizes[axis] + 1;
-        source /= std::max<std::int64_t>(sizes[axis], 1);
+    for (std::size_t axis = 0; axis < indices.size(); ++axis) {
+        const std::int64_t size = std::max<std::int64_t>(points.sizes[axis], 1);
+        if (size > 1)
+            indices[axis] = source % size + 1;
+        source /= size;
     }
     return indices;
 }
@@ -153,31 +154,43 @@ static void sortRuns(LinePoints& points, const std::vector<double>& values)
     points.sources = std::move(sorted);
 }
 
+static host::ValueLocation locationOf(const host::DataSet& data, const LineRecipe& recipe)
+{
+    for (const std::int64_t variable :
+         {recipe.first, recipe.second, recipe.sortedBy, recipe.error}) {
+        const host::ZoneValues values = data.values(recipe.zone, variable);
+        if (values.array && values.location == host::ValueLocation::Cells)
+            return host::ValueLocation::Cells;
+    }
+    return host::ValueLocation::Points;
+}
+
 LinePoints linePoints(const host::DataSet& data, const LineRecipe& recipe)
 {
-    const host::ZoneValues first = data.values(recipe.zone, recipe.first);
-    const host::ZoneValues second = data.values(recipe.zone, recipe.second);
-    if (!first.array || !second.array || first.location != second.location)
+    LinePoints points;
+    points.location = locationOf(data, recipe);
+    const auto first = zoneValues(data, recipe.zone, recipe.first, points.location);
+    const auto second = zoneValues(data, recipe.zone, recipe.second, points.location);
+    if (!first || !second)
         return {};
     const host::ZoneInfo& zone = data.zone(recipe.zone);
-    LinePoints points;
-    follow(sizesOf(zone, first.location, first.array->GetNumberOfTuples()), recipe, zone.ordered,
-           points);
+    points.sizes = sizesOf(zone, points.location, first->GetNumberOfTuples());
+    follow(recipe, zone.ordered, points);
     if (recipe.sortedBy > 0)
         sortRuns(points, valuesAt(data, recipe, points, recipe.sortedBy));
-    points.first = gathered(*first.array, points.sources);
-    points.second = gathered(*second.array, points.sources);
+    points.first = gathered(*first, points.sources);
+    points.second = gathered(*second, points.sources);
     return points;
 }
 
 std::vector<double> valuesAt(const host::DataSet& data, const LineRecipe& recipe,
                              const LinePoints& points, std::int64_t variable)
 {
-    const host::ZoneValues values = data.values(recipe.zone, variable);
-    const host::ZoneValues drawn = data.values(recipe.zone, recipe.first);
-    if (!values.array || values.location != drawn.location)
+    const host::ZoneValues known = data.values(recipe.zone, variable);
+    const bool isToMean = points.location == host::ValueLocation::Cells;
+    if (!known.array || (known.location != points.location && !isToMean))
         return std::vector<double>(points.sources.size(), std::numeric_limits<double>::quiet_NaN());
-    return gathered(*values.array, points.sources);
+    return gathered(*zoneValues(data, recipe.zone, variable, points.location), points.sources);
 }
 
 Polyline inPlane(const LinePoints& points, const LinePlane& plane)

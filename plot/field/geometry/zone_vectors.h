@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "host/document/data_set.h"
+#include "plot/common/zone_values.h"
 
-#include <vtkDataArray.h>
 #include <vtkDoubleArray.h>
-#include <vtkSmartPointer.h>
 
 #include <array>
 
@@ -13,11 +11,6 @@ namespace corvala::plot {
 
 /// Numbers of the variables U, V and W; 0 for none.
 using VectorVariables = std::array<std::int64_t, 3>;
-
-/// Values of a variable at all points, or for all cells, of a zone; averaged where the zone has
-/// them in the other place. Null when the zone has no such values.
-vtkSmartPointer<vtkDataArray> zoneValues(const host::DataSet& data, std::int64_t zone,
-                                         std::int64_t variable, host::ValueLocation location);
 
 /// Three arrays of `count` values as one of vectors; a null one counts as 0. Null when all are.
 vtkSmartPointer<vtkDoubleArray>
