@@ -41,7 +41,9 @@ private:
     Axis xyAxis(const style::LineAxis& style, bool isFirst, int number) const;
     std::optional<SceneNote> range(const Axis& axis) const;
     std::optional<SceneNote> leftOut(bool isFirst, int number) const;
+    std::optional<SceneNote> noNumbers() const;
     std::optional<SceneNote> curves() const;
+    std::optional<SceneNote> hiddenCurves() const;
     std::optional<SceneNote> errorBars() const;
 
     const LineNoteFacts& m_facts;
@@ -123,6 +125,22 @@ std::optional<SceneNote> LineNotes::leftOut(bool isFirst, int number) const
                       frameValue(style.scale, double {AxisScale_Linear}, number)};
 }
 
+/// Points that have no place at all.
+std::optional<SceneNote> LineNotes::noNumbers() const
+{
+    std::size_t count = 0;
+    for (const auto& [map, geometry] : m_facts.geometries) {
+        const LinePoints& points = *geometry.points;
+        for (std::size_t i = 0; i < points.size() && isSeen(m_facts.frame, map); ++i)
+            count += std::isfinite(points.first[i]) && std::isfinite(points.second[i]) ? 0 : 1;
+    }
+    if (count == 0)
+        return std::nullopt;
+    return SceneNote {tr("%Ln point(s) are left out: their values are missing or infinite.",
+                         nullptr, static_cast<int>(count)),
+                      style::lineMap.assign.yAxisVar};
+}
+
 /// The first map whose curve is missing.
 std::optional<SceneNote> LineNotes::curves() const
 {
@@ -136,6 +154,30 @@ std::optional<SceneNote> LineNotes::curves() const
                           .arg(QString::fromStdString(host::shownLineMapName(m_facts.frame, first)),
                                problemText(m_facts.geometries.at(first).curveProblem)),
                       style::lineMap.curves.curveType};
+}
+
+/// Maps have curves that lines would show, and do not show lines.
+std::optional<SceneNote> LineNotes::hiddenCurves() const
+{
+    constexpr const auto& lines = style::lineMap.lines;
+    const host::Frame& frame = m_facts.frame;
+    const bool isLayerOn = frame.isOn(style::kLinesLayer.shown);
+    host::NumberSet hidden;
+    for (const std::uint32_t map : frame.activeLineMaps())
+        if (frame.lineInteger(style::lineMap.curves.curveType, map) != CurveType_LineSegments
+            && (frame.lineInteger(lines.show, map) != 0) != isLayerOn)
+            hidden.add(map);
+    if (hidden.isEmpty())
+        return std::nullopt;
+    const QString name = QString::fromStdString(host::shownLineMapName(frame, hidden.minimum()));
+    if (!isLayerOn)
+        return SceneNote {
+            tr("The curve of \"%1\" is not seen: the layer of lines is off.").arg(name),
+            style::kLinesLayer.shown, tr("Switch On the Layer"),
+            frameValue(style::kLinesLayer.shown, true)};
+    return SceneNote {
+        tr("The curve of \"%1\" is not seen: its line map does not show lines.").arg(name),
+        lines.show, tr("Show Lines"), host::SetStyle {host::pathOf(lines.show), 1.0, hidden}};
 }
 
 /// The layer of error bars is on, and no map has any.
@@ -180,7 +222,9 @@ std::vector<SceneNote> LineNotes::all() const
         add(leftOut(true, number));
         add(leftOut(false, number));
     }
+    add(noNumbers());
     add(curves());
+    add(hiddenCurves());
     add(errorBars());
     return notes;
 }

@@ -48,9 +48,19 @@ void LineTracer::flush(SegmentSink& sink)
         if (to == at)
             continue;
         sink.add({at, to, length});
+        m_hasDrawn = true;
         length += std::hypot(to.x() - at.x(), to.y() - at.y());
         at = to;
     }
+}
+
+/// Ends the piece of line that it has come along.
+void LineTracer::lift(SegmentSink& sink)
+{
+    flush(sink);
+    if (m_isDown && !m_hasDrawn)
+        sink.add({m_extent.first, m_extent.first, m_extent.firstLength});
+    m_isDown = m_hasDrawn = false;
 }
 
 /// Adds a run that leads from the end of the extent to a point; false when it shows more than an
@@ -80,8 +90,7 @@ bool LineTracer::skipOrShrink(std::size_t level, SegmentSink& sink)
     const std::size_t end = m_line.firstPoint(level, number + 1);
     const LineBox box = m_view.pixels(run.box);
     if (run.box.isEmpty() || !box.meets(m_view.visible)) {
-        flush(sink);
-        m_isDown = false;
+        lift(sink);
     } else {
         if (!run.isWhole)
             return false;
@@ -100,8 +109,7 @@ void LineTracer::walk(SegmentSink& sink)
     const std::size_t end = m_line.firstPoint(0, m_next / Polyline::kRun + 1);
     for (std::size_t point = m_next; point <= end; ++point) {
         if (!m_line.isFinite(point)) {
-            flush(sink);
-            m_isDown = false;
+            lift(sink);
             continue;
         }
         const QPointF to = m_view.pixel(m_line.x(point), m_line.y(point));
@@ -117,6 +125,7 @@ void LineTracer::walk(SegmentSink& sink)
         if (!extend(box, to, length, sink)) {
             flush(sink);
             sink.add({from, to, before});
+            m_hasDrawn = true;
             begin(to, length);
         }
     }
@@ -126,8 +135,9 @@ void LineTracer::walk(SegmentSink& sink)
 bool LineTracer::step(SegmentSink& sink)
 {
     if (m_next + 1 >= m_line.size()) {
-        flush(sink);
-        m_isDown = false;
+        if (m_line.size() == 1) // no run leads to it
+            walk(sink);
+        lift(sink);
         return false;
     }
     const std::size_t run = m_next / Polyline::kRun;

@@ -22,8 +22,9 @@ public:
 };
 
 /// Follows a line through a picture, at the cost of what the picture shows of it: leaves out what
-/// lies outside, and draws points that share a column or row of pixels as their extent. Cut into
-/// steps, so that long lines can be drawn in slices.
+/// lies outside, and draws points that share a column or row of pixels as their extent; a point
+/// that is joined with none, or with equal ones only, is a piece without length. Cut into steps, so
+/// that long lines can be drawn in slices.
 class LineTracer
 {
 public:
@@ -52,12 +53,14 @@ private:
     void begin(const QPointF& at, double length);
     bool extend(const LineBox& box, const QPointF& to, double length, SegmentSink& sink);
     void flush(SegmentSink& sink);
+    void lift(SegmentSink& sink);
 
     const Polyline& m_line;
     LineView m_view;
     const std::vector<double>& m_lengths;
     std::size_t m_next = 0;
     bool m_isDown = false; ///< m_extent ends at the point m_next
+    bool m_hasDrawn = false; ///< since it came down
     Extent m_extent;
 };
 

@@ -117,11 +117,13 @@ void Polyline::nearest(const LineView& view, std::size_t level, std::size_t run,
             nearest(view, level - 1, 2 * run + 1, pixel, limit);
         return;
     }
-    for (std::size_t point = firstPoint(0, run); point < firstPoint(0, run + 1); ++point) {
-        if (isFinite(point) && isFinite(point + 1))
+    const std::size_t last = firstPoint(0, run + 1);
+    for (std::size_t point = firstPoint(0, run); point <= last; ++point) {
+        const std::size_t next = point < last && isFinite(point + 1) ? point + 1 : point;
+        if (isFinite(point))
             limit = std::min(limit,
                              distanceToSegment(pixel, view.pixel(m_x[point], m_y[point]),
-                                               view.pixel(m_x[point + 1], m_y[point + 1])));
+                                               view.pixel(m_x[next], m_y[next])));
     }
 }
 

@@ -157,7 +157,7 @@ void Stroker::add(const LineSegment& segment)
         if (m_isThinned)
             m_sheet.mask.addThin(segment.from + seen->first * way,
                                  segment.from + seen->second * way);
-        else if (m_pattern.empty())
+        else if (m_pattern.empty() || segment.from == segment.to)
             m_sheet.mask.add(segment.from, segment.to, m_width, StrokeEnd::Round, StrokeEnd::Round);
         else
             addDashes(segment, seen->first, seen->second);
@@ -204,19 +204,25 @@ void Stroker::addDashes(const LineSegment& segment, double first, double last)
     }
 }
 
-/// Joins segments to a path.
+/// Joins segments to a path; single points stand beside it.
 class PathSink : public SegmentSink
 {
 public:
     void add(const LineSegment& segment) override
     {
+        if (segment.from == segment.to) {
+            m_points.push_back(segment.from);
+            return;
+        }
         if (m_path.isEmpty() || m_path.currentPosition() != segment.from)
             m_path.moveTo(segment.from);
         m_path.lineTo(segment.to);
     }
     const QPainterPath& path() const { return m_path; }
+    const std::vector<QPointF>& points() const { return m_points; }
 
 private:
+    std::vector<QPointF> m_points;
     QPainterPath m_path;
 };
 
@@ -261,6 +267,10 @@ void StrokedLine::paint(QPainter& painter, const LineView& view) const
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(sink.path());
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_stroke.color);
+    for (const QPointF& point : sink.points())
+        painter.drawEllipse(point, m_stroke.width / 2.0, m_stroke.width / 2.0);
 }
 
 } // namespace corvala::plot

@@ -18,7 +18,7 @@ struct LineStroke
     std::vector<double> pattern; ///< strokes and gaps in turn; empty for a solid line
 };
 
-/// Points that are joined by strokes.
+/// Points that are joined by strokes; one that is joined with none is a dot.
 class StrokedLine : public ChartShape
 {
 public:
