@@ -165,7 +165,7 @@ std::optional<SceneNote> LineNotes::hiddenCurves() const
     host::NumberSet hidden;
     for (const std::uint32_t map : frame.activeLineMaps())
         if (frame.lineInteger(style::lineMap.curves.curveType, map) != CurveType_LineSegments
-            && (frame.lineInteger(lines.show, map) != 0) != isLayerOn)
+            && (frame.lineInteger(lines.show, map) == 0 || !isLayerOn))
             hidden.add(map);
     if (hidden.isEmpty())
         return std::nullopt;

@@ -43,6 +43,11 @@ public:
     /// A share of the picture in pixels.
     double pixels(style::RealKey key) const { return real(key) / 100.0 * m_line.height; }
     double width(style::RealKey key) const { return linePixels(real(key), m_line.height); }
+    double leastDot() const
+    {
+        constexpr double kShare = 0.4; // percent of the height: to be seen at a glance
+        return linePixels(kShare, m_line.height);
+    }
     QColor fill(const style::ChoiceKey<FillMode_e>& mode, style::ColorKey fill,
                 style::ColorKey line) const
     {
@@ -71,6 +76,7 @@ static LineStroke strokeOf(const LineStyle& style)
     LineStroke stroke;
     stroke.color = style.color(kMap.lines.color);
     stroke.width = style.width(kMap.lines.lineThickness);
+    stroke.dot = std::max(stroke.width, style.leastDot());
     const int pattern = style.number(kMap.lines.linePattern);
     if (pattern != LinePattern_Solid)
         for (const double part : patternStrokes(pattern))

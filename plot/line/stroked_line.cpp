@@ -157,7 +157,10 @@ void Stroker::add(const LineSegment& segment)
         if (m_isThinned)
             m_sheet.mask.addThin(segment.from + seen->first * way,
                                  segment.from + seen->second * way);
-        else if (m_pattern.empty() || segment.from == segment.to)
+        else if (segment.from == segment.to)
+            m_sheet.mask.add(segment.from, segment.to, m_line.stroke().dot * m_sheet.ratio,
+                             StrokeEnd::Round, StrokeEnd::Round);
+        else if (m_pattern.empty())
             m_sheet.mask.add(segment.from, segment.to, m_width, StrokeEnd::Round, StrokeEnd::Round);
         else
             addDashes(segment, seen->first, seen->second);
@@ -270,7 +273,7 @@ void StrokedLine::paint(QPainter& painter, const LineView& view) const
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_stroke.color);
     for (const QPointF& point : sink.points())
-        painter.drawEllipse(point, m_stroke.width / 2.0, m_stroke.width / 2.0);
+        painter.drawEllipse(point, m_stroke.dot / 2.0, m_stroke.dot / 2.0);
 }
 
 } // namespace corvala::plot
