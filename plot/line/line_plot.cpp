@@ -170,7 +170,7 @@ bool LinePlot::takeBack(const host::Frame& drawn, int milliseconds)
     return m_maker.wait(milliseconds);
 }
 
-/// False while its curve is in work: it is not there until it is ready.
+/// False while its curve is in work: only its place is there until it is ready.
 bool LinePlot::syncLayer(std::size_t layer, const ShownLine& line, bool isShown)
 {
     std::shared_ptr<const ChartShape> shape;
@@ -178,8 +178,7 @@ bool LinePlot::syncLayer(std::size_t layer, const ShownLine& line, bool isShown)
     if (isShown && isInLayer(line.frame, line.map, layer)) {
         LineGeometry& geometry = geometryOf(line);
         isMade = !followsCurve(layer) || makeCurve(line, geometry);
-        if (isMade)
-            shape = shapeIn(layer, line, geometry);
+        shape = isMade ? shapeIn(layer, line, geometry) : awaitedShape(geometry);
     }
     if (shape)
         m_chart->ink().set({layer, line.map}, std::move(shape), axesOf(line.frame, line.map));

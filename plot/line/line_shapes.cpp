@@ -89,6 +89,41 @@ std::shared_ptr<const ChartShape> curveShape(const ShownLine& line, const LineGe
     return std::make_shared<StrokedLine>(geometry.curve, strokeOf(LineStyle(line)));
 }
 
+namespace {
+
+class AwaitedShape : public ChartShape
+{
+public:
+    explicit AwaitedShape(std::shared_ptr<const Polyline> places)
+        : m_places(std::move(places))
+    {
+    }
+    const Polyline& places() const override { return *m_places; }
+    LineBox bounds() const override { return m_places->bounds(); }
+    double distance(const LineView&, const QPointF&, double limit) const override { return limit; }
+    void cover(CoverGrid&, const LineView&) const override { }
+    std::unique_ptr<ShapeDrawing> begin(const InkSheet&, const LineView&) const override
+    {
+        class Nothing : public ShapeDrawing
+        {
+            bool step() override { return false; }
+            double share() const override { return 1.0; }
+        };
+        return std::make_unique<Nothing>();
+    }
+    void paint(QPainter&, const LineView&) const override { }
+
+private:
+    std::shared_ptr<const Polyline> m_places;
+};
+
+} // namespace
+
+std::shared_ptr<const ChartShape> awaitedShape(const LineGeometry& geometry)
+{
+    return std::make_shared<AwaitedShape>(geometry.places);
+}
+
 /// The width of a line in a sample.
 static double widthIn(const QRectF& place, double width)
 {

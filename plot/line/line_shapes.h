@@ -37,6 +37,8 @@ struct LineGeometry
 };
 
 // What the layers show of a line map; null for nothing.
+/// While its curve is made: nothing, which takes the place of the points.
+std::shared_ptr<const ChartShape> awaitedShape(const LineGeometry& geometry);
 std::shared_ptr<const ChartShape> curveShape(const ShownLine& line, const LineGeometry& geometry);
 std::shared_ptr<const ChartShape> symbolShape(const ShownLine& line, const LineGeometry& geometry);
 std::shared_ptr<const ChartShape> errorBarShape(const ShownLine& line,

@@ -342,6 +342,7 @@ private Q_SLOTS:
         row("minimum left out", "xy", "LineAxes/X/Scale[1]=1 LineAxes/X/AutomaticRange[1]=0",
             [](ShownCanvas& shown) { return shown.scene().notes().size() == 2; });
         row("no error bars", "xy", "LinePlotLayers/ShowErrorBars=1 LineLegend/ShowBox=0", oneNote);
+        row("a fit without a line", "xy", "LinePlotLayers/ShowLines=0 Curves/CurveType=1", oneNote);
         row("reversed", "xy", "LineAxes/X/Reversed[1]=1",
             axis(QCPAxis::atBottom, [](auto& x) { return x.rangeReversed(); }));
         row("title", "xy", "LineAxes/X/Title[1]=Zeit",
