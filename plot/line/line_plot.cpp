@@ -236,9 +236,11 @@ bool LinePlot::hasWork() const
 bool LinePlot::advance(int milliseconds)
 {
     m_mayWait = milliseconds < 0;
-    if (MapScene::hasWork())
+    // What is there is drawn while another thread fits.
+    const bool isAwaiting = !m_mayWait && m_maker.isAtWork() && !m_maker.wait(0);
+    if (MapScene::hasWork() && !(isAwaiting && m_chart->hasWork()))
         return MapScene::advance(milliseconds);
-    return m_chart->hasWork() && m_chart->ink().advance(milliseconds);
+    return (m_chart->hasWork() && m_chart->ink().advance(milliseconds)) || MapScene::hasWork();
 }
 
 void LinePlot::prepare()

@@ -15,8 +15,8 @@ struct LineStroke
 {
     QColor color;
     double width = 1.0; ///< at least 1
-    double dot = 1.0; ///< across one that stands for a point without neighbours
     std::vector<double> pattern; ///< strokes and gaps in turn; empty for a solid line
+    double dot = 1.0; ///< across one that stands for a point without neighbours
 };
 
 /// Points that are joined by strokes; one that is joined with none is a dot.
