@@ -12,7 +12,10 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <vtkCellData.h>
 #include <vtkDataArray.h>
+#include <vtkDoubleArray.h>
+#include <vtkImageData.h>
 #include <vtkPoints.h>
 #include <vtkPolyData.h>
 
@@ -192,6 +195,33 @@ private Q_SLOTS:
         document().execute(host::DetachData {});
         shown.settle();
         QCOMPARE(shown.lineCount(), 0);
+    }
+
+    /// Values of the points come to the cells, also for error bars.
+    void cellsOverPoints()
+    {
+        struct Row : host::ZoneSource
+        {
+            vtkSmartPointer<vtkDataSet> zone(std::int64_t) const override
+            {
+                auto row = vtkSmartPointer<vtkImageData>::New();
+                row->SetDimensions(3, 1, 1);
+                const vtkNew<vtkDoubleArray> values;
+                values->SetName("v");
+                values->InsertNextValue(7.0);
+                values->InsertNextValue(9.0);
+                row->GetCellData()->AddArray(values);
+                return row;
+            }
+        };
+        host::DataSet data;
+        data.variables = {{"X", {}, {}, 0}, {"v", {}, "v", 0}};
+        data.zones = {host::ZoneInfo {"row", true, {{3, 1, 1}}}};
+        data.source = std::make_shared<Row>();
+        const LinePoints points = linePoints(data, {1, 1, 2, 0, 0, 0, {}});
+        QCOMPARE(points.first, (std::vector<double> {0.5, 1.5}));
+        QCOMPARE(points.second, (std::vector<double> {7.0, 9.0}));
+        QCOMPARE(linePoints(data, {1, 1, 1, 0, 2, 0, {}}).first, points.first); // its error bars
     }
 
     void polarLines()
