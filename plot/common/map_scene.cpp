@@ -86,9 +86,9 @@ bool MapScene::apply(const host::StateEvent& event)
             pendAtOtherTime(*drawn);
         return drawn != nullptr;
     case StateCode_VariableListChanged:
-    case StateCode_VariableRenamed:
+    case StateCode_VariableRenamed: return true;
     case StateCode_ZoneRenamed:
-    case StateCode_LineMapRenamed: return true; // names in legends and titles
+    case StateCode_LineMapRenamed: return m_kind.namesMaps;
     default: return false;
     }
 }

@@ -71,6 +71,7 @@ struct SceneKind
     std::size_t sharedCount;
     unsigned valueUse; ///< layers that use this show values; 0 when none does
     unsigned jointUse = 0; ///< layers that use this show something of all maps together
+    bool namesMaps = false; ///< shows the names of maps
 
     constexpr LayerMask valuesBit() const { return LayerMask {1} << layerCount; }
     constexpr LayerMask allLayers() const { return valuesBit() - 1; }

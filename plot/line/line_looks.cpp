@@ -78,7 +78,9 @@ const SceneKind& lineSceneKind()
                                       layerAt,
                                       kShared,
                                       std::size(kShared),
-                                      0};
+                                      0,
+                                      0,
+                                      true};
     return kKind;
 }
 
