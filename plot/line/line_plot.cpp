@@ -4,6 +4,8 @@
 #include "plot/line/axis_names.h"
 #include "plot/line/line_notes.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -235,7 +237,7 @@ bool LinePlot::hasWork() const
 
 bool LinePlot::advance(int milliseconds)
 {
-    m_mayWait = milliseconds < 0;
+    const QScopedValueRollback<bool> whileAdvancing(m_mayWait, milliseconds < 0);
     // What is there is drawn while another thread fits.
     const bool isAwaiting = !m_mayWait && m_maker.isAtWork() && !m_maker.wait(0);
     if (MapScene::hasWork() && !(isAwaiting && m_chart->hasWork()))

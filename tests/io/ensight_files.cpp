@@ -21,6 +21,7 @@ public:
     bool isText() const { return m_coding == EnSightForm::Text; }
     bool isFortran() const { return m_coding >= EnSightForm::Fortran; }
 
+    void part(int number) { line("part " + QByteArray::number(number)); }
     void line(const QByteArray& text)
     {
         begin();
@@ -230,7 +231,7 @@ static void writeEnSight6Geometry(EnSightWriter& file, double time)
         places << time + 0.5 * i << 1 + 0.25 * i << -2 + 2.0 * i;
     if (!file.isText())
         file.floats(places);
-    file.line("part 1");
+    file.part(1);
     file.line("solid");
     file.line("tetra4");
     file.count(2);
@@ -240,7 +241,7 @@ static void writeEnSight6Geometry(EnSightWriter& file, double time)
         file.ints({1, 2});
         file.ints({10, 20, 30, 40, 50, 60, 70, 80});
     }
-    file.line("part 2");
+    file.part(2);
     file.line("block");
     file.line("block");
     file.ints({3, 2, 2}, 3);
@@ -295,11 +296,11 @@ static void writeEnSight6Values(EnSightWriter& file, double time, bool isOfCells
     if (!isOfCells)
         file.floats(numbers(8, 100 + 10 * time, 1), 6);
     else {
-        file.line("part 1");
+        file.part(1);
         file.line("tetra4");
         file.floats(values, 6);
     }
-    file.line("part 2");
+    file.part(2);
     file.line("block");
     if (!isOfCells)
         return file.floats(numbers(12, 200 + 10 * time, 1), 6);

@@ -18,7 +18,7 @@ struct EnSightForm
 /// A case "a.case" with the times 0.5 and 1.5 of several parts: "solid", "block" and, of Gold, one
 /// of each other kind, an empty one, and particles. At point or cell n, from 0, of part k at a
 /// time, "p" at the points is 100 k + n + 10 time, and so is component c of "v" in the cells, with
-/// c / 10 more; "dust" of the particles is like "p" of part 0. Of Gold, "p" has values at points 0
+/// c / 10 more; "dust" of the particles is like "p" with k = 0. Of Gold, "p" has values at points 0
 /// and 2 of "polygons" only, and none at point 2 of "stretched".
 MadeData ensightCase(const EnSightForm& form);
 

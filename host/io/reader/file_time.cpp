@@ -7,6 +7,7 @@
 #include "host/io/reader/legacy_number.h"
 #include "host/io/reader/read_failure.h"
 #include "host/io/reader/vtk_messages.h"
+#include "host/io/reader/xml_kind.h"
 #include "host/io/reader/xml_pieces.h"
 
 #include <QFile>

@@ -8,7 +8,8 @@
 
 namespace corvala::host::io::reader {
 
-/// All bytes of a file, in memory only where they are looked at.
+/// All bytes of a file, in memory only where they are looked at. It takes as much of the limited
+/// address space as the file is long; FileBytes does not.
 class MappedFile
 {
 public:

@@ -119,22 +119,27 @@ vtkSmartPointer<vtkDataObject> PieceReader::readDamagedLegacy(const LegacyLayout
                                                               const QString& path,
                                                               const ProgressCall& progress)
 {
-    using Arrays = std::vector<std::size_t>;
-    const auto readArrays = [&](const Arrays& arrays) {
-        return readLegacyText(path, layout.text(arrays), progress);
+    const std::vector<std::size_t> arrays = layout.arrays();
+    const auto readArrays = [&](const Parts& chosen) {
+        std::vector<std::size_t> read;
+        for (const std::size_t part : chosen)
+            read.push_back(arrays[part]);
+        return readLegacyText(path, layout.text(read), progress);
     };
     for (const auto& [array, failure] : layout.faults())
         leaveOutArray(path, array, failure);
     if (!layout.strayText().isEmpty())
         noteLeftOver(path, QLatin1Char('"') + layout.strayText() + QLatin1Char('"'));
     if (!layout.isKnown())
-        noteLeftOver(path, QStringLiteral("..."));
+        noteLeftOver(
+            path,
+            ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "it is of an unknown kind")).toString());
     try {
-        return readArrays(layout.arrays());
+        return readLegacyText(path, layout.text(arrays), progress);
     } catch (const ReadFailure&) {
-        return readSoundSubset(layout.arrays(), readArrays,
-                               [&](std::size_t array, const ReadFailure& failure) {
-                                   leaveOutArray(path, layout.nameOf(array), failure);
+        return readSoundSubset(arrays.size(), readArrays,
+                               [&](std::size_t part, const ReadFailure& failure) {
+                                   leaveOutArray(path, layout.nameOf(arrays[part]), failure);
                                });
     }
 }
@@ -187,18 +192,19 @@ vtkSmartPointer<vtkDataObject> PieceReader::readSerial(const QString& path, cons
     try {
         return updated(path, *all, progress, kind.extent);
     } catch (const ReadFailure&) {
-        const auto readArrays = [&](const std::vector<ArrayName>& arrays) {
+        const std::vector<ArrayName> arrays = arraysOf(*all);
+        const auto readArrays = [&](const Parts& chosen) {
             const auto reader = xmlReader(path, kind);
             reader->UpdateInformation();
             for (const bool isOfPoints : {true, false})
                 selection(*reader, isOfPoints).DisableAllArrays();
-            for (const auto& [isOfPoints, name] : arrays)
-                selection(*reader, isOfPoints).EnableArray(name.c_str());
+            for (const std::size_t part : chosen)
+                selection(*reader, arrays[part].first).EnableArray(arrays[part].second.c_str());
             return updated(path, *reader, progress, kind.extent);
         };
         return readSoundSubset(
-            arraysOf(*all), readArrays, [&](const ArrayName& array, const ReadFailure& failure) {
-                leaveOutArray(path, QString::fromStdString(array.second), failure);
+            arrays.size(), readArrays, [&](std::size_t part, const ReadFailure& failure) {
+                leaveOutArray(path, QString::fromStdString(arrays[part].second), failure);
             });
     }
 }

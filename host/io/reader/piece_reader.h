@@ -3,6 +3,7 @@
 
 #include "host/io/reader/data_file.h"
 #include "host/io/reader/read_failure.h"
+#include "host/io/reader/xml_kind.h"
 #include "host/io/reader/xml_pieces.h"
 
 #include <QDir>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/selective_file.h"
 
+#include "host/io/reader/sound_subset.h"
 #include "host/io/reader/vtk_messages.h"
 
 #include <QFileInfo>
@@ -12,8 +13,8 @@
 
 namespace corvala::host::io::reader {
 
-SelectiveFile::SelectiveFile(const QString& path, vtkSmartPointer<vtkAlgorithm> reader, Parts parts,
-                             std::vector<ReadMessage> notes)
+SelectiveFile::SelectiveFile(const QString& path, vtkSmartPointer<vtkAlgorithm> reader,
+                             PartList parts, std::vector<ReadMessage> notes)
     : AlgorithmFile(path, std::move(reader))
     , m_notes(std::move(notes))
     , m_parts(std::move(parts))
@@ -26,36 +27,6 @@ SelectiveFile::SelectiveFile(const QString& path, vtkSmartPointer<vtkAlgorithm> 
 QString SelectiveFile::timeText(std::size_t timeIndex) const
 {
     return QString::number(times()[timeIndex], 'g', 10);
-}
-
-ReadMessage SelectiveFile::tryReading(std::size_t timeIndex)
-{
-    m_tree = AlgorithmFile::read(timeIndex, [](double) {});
-    return VtkMessages::takeError();
-}
-
-/// Of parts that are not selected, selects those with which reading succeeds.
-void SelectiveFile::selectSound(const std::vector<FilePart>& parts, const Range& range,
-                                std::size_t timeIndex, std::vector<Fault>& faults)
-{
-    const auto select = [&](bool isOn) {
-        for (std::size_t i = range.first; i < range.second; ++i)
-            parts[i].select(isOn);
-    };
-    if (range.first == range.second)
-        return;
-    select(true);
-    const ReadMessage error = tryReading(timeIndex);
-    if (error.isEmpty())
-        return;
-    select(false);
-    if (range.second - range.first == 1) {
-        faults.push_back({parts[range.first], error});
-        return;
-    }
-    const std::size_t middle = (range.first + range.second) / 2;
-    selectSound(parts, {range.first, middle}, timeIndex, faults);
-    selectSound(parts, {middle, range.second}, timeIndex, faults);
 }
 
 void SelectiveFile::leaveOut(std::size_t timeIndex, const ReadMessage& error)
@@ -77,38 +48,55 @@ void SelectiveFile::note(const std::vector<Fault>& faults, std::size_t timeIndex
         const QString error = fault.error.toString();
         if (times().size() < 2)
             m_notes.emplace_back(QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out: %2: %3."),
-                                 std::initializer_list<QString> {fault.part.name, file, error});
+                                 std::initializer_list<QString> {fault.part, file, error});
         else
             m_notes.emplace_back(
                 QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out at time %4: %2: %3."),
-                std::initializer_list<QString> {fault.part.name, file, error, timeText(timeIndex)});
+                std::initializer_list<QString> {fault.part, file, error, timeText(timeIndex)});
     }
+}
+
+/// The zones come before all other parts.
+void SelectiveFile::readSound(const std::vector<FilePart>& parts, std::size_t zoneCount,
+                              std::size_t timeIndex)
+{
+    std::vector<Fault> faults;
+    const auto addFault = [&](std::size_t part, const ReadFailure& failure) {
+        faults.push_back({parts[part].name, failure.message});
+    };
+    const auto readParts = [&](const Parts& chosen) {
+        for (const FilePart& part : parts)
+            part.select(false);
+        for (const std::size_t part : chosen)
+            parts[part].select(true);
+        m_tree = AlgorithmFile::read(timeIndex, [](double) {});
+        const ReadMessage error = VtkMessages::takeError();
+        if (!error.isEmpty())
+            throw ReadFailure(path(), error);
+    };
+    Parts sound;
+    readParts(sound);
+    addSound(sound, 0, zoneCount, readParts, addFault);
+    if (sound.empty() && zoneCount > 0)
+        throw ReadFailure(path(), faults.front().error);
+    addSound(sound, zoneCount, parts.size(), readParts, addFault);
+    readParts(sound);
+    note(faults, timeIndex);
 }
 
 vtkSmartPointer<vtkDataObject> SelectiveFile::read(std::size_t timeIndex,
                                                    const ProgressCall& progress)
 {
     m_tree = AlgorithmFile::read(timeIndex, progress);
-    const ReadMessage error = VtkMessages::takeError();
-    if (error.isEmpty())
+    if (VtkMessages::takeError().isEmpty())
         return std::exchange(m_tree, nullptr);
     std::vector<FilePart> parts = m_parts();
     const auto zones = std::stable_partition(parts.begin(), parts.end(),
                                              [](const FilePart& part) { return part.isZone; });
-    const auto firstValues = static_cast<std::size_t>(zones - parts.begin());
-    for (const FilePart& part : parts)
-        part.select(false);
-    std::vector<Fault> faults;
-    const ReadMessage remaining = tryReading(timeIndex);
-    if (remaining.isEmpty()) {
-        selectSound(parts, {0, firstValues}, timeIndex, faults);
-        const bool hasZones = faults.size() < firstValues || firstValues == 0;
-        if (hasZones)
-            selectSound(parts, {firstValues, parts.size()}, timeIndex, faults);
-        const ReadMessage last = hasZones ? tryReading(timeIndex) : faults.front().error;
-        last.isEmpty() ? note(faults, timeIndex) : leaveOut(timeIndex, last);
-    } else {
-        leaveOut(timeIndex, remaining);
+    try {
+        readSound(parts, static_cast<std::size_t>(zones - parts.begin()), timeIndex);
+    } catch (const ReadFailure& failure) {
+        leaveOut(timeIndex, failure.message);
     }
     for (const FilePart& part : parts)
         part.select(true);

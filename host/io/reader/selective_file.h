@@ -24,10 +24,10 @@ class SelectiveFile : public AlgorithmFile
 {
 public:
     /// What the reader can leave out at the time that it has come to.
-    using Parts = std::function<std::vector<FilePart>()>;
+    using PartList = std::function<std::vector<FilePart>()>;
 
     /// With what was noted before.
-    SelectiveFile(const QString& path, vtkSmartPointer<vtkAlgorithm> reader, Parts parts,
+    SelectiveFile(const QString& path, vtkSmartPointer<vtkAlgorithm> reader, PartList parts,
                   std::vector<ReadMessage> notes);
 
     vtkSmartPointer<vtkDataObject> read(std::size_t timeIndex,
@@ -40,19 +40,17 @@ protected:
 private:
     struct Fault
     {
-        FilePart part;
+        QString part;
         ReadMessage error;
     };
-    using Range = std::pair<std::size_t, std::size_t>;
 
-    ReadMessage tryReading(std::size_t timeIndex);
-    void selectSound(const std::vector<FilePart>& parts, const Range& range, std::size_t timeIndex,
-                     std::vector<Fault>& faults);
+    void readSound(const std::vector<FilePart>& parts, std::size_t zoneCount,
+                   std::size_t timeIndex);
     void leaveOut(std::size_t timeIndex, const ReadMessage& error);
     void note(const std::vector<Fault>& faults, std::size_t timeIndex);
     QString timeText(std::size_t timeIndex) const;
 
-    Parts m_parts;
+    PartList m_parts;
     vtkSmartPointer<vtkDataObject> m_tree; ///< that was read last
     std::size_t m_failures = 0; ///< times that were left out
     std::optional<ReadFailure> m_failure; ///< the first one

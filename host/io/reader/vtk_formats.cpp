@@ -4,7 +4,7 @@
 #include "host/io/reader/formats.h"
 #include "host/io/reader/piece_reader.h"
 #include "host/io/reader/vtk_messages.h"
-#include "host/io/reader/xml_pieces.h"
+#include "host/io/reader/xml_kind.h"
 
 #include <QFile>
 

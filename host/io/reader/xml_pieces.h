@@ -5,7 +5,6 @@
 #include <QStringList>
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
 namespace corvala::host::io::reader {
@@ -33,18 +32,5 @@ PieceTree pieceTree(const QString& path);
 
 /// The files that a parallel file names.
 QStringList piecesOf(const QString& path);
-
-/// What a VTK XML file needs to be read by VTK. Throws ReadFailure when its end is missing, when it
-/// claims more points or cells than its size can hold, or when it is of no kind that is known.
-struct XmlKind
-{
-    explicit XmlKind(const QString& path);
-
-    int type = -1; ///< of the data object
-    bool isParallel = false;
-    bool isTree = false;
-    std::vector<int> extent {}; ///< of the part of its grid that is in the file, if it is not all
-    std::string text; ///< all of the XML, if something follows that VTK would stumble over
-};
 
 } // namespace corvala::host::io::reader
