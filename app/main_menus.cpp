@@ -2,6 +2,7 @@
 #include "app/main_menus.h"
 
 #include "app/details/detail_pages.h"
+#include "app/icons.h"
 #include "app/recent_files.h"
 #include "host/document/document.h"
 #include "host/io/sample_list.h"
@@ -13,7 +14,6 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QStyle>
 #include <QToolBar>
 
 namespace corvala::app {
@@ -42,17 +42,11 @@ static void setKeys(QAction& action, const QKeySequence& keys)
     action.setShortcutContext(Qt::ApplicationShortcut);
 }
 
-/// An icon of the desktop's theme, or of the style where the theme has none.
-static QIcon iconOf(const char* name, QStyle::StandardPixmap other)
-{
-    return QIcon::fromTheme(QLatin1String(name), QApplication::style()->standardIcon(other));
-}
-
 void MainMenus::makeFileMenu()
 {
     QMenu* menu = m_window.menuBar()->addMenu(tr("&File"));
-    QAction* open = menu->addAction(iconOf("document-open", QStyle::SP_DialogOpenButton),
-                                    tr("&Open..."), this, &MainMenus::openWanted);
+    QAction* open =
+        menu->addAction(commandIcon("document-open"), tr("&Open..."), this, &MainMenus::openWanted);
     setKeys(*open, QKeySequence::Open);
     QAction* folder = menu->addAction(tr("Open Case &Folder..."), this, &MainMenus::folderWanted);
     QAction* plot3d = menu->addAction(tr("Open &Plot3D..."), this, &MainMenus::plot3DWanted);
@@ -137,9 +131,9 @@ void MainMenus::fillRecentMenu(QMenu& menu)
 void MainMenus::makeEditMenu()
 {
     QMenu* menu = m_window.menuBar()->addMenu(tr("&Edit"));
-    m_undo = menu->addAction(iconOf("edit-undo", QStyle::SP_ArrowBack), tr("&Undo"), this,
+    m_undo = menu->addAction(commandIcon("edit-undo"), tr("&Undo"), this,
                              [] { Document::instance().undo().undo(); });
-    m_redo = menu->addAction(iconOf("edit-redo", QStyle::SP_ArrowForward), tr("&Redo"), this,
+    m_redo = menu->addAction(commandIcon("edit-redo"), tr("&Redo"), this,
                              [] { Document::instance().undo().redo(); });
     m_undo->setShortcuts(QKeySequence::Undo);
     m_redo->setShortcuts(QKeySequence::Redo);
