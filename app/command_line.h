@@ -25,6 +25,9 @@ struct Options
 
     /// The program does its work and ends, without waiting for the user.
     bool isBatch() const { return !script.isEmpty() || !report.isEmpty() || !picture.isEmpty(); }
+
+    /// The program works with the names of its commands and columns, which are English then.
+    bool isScripted() const { return !script.isEmpty() || !report.isEmpty(); }
 };
 
 /// Reads the arguments, without the name of the program. Empty on success, else what is wrong.

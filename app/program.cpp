@@ -5,6 +5,7 @@
 #include "app/command_line.h"
 #include "app/data_opening.h"
 #include "app/display.h"
+#include "app/language.h"
 #include "app/main_window.h"
 #include "app/picture_output.h"
 #include "app/program_stage.h"
@@ -194,6 +195,8 @@ static int runApplication(int argc, char** argv, const Options& options)
 {
     QApplication application(argc, argv);
     setUpLocale();
+    if (!options.isScripted()) // scripts name what they see in English
+        setUpLanguage();
     const Termination termination;
     const CurveFitReports reports;
     const host::GestureTracker gestures(host::Document::instance().undo());
@@ -207,20 +210,29 @@ static int runApplication(int argc, char** argv, const Options& options)
     return Termination::exitCode(QApplication::exec());
 }
 
-int runProgram(int argc, char** argv)
+/// The exit code of a run that ends here, else -1.
+static int readOptions(int argc, char** argv, Options& options)
 {
-    Options options;
+    const QCoreApplication application(argc, argv); // which has texts in the user's language
+    setUpLanguage();
     const QString misuse = parseCommandLine(argumentsOf(argc, argv), options);
     if (!misuse.isEmpty()) {
         fail(named(misuse) + QLatin1Char('\n') + Program::tr("Try 'corvala --help'."));
         return WrongUsage;
     }
-    if (options.help || options.version) {
-        const QCoreApplication application(argc, argv);
-        std::fputs(options.help ? qUtf8Printable(usageText()) : "corvala " CORVALA_VERSION "\n",
-                   stdout);
-        return Success;
-    }
+    if (!options.help && !options.version)
+        return -1;
+    std::fputs(options.help ? qUtf8Printable(usageText()) : "corvala " CORVALA_VERSION "\n",
+               stdout);
+    return Success;
+}
+
+int runProgram(int argc, char** argv)
+{
+    Options options;
+    const int parsed = readOptions(argc, argv, options);
+    if (parsed >= 0)
+        return parsed;
     setUpQt();
     Display display;
     const QString noDisplay = display.prepare(options);
