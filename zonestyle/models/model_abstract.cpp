@@ -7,6 +7,8 @@
 #include <sdk/base/cvl.h>
 #include <sdk/signals/state_change_event_observable.h>
 
+#include <QCoreApplication>
+
 namespace corvala::sdk::ui::dialogs::zonestyle::intern::models {
 
 ModelAbstract::ModelAbstract(ModelAbstract* subModel)
@@ -46,6 +48,14 @@ Qt::ItemFlags ModelAbstract::localFlags(const QModelIndex& index) const
 void* ModelAbstract::localInternalPointer(int, int, const QModelIndex&) const
 {
     return nullptr;
+}
+
+QVariant ModelAbstract::data(const QModelIndex& index, int role) const
+{
+    if (role == Qt::AccessibleDescriptionRole && index.isValid())
+        return isRelevant(index) ? QVariant()
+                                 : QCoreApplication::translate("Cell", "Does not apply");
+    return ItemSubModelAbstract::data(index, role);
 }
 
 bool ModelAbstract::isRelevant(const QModelIndex& index) const

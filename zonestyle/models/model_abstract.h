@@ -38,6 +38,9 @@ public:
     Qt::ItemFlags localFlags(const QModelIndex& index) const override;
     void* localInternalPointer(int row, int column, const QModelIndex& parent) const override;
 
+    /// A cell that does not apply says so to screen readers.
+    QVariant data(const QModelIndex& index, int role) const override;
+
     // Whether a cell of the whole table applies; one that does not is shown greyed.
     Q_INVOKABLE virtual bool isRelevant(const QModelIndex& index) const;
     // New entries for the menu of a column, for the rows selected now. The caller owns them.
