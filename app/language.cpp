@@ -33,10 +33,16 @@ static bool speak(const QString& language)
     return true;
 }
 
-void setUpLanguage()
+QStringList userLanguages()
+{
+    return QLocale::system().uiLanguages();
+}
+
+void setUpLanguage(const QStringList& languages)
 {
     initialiseTranslations();
-    for (const QString& tag : QLocale::system().uiLanguages()) {
+    speak(QStringLiteral("en")); // its plurals; the texts of the sources are English
+    for (const QString& tag : languages) {
         const QString language = tag.section(QLatin1Char('-'), 0, 0);
         if (language == QLatin1String("en") || language == QLatin1String("C") || speak(language))
             return;

@@ -195,8 +195,8 @@ static int runApplication(int argc, char** argv, const Options& options)
 {
     QApplication application(argc, argv);
     setUpLocale();
-    if (!options.isScripted()) // scripts name what they see in English
-        setUpLanguage();
+    // Scripts name what they see in English.
+    setUpLanguage(options.isScripted() ? QStringList() : userLanguages());
     const Termination termination;
     const CurveFitReports reports;
     const host::GestureTracker gestures(host::Document::instance().undo());
@@ -214,7 +214,7 @@ static int runApplication(int argc, char** argv, const Options& options)
 static int readOptions(int argc, char** argv, Options& options)
 {
     const QCoreApplication application(argc, argv); // which has texts in the user's language
-    setUpLanguage();
+    setUpLanguage(userLanguages());
     const QString misuse = parseCommandLine(argumentsOf(argc, argv), options);
     if (!misuse.isEmpty()) {
         fail(named(misuse) + QLatin1Char('\n') + Program::tr("Try 'corvala --help'."));

@@ -5,42 +5,46 @@
     <name>AxisNames</name>
     <message>
         <source>%1 over %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 über %2</translation>
     </message>
 </context>
 <context>
     <name>Cell</name>
     <message>
         <source>N/A</source>
-        <translation type="unfinished"></translation>
+        <translation>k. A.</translation>
     </message>
     <message>
         <source>%1 or more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 oder mehr</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2</translation>
     </message>
     <message>
         <source>Draw all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle zeichnen</translation>
     </message>
     <message>
         <source>unassigned</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht zugewiesen</translation>
     </message>
     <message>
         <source>By: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach: %1</translation>
     </message>
     <message>
         <source>Strand ID %1 has no relevant zones at the current solution time</source>
-        <translation type="unfinished"></translation>
+        <translation>Strang %1 hat zur aktuellen Lösungszeit keine passenden Zonen</translation>
     </message>
     <message>
         <source>&lt;Undef&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;undef.&gt;</translation>
+    </message>
+    <message>
+        <source>Does not apply</source>
+        <translation>Trifft nicht zu</translation>
     </message>
 </context>
 <context>
@@ -48,4843 +52,5246 @@
     <message>
         <source>Use
 Lighting</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht
+nutzen</translation>
     </message>
     <message>
         <source>Show
 Contour</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontur
+zeigen</translation>
     </message>
     <message>
         <source>Contour
 Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontur-
+art</translation>
     </message>
     <message>
         <source>Flood
 By</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllen
+nach</translation>
     </message>
     <message>
         <source>Lines
 By</source>
-        <translation type="unfinished"></translation>
+        <translation>Linien
+nach</translation>
     </message>
     <message>
         <source>Line
 Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Linien-
+farbe</translation>
     </message>
     <message>
         <source>Line
 Pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Linien-
+muster</translation>
     </message>
     <message>
         <source>Pattern
 Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Muster-
+länge</translation>
     </message>
     <message>
         <source>Line
 Thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Linien-
+stärke</translation>
     </message>
     <message>
         <source>Show
 Edges</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanten
+zeigen</translation>
     </message>
     <message>
         <source>Edge
 Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanten-
+art</translation>
     </message>
     <message>
         <source>Edge
 Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanten-
+farbe</translation>
     </message>
     <message>
         <source>I-Index
 Border</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand in
+I-Richtung</translation>
     </message>
     <message>
         <source>J-Index
 Border</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand in
+J-Richtung</translation>
     </message>
     <message>
         <source>K-Index
 Border</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand in
+K-Richtung</translation>
     </message>
     <message>
         <source>Lighting
 Effect</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht-
+effekt</translation>
     </message>
     <message>
         <source>Use Surface
 Translucency</source>
-        <translation type="unfinished"></translation>
+        <translation>Flächen
+transparent</translation>
     </message>
     <message>
         <source>Surface
 Translucency</source>
-        <translation type="unfinished"></translation>
+        <translation>Flächen-
+transparenz</translation>
     </message>
     <message>
         <source>Use Value
 Blanking</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte
+ausblenden</translation>
     </message>
     <message>
         <source>Show
 Mesh</source>
-        <translation type="unfinished"></translation>
+        <translation>Netz
+zeigen</translation>
     </message>
     <message>
         <source>Mesh
 Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Netz-
+art</translation>
     </message>
     <message>
         <source>Mesh
 Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Netz-
+farbe</translation>
     </message>
     <message>
         <source>Points
 to Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeigte
+Punkte</translation>
     </message>
     <message>
         <source>Index
 Skip</source>
-        <translation type="unfinished"></translation>
+        <translation>Index-
+schritt</translation>
     </message>
     <message>
         <source>Show
 Scatter</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung
+zeigen</translation>
     </message>
     <message>
         <source>Symbol
 Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbol-
+form</translation>
     </message>
     <message>
         <source>Scatter
 Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbol-
+größe</translation>
     </message>
     <message>
         <source>Outline
 Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Umriss-
+farbe</translation>
     </message>
     <message>
         <source>Fill
 Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Füll-
+art</translation>
     </message>
     <message>
         <source>Fill
 Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Füll-
+farbe</translation>
     </message>
     <message>
         <source>Show
 Shade</source>
-        <translation type="unfinished"></translation>
+        <translation>Schattierung
+zeigen</translation>
     </message>
     <message>
         <source>Shade
 Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der
+Schattierung</translation>
     </message>
     <message>
         <source>Zone
 Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Zonen-
+nummer</translation>
     </message>
     <message>
         <source>Zone
 Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Zonen-
+name</translation>
     </message>
     <message>
         <source>Group
 Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppen-
+nummer</translation>
     </message>
     <message>
         <source>Show
 Zone</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone
+zeigen</translation>
     </message>
     <message>
         <source>Surfaces
 to Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeigte
+Flächen</translation>
     </message>
     <message>
         <source>I-Plane
 Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich der
+I-Ebenen</translation>
     </message>
     <message>
         <source>J-Plane
 Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich der
+J-Ebenen</translation>
     </message>
     <message>
         <source>K-Plane
 Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich der
+K-Ebenen</translation>
     </message>
     <message>
         <source>Show
 Vector</source>
-        <translation type="unfinished"></translation>
+        <translation>Vektoren
+zeigen</translation>
     </message>
     <message>
         <source>Vector
 Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Vektor-
+art</translation>
     </message>
     <message>
         <source>Vector
 Tangents</source>
-        <translation type="unfinished"></translation>
+        <translation>Vektor-
+Tangenten</translation>
     </message>
     <message>
         <source>Head
 Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitzen-
+form</translation>
     </message>
     <message>
         <source>Show
 Iso-Surfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Isoflächen
+zeigen</translation>
     </message>
     <message>
         <source>Show
 Slices</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitte
+zeigen</translation>
     </message>
     <message>
         <source>Show
 Streamtraces</source>
-        <translation type="unfinished"></translation>
+        <translation>Stromlinien
+zeigen</translation>
     </message>
     <message>
         <source>Show
 Bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Balken
+zeigen</translation>
     </message>
     <message>
         <source>Bar
 Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Balken-
+richtung</translation>
     </message>
     <message>
         <source>Bar
 Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Balken-
+breite</translation>
     </message>
     <message>
         <source>Curve
 Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurven-
+art</translation>
     </message>
     <message>
         <source>Dependent
 Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Abhängige
+Variable</translation>
     </message>
     <message>
         <source>Curve
 Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurven-
+punkte</translation>
     </message>
     <message>
         <source>Curve
 Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurven-
+einstellung</translation>
     </message>
     <message>
         <source>Zone</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone</translation>
     </message>
     <message>
         <source>Sort</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortierung</translation>
     </message>
     <message>
         <source>Show in
 Legend</source>
-        <translation type="unfinished"></translation>
+        <translation>In Legende
+zeigen</translation>
     </message>
     <message>
         <source>Theta
 Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable
+für Theta</translation>
     </message>
     <message>
         <source>Radius
 Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable
+für Radius</translation>
     </message>
     <message>
         <source>X-Axis
 Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable
+der X-Achse</translation>
     </message>
     <message>
         <source>Y-Axis
 Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable
+der Y-Achse</translation>
     </message>
     <message>
         <source>Which
 X-Axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche
+X-Achse</translation>
     </message>
     <message>
         <source>Which
 Y-Axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche
+Y-Achse</translation>
     </message>
     <message>
         <source>Show
 Error Bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlerbalken
+zeigen</translation>
     </message>
     <message>
         <source>Error Bar
 Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable der
+Fehlerbalken</translation>
     </message>
     <message>
         <source>Error Bar
 Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Art der
+Fehlerbalken</translation>
     </message>
     <message>
         <source>Error Bar
 Spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand der
+Fehlerbalken</translation>
     </message>
     <message>
         <source>Error Bar
 Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der
+Fehlerbalken</translation>
     </message>
     <message>
         <source>Error Bar
 Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe der
+Fehlerbalken</translation>
     </message>
     <message>
         <source>Varying
 Index</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufender
+Index</translation>
     </message>
     <message>
         <source>I-Index
 Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich des
+I-Index</translation>
     </message>
     <message>
         <source>J-Index
 Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich des
+J-Index</translation>
     </message>
     <message>
         <source>K-Index
 Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich des
+K-Index</translation>
     </message>
     <message>
         <source>Show
 Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Linien
+zeigen</translation>
     </message>
     <message>
         <source>Map
 Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer der
+Kurve</translation>
     </message>
     <message>
         <source>Map
 Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der
+Kurve</translation>
     </message>
     <message>
         <source>Show
 Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurve
+zeigen</translation>
     </message>
     <message>
         <source>Show
 Symbols</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole
+zeigen</translation>
     </message>
     <message>
         <source>Symbol
 Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbol-
+größe</translation>
     </message>
     <message>
         <source>Symbol
 Spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbol-
+abstand</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>Open embedded data: %1 (when no name is given), %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingebaute Daten öffnen: %1 (wenn kein Name angegeben ist), %2.</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Play a script, then end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Skript abspielen und dann enden.</translation>
     </message>
     <message>
         <source>script</source>
-        <translation type="unfinished"></translation>
+        <translation>Skript</translation>
     </message>
     <message>
         <source>Write what the style dialog shows, then end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben, was der Stildialog zeigt, und dann enden.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Write a picture of the plot, then end: .png, .pdf, .svg, .jpg or .bmp.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild der Darstellung schreiben und dann enden: .png, .pdf, .svg, .jpg oder .bmp.</translation>
     </message>
     <message>
         <source>Size of the picture on paper, as 160x120mm (usual for .pdf and .svg), or in pixels, as 1200x900.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe des Bildes auf dem Papier, etwa 160x120mm (üblich für .pdf und .svg), oder in Pixeln, etwa 1200x900.</translation>
     </message>
     <message>
         <source>size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Pixels of the picture to an inch (300).</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel des Bildes je Zoll (300).</translation>
     </message>
     <message>
         <source>number</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahl</translation>
     </message>
     <message>
         <source>Layout of Plot3D files, such as format=binary,grids=many,endian=big.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufbau von Plot3D-Dateien, etwa format=binary,grids=many,endian=big.</translation>
     </message>
     <message>
         <source>layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufbau</translation>
     </message>
     <message>
         <source>How tables of text are written, such as separator=tab,decimal=comma,header=1,columns=2:words 5-9:skip,bad=skip.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie Texttabellen geschrieben sind, etwa separator=tab,decimal=comma,header=1,columns=2:words 5-9:skip,bad=skip.</translation>
     </message>
     <message>
         <source>dialect</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibweise</translation>
     </message>
     <message>
         <source>Plots field data and lets you edit the style of its zones and lines.
 Data are opened first; then a script is played, a report written, a picture drawn.
 Exit codes: 0 success, 1 failure, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stellt Felddaten dar und lässt den Stil ihrer Zonen und Linien bearbeiten.
+Zuerst werden Daten geöffnet; dann wird ein Skript abgespielt, ein Bericht geschrieben, ein Bild gezeichnet.
+Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Data files, opened together, or the folder of a case.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datendateien, die zusammen geöffnet werden, oder der Ordner eines Falls.</translation>
     </message>
     <message>
         <source>%1 is given twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist zweimal angegeben</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 braucht einen Wert</translation>
     </message>
     <message>
         <source>there is no embedded data &quot;%1&quot;; there are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine eingebauten Daten „%1“; es gibt %2</translation>
     </message>
     <message>
         <source>give either files or --demo</source>
-        <translation type="unfinished"></translation>
+        <translation>geben Sie entweder Dateien oder --demo an</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number of pixels to an inch: from %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Zahl von Pixeln je Zoll: von %2 bis %3</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no size of a picture, such as 160x120mm or 1200x900</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Bildgröße wie 160x120mm oder 1200x900</translation>
     </message>
 </context>
 <context>
     <name>CurveFitDetails</name>
     <message>
         <source>Order=%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Grad=%1</translation>
     </message>
     <message>
         <source>Points range=%1,%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Punktbereich=%1,%2</translation>
     </message>
     <message>
         <source>Using all points</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit allen Punkten</translation>
     </message>
     <message>
         <source>Weighting variable=%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewichtungsvariable=%1</translation>
     </message>
     <message>
         <source>Not using weighting variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Gewichtungsvariable</translation>
     </message>
     <message>
         <source>Clamped: D1=%1, D2=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingespannt: D1=%1, D2=%2</translation>
     </message>
     <message>
         <source>Not clamped</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht eingespannt</translation>
     </message>
     <message>
         <source>Closeness=%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nähe=%1</translation>
     </message>
     <message>
         <source>N/A</source>
-        <translation type="unfinished"></translation>
+        <translation>k. A.</translation>
     </message>
 </context>
 <context>
     <name>Display</name>
     <message>
         <source>plots are drawn through an X server: install the package xwayland</source>
-        <translation type="unfinished"></translation>
+        <translation>Darstellungen werden über einen X-Server gezeichnet: installieren Sie das Paket xwayland</translation>
     </message>
     <message>
         <source>there is no screen to show a window on; --play, --report and --render need none</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keinen Bildschirm für ein Fenster; --play, --report und --render brauchen keinen</translation>
     </message>
     <message>
         <source>drawing without a screen needs Xvfb: install the package xvfb</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnen ohne Bildschirm braucht Xvfb: installieren Sie das Paket xvfb</translation>
     </message>
     <message>
         <source>Xvfb cannot be started: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Xvfb kann nicht gestartet werden: %1</translation>
     </message>
 </context>
 <context>
     <name>DynamicLineMapText</name>
     <message>
         <source>Zone name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der Zone</translation>
     </message>
     <message>
         <source>Zone number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer der Zone</translation>
     </message>
     <message>
         <source>Dependent variable name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der abhängigen Variablen</translation>
     </message>
     <message>
         <source>Dependent variable number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer der abhängigen Variablen</translation>
     </message>
     <message>
         <source>Independent variable name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der unabhängigen Variablen</translation>
     </message>
     <message>
         <source>Independent variable number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer der unabhängigen Variablen</translation>
     </message>
     <message>
         <source>Map number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer der Kurve</translation>
     </message>
     <message>
         <source>X-Axis number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer der X-Achse</translation>
     </message>
     <message>
         <source>Y-Axis number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer der Y-Achse</translation>
+    </message>
+</context>
+<context>
+    <name>FitReport</name>
+    <message>
+        <source>too few points</source>
+        <translation>zu wenige Punkte</translation>
+    </message>
+    <message>
+        <source>too few different values of the independent variable</source>
+        <translation>zu wenige verschiedene Werte der unabhängigen Variablen</translation>
+    </message>
+    <message>
+        <source>values of the independent variable are not positive</source>
+        <translation>Werte der unabhängigen Variablen sind nicht positiv</translation>
+    </message>
+    <message>
+        <source>values of the dependent variable are 0 or have both signs</source>
+        <translation>Werte der abhängigen Variablen sind 0 oder haben beide Vorzeichen</translation>
+    </message>
+    <message>
+        <source>all points lie at the same height</source>
+        <translation>alle Punkte liegen auf gleicher Höhe</translation>
+    </message>
+    <message>
+        <source>no such curve comes near the points</source>
+        <translation>keine solche Kurve kommt den Punkten nahe</translation>
+    </message>
+    <message>
+        <source>the numbers are too large</source>
+        <translation>die Zahlen sind zu groß</translation>
+    </message>
+    <message>
+        <source>not enough memory</source>
+        <translation>nicht genug Speicher</translation>
+    </message>
+    <message>
+        <source>There is no curve: %1.</source>
+        <translation>Es gibt keine Kurve: %1.</translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>standard error</source>
+        <translation>Standardfehler</translation>
+    </message>
+    <message>
+        <source>R squared</source>
+        <translation>R-Quadrat</translation>
+    </message>
+    <message>
+        <source>residual deviation</source>
+        <translation>Reststreuung</translation>
+    </message>
+    <message>
+        <source>points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>These are the first %1 of %2 lines of the map.</source>
+        <translation>Dies sind die ersten %1 von %2 Linien der Kurve.</translation>
     </message>
 </context>
 <context>
     <name>LayerQueries</name>
     <message>
         <source>Show Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene zeigen</translation>
     </message>
     <message>
         <source>The %1 layer is off, so nothing of it is drawn.
 Do you want to switch it on?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ebene %1 ist aus, daher wird nichts davon gezeichnet.
+Möchten Sie sie einschalten?</translation>
     </message>
     <message>
         <source>Show Surfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Flächen zeigen</translation>
     </message>
     <message>
         <source>No active zone draws its surfaces, so the %1 layer shows nothing.
 Do you want to draw the boundary cell faces of the active zones?</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine aktive Zone zeichnet ihre Flächen, daher zeigt die Ebene %1 nichts.
+Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     </message>
 </context>
 <context>
     <name>LineMapZone</name>
     <message>
         <source>Zone %1 is not ordered, so a line through its points follows no order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone %1 ist nicht geordnet, eine Linie durch ihre Punkte folgt daher keiner Ordnung.</translation>
     </message>
     <message>
         <source>Zone %1 has no values at its points of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone %1 hat an ihren Punkten keine Werte von %2.</translation>
     </message>
     <message>
         <source>Zone</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone</translation>
     </message>
     <message>
         <source>Do you want to use it anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie sie trotzdem verwenden?</translation>
     </message>
 </context>
 <context>
     <name>Menu</name>
     <message>
         <source>Enter character...</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichen eingeben...</translation>
     </message>
     <message>
         <source>Activate</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktivieren</translation>
     </message>
     <message>
         <source>Deactivate</source>
-        <translation type="unfinished"></translation>
+        <translation>Deaktivieren</translation>
     </message>
     <message>
         <source>Show selected only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Ausgewählte zeigen</translation>
     </message>
     <message>
         <source>Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>Umkehren</translation>
     </message>
     <message>
         <source>Rename line map</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurve umbenennen</translation>
     </message>
     <message>
         <source>Enter...</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingeben...</translation>
     </message>
     <message>
         <source>Select Zone...</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone auswählen...</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Enter range...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich eingeben...</translation>
     </message>
     <message>
         <source>Select Variable...</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable auswählen...</translation>
     </message>
     <message>
         <source>Draw all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle zeichnen</translation>
     </message>
     <message>
         <source>I skip=%1</source>
-        <translation type="unfinished"></translation>
+        <translation>I-Schritt=%1</translation>
     </message>
     <message>
         <source>Distance=%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand=%1</translation>
     </message>
     <message>
         <source>Enter index...</source>
-        <translation type="unfinished"></translation>
+        <translation>Index eingeben...</translation>
     </message>
     <message>
         <source>Enter distance...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand eingeben...</translation>
     </message>
     <message>
         <source>No skip</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Schritt</translation>
     </message>
     <message>
         <source>Enter skip...</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt eingeben...</translation>
     </message>
     <message>
         <source>Select variable...</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable auswählen...</translation>
     </message>
     <message>
         <source>&amp;Settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einstellungen...</translation>
     </message>
 </context>
 <context>
     <name>OperationText</name>
     <message>
         <source>&quot;%1&quot; must be %2, not %3</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ muss %2 sein, nicht %3</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ fehlt</translation>
     </message>
     <message>
         <source>a text</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Text</translation>
     </message>
     <message>
         <source>true or false</source>
-        <translation type="unfinished"></translation>
+        <translation>wahr oder falsch</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Zahl</translation>
     </message>
     <message>
         <source>a whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>eine ganze Zahl</translation>
     </message>
     <message>
         <source>a text or a list of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Text oder eine Liste von Texten</translation>
     </message>
     <message>
         <source>a list</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Liste</translation>
     </message>
     <message>
         <source>a set of numbers such as &quot;1-3,7&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Menge von Zahlen wie „1-3,7“</translation>
     </message>
     <message>
         <source>unknown key &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannter Schlüssel „%1“</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no set of numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Menge von Zahlen</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be one of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ muss einer von %2 sein</translation>
     </message>
     <message>
         <source>&quot;value&quot;: %1 is no style value</source>
-        <translation type="unfinished"></translation>
+        <translation>„value“: %1 ist kein Stilwert</translation>
     </message>
     <message>
         <source>there is no layer &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Ebene „%1“</translation>
     </message>
     <message>
         <source>&quot;rename&quot; takes one of &quot;zone&quot;, &quot;variable&quot; and &quot;lineMap&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„rename“ verlangt eines von „zone“, „variable“ und „lineMap“</translation>
     </message>
     <message>
         <source>&quot;lineMap&quot;: there is no map %1</source>
-        <translation type="unfinished"></translation>
+        <translation>„lineMap“: es gibt keine Kurve %1</translation>
     </message>
     <message>
         <source>&quot;pick&quot;: %1 is no pick</source>
-        <translation type="unfinished"></translation>
+        <translation>„pick“: %1 ist keine Wahl</translation>
     </message>
     <message>
         <source>&quot;rgb&quot; must be three numbers from 0 to 255, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>„rgb“ muss drei Zahlen von 0 bis 255 haben, nicht %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is scaled by &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wird durch „%2“ vergrößert</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be 1 or more</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ muss 1 oder mehr sein</translation>
     </message>
     <message>
         <source>&quot;data&quot; must be &quot;none&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„data“ muss „none“ sein</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no key &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat keinen Schlüssel „%2“</translation>
     </message>
     <message>
         <source>%1 is no operation</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein Vorgang</translation>
     </message>
     <message>
         <source>a list of names with at most one index</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Liste von Namen mit höchstens einem Index</translation>
     </message>
     <message>
         <source>there is no frame or no data for it</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keinen Rahmen oder keine Daten dafür</translation>
     </message>
     <message>
         <source>no such style value</source>
-        <translation type="unfinished"></translation>
+        <translation>kein solcher Stilwert</translation>
     </message>
     <message>
         <source>the path names a group of style values</source>
-        <translation type="unfinished"></translation>
+        <translation>der Pfad benennt eine Gruppe von Stilwerten</translation>
     </message>
     <message>
         <source>the value has the wrong type</source>
-        <translation type="unfinished"></translation>
+        <translation>der Wert hat die falsche Art</translation>
     </message>
     <message>
         <source>the value is out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>der Wert liegt außerhalb des Bereichs</translation>
     </message>
     <message>
         <source>there is nothing of that number</source>
-        <translation type="unfinished"></translation>
+        <translation>dazu gibt es nichts mit dieser Nummer</translation>
     </message>
     <message>
         <source>the operation does not suit the value</source>
-        <translation type="unfinished"></translation>
+        <translation>der Vorgang passt nicht zum Wert</translation>
     </message>
     <message>
         <source>the value was refused (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>der Wert wurde abgelehnt (%1)</translation>
     </message>
     <message>
         <source>%1 cannot be done: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Picture</name>
-    <message>
-        <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>its ending must name a picture format, such as .png</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht möglich: %2</translation>
     </message>
 </context>
 <context>
     <name>PictureOutput</name>
     <message>
         <source>PNG picture (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG-Bild (*.png)</translation>
     </message>
     <message>
         <source>PDF page (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF-Seite (*.pdf)</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>SVG-Zeichnung (*.svg)</translation>
     </message>
     <message>
         <source>Other pictures (*.jpg *.jpeg *.bmp)</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Bilder (*.jpg *.jpeg *.bmp)</translation>
     </message>
     <message>
         <source>%1 cannot be written: its ending must name a picture format, one of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden: die Endung muss ein Bildformat benennen, eines von %2</translation>
     </message>
     <message>
         <source>%1 cannot be drawn: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gezeichnet werden: %2</translation>
     </message>
 </context>
 <context>
     <name>Plot3D</name>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>binary</source>
-        <translation type="unfinished"></translation>
+        <translation>binär</translation>
     </message>
     <message>
         <source>Grids</source>
-        <translation type="unfinished"></translation>
+        <translation>Gitter</translation>
     </message>
     <message>
         <source>several grids</source>
-        <translation type="unfinished"></translation>
+        <translation>mehrere Gitter</translation>
     </message>
     <message>
         <source>one grid</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Gitter</translation>
     </message>
     <message>
         <source>Blanking</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausblendung</translation>
     </message>
     <message>
         <source>with blanking</source>
-        <translation type="unfinished"></translation>
+        <translation>mit Ausblendung</translation>
     </message>
     <message>
         <source>without blanking</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Ausblendung</translation>
     </message>
     <message>
         <source>Record marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Satzmarken</translation>
     </message>
     <message>
         <source>with record marks</source>
-        <translation type="unfinished"></translation>
+        <translation>mit Satzmarken</translation>
     </message>
     <message>
         <source>without record marks</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Satzmarken</translation>
     </message>
     <message>
         <source>Byte order</source>
-        <translation type="unfinished"></translation>
+        <translation>Byte-Reihenfolge</translation>
     </message>
     <message>
         <source>big endian</source>
-        <translation type="unfinished"></translation>
+        <translation>Big Endian</translation>
     </message>
     <message>
         <source>little endian</source>
-        <translation type="unfinished"></translation>
+        <translation>Little Endian</translation>
     </message>
     <message>
         <source>Precision</source>
-        <translation type="unfinished"></translation>
+        <translation>Genauigkeit</translation>
     </message>
     <message>
         <source>double precision</source>
-        <translation type="unfinished"></translation>
+        <translation>doppelte Genauigkeit</translation>
     </message>
     <message>
         <source>single precision</source>
-        <translation type="unfinished"></translation>
+        <translation>einfache Genauigkeit</translation>
     </message>
     <message>
         <source>Dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensionen</translation>
     </message>
     <message>
         <source>two dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>zwei Dimensionen</translation>
     </message>
     <message>
         <source>three dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>drei Dimensionen</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no Plot3D property; there are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Plot3D-Eigenschaft; es gibt %2</translation>
     </message>
     <message>
         <source>the Plot3D property %1 is &quot;%2&quot;, &quot;%3&quot; or &quot;auto&quot;, not &quot;%4&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>die Plot3D-Eigenschaft %1 ist „%2“, „%3“ oder „auto“, nicht „%4“</translation>
     </message>
 </context>
 <context>
     <name>Plot3DLayout</name>
     <message>
         <source>text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>binary</source>
-        <translation type="unfinished"></translation>
+        <translation>binär</translation>
     </message>
     <message>
         <source>big-endian</source>
-        <translation type="unfinished"></translation>
+        <translation>Big Endian</translation>
     </message>
     <message>
         <source>little-endian</source>
-        <translation type="unfinished"></translation>
+        <translation>Little Endian</translation>
     </message>
     <message>
         <source>double precision</source>
-        <translation type="unfinished"></translation>
+        <translation>doppelte Genauigkeit</translation>
     </message>
     <message>
         <source>single precision</source>
-        <translation type="unfinished"></translation>
+        <translation>einfache Genauigkeit</translation>
     </message>
     <message>
         <source>with record marks</source>
-        <translation type="unfinished"></translation>
+        <translation>mit Satzmarken</translation>
     </message>
     <message>
         <source>several grids</source>
-        <translation type="unfinished"></translation>
+        <translation>mehrere Gitter</translation>
     </message>
     <message>
         <source>one grid</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Gitter</translation>
     </message>
     <message>
         <source>with iblank</source>
-        <translation type="unfinished"></translation>
+        <translation>mit iblank</translation>
     </message>
     <message>
         <source>two-dimensional</source>
-        <translation type="unfinished"></translation>
+        <translation>zweidimensional</translation>
+    </message>
+</context>
+<context>
+    <name>PlotDetails</name>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Range by the data</source>
+        <translation>Bereich nach den Daten</translation>
+    </message>
+    <message>
+        <source>Lowest level</source>
+        <translation>Unterste Stufe</translation>
+    </message>
+    <message>
+        <source>Highest level</source>
+        <translation>Oberste Stufe</translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation>Bänder</translation>
+    </message>
+    <message>
+        <source>More lines at (values)</source>
+        <translation>Weitere Linien bei (Werte)</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Colors reversed</source>
+        <translation>Farben umgekehrt</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>Title of the legend</source>
+        <translation>Titel der Legende</translation>
+    </message>
+    <message>
+        <source>Legend beside the plot</source>
+        <translation>Legende neben der Darstellung</translation>
+    </message>
+    <message>
+        <source>Its left edge [%]</source>
+        <translation>Ihr linker Rand [%]</translation>
+    </message>
+    <message>
+        <source>Its upper edge [%]</source>
+        <translation>Ihr oberer Rand [%]</translation>
+    </message>
+    <message>
+        <source>Reset Levels</source>
+        <translation>Stufen zurücksetzen</translation>
+    </message>
+    <message>
+        <source>U variable</source>
+        <translation>Variable U</translation>
+    </message>
+    <message>
+        <source>V variable</source>
+        <translation>Variable V</translation>
+    </message>
+    <message>
+        <source>W variable</source>
+        <translation>Variable W</translation>
+    </message>
+    <message>
+        <source>Length by the data</source>
+        <translation>Länge nach den Daten</translation>
+    </message>
+    <message>
+        <source>Length of magnitude 1</source>
+        <translation>Länge beim Betrag 1</translation>
+    </message>
+    <message>
+        <source>Relative length</source>
+        <translation>Relative Länge</translation>
+    </message>
+    <message>
+        <source>All of the same length</source>
+        <translation>Alle gleich lang</translation>
+    </message>
+    <message>
+        <source>Head size [% of the vector]</source>
+        <translation>Größe der Spitze [% des Vektors]</translation>
+    </message>
+    <message>
+        <source>Head angle [°]</source>
+        <translation>Winkel der Spitze [°]</translation>
+    </message>
+    <message>
+        <source>Reference arrow</source>
+        <translation>Bezugspfeil</translation>
+    </message>
+    <message>
+        <source>Its magnitude (0: a round one)</source>
+        <translation>Sein Betrag (0: ein runder)</translation>
+    </message>
+    <message>
+        <source>Size variable</source>
+        <translation>Variable für die Größe</translation>
+    </message>
+    <message>
+        <source>Smallest value</source>
+        <translation>Kleinster Wert</translation>
+    </message>
+    <message>
+        <source>Largest value</source>
+        <translation>Größter Wert</translation>
+    </message>
+    <message>
+        <source>Smallest size [%]</source>
+        <translation>Kleinste Größe [%]</translation>
+    </message>
+    <message>
+        <source>Largest size [%]</source>
+        <translation>Größte Größe [%]</translation>
+    </message>
+    <message>
+        <source>Crease angle [°]</source>
+        <translation>Knickwinkel [°]</translation>
+    </message>
+    <message>
+        <source>From the right [°]</source>
+        <translation>Von rechts [°]</translation>
+    </message>
+    <message>
+        <source>From above [°]</source>
+        <translation>Von oben [°]</translation>
+    </message>
+    <message>
+        <source>Translucent surfaces</source>
+        <translation>Transparente Flächen</translation>
+    </message>
+    <message>
+        <source>Red variable</source>
+        <translation>Variable für Rot</translation>
+    </message>
+    <message>
+        <source>Green variable</source>
+        <translation>Variable für Grün</translation>
+    </message>
+    <message>
+        <source>Blue variable</source>
+        <translation>Variable für Blau</translation>
+    </message>
+    <message>
+        <source>Value blanking</source>
+        <translation>Werte ausblenden</translation>
+    </message>
+    <message>
+        <source>Takes away</source>
+        <translation>Nimmt weg</translation>
+    </message>
+    <message>
+        <source>In force</source>
+        <translation>In Kraft</translation>
+    </message>
+    <message>
+        <source>Where the variable</source>
+        <translation>Wo die Variable</translation>
+    </message>
+    <message>
+        <source>is</source>
+        <translation>ist</translation>
+    </message>
+    <message>
+        <source>a</source>
+        <translation>verglichen mit</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>Konstante</translation>
+    </message>
+    <message>
+        <source>Other variable</source>
+        <translation>Andere Variable</translation>
+    </message>
+    <message>
+        <source>Shown</source>
+        <translation>Gezeigt</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>Quer zu</translation>
+    </message>
+    <message>
+        <source>In the middle</source>
+        <translation>In der Mitte</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Lage</translation>
+    </message>
+    <message>
+        <source>Flood by</source>
+        <translation>Füllen nach</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Anzahl</translation>
+    </message>
+    <message>
+        <source>Values by the data</source>
+        <translation>Werte nach den Daten</translation>
+    </message>
+    <message>
+        <source>First value</source>
+        <translation>Erster Wert</translation>
+    </message>
+    <message>
+        <source>Second value</source>
+        <translation>Zweiter Wert</translation>
+    </message>
+    <message>
+        <source>Third value</source>
+        <translation>Dritter Wert</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Lines of the rake</source>
+        <translation>Linien des Rechens</translation>
+    </message>
+    <message>
+        <source>Rake across the data</source>
+        <translation>Rechen quer durch die Daten</translation>
+    </message>
+    <message>
+        <source>Rake from X</source>
+        <translation>Rechen von X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Rake to X</source>
+        <translation>Rechen bis X</translation>
+    </message>
+    <message>
+        <source>Points besides (X Y Z ...)</source>
+        <translation>Weitere Punkte (X Y Z ...)</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Line thickness [%]</source>
+        <translation>Linienstärke [%]</translation>
+    </message>
+    <message>
+        <source>X range by the data</source>
+        <translation>X-Bereich nach den Daten</translation>
+    </message>
+    <message>
+        <source>X minimum</source>
+        <translation>X-Minimum</translation>
+    </message>
+    <message>
+        <source>X maximum</source>
+        <translation>X-Maximum</translation>
+    </message>
+    <message>
+        <source>X title</source>
+        <translation>X-Titel</translation>
+    </message>
+    <message>
+        <source>Y range by the data</source>
+        <translation>Y-Bereich nach den Daten</translation>
+    </message>
+    <message>
+        <source>Y minimum</source>
+        <translation>Y-Minimum</translation>
+    </message>
+    <message>
+        <source>Y maximum</source>
+        <translation>Y-Maximum</translation>
+    </message>
+    <message>
+        <source>Y title</source>
+        <translation>Y-Titel</translation>
+    </message>
+    <message>
+        <source>Z range by the data</source>
+        <translation>Z-Bereich nach den Daten</translation>
+    </message>
+    <message>
+        <source>Z minimum</source>
+        <translation>Z-Minimum</translation>
+    </message>
+    <message>
+        <source>Z maximum</source>
+        <translation>Z-Maximum</translation>
+    </message>
+    <message>
+        <source>Z title</source>
+        <translation>Z-Titel</translation>
+    </message>
+    <message>
+        <source>Font size [%]</source>
+        <translation>Schriftgröße [%]</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Gitter</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skala</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Umgekehrt</translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Radius by the data</source>
+        <translation>Radius nach den Daten</translation>
+    </message>
+    <message>
+        <source>Radius at the middle</source>
+        <translation>Radius in der Mitte</translation>
+    </message>
+    <message>
+        <source>Radius at the rim</source>
+        <translation>Radius am Rand</translation>
+    </message>
+    <message>
+        <source>Angle 0</source>
+        <translation>Winkel 0</translation>
+    </message>
+    <message>
+        <source>Clockwise</source>
+        <translation>Im Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>In the corner where it hides least</source>
+        <translation>In der Ecke, wo sie am wenigsten verdeckt</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Kasten</translation>
+    </message>
+    <message>
+        <source>Title of the plot</source>
+        <translation>Titel der Darstellung</translation>
+    </message>
+    <message>
+        <source>Contour</source>
+        <translation>Kontur</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>RGB</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>Vector</source>
+        <translation>Vektoren</translation>
+    </message>
+    <message>
+        <source>Scatter</source>
+        <translation>Streuung</translation>
+    </message>
+    <message>
+        <source>Edge</source>
+        <translation>Kanten</translation>
+    </message>
+    <message>
+        <source>Lighting</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>Blanking</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Constraint</source>
+        <translation>Bedingung</translation>
+    </message>
+    <message>
+        <source>Slices</source>
+        <translation>Schnitte</translation>
+    </message>
+    <message>
+        <source>Slice</source>
+        <translation>Schnitt</translation>
+    </message>
+    <message>
+        <source>Iso-surfaces</source>
+        <translation>Isoflächen</translation>
+    </message>
+    <message>
+        <source>Streamtraces</source>
+        <translation>Stromlinien</translation>
+    </message>
+    <message>
+        <source>Axes</source>
+        <translation>Achsen</translation>
+    </message>
+    <message>
+        <source>X Axes</source>
+        <translation>X-Achsen</translation>
+    </message>
+    <message>
+        <source>Axis</source>
+        <translation>Achse</translation>
+    </message>
+    <message>
+        <source>Y Axes</source>
+        <translation>Y-Achsen</translation>
+    </message>
+    <message>
+        <source>Polar Axes</source>
+        <translation>Polarachsen</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Rahmen</translation>
     </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>note: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis: %1</translation>
     </message>
     <message>
         <source>Try &apos;corvala --help&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Versuchen Sie „corvala --help“.</translation>
     </message>
 </context>
 <context>
     <name>Prompt</name>
     <message>
         <source>Enter Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich eingeben</translation>
     </message>
     <message>
         <source>&amp;Begin</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anfang</translation>
     </message>
     <message>
         <source>&amp;End</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ende</translation>
     </message>
     <message>
         <source>&amp;Skip</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schritt</translation>
     </message>
     <message>
         <source>Enter Index Skipping</source>
-        <translation type="unfinished"></translation>
+        <translation>Indexschritte eingeben</translation>
     </message>
     <message>
         <source>&amp;I skip</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;I-Schritt</translation>
     </message>
     <message>
         <source>&amp;J skip</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;J-Schritt</translation>
     </message>
     <message>
         <source>&amp;K skip</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;K-Schritt</translation>
     </message>
     <message>
         <source>Enter the value for the line pattern length</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die Länge des Linienmusters ein</translation>
     </message>
     <message>
         <source>Line Pattern Length [%]</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge des Linienmusters [%]</translation>
     </message>
     <message>
         <source>Enter the value for the line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die Linienstärke ein</translation>
     </message>
     <message>
         <source>Line Thickness [%]</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienstärke [%]</translation>
     </message>
     <message>
         <source>Enter the size of scatter symbols in frame units</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die Größe der Streusymbole in Rahmeneinheiten ein</translation>
     </message>
     <message>
         <source>Size [%]</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe [%]</translation>
     </message>
     <message>
         <source>Enter the size of symbols in frame units</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die Größe der Symbole in Rahmeneinheiten ein</translation>
     </message>
     <message>
         <source>Enter the size of error bars in frame units</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die Größe der Fehlerbalken in Rahmeneinheiten ein</translation>
     </message>
     <message>
         <source>Enter the width of the bars in frame units</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die Breite der Balken in Rahmeneinheiten ein</translation>
     </message>
     <message>
         <source>Surface Translucency</source>
-        <translation type="unfinished"></translation>
+        <translation>Flächentransparenz</translation>
     </message>
     <message>
         <source>Enter the surface translucency percentage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die Flächentransparenz in Prozent ein.</translation>
     </message>
     <message>
         <source>Number of Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Punkte</translation>
     </message>
     <message>
         <source>Enter the number of points used to draw the curve</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die Anzahl der Punkte ein, mit denen die Kurve gezeichnet wird</translation>
     </message>
     <message>
         <source>Choose the variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie die Variable</translation>
     </message>
     <message>
         <source>Select the error bar variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie die Variable der Fehlerbalken</translation>
     </message>
     <message>
         <source>Enter the I-Index skipping</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie den Schritt des I-Index ein</translation>
     </message>
     <message>
         <source>I-Skip</source>
-        <translation type="unfinished"></translation>
+        <translation>I-Schritt</translation>
     </message>
     <message>
         <source>Enter the distance in frame units</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie den Abstand in Rahmeneinheiten ein</translation>
     </message>
     <message>
         <source>Distance [%]</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand [%]</translation>
     </message>
 </context>
 <context>
     <name>ReadMessage</name>
     <message numerus="yes">
         <source>%1 (and %n more like it)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (und %n weiterer dieser Art)</numerusform>
+            <numerusform>%1 (und %n weitere dieser Art)</numerusform>
         </translation>
     </message>
     <message>
         <source>it is longer than its header says</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist länger, als ihr Kopf sagt</translation>
     </message>
     <message>
         <source>it is cut off: %1 of %2 bytes are there</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist abgeschnitten: %1 von %2 Bytes sind da</translation>
     </message>
     <message>
         <source>%1: %2 names solutions of %3 times, but there are %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 nennt Lösungen zu %3 Zeiten, aber es gibt %4.</translation>
     </message>
     <message>
         <source>%1: the solution %2 of %3 was left out: there is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: die Lösung %2 von %3 wurde ausgelassen: es gibt sie nicht.</translation>
     </message>
     <message>
         <source>%1: it does not say which solutions belong to which times; the first ones are shown, without a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: es steht nicht darin, welche Lösungen zu welchen Zeiten gehören; die ersten werden gezeigt, ohne Zeit.</translation>
     </message>
     <message>
         <source>%1: it does not say which solutions belong to which times; they were taken in their order.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: es steht nicht darin, welche Lösungen zu welchen Zeiten gehören; sie wurden in ihrer Reihenfolge genommen.</translation>
     </message>
     <message>
         <source>it is no collection that lists files</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist keine Sammlung, die Dateien aufzählt</translation>
     </message>
     <message>
         <source>byte %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Byte %1: %2</translation>
     </message>
     <message>
         <source>a file in the list has no name, or no time</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Datei der Liste hat keinen Namen oder keine Zeit</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2</translation>
     </message>
     <message>
         <source>%1 has no end; the files that it lists were read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat kein Ende; die aufgezählten Dateien wurden gelesen.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no time</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Zeit</translation>
     </message>
     <message>
         <source>line %1: the entry names no file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: der Eintrag nennt keine Datei</translation>
     </message>
     <message>
         <source>there are no zones with points in it</source>
-        <translation type="unfinished"></translation>
+        <translation>es sind keine Zonen mit Punkten darin</translation>
     </message>
     <message>
         <source>%1 was read in another way: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde auf andere Weise gelesen: %2.</translation>
     </message>
     <message>
         <source>a solution time is not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Lösungszeit ist keine Zahl</translation>
     </message>
     <message>
         <source>%1: some times occur twice; the first is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: einige Zeiten kommen zweimal vor; die erste wird gezeigt.</translation>
     </message>
     <message>
         <source>Reading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lese %1</translation>
     </message>
     <message>
         <source>Reading %1, time %2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Lese %1, Zeit %2 von %3</translation>
     </message>
     <message>
         <source>a zone of %1 points does not fit the memory</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Zone mit %1 Punkten passt nicht in den Speicher</translation>
     </message>
     <message>
         <source>%1: the zone &quot;%2&quot; was left out: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: die Zone „%2“ wurde ausgelassen: %3.</translation>
     </message>
     <message>
         <source>1 empty block was left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 leerer Block wurde ausgelassen.</translation>
     </message>
     <message>
         <source>%1 empty blocks were left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 leere Blöcke wurden ausgelassen.</translation>
     </message>
     <message>
         <source>Arrays without a number per point or cell were left out: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder ohne eine Zahl je Punkt oder Zelle wurden ausgelassen: %1.</translation>
     </message>
     <message>
         <source>line %1 (&quot;%2&quot;) cannot be understood</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 („%2“) ist nicht zu verstehen</translation>
     </message>
     <message>
         <source>it is no EnSight case file that names a geometry</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist keine EnSight-Falldatei, die eine Geometrie nennt</translation>
     </message>
     <message>
         <source>cases of type &quot;%1&quot; cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Fälle der Art „%1“ können nicht gelesen werden</translation>
     </message>
     <message>
         <source>Line %1 of the case was left out: %2 is no field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 des Falls wurde ausgelassen: %2 ist kein Feld.</translation>
     </message>
     <message>
         <source>time set %1 has not as many times or file numbers as steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitmenge %1 hat nicht so viele Zeiten oder Dateinummern wie Schritte</translation>
     </message>
     <message>
         <source>&quot;%1&quot; stands where elements are due</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ steht, wo Elemente fällig sind</translation>
     </message>
     <message>
         <source>an element has point %1, which does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Element hat den Punkt %1, den es nicht gibt</translation>
     </message>
     <message>
         <source>%1 is no count</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist keine Anzahl</translation>
     </message>
     <message>
         <source>Time %1 was left out: %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit %1 wurde ausgelassen: %2: %3.</translation>
     </message>
     <message>
         <source>Particles were left out at time %1: %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Teilchen wurden zur Zeit %1 ausgelassen: %2: %3.</translation>
     </message>
     <message>
         <source>%1 has points, but no elements.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat Punkte, aber keine Elemente.</translation>
     </message>
     <message>
         <source>it has several values for a place</source>
-        <translation type="unfinished"></translation>
+        <translation>sie hat mehrere Werte für eine Stelle</translation>
     </message>
     <message>
         <source>there are no values of it</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Werte davon</translation>
     </message>
     <message>
         <source>%1 was left out: %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde ausgelassen: %2: %3.</translation>
     </message>
     <message>
         <source>%1 was left out at time %4: %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde zur Zeit %4 ausgelassen: %2: %3.</translation>
     </message>
     <message>
         <source>%1: what follows the values was left out: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: was auf die Werte folgt, wurde ausgelassen: %2.</translation>
     </message>
     <message>
         <source>%1 was left out in %4: %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde in %4 ausgelassen: %2: %3.</translation>
     </message>
     <message>
         <source>%1 was left out in %4 at time %5: %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde in %4 zur Zeit %5 ausgelassen: %2: %3.</translation>
     </message>
     <message>
         <source>the line &quot;%1 id&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>die Zeile „%1 id“ fehlt</translation>
     </message>
     <message>
         <source>a block with &quot;%1&quot; cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Block mit „%1“ kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>part %1 stands in it twice, or is no part</source>
-        <translation type="unfinished"></translation>
+        <translation>Teil %1 steht zweimal darin oder ist kein Teil</translation>
     </message>
     <message>
         <source>&quot;%1&quot; stands in the place of &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ steht anstelle von „%2“</translation>
     </message>
     <message>
         <source>there are no time steps in it</source>
-        <translation type="unfinished"></translation>
+        <translation>es sind keine Zeitschritte darin</translation>
     </message>
     <message>
         <source>a record at byte %1 has another length than %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Datensatz bei Byte %1 hat eine andere Länge als %2</translation>
     </message>
     <message>
         <source>%1 is no count or number of a point</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist keine Anzahl oder Punktnummer</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Zahl</translation>
     </message>
     <message>
         <source>it is cut off: after its %1 bytes more numbers are due</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist abgeschnitten: nach ihren %1 Bytes sind weitere Zahlen fällig</translation>
     </message>
     <message>
         <source>it is cut off: %1 of at least %2 bytes are there</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist abgeschnitten: %1 von mindestens %2 Bytes sind da</translation>
     </message>
     <message>
         <source>&quot;%1&quot; stands in it where nothing like that is due</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ steht darin, wo nichts dergleichen fällig ist</translation>
     </message>
     <message>
         <source>part %1 is not in the geometry</source>
-        <translation type="unfinished"></translation>
+        <translation>Teil %1 ist nicht in der Geometrie</translation>
     </message>
     <message>
         <source>%1 values of a part are missing in it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Werte eines Teils fehlen darin</translation>
     </message>
     <message>
         <source>its header is cut off or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>ihr Kopf ist abgeschnitten oder beschädigt</translation>
     </message>
     <message>
         <source>%1: %2 of %3 times were left out: it is cut off: %4 of %5 bytes are there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 von %3 Zeiten wurden ausgelassen: sie ist abgeschnitten: %4 von %5 Bytes sind da.</translation>
     </message>
     <message>
         <source>%1: the set &quot;%2&quot; was left out: what it names is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: die Menge „%2“ wurde ausgelassen: was sie nennt, gibt es nicht.</translation>
     </message>
     <message>
         <source>%1: element block %2 was left out: its elements (%3) cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: der Elementblock %2 wurde ausgelassen: seine Elemente (%3) können nicht gelesen werden.</translation>
     </message>
     <message>
         <source>%1 does not have time %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat die Zeit %2 nicht.</translation>
     </message>
     <message>
         <source>%1 was left out: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde ausgelassen: %2.</translation>
     </message>
     <message>
         <source>it changed while it was read</source>
-        <translation type="unfinished"></translation>
+        <translation>sie hat sich beim Lesen geändert</translation>
     </message>
     <message>
         <source>it is a folder that holds no data files</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist ein Ordner ohne Datendateien</translation>
     </message>
     <message>
         <source>it is a folder that holds several data files; open some of them: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist ein Ordner mit mehreren Datendateien; öffnen Sie einige davon: %1</translation>
     </message>
     <message>
         <source>%1 was left out: there is no mesh in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde ausgelassen: es ist kein Netz darin.</translation>
     </message>
     <message>
         <source>%1 was left out: %2 does not have it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde ausgelassen: %2 hat es nicht.</translation>
     </message>
     <message>
         <source>%1 was left out: only %2 has it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde ausgelassen: nur %2 hat es.</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist leer</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine solche Datei</translation>
     </message>
     <message>
         <source>%1 has the files of several processors in one (collated), which cannot be read; reconstruct the case, or write it uncollated</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat die Dateien mehrerer Prozessoren in einer (collated), was nicht gelesen werden kann; setzen Sie den Fall zusammen oder schreiben Sie ihn uncollated</translation>
     </message>
     <message>
         <source>it is cut off after %1 bytes: more should follow</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist nach %1 Bytes abgeschnitten: es müsste mehr folgen</translation>
     </message>
     <message>
         <source>no values follow</source>
-        <translation type="unfinished"></translation>
+        <translation>es folgen keine Werte</translation>
     </message>
     <message>
         <source>more follows than it should hold</source>
-        <translation type="unfinished"></translation>
+        <translation>es folgt mehr, als sie enthalten sollte</translation>
     </message>
     <message>
         <source>it does not begin with &quot;# vtk DataFile&quot;, as legacy VTK files do</source>
-        <translation type="unfinished"></translation>
+        <translation>sie beginnt nicht mit „# vtk DataFile“ wie alte VTK-Dateien</translation>
     </message>
     <message>
         <source>there is no geometry in it (no DATASET line, or an unknown kind of data set)</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist keine Geometrie darin (keine DATASET-Zeile oder eine unbekannte Art von Datensatz)</translation>
     </message>
     <message>
         <source>it needs more than %1 GiB of memory, which is the limit</source>
-        <translation type="unfinished"></translation>
+        <translation>sie braucht mehr als %1 GiB Speicher, was die Grenze ist</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist ein Ordner</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>files that end in &quot;%1&quot; are not known</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien mit der Endung „%1“ sind nicht bekannt</translation>
     </message>
     <message>
         <source>Opening %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffne %1</translation>
     </message>
     <message>
         <source>%1 was left out at time %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde zur Zeit %2 ausgelassen: %3.</translation>
     </message>
     <message>
         <source>%1: the values of %2 were left out: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: die Werte von %2 wurden ausgelassen: %3.</translation>
     </message>
     <message>
         <source>it needs more memory than the limit, or is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>sie braucht mehr Speicher, als die Grenze erlaubt, oder ist beschädigt</translation>
     </message>
     <message>
         <source>%1: what cannot be read of it was left out: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: was davon nicht gelesen werden kann, wurde ausgelassen: %2.</translation>
     </message>
     <message>
         <source>it is of an unknown kind</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist von unbekannter Art</translation>
     </message>
     <message>
         <source>it names itself as a part</source>
-        <translation type="unfinished"></translation>
+        <translation>sie nennt sich selbst als Teil</translation>
     </message>
     <message>
         <source>it is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist abgeschnitten</translation>
     </message>
     <message>
         <source>it is a Plot3D solution or function file, and no grid file of that name is beside it</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist eine Plot3D-Lösungs- oder Funktionsdatei, und daneben liegt keine Gitterdatei dieses Namens</translation>
     </message>
     <message>
         <source>there is something in the text that is no number</source>
-        <translation type="unfinished"></translation>
+        <translation>im Text steht etwas, das keine Zahl ist</translation>
     </message>
     <message>
         <source>it has %1 numbers, which are more than fit</source>
-        <translation type="unfinished"></translation>
+        <translation>sie hat %1 Zahlen, das sind mehr, als passen</translation>
     </message>
     <message>
         <source>its size fits no Plot3D grid (or it is cut off, or the layout that was chosen is not the right one)</source>
-        <translation type="unfinished"></translation>
+        <translation>ihre Größe passt zu keinem Plot3D-Gitter (oder sie ist abgeschnitten, oder der gewählte Aufbau ist nicht der richtige)</translation>
     </message>
     <message>
         <source>%1 fits more than one Plot3D layout; it was read as: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 passt zu mehr als einem Plot3D-Aufbau; gelesen wurde es als: %2.</translation>
     </message>
     <message>
         <source>a solution of OVERFLOW without record marks cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Lösung von OVERFLOW ohne Satzmarken kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>it does not belong to the grid file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>sie gehört nicht zur Gitterdatei %1</translation>
     </message>
     <message>
         <source>%1 was left out: a solution of OVERFLOW without record marks cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde ausgelassen: eine Lösung von OVERFLOW ohne Satzmarken kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>%1 was left out: it does not belong to the grid file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde ausgelassen: sie gehört nicht zur Gitterdatei.</translation>
     </message>
     <message>
         <source>it lists no files</source>
-        <translation type="unfinished"></translation>
+        <translation>sie zählt keine Dateien auf</translation>
     </message>
     <message>
         <source>it is damaged: it holds more points or faces than it announces</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist beschädigt: sie enthält mehr Punkte oder Flächen, als sie ankündigt</translation>
     </message>
     <message>
         <source>it is cut off after %1 bytes: more points or faces should follow</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist nach %1 Bytes abgeschnitten: es müssten mehr Punkte oder Flächen folgen</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no type of numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Art von Zahlen</translation>
     </message>
     <message>
         <source>no temporary files can be written in %1; its disk may be full</source>
-        <translation type="unfinished"></translation>
+        <translation>in %1 können keine temporären Dateien geschrieben werden; der Datenträger ist vielleicht voll</translation>
     </message>
     <message>
         <source>it is cut off after %1 bytes: there is no &quot;endsolid&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist nach %1 Bytes abgeschnitten: es gibt kein „endsolid“</translation>
     </message>
     <message>
         <source>it is damaged: %1 bytes are there instead of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist beschädigt: %1 Bytes sind da statt %2</translation>
     </message>
     <message>
         <source>the numbers of its %1 columns in %2 rows or more need %3 GiB of memory, and %4 GiB is the limit; columns that are left out need none</source>
-        <translation type="unfinished"></translation>
+        <translation>die Zahlen ihrer %1 Spalten in mindestens %2 Zeilen brauchen %3 GiB Speicher, und %4 GiB sind die Grenze; ausgelassene Spalten brauchen keinen</translation>
     </message>
     <message>
         <source>it has more than %1 rows, which is the limit</source>
-        <translation type="unfinished"></translation>
+        <translation>sie hat mehr als %1 Zeilen, was die Grenze ist</translation>
     </message>
     <message>
         <source>its numbers need %1 GiB in the folder for temporary files, %2, where %3 GiB are free</source>
-        <translation type="unfinished"></translation>
+        <translation>ihre Zahlen brauchen %1 GiB im Ordner für temporäre Dateien, %2, wo %3 GiB frei sind</translation>
     </message>
     <message>
         <source>it has %1 columns, which are more than %2</source>
-        <translation type="unfinished"></translation>
+        <translation>sie hat %1 Spalten, das sind mehr als %2</translation>
     </message>
     <message>
         <source>all its columns are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>alle ihre Spalten sind ausgelassen</translation>
     </message>
     <message>
         <source>%1 can be meant in several ways; it was read as: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann auf mehrere Arten gemeint sein; gelesen wurde es als: %2.</translation>
     </message>
     <message>
         <source>%1: lines above the table were left out: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Zeilen über der Tabelle wurden ausgelassen: %2.</translation>
     </message>
     <message>
         <source>it has no rows of equally many fields, so it is no table, or one that is written in an unusual way</source>
-        <translation type="unfinished"></translation>
+        <translation>sie hat keine Zeilen mit gleich vielen Feldern, ist also keine Tabelle oder eine, die ungewöhnlich geschrieben ist</translation>
     </message>
     <message>
         <source>there are no rows of data in it</source>
-        <translation type="unfinished"></translation>
+        <translation>es sind keine Datenzeilen darin</translation>
     </message>
     <message>
         <source>%1 of its %2 rows are bad. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ihrer %2 Zeilen sind fehlerhaft. %3</translation>
     </message>
     <message>
         <source>%1: bad rows were left out: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: fehlerhafte Zeilen wurden ausgelassen: %2.</translation>
     </message>
     <message>
         <source>%1: columns of words are numbered: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Spalten mit Wörtern sind nummeriert: %2.</translation>
     </message>
     <message>
         <source>%1: columns of text were left out: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Spalten mit Text wurden ausgelassen: %2.</translation>
     </message>
     <message>
         <source>%1: numbers that often stand for missing values were read as numbers: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Zahlen, die oft für fehlende Werte stehen, wurden als Zahlen gelesen: %2.</translation>
     </message>
     <message>
         <source>line %1, column %2: a quote is not closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1, Spalte %2: ein Anführungszeichen ist nicht geschlossen</translation>
     </message>
     <message>
         <source>line %1, column %2: the row has %3 fields, not %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1, Spalte %2: die Zeile hat %3 Felder, nicht %4</translation>
     </message>
     <message>
         <source>line %1, column %2 (%3): &quot;%4&quot; is no number</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1, Spalte %2 (%3): „%4“ ist keine Zahl</translation>
     </message>
     <message>
         <source>line %1, column %2 (%3): &quot;%4&quot; is no time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1, Spalte %2 (%3): „%4“ ist keine Zeit</translation>
     </message>
     <message>
         <source>its data cannot begin in line %1, since it has %2 lines</source>
-        <translation type="unfinished"></translation>
+        <translation>ihre Daten können nicht in Zeile %1 beginnen, denn sie hat %2 Zeilen</translation>
     </message>
     <message>
         <source>it is no text</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist kein Text</translation>
     </message>
     <message>
         <source>line %1 is longer than %2 MiB, so it is no table</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 ist länger als %2 MiB, also ist sie keine Tabelle</translation>
     </message>
     <message>
         <source>it, or a file that it names, is cut off or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>sie, oder eine Datei, die sie nennt, ist abgeschnitten oder beschädigt</translation>
     </message>
     <message>
         <source>it is damaged: what it claims to hold takes at least %1 bytes, of which %2 are there</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist beschädigt: was sie zu enthalten behauptet, nimmt mindestens %1 Bytes ein, von denen %2 da sind</translation>
     </message>
     <message>
         <source>its pieces do not fill its grid: %1 points lack</source>
-        <translation type="unfinished"></translation>
+        <translation>ihre Stücke füllen ihr Gitter nicht: %1 Punkte fehlen</translation>
     </message>
     <message>
         <source>it is cut off after %1 bytes: the end of the XML is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist nach %1 Bytes abgeschnitten: das Ende des XML fehlt</translation>
     </message>
     <message>
         <source>it is no VTK XML file of a kind that is known</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist keine VTK-XML-Datei einer bekannten Art</translation>
     </message>
     <message>
         <source>its blocks are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>ihre Blöcke sind zu tief verschachtelt</translation>
     </message>
     <message>
         <source>coordinates are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Koordinaten fehlen</translation>
     </message>
     <message>
         <source>a cell is of an unknown kind, or its points do not exist</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Script</name>
-    <message>
-        <source>a file name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>an object</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;end&quot; must be &quot;outside&quot; or a key such as &quot;Return&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;type&quot; and &quot;choose&quot; exclude each other</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the editor has no entry %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the editor has no list</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the editor stays open</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the editor closes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the cell has no check box</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;choose&quot; and &quot;color&quot; exclude each other</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the cell has no menu</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>an editor opened</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>no editor opened</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is no value for a cell</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the table answered %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the dialog has no &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the dialog is not open</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the dialog shows no table</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the dialog has no button &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the table has no column %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the table has no map %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the table does not answer %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the cell cannot be brought into view</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;dialog&quot; must be &quot;open&quot;, &quot;close&quot; or &quot;destroy&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the dialog has no tab &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the tab &quot;%1&quot; cannot be clicked</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no set of maps</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the button &quot;%1&quot; is disabled</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the %1 button of the pattern is not available</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the dialog has no pattern field</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;apply&quot; must be &quot;names&quot;, &quot;groups&quot;, &quot;clear&quot;, &quot;Return&quot; or null</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>there is no key &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the column has the width %1 after dragging, not %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;map&quot; is missing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it is no value of a map</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>there is no value %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is %2, not %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; must be 1 or more</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>there is nothing to undo</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>there is nothing to redo</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is no tab number</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of map %2 in %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of column %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>no menu was opened yet</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the menu is %1, not %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>no prompt was opened yet</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of the prompt</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the number of refreshes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>unknown key &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>selected is &quot;%1&quot;, not &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>buttons</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 cannot be read as an image</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the images differ in size: %1 by %2 and %3 by %4</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;of&quot; must be &quot;dialog&quot;, &quot;canvas&quot; or &quot;window&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the images differ in %1 % of their pixels only</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the images differ in %1 % of their pixels</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;choose&quot; must be a text, a position or null</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the menu has no entry %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the menu entry %1 is disabled</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the menu has no colour chooser</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the colour chooser does not offer colour %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>cannot be read: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>replies are left that no prompt asked for: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is no reply to a prompt</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;answers&quot; must be a list of replies</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the prompt &quot;%1&quot; cannot be accepted as it stands</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the prompt &quot;%1&quot; has no entry &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a check box takes true or false, not %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the prompt &quot;%1&quot; takes no value</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the prompt &quot;%1&quot; has %2 fields, not %3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the list of the prompt &quot;%1&quot; has no position %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the prompt &quot;%1&quot; has no list</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the prompt &quot;%1&quot; accepts %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>no reply is queued for the prompt &quot;%1&quot; (%2)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the prompt &quot;%1&quot; did not take %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>no window is open beside the dialog</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the window has no field &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the list has no entry &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the window has no button &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>not valid JSON: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the key &quot;%1&quot; stands twice</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>not a JSON object</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>there is no frame</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>what was dropped has changed the document</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>line %1 of &quot;during&quot;: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>what is open was not dropped</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>what was open is closed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>two verbs in one line: &quot;%1&quot; and &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>unknown verb &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the line holds no verb</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no key &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;during&quot; must be a list of lines</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a menu opened that the script does not expect</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>an editor opened that the script does not expect</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a prompt opened that the script does not expect</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Zelle ist von unbekannter Art, oder ihre Punkte gibt es nicht</translation>
     </message>
 </context>
 <context>
     <name>StyleValues</name>
     <message>
         <source>Slice</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitt</translation>
     </message>
     <message>
         <source>Iso-surfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Isoflächen</translation>
     </message>
     <message>
         <source>Streamtraces</source>
-        <translation type="unfinished"></translation>
+        <translation>Stromlinien</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>3D field</source>
-        <translation type="unfinished"></translation>
+        <translation>3D-Feld</translation>
     </message>
     <message>
         <source>2D field</source>
-        <translation type="unfinished"></translation>
+        <translation>2D-Feld</translation>
     </message>
     <message>
         <source>XY line</source>
-        <translation type="unfinished"></translation>
+        <translation>XY-Linien</translation>
     </message>
     <message>
         <source>Annotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmerkung</translation>
     </message>
     <message>
         <source>Polar line</source>
-        <translation type="unfinished"></translation>
+        <translation>Polarlinien</translation>
     </message>
     <message>
         <source>Wire frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Drahtgitter</translation>
     </message>
     <message>
         <source>Overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>Überlagert</translation>
     </message>
     <message>
         <source>Hidden line</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdeckte Linien</translation>
     </message>
     <message>
         <source>Solid</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchgezogen</translation>
     </message>
     <message>
         <source>Dashed</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestrichelt</translation>
     </message>
     <message>
         <source>Dash dot</source>
-        <translation type="unfinished"></translation>
+        <translation>Strich Punkt</translation>
     </message>
     <message>
         <source>Dotted</source>
-        <translation type="unfinished"></translation>
+        <translation>Gepunktet</translation>
     </message>
     <message>
         <source>Long dash</source>
-        <translation type="unfinished"></translation>
+        <translation>Lange Striche</translation>
     </message>
     <message>
         <source>Dash dot dot</source>
-        <translation type="unfinished"></translation>
+        <translation>Strich Punkt Punkt</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Linien</translation>
     </message>
     <message>
         <source>Flood</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefüllt</translation>
     </message>
     <message>
         <source>Lines and flood</source>
-        <translation type="unfinished"></translation>
+        <translation>Linien und gefüllt</translation>
     </message>
     <message>
         <source>Average cell flood</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellen nach Mittelwert</translation>
     </message>
     <message>
         <source>Primary value flood</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellen nach erstem Wert</translation>
     </message>
     <message>
         <source>RGB</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB</translation>
     </message>
     <message>
         <source>Tail at point</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende am Punkt</translation>
     </message>
     <message>
         <source>Head at point</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitze am Punkt</translation>
     </message>
     <message>
         <source>Anchor at midpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte am Punkt</translation>
     </message>
     <message>
         <source>Head only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Spitze</translation>
     </message>
     <message>
         <source>Plain</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfach</translation>
     </message>
     <message>
         <source>Filled</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefüllt</translation>
     </message>
     <message>
         <source>Hollow</source>
-        <translation type="unfinished"></translation>
+        <translation>Hohl</translation>
     </message>
     <message>
         <source>Square</source>
-        <translation type="unfinished"></translation>
+        <translation>Quadrat</translation>
     </message>
     <message>
         <source>Delta</source>
-        <translation type="unfinished"></translation>
+        <translation>Delta</translation>
     </message>
     <message>
         <source>Gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Gradient</translation>
     </message>
     <message>
         <source>Right triangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Dreieck rechts</translation>
     </message>
     <message>
         <source>Left triangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Dreieck links</translation>
     </message>
     <message>
         <source>Diamond</source>
-        <translation type="unfinished"></translation>
+        <translation>Raute</translation>
     </message>
     <message>
         <source>Circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreis</translation>
     </message>
     <message>
         <source>Cube</source>
-        <translation type="unfinished"></translation>
+        <translation>Würfel</translation>
     </message>
     <message>
         <source>Sphere</source>
-        <translation type="unfinished"></translation>
+        <translation>Kugel</translation>
     </message>
     <message>
         <source>Octahedron</source>
-        <translation type="unfinished"></translation>
+        <translation>Oktaeder</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkt</translation>
     </message>
     <message>
         <source>PieChart</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreisdiagramm</translation>
     </message>
     <message>
         <source>LineArt</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienzeichnung</translation>
     </message>
     <message>
         <source>Character</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichen</translation>
     </message>
     <message>
         <source>Greek</source>
-        <translation type="unfinished"></translation>
+        <translation>Griechisch</translation>
     </message>
     <message>
         <source>Math</source>
-        <translation type="unfinished"></translation>
+        <translation>Mathematisch</translation>
     </message>
     <message>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer</translation>
     </message>
     <message>
         <source>Specific color</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestimmte Farbe</translation>
     </message>
     <message>
         <source>Line color</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienfarbe</translation>
     </message>
     <message>
         <source>Background color</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrundfarbe</translation>
     </message>
     <message>
         <source>Borders</source>
-        <translation type="unfinished"></translation>
+        <translation>Ränder</translation>
     </message>
     <message>
         <source>Creases</source>
-        <translation type="unfinished"></translation>
+        <translation>Knicke</translation>
     </message>
     <message>
         <source>Borders and creases</source>
-        <translation type="unfinished"></translation>
+        <translation>Ränder und Knicke</translation>
     </message>
     <message>
         <source>Min only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Minimum</translation>
     </message>
     <message>
         <source>Max only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Maximum</translation>
     </message>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Beide</translation>
     </message>
     <message>
         <source>Surface nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten der Oberfläche</translation>
     </message>
     <message>
         <source>All nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Knoten</translation>
     </message>
     <message>
         <source>Surface cell centers</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellmitten der Oberfläche</translation>
     </message>
     <message>
         <source>All cell centers</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Zellmitten</translation>
     </message>
     <message>
         <source>All connected nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle verbundenen Knoten</translation>
     </message>
     <message>
         <source>Boundary cell faces</source>
-        <translation type="unfinished"></translation>
+        <translation>Randflächen</translation>
     </message>
     <message>
         <source>Exposed cell faces</source>
-        <translation type="unfinished"></translation>
+        <translation>Freiliegende Flächen</translation>
     </message>
     <message>
         <source>I-Planes</source>
-        <translation type="unfinished"></translation>
+        <translation>I-Ebenen</translation>
     </message>
     <message>
         <source>J-Planes</source>
-        <translation type="unfinished"></translation>
+        <translation>J-Ebenen</translation>
     </message>
     <message>
         <source>K-Planes</source>
-        <translation type="unfinished"></translation>
+        <translation>K-Ebenen</translation>
     </message>
     <message>
         <source>IJ-Planes</source>
-        <translation type="unfinished"></translation>
+        <translation>IJ-Ebenen</translation>
     </message>
     <message>
         <source>JK-Planes</source>
-        <translation type="unfinished"></translation>
+        <translation>JK-Ebenen</translation>
     </message>
     <message>
         <source>IK-Planes</source>
-        <translation type="unfinished"></translation>
+        <translation>IK-Ebenen</translation>
     </message>
     <message>
         <source>IJK-Planes</source>
-        <translation type="unfinished"></translation>
+        <translation>IJK-Ebenen</translation>
     </message>
     <message>
         <source>All surfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Flächen</translation>
     </message>
     <message>
         <source>Paneled</source>
-        <translation type="unfinished"></translation>
+        <translation>Flach</translation>
     </message>
     <message>
         <source>Gouraud</source>
-        <translation type="unfinished"></translation>
+        <translation>Gouraud</translation>
     </message>
     <message>
         <source>Viridis</source>
-        <translation type="unfinished"></translation>
+        <translation>Viridis</translation>
     </message>
     <message>
         <source>Plasma</source>
-        <translation type="unfinished"></translation>
+        <translation>Plasma</translation>
     </message>
     <message>
         <source>Inferno</source>
-        <translation type="unfinished"></translation>
+        <translation>Inferno</translation>
     </message>
     <message>
         <source>Magma</source>
-        <translation type="unfinished"></translation>
+        <translation>Magma</translation>
     </message>
     <message>
         <source>Cividis</source>
-        <translation type="unfinished"></translation>
+        <translation>Cividis</translation>
     </message>
     <message>
         <source>Turbo</source>
-        <translation type="unfinished"></translation>
+        <translation>Turbo</translation>
     </message>
     <message>
         <source>Rainbow</source>
-        <translation type="unfinished"></translation>
+        <translation>Regenbogen</translation>
     </message>
     <message>
         <source>Cool to warm</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalt nach warm</translation>
     </message>
     <message>
         <source>Blue, white, red</source>
-        <translation type="unfinished"></translation>
+        <translation>Blau, weiß, rot</translation>
     </message>
     <message>
         <source>Black body</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarzer Körper</translation>
     </message>
     <message>
         <source>Gray</source>
-        <translation type="unfinished"></translation>
+        <translation>Grau</translation>
     </message>
     <message>
         <source>Terrain</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelände</translation>
     </message>
     <message>
         <source>Cells at all of whose points it holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellen, an deren Punkten sie überall gilt</translation>
     </message>
     <message>
         <source>Cells at any of whose points it holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellen, an deren Punkten sie irgendwo gilt</translation>
     </message>
     <message>
         <source>Cells at whose first point it holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellen, an deren erstem Punkt sie gilt</translation>
     </message>
     <message>
         <source>Precise cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Genauer Schnitt</translation>
     </message>
     <message>
         <source>at most</source>
-        <translation type="unfinished"></translation>
+        <translation>höchstens</translation>
     </message>
     <message>
         <source>at least</source>
-        <translation type="unfinished"></translation>
+        <translation>mindestens</translation>
     </message>
     <message>
         <source>less than</source>
-        <translation type="unfinished"></translation>
+        <translation>kleiner als</translation>
     </message>
     <message>
         <source>greater than</source>
-        <translation type="unfinished"></translation>
+        <translation>größer als</translation>
     </message>
     <message>
         <source>equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>gleich</translation>
     </message>
     <message>
         <source>not equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>ungleich</translation>
     </message>
     <message>
         <source>Constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Konstante</translation>
     </message>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>X</source>
-        <translation type="unfinished"></translation>
+        <translation>X</translation>
     </message>
     <message>
         <source>Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Y</translation>
     </message>
     <message>
         <source>Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Z</translation>
     </message>
     <message>
         <source>I</source>
-        <translation type="unfinished"></translation>
+        <translation>I</translation>
     </message>
     <message>
         <source>J</source>
-        <translation type="unfinished"></translation>
+        <translation>J</translation>
     </message>
     <message>
         <source>K</source>
-        <translation type="unfinished"></translation>
+        <translation>K</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorwärts</translation>
     </message>
     <message>
         <source>Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückwärts</translation>
     </message>
     <message>
         <source>Always</source>
-        <translation type="unfinished"></translation>
+        <translation>Immer</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch</translation>
     </message>
     <message>
         <source>By independent variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach unabhängiger Variablen</translation>
     </message>
     <message>
         <source>By dependent variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach abhängiger Variablen</translation>
     </message>
     <message>
         <source>By specific variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach bestimmter Variablen</translation>
     </message>
     <message>
         <source>y=f(x)</source>
-        <translation type="unfinished"></translation>
+        <translation>y=f(x)</translation>
     </message>
     <message>
         <source>x=f(y)</source>
-        <translation type="unfinished"></translation>
+        <translation>x=f(y)</translation>
     </message>
     <message>
         <source>Line segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Geradenstücke</translation>
     </message>
     <message>
         <source>Polynomial fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Polynomausgleich</translation>
     </message>
     <message>
         <source>Exponential fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Exponentialausgleich</translation>
     </message>
     <message>
         <source>Power fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Potenzausgleich</translation>
     </message>
     <message>
         <source>Spline</source>
-        <translation type="unfinished"></translation>
+        <translation>Spline</translation>
     </message>
     <message>
         <source>Parametric spline</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametrischer Spline</translation>
     </message>
     <message>
         <source>Extended fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterter Ausgleich</translation>
     </message>
     <message>
         <source>Smoothing spline</source>
-        <translation type="unfinished"></translation>
+        <translation>Glättungsspline</translation>
     </message>
     <message>
         <source>Gaussian</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauß</translation>
     </message>
     <message>
         <source>By index</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Index</translation>
     </message>
     <message>
         <source>By distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Abstand</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagerecht</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkrecht</translation>
     </message>
     <message>
         <source>Cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreuz</translation>
     </message>
     <message>
         <source>I-Varying</source>
-        <translation type="unfinished"></translation>
+        <translation>I läuft</translation>
     </message>
     <message>
         <source>J-Varying</source>
-        <translation type="unfinished"></translation>
+        <translation>J läuft</translation>
     </message>
     <message>
         <source>K-Varying</source>
-        <translation type="unfinished"></translation>
+        <translation>K läuft</translation>
     </message>
     <message>
         <source>Linear</source>
-        <translation type="unfinished"></translation>
+        <translation>Linear</translation>
     </message>
     <message>
         <source>Logarithmic</source>
-        <translation type="unfinished"></translation>
+        <translation>Logarithmisch</translation>
     </message>
     <message>
         <source>In turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Abwechselnd</translation>
     </message>
     <message>
         <source>Below or left</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten oder links</translation>
     </message>
     <message>
         <source>Above or right</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben oder rechts</translation>
     </message>
     <message>
         <source>To the right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben</translation>
     </message>
     <message>
         <source>To the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Below</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten</translation>
     </message>
     <message>
         <source>Scatter size variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable der Symbolgröße</translation>
     </message>
     <message>
         <source>Scatter sizes by the range of values</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbolgrößen nach dem Wertebereich</translation>
     </message>
     <message>
         <source>Scatter size range minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinster Wert der Symbolgröße</translation>
     </message>
     <message>
         <source>Scatter size range maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Größter Wert der Symbolgröße</translation>
     </message>
     <message>
         <source>Smallest symbol size</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinste Symbolgröße</translation>
     </message>
     <message>
         <source>Largest symbol size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Symbolgröße</translation>
     </message>
     <message>
         <source>Red channel variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable für Rot</translation>
     </message>
     <message>
         <source>Green channel variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable für Grün</translation>
     </message>
     <message>
         <source>Blue channel variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable für Blau</translation>
     </message>
     <message>
         <source>U variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable U</translation>
     </message>
     <message>
         <source>V variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable V</translation>
     </message>
     <message>
         <source>W variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable W</translation>
     </message>
     <message>
         <source>Vector length by the data</source>
-        <translation type="unfinished"></translation>
+        <translation>Vektorlänge nach den Daten</translation>
     </message>
     <message>
         <source>Length of a vector of magnitude 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge eines Vektors vom Betrag 1</translation>
     </message>
     <message>
         <source>Relative vector length</source>
-        <translation type="unfinished"></translation>
+        <translation>Relative Vektorlänge</translation>
     </message>
     <message>
         <source>Vectors of the same length</source>
-        <translation type="unfinished"></translation>
+        <translation>Gleich lange Vektoren</translation>
     </message>
     <message>
         <source>Arrowhead size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe der Pfeilspitze</translation>
     </message>
     <message>
         <source>Arrowhead angle in degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Winkel der Pfeilspitze in Grad</translation>
     </message>
     <message>
         <source>Reference arrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Bezugspfeil</translation>
     </message>
     <message>
         <source>Magnitude of the reference arrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Betrag des Bezugspfeils</translation>
     </message>
     <message>
         <source>Contour variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Konturvariable</translation>
     </message>
     <message>
         <source>Contour levels over the range of values</source>
-        <translation type="unfinished"></translation>
+        <translation>Konturstufen über den Wertebereich</translation>
     </message>
     <message>
         <source>Lowest contour level</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterste Konturstufe</translation>
     </message>
     <message>
         <source>Highest contour level</source>
-        <translation type="unfinished"></translation>
+        <translation>Oberste Konturstufe</translation>
     </message>
     <message>
         <source>Number of contour bands, 0 by the data</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Konturbänder, 0 nach den Daten</translation>
     </message>
     <message>
         <source>Contour lines at more values</source>
-        <translation type="unfinished"></translation>
+        <translation>Konturlinien bei weiteren Werten</translation>
     </message>
     <message>
         <source>Color map</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbtabelle</translation>
     </message>
     <message>
         <source>Reversed color map</source>
-        <translation type="unfinished"></translation>
+        <translation>Umgekehrte Farbtabelle</translation>
     </message>
     <message>
         <source>Contour legend</source>
-        <translation type="unfinished"></translation>
+        <translation>Konturlegende</translation>
     </message>
     <message>
         <source>Title of the contour legend</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel der Konturlegende</translation>
     </message>
     <message>
         <source>Contour legend beside the plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Konturlegende neben der Darstellung</translation>
     </message>
     <message>
         <source>Contour legend from the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Konturlegende von links</translation>
     </message>
     <message>
         <source>Contour legend from above</source>
-        <translation type="unfinished"></translation>
+        <translation>Konturlegende von oben</translation>
     </message>
     <message>
         <source>Blanking constraint</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedingung der Ausblendung</translation>
     </message>
     <message>
         <source>Blanking variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable der Ausblendung</translation>
     </message>
     <message>
         <source>Blanking relation</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleich der Ausblendung</translation>
     </message>
     <message>
         <source>Blanking compares with</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausblendung vergleicht mit</translation>
     </message>
     <message>
         <source>Blanking constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Konstante der Ausblendung</translation>
     </message>
     <message>
         <source>Blanking compared variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichsvariable der Ausblendung</translation>
     </message>
     <message>
         <source>Value blanking</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausblendung nach Werten</translation>
     </message>
     <message>
         <source>Blanked cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgeblendete Zellen</translation>
     </message>
     <message>
         <source>Slice plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnittebene</translation>
     </message>
     <message>
         <source>Slice in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitt in der Mitte</translation>
     </message>
     <message>
         <source>Slice position</source>
-        <translation type="unfinished"></translation>
+        <translation>Lage des Schnitts</translation>
     </message>
     <message>
         <source>Slice flood by</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitt gefüllt nach</translation>
     </message>
     <message>
         <source>Iso-surface variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable der Isoflächen</translation>
     </message>
     <message>
         <source>Number of iso-surfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Isoflächen</translation>
     </message>
     <message>
         <source>Iso-surfaces by the range of values</source>
-        <translation type="unfinished"></translation>
+        <translation>Isoflächen nach dem Wertebereich</translation>
     </message>
     <message>
         <source>First iso-surface value</source>
-        <translation type="unfinished"></translation>
+        <translation>Erster Wert der Isoflächen</translation>
     </message>
     <message>
         <source>Second iso-surface value</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweiter Wert der Isoflächen</translation>
     </message>
     <message>
         <source>Third iso-surface value</source>
-        <translation type="unfinished"></translation>
+        <translation>Dritter Wert der Isoflächen</translation>
     </message>
     <message>
         <source>Iso-surface flood by</source>
-        <translation type="unfinished"></translation>
+        <translation>Isoflächen gefüllt nach</translation>
     </message>
     <message>
         <source>Streamtrace direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Richtung der Stromlinien</translation>
     </message>
     <message>
         <source>Streamtraces of the rake</source>
-        <translation type="unfinished"></translation>
+        <translation>Stromlinien des Rechens</translation>
     </message>
     <message>
         <source>Rake across the data</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechen quer durch die Daten</translation>
     </message>
     <message>
         <source>Rake start X</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang des Rechens X</translation>
     </message>
     <message>
         <source>Rake start Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang des Rechens Y</translation>
     </message>
     <message>
         <source>Rake start Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang des Rechens Z</translation>
     </message>
     <message>
         <source>Rake end X</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende des Rechens X</translation>
     </message>
     <message>
         <source>Rake end Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende des Rechens Y</translation>
     </message>
     <message>
         <source>Rake end Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende des Rechens Z</translation>
     </message>
     <message>
         <source>Points of streamtraces</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte der Stromlinien</translation>
     </message>
     <message>
         <source>Streamtrace color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Stromlinien</translation>
     </message>
     <message>
         <source>Streamtrace line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienstärke der Stromlinien</translation>
     </message>
     <message>
         <source>Light from the right in degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht von rechts in Grad</translation>
     </message>
     <message>
         <source>Light from above in degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht von oben in Grad</translation>
     </message>
     <message>
         <source>Crease angle in degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Knickwinkel in Grad</translation>
     </message>
     <message>
         <source>X axis by the data</source>
-        <translation type="unfinished"></translation>
+        <translation>X-Achse nach den Daten</translation>
     </message>
     <message>
         <source>X axis minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum der X-Achse</translation>
     </message>
     <message>
         <source>X axis maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum der X-Achse</translation>
     </message>
     <message>
         <source>X axis title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel der X-Achse</translation>
     </message>
     <message>
         <source>Y axis by the data</source>
-        <translation type="unfinished"></translation>
+        <translation>Y-Achse nach den Daten</translation>
     </message>
     <message>
         <source>Y axis minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum der Y-Achse</translation>
     </message>
     <message>
         <source>Y axis maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum der Y-Achse</translation>
     </message>
     <message>
         <source>Y axis title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel der Y-Achse</translation>
     </message>
     <message>
         <source>Z axis by the data</source>
-        <translation type="unfinished"></translation>
+        <translation>Z-Achse nach den Daten</translation>
     </message>
     <message>
         <source>Z axis minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum der Z-Achse</translation>
     </message>
     <message>
         <source>Z axis maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum der Z-Achse</translation>
     </message>
     <message>
         <source>Z axis title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel der Z-Achse</translation>
     </message>
     <message>
         <source>Font size of axes and legends</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriftgröße der Achsen und Legenden</translation>
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Gitter</translation>
     </message>
     <message>
         <source>Show mesh</source>
-        <translation type="unfinished"></translation>
+        <translation>Netz zeigen</translation>
     </message>
     <message>
         <source>Mesh type</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzart</translation>
     </message>
     <message>
         <source>Mesh color</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzfarbe</translation>
     </message>
     <message>
         <source>Mesh line pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienmuster des Netzes</translation>
     </message>
     <message>
         <source>Mesh pattern length</source>
-        <translation type="unfinished"></translation>
+        <translation>Musterlänge des Netzes</translation>
     </message>
     <message>
         <source>Mesh line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienstärke des Netzes</translation>
     </message>
     <message>
         <source>Show contour</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontur zeigen</translation>
     </message>
     <message>
         <source>Contour type</source>
-        <translation type="unfinished"></translation>
+        <translation>Konturart</translation>
     </message>
     <message>
         <source>Flood by</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllen nach</translation>
     </message>
     <message>
         <source>Lines by contour group</source>
-        <translation type="unfinished"></translation>
+        <translation>Linien nach Konturgruppe</translation>
     </message>
     <message>
         <source>Contour line color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Konturlinien</translation>
     </message>
     <message>
         <source>Contour line pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Muster der Konturlinien</translation>
     </message>
     <message>
         <source>Contour pattern length</source>
-        <translation type="unfinished"></translation>
+        <translation>Musterlänge der Konturlinien</translation>
     </message>
     <message>
         <source>Contour line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke der Konturlinien</translation>
     </message>
     <message>
         <source>Contour lighting</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht der Kontur</translation>
     </message>
     <message>
         <source>Show vectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Vektoren zeigen</translation>
     </message>
     <message>
         <source>Vector type</source>
-        <translation type="unfinished"></translation>
+        <translation>Vektorart</translation>
     </message>
     <message>
         <source>Tangent vectors</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangentiale Vektoren</translation>
     </message>
     <message>
         <source>Arrowhead style</source>
-        <translation type="unfinished"></translation>
+        <translation>Form der Pfeilspitze</translation>
     </message>
     <message>
         <source>Vector color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Vektoren</translation>
     </message>
     <message>
         <source>Vector line pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienmuster der Vektoren</translation>
     </message>
     <message>
         <source>Vector pattern length</source>
-        <translation type="unfinished"></translation>
+        <translation>Musterlänge der Vektoren</translation>
     </message>
     <message>
         <source>Vector line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienstärke der Vektoren</translation>
     </message>
     <message>
         <source>Show scatter</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung zeigen</translation>
     </message>
     <message>
         <source>Symbol size</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbolgröße</translation>
     </message>
     <message>
         <source>Symbol size by variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbolgröße nach Variable</translation>
     </message>
     <message>
         <source>Scatter color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Streuung</translation>
     </message>
     <message>
         <source>Scatter line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienstärke der Streuung</translation>
     </message>
     <message>
         <source>Scatter fill mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllart der Streuung</translation>
     </message>
     <message>
         <source>Scatter fill color</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllfarbe der Streuung</translation>
     </message>
     <message>
         <source>Show shade</source>
-        <translation type="unfinished"></translation>
+        <translation>Schattierung zeigen</translation>
     </message>
     <message>
         <source>Shade color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Schattierung</translation>
     </message>
     <message>
         <source>Shade lighting</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht der Schattierung</translation>
     </message>
     <message>
         <source>Show edges</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanten zeigen</translation>
     </message>
     <message>
         <source>Edge type</source>
-        <translation type="unfinished"></translation>
+        <translation>Kantenart</translation>
     </message>
     <message>
         <source>Edge color</source>
-        <translation type="unfinished"></translation>
+        <translation>Kantenfarbe</translation>
     </message>
     <message>
         <source>Edge line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienstärke der Kanten</translation>
     </message>
     <message>
         <source>I border</source>
-        <translation type="unfinished"></translation>
+        <translation>I-Rand</translation>
     </message>
     <message>
         <source>J border</source>
-        <translation type="unfinished"></translation>
+        <translation>J-Rand</translation>
     </message>
     <message>
         <source>K border</source>
-        <translation type="unfinished"></translation>
+        <translation>K-Rand</translation>
     </message>
     <message>
         <source>I skip</source>
-        <translation type="unfinished"></translation>
+        <translation>I-Schritt</translation>
     </message>
     <message>
         <source>J skip</source>
-        <translation type="unfinished"></translation>
+        <translation>J-Schritt</translation>
     </message>
     <message>
         <source>K skip</source>
-        <translation type="unfinished"></translation>
+        <translation>K-Schritt</translation>
     </message>
     <message>
         <source>Points to plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeigte Punkte</translation>
     </message>
     <message>
         <source>Surfaces to plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeigte Flächen</translation>
     </message>
     <message>
         <source>Slices</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitte</translation>
     </message>
     <message>
         <source>Use value blanking</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausblendung nach Werten nutzen</translation>
     </message>
     <message>
         <source>Lighting effect</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichteffekt</translation>
     </message>
     <message>
         <source>Use translucency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparenz nutzen</translation>
     </message>
     <message>
         <source>Surface translucency</source>
-        <translation type="unfinished"></translation>
+        <translation>Flächentransparenz</translation>
     </message>
     <message>
         <source>Group number</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppennummer</translation>
     </message>
     <message>
         <source>Preset pattern length</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgegebene Musterlänge</translation>
     </message>
     <message>
         <source>Preset line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgegebene Linienstärke</translation>
     </message>
     <message>
         <source>Preset symbol size</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgegebene Symbolgröße</translation>
     </message>
     <message>
         <source>Mesh layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene Netz</translation>
     </message>
     <message>
         <source>Contour layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene Kontur</translation>
     </message>
     <message>
         <source>Vector layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene Vektoren</translation>
     </message>
     <message>
         <source>Scatter layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene Streuung</translation>
     </message>
     <message>
         <source>Shade layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene Schattierung</translation>
     </message>
     <message>
         <source>Edge layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene Kanten</translation>
     </message>
     <message>
         <source>Lighting</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht</translation>
     </message>
     <message>
         <source>Translucency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparenz</translation>
     </message>
     <message>
         <source>Lines layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene Linien</translation>
     </message>
     <message>
         <source>Symbols layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene Symbole</translation>
     </message>
     <message>
         <source>Error bars layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene Fehlerbalken</translation>
     </message>
     <message>
         <source>Bar charts layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene Balken</translation>
     </message>
     <message>
         <source>Mesh</source>
-        <translation type="unfinished"></translation>
+        <translation>Netz</translation>
     </message>
     <message>
         <source>Contour</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontur</translation>
     </message>
     <message>
         <source>Vector</source>
-        <translation type="unfinished"></translation>
+        <translation>Vektoren</translation>
     </message>
     <message>
         <source>Scatter</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung</translation>
     </message>
     <message>
         <source>Shade</source>
-        <translation type="unfinished"></translation>
+        <translation>Schattierung</translation>
     </message>
     <message>
         <source>Edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanten</translation>
     </message>
     <message>
         <source>Symbols</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole</translation>
     </message>
     <message>
         <source>Error bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlerbalken</translation>
     </message>
     <message>
         <source>Bar charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Balken</translation>
     </message>
     <message>
         <source>Polar angle 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Polarwinkel 0</translation>
     </message>
     <message>
         <source>Polar angles clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Polarwinkel im Uhrzeigersinn</translation>
     </message>
     <message>
         <source>Radius by the data</source>
-        <translation type="unfinished"></translation>
+        <translation>Radius nach den Daten</translation>
     </message>
     <message>
         <source>Radius minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinster Radius</translation>
     </message>
     <message>
         <source>Radius maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Größter Radius</translation>
     </message>
     <message>
         <source>Title of polar axes</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel der Polarachsen</translation>
     </message>
     <message>
         <source>X axis scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Skala der X-Achse</translation>
     </message>
     <message>
         <source>X axis reversed</source>
-        <translation type="unfinished"></translation>
+        <translation>X-Achse umgekehrt</translation>
     </message>
     <message>
         <source>X axis color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der X-Achse</translation>
     </message>
     <message>
         <source>X axis side</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite der X-Achse</translation>
     </message>
     <message>
         <source>Y axis scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Skala der Y-Achse</translation>
     </message>
     <message>
         <source>Y axis reversed</source>
-        <translation type="unfinished"></translation>
+        <translation>Y-Achse umgekehrt</translation>
     </message>
     <message>
         <source>Y axis color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Y-Achse</translation>
     </message>
     <message>
         <source>Y axis side</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite der Y-Achse</translation>
     </message>
     <message>
         <source>Legend of lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Legende der Linien</translation>
     </message>
     <message>
         <source>Legend of lines in a corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Legende der Linien in einer Ecke</translation>
     </message>
     <message>
         <source>Legend of lines from the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Legende der Linien von links</translation>
     </message>
     <message>
         <source>Legend of lines from above</source>
-        <translation type="unfinished"></translation>
+        <translation>Legende der Linien von oben</translation>
     </message>
     <message>
         <source>Box of the legend of lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasten der Legende der Linien</translation>
     </message>
     <message>
         <source>Title of the line plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel des Liniendiagramms</translation>
     </message>
     <message>
         <source>Font size of line plots</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriftgröße von Liniendiagrammen</translation>
     </message>
     <message>
         <source>Grid of line plots</source>
-        <translation type="unfinished"></translation>
+        <translation>Gitter von Liniendiagrammen</translation>
     </message>
     <message>
         <source>Box around line plots</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasten um Liniendiagramme</translation>
     </message>
     <message>
         <source>Zone</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone</translation>
     </message>
     <message>
         <source>Sort</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortierung</translation>
     </message>
     <message>
         <source>Sort variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable der Sortierung</translation>
     </message>
     <message>
         <source>Show in legend</source>
-        <translation type="unfinished"></translation>
+        <translation>In Legende zeigen</translation>
     </message>
     <message>
         <source>X-axis variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable der X-Achse</translation>
     </message>
     <message>
         <source>Y-axis variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable der Y-Achse</translation>
     </message>
     <message>
         <source>X-axis</source>
-        <translation type="unfinished"></translation>
+        <translation>X-Achse</translation>
     </message>
     <message>
         <source>Y-axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Y-Achse</translation>
     </message>
     <message>
         <source>Theta variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable für Theta</translation>
     </message>
     <message>
         <source>Radius variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable für Radius</translation>
     </message>
     <message>
         <source>Function dependency</source>
-        <translation type="unfinished"></translation>
+        <translation>Abhängigkeit der Funktion</translation>
     </message>
     <message>
         <source>Show lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Linien zeigen</translation>
     </message>
     <message>
         <source>Line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienstärke</translation>
     </message>
     <message>
         <source>Line pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienmuster</translation>
     </message>
     <message>
         <source>Line pattern length</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge des Linienmusters</translation>
     </message>
     <message>
         <source>Curve type</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurvenart</translation>
     </message>
     <message>
         <source>Closeness of a smoothing spline</source>
-        <translation type="unfinished"></translation>
+        <translation>Nähe eines Glättungssplines</translation>
     </message>
     <message>
         <source>Curve points</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurvenpunkte</translation>
     </message>
     <message>
         <source>Polynomial order</source>
-        <translation type="unfinished"></translation>
+        <translation>Polynomgrad</translation>
     </message>
     <message>
         <source>Limit fit range</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich des Ausgleichs begrenzen</translation>
     </message>
     <message>
         <source>Fit range begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang des Ausgleichsbereichs</translation>
     </message>
     <message>
         <source>Fit range end</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende des Ausgleichsbereichs</translation>
     </message>
     <message>
         <source>Weighted fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewichteter Ausgleich</translation>
     </message>
     <message>
         <source>Weight variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewichtungsvariable</translation>
     </message>
     <message>
         <source>Clamped spline</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingespannter Spline</translation>
     </message>
     <message>
         <source>Spline slope at start</source>
-        <translation type="unfinished"></translation>
+        <translation>Steigung des Splines am Anfang</translation>
     </message>
     <message>
         <source>Spline slope at end</source>
-        <translation type="unfinished"></translation>
+        <translation>Steigung des Splines am Ende</translation>
     </message>
     <message>
         <source>Show symbols</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole zeigen</translation>
     </message>
     <message>
         <source>Symbol spacing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Art des Symbolabstands</translation>
     </message>
     <message>
         <source>Symbol spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbolabstand</translation>
     </message>
     <message>
         <source>Symbol color</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbolfarbe</translation>
     </message>
     <message>
         <source>Symbol line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienstärke der Symbole</translation>
     </message>
     <message>
         <source>Symbol fill mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllart der Symbole</translation>
     </message>
     <message>
         <source>Symbol fill color</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllfarbe der Symbole</translation>
     </message>
     <message>
         <source>Show error bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlerbalken zeigen</translation>
     </message>
     <message>
         <source>Error bar variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable der Fehlerbalken</translation>
     </message>
     <message>
         <source>Error bar type</source>
-        <translation type="unfinished"></translation>
+        <translation>Art der Fehlerbalken</translation>
     </message>
     <message>
         <source>Error bar spacing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Art des Abstands der Fehlerbalken</translation>
     </message>
     <message>
         <source>Error bar spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand der Fehlerbalken</translation>
     </message>
     <message>
         <source>Error bar color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Fehlerbalken</translation>
     </message>
     <message>
         <source>Error bar size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe der Fehlerbalken</translation>
     </message>
     <message>
         <source>Error bar line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienstärke der Fehlerbalken</translation>
     </message>
     <message>
         <source>Show bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Balken zeigen</translation>
     </message>
     <message>
         <source>Bar size</source>
-        <translation type="unfinished"></translation>
+        <translation>Balkenbreite</translation>
     </message>
     <message>
         <source>Bar color</source>
-        <translation type="unfinished"></translation>
+        <translation>Balkenfarbe</translation>
     </message>
     <message>
         <source>Bar line thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienstärke der Balken</translation>
     </message>
     <message>
         <source>Bar fill mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllart der Balken</translation>
     </message>
     <message>
         <source>Bar fill color</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllfarbe der Balken</translation>
     </message>
     <message>
         <source>Varying index</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufender Index</translation>
     </message>
     <message>
         <source>Map name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der Kurve</translation>
     </message>
     <message>
         <source>Symbol character</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichen des Symbols</translation>
     </message>
     <message>
         <source>Symbol base font</source>
-        <translation type="unfinished"></translation>
+        <translation>Grundschrift des Symbols</translation>
     </message>
     <message>
         <source>Symbol font</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrift des Symbols</translation>
     </message>
     <message>
         <source>Character symbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichen als Symbol</translation>
     </message>
     <message>
         <source>Symbol shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbolform</translation>
     </message>
     <message>
         <source>I range begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang des I-Bereichs</translation>
     </message>
     <message>
         <source>I range end</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende des I-Bereichs</translation>
     </message>
     <message>
         <source>I range skip</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt des I-Bereichs</translation>
     </message>
     <message>
         <source>J range begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang des J-Bereichs</translation>
     </message>
     <message>
         <source>J range end</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende des J-Bereichs</translation>
     </message>
     <message>
         <source>J range skip</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt des J-Bereichs</translation>
     </message>
     <message>
         <source>K range begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang des K-Bereichs</translation>
     </message>
     <message>
         <source>K range end</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende des K-Bereichs</translation>
     </message>
     <message>
         <source>K range skip</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt des K-Bereichs</translation>
     </message>
     <message>
         <source>Plot type</source>
-        <translation type="unfinished"></translation>
+        <translation>Art der Darstellung</translation>
     </message>
     <message>
         <source>Active field maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktive Zonen der Darstellung</translation>
     </message>
     <message>
         <source>Active zones</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktive Zonen</translation>
     </message>
     <message>
         <source>Active line maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktive Kurven</translation>
     </message>
     <message>
         <source>R=f(Theta)</source>
-        <translation type="unfinished"></translation>
+        <translation>R=f(Theta)</translation>
     </message>
     <message>
         <source>Theta=f(R)</source>
-        <translation type="unfinished"></translation>
+        <translation>Theta=f(R)</translation>
     </message>
     <message>
         <source>Vertical (y=f(x))</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkrecht (y=f(x))</translation>
     </message>
     <message>
         <source>Horizontal (x=f(y))</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagerecht (x=f(y))</translation>
     </message>
     <message>
         <source>(Greek)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Griechisch)</translation>
     </message>
     <message>
         <source>(Math)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Mathematisch)</translation>
     </message>
     <message>
         <source>(User)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Benutzer)</translation>
+    </message>
+</context>
+<context>
+    <name>TextDialect</name>
+    <message>
+        <source>Separator</source>
+        <translation>Trennzeichen</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>Komma</translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation>Strichpunkt</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>Tabulator</translation>
+    </message>
+    <message>
+        <source>blanks</source>
+        <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>vertical bar</source>
+        <translation>senkrechter Strich</translation>
+    </message>
+    <message>
+        <source>colon</source>
+        <translation>Doppelpunkt</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keines</translation>
+    </message>
+    <message>
+        <source>Decimal sign</source>
+        <translation>Dezimalzeichen</translation>
+    </message>
+    <message>
+        <source>decimal point</source>
+        <translation>Dezimalpunkt</translation>
+    </message>
+    <message>
+        <source>decimal comma</source>
+        <translation>Dezimalkomma</translation>
+    </message>
+    <message>
+        <source>Quotes</source>
+        <translation>Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>no quotes</source>
+        <translation>keine Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>double quotes</source>
+        <translation>doppelte Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>single quotes</source>
+        <translation>einfache Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>Comment lines</source>
+        <translation>Kommentarzeilen</translation>
+    </message>
+    <message>
+        <source>no comments</source>
+        <translation>keine Kommentare</translation>
+    </message>
+    <message>
+        <source>comments after #</source>
+        <translation>Kommentare nach #</translation>
+    </message>
+    <message>
+        <source>comments after %</source>
+        <translation>Kommentare nach %</translation>
+    </message>
+    <message>
+        <source>comments after //</source>
+        <translation>Kommentare nach //</translation>
+    </message>
+    <message>
+        <source>comments after !</source>
+        <translation>Kommentare nach !</translation>
+    </message>
+    <message>
+        <source>comments after ;</source>
+        <translation>Kommentare nach ;</translation>
+    </message>
+    <message>
+        <source>Data from line</source>
+        <translation>Daten ab Zeile</translation>
+    </message>
+    <message>
+        <source>Header rows</source>
+        <translation>Kopfzeilen</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Einheiten</translation>
+    </message>
+    <message>
+        <source>no row of units</source>
+        <translation>keine Zeile mit Einheiten</translation>
+    </message>
+    <message>
+        <source>units in the last header row</source>
+        <translation>Einheiten in der letzten Kopfzeile</translation>
+    </message>
+    <message>
+        <source>Dates</source>
+        <translation>Datumsangaben</translation>
+    </message>
+    <message>
+        <source>day first</source>
+        <translation>Tag zuerst</translation>
+    </message>
+    <message>
+        <source>month first</source>
+        <translation>Monat zuerst</translation>
+    </message>
+    <message>
+        <source>year first</source>
+        <translation>Jahr zuerst</translation>
+    </message>
+    <message>
+        <source>Also missing</source>
+        <translation>Auch fehlend</translation>
+    </message>
+    <message>
+        <source>Zones</source>
+        <translation>Zonen</translation>
+    </message>
+    <message>
+        <source>one zone</source>
+        <translation>eine Zone</translation>
+    </message>
+    <message>
+        <source>zones by blank lines</source>
+        <translation>Zonen durch Leerzeilen</translation>
+    </message>
+    <message>
+        <source>zones by a column of words</source>
+        <translation>Zonen durch eine Spalte mit Wörtern</translation>
+    </message>
+    <message>
+        <source>Bad rows</source>
+        <translation>Fehlerhafte Zeilen</translation>
+    </message>
+    <message>
+        <source>refuse bad rows</source>
+        <translation>fehlerhafte Zeilen ablehnen</translation>
+    </message>
+    <message>
+        <source>skip bad rows</source>
+        <translation>fehlerhafte Zeilen überspringen</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>Kodierung</translation>
+    </message>
+    <message>
+        <source>UTF-8</source>
+        <translation>UTF-8</translation>
+    </message>
+    <message>
+        <source>UTF-16, little-endian</source>
+        <translation>UTF-16, Little Endian</translation>
+    </message>
+    <message>
+        <source>UTF-16, big-endian</source>
+        <translation>UTF-16, Big Endian</translation>
+    </message>
+    <message>
+        <source>Latin-1</source>
+        <translation>Latin-1</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>numbers</source>
+        <translation>Zahlen</translation>
+    </message>
+    <message>
+        <source>dates</source>
+        <translation>Datumsangaben</translation>
+    </message>
+    <message>
+        <source>times</source>
+        <translation>Zeiten</translation>
+    </message>
+    <message>
+        <source>words</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>ausgelassen</translation>
     </message>
 </context>
 <context>
     <name>ToolTip</name>
     <message>
         <source>&lt;html&gt;The strand has no zones at the current solution time, therefore nothing is shown. To view zones for this strand, change the solution time or, modify the option for how zones are shown, using the controls at the bottom of the Time Animation Details dialog.&lt;/html&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;html&gt;Der Strang hat zur aktuellen Lösungszeit keine Zonen, daher wird nichts gezeigt. Um Zonen dieses Strangs zu sehen, ändern Sie die Lösungszeit, oder ändern Sie mit den Bedienelementen unten im Dialog „Time Animation Details“, wie Zonen gezeigt werden.&lt;/html&gt;</translation>
     </message>
 </context>
 <context>
     <name>UndoTexts</name>
     <message>
         <source>1 field map</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Zone</translation>
     </message>
     <message>
         <source>1 line map</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Kurve</translation>
     </message>
     <message>
         <source>%1 field maps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zonen</translation>
     </message>
     <message>
         <source>%1 line maps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kurven</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>an</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>aus</translation>
     </message>
     <message>
         <source>%1 = %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 = %2</translation>
     </message>
     <message>
         <source>%1 = %2 (%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 = %2 (%3)</translation>
     </message>
     <message>
         <source>Activate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 aktivieren</translation>
     </message>
     <message>
         <source>Deactivate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 deaktivieren</translation>
     </message>
     <message>
         <source>Activate only %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur %1 aktivieren</translation>
     </message>
     <message>
         <source>Create %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 anlegen</translation>
     </message>
     <message>
         <source>Copy %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kopieren</translation>
     </message>
     <message>
         <source>Move %1 to the top</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nach oben verschieben</translation>
     </message>
     <message>
         <source>Move %1 to the bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nach unten verschieben</translation>
     </message>
     <message>
         <source>Delete %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 löschen</translation>
     </message>
     <message>
         <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ in „%2“ umbenennen</translation>
     </message>
     <message>
         <source>Enable %1 zones</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zonen freigeben</translation>
     </message>
     <message>
         <source>Enable %1 variables</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Variablen freigeben</translation>
     </message>
     <message>
         <source>Color %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe %1</translation>
     </message>
 </context>
 <context>
     <name>VectorVariablesDialog</name>
     <message>
         <source>&amp;U:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;U:</translation>
     </message>
     <message>
         <source>&amp;V:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;V:</translation>
     </message>
     <message>
         <source>&amp;W:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;W:</translation>
     </message>
     <message>
         <source>Select Vector Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Vektorvariablen auswählen</translation>
     </message>
 </context>
 <context>
     <name>ZoneStyle</name>
     <message>
         <source>C&amp;reate Map...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurve &amp;anlegen...</translation>
     </message>
     <message>
         <source>Copy &amp;Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurve &amp;kopieren</translation>
     </message>
     <message>
         <source>&amp;Delete Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurve &amp;löschen</translation>
     </message>
     <message>
         <source>To &amp;Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;oben</translation>
     </message>
     <message>
         <source>To &amp;Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;unten</translation>
     </message>
     <message>
         <source>Zone Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Zonenstil</translation>
     </message>
     <message>
         <source>Mesh</source>
-        <translation type="unfinished"></translation>
+        <translation>Netz</translation>
     </message>
     <message>
         <source>Contour</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontur</translation>
     </message>
     <message>
         <source>Vector</source>
-        <translation type="unfinished"></translation>
+        <translation>Vektoren</translation>
     </message>
     <message>
         <source>Scatter</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung</translation>
     </message>
     <message>
         <source>Shade</source>
-        <translation type="unfinished"></translation>
+        <translation>Schattierung</translation>
     </message>
     <message>
         <source>Edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanten</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte</translation>
     </message>
     <message>
         <source>Surfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Flächen</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volumen</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte</translation>
     </message>
     <message>
         <source>Definitions</source>
-        <translation type="unfinished"></translation>
+        <translation>Definitionen</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Linien</translation>
     </message>
     <message>
         <source>Curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurven</translation>
     </message>
     <message>
         <source>Symbols</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole</translation>
     </message>
     <message>
         <source>Error Bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlerbalken</translation>
     </message>
     <message>
         <source>Bar Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Balken</translation>
     </message>
     <message>
         <source>Indices</source>
-        <translation type="unfinished"></translation>
+        <translation>Indizes</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::DataCommands</name>
     <message>
         <source>Open Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten öffnen</translation>
     </message>
     <message>
         <source>Open Case Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Fallordner öffnen</translation>
     </message>
     <message>
         <source>Open Plot3D Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Plot3D-Daten öffnen</translation>
     </message>
     <message>
         <source>Open Tables of Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texttabellen öffnen</translation>
     </message>
     <message>
         <source>Bad Rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlerhafte Zeilen</translation>
     </message>
     <message numerus="yes">
         <source>Skip %n bad row(s)?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fehlerhafte Zeile überspringen?</numerusform>
+            <numerusform>%n fehlerhafte Zeilen überspringen?</numerusform>
         </translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Skip</source>
-        <translation type="unfinished"></translation>
+        <translation>Überspringen</translation>
     </message>
     <message>
         <source>Change...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern...</translation>
     </message>
     <message>
         <source>Detected: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erkannt: %1.</translation>
     </message>
     <message>
         <source>Detected in %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erkannt in %1: %2.</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::DetailField</name>
     <message>
         <source>That of contour group 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die der Konturgruppe 1</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>By contour group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Konturgruppe %1</translation>
     </message>
     <message>
         <source>By RGB</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach RGB</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::DetailPageWidget</name>
     <message>
         <source>The axes of a flat plot have one scale, and the view can be moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Achsen einer ebenen Darstellung haben einen Maßstab, und die Ansicht kann verschoben werden</translation>
     </message>
     <message>
         <source>All that the data can say follows from them again</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles, was die Daten sagen können, folgt wieder aus ihnen</translation>
     </message>
     <message>
         <source>Pick in the Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Darstellung wählen</translation>
     </message>
     <message>
         <source>Each click in the plot adds a point, until Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Klick in der Darstellung fügt einen Punkt hinzu, bis Esc</translation>
     </message>
     <message>
         <source>in the plot: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>in der Darstellung: %1</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::DetailsDock</name>
     <message>
         <source>Plot Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelheiten der Darstellung</translation>
     </message>
     <message>
         <source>Plot &amp;Details</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einzelheiten der Darstellung</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::LayerBar</name>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebenen</translation>
     </message>
     <message>
         <source>Details of axes and others</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelheiten der Achsen und anderes</translation>
     </message>
     <message>
         <source>%1 details</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelheiten: %1</translation>
     </message>
     <message>
         <source>XY plots only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur XY-Diagramme</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::LayerNotes</name>
     <message>
         <source>No line map is active, so the layer &quot;%1&quot; shows nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Kurve ist aktiv, daher zeigt die Ebene „%1“ nichts.</translation>
     </message>
     <message>
         <source>Activate All Line Maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Kurven aktivieren</translation>
     </message>
     <message>
         <source>No zone is active, so the layer &quot;%1&quot; shows nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zone ist aktiv, daher zeigt die Ebene „%1“ nichts.</translation>
     </message>
     <message>
         <source>Activate All Zones</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Zonen aktivieren</translation>
     </message>
     <message>
         <source>The layer &quot;%1&quot; is on, but no active line map shows it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ebene „%1“ ist an, aber keine aktive Kurve zeigt sie.</translation>
     </message>
     <message>
         <source>Show in All Line Maps</source>
-        <translation type="unfinished"></translation>
+        <translation>In allen Kurven zeigen</translation>
     </message>
     <message>
         <source>The layer &quot;%1&quot; is on, but no active zone shows it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ebene „%1“ ist an, aber keine aktive Zone zeigt sie.</translation>
     </message>
     <message>
         <source>Show in All Zones</source>
-        <translation type="unfinished"></translation>
+        <translation>In allen Zonen zeigen</translation>
     </message>
     <message>
         <source>No zone draws its surfaces, so the layer &quot;%1&quot; shows nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zone zeichnet ihre Flächen, daher zeigt die Ebene „%1“ nichts.</translation>
     </message>
     <message>
         <source>Draw Surfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Flächen zeichnen</translation>
     </message>
     <message>
         <source>No variable is chosen for the contours, so the layer &quot;%1&quot; shows nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für die Konturen ist keine Variable gewählt, daher zeigt die Ebene „%1“ nichts.</translation>
     </message>
     <message>
         <source>Choose Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Variablen wählen</translation>
     </message>
     <message>
         <source>No variables are chosen for the vectors, so the layer &quot;%1&quot; shows nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für die Vektoren sind keine Variablen gewählt, daher zeigt die Ebene „%1“ nichts.</translation>
     </message>
     <message>
         <source>Lighting shows in 3D field plots only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Licht zeigt sich nur in 3D-Felddarstellungen.</translation>
     </message>
     <message>
         <source>Neither shade nor contours show, so lighting changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Weder Schattierung noch Konturen werden gezeigt, daher ändert das Licht nichts.</translation>
     </message>
     <message>
         <source>Show Shade</source>
-        <translation type="unfinished"></translation>
+        <translation>Schattierung zeigen</translation>
     </message>
     <message>
         <source>The data have no variable that contours could show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Daten haben keine Variable, die Konturen zeigen könnten.</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::MainMenus</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen...</translation>
     </message>
     <message>
         <source>Open Case &amp;Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Fall&amp;ordner öffnen...</translation>
     </message>
     <message>
         <source>Open &amp;Plot3D...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Plot3D öffnen...</translation>
     </message>
     <message>
         <source>Open &amp;Table...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tabelle öffnen...</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zuletzt geöffnet</translation>
     </message>
     <message>
         <source>&amp;Save Picture...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild &amp;speichern...</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>Sa&amp;mples</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beispiele</translation>
     </message>
     <message>
         <source>2D field, 12 zones</source>
-        <translation type="unfinished"></translation>
+        <translation>2D-Feld, 12 Zonen</translation>
     </message>
     <message>
         <source>3D field, 12 zones</source>
-        <translation type="unfinished"></translation>
+        <translation>3D-Feld, 12 Zonen</translation>
     </message>
     <message>
         <source>Zones of all kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>Zonen aller Arten</translation>
     </message>
     <message>
         <source>Transient zones</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitabhängige Zonen</translation>
     </message>
     <message>
         <source>XY lines</source>
-        <translation type="unfinished"></translation>
+        <translation>XY-Linien</translation>
     </message>
     <message>
         <source>Polar lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Polarlinien</translation>
     </message>
     <message>
         <source>&amp;Demonstration Data</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorführdaten</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 und %n weitere</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
         </translation>
     </message>
     <message>
         <source>No Files Yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Dateien</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig:</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederholen:</translation>
     </message>
     <message>
         <source>&amp;Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Dar&amp;stellung</translation>
     </message>
     <message>
         <source>&amp;Fit View</source>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;sicht anpassen</translation>
     </message>
     <message>
         <source>D&amp;etails Of</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einzelheiten zu</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>&amp;About corvala</source>
-        <translation type="unfinished"></translation>
+        <translation>Ü&amp;ber corvala</translation>
     </message>
     <message>
         <source>About corvala</source>
-        <translation type="unfinished"></translation>
+        <translation>Über corvala</translation>
     </message>
     <message>
         <source>corvala %1
 Plots field data and edits the style of their zones.
 Licence: GPL-3.0-or-later</source>
-        <translation type="unfinished"></translation>
+        <translation>corvala %1
+Stellt Felddaten dar und bearbeitet den Stil ihrer Zonen.
+Lizenz: GPL-3.0-or-later</translation>
     </message>
     <message>
         <source>About &amp;Qt</source>
-        <translation type="unfinished"></translation>
+        <translation>Über &amp;Qt</translation>
     </message>
     <message>
         <source>Main</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauptleiste</translation>
     </message>
     <message>
         <source>&amp;Mapping Style...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kurvenstil...</translation>
     </message>
     <message>
         <source>&amp;Zone Style...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zonenstil...</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::MainWindow</name>
     <message>
         <source>Reading %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Lese %1...</translation>
     </message>
     <message>
         <source>Drawing...</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichne...</translation>
     </message>
     <message>
         <source>Zones: %1, variables: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zonen: %1, Variablen: %2</translation>
     </message>
     <message>
         <source>corvala</source>
-        <translation type="unfinished"></translation>
+        <translation>corvala</translation>
     </message>
     <message>
         <source>%1 - corvala</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - corvala</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::NoticeBar</name>
     <message>
         <source>Details...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelheiten...</translation>
     </message>
     <message>
         <source>Hide this note</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Hinweis ausblenden</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweise</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::PictureNotes</name>
     <message>
         <source>Plot Details...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelheiten der Darstellung...</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::PictureSizeDialog</name>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
     <message>
         <source> dpi</source>
-        <translation type="unfinished"></translation>
+        <translation> dpi</translation>
     </message>
     <message>
         <source>Pixels of pictures, also of a field plot on a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel von Bildern, auch einer Felddarstellung auf einer Seite</translation>
     </message>
     <message>
         <source>Size of the Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe des Bildes</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Breite:</translation>
     </message>
     <message>
         <source>&amp;Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Höhe:</translation>
     </message>
     <message>
         <source>&amp;Resolution:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auflösung:</translation>
     </message>
     <message>
         <source>%1 x %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 Pixel</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::Plot3DDialog</name>
     <message>
         <source>detect</source>
-        <translation type="unfinished"></translation>
+        <translation>erkennen</translation>
     </message>
     <message>
         <source>Plot3D Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Plot3D-Aufbau</translation>
     </message>
     <message>
         <source>Detected: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erkannt: %1.</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::PlotArea</name>
     <message>
         <source>Plots are drawn on X screens only: start with QT_QPA_PLATFORM=xcb.</source>
-        <translation type="unfinished"></translation>
+        <translation>Darstellungen werden nur auf X-Bildschirmen gezeichnet: starten Sie mit QT_QPA_PLATFORM=xcb.</translation>
     </message>
     <message>
         <source>the plot is drawn on an X screen only (QT_QPA_PLATFORM=xcb, for example under xvfb-run)</source>
-        <translation type="unfinished"></translation>
+        <translation>die Darstellung wird nur auf einem X-Bildschirm gezeichnet (QT_QPA_PLATFORM=xcb, etwa unter xvfb-run)</translation>
     </message>
     <message>
         <source>Save Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild speichern</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::PlotTypeChoice</name>
     <message>
         <source>2D field plot</source>
-        <translation type="unfinished"></translation>
+        <translation>2D-Felddarstellung</translation>
     </message>
     <message>
         <source>3D field plot</source>
-        <translation type="unfinished"></translation>
+        <translation>3D-Felddarstellung</translation>
     </message>
     <message>
         <source>XY line plot</source>
-        <translation type="unfinished"></translation>
+        <translation>XY-Diagramm</translation>
     </message>
     <message>
         <source>Polar line plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Polardiagramm</translation>
     </message>
     <message>
         <source>Plot t&amp;ype:</source>
-        <translation type="unfinished"></translation>
+        <translation>Da&amp;rstellung:</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::TextImportDialog</name>
     <message>
         <source>Import %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 einlesen</translation>
     </message>
     <message>
         <source>&amp;Preview (click a title, or press Return in a column, to say what the column holds):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorschau (ein Klick auf einen Titel, oder die Eingabetaste in einer Spalte, sagt, was die Spalte enthält):</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen</translation>
     </message>
     <message>
         <source>detect</source>
-        <translation type="unfinished"></translation>
+        <translation>erkennen</translation>
     </message>
     <message>
         <source>words, such as -999</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter wie -999</translation>
     </message>
     <message numerus="yes">
         <source>This is one of %n files; the choices hold for all of them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Dies ist die einzige Datei.</numerusform>
+            <numerusform>Dies ist eine von %n Dateien; die Wahl gilt für alle.</numerusform>
         </translation>
     </message>
     <message>
         <source>No table is seen in this way.</source>
-        <translation type="unfinished"></translation>
+        <translation>So ist keine Tabelle zu sehen.</translation>
     </message>
     <message>
         <source>All columns are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Spalten sind ausgelassen.</translation>
     </message>
     <message>
         <source>This can be meant in several ways: please check the columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies kann auf mehrere Arten gemeint sein: bitte prüfen Sie die Spalten.</translation>
     </message>
     <message>
         <source>The first %1 of %2 columns are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ersten %1 von %2 Spalten sind gezeigt.</translation>
     </message>
     <message numerus="yes">
         <source>Of these rows, %n cannot be read, the first in line %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Von diesen Zeilen kann %n nicht gelesen werden, in Zeile %1.</numerusform>
+            <numerusform>Von diesen Zeilen können %n nicht gelesen werden, die erste in Zeile %1.</numerusform>
         </translation>
     </message>
     <message>
         <source>detected: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>erkannt: %1</translation>
     </message>
     <message>
         <source>&amp;Take %1 as Missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 als &amp;fehlend nehmen</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::TextPreviewTable</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>detect</source>
-        <translation type="unfinished"></translation>
+        <translation>erkennen</translation>
     </message>
     <message>
         <source>%1 bad</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fehlerhaft</translation>
     </message>
     <message>
         <source>This row cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Zeile kann nicht gelesen werden.</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::TimeBar</name>
     <message>
         <source>Solution time</source>
-        <translation type="unfinished"></translation>
+        <translation>Lösungszeit</translation>
     </message>
     <message>
         <source>Solution &amp;time:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lösungszeit:</translation>
     </message>
     <message>
         <source>Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Früher</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Später</translation>
     </message>
 </context>
 <context>
     <name>corvala::app::WorkProgress</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>corvala::dialogs::common::LaunchHelpAction</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
 </context>
 <context>
     <name>corvala::dialogs::common::NumberedNameListModel</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
 </context>
 <context>
     <name>corvala::dialogs::lineplot::CurveFitSettingsDialog</name>
     <message>
         <source>Curve Fit Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen des Ausgleichs</translation>
     </message>
     <message>
         <source>Result of the fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis des Ausgleichs</translation>
     </message>
     <message numerus="yes">
         <source>%n line maps</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Kurve</numerusform>
+            <numerusform>%n Kurven</numerusform>
         </translation>
     </message>
     <message>
         <source>The curve is being fitted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kurve wird berechnet.</translation>
     </message>
 </context>
 <context>
     <name>corvala::dialogs::lineplot::CurveFitSettingsForm</name>
     <message>
         <source>&amp;Polynomial order:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Polynomgrad:</translation>
     </message>
     <message>
         <source>0 is a straight line, 1 runs through all points</source>
-        <translation type="unfinished"></translation>
+        <translation>0 ist eine Gerade, 1 geht durch alle Punkte</translation>
     </message>
     <message>
         <source>C&amp;loseness:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nähe:</translation>
     </message>
     <message>
         <source>Use points in a &amp;range only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Punkte eines &amp;Bereichs verwenden</translation>
     </message>
     <message>
         <source>&amp;From:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Von:</translation>
     </message>
     <message>
         <source>&amp;To:</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;is:</translation>
     </message>
     <message>
         <source>Use a &amp;weighting variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine &amp;Gewichtungsvariable verwenden</translation>
     </message>
     <message>
         <source>&amp;Variable:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Variable:</translation>
     </message>
     <message>
         <source>&amp;Clamp the ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Enden &amp;einspannen</translation>
     </message>
     <message>
         <source>Derivative at &amp;start:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ableitung am &amp;Anfang:</translation>
     </message>
     <message>
         <source>Derivative at &amp;end:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ableitung am En&amp;de:</translation>
     </message>
 </context>
 <context>
     <name>corvala::dialogs::lineplot::LineMapCreateDialog</name>
     <message>
         <source>Create Line Maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurven anlegen</translation>
     </message>
     <message>
         <source>C&amp;reate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anlegen</translation>
     </message>
     <message>
         <source>&amp;Zone:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zone:</translation>
     </message>
     <message>
         <source>&amp;Theta variable:</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable für &amp;Theta:</translation>
     </message>
     <message>
         <source>&amp;X-axis variable:</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable der &amp;X-Achse:</translation>
     </message>
     <message>
         <source>R&amp;adius variables:</source>
-        <translation type="unfinished"></translation>
+        <translation>Variablen für den &amp;Radius:</translation>
     </message>
     <message>
         <source>&amp;Y-axis variables:</source>
-        <translation type="unfinished"></translation>
+        <translation>Variablen der &amp;Y-Achse:</translation>
     </message>
 </context>
 <context>
     <name>corvala::dialogs::prompt::ColorChooserWidget</name>
     <message>
         <source>By RGB</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach RGB</translation>
     </message>
     <message>
         <source>By contour group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Konturgruppe %1</translation>
     </message>
     <message>
         <source>RGB</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>Present color</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzige Farbe</translation>
     </message>
 </context>
 <context>
     <name>corvala::dialogs::prompt::EnterASCIICharacterDialog</name>
     <message>
         <source>Enter Character</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichen eingeben</translation>
     </message>
     <message>
         <source>&amp;Character:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeichen:</translation>
     </message>
 </context>
 <context>
     <name>corvala::dialogs::prompt::FontChoice</name>
     <message>
         <source>Use &amp;base font</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grundschrift verwenden</translation>
     </message>
     <message>
         <source>&amp;Font:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schrift:</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Greek</source>
-        <translation type="unfinished"></translation>
+        <translation>Griechisch</translation>
     </message>
     <message>
         <source>Math</source>
-        <translation type="unfinished"></translation>
+        <translation>Mathematisch</translation>
     </message>
     <message>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer</translation>
     </message>
 </context>
 <context>
     <name>corvala::dialogs::prompt::ScatterSizeFontDialog</name>
     <message>
         <source>Scatter Size and Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe und Schrift der Streuung</translation>
     </message>
     <message>
         <source>&amp;Size variable:</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable der &amp;Größe:</translation>
     </message>
 </context>
 <context>
     <name>corvala::dialogs::prompt::ZoneSelectDialog</name>
     <message>
         <source>Select Zone</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone auswählen</translation>
     </message>
     <message>
         <source>Part of the number or name</source>
-        <translation type="unfinished"></translation>
+        <translation>Teil der Nummer oder des Namens</translation>
     </message>
     <message>
         <source>&amp;Filter:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filter:</translation>
     </message>
     <message>
         <source>&amp;Zones:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zonen:</translation>
     </message>
 </context>
 <context>
     <name>corvala::host::io::DataReader</name>
     <message numerus="yes">
         <source>the reader made no progress for %n second(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>der Leser kam %n Sekunde lang nicht voran</numerusform>
+            <numerusform>der Leser kam %n Sekunden lang nicht voran</numerusform>
         </translation>
     </message>
     <message>
         <source>the reading program cannot be started: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>das Leseprogramm kann nicht gestartet werden: %1</translation>
     </message>
     <message>
         <source>no file is named</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Datei ist genannt</translation>
     </message>
     <message>
         <source>the reading program corvala-read is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>das Leseprogramm corvala-read fehlt</translation>
     </message>
     <message>
         <source>no temporary folder can be made in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>in %1 kann kein temporärer Ordner angelegt werden</translation>
     </message>
     <message>
         <source>the reader gave an answer that cannot be understood</source>
-        <translation type="unfinished"></translation>
+        <translation>der Leser gab eine Antwort, die nicht zu verstehen ist</translation>
     </message>
     <message>
         <source>%1 could not be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>the reader was killed; perhaps the machine ran out of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>der Leser wurde beendet; vielleicht hatte der Rechner keinen Speicher mehr</translation>
     </message>
     <message>
         <source>signal %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Signal %1</translation>
     </message>
     <message>
         <source>exit code %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgabewert %1</translation>
     </message>
     <message>
         <source>the reader stopped unexpectedly (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>der Leser hielt unerwartet an (%1)</translation>
     </message>
     <message>
         <source>the reader failed (%1); the file, or one that it names, holds something that it cannot read, or is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>der Leser versagte (%1); die Datei, oder eine, die sie nennt, enthält etwas, das er nicht lesen kann, oder ist beschädigt</translation>
     </message>
     <message>
         <source>Loading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lade %1</translation>
     </message>
     <message>
         <source>the reading was given up</source>
-        <translation type="unfinished"></translation>
+        <translation>das Lesen wurde abgebrochen</translation>
     </message>
     <message>
         <source>VTK files</source>
-        <translation type="unfinished"></translation>
+        <translation>VTK-Dateien</translation>
     </message>
     <message>
         <source>Surfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Oberflächen</translation>
     </message>
     <message>
         <source>CGNS files</source>
-        <translation type="unfinished"></translation>
+        <translation>CGNS-Dateien</translation>
     </message>
     <message>
         <source>Plot3D files</source>
-        <translation type="unfinished"></translation>
+        <translation>Plot3D-Dateien</translation>
     </message>
     <message>
         <source>EnSight files</source>
-        <translation type="unfinished"></translation>
+        <translation>EnSight-Dateien</translation>
     </message>
     <message>
         <source>Exodus II files</source>
-        <translation type="unfinished"></translation>
+        <translation>Exodus-II-Dateien</translation>
     </message>
     <message>
         <source>OpenFOAM cases</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenFOAM-Fälle</translation>
     </message>
     <message>
         <source>Tables of text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texttabellen</translation>
     </message>
     <message>
         <source>Data files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Datendateien (%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
     <name>corvala::host::io::TextDialectTexts</name>
     <message>
         <source>a number from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Zahl ab 0</translation>
     </message>
     <message>
         <source>%1 for columns from 1 to %2, as in 2:words 4-9:skip</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 für Spalten von 1 bis %2, etwa 2:words 4-9:skip</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no property of a table; there are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Eigenschaft einer Tabelle; es gibt %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; of a table is one of %2, or auto, not &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ einer Tabelle ist eines von %2 oder auto, nicht „%3“</translation>
     </message>
     <message>
         <source>separator %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Trennzeichen %1</translation>
     </message>
     <message>
         <source>header rows: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopfzeilen: %1</translation>
     </message>
     <message>
         <source>dates with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datumsangaben mit %1</translation>
     </message>
 </context>
 <context>
     <name>corvala::plot</name>
     <message>
         <source>An image of %1 by %2 pixels cannot be drawn; a side may have 1 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild von %1 mal %2 Pixeln kann nicht gezeichnet werden; eine Seite darf 1 bis %3 haben</translation>
     </message>
     <message>
         <source>A page of %1 by %2 mm cannot be drawn; a side may have %3 at most, and no less than a dot</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Seite von %1 mal %2 mm kann nicht gezeichnet werden; eine Seite darf höchstens %3 haben und nicht weniger als einen Punkt</translation>
     </message>
     <message>
         <source>no values</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Werte</translation>
     </message>
     <message>
         <source>Field plots need an X server; the window system here is &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Felddarstellungen brauchen einen X-Server; das Fenstersystem ist hier „%1“</translation>
     </message>
     <message>
         <source>OpenGL 3.2 is not available; install the package libgl1-mesa-dri</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenGL 3.2 ist nicht verfügbar; installieren Sie das Paket libgl1-mesa-dri</translation>
     </message>
     <message>
         <source>The frame shows no data</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Rahmen zeigt keine Daten</translation>
     </message>
 </context>
 <context>
     <name>corvala::plot::FieldCanvas</name>
     <message>
         <source>Field plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Felddarstellung</translation>
     </message>
 </context>
 <context>
     <name>corvala::plot::FieldScene</name>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte</translation>
     </message>
     <message>
         <source>Not drawn: %1 of zone %2 (%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gezeichnet: %1 der Zone %2 (%3)</translation>
     </message>
     <message numerus="yes">
         <source>%1, and %Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, und %Ln weitere</numerusform>
+            <numerusform>%1, und %Ln weitere</numerusform>
         </translation>
     </message>
 </context>
@@ -4892,34 +5299,34 @@ Licence: GPL-3.0-or-later</source>
     <name>corvala::plot::FieldView</name>
     <message>
         <source>Drawing was cancelled: the picture is not complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Zeichnen wurde abgebrochen: das Bild ist nicht vollständig</translation>
     </message>
 </context>
 <context>
     <name>corvala::plot::FrameView</name>
     <message>
         <source>Nothing is drawn for this plot type</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diese Art der Darstellung wird nichts gezeichnet</translation>
     </message>
     <message>
         <source>No data: open a file, a sample or demonstration data in the File menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Daten: öffnen Sie im Menü „Datei“ eine Datei, ein Beispiel oder Vorführdaten</translation>
     </message>
 </context>
 <context>
     <name>corvala::plot::LineCanvas</name>
     <message>
         <source>Line plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Liniendiagramm</translation>
     </message>
 </context>
 <context>
     <name>corvala::plot::LineLegend</name>
     <message numerus="yes">
         <source>%Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln weitere</numerusform>
+            <numerusform>%Ln weitere</numerusform>
         </translation>
     </message>
 </context>
@@ -4927,112 +5334,112 @@ Licence: GPL-3.0-or-later</source>
     <name>corvala::plot::LineNotes</name>
     <message>
         <source>X axis %1</source>
-        <translation type="unfinished"></translation>
+        <translation>X-Achse %1</translation>
     </message>
     <message>
         <source>Y axis %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Y-Achse %1</translation>
     </message>
     <message>
         <source>radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Radius</translation>
     </message>
     <message>
         <source>The %1 has the range of the data: its minimum, %2, is not below its maximum, %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeigt wird der Bereich der Daten (%1): das Minimum, %2, liegt nicht unter dem Maximum, %3.</translation>
     </message>
     <message>
         <source>The %1 has the range of the data: a logarithmic axis has no place for its minimum, %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeigt wird der Bereich der Daten (%1): eine logarithmische Achse hat keinen Platz für das Minimum, %2.</translation>
     </message>
     <message>
         <source>Keep the Range of the Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich der Daten behalten</translation>
     </message>
     <message numerus="yes">
         <source>%Ln point(s) are left out: the %1 is logarithmic, and their values are not positive.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Punkt ist ausgelassen: die Achse (%1) ist logarithmisch, und sein Wert ist nicht positiv.</numerusform>
+            <numerusform>%Ln Punkte sind ausgelassen: die Achse (%1) ist logarithmisch, und ihre Werte sind nicht positiv.</numerusform>
         </translation>
     </message>
     <message>
         <source>Make the Axis Linear</source>
-        <translation type="unfinished"></translation>
+        <translation>Achse linear machen</translation>
     </message>
     <message numerus="yes">
         <source>%Ln point(s) are left out: their values are missing or infinite.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Punkt ist ausgelassen: sein Wert fehlt oder ist unendlich.</numerusform>
+            <numerusform>%Ln Punkte sind ausgelassen: ihre Werte fehlen oder sind unendlich.</numerusform>
         </translation>
     </message>
     <message>
         <source>There is no curve through the points of &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Durch die Punkte von „%1“ gibt es keine Kurve: %2.</translation>
     </message>
     <message>
         <source>The curve of &quot;%1&quot; is not seen: the layer of lines is off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kurve „%1“ ist nicht zu sehen: die Ebene der Linien ist aus.</translation>
     </message>
     <message>
         <source>Switch On the Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene einschalten</translation>
     </message>
     <message>
         <source>The curve of &quot;%1&quot; is not seen: its line map does not show lines.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kurve „%1“ ist nicht zu sehen: sie zeigt keine Linien.</translation>
     </message>
     <message>
         <source>Show Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Linien zeigen</translation>
     </message>
     <message>
         <source>Error bars are drawn in XY plots only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlerbalken werden nur in XY-Diagrammen gezeichnet.</translation>
     </message>
     <message>
         <source>Switch Off the Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene ausschalten</translation>
     </message>
     <message>
         <source>No error bar is drawn: no active line map has an error bar variable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Fehlerbalken wird gezeichnet: keine aktive Kurve hat eine Variable dafür.</translation>
     </message>
     <message>
         <source>No error bar is drawn: the line maps that have a variable for them do not show them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Fehlerbalken wird gezeichnet: die Kurven, die eine Variable dafür haben, zeigen sie nicht.</translation>
     </message>
     <message>
         <source>Show Them</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigen</translation>
     </message>
 </context>
 <context>
     <name>corvala::plot::LinePlot</name>
     <message numerus="yes">
         <source>Drawing was cancelled: %Ln line(s) missing</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Das Zeichnen wurde abgebrochen: %Ln Linie fehlt</numerusform>
+            <numerusform>Das Zeichnen wurde abgebrochen: %Ln Linien fehlen</numerusform>
         </translation>
     </message>
     <message>
         <source>Dense lines are drawn thin</source>
-        <translation type="unfinished"></translation>
+        <translation>Dichte Linien sind dünn gezeichnet</translation>
     </message>
 </context>
 <context>
     <name>corvala::plot::MapScene</name>
     <message>
         <source>Drawing %L1 of %L2 active maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichne %L1 von %L2 aktiven</translation>
     </message>
     <message numerus="yes">
         <source>Drawing was cancelled: %Ln map(s) missing</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Das Zeichnen wurde abgebrochen: %Ln fehlt</numerusform>
+            <numerusform>Das Zeichnen wurde abgebrochen: %Ln fehlen</numerusform>
         </translation>
     </message>
 </context>
@@ -5040,218 +5447,219 @@ Licence: GPL-3.0-or-later</source>
     <name>corvala::plot::Notes</name>
     <message>
         <source>%1 (&quot;%2&quot;)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 („%2“)</translation>
     </message>
     <message>
         <source>Value blanking takes away every cell of the active zones, by constraint %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ausblenden nimmt jede Zelle der aktiven Zonen weg, durch Bedingung %1.</translation>
     </message>
     <message>
         <source>Switch Off Value Blanking</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausblenden ausschalten</translation>
     </message>
     <message>
         <source>Blanking constraint %1 takes nothing away: it has no variable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedingung %1 der Ausblendung nimmt nichts weg: sie hat keine Variable.</translation>
     </message>
     <message>
         <source>Switch Off the Constraint</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedingung ausschalten</translation>
     </message>
     <message>
         <source>The %1 axis has the range of the data: its minimum, %2, is not below its maximum, %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die %1-Achse hat den Bereich der Daten: ihr Minimum, %2, liegt nicht unter ihrem Maximum, %3.</translation>
     </message>
     <message>
         <source>Keep the Range of the Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich der Daten behalten</translation>
     </message>
     <message>
         <source>Contour group %1 has levels by the data: its lowest level, %2, is not below its highest, %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Konturgruppe %1 hat Stufen nach den Daten: ihre unterste Stufe, %2, liegt nicht unter ihrer obersten, %3.</translation>
     </message>
     <message>
         <source>Keep Levels by the Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Stufen nach den Daten behalten</translation>
     </message>
     <message>
         <source>The list of more lines of contour group %1 ends before &quot;%2&quot;, which is no number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste weiterer Linien der Konturgruppe %1 endet vor „%2“, was keine Zahl ist.</translation>
     </message>
     <message>
         <source>Slices, iso-surfaces and streamtraces are drawn in 3D plots only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitte, Isoflächen und Stromlinien werden nur in 3D-Darstellungen gezeichnet.</translation>
     </message>
     <message>
         <source>No streamtrace is drawn: no vector variables are chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Stromlinie wird gezeichnet: es sind keine Vektorvariablen gewählt.</translation>
     </message>
     <message>
         <source>Slice %1 shows nothing: no zone that shows slices has a plane %2 = %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitt %1 zeigt nichts: keine Zone, die Schnitte zeigt, hat eine Ebene %2 = %3.</translation>
     </message>
     <message>
         <source>Slice %1 at %2 = %3 lies outside the zones that show slices (%4 to %5).</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitt %1 bei %2 = %3 liegt außerhalb der Zonen, die Schnitte zeigen (%4 bis %5).</translation>
     </message>
     <message>
         <source>Move It to the Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>In die Mitte legen</translation>
     </message>
     <message>
         <source>No iso-surface is drawn: its variable &quot;%1&quot; is %2 in all zones that show them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Isofläche wird gezeichnet: ihre Variable „%1“ ist %2 in allen Zonen, die sie zeigen.</translation>
     </message>
     <message>
         <source>The iso-surface value %1 lies outside the values of &quot;%2&quot; (%3 to %4).</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Wert %1 der Isofläche liegt außerhalb der Werte von „%2“ (%3 bis %4).</translation>
     </message>
     <message>
         <source>Take Values of the Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte der Daten nehmen</translation>
     </message>
     <message>
         <source>No streamtrace is drawn: the rake and all points lie outside the cells of the zones that show streamtraces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Stromlinie wird gezeichnet: der Rechen und alle Punkte liegen außerhalb der Zellen der Zonen, die Stromlinien zeigen.</translation>
     </message>
     <message>
         <source>Lay the Rake Across the Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechen quer durch die Daten legen</translation>
     </message>
     <message>
         <source>The last of the points besides the rake has no three coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der letzte der weiteren Punkte hat keine drei Koordinaten.</translation>
     </message>
     <message>
         <source>The points besides the rake end before &quot;%1&quot;, which is no number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die weiteren Punkte enden vor „%1“, was keine Zahl ist.</translation>
     </message>
     <message>
         <source>No arrow is drawn: the vectors (%1) are zero in all active zones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Pfeil wird gezeichnet: die Vektoren (%1) sind in allen aktiven Zonen null.</translation>
     </message>
     <message>
         <source>All symbols have one size: their size variable &quot;%1&quot; is %2 in all active zones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Symbole sind gleich groß: ihre Variable „%1“ ist %2 in allen aktiven Zonen.</translation>
     </message>
     <message>
         <source>Slices, iso-surfaces and streamtraces are hidden: opaque faces stand all round the zones that show them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitte, Isoflächen und Stromlinien sind verdeckt: undurchsichtige Flächen stehen rings um die Zonen, die sie zeigen.</translation>
     </message>
     <message>
         <source>Hide These Faces</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Flächen ausblenden</translation>
     </message>
 </context>
 <context>
     <name>corvala::sdk::ui::dialogs::ZoneStyleDialog</name>
     <message>
         <source>Linemap Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurven löschen</translation>
     </message>
     <message>
         <source>Are you sure you want to
 delete the selected mappings?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie die ausgewählten
+Kurven wirklich löschen?</translation>
     </message>
     <message>
         <source>S&amp;election criteria:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;uswahl nach:</translation>
     </message>
     <message>
         <source>Zone Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Zonenstil</translation>
     </message>
     <message>
         <source>&amp;Zones</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zonen</translation>
     </message>
     <message>
         <source>Mapping Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurvenstil</translation>
     </message>
     <message>
         <source>&amp;Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus&amp;wählen</translation>
     </message>
 </context>
 <context>
     <name>corvala::sdk::ui::dialogs::uicontrols::MapSelectionByPattern</name>
     <message>
         <source>Form</source>
-        <translation type="unfinished"></translation>
+        <translation>Formular</translation>
     </message>
     <message>
         <source>Selection &amp;criteria:</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl &amp;nach:</translation>
     </message>
     <message>
         <source>Selection criteria</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl nach</translation>
     </message>
     <message>
         <source>* stands for any text, ? for one character: wing* finds what begins with &quot;wing&quot;, */inlet what ends with &quot;/inlet&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>* steht für beliebigen Text, ? für ein Zeichen: wing* findet, was mit „wing“ beginnt, */inlet, was mit „/inlet“ endet</translation>
     </message>
     <message>
         <source>&amp;Zones</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zonen</translation>
     </message>
     <message>
         <source>&amp;Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gruppen</translation>
     </message>
     <message>
         <source>C&amp;lear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leeren</translation>
     </message>
     <message>
         <source>%L1 of %L2 selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%L1 von %L2 ausgewählt</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts gefunden</translation>
     </message>
 </context>
 <context>
     <name>corvala::sdk::ui::dialogs::zonestyle::intern::views::ComboBoxDialog</name>
     <message>
         <source>New value</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Wert</translation>
     </message>
 </context>
 <context>
     <name>corvala::sdk::ui::dialogs::zonestyle::intern::views::DynamicLineMapTextEditDialog</name>
     <message>
         <source>Name of line map %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der Kurve %1</translation>
     </message>
     <message>
         <source>Insert token</source>
-        <translation type="unfinished"></translation>
+        <translation>Platzhalter einfügen</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Tokens</source>
-        <translation type="unfinished"></translation>
+        <translation>Platzhalter</translation>
     </message>
 </context>
 <context>
     <name>corvala::sdk::ui::dialogs::zonestyle::intern::views::ListBoxDialog</name>
     <message>
         <source>Choices</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl</translation>
     </message>
 </context>
 <context>
     <name>corvala::sdk::ui::dialogs::zonestyle::intern::views::StyleTableView</name>
     <message>
         <source>Style table</source>
-        <translation type="unfinished"></translation>
+        <translation>Stiltabelle</translation>
     </message>
     <message>
         <source>Space switches the check boxes of all selected rows.
@@ -5259,25 +5667,29 @@ Return or F2 edits the current cell.
 Alt+Down, Menu or Shift+F10 opens its menu.
 Ctrl+A selects all rows; Shift and Ctrl extend the selection.
 A double click on the border of a column fits its width.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leertaste schaltet die Kästchen aller ausgewählten Zeilen.
+Eingabetaste oder F2 bearbeitet die aktuelle Zelle.
+Alt+Ab, Menütaste oder Umschalt+F10 öffnet ihr Menü.
+Strg+A wählt alle Zeilen; Umschalt und Strg erweitern die Auswahl.
+Ein Doppelklick auf den Rand einer Spalte passt ihre Breite an.</translation>
     </message>
 </context>
 <context>
     <name>corvala::sdk::ui::dialogs::zonestyle::intern::views::TextEditDialog</name>
     <message>
         <source>New value</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Wert</translation>
     </message>
 </context>
 <context>
     <name>corvala::ui::NumberField</name>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Zahl</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,7 @@
 #include "app/picture_size_dialog.h"
 #include "app/style_dialog.h"
 #include "host/document/document.h"
+#include "host/io/sample_list.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
 
 #include <QAbstractButton>
@@ -19,6 +20,7 @@
 #include <QSet>
 #include <QTabWidget>
 #include <QTest>
+#include <QToolButton>
 #include <QTranslator>
 #include <QXmlStreamReader>
 
@@ -59,6 +61,8 @@ static bool isNeutral(const QString& text, const QSet<QString>& names)
 static QSet<QString> namesOfData()
 {
     QSet<QString> names {QStringLiteral("corvala"), QStringLiteral("Qt")};
+    for (const host::io::Sample& sample : host::io::sampleList())
+        names.insert(sample.title);
     const host::Frame* const frame = host::Document::instance().activeFrame();
     if (!frame || !frame->hasData())
         return names;
@@ -100,7 +104,9 @@ static QStringList textsOf(const QWidget& widget)
 static bool isCut(const QWidget& widget)
 {
     const auto* const label = qobject_cast<const QLabel*>(&widget);
-    const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
+    const auto* const tool = qobject_cast<const QToolButton*>(&widget);
+    const bool isIcon = tool && tool->toolButtonStyle() == Qt::ToolButtonIconOnly;
+    const auto* const button = isIcon ? nullptr : qobject_cast<const QAbstractButton*>(&widget);
     if (!widget.isVisible() || (!label && !button) || (label && label->wordWrap()))
         return false;
     return widget.width() < widget.minimumSizeHint().width();
@@ -195,28 +201,31 @@ void tst_Texts::everyMarkedTextIsGathered()
     QVERIFY(!gathered.isEmpty());
     QStringList missing;
     for (const Text& text : m_language.asked())
-        if (!gathered.contains(text) && !text.first.startsWith(QLatin1Char('Q')))
+        if (!gathered.contains(text) && !text.first.startsWith(QLatin1Char('Q'))
+            && !isNeutral(text.second, {}))
             missing << text.first + QStringLiteral(": ") + text.second;
-    QVERIFY2(missing.isEmpty(), qPrintable(missing.join(QLatin1Char('\n'))));
+    for (const QString& text : missing)
+        qWarning().noquote() << "not gathered:" << text;
+    QVERIFY(missing.isEmpty());
 }
 
 void tst_Texts::userChooses_data()
 {
-    QTest::addColumn<QByteArray>("languages");
+    QTest::addColumn<QStringList>("languages");
     QTest::addColumn<bool>("isEnglish");
-    QTest::newRow("German") << QByteArray("de_AT") << false;
-    QTest::newRow("English first") << QByteArray("en_GB:de") << true;
-    QTest::newRow("the second") << QByteArray("xx:de") << false;
+    QTest::newRow("German") << QStringList {QStringLiteral("de-AT")} << false;
+    QTest::newRow("English first")
+        << QStringList {QStringLiteral("en-GB"), QStringLiteral("de")} << true;
+    QTest::newRow("the second") << QStringList {QStringLiteral("xx"), QStringLiteral("de-DE")}
+                                << false;
 }
 
 void tst_Texts::userChooses()
 {
-    QFETCH(QByteArray, languages);
+    QFETCH(QStringList, languages);
     QFETCH(bool, isEnglish);
     QCoreApplication::removeTranslator(&m_language);
-    qputenv("LANGUAGE", languages);
-    qputenv("LC_ALL", "de_DE.UTF-8");
-    setUpLanguage();
+    setUpLanguage(languages);
     const QString text = QCoreApplication::translate("corvala::app::MainMenus", "&Open...");
     for (QTranslator* const texts : QCoreApplication::instance()->findChildren<QTranslator*>())
         delete texts;
