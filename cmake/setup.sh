@@ -4,7 +4,7 @@
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config nlohmann-json3-dev libboost-dev libroaring-dev
   qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools libvtk9-dev libvtk9-qt-dev
   libqcustomplot-dev libgsl-dev"
-RUN_PACKAGES="libgl1-mesa-dri libqt5svg5 xvfb xauth"
+RUN_PACKAGES="libgl1-mesa-dri libqt5svg5 qttranslations5-l10n xvfb xauth"
 TEST_PACKAGES="clang-format libasan8 libubsan1"
 BENCH_PACKAGES="libbenchmark-dev"
 
