@@ -4987,6 +4987,10 @@ Lizenz: GPL-3.0-or-later</translation>
         <source>Derivative at &amp;end:</source>
         <translation>Ableitung am En&amp;de:</translation>
     </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
 </context>
 <context>
     <name>corvala::dialogs::lineplot::LineMapCreateDialog</name>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "sdk/common_ui/number_field.h"
 
+#include "sdk/common_ui/number_text.h"
 #include "sdk/common_ui/problem_mark.h"
 
 #include <QEvent>
@@ -15,14 +16,6 @@ namespace corvala::ui {
 
 static constexpr int kMostDecimals = 15;
 static constexpr int kShownDigits = 7; ///< of a number of any magnitude
-
-static std::optional<double> readIn(QLocale locale, const QString& text)
-{
-    locale.setNumberOptions(QLocale::RejectGroupSeparator);
-    bool isNumber = false;
-    const double number = locale.toDouble(text, &isNumber);
-    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
-}
 
 NumberField::NumberField(int decimals, QWidget* parent)
     : QDoubleSpinBox(parent)
@@ -58,15 +51,9 @@ std::optional<double> NumberField::number() const
     return number && *number >= m_lowest && *number <= m_highest ? number : std::nullopt;
 }
 
-/// A number without another one's mark: the locale's own notation, or the one of programs.
 std::optional<double> NumberField::read(const QString& text) const
 {
-    const QString trimmed = text.trimmed();
-    std::optional<double> number = readIn(QLocale::c(), trimmed);
-    for (const QLocale& notation : {locale(), QLocale::system()}) { // a program may run in "C"
-        if (!number)
-            number = readIn(notation, trimmed);
-    }
+    const std::optional<double> number = numberFrom(text, locale());
     const bool isWhole = number && *number == std::floor(*number);
     return m_decimals == 0 && !isWhole ? std::nullopt : number;
 }
@@ -100,7 +87,7 @@ QString NumberField::textFromValue(double value) const
     const QString rounded = m_decimals == kSignificantDigits
         ? plain.toString(value, 'g', kShownDigits)
         : plain.toString(value, 'f', m_decimals);
-    const std::optional<double> shown = readIn(plain, rounded);
+    const std::optional<double> shown = numberFrom(rounded, plain);
     const bool isInside = value >= m_lowest && value <= m_highest;
     const bool looksOutside = shown && (*shown < m_lowest || *shown > m_highest);
     return isInside && looksOutside ? plain.toString(value, 'g', kMostDecimals) : rounded;

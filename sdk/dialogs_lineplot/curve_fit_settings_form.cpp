@@ -2,12 +2,13 @@
 #include "sdk/private/curve_fit_settings_form.h"
 
 #include <sdk/common_ui/combo_box_auto_filter.h>
+#include <sdk/common_ui/number_field.h>
+#include <sdk/common_ui/number_text.h>
+#include <sdk/common_ui/problem_mark.h>
 #include <sdk/private/numbered_name_list_model.h>
 #include <sdk/toolbox/style_value.h>
 #include <sdk/uicommon/style_writing.h>
 
-#include <QDoubleSpinBox>
-#include <QDoubleValidator>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -45,7 +46,7 @@ static void setNumber(QLineEdit& edit, double number)
 
 static double number(const QLineEdit& edit)
 {
-    return edit.text().toDouble();
+    return ui::numberFrom(edit.text()).value_or(0.0);
 }
 
 CurveFitSettingsForm::CurveFitSettingsForm(QWidget* parent)
@@ -79,11 +80,11 @@ QWidget* CurveFitSettingsForm::makeSmoothingRow()
     m_smoothingRow = new QWidget(this);
     auto* form = new QFormLayout(m_smoothingRow);
     form->setContentsMargins(0, 0, 0, 0);
-    m_smoothing = new QDoubleSpinBox(m_smoothingRow);
-    m_smoothing->setRange(0.0, 1.0);
-    m_smoothing->setDecimals(kDecimals);
+    m_smoothing = new ui::NumberField(kDecimals, m_smoothingRow);
+    m_smoothing->setLimits(0.0, 1.0);
     m_smoothing->setSingleStep(kStep);
     m_smoothing->setToolTip(tr("0 is a straight line, 1 runs through all points"));
+    connect(m_smoothing, &ui::NumberField::fitChanged, this, &CurveFitSettingsForm::changed);
     form->addRow(tr("C&loseness:"), m_smoothing);
     return m_smoothingRow;
 }
@@ -127,11 +128,10 @@ QGroupBox* CurveFitSettingsForm::makeClampGroup()
 QLineEdit* CurveFitSettingsForm::addNumber(QGroupBox& group, const QString& label)
 {
     auto* edit = new QLineEdit(&group);
-    auto* validator = new QDoubleValidator(edit);
-    QLocale locale = QLocale::c();
-    locale.setNumberOptions(QLocale::RejectGroupSeparator); // which toDouble does not read
-    validator->setLocale(locale);
-    edit->setValidator(validator);
+    edit->setValidator(new ui::NumberValidator(edit));
+    connect(edit, &QLineEdit::textChanged, edit, [edit] {
+        ui::markProblem(*edit, edit->hasAcceptableInput() ? QString() : tr("a number"));
+    });
     connect(edit, &QLineEdit::textChanged, this, &CurveFitSettingsForm::changed);
     static_cast<QFormLayout*>(group.layout())->addRow(label, edit);
     return edit;
@@ -148,7 +148,7 @@ void CurveFitSettingsForm::read(const propertybindings::CurveFitInfo& fit, CvlIn
     m_clamp->setVisible(isSpline(type));
 
     m_order->setValue(setting<int>(kCurves.polyOrder, lineMap));
-    m_smoothing->setValue(setting<double>(kCurves.smoothing, lineMap));
+    m_smoothing->setNumber(setting<double>(kCurves.smoothing, lineMap));
     m_range->setChecked(setting<bool>(kCurves.useIndVarRange, lineMap));
     setNumber(*m_rangeBegin, setting<double>(kCurves.indVarMin, lineMap));
     setNumber(*m_rangeEnd, setting<double>(kCurves.indVarMax, lineMap));
@@ -166,6 +166,8 @@ bool CurveFitSettingsForm::isAcceptable() const
     const auto isUsed = [](const QGroupBox* group) {
         return !group->isHidden() && group->isChecked();
     };
+    if (!m_smoothingRow->isHidden() && !m_smoothing->number())
+        return false;
     if (isUsed(m_range)
         && (!m_rangeBegin->hasAcceptableInput() || !m_rangeEnd->hasAcceptableInput()
             || number(*m_rangeEnd) < number(*m_rangeBegin)))
@@ -191,7 +193,7 @@ void CurveFitSettingsForm::write(const toolbox::Set& lineMaps) const
     if (!m_orderRow->isHidden())
         assign(kCurves.polyOrder, m_order->value());
     if (!m_smoothingRow->isHidden())
-        assign(kCurves.smoothing, m_smoothing->value());
+        assign(kCurves.smoothing, m_smoothing->number().value_or(0.0));
     if (assignSwitch(kCurves.useIndVarRange, m_range)) {
         assign(kCurves.indVarMin, number(*m_rangeBegin));
         assign(kCurves.indVarMax, number(*m_rangeEnd));

@@ -10,7 +10,6 @@
 #include <optional>
 
 class QCheckBox;
-class QDoubleSpinBox;
 class QGroupBox;
 class QLineEdit;
 class QSpinBox;
@@ -20,6 +19,7 @@ class NumberedNameListModel;
 }
 namespace corvala::ui {
 class ComboBoxAutoFilter;
+class NumberField;
 }
 
 namespace corvala::dialogs::lineplot {
@@ -55,7 +55,7 @@ private:
     QWidget* m_orderRow;
     QSpinBox* m_order;
     QWidget* m_smoothingRow;
-    QDoubleSpinBox* m_smoothing;
+    ui::NumberField* m_smoothing;
     QGroupBox* m_range;
     QLineEdit* m_rangeBegin;
     QLineEdit* m_rangeEnd;

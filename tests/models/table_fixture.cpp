@@ -87,7 +87,7 @@ QString cellText(const ModelAbstract& model, int row, int column)
     QString text = display.userType() == QMetaType::QColor ? display.value<QColor>().name()
                                                            : display.toString();
     const QString hint = cell.data(Qt::AccessibleTextRole).toString();
-    if (!hint.isEmpty())
+    if (!hint.isEmpty() && !check.isValid())
         text += ' ' + hint;
     if (check.isValid())
         text += check == Qt::Checked ? "[x]" : "[ ]";

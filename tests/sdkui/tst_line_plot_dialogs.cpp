@@ -269,7 +269,7 @@ private Q_SLOTS:
         row("in order", "1", "2", true);
         row("a single point", "2", "2", true);
         row("ends before it begins", "2", "1", false);
-        row("commas do not get in", "1,500", "2000", true);
+        row("a group of digits", "1,500", "2000", false);
         row("half a number", "1", "3e", false);
     }
 
@@ -285,8 +285,7 @@ private Q_SLOTS:
         QCOMPARE(buttonNamed(dialog, "Apply")->isEnabled(), accepted);
         QTest::keyClick(&dialog, Qt::Key_Return);
         QCOMPARE(dialog.isVisible(), !accepted);
-        const double begin = QString(from).remove(',').toDouble();
-        QCOMPARE(tests::lineValue("Curves", "IndVarMin", 1), accepted ? begin : 0.0);
+        QCOMPARE(tests::lineValue("Curves", "IndVarMin", 1), accepted ? from.toDouble() : 0.0);
         dialog.close();
     }
 

@@ -55,7 +55,13 @@ QVariant ModelAbstract::data(const QModelIndex& index, int role) const
     if (role == Qt::AccessibleDescriptionRole && index.isValid())
         return isRelevant(index) ? QVariant()
                                  : QCoreApplication::translate("Cell", "Does not apply");
-    return ItemSubModelAbstract::data(index, role);
+    const QVariant value = ItemSubModelAbstract::data(index, role);
+    if (role != Qt::AccessibleTextRole || value.isValid()
+        || !ItemSubModelAbstract::data(index, Qt::CheckStateRole).isValid())
+        return value;
+    const QVariant shown = ItemSubModelAbstract::data(index, Qt::DisplayRole);
+    return shown.isValid() ? shown
+                           : headerData(index.column(), Qt::Horizontal).toString().simplified();
 }
 
 bool ModelAbstract::isRelevant(const QModelIndex& index) const

@@ -38,7 +38,7 @@ public:
     Qt::ItemFlags localFlags(const QModelIndex& index) const override;
     void* localInternalPointer(int row, int column, const QModelIndex& parent) const override;
 
-    /// A cell that does not apply says so to screen readers.
+    /// To screen readers a cell that does not apply says so, and a check box names its column.
     QVariant data(const QModelIndex& index, int role) const override;
 
     // Whether a cell of the whole table applies; one that does not is shown greyed.

@@ -66,11 +66,6 @@ template<class Base>
 QVariant DescribedModel<Base>::localData(const QModelIndex& index, int role) const
 {
     const ColumnDescriptor& column = at(index.column());
-    if (role == Qt::AccessibleTextRole && column.check) {
-        // A check box has no text of its own that could be read out.
-        const QVariant shown = localData(index, Qt::DisplayRole);
-        return shown.isValid() ? shown : localHeaderText(index.column()).toString().simplified();
-    }
     const bool isShown = role == Qt::DisplayRole || role == Qt::CheckStateRole;
     if (isShown && column.existence && !column.existence(cellAt(index.row(), index.column())))
         return nothingFor(role);

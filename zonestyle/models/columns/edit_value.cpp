@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "zonestyle/models/columns/edit_value.h"
 
+#include <sdk/common_ui/number_text.h>
 #include <vocabulary/style.h>
 
 #include <QCoreApplication>
@@ -47,9 +48,7 @@ static std::optional<double> number(QString text)
     text = text.trimmed();
     if (text.endsWith(QLatin1Char('%')))
         text.chop(1);
-    bool isNumber = false;
-    const double number = QLocale::c().toDouble(text.trimmed(), &isNumber);
-    return isNumber ? std::optional(number) : std::nullopt;
+    return corvala::ui::numberFrom(text);
 }
 
 int editedNumber(const QVariant& value)
