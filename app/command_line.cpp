@@ -3,11 +3,13 @@
 
 #include "app/picture_output.h"
 #include "app/plot3d_layout.h"
+#include "host/storage/document_file.h"
 #include "samples/demo_data.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <utility>
 
 namespace corvala::app {
@@ -75,6 +77,9 @@ private:
                            CommandLine::tr("Write a picture of the plot, then end: .png, .pdf, "
                                            ".svg, .jpg or .bmp."),
                            CommandLine::tr("file")};
+    const Option m_save {QStringLiteral("save"),
+                         CommandLine::tr("Save the document, then end: .cvdoc."),
+                         CommandLine::tr("file")};
     const Option m_size {QStringLiteral("size"),
                          CommandLine::tr("Size of the picture on paper, as 160x120mm (usual for "
                                          ".pdf and .svg), or in pixels, as 1200x900."),
@@ -99,12 +104,14 @@ Parser::Parser()
     setApplicationDescription(
         CommandLine::tr("Plots field data and lets you edit the style of its zones and lines.\n"
                         "Data are opened first; then a script is played, a report written, a "
-                        "picture drawn.\n"
+                        "picture drawn, the document saved.\n"
                         "Exit codes: 0 success, 1 failure, 2 wrong usage."));
-    addOptions({m_demo, m_play, m_report, m_render, m_size, m_dpi, m_plot3d, m_table});
-    addPositionalArgument(QStringLiteral("files"),
-                          CommandLine::tr("Data files, opened together, or the folder of a case."),
-                          QStringLiteral("[files...]"));
+    addOptions({m_demo, m_play, m_report, m_render, m_save, m_size, m_dpi, m_plot3d, m_table});
+    addPositionalArgument(
+        QStringLiteral("files"),
+        CommandLine::tr("A document, or data files that are opened together, or the folder of "
+                        "a case."),
+        QStringLiteral("[files...]"));
 }
 
 QString Parser::text(const Option& option, QString& value) const
@@ -122,6 +129,12 @@ QString Parser::check(const Options& options) const
     if (!options.demo.isEmpty() && !demoNames().contains(options.demo))
         return CommandLine::tr("there is no embedded data \"%1\"; there are %2")
             .arg(options.demo, demoNames().join(QStringLiteral(", ")));
+    const auto isDocument = [](const QString& file) {
+        return file.endsWith(QLatin1String(host::storage::kFileEnding), Qt::CaseInsensitive);
+    };
+    if (options.files.size() > 1
+        && std::any_of(options.files.begin(), options.files.end(), isDocument))
+        return CommandLine::tr("a document is opened alone");
     return options.demo.isEmpty() || options.files.isEmpty()
         ? QString()
         : CommandLine::tr("give either files or --demo");
@@ -157,9 +170,9 @@ QString Parser::read(const QStringList& arguments, Options& options)
     QString layout;
     QString table;
     const std::pair<const Option&, QString&> texts[] = {
-        {m_demo, options.demo},      {m_play, options.script}, {m_report, options.report},
-        {m_render, options.picture}, {m_size, size},           {m_dpi, resolution},
-        {m_plot3d, layout},          {m_table, table}};
+        {m_demo, options.demo},      {m_play, options.script},   {m_report, options.report},
+        {m_render, options.picture}, {m_save, options.document}, {m_size, size},
+        {m_dpi, resolution},         {m_plot3d, layout},         {m_table, table}};
     for (const auto& [option, value] : texts) {
         const QString error = text(option, value);
         if (!error.isEmpty())

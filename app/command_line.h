@@ -17,6 +17,7 @@ struct Options
     QString script;
     QString report;
     QString picture;
+    QString document; ///< to be saved
     plot::PictureSize pictureSize;
     host::io::Plot3DLayout plot3d;
     host::io::TextDialect table;
@@ -24,7 +25,10 @@ struct Options
     bool version = false;
 
     /// The program does its work and ends, without waiting for the user.
-    bool isBatch() const { return !script.isEmpty() || !report.isEmpty() || !picture.isEmpty(); }
+    bool isBatch() const
+    {
+        return !script.isEmpty() || !report.isEmpty() || !picture.isEmpty() || !document.isEmpty();
+    }
 
     /// The program works with the names of its commands and columns, which are English then.
     bool isScripted() const { return !script.isEmpty() || !report.isEmpty(); }

@@ -6,6 +6,7 @@
 #include "app/plot3d_layout.h"
 #include "app/recent_files.h"
 #include "app/text_import_dialog.h"
+#include "host/storage/document_file.h"
 #include "samples/demo_data.h"
 
 #include <QFileDialog>
@@ -38,6 +39,12 @@ void DataCommands::open(host::io::ReadRequest request)
 {
     for (QString& file : request.files) // which are remembered, too
         file = QFileInfo(file).absoluteFilePath();
+    if (request.files.size() == 1 && host::storage::isDocumentFile(request.files.constFirst())) {
+        Q_EMIT documentWanted(request.files.constFirst());
+        return;
+    }
+    if (m_opener.isRunning() || !m_mayReplace())
+        return;
     if (host::io::toText(request.text).isEmpty())
         request.purpose = host::io::ReadPurpose::DataIfSure;
     m_opener.start(request);
@@ -51,6 +58,8 @@ void DataCommands::preview(host::io::ReadRequest request)
 
 void DataCommands::openDemo(const QString& name)
 {
+    if (!m_mayReplace())
+        return;
     std::string error;
     if (samples::openDemo(name.toStdString(), 0, error))
         m_notice.tell({});

@@ -21,6 +21,8 @@ public:
     DataCommands(QWidget& window, NoticeBar& notice);
 
     DataOpener& opener() { return m_opener; }
+    /// Asked before the data of the active frame are replaced.
+    void setGuard(std::function<bool()> mayReplace) { m_mayReplace = std::move(mayReplace); }
 
     // Ignored while a reading runs.
     void open(const QStringList& files, const host::io::Plot3DLayout& plot3d = {});
@@ -34,6 +36,7 @@ public:
 
 Q_SIGNALS:
     void failed(const QString& problem);
+    void documentWanted(const QString& file); ///< is among what was to be opened
 
 private:
     void changePlot3DLayout(const host::io::ReadRequest& request,
@@ -48,6 +51,7 @@ private:
     QWidget& m_window;
     NoticeBar& m_notice;
     DataOpener m_opener;
+    std::function<bool()> m_mayReplace = [] { return true; };
 };
 
 } // namespace corvala::app

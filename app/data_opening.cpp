@@ -2,14 +2,63 @@
 #include "app/data_opening.h"
 
 #include "app/first_look.h"
+#include "app/plot3d_layout.h"
 #include "host/document/document.h"
+#include "samples/demo_data.h"
+
+#include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace corvala::app {
 
 using host::io::ReadRequest;
 using host::io::ReadResult;
+
+std::shared_ptr<host::DataSet> embeddedData(const host::DataOrigin& origin, QString& problem)
+{
+    std::string error;
+    samples::DemoData demo = samples::demoData(origin.demo, origin.scale, error);
+    problem = QString::fromStdString(error);
+    return std::move(demo.data);
+}
+
+host::DataOrigin originOf(const ReadRequest& request)
+{
+    host::DataOrigin origin;
+    for (const QString& file : request.files)
+        origin.files.push_back(QDir::cleanPath(QFileInfo(file).absoluteFilePath()).toStdString());
+    origin.table = host::io::toText(request.text).toStdString();
+    origin.plot3d = plot3DLayoutText(request.plot3d).toStdString();
+    return origin;
+}
+
+ReadRequest requestOf(const host::DataOrigin& origin, QString& problem)
+{
+    ReadRequest request;
+    for (const std::string& file : origin.files)
+        request.files << QString::fromStdString(file);
+    problem = host::io::parseTextDialect(QString::fromStdString(origin.table), request.text);
+    if (problem.isEmpty())
+        problem = parsePlot3DLayout(QString::fromStdString(origin.plot3d), request.plot3d);
+    return request;
+}
+
+std::shared_ptr<host::DataSet> readAndWait(const std::vector<host::DataOrigin>& origins,
+                                           QString& problem)
+{
+    const host::DataOrigin& origin = origins.front();
+    if (!origin.demo.empty())
+        return embeddedData(origin, problem);
+    const ReadRequest request = requestOf(origin, problem);
+    if (!problem.isEmpty())
+        return nullptr;
+    const ReadResult result = host::io::DataReader::read(request);
+    problem = result.error;
+    return result.data;
+}
 
 static void attach(const ReadResult& result, const ReadRequest& request)
 {
@@ -20,9 +69,7 @@ static void attach(const ReadResult& result, const ReadRequest& request)
         lines = firstLines(*result.data);
         plotType = firstPlotType(*result.data, lines);
     }
-    const host::DataOrigin origin {
-        result.data->files, {}, 0, host::io::toText(request.text).toStdString()};
-    document.execute(host::AttachData {origin, result.data, plotType,
+    document.execute(host::AttachData {originOf(request), result.data, plotType,
                                        std::max<CvlInt64>(1, static_cast<CvlInt64>(lines.size()))});
     for (const host::SetStyle& value : firstLook(*document.activeFrame()))
         document.execute(value);
@@ -58,19 +105,51 @@ void DataOpener::start(const ReadRequest& request)
 {
     if (isRunning())
         return;
+    m_taker = nullptr;
     m_request = request;
     Q_EMIT started();
     m_reader.start(request);
 }
 
+void DataOpener::start(std::vector<ReadRequest> requests, Taker taker)
+{
+    if (isRunning())
+        return;
+    m_requests = std::move(requests);
+    m_results.clear();
+    m_taker = std::move(taker);
+    if (!m_requests.empty())
+        m_request = m_requests.front();
+    Q_EMIT started();
+    readNext();
+}
+
+void DataOpener::readNext()
+{
+    if (m_results.size() == m_requests.size()) {
+        const Taker taker = std::exchange(m_taker, nullptr);
+        const bool isTaken = taker(std::exchange(m_results, {}));
+        Q_EMIT ended(isTaken);
+        return;
+    }
+    m_request = m_requests[m_results.size()];
+    m_reader.start(m_request);
+}
+
 void DataOpener::take(const ReadResult& result)
 {
-    if (result.data) {
+    if (m_taker && result.data) {
+        m_results.push_back(result);
+        readNext();
+        return;
+    }
+    const bool isForFrame = !std::exchange(m_taker, nullptr);
+    if (isForFrame && result.data) {
         attach(result, m_request);
         Q_EMIT opened(result);
-    } else if (result.preview) {
+    } else if (isForFrame && result.preview) {
         Q_EMIT previewed(*result.preview);
-    } else if (result.badRowCount > 0) {
+    } else if (isForFrame && result.badRowCount > 0) {
         Q_EMIT badRowsMet(result);
     } else if (!result.cancelled) {
         Q_EMIT failed(result.error);

@@ -2,9 +2,14 @@
 #pragma once
 
 #include "host/io/data_reader.h"
+#include "host/operations/operation.h"
 
 #include <QObject>
 #include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <vector>
 
 namespace corvala::app {
 
@@ -14,6 +19,16 @@ struct OpenedData
     QString error; ///< names the file and the reason; empty on success
     QStringList notes; ///< what the reader dropped or guessed
 };
+
+/// Where the data of a request come from, as it is kept.
+host::DataOrigin originOf(const host::io::ReadRequest& request);
+/// The request that reads such data again; `problem` gets what is wrong with the origin.
+host::io::ReadRequest requestOf(const host::DataOrigin& origin, QString& problem);
+/// Embedded data; null, with the problem, when there are none such.
+std::shared_ptr<host::DataSet> embeddedData(const host::DataOrigin& origin, QString& problem);
+/// Reads data of a frame and waits, embedded data too; null, with the problem, on failure.
+std::shared_ptr<host::DataSet> readAndWait(const std::vector<host::DataOrigin>& origins,
+                                           QString& problem);
 
 /// Reads data into the active frame and waits. On failure the document is as it was.
 OpenedData openAndWait(const host::io::ReadRequest& request);
@@ -28,6 +43,10 @@ public:
 
     /// Ignored while a reading runs.
     void start(const host::io::ReadRequest& request);
+    /// Reads without giving the data to a frame: one request after the other, then hands over all
+    /// results. Nothing is handed over when one fails.
+    using Taker = std::function<bool(const std::vector<host::io::ReadResult>& results)>;
+    void start(std::vector<host::io::ReadRequest> requests, Taker taker);
     void cancel() { m_reader.cancel(); }
     bool isRunning() const { return m_reader.isRunning(); }
     const host::io::ReadRequest& request() const { return m_request; }
@@ -47,9 +66,14 @@ Q_SIGNALS:
 
 private:
     void take(const host::io::ReadResult& result);
+    void readNext();
 
     host::io::DataReader m_reader;
-    host::io::ReadRequest m_request;
+    host::io::ReadRequest m_request; ///< that is read, or was read last
+    // Of a reading for somebody else.
+    std::vector<host::io::ReadRequest> m_requests;
+    std::vector<host::io::ReadResult> m_results;
+    Taker m_taker; ///< empty: the data go to the active frame
 };
 
 } // namespace corvala::app

@@ -2,6 +2,7 @@
 #include "app/main_menus.h"
 
 #include "app/details/detail_pages.h"
+#include "app/document_commands.h"
 #include "app/icons.h"
 #include "app/recent_files.h"
 #include "host/document/document.h"
@@ -20,17 +21,17 @@ namespace corvala::app {
 
 using host::Document;
 
-MainMenus::MainMenus(QMainWindow& window, QAction& styleDialog, QAction& details,
-                     const QList<QAction*>& layers)
+MainMenus::MainMenus(QMainWindow& window, const DocumentCommands& documents, QAction& styleDialog,
+                     QAction& details, const QList<QAction*>& layers)
     : QObject(&window)
     , m_window(window)
     , m_styleDialog(styleDialog)
 {
-    makeFileMenu();
+    makeFileMenu(documents);
     makeEditMenu();
     makePlotMenu(details, layers);
     makeHelpMenu();
-    makeToolBar();
+    makeToolBar(*documents.saveCommands().constFirst());
     connect(&Document::instance().undo().stack(), &QUndoStack::indexChanged, this,
             &MainMenus::refreshUndo);
 }
@@ -42,9 +43,10 @@ static void setKeys(QAction& action, const QKeySequence& keys)
     action.setShortcutContext(Qt::ApplicationShortcut);
 }
 
-void MainMenus::makeFileMenu()
+void MainMenus::makeFileMenu(const DocumentCommands& documents)
 {
     QMenu* menu = m_window.menuBar()->addMenu(tr("&File"));
+    menu->addAction(&documents.newCommand());
     QAction* open =
         menu->addAction(commandIcon("document-open"), tr("&Open..."), this, &MainMenus::openWanted);
     setKeys(*open, QKeySequence::Open);
@@ -57,7 +59,9 @@ void MainMenus::makeFileMenu()
     addSampleMenu(*menu);
     addDemoMenu(*menu);
     menu->addSeparator();
-    m_savePicture = menu->addAction(tr("&Save Picture..."), this, &MainMenus::pictureWanted);
+    menu->addActions(documents.saveCommands());
+    menu->addSeparator();
+    m_savePicture = menu->addAction(tr("Save Pict&ure..."), this, &MainMenus::pictureWanted);
     m_savePicture->setObjectName(QStringLiteral("savePicture"));
     menu->addSeparator();
     setKeys(*menu->addAction(tr("&Quit"), qApp, &QApplication::closeAllWindows),
@@ -179,11 +183,11 @@ void MainMenus::makeHelpMenu()
     menu->addAction(tr("About &Qt"), qApp, &QApplication::aboutQt);
 }
 
-void MainMenus::makeToolBar()
+void MainMenus::makeToolBar(QAction& save)
 {
     m_toolBar = m_window.addToolBar(tr("Main"));
     m_toolBar->setObjectName(QStringLiteral("mainBar"));
-    m_toolBar->addActions({m_openCommands.first(), m_undo, m_redo});
+    m_toolBar->addActions({m_openCommands.first(), &save, m_undo, m_redo});
     m_toolBar->addSeparator();
     m_toolBar->addAction(&m_styleDialog);
 }

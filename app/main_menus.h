@@ -11,6 +11,7 @@ class QToolBar;
 
 namespace corvala::app {
 
+class DocumentCommands;
 struct DetailPage;
 
 /// The menus of the main window and its toolbar of common commands. Says what the user wants; the
@@ -20,10 +21,10 @@ class MainMenus : public QObject
     Q_OBJECT
 
 public:
-    /// Fills the menu bar and adds the toolbar. `styleDialog` opens the style dialog, `details`
-    /// the panel of details; `layers` are the layers of the plot.
-    MainMenus(QMainWindow& window, QAction& styleDialog, QAction& details,
-              const QList<QAction*>& layers);
+    /// Fills the menu bar and adds the toolbar. `documents` has commands of its own; `styleDialog`
+    /// opens the style dialog, `details` the panel of details; `layers` are the layers of the plot.
+    MainMenus(QMainWindow& window, const DocumentCommands& documents, QAction& styleDialog,
+              QAction& details, const QList<QAction*>& layers);
 
     QToolBar& toolBar() const { return *m_toolBar; } ///< of common commands
     /// The commands that bring other data.
@@ -43,7 +44,7 @@ Q_SIGNALS:
     void detailsWanted(const QString& page); ///< the name of the page
 
 private:
-    void makeFileMenu();
+    void makeFileMenu(const DocumentCommands& documents);
     void addSampleMenu(QMenu& menu);
     void addDemoMenu(QMenu& menu);
     void fillRecentMenu(QMenu& menu);
@@ -51,7 +52,7 @@ private:
     void makePlotMenu(QAction& details, const QList<QAction*>& layers);
     void addDetailsMenu(QMenu& menu);
     void makeHelpMenu();
-    void makeToolBar();
+    void makeToolBar(QAction& save);
     void refreshUndo();
 
     QMainWindow& m_window;

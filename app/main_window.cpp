@@ -3,6 +3,7 @@
 
 #include "app/data_commands.h"
 #include "app/details/details_dock.h"
+#include "app/document_commands.h"
 #include "app/layer_bar.h"
 #include "app/layer_notes.h"
 #include "app/main_menus.h"
@@ -18,6 +19,7 @@
 #include "plot/frame_view.h"
 #include "sdk/common_ui/find_main_window.h"
 
+#include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QLabel>
 #include <QMessageBox>
@@ -61,6 +63,7 @@ void MainWindow::makeCentre()
     m_layerNotes = new LayerNotes(*m_notice, this);
     m_pictureNotes = new PictureNotes(*m_notice, this);
     m_data = new DataCommands(*this, *m_notice);
+    m_documents = new DocumentCommands(*this, *m_notice, m_data->opener());
     m_plotArea = new PlotArea(centre);
     layout->addWidget(m_notice);
     layout->addWidget(m_plotArea, 1);
@@ -82,8 +85,8 @@ void MainWindow::makeBars()
         },
         this);
     addDockWidget(Qt::RightDockWidgetArea, m_details);
-    m_menus = new MainMenus(*this, *makeStyleDialogAction(*this), *m_details->toggleViewAction(),
-                            m_layerBar->layerActions());
+    m_menus = new MainMenus(*this, *m_documents, *makeStyleDialogAction(*this),
+                            *m_details->toggleViewAction(), m_layerBar->layerActions());
     m_plotType = new PlotTypeChoice(this);
     m_menus->toolBar().addSeparator();
     m_menus->toolBar().addWidget(m_plotType);
@@ -114,12 +117,14 @@ void MainWindow::connectOpener()
     DataOpener& opener = m_data->opener();
     connect(&opener, &DataOpener::started, this, [this, &opener] {
         m_menus->enableOpening(false);
+        m_documents->enable(false);
         m_notice->setEnabled(false);
         begin(tr("Reading %1...").arg(shownName(opener.request().files)));
     });
     connect(&opener, &DataOpener::progress, m_work, &WorkProgress::advance);
     connect(&opener, &DataOpener::ended, this, [this](bool opened) {
         m_menus->enableOpening(true);
+        m_documents->enable(true);
         m_notice->setEnabled(true);
         awaitPicture();
         if (opened)
@@ -127,6 +132,10 @@ void MainWindow::connectOpener()
         Q_EMIT openingEnded(opened);
     });
     connect(m_data, &DataCommands::failed, this, &MainWindow::showProblem);
+    m_data->setGuard([this] { return m_documents->mayReplaceData(); });
+    connect(m_data, &DataCommands::documentWanted, m_documents, &DocumentCommands::open);
+    connect(m_documents, &DocumentCommands::failed, this, &MainWindow::showProblem);
+    connect(&m_documents->state(), &DocumentState::changed, this, &MainWindow::refreshTitle);
 }
 
 void MainWindow::connectCanvas()
@@ -194,12 +203,18 @@ static QString summaryOf(const host::DataSet& data)
         .arg(data.variableCount());
 }
 
+void MainWindow::refreshTitle()
+{
+    const QString title = m_documents->title();
+    setWindowTitle(title.isEmpty() ? tr("corvala") : tr("%1 - corvala").arg(title));
+    setWindowModified(m_documents->state().isChanged());
+}
+
 void MainWindow::refresh()
 {
     const host::Frame* frame = Document::instance().activeFrame();
     const bool hasData = frame && frame->hasData();
-    const QString title = hasData ? QString::fromStdString(frame->data()->title) : QString();
-    setWindowTitle(title.isEmpty() ? tr("corvala") : tr("%1 - corvala").arg(title));
+    refreshTitle();
     m_summary->setText(hasData ? summaryOf(*frame->data()) : QString());
     m_menus->refresh(hasData && m_plotArea->frameView());
     m_plotType->refresh();
@@ -232,6 +247,16 @@ void MainWindow::openFiles(const host::io::ReadRequest& request)
 void MainWindow::openDemo(const QString& name)
 {
     m_data->openDemo(name);
+}
+
+void MainWindow::askBeforeLosing()
+{
+    m_documents->askBeforeLosing();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(m_documents->mayLose());
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -16,6 +16,7 @@ namespace corvala::app {
 
 class DataCommands;
 class DetailsDock;
+class DocumentCommands;
 class LayerBar;
 class LayerNotes;
 class MainMenus;
@@ -40,6 +41,8 @@ public:
     void openFiles(const QStringList& files);
     void openFiles(const host::io::ReadRequest& request);
     void openDemo(const QString& name);
+    /// As DocumentCommands::askBeforeLosing, and before the window closes.
+    void askBeforeLosing();
     void openStyleDialog(corvala::dialogs::common::DialogInitialization_e initialization);
     /// Opens the style dialog beside the plot, as at the start of the program.
     void openStyleDialogBeside();
@@ -52,6 +55,7 @@ Q_SIGNALS:
     void openingEnded(bool opened);
 
 protected:
+    void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -61,6 +65,7 @@ private:
     void connectOpener();
     void connectCanvas();
 
+    void refreshTitle();
     void refresh();
     void showOpened();
     void begin(const QString& work);
@@ -82,6 +87,7 @@ private:
     TimeBar* m_timeBar = nullptr;
     DetailsDock* m_details = nullptr;
     DataCommands* m_data = nullptr;
+    DocumentCommands* m_documents = nullptr;
     MainMenus* m_menus = nullptr;
     WorkProgress* m_work = nullptr; ///< of reading and drawing
     QLabel* m_summary = nullptr;

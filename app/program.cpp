@@ -12,6 +12,7 @@
 #include "app/style_dialog.h"
 #include "app/termination.h"
 #include "host/document/document.h"
+#include "host/storage/document_file.h"
 #include "host/undo/gesture_tracker.h"
 #include "play/dialog_driver.h"
 #include "play/player.h"
@@ -61,6 +62,19 @@ static QStringList argumentsOf(int argc, char** argv)
     return arguments;
 }
 
+static void printNotes(const QStringList& notes)
+{
+    for (const QString& note : notes)
+        std::fprintf(stderr, "%s\n", qUtf8Printable(named(note)));
+}
+
+static QString openDocumentNow(const QString& file)
+{
+    const auto outcome = host::storage::loadDocument(host::Document::instance(), file, readAndWait);
+    printNotes(outcome.notes);
+    return outcome.problem;
+}
+
 static QString openDataNow(const Options& options)
 {
     if (!options.demo.isEmpty()) {
@@ -70,13 +84,14 @@ static QString openDataNow(const Options& options)
     }
     if (options.files.isEmpty())
         return {};
+    if (host::storage::isDocumentFile(options.files.constFirst()))
+        return openDocumentNow(options.files.constFirst());
     host::io::ReadRequest request;
     request.files = options.files;
     request.plot3d = options.plot3d;
     request.text = options.table;
     const OpenedData opened = openAndWait(request);
-    for (const QString& note : opened.notes)
-        std::fprintf(stderr, "%s\n", qUtf8Printable(named(note)));
+    printNotes(opened.notes);
     return opened.error;
 }
 
@@ -134,12 +149,15 @@ static int runBatch(MainWindow& window, const Options& options)
         error = writeReport(window, options.report);
     if (error.isEmpty() && !options.picture.isEmpty())
         error = drawPicture(options);
+    if (error.isEmpty() && !options.document.isEmpty())
+        error = host::storage::saveDocument(host::Document::instance(), options.document);
     return error.isEmpty() ? Success : fail(named(error));
 }
 
 void startInteractive(MainWindow& window, const Options& options)
 {
     offerAllLineTabs();
+    window.askBeforeLosing();
     window.show();
     if (!options.files.isEmpty()) {
         auto* first = new QObject(&window);

@@ -21,6 +21,12 @@ QString ProgramStage::openFiles(const QStringList& files, const QString& table)
     return openAndWait(request).error;
 }
 
+std::shared_ptr<host::DataSet> ProgramStage::readData(const host::DataOrigin& origin,
+                                                      QString& problem)
+{
+    return readAndWait({origin}, problem);
+}
+
 QString ProgramStage::saveCanvas(const QString& file)
 {
     return m_window.saveCanvas(file);

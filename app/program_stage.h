@@ -19,6 +19,8 @@ public:
 
     QWidget& window() override;
     QString openFiles(const QStringList& files, const QString& table) override;
+    std::shared_ptr<host::DataSet> readData(const host::DataOrigin& origin,
+                                            QString& problem) override;
     QString saveCanvas(const QString& file) override;
 
 private:

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/document/document.h"
 #include "host/operations/operation_text.h"
+#include "host/storage/document_file.h"
 #include "play/verbs.h"
 #include "samples/demo_data.h"
 #include "sdk/base/cvl.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
+
+#include <QDir>
 
 #include <cmath>
 
@@ -36,12 +39,47 @@ static void attach(ScriptRun& run, const host::DataOrigin& origin)
     require(error.isEmpty(), error);
 }
 
+/// The data of a stored frame.
+static std::shared_ptr<host::DataSet>
+readData(ScriptRun& run, const std::vector<host::DataOrigin>& origins, QString& problem)
+{
+    const host::DataOrigin& origin = origins.front();
+    if (origin.demo.empty())
+        return run.stage().readData(origin, problem);
+    std::string reason;
+    std::shared_ptr<host::DataSet> data = samples::demoData(origin.demo, origin.scale, reason).data;
+    problem = QString::fromStdString(reason);
+    return data;
+}
+
+static void load(ScriptRun& run, const std::string& file)
+{
+    const auto outcome = host::storage::loadDocument(
+        run.document(), QString::fromStdString(file),
+        [&run](const auto& origins, QString& problem) { return readData(run, origins, problem); });
+    require(outcome.problem.isEmpty(), outcome.problem);
+}
+
+static void save(ScriptRun& run, const Arguments& arguments)
+{
+    const QString file = QDir(arguments.folder()).absoluteFilePath(arguments.text("save"));
+    const QString problem = host::storage::saveDocument(run.document(), file);
+    require(problem.isEmpty(), problem);
+}
+
 static void execute(ScriptRun& run, const Arguments& arguments)
 {
     const host::Operation operation = host::operationFromJson(
         arguments.object(), {run.document().activeFrame(), arguments.folder()});
     if (const auto* const attachment = std::get_if<host::AttachData>(&operation))
         return attach(run, attachment->origin);
+    if (const auto* const loading = std::get_if<host::LoadDocument>(&operation))
+        return load(run, loading->file);
+    if (const auto* const styles = std::get_if<host::ApplyStyles>(&operation)) {
+        const QString problem =
+            host::storage::loadStyles(run.document(), QString::fromStdString(styles->file)).problem;
+        return require(problem.isEmpty(), problem);
+    }
     const host::Outcome outcome = run.document().execute(operation);
     require(outcome.isDone(), host::refusalText(operation, outcome));
 }
@@ -136,9 +174,13 @@ static void mappingTabs(ScriptRun&, const Arguments& arguments)
 
 std::vector<Verb> documentVerbs()
 {
-    std::vector<Verb> verbs {{"get", {"map", "is"}, get}, {"event", {"parameters"}, event},
-                             {"undo", {}, undo},          {"redo", {}, redo},
-                             {"symbols", {}, symbols},    {"mappingTabs", {}, mappingTabs}};
+    std::vector<Verb> verbs {{"get", {"map", "is"}, get},
+                             {"event", {"parameters"}, event},
+                             {"undo", {}, undo},
+                             {"redo", {}, redo},
+                             {"save", {}, save},
+                             {"symbols", {}, symbols},
+                             {"mappingTabs", {}, mappingTabs}};
     for (const host::OperationVerb& verb : host::operationVerbs())
         verbs.push_back({verb.name, verb.keys, execute});
     return verbs;

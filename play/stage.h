@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "host/operations/operation.h"
+
 #include <QStringList>
+
+#include <memory>
 
 class QWidget;
 
@@ -19,6 +23,10 @@ public:
     /// Reads the files into the active frame and waits; `table` tells how text is read, as
     /// DataOrigin::table does. Empty on success, else the reason.
     virtual QString openFiles(const QStringList& files, const QString& table) = 0;
+
+    /// Reads data from files and waits; null, with the reason in `problem`, when that fails.
+    virtual std::shared_ptr<host::DataSet> readData(const host::DataOrigin& origin,
+                                                    QString& problem) = 0;
 
     /// Writes the plot as it is on the screen to a file, in the format that its ending names. Empty
     /// on success, else a text that names the file and the reason.

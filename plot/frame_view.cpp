@@ -7,6 +7,7 @@
 #include "plot/field/view/field_canvas.h"
 #include "plot/line/line_canvas.h"
 #include "plot/render.h"
+#include "plot/stored_view.h"
 
 #include <QLabel>
 #include <QStackedLayout>
@@ -22,6 +23,7 @@ static constexpr int kFirstDrawing = 100; ///< milliseconds of work before an un
 struct FrameView::Subscription
 {
     boost::signals2::scoped_connection connection;
+    boost::signals2::scoped_connection viewsWanted;
 };
 
 /// What the active frame shows: the plot type is PlotType_None while it has nothing to draw.
@@ -46,6 +48,8 @@ FrameView::FrameView(QWidget* parent)
     connect(&m_idle, &QTimer::timeout, this, &FrameView::redraw);
     m_subscription->connection = host::Document::instance().events().connect(
         [this](const host::StateEvent& event) { documentChanged(event); });
+    m_subscription->viewsWanted =
+        host::Document::instance().viewsWanted().connect([this] { keepViews(); });
     showFrame(keyOfActiveFrame());
 }
 
@@ -79,6 +83,24 @@ void FrameView::showHint()
     m_layout->setCurrentWidget(m_hint);
 }
 
+/// As the frame was seen when it was saved, if it was.
+static std::any storedView(const QPair<CvlUniqueId, int>& key)
+{
+    const host::Frame* const frame = host::Document::instance().frame(key.first);
+    const auto view = frame->views().find(key.second);
+    return view == frame->views().end() ? std::any()
+                                        : viewOf(view->second, static_cast<PlotType_e>(key.second));
+}
+
+void FrameView::keepViews()
+{
+    if (m_canvas)
+        m_views[m_key] = m_canvas->view();
+    for (auto view = m_views.constBegin(); view != m_views.constEnd(); ++view)
+        host::Document::instance().keepView(view.key().first, view.key().second,
+                                            viewText(view.value()));
+}
+
 void FrameView::showFrame(const ViewKey& key)
 {
     m_key = key;
@@ -92,7 +114,7 @@ void FrameView::showFrame(const ViewKey& key)
     }
     if (m_canvas->scene().frameId() != key.first)
         m_canvas->scene().setFrame(key.first);
-    m_canvas->setView(m_views.value(key));
+    m_canvas->setView(m_views.contains(key) ? m_views.value(key) : storedView(key));
     m_layout->setCurrentWidget(m_canvas);
     requestRedraw();
 }
@@ -110,6 +132,8 @@ void FrameView::documentChanged(const host::StateEvent& event)
             requestRedraw();
         }
     }
+    if (event.code == StateCode_DocumentCleared || event.code == StateCode_DocumentLoaded)
+        m_views.clear(); // of frames that are gone
     const ViewKey key = keyOfActiveFrame();
     if (key != m_key || isOther)
         showFrame(key);

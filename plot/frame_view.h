@@ -77,6 +77,8 @@ private:
     void documentChanged(const host::StateEvent& event);
     void showFrame(const ViewKey& key);
     void showHint();
+    /// Hands what is seen of frames to the document.
+    void keepViews();
     Canvas* canvasOf(Kind kind);
     void redraw();
     void draw();

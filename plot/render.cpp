@@ -4,6 +4,7 @@
 #include "host/document/document.h"
 #include "plot/field/view/offscreen.h"
 #include "plot/line/line_canvas.h"
+#include "plot/stored_view.h"
 
 #include <QCoreApplication>
 
@@ -14,9 +15,14 @@ QString paintFrame(CvlUniqueId frame, QPaintDevice& device, std::vector<SceneNot
     const host::Frame* const drawn = host::Document::instance().frame(frame);
     if (!drawn || !drawn->hasData() || !(drawn->isFieldPlot() || drawn->isLinePlot()))
         return QCoreApplication::translate("corvala::plot", "The frame shows no data");
-    return drawn->isFieldPlot()
-        ? paintField(frame, CameraState(), std::make_shared<SurfaceCache>(), device, notes)
-        : paintLines(frame, nullptr, device, notes);
+    const auto stored = drawn->views().find(drawn->plotType());
+    const std::any view =
+        stored == drawn->views().end() ? std::any() : viewOf(stored->second, drawn->plotType());
+    if (!drawn->isFieldPlot())
+        return paintLines(frame, std::any_cast<ChartRange>(&view), device, notes);
+    const auto* const camera = std::any_cast<CameraState>(&view);
+    return paintField(frame, camera ? *camera : CameraState(), std::make_shared<SurfaceCache>(),
+                      device, notes);
 }
 
 QImage renderToImage(CvlUniqueId frame, const QSize& size, QString* error)

@@ -10,9 +10,10 @@
 
 namespace corvala::plot {
 
-/// Draws a frame of the document, the whole of it in view, as PaintPicture; not for an ID of no
-/// frame, a frame without data, or a field plot on a machine without OpenGL. Field plots need an X
-/// server. `notes` (may be null) gets what there is to wonder at.
+/// Draws a frame of the document, as it was seen when it was saved or else the whole of it in view,
+/// as PaintPicture; not for an ID of no frame, a frame without data, or a field plot on a machine
+/// without OpenGL. Field plots need an X server. `notes` (may be null) gets what there is to wonder
+/// at.
 QString paintFrame(CvlUniqueId frame, QPaintDevice& device,
                    std::vector<SceneNote>* notes = nullptr);
 

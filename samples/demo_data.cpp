@@ -245,7 +245,7 @@ std::vector<std::string> demoNames()
     return {"field2d", "field3d", "kinds", "transient", "xy", "polar"};
 }
 
-bool openDemo(const std::string& name, std::int64_t scale, std::string& error)
+DemoData demoData(const std::string& name, std::int64_t scale, std::string& error)
 {
     constexpr std::int64_t kMost = 1000000;
     const bool isField = name == "field2d" || name == "field3d";
@@ -254,28 +254,35 @@ bool openDemo(const std::string& name, std::int64_t scale, std::string& error)
         error = isField || isLine
             ? "\"" + name + "\" takes 1 to 1000000, not " + std::to_string(scale)
             : "\"" + name + "\" has a fixed size";
-        return false;
+        return {};
     }
-    const auto attach = [&](std::shared_ptr<DataSet> data, PlotType_e plotType, CvlInt64 lineMaps) {
-        Document::instance().execute(
-            host::AttachData {{{}, name, scale, {}}, std::move(data), plotType, lineMaps});
-    };
-    if (isField) {
-        const bool planar = name == "field2d";
-        attach(makeField(scale > 0 ? scale : 12, planar),
-               planar ? PlotType_Field2D : PlotType_Field3D, 0);
-    } else if (isLine) {
-        const std::int64_t maps = scale > 0 ? scale : 6;
-        attach(makeSignals(name), name == "xy" ? PlotType_LineXY : PlotType_LinePolar, maps);
-        assignLineVariables(maps);
-    } else if (name == "kinds") {
-        attach(makeKinds(), PlotType_Field3D, 0);
-    } else if (name == "transient") {
-        attach(makeTransient(), PlotType_Field2D, 0);
-    } else {
-        error = "there is no embedded data named \"" + name + "\"";
+    const bool planar = name == "field2d";
+    if (isField)
+        return {makeField(scale > 0 ? scale : 12, planar),
+                planar ? PlotType_Field2D : PlotType_Field3D};
+    if (isLine)
+        return {makeSignals(name), name == "xy" ? PlotType_LineXY : PlotType_LinePolar,
+                scale > 0 ? scale : 6};
+    if (name == "kinds")
+        return {makeKinds(), PlotType_Field3D};
+    if (name == "transient")
+        return {makeTransient(), PlotType_Field2D};
+    error = "there is no embedded data named \"" + name + "\"";
+    return {};
+}
+
+bool openDemo(const std::string& name, std::int64_t scale, std::string& error)
+{
+    DemoData demo = demoData(name, scale, error);
+    if (!demo.data)
         return false;
-    }
+    host::DataOrigin origin;
+    origin.demo = name;
+    origin.scale = scale;
+    Document::instance().execute(
+        host::AttachData {std::move(origin), std::move(demo.data), demo.plotType, demo.lineMaps});
+    if (demo.lineMaps > 0)
+        assignLineVariables(demo.lineMaps);
     return true;
 }
 

@@ -15,6 +15,48 @@ vtkSmartPointer<vtkDataSet> DataSet::geometry(std::int64_t number) const
     return source && hasZone(number) ? source->zone(zone(number).sourceIndex) : nullptr;
 }
 
+/// Remembers the first of the names for as long as the present one is another.
+static void rename(std::string& name, const std::string& newName, std::int64_t key,
+                   std::map<std::int64_t, std::string>& readNames)
+{
+    const auto read = readNames.try_emplace(key, std::move(name)).first;
+    name = newName;
+    if (read->second == name)
+        readNames.erase(read);
+}
+
+void DataSet::renameZone(std::int64_t number, const std::string& name)
+{
+    ZoneInfo& renamed = zones[static_cast<std::size_t>(number - 1)];
+    rename(renamed.name, name, renamed.sourceIndex, readZoneNames);
+}
+
+void DataSet::renameVariable(std::int64_t number, const std::string& name)
+{
+    rename(variables[static_cast<std::size_t>(number - 1)].name, name, number, readVariableNames);
+}
+
+const std::string& DataSet::readZoneName(std::int64_t number) const
+{
+    const auto read = readZoneNames.find(zone(number).sourceIndex);
+    return read == readZoneNames.end() ? zone(number).name : read->second;
+}
+
+const std::string& DataSet::readVariableName(std::int64_t number) const
+{
+    const auto read = readVariableNames.find(number);
+    return read == readVariableNames.end() ? variable(number).name : read->second;
+}
+
+std::shared_ptr<DataSet> DataSet::withZones(const std::vector<std::int64_t>& numbers) const
+{
+    auto reduced = std::make_shared<DataSet>(*this);
+    reduced->zones.clear();
+    for (const std::int64_t number : numbers)
+        reduced->zones.push_back(zone(number));
+    return reduced;
+}
+
 static vtkSmartPointer<vtkDataArray> coordinateOf(vtkDataSet& zone, int axis)
 {
     const vtkIdType count = zone.GetNumberOfPoints();

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -94,6 +95,10 @@ public:
     bool surfacesEncloseVolumes = false; ///< zones that are surfaces lie all round the volumes
     std::vector<std::string> notes; ///< what the reader dropped or guessed, one sentence each
     std::shared_ptr<const ZoneSource> source;
+    std::shared_ptr<const DataSet> whole; ///< before zones were deleted; null: none were
+    /// Names that were given up: of zones by sourceIndex, of variables by number.
+    std::map<std::int64_t, std::string> readZoneNames;
+    std::map<std::int64_t, std::string> readVariableNames;
 
     std::int64_t zoneCount() const { return static_cast<std::int64_t>(zones.size()); }
     std::int64_t variableCount() const { return static_cast<std::int64_t>(variables.size()); }
@@ -110,6 +115,15 @@ public:
     {
         return variables[static_cast<std::size_t>(number - 1)];
     }
+
+    void renameZone(std::int64_t number, const std::string& name);
+    void renameVariable(std::int64_t number, const std::string& name);
+    // The names in the files, whatever they were renamed to.
+    const std::string& readZoneName(std::int64_t number) const;
+    const std::string& readVariableName(std::int64_t number) const;
+
+    /// The data with some of its zones, ascending, alone.
+    std::shared_ptr<DataSet> withZones(const std::vector<std::int64_t>& numbers) const;
 
     /// Points and cells of a zone; null as ZoneSource::zone says, or for a bad number.
     vtkSmartPointer<vtkDataSet> geometry(std::int64_t zone) const;

@@ -9,7 +9,7 @@
 namespace corvala::host {
 
 /// Eight named colours, then hues in four brightnesses.
-static std::vector<Rgb> defaultPalette()
+std::vector<Rgb> defaultPalette()
 {
     std::vector<Rgb> colors = {
         {0, 0, 0},     {255, 255, 255}, {214, 39, 40},  {44, 130, 44},
@@ -96,6 +96,15 @@ Frame* Document::frameAt(CvlInt64 position) const
         : nullptr;
 }
 
+void Document::keepView(CvlUniqueId id, int plotType, const std::string& view)
+{
+    Frame* const seen = frame(id);
+    if (seen && view.empty())
+        seen->m_views.erase(plotType);
+    else if (seen)
+        seen->m_views[plotType] = view;
+}
+
 void Document::activate(CvlUniqueId id)
 {
     Frame* const wanted = frame(id);
@@ -147,8 +156,10 @@ void Document::apply(const Change& change, bool forward)
         // Changed in place: states of the maps share the data, and there the name is the same.
         [&](const NameDelta& delta) {
             DataSet& data = *changed->m_maps.data;
-            const auto index = static_cast<std::size_t>(delta.number - 1);
-            (delta.isZone ? data.zones[index].name : data.variables[index].name) = result(delta);
+            if (delta.isZone)
+                data.renameZone(delta.number, result(delta));
+            else
+                data.renameVariable(delta.number, result(delta));
         },
         [&](const PaletteDelta& delta) {
             m_palette[static_cast<std::size_t>(delta.palette)] = result(delta);

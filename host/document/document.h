@@ -14,6 +14,9 @@
 
 namespace corvala::host {
 
+/// The colours of a new document.
+std::vector<Rgb> defaultPalette();
+
 /// Tells what was done, before its events are raised: operations that listeners do in answer come
 /// after it.
 using OperationSignal = boost::signals2::signal<void(const Operation&, const Outcome&)>;
@@ -55,6 +58,12 @@ public:
     std::optional<StyleOutput> read(const std::vector<std::string>& path, CvlInt64 map = 0,
                                     CvlInt64 index = -1) const;
 
+    /// Before the views of frames are stored: who has them keeps them (keepView).
+    boost::signals2::signal<void()>& viewsWanted() { return m_viewsWanted; }
+    /// Keeps what is seen of a frame as a plot type for files; nothing for an ID of no frame. A
+    /// view is no part of what operations change.
+    void keepView(CvlUniqueId frame, int plotType, const std::string& view);
+
     const ValueList& documentValues() const { return m_values; }
     Rgb color(int palette) const; ///< entry 0 to 63 of the palette, else black
 
@@ -76,6 +85,7 @@ private:
 
     StateEventSignal m_events;
     OperationSignal m_executed;
+    boost::signals2::signal<void()> m_viewsWanted;
     std::vector<std::unique_ptr<Frame>> m_frames;
     Frame* m_active = nullptr;
     CvlUniqueId m_nextId = 1;

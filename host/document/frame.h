@@ -9,6 +9,7 @@
 #include "vocabulary/enums.h"
 #include "vocabulary/types.h"
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -19,6 +20,7 @@ namespace corvala::host {
 /// written to.
 struct FrameMaps
 {
+    std::vector<DataOrigin> origins; ///< of the data, in the order of their zones
     std::shared_ptr<DataSet> data;
     std::shared_ptr<const FieldMapList> fieldMaps = std::make_shared<FieldMapList>();
     MapTable fieldStyle {Scope::FieldMap};
@@ -42,6 +44,7 @@ public:
     bool hasData() const { return m_maps.data != nullptr; }
     const DataSet* data() const { return m_maps.data.get(); } ///< null without data
     std::shared_ptr<const DataSet> sharedData() const { return m_maps.data; }
+    const std::vector<DataOrigin>& origins() const { return m_maps.origins; }
 
     const FieldMapList& fieldMaps() const { return *m_maps.fieldMaps; }
     CvlInt64 fieldMapCount() const { return fieldMaps().count(); }
@@ -60,6 +63,8 @@ public:
         return fieldMaps().candidateZone(map, m_solutionTime);
     }
     const std::vector<Pick>& picks() const { return m_picks; }
+    /// What was seen of the frame, by plot type: texts of the canvases (Document::keepView).
+    const std::map<int, std::string>& views() const { return m_views; }
 
     const MapTable& fieldStyle() const { return m_maps.fieldStyle; }
     const MapTable& lineStyle() const { return m_maps.lineStyle; }
@@ -88,6 +93,7 @@ private:
     ValueList m_values;
     double m_solutionTime = 0.0;
     std::vector<Pick> m_picks;
+    std::map<int, std::string> m_views;
 };
 
 } // namespace corvala::host

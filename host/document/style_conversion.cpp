@@ -22,24 +22,21 @@ static bool isColor(const Attribute& attribute, double number)
             && number <= style::kRgbColor);
 }
 
-static bool isInRange(const Attribute& attribute, double number, const Frame* frame)
+static bool isInRange(const Attribute& attribute, double number, const NamedNumbers& limits)
 {
-    const DataSet* const data = frame ? frame->data() : nullptr;
     switch (attribute.type) {
     case ValueType::Enumeration: return isEnumerator(attribute, number);
     case ValueType::Color: return isColor(attribute, number);
     case ValueType::Variable:
-        return number >= attribute.minimum
-            && number <= static_cast<double>(data ? data->variableCount() : 0);
+        return number >= attribute.minimum && number <= static_cast<double>(limits.variables);
     case ValueType::Zone:
-        return number >= attribute.minimum
-            && number <= static_cast<double>(data ? data->zoneCount() : 0);
+        return number >= attribute.minimum && number <= static_cast<double>(limits.zones);
     default: return number >= attribute.minimum && number <= attribute.maximum;
     }
 }
 
 static StyleWriteResult_e convertNumber(const Attribute& attribute, double number,
-                                        const Frame* frame, ValueList::Value& result)
+                                        const NamedNumbers& limits, ValueList::Value& result)
 {
     if (attribute.type == ValueType::Bool) {
         result = std::int32_t(number != 0.0 ? 1 : 0); // a NaN is not 0
@@ -47,7 +44,7 @@ static StyleWriteResult_e convertNumber(const Attribute& attribute, double numbe
     }
     if (!attribute.isReal() && (std::isnan(number) || number != std::floor(number)))
         return StyleWrite_WrongType;
-    if (!isInRange(attribute, number, frame))
+    if (!isInRange(attribute, number, limits))
         return StyleWrite_OutOfRange;
     if (attribute.isReal())
         result = number;
@@ -71,7 +68,7 @@ static StyleWriteResult_e convertText(const Attribute& attribute, const std::str
 }
 
 StyleWriteResult_e convertValue(const Attribute& attribute, const StyleInput& input,
-                                const Frame* frame, ValueList::Value& result)
+                                const NamedNumbers& limits, ValueList::Value& result)
 {
     if (const auto* text = std::get_if<std::string>(&input))
         return attribute.isText() ? convertText(attribute, *text, result) : StyleWrite_WrongType;
@@ -79,7 +76,16 @@ StyleWriteResult_e convertValue(const Attribute& attribute, const StyleInput& in
         return StyleWrite_WrongType;
     const double number = std::holds_alternative<bool>(input) ? (std::get<bool>(input) ? 1.0 : 0.0)
                                                               : std::get<double>(input);
-    return convertNumber(attribute, number, frame, result);
+    return convertNumber(attribute, number, limits, result);
+}
+
+StyleWriteResult_e convertValue(const Attribute& attribute, const StyleInput& input,
+                                const Frame* frame, ValueList::Value& result)
+{
+    const DataSet* const data = frame ? frame->data() : nullptr;
+    const NamedNumbers limits =
+        data ? NamedNumbers {data->variableCount(), data->zoneCount()} : NamedNumbers();
+    return convertValue(attribute, input, limits, result);
 }
 
 } // namespace corvala::host

@@ -350,6 +350,7 @@ QString DataReader::readerProgram()
 QString DataReader::nameFilters()
 {
     const std::pair<QString, QString> kinds[] = {
+        {tr("Documents"), QStringLiteral("*.cvdoc")},
         {tr("VTK files"),
          QStringLiteral("*.vtm *.vtmb *.vtpc *.vtpd *.vthb *.vth *.vtu *.vtp *.vts *.vtr *.vti "
                         "*.pvtu *.pvtp *.pvts *.pvtr *.pvti *.pvd *.series *.vtk")},

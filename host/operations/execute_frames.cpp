@@ -43,7 +43,7 @@ Outcome Executor::operator()(const DeleteFrame&)
     return {};
 }
 
-static FrameMaps mapsFor(FrameMaps maps, std::shared_ptr<DataSet> data, CvlInt64 lineMaps)
+FrameMaps mapsFor(FrameMaps maps, std::shared_ptr<DataSet> data, CvlInt64 lineMaps)
 {
     maps.fieldMaps = std::make_shared<FieldMapList>(data ? FieldMapList(*data) : FieldMapList());
     for (MapTable* const table : {&maps.fieldStyle, &maps.lineStyle})
@@ -82,10 +82,12 @@ Outcome Executor::operator()(const AttachData& operation)
     const Attribute& plotType = Schema::instance().at(style::plotType);
     const bool newPlotType = m_frame->plotType() != operation.plotType;
     maps() = mapsFor(std::move(maps()), operation.data, operation.lineMaps);
+    maps().origins = {operation.origin};
     m_frame->m_values = ValueList(Scope::Frame);
     m_frame->m_values.set(plotType, -1, std::int32_t(operation.plotType));
     proposeVariables(*operation.data, m_frame->m_values);
     m_frame->m_picks.clear();
+    m_frame->m_views.clear();
     const std::vector<double> times = operation.data->solutionTimes();
     m_frame->m_solutionTime = times.empty() ? 0.0 : times.front();
     if (newPlotType)
@@ -100,6 +102,7 @@ Outcome Executor::operator()(const DetachData&)
         return {StyleWrite_NoDocument};
     m_document.undo().clear();
     maps() = mapsFor(std::move(maps()), nullptr, 0);
+    maps().origins.clear();
     m_frame->m_picks.clear();
     announce(StateCode_DataSetDetached);
     return {};

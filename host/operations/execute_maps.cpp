@@ -161,15 +161,6 @@ static NewToOld zonesOf(const FrameMaps& frame, const NumberSet& maps)
     return zones;
 }
 
-static std::shared_ptr<DataSet> withZones(const DataSet& data, const NewToOld& zones)
-{
-    auto reduced = std::make_shared<DataSet>(data);
-    reduced->zones.clear();
-    for (const std::int64_t zone : zones)
-        reduced->zones.push_back(data.zone(zone));
-    return reduced;
-}
-
 /// Line maps go on drawing their zones, under the new numbers; one whose zone is gone gets the
 /// first.
 static void renumberZones(MapTable& lineStyle, const NewToOld& keptZones)
@@ -189,7 +180,9 @@ Outcome Executor::deleteFieldMaps(const NumberSet& deleted)
     const NewToOld newToOld = membersOf(kept);
     const NewToOld keptZones = zonesOf(maps(), kept);
     FrameMaps after = maps();
-    after.data = withZones(*maps().data, keptZones);
+    after.data = maps().data->withZones(keptZones);
+    if (!after.data->whole)
+        after.data->whole = maps().data;
     after.fieldMaps = std::make_shared<FieldMapList>(*after.data);
     after.fieldStyle.rearrange(newToOld);
     renumberZones(after.lineStyle, keptZones);

@@ -130,14 +130,23 @@ Outcome Executor::writeValue(Frame* frame, const Attribute& attribute, const Set
     if (before == value)
         return {StyleWrite_Unchanged};
 
+    return perform(valueChange(frame, attribute, operation.index, before, value,
+                               assignmentText(attribute, operation.value)),
+                   operation.undoable);
+}
+
+Change Executor::valueChange(const Frame* frame, const Attribute& attribute, std::int64_t index,
+                             const ValueList::Value& before, const ValueList::Value& after,
+                             const QString& text) const
+{
     Change change;
     change.frame = frame ? frame->id() : 0;
-    change.text = assignmentText(attribute, operation.value);
+    change.text = text;
     change.events = {styleEvent(frame, attribute, {{attribute.id, {}}})};
     if (attribute.id == style::contourGroups.var)
         change.events.push_back(eventOf(StateCode_ContourGroupChanged));
-    change.delta = ValueDelta {attribute.id, operation.index, before, value};
-    return perform(std::move(change), operation.undoable);
+    change.delta = ValueDelta {attribute.id, index, before, after};
+    return change;
 }
 
 /// The maps that an operand names: itself, or the maps of its zones.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/document/document.h"
+#include "host/storage/stored_document.h"
 
 #include <vector>
 
@@ -31,6 +32,8 @@ public:
     Outcome operator()(const DeleteFrame& operation);
     Outcome operator()(const AttachData& operation);
     Outcome operator()(const DetachData& operation);
+    Outcome operator()(const LoadDocument& operation);
+    Outcome operator()(const ApplyStyles& operation);
 
     /// What is to be announced when everything else has been done.
     const std::vector<StateEvent>& events() const { return m_events; }
@@ -46,7 +49,18 @@ private:
     Outcome writeMaps(const Attribute& attribute, const SetStyle& operation,
                       std::optional<StateEvent> event = {});
     Outcome writeValue(Frame* frame, const Attribute& attribute, const SetStyle& operation);
+    Change valueChange(const Frame* frame, const Attribute& attribute, std::int64_t index,
+                       const ValueList::Value& before, const ValueList::Value& after,
+                       const QString& text) const;
     Outcome writeSet(const Attribute& attribute, const SetStyle& operation);
+
+    /// Makes an empty frame what was stored.
+    static void restore(Frame& frame, const storage::StoredFrame& stored,
+                        std::shared_ptr<DataSet> data);
+    void applyValues(Frame* frame, const std::vector<storage::StoredValue>& stored,
+                     const QString& text);
+    void applyColumns(MapTable FrameMaps::*table, const std::vector<storage::StoredColumn>& columns,
+                      const NumberSet& given, Scope scope, const QString& text);
 
     Outcome rename(bool isZone, CvlInt64 number, const std::string& name);
     Outcome enable(NumberSet FrameMaps::*set, const NumberSet& members, CvlInt64 count,
@@ -63,6 +77,9 @@ private:
 
 /// Whether the set is not empty and holds numbers from 1 to `count` only.
 bool areExisting(const NumberSet& numbers, CvlInt64 count);
+
+/// Maps with default style for data (null for none), all active; `maps` is what they replace.
+FrameMaps mapsFor(FrameMaps maps, std::shared_ptr<DataSet> data, CvlInt64 lineMaps);
 
 /// Event of one style value of a frame (null: of the document).
 StateEvent styleEvent(const Frame* frame, const Attribute& attribute,

@@ -18,6 +18,11 @@
 /// What can be done to a document, as plain values: they say what is to be done, to the active
 /// frame unless stated, and know nothing of how. They can be compared, kept, and written as text
 /// (operation_text.h). Document::execute does them.
+namespace corvala::host::storage {
+struct StoredDocument;
+struct StyleSheet;
+}
+
 namespace corvala::host {
 
 /// An RGB colour, 0 to 255 each.
@@ -164,7 +169,8 @@ struct DataOrigin
     std::string demo; ///< name of embedded data
     std::int64_t scale = 0; ///< its number of zones or line maps; 0 is its usual size
     std::string table; ///< how text files are read (text_dialect.h); empty: as is detected
-    auto fields() const { return std::tie(files, demo, scale, table); }
+    std::string plot3d; ///< layout of Plot3D files (plot3d_layout.h); empty: as is detected
+    auto fields() const { return std::tie(files, demo, scale, table, plot3d); }
 };
 
 /// Gives the active frame (made when there is none) data and a plot type to show them: default
@@ -179,6 +185,25 @@ struct AttachData
     auto fields() const { return std::tie(origin); }
 };
 
+/// Replaces all of the document by a stored one, and clears the undo history. Somebody reads the
+/// file and the data of its frames (none for a frame without) before it is done.
+struct LoadDocument
+{
+    std::string file; ///< absolute path
+    std::shared_ptr<const storage::StoredDocument> document = {};
+    std::vector<std::shared_ptr<DataSet>> data = {}; ///< of each frame, as they were read
+    auto fields() const { return std::tie(file); }
+};
+
+/// Gives the active frame and its maps the style of a frame that was stored, and was fitted to its
+/// data (storage/fitting.h). Somebody does both before.
+struct ApplyStyles
+{
+    std::string file; ///< absolute path
+    std::shared_ptr<const storage::StyleSheet> styles = {};
+    auto fields() const { return std::tie(file); }
+};
+
 /// Drops the data of the active frame. Clears the undo history.
 struct DetachData
 {
@@ -191,10 +216,10 @@ bool operator==(const T& one, const T& two)
     return one.fields() == two.fields();
 }
 
-using Operation =
-    std::variant<SetStyle, RenameZone, RenameVariable, RenameLineMaps, CreateLineMaps, CopyLineMaps,
-                 MoveLineMaps, DeleteMaps, EnableZones, EnableVariables, SetSolutionTime, SetPicks,
-                 SetPaletteColor, AddFrame, ActivateFrame, DeleteFrame, AttachData, DetachData>;
+using Operation = std::variant<SetStyle, RenameZone, RenameVariable, RenameLineMaps, CreateLineMaps,
+                               CopyLineMaps, MoveLineMaps, DeleteMaps, EnableZones, EnableVariables,
+                               SetSolutionTime, SetPicks, SetPaletteColor, AddFrame, ActivateFrame,
+                               DeleteFrame, AttachData, DetachData, LoadDocument, ApplyStyles>;
 
 /// What came of an operation: all of it was done, or nothing.
 struct Outcome

@@ -192,12 +192,29 @@ Operation readFrame(const JsonObject& object, const TextContext&)
     return ActivateFrame {object.integer("frame")};
 }
 
+std::string readFile(const JsonObject& object, const char* key, const TextContext& context)
+{
+    return QDir(context.folder).absoluteFilePath(object.text(key)).toStdString();
+}
+
+Operation readLoad(const JsonObject& object, const TextContext& context)
+{
+    return LoadDocument {readFile(object, "load", context)};
+}
+
+Operation readLoadStyles(const JsonObject& object, const TextContext& context)
+{
+    return ApplyStyles {readFile(object, "loadStyles", context)};
+}
+
 Operation readOpen(const JsonObject& object, const TextContext& context)
 {
     AttachData attach;
     for (const QString& file : object.texts("open"))
-        attach.origin.files.push_back(QDir(context.folder).absoluteFilePath(file).toStdString());
+        attach.origin.files.push_back(
+            QDir::cleanPath(QDir(context.folder).absoluteFilePath(file)).toStdString());
     attach.origin.table = object.text("table", {}).toStdString();
+    attach.origin.plot3d = object.text("plot3d", {}).toStdString();
     return attach;
 }
 
@@ -245,7 +262,9 @@ const std::vector<Reader>& readers()
         {{"pick", {}}, readPick},
         {{"paletteColor", {"rgb"}}, readPaletteColor},
         {{"frame", {}}, readFrame},
-        {{"open", {"table"}}, readOpen},
+        {{"load", {}}, readLoad},
+        {{"loadStyles", {}}, readLoadStyles},
+        {{"open", {"table", "plot3d"}}, readOpen},
         {{"demo", {"zones", "maps"}}, readDemo},
         {{"data", {}}, readData}};
     return readers;

@@ -177,12 +177,24 @@ Json json(const AttachData& attach)
         Json object {{"open", origin.files}};
         if (!origin.table.empty())
             object["table"] = origin.table;
+        if (!origin.plot3d.empty())
+            object["plot3d"] = origin.plot3d;
         return object;
     }
     Json object {{"demo", origin.demo}};
     if (origin.scale != 0)
         object[isScaledByMaps(origin.demo) ? "maps" : "zones"] = origin.scale;
     return object;
+}
+
+Json json(const LoadDocument& load)
+{
+    return {{"load", load.file}};
+}
+
+Json json(const ApplyStyles& apply)
+{
+    return {{"loadStyles", apply.file}};
 }
 
 Json json(const DetachData&)

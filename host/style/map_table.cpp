@@ -2,17 +2,15 @@
 #include "host/style/map_table.h"
 
 #include <algorithm>
+#include <map>
 #include <unordered_set>
+#include <utility>
 
 namespace corvala::host {
 
 namespace {
 
 constexpr std::size_t kSize = MapTable::kChunkSize;
-
-/// Values of kSize neighbouring maps; those beyond the last map are meaningless.
-template<class T>
-using Chunk = std::array<T, kSize>;
 
 std::size_t chunkIndex(std::int64_t map)
 {
@@ -25,9 +23,9 @@ std::size_t placeInChunk(std::int64_t map)
 }
 
 template<class T>
-std::shared_ptr<const Chunk<T>> filledChunk(const T& value)
+std::shared_ptr<const std::array<T, kSize>> filledChunk(const T& value)
 {
-    auto chunk = std::make_shared<Chunk<T>>();
+    auto chunk = std::make_shared<std::array<T, kSize>>();
     chunk->fill(value);
     return chunk;
 }
@@ -44,6 +42,13 @@ const Attribute& attributeAt(Scope scope, std::size_t slot)
 }
 
 } // namespace
+
+std::int32_t cyclingColor(std::int64_t map)
+{
+    constexpr int kFirst = 2; // after black and white
+    constexpr int kColors = 6;
+    return kFirst + static_cast<std::int32_t>((map - 1) % kColors);
+}
 
 MapTable::MapTable(Scope scope)
     : m_scope(scope)
@@ -62,12 +67,7 @@ template<>
 std::int32_t MapTable::defaultValue(const Attribute& attribute, std::int64_t map) const
 {
     switch (attribute.rule) {
-    case DefaultRule::CyclingColor: {
-        // The first palette colours are black and white; maps cycle through the next six.
-        constexpr int kFirst = 2;
-        constexpr int kColors = 6;
-        return kFirst + static_cast<std::int32_t>((map - 1) % kColors);
-    }
+    case DefaultRule::CyclingColor: return cyclingColor(map);
     case DefaultRule::NoSurfacesForVolumes:
         if (m_hasVolume && m_hasVolume(map))
             return 10;
@@ -125,15 +125,23 @@ MapTable::MapRange MapTable::mapsOf(std::size_t chunk) const
     return {start + 1, std::min(start + static_cast<std::int64_t>(kSize), m_count)};
 }
 
+template<class T>
+std::shared_ptr<MapTable::Chunk<T>> MapTable::chunkOfValues(const Attribute& attribute,
+                                                            MapRange range) const
+{
+    auto copy = std::make_shared<Chunk<T>>();
+    for (std::int64_t map = range.first; map <= range.last; ++map)
+        (*copy)[placeInChunk(map)] = value<T>(attribute, map);
+    return copy;
+}
+
 /// The chunk's values with the new one in the given places.
 template<class T>
 MapTable::ChunkPointer MapTable::chunkWith(const Attribute& attribute, MapRange range,
                                            const std::uint32_t* begin, const std::uint32_t* end,
                                            const T& newValue) const
 {
-    auto copy = std::make_shared<Chunk<T>>();
-    for (std::int64_t map = range.first; map <= range.last; ++map)
-        (*copy)[placeInChunk(map)] = value<T>(attribute, map);
+    auto copy = chunkOfValues<T>(attribute, range);
     for (; begin != end; ++begin)
         (*copy)[placeInChunk(*begin)] = newValue;
     return copy;
@@ -197,6 +205,129 @@ void MapTable::apply(const Attribute& attribute, const std::vector<ChunkChange>&
     auto& column = m_columns[static_cast<std::size_t>(attribute.slot)];
     for (const ChunkChange& change : changes)
         column[change.chunk] = forward ? change.after : change.before;
+}
+
+template<class T>
+std::vector<MapTable::ValueOfMaps> MapTable::changedAs(const Attribute& attribute) const
+{
+    std::map<T, std::vector<std::uint32_t>> found;
+    const auto& column = m_columns[static_cast<std::size_t>(attribute.slot)];
+    const bool isConstant = attribute.rule == DefaultRule::Constant;
+    T fallback = defaultValue<T>(attribute, 1);
+    for (std::size_t chunk = 0; chunk < column.size(); ++chunk) {
+        if (!column[chunk])
+            continue;
+        const auto& values = *static_cast<const Chunk<T>*>(column[chunk].get());
+        const MapRange range = mapsOf(chunk);
+        for (std::int64_t map = range.first; map <= range.last; ++map) {
+            if (!isConstant)
+                fallback = defaultValue<T>(attribute, map);
+            if (const T& here = values[placeInChunk(map)]; here != fallback)
+                found[here].push_back(static_cast<std::uint32_t>(map));
+        }
+    }
+    std::vector<ValueOfMaps> result;
+    for (const auto& [value, maps] : found)
+        result.push_back({NumberSet(maps.size(), maps.data()), value});
+    std::sort(result.begin(), result.end(), [](const ValueOfMaps& a, const ValueOfMaps& b) {
+        return a.maps.minimum() < b.maps.minimum();
+    });
+    return result;
+}
+
+template<class T>
+void MapTable::fillAs(const Attribute& attribute, const std::vector<ValueOfMaps>& values)
+{
+    auto& column = m_columns[static_cast<std::size_t>(attribute.slot)];
+    std::vector<std::shared_ptr<Chunk<T>>> filled(column.size());
+    for (const auto& [maps, value] : values) {
+        const T& given = std::get<T>(value);
+        std::shared_ptr<const Chunk<T>> uniform;
+        std::size_t before = column.size();
+        bool isWhole = false;
+        for (const std::uint32_t map : maps) {
+            const std::size_t chunk = chunkIndex(map);
+            if (std::exchange(before, chunk) != chunk) {
+                const MapRange range = mapsOf(chunk);
+                isWhole = maps.containsRange(static_cast<std::uint64_t>(range.first),
+                                             static_cast<std::uint64_t>(range.last) + 1);
+                if (isWhole && !uniform)
+                    uniform = filledChunk(given);
+                if (isWhole)
+                    column[chunk] = uniform;
+                else if (!filled[chunk])
+                    column[chunk] = filled[chunk] = chunkOfValues<T>(attribute, range);
+            }
+            if (!isWhole)
+                (*filled[chunk])[placeInChunk(map)] = given;
+        }
+    }
+}
+
+/// Calls the function with a value of the attribute's type.
+template<class Function>
+static auto withType(const Attribute& attribute, Function function)
+{
+    if (attribute.isText())
+        return function(std::string());
+    return attribute.isReal() ? function(double()) : function(std::int32_t());
+}
+
+std::vector<MapTable::ValueOfMaps> MapTable::changedValues(const Attribute& attribute) const
+{
+    return withType(attribute, [&](auto type) { return changedAs<decltype(type)>(attribute); });
+}
+
+void MapTable::fill(const Attribute& attribute, const std::vector<ValueOfMaps>& values)
+{
+    withType(attribute, [&](auto type) { fillAs<decltype(type)>(attribute, values); });
+}
+
+template<class T>
+void MapTable::resetAs(const Attribute& attribute, const NumberSet& maps)
+{
+    auto& column = m_columns[static_cast<std::size_t>(attribute.slot)];
+    std::vector<std::shared_ptr<Chunk<T>>> changed(column.size());
+    for (const std::uint32_t map : maps) {
+        const std::size_t chunk = chunkIndex(map);
+        if (!column[chunk])
+            continue;
+        if (!changed[chunk])
+            column[chunk] = changed[chunk] = chunkOfValues<T>(attribute, mapsOf(chunk));
+        (*changed[chunk])[placeInChunk(map)] = defaultValue<T>(attribute, map);
+    }
+}
+
+void MapTable::reset(const Attribute& attribute, const NumberSet& maps)
+{
+    withType(attribute, [&](auto type) { resetAs<decltype(type)>(attribute, maps); });
+}
+
+template<class T>
+bool MapTable::isSame(const MapTable& other, const Attribute& attribute, std::size_t chunk) const
+{
+    const MapRange range = mapsOf(chunk);
+    for (std::int64_t map = range.first; map <= range.last; ++map)
+        if (value<T>(attribute, map) != other.value<T>(attribute, map))
+            return false;
+    return true;
+}
+
+std::vector<MapTable::ChunkChange> MapTable::changesTo(const MapTable& other,
+                                                       const Attribute& attribute) const
+{
+    const auto& before = m_columns[static_cast<std::size_t>(attribute.slot)];
+    const auto& after = other.m_columns[static_cast<std::size_t>(attribute.slot)];
+    std::vector<ChunkChange> changes;
+    for (std::size_t chunk = 0; chunk < before.size(); ++chunk) {
+        const bool isChanged =
+            before[chunk] != after[chunk] && !withType(attribute, [&](auto type) {
+                return isSame<decltype(type)>(other, attribute, chunk);
+            });
+        if (isChanged)
+            changes.push_back({static_cast<std::uint32_t>(chunk), before[chunk], after[chunk]});
+    }
+    return changes;
 }
 
 void MapTable::transform(const Attribute& attribute,

@@ -9,9 +9,13 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace corvala::host {
+
+/// Maps cycle through six colours of the palette unless told otherwise.
+std::int32_t cyclingColor(std::int64_t map);
 
 /// Style values of all maps of one kind in one frame, stored by column in copy-on-write chunks of
 /// 1024 maps. A chunk that nobody wrote to is absent, so maps with default style cost nothing but
@@ -53,6 +57,21 @@ public:
                                   const std::string& value) const;
     void apply(const Attribute& attribute, const std::vector<ChunkChange>& changes, bool forward);
 
+    /// A value, and the maps that have it.
+    struct ValueOfMaps
+    {
+        NumberSet maps;
+        std::variant<std::int32_t, double, std::string> value;
+    };
+    /// Values that are not the default ones, each once, in the order of their first maps.
+    std::vector<ValueOfMaps> changedValues(const Attribute& attribute) const;
+    /// Gives maps the default values, without a way back.
+    void reset(const Attribute& attribute, const NumberSet& maps);
+    /// Gives maps of the table these values, without a way back.
+    void fill(const Attribute& attribute, const std::vector<ValueOfMaps>& values);
+    /// What makes the column of this table that of another one with as many maps.
+    std::vector<ChunkChange> changesTo(const MapTable& other, const Attribute& attribute) const;
+
     /// Gives every map what the function makes of its value, without a way back.
     void transform(const Attribute& attribute,
                    const std::function<std::int32_t(std::int32_t)>& newValue);
@@ -67,6 +86,10 @@ public:
     std::size_t memoryUse() const; ///< bytes held by the columns, shared chunks counted once
 
 private:
+    /// Values of neighbouring maps; those beyond the last map are meaningless.
+    template<class T>
+    using Chunk = std::array<T, kChunkSize>;
+
     template<class T>
     T defaultValue(const Attribute& attribute, std::int64_t map) const;
     template<class T>
@@ -78,11 +101,21 @@ private:
     };
     MapRange mapsOf(std::size_t chunk) const;
     template<class T>
+    std::shared_ptr<Chunk<T>> chunkOfValues(const Attribute& attribute, MapRange range) const;
+    template<class T>
     ChunkPointer chunkWith(const Attribute& attribute, MapRange range, const std::uint32_t* begin,
                            const std::uint32_t* end, const T& value) const;
     template<class T>
     std::vector<ChunkChange> planAs(const Attribute& attribute, const NumberSet& maps,
                                     const T& value) const;
+    template<class T>
+    std::vector<ValueOfMaps> changedAs(const Attribute& attribute) const;
+    template<class T>
+    void fillAs(const Attribute& attribute, const std::vector<ValueOfMaps>& values);
+    template<class T>
+    void resetAs(const Attribute& attribute, const NumberSet& maps);
+    template<class T>
+    bool isSame(const MapTable& other, const Attribute& attribute, std::size_t chunk) const;
     template<class T>
     void rearrangeAs(const Attribute& attribute, const std::vector<std::int64_t>& newToOld,
                      const MapTable& old);

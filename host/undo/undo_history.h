@@ -49,6 +49,9 @@ public:
     int stepCount() const; ///< steps that can be undone
     QString undoText() const;
 
+    /// The present state is what a file has; the stack is clean while it is there (isClean).
+    void markSaved() { m_stack.setClean(); }
+
     /// For views and actions (createUndoAction); pushing to it is this class's business.
     const QUndoStack& stack() const { return m_stack; }
 

@@ -25,6 +25,11 @@ public:
     {
         return QStringLiteral("this stage reads no files");
     }
+    std::shared_ptr<host::DataSet> readData(const host::DataOrigin&, QString& problem) override
+    {
+        problem = QStringLiteral("this stage reads no files");
+        return nullptr;
+    }
     QString saveCanvas(const QString&) override
     {
         return QStringLiteral("this stage has no canvas");

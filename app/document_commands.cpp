@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/document_commands.h"
+
+#include "app/data_opening.h"
+#include "app/icons.h"
+#include "app/notice_bar.h"
+#include "app/recent_files.h"
+#include "host/document/document.h"
+#include "host/storage/moved_data.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSessionManager>
+#include <QStatusBar>
+
+namespace corvala::app {
+
+namespace storage = host::storage;
+using host::Document;
+using host::io::ReadRequest;
+using host::io::ReadResult;
+
+DocumentCommands::DocumentCommands(QMainWindow& window, NoticeBar& notice, DataOpener& opener)
+    : QObject(&window)
+    , m_window(window)
+    , m_notice(notice)
+    , m_opener(opener)
+{
+    m_new = addCommand(tr("&New"), "document-new", QKeySequence::New,
+                       tr("Begins an empty document"), &DocumentCommands::startNew);
+    m_saveCommands = {
+        addCommand(tr("&Save"), "document-save", QKeySequence::Save,
+                   tr("Saves the document: styles, views and where the data are"),
+                   &DocumentCommands::saveCommand),
+        addCommand(tr("Save &As..."), "document-save-as", QKeySequence::SaveAs,
+                   tr("Saves the document in another file"), &DocumentCommands::saveAsCommand),
+        addCommand(tr("&Load Style from Document..."), "", {},
+                   tr("Takes the styles of zones of the same names over to the open data"),
+                   &DocumentCommands::loadStyles)};
+    m_saveCommands[1]->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+S")));
+}
+
+QAction* DocumentCommands::addCommand(const QString& text, const char* icon,
+                                      const QKeySequence& keys, const QString& tip,
+                                      void (DocumentCommands::*command)())
+{
+    auto* action = new QAction(text, this);
+    if (*icon != '\0')
+        action->setIcon(commandIcon(icon));
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::ApplicationShortcut);
+    action->setStatusTip(tip);
+    connect(action, &QAction::triggered, this, command);
+    return action;
+}
+
+void DocumentCommands::enable(bool enabled)
+{
+    for (QAction* const action : QList<QAction*>(m_saveCommands) << m_new)
+        action->setEnabled(enabled);
+}
+
+QString DocumentCommands::title() const
+{
+    const host::Frame* const frame = Document::instance().activeFrame();
+    QString name = QFileInfo(m_state.file()).fileName();
+    if (name.isEmpty() && frame && frame->hasData())
+        name = QString::fromStdString(frame->data()->title);
+    if (name.isEmpty() && m_state.isChanged())
+        name = tr("Untitled");
+    return name.isEmpty()
+        ? name
+        : name.replace(QLatin1String("[*]"), QLatin1String("[*][*]")) + QLatin1String("[*]");
+}
+
+void DocumentCommands::askBeforeLosing()
+{
+    m_asks = true;
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &DocumentCommands::commit,
+            Qt::DirectConnection);
+}
+
+void DocumentCommands::commit(QSessionManager& manager)
+{
+    if (!m_state.isChanged() || !manager.allowsInteraction())
+        return;
+    const bool maySessionEnd = mayLose();
+    manager.release();
+    if (!maySessionEnd)
+        manager.cancel();
+}
+
+bool DocumentCommands::mayLose()
+{
+    if (!m_asks || !m_state.isChanged())
+        return true;
+    const QString name = QFileInfo(m_state.file()).fileName();
+    QMessageBox box(QMessageBox::Warning, tr("Unsaved Changes"),
+                    name.isEmpty() ? tr("Save the document?")
+                                   : tr("Save the changes of %1?").arg(name),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(tr("What is not saved will be lost."));
+    box.setDefaultButton(QMessageBox::Save);
+    const int answer = box.exec();
+    return answer == QMessageBox::Save ? save() : answer == QMessageBox::Discard;
+}
+
+bool DocumentCommands::mayReplaceData()
+{
+    const host::Frame* const frame = Document::instance().activeFrame();
+    return !frame || !frame->hasData() || mayLose();
+}
+
+void DocumentCommands::startNew()
+{
+    if (m_opener.isRunning() || !mayLose())
+        return;
+    Document::instance().clear();
+    m_state.setNew();
+    m_notice.tell({});
+}
+
+bool DocumentCommands::save()
+{
+    return m_state.file().isEmpty() ? saveAs() : saveTo(m_state.file());
+}
+
+/// A name for the document: that of the data, beside them.
+static QString proposedFile(const QString& file)
+{
+    const host::Frame* const frame = Document::instance().activeFrame();
+    if (!file.isEmpty() || !frame || frame->origins().empty()
+        || frame->origins().front().files.empty())
+        return file;
+    const QFileInfo data(QString::fromStdString(frame->origins().front().files.front()));
+    return data.dir().filePath(data.completeBaseName() + QLatin1String(storage::kFileEnding));
+}
+
+bool DocumentCommands::saveAs()
+{
+    QFileDialog dialog(&m_window, tr("Save Document"), {}, tr("Documents (*.cvdoc)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("cvdoc"));
+    if (const QString file = proposedFile(m_state.file()); !file.isEmpty()) {
+        dialog.setDirectory(QFileInfo(file).path());
+        dialog.selectFile(file);
+    }
+    return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().constFirst());
+}
+
+bool DocumentCommands::saveTo(const QString& file)
+{
+    const QString problem = storage::saveDocument(Document::instance(), file);
+    if (!problem.isEmpty()) {
+        Q_EMIT failed(problem);
+        return false;
+    }
+    m_state.setSaved(QFileInfo(file).absoluteFilePath());
+    rememberFiles({m_state.file()});
+    constexpr int kShownMilliseconds = 5000;
+    m_window.statusBar()->showMessage(tr("Saved %1").arg(file), kShownMilliseconds);
+    return true;
+}
+
+void DocumentCommands::open(const QString& file)
+{
+    if (m_opener.isRunning() || !mayLose())
+        return;
+    const QString path = QFileInfo(file).absoluteFilePath();
+    const storage::ReadDocument read = storage::readDocument(path);
+    if (!read.document) {
+        Q_EMIT failed(read.problem);
+        return;
+    }
+    auto document = std::make_shared<storage::StoredDocument>(*read.document);
+    if (findData(*document, path))
+        readData({path, std::move(document)});
+}
+
+/// Lets the user look for data that are missing; false when they are not to be had.
+bool DocumentCommands::findData(storage::StoredDocument& document, const QString& file)
+{
+    constexpr int kShown = 5;
+    for (QStringList missing = storage::missingFiles(document); !missing.isEmpty();
+         missing = storage::missingFiles(document)) {
+        QMessageBox box(QMessageBox::Warning, tr("Missing Data"),
+                        tr("%1: %n data file(s) cannot be found.", nullptr, missing.size())
+                            .arg(QFileInfo(file).fileName()),
+                        QMessageBox::Cancel, &m_window);
+        box.setTextFormat(Qt::PlainText);
+        box.setInformativeText(missing.mid(0, kShown).join(QLatin1Char('\n'))
+                               + (missing.size() > kShown ? tr("\n...") : QString()));
+        const QPushButton* const look =
+            box.addButton(tr("Look Elsewhere..."), QMessageBox::AcceptRole);
+        box.exec();
+        if (box.clickedButton() != look)
+            return false;
+        const QString folder = QFileDialog::getExistingDirectory(
+            &m_window, tr("Folder of the Data"), QFileInfo(file).path());
+        if (folder.isEmpty())
+            return false;
+        storage::lookIn(folder, document);
+    }
+    return true;
+}
+
+void DocumentCommands::readData(Opening opening)
+{
+    std::vector<ReadRequest> requests;
+    QString problem;
+    for (const storage::StoredFrame& frame : opening.document->frames)
+        if (!frame.data.empty() && frame.data.front().demo.empty() && problem.isEmpty())
+            requests.push_back(requestOf(frame.data.front(), problem));
+    if (!problem.isEmpty()) {
+        Q_EMIT failed(QStringLiteral("%1: %2").arg(opening.file, problem));
+        return;
+    }
+    m_opener.start(std::move(requests), [this, opening](const std::vector<ReadResult>& results) {
+        return put(opening, results);
+    });
+}
+
+bool DocumentCommands::put(const Opening& opening, const std::vector<ReadResult>& results)
+{
+    storage::FrameData data;
+    QString problem;
+    auto read = results.begin();
+    for (const storage::StoredFrame& frame : opening.document->frames) {
+        const bool isRead = !frame.data.empty() && frame.data.front().demo.empty();
+        data.push_back(isRead                   ? (read++)->data
+                           : frame.data.empty() ? nullptr
+                                                : embeddedData(frame.data.front(), problem));
+    }
+    QStringList notes;
+    auto document = storage::fittedDocument(opening.document, data, notes);
+    if (problem.isEmpty() && !notes.isEmpty() && !mayLoad(opening.file, notes))
+        return false;
+    if (problem.isEmpty())
+        problem = storage::putDocument(Document::instance(), opening.file, std::move(document),
+                                       std::move(data))
+                      .problem;
+    if (!problem.isEmpty()) {
+        Q_EMIT failed(QStringLiteral("%1: %2").arg(opening.file, problem));
+        return false;
+    }
+    rememberFiles({opening.file});
+    m_notice.tell(notes.join(QLatin1Char(' ')));
+    return true;
+}
+
+bool DocumentCommands::mayLoad(const QString& file, const QStringList& notes)
+{
+    QMessageBox box(QMessageBox::Warning, tr("Changed Data"),
+                    tr("The data of %1 have changed.").arg(QFileInfo(file).fileName()),
+                    QMessageBox::Cancel, &m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(notes.join(QLatin1Char('\n')));
+    const QPushButton* const load = box.addButton(tr("Load What Fits"), QMessageBox::AcceptRole);
+    box.exec();
+    return box.clickedButton() == load;
+}
+
+void DocumentCommands::loadStyles()
+{
+    const QString file = QFileDialog::getOpenFileName(&m_window, tr("Load Style from Document"), {},
+                                                      tr("Documents (*.cvdoc)"));
+    if (file.isEmpty())
+        return;
+    const storage::LoadOutcome outcome = storage::loadStyles(Document::instance(), file);
+    if (outcome.problem.isEmpty())
+        m_notice.tell(outcome.notes.join(QLatin1Char(' ')));
+    else
+        Q_EMIT failed(outcome.problem);
+}
+
+} // namespace corvala::app

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/document_state.h"
+
+#include "host/document/document.h"
+
+namespace corvala::app {
+
+using host::Document;
+
+static const QUndoStack& undoStack()
+{
+    return Document::instance().undo().stack();
+}
+
+DocumentState::DocumentState(QObject* parent)
+    : QObject(parent)
+{
+    connect(&undoStack(), &QUndoStack::cleanChanged, this, &DocumentState::notice);
+    m_connection = Document::instance().executed().connect(
+        [this](const host::Operation& operation, const host::Outcome& outcome) {
+            if (outcome.isDone())
+                take(operation);
+        });
+}
+
+bool DocumentState::isChanged() const
+{
+    return !undoStack().isClean() || m_hasOtherData || m_hasLostSteps;
+}
+
+/// An emptied stack is clean whatever was in it.
+void DocumentState::notice(bool isClean)
+{
+    m_hasLostSteps = m_hasLostSteps || (isClean && undoStack().count() == 0);
+    Q_EMIT changed();
+}
+
+void DocumentState::take(const host::Operation& operation)
+{
+    if (const auto* const load = std::get_if<host::LoadDocument>(&operation))
+        return setSaved(QString::fromStdString(load->file));
+    const bool isAttached = std::holds_alternative<host::AttachData>(operation);
+    const bool isOther = isAttached || std::holds_alternative<host::DetachData>(operation)
+        || std::holds_alternative<host::AddFrame>(operation)
+        || std::holds_alternative<host::DeleteFrame>(operation);
+    if (!isOther)
+        return;
+    const bool isFresh = isAttached && m_file.isEmpty() && Document::instance().frameCount() == 1;
+    m_hasOtherData = !isFresh;
+    m_hasLostSteps = m_hasLostSteps && !isFresh;
+    Q_EMIT changed();
+}
+
+void DocumentState::setSaved(const QString& file)
+{
+    m_file = file;
+    Document::instance().undo().markSaved();
+    m_hasOtherData = m_hasLostSteps = false;
+    Q_EMIT changed();
+}
+
+void DocumentState::setNew()
+{
+    setSaved({});
+}
+
+} // namespace corvala::app

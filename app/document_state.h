@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/operations/operation.h"
+
+#include <QObject>
+#include <QString>
+
+#include <boost/signals2/connection.hpp>
+
+namespace corvala::app {
+
+/// Which file the open document is from, and whether it holds what that does not. Data that were
+/// just opened in a document without a file are no work that could be lost; where one looks (views,
+/// time, picks, the active frame) is none either.
+class DocumentState : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DocumentState(QObject* parent = nullptr);
+
+    const QString& file() const { return m_file; } ///< absolute path; empty without one
+    bool isChanged() const;
+
+    /// The document is what the file has.
+    void setSaved(const QString& file);
+    /// The document is empty and has no file.
+    void setNew();
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void take(const host::Operation& operation);
+    void notice(bool isClean);
+
+    QString m_file;
+    bool m_hasOtherData = false; ///< data or frames that came without an undo step
+    bool m_hasLostSteps = false; ///< changes that cannot be undone any more
+    boost::signals2::scoped_connection m_connection;
+};
+
+} // namespace corvala::app

@@ -1,0 +1,376 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "host/document/style_conversion.h"
+#include "host/operations/operation_text.h"
+#include "host/storage/document_text.h"
+#include "host/storage/json_place.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <set>
+
+namespace corvala::host::storage {
+
+using Json = nlohmann::json;
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(DocumentText)
+};
+
+constexpr std::int64_t kMostZones = 0xfffffffe;
+constexpr std::int64_t kMostLineMaps = 1'000'000;
+constexpr int kPaletteEntries = 64;
+
+/// A style value by its path; the index is the text's.
+StoredValue valueNamed(const std::string& path, const JsonPlace& place)
+{
+    StoredValue named;
+    const std::size_t bracket = std::min(path.find('['), path.size());
+    if (bracket < path.size())
+        std::from_chars(path.data() + bracket + 1, path.data() + path.size(), named.index);
+    std::vector<std::string> names;
+    for (const QString& name : QString::fromStdString(path.substr(0, bracket)).split('.'))
+        names.push_back(name.toStdString());
+    named.attribute = Schema::instance().find(names);
+    place.require(named.attribute >= 0
+                      && pathText(Schema::instance().at(named.attribute), named.index) == path,
+                  Text::tr("no such style value"));
+    return named;
+}
+
+ValueList::Value readValue(const JsonPlace& place, const Attribute& attribute,
+                           const NamedNumbers& limits)
+{
+    StyleInput input;
+    if (attribute.isText()) {
+        input = place.text();
+    } else if (attribute.type == ValueType::Bool) {
+        place.require(place.json().is_boolean(), Text::tr("must be true or false"));
+        input = place.json().get<bool>();
+    } else {
+        input = place.number();
+    }
+    ValueList::Value value;
+    const StyleWriteResult_e result = convertValue(attribute, input, limits, value);
+    place.require(result == StyleWrite_Ok,
+                  QStringLiteral("%1: %2").arg(reasonText(result), shown(place.json())));
+    return value;
+}
+
+std::vector<StoredValue> readValues(const JsonPlace& place, Scope scope, const NamedNumbers& limits)
+{
+    std::vector<StoredValue> values;
+    place.forEachMember([&](const std::string& path, const JsonPlace& member) {
+        StoredValue stored = valueNamed(path, member);
+        const Attribute& attribute = Schema::instance().at(stored.attribute);
+        member.require(attribute.scope == scope && attribute.type != ValueType::Numbers,
+                       Text::tr("the value does not belong here"));
+        member.require(attribute.indexCount > 0
+                           ? stored.index >= 1 && stored.index <= attribute.indexCount
+                           : stored.index == -1,
+                       Text::tr("there is no such index"));
+        stored.value = readValue(member, attribute, limits);
+        values.push_back(std::move(stored));
+    });
+    return values;
+}
+
+StoredColumn readColumn(const std::string& path, const JsonPlace& place, Scope scope,
+                        std::int64_t mapCount, const NamedNumbers& limits)
+{
+    StoredColumn column;
+    column.attribute = valueNamed(path, place).attribute;
+    const Attribute& attribute = Schema::instance().at(column.attribute);
+    place.require(attribute.scope == scope, Text::tr("the value does not belong here"));
+    NumberSet taken;
+    place.forEachElement([&](const JsonPlace& element) {
+        MapTable::ValueOfMaps entry;
+        bool hasValue = false;
+        element.readMembers({{"maps",
+                              [&](const JsonPlace& maps) {
+                                  entry.maps = maps.numbers(mapCount);
+                                  maps.require(!entry.maps.intersect(taken),
+                                               Text::tr("a map has two values"));
+                                  taken |= entry.maps;
+                              }},
+                             {"value", [&](const JsonPlace& value) {
+                                  entry.value = readValue(value, attribute, limits);
+                                  hasValue = true;
+                              }}});
+        element.require(hasValue && !entry.maps.isEmpty(), Text::tr("maps or value are missing"));
+        column.values.push_back(std::move(entry));
+    });
+    return column;
+}
+
+std::vector<StoredColumn> readColumns(const JsonPlace& place, Scope scope, std::int64_t mapCount,
+                                      const NamedNumbers& limits)
+{
+    std::vector<StoredColumn> columns;
+    place.forEachMember([&](const std::string& path, const JsonPlace& member) {
+        columns.push_back(readColumn(path, member, scope, mapCount, limits));
+    });
+    return columns;
+}
+
+/// A name, or a run of names that count on.
+void readName(const JsonPlace& place, NameList& names)
+{
+    if (place.json().is_string())
+        return names.add(place.text());
+    std::string first;
+    std::string last;
+    place.readMembers({{"first", [&](const JsonPlace& name) { first = name.text(); }},
+                       {"last", [&](const JsonPlace& name) { last = name.text(); }}});
+    const std::int64_t places = placesBetween(first, last);
+    place.require(places >= 0 && places < kMostZones - names.count(),
+                  Text::tr("the last name does not count on from the first"));
+    names.add(first, places + 1);
+}
+
+NameList readNames(const JsonPlace& place)
+{
+    NameList names;
+    place.forEachElement([&](const JsonPlace& element) { readName(element, names); });
+    return names;
+}
+
+std::map<std::int64_t, std::string> readNewNames(const JsonPlace& place, std::int64_t count)
+{
+    std::map<std::int64_t, std::string> names;
+    place.forEachMember([&](const std::string&, const JsonPlace& member) {
+        names.emplace(member.keyNumber(1, count), member.text());
+    });
+    return names;
+}
+
+DataOrigin readOrigin(const JsonPlace& place, const QString& folder)
+{
+    try {
+        const Operation operation = operationFromJson(place.json(), {nullptr, folder});
+        if (const auto* const attach = std::get_if<AttachData>(&operation))
+            return attach->origin;
+    } catch (const TextError& error) {
+        place.fail(error.message());
+    }
+    place.fail(Text::tr("must open data"));
+}
+
+std::vector<Pick> readPicks(const JsonPlace& place)
+{
+    try {
+        return std::get<SetPicks>(operationFromJson({{"pick", place.json()}}, {})).picks;
+    } catch (const TextError& error) {
+        place.fail(error.message());
+    }
+}
+
+/// Reads one frame.
+class FrameReader
+{
+public:
+    FrameReader(const JsonPlace& place, const QString& folder)
+        : m_folder(folder)
+    {
+        place.readMembers(membersOfData());
+        place.require(m_frame.data.empty() == m_frame.zones.runs().empty(),
+                      Text::tr("data and their zones belong together"));
+    }
+    StoredFrame take() { return std::move(m_frame); }
+
+private:
+    using Place = const JsonPlace&;
+
+    NamedNumbers limits() const { return {m_frame.variables.count(), zoneCount(m_frame)}; }
+    void readStrand(Place place);
+    std::vector<JsonPlace::Reader> membersOfData();
+    std::vector<JsonPlace::Reader> membersOfStyle();
+
+    QString m_folder;
+    StoredFrame m_frame;
+};
+
+void FrameReader::readStrand(Place place)
+{
+    StoredStrand strand;
+    constexpr int kMost = std::numeric_limits<int>::max();
+    place.readMembers(
+        {{"strand", [&](Place member) { strand.strand = int(member.integer(1, kMost)); }},
+         {"zones", [&](Place member) { strand.zones = member.numbers(m_frame.zones.count()); }}});
+    place.require(strand.strand > 0 && !strand.zones.isEmpty(),
+                  Text::tr("strand or zones are missing"));
+    for (const StoredStrand& other : m_frame.strands)
+        place.require(!other.zones.intersect(strand.zones), Text::tr("a zone has two strands"));
+    m_frame.strands.push_back(std::move(strand));
+}
+
+/// In the order in which they are needed.
+std::vector<JsonPlace::Reader> FrameReader::membersOfData()
+{
+    StoredFrame& frame = m_frame;
+    std::vector<JsonPlace::Reader> readers {
+        {"data",
+         [&](Place place) {
+             place.forEachElement(
+                 [&](Place origin) { frame.data.push_back(readOrigin(origin, m_folder)); });
+         }},
+        {"zones", [&](Place place) { frame.zones = readNames(place); }},
+        {"strands",
+         [&](Place place) { place.forEachElement([&](Place strand) { readStrand(strand); }); }},
+        {"variables", [&](Place place) { frame.variables = readNames(place); }},
+        {"deletedZones",
+         [&](Place place) { frame.deletedZones = place.numbers(frame.zones.count()); }},
+        {"zoneNames",
+         [&](Place place) { frame.zoneNames = readNewNames(place, zoneCount(frame)); }},
+        {"variableNames",
+         [&](Place place) { frame.variableNames = readNewNames(place, frame.variables.count()); }},
+        {"enabledZones",
+         [&](Place place) { frame.enabledZones = place.numbers(zoneCount(frame)); }},
+        {"enabledVariables",
+         [&](Place place) { frame.enabledVariables = place.numbers(frame.variables.count()); }},
+        {"time", [&](Place place) { frame.time = place.number(); }}};
+    for (JsonPlace::Reader& reader : membersOfStyle())
+        readers.push_back(std::move(reader));
+    return readers;
+}
+
+std::vector<JsonPlace::Reader> FrameReader::membersOfStyle()
+{
+    StoredFrame& frame = m_frame;
+    return {
+        {"values", [&](Place place) { frame.values = readValues(place, Scope::Frame, limits()); }},
+        {"activeFieldMaps",
+         [&](Place place) { frame.activeFieldMaps = place.numbers(fieldMapCount(frame)); }},
+        {"fieldStyle",
+         [&](Place place) {
+             frame.fieldStyle = readColumns(place, Scope::FieldMap, fieldMapCount(frame), limits());
+         }},
+        {"lineMaps", [&](Place place) { frame.lineMapCount = place.integer(0, kMostLineMaps); }},
+        {"activeLineMaps",
+         [&](Place place) { frame.activeLineMaps = place.numbers(frame.lineMapCount); }},
+        {"lineStyle",
+         [&](Place place) {
+             frame.lineStyle = readColumns(place, Scope::LineMap, frame.lineMapCount, limits());
+         }},
+        {"picks", [&](Place place) { frame.picks = readPicks(place); }},
+        {"views", [&](Place place) {
+             place.forEachMember([&](const std::string&, Place view) {
+                 frame.views[int(view.keyNumber(0, 5))] = view.json().dump();
+             });
+         }}};
+}
+
+void readPalette(const JsonPlace& place, std::map<int, Rgb>& palette)
+{
+    place.forEachMember([&](const std::string&, const JsonPlace& entry) {
+        std::vector<std::uint8_t> channels;
+        entry.forEachElement([&](const JsonPlace& channel) {
+            channels.push_back(static_cast<std::uint8_t>(channel.integer(0, 255)));
+        });
+        entry.require(channels.size() == 3, Text::tr("must be three numbers"));
+        palette[int(entry.keyNumber(0, kPaletteEntries - 1))] = {channels[0], channels[1],
+                                                                 channels[2]};
+    });
+}
+
+StoredDocument readDocument(const JsonPlace& root, const QString& folder)
+{
+    StoredDocument document;
+    root.readMembers(
+        {{"format", [](const JsonPlace&) {}},
+         {"version", [](const JsonPlace&) {}},
+         {"values",
+          [&](const JsonPlace& place) {
+              document.values = readValues(place, Scope::Document, {});
+          }},
+         {"palette", [&](const JsonPlace& place) { readPalette(place, document.palette); }},
+         {"frames",
+          [&](const JsonPlace& place) {
+              place.forEachElement([&](const JsonPlace& frame) {
+                  document.frames.push_back(FrameReader(frame, folder).take());
+              });
+          }},
+         {"activeFrame", [&](const JsonPlace& place) {
+              const auto count = static_cast<std::int64_t>(document.frames.size());
+              document.activeFrame = place.integer(std::min<std::int64_t>(1, count), count);
+          }}});
+    root.require(root.json().contains("activeFrame"), Text::tr("\"activeFrame\" is missing"));
+    return document;
+}
+
+/// What follows the version may mean anything where that is a newer one.
+void checkVersion(const JsonPlace& root)
+{
+    const Json& json = root.json();
+    const bool isDocument = json.is_object() && json.contains("format")
+        && json["format"] == kFormatName && json.contains("version")
+        && json["version"].is_number_integer() && json["version"] >= 1;
+    root.require(isDocument, Text::tr("this is no document"));
+    if (json["version"] > kFormatVersion)
+        throw DocumentError(QStringLiteral("version"),
+                            Text::tr("the document has version %1 of the format; this program "
+                                     "reads up to version %2")
+                                .arg(shown(json["version"]))
+                                .arg(kFormatVersion),
+                            DocumentError::Kind::NewerVersion);
+}
+
+/// A key that stands twice would hide what stands under the first.
+class KeyCheck
+{
+public:
+    bool operator()(int, Json::parse_event_t event, Json& parsed)
+    {
+        if (event == Json::parse_event_t::object_start)
+            m_keys.emplace_back();
+        else if (event == Json::parse_event_t::object_end)
+            m_keys.pop_back();
+        else if (event == Json::parse_event_t::key
+                 && !m_keys.back().insert(parsed.get<std::string>()).second)
+            throw DocumentError({}, Text::tr("%1 stands twice in one object").arg(shown(parsed)));
+        return true;
+    }
+
+private:
+    std::vector<std::set<std::string>> m_keys;
+};
+
+Json parsed(const std::string& text)
+{
+    try {
+        return Json::parse(text, KeyCheck());
+    } catch (const Json::parse_error& error) {
+        const auto end = text.begin()
+            + static_cast<std::ptrdiff_t>(
+                             std::min(std::max<std::size_t>(error.byte, 1) - 1, text.size()));
+        const auto line = std::count(text.begin(), end, '\n') + 1;
+        const QString what = QString::fromUtf8(error.what());
+        throw DocumentError(Text::tr("line %1").arg(line),
+                            Text::tr("the document is damaged or cut off: %1")
+                                .arg(what.mid(what.indexOf(QLatin1String(": ")) + 2)));
+    }
+}
+
+} // namespace
+
+DocumentError::DocumentError(const QString& place, const QString& reason, Kind kind)
+    : std::runtime_error(reason.toStdString())
+    , m_place(place)
+    , m_kind(kind)
+{
+}
+
+StoredDocument documentFromText(const std::string& text, const QString& folder)
+{
+    const Json json = parsed(text);
+    const JsonPlace root(json);
+    checkVersion(root);
+    return readDocument(root, folder);
+}
+
+} // namespace corvala::host::storage

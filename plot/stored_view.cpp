@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/stored_view.h"
+
+#include "plot/field/view/field_view.h"
+#include "plot/line/line_axes.h"
+
+#include <nlohmann/json.hpp>
+
+namespace corvala::plot {
+
+using Json = nlohmann::json;
+
+static Json json(const CameraState& camera)
+{
+    return {{"position", camera.position},
+            {"focalPoint", camera.focalPoint},
+            {"viewUp", camera.viewUp},
+            {"parallelScale", camera.parallelScale}};
+}
+
+static CameraState cameraOf(const Json& json)
+{
+    CameraState camera;
+    camera.isFitted = false;
+    json.at("position").get_to(camera.position);
+    json.at("focalPoint").get_to(camera.focalPoint);
+    json.at("viewUp").get_to(camera.viewUp);
+    json.at("parallelScale").get_to(camera.parallelScale);
+    return camera;
+}
+
+/// Axes that show nothing are null.
+static Json json(const std::array<AxisRange, kAxisCount>& ranges)
+{
+    Json list = Json::array();
+    for (const AxisRange& range : ranges)
+        list.push_back(range.minimum < range.maximum ? Json {range.minimum, range.maximum}
+                                                     : Json());
+    return list;
+}
+
+static void read(const Json& list, std::array<AxisRange, kAxisCount>& ranges)
+{
+    for (std::size_t axis = 0; axis < kAxisCount && axis < list.size(); ++axis)
+        if (const Json& range = list.at(axis); !range.is_null())
+            ranges[axis] = {range.at(0).get<double>(), range.at(1).get<double>()};
+}
+
+std::string viewText(const std::any& view)
+{
+    if (const auto* const camera = std::any_cast<CameraState>(&view); camera && !camera->isFitted)
+        return json(*camera).dump();
+    if (const auto* const range = std::any_cast<ChartRange>(&view))
+        return Json {{"first", json(range->first)}, {"second", json(range->second)}}.dump();
+    return {};
+}
+
+std::any viewOf(const std::string& text, PlotType_e plotType)
+{
+    try {
+        const Json json = Json::parse(text);
+        if (plotType == PlotType_Field2D || plotType == PlotType_Field3D)
+            return cameraOf(json);
+        ChartRange range;
+        read(json.at("first"), range.first);
+        read(json.at("second"), range.second);
+        return range;
+    } catch (const Json::exception&) {
+        return {}; // also where there is no text
+    }
+}
+
+} // namespace corvala::plot

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "vocabulary/enums.h"
+
+#include <any>
+#include <string>
+
+namespace corvala::plot {
+
+/// What a canvas shows (Canvas::view) as a JSON text for documents; empty where that is the whole,
+/// as at the start.
+std::string viewText(const std::any& view);
+
+/// The view of a text, for a canvas that draws the plot type; an empty one for texts that are none.
+std::any viewOf(const std::string& text, PlotType_e plotType);
+
+} // namespace corvala::plot
