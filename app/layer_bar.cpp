@@ -2,6 +2,7 @@
 #include "app/layer_bar.h"
 
 #include "app/details/detail_pages.h"
+#include "app/help_reference.h"
 #include "host/document/document.h"
 #include "vocabulary/layers.h"
 
@@ -42,6 +43,7 @@ LayerBar::LayerBar(QWidget* parent)
     : QToolBar(tr("Layers"), parent)
 {
     setObjectName(QStringLiteral("plotBar"));
+    setHelpReference(*this, QStringLiteral("window.html#layers"));
     addLayers();
     refresh();
 }

@@ -3,6 +3,7 @@
 
 #include "app/details/detail_pages.h"
 #include "app/document_commands.h"
+#include "app/help_commands.h"
 #include "app/icons.h"
 #include "app/recent_files.h"
 #include "host/document/document.h"
@@ -170,6 +171,8 @@ void MainMenus::addDetailsMenu(QMenu& menu)
 void MainMenus::makeHelpMenu()
 {
     QMenu* menu = m_window.menuBar()->addMenu(tr("&Help"));
+    menu->addActions((new HelpCommands(this))->actions());
+    menu->addSeparator();
     menu->addAction(tr("&About corvala"), this, [this] {
         auto* about =
             new QMessageBox(QMessageBox::Information, tr("About corvala"),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/time_bar.h"
 
+#include "app/help_reference.h"
 #include "host/document/document.h"
 
 #include <QAction>
@@ -19,6 +20,7 @@ TimeBar::TimeBar(QWidget* parent)
     , m_value(new QLabel(this))
 {
     setObjectName(QStringLiteral("timeBar"));
+    setHelpReference(*this, QStringLiteral("window.html#time"));
     auto* label = new QLabel(tr("Solution &time:"), this);
     label->setBuddy(m_slider);
     addWidget(label);

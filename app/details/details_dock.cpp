@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/details/details_dock.h"
 
+#include "app/help_reference.h"
+
 #include <QAction>
 #include <QComboBox>
 #include <QScrollArea>
@@ -80,7 +82,9 @@ static int positionOf(const QString& name)
 
 void DetailsDock::showChosen()
 {
-    m_stack->setCurrentIndex(positionOf(m_choice->currentData().toString()));
+    const QString name = m_choice->currentData().toString();
+    m_stack->setCurrentIndex(positionOf(name));
+    setHelpReference(*this, QStringLiteral("plot-details.html#") + name);
 }
 
 /// The pages for plots like this one; back from another kind, the page that was chosen before.
