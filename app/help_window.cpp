@@ -54,6 +54,7 @@ void HelpWindow::makePanes()
     m_page = new QTextBrowser(m_panes);
     m_page->setObjectName(QStringLiteral("helpPage"));
     m_page->setAccessibleName(tr("Page"));
+    m_page->document()->setDocumentMargin(12);
     m_panes->setStretchFactor(1, 1);
     m_panes->setChildrenCollapsible(false);
     setCentralWidget(m_panes);
@@ -64,7 +65,7 @@ void HelpWindow::makePanes()
     connect(m_list, &QListWidget::itemClicked, this,
             [this](QListWidgetItem* entry) { openEntry(*entry); });
     connect(m_list, &QListWidget::itemActivated, this, [this] { m_page->setFocus(); });
-    connect(m_page, &QTextBrowser::sourceChanged, this, [this] {
+    connect(m_page, &QTextBrowser::historyChanged, this, [this] {
         markCurrentPage();
         markFound();
     });
@@ -125,7 +126,7 @@ void HelpWindow::useColors()
     const QColor link = isDark(back) ? QColor(122, 176, 255) : QColor(0, 80, 180);
     const QColor heading = isDark(back) ? back.lighter(150) : back.darker(108);
     m_page->document()->setDefaultStyleSheet(
-        QStringLiteral("a { color: %1; } th { background-color: %2; }")
+        QStringLiteral("a { color: %1; } th { background-color: %2; } table { margin-top: 8px; }")
             .arg(link.name(),
                  isDark(back) && heading == back ? QColor(60, 60, 60).name() : heading.name()));
     m_page->reload();
@@ -228,6 +229,7 @@ void HelpWindow::markCurrentPage()
         if (isPage && (!best || url == m_page->source()))
             best = entry;
     }
+    m_list->clearSelection();
     m_list->setCurrentItem(best);
 }
 
