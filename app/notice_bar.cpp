@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/notice_bar.h"
 
+#include "app/help_reference.h"
+
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -20,6 +22,7 @@ NoticeBar::NoticeBar(QWidget* parent)
     , m_details(new QPushButton(tr("Details..."), this))
 {
     setFrameShape(QFrame::StyledPanel);
+    setHelpReference(*this, QStringLiteral("window.html#notes"));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 2, 2, 2);
     m_text->setWordWrap(true);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/picture_size_dialog.h"
 
+#include "app/help_reference.h"
 #include "app/picture_output.h"
 #include "app/user_settings.h"
 
@@ -45,6 +46,7 @@ PictureSizeDialog::PictureSizeDialog(const QString& file, QWidget* parent)
                              plot::kHighestResolution, 0, tr(" dpi"));
     m_resolution->setToolTip(tr("Pixels of pictures, also of a field plot on a page"));
     setWindowTitle(tr("Size of the Picture"));
+    setHelpReference(*this, QStringLiteral("documents.html#pictures"));
     auto* form = new QFormLayout(this);
     form->addRow(tr("&Width:"), m_width);
     form->addRow(tr("&Height:"), m_height);

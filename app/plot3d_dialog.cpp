@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/plot3d_dialog.h"
 
+#include "app/help_reference.h"
 #include "app/plot3d_layout.h"
 
 #include <QComboBox>
@@ -33,6 +34,7 @@ Plot3DDialog::Plot3DDialog(const Plot3DLayout& present, const Plot3DLayout* dete
     : QDialog(parent)
 {
     setWindowTitle(tr("Plot3D Layout"));
+    setHelpReference(*this, QStringLiteral("formats.html#plot3d"));
     auto* form = new QFormLayout(this);
     if (detected) {
         auto* note = new QLabel(tr("Detected: %1.").arg(describePlot3DLayout(*detected)));

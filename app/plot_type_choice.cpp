@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/plot_type_choice.h"
 
+#include "app/help_reference.h"
 #include "host/document/document.h"
 
 #include <QComboBox>
@@ -26,6 +27,7 @@ PlotTypeChoice::PlotTypeChoice(QWidget* parent)
     : QWidget(parent)
     , m_types(new QComboBox(this))
 {
+    setHelpReference(*this, QStringLiteral("window.html#types"));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* label = new QLabel(tr("Plot t&ype:"), this);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/text_import_dialog.h"
 
+#include "app/help_reference.h"
 #include "app/text_preview_table.h"
 
 #include <QComboBox>
@@ -60,6 +61,7 @@ TextImportDialog::TextImportDialog(const host::io::ReadRequest& request, const T
     , m_note(new QLabel(this))
     , m_table(new TextPreviewTable(this))
 {
+    setHelpReference(*this, QStringLiteral("formats.html#tables"));
     setWindowTitle(tr("Import %1").arg(QFileInfo(QString::fromStdString(preview.file)).fileName()));
     m_note->setWordWrap(true);
     m_note->setTextFormat(Qt::PlainText);

@@ -25,7 +25,7 @@ set(CPACK_PACKAGE_VENDOR "The Corvala developers")
 set(CPACK_PACKAGE_CONTACT "The Corvala developers <corvala@example.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "plot field data and edit the style of their zones")
 set(CPACK_PACKAGE_DESCRIPTION
-  "Draws field plots of many zones, XY and polar line plots, and edits the style of\n every zone or line in tables. Reads VTK, CGNS, EnSight, Exodus, OpenFOAM and\n Plot3D data, surfaces and tables of text; writes PNG, PDF and SVG.")
+  "Draws field plots of many zones, XY and polar line plots, and edits the style of every zone or line in tables.\nReads VTK, CGNS, EnSight, Exodus, OpenFOAM and Plot3D data, surfaces and tables of text; writes PNG, PDF and SVG.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
@@ -35,6 +35,6 @@ set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt5svg5")
-# Pictures without a screen, and fonts to write with.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xvfb, fonts-dejavu-core")
+# Pictures without a screen.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS xvfb)
 include(CPack)

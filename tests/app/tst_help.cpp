@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/command_line.h"
 #include "app/details/detail_pages.h"
 #include "app/help_commands.h"
 #include "app/help_pages.h"
@@ -16,6 +17,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -146,6 +148,16 @@ private Q_SLOTS:
         QVERIFY(!reference.isEmpty() && !names.isEmpty());
         for (const QString& name : names)
             QVERIFY2(sectionOf(reference).contains(name), qPrintable(name));
+    }
+
+    void manualsListTheOptions()
+    {
+        const auto optionsIn = [](QString text) {
+            const QStringList found = all("--([a-z0-9-]+)", text.remove('\\'));
+            return QSet<QString>(found.begin(), found.end()) - QSet<QString> {"help-all"};
+        };
+        for (const char* manual : {"/packaging/corvala.1", "/help/scripts.html"})
+            QCOMPARE(optionsIn(read(CORVALA_SOURCE_DIR + QString(manual))), optionsIn(usageText()));
     }
 
     void anchorsAreSeen()
