@@ -13,6 +13,7 @@
 #include "tests/support/rows.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDirIterator>
 #include <QLineEdit>
 #include <QListWidget>
@@ -21,6 +22,7 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QWindow>
 
 using namespace corvala;
 using namespace corvala::app;
@@ -182,6 +184,24 @@ private Q_SLOTS:
             if (qobject_cast<const HelpWindow*>(window))
                 opened << window->findChild<QTextBrowser*>()->source().toString();
         QCOMPARE(opened, {helpUrl("window.html#layers").toString()});
+    }
+
+    void isReadWhileAPromptIsOpen()
+    {
+        HelpWindow window;
+        QDialog prompt;
+        prompt.setModal(true);
+        prompt.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&prompt));
+        window.open("index.html");
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const auto& list = *window.findChild<QListWidget*>();
+        const QPoint entry = list.visualItemRect(list.item(1)).center();
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
+                          list.viewport()->mapTo(&window, entry));
+        QCOMPARE(window.findChild<QTextBrowser*>()->source(), helpUrl("window.html"));
+        prompt.accept();
+        QVERIFY(window.isVisible());
     }
 
     void searches()
