@@ -113,22 +113,25 @@ void HelpWindow::makeBar()
     addActions({find, close});
 }
 
-static bool isDark(const QColor& color)
+static QColor between(const QColor& one, const QColor& other, double share)
 {
-    return color.lightness() < 128;
+    const auto mean = [share](double first, double second) {
+        return first + share * (second - first);
+    };
+    return QColor::fromRgbF(mean(one.redF(), other.redF()), mean(one.greenF(), other.greenF()),
+                            mean(one.blueF(), other.blueF()));
 }
 
 /// Dark palettes seldom have a color of links that can be read on them.
 void HelpWindow::useColors()
 {
-    const QPalette colors = m_page->palette();
-    const QColor back = colors.color(QPalette::Base);
-    const QColor link = isDark(back) ? QColor(122, 176, 255) : QColor(0, 80, 180);
-    const QColor heading = isDark(back) ? back.lighter(150) : back.darker(108);
+    const QColor back = m_page->palette().color(QPalette::Base);
+    const QColor text = m_page->palette().color(QPalette::Text);
+    const QColor link = back.lightness() < 128 ? QColor(122, 176, 255) : QColor(0, 80, 180);
     m_page->document()->setDefaultStyleSheet(
-        QStringLiteral("a { color: %1; } th { background-color: %2; } table { margin-top: 8px; }")
-            .arg(link.name(),
-                 isDark(back) && heading == back ? QColor(60, 60, 60).name() : heading.name()));
+        QStringLiteral("a { color: %1; } th { background-color: %2; } "
+                       "table { margin-top: 8px; border-collapse: collapse; border-color: %3; }")
+            .arg(link.name(), between(back, text, 0.1).name(), between(back, text, 0.25).name()));
     m_page->reload();
 }
 
