@@ -35,6 +35,6 @@ set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt5svg5")
-# Pictures without a screen.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS xvfb)
+# Pictures without a screen, and Qt's own texts in other languages.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xvfb, qttranslations5-l10n")
 include(CPack)
