@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalBlocker>
@@ -81,6 +82,7 @@ void HelpWindow::makeBar()
         QAction* action = bar->addAction(commandIcon(icon), text, m_page, slot);
         action->setShortcut(keys);
         action->setToolTip(tr("%1 (%2)").arg(text, keys.toString(QKeySequence::NativeText)));
+        m_commands << action;
         return action;
     };
     QAction* back = add("go-previous", tr("Back"), QKeySequence(Qt::ALT | Qt::Key_Left),
@@ -111,6 +113,29 @@ void HelpWindow::makeBar()
     close->setShortcuts({QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)});
     connect(close, &QAction::triggered, this, &QWidget::close);
     addActions({find, close});
+    m_commands << find << close;
+    for (QWidget* part : {static_cast<QWidget*>(m_search), static_cast<QWidget*>(m_list),
+                          static_cast<QWidget*>(m_page)})
+        part->installEventFilter(this);
+}
+
+/// Keys that the commands of other windows have everywhere belong to those of this window here.
+bool HelpWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isAsking = event->type() == QEvent::ShortcutOverride;
+    if (!isAsking && event->type() != QEvent::KeyPress)
+        return QMainWindow::eventFilter(watched, event);
+    const auto& key = static_cast<QKeyEvent&>(*event);
+    const QKeySequence keys(key.key() | static_cast<int>(key.modifiers() & ~Qt::KeypadModifier));
+    for (QAction* const command : qAsConst(m_commands)) {
+        if (!command->shortcuts().contains(keys))
+            continue;
+        event->accept();
+        if (!isAsking)
+            command->trigger();
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 static QColor between(const QColor& one, const QColor& other, double share)

@@ -27,6 +27,7 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void makeBar();
@@ -42,6 +43,7 @@ private:
     void findNext();
 
     // Owned by Qt.
+    QList<QAction*> m_commands;
     QLineEdit* m_search = nullptr;
     QListWidget* m_list = nullptr; ///< the contents, or the pages that a search found
     QSplitter* m_panes = nullptr;

@@ -19,6 +19,7 @@
 #include <QListWidget>
 #include <QRegularExpression>
 #include <QSet>
+#include <QShortcut>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -187,6 +188,7 @@ private Q_SLOTS:
     {
         HelpWindow window;
         window.open("index.html");
+        QVERIFY(QTest::qWaitForWindowActive(&window));
         auto& list = *window.findChild<QListWidget*>();
         auto& page = *window.findChild<QTextBrowser*>("helpPage");
         auto& search = *window.findChild<QLineEdit*>("helpSearch");
@@ -200,7 +202,9 @@ private Q_SLOTS:
         search.clear();
         QCOMPARE(list.count(), contents);
         QCOMPARE(page.extraSelections().size(), 0);
-        page.backward();
+        const QShortcut everywhere(QKeySequence("Alt+Left"), &window, nullptr, nullptr,
+                                   Qt::ApplicationShortcut);
+        QTest::keyClick(window.windowHandle(), Qt::Key_Left, Qt::AltModifier);
         QCOMPARE(page.source(), helpUrl("index.html"));
     }
 };
