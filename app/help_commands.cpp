@@ -17,19 +17,20 @@ using corvala::dialogs::common::LaunchHelpAction;
 HelpCommands::HelpCommands(QObject* parent)
     : QObject(parent)
 {
-    auto* contents = new QAction(commandIcon("help-contents"), tr("&Contents"), this);
+    QAction* contents = add(tr("&Contents"), tr("Open the help at what has the focus"),
+                            [] { return helpReferenceOf(QApplication::focusWidget()); });
     contents->setObjectName(QStringLiteral("helpContents"));
+    contents->setIcon(commandIcon("help-contents"));
     contents->setShortcuts(QKeySequence::HelpContents);
-    contents->setStatusTip(tr("Opens the help at what has the focus (F1)"));
-    connect(contents, &QAction::triggered, this,
-            [this] { open(helpReferenceOf(QApplication::focusWidget())); });
-    m_actions << contents
-              << add(tr("&Mouse and Keys"), tr("What the mouse and which keys do what"),
-                     QStringLiteral("mouse-keys.html"))
-              << add(tr("&File Formats"), tr("Which files can be opened, and what of them is read"),
-                     QStringLiteral("formats.html"))
-              << add(tr("&Scripts"), tr("How scripts and options drive the program"),
-                     QStringLiteral("scripts.html"));
+    contents->setToolTip(tr("%1 (%2)").arg(
+        contents->statusTip(), contents->shortcut().toString(QKeySequence::NativeText)));
+    const auto addPage = [this](const QString& text, const QString& tip, const char* page) {
+        add(text, tip, [page] { return QString::fromLatin1(page); });
+    };
+    addPage(tr("&Mouse and Keys"), tr("Tell what the mouse and the keys do"), "mouse-keys.html");
+    addPage(tr("&File Formats"), tr("Tell which files can be opened, and what of them is read"),
+            "formats.html");
+    addPage(tr("&Scripts"), tr("Tell how scripts and options drive the program"), "scripts.html");
     LaunchHelpAction::setHandler([this](const QString& reference) { open(reference); });
     qApp->installEventFilter(this);
 }
@@ -39,11 +40,14 @@ HelpCommands::~HelpCommands()
     LaunchHelpAction::setHandler({});
 }
 
-QAction* HelpCommands::add(const QString& text, const QString& tip, const QString& page)
+QAction* HelpCommands::add(const QString& text, const QString& tip,
+                           const std::function<QString()>& reference)
 {
     auto* action = new QAction(text, this);
     action->setStatusTip(tip);
-    connect(action, &QAction::triggered, this, [this, page] { open(page); });
+    action->setToolTip(tip);
+    connect(action, &QAction::triggered, this, [this, reference] { open(reference()); });
+    m_actions << action;
     return action;
 }
 
@@ -56,14 +60,13 @@ void HelpCommands::open(const QString& reference)
 
 bool HelpCommands::eventFilter(QObject* watched, QEvent* event)
 {
-    const auto* const widget = qobject_cast<QWidget*>(watched);
-    const bool isAsking = event->type() == QEvent::KeyPress && widget
-        && !QApplication::activePopupWidget()
-        && static_cast<QKeyEvent*>(event)->matches(QKeySequence::HelpContents);
-    if (!isAsking)
+    if (event->type() != QEvent::KeyPress || QApplication::activePopupWidget()
+        || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::HelpContents))
         return false;
-    open(helpReferenceOf(widget));
-    return true;
+    const auto* const widget = qobject_cast<QWidget*>(watched);
+    if (widget)
+        open(helpReferenceOf(widget));
+    return widget != nullptr;
 }
 
 } // namespace corvala::app

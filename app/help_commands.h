@@ -4,6 +4,7 @@
 #include <QList>
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 class QAction;
@@ -30,7 +31,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QAction* add(const QString& text, const QString& tip, const QString& page);
+    QAction* add(const QString& text, const QString& tip,
+                 const std::function<QString()>& reference);
 
     QList<QAction*> m_actions;
     std::unique_ptr<HelpWindow> m_window; ///< made when it is first wanted
