@@ -3,8 +3,10 @@
 
 #include "host/document/change.h"
 #include "host/document/document.h"
+#include "host/document/undo_texts.h"
 #include "vocabulary/undo_kinds.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -62,16 +64,30 @@ public:
     }
 
 private:
-    /// Adds the change to the text of the step, which names the first few different ones.
+    /// Adds the change to the texts of the step: the full one names the first few different
+    /// changes, that for commands (which Qt wants in a second line) the first one.
     void describe(const Change& change)
     {
         constexpr int kShown = 3;
-        if (m_texts.size() > kShown || m_texts.contains(change.text))
+        const QString text = QString(change.text).replace(QLatin1Char('\n'), QLatin1Char(' '));
+        if (m_texts.size() > kMostTexts || m_texts.contains(text))
             return;
-        m_texts << change.text;
+        m_texts << text;
         const bool tooMany = m_texts.size() > kShown;
         setText(m_texts.mid(0, kShown).join(QStringLiteral("; "))
-                + (tooMany ? QStringLiteral("; ...") : QString()));
+                + (tooMany ? QStringLiteral("; ...") : QString()) + QLatin1Char('\n')
+                + commandText());
+    }
+    QString commandText() const
+    {
+        const auto others = m_texts.size() - 1;
+        if (others == 0)
+            return m_texts.first();
+        if (others >= kMostTexts)
+            return host::undoText(QT_TRANSLATE_NOOP("UndoTexts", "%1 and many more"))
+                .arg(m_texts.first());
+        return host::undoText(QT_TRANSLATE_NOOP("UndoTexts", "%1 and %2 more"))
+            .arg(m_texts.first(), QString::number(others));
     }
 
     Document& m_document;
@@ -79,7 +95,8 @@ private:
     bool m_isMend;
     bool m_done = false;
     std::vector<std::shared_ptr<Change>> m_changes;
-    QStringList m_texts; ///< different ones, up to one more than are shown
+    static constexpr int kMostTexts = 20;
+    QStringList m_texts; ///< different ones, up to one more than are counted
 };
 
 static bool renumbersMaps(const StateEvent& event)
@@ -241,7 +258,8 @@ int UndoHistory::stepCount() const
 
 QString UndoHistory::undoText() const
 {
-    return m_stack.undoText();
+    const QUndoCommand* const last = m_stack.command(m_stack.index() - 1);
+    return last ? last->text() : QString();
 }
 
 } // namespace corvala::host

@@ -47,6 +47,8 @@ public:
     bool undo();
     bool redo();
     int stepCount() const; ///< steps that can be undone
+    /// Of the last step: its first few different changes. The stack's own text is a short one, for
+    /// commands.
     QString undoText() const;
 
     /// The present state is what a file has; the stack is clean while it is there (isClean).

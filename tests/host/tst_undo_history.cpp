@@ -66,6 +66,7 @@ private Q_SLOTS:
         setGroup("1-2", 4);
         setGroup("1-2", 5);
         QCOMPARE(undo().undoText(), two + "; Group number = 4 (2 field maps); ...");
+        QCOMPARE(undo().stack().undoText(), "Group number = 2 (1 field map) and 3 more");
     }
 
     void announcesWhatCameBack_data()
