@@ -109,9 +109,9 @@ Format formatOf(const QString& path)
     return kind ? kind->format : formatByContent(path);
 }
 
-QString mainFileIn(const QString& folder)
+/// The files in a folder that stand for the others there; none where there are no data.
+static QStringList mainFilesIn(const QDir& files)
 {
-    const QDir files(folder);
     const bool isFoamCase = files.exists(QLatin1String(kControlDictPath));
     QStringList found[RankCount];
     std::set<std::pair<QString, int>> runs;
@@ -128,14 +128,25 @@ QString mainFileIn(const QString& folder)
     }
     const auto* best = std::find_if(std::begin(found), std::end(found),
                                     [](const QStringList& names) { return !names.isEmpty(); });
-    if (best == std::end(found))
+    return best == std::end(found) ? QStringList() : *best;
+}
+
+QString mainFileIn(const QString& folder)
+{
+    const QDir files(folder);
+    QStringList names = mainFilesIn(files);
+    const QDir::Filters folders = QDir::Dirs | QDir::NoDotAndDotDot;
+    if (names.isEmpty())
+        for (const QString& inner : files.entryList(folders, QDir::Name))
+            for (const QString& name : mainFilesIn(QDir(files.filePath(inner))))
+                names << inner + QLatin1Char('/') + name;
+    if (names.isEmpty())
         throw ReadFailure(
             folder, QT_TRANSLATE_NOOP("ReadMessage", "it is a folder that holds no data files"));
-    if (best->size() == 1)
-        return files.filePath(best->first());
-    QStringList names = best->mid(0, kMostNames);
-    if (best->size() > kMostNames)
-        names << QStringLiteral("...");
+    if (names.size() == 1)
+        return files.filePath(names.first());
+    if (names.size() > kMostNames)
+        names = names.mid(0, kMostNames) << QStringLiteral("...");
     throw ReadFailure(
         folder,
         QT_TRANSLATE_NOOP("ReadMessage",

@@ -30,7 +30,8 @@ QString nameWithoutEnding(const QString& path);
 QByteArray firstBytes(const QString& path, qint64 count);
 
 /// The file by which the data in a folder are opened: a case in it, else a file that names others,
-/// else a data file. Throws ReadFailure when there is none, or several of the same kind.
+/// else a data file; in a folder without data files, that of the folders in it. Throws ReadFailure
+/// when there is none, or several of the same kind.
 QString mainFileIn(const QString& folder);
 
 } // namespace corvala::host::io::reader
