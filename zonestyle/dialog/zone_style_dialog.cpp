@@ -161,7 +161,7 @@ static QSize roomOnScreen(const QWidget& window)
 }
 
 /// Tabs scroll, and what has a comfortable width gets by with what it shows.
-void ZoneStyleDialog::fitNarrowScreen()
+void ZoneStyleDialog::allowNarrow()
 {
     for (QTabWidget* tabs : {m_form->fieldTabs, m_form->lineTabs}) {
         tabs->setUsesScrollButtons(true);
@@ -187,7 +187,7 @@ void ZoneStyleDialog::adoptPreferredSize()
         container->updateGeometry();
     const QSize room = roomOnScreen(*this);
     if (minimumSizeHint().width() > room.width())
-        fitNarrowScreen();
+        allowNarrow();
     resize(sizeHint().expandedTo(minimumSizeHint()).boundedTo(room));
 }
 

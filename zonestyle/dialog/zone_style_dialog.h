@@ -100,6 +100,7 @@ public:
     ~ZoneStyleDialog() override;
 
     void setVisible(bool visible) override;
+    void allowNarrow() override;
     int refreshCount() const { return m_refreshCount; }
 
 private Q_SLOTS:
@@ -130,7 +131,6 @@ private:
     void installHelpAction();
     void finishEditing();
     void adoptPreferredSize();
-    void fitNarrowScreen();
     void updateZoneStyleDialog();
     void showFieldPage();
     void showLinePage();
