@@ -10,4 +10,7 @@ namespace corvala::app {
 /// strokes become light on a dark palette.
 QIcon commandIcon(const char* name);
 
+/// The icon of the program, in all sizes that desktops ask for.
+QIcon programIcon();
+
 } // namespace corvala::app

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/layer_bar.h"
 
+#include "app/command_tips.h"
 #include "app/details/detail_pages.h"
 #include "app/help_reference.h"
+#include "app/icons.h"
 #include "host/document/document.h"
 #include "vocabulary/layers.h"
 
@@ -22,28 +24,45 @@ struct LayerButton
 {
     style::SwitchKey key;
     const char* text; ///< in the translation context "StyleValues"
+    const char* icon;
+    const char* what; ///< it does
 };
 
 static constexpr LayerButton kLayers[] = {
-    {style::kMeshLayer.shown, style::kMeshLayer.name},
-    {style::kContourLayer.shown, style::kContourLayer.name},
-    {style::kVectorLayer.shown, style::kVectorLayer.name},
-    {style::kScatterLayer.shown, style::kScatterLayer.name},
-    {style::kShadeLayer.shown, style::kShadeLayer.name},
-    {style::kEdgeLayer.shown, style::kEdgeLayer.name},
+    {style::kMeshLayer.shown, style::kMeshLayer.name, "layer-mesh",
+     QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Show the lines of the grids")},
+    {style::kContourLayer.shown, style::kContourLayer.name, "layer-contour",
+     QT_TRANSLATE_NOOP("corvala::app::LayerBar",
+                       "Show the values of a variable as colors or lines")},
+    {style::kVectorLayer.shown, style::kVectorLayer.name, "layer-vector",
+     QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Show arrows at the points")},
+    {style::kScatterLayer.shown, style::kScatterLayer.name, "layer-scatter",
+     QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Show a symbol at each point")},
+    {style::kShadeLayer.shown, style::kShadeLayer.name, "layer-shade",
+     QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Fill the surfaces with one color")},
+    {style::kEdgeLayer.shown, style::kEdgeLayer.name, "layer-edge",
+     QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Show the edges of the zones")},
     {style::fieldLayers.useLightingEffect,
-     style::entryOf(style::fieldLayers.useLightingEffect).label},
-    {style::kLinesLayer.shown, style::kLinesLayer.name},
-    {style::kSymbolsLayer.shown, style::kSymbolsLayer.name},
-    {style::kErrorBarsLayer.shown, style::kErrorBarsLayer.name},
-    {style::kBarChartsLayer.shown, style::kBarChartsLayer.name},
+     style::entryOf(style::fieldLayers.useLightingEffect).label, "layer-lighting",
+     QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Light the surfaces")},
+    {style::kLinesLayer.shown, style::kLinesLayer.name, "layer-lines",
+     QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Show the lines")},
+    {style::kSymbolsLayer.shown, style::kSymbolsLayer.name, "layer-symbols",
+     QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Show a symbol at each point")},
+    {style::kErrorBarsLayer.shown, style::kErrorBarsLayer.name, "layer-error-bars",
+     QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Show the errors of the points")},
+    {style::kBarChartsLayer.shown, style::kBarChartsLayer.name, "layer-bar-charts",
+     QT_TRANSLATE_NOOP("corvala::app::LayerBar", "Show a bar for each point")},
 };
+
+static constexpr int kIconSize = 20;
 
 LayerBar::LayerBar(QWidget* parent)
     : QToolBar(tr("Layers"), parent)
 {
     setObjectName(QStringLiteral("plotBar"));
     setHelpReference(*this, QStringLiteral("window.html#layers"));
+    setIconSize({kIconSize, kIconSize});
     addLayers();
     refresh();
 }
@@ -51,7 +70,8 @@ LayerBar::LayerBar(QWidget* parent)
 void LayerBar::addLayers()
 {
     for (const LayerButton& layer : kLayers) {
-        QAction* action = addAction(QCoreApplication::translate("StyleValues", layer.text));
+        QAction* action = addAction(commandIcon(layer.icon),
+                                    QCoreApplication::translate("StyleValues", layer.text));
         action->setCheckable(true);
         action->setObjectName(QLatin1String(style::entryOf(layer.key).path[1]));
         connect(action, &QAction::triggered, this, [this, &layer, action](bool on) {
@@ -119,12 +139,38 @@ void LayerBar::refresh()
         const bool isPossible = !isShown || frame->plotType() != PlotType_LinePolar
             || (key != style::kErrorBarsLayer.shown && key != style::kBarChartsLayer.shown);
         m_layers[i]->setEnabled(isPossible);
-        m_layers[i]->setToolTip(isPossible ? QString() : tr("XY plots only"));
+        const QString what = tr(kLayers[i].what);
+        describe(*m_layers[i],
+                 tr("%1: %2").arg(m_layers[i]->text(), isPossible ? what : tr("XY plots only")));
         if (m_details[i])
             m_details[i]->setEnabled(isPossible);
         if (m_details[i])
             m_details[i]->setVisible(isShown);
     }
+    chooseStyle();
+}
+
+void LayerBar::resizeEvent(QResizeEvent* event)
+{
+    QToolBar::resizeEvent(event);
+    chooseStyle();
+}
+
+/// Icons alone where there is no room for texts beside them.
+void LayerBar::chooseStyle()
+{
+    static constexpr int kMargin = 12; ///< around an icon or a text
+    int wanted = kIconSize + kMargin; // the button for more
+    for (int i = 0; i < m_layers.size(); ++i) {
+        if (!m_layers[i]->isVisible())
+            continue;
+        wanted += kIconSize + fontMetrics().horizontalAdvance(m_layers[i]->text()) + 2 * kMargin;
+        if (m_details[i])
+            wanted += widgetForAction(m_details[i])->width() + kMargin / 4;
+    }
+    const auto chosen = wanted <= width() ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly;
+    if (toolButtonStyle() != chosen)
+        setToolButtonStyle(chosen);
 }
 
 } // namespace corvala::app

@@ -31,7 +31,11 @@ Q_SIGNALS:
     /// The user wants to see what is set for the plot as a whole: the name of the page.
     void detailsWanted(const QString& page);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void chooseStyle();
     void addLayers();
     QAction* addDetails(style::SwitchKey layer);
     void addOtherDetails();

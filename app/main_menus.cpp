@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/main_menus.h"
 
+#include "app/command_tips.h"
 #include "app/details/detail_pages.h"
 #include "app/document_commands.h"
 #include "app/help_commands.h"
@@ -17,6 +18,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace corvala::app {
 
@@ -44,29 +46,48 @@ static void setKeys(QAction& action, const QKeySequence& keys)
     action.setShortcutContext(Qt::ApplicationShortcut);
 }
 
+static QAction* iconed(QAction* command, const char* icon, const QString& what)
+{
+    command->setIcon(commandIcon(icon));
+    describe(*command, what);
+    return command;
+}
+
 void MainMenus::makeFileMenu(const DocumentCommands& documents)
 {
     QMenu* menu = m_window.menuBar()->addMenu(tr("&File"));
     menu->addAction(&documents.newCommand());
-    QAction* open =
-        menu->addAction(commandIcon("document-open"), tr("&Open..."), this, &MainMenus::openWanted);
-    setKeys(*open, QKeySequence::Open);
-    QAction* folder = menu->addAction(tr("Open Case &Folder..."), this, &MainMenus::folderWanted);
-    QAction* plot3d = menu->addAction(tr("Open &Plot3D..."), this, &MainMenus::plot3DWanted);
-    QAction* table = menu->addAction(tr("Open &Table..."), this, &MainMenus::tableWanted);
-    QMenu* recent = menu->addMenu(tr("Open &Recent"));
-    connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentMenu(*recent); });
-    m_openCommands << open << folder << plot3d << table << recent->menuAction();
+    addOpenCommands(*menu);
     addSampleMenu(*menu);
     addDemoMenu(*menu);
     menu->addSeparator();
     menu->addActions(documents.saveCommands());
     menu->addSeparator();
-    m_savePicture = menu->addAction(tr("Save Pict&ure..."), this, &MainMenus::pictureWanted);
+    m_savePicture = iconed(menu->addAction(tr("Save Pict&ure..."), this, &MainMenus::pictureWanted),
+                           "save-picture", tr("Save the plot as a picture in a file"));
     m_savePicture->setObjectName(QStringLiteral("savePicture"));
     menu->addSeparator();
-    setKeys(*menu->addAction(tr("&Quit"), qApp, &QApplication::closeAllWindows),
-            QKeySequence::Quit);
+    QAction* quit = menu->addAction(tr("&Quit"), qApp, &QApplication::closeAllWindows);
+    setKeys(*quit, QKeySequence::Quit);
+    iconed(quit, "application-exit", tr("End the program"));
+}
+
+void MainMenus::addOpenCommands(QMenu& menu)
+{
+    QAction* open = menu.addAction(tr("&Open..."), this, &MainMenus::openWanted);
+    setKeys(*open, QKeySequence::Open);
+    iconed(open, "document-open", tr("Open data files"));
+    QAction* folder =
+        iconed(menu.addAction(tr("Open Case &Folder..."), this, &MainMenus::folderWanted),
+               "open-case-folder", tr("Open the case, or the data, in a folder"));
+    QAction* plot3d = iconed(menu.addAction(tr("Open &Plot3D..."), this, &MainMenus::plot3DWanted),
+                             "open-plot3d", tr("Open Plot3D files, and say how they are written"));
+    QAction* table = iconed(menu.addAction(tr("Open &Table..."), this, &MainMenus::tableWanted),
+                            "open-table", tr("Open tables of text, and say how they are written"));
+    QMenu* recent = menu.addMenu(tr("Open &Recent"));
+    iconed(recent->menuAction(), "document-open-recent", tr("Open again what was opened last"));
+    connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentMenu(*recent); });
+    m_openCommands << open << folder << plot3d << table << recent->menuAction();
 }
 
 void MainMenus::addSampleMenu(QMenu& menu)
@@ -76,12 +97,15 @@ void MainMenus::addSampleMenu(QMenu& menu)
         return;
     QMenu* sampleMenu = menu.addMenu(tr("Sa&mples"));
     for (const host::io::Sample& sample : samples)
-        sampleMenu->addAction(sample.title, this,
-                              [this, files = sample.files] { Q_EMIT filesWanted(files); });
+        describe(
+            *sampleMenu->addAction(sample.title, this,
+                                   [this, files = sample.files] { Q_EMIT filesWanted(files); }),
+            tr("Open real data that come with the program"));
+    iconed(sampleMenu->menuAction(), "samples", tr("Open real data that come with the program"));
     m_openCommands << sampleMenu->menuAction();
 }
 
-static QString demoTitle(const QString& name)
+QString demoTitle(const QString& name)
 {
     static const QHash<QString, const char*> titles {
         {"field2d", QT_TRANSLATE_NOOP("corvala::app::MainMenus", "2D field, 12 zones")},
@@ -99,8 +123,11 @@ void MainMenus::addDemoMenu(QMenu& menu)
     QMenu* demos = menu.addMenu(tr("&Demonstration Data"));
     for (const std::string& demo : samples::demoNames()) {
         const QString name = QString::fromStdString(demo);
-        demos->addAction(demoTitle(name), this, [this, name] { Q_EMIT demoWanted(name); });
+        describe(
+            *demos->addAction(demoTitle(name), this, [this, name] { Q_EMIT demoWanted(name); }),
+            tr("Show data that are made on the spot"));
     }
+    iconed(demos->menuAction(), "demonstrations", tr("Show data that are made on the spot"));
     m_openCommands << demos->menuAction();
 }
 
@@ -127,7 +154,7 @@ void MainMenus::fillRecentMenu(QMenu& menu)
     for (const QStringList& files : entries) {
         QAction* action = menu.addAction(withoutAccessKey(shownName(files)), this,
                                          [this, files] { Q_EMIT filesWanted(files); });
-        action->setStatusTip(files.join(QStringLiteral(", ")));
+        describe(*action, files.join(QStringLiteral(", ")));
     }
     if (entries.isEmpty())
         menu.addAction(tr("No Files Yet"))->setEnabled(false);
@@ -136,12 +163,16 @@ void MainMenus::fillRecentMenu(QMenu& menu)
 void MainMenus::makeEditMenu()
 {
     QMenu* menu = m_window.menuBar()->addMenu(tr("&Edit"));
-    m_undo = menu->addAction(commandIcon("edit-undo"), tr("&Undo"), this,
-                             [] { Document::instance().undo().undo(); });
-    m_redo = menu->addAction(commandIcon("edit-redo"), tr("&Redo"), this,
-                             [] { Document::instance().undo().redo(); });
+    m_undo = menu->addAction(tr("&Undo"), this, [] { Document::instance().undo().undo(); });
+    m_redo = menu->addAction(tr("&Redo"), this, [] { Document::instance().undo().redo(); });
+    m_undo->setIcon(commandIcon("edit-undo"));
+    m_redo->setIcon(commandIcon("edit-redo"));
     m_undo->setShortcuts(QKeySequence::Undo);
-    m_redo->setShortcuts(QKeySequence::Redo);
+    QList<QKeySequence> redoKeys = QKeySequence::keyBindings(QKeySequence::Redo);
+    const QKeySequence other(QStringLiteral("Ctrl+Y"));
+    if (!redoKeys.contains(other))
+        redoKeys << other;
+    m_redo->setShortcuts(redoKeys);
     for (QAction* action : {m_undo, m_redo})
         action->setShortcutContext(Qt::ApplicationShortcut);
 }
@@ -150,13 +181,17 @@ void MainMenus::makePlotMenu(QAction& details, const QList<QAction*>& layers)
 {
     QMenu* menu = m_window.menuBar()->addMenu(tr("&Plot"));
     menu->addAction(&m_styleDialog);
+    iconed(&m_styleDialog, "style-dialog", tr("Show or hide the table of the style of each zone"));
     menu->addAction(&details);
+    iconed(&details, "document-properties",
+           tr("Show or hide the panel of what is set for the plot as a whole"));
     addDetailsMenu(*menu);
     menu->addSeparator();
     menu->addActions(layers);
     menu->addSeparator();
     m_fitView = menu->addAction(tr("&Fit View"), this, &MainMenus::fitWanted);
     setKeys(*m_fitView, QKeySequence(QStringLiteral("Ctrl+0")));
+    iconed(m_fitView, "zoom-fit-best", tr("Show the whole of what is drawn"));
 }
 
 void MainMenus::addDetailsMenu(QMenu& menu)
@@ -166,6 +201,9 @@ void MainMenus::addDetailsMenu(QMenu& menu)
         m_detailPages.insert(&page, m_details->addAction(shownTitle(page), this, [this, &page] {
             Q_EMIT detailsWanted(QLatin1String(page.name));
         }));
+    for (QAction* page : m_details->actions())
+        describe(*page, tr("Show this page in the panel of details"));
+    describe(*m_details->menuAction(), tr("Show a page in the panel of details"));
 }
 
 void MainMenus::makeHelpMenu()
@@ -173,17 +211,23 @@ void MainMenus::makeHelpMenu()
     QMenu* menu = m_window.menuBar()->addMenu(tr("&Help"));
     menu->addActions((new HelpCommands(this))->actions());
     menu->addSeparator();
-    menu->addAction(tr("&About corvala"), this, [this] {
-        auto* about =
-            new QMessageBox(QMessageBox::Information, tr("About corvala"),
-                            tr("corvala %1\nPlots field data and edits the style of their zones.\n"
-                               "Licence: GPL-3.0-or-later")
-                                .arg(QApplication::applicationVersion()),
-                            QMessageBox::Close, &m_window);
-        about->setAttribute(Qt::WA_DeleteOnClose);
-        about->open();
-    });
-    menu->addAction(tr("About &Qt"), qApp, &QApplication::aboutQt);
+    iconed(menu->addAction(tr("&About corvala"), this, &MainMenus::showAbout), "help-about",
+           tr("Tell which program this is"));
+    iconed(menu->addAction(tr("About &Qt"), qApp, &QApplication::aboutQt), "help-about-toolkit",
+           tr("Tell about the library that draws the windows"));
+}
+
+void MainMenus::showAbout()
+{
+    auto* about =
+        new QMessageBox(QMessageBox::NoIcon, tr("About corvala"),
+                        tr("corvala %1\nPlots field data and edits the style of their zones.\n"
+                           "Licence: GPL-3.0-or-later")
+                            .arg(QApplication::applicationVersion()),
+                        QMessageBox::Close, &m_window);
+    about->setIconPixmap(programIcon().pixmap(64));
+    about->setAttribute(Qt::WA_DeleteOnClose);
+    about->open();
 }
 
 void MainMenus::makeToolBar(QAction& save)
@@ -193,6 +237,8 @@ void MainMenus::makeToolBar(QAction& save)
     m_toolBar->addActions({m_openCommands.first(), &save, m_undo, m_redo});
     m_toolBar->addSeparator();
     m_toolBar->addAction(&m_styleDialog);
+    if (auto* button = qobject_cast<QToolButton*>(m_toolBar->widgetForAction(&m_styleDialog)))
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
 }
 
 void MainMenus::enableOpening(bool enabled)
@@ -214,18 +260,27 @@ void MainMenus::refresh(bool hasPlot)
     refreshUndo();
 }
 
-static QString commandText(const QString& command, const QString& step)
+static constexpr int kLongestStep = 60; ///< in characters; a zone may have a long name
+
+/// Says what it takes back, as far as there is room.
+static void nameStep(QAction& action, const QString& command, const QString& step)
 {
-    return step.isEmpty() ? command : MainMenus::tr("%1 %2").arg(command, withoutAccessKey(step));
+    const QString shown =
+        step.size() > kLongestStep ? step.left(kLongestStep - 3) + QStringLiteral("...") : step;
+    QString text =
+        step.isEmpty() ? command : MainMenus::tr("%1 %2").arg(command, withoutAccessKey(shown));
+    action.setText(text);
+    text = step.isEmpty() ? command : MainMenus::tr("%1 %2").arg(command, step);
+    describe(action, text.remove(QLatin1Char('&')));
 }
 
 void MainMenus::refreshUndo()
 {
     const QUndoStack& stack = Document::instance().undo().stack();
     m_undo->setEnabled(stack.canUndo());
-    m_undo->setText(commandText(tr("&Undo"), stack.undoText()));
+    nameStep(*m_undo, tr("&Undo"), stack.undoText());
     m_redo->setEnabled(stack.canRedo());
-    m_redo->setText(commandText(tr("&Redo"), stack.redoText()));
+    nameStep(*m_redo, tr("&Redo"), stack.redoText());
 }
 
 } // namespace corvala::app

@@ -45,6 +45,7 @@ Q_SIGNALS:
 
 private:
     void makeFileMenu(const DocumentCommands& documents);
+    void addOpenCommands(QMenu& menu);
     void addSampleMenu(QMenu& menu);
     void addDemoMenu(QMenu& menu);
     void fillRecentMenu(QMenu& menu);
@@ -52,6 +53,7 @@ private:
     void makePlotMenu(QAction& details, const QList<QAction*>& layers);
     void addDetailsMenu(QMenu& menu);
     void makeHelpMenu();
+    void showAbout();
     void makeToolBar(QAction& save);
     void refreshUndo();
 
@@ -70,5 +72,8 @@ private:
 
 /// Files that belong together, in a few words.
 QString shownName(const QStringList& files);
+
+/// What a menu calls embedded data.
+QString demoTitle(const QString& name);
 
 } // namespace corvala::app

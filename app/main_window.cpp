@@ -4,6 +4,8 @@
 #include "app/data_commands.h"
 #include "app/details/details_dock.h"
 #include "app/document_commands.h"
+#include "app/file_drops.h"
+#include "app/icons.h"
 #include "app/layer_bar.h"
 #include "app/layer_notes.h"
 #include "app/main_menus.h"
@@ -12,23 +14,22 @@
 #include "app/plot_area.h"
 #include "app/plot_type_choice.h"
 #include "app/seed_picking.h"
+#include "app/start_page.h"
 #include "app/style_dialog.h"
+#include "app/style_dialog_command.h"
 #include "app/time_bar.h"
+#include "app/window_memory.h"
 #include "app/work_progress.h"
 #include "host/document/document.h"
 #include "plot/frame_view.h"
 #include "sdk/common_ui/find_main_window.h"
 
 #include <QCloseEvent>
-#include <QDragEnterEvent>
 #include <QLabel>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace corvala::app {
 
@@ -41,7 +42,7 @@ MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
 {
     setObjectName(QStringLiteral("mainWindow"));
-    setAcceptDrops(true);
+    setWindowIcon(programIcon());
     makeCentre();
     makeBars();
     connectOpener();
@@ -85,8 +86,9 @@ void MainWindow::makeBars()
         },
         this);
     addDockWidget(Qt::RightDockWidgetArea, m_details);
-    m_menus = new MainMenus(*this, *m_documents, *makeStyleDialogAction(*this),
-                            *m_details->toggleViewAction(), m_layerBar->layerActions());
+    m_styleDialog = new StyleDialogCommand(*this);
+    m_menus = new MainMenus(*this, *m_documents, *m_styleDialog, *m_details->toggleViewAction(),
+                            m_layerBar->layerActions());
     m_plotType = new PlotTypeChoice(this);
     m_menus->toolBar().addSeparator();
     m_menus->toolBar().addWidget(m_plotType);
@@ -136,6 +138,27 @@ void MainWindow::connectOpener()
     connect(m_data, &DataCommands::documentWanted, m_documents, &DocumentCommands::open);
     connect(m_documents, &DocumentCommands::failed, this, &MainWindow::showProblem);
     connect(&m_documents->state(), &DocumentState::changed, this, &MainWindow::refreshTitle);
+    auto* drops = new FileDrops(*this, *m_plotArea, [&opener] {
+        return opener.isRunning() ? tr("%1 is being read: drop other files when that is done")
+                                        .arg(shownName(opener.request().files))
+                                  : QString();
+    });
+    connect(drops, &FileDrops::dropped, this,
+            qOverload<const QStringList&>(&MainWindow::openFiles));
+}
+
+/// What one can begin with while there are no data.
+void MainWindow::makeStartPage(plot::FrameView& view)
+{
+    auto* page = new StartPage;
+    view.setStartPage(page);
+    connect(page, &StartPage::openWanted, m_data, &DataCommands::chooseFiles);
+    connect(page, &StartPage::folderWanted, m_data, &DataCommands::chooseFolder);
+    connect(page, &StartPage::filesWanted, this,
+            qOverload<const QStringList&>(&MainWindow::openFiles));
+    connect(page, &StartPage::demoWanted, m_data, &DataCommands::openDemo);
+    connect(&m_data->opener(), &DataOpener::started, page, [page] { page->setEnabled(false); });
+    connect(&m_data->opener(), &DataOpener::ended, page, [page] { page->setEnabled(true); });
 }
 
 void MainWindow::connectCanvas()
@@ -146,6 +169,7 @@ void MainWindow::connectCanvas()
     plot::FrameView* view = m_plotArea->frameView();
     if (!view)
         return;
+    makeStartPage(*view);
     letPickSeeds(*m_details, *view);
     connect(m_menus, &MainMenus::fitWanted, view, &plot::FrameView::fitView);
     connect(view, &plot::FrameView::zonePicked, this,
@@ -244,6 +268,12 @@ void MainWindow::openFiles(const host::io::ReadRequest& request)
     m_data->open(request);
 }
 
+void MainWindow::restore()
+{
+    restoreWindow(*this);
+    refresh(); // which bars show follows from the document, too
+}
+
 void MainWindow::openDemo(const QString& name)
 {
     m_data->openDemo(name);
@@ -259,23 +289,6 @@ void MainWindow::closeEvent(QCloseEvent* event)
     event->setAccepted(m_documents->mayLose());
 }
 
-void MainWindow::dragEnterEvent(QDragEnterEvent* event)
-{
-    const QList<QUrl> urls = event->mimeData()->urls();
-    const bool isReadable = !urls.isEmpty()
-        && std::all_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
-    event->setAccepted(isReadable && !m_data->opener().isRunning());
-}
-
-void MainWindow::dropEvent(QDropEvent* event)
-{
-    QStringList files;
-    for (const QUrl& url : event->mimeData()->urls())
-        files << url.toLocalFile();
-    event->acceptProposedAction();
-    openFiles(files);
-}
-
 QString MainWindow::saveCanvas(const QString& file)
 {
     return m_plotArea->saveCanvas(file);
@@ -288,8 +301,14 @@ void MainWindow::openStyleDialog(DialogInitialization_e initialization)
 
 void MainWindow::openStyleDialogBeside()
 {
-    placeSideBySide(*this, app::openStyleDialog(*this, DialogInitialization_None),
-                    screen()->availableGeometry());
+    QWidget& dialog = app::openStyleDialog(*this, DialogInitialization_None);
+    if (!knowsStyleDialog())
+        placeSideBySide(*this, dialog, screen()->availableGeometry());
+}
+
+const QAction& MainWindow::styleDialogCommand() const
+{
+    return *m_styleDialog;
 }
 
 void MainWindow::pick(int type, CvlInt64 number, bool activate)

@@ -12,6 +12,10 @@
 
 class QLabel;
 
+namespace corvala::plot {
+class FrameView;
+}
+
 namespace corvala::app {
 
 class DataCommands;
@@ -24,6 +28,7 @@ class NoticeBar;
 class PictureNotes;
 class PlotArea;
 class PlotTypeChoice;
+class StyleDialogCommand;
 class TimeBar;
 class WorkProgress;
 
@@ -44,8 +49,13 @@ public:
     /// As DocumentCommands::askBeforeLosing, and before the window closes.
     void askBeforeLosing();
     void openStyleDialog(corvala::dialogs::common::DialogInitialization_e initialization);
-    /// Opens the style dialog beside the plot, as at the start of the program.
+    /// Opens the style dialog beside the plot, or where it was in the former run, as at the start
+    /// of the program.
     void openStyleDialogBeside();
+    const QAction& styleDialogCommand() const; ///< checked while the style dialog is open
+
+    /// Comes to where it was in the former run; to be called before it is shown.
+    void restore();
 
     /// As PlotArea::saveCanvas.
     QString saveCanvas(const QString& file);
@@ -56,14 +66,13 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
 private:
     void makeCentre();
     void makeBars();
     void connectOpener();
     void connectCanvas();
+    void makeStartPage(plot::FrameView& view);
 
     void refreshTitle();
     void refresh();
@@ -88,6 +97,7 @@ private:
     DetailsDock* m_details = nullptr;
     DataCommands* m_data = nullptr;
     DocumentCommands* m_documents = nullptr;
+    StyleDialogCommand* m_styleDialog = nullptr;
     MainMenus* m_menus = nullptr;
     WorkProgress* m_work = nullptr; ///< of reading and drawing
     QLabel* m_summary = nullptr;

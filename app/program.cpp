@@ -5,12 +5,14 @@
 #include "app/command_line.h"
 #include "app/data_opening.h"
 #include "app/display.h"
+#include "app/icons.h"
 #include "app/language.h"
 #include "app/main_window.h"
 #include "app/picture_output.h"
 #include "app/program_stage.h"
 #include "app/style_dialog.h"
 #include "app/termination.h"
+#include "app/window_memory.h"
 #include "host/document/document.h"
 #include "host/storage/document_file.h"
 #include "host/undo/gesture_tracker.h"
@@ -25,14 +27,22 @@
 #include <QApplication>
 #include <QFile>
 #include <QLocale>
+#include <QMessageBox>
+#include <QRegularExpression>
+#include <QSettings>
 #include <QSurfaceFormat>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <QVTKOpenGLNativeWidget.h>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 namespace corvala::app {
 
@@ -73,6 +83,36 @@ static QString openDocumentNow(const QString& file)
     const auto outcome = host::storage::loadDocument(host::Document::instance(), file, readAndWait);
     printNotes(outcome.notes);
     return outcome.problem;
+}
+
+/// A program that a desktop started has no terminal; pipes belong to scripts, which read them.
+static bool isReadByNobody(std::FILE* stream)
+{
+    struct stat status
+    {
+    };
+    const int file = fileno(stream);
+    return isatty(file) == 0 && (fstat(file, &status) != 0 || !S_ISFIFO(status.st_mode));
+}
+
+static bool asksForBatch(const QStringList& arguments)
+{
+    static const QRegularExpression option(QStringLiteral("^--?(play|report|render|save)\\b"));
+    return arguments.indexOf(option) >= 0;
+}
+
+/// Shows in a window, besides, why the program cannot start when nobody reads what it prints.
+static void showProblem(int argc, char** argv, const QString& problem)
+{
+    Display display;
+    if (asksForBatch(argumentsOf(argc, argv)) || !isReadByNobody(stderr)
+        || !display.prepare({}).isEmpty())
+        return;
+    QApplication application(argc, argv);
+    QMessageBox box(QMessageBox::Critical, Program::tr("corvala"), problem, QMessageBox::Close);
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowIcon(programIcon());
+    box.exec();
 }
 
 static QString openDataNow(const Options& options)
@@ -158,14 +198,17 @@ void startInteractive(MainWindow& window, const Options& options)
 {
     offerAllLineTabs();
     window.askBeforeLosing();
+    window.restore();
     window.show();
+    const bool opensDialog = wasStyleDialogOpen();
     if (!options.files.isEmpty()) {
         auto* first = new QObject(&window);
-        QObject::connect(&window, &MainWindow::openingEnded, first, [&window, first](bool opened) {
-            first->deleteLater();
-            if (opened)
-                window.openStyleDialogBeside();
-        });
+        QObject::connect(&window, &MainWindow::openingEnded, first,
+                         [&window, opensDialog, first](bool opened) {
+                             first->deleteLater();
+                             if (opened && opensDialog)
+                                 window.openStyleDialogBeside();
+                         });
         host::io::ReadRequest request;
         request.files = options.files;
         request.plot3d = options.plot3d;
@@ -173,7 +216,8 @@ void startInteractive(MainWindow& window, const Options& options)
         window.openFiles(request);
     } else if (!options.demo.isEmpty()) {
         window.openDemo(options.demo);
-        window.openStyleDialogBeside();
+        if (opensDialog)
+            window.openStyleDialogBeside();
     }
 }
 
@@ -218,9 +262,13 @@ static int runApplication(int argc, char** argv, const Options& options)
     const Termination termination;
     const CurveFitReports reports;
     const host::GestureTracker gestures(host::Document::instance().undo());
+    std::optional<QTemporaryDir> settings; // batch work neither reads nor changes the user's
+    if (options.isBatch())
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.emplace().path());
     MainWindow window;
     if (!options.isBatch()) {
         const BusyCursor busy;
+        const WindowMemory memory(window, window.styleDialogCommand());
         startInteractive(window, options);
         return Termination::exitCode(QApplication::exec());
     }
@@ -229,11 +277,11 @@ static int runApplication(int argc, char** argv, const Options& options)
 }
 
 /// The exit code of a run that ends here, else -1.
-static int readOptions(int argc, char** argv, Options& options)
+static int readOptions(int argc, char** argv, Options& options, QString& misuse)
 {
     const QCoreApplication application(argc, argv); // which has texts in the user's language
     setUpLanguage(userLanguages());
-    const QString misuse = parseCommandLine(argumentsOf(argc, argv), options);
+    misuse = parseCommandLine(argumentsOf(argc, argv), options);
     if (!misuse.isEmpty()) {
         fail(named(misuse) + QLatin1Char('\n') + Program::tr("Try 'corvala --help'."));
         return WrongUsage;
@@ -248,10 +296,15 @@ static int readOptions(int argc, char** argv, Options& options)
 int runProgram(int argc, char** argv)
 {
     Options options;
-    const int parsed = readOptions(argc, argv, options);
-    if (parsed >= 0)
+    QString misuse;
+    const int parsed = readOptions(argc, argv, options, misuse);
+    if (parsed == Success)
         return parsed;
     setUpQt();
+    if (parsed >= 0) {
+        showProblem(argc, argv, misuse);
+        return parsed;
+    }
     Display display;
     const QString noDisplay = display.prepare(options);
     return noDisplay.isEmpty() ? runApplication(argc, argv, options) : fail(named(noDisplay));

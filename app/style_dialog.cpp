@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/style_dialog.h"
 
-#include "sdk/dialogs_common/launch_dialog_action.h"
+#include "app/window_memory.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
 
-#include <QCoreApplication>
+#include <QMainWindow>
 #include <QRect>
 #include <QScreen>
 
@@ -21,20 +21,6 @@ static constexpr int kNarrowestWindow = 480;
 /// The dialog becomes wider with the number of its tabs.
 static constexpr int kRoomToGrow = 40;
 
-/// When it is first shown it covers the main window as little as the screen allows.
-static ZoneStyleDialog& styleDialog(QWidget& mainWindow, DialogInitialization_e initialization)
-{
-    ZoneStyleDialog& dialog = ZoneStyleDialog::getInstance(mainWindow, initialization);
-    if (!dialog.testAttribute(Qt::WA_Moved)) {
-        const QRect screen = mainWindow.screen()->availableGeometry();
-        const QRect window = mainWindow.frameGeometry();
-        const int width = dialog.sizeHint().expandedTo(dialog.minimumSize()).width();
-        const int right = std::min(window.right() + 1, screen.right() - width - kRoomToGrow);
-        dialog.move(std::max(right, screen.left()), std::max(window.top(), screen.top()));
-    }
-    return dialog;
-}
-
 void offerAllLineTabs()
 {
     std::set<ZoneStyleDialog::MappingStyleTab_e> tabs;
@@ -44,24 +30,94 @@ void offerAllLineTabs()
     ZoneStyleDialog::setAvailableMappingStyleTabs(tabs);
 }
 
+QWidget* existingStyleDialog()
+{
+    return ZoneStyleDialog::m_dialogInstance;
+}
+
+static QRect plotOf(const QWidget& mainWindow)
+{
+    const auto* const window = qobject_cast<const QMainWindow*>(&mainWindow);
+    const QWidget* const plot = window ? window->centralWidget() : nullptr;
+    return plot ? QRect(plot->mapToGlobal({0, 0}), plot->size()) : mainWindow.frameGeometry();
+}
+
 QWidget& openStyleDialog(QWidget& mainWindow, DialogInitialization_e initialization)
 {
-    ZoneStyleDialog& dialog = styleDialog(mainWindow, initialization);
+    const bool isFirst = !existingStyleDialog();
+    ZoneStyleDialog& dialog = ZoneStyleDialog::getInstance(mainWindow, initialization);
     dialog.launch();
+    if (!isFirst)
+        return dialog;
+    dialog.allowNarrow(); // its preferred size is chosen
+    if (!restoreStyleDialog(dialog))
+        placeHidingLeast(mainWindow, plotOf(mainWindow), dialog,
+                         mainWindow.screen()->availableGeometry());
     return dialog;
+}
+
+/// Of a window, or likely where the window manager has not answered yet.
+static QSize frameOf(const QWidget& window)
+{
+    constexpr QSize kLikely(10, 36);
+    const QSize frame = window.frameGeometry().size() - window.size();
+    return frame.isEmpty() ? kLikely : frame;
 }
 
 /// The least size of a window, with its frame.
 static QSize leastSize(const QWidget& window)
 {
-    return window.minimumSizeHint().expandedTo(window.minimumSize()) + window.frameGeometry().size()
-        - window.size();
+    return window.minimumSizeHint().expandedTo(window.minimumSize()) + frameOf(window);
+}
+
+static int areaOf(const QRect& area)
+{
+    return area.isEmpty() ? 0 : area.width() * area.height();
+}
+
+/// The place of a window of some size, of those along the edges of the screen and of the main
+/// window.
+static QRect placeHidingLeast(const QSize& size, const QRect& window, const QRect& plot,
+                              const QRect& screen)
+{
+    const QRect room(screen.topLeft(), screen.size() - size + QSize(1, 1));
+    QRect best;
+    for (const int x :
+         {window.right() + 1, window.left() - size.width(), room.right(), room.left()})
+        for (const int y :
+             {window.top(), window.bottom() + 1, window.top() - size.height(), room.bottom()}) {
+            const QRect place(std::clamp(x, room.left(), std::max(room.left(), room.right())),
+                              std::clamp(y, room.top(), std::max(room.top(), room.bottom())),
+                              size.width(), size.height());
+            const auto hides = [&](const QRect& some) {
+                return std::pair(areaOf(some & plot), areaOf(some & window));
+            };
+            if (best.isNull() || hides(place) < hides(best))
+                best = place;
+        }
+    return best;
+}
+
+void placeHidingLeast(const QWidget& mainWindow, const QRect& plot, QWidget& dialog,
+                      const QRect& screen)
+{
+    const QSize frame = frameOf(dialog);
+    const QRect window = mainWindow.frameGeometry();
+    QSize size = (dialog.size() + frame).boundedTo(screen.size());
+    QRect place = placeHidingLeast(size, window, plot, screen);
+    if (2 * areaOf(place & plot) > areaOf(plot)) {
+        const int narrow = std::max(leastSize(dialog).width(), screen.width() / 2);
+        size.setWidth(std::min(size.width(), narrow));
+        place = placeHidingLeast(size, window, plot, screen);
+    }
+    dialog.resize(place.size() - frame);
+    dialog.move(place.topLeft());
 }
 
 /// Gives a window a width with its frame, and its place in the height of an area.
 static void place(QWidget& window, const QRect& area, int left, int width)
 {
-    const QSize frame = window.frameGeometry().size() - window.size();
+    const QSize frame = frameOf(window);
     const int height = std::min(window.height(), area.height() - frame.height());
     window.resize(width - frame.width(), height);
     const int free = std::max(area.height() - window.height() - frame.height(), 0);
@@ -73,31 +129,18 @@ void placeSideBySide(QWidget& mainWindow, QWidget& dialog, const QRect& screen)
     const QRect area = screen.adjusted(0, 0, -kRoomToGrow, 0);
     const int leastOfDialog = std::min(leastSize(dialog).width(), screen.width());
     const int dialogWidth = std::max(
-        leastOfDialog, std::min(dialog.frameGeometry().width(), area.width() - kNarrowestWindow));
+        leastOfDialog,
+        std::min(dialog.width() + frameOf(dialog).width(), area.width() - kNarrowestWindow));
     // Where there is no room for both the dialog lies over the window, which is as wide as it
     // likes.
     const int room = area.width() - dialogWidth;
-    const int windowWidth = std::min(mainWindow.frameGeometry().width(),
+    const int windowWidth = std::min(mainWindow.width() + frameOf(mainWindow).width(),
                                      room >= kNarrowestWindow ? room : screen.width());
     const int free = area.width() - windowWidth - dialogWidth;
     const int left = area.left() + std::max(free, 0) / 2;
     place(mainWindow, screen, left, windowWidth);
     const int right = std::min(left + windowWidth, screen.left() + screen.width() - dialogWidth);
     place(dialog, screen, right, dialogWidth);
-}
-
-QAction* makeStyleDialogAction(QWidget& mainWindow)
-{
-    auto* action = new LaunchDialogAction(
-        QCoreApplication::translate("corvala::app::MainMenus", "&Zone Style..."),
-        ZoneStyleDialog::relevance(),
-        [&mainWindow]() -> DialogInterface& {
-            return styleDialog(mainWindow, DialogInitialization_None);
-        },
-        &mainWindow);
-    action->setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));
-    action->setShortcutContext(Qt::ApplicationShortcut);
-    return action;
 }
 
 } // namespace corvala::app

@@ -3,14 +3,16 @@
 
 #include "sdk/dialogs_common/dialog_initialization.h"
 
-class QAction;
-class QObject;
 class QRect;
 class QWidget;
 
 namespace corvala::app {
 
-/// Opens the style dialog on the main window, or brings it to the front.
+/// Null until the dialog is first opened.
+QWidget* existingStyleDialog();
+
+/// Opens the style dialog on the main window, or brings it to the front. At first it comes to where
+/// it was in the former run, else to where it hides least of the plot.
 QWidget& openStyleDialog(QWidget& mainWindow,
                          corvala::dialogs::common::DialogInitialization_e initialization);
 
@@ -19,10 +21,12 @@ QWidget& openStyleDialog(QWidget& mainWindow,
 /// the window.
 void placeSideBySide(QWidget& mainWindow, QWidget& dialog, const QRect& screen);
 
+/// Moves the dialog to where it hides least of the main window, and in this least of `plot`, wholly
+/// on the screen; makes it narrower where it would hide most of the plot. All in global pixels.
+void placeHidingLeast(const QWidget& mainWindow, const QRect& plot, QWidget& dialog,
+                      const QRect& screen);
+
 /// Offers all tabs of line plots, the indices included, which the dialog leaves out unless told.
 void offerAllLineTabs();
-
-/// The command that opens the dialog; enabled while the active frame has styles to edit.
-QAction* makeStyleDialogAction(QWidget& mainWindow);
 
 } // namespace corvala::app

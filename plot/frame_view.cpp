@@ -76,11 +76,17 @@ Canvas* FrameView::canvasOf(Kind kind)
 void FrameView::showHint()
 {
     const host::Frame* const frame = host::Document::instance().activeFrame();
-    m_hint->setText(frame && frame->hasData()
-                        ? tr("Nothing is drawn for this plot type")
-                        : tr("No data: open a file, a sample or demonstration data in the File "
-                             "menu"));
-    m_layout->setCurrentWidget(m_hint);
+    const bool hasData = frame && frame->hasData();
+    m_hint->setText(hasData ? tr("Nothing is drawn for this plot type") : tr("No data"));
+    m_layout->setCurrentWidget(m_startPage && !hasData ? m_startPage : m_hint);
+}
+
+void FrameView::setStartPage(QWidget* page)
+{
+    m_startPage = page;
+    m_layout->addWidget(page);
+    if (!m_canvas)
+        showHint();
 }
 
 /// As the frame was seen when it was saved, if it was.

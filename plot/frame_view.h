@@ -27,6 +27,9 @@ public:
     explicit FrameView(QWidget* parent = nullptr);
     ~FrameView() override;
 
+    /// Shown while there are no data; owned by the view from now on.
+    void setStartPage(QWidget* page);
+
     /// The canvas that draws at present; null for a frame without data.
     Canvas* canvas() const { return m_canvas; }
     /// Drawings so far; tells how far requests were coalesced.
@@ -89,6 +92,7 @@ private:
     std::unique_ptr<Subscription> m_subscription;
     QStackedLayout* m_layout = nullptr; // not owned
     QLabel* m_hint = nullptr; // not owned
+    QWidget* m_startPage = nullptr; // not owned
     Canvas* m_canvases[KindCount] = {}; // not owned
     Canvas* m_canvas = nullptr; // not owned
     ViewKey m_key {0, 0}; ///< of what is shown

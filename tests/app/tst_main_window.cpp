@@ -7,6 +7,7 @@
 #include "app/recent_files.h"
 #include "app/style_dialog.h"
 #include "app/user_settings.h"
+#include "app/window_memory.h"
 #include "host/document/document.h"
 #include "play/dialog_driver.h"
 #include "play/idle.h"
@@ -72,6 +73,7 @@ private Q_SLOTS:
     void initTestCase() { qputenv("CORVALA_READ", CORVALA_READ); }
     void init()
     {
+        userSettings().remove(QStringLiteral("windows"));
         Document::instance().clear();
         m_window = std::make_unique<MainWindow>();
         m_window->show();
@@ -84,8 +86,12 @@ private Q_SLOTS:
     {
         QCOMPARE(m_window->windowTitle(), QStringLiteral("corvala"));
         QVERIFY(!layer("ShowMesh").isVisible());
-        m_window->openDemo(QStringLiteral("field2d"));
+        const auto* page = m_window->findChild<QWidget*>(QStringLiteral("startPage"));
+        for (QToolButton* entry : page->findChildren<QToolButton*>())
+            if (entry->text().startsWith(QLatin1String("2D field")))
+                play::pressKey(entry, Qt::Key_Return);
         play::waitUntilIdle();
+        QVERIFY(!page->isVisible());
         QVERIFY(m_window->windowTitle().endsWith(QLatin1String(" - corvala")));
         QVERIFY(layer("ShowMesh").isVisible() && layer("ShowMesh").isChecked());
         QVERIFY(!layer("ShowContour").isChecked());
@@ -132,6 +138,25 @@ private Q_SLOTS:
             const QString key = QKeySequence::mnemonic(text).toString();
             QVERIFY2(!key.isEmpty() && !keys.contains(key), qPrintable(text));
             keys << key;
+        }
+    }
+
+    /// In the menus and the toolbars; a drawing that is missing is blank.
+    void commandsSayWhatTheyDo()
+    {
+        m_window->openDemo(QStringLiteral("kinds"));
+        play::waitUntilIdle();
+        for (const QMenu* menu : m_window->findChildren<QMenu*>()) {
+            for (const QAction* command : menu->actions()) {
+                const QByteArray name = command->text().toUtf8();
+                QVERIFY2(command->isSeparator() || command->menu()
+                             || !command->statusTip().isEmpty(),
+                         name);
+                QVERIFY2(command->icon().isNull() || isDrawn(command->icon()), name);
+                QVERIFY2(command->toolTip().contains(
+                             command->shortcut().toString(QKeySequence::NativeText)),
+                         name);
+            }
         }
     }
 
@@ -304,7 +329,7 @@ private Q_SLOTS:
                  qPrintable(undo->text()));
         play::pressKeys(m_window.get(), QKeySequence(QKeySequence::Undo));
         QVERIFY(!frame().isOn(style::fieldLayers.showShade));
-        play::pressKeys(m_window.get(), QKeySequence(QKeySequence::Redo));
+        play::pressKeys(m_window.get(), QKeySequence(QStringLiteral("Ctrl+Y")));
         QVERIFY(frame().isOn(style::fieldLayers.showShade));
     }
 
@@ -373,6 +398,37 @@ private Q_SLOTS:
         }
     }
 
+    /// What the former run left is there again, on the screen.
+    void windowsComeBack()
+    {
+        m_window->openDemo(QStringLiteral("field3d"));
+        layer("styleDialog").trigger();
+        QWidget* dialog = existingStyleDialog();
+        QVERIFY(dialog && dialog->isVisible() && layer("styleDialog").isChecked());
+        dialog->resize(dialog->minimumSizeHint() + QSize(20, 20));
+        dialog->move(-50, 40);
+        m_window->resize(700, 600);
+        m_window->findChild<DetailsDock*>()->show();
+        const QSize size = dialog->size();
+        {
+            const WindowMemory memory(*m_window, m_window->styleDialogCommand());
+            layer("styleDialog").trigger();
+            play::waitUntilIdle();
+            m_window->close();
+        }
+        QVERIFY(!wasStyleDialogOpen());
+        m_window = std::make_unique<MainWindow>();
+        m_window->restore();
+        m_window->show();
+        QCOMPARE(m_window->size(), QSize(700, 600));
+        QVERIFY(m_window->findChild<DetailsDock*>()->isVisible());
+        m_window->openDemo(QStringLiteral("field3d"));
+        m_window->openStyleDialogBeside();
+        dialog = existingStyleDialog();
+        QCOMPARE(dialog->size(), size);
+        QVERIFY(m_window->screen()->availableGeometry().contains(dialog->frameGeometry()));
+    }
+
     void smallScreensHoldBothWindows_data()
     {
         const Rows<QSize> row;
@@ -433,8 +489,14 @@ private Q_SLOTS:
         QDragEnterEvent enter({}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(canvas, &enter);
         QDropEvent drop({}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QVERIFY(shownTexts().contains(QLatin1String("Drop to open naca_transient")));
         QApplication::sendEvent(canvas, &drop);
         QVERIFY(ended.isEmpty());
+        QApplication::sendEvent(canvas, &enter);
+        QVERIFY(!enter.isAccepted() && shownTexts().contains(QLatin1String(" is being read: ")));
+        QDragLeaveEvent leave;
+        QApplication::sendEvent(canvas, &leave);
+        QVERIFY(!shownTexts().contains(QLatin1String(" is being read: ")));
         QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
         play::waitUntilIdle();
         QVERIFY(frame().hasData());
@@ -580,6 +642,12 @@ private:
             m_window->menuBar()->actions().value(0)->menu()->actions().mid(0, 6);
         return int(std::count_if(commands.begin(), commands.end(),
                                  [](const QAction* command) { return command->isEnabled(); }));
+    }
+    static bool isDrawn(const QIcon& icon)
+    {
+        const QImage image = icon.pixmap(24).toImage().convertToFormat(QImage::Format_Alpha8);
+        const uchar* const pixels = image.constBits();
+        return std::any_of(pixels, pixels + image.sizeInBytes(), [](uchar alpha) { return alpha; });
     }
     /// The visible one; null when there is none.
     QPushButton* button(const char* text) const

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/command_tips.h"
+
+#include <QAction>
+#include <QCoreApplication>
+
+namespace corvala::app {
+
+void describe(QAction& command, const QString& what)
+{
+    const QString keys = command.shortcut().toString(QKeySequence::NativeText);
+    command.setStatusTip(what);
+    command.setToolTip(keys.isEmpty() ? what
+                                      : QCoreApplication::translate("CommandTips", "%1 (%2)",
+                                                                    "a command and its keys")
+                                            .arg(what, keys));
+}
+
+} // namespace corvala::app

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/style_dialog_command.h"
+
+#include "app/style_dialog.h"
+#include "zonestyle/dialog/zone_style_dialog.h"
+
+#include <QChildEvent>
+
+namespace corvala::app {
+
+using corvala::sdk::ui::dialogs::ZoneStyleDialog;
+
+StyleDialogCommand::StyleDialogCommand(QWidget& mainWindow)
+    : QAction(&mainWindow)
+    , m_mainWindow(mainWindow)
+{
+    setObjectName(QStringLiteral("styleDialog"));
+    setCheckable(true);
+    setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));
+    setShortcutContext(Qt::ApplicationShortcut);
+    const auto relevance = ZoneStyleDialog::relevance();
+    const auto follow = [this, relevance] { setEnabled(relevance->isRelevant()); };
+    m_connection = relevance->connectChanged(follow);
+    follow();
+    mainWindow.installEventFilter(this);
+    connect(this, &QAction::triggered, this, &StyleDialogCommand::openOrClose);
+}
+
+/// The dialog shows that it is there when it is first shown, whoever made it.
+bool StyleDialogCommand::eventFilter(QObject* watched, QEvent* event)
+{
+    QWidget* const dialog = existingStyleDialog();
+    if (event->type() == QEvent::ChildPolished
+        && static_cast<const QChildEvent*>(event)->child() == dialog)
+        dialog->installEventFilter(this);
+    else if (watched == dialog && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
+        setChecked(event->type() == QEvent::Show);
+    return false;
+}
+
+void StyleDialogCommand::openOrClose()
+{
+    QWidget* const dialog = existingStyleDialog();
+    if (dialog && dialog->isVisible() && !dialog->isMinimized())
+        dialog->close();
+    else if (isEnabled()) // a disabled command can be triggered by code
+        openStyleDialog(m_mainWindow, corvala::dialogs::common::DialogInitialization_None);
+    setChecked(existingStyleDialog() && existingStyleDialog()->isVisible());
+}
+
+} // namespace corvala::app
