@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/io/one_thread.h"
 #include "plot/field/geometry/surface_values.h"
 #include "plot/field/geometry/zone_cuts.h"
 #include "plot/field/geometry/zone_edges.h"
@@ -192,7 +193,7 @@ class tst_FieldVolumes : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { runFiltersInOrder(); }
+    void initTestCase() { host::io::runVtkInOneThread(); }
 
     void surfaces_data()
     {

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMultiHash>
 
 #include <algorithm>
 #include <set>
@@ -67,18 +68,27 @@ static bool mayBe(Format format, const QString& path)
     return !start.startsWith("CDF") && !start.startsWith("\x89HDF");
 }
 
+static const QMultiHash<QString, const FormatEndings*>& kindsByEnding()
+{
+    static const auto kinds = [] {
+        QMultiHash<QString, const FormatEndings*> result;
+        for (const FormatEndings& each : kFormats)
+            for (const QString& ending : QString::fromLatin1(each.endings).split(QLatin1Char(' ')))
+                result.insert(ending, &each);
+        return result;
+    }();
+    return kinds;
+}
+
 /// Null for a file of no known format.
 static const FormatEndings* kindOf(const QString& path)
 {
     if (QFileInfo(path).fileName() == QLatin1String("controlDict"))
         return &kControlDict;
-    const QString ending = endingOf(path);
     const FormatEndings* result = nullptr;
-    for (const FormatEndings& each : kFormats) {
-        const QStringList endings = QString::fromLatin1(each.endings).split(QLatin1Char(' '));
-        if (endings.contains(ending, Qt::CaseInsensitive) && mayBe(each.format, path))
-            result = &each;
-    }
+    for (const FormatEndings* each : kindsByEnding().values(endingOf(path).toLower()))
+        if (!result && mayBe(each->format, path)) // the last of the table comes first
+            result = each;
     return result;
 }
 

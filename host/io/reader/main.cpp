@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/one_thread.h"
 #include "host/io/read_folder.h"
 #include "host/io/reader/channel.h"
 #include "host/io/reader/data_set_builder.h"
@@ -98,6 +99,7 @@ int main(int argumentCount, char** arguments)
                    stderr);
         return 2;
     }
+    runVtkInOneThread();
     const reader::VtkMessages messages;
     return run(folder, *request);
 }

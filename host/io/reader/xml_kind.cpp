@@ -5,31 +5,63 @@
 #include "host/io/reader/read_failure.h"
 
 #include <QFile>
-#include <QXmlStreamReader>
 
 #include <vtkNew.h>
 #include <vtkXMLGenericDataObjectReader.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <cstring>
 #include <map>
 #include <tuple>
 #include <utility>
 
 namespace corvala::host::io::reader {
 
-static QString attributeOf(const QXmlStreamReader& xml, const char* name)
+static constexpr std::size_t kSmall = 1 << 20; ///< bytes; VTK seeks to and fro in files
+
+/// The value of an attribute in a tag; empty when the tag has none of that name.
+static std::string_view attributeOf(std::string_view tag, std::string_view name)
 {
-    return xml.attributes().value(QLatin1String(name)).toString();
+    static constexpr const char* kSpace = " \t\r\n";
+    for (std::size_t at = tag.find(name); at < tag.size(); at = tag.find(name, at + 1)) {
+        const std::string_view rest = tag.substr(at + name.size());
+        const std::size_t quote = rest.find_first_of("\"'");
+        const bool isWord = at > 0 && std::strchr(kSpace, tag[at - 1]);
+        if (!isWord || quote == std::string_view::npos
+            || rest.find_first_not_of(kSpace) != rest.find('=')
+            || rest.find_first_not_of(kSpace, rest.find('=') + 1) != quote)
+            continue;
+        return rest.substr(quote + 1, rest.find(rest[quote], quote + 1) - quote - 1);
+    }
+    return {};
+}
+
+/// The tag that starts at a place.
+static std::string_view tagAt(std::string_view xml, std::size_t at)
+{
+    const std::string_view rest = xml.substr(std::min(at, xml.size()));
+    return rest.substr(0, std::min(rest.find('>'), rest.size() - 1) + 1);
+}
+
+static double numberOf(std::string_view tag, std::string_view name)
+{
+    const std::string text(attributeOf(tag, name));
+    return std::strtod(text.c_str(), nullptr);
 }
 
 /// The range of points along each axis that a tag tells; empty when it tells none.
-static std::vector<int> extentOf(std::string_view tag, const char* name)
+static std::vector<int> extentOf(std::string_view tag, std::string_view name)
 {
-    QXmlStreamReader xml(QByteArray(tag.data(), static_cast<int>(tag.size())));
-    xml.readNextStartElement();
+    const std::string text(attributeOf(tag, name));
     std::vector<int> result;
-    for (const QString& number : attributeOf(xml, name).simplified().split(QLatin1Char(' ')))
-        result.push_back(number.toInt());
+    char* end = nullptr;
+    for (const char* at = text.c_str();; at = end) {
+        const long number = std::strtol(at, &end, 10);
+        if (end == at)
+            break;
+        result.push_back(static_cast<int>(number));
+    }
     return result.size() == 6 ? result : std::vector<int>();
 }
 
@@ -44,12 +76,10 @@ static double pointsOf(const std::vector<int>& extent)
 /// Least bytes that what a piece of a serial file claims takes when it is not compressed.
 static double leastBytesOf(std::string_view piece, std::string_view tag)
 {
-    QXmlStreamReader xml(QByteArray(tag.data(), static_cast<int>(tag.size())));
-    xml.readNextStartElement();
-    double bytes = 3 * attributeOf(xml, "NumberOfPoints").toDouble();
+    double bytes = 3 * numberOf(tag, "NumberOfPoints");
     for (const char* const cells :
          {"NumberOfCells", "NumberOfVerts", "NumberOfLines", "NumberOfStrips", "NumberOfPolys"})
-        bytes += attributeOf(xml, cells).toDouble();
+        bytes += numberOf(tag, cells);
     const std::size_t values = piece.find("<PointData");
     const std::string_view arrays =
         values == std::string_view::npos ? std::string_view() : piece.substr(values);
@@ -58,19 +88,35 @@ static double leastBytesOf(std::string_view piece, std::string_view tag)
     return bytes;
 }
 
+/// The tags of the file and of its pieces, from one look through what comes before the values.
+struct PieceTags
+{
+    explicit PieceTags(std::string_view bytes)
+        : xml(bytes.substr(0, bytes.find("<AppendedData")))
+        , isAppended(xml.size() < bytes.size())
+    {
+        for (std::size_t at = xml.find("<Piece"); at < xml.size(); at = xml.find("<Piece", at + 1))
+            places.push_back(at);
+        head = xml.substr(0, places.empty() ? xml.size() : places.front());
+    }
+
+    std::string_view tag(std::size_t piece) const { return tagAt(xml, places[piece]); }
+
+    std::string_view xml; ///< without appended values
+    bool isAppended;
+    std::string_view head; ///< before the first piece
+    std::vector<std::size_t> places; ///< of the pieces
+};
+
 /// VTK makes room for what a file claims before it reads any of it.
-static void requireRoom(const MappedFile& file)
+static void requireRoom(const MappedFile& file, const PieceTags& pieces)
 {
     static constexpr double kMostCompression = 10'000; ///< LZMA of zeros
-    const std::string_view xml = file.bytes().substr(0, file.bytes().find("<AppendedData"));
     const double size = static_cast<double>(file.bytes().size());
-    const bool isCompressed =
-        xml.substr(0, xml.find("<Piece")).find("compressor") != std::string_view::npos;
+    const bool isCompressed = pieces.head.find("compressor") != std::string_view::npos;
     double claimed = 0;
-    for (std::size_t at = xml.find("<Piece"); at < xml.size(); at = xml.find("<Piece", at + 1)) {
-        const std::string_view piece = xml.substr(at);
-        claimed += leastBytesOf(piece, piece.substr(0, piece.find('>') + 1));
-    }
+    for (std::size_t i = 0; i < pieces.places.size(); ++i)
+        claimed += leastBytesOf(pieces.xml.substr(pieces.places[i]), pieces.tag(i));
     if (claimed > (isCompressed ? kMostCompression : 1) * size)
         throw ReadFailure(
             file.path(),
@@ -83,22 +129,19 @@ static void requireRoom(const MappedFile& file)
 
 /// VTK takes what no piece of a grid fills for whatever the memory held. Returns the extent of a
 /// piece that is all there is of a larger grid.
-static std::vector<int> extentToRead(const MappedFile& file)
+static std::vector<int> extentToRead(const MappedFile& file, const PieceTags& pieces)
 {
-    const std::string_view xml = file.bytes().substr(0, file.bytes().find("<AppendedData"));
-    const std::size_t whole = xml.substr(0, xml.find("<Piece")).find("WholeExtent");
+    const std::size_t whole = pieces.head.find("WholeExtent");
     if (whole == std::string_view::npos)
         return {};
-    const auto tagAt = [&](std::size_t at) { return xml.substr(at, xml.substr(at).find('>') + 1); };
-    double missing = pointsOf(extentOf(tagAt(xml.rfind('<', whole)), "WholeExtent"));
+    double missing =
+        pointsOf(extentOf(tagAt(pieces.head, pieces.head.rfind('<', whole)), "WholeExtent"));
     std::vector<int> extent;
-    int pieces = 0;
-    for (std::size_t at = xml.find("<Piece"); at < xml.size(); at = xml.find("<Piece", at + 1)) {
-        extent = extentOf(tagAt(at), "Extent");
+    for (std::size_t i = 0; i < pieces.places.size(); ++i) {
+        extent = extentOf(pieces.tag(i), "Extent");
         missing -= pointsOf(extent);
-        ++pieces;
     }
-    if (missing > 0 && pieces != 1)
+    if (missing > 0 && pieces.places.size() != 1)
         throw ReadFailure(
             file.path(),
             QT_TRANSLATE_NOOP("ReadMessage", "its pieces do not fill its grid: %1 points lack"),
@@ -123,16 +166,8 @@ static std::size_t requireEnd(const MappedFile& file)
 /// What the first tag tells of the kind of data; empty for other files.
 static std::string typeOf(const MappedFile& file)
 {
-    const std::string_view xml = file.bytes();
-    const std::string_view tag = xml.substr(std::min(xml.find("<VTKFile"), xml.size()));
-    const std::string_view attributes = tag.substr(0, tag.find('>'));
-    std::size_t at = attributes.find("type=");
-    while (at < attributes.size() && attributes[at - 1] == '_') // header_type
-        at = attributes.find("type=", at + 1);
-    if (at >= attributes.size())
-        return {};
-    const std::string_view value = attributes.substr(std::min(at + 6, attributes.size()));
-    return std::string(value.substr(0, value.find_first_of("\"'")));
+    const std::string_view tag = tagAt(file.bytes(), file.bytes().find("<VTKFile"));
+    return std::string(attributeOf(tag, "type"));
 }
 
 /// The type of data object that VTK has for a kind, and whether it is parallel.
@@ -161,11 +196,13 @@ XmlKind::XmlKind(const QString& path)
     const std::size_t end = requireEnd(file);
     if (isParallel)
         return;
-    requireRoom(file);
-    extent = extentToRead(file);
+    const PieceTags pieces(file.bytes());
+    requireRoom(file, pieces);
+    extent = extentToRead(file, pieces);
     const std::string_view rest = file.bytes().substr(end);
-    const bool isAppended = file.bytes().find("<AppendedData") != std::string_view::npos;
-    if (!isAppended && rest.find_first_not_of(" \t\r\n") != std::string_view::npos)
+    const bool hasRest =
+        !pieces.isAppended && rest.find_first_not_of(" \t\r\n") != std::string_view::npos;
+    if (hasRest || file.bytes().size() <= kSmall)
         text = file.bytes().substr(0, end);
 }
 

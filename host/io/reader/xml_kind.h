@@ -18,7 +18,8 @@ struct XmlKind
     bool isParallel = false;
     bool isTree = false;
     std::vector<int> extent {}; ///< of the part of its grid that is in the file, if it is not all
-    std::string text; ///< all of the XML, if something follows that VTK would stumble over
+    /// All of the XML of a small file, or if something follows that VTK would stumble over.
+    std::string text;
 };
 
 } // namespace corvala::host::io::reader

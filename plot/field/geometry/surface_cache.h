@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "host/io/one_thread.h"
 #include "plot/field/geometry/zone_surface.h"
 
 #include <map>
@@ -19,7 +20,7 @@ public:
     explicit SurfaceCache(std::size_t budget = std::size_t {1} << 30) ///< bytes
         : m_budget(budget)
     {
-        runFiltersInOrder(); // before there is another thread
+        host::io::runVtkInOneThread(); // before there is another thread
     }
 
     /// Null when the zone has no points or cannot be read.

@@ -2,6 +2,7 @@
 #include "plot/field/geometry/zone_surface.h"
 
 #include "plot/field/geometry/index_faces.h"
+#include "plot/field/geometry/plain_outside.h"
 #include "plot/field/geometry/surface_builder.h"
 
 #include <vtkCell.h>
@@ -14,7 +15,6 @@
 #include <vtkPointData.h>
 #include <vtkPointSet.h>
 #include <vtkPoints.h>
-#include <vtkSMPTools.h>
 #include <vtkThreshold.h>
 #include <vtkTriangleFilter.h>
 #include <vtkUnsignedCharArray.h>
@@ -57,18 +57,6 @@ vtkSmartPointer<vtkPolyData> separateShape(vtkPolyData& shape)
     result->SetLines(separate(shape.GetLines()));
     result->SetPolys(separate(shape.GetPolys()));
     return result;
-}
-
-void runFiltersInOrder()
-{
-    static const bool isSequential = [] {
-        // Whatever could run in threads asks the system for the number of processors each time,
-        // unless it has been told: that takes longer than the box round a small zone.
-        vtkSMPTools::SetBackend("STDThread");
-        vtkSMPTools::Initialize(1);
-        return vtkSMPTools::SetBackend("Sequential");
-    }();
-    static_cast<void>(isSequential);
 }
 
 std::size_t ZoneSurface::memoryUse() const
@@ -206,12 +194,21 @@ static vtkSmartPointer<vtkUnsignedCharArray> allShown(vtkUnsignedCharArray& ghos
     return result;
 }
 
+/// The outside of all cells, whether they are hidden or not.
+static ZoneSurface outside(vtkDataSet& data, vtkUnsignedCharArray* ghosts)
+{
+    if (!ghosts && !data.GetPointGhostArray())
+        if (std::optional<ZoneSurface> plain = plainOutside(data))
+            return std::move(*plain);
+    const auto shown = ghosts ? allShown(*ghosts) : nullptr;
+    return fromNumbered(*outerFaces(*numberedStructure(data, shown)));
+}
+
 /// The outside of all cells, and of it what belongs to cells that are visible.
 static ZoneSurface boundary(vtkDataSet& data)
 {
     vtkUnsignedCharArray* const ghosts = data.GetCellGhostArray();
-    const auto shown = ghosts ? allShown(*ghosts) : nullptr;
-    ZoneSurface whole = fromNumbered(*outerFaces(*numberedStructure(data, shown)));
+    ZoneSurface whole = outside(data, ghosts);
     const auto isKept = [&](vtkIdType zoneCell) { return !isHidden(ghosts, zoneCell); };
     if (std::all_of(whole.cellIds.begin(), whole.cellIds.end(), isKept))
         return whole;

@@ -90,10 +90,6 @@ struct ZoneSurface
 /// are only looked at, and when a reference to one goes: threads must not share them.
 vtkSmartPointer<vtkPolyData> separateShape(vtkPolyData& shape);
 
-/// Filters run without threads of their own from now on: these would give faces another order, and
-/// with it another picture, each time.
-void runFiltersInOrder();
-
 /// The points and cells of a zone without its values and hidden cells, with the numbers that they
 /// have in the zone; filters pass these on.
 vtkSmartPointer<vtkDataSet> visiblePart(vtkDataSet& data);
