@@ -1,28 +1,23 @@
 // SPDX-License-Identifier: BSD-3-Clause
-// What opening files costs against what VTK alone takes to read them, in processor time of all
-// processes: bench_reading
+// What opening files and the first picture of a big zone cost against what a program of VTK alone
+// takes, in processor time and memory of all processes: xvfb-run bench_reading. As
+// "bench_reading open FILE" it opens one file, as "bench_reading write COUNT SIDE" it writes one.
 
+#include "process_cost.h"
 #include "ratio_report.h"
+#include "reading_files.h"
 
 #include "host/io/data_reader.h"
 
 #include <QCoreApplication>
-#include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
-#include <vtkFloatArray.h>
-#include <vtkMultiBlockDataSet.h>
-#include <vtkNew.h>
-#include <vtkPointData.h>
-#include <vtkPoints.h>
-#include <vtkStructuredGrid.h>
-#include <vtkXMLMultiBlockDataReader.h>
-#include <vtkXMLMultiBlockDataWriter.h>
-
-#include <cmath>
+#include <algorithm>
+#include <cstdio>
 #include <cstdlib>
-
-#include <sys/resource.h>
+#include <functional>
+#include <map>
 
 using namespace corvala::bench;
 using benchmark::State;
@@ -30,99 +25,63 @@ using benchmark::State;
 namespace {
 
 constexpr double kLimit = 1.5; ///< times what VTK takes
+constexpr double kMegabytes = 100.0; ///< more than what VTK takes
 
-struct Blocks
+struct Case
 {
-    int count;
-    int side; ///< points of a block in each direction
     const char* name;
+    int count; ///< of blocks; 0 for one zone of hexahedra
+    int side; ///< points of a block, or hexahedra, in each direction
+    bool isDrawn;
 };
 
-constexpr Blocks kCases[] = {{100, 20, "100 blocks"},
-                             {1000, 10, "1,000 blocks"},
-                             {10000, 10, "10,000 blocks"},
-                             {1, 215, "1 block of 10 million points"}};
+constexpr Case kCases[] = {{"100 blocks of 8,000 points", 100, 20, false},
+                           {"1,000 blocks of 1,000 points", 1000, 10, false},
+                           {"10,000 blocks of 1,000 points", 10000, 10, false},
+                           {"1 block of 10 million points", 1, 215, false},
+                           {"4 million hexahedra", 0, 160, false},
+                           {"4 million hexahedra to the first picture", 0, 160, true}};
 
-vtkSmartPointer<vtkFloatArray> numbers(const char* name, int components, vtkIdType tuples)
-{
-    auto array = vtkSmartPointer<vtkFloatArray>::New();
-    array->SetName(name);
-    array->SetNumberOfComponents(components);
-    array->SetNumberOfTuples(tuples);
-    for (vtkIdType i = 0; i < tuples * components; ++i)
-        array->SetValue(i, static_cast<float>(std::sin(0.001 * static_cast<double>(i))));
-    return array;
-}
-
-vtkSmartPointer<vtkStructuredGrid> block(int side, int number)
-{
-    auto grid = vtkSmartPointer<vtkStructuredGrid>::New();
-    grid->SetDimensions(side, side, side);
-    const vtkNew<vtkPoints> points;
-    points->SetNumberOfPoints(vtkIdType(side) * side * side);
-    for (int k = 0; k < side; ++k)
-        for (int j = 0; j < side; ++j)
-            for (int i = 0; i < side; ++i)
-                points->SetPoint((vtkIdType(k) * side + j) * side + i, number * side + i, j, k);
-    grid->SetPoints(points);
-    grid->GetPointData()->AddArray(numbers("pressure", 1, points->GetNumberOfPoints()));
-    grid->GetPointData()->AddArray(numbers("velocity", 3, points->GetNumberOfPoints()));
-    return grid;
-}
-
-QString write(const QDir& folder, const Blocks& blocks)
-{
-    vtkNew<vtkMultiBlockDataSet> tree;
-    for (int i = 0; i < blocks.count; ++i)
-        tree->SetBlock(static_cast<unsigned>(i), block(blocks.side, i));
-    const QString path = folder.filePath(QStringLiteral("%1.vtm").arg(blocks.count));
-    vtkNew<vtkXMLMultiBlockDataWriter> writer;
-    writer->SetInputData(tree);
-    writer->SetFileName(qPrintable(path));
-    writer->Write();
-    return path;
-}
-
-double processorSeconds()
-{
-    double seconds = 0.0;
-    for (const int who : {RUSAGE_SELF, RUSAGE_CHILDREN}) {
-        rusage used {};
-        getrusage(static_cast<decltype(RUSAGE_SELF)>(who), &used);
-        for (const timeval& time : {used.ru_utime, used.ru_stime})
-            seconds += static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec);
-    }
-    return seconds;
-}
-
-void readWithVtk(const QString& file)
-{
-    vtkNew<vtkXMLMultiBlockDataReader> reader;
-    reader->SetFileName(qPrintable(file));
-    reader->Update();
-    benchmark::DoNotOptimize(reader->GetOutput());
-}
+std::map<std::string, double> megabytes; ///< by benchmark
 
 /// Until every zone can be drawn.
-void open(const QString& file)
+bool open(const QString& file)
 {
     corvala::host::io::ReadRequest request;
     request.files = QStringList {file};
     const auto result = corvala::host::io::DataReader::read(request);
-    if (!result.data)
-        std::abort();
-    for (std::int64_t zone = 1; zone <= result.data->zoneCount(); ++zone)
+    for (std::int64_t zone = 1; result.data && zone <= result.data->zoneCount(); ++zone)
         benchmark::DoNotOptimize(result.data->geometry(zone));
+    return result.data != nullptr;
 }
 
-void measure(const std::string& name, const QString& file, void (*step)(const QString&))
+QString write(const QDir& folder, int count, int side)
+{
+    return count > 0 ? writeBlocks(folder, count, side) : writeHexahedra(folder, side);
+}
+
+/// The program that is to be measured runs when a file is opened, that of VTK alone does not.
+bool openInProgram(char* program, const QString& file)
+{
+    int count = 1;
+    char* arguments[] = {program, nullptr};
+    const QCoreApplication application(count, arguments);
+    return open(file);
+}
+
+using Measured = std::function<Cost()>;
+
+void measure(const std::string& name, const Measured& work)
 {
     benchmark::RegisterBenchmark(name.c_str(),
                                  [=](State& state) {
                                      for (auto _ : state) {
-                                         const double start = processorSeconds();
-                                         step(file);
-                                         state.SetIterationTime(processorSeconds() - start);
+                                         const Cost cost = work();
+                                         if (!cost.isOk)
+                                             state.SkipWithError("the process failed");
+                                         state.SetIterationTime(cost.seconds);
+                                         double& known = megabytes[name];
+                                         known = std::max(known, cost.megabytes);
                                      }
                                  })
         ->Unit(benchmark::kMillisecond)
@@ -130,22 +89,67 @@ void measure(const std::string& name, const QString& file, void (*step)(const QS
         ->Iterations(3);
 }
 
+std::vector<Ratio> addBenchmarks(char* program, const QDir& folder)
+{
+    const std::string beside =
+        QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath().toStdString() + '/';
+    std::vector<Ratio> ratios;
+    QString file;
+    int written = -1;
+    for (const Case& each : kCases) {
+        if (each.count != written)
+            costOf([&] { return !write(folder, each.count, each.side).isEmpty(); });
+        written = each.count;
+        file = each.count > 0 ? folder.filePath(QStringLiteral("%1.vtm").arg(each.count))
+                              : folder.filePath(QStringLiteral("%1.vtu").arg(each.side));
+        const std::string path = file.toStdString();
+        const std::string name = each.name;
+        const std::string picture = folder.filePath(QStringLiteral("picture.png")).toStdString();
+        measure(name + ": VTK", [=] {
+            return costOf(std::vector<std::string> {beside + "vtk_alone",
+                                                    each.isDrawn ? "draw" : "read", path});
+        });
+        measure(name, [=] {
+            return each.isDrawn
+                ? costOf(std::vector<std::string> {beside + "corvala", path, "--render", picture,
+                                                   "--size", "800x600"})
+                : costOf([=] { return openInProgram(program, file); });
+        });
+        ratios.push_back({name, name, name + ": VTK", kLimit});
+    }
+    return ratios;
+}
+
+/// False when one is over its limit.
+bool reportMemory(const std::vector<Ratio>& ratios)
+{
+    bool isOk = true;
+    std::printf("\n| what | measured | reference | more | limit |\n|---|---|---|---|---|\n");
+    for (const Ratio& ratio : ratios) {
+        const double more = megabytes[ratio.measured] - megabytes[ratio.reference];
+        const bool isOver = more > kMegabytes;
+        isOk = isOk && !isOver;
+        std::printf("| %s | %.0f MB | %.0f MB | %.0f MB | %.0f MB%s |\n", ratio.what.c_str(),
+                    megabytes[ratio.measured], megabytes[ratio.reference], more, kMegabytes,
+                    isOver ? " **over**" : "");
+    }
+    return isOk;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    const QCoreApplication application(argc, argv);
+    const std::string mode = argc > 1 ? argv[1] : "";
+    if (argc == 3 && mode == "open")
+        return openInProgram(argv[0], QString::fromLocal8Bit(argv[2])) ? 0 : 1;
+    if (argc == 4 && mode == "write")
+        return write(QDir(), std::atoi(argv[2]), std::atoi(argv[3])).isEmpty() ? 1 : 0;
     benchmark::Initialize(&argc, argv);
     const QTemporaryDir folder;
-    std::vector<Ratio> ratios;
-    for (const Blocks& blocks : kCases) {
-        const std::string name = blocks.name;
-        const QString file = write(QDir(folder.path()), blocks);
-        measure(name + ": VTK", file, readWithVtk);
-        measure(name, file, open);
-        ratios.push_back({name, name, name + ": VTK", kLimit});
-    }
+    const std::vector<Ratio> ratios = addBenchmarks(argv[0], QDir(folder.path()));
     RecordingReporter times;
     benchmark::RunSpecifiedBenchmarks(&times);
-    return reportRatios(times, ratios) ? 0 : 1;
+    const bool isQuick = reportRatios(times, ratios);
+    return reportMemory(ratios) && isQuick ? 0 : 1;
 }

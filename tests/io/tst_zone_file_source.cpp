@@ -206,7 +206,6 @@ private Q_SLOTS:
         const QString wanted = text(*withValues(cells(true)));
         auto source = ZoneFileSource::open(std::move(folder));
         const Zone kept = source->zone(1);
-        QCOMPARE(numbersOf(source->zone(1)), numbersOf(kept));
         QVERIFY(source->zone(1) != kept); // threads let go of their own
         const auto copy = vtkSmartPointer<vtkDoubleArray>::New();
         copy->ShallowCopy(numbersOf(kept));
@@ -220,7 +219,13 @@ private Q_SLOTS:
 
     void cacheKeepsWhatWasUsedLast()
     {
-        const auto zone = [] { return withValues(surface()); };
+        const auto zone = [] {
+            const Zone wide = withValues(surface());
+            for (int i = 0; i < ZoneFileSource::kFewArrays; ++i)
+                wide->GetPointData()->AddArray(
+                    numbers<vtkFloatArray>(std::to_string(i).c_str(), 5, 1));
+            return wide;
+        };
         const auto source = ZoneFileSource::open(folderWith({zone(), zone()}), 1);
         const Zone first = source->zone(0);
         QCOMPARE(numbersOf(source->zone(0)), numbersOf(first));
