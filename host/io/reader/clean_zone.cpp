@@ -8,7 +8,6 @@
 #include <vtkCellType.h>
 #include <vtkCellTypes.h>
 #include <vtkDataArray.h>
-#include <vtkFieldData.h>
 #include <vtkGenericCell.h>
 #include <vtkImageData.h>
 #include <vtkInformation.h>
@@ -52,21 +51,19 @@ static void cleanAttributes(vtkDataSetAttributes& source, vtkIdType tuples,
     }
 }
 
-vtkSmartPointer<vtkDataSet> cleanZone(vtkDataSet& zone, QSet<QString>& droppedArrays)
+vtkDataSet& ZoneCleaner::clean(vtkDataSet& zone)
 {
     // Only the plain kinds are handed over: a grid with holes is an image with ghost cells.
-    vtkSmartPointer<vtkDataSet> copy;
-    if (vtkImageData::SafeDownCast(&zone))
-        copy = vtkSmartPointer<vtkImageData>::New();
-    else
-        copy.TakeReference(zone.NewInstance());
+    const bool isImage = vtkImageData::SafeDownCast(&zone) != nullptr;
+    vtkSmartPointer<vtkDataSet>& copy = m_zones[isImage ? VTK_IMAGE_DATA : zone.GetDataObjectType()];
+    if (!copy)
+        copy.TakeReference(isImage ? vtkImageData::New() : zone.NewInstance());
     copy->CopyStructure(&zone);
-    copy->SetFieldData(vtkNew<vtkFieldData>());
     cleanAttributes(*zone.GetPointData(), zone.GetNumberOfPoints(), *copy->GetPointData(),
-                    droppedArrays);
+                    m_droppedArrays);
     cleanAttributes(*zone.GetCellData(), zone.GetNumberOfCells(), *copy->GetCellData(),
-                    droppedArrays);
-    return copy;
+                    m_droppedArrays);
+    return *copy;
 }
 
 static int cellDimension(vtkDataSet& zone)

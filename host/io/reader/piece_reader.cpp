@@ -20,6 +20,7 @@
 #include <vtkCompositeDataSet.h>
 #include <vtkDataArraySelection.h>
 #include <vtkDataSet.h>
+#include <vtkExecutive.h>
 #include <vtkInformation.h>
 #include <vtkMultiBlockDataSet.h>
 #include <vtkXMLGenericDataObjectReader.h>
@@ -158,14 +159,18 @@ vtkSmartPointer<vtkDataObject> PieceReader::readXml(const QString& path,
     return kind.isTree ? readTree(path, progress) : readParallel(path, kind, progress);
 }
 
+static void setFile(vtkXMLReader& reader, const QString& path, const XmlKind& kind)
+{
+    reader.SetFileName(QFile::encodeName(path).constData());
+    reader.SetReadFromInputString(!kind.text.empty());
+    reader.SetInputString(kind.text);
+    reader.Modified(); // also for the same file again
+}
+
 static vtkSmartPointer<vtkXMLReader> xmlReader(const QString& path, const XmlKind& kind)
 {
     auto reader = vtkXMLGenericDataObjectReader::CreateReader(kind.type, kind.isParallel);
-    reader->SetFileName(QFile::encodeName(path).constData());
-    if (!kind.text.empty()) {
-        reader->ReadFromInputStringOn();
-        reader->SetInputString(kind.text);
-    }
+    setFile(*reader, path, kind);
     return reader;
 }
 
@@ -185,13 +190,32 @@ static std::vector<ArrayName> arraysOf(vtkXMLReader& reader)
     return result;
 }
 
+/// By a reader that may have read others of the type: to make one takes as long as a small file.
+vtkSmartPointer<vtkDataObject> PieceReader::readWhole(const QString& path, const XmlKind& kind,
+                                                      const ProgressCall& progress)
+{
+    if (!kind.extent.empty())
+        return updated(path, *xmlReader(path, kind), progress, kind.extent);
+    vtkSmartPointer<vtkXMLReader> reader = std::exchange(m_readers[kind.type], nullptr);
+    if (reader)
+        setFile(*reader, path, kind);
+    else
+        reader = xmlReader(path, kind);
+    auto result = updated(path, *reader, progress);
+    reader->GetExecutive()->SetOutputData(0, nullptr); // the next file shall not change it
+    m_readers[kind.type] = reader; // not one that failed
+    return result;
+}
+
 vtkSmartPointer<vtkDataObject> PieceReader::readSerial(const QString& path, const XmlKind& kind,
                                                        const ProgressCall& progress)
 {
-    const auto all = xmlReader(path, kind);
     try {
-        return updated(path, *all, progress, kind.extent);
+        return readWhole(path, kind, progress);
     } catch (const ReadFailure&) {
+        const auto all = xmlReader(path, kind);
+        all->UpdateInformation();
+        VtkMessages::takeError(); // which the arrays give again
         const std::vector<ArrayName> arrays = arraysOf(*all);
         const auto readArrays = [&](const Parts& chosen) {
             const auto reader = xmlReader(path, kind);

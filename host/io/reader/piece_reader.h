@@ -10,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <map>
 #include <optional>
 
 class vtkXMLReader;
@@ -42,6 +43,8 @@ private:
                                                      const QString& path,
                                                      const ProgressCall& progress);
     vtkSmartPointer<vtkDataObject> readXml(const QString& path, const ProgressCall& progress);
+    vtkSmartPointer<vtkDataObject> readWhole(const QString& path, const XmlKind& kind,
+                                             const ProgressCall& progress);
     vtkSmartPointer<vtkDataObject> readSerial(const QString& path, const XmlKind& kind,
                                               const ProgressCall& progress);
     vtkSmartPointer<vtkDataObject> readParallel(const QString& path, const XmlKind& kind,
@@ -55,6 +58,7 @@ private:
     QString m_mainFile;
     QDir m_folder;
     QStringList m_open; ///< files that name each other
+    std::map<int, vtkSmartPointer<vtkXMLReader>> m_readers; ///< of whole serial files, by type
 };
 
 } // namespace corvala::host::io::reader
