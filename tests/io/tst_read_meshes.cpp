@@ -239,7 +239,9 @@ private Q_SLOTS:
         row("a set of no element", {all, 0, false, 9, "HEX8"}, 0, all, blocks, set);
         row("a set of no element, HDF5", {all, 0, true, 9, "HEX8"}, 0, all, blocks, set);
         row("unknown elements", {all, 0, false, 1, "BLOB"}, 0, all, {100, 200, 300, 101, 201, 301},
-            "a.e: element block 2 was left out: its elements (BLOB) cannot be read.");
+            "a.e: element block 2 was left out: its elements (BLOB of 8 points) cannot be read.");
+        row("unknown points", {all, 0, false, 1, "WEDGE"}, 0, all, {100, 200, 300, 101, 201, 301},
+            "a.e: element block 2 was left out: its elements (WEDGE of 8 points) cannot be read.");
     }
 
     void exodus()

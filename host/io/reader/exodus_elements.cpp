@@ -2,7 +2,6 @@
 #include "host/io/reader/exodus_elements.h"
 
 #include <QFile>
-#include <QStringList>
 
 #include <vtk_exodusII.h>
 
@@ -11,23 +10,38 @@
 
 namespace corvala::host::io::reader {
 
+/// A kind by the start of its name, with the numbers of points that it may have; none for any.
+struct KnownElements
+{
+    const char* start;
+    std::vector<int> points;
+};
+
 static bool isKnown(const QString& kind, int points, int count)
 {
-    static const QStringList starts =
-        QStringLiteral("CIR SPH BAR TRU BEA EDG TRI QUA TET PYR WED HEX NSI NFA SUP")
-            .split(QLatin1Char(' '));
-    constexpr int kShells[] = {3, 4, 8, 9};
+    static const KnownElements known[] = {{"CIR", {1}},         {"SPH", {1}},
+                                          {"BAR", {2, 3}},      {"TRU", {2, 3}},
+                                          {"BEA", {2, 3}},      {"EDG", {2, 3}},
+                                          {"STRAIGHT", {2}},    {"TRI", {3, 6}},
+                                          {"QUA", {4, 8, 9}},   {"SHE", {3, 4, 8}},
+                                          {"TET", {4, 10, 15}}, {"PYR", {5, 13}},
+                                          {"HEX", {8, 20, 27}}, {"WED", {6, 15, 18, 21}},
+                                          {"NSI", {}},          {"NFA", {}},
+                                          {"SUP", {}}};
     const QString name = kind.toUpper();
-    if (name.startsWith(QLatin1String("SHE")))
-        return std::find(std::begin(kShells), std::end(kShells), points) != std::end(kShells);
-    return starts.contains(name.left(3))
-        || (name.startsWith(QLatin1String("STRAIGHT")) && points == 2)
-        || (name.startsWith(QLatin1String("NULL")) && count == 0);
+    const auto* const found =
+        std::find_if(std::begin(known), std::end(known), [&](const KnownElements& elements) {
+            return name.startsWith(QLatin1String(elements.start));
+        });
+    if (found == std::end(known))
+        return name.startsWith(QLatin1String("NULL")) && count == 0;
+    return found->points.empty() || count == 0
+        || std::find(found->points.begin(), found->points.end(), points) != found->points.end();
 }
 
-std::map<int, QString> unknownExodusElements(const QString& path)
+std::map<int, ExodusElements> unknownExodusElements(const QString& path)
 {
-    std::map<int, QString> result;
+    std::map<int, ExodusElements> result;
     int realSize = sizeof(double);
     int storedSize = 0;
     float version = 0.0F;
@@ -47,7 +61,7 @@ std::map<int, QString> unknownExodusElements(const QString& path)
         const int status = ex_get_block(file, EX_ELEM_BLOCK, ids[i], kind, &count, &points,
                                         &others[0], &others[1], &others[2]);
         if (status >= 0 && !isKnown(QString::fromUtf8(kind), points, count))
-            result[static_cast<int>(i)] = QString::fromUtf8(kind);
+            result[static_cast<int>(i)] = {QString::fromUtf8(kind), points};
     }
     ex_close(file);
     return result;

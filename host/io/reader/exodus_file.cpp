@@ -30,7 +30,7 @@ static constexpr vtkExodusIIReader::ObjectType kKinds[] = {
 struct ExodusState
 {
     std::int64_t timeCount = INT64_MAX; ///< that are whole
-    std::map<int, QString> unknown; ///< kinds of elements, by the index of their block
+    std::map<int, ExodusElements> unknown; ///< by the index of their block
     std::vector<ReadMessage> notes;
 };
 
@@ -140,15 +140,18 @@ public:
     }
 
 private:
-    /// VTK leaves a set empty when it names elements or sides that do not exist.
+    /// VTK leaves a set empty when it names elements or sides that do not exist, and without cells
+    /// when it is of elements that cannot be read.
     void noteEmptySets(vtkMultiBlockDataSet& group)
     {
         for (unsigned int i = 0; i < group.GetNumberOfBlocks(); ++i) {
             auto* const set = vtkDataSet::SafeDownCast(group.GetBlock(i));
             const QString name =
                 QString::fromUtf8(group.GetMetaData(i)->Get(vtkCompositeDataSet::NAME()));
-            if (set && set->GetNumberOfPoints() == 0 && hasEntries(name)
-                && m_emptySets.insert(name).second)
+            if (!set || set->GetNumberOfCells() > 0 || !hasEntries(name))
+                continue;
+            group.SetBlock(i, nullptr);
+            if (m_emptySets.insert(name).second)
                 m_notes.emplace_back(
                     QT_TRANSLATE_NOOP(
                         "ReadMessage",
@@ -182,22 +185,28 @@ private:
     std::set<QString> m_emptySets; ///< that were noted
 };
 
-/// Blocks of other elements can be read. Throws ReadFailure for any error but that of unknown ones.
-static void noteUnknownElements(const QString& path, ExodusState& state)
+/// Blocks of other elements can be read. Throws ReadFailure when there are none, and for any error
+/// but that of unknown elements.
+static void noteUnknownElements(const QString& path, int blockCount, ExodusState& state)
 {
     const ReadMessage error = VtkMessages::takeError();
-    if (error.isEmpty())
-        return;
     state.unknown = unknownExodusElements(path);
-    if (state.unknown.empty())
+    if (state.unknown.empty() && !error.isEmpty())
         throw ReadFailure(path, error);
-    for (const auto& [block, kind] : state.unknown)
+    for (const auto& [block, elements] : state.unknown) {
+        const QString points = QString::number(elements.points);
+        if (static_cast<int>(state.unknown.size()) == blockCount)
+            throw ReadFailure(
+                path,
+                QT_TRANSLATE_NOOP("ReadMessage", "its elements (%1 of %2 points) cannot be read"),
+                {elements.kind, points});
         state.notes.emplace_back(
-            QT_TRANSLATE_NOOP(
-                "ReadMessage",
-                "%1: element block %2 was left out: its elements (%3) cannot be read."),
+            QT_TRANSLATE_NOOP("ReadMessage",
+                              "%1: element block %2 was left out: its elements (%3 of %4 points) "
+                              "cannot be read."),
             std::initializer_list<QString> {QFileInfo(path).fileName(), QString::number(block + 1),
-                                            kind});
+                                            elements.kind, points});
+    }
 }
 
 static std::unique_ptr<DataFile> openOne(const QString& path)
@@ -207,7 +216,7 @@ static std::unique_ptr<DataFile> openOne(const QString& path)
     reader->SetFileName(QFile::encodeName(path).constData());
     reader->ApplyDisplacementsOff();
     reader->UpdateInformation();
-    noteUnknownElements(path, state);
+    noteUnknownElements(path, reader->GetNumberOfObjects(vtkExodusIIReader::ELEM_BLOCK), state);
     for (const auto kind : kKinds) {
         for (int i = 0; i < reader->GetNumberOfObjects(kind); ++i)
             reader->SetObjectStatus(kind, i, isUnknown(state, kind, i) ? 0 : 1);
