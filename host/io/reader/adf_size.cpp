@@ -37,7 +37,7 @@ static qint64 endOf(const QByteArray& start)
     return blocks * kBlockSize + number(offset, quint32());
 }
 
-/// The last block is filled up.
+/// The last block may be filled up, wholly or in part.
 void requireWholeAdf(const QString& path)
 {
     const QByteArray start = firstBytes(path, kEndPlace + kBlockBytes + kOffsetBytes);
@@ -48,14 +48,13 @@ void requireWholeAdf(const QString& path)
     const qint64 end = endOf(start);
     const qint64 whole = (end / kBlockSize + 1) * kBlockSize;
     const qint64 actual = QFileInfo(path).size();
-    const bool endsThere = actual == end || actual == end + 1;
     if (actual > whole)
         throw ReadFailure(path,
                           QT_TRANSLATE_NOOP("ReadMessage", "it is longer than its header says"));
-    if (actual < whole && !endsThere)
+    if (actual < end)
         throw ReadFailure(
             path, QT_TRANSLATE_NOOP("ReadMessage", "it is cut off: %1 of %2 bytes are there"),
-            {QString::number(actual), QString::number(whole)});
+            {QString::number(actual), QString::number(end)});
 }
 
 } // namespace corvala::host::io::reader
