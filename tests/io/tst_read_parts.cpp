@@ -167,7 +167,7 @@ private Q_SLOTS:
         row("PLY of an unknown ending", "a.1",
             "ply\nformat ascii 1.0\nelement vertex 3\nproperty float x\nproperty float y\n"
             "property float z\nelement face 1\nproperty list uchar int vertex_indices\n"
-            "end_header\n0 0 0\n1 0 0\n0 1 0\n3 0 1 2\n",
+            "end_header\n0 0 0\n1 0 0\n0 1 0\n3 0 1 2",
             "a", {});
         row("OBJ", "a.obj", "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n", "a", {});
         row("surface in a series", "a.stl.series",

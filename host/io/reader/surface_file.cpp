@@ -48,10 +48,23 @@ static void requireWholeStl(const MappedFile& file)
 }
 
 template<class Reader>
-static vtkSmartPointer<vtkAlgorithm> reading(const QString& path)
+static vtkSmartPointer<Reader> reading(const QString& path)
 {
     auto reader = vtkSmartPointer<Reader>::New();
     reader->SetFileName(QFile::encodeName(path).constData());
+    return reader;
+}
+
+/// VTK crashes at a last line of text without an end.
+static vtkSmartPointer<vtkAlgorithm> plyReader(const MappedFile& file)
+{
+    auto reader = reading<vtkPLYReader>(file.path());
+    const std::string_view bytes = file.bytes();
+    const bool isText = bytes.find("format ascii") < bytes.find("end_header");
+    if (isText && bytes.back() != '\n') {
+        reader->SetReadFromInputString(true);
+        reader->SetInputString(std::string(bytes) + '\n');
+    }
     return reader;
 }
 
@@ -60,7 +73,7 @@ vtkSmartPointer<vtkAlgorithm> surfaceReader(const QString& path)
     const MappedFile file(path);
     if (file.bytes().substr(0, 3) == "ply") {
         requireWholePly(file);
-        return reading<vtkPLYReader>(path);
+        return plyReader(file);
     }
     if (QFileInfo(path).suffix().toLower() == QLatin1String("obj"))
         return reading<vtkOBJReader>(path);
