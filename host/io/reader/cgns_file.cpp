@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/adf_size.h"
+#include "host/io/reader/cgns_coordinates.h"
 #include "host/io/reader/cgns_solutions.h"
 #include "host/io/reader/cgns_tree.h"
 #include "host/io/reader/formats.h"
@@ -63,6 +64,7 @@ std::unique_ptr<DataFile> openCgns(const QString& path, const QDir& helper)
 {
     requireWholeHdf5(path);
     requireWholeAdf(path);
+    requireCgnsCoordinates(path);
     const CgnsSolutions sound = withSoundSolutions(path, helper);
     auto reader = vtkSmartPointer<vtkCGNSReader>::New();
     reader->SetFileName(QFile::encodeName(sound.path).constData());
