@@ -4,7 +4,9 @@
 #include "host/io/reader/selective_file.h"
 #include "host/io/reader/vtk_messages.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <vtkDummyController.h>
 #include <vtkNew.h>
@@ -36,6 +38,26 @@ static std::vector<FilePart> partsOf(vtkPOpenFOAMReader* reader)
     return parts;
 }
 
+/// VTK only says that there is no mesh. Throws ReadFailure with what of it is not there.
+static void requireMesh(const QString& path)
+{
+    QDir folder = QFileInfo(path).dir();
+    if (folder.dirName() == QLatin1String("system"))
+        folder.cdUp();
+    const QDir mesh(folder.filePath(QStringLiteral("constant/polyMesh")));
+    QStringList missing;
+    for (const char* const name : {"points", "faces", "owner", "boundary"}) {
+        const QString file = QString::fromLatin1(name);
+        if (mesh.exists() && !mesh.exists(file) && !mesh.exists(file + QStringLiteral(".gz")))
+            missing << file;
+    }
+    if (!missing.isEmpty())
+        throw ReadFailure(
+            path,
+            QT_TRANSLATE_NOOP("ReadMessage", "its mesh is not whole: constant/polyMesh lacks %1"),
+            {missing.join(QStringLiteral(", "))});
+}
+
 /// Forgets the error of processors that were left out. Throws ReadFailure for any other.
 static void requireKnownError(const QString& path, const QStringList& withoutMesh)
 {
@@ -45,8 +67,10 @@ static void requireKnownError(const QString& path, const QStringList& withoutMes
         std::any_of(withoutMesh.begin(), withoutMesh.end(), [&](const QString& folder) {
             return text.contains(folder + QLatin1Char('/')) || text.contains(path);
         });
-    if (!error.isEmpty() && !isKnown)
-        throw ReadFailure(path, error);
+    if (error.isEmpty() || isKnown)
+        return;
+    requireMesh(path);
+    throw ReadFailure(path, error);
 }
 
 std::unique_ptr<DataFile> openFoam(const QString& path)
