@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/cgns_solutions.h"
 
+#include "host/io/reader/cgns_sections.h"
 #include "host/io/reader/cgns_tree.h"
 #include "host/io/reader/read_failure.h"
 
@@ -23,6 +24,7 @@ using Names = std::vector<std::string>;
 struct ZoneSolutions
 {
     CgnsTree::Node zone;
+    std::map<std::string, int> cellNumbers; ///< new ones, see cellNumbers(); empty for none
     std::map<std::string, Names> solutions; ///< by the place of their values
     std::vector<Names> pointers; ///< one list or more, each with a name per time
     bool hasMainPointers = false; ///< without which VTK looks at none
@@ -118,6 +120,22 @@ static void orderSolutions(ZoneSolutions& zone, std::size_t times)
     zone.pointers = pointers;
 }
 
+/// For a zone that has pointers: solutions at a place of values of which none names any.
+static void orderUnnamed(ZoneSolutions& zone, std::size_t times)
+{
+    const std::vector<Names> pointers = zone.pointers;
+    for (const auto& [place, solutions] : zone.solutions) {
+        const bool isNamed = std::any_of(pointers.begin(), pointers.end(), [&](const Names& list) {
+            return std::find_first_of(list.begin(), list.end(), solutions.begin(), solutions.end())
+                != list.end();
+        });
+        if (isNamed || solutions.size() != times)
+            continue;
+        zone.pointers.push_back(inOrder(solutions));
+        zone.state = ZoneSolutions::Ordered;
+    }
+}
+
 /// Makes the pointers name solutions only, or nothing.
 static void mend(ZoneSolutions& zone, std::size_t times, CgnsSolutions& result)
 {
@@ -139,9 +157,10 @@ static void mend(ZoneSolutions& zone, std::size_t times, CgnsSolutions& result)
     }
     if (found == 0 && (lost > 0 || zone.pointers.empty()) && !zone.solutions.empty())
         return orderSolutions(zone, times);
+    orderUnnamed(zone, times);
     if (lost == 0)
         return;
-    zone.state = ZoneSolutions::Mended;
+    zone.state = std::max(zone.state, ZoneSolutions::Mended);
     for (Names& list : zone.pointers)
         for (std::string& name : list) {
             if (!names(name) || has(zone, name))
@@ -164,9 +183,12 @@ static std::vector<BaseSolutions> basesOf(const CgnsTree& file)
         for (const CgnsTree::Node& times : file.children(base.id, "BaseIterativeData_t"))
             for (const int count : file.integers(times.id))
                 result.back().times = static_cast<std::size_t>(std::clamp(count, 0, 1 << 24));
-        if (result.back().times > 1)
-            for (const CgnsTree::Node& zone : file.children(base.id, "Zone_t"))
-                result.back().zones.push_back(solutionsOf(file, zone));
+        const std::vector<int> dimensions = file.integers(base.id);
+        for (const CgnsTree::Node& zone : file.children(base.id, "Zone_t")) {
+            result.back().zones.push_back(solutionsOf(file, zone));
+            result.back().zones.back().cellNumbers =
+                cellNumbers(file, zone, dimensions.empty() ? 0 : dimensions.front());
+        }
     }
     return result;
 }
@@ -174,6 +196,8 @@ static std::vector<BaseSolutions> basesOf(const CgnsTree& file)
 /// Whether VTK looks at pointers at all, the first zone decides.
 static void mend(BaseSolutions& base, CgnsSolutions& result)
 {
+    if (base.times < 2)
+        return;
     for (ZoneSolutions& zone : base.zones)
         mend(zone, base.times, result);
     const bool arePointers = std::any_of(base.zones.begin(), base.zones.end(), [](auto& zone) {
@@ -222,11 +246,32 @@ private:
         for (const CgnsTree::Node& child : m_from.children(zone.zone.id)) {
             if (child.label == "ZoneIterativeData_t")
                 times = child;
+            else if (child.label == "Elements_t" && !zone.cellNumbers.empty())
+                writeCells(zone, child, node, path);
             else
                 m_to.link(node, child.name, m_fromPath, path + '/' + child.name);
         }
         if (m_hasTimes)
             writeTimes(zone, times, node, path);
+    }
+
+    /// Under their new numbers; other sections are left out.
+    void writeCells(const ZoneSolutions& zone, const CgnsTree::Node& section, double parent,
+                    const std::string& zonePath)
+    {
+        const auto first = zone.cellNumbers.find(section.name);
+        if (first == zone.cellNumbers.end())
+            return;
+        const double node = m_to.copy(parent, m_from, section);
+        for (const CgnsTree::Node& child : m_from.children(section.id)) {
+            const std::vector<int> range = m_from.integers(child.id);
+            if (child.name == "ElementRange")
+                m_to.add(node, child.name,
+                         std::array<int, 2> {first->second, first->second + range[1] - range[0]});
+            else if (child.label == "DataArray_t")
+                m_to.link(node, child.name, m_fromPath,
+                          zonePath + '/' + section.name + '/' + child.name);
+        }
     }
 
     void writeTimes(const ZoneSolutions& zone, const CgnsTree::Node& times, double parent,
@@ -253,14 +298,19 @@ private:
     bool m_hasTimes;
 };
 
-/// Whether any zone of any base is in this state.
+/// Whether any zone of any base is like this.
+template<class IsLike>
+static bool isAnyLike(const std::vector<BaseSolutions>& bases, const IsLike& isLike)
+{
+    return std::any_of(bases.begin(), bases.end(), [&](const BaseSolutions& base) {
+        return std::any_of(base.zones.begin(), base.zones.end(), isLike);
+    });
+}
+
 template<class State>
 static bool isAny(const std::vector<BaseSolutions>& bases, State state)
 {
-    return std::any_of(bases.begin(), bases.end(), [&](const BaseSolutions& base) {
-        return std::any_of(base.zones.begin(), base.zones.end(),
-                           [&](const ZoneSolutions& zone) { return zone.state == state; });
-    });
+    return isAnyLike(bases, [&](const ZoneSolutions& zone) { return zone.state == state; });
 }
 
 CgnsSolutions withSoundSolutions(const QString& path, const QDir& helper)
@@ -274,7 +324,9 @@ CgnsSolutions withSoundSolutions(const QString& path, const QDir& helper)
         mend(base, result);
     const bool isUnclear = isAny(bases, ZoneSolutions::Unclear);
     const bool isOrdered = isAny(bases, ZoneSolutions::Ordered);
-    if (!isUnclear && !isOrdered && !isAny(bases, ZoneSolutions::Mended))
+    const bool areNumbered =
+        isAnyLike(bases, [](const ZoneSolutions& zone) { return !zone.cellNumbers.empty(); });
+    if (!isUnclear && !isOrdered && !areNumbered && !isAny(bases, ZoneSolutions::Mended))
         return result;
     const QString links = helper.filePath(QStringLiteral("solutions.cgns"));
     CgnsTree copy(links, file);

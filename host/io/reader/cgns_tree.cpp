@@ -156,6 +156,16 @@ void CgnsTree::link(double parent, const std::string& name, const QString& file,
             == CGIO_ERR_NONE;
 }
 
+void CgnsTree::add(double parent, const std::string& name, const std::array<int, 2>& range)
+{
+    const cgsize_t size = 2;
+    double id = 0.0;
+    m_isSound = m_isSound
+        && cgio_new_node(m_file, parent, name.c_str(), "IndexRange_t", "I4", 1, &size, range.data(),
+                         &id)
+            == CGIO_ERR_NONE;
+}
+
 void CgnsTree::add(double parent, const std::string& name, const std::vector<std::string>& names)
 {
     std::string all;

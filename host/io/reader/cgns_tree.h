@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -45,6 +46,8 @@ public:
     double add(double parent, const std::string& name, const std::string& label);
     /// Adds a node that stands for the one in another file.
     void link(double parent, const std::string& name, const QString& file, const std::string& path);
+    /// Adds a range of indices.
+    void add(double parent, const std::string& name, const std::array<int, 2>& range);
     /// Adds a node of texts of 32 characters.
     void add(double parent, const std::string& name, const std::vector<std::string>& names);
     /// True while everything that was to be written could be.
