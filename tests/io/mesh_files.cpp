@@ -23,12 +23,9 @@ static void writePointers(int file, int zone, const QStringList& names)
     cg_array_write("FlowSolutionPointers", CGNS_ENUMV(Character), 2, sizes, text.constData());
 }
 
-static void writeZone(int file, int zone, const QStringList& solutions)
+static void writeCoordinates(int file, int zone)
 {
     int number = 0;
-    const QByteArray name = "Z" + QByteArray::number(zone);
-    const cgsize_t sizes[] = {2, 2, 2, 1, 1, 1, 0, 0, 0};
-    cg_zone_write(file, 1, name.constData(), sizes, CGNS_ENUMV(Structured), &zone);
     const char* const axes[] = {"CoordinateX", "CoordinateY", "CoordinateZ"};
     double values[kPoints];
     for (int axis = 0; axis < 3; ++axis) {
@@ -36,6 +33,16 @@ static void writeZone(int file, int zone, const QStringList& solutions)
             values[i] = (i >> axis) & 1;
         cg_coord_write(file, 1, zone, CGNS_ENUMV(RealDouble), axes[axis], values, &number);
     }
+}
+
+static void writeZone(int file, int zone, const QStringList& solutions)
+{
+    int number = 0;
+    const QByteArray name = "Z" + QByteArray::number(zone);
+    const cgsize_t sizes[] = {2, 2, 2, 1, 1, 1, 0, 0, 0};
+    cg_zone_write(file, 1, name.constData(), sizes, CGNS_ENUMV(Structured), &zone);
+    writeCoordinates(file, zone);
+    double values[kPoints];
     for (int solution = 1; solution <= solutions.size(); ++solution) {
         for (int i = 0; i < kPoints; ++i)
             values[i] = 100 * solution + i;
@@ -47,7 +54,7 @@ static void writeZone(int file, int zone, const QStringList& solutions)
     }
 }
 
-void writeCgns(const QString& path, const CgnsForm& form, bool isHdf5)
+static int startCgns(const QString& path, bool isHdf5)
 {
     const double times[] = {0.5, 1.5, 2.5};
     const cgsize_t count = 3;
@@ -59,11 +66,41 @@ void writeCgns(const QString& path, const CgnsForm& form, bool isHdf5)
     cg_biter_write(file, base, "BaseIterativeData", 3);
     cg_goto(file, base, "BaseIterativeData_t", 1, "end");
     cg_array_write("TimeValues", CGNS_ENUMV(RealDouble), 1, &count, times);
+    return file;
+}
+
+void writeCgns(const QString& path, const CgnsForm& form, bool isHdf5)
+{
+    const int file = startCgns(path, isHdf5);
     for (int zone = 1; zone <= 2; ++zone) {
         writeZone(file, zone, form.solutions);
         if (!form.pointers.isEmpty() && (zone == 2 || form.isFirstNamed))
             writePointers(file, zone, form.pointers);
     }
+    cg_close(file);
+}
+
+void writeCgnsCells(const QString& path)
+{
+    const int file = startCgns(path, true);
+    int zone = 0;
+    int number = 0;
+    const cgsize_t sizes[] = {kPoints, 1, 0};
+    cg_zone_write(file, 1, "Z", sizes, CGNS_ENUMV(Unstructured), &zone);
+    writeCoordinates(file, zone);
+    const cgsize_t edges[] = {1, 2, 3, 4};
+    cg_section_write(file, 1, zone, "edges", CGNS_ENUMV(BAR_2), 1, 2, 0, edges, &number);
+    const cgsize_t cube[] = {1, 2, 4, 3, 5, 6, 8, 7};
+    cg_section_write(file, 1, zone, "cells", CGNS_ENUMV(HEXA_8), 3, 3, 0, cube, &number);
+    for (int time = 1; time <= 3; ++time) {
+        const std::vector<double> values(kPoints, 100 * time);
+        const QByteArray end = QByteArray::number(time);
+        cg_sol_write(file, 1, zone, "P" + end, CGNS_ENUMV(Vertex), &number);
+        cg_field_write(file, 1, zone, number, CGNS_ENUMV(RealDouble), "p", values.data(), &number);
+        cg_sol_write(file, 1, zone, "C" + end, CGNS_ENUMV(CellCenter), &number);
+        cg_field_write(file, 1, zone, number, CGNS_ENUMV(RealDouble), "c", values.data(), &number);
+    }
+    writePointers(file, zone, {"P1", "P2", "P3"});
     cg_close(file);
 }
 

@@ -20,6 +20,10 @@ struct CgnsForm
 /// point, at the times 0.5, 1.5 and 2.5; the last zone has the same as q.
 void writeCgns(const QString& path, const CgnsForm& form, bool isHdf5);
 
+/// A cube whose number follows those of two edges, at three times with p at points and c at cells,
+/// 100 times the number of the time; pointers name the solutions at points only.
+void writeCgnsCells(const QString& path);
+
 /// An Exodus file of format netCDF 3 or HDF5.
 struct ExodusForm
 {

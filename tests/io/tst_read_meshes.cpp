@@ -74,6 +74,16 @@ private Q_SLOTS:
         }
     }
 
+    void cellsOfCgns()
+    {
+        writeCgnsCells(m_folder->path("a.cgns"));
+        const ReadResult result = read({m_folder->path("a.cgns")});
+        for (const char* const variable : {"p", "c"})
+            verify(result, {0.5, 1.5, 2.5}, {100, 200, 300}, "they were taken in their order",
+                   variable);
+        QCOMPARE(result.data->zone(1).cellCount, std::int64_t(1));
+    }
+
     void damagedFiles_data()
     {
         const Rows<QString> row;
@@ -240,8 +250,8 @@ private Q_SLOTS:
         row("a set of no element, HDF5", {all, 0, true, 9, "HEX8"}, 0, all, blocks, set);
         row("unknown elements", {all, 0, false, 1, "BLOB"}, 0, all, {100, 200, 300, 101, 201, 301},
             "a.e: element block 2 was left out: its elements (BLOB of 8 points) cannot be read.");
-        row("unknown points", {all, 0, false, 1, "WEDGE"}, 0, all, {100, 200, 300, 101, 201, 301},
-            "a.e: element block 2 was left out: its elements (WEDGE of 8 points) cannot be read.");
+        row("unknown points", {all, 0, false, 1, "TETRA"}, 0, all, {100, 200, 300, 101, 201, 301},
+            "a.e: element block 2 was left out: its elements (TETRA of 8 points) cannot be read.");
     }
 
     void exodus()

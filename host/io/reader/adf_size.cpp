@@ -37,7 +37,7 @@ static qint64 endOf(const QByteArray& start)
     return blocks * kBlockSize + number(offset, quint32());
 }
 
-/// The last block may be filled up, wholly or in part.
+/// The last block is filled up, or ends with what it holds, which may have one byte behind it.
 void requireWholeAdf(const QString& path)
 {
     const QByteArray start = firstBytes(path, kEndPlace + kBlockBytes + kOffsetBytes);
@@ -48,13 +48,14 @@ void requireWholeAdf(const QString& path)
     const qint64 end = endOf(start);
     const qint64 whole = (end / kBlockSize + 1) * kBlockSize;
     const qint64 actual = QFileInfo(path).size();
+    const bool endsThere = actual >= end && actual <= end + 2;
     if (actual > whole)
         throw ReadFailure(path,
                           QT_TRANSLATE_NOOP("ReadMessage", "it is longer than its header says"));
-    if (actual < end)
+    if (actual < whole && !endsThere)
         throw ReadFailure(
             path, QT_TRANSLATE_NOOP("ReadMessage", "it is cut off: %1 of %2 bytes are there"),
-            {QString::number(actual), QString::number(end)});
+            {QString::number(actual), QString::number(whole)});
 }
 
 } // namespace corvala::host::io::reader

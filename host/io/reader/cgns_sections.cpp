@@ -9,7 +9,7 @@ struct CgnsSection
 {
     std::string name;
     int dimension = 0;
-    std::vector<int> range; ///< first and last element
+    std::vector<std::int64_t> range; ///< first and last element
 };
 
 /// Of the elements with this number in CGNS; -1 for those of several kinds, faces of polyhedra, and
@@ -30,7 +30,7 @@ static std::vector<CgnsSection> sectionsOf(const CgnsTree& file, const CgnsTree:
         CgnsSection section {node.name, kind.empty() ? -1 : dimensionOf(kind.front()), {}};
         for (const CgnsTree::Node& range : file.children(node.id, "IndexRange_t"))
             if (range.name == "ElementRange")
-                section.range = file.integers(range.id);
+                section.range = file.numbers(range.id);
         result.push_back(section);
     }
     std::stable_sort(result.begin(), result.end(),
@@ -38,10 +38,10 @@ static std::vector<CgnsSection> sectionsOf(const CgnsTree& file, const CgnsTree:
     return result;
 }
 
-std::map<std::string, int> cellNumbers(const CgnsTree& file, const CgnsTree::Node& zone,
-                                       int cellDimension)
+std::map<std::string, std::int64_t> cellNumbers(const CgnsTree& file, const CgnsTree::Node& zone,
+                                                int cellDimension)
 {
-    std::map<std::string, int> result;
+    std::map<std::string, std::int64_t> result;
     const std::vector<CgnsSection> sections = sectionsOf(file, zone);
     const bool areKnown = std::all_of(sections.begin(), sections.end(), [&](const auto& section) {
         return section.range.size() == 2 && section.range[0] > 0
@@ -51,7 +51,7 @@ std::map<std::string, int> cellNumbers(const CgnsTree& file, const CgnsTree::Nod
     const auto isCell = [&](const auto& section) { return section.dimension == cellDimension; };
     if (!areKnown || std::is_partitioned(sections.begin(), sections.end(), isCell))
         return result;
-    int next = 1;
+    std::int64_t next = 1;
     for (const CgnsSection& section : sections)
         if (isCell(section)) {
             result[section.name] = next;

@@ -12,7 +12,7 @@ namespace corvala::host::io::reader {
 /// names. VTK takes the elements with the first numbers for the cells, which some programs give to
 /// edges and faces. Empty where the cells come first already, and for sections of mixed elements
 /// and of polyhedra.
-std::map<std::string, int> cellNumbers(const CgnsTree& file, const CgnsTree::Node& zone,
-                                       int cellDimension);
+std::map<std::string, std::int64_t> cellNumbers(const CgnsTree& file, const CgnsTree::Node& zone,
+                                                int cellDimension);
 
 } // namespace corvala::host::io::reader

@@ -24,7 +24,8 @@ using Names = std::vector<std::string>;
 struct ZoneSolutions
 {
     CgnsTree::Node zone;
-    std::map<std::string, int> cellNumbers; ///< new ones, see cellNumbers(); empty for none
+    std::map<std::string, std::int64_t>
+        cellNumbers; ///< new ones, see cellNumbers(); empty for none
     std::map<std::string, Names> solutions; ///< by the place of their values
     std::vector<Names> pointers; ///< one list or more, each with a name per time
     bool hasMainPointers = false; ///< without which VTK looks at none
@@ -264,11 +265,12 @@ private:
             return;
         const double node = m_to.copy(parent, m_from, section);
         for (const CgnsTree::Node& child : m_from.children(section.id)) {
-            const std::vector<int> range = m_from.integers(child.id);
-            if (child.name == "ElementRange")
+            if (child.name == "ElementRange") {
+                const std::vector<std::int64_t> range = m_from.numbers(child.id);
                 m_to.add(node, child.name,
-                         std::array<int, 2> {first->second, first->second + range[1] - range[0]});
-            else if (child.label == "DataArray_t")
+                         std::array<std::int64_t, 2> {first->second,
+                                                      first->second + range[1] - range[0]});
+            } else if (child.label == "DataArray_t")
                 m_to.link(node, child.name, m_fromPath,
                           zonePath + '/' + section.name + '/' + child.name);
         }

@@ -113,18 +113,30 @@ std::vector<std::string> CgnsTree::names(double node) const
     return result;
 }
 
+/// Of a node that is made of values of this type; else nothing.
+template<class T>
+std::vector<T> CgnsTree::values(double node, const char* type) const
+{
+    char stored[kNameLength + 1] = {};
+    if (cgio_get_data_type(m_file, node, stored) != CGIO_ERR_NONE || std::strcmp(stored, type) != 0)
+        return {};
+    std::vector<T> result(size(node));
+    if (cgio_read_all_data_type(m_file, node, type, result.data()) != CGIO_ERR_NONE)
+        return {};
+    return result;
+}
+
 std::vector<int> CgnsTree::integers(double node) const
 {
     constexpr std::size_t kMost = 16;
-    char type[kNameLength + 1] = {};
-    const std::size_t count = size(node);
-    if (cgio_get_data_type(m_file, node, type) != CGIO_ERR_NONE || std::strcmp(type, "I4") != 0
-        || count > kMost)
-        return {};
-    std::vector<int> result(count);
-    if (cgio_read_all_data_type(m_file, node, "I4", result.data()) != CGIO_ERR_NONE)
-        return {};
-    return result;
+    return size(node) > kMost ? std::vector<int>() : values<int>(node, "I4");
+}
+
+std::vector<std::int64_t> CgnsTree::numbers(double node) const
+{
+    const std::vector<std::int32_t> narrow = values<std::int32_t>(node, "I4");
+    return narrow.empty() ? values<std::int64_t>(node, "I8")
+                          : std::vector<std::int64_t>(narrow.begin(), narrow.end());
 }
 
 double CgnsTree::copy(double parent, const CgnsTree& from, const Node& node)
@@ -156,12 +168,12 @@ void CgnsTree::link(double parent, const std::string& name, const QString& file,
             == CGIO_ERR_NONE;
 }
 
-void CgnsTree::add(double parent, const std::string& name, const std::array<int, 2>& range)
+void CgnsTree::add(double parent, const std::string& name, const std::array<std::int64_t, 2>& range)
 {
     const cgsize_t size = 2;
     double id = 0.0;
     m_isSound = m_isSound
-        && cgio_new_node(m_file, parent, name.c_str(), "IndexRange_t", "I4", 1, &size, range.data(),
+        && cgio_new_node(m_file, parent, name.c_str(), "IndexRange_t", "I8", 1, &size, range.data(),
                          &id)
             == CGIO_ERR_NONE;
 }

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -39,6 +40,8 @@ public:
     std::size_t size(double node) const;
     /// The integers of a node.
     std::vector<int> integers(double node) const;
+    /// All of them, of 4 or 8 bytes each.
+    std::vector<std::int64_t> numbers(double node) const;
 
     /// Adds a node with the kind and values of another one, but without its children.
     double copy(double parent, const CgnsTree& from, const Node& node);
@@ -47,7 +50,7 @@ public:
     /// Adds a node that stands for the one in another file.
     void link(double parent, const std::string& name, const QString& file, const std::string& path);
     /// Adds a range of indices.
-    void add(double parent, const std::string& name, const std::array<int, 2>& range);
+    void add(double parent, const std::string& name, const std::array<std::int64_t, 2>& range);
     /// Adds a node of texts of 32 characters.
     void add(double parent, const std::string& name, const std::vector<std::string>& names);
     /// True while everything that was to be written could be.
@@ -56,6 +59,8 @@ public:
 private:
     void open(const QString& path, int mode, int type);
     std::string bytes(double node) const;
+    template<class T>
+    std::vector<T> values(double node, const char* type) const;
 
     int m_file = 0;
     double m_root = 0.0;
