@@ -171,6 +171,12 @@ private Q_SLOTS:
                 eachTime(folder, [](QDir time) { time.remove("p"); });
             },
             2, {}, {});
+        row(
+            "a copy of a field",
+            [](const QDir& folder) {
+                QFile::copy(folder.filePath("2.5/p"), folder.filePath("2.5/p.orig"));
+            },
+            1, {}, "2.5/p, 2.5/p.orig: all of them say that they are p; one is shown.");
         row("all in the case", [=](auto&) { split(two); }, 1, {}, {});
         row(
             "one processor is behind",

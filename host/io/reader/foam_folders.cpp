@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/foam_folders.h"
 
+#include "host/io/reader/file_format.h"
 #include "host/io/reader/read_failure.h"
 
 #include <QDir>
@@ -146,6 +147,36 @@ static void noteElsewhere(const QStringList& names, const QString& folder, FoamF
             std::initializer_list<QString> {name, folder});
 }
 
+/// What the header of a field says that it is; empty for packed files.
+static QString objectIn(const QString& path)
+{
+    static const QRegularExpression object(QStringLiteral("\\bobject\\s+([^\\s;]+)\\s*;"));
+    constexpr int kLongestHeader = 2048;
+    return object.match(QString::fromLatin1(firstBytes(path, kLongestHeader))).captured(1);
+}
+
+/// VTK names fields by what they say that they are, so that the last of several takes the place of
+/// the others, such as U.orig that of U.
+static void noteCopies(const QString& folder, FoamFolders& result)
+{
+    for (const auto& [time, fields] : resultsIn(folder)) {
+        std::map<QString, QStringList> files;
+        for (const QString& field : fields) {
+            const QString path = time + QLatin1Char('/') + field;
+            const QString object = objectIn(QDir(folder).filePath(path));
+            if (!object.isEmpty() && !isOfCloud(field))
+                files[QFileInfo(path).path() + QLatin1Char('/') + object] << path;
+        }
+        for (const auto& [object, paths] : files)
+            if (paths.size() > 1)
+                result.notes.emplace_back(
+                    QT_TRANSLATE_NOOP("ReadMessage",
+                                      "%1: all of them say that they are %2; one is shown."),
+                    std::initializer_list<QString> {paths.join(QStringLiteral(", ")),
+                                                    QFileInfo(object).fileName()});
+    }
+}
+
 /// Fields of the first time may be those that the run began with; later ones go on.
 static void noteMissing(const QString& folder, FoamFolders& result)
 {
@@ -189,10 +220,12 @@ FoamFolders foamFoldersOf(const QString& path)
             noteGaps(withMesh(processors, result), result);
             noteElsewhere(lacking(own, first), QStringLiteral("the case folder"), result);
             noteMissing(processors.first(), result);
+            noteCopies(processors.first(), result);
             return result;
         }
     }
     noteMissing(folder.path(), result);
+    noteCopies(folder.path(), result);
     if (collated.isEmpty())
         return result;
     const QString name = QDir(collated.first()).dirName();
