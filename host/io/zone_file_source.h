@@ -13,10 +13,10 @@
 
 namespace corvala::host::io {
 
-/// Zones that lie in a folder, which goes with this object. A zone is made whenever it is asked for,
-/// of arrays that show the numbers where they lie, which takes as long as a copy of one that is
-/// known. Of many arrays it takes longer: such zones are kept, those used last. May be called from
-/// any thread.
+/// Zones that lie in a folder, which goes with this object. A zone is made whenever it is asked
+/// for, of arrays that show the numbers where they lie, which takes as long as a copy of one that
+/// is known. Of many arrays it takes longer: such zones are kept, those used last. May be called
+/// from any thread.
 class ZoneFileSource : public ZoneSource
 {
 public:

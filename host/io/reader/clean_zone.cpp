@@ -55,7 +55,8 @@ vtkDataSet& ZoneCleaner::clean(vtkDataSet& zone)
 {
     // Only the plain kinds are handed over: a grid with holes is an image with ghost cells.
     const bool isImage = vtkImageData::SafeDownCast(&zone) != nullptr;
-    vtkSmartPointer<vtkDataSet>& copy = m_zones[isImage ? VTK_IMAGE_DATA : zone.GetDataObjectType()];
+    vtkSmartPointer<vtkDataSet>& copy =
+        m_zones[isImage ? VTK_IMAGE_DATA : zone.GetDataObjectType()];
     if (!copy)
         copy.TakeReference(isImage ? vtkImageData::New() : zone.NewInstance());
     copy->CopyStructure(&zone);

@@ -12,17 +12,19 @@
 
 namespace corvala::host::io::reader {
 
-/// Makes zones as they are handed over: only arrays of numbers that fit their points or cells, under
-/// clean names.
+/// Makes zones as they are handed over: only arrays of numbers that fit their points or cells,
+/// under clean names.
 class ZoneCleaner
 {
 public:
-    /// It shares points, cells and values with the original, and is good until the next one is made.
+    /// It shares points, cells and values with the original, and is good until the next one is
+    /// made.
     vtkDataSet& clean(vtkDataSet& zone);
     const QSet<QString>& droppedArrays() const { return m_droppedArrays; }
 
 private:
-    std::map<int, vtkSmartPointer<vtkDataSet>> m_zones; ///< by kind; a new one takes a while to make
+    std::map<int, vtkSmartPointer<vtkDataSet>>
+        m_zones; ///< by kind; a new one takes a while to make
     QSet<QString> m_droppedArrays;
 };
 

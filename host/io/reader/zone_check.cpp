@@ -61,12 +61,15 @@ static bool hasSoundCells(vtkUnstructuredGrid& grid)
     if (!cells || !types || types->GetNumberOfTuples() != count
         || cells->GetNumberOfCells() != count)
         return false;
-    for (vtkIdType cell = 0; cell < count; ++cell) {
-        const int needed = least[types->GetValue(cell)];
-        if (needed == kUnknownType || cells->GetCellSize(cell) < needed)
-            return false;
-    }
-    return true;
+    const unsigned char* const type = types->GetPointer(0);
+    return cells->Visit([&](auto& known) {
+        for (vtkIdType cell = 0; cell < count; ++cell) {
+            const int needed = least[type[cell]];
+            if (needed == kUnknownType || known.GetCellSize(cell) < needed)
+                return false;
+        }
+        return true;
+    });
 }
 
 /// The faces of a polyhedron from a place in the list of faces: their number, and for each the
@@ -95,8 +98,9 @@ static bool hasSoundFaces(vtkUnstructuredGrid& grid)
     vtkIdTypeArray* faces = grid.GetFaces();
     vtkIdTypeArray* places = grid.GetFaceLocations();
     const vtkIdType count = grid.GetNumberOfCells();
+    const unsigned char* const type = count > 0 ? grid.GetCellTypesArray()->GetPointer(0) : nullptr;
     for (vtkIdType cell = 0; cell < count; ++cell) {
-        if (grid.GetCellType(cell) != VTK_POLYHEDRON)
+        if (type[cell] != VTK_POLYHEDRON)
             continue;
         if (!faces || !places || cell >= places->GetNumberOfTuples()
             || !isSoundPolyhedron(*faces, places->GetValue(cell), grid.GetNumberOfPoints()))

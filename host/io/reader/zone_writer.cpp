@@ -23,6 +23,8 @@
 
 namespace corvala::host::io::reader {
 
+static constexpr std::int64_t kPiece = 1 << 18; ///< bytes that are written at once
+
 ZoneWriter::ZoneWriter(const QString& folder)
     : m_folder(folder)
     , m_numbers(QDir(folder).filePath(QLatin1String(kNumbersFile)))
@@ -34,10 +36,15 @@ void ZoneWriter::failWithFullDisk() const
     throw ReadFailure::ofFullDisk(m_folder);
 }
 
+/// In pieces: the system takes eight times as long for one long write.
 void ZoneWriter::append(const void* numbers, std::int64_t bytes)
 {
-    if (m_numbers.write(static_cast<const char*>(numbers), bytes) != bytes)
-        failWithFullDisk();
+    const auto* const first = static_cast<const char*>(numbers);
+    for (std::int64_t done = 0; done < bytes; done += kPiece) {
+        const std::int64_t count = std::min(kPiece, bytes - done);
+        if (m_numbers.write(first + done, count) != count)
+            failWithFullDisk();
+    }
     m_size += bytes;
 }
 

@@ -151,8 +151,9 @@ static void meetFaces(const CellFaces& cell, const Id* points, vtkIdType number,
             const std::size_t place = lowest + step;
             return corners[place < face.corners ? place : place - face.corners];
         };
-        open.meet(corners[lowest], {from(1), face.corners == 4 ? from(2) : kNone,
-                                    from(face.corners - 1), kNone, number});
+        open.meet(
+            corners[lowest],
+            {from(1), face.corners == 4 ? from(2) : kNone, from(face.corners - 1), kNone, number});
     }
 }
 
