@@ -24,13 +24,16 @@ HelpCommands::HelpCommands(QObject* parent)
     contents->setShortcuts(QKeySequence::HelpContents);
     contents->setToolTip(tr("%1 (%2)").arg(
         contents->statusTip(), contents->shortcut().toString(QKeySequence::NativeText)));
-    const auto addPage = [this](const QString& text, const QString& tip, const char* page) {
-        add(text, tip, [page] { return QString::fromLatin1(page); });
+    const auto addPage = [this](const char* icon, const QString& text, const QString& tip,
+                                const char* page) {
+        add(text, tip, [page] { return QString::fromLatin1(page); })->setIcon(commandIcon(icon));
     };
-    addPage(tr("&Mouse and Keys"), tr("Tell what the mouse and the keys do"), "mouse-keys.html");
-    addPage(tr("&File Formats"), tr("Tell which files can be opened, and what of them is read"),
-            "formats.html");
-    addPage(tr("&Scripts"), tr("Tell how scripts and options drive the program"), "scripts.html");
+    addPage("input-keyboard", tr("&Mouse and Keys"), tr("Tell what the mouse and the keys do"),
+            "mouse-keys.html");
+    addPage("text-x-generic", tr("&File Formats"),
+            tr("Tell which files can be opened, and what of them is read"), "formats.html");
+    addPage("text-x-script", tr("&Scripts"), tr("Tell how scripts and options drive the program"),
+            "scripts.html");
     LaunchHelpAction::setHandler([this](const QString& reference) { open(reference); });
     qApp->installEventFilter(this);
 }
