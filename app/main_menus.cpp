@@ -179,7 +179,7 @@ void MainMenus::makeEditMenu()
 
 void MainMenus::makePlotMenu(QAction& details, const QList<QAction*>& layers)
 {
-    QMenu* menu = m_window.menuBar()->addMenu(tr("&Plot"));
+    QMenu* menu = m_plotMenu = m_window.menuBar()->addMenu(tr("&Plot"));
     menu->addAction(&m_styleDialog);
     iconed(&m_styleDialog, "style-dialog", tr("Show or hide the table of the style of each zone"));
     menu->addAction(&details);
@@ -188,10 +188,6 @@ void MainMenus::makePlotMenu(QAction& details, const QList<QAction*>& layers)
     addDetailsMenu(*menu);
     menu->addSeparator();
     menu->addActions(layers);
-    menu->addSeparator();
-    m_fitView = menu->addAction(tr("&Fit View"), this, &MainMenus::fitWanted);
-    setKeys(*m_fitView, QKeySequence(QStringLiteral("Ctrl+0")));
-    iconed(m_fitView, "zoom-fit-best", tr("Show the whole of what is drawn"));
 }
 
 void MainMenus::addDetailsMenu(QMenu& menu)
@@ -253,7 +249,6 @@ void MainMenus::refresh(bool hasPlot)
     m_styleDialog.setText(frame && frame->isLinePlot() ? tr("&Mapping Style...")
                                                        : tr("&Zone Style..."));
     m_savePicture->setEnabled(frame && frame->hasData());
-    m_fitView->setEnabled(hasPlot);
     m_details->setEnabled(hasPlot);
     for (auto page = m_detailPages.begin(); page != m_detailPages.end(); ++page)
         page.value()->setVisible(hasPlot && page.key()->isFor(*frame));

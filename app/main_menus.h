@@ -27,6 +27,7 @@ public:
               QAction& details, const QList<QAction*>& layers);
 
     QToolBar& toolBar() const { return *m_toolBar; } ///< of common commands
+    QMenu& plotMenu() const { return *m_plotMenu; }
     /// The commands that bring other data.
     void enableOpening(bool enabled);
     /// Shows what the document says.
@@ -40,7 +41,6 @@ Q_SIGNALS:
     void filesWanted(const QStringList& files);
     void demoWanted(const QString& name);
     void pictureWanted();
-    void fitWanted();
     void detailsWanted(const QString& page); ///< the name of the page
 
 private:
@@ -64,7 +64,7 @@ private:
     QList<QAction*> m_openCommands; ///< the first one is in the toolbar too
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
-    QAction* m_fitView = nullptr;
+    QMenu* m_plotMenu = nullptr;
     QMenu* m_details = nullptr; ///< the pages of details
     QHash<const DetailPage*, QAction*> m_detailPages;
     QAction* m_savePicture = nullptr;

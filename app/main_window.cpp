@@ -6,12 +6,15 @@
 #include "app/document_commands.h"
 #include "app/file_drops.h"
 #include "app/icons.h"
+#include "app/elided_label.h"
 #include "app/layer_bar.h"
 #include "app/layer_notes.h"
 #include "app/main_menus.h"
 #include "app/notice_bar.h"
+#include "app/picked_objects.h"
 #include "app/picture_notes.h"
 #include "app/plot_area.h"
+#include "app/plot_menu.h"
 #include "app/plot_type_choice.h"
 #include "app/seed_picking.h"
 #include "app/start_page.h"
@@ -19,6 +22,7 @@
 #include "app/style_dialog_command.h"
 #include "app/time_bar.h"
 #include "app/window_memory.h"
+#include "app/view_commands.h"
 #include "app/work_progress.h"
 #include "host/document/document.h"
 #include "plot/frame_view.h"
@@ -71,6 +75,12 @@ void MainWindow::makeCentre()
     setCentralWidget(centre);
     m_work = new WorkProgress(this);
     statusBar()->addWidget(m_work);
+    m_picked = new ElidedLabel(this);
+    m_picked->setObjectName(QStringLiteral("picked"));
+    statusBar()->addWidget(m_picked);
+    m_probe = new ElidedLabel(this);
+    m_probe->setObjectName(QStringLiteral("probe"));
+    statusBar()->addWidget(m_probe, 1);
     m_summary = new QLabel(this);
     statusBar()->addPermanentWidget(m_summary);
 }
@@ -89,6 +99,7 @@ void MainWindow::makeBars()
     m_styleDialog = new StyleDialogCommand(*this);
     m_menus = new MainMenus(*this, *m_documents, *m_styleDialog, *m_details->toggleViewAction(),
                             m_layerBar->layerActions());
+    m_views = new ViewCommands(*this, m_plotArea->frameView(), *m_notice, m_menus->plotMenu());
     m_plotType = new PlotTypeChoice(this);
     m_menus->toolBar().addSeparator();
     m_menus->toolBar().addWidget(m_plotType);
@@ -171,15 +182,16 @@ void MainWindow::connectCanvas()
         return;
     makeStartPage(*view);
     letPickSeeds(*m_details, *view);
-    connect(m_menus, &MainMenus::fitWanted, view, &plot::FrameView::fitView);
-    connect(view, &plot::FrameView::zonePicked, this,
-            [this](CvlInt64 zone, bool activate) { pick(PickType_Zone, zone, activate); });
-    connect(view, &plot::FrameView::lineMapPicked, this,
-            [this](CvlInt64 map, bool activate) { pick(PickType_LineMap, map, activate); });
+    connect(view, &plot::FrameView::zonePicked, this, &MainWindow::pick);
+    connect(view, &plot::FrameView::lineMapPicked, this, &MainWindow::pick);
+    auto* const menu = new PlotMenu(*this, *view, *m_views);
+    connect(menu, &PlotMenu::pickWanted, this, &MainWindow::pick);
+    connect(view, &plot::FrameView::probed, m_probe, &QLabel::setText);
     connect(view, &plot::FrameView::workEnded, this, &MainWindow::awaitPicture);
     connect(view, &plot::FrameView::completed, this, [this, view] {
         m_details->refresh(); // what follows from the data is known
         m_pictureNotes->tell(view->canvas()->scene().notes());
+        m_views->tellWhenLost();
     });
     connect(view, &plot::FrameView::workProgressed, this, [this](CvlInt64 done, CvlInt64 total) {
         if (m_data->opener().isRunning())
@@ -239,8 +251,10 @@ void MainWindow::refresh()
     const host::Frame* frame = Document::instance().activeFrame();
     const bool hasData = frame && frame->hasData();
     refreshTitle();
+    m_picked->setText(pickedText());
     m_summary->setText(hasData ? summaryOf(*frame->data()) : QString());
     m_menus->refresh(hasData && m_plotArea->frameView());
+    m_views->refresh();
     m_plotType->refresh();
     m_layerBar->refresh();
     m_layerNotes->refresh();
@@ -311,12 +325,9 @@ const QAction& MainWindow::styleDialogCommand() const
     return *m_styleDialog;
 }
 
-void MainWindow::pick(int type, CvlInt64 number, bool activate)
+void MainWindow::pick(CvlInt64 number, bool activate)
 {
-    std::vector<host::Pick> picks;
-    if (number > 0)
-        picks.push_back({type, number});
-    Document::instance().execute(host::SetPicks {picks});
+    pickObject(number);
     if (activate && number > 0)
         openStyleDialog(DialogInitialization_SelectPickedObjects);
 }

@@ -30,6 +30,7 @@ class PlotArea;
 class PlotTypeChoice;
 class StyleDialogCommand;
 class TimeBar;
+class ViewCommands;
 class WorkProgress;
 
 /// The window with the plot of the active frame, and the commands on the document.
@@ -81,7 +82,7 @@ private:
     void awaitPicture();
     void cancelWork();
 
-    void pick(int type, CvlInt64 number, bool activate);
+    void pick(CvlInt64 number, bool activate);
     void showProblem(const QString& text);
 
     DocumentObserver m_observer;
@@ -99,7 +100,10 @@ private:
     DocumentCommands* m_documents = nullptr;
     StyleDialogCommand* m_styleDialog = nullptr;
     MainMenus* m_menus = nullptr;
+    ViewCommands* m_views = nullptr;
     WorkProgress* m_work = nullptr; ///< of reading and drawing
+    QLabel* m_picked = nullptr; ///< what was clicked
+    QLabel* m_probe = nullptr; ///< what the mouse is over
     QLabel* m_summary = nullptr;
 };
 

@@ -3,10 +3,15 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QRubberBand>
 
+#include <algorithm>
 #include <utility>
 
 namespace corvala::plot {
+
+static constexpr int kThinnestBox = 4; ///< pixels
+static constexpr int kWheelPause = 1000; ///< milliseconds after which it begins anew
 
 void Canvas::watch(QWidget& part)
 {
@@ -19,29 +24,95 @@ void Canvas::resizeEvent(QResizeEvent* event)
     Q_EMIT redrawWanted();
 }
 
-void Canvas::setPicksPlaces(bool picksPlaces)
+void Canvas::hideEvent(QHideEvent* event)
 {
-    m_picksPlaces = picksPlaces;
-    if (picksPlaces)
+    QWidget::hideEvent(event);
+    leaveMouse();
+}
+
+static constexpr Qt::KeyboardModifiers kBoxModifiers = Qt::ControlModifier | Qt::ShiftModifier;
+
+void Canvas::showCursor()
+{
+    if (m_picksPlaces || m_zoomsToBox)
         setCursor(Qt::CrossCursor);
     else
         unsetCursor();
 }
 
+void Canvas::setPicksPlaces(bool picksPlaces)
+{
+    m_picksPlaces = picksPlaces;
+    showCursor();
+}
+
+void Canvas::setZoomsToBox(bool zooms)
+{
+    m_zoomsToBox = zooms;
+    showCursor();
+    if (!zooms)
+        leaveMouse();
+}
+
+/// Where the part that has the mouse does something with it, it has its way to the end.
+void Canvas::leaveMouse()
+{
+    if (!m_isBoxing)
+        return;
+    m_isBoxing = false;
+    m_isLeft = true;
+    m_band->hide();
+}
+
 void Canvas::mousePressed(const QMouseEvent& mouse)
 {
+    if (m_isBoxing)
+        return;
     m_pressedAt = m_draggedTo = mouse.localPos();
-    m_isDragging = false;
+    m_isDragging = m_isLeft = false;
     m_isDoubleClick = mouse.type() == QEvent::MouseButtonDblClick;
-    m_isHolding = mouse.button() == Qt::LeftButton && takesHold(mouse.localPos());
+    const bool isLeft = mouse.button() == Qt::LeftButton;
+    const bool isBox = m_zoomsToBox || (mouse.modifiers() & kBoxModifiers) == kBoxModifiers;
+    m_isBoxing = isLeft && isBox && canZoomToBox();
+    m_isHolding = !m_isBoxing && isLeft && takesHold(mouse.localPos());
+    if (m_isBoxing && !m_band)
+        m_band = new QRubberBand(QRubberBand::Rectangle, this);
+}
+
+void Canvas::stretchBox(const QPointF& to)
+{
+    m_band->setGeometry(QRectF(m_pressedAt, to).normalized().toAlignedRect().intersected(rect()));
+    m_band->setVisible(m_isDragging);
+    m_band->raise();
+}
+
+/// A box that is thinner than a hand can draw is none.
+void Canvas::zoomToDrawn()
+{
+    m_isBoxing = false;
+    const QRect box = m_band->geometry();
+    m_band->hide();
+    if (m_isDragging && std::min(box.width(), box.height()) >= kThinnestBox) {
+        Q_EMIT viewLeft();
+        zoomToBox(box);
+        Q_EMIT redrawWanted();
+    }
+    Q_EMIT boxEnded();
 }
 
 bool Canvas::mouseMoved(const QPointF& to, bool isPressed)
 {
+    if (m_isLeft && isPressed)
+        return true;
     const double distance = (to - m_pressedAt).manhattanLength();
+    const bool wasDragging = m_isDragging;
     m_isDragging = isPressed && (m_isDragging || distance >= QApplication::startDragDistance());
-    if (!m_isDragging)
-        return m_isHolding || keepsMouse();
+    if (m_isBoxing)
+        stretchBox(to);
+    if (!m_isDragging || m_isBoxing)
+        return m_isBoxing || m_isHolding || keepsMouse();
+    if (!wasDragging && !m_isHolding)
+        Q_EMIT viewLeft();
     const QPointF by = to - std::exchange(m_draggedTo, to);
     if (m_isHolding)
         moveHeld(by);
@@ -50,13 +121,20 @@ bool Canvas::mouseMoved(const QPointF& to, bool isPressed)
 
 bool Canvas::mouseReleased(const QMouseEvent& mouse)
 {
+    if (m_isBoxing && mouse.button() != Qt::LeftButton)
+        return true;
     const bool wasHolding = std::exchange(m_isHolding, false);
-    if (wasHolding && m_isDragging)
+    const bool isTaken = m_isBoxing || m_isLeft || wasHolding || keepsMouse();
+    if (m_isBoxing)
+        zoomToDrawn();
+    else if (wasHolding && m_isDragging)
         letGo();
-    else if (!m_isDragging && mouse.button() == Qt::LeftButton)
+    else if (!m_isDragging && !m_isLeft && mouse.button() == Qt::LeftButton)
         clicked(mouse.localPos());
-    m_isDoubleClick = m_isDragging = false;
-    return wasHolding || keepsMouse();
+    else if (!m_isDragging && !m_isLeft && mouse.button() == Qt::RightButton)
+        Q_EMIT menuWanted(numberAt(mouse.localPos()), mouse.globalPos());
+    m_isDoubleClick = m_isDragging = m_isLeft = false;
+    return isTaken;
 }
 
 void Canvas::clicked(const QPointF& place)
@@ -72,10 +150,20 @@ bool Canvas::eventFilter(QObject* watched, QEvent* event)
     const auto* const mouse = static_cast<QMouseEvent*>(event);
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick: mousePressed(*mouse); return m_isHolding || keepsMouse();
-    case QEvent::MouseMove: return mouseMoved(mouse->localPos(), mouse->buttons() != Qt::NoButton);
+    case QEvent::MouseButtonDblClick:
+        mousePressed(*mouse);
+        return m_isBoxing || m_isHolding || keepsMouse();
+    case QEvent::MouseMove:
+        if (mouse->buttons() == Qt::NoButton)
+            Q_EMIT hovered(mouse->localPos());
+        return mouseMoved(mouse->localPos(), mouse->buttons() != Qt::NoButton);
+    case QEvent::Leave: Q_EMIT hoverEnded(); return false;
     case QEvent::MouseButtonRelease: return mouseReleased(*mouse);
-    case QEvent::Wheel: return wheelTurned(*static_cast<QWheelEvent*>(event));
+    case QEvent::Wheel:
+        if (!m_wheel.isValid() || m_wheel.restart() > kWheelPause)
+            Q_EMIT viewLeft();
+        m_wheel.start();
+        return wheelTurned(*static_cast<QWheelEvent*>(event));
     default: return QWidget::eventFilter(watched, event);
     }
 }

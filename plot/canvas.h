@@ -3,7 +3,9 @@
 
 #include "plot/common/map_scene.h"
 
+#include <QElapsedTimer>
 #include <QPointF>
+#include <QRectF>
 #include <QWidget>
 
 #include <any>
@@ -12,9 +14,13 @@
 #include <utility>
 
 class QMouseEvent;
+class QRubberBand;
 class QWheelEvent;
 
 namespace corvala::plot {
+
+/// From where a plot in space is looked at: along an axis, or from the corner as at the start.
+enum class ViewPreset { X, Y, Z, Corner };
 
 /// A widget that draws frames of one kind: the picture of a scene, and the hand that moves in it.
 /// FrameView picks the canvas for a frame, tells it what changes, and when to draw.
@@ -57,7 +63,41 @@ public:
     virtual std::any view() const = 0;
     virtual void setView(const std::any& view) = 0;
 
+    /// Drags of the left button draw the box that shall fill the plot, from now on.
+    void setZoomsToBox(bool zooms);
+    /// Ends what the mouse is about, as if it had not begun.
+    void leaveMouse();
+    /// Whether a part of the plot can be made to fill it.
+    virtual bool canZoomToBox() const { return true; }
+    /// Shows what is in a part of the canvas, which may be larger than the canvas, as large as
+    /// possible.
+    virtual void zoomToBox(const QRectF& box) = 0;
+    /// The same for what is drawn of some maps; false when there is nothing.
+    virtual bool zoomToMaps(const host::NumberSet& maps) = 0;
+    /// Whether the view can be turned, looked at from a preset, and be parallel.
+    virtual bool canTurn() const { return false; }
+    virtual void lookFrom(ViewPreset) { }
+    virtual bool isParallel() const { return false; }
+    virtual void setParallel(bool /*isParallel*/) { }
+    /// Marks maps in the window, and not in pictures; too many are marked as one, or not at all.
+    virtual void setOutlined(const host::NumberSet& maps) = 0;
+    /// What there is to know of a place of the canvas, in a line; empty beside the plot. Takes a
+    /// few milliseconds: while isProbing, more is known when it is asked again.
+    virtual QString probe(const QPointF& place) = 0;
+    virtual bool isProbing() const { return false; }
+    /// False when the view misses all that is drawn.
+    virtual bool seesSomething() const { return true; }
+
 Q_SIGNALS:
+    /// Somebody is about to change the view, which is still the one before.
+    void viewLeft();
+    /// The mouse moved over the canvas without a button, or went elsewhere.
+    void hovered(const QPointF& place);
+    void hoverEnded();
+    /// A box has been drawn, or the mouse was used for something else.
+    void boxEnded();
+    /// A click with the right button; `number` as of `picked`, at a place of the screen.
+    void menuWanted(CvlInt64 number, const QPoint& place);
     /// The picture is out of date for a reason of the canvas's own.
     void redrawWanted();
     /// A click; `number` is that of the zone or line map there, 0 without one. A double click has
@@ -87,11 +127,16 @@ protected:
     /// Whether presses and releases are kept from the part.
     virtual bool keepsMouse() const { return false; }
 
+    void hideEvent(QHideEvent* event) override;
+
 private:
+    void showCursor();
     void mousePressed(const QMouseEvent& mouse);
     bool mouseMoved(const QPointF& to, bool isPressed);
     bool mouseReleased(const QMouseEvent& mouse);
     void clicked(const QPointF& place);
+    void stretchBox(const QPointF& to);
+    void zoomToDrawn();
 
     QPointF m_pressedAt;
     QPointF m_draggedTo;
@@ -99,6 +144,11 @@ private:
     bool m_isDragging = false;
     bool m_isHolding = false; ///< something that is moved by hand
     bool m_picksPlaces = false;
+    bool m_zoomsToBox = false;
+    bool m_isBoxing = false; ///< the mouse draws a box
+    bool m_isLeft = false; ///< until the button is let go, the mouse does nothing
+    QElapsedTimer m_wheel; ///< since it was turned
+    QRubberBand* m_band = nullptr; ///< owned by Qt; null until it is needed
 };
 
 } // namespace corvala::plot

@@ -18,6 +18,7 @@ namespace corvala::plot {
 
 static constexpr int kSliceMilliseconds = 30;
 static constexpr int kQuietMilliseconds = 250; ///< before work is reported as progress
+static constexpr int kProbeMilliseconds = 40; ///< between answers of what the mouse is over
 static constexpr int kFirstDrawing = 100; ///< milliseconds of work before an unfinished picture
 
 struct FrameView::Subscription
@@ -46,6 +47,13 @@ FrameView::FrameView(QWidget* parent)
     m_idle.setSingleShot(true);
     m_idle.setInterval(0);
     connect(&m_idle, &QTimer::timeout, this, &FrameView::redraw);
+    m_probe.setSingleShot(true);
+    m_probe.setInterval(kProbeMilliseconds);
+    connect(&m_probe, &QTimer::timeout, this, &FrameView::probe);
+    connect(this, &FrameView::completed, this, [this] {
+        if (!m_probe.isActive())
+            m_probe.start();
+    });
     m_subscription->connection = host::Document::instance().events().connect(
         [this](const host::StateEvent& event) { documentChanged(event); });
     m_subscription->viewsWanted =
@@ -66,7 +74,21 @@ Canvas* FrameView::canvasOf(Kind kind)
         m_layout->addWidget(canvas);
         connect(canvas, &Canvas::redrawWanted, this, &FrameView::requestRedraw);
         connect(canvas, &Canvas::placePicked, this, &FrameView::placePicked);
+        connect(canvas, &Canvas::hovered, this, [this](const QPointF& place) {
+            m_hover = place;
+            if (!m_probe.isActive())
+                m_probe.start();
+        });
+        connect(canvas, &Canvas::hoverEnded, this, [this] {
+            m_hover.reset();
+            m_probe.start();
+        });
+        connect(canvas, &Canvas::viewLeft, this, &FrameView::rememberView);
+        connect(canvas, &Canvas::boxEnded, this, &FrameView::boxEnded);
+        // What has the mouse hears of the click before anybody else does something.
+        connect(canvas, &Canvas::menuWanted, this, &FrameView::menuWanted, Qt::QueuedConnection);
         canvas->setPicksPlaces(m_picksPlaces);
+        canvas->setZoomsToBox(m_zoomsToBox);
         connect(canvas, &Canvas::picked, this,
                 kind == Field ? &FrameView::zonePicked : &FrameView::lineMapPicked);
     }
@@ -118,6 +140,7 @@ void FrameView::showFrame(const ViewKey& key)
         showHint();
         return;
     }
+    m_canvas->leaveMouse();
     if (m_canvas->scene().frameId() != key.first)
         m_canvas->scene().setFrame(key.first);
     m_canvas->setView(m_views.contains(key) ? m_views.value(key) : storedView(key));
@@ -125,13 +148,22 @@ void FrameView::showFrame(const ViewKey& key)
     requestRedraw();
 }
 
+template<class Views>
+static void dropViews(Views& views, CvlUniqueId frame)
+{
+    for (auto view = views.begin(); view != views.end();)
+        view = view.key().first == frame ? views.erase(view) : std::next(view);
+}
+
 void FrameView::documentChanged(const host::StateEvent& event)
 {
     if (m_canvas)
         m_views[m_key] = m_canvas->view();
     const bool isOther = event.code == StateCode_DataSetAttached && concerns(event, m_key.first);
-    for (auto view = m_views.begin(); isOther && view != m_views.end();)
-        view = view.key().first == m_key.first ? m_views.erase(view) : std::next(view);
+    if (isOther) {
+        dropViews(m_views, m_key.first);
+        dropViews(m_formerViews, m_key.first);
+    }
     for (Canvas* const canvas : m_canvases) {
         if (canvas && canvas->scene().apply(event)) {
             canvas->sceneChanged(event);
@@ -229,9 +261,53 @@ void FrameView::setPicksPlaces(bool picksPlaces)
             canvas->setPicksPlaces(picksPlaces);
 }
 
+void FrameView::setZoomsToBox(bool zooms)
+{
+    m_zoomsToBox = zooms;
+    for (Canvas* const canvas : m_canvases)
+        if (canvas)
+            canvas->setZoomsToBox(zooms);
+}
+
+void FrameView::setOutlined(const host::NumberSet& maps)
+{
+    for (Canvas* const canvas : m_canvases)
+        if (canvas)
+            canvas->setOutlined(canvas == m_canvas ? maps : host::NumberSet());
+}
+
+/// Waits for the picture: what is drawn and seen is known then.
+void FrameView::probe()
+{
+    if (m_isWorking || m_idle.isActive())
+        return;
+    Q_EMIT probed(m_canvas && m_hover ? m_canvas->probe(*m_hover) : QString());
+    if (m_canvas && m_hover && m_canvas->isProbing())
+        m_probe.start();
+}
+
+void FrameView::rememberView()
+{
+    constexpr int kMost = 50;
+    QList<std::any>& former = m_formerViews[m_key];
+    if (m_canvas)
+        former.append(m_canvas->view());
+    while (former.size() > kMost)
+        former.removeFirst();
+}
+
+void FrameView::showPreviousView()
+{
+    if (!m_canvas || !hasPreviousView())
+        return;
+    m_canvas->setView(m_formerViews[m_key].takeLast());
+    requestRedraw();
+}
+
 void FrameView::fitView()
 {
     if (m_canvas) {
+        rememberView();
         m_canvas->setView({});
         requestRedraw();
     }

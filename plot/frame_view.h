@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 class QLabel;
 class QStackedLayout;
@@ -41,6 +42,7 @@ public:
     QString paint(QPaintDevice& device);
     /// The same, as pictureImage.
     QImage render(const QSize& size, QString* error);
+    bool hasPreviousView() const { return !m_formerViews.value(m_key).isEmpty(); }
     QString problem() const;
 
 public Q_SLOTS:
@@ -48,8 +50,16 @@ public Q_SLOTS:
     void requestRedraw();
     /// As Canvas::setPicksPlaces.
     void setPicksPlaces(bool picksPlaces);
+    /// As Canvas::setZoomsToBox.
+    void setZoomsToBox(bool zooms);
     /// Shows the whole of what is drawn, as at the start.
     void fitView();
+    /// As Canvas::setOutlined, for what is shown at present.
+    void setOutlined(const host::NumberSet& maps);
+    /// Keeps the present view for showPreviousView; call before changing it.
+    void rememberView();
+    /// Goes back to the view before the last change of it, in the present frame and plot type.
+    void showPreviousView();
     /// Puts pending work in slices aside; what is drawn so far stays, with a remark.
     void cancelWork();
     /// Takes up again what was put aside.
@@ -66,6 +76,11 @@ Q_SIGNALS:
     void placePicked(double x, double y, double z);
     /// The picture shows all that there is to show.
     void completed();
+    /// What the mouse is over, as Canvas::probe; empty when there is nothing.
+    void probed(const QString& text);
+    /// As of the canvas that is shown.
+    void boxEnded();
+    void menuWanted(CvlInt64 number, const QPoint& place);
     /// The last of a series of workProgressed.
     void workEnded(bool cancelled);
 
@@ -87,6 +102,7 @@ private:
     void draw();
     void workAndDraw();
     void endWork(bool cancelled);
+    void probe();
 
     struct Subscription;
     std::unique_ptr<Subscription> m_subscription;
@@ -97,7 +113,10 @@ private:
     Canvas* m_canvas = nullptr; // not owned
     ViewKey m_key {0, 0}; ///< of what is shown
     QHash<ViewKey, std::any> m_views; ///< of what was shown before
+    QHash<ViewKey, QList<std::any>> m_formerViews; ///< the last one was seen last
     QTimer m_idle;
+    QTimer m_probe; ///< runs until the mouse is told what it is over
+    std::optional<QPointF> m_hover; ///< where the mouse is; nothing: elsewhere
     int m_redraws = 0;
     QElapsedTimer m_work; ///< since slices began
     qint64 m_nextDrawing = 0; ///< milliseconds of work when the picture is next refreshed
@@ -106,6 +125,7 @@ private:
     bool m_isStale = false; ///< the picture has to be drawn from its beginning
     bool m_isReporting = false;
     bool m_picksPlaces = false;
+    bool m_zoomsToBox = false;
 };
 
 } // namespace corvala::plot

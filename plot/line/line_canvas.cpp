@@ -50,6 +50,36 @@ void LineCanvas::setView(const std::any& view)
     }
 }
 
+bool LineCanvas::show(const std::optional<ChartRange>& range)
+{
+    if (!range)
+        return false;
+    m_plot.setMoved();
+    m_plot.chart().setRange(*range);
+    return true;
+}
+
+void LineCanvas::zoomToBox(const QRectF& box)
+{
+    show(m_plot.chart().rangeIn(box));
+}
+
+bool LineCanvas::zoomToMaps(const host::NumberSet& maps)
+{
+    return show(m_plot.chart().rangeOf(maps));
+}
+
+QString LineCanvas::probe(const QPointF& place)
+{
+    return m_plot.chart().valuesAt(place);
+}
+
+void LineCanvas::setOutlined(const host::NumberSet& maps)
+{
+    m_plot.setOutlined(maps);
+    Q_EMIT redrawWanted();
+}
+
 void LineCanvas::draw()
 {
     m_plot.prepare();

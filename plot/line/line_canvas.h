@@ -21,6 +21,12 @@ public:
     QString paint(QPaintDevice& device) override;
     std::any view() const override;
     void setView(const std::any& view) override;
+    bool canZoomToBox() const override { return !m_plot.isPolar(); }
+    void zoomToBox(const QRectF& box) override;
+    bool zoomToMaps(const host::NumberSet& maps) override;
+    QString probe(const QPointF& place) override;
+    void setOutlined(const host::NumberSet& maps) override;
+    bool seesSomething() const override { return m_plot.chart().seesSomething(); }
     std::optional<double> proposal(style::Key value, int index) const override;
     void sceneChanged(const host::StateEvent& event) override;
 
@@ -37,6 +43,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    bool show(const std::optional<ChartRange>& range);
+
     QCustomPlot* m_widget; // not owned
     LinePlot m_plot;
     QLabel* m_notice; // not owned

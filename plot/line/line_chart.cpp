@@ -88,7 +88,7 @@ int LineChart::titleHeight() const
                    : 0;
 }
 
-ChartView LineChart::seenIn(const QRectF& place)
+ChartView LineChart::seenIn(const QRectF& place) const
 {
     ChartView seen = view();
     seen.visible = {place.left(), place.right(), place.top(), place.bottom()};
@@ -126,10 +126,25 @@ const CoverGrid& LineChart::cover()
         return m_cover->grid;
     m_cover = std::make_unique<Cover>(Cover {seen, m_ink.changeCount(), CoverGrid(area())});
     for (const auto& [key, placed] : m_ink.shapes())
-        if (m_ink.isShown(key))
+        if (m_ink.isShown(key) && key.layer != ShapeKey::kMarks)
             placed.shape->cover(m_cover->grid, seen.along(placed.axes));
     coverTexts(m_cover->grid);
     return m_cover->grid;
+}
+
+bool LineChart::seesSomething() const
+{
+    const ChartView seen = seenIn(outline().boundingRect());
+    bool isEmpty = true;
+    for (const auto& [key, placed] : m_ink.shapes()) {
+        const LineBox bounds = placed.shape->bounds();
+        if (!m_ink.isShown(key) || bounds.isEmpty())
+            continue;
+        isEmpty = false;
+        if (seen.along(placed.axes).pixels(bounds).meets(seen.visible))
+            return true;
+    }
+    return isEmpty;
 }
 
 int LineChart::hiddenBy(const QRectF& box)

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace corvala::plot {
@@ -54,7 +55,17 @@ public:
     virtual void fit(const AxisRange& radii) { setRange(home(radii)); }
     virtual ChartRange range() const = 0;
     virtual void setRange(const ChartRange& range) = 0;
+    /// What the axes show of a rectangle in pixels, which may be larger than the plot; nothing for
+    /// a chart whose parts cannot fill it.
+    virtual std::optional<ChartRange> rangeIn(const QRectF&) const { return {}; }
+    /// What the axes have to show for some maps to fill the chart; nothing where these have no
+    /// shapes. An axis that they do not use has no range there.
+    virtual std::optional<ChartRange> rangeOf(const host::NumberSet&) const { return {}; }
 
+    /// Values of the axes at a pixel in a line; empty beside the chart.
+    virtual QString valuesAt(const QPointF& pixel) const = 0;
+    /// False when all shapes lie beside what is seen.
+    bool seesSomething() const;
     /// Where a legend has its corners, in pixels.
     virtual QRect area() const = 0;
     /// How much of a rectangle in pixels is over shapes that are shown, or over texts of the axes
@@ -70,7 +81,7 @@ public:
 
 protected:
     /// How the shapes lie in the widget at present, whatever is outside left out.
-    virtual ChartView view() = 0;
+    virtual ChartView view() const = 0;
     virtual QPainterPath outline() const = 0; ///< of the shapes
     virtual void coverTexts(CoverGrid&) const { } ///< of the axes, within the area
     /// Puts the title of the plot above it, none when it is empty, with the gaps between the parts.
@@ -81,7 +92,7 @@ private:
     class Sheet;
     struct Cover;
     /// The view, of which a part of the widget is seen.
-    ChartView seenIn(const QRectF& place);
+    ChartView seenIn(const QRectF& place) const;
     const CoverGrid& cover();
     void draw(QCPPainter& painter);
 

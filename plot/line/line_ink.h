@@ -20,6 +20,9 @@ struct ShapeKey
     std::size_t layer = 0;
     std::int64_t map = 0;
 
+    /// The layer of what marks maps, over all that they show, and hides nothing.
+    static constexpr std::size_t kMarks = 31;
+
     bool operator<(const ShapeKey& other) const
     {
         return std::tie(layer, map) < std::tie(other.layer, other.map);

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/line_plot.h"
 
+#include "plot/common/highlight.h"
 #include "plot/line/axis_names.h"
 #include "plot/line/line_notes.h"
+#include "plot/line/stroked_line.h"
 
 #include <QScopedValueRollback>
 
@@ -64,7 +66,7 @@ LayerMask LinePlot::showLayers(const host::Frame& drawn)
     LayerMask shown = 0;
     for (std::size_t layer = 0; layer < lineSceneKind().layerCount; ++layer)
         shown |= isLayerOn(drawn, layer) ? maskOf(layer) : 0;
-    m_chart->ink().setLayers(shown);
+    m_chart->ink().setLayers(shown | maskOf(ShapeKey::kMarks));
     return shown;
 }
 
@@ -77,7 +79,41 @@ void LinePlot::forget(CvlInt64 map)
 {
     for (std::size_t layer = 0; layer < lineSceneKind().layerCount; ++layer)
         m_chart->ink().remove({layer, map});
+    m_chart->ink().remove({ShapeKey::kMarks, map});
     m_geometries.erase(map);
+}
+
+void LinePlot::setOutlined(const host::NumberSet& maps)
+{
+    constexpr std::uint64_t kMost = 100;
+    const host::NumberSet wanted = maps & shownMaps();
+    const host::NumberSet before = m_outlined;
+    m_outlined = wanted.cardinality() > kMost ? host::NumberSet() : wanted;
+    for (const std::uint32_t map : before ^ m_outlined)
+        syncOutline(map);
+}
+
+/// Along the line through its points, or the curve in its place.
+void LinePlot::syncOutline(CvlInt64 map)
+{
+    const host::Frame* const drawn = frame();
+    const auto known = m_geometries.find(map);
+    const ShapeKey key {ShapeKey::kMarks, map};
+    if (!drawn || known == m_geometries.end()
+        || !m_outlined.contains(static_cast<std::uint32_t>(map))) {
+        m_chart->ink().remove(key);
+        return;
+    }
+    const LineGeometry& geometry = known->second;
+    LineStroke stroke;
+    stroke.color = highlightColor();
+    stroke.color.setAlpha(110);
+    stroke.width = std::max(7.0, m_height / 70.0);
+    stroke.dot = stroke.width;
+    m_chart->ink().set(
+        key,
+        std::make_shared<StrokedLine>(geometry.curve ? geometry.curve : geometry.places, stroke),
+        axesOf(*drawn, map));
 }
 
 /// Makes again what of it is another one, but for the curve.
@@ -227,6 +263,8 @@ LayerMask LinePlot::sync(const host::Frame& drawn, CvlInt64 map, LayerMask layer
     for (std::size_t layer = 0; layer < lineSceneKind().layerCount; ++layer)
         if ((layers & maskOf(layer)) && syncLayer(layer, {drawn, map, m_height}, isShown))
             done |= maskOf(layer);
+    if (m_outlined.contains(static_cast<std::uint32_t>(map)))
+        syncOutline(map);
     return done;
 }
 

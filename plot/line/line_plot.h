@@ -42,6 +42,9 @@ public:
     /// How long drawing the plot itself may draw lines; negative until all is done.
     void setPatience(int milliseconds);
 
+    /// Marks these maps with broad bright strokes, unless they are too many.
+    void setOutlined(const host::NumberSet& maps);
+
     /// What the axes show at first.
     ChartRange home() const { return m_chart->home(isPolar() ? radii() : AxisRange()); }
     void fit() { m_isFitted = true; }
@@ -70,6 +73,7 @@ private:
     /// Puts the map into a layer, or takes it out.
     bool syncLayer(std::size_t layer, const ShownLine& line, bool isShown);
     LineGeometry& geometryOf(const ShownLine& line);
+    void syncOutline(CvlInt64 map);
     bool makeCurve(const ShownLine& line, LineGeometry& geometry);
     std::optional<std::vector<RunCurve>>
     fittedCurves(const ShownLine& line, const LineGeometry& geometry, const CurveRecipe& recipe);
@@ -87,6 +91,7 @@ private:
     int m_height = 1;
     int m_patience = LineChart::kPatience;
     std::unordered_map<CvlInt64, LineGeometry> m_geometries; ///< of the maps in some layer
+    host::NumberSet m_outlined; ///< maps
     CurveMaker m_maker;
     CvlInt64 m_handedMap = 0; ///< that the maker works for
     bool m_mayWait = false; ///< at present, for as long as it takes: nothing is handed over

@@ -3,6 +3,7 @@
 #include "plot/line/cover_grid.h"
 #include "plot/line/line_chart.h"
 
+#include <QCoreApplication>
 #include <QFontMetricsF>
 
 #include <algorithm>
@@ -22,10 +23,11 @@ public:
     ChartRange home(const AxisRange& radii) const override;
     ChartRange range() const override;
     void setRange(const ChartRange& range) override;
+    QString valuesAt(const QPointF& pixel) const override;
     QRect area() const override { return m_angle->outerRect(); }
 
 protected:
-    ChartView view() override;
+    ChartView view() const override;
     QPainterPath outline() const override;
     void coverTexts(CoverGrid& grid) const override;
 
@@ -169,7 +171,7 @@ ChartRange PolarChart::home(const AxisRange& radii) const
     return home;
 }
 
-ChartView PolarChart::view()
+ChartView PolarChart::view() const
 {
     const QCPRange range = radius()->range();
     ChartView view;
@@ -188,6 +190,18 @@ ChartRange PolarChart::range() const
 void PolarChart::setRange(const ChartRange& range)
 {
     radius()->setRange(range.second[0].minimum, range.second[0].maximum);
+}
+
+QString PolarChart::valuesAt(const QPointF& pixel) const
+{
+    if (!outline().contains(pixel))
+        return {};
+    double angle = 0.0;
+    double radius = 0.0;
+    m_angle->pixelToCoord(pixel, angle, radius);
+    return QCoreApplication::translate("corvala::plot::PolarChart", "angle = %1, radius = %2")
+        .arg(std::fmod(angle + 720.0, 360.0), 0, 'g', 6)
+        .arg(radius, 0, 'g', 6);
 }
 
 std::unique_ptr<LineChart> makePolarChart(QCustomPlot& plot)

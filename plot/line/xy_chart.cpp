@@ -3,7 +3,9 @@
 #include "plot/line/line_chart.h"
 #include "plot/line/xy_axis.h"
 
+#include <QDateTime>
 #include <QFontMetrics>
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
@@ -26,10 +28,13 @@ public:
     void fit(const AxisRange& radii) override;
     ChartRange range() const override;
     void setRange(const ChartRange& range) override;
+    std::optional<ChartRange> rangeIn(const QRectF& pixels) const override;
+    std::optional<ChartRange> rangeOf(const host::NumberSet& maps) const override;
+    QString valuesAt(const QPointF& pixel) const override;
     QRect area() const override;
 
 protected:
-    ChartView view() override;
+    ChartView view() const override;
     QPainterPath outline() const override;
 
 private:
@@ -47,6 +52,8 @@ private:
     void showInUse(Direction& direction, QList<QCPAxis*>& shown);
     void followBorders(Direction& direction);
     AxisRange home(const Direction& direction, std::size_t number) const;
+    AxisRange fitted(const Direction& direction, std::size_t number,
+                     const host::NumberSet* maps) const;
     void adaptTo(const QSizeF& axes, double beyond);
     int overhangOfDates() const;
 
@@ -284,13 +291,20 @@ static AxisRange withinLimits(const AxisRange& range)
 /// The range that was set, else all lines along an axis with a margin; nothing when there is none.
 AxisRange XyChart::home(const Direction& direction, std::size_t number) const
 {
+    const AxisLook& look = direction.axes[number].look;
+    return look.range.minimum < look.range.maximum ? look.range
+                                                   : fitted(direction, number, nullptr);
+}
+
+/// All lines along an axis with a margin, or those of some maps; nothing when there is none.
+AxisRange XyChart::fitted(const Direction& direction, std::size_t number,
+                          const host::NumberSet* maps) const
+{
     constexpr double kMargin = 0.05;
     const AxisLook& look = direction.axes[number].look;
-    if (look.range.minimum < look.range.maximum)
-        return look.range;
     LineBox box;
     for (const auto& [key, placed] : ink().shapes())
-        if (ink().isShown(key)
+        if (ink().isShown(key) && (!maps || maps->contains(static_cast<std::uint32_t>(key.map)))
             && (direction.isFirst ? placed.axes.first : placed.axes.second) == number)
             box.add(placed.shape->bounds());
     if (box.isEmpty())
@@ -356,7 +370,65 @@ void XyChart::setRange(const ChartRange& range)
     put(m_second, range.second);
 }
 
-ChartView XyChart::view()
+/// As the axis writes it, but to the pixel.
+static QString valueText(const XyAxis& axis, double value)
+{
+    const QString name = axis.look.title.isEmpty() ? QStringLiteral("?") : axis.look.title;
+    const QString text = axis.look.isOfInstants && std::abs(value) < 1e12
+        ? QDateTime::fromMSecsSinceEpoch(std::llround(1000.0 * value), Qt::UTC)
+              .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))
+        : QString::number(value, 'g', 6);
+    return QStringLiteral("%1 = %2").arg(name, text);
+}
+
+/// Of all axes that are seen, from the first on.
+QString XyChart::valuesAt(const QPointF& pixel) const
+{
+    QStringList texts;
+    if (!m_box->rect().contains(pixel.toPoint()))
+        return {};
+    const auto add = [&](const Direction& direction, double place) {
+        for (const XyAxis& axis : direction.axes)
+            if (axis.shown().visible())
+                texts << valueText(axis, axis.shown().pixelToCoord(place));
+    };
+    add(m_first, pixel.x());
+    add(m_second, pixel.y());
+    return texts.join(QStringLiteral(", "));
+}
+
+std::optional<ChartRange> XyChart::rangeIn(const QRectF& pixels) const
+{
+    ChartRange result = range();
+    const auto take = [](const Direction& direction, auto& ranges, double one, double other) {
+        for (std::size_t i = 0; i < kAxisCount; ++i) {
+            const QCPAxis& axis = direction.axes[i].shown();
+            const auto [low, high] = std::minmax(axis.pixelToCoord(one), axis.pixelToCoord(other));
+            if (ranges[i].minimum < ranges[i].maximum)
+                ranges[i] = withinLimits({low, high});
+        }
+    };
+    take(m_first, result.first, pixels.left(), pixels.right());
+    take(m_second, result.second, pixels.top(), pixels.bottom());
+    return result;
+}
+
+std::optional<ChartRange> XyChart::rangeOf(const host::NumberSet& maps) const
+{
+    ChartRange result;
+    bool hasAny = false;
+    const auto take = [&](const Direction& direction, auto& ranges) {
+        for (std::size_t i = 0; i < kAxisCount; ++i) {
+            ranges[i] = fitted(direction, i, &maps);
+            hasAny = hasAny || ranges[i].minimum < ranges[i].maximum;
+        }
+    };
+    take(m_first, result.first);
+    take(m_second, result.second);
+    return hasAny ? std::optional(result) : std::nullopt;
+}
+
+ChartView XyChart::view() const
 {
     ChartView view;
     for (std::size_t i = 0; i < kAxisCount; ++i) {

@@ -41,6 +41,7 @@ void FieldScene::clear(const host::Frame* drawn, Fresh reason)
     m_task.reset();
     m_piece = {};
     m_failures.clear();
+    m_probe.clear();
     m_surfaces.clear();
     m_ranges.clear();
     m_streamStart = {};
@@ -389,6 +390,43 @@ vtkBoundingBox FieldScene::bounds() const
     return box;
 }
 
+vtkBoundingBox FieldScene::boundsOf(const host::NumberSet& maps) const
+{
+    vtkBoundingBox box;
+    for (const std::uint32_t map : maps& shownMaps()) {
+        const auto known = m_surfaces.find(map);
+        if (known == m_surfaces.end())
+            continue;
+        for (const PlacedSurface& placed : known->second)
+            if (placed.shape->GetNumberOfPoints() > 0)
+                box.AddBounds(placed.shape->GetBounds());
+    }
+    return box;
+}
+
+std::vector<vtkBoundingBox> FieldScene::boxesOf(const host::NumberSet& maps, std::size_t most) const
+{
+    const host::NumberSet shown = maps & shownMaps();
+    std::vector<vtkBoundingBox> boxes;
+    if (shown.cardinality() > most)
+        boxes.push_back(boundsOf(shown));
+    else
+        for (const std::uint32_t map : shown)
+            boxes.push_back(boundsOf(host::NumberSet::bitmapOf(1, map)));
+    return boxes;
+}
+
+bool FieldScene::hasBoxIn(const std::function<bool(const vtkBoundingBox&)>& test) const
+{
+    for (const auto& [map, surfaces] : m_surfaces)
+        for (const PlacedSurface& placed : surfaces)
+            if (placed.shape->GetNumberOfPoints() > 0
+                && test(vtkBoundingBox(placed.shape->GetBounds())))
+                return true;
+    const CompositeLayer& streams = layer(FieldLayer::Streamtraces);
+    return streams.isVisible() && streams.bounds().IsValid() && test(streams.bounds());
+}
+
 vtkBoundingBox FieldScene::drawnBounds() const
 {
     vtkBoundingBox box = bounds();
@@ -399,15 +437,43 @@ vtkBoundingBox FieldScene::drawnBounds() const
     return box;
 }
 
+bool FieldScene::isSeen(CvlInt64 map, LayerMask layers) const
+{
+    for (std::size_t i = 0; i < kFieldLayerCount; ++i)
+        if ((layers & maskOf(i)) && m_layers[i]->draws(map))
+            return true;
+    return false;
+}
+
+std::optional<SurfacePlace> FieldScene::probe(const PickRay& ray, LayerMask layers)
+{
+    std::vector<SurfaceProbe::Candidate> candidates;
+    for (const auto& [map, surfaces] : m_surfaces) {
+        for (const PlacedSurface& placed : surfaces) {
+            const double entry = ray.entry(*placed.shape);
+            if (entry <= 1.0 && isSeen(map, layers))
+                candidates.push_back({&placed, entry});
+        }
+    }
+    return m_probe.probe(ray, std::move(candidates), frame()->sharedData(), m_groups.variable(1));
+}
+
+std::optional<SurfacePlace> FieldScene::probe(const PickRay& ray)
+{
+    if (!frame())
+        return std::nullopt;
+    const LayerMask outlines = outlineLayers();
+    const auto found = probe(ray, fieldSceneKind().allLayers() & ~outlines);
+    return found || isProbing() ? found : probe(ray, outlines);
+}
+
 FieldScene::Hit FieldScene::nearestHit(const PickRay& ray, LayerMask layers)
 {
     Hit nearest {0, 1.5};
     for (const auto& [map, surfaces] : m_surfaces) {
-        bool isSeen = false;
-        for (std::size_t i = 0; i < kFieldLayerCount; ++i)
-            isSeen = isSeen || ((layers & maskOf(i)) && m_layers[i]->draws(map));
+        const bool isInPicture = isSeen(map, layers);
         for (const PlacedSurface& placed : surfaces) {
-            const double position = isSeen ? ray.hitPosition(*placed.shape) : nearest.position;
+            const double position = isInPicture ? ray.hitPosition(*placed.shape) : nearest.position;
             if (position < nearest.position)
                 nearest = {placed.zone, position};
         }

@@ -8,11 +8,13 @@
 #include "plot/field/scene/pick_ray.h"
 #include "plot/field/scene/scene_piece.h"
 #include "plot/field/scene/stand_in.h"
+#include "plot/field/scene/surface_probe.h"
 #include "plot/field/scene/volume_looks.h"
 
 #include <vtkBoundingBox.h>
 
 #include <array>
+#include <functional>
 #include <map>
 #include <memory>
 #include <unordered_map>
@@ -76,6 +78,12 @@ public:
     bool isStandInShown() const { return m_standIn != nullptr; }
     /// Box round everything that is shown; invalid when nothing is.
     vtkBoundingBox bounds() const;
+    /// Box round what is shown of some maps.
+    vtkBoundingBox boundsOf(const host::NumberSet& maps) const;
+    /// The same round each of them, up to so many; else one box.
+    std::vector<vtkBoundingBox> boxesOf(const host::NumberSet& maps, std::size_t most) const;
+    /// Whether the box of anything that is shown passes a test; the first one that does decides.
+    bool hasBoxIn(const std::function<bool(const vtkBoundingBox&)>& test) const;
     /// The same with what reaches out of that.
     vtkBoundingBox drawnBounds() const;
     /// The zone that is seen along a ray, nearest first; 0 for none. A zone is hit anywhere on its
@@ -84,6 +92,10 @@ public:
     CvlInt64 zoneAt(const PickRay& ray) { return hitOf(ray).zone; }
     /// Where `zoneAt` hits, a little behind the surface, so that it is within the zone.
     std::optional<std::array<double, 3>> placeAt(const PickRay& ray);
+    /// The same with what is known of it, and of the variable of the first contour group there, in
+    /// a moment: nothing while that is being made (isProbing).
+    std::optional<SurfacePlace> probe(const PickRay& ray);
+    bool isProbing() const { return m_probe.isPending(); }
     /// Whether faces may be translucent.
     bool isTranslucent() const;
     /// Where the light comes from, seen from the viewer: to the right, up and towards the viewer.
@@ -153,6 +165,8 @@ private:
     };
     Hit nearestHit(const PickRay& ray, LayerMask layers);
     Hit hitOf(const PickRay& ray);
+    bool isSeen(CvlInt64 map, LayerMask layers) const;
+    std::optional<SurfacePlace> probe(const PickRay& ray, LayerMask layers);
 
     std::shared_ptr<SurfaceCache> m_cache;
     vtkRenderer& m_back;
@@ -169,6 +183,7 @@ private:
     Handed m_handed; ///< while there is a task
     std::map<std::pair<CvlInt64, std::size_t>, Failure> m_failures; ///< by map and layer
     ScenePiece m_piece; ///< the last that came back
+    SurfaceProbe m_probe;
     std::unordered_map<vtkProp*, std::int64_t> m_costs;
     std::unique_ptr<StandIn> m_standIn; ///< null until it is needed, and after a change
 };

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/scene/pick_ray.h"
 
-#include <vtkBoundingBox.h>
-#include <vtkBox.h>
 #include <vtkGenericCell.h>
 #include <vtkMath.h>
 
@@ -17,17 +15,29 @@ static std::array<double, 3> directionOf(const PickRay& ray)
     return direction;
 }
 
-bool PickRay::meetsBox(vtkPolyData& shape) const
+double PickRay::entry(const std::array<double, 3>& low, const std::array<double, 3>& high) const
 {
-    vtkBoundingBox box(shape.GetBounds());
-    box.Inflate(tolerance);
-    double bounds[6];
-    box.GetBounds(bounds);
-    const std::array<double, 3> direction = directionOf(*this);
-    double point[3];
-    double position = 0.0;
-    return shape.GetNumberOfCells() > 0
-        && vtkBox::IntersectBox(bounds, from.data(), direction.data(), point, position) != 0;
+    double first = 0.0;
+    double last = 1.0;
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        const double way = to[axis] - from[axis];
+        const double ends[] = {low[axis] - tolerance - from[axis],
+                               high[axis] + tolerance - from[axis]};
+        if (way == 0.0) {
+            last = ends[0] > 0.0 || ends[1] < 0.0 ? -1.0 : last;
+        } else {
+            first = std::max(first, std::min(ends[0] / way, ends[1] / way));
+            last = std::min(last, std::max(ends[0] / way, ends[1] / way));
+        }
+    }
+    return first <= last ? first : kMiss;
+}
+
+double PickRay::entry(vtkPolyData& shape) const
+{
+    const double* const box = shape.GetBounds();
+    return shape.GetNumberOfCells() > 0 ? entry({box[0], box[2], box[4]}, {box[1], box[3], box[5]})
+                                        : kMiss;
 }
 
 std::vector<PickRay::Seen> PickRay::seenPoints(vtkPolyData& shape) const
@@ -70,33 +80,43 @@ static int typeOf(const Corners& corners)
     return corners.count == 3 ? VTK_TRIANGLE : corners.count == 4 ? VTK_QUAD : VTK_POLYGON;
 }
 
-/// Looks at every cell, since that takes less time than the search tree of a shape that is clicked
-/// once.
+void fillCell(vtkPolyData& shape, const Corners& corners, vtkGenericCell& cell)
+{
+    cell.SetCellType(typeOf(corners));
+    cell.GetPointIds()->SetNumberOfIds(corners.count);
+    cell.GetPoints()->SetDataTypeToDouble();
+    cell.GetPoints()->SetNumberOfPoints(corners.count);
+    for (vtkIdType i = 0; i < corners.count; ++i) {
+        double place[3];
+        shape.GetPoint(corners.points[i], place);
+        cell.GetPointIds()->SetId(i, corners.points[i]);
+        cell.GetPoints()->SetPoint(i, place);
+    }
+}
+
+double PickRay::position(vtkPolyData& shape, const Corners& corners, vtkGenericCell& room) const
+{
+    fillCell(shape, corners, room);
+    double position = 0.0;
+    double point[3];
+    double parametric[3];
+    int part = 0;
+    return room.IntersectWithLine(from.data(), to.data(), tolerance, position, point, parametric,
+                                  part)
+        ? position
+        : kMiss;
+}
+
 double PickRay::hitPosition(vtkPolyData& shape) const
 {
-    double nearest = 2.0; // a miss
-    if (!meetsBox(shape))
+    double nearest = kMiss;
+    if (entry(shape) > 1.0)
         return nearest;
     const std::vector<Seen> points = seenPoints(shape);
     vtkNew<vtkGenericCell> cell;
     forEachCell(shape, [&](vtkIdType, const Corners& corners) {
-        if (!mayHit(corners, points))
-            return;
-        cell->SetCellType(typeOf(corners));
-        cell->GetPointIds()->SetNumberOfIds(corners.count);
-        cell->GetPoints()->SetDataTypeToDouble();
-        cell->GetPoints()->SetNumberOfPoints(corners.count);
-        for (vtkIdType i = 0; i < corners.count; ++i) {
-            cell->GetPointIds()->SetId(i, i);
-            cell->GetPoints()->SetPoint(i, shape.GetPoint(corners.points[i]));
-        }
-        double position = 0.0;
-        double point[3];
-        double parametric[3];
-        int part = 0;
-        if (cell->IntersectWithLine(from.data(), to.data(), tolerance, position, point, parametric,
-                                    part))
-            nearest = std::min(nearest, position);
+        if (mayHit(corners, points))
+            nearest = std::min(nearest, position(shape, corners, *cell));
     });
     return nearest;
 }

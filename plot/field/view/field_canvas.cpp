@@ -27,7 +27,7 @@ static constexpr int kSamples = 8;
 static constexpr int kRestMilliseconds = 200; ///< without a movement, until the hand rests
 static constexpr std::int64_t kFirstBudget = kLargestPiece;
 static constexpr double kPartSeconds = 0.1; ///< for a part of a large picture
-static constexpr double kMovingSeconds = 0.12; ///< for a picture while the view is moved
+static constexpr double kMovingSeconds = 0.1; ///< for a picture while the view is moved
 /// Software renderers leave holes in lines when they smooth by samples; there the picture at rest
 /// is drawn with twice the pixels each way, and made smaller.
 static constexpr int kSoftwareSamples = 2;
@@ -54,9 +54,10 @@ protected:
 class FieldCanvas::Overlay : public QWidget
 {
 public:
-    Overlay(FieldView& view, QWidget* parent)
+    Overlay(FieldView& view, const host::NumberSet& outlined, QWidget* parent)
         : QWidget(parent)
         , m_view(view)
+        , m_outlined(outlined)
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setAttribute(Qt::WA_NoSystemBackground);
@@ -67,10 +68,12 @@ protected:
     {
         QPainter painter(this);
         m_view.paintDecorations(painter);
+        m_view.paintOutlines(painter, m_outlined);
     }
 
 private:
     FieldView& m_view;
+    const host::NumberSet& m_outlined;
 };
 
 FieldCanvas::FieldCanvas(QWidget* parent)
@@ -131,7 +134,7 @@ void FieldCanvas::makeWidgets()
             [](vtkObject*, unsigned long, void* canvas, void*) {
                 static_cast<FieldCanvas*>(canvas)->m_isLetGo = true;
             });
-    m_overlay = new Overlay(m_view, m_widget);
+    m_overlay = new Overlay(m_view, m_outlined, m_widget);
 }
 
 /// The interactor wishes a picture while it turns the view, from the first pixel on, and once more
@@ -160,6 +163,46 @@ void FieldCanvas::setView(const std::any& view)
     m_view.setFlat(drawn && drawn->plotType() == PlotType_Field2D);
     const auto* const camera = std::any_cast<CameraState>(&view);
     m_view.setCamera(camera ? *camera : CameraState());
+}
+
+void FieldCanvas::zoomToBox(const QRectF& box)
+{
+    m_view.zoomToBox(box);
+}
+
+bool FieldCanvas::zoomToMaps(const host::NumberSet& maps)
+{
+    const vtkBoundingBox box = scene().boundsOf(maps);
+    if (box.IsValid())
+        m_view.zoomTo(box);
+    return box.IsValid();
+}
+
+void FieldCanvas::lookFrom(ViewPreset preset)
+{
+    switch (preset) {
+    case ViewPreset::X: m_view.lookFrom({1, 0, 0}, {0, 0, 1}); break;
+    case ViewPreset::Y: m_view.lookFrom({0, -1, 0}, {0, 0, 1}); break;
+    case ViewPreset::Z: m_view.lookFrom({0, 0, 1}, {0, 1, 0}); break;
+    case ViewPreset::Corner: m_view.lookFrom(CameraState().position, CameraState().viewUp); break;
+    }
+}
+
+void FieldCanvas::setParallel(bool isParallel)
+{
+    m_view.setParallel(isParallel);
+}
+
+bool FieldCanvas::seesSomething() const
+{
+    return !m_view.scene().bounds().IsValid() || m_view.seesSomething();
+}
+
+void FieldCanvas::setOutlined(const host::NumberSet& maps)
+{
+    m_outlined = maps;
+    if (m_overlay)
+        m_overlay->update();
 }
 
 void FieldCanvas::sceneChanged(const host::StateEvent& event)

@@ -39,6 +39,17 @@ public:
     }
     std::any view() const override { return m_view.camera(); }
     void setView(const std::any& view) override;
+    void zoomToBox(const QRectF& box) override;
+    bool zoomToMaps(const host::NumberSet& maps) override;
+    bool canTurn() const override { return m_widget && !m_view.isFlat(); }
+    bool canZoomToBox() const override { return m_widget != nullptr; }
+    void lookFrom(ViewPreset preset) override;
+    bool isParallel() const override { return m_view.isParallel(); }
+    void setParallel(bool isParallel) override;
+    bool seesSomething() const override;
+    QString probe(const QPointF& place) override { return m_view.probe(place); }
+    bool isProbing() const override { return m_view.isProbing(); }
+    void setOutlined(const host::NumberSet& maps) override;
 
     /// From where the plot is seen, for tests and diagnosis.
     FieldView& fieldView() { return m_view; }
@@ -79,6 +90,7 @@ private:
     FieldView m_view;
     QVTKOpenGLNativeWidget* m_widget = nullptr; // not owned; null without OpenGL
     QWidget* m_overlay = nullptr; // not owned
+    host::NumberSet m_outlined; ///< maps
     vtkSmartPointer<vtkInteractorStyle> m_style; ///< turns the view in space
     bool m_isLetGo = false; ///< just now
     int m_heldLegend = 0; ///< contour group; 0 while none is moved

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/view/field_view.h"
 
+#include "plot/field/view/camera_fit.h"
 #include "plot/field/view/legend.h"
 
 #include <QPainter>
 
 #include <vtkCamera.h>
 #include <vtkMath.h>
-#include <vtkMatrix4x4.h>
 #include <vtkRenderWindow.h>
 
 #include <algorithm>
@@ -15,7 +15,7 @@
 
 namespace corvala::plot {
 
-static constexpr double kFitMargin = 1.06; ///< of what is shown, so that lines at the rim are whole
+static constexpr double kAfar = 100.0; ///< of the depth of what is seen; more would round
 static constexpr double kPickPixels = 4.0;
 
 /// How many times what is translucent is drawn, each time for the nearest and the farthest faces
@@ -69,22 +69,13 @@ void FieldView::attach(vtkRenderWindow* window)
 void FieldView::setFlat(bool flat)
 {
     m_flat = flat;
-    m_back->GetActiveCamera()->SetParallelProjection(flat);
+    m_back->GetActiveCamera()->SetParallelProjection(flat || m_isParallel);
 }
 
 void FieldView::setSize(const QSize& size, double magnification)
 {
     m_magnification = magnification;
     m_size = size.expandedTo({1, 1});
-}
-
-double FieldView::pixelsPerUnit() const
-{
-    vtkCamera* const camera = m_back->GetActiveCamera();
-    const double halfHeight = m_flat
-        ? camera->GetParallelScale()
-        : camera->GetDistance() * std::tan(vtkMath::RadiansFromDegrees(camera->GetViewAngle() / 2));
-    return m_layout.plot.height() / (2.0 * std::max(halfHeight, 1e-300));
 }
 
 void FieldView::layOutPlot(double yTexts)
@@ -148,47 +139,6 @@ void FieldView::showGrid(const vtkBoundingBox& box)
                 m_magnification * std::max(1.0, m_layout.font / 16.0));
 }
 
-void FieldView::placeCamera()
-{
-    if (!m_isFitted || !m_fitBox.IsValid())
-        return;
-    if (m_flat)
-        fitFlat(m_axes.seen(m_fitBox));
-    else
-        fitSpace(m_axes.seen(m_fitBox));
-}
-
-void FieldView::fitFlat(const vtkBoundingBox& box)
-{
-    double center[3];
-    double lengths[3];
-    box.GetCenter(center);
-    box.GetLengths(lengths);
-    const double aspect = m_layout.plot.width() / m_layout.plot.height();
-    for (const std::size_t axis : {0, 1}) // a range that was set is shown as it is
-        lengths[axis] *= m_axes.ranges[axis] ? 1.0 : kFitMargin;
-    const double halfHeight = std::max(lengths[1], lengths[0] / aspect) / 2;
-    const double top = box.GetMaxPoint()[2];
-    vtkCamera* const camera = m_back->GetActiveCamera();
-    camera->SetFocalPoint(center[0], center[1], 0.0);
-    camera->SetPosition(center[0], center[1], 2.0 * top + 10.0);
-    camera->SetViewUp(0.0, 1.0, 0.0);
-    camera->SetParallelScale(halfHeight > 0.0 ? halfHeight : 1.0);
-}
-
-static AxisDirections axisDirections(vtkCamera& camera)
-{
-    vtkMatrix4x4* const matrix = camera.GetViewTransformMatrix();
-    AxisDirections directions;
-    for (int axis = 0; axis < 3; ++axis) {
-        for (int part = 0; part < 3; ++part) {
-            directions[static_cast<std::size_t>(axis)][static_cast<std::size_t>(part)] =
-                matrix->GetElement(part, axis);
-        }
-    }
-    return directions;
-}
-
 ViewScale FieldView::viewScale() const
 {
     vtkCamera* const camera = m_back->GetActiveCamera();
@@ -201,96 +151,16 @@ ViewScale FieldView::viewScale() const
     if (m_flat)
         return scale;
     const double* const range = camera->GetClippingRange();
-    scale.nearness = 1.0 / (scale.pixelsPerUnit * camera->GetDistance());
-    scale.depthSlope = (range[1] + range[0]) / (range[1] - range[0]);
-    const AxisDirections directions = axisDirections(*camera);
+    const double depth = range[1] - range[0];
+    // Seen in parallel is seen from afar.
+    scale.depthSlope = m_isParallel ? kAfar : (range[1] + range[0]) / depth;
+    scale.nearness =
+        1.0 / (scale.pixelsPerUnit * (m_isParallel ? kAfar * depth / 2 : camera->GetDistance()));
+    const AxisDirections directions = directionsOfAxes(*camera);
     for (std::size_t axis = 0; axis < 3; ++axis)
         for (std::size_t part = 0; part < 3; ++part)
             scale.axes[axis][part] = static_cast<float>(directions[axis][part]);
     return scale;
-}
-
-/// Corners of a box from its centre: to the right, up and towards the viewer.
-static std::array<std::array<double, 3>, 8> seenCorners(const vtkBoundingBox& box,
-                                                        vtkCamera& camera)
-{
-    const AxisDirections directions = axisDirections(camera);
-    double lengths[3];
-    box.GetLengths(lengths);
-    std::array<std::array<double, 3>, 8> corners {};
-    for (std::size_t corner = 0; corner < corners.size(); ++corner)
-        for (std::size_t axis = 0; axis < 3; ++axis)
-            for (std::size_t part = 0; part < 3; ++part)
-                corners[corner][part] +=
-                    directions[axis][part] * lengths[axis] * ((corner >> axis) & 1 ? 0.5 : -0.5);
-    return corners;
-}
-
-/// Moves the corners so that they lie in the middle of what is seen from `distance`.
-static void centre(std::array<std::array<double, 3>, 8>& corners, double distance,
-                   std::array<double, 2>& moved)
-{
-    for (std::size_t part = 0; part < 2; ++part) {
-        const auto slope = [&](const auto& corner) {
-            return corner[part] / std::max(distance - corner[2], 1e-9 * distance);
-        };
-        double lowest = slope(corners[0]);
-        double highest = lowest;
-        for (const auto& corner : corners) {
-            lowest = std::min(lowest, slope(corner));
-            highest = std::max(highest, slope(corner));
-        }
-        const double by = -distance * (lowest + highest) / 2;
-        moved[part] += by;
-        for (auto& corner : corners)
-            corner[part] += by;
-    }
-}
-
-/// Size of what is shown when axes stand round it.
-static QSizeF usedSize(const FieldLayout& layout)
-{
-    return (layout.plot.size() - 2.0 * spaceAxesMargin(layout.font))
-        .expandedTo(layout.plot.size() / 2.0);
-}
-
-void FieldView::fitSpace(const vtkBoundingBox& box)
-{
-    constexpr int kRounds = 4;
-    vtkCamera* const camera = m_back->GetActiveCamera();
-    camera->SetFocalPoint(0.0, 0.0, 0.0);
-    camera->SetPosition(0.5, -1.0, 0.6);
-    camera->SetViewUp(0.0, 0.0, 1.0);
-    const double slope = std::tan(vtkMath::RadiansFromDegrees(camera->GetViewAngle() / 2));
-    const QSizeF used = usedSize(m_layout);
-    const double slopes[] = {slope * used.width() / m_layout.plot.height(),
-                             slope * used.height() / m_layout.plot.height()};
-    auto corners = seenCorners(box, *camera);
-    double distance = 1.0;
-    std::array<double, 2> moved {};
-    for (int round = 0; round < kRounds; ++round) {
-        // Far enough away for each corner to lie inside the picture.
-        distance = box.GetMaxLength() > 0.0 ? 1e-6 * box.GetMaxLength() : 1.0;
-        for (const auto& corner : corners)
-            for (const int part : {0, 1})
-                distance =
-                    std::max(distance,
-                             corner[2]
-                                 + kFitMargin * std::abs(corner[static_cast<std::size_t>(part)])
-                                     / slopes[part]);
-        if (round + 1 < kRounds)
-            centre(corners, distance, moved);
-    }
-    const auto directions = axisDirections(*camera);
-    double focalPoint[3];
-    double position[3];
-    box.GetCenter(focalPoint);
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-        focalPoint[axis] -= moved[0] * directions[axis][0] + moved[1] * directions[axis][1];
-        position[axis] = focalPoint[axis] + distance * directions[axis][2];
-    }
-    camera->SetFocalPoint(focalPoint);
-    camera->SetPosition(position);
 }
 
 CameraState FieldView::camera() const
@@ -303,6 +173,12 @@ CameraState FieldView::camera() const
     camera->GetFocalPoint(state.focalPoint.data());
     camera->GetViewUp(state.viewUp.data());
     state.parallelScale = camera->GetParallelScale();
+    state.isParallel = m_isParallel;
+    if (m_isFitted && !m_flat) {
+        state.focalPoint = {};
+        state.position = m_fitFrom;
+        state.viewUp = m_fitUp;
+    }
     return state;
 }
 
@@ -311,11 +187,16 @@ void FieldView::setCamera(const CameraState& state)
     m_isFitted = state.isFitted;
     m_fitBox = state.fitBox;
     m_followsScene = !m_fitBox.IsValid();
+    m_isParallel = state.isParallel;
+    const CameraState& fitted = m_isFitted && !m_flat ? state : CameraState();
+    vtkMath::Subtract(fitted.position.data(), fitted.focalPoint.data(), m_fitFrom.data());
+    m_fitUp = fitted.viewUp;
     vtkCamera* const camera = m_back->GetActiveCamera();
     camera->SetPosition(state.position.data());
     camera->SetFocalPoint(state.focalPoint.data());
     camera->SetViewUp(state.viewUp.data());
     camera->SetParallelScale(state.parallelScale);
+    camera->SetParallelProjection(m_flat || m_isParallel);
 }
 
 PlaneWindow FieldView::planeWindow() const
@@ -332,10 +213,17 @@ SpaceView FieldView::spaceView() const
 {
     vtkCamera* const camera = m_back->GetActiveCamera();
     SpaceView view;
-    view.directions = axisDirections(*camera);
+    view.directions = directionsOfAxes(*camera);
     camera->GetPosition(view.eye.data());
-    view.pixelsPerSlope = m_layout.plot.height() / 2
-        / std::tan(vtkMath::RadiansFromDegrees(camera->GetViewAngle() / 2));
+    view.pixelsPerSlope = m_layout.plot.height() / 2 / slopeOfView(*camera);
+    if (!m_isParallel)
+        return view;
+    constexpr double kTimes = 1e5; // as far away as what is seen is large
+    const double distance =
+        kTimes * std::max(camera->GetParallelScale(), m_scene->bounds().GetMaxLength());
+    for (std::size_t axis = 0; axis < 3; ++axis)
+        view.eye[axis] += distance * view.directions[axis][2];
+    view.pixelsPerSlope = pixelsPerUnit() * (distance + camera->GetDistance());
     return view;
 }
 
@@ -369,27 +257,6 @@ std::optional<double> FieldView::seenEnd(int number) const
     const double set = !range ? ends[number] : number % 2 == 0 ? range->first : range->second;
     const double seen = window.yMaximum - window.yMinimum;
     return std::abs(ends[number] - set) < kSame * seen ? set : ends[number];
-}
-
-void FieldView::pan(const QPointF& pixels)
-{
-    vtkCamera* const camera = m_back->GetActiveCamera();
-    const double unit = 1.0 / pixelsPerUnit();
-    double place[3];
-    camera->GetFocalPoint(place);
-    camera->SetFocalPoint(place[0] - pixels.x() * unit, place[1] + pixels.y() * unit, place[2]);
-    camera->GetPosition(place);
-    camera->SetPosition(place[0] - pixels.x() * unit, place[1] + pixels.y() * unit, place[2]);
-    m_isFitted = false;
-}
-
-void FieldView::magnify(double factor, const QPointF& center)
-{
-    const QPointF toCenter = m_layout.plot.center() - center;
-    pan(toCenter);
-    vtkCamera* const camera = m_back->GetActiveCamera();
-    camera->SetParallelScale(camera->GetParallelScale() / factor);
-    pan(-toCenter);
 }
 
 void FieldView::paintDecorations(QPainter& painter)

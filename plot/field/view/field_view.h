@@ -27,10 +27,12 @@ struct CameraState
 {
     bool isFitted = true; ///< shows all of `fitBox`, in a window of any size
     vtkBoundingBox fitBox; ///< invalid: everything that there is
-    std::array<double, 3> position {{0, 0, 1}};
+    /// What is fitted in space is seen from the direction in which this lies of the focal point.
+    std::array<double, 3> position {{0.5, -1.0, 0.6}};
     std::array<double, 3> focalPoint {{0, 0, 0}};
-    std::array<double, 3> viewUp {{0, 1, 0}};
-    double parallelScale = 1.0;
+    std::array<double, 3> viewUp {{0, 0, 1}};
+    double parallelScale = 1.0; ///< half the height of what is seen in parallel
+    bool isParallel = false; ///< in space; a flat plot always is
 };
 
 /// A scene with its camera, in a render window of its owner: the part of a field plot that is the
@@ -62,6 +64,17 @@ public:
     /// Moves in a flat plot by pixels, and magnifies about a point of the picture (from top left).
     void pan(const QPointF& pixels);
     void magnify(double factor, const QPointF& center);
+    /// Shows everything in space from a direction, with another one upwards.
+    void lookFrom(const std::array<double, 3>& direction, const std::array<double, 3>& up);
+    /// In space; what is in the middle keeps its size.
+    void setParallel(bool isParallel);
+    bool isParallel() const { return m_isParallel; }
+    /// Fills the plot with a part of the picture, from top left, which may be larger than the plot.
+    void zoomToBox(const QRectF& box);
+    /// The same with a box in the coordinates of the scene, in the direction of the present view.
+    void zoomTo(const vtkBoundingBox& box);
+    /// False when all that is drawn lies beside what is seen.
+    bool seesSomething() const;
     /// The user took hold of the camera.
     void setMoved() { m_isFitted = false; }
     /// Shows what was fitted last, as when the user moves it no longer.
@@ -84,6 +97,9 @@ public:
     /// Axes, legends and remarks, over the drawing.
     void paintDecorations(QPainter& painter);
 
+    /// Boxes round what is drawn of some maps, over the drawing.
+    void paintOutlines(QPainter& painter, const host::NumberSet& maps) const;
+
     /// As of the scene; for the ranges of axes and the places of legends what is seen.
     std::optional<double> proposal(style::Key value, int index) const;
 
@@ -91,6 +107,10 @@ public:
     CvlInt64 zoneAt(const QPointF& point);
     /// Coordinates of what is seen there, as FieldScene::placeAt.
     std::optional<std::array<double, 3>> placeAt(const QPointF& point);
+    /// What there is to know of that point in a line, such as coordinates, the zone and a value;
+    /// empty beside the plot. Of a surface nothing yet while isProbing.
+    QString probe(const QPointF& point);
+    bool isProbing() const { return m_scene->isProbing(); }
     /// The contour group of the legend there; 0 for none.
     int legendAt(const QPointF& point) const;
     /// Moves the legend of a group within the picture, until the next `prepare`.
@@ -114,6 +134,9 @@ private:
     void placeCamera();
     void fitFlat(const vtkBoundingBox& box);
     void fitSpace(const vtkBoundingBox& box);
+    void standAt(double distance); ///< from what is looked at
+    void standAway(double least); ///< in front of everything
+    std::array<double, 3> middleOf(const QRectF& box);
 
     vtkNew<vtkRenderer> m_paper; ///< the whole window; the others draw in the plot only
     vtkNew<vtkRenderer> m_back;
@@ -129,6 +152,9 @@ private:
     bool m_followsScene = true; ///< the fit still grows with a scene that is being made
     bool m_widens = false; ///< the same, but it keeps what it had
     vtkBoundingBox m_fitBox;
+    bool m_isParallel = false;
+    std::array<double, 3> m_fitFrom = CameraState().position; ///< a direction
+    std::array<double, 3> m_fitUp = CameraState().viewUp;
     QSize m_size {1, 1};
     double m_magnification = 1.0;
     FieldLayout m_layout;
