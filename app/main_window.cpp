@@ -186,7 +186,10 @@ void MainWindow::connectCanvas()
     connect(view, &plot::FrameView::lineMapPicked, this, &MainWindow::pick);
     auto* const menu = new PlotMenu(*this, *view, *m_views);
     connect(menu, &PlotMenu::pickWanted, this, &MainWindow::pick);
-    connect(view, &plot::FrameView::probed, m_probe, &QLabel::setText);
+    connect(view, &plot::FrameView::probed, this, [this](const QString& text) {
+        m_probe->setText(text);
+        m_summary->setVisible(text.isEmpty()); // room
+    });
     connect(view, &plot::FrameView::workEnded, this, &MainWindow::awaitPicture);
     connect(view, &plot::FrameView::completed, this, [this, view] {
         m_details->refresh(); // what follows from the data is known

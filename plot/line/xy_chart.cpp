@@ -403,7 +403,8 @@ std::optional<ChartRange> XyChart::rangeIn(const QRectF& pixels) const
     const auto take = [](const Direction& direction, auto& ranges, double one, double other) {
         for (std::size_t i = 0; i < kAxisCount; ++i) {
             const QCPAxis& axis = direction.axes[i].shown();
-            const auto [low, high] = std::minmax(axis.pixelToCoord(one), axis.pixelToCoord(other));
+            const auto [low, high] =
+                std::minmax({axis.pixelToCoord(one), axis.pixelToCoord(other)});
             if (ranges[i].minimum < ranges[i].maximum)
                 ranges[i] = withinLimits({low, high});
         }

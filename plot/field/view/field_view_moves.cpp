@@ -2,8 +2,6 @@
 #include "plot/field/view/camera_fit.h"
 #include "plot/field/view/field_view.h"
 
-#include <QPolygonF>
-
 #include <vtkCamera.h>
 #include <vtkMath.h>
 
@@ -166,31 +164,38 @@ void FieldView::zoomTo(const vtkBoundingBox& box)
         fitSpace(box);
 }
 
+/// Whether a box lies on the wrong side of one of the planes round what is seen of space.
+static bool isBeside(const vtkBoundingBox& box, const SpaceView& view, const QSizeF& plot)
+{
+    constexpr std::size_t kPlanes = 5;
+    const double across = plot.width() / 2 / view.pixelsPerSlope;
+    const double up = plot.height() / 2 / view.pixelsPerSlope;
+    std::array<bool, kPlanes> isBeyond {true, true, true, true, true};
+    for (int corner = 0; corner < 8; ++corner) {
+        Point place;
+        box.GetCorner(corner, place.data());
+        const Point seen = view.fromEye(place);
+        const double depth = -seen[2];
+        const std::array<double, kPlanes> beyond {seen[0] - across * depth,
+                                                  -seen[0] - across * depth, seen[1] - up * depth,
+                                                  -seen[1] - up * depth, -depth};
+        for (std::size_t plane = 0; plane < kPlanes; ++plane)
+            isBeyond[plane] = isBeyond[plane] && beyond[plane] > 0.0;
+    }
+    return std::find(isBeyond.begin(), isBeyond.end(), true) != isBeyond.end();
+}
+
 /// Boxes are seen or not; what is in a box may yet lie beside.
 bool FieldView::seesSomething() const
 {
-    const QRectF& plot = m_layout.plot;
-    if (m_flat) {
-        const PlaneWindow window = planeWindow();
-        return m_scene->hasBoxIn([&](const vtkBoundingBox& box) {
-            return box.GetBound(0) <= window.xMaximum && box.GetBound(1) >= window.xMinimum
-                && box.GetBound(2) <= window.yMaximum && box.GetBound(3) >= window.yMinimum;
-        });
-    }
+    const QSizeF plot = m_layout.plot.size();
+    const PlaneWindow window = planeWindow();
     const SpaceView view = spaceView();
     return m_scene->hasBoxIn([&](const vtkBoundingBox& box) {
-        QPolygonF corners;
-        for (int corner = 0; corner < 8; ++corner) {
-            Point place;
-            box.GetCorner(corner, place.data());
-            const auto seen = view.project(place, plot);
-            if (!seen) // beside the viewer
-                return true;
-            corners << *seen;
-        }
-        const QRectF seen = corners.boundingRect();
-        return seen.left() <= plot.right() && seen.right() >= plot.left()
-            && seen.top() <= plot.bottom() && seen.bottom() >= plot.top();
+        if (!m_flat)
+            return !isBeside(box, view, plot);
+        return box.GetBound(0) <= window.xMaximum && box.GetBound(1) >= window.xMinimum
+            && box.GetBound(2) <= window.yMaximum && box.GetBound(3) >= window.yMinimum;
     });
 }
 

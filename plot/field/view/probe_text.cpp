@@ -11,7 +11,7 @@ namespace corvala::plot {
 
 static QString shown(double value)
 {
-    return QString::number(value, 'g', 6);
+    return QString::number(value, 'g', 5);
 }
 
 static QString counted(std::int64_t number)

@@ -16,12 +16,18 @@ namespace corvala::plot {
 
 using Point = std::array<double, 3>;
 
-std::optional<QPointF> SpaceView::project(const Point& point, const QRectF& plot) const
+Point SpaceView::fromEye(const Point& point) const
 {
-    Point seen {}; // to the right, up and towards the viewer
+    Point seen {};
     for (std::size_t axis = 0; axis < 3; ++axis)
         for (std::size_t part = 0; part < 3; ++part)
             seen[part] += directions[axis][part] * (point[axis] - eye[axis]);
+    return seen;
+}
+
+std::optional<QPointF> SpaceView::project(const Point& point, const QRectF& plot) const
+{
+    const Point seen = fromEye(point);
     if (!(seen[2] < 0.0))
         return std::nullopt;
     return plot.center()

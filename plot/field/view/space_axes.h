@@ -19,6 +19,8 @@ struct SpaceView
     std::array<double, 3> eye {{0, 0, 1}};
     double pixelsPerSlope = 1.0; ///< pixels from the middle of a point as far aside as it is away
 
+    /// A point from the viewer: to the right, up and towards the viewer.
+    std::array<double, 3> fromEye(const std::array<double, 3>& point) const;
     /// Where a point lies in the plot; nothing when it is not in front of the viewer.
     std::optional<QPointF> project(const std::array<double, 3>& point, const QRectF& plot) const;
 };
