@@ -73,6 +73,8 @@ static void attach(const ReadResult& result, const ReadRequest& request)
                                        std::max<CvlInt64>(1, static_cast<CvlInt64>(lines.size()))});
     for (const host::SetStyle& value : firstLook(*document.activeFrame()))
         document.execute(value);
+    if (lines.empty())
+        lines = firstFieldLines(*result.data);
     for (const host::SetStyle& value : firstLook(lines))
         document.execute(value);
 }

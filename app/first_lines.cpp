@@ -4,6 +4,7 @@
 #include "app/column_course.h"
 #include "app/error_columns.h"
 
+#include <vtkBoundingBox.h>
 #include <vtkDataArray.h>
 #include <vtkDataSet.h>
 #include <vtkPointData.h>
@@ -166,6 +167,41 @@ std::vector<FirstLine> firstLines(const host::DataSet& data)
         lines.insert(lines.end(), zones[i].begin(),
                      zones[i].begin() + static_cast<std::ptrdiff_t>(shares[i]));
     return lines;
+}
+
+/// The axis along which the first points of a zone reach farthest.
+static int longestAxis(vtkDataSet& zone, vtkIdType points)
+{
+    vtkBoundingBox box;
+    for (vtkIdType i = 0; i < points; ++i)
+        box.AddPoint(zone.GetPoint(i));
+    double lengths[3];
+    box.GetLengths(lengths);
+    return static_cast<int>(std::max_element(lengths, lengths + 3) - lengths);
+}
+
+std::vector<FirstLine> firstFieldLines(const host::DataSet& data)
+{
+    constexpr std::int64_t kMostPoints = 1'000'000;
+    constexpr std::int64_t kLookedAt = 10'000;
+    const int shown = data.contourVariables.empty() ? 0 : data.contourVariables.front();
+    if (shown == 0 || data.zones.empty() || data.zone(1).pointCount > kMostPoints)
+        return {};
+    const auto zone = data.geometry(1);
+    if (!zone || zone->GetNumberOfPoints() == 0 || !data.values(1, shown).array)
+        return {};
+    const host::ZoneInfo& info = data.zone(1);
+    const std::int64_t run = info.ordered ? info.dimensions[0] : kLookedAt;
+    const int axis =
+        longestAxis(*zone, std::min<vtkIdType>(run, std::min(kLookedAt, info.pointCount)));
+    const auto found =
+        std::find_if(data.variables.begin(), data.variables.end(), [axis](const auto& variable) {
+            return variable.isCoordinate() && variable.component == axis;
+        });
+    if (found == data.variables.end())
+        return {};
+    const int over = static_cast<int>(found - data.variables.begin()) + 1;
+    return {{1, over, shown, 1, false}};
 }
 
 bool havePlaces(const host::DataSet& data)

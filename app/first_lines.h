@@ -24,6 +24,11 @@ struct FirstLine
 /// the numbers.
 std::vector<FirstLine> firstLines(const host::DataSet& data);
 
+/// The line of an XY plot of a field: the first contour variable along I of the first zone, over
+/// the coordinate that goes farthest there. None without a contour variable in that zone, or when
+/// finding out would take long.
+std::vector<FirstLine> firstFieldLines(const host::DataSet& data);
+
 /// Whether the data are tables whose rows are points of a field plot.
 bool havePlaces(const host::DataSet& data);
 

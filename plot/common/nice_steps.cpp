@@ -30,7 +30,12 @@ std::vector<double> niceTicks(double minimum, double maximum, int count)
     return ticks;
 }
 
-QString tickText(double value, double step)
+QString withMinusSigns(QString number)
+{
+    return number.replace(QLatin1Char('-'), QChar(0x2212));
+}
+
+static QString plainTickText(double value, double step)
 {
     constexpr int kMostDigits = 12;
     const double magnitude = std::max(std::abs(value), step);
@@ -44,6 +49,11 @@ QString tickText(double value, double step)
         static_cast<int>(std::floor(std::log10(magnitude)) - std::floor(std::log10(step)));
     const QString scientific = QString::number(value, 'e', std::clamp(digits, 0, kMostDigits));
     return plain.size() < scientific.size() && magnitude >= 1e6 ? plain : scientific;
+}
+
+QString tickText(double value, double step)
+{
+    return withMinusSigns(plainTickText(value, step));
 }
 
 } // namespace corvala::plot

@@ -91,10 +91,12 @@ QRectF BarChart::bar(std::size_t point, const LineView& view, double ratio) cons
     const double last = (isUpright ? seen.high : seen.right) + beyond;
     const double zero = std::clamp(base(view), first, last);
     const double end = std::clamp(isUpright ? value.y() : value.x(), first, last);
+    const double shift = m_style.shift * ratio;
     const QRectF bar = isUpright
         ? QRectF(QPointF(value.x() - width / 2.0, zero), QPointF(value.x() + width / 2.0, end))
         : QRectF(QPointF(zero, value.y() - width / 2.0), QPointF(end, value.y() + width / 2.0));
-    const QRectF shown = bar.normalized();
+    const QRectF shown =
+        bar.normalized().translated(isUpright ? shift : 0.0, isUpright ? 0.0 : shift);
     const QRectF all(QPointF(seen.left, seen.low), QPointF(seen.right, seen.high));
     const QRectF reached = all.adjusted(-beyond, -beyond, beyond, beyond);
     return shown.right() < reached.left() || shown.left() > reached.right()
@@ -126,7 +128,7 @@ double BarChart::distance(const LineView& view, const QPointF& pixel, double lim
 
 void BarChart::cover(CoverGrid& grid, const LineView& view) const
 {
-    const double across = m_style.width / 2.0;
+    const double across = m_style.width / 2.0 + std::abs(m_style.shift);
     const double zero = base(view);
     const auto reach = [&](LineBox box) {
         if (m_style.isUpright)

@@ -16,6 +16,7 @@ struct BarStyle
     bool isUpright =
         true; ///< bars stand on 0 of the second axis, else they lie on that of the first
     double width = 10.0;
+    double shift = 0.0; ///< from the point, along the axis that bars stand on
     QColor line;
     double lineWidth = 1.0;
     QColor fill; ///< not valid for none

@@ -4,6 +4,7 @@
 #include "host/document/line_map_name.h"
 #include "plot/common/axis_ticks.h"
 
+#include <QCoreApplication>
 #include <QFontMetricsF>
 
 #include <algorithm>
@@ -40,6 +41,46 @@ static bool isTold(const host::Frame& frame, const host::NumberSet& drawn, const
     return drawn.contains(static_cast<std::uint32_t>(look.entries.front().map));
 }
 
+namespace {
+
+/// The second axes along which lines are drawn, where there are several.
+class SecondAxes
+{
+    Q_DECLARE_TR_FUNCTIONS(corvala::plot::SecondAxes)
+
+public:
+    SecondAxes(const host::Frame& frame, const host::NumberSet& drawn, const ChartLook& chart)
+        : m_chart(chart)
+    {
+        for (const std::uint32_t map : drawn)
+            if (frame.plotType() != PlotType_LinePolar && isSeen(frame, map))
+                m_areUsed[axesOf(frame, map).second] = true;
+    }
+
+    /// What tells the axis of a line, behind its name; empty along the first one.
+    QString mark(std::size_t axis) const
+    {
+        const bool isOpposite = m_chart.second[axis].isOpposite;
+        std::size_t onSide = 0;
+        std::size_t before = 0;
+        for (std::size_t i = 0; i < kAxisCount; ++i) {
+            before += m_areUsed[i] && i < axis ? 1 : 0;
+            onSide += m_areUsed[i] && m_chart.second[i].isOpposite == isOpposite ? 1 : 0;
+        }
+        if (before == 0)
+            return {};
+        if (onSide > 1)
+            return tr(" (axis Y%1)").arg(axis + 1);
+        return isOpposite ? tr(" (right)") : tr(" (left)");
+    }
+
+private:
+    const ChartLook& m_chart;
+    std::array<bool, kAxisCount> m_areUsed {};
+};
+
+} // namespace
+
 LegendLook legendLookOf(const host::Frame& frame, const host::NumberSet& drawn, int height,
                         const ChartLook& chart)
 {
@@ -51,6 +92,7 @@ LegendLook legendLookOf(const host::Frame& frame, const host::NumberSet& drawn, 
     look.hasBox = frame.isOn(style::lineLegend.showBox);
     if (!frame.isOn(style::lineLegend.automaticPlace))
         look.corner = {frame.real(style::lineLegend.x), frame.real(style::lineLegend.y)};
+    const SecondAxes axes(frame, drawn, chart);
     std::unordered_set<std::string> names;
     for (CvlInt64 map = 1; map <= frame.lineMapCount(); ++map) {
         const int mode = frame.lineInteger(style::lineMap.assign.showInLegend, map);
@@ -66,7 +108,8 @@ LegendLook legendLookOf(const host::Frame& frame, const host::NumberSet& drawn, 
         ++look.count;
         if (isKept)
             look.entries.push_back(
-                {map, QString::fromStdString(name), samplesOf({frame, map, height})});
+                {map, QString::fromStdString(name) + axes.mark(axesOf(frame, map).second),
+                 samplesOf({frame, map, height})});
     }
     return isTold(frame, drawn, look, chart.told) ? LegendLook() : look;
 }

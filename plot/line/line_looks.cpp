@@ -22,7 +22,8 @@ LineAxes axesOf(const host::Frame& frame, CvlInt64 map)
 enum Use : unsigned {
     Points = 1, ///< zone, variables, axes and indices, and how the axes are divided
     Curves = 2, ///< how points are joined or fitted
-    Beside = 4 ///< no layer: axes, legend and titles
+    Beside = 4, ///< no layer: axes, legend and titles
+    Joint = 8 ///< shows something of all maps together
 };
 static constexpr SharedStyle kShared[] = {
     {kMap.assign.zone, true, Points},
@@ -58,7 +59,7 @@ struct LineLayerDescription
     }
 };
 static constexpr LineLayerDescription kLayers[] = {
-    {{&style::kBarChartsLayer, Points}, barShape, barSample},
+    {{&style::kBarChartsLayer, Points | Joint}, barShape, barSample},
     {{&style::kErrorBarsLayer, Points}, errorBarShape, errorBarSample},
     {{&style::kLinesLayer, Points | Curves}, curveShape, curveSample},
     {{&style::kSymbolsLayer, Points}, symbolShape, symbolSample},
@@ -79,7 +80,7 @@ const SceneKind& lineSceneKind()
                                       kShared,
                                       std::size(kShared),
                                       0,
-                                      0,
+                                      Joint,
                                       true};
     return kKind;
 }

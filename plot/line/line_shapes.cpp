@@ -291,11 +291,44 @@ LegendSample barSample(const ShownLine& line)
     };
 }
 
+/// Whether bars of two maps stand at the same places.
+static bool standTogether(const host::Frame& frame, CvlInt64 one, CvlInt64 other)
+{
+    const auto isSame = [&](style::Key key) {
+        return frame.lineInteger(key, one) == frame.lineInteger(key, other);
+    };
+    const auto& assign = kMap.assign;
+    const bool isUpright =
+        frame.lineInteger(assign.functionDependency, one) == FunctionDependency_YofX;
+    return isSame(assign.functionDependency)
+        && (isUpright ? isSame(assign.xAxisVar) && isSame(assign.xAxis)
+                      : isSame(assign.yAxisVar) && isSame(assign.yAxis));
+}
+
+/// Bars of several maps at the same places stand side by side: how many widths from the middle.
+/// Those of more maps than can be told apart stand on each other.
+static double turnBeside(const ShownLine& line)
+{
+    constexpr int kMost = 12;
+    int before = 0;
+    int all = 0;
+    for (const std::uint32_t map : line.frame.activeLineMaps()) {
+        const bool hasBars = line.frame.lineInteger(kMap.barCharts.show, map) != 0;
+        if (!hasBars || !standTogether(line.frame, line.map, map))
+            continue;
+        before += map < line.map ? 1 : 0;
+        if (++all > kMost)
+            return 0.0;
+    }
+    return before - (all - 1) / 2.0;
+}
+
 std::shared_ptr<const ChartShape> barShape(const ShownLine& line, const LineGeometry& geometry)
 {
     if (geometry.plane.isPolar)
         return nullptr;
     BarStyle bars = barStyleOf(LineStyle(line));
+    bars.shift = bars.width * turnBeside(line);
     const bool hasZero =
         bars.isUpright ? !geometry.plane.isSecondLogarithmic : !geometry.plane.isFirstLogarithmic;
     return std::make_shared<BarChart>(geometry.places, hasZero, std::move(bars));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/line/number_ticker.h"
 
+#include "plot/common/nice_steps.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -19,6 +21,13 @@ void NumberTicker::generate(const QCPRange& range, const QLocale& locale, QChar 
     if (digits > precision)
         precision = digits < kMost ? static_cast<int>(digits) : kMost;
     QCPAxisTicker::generate(range, locale, formatChar, precision, ticks, subTicks, tickLabels);
+}
+
+QString NumberTicker::getTickLabel(double tick, const QLocale& locale, QChar formatChar,
+                                   int precision)
+{
+    const QString label = QCPAxisTicker::getTickLabel(tick, locale, formatChar, precision);
+    return withMinusSigns(label.left(1)) + label.mid(1);
 }
 
 } // namespace corvala::plot

@@ -12,6 +12,11 @@ public:
     void generate(const QCPRange& range, const QLocale& locale, QChar formatChar, int precision,
                   QVector<double>& ticks, QVector<double>* subTicks,
                   QVector<QString>* tickLabels) override;
+
+protected:
+    /// With a minus sign, but for the exponent, which the axis finds by its hyphen.
+    QString getTickLabel(double tick, const QLocale& locale, QChar formatChar,
+                         int precision) override;
 };
 
 } // namespace corvala::plot

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <tuple>
 #include <utility>
 
 namespace corvala::plot {
@@ -50,6 +51,7 @@ private:
 
     void addAxes(Direction& direction, QCPAxis::AxisType side, QCPAxis::AxisType across);
     void showInUse(Direction& direction, QList<QCPAxis*>& shown);
+    void hideEqual(Direction& direction);
     void followBorders(Direction& direction);
     AxisRange home(const Direction& direction, std::size_t number) const;
     AxisRange fitted(const Direction& direction, std::size_t number,
@@ -279,6 +281,29 @@ void XyChart::updateAxes(bool isComplete)
     };
     fitNew(m_first);
     fitNew(m_second);
+    hideEqual(m_first);
+    hideEqual(m_second);
+}
+
+/// Whether two axes on one side would be drawn alike.
+static bool areAlike(const XyAxis& one, const XyAxis& other)
+{
+    const auto tied = [](const AxisLook& look) {
+        return std::tie(look.title, look.isOfInstants, look.isLogarithmic, look.isReversed,
+                        look.isOpposite);
+    };
+    return tied(one.look) == tied(other.look) && one.look.color == other.look.color
+        && one.shown().range() == other.shown().range();
+}
+
+/// An axis that would only be drawn once more has its lines and no place. It moves with the others.
+void XyChart::hideEqual(Direction& direction)
+{
+    for (std::size_t i = 0; i < kAxisCount; ++i)
+        for (std::size_t j = 0; j < i; ++j)
+            if (direction.axes[j].shown().visible()
+                && areAlike(direction.axes[i], direction.axes[j]))
+                direction.axes[i].shown().setVisible(false);
 }
 
 /// What the plotting library takes for a range.

@@ -650,8 +650,14 @@ std::vector<SceneNote> FieldScene::notes() const
         return {};
     const CompositeLayer& streams = layer(FieldLayer::Streamtraces);
     const bool startsOutside = streams.isVisible() && m_streamStart.isOutside;
-    return notesOn({*drawn, m_groups, shownMaps(), isAllBlanked(),
-                    startsOutside && !streamMaps(*drawn).empty()});
+    NoteFacts facts {*drawn, m_groups, shownMaps(), isAllBlanked(),
+                     startsOutside && !streamMaps(*drawn).empty()};
+    for (int group = 1; group <= style::ContourGroups::kCount && facts.lackingMaps.empty();
+         ++group) {
+        facts.lackingGroup = group;
+        facts.lackingMaps = m_ranges.lacking(*drawn, m_groups, group);
+    }
+    return notesOn(facts);
 }
 
 } // namespace corvala::plot

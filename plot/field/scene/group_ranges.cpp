@@ -51,10 +51,15 @@ std::vector<GroupRanges::Unknown> GroupRanges::unknown(const ShownMap& map,
     return result;
 }
 
+/// Of a zone that does not have the variable.
+static constexpr GroupRanges::Range kLacking {0.0, -1.0, 0.0, -1.0};
+
 GroupRanges::Range GroupRanges::rangeOf(const host::DataSet& data, const Unknown& wanted)
 {
     const host::ZoneValues values = data.values(wanted.zone, wanted.variable);
-    if (!values.array || values.array->GetNumberOfTuples() == 0)
+    if (!values.array)
+        return kLacking;
+    if (values.array->GetNumberOfTuples() == 0)
         return {};
     // The array's own range would be noted in the array, which threads share.
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -122,6 +127,23 @@ GroupRanges::Range GroupRanges::rangeOfAll(const host::Frame& frame, CvlInt64 va
         }
     }
     return all;
+}
+
+std::vector<CvlInt64> GroupRanges::lacking(const host::Frame& frame, const ContourGroups& groups,
+                                           int group) const
+{
+    std::vector<CvlInt64> maps;
+    const CvlInt64 variable = groups.variable(group);
+    for (const auto& [map, contribution] : m_maps) {
+        const auto& used = contribution.groups;
+        if (variable == 0 || std::find(used.begin(), used.end(), group) == used.end())
+            continue;
+        const auto found =
+            m_ranges.find({frame.data()->zone(contribution.zone).sourceIndex, variable});
+        if (found != m_ranges.end() && found->second.count == kLacking.count)
+            maps.push_back(map);
+    }
+    return maps;
 }
 
 bool GroupRanges::update(const host::Frame& frame, ContourGroups& groups)

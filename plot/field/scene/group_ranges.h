@@ -45,6 +45,10 @@ public:
     bool add(const ShownMap& map, const ContourGroups& groups);
     void remove(CvlInt64 map);
 
+    /// The maps that use a group and show a zone without its variable.
+    std::vector<CvlInt64> lacking(const host::Frame& frame, const ContourGroups& groups,
+                                  int group) const;
+
     /// Gives the groups in use the ranges of what was added; true when levels changed.
     bool update(const host::Frame& frame, ContourGroups& groups);
 

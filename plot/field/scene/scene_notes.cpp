@@ -43,6 +43,7 @@ private:
     std::optional<SceneNote> vectors() const;
     std::optional<SceneNote> scatter() const;
     std::optional<SceneNote> inside() const;
+    std::optional<SceneNote> lacking() const;
 
     int number(style::Key key, int index = -1) const { return m_facts.frame.integer(key, index); }
     double real(style::RealKey key, int index = -1) const { return m_facts.frame.real(key, index); }
@@ -389,6 +390,29 @@ std::optional<SceneNote> Notes::inside() const
         host::SetStyle {host::pathOf(kSurfaces), double {SurfacesToPlot_None}, closed}};
 }
 
+/// Zones whose faces are not seen, as they do not have what these are coloured by.
+std::optional<SceneNote> Notes::lacking() const
+{
+    std::vector<CvlInt64> zones;
+    for (const CvlInt64 map : m_facts.lackingMaps) {
+        const ShownMap shown {m_facts.frame, map, m_facts.frame.candidateZone(map)};
+        const bool isShaded = isLayerOn(m_facts.frame, FieldLayer::Shade)
+            && lookOf(FieldLayer::Shade, shown, m_facts.groups);
+        if (!isShaded)
+            zones.push_back(shown.zone);
+    }
+    if (zones.empty())
+        return std::nullopt;
+    return SceneNote {
+        tr("%Ln zone(s) have no values of \"%1\", the variable of contour group %2, "
+           "and are not colored by it: \"%3\" is the first.",
+           nullptr, static_cast<int>(zones.size()))
+            .arg(nameOf(m_facts.groups.variable(m_facts.lackingGroup)))
+            .arg(m_facts.lackingGroup)
+            .arg(QString::fromStdString(m_facts.frame.data()->zone(zones.front()).name)),
+        style::contourGroups.var};
+}
+
 std::vector<SceneNote> Notes::all() const
 {
     using Note = std::optional<SceneNote> (Notes::*)() const;
@@ -396,7 +420,7 @@ std::vector<SceneNote> Notes::all() const
     for (const Note note :
          {&Notes::blanking, &Notes::constraints, &Notes::axes, &Notes::levels, &Notes::lines,
           &Notes::volumes, &Notes::slices, &Notes::isoSurfaces, &Notes::streamtraces,
-          &Notes::points, &Notes::vectors, &Notes::scatter, &Notes::inside})
+          &Notes::points, &Notes::vectors, &Notes::scatter, &Notes::inside, &Notes::lacking})
         if (auto found = (this->*note)())
             notes.push_back(std::move(*found));
     return notes;

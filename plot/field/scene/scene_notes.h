@@ -16,6 +16,8 @@ struct NoteFacts
     const host::NumberSet& maps; ///< that are shown
     bool isAllBlanked; ///< cells are there, and none is left
     bool startsOutside; ///< no streamtrace starts in a cell
+    int lackingGroup = 0; ///< a contour group whose variable lacks in zones that use it; 0 for none
+    std::vector<CvlInt64> lackingMaps = {}; ///< that show these zones
 };
 
 /// What to wonder about, the gravest first; of things of one kind the first one.
