@@ -75,7 +75,7 @@ private:
                            CommandLine::tr("file")};
     const Option m_render {QStringLiteral("render"),
                            CommandLine::tr("Write a picture of the plot, then end: .png, .pdf, "
-                                           ".svg, .jpg or .bmp."),
+                                           ".svg, .tif, .jpg or .bmp."),
                            CommandLine::tr("file")};
     const Option m_save {QStringLiteral("save"),
                          CommandLine::tr("Save the document, then end: .cvdoc."),
@@ -87,6 +87,9 @@ private:
     const Option m_dpi {QStringLiteral("dpi"),
                         CommandLine::tr("Pixels of the picture to an inch (300)."),
                         CommandLine::tr("number")};
+    const Option m_transparent {
+        QStringLiteral("transparent"),
+        CommandLine::tr("Leave the background of the picture out: .png, .pdf, .svg or .tif.")};
     const Option m_plot3d {QStringLiteral("plot3d"),
                            CommandLine::tr("Layout of Plot3D files, such as "
                                            "format=binary,grids=many,endian=big."),
@@ -106,7 +109,8 @@ Parser::Parser()
                         "Data are opened first; then a script is played, a report written, a "
                         "picture drawn, the document saved.\n"
                         "Exit codes: 0 success, 1 failure, 2 wrong usage."));
-    addOptions({m_demo, m_play, m_report, m_render, m_save, m_size, m_dpi, m_plot3d, m_table});
+    addOptions({m_demo, m_play, m_report, m_render, m_save, m_size, m_dpi, m_transparent, m_plot3d,
+                m_table});
     addPositionalArgument(
         QStringLiteral("files"),
         CommandLine::tr("A document, or data files that are opened together, or the folder of "
@@ -126,6 +130,8 @@ QString Parser::text(const Option& option, QString& value) const
 
 QString Parser::check(const Options& options) const
 {
+    if (options.paper == plot::Paper::Transparent && !canBeTransparent(options.picture))
+        return CommandLine::tr("--transparent goes with --render of .png, .pdf, .svg or .tif");
     if (!options.demo.isEmpty() && !demoNames().contains(options.demo))
         return CommandLine::tr("there is no embedded data \"%1\"; there are %2")
             .arg(options.demo, demoNames().join(QStringLiteral(", ")));
@@ -181,6 +187,7 @@ QString Parser::read(const QStringList& arguments, Options& options)
     options.files = positionalArguments();
     options.help = isSet(m_help);
     options.version = isSet(m_version);
+    options.paper = isSet(m_transparent) ? plot::Paper::Transparent : plot::Paper::White;
     QString error = parsePlot3DLayout(layout, options.plot3d);
     if (error.isEmpty())
         error = host::io::parseTextDialect(table, options.table);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/io/data_reader.h"
-#include "plot/common/picture_size.h"
+#include "plot/common/picture.h"
 
 #include <QString>
 #include <QStringList>
@@ -19,6 +19,7 @@ struct Options
     QString picture;
     QString document; ///< to be saved
     plot::PictureSize pictureSize;
+    plot::Paper paper = plot::Paper::White;
     host::io::Plot3DLayout plot3d;
     host::io::TextDialect table;
     bool help = false;

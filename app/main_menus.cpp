@@ -63,8 +63,9 @@ void MainMenus::makeFileMenu(const DocumentCommands& documents)
     menu->addSeparator();
     menu->addActions(documents.saveCommands());
     menu->addSeparator();
-    m_savePicture = iconed(menu->addAction(tr("Save Pict&ure..."), this, &MainMenus::pictureWanted),
-                           "save-picture", tr("Save the plot as a picture in a file"));
+    m_savePicture =
+        iconed(menu->addAction(tr("Save Pict&ure..."), this, &MainMenus::pictureWanted),
+               "save-picture", tr("Write the plot to a file: PNG, PDF, SVG, TIFF and others"));
     m_savePicture->setObjectName(QStringLiteral("savePicture"));
     menu->addSeparator();
     QAction* quit = menu->addAction(tr("&Quit"), qApp, &QApplication::closeAllWindows);
@@ -175,6 +176,11 @@ void MainMenus::makeEditMenu()
     m_redo->setShortcuts(redoKeys);
     for (QAction* action : {m_undo, m_redo})
         action->setShortcutContext(Qt::ApplicationShortcut);
+    menu->addSeparator();
+    m_copyPicture = menu->addAction(commandIcon("edit-copy"), tr("&Copy Picture"), this,
+                                    &MainMenus::pictureCopyWanted);
+    m_copyPicture->setObjectName(QStringLiteral("copyPicture"));
+    m_copyPicture->setShortcut(QKeySequence::Copy); // of this window: other ones copy texts
 }
 
 void MainMenus::makePlotMenu(QAction& details, const QList<QAction*>& layers)
@@ -200,6 +206,11 @@ void MainMenus::addDetailsMenu(QMenu& menu)
     for (QAction* page : m_details->actions())
         describe(*page, tr("Show this page in the panel of details"));
     describe(*m_details->menuAction(), tr("Show a page in the panel of details"));
+}
+
+void MainMenus::addTimeMenu(const QList<QAction*>& commands)
+{
+    m_plotMenu->addMenu(tr("Solution &Time"))->addActions(commands);
 }
 
 void MainMenus::makeHelpMenu()
@@ -248,7 +259,8 @@ void MainMenus::refresh(bool hasPlot)
     const host::Frame* frame = Document::instance().activeFrame();
     m_styleDialog.setText(frame && frame->isLinePlot() ? tr("&Mapping Style...")
                                                        : tr("&Zone Style..."));
-    m_savePicture->setEnabled(frame && frame->hasData());
+    for (QAction* const command : {m_savePicture, m_copyPicture})
+        command->setEnabled(frame && frame->hasData());
     m_details->setEnabled(hasPlot);
     for (auto page = m_detailPages.begin(); page != m_detailPages.end(); ++page)
         page.value()->setVisible(hasPlot && page.key()->isFor(*frame));

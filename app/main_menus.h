@@ -28,6 +28,7 @@ public:
 
     QToolBar& toolBar() const { return *m_toolBar; } ///< of common commands
     QMenu& plotMenu() const { return *m_plotMenu; }
+    void addTimeMenu(const QList<QAction*>& commands);
     /// The commands that bring other data.
     void enableOpening(bool enabled);
     /// Shows what the document says.
@@ -41,6 +42,7 @@ Q_SIGNALS:
     void filesWanted(const QStringList& files);
     void demoWanted(const QString& name);
     void pictureWanted();
+    void pictureCopyWanted();
     void detailsWanted(const QString& page); ///< the name of the page
 
 private:
@@ -68,6 +70,7 @@ private:
     QMenu* m_details = nullptr; ///< the pages of details
     QHash<const DetailPage*, QAction*> m_detailPages;
     QAction* m_savePicture = nullptr;
+    QAction* m_copyPicture = nullptr;
 };
 
 /// Files that belong together, in a few words.

@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/main_window.h"
 
+#include "app/contour_bar.h"
 #include "app/data_commands.h"
 #include "app/details/details_dock.h"
 #include "app/document_commands.h"
+#include "app/elided_label.h"
 #include "app/file_drops.h"
 #include "app/icons.h"
-#include "app/elided_label.h"
 #include "app/layer_bar.h"
 #include "app/layer_notes.h"
 #include "app/main_menus.h"
 #include "app/notice_bar.h"
 #include "app/picked_objects.h"
+#include "app/picture_commands.h"
 #include "app/picture_notes.h"
 #include "app/plot_area.h"
 #include "app/plot_menu.h"
@@ -21,8 +23,8 @@
 #include "app/style_dialog.h"
 #include "app/style_dialog_command.h"
 #include "app/time_bar.h"
-#include "app/window_memory.h"
 #include "app/view_commands.h"
+#include "app/window_memory.h"
 #include "app/work_progress.h"
 #include "host/document/document.h"
 #include "plot/frame_view.h"
@@ -41,6 +43,7 @@ using namespace corvala::dialogs::common;
 using host::Document;
 
 static constexpr int kPictureCheckMilliseconds = 100;
+static constexpr int kToldMilliseconds = 20'000; ///< that the status bar says what was done
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
@@ -88,7 +91,8 @@ void MainWindow::makeCentre()
 void MainWindow::makeBars()
 {
     m_layerBar = new LayerBar(this);
-    m_timeBar = new TimeBar(this);
+    m_timeBar = new TimeBar(
+        [this] { return m_plotArea->frameView() && m_plotArea->frameView()->isBusy(); }, this);
     m_details = new DetailsDock(
         [this](style::Key value, int index) -> std::optional<double> {
             const plot::FrameView* const view = m_plotArea->frameView();
@@ -100,9 +104,13 @@ void MainWindow::makeBars()
     m_menus = new MainMenus(*this, *m_documents, *m_styleDialog, *m_details->toggleViewAction(),
                             m_layerBar->layerActions());
     m_views = new ViewCommands(*this, m_plotArea->frameView(), *m_notice, m_menus->plotMenu());
+    m_menus->addTimeMenu(m_timeBar->commands());
     m_plotType = new PlotTypeChoice(this);
     m_menus->toolBar().addSeparator();
     m_menus->toolBar().addWidget(m_plotType);
+    m_contourBar = new ContourBar(this);
+    addToolBar(m_contourBar);
+    connect(m_contourBar, &ContourBar::detailsWanted, m_details, &DetailsDock::openPage);
     addToolBarBreak(); // all layers show beside the style dialog, too
     addToolBar(m_layerBar);
     addToolBar(Qt::BottomToolBarArea, m_timeBar);
@@ -113,11 +121,12 @@ void MainWindow::makeBars()
     connect(m_menus, &MainMenus::filesWanted, m_data,
             [this](const QStringList& files) { m_data->open(files); });
     connect(m_menus, &MainMenus::demoWanted, m_data, &DataCommands::openDemo);
-    connect(m_menus, &MainMenus::pictureWanted, this, [this] {
-        const QString problem = m_plotArea->savePicture();
-        if (!problem.isEmpty())
-            showProblem(problem);
-    });
+    auto* const pictures = new PictureCommands(*this, *m_plotArea);
+    connect(m_menus, &MainMenus::pictureWanted, pictures, &PictureCommands::save);
+    connect(m_menus, &MainMenus::pictureCopyWanted, pictures, &PictureCommands::copy);
+    connect(pictures, &PictureCommands::failed, this, &MainWindow::showProblem);
+    connect(pictures, &PictureCommands::told, this,
+            [this](const QString& text) { statusBar()->showMessage(text, kToldMilliseconds); });
     connect(m_layerBar, &LayerBar::detailsWanted, m_details, &DetailsDock::openPage);
     connect(m_menus, &MainMenus::detailsWanted, m_details, &DetailsDock::openPage);
     connect(m_pictureNotes, &PictureNotes::detailsWanted, m_details, &DetailsDock::openPageOf);
@@ -209,6 +218,7 @@ void MainWindow::connectCanvas()
 void MainWindow::begin(const QString& work)
 {
     m_picture.stop();
+    statusBar()->clearMessage(); // which would hide the work
     m_work->begin(work);
 }
 
@@ -229,6 +239,7 @@ void MainWindow::awaitPicture()
 
 void MainWindow::cancelWork()
 {
+    m_timeBar->stop();
     if (m_data->opener().isRunning())
         m_data->opener().cancel();
     else if (m_plotArea->frameView())
@@ -261,6 +272,7 @@ void MainWindow::refresh()
     m_plotType->refresh();
     m_layerBar->refresh();
     m_layerNotes->refresh();
+    m_contourBar->refresh();
     m_timeBar->refresh();
     m_details->refresh();
 }

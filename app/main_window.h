@@ -18,6 +18,7 @@ class FrameView;
 
 namespace corvala::app {
 
+class ContourBar;
 class DataCommands;
 class DetailsDock;
 class DocumentCommands;
@@ -94,6 +95,7 @@ private:
     PictureNotes* m_pictureNotes = nullptr;
     PlotTypeChoice* m_plotType = nullptr;
     LayerBar* m_layerBar = nullptr;
+    ContourBar* m_contourBar = nullptr;
     TimeBar* m_timeBar = nullptr;
     DetailsDock* m_details = nullptr;
     DataCommands* m_data = nullptr;

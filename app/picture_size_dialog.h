@@ -1,17 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "plot/common/picture_size.h"
+#include "plot/common/picture.h"
 
 #include <QDialog>
 
-class QDoubleSpinBox;
+class QCheckBox;
+class QComboBox;
 class QLabel;
 class QPushButton;
 
+namespace corvala::ui {
+class NumberField;
+}
+
 namespace corvala::app {
 
-/// Asks how large a picture is to be; begins with what was accepted last, also in former runs.
+/// Asks how large a picture is to be, and on what; begins with what was accepted last, also in
+/// former runs.
 class PictureSizeDialog : public QDialog
 {
     Q_OBJECT
@@ -21,19 +27,29 @@ public:
     explicit PictureSizeDialog(const QString& file, QWidget* parent = nullptr);
 
     plot::PictureSize chosenSize() const;
-    /// Remembers the size.
+    plot::Paper chosenPaper() const;
+    /// Remembers what was chosen.
     void accept() override;
 
 private:
-    void showPixels();
+    enum Unit { Millimetres, Pixels };
+
+    ui::NumberField* makeField(const char* key);
+    void makeFields();
+    void chooseUnit(Unit unit);
+    void setSize(const plot::PictureSize& size);
+    void showOtherUnit();
 
     QString m_file;
+    Unit m_unit = Millimetres; ///< of width and height
     // Owned by the dialog.
-    QDoubleSpinBox* m_width; ///< millimetres
-    QDoubleSpinBox* m_height; ///< millimetres
-    QDoubleSpinBox* m_resolution; ///< dots per inch
-    QLabel* m_pixels;
-    QPushButton* m_save;
+    ui::NumberField* m_width = nullptr;
+    ui::NumberField* m_height = nullptr;
+    QComboBox* m_units = nullptr;
+    ui::NumberField* m_resolution = nullptr; ///< dots per inch
+    QCheckBox* m_transparent = nullptr;
+    QLabel* m_other = nullptr; ///< the size in the other unit, or what is wrong with it
+    QPushButton* m_save = nullptr;
 };
 
 } // namespace corvala::app

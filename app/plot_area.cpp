@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/plot_area.h"
 
-#include "app/busy_cursor.h"
 #include "app/picture_output.h"
-#include "app/picture_size_dialog.h"
 #include "plot/frame_view.h"
 
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QRegularExpression>
 #include <QVBoxLayout>
 
 namespace corvala::app {
@@ -37,9 +33,9 @@ PlotArea::PlotArea(QWidget* parent)
     layout->addWidget(note);
 }
 
-QString PlotArea::paint(QPaintDevice& device)
+QString PlotArea::paint(QPaintDevice& device, plot::Paper paper)
 {
-    return m_frameView ? m_frameView->paint(device)
+    return m_frameView ? m_frameView->paint(device, paper)
                        : tr("the plot is drawn on an X screen only (QT_QPA_PLATFORM=xcb, for "
                             "example under xvfb-run)");
 }
@@ -47,34 +43,18 @@ QString PlotArea::paint(QPaintDevice& device)
 QString PlotArea::saveCanvas(const QString& file)
 {
     const QSize shown = m_frameView ? m_frameView->size() : size();
-    return writePicture(file, plot::PictureSize::ofPixels(shown, logicalDpiX()),
-                        [this](QPaintDevice& device) { return paint(device); });
+    return writePicture(
+        file, plot::PictureSize::ofPixels(shown, logicalDpiX()), plot::Paper::White,
+        [this](QPaintDevice& device, plot::Paper paper) { return paint(device, paper); });
 }
 
-QString PlotArea::savePicture()
+QImage PlotArea::picture(QString* error)
 {
-    QFileDialog chooser(this, tr("Save Picture"));
-    chooser.setAcceptMode(QFileDialog::AcceptSave);
-    chooser.setNameFilters(pictureFilters());
-    const auto followFilter = [&chooser](const QString& filter) {
-        static const QRegularExpression kFirst(QStringLiteral("\\*\\.(\\w+)"));
-        chooser.setDefaultSuffix(kFirst.match(filter).captured(1));
+    const QSize shown = m_frameView ? m_frameView->size() : size();
+    const auto draw = [this](QPaintDevice& device, plot::Paper paper) {
+        return paint(device, paper);
     };
-    connect(&chooser, &QFileDialog::filterSelected, &chooser, followFilter);
-    followFilter(chooser.selectedNameFilter());
-    chooser.selectFile(QStringLiteral("plot"));
-    if (chooser.exec() != QDialog::Accepted)
-        return {};
-    const QString file = chooser.selectedFiles().value(0);
-    const QString problem = pictureFormatProblem(file);
-    if (!problem.isEmpty())
-        return problem;
-    PictureSizeDialog sizes(file, this);
-    if (sizes.exec() != QDialog::Accepted)
-        return {};
-    const BusyCursor busy;
-    return writePicture(file, sizes.chosenSize(),
-                        [this](QPaintDevice& device) { return paint(device); });
+    return plot::pictureImage(shown * devicePixelRatioF(), draw, error);
 }
 
 } // namespace corvala::app

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "plot/common/picture.h"
+
 #include <QWidget>
 
 namespace corvala::plot {
@@ -24,15 +26,14 @@ public:
     /// Writes the plot as it is on the screen, as writePicture.
     QString saveCanvas(const QString& file);
 
-    /// Asks for a file and a size, and writes the plot so; empty, or what went wrong.
-    QString savePicture();
+    /// The plot as it is on the screen; null, with the reason, where it cannot be drawn.
+    QImage picture(QString* error);
+    /// As PaintPicture.
+    QString paint(QPaintDevice& device, plot::Paper paper);
 
     QSize sizeHint() const override { return {900, 700}; }
 
 private:
-    /// As PaintPicture.
-    QString paint(QPaintDevice& device);
-
     plot::FrameView* m_frameView = nullptr; // not owned
 };
 

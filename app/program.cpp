@@ -145,9 +145,11 @@ static QString drawPicture(const Options& options)
 {
     std::vector<plot::SceneNote> notes;
     QString problem =
-        writePicture(options.picture, options.pictureSize, [&notes](QPaintDevice& device) {
-            return plot::paintFrame(host::Document::instance().activeFrameId(), device, &notes);
-        });
+        writePicture(options.picture, options.pictureSize, options.paper,
+                     [&notes](QPaintDevice& device, plot::Paper paper) {
+                         return plot::paintFrame(host::Document::instance().activeFrameId(), device,
+                                                 paper, &notes);
+                     });
     for (const plot::SceneNote& note : notes)
         std::fprintf(stderr, "%s\n", qUtf8Printable(named(Program::tr("note: %1").arg(note.text))));
     return problem;

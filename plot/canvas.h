@@ -2,6 +2,7 @@
 #pragma once
 
 #include "plot/common/map_scene.h"
+#include "plot/common/picture.h"
 
 #include <QElapsedTimer>
 #include <QPointF>
@@ -44,7 +45,7 @@ public:
     virtual std::pair<CvlInt64, CvlInt64> drawingProgress() const { return {0, 0}; }
     /// Draws the frame with the present view all over a device, without the window and complete
     /// even while work is pending; as PaintPicture.
-    virtual QString paint(QPaintDevice& device) = 0;
+    virtual QString paint(QPaintDevice& device, Paper paper) = 0;
     /// Why this canvas cannot draw on this machine, for the user; empty when it can.
     virtual QString problem() const { return {}; }
     /// True while the hand moves the view: another picture follows when it rests.

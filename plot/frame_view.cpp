@@ -237,15 +237,15 @@ void FrameView::endWork(bool cancelled)
         Q_EMIT workEnded(cancelled);
 }
 
-QString FrameView::paint(QPaintDevice& device)
+QString FrameView::paint(QPaintDevice& device, Paper paper)
 {
-    return m_canvas ? m_canvas->paint(device) : paintFrame(m_key.first, device);
+    return m_canvas ? m_canvas->paint(device, paper) : paintFrame(m_key.first, device, paper);
 }
 
-QImage FrameView::render(const QSize& size, QString* error)
+QImage FrameView::render(const QSize& size, QString* error, Paper paper)
 {
     return pictureImage(
-        size, [this](QPaintDevice& device) { return paint(device); }, error);
+        size, [this](QPaintDevice& device, Paper on) { return paint(device, on); }, error, paper);
 }
 
 QString FrameView::problem() const

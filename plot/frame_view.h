@@ -39,9 +39,9 @@ public:
     bool isBusy() const { return m_idle.isActive() || (m_canvas && m_canvas->isBeingMoved()); }
 
     /// As of the canvas, also for a frame without data.
-    QString paint(QPaintDevice& device);
+    QString paint(QPaintDevice& device, Paper paper);
     /// The same, as pictureImage.
-    QImage render(const QSize& size, QString* error);
+    QImage render(const QSize& size, QString* error, Paper paper = Paper::White);
     bool hasPreviousView() const { return !m_formerViews.value(m_key).isEmpty(); }
     QString problem() const;
 

@@ -10,7 +10,8 @@
 
 namespace corvala::plot {
 
-QString paintFrame(CvlUniqueId frame, QPaintDevice& device, std::vector<SceneNote>* notes)
+QString paintFrame(CvlUniqueId frame, QPaintDevice& device, Paper paper,
+                   std::vector<SceneNote>* notes)
 {
     const host::Frame* const drawn = host::Document::instance().frame(frame);
     if (!drawn || !drawn->hasData() || !(drawn->isFieldPlot() || drawn->isLinePlot()))
@@ -19,16 +20,18 @@ QString paintFrame(CvlUniqueId frame, QPaintDevice& device, std::vector<SceneNot
     const std::any view =
         stored == drawn->views().end() ? std::any() : viewOf(stored->second, drawn->plotType());
     if (!drawn->isFieldPlot())
-        return paintLines(frame, std::any_cast<ChartRange>(&view), device, notes);
+        return paintLines(frame, std::any_cast<ChartRange>(&view), nullptr, device, paper, notes);
     const auto* const camera = std::any_cast<CameraState>(&view);
     return paintField(frame, camera ? *camera : CameraState(), std::make_shared<SurfaceCache>(),
-                      device, notes);
+                      device, paper, notes);
 }
 
 QImage renderToImage(CvlUniqueId frame, const QSize& size, QString* error)
 {
     return pictureImage(
-        size, [frame](QPaintDevice& device) { return paintFrame(frame, device); }, error);
+        size,
+        [frame](QPaintDevice& device, Paper paper) { return paintFrame(frame, device, paper); },
+        error);
 }
 
 } // namespace corvala::plot

@@ -14,7 +14,7 @@ namespace corvala::plot {
 /// as PaintPicture; not for an ID of no frame, a frame without data, or a field plot on a machine
 /// without OpenGL. Field plots need an X server. `notes` (may be null) gets what there is to wonder
 /// at.
-QString paintFrame(CvlUniqueId frame, QPaintDevice& device,
+QString paintFrame(CvlUniqueId frame, QPaintDevice& device, Paper paper,
                    std::vector<SceneNote>* notes = nullptr);
 
 /// The same, as pictureImage.

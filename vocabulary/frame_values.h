@@ -61,4 +61,22 @@ struct LinePlotLayers
     SwitchKey showBarCharts = in.flag("ShowBarCharts", CV_TEXT("Bar charts layer"), false);
 };
 
+/// The solution time in the picture of a field or line plot.
+struct TimeText
+{
+    Group in;
+    SwitchKey show = in.flag("Show", CV_TEXT("Solution time in the picture"), false);
+    /// Before the time; empty: the word for it.
+    TextKey title = in.text("Title", CV_TEXT("Title of the solution time"), "");
+    TextKey unit = in.text("Unit", CV_TEXT("Unit of the solution time"), "");
+    IntegerKey digits =
+        in.integer("Digits", CV_TEXT("Significant digits of the solution time"), 1, 15, 6);
+    /// Else where it was put: its upper left corner, from that of the frame, in percent of width
+    /// and height.
+    SwitchKey automaticPlace =
+        in.flag("AutomaticPlace", CV_TEXT("Solution time in the corner of the plot"), true);
+    RealKey x = in.percent("X", CV_TEXT("Solution time from the left"), 0, 10);
+    RealKey y = in.percent("Y", CV_TEXT("Solution time from above"), 0, 5);
+};
+
 } // namespace corvala::style

@@ -41,6 +41,7 @@ struct Dictionary
     LineAxes lineAxes {frame / "LineAxes"};
     LineLegend lineLegend {frame / "LineLegend"};
     LineFrame lineFrame {frame / "LineFrame"};
+    TimeText timeText {frame / "TimeText"};
 
     FieldMap fieldMap {Group(entries, Scope::FieldMap) / "FieldMap", basicSize};
     LineMap lineMap {Group(entries, Scope::LineMap) / "LineMap", basicSize};
@@ -69,6 +70,7 @@ inline constexpr const auto& fieldAxes = kDictionary.fieldAxes;
 inline constexpr const auto& lineAxes = kDictionary.lineAxes;
 inline constexpr const auto& lineLegend = kDictionary.lineLegend;
 inline constexpr const auto& lineFrame = kDictionary.lineFrame;
+inline constexpr const auto& timeText = kDictionary.timeText;
 inline constexpr const auto& fieldMap = kDictionary.fieldMap;
 inline constexpr const auto& lineMap = kDictionary.lineMap;
 

@@ -245,6 +245,23 @@ static constexpr DetailRow kLineFrame[] = {
     {style::lineFrame.showBox, DETAIL_TEXT("Box")},
 };
 
+static constexpr DetailCondition kHasTime {style::timeText.show};
+static constexpr DetailRow kTimeText[] = {
+    {style::timeText.show, DETAIL_TEXT("Time in the picture")},
+    {style::timeText.title, DETAIL_TEXT("Text before the time"), kOwn, {kHasTime}},
+    {style::timeText.unit, DETAIL_TEXT("Unit"), kOwn, {kHasTime}},
+    {style::timeText.digits, DETAIL_TEXT("Digits"), kOwn, {kHasTime}},
+    {style::timeText.automaticPlace, DETAIL_TEXT("In the corner of the plot"), kOwn, {kHasTime}},
+    {style::timeText.x,
+     DETAIL_TEXT("Its left edge [%]"),
+     style::timeText.automaticPlace,
+     {kHasTime}},
+    {style::timeText.y,
+     DETAIL_TEXT("Its upper edge [%]"),
+     style::timeText.automaticPlace,
+     {kHasTime}},
+};
+
 static DetailPage ofLines(const char* name, const char* title, const char* indexText,
                           const DetailRows& rows)
 {
@@ -273,11 +290,13 @@ const std::vector<DetailPage>& detailPages()
         {"streamtraces", DETAIL_TEXT("Streamtraces"), kNoLayer, nullptr, kStreamtraces,
          style::streamtraces.points},
         {"axes", DETAIL_TEXT("Axes"), kNoLayer, nullptr, kAxes},
+        {"timeText", DETAIL_TEXT("Time"), kNoLayer, nullptr, kTimeText},
         ofLines("xAxes", DETAIL_TEXT("X Axes"), DETAIL_TEXT("Axis"), kXAxes),
         ofLines("yAxes", DETAIL_TEXT("Y Axes"), DETAIL_TEXT("Axis"), kYAxes),
         ofLines("polarAxes", DETAIL_TEXT("Polar Axes"), nullptr, kPolarAxes),
         ofLines("lineLegend", DETAIL_TEXT("Legend"), nullptr, kLineLegend),
         ofLines("lineFrame", DETAIL_TEXT("Frame"), nullptr, kLineFrame),
+        ofLines("lineTimeText", DETAIL_TEXT("Time"), nullptr, kTimeText),
     };
     return kPages;
 }

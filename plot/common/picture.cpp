@@ -27,13 +27,14 @@ static bool isNone(const QString& problem, QString* error)
     return problem.isEmpty();
 }
 
-QImage pictureImage(const QSize& size, const PaintPicture& paint, QString* error)
+QImage pictureImage(const QSize& size, const PaintPicture& paint, QString* error, Paper paper)
 {
     if (!isNone(sizeProblem(size), error))
         return {};
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    return isNone(paint(image), error) ? image : QImage();
+    const bool isWhite = paper == Paper::White;
+    QImage image(size, isWhite ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+    image.fill(isWhite ? Qt::white : Qt::transparent);
+    return isNone(paint(image, paper), error) ? image : QImage();
 }
 
 /// Fonts stand in a PDF in the order of a hash, which is the same one as long as this lives.
@@ -120,7 +121,8 @@ static void setExactSize(QByteArray& pdf, const QSizeF& points)
     replace(pdf, begin, end, box.trimmed());
 }
 
-QByteArray picturePdf(const PictureSize& size, const PaintPicture& paint, QString* error)
+QByteArray picturePdf(const PictureSize& size, const PaintPicture& paint, QString* error,
+                      Paper paper)
 {
     if (!isNone(pageProblem(size), error))
         return {};
@@ -129,7 +131,7 @@ QByteArray picturePdf(const PictureSize& size, const PaintPicture& paint, QStrin
     pdf.open(QIODevice::WriteOnly);
     {
         PdfPage page(pdf, size);
-        if (!isNone(paint(page), error))
+        if (!isNone(paint(page, paper), error))
             return {};
     }
     removeDate(pdf.buffer());
@@ -137,12 +139,13 @@ QByteArray picturePdf(const PictureSize& size, const PaintPicture& paint, QStrin
     return pdf.data();
 }
 
-QByteArray pictureSvg(const PictureSize& size, const PaintPicture& paint, QString* error)
+QByteArray pictureSvg(const PictureSize& size, const PaintPicture& paint, QString* error,
+                      Paper paper)
 {
     if (!isNone(pageProblem(size), error))
         return {};
     SvgDevice svg(size);
-    return isNone(paint(svg), error) ? svg.document() : QByteArray();
+    return isNone(paint(svg, paper), error) ? svg.document() : QByteArray();
 }
 
 } // namespace corvala::plot

@@ -140,6 +140,12 @@ std::optional<double> LineCanvas::proposal(style::Key value, int index) const
         const QPointF corner = m_plot.legend().corner();
         return value == style::lineLegend.x ? corner.x() : corner.y();
     }
+    if (value == style::timeText.x || value == style::timeText.y) {
+        const std::optional<QPointF> corner = m_plot.timeLabel().corner();
+        if (!corner)
+            return std::nullopt;
+        return value == style::timeText.x ? corner->x() : corner->y();
+    }
     const ChartRange home = m_plot.home();
     const auto end = [&](const auto& axis, const AxisRange& range) -> std::optional<double> {
         const bool isKnown = range.minimum < range.maximum;
@@ -166,16 +172,19 @@ bool LineCanvas::wheelTurned(const QWheelEvent&)
     return false;
 }
 
-QString LineCanvas::paint(QPaintDevice& device)
+QString LineCanvas::paint(QPaintDevice& device, Paper paper)
 {
     const ChartRange range = m_plot.chart().range();
-    return paintLines(m_plot.frameId(), m_plot.isFitted() ? nullptr : &range, device);
+    return paintLines(m_plot.frameId(), m_plot.isFitted() ? nullptr : &range, &m_plot, device,
+                      paper);
 }
 
-QString paintLines(CvlUniqueId frame, const ChartRange* range, QPaintDevice& device,
-                   std::vector<SceneNote>* notes)
+QString paintLines(CvlUniqueId frame, const ChartRange* range, const LinePlot* known,
+                   QPaintDevice& device, Paper paper, std::vector<SceneNote>* notes)
 {
     QCustomPlot widget;
+    if (paper == Paper::Transparent)
+        widget.setBackground(QBrush(Qt::NoBrush));
     LinePlot plot(widget);
     plot.setPatience(-1);
     // A page that is larger than any image is laid out as the largest one, and enlarged.
@@ -184,6 +193,8 @@ QString paintLines(CvlUniqueId frame, const ChartRange* range, QPaintDevice& dev
     const QSize size = QSize(device.width(), device.height()) / scale;
     plot.setFrameHeight(size.height());
     plot.setFrame(frame);
+    if (known)
+        plot.takeFrom(*known);
     plot.advance(-1);
     plot.prepare();
     if (range)

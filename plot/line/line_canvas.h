@@ -18,7 +18,7 @@ public:
 
     LinePlot& scene() override { return m_plot; }
     void draw() override;
-    QString paint(QPaintDevice& device) override;
+    QString paint(QPaintDevice& device, Paper paper) override;
     std::any view() const override;
     void setView(const std::any& view) override;
     bool canZoomToBox() const override { return !m_plot.isPolar(); }
@@ -50,9 +50,10 @@ private:
     QLabel* m_notice; // not owned
 };
 
-/// Draws a line frame, showing `range` of its axes, or all of it when null; as PaintPicture.
-/// `notes` (may be null) gets what there is to wonder at.
-QString paintLines(CvlUniqueId frame, const ChartRange* range, QPaintDevice& device,
-                   std::vector<SceneNote>* notes = nullptr);
+/// Draws a line frame, showing `range` of its axes, or all of it when null; as PaintPicture. What
+/// another plot of the frame knows (may be null) is not made again. `notes` (may be null) gets what
+/// there is to wonder at.
+QString paintLines(CvlUniqueId frame, const ChartRange* range, const LinePlot* known,
+                   QPaintDevice& device, Paper paper, std::vector<SceneNote>* notes = nullptr);
 
 } // namespace corvala::plot

@@ -42,6 +42,7 @@ static constexpr SharedStyle kShared[] = {
     {style::lineAxes.polar.start, true, Beside},
     {style::lineLegend.show, true, Beside},
     {style::lineFrame.title, true, Beside},
+    {style::timeText.show, true, Beside},
     {kMap.name, false, Beside},
     {style::activeLineMaps, false},
 };

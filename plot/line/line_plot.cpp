@@ -19,6 +19,7 @@ LinePlot::LinePlot(QCustomPlot& plot)
     : MapScene(lineSceneKind(), kLargestPlot)
     , m_plot(plot)
     , m_legend(plot)
+    , m_timeLabel(plot)
 {
     makeChart();
 }
@@ -28,6 +29,7 @@ void LinePlot::makeChart()
     m_chart.reset(); // before another one takes the plot
     m_chart = isPolar() ? makePolarChart(m_plot) : makeXyChart(m_plot);
     m_legend.setChart(*m_chart);
+    m_timeLabel.setChart(*m_chart);
     m_chart->setPatience(m_patience);
     m_chart->setBeforeDrawing([this] { followPlanes(); });
 }
@@ -290,8 +292,10 @@ void LinePlot::prepare()
         const ChartLook look = lookOf(*drawn);
         m_chart->setLook(look);
         m_legend.set(legendLookOf(*drawn, shownMaps(), m_height, look));
+        m_timeLabel.set(timeTextOf(*drawn, shownMaps()), look.font);
     } else {
         m_legend.set({});
+        m_timeLabel.set({}, 1.0);
     }
     if (m_isFitted && !m_maker.isAtWork()) // a line that comes soon has its place
         m_chart->fit(isPolar() ? radii() : AxisRange());

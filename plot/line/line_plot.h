@@ -6,6 +6,7 @@
 #include "plot/line/line_chart.h"
 #include "plot/line/line_legend.h"
 #include "plot/line/line_looks.h"
+#include "plot/line/time_label.h"
 
 #include <QCoreApplication>
 
@@ -37,6 +38,9 @@ public:
 
     /// Pixels; thicknesses and pattern lengths are a share of it.
     void setFrameHeight(int height);
+    /// Takes over what another plot of the frame has made of the lines, as far as it still holds:
+    /// before work begins.
+    void takeFrom(const LinePlot& other) { m_geometries = other.m_geometries; }
     /// Brings axes, titles and range up to date before the plot is drawn.
     void prepare();
     /// How long drawing the plot itself may draw lines; negative until all is done.
@@ -54,6 +58,7 @@ public:
     const LineChart& chart() const { return *m_chart; }
     LineLegend& legend() { return m_legend; }
     const LineLegend& legend() const { return m_legend; }
+    const TimeLabel& timeLabel() const { return m_timeLabel; }
     /// What is drawn; PlotType_None without a line frame.
     PlotType_e plotType() const { return m_plotType; }
     bool isPolar() const { return m_plotType == PlotType_LinePolar; }
@@ -86,6 +91,7 @@ private:
     QCustomPlot& m_plot;
     std::unique_ptr<LineChart> m_chart;
     LineLegend m_legend;
+    TimeLabel m_timeLabel;
     PlotType_e m_plotType = PlotType_None;
     bool m_isFitted = true;
     int m_height = 1;

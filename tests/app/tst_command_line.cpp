@@ -87,6 +87,7 @@ private Q_SLOTS:
         row("too large a picture", "--render p.png --size 2000x2000mm", "23622");
         row("too large a page", "--render p.pdf --size 6000x90mm", "6000");
         row("bad resolution", "--render p.pdf --dpi -1", "-1");
+        row("no transparent pixels", "--render p.jpg --transparent", "--transparent");
         row("bad layout", "--plot3d endian=middle a.xyz", "middle");
     }
 

@@ -345,14 +345,19 @@ private Q_SLOTS:
         QCOMPARE(frame().solutionTime(), 3.0);
         play::pressKey(slider, Qt::Key_Left);
         QCOMPARE(frame().solutionTime(), 2.0);
-        const QList<QAction*> bar = m_window->findChild<QToolBar*>("timeBar")->actions();
-        for (const auto& [name, time] : {std::pair("Later", 3.0), std::pair("Earlier", 2.0)}) {
+        for (const auto& [name, time] : {std::pair("timeLater", 3.0), std::pair("timeEarlier", 2.0),
+                                         std::pair("timeFirst", 0.0), std::pair("timeLast", 3.0)}) {
             play::waitUntilIdle();
-            for (QAction* action : bar)
-                if (action->text() == QLatin1String(name))
-                    action->trigger();
+            layer(name).trigger();
             QCOMPARE(frame().solutionTime(), time);
         }
+        auto* entry = m_window->findChild<QDoubleSpinBox*>(QStringLiteral("timeEntry"));
+        entry->findChild<QLineEdit*>()->setText(QStringLiteral("0.6"));
+        play::pressKey(entry, Qt::Key_Return);
+        QCOMPARE(frame().solutionTime(), 1.0); // the nearest one
+        layer("timePlay").trigger();
+        QTRY_COMPARE(frame().solutionTime(), 3.0);
+        QTRY_COMPARE(layer("timePlay").text(), QStringLiteral("&Play")); // it ended by itself
         Document::instance().execute(host::SetSolutionTime {1.5});
         play::waitUntilIdle();
         QCOMPARE(slider->value(), 1);

@@ -33,6 +33,8 @@ private Q_SLOTS:
 
         row("field plot", {"--demo", "field3d"});
         row("line plot", {"--demo", "xy"});
+        row("field without paper", {"--demo", "field3d", "--transparent"});
+        row("lines without paper", {"--demo", "xy", "--transparent"});
         row("real data", {QStringLiteral(CORVALA_SAMPLES "/cgns_hexa/cgnslib_vers-4400.cgns")});
     }
 
@@ -45,6 +47,7 @@ private Q_SLOTS:
         const QImage image(file);
         QVERIFY(!image.isNull());
         QVERIFY2(colorsOf(image) > 3, "the picture is not empty");
+        QCOMPARE(qAlpha(image.pixel(0, 0)), data.contains("--transparent") ? 0 : 255);
     }
 
     void keepsLinesAndTexts_data()
@@ -58,6 +61,8 @@ private Q_SLOTS:
             {"<svg ", "width=\"80mm\"", "clip-path=\"url(#clip", ">Time</text>"}, "<image");
         row("a large page", {"--demo", "xy", "--size", "2000x900mm"}, "a.pdf",
             {"-0.1811 5669.2913 2551.0000]"}, "/Subtype /Image");
+        row("lines as TIFF", {"--demo", "xy", "--transparent", "--size", "80x60"}, "a.tif",
+            {QByteArray("II*\0", 4), QByteArray::fromHex("520103000100000002000000")}, "Qt");
         row("field as PDF", {"--demo", "field2d", "--size", "600x450"}, "a.pdf",
             {"%PDF-", "/FontFile2", "/Width 600"}, "CreationDate");
     }

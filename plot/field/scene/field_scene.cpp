@@ -613,6 +613,12 @@ AxesStyle FieldScene::axes() const
     return drawn ? axesStyleOf(*drawn) : AxesStyle();
 }
 
+TimeText FieldScene::timeText() const
+{
+    const host::Frame* const drawn = frame();
+    return drawn ? timeTextOf(*drawn, shownMaps()) : TimeText();
+}
+
 std::optional<double> FieldScene::proposal(style::Key value, int index) const
 {
     constexpr const auto& streams = style::streamtraces;

@@ -3,6 +3,7 @@
 
 #include "plot/common/background_task.h"
 #include "plot/common/map_scene.h"
+#include "plot/common/time_text.h"
 #include "plot/field/scene/axes_style.h"
 #include "plot/field/scene/composite_layer.h"
 #include "plot/field/scene/pick_ray.h"
@@ -104,6 +105,7 @@ public:
     /// Nothing when no arrows are shown, or none that tells their length is wanted.
     std::optional<VectorKey> vectorKey() const;
     AxesStyle axes() const;
+    TimeText timeText() const;
     /// What the scene takes for a value of the style that follows from the data, such as a level of
     /// a contour group; nothing when that is not known.
     std::optional<double> proposal(style::Key value, int index) const;

@@ -167,7 +167,7 @@ enum Use : unsigned {
     Joint = 512, ///< shows something of all maps together
     Beside = 1024, ///< looks otherwise beside other surfaces of the map
     Sizes = 2048, ///< of symbols by a variable
-    Around = 4096 ///< no layer: axes
+    Around = 4096 ///< no layer: axes and texts
 };
 static constexpr SharedStyle kShared[] = {
     {kMap.surfaces.surfacesToPlot, true, Surfaces},
@@ -200,6 +200,7 @@ static constexpr SharedStyle kShared[] = {
     {style::globalScatter.var, true, Sizes},
     {kMap.points.pointsToPlot, true, Points},
     {style::fieldAxes.fontSize, true, Around},
+    {style::timeText.show, true, Around},
     {style::activeFieldMaps, false},
     {style::activeFieldZones, false},
 };

@@ -245,15 +245,16 @@ void paintOrientation(QPainter& painter, const FieldLayout& layout,
     painter.restore();
 }
 
-void paintNotice(QPainter& painter, const FieldLayout& layout, const QString& text)
+void paintNotice(QPainter& painter, const FieldLayout& layout, double lower, const QString& text)
 {
     if (text.isEmpty())
         return;
     painter.save();
     painter.setFont(plotFont(layout.font));
     painter.setPen(inkColor());
-    const QRectF box(layout.plot.left() + layout.font / 2, layout.plot.top() + layout.font / 2,
-                     layout.plot.width() - layout.font, 2.0 * layout.font);
+    const QRectF box(layout.plot.left() + layout.font / 2,
+                     layout.plot.top() + layout.font / 2 + lower, layout.plot.width() - layout.font,
+                     2.0 * layout.font);
     painter.drawText(box, Qt::AlignLeft | Qt::AlignTop, text);
     painter.restore();
 }

@@ -62,7 +62,7 @@ void paintPlaneAxes(QPainter& painter, const FieldLayout& layout, const PlaneWin
 void paintOrientation(QPainter& painter, const FieldLayout& layout,
                       const AxisDirections& directions, const std::array<QString, 3>& titles);
 
-/// A remark in the upper left corner; nothing when it is empty.
-void paintNotice(QPainter& painter, const FieldLayout& layout, const QString& text);
+/// A remark in the upper left corner, so many pixels lower; nothing when it is empty.
+void paintNotice(QPainter& painter, const FieldLayout& layout, double lower, const QString& text);
 
 } // namespace corvala::plot

@@ -320,9 +320,9 @@ void FieldCanvas::learn(double seconds)
         known = m_isUnfinished ? std::max(known, m_pictureTime) : m_pictureTime;
 }
 
-QString FieldCanvas::paint(QPaintDevice& device)
+QString FieldCanvas::paint(QPaintDevice& device, Paper paper)
 {
-    return paintField(scene().frameId(), m_view.camera(), m_cache, device);
+    return paintField(scene().frameId(), m_view.camera(), m_cache, device, paper);
 }
 
 bool FieldCanvas::eventFilter(QObject* watched, QEvent* event)

@@ -119,6 +119,8 @@ void FieldView::prepare()
     const vtkBoundingBox box = m_scene->bounds();
     updateFitBox(box);
     setViewport();
+    m_time = m_scene->timeText();
+    m_timePlace = placeOf(m_time, {{0.0, 0.0}, QSizeF(m_size)}, m_layout.plot, m_layout.font);
     if (box.IsValid()) {
         double bounds[6];
         m_scene->drawnBounds().GetBounds(bounds);
@@ -235,6 +237,10 @@ std::optional<double> FieldView::proposal(style::Key value, int index) const
         return legend->x();
     if (legend && value == style::contourGroups.legendY)
         return legend->y();
+    if (!m_timePlace.isEmpty() && value == style::timeText.x)
+        return 100.0 * m_timePlace.left() / m_size.width();
+    if (!m_timePlace.isEmpty() && value == style::timeText.y)
+        return 100.0 * m_timePlace.top() / m_size.height();
     constexpr style::Key kEnds[] = {kAxes.x.rangeMin, kAxes.x.rangeMax, kAxes.y.rangeMin,
                                     kAxes.y.rangeMax, kAxes.z.rangeMin, kAxes.z.rangeMax};
     const auto* const end = std::find(std::begin(kEnds), std::end(kEnds), value);
@@ -276,8 +282,10 @@ void FieldView::paintDecorations(QPainter& painter)
     paintLegends(painter, m_layout, m_legends);
     if (m_vectorKey)
         paintVectorKey(painter, m_layout, *m_vectorKey, pixelsPerUnit());
+    paintTimeText(painter, m_time, m_timePlace, m_layout.font);
     const QString notice = m_scene->notice();
-    paintNotice(painter, m_layout,
+    const bool isFree = m_time.corner || m_time.text.isEmpty();
+    paintNotice(painter, m_layout, isFree ? 0.0 : m_timePlace.height(),
                 notice.isEmpty() && m_isCut
                     ? tr("Drawing was cancelled: the picture is not complete")
                     : notice);

@@ -83,6 +83,9 @@ public:
     /// lie outside, and stays as it is otherwise.
     void widen() { m_widens = true; }
 
+    /// A grey from 0 to 1; white unless it is told otherwise.
+    void setPaperColor(double grey) { m_paper->SetBackground(grey, grey, grey); }
+
     /// Brings what depends on scene and camera up to date; call before drawing.
     void prepare();
     /// Whether what is translucent is drawn by depth, as it is at first: else it is blended in one
@@ -161,6 +164,8 @@ private:
     std::vector<FieldLegend> m_legends;
     std::optional<VectorKey> m_vectorKey;
     AxesStyle m_axes;
+    TimeText m_time;
+    QRectF m_timePlace; ///< empty without a text
 };
 
 } // namespace corvala::plot

@@ -10,6 +10,8 @@
 #include <vtkRenderWindow.h>
 #include <vtkUnsignedCharArray.h>
 
+#include <algorithm>
+
 namespace corvala::plot {
 
 /// Pictures are drawn larger and made smaller, which gives smooth lines with every OpenGL: software
@@ -27,8 +29,40 @@ static QImage pixelsOf(vtkRenderWindow& window, const QSize& size)
     return upsideDown.mirrored().convertToFormat(QImage::Format_RGB32);
 }
 
+/// What black and white shine through alike is not there: the darker picture is that of the colours
+/// alone, weighed by how much they cover.
+static QImage withoutPaper(QImage onBlack, const QImage& onWhite)
+{
+    onBlack = onBlack.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < onBlack.height(); ++y) {
+        auto* const colors = reinterpret_cast<QRgb*>(onBlack.scanLine(y));
+        const auto* const whites = reinterpret_cast<const QRgb*>(onWhite.constScanLine(y));
+        for (int x = 0; x < onBlack.width(); ++x) {
+            const QRgb color = colors[x];
+            const int shining =
+                std::max({qRed(whites[x]) - qRed(color), qGreen(whites[x]) - qGreen(color),
+                          qBlue(whites[x]) - qBlue(color), 0});
+            const int covered = 255 - shining;
+            colors[x] = qRgba(std::min(qRed(color), covered), std::min(qGreen(color), covered),
+                              std::min(qBlue(color), covered), covered);
+        }
+    }
+    return onBlack;
+}
+
+static QImage pictureOf(FieldView& view, vtkRenderWindow& window, const QSize& size, Paper paper)
+{
+    window.Render();
+    const QImage onWhite = pixelsOf(window, size);
+    if (paper == Paper::White || onWhite.isNull())
+        return onWhite;
+    view.setPaperColor(0.0);
+    window.Render();
+    return withoutPaper(pixelsOf(window, size), onWhite);
+}
+
 QString paintField(CvlUniqueId frame, const CameraState& camera,
-                   std::shared_ptr<SurfaceCache> cache, QPaintDevice& device,
+                   std::shared_ptr<SurfaceCache> cache, QPaintDevice& device, Paper paper,
                    std::vector<SceneNote>* notes)
 {
     const QSize size(device.width(), device.height());
@@ -51,12 +85,10 @@ QString paintField(CvlUniqueId frame, const CameraState& camera,
     view.scene().setFrame(frame);
     view.scene().advance(-1);
     view.prepare();
-    window->Render();
+    const QImage picture = pictureOf(view, *window, drawnSize, paper);
     QPainter painter(&device);
     painter.setRenderHint(QPainter::LosslessImageRendering);
-    painter.drawImage(
-        0, 0,
-        pixelsOf(*window, drawnSize).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    painter.drawImage(0, 0, picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     view.paintDecorations(painter);
     if (notes)
         *notes = view.scene().notes();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "plot/common/picture.h"
 #include "plot/field/view/field_view.h"
 
 class QPaintDevice;
@@ -11,7 +12,7 @@ namespace corvala::plot {
 /// axes, legends and remarks are lines and texts. Not without OpenGL, or for a device too large for
 /// it. `notes` (may be null) gets what there is to wonder at.
 QString paintField(CvlUniqueId frame, const CameraState& camera,
-                   std::shared_ptr<SurfaceCache> cache, QPaintDevice& device,
+                   std::shared_ptr<SurfaceCache> cache, QPaintDevice& device, Paper paper,
                    std::vector<SceneNote>* notes = nullptr);
 
 } // namespace corvala::plot

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/contour_bar.h"
+
+#include "app/details/detail_field.h"
+#include "host/document/document.h"
+#include "host/document/line_map_name.h"
+#include "plot/common/scene_note.h"
+#include "sdk/common_ui/combo_box_auto_filter.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QToolButton>
+
+namespace corvala::app {
+
+static constexpr int kGroup = 1;
+static constexpr const auto& kStyle = style::contourGroups;
+
+ContourBar::ContourBar(QWidget* parent)
+    : QToolBar(tr("Contour variable"), parent)
+    , m_variable(new ui::ComboBoxAutoFilter(this))
+    , m_colors(new QToolButton(this))
+{
+    constexpr int kShownLetters = 22;
+    setObjectName(QStringLiteral("contourBar"));
+    auto* const label = new QLabel(tr("Co&ntour:"), this);
+    label->setBuddy(m_variable);
+    label->setMargin(4);
+    m_variable->setObjectName(QStringLiteral("contourVariable"));
+    m_variable->setAccessibleName(tr("Variable of contour group 1"));
+    m_variable->setToolTip(tr("Variable of contour group 1: type a part of its name to find it"));
+    m_variable->setFixedWidth(kShownLetters * fontMetrics().averageCharWidth());
+    connect(m_variable, &ui::ComboBoxAutoFilter::selectionComplete, this,
+            [this] { write(kStyle.var, double(m_variable->currentIndex())); });
+    makeColorMenu();
+    addWidget(label);
+    addWidget(m_variable);
+    addWidget(m_colors);
+}
+
+ContourBar::~ContourBar() = default;
+
+void ContourBar::makeColorMenu()
+{
+    const int height = fontMetrics().height();
+    auto* const menu = new QMenu(m_colors);
+    auto* const group = new QActionGroup(menu);
+    for (const style::Choice& choice : style::entryOf(kStyle.colorMap).choices) {
+        QAction* const map = menu->addAction(
+            colorMapIcon(static_cast<ColorMap_e>(choice.value), {height, height}),
+            QCoreApplication::translate("StyleValues", choice.name), this,
+            [this, value = choice.value] { write(kStyle.colorMap, double(value)); });
+        map->setCheckable(true);
+        map->setData(choice.value);
+        group->addAction(map);
+        m_colorMaps << map;
+    }
+    menu->addSeparator();
+    m_reversed = menu->addAction(tr("Re&versed"), this,
+                                 [this](bool isOn) { write(kStyle.reversesColors, isOn); });
+    m_reversed->setCheckable(true);
+    menu->addAction(tr("&Range and Levels..."), this,
+                    [this] { Q_EMIT detailsWanted(QStringLiteral("contour")); });
+    m_colors->setObjectName(QStringLiteral("contourColors"));
+    m_colors->setMenu(menu);
+    m_colors->setPopupMode(QToolButton::InstantPopup);
+    m_colors->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    m_colors->setIconSize({4 * height, height});
+    m_colors->setToolTip(tr("Colors, range and levels of contour group 1"));
+    m_colors->setAccessibleName(m_colors->toolTip());
+}
+
+void ContourBar::write(style::Key value, const host::StyleInput& to)
+{
+    host::Document::instance().execute(plot::frameValue(value, to, kGroup));
+}
+
+/// The list is made anew only when names differ.
+void ContourBar::showVariables(const host::Frame& frame)
+{
+    QStringList names {tr("None")};
+    for (CvlInt64 number = 1; number <= frame.data()->variableCount(); ++number)
+        names << QStringLiteral("%1: %2").arg(number).arg(
+            QString::fromStdString(host::shownVariableName(frame.data(), number)));
+    if (names != m_names) {
+        m_names = names;
+        m_variable->setEntries(names);
+    }
+    const int shown = frame.integer(kStyle.var, kGroup);
+    if (m_variable->currentIndex() != shown)
+        m_variable->setCurrentIndex(shown);
+}
+
+void ContourBar::showColors(const host::Frame& frame)
+{
+    const int shown = frame.integer(kStyle.colorMap, kGroup);
+    m_reversed->setChecked(frame.isOn(kStyle.reversesColors, kGroup));
+    m_colors->setIcon(colorMapIcon(static_cast<ColorMap_e>(shown), m_colors->iconSize()));
+    for (QAction* const map : std::as_const(m_colorMaps))
+        map->setChecked(map->data().toInt() == shown);
+}
+
+void ContourBar::refresh()
+{
+    const host::Frame* const frame = host::Document::instance().activeFrame();
+    const bool isShown = frame && frame->hasData() && frame->isFieldPlot();
+    setVisible(isShown);
+    if (!isShown)
+        return;
+    showVariables(*frame);
+    showColors(*frame);
+}
+
+} // namespace corvala::app

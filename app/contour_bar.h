@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/document/frame.h"
+
+#include <QStringList>
+#include <QToolBar>
+
+class QAction;
+class QMenu;
+class QToolButton;
+
+namespace corvala::ui {
+class ComboBoxAutoFilter;
+}
+
+namespace corvala::app {
+
+/// The variable and the colours of the first contour group; hidden for line plots.
+class ContourBar : public QToolBar
+{
+    Q_OBJECT
+
+public:
+    explicit ContourBar(QWidget* parent = nullptr);
+    ~ContourBar() override;
+
+    /// Shows what the document says.
+    void refresh();
+
+Q_SIGNALS:
+    /// Range and levels are to be set on the page of this name.
+    void detailsWanted(const QString& page);
+
+private:
+    void makeColorMenu();
+    void write(style::Key value, const host::StyleInput& to);
+    void showVariables(const host::Frame& frame);
+    void showColors(const host::Frame& frame);
+
+    // Not owned.
+    ui::ComboBoxAutoFilter* m_variable;
+    QToolButton* m_colors;
+    QAction* m_reversed = nullptr;
+    QList<QAction*> m_colorMaps;
+    QStringList m_names; ///< of the variables in the list
+};
+
+} // namespace corvala::app
