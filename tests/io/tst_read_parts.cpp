@@ -53,7 +53,8 @@ static QString shown(const DataSet& data)
             text += QStringLiteral("@%1s%2").arg(zone.time).arg(zone.strand);
         const QVector<double> p = values(data, number, "p");
         zones << text + (p.isEmpty() ? QString() : QStringLiteral("=%1").arg(p[0]));
-        vtkUnsignedCharArray* const ghosts = data.geometry(number)->GetCellGhostArray();
+        const vtkSmartPointer<vtkDataSet> held = data.geometry(number);
+        vtkUnsignedCharArray* const ghosts = held->GetCellGhostArray();
         const int hidden = ghosts ? static_cast<int>(std::count(ghosts->Begin(), ghosts->End(),
                                                                 vtkDataSetAttributes::HIDDENCELL))
                                   : 0;
