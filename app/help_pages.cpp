@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/help_pages.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QRegularExpression>
 #include <QStringList>
@@ -14,11 +15,21 @@ static void initialisePages()
 
 namespace corvala::app {
 
-QUrl helpUrl(const QString& reference)
+/// Of the pages in the language of all texts, which the translation of its name tells.
+static QString folder()
 {
     static const bool isReady = (initialisePages(), true);
     Q_UNUSED(isReady)
-    QUrl url(QStringLiteral("qrc:/corvala/help/") + reference.section(QLatin1Char('#'), 0, 0));
+    const QString pages = QStringLiteral("/corvala/help/");
+    const QString translated = pages
+        + QCoreApplication::translate("HelpPages", "en", "language of the pages of the help")
+        + QLatin1Char('/');
+    return QFile::exists(QLatin1Char(':') + translated) ? translated : pages;
+}
+
+QUrl helpUrl(const QString& reference)
+{
+    QUrl url(QStringLiteral("qrc:") + folder() + reference.section(QLatin1Char('#'), 0, 0));
     url.setFragment(reference.section(QLatin1Char('#'), 1));
     return url;
 }
@@ -39,7 +50,7 @@ static QString plainText(const QString& html)
 std::vector<HelpEntry> helpContents()
 {
     static const QRegularExpression kEntry(
-        QStringLiteral("<h2>(.*?)</h2>|<a href=\"([^\"]*)\">(.*?)</a>"),
+        QStringLiteral("<h2>(.*?)</h2>|<a\\s+href=\"([^\"]*)\">(.*?)</a>"),
         QRegularExpression::DotMatchesEverythingOption);
     std::vector<HelpEntry> entries;
     auto found = kEntry.globalMatch(htmlOf(QStringLiteral("index.html")));

@@ -8,7 +8,8 @@
 
 namespace corvala::app {
 
-/// Where the program carries a page: of a reference such as "contour.html#contour/modification".
+/// Where the program carries a page, in its language: of a reference such as
+/// "contour.html#contour/modification".
 QUrl helpUrl(const QString& reference);
 
 /// An entry of the contents.

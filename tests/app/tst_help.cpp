@@ -131,13 +131,22 @@ private Q_SLOTS:
             QVERIFY2(sectionOf(reference).contains(name), qPrintable(name));
     }
 
-    void everyPageIsListed()
+    void everyPageIsListedAndTranslated()
     {
         QStringList listed {"help_pages.qrc", "index.html"};
         for (const HelpEntry& entry : helpContents())
             listed << entry.reference.section('#', 0, 0);
-        for (const QString& file : QDir(CORVALA_SOURCE_DIR "/help").entryList(QDir::Files))
+        const auto partsOf = [](const QString& html) {
+            QStringList parts = all("((?:id|href)=\"[^\"]*\"|<tr>|<h\\d|<pre>)", html);
+            parts.sort();
+            return parts;
+        };
+        const QDir pages(CORVALA_SOURCE_DIR "/help");
+        for (const QString& file : pages.entryList(QDir::Files)) {
             QVERIFY2(listed.contains(file), qPrintable(file));
+            QCOMPARE(partsOf(read(pages.filePath("de/" + file))),
+                     file.endsWith(".html") ? partsOf(read(pages.filePath(file))) : QStringList());
+        }
     }
 
     void manualsListTheOptions()
