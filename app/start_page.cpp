@@ -19,6 +19,7 @@ namespace corvala::app {
 static constexpr int kIconSize = 64;
 static constexpr int kListWidth = 34; ///< in average characters
 static constexpr int kGap = 24;
+static constexpr int kHighPage = 400; ///< which has room for the icon
 
 namespace {
 
@@ -95,9 +96,9 @@ StartPage::StartPage(QWidget* parent)
 
 void StartPage::addHead(QBoxLayout& layout)
 {
-    auto* const icon = new QLabel;
-    icon->setPixmap(programIcon().pixmap(kIconSize));
-    layout.addWidget(icon, 0, Qt::AlignHCenter);
+    m_icon = new QLabel;
+    m_icon->setPixmap(programIcon().pixmap(kIconSize));
+    layout.addWidget(m_icon, 0, Qt::AlignHCenter);
     layout.addWidget(new QLabel(tr("Open data, or drop files and folders here")), 0,
                      Qt::AlignHCenter);
     auto* const row = new QHBoxLayout;
@@ -107,12 +108,14 @@ void StartPage::addHead(QBoxLayout& layout)
                                          tr("Open the case, or the data, in a folder"));
     for (QToolButton* const button : {open, folder}) {
         button->setAutoRaise(false);
+        button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         row->addWidget(button);
     }
     connect(open, &QToolButton::clicked, this, &StartPage::openWanted);
     connect(folder, &QToolButton::clicked, this, &StartPage::folderWanted);
+    row->addStretch();
+    row->insertStretch(0);
     layout.addLayout(row);
-    layout.setAlignment(row, Qt::AlignHCenter);
     setFocusProxy(open);
 }
 
@@ -179,6 +182,7 @@ void StartPage::resizeEvent(QResizeEvent* event)
 {
     const int wide = 3 * fontMetrics().averageCharWidth() * kListWidth + 4 * kGap;
     m_lists->setDirection(width() >= wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_icon->setVisible(height() >= kHighPage);
     QScrollArea::resizeEvent(event);
 }
 

@@ -3,8 +3,8 @@
 
 #include <QScrollArea>
 
-class QAction;
 class QBoxLayout;
+class QLabel;
 
 namespace corvala::app {
 
@@ -33,6 +33,7 @@ private:
     void fillDemos();
 
     // Owned by Qt.
+    QLabel* m_icon = nullptr;
     QBoxLayout* m_lists = nullptr; ///< side by side where there is room
     QBoxLayout* m_recent = nullptr;
     QBoxLayout* m_samples = nullptr;

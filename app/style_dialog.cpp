@@ -2,6 +2,7 @@
 #include "app/style_dialog.h"
 
 #include "app/window_memory.h"
+#include "app/window_place.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
 
 #include <QMainWindow>
@@ -16,10 +17,10 @@ namespace corvala::app {
 using namespace corvala::dialogs::common;
 using corvala::sdk::ui::dialogs::ZoneStyleDialog;
 
-static constexpr int kNarrowestWindow = 480;
+static constexpr int kNarrowestWindow = 380;
 
-/// The dialog becomes wider with the number of its tabs.
-static constexpr int kRoomToGrow = 40;
+/// The dialog becomes wider with what its status line and its tabs say.
+static constexpr int kRoomToGrow = 50;
 
 void offerAllLineTabs()
 {
@@ -50,18 +51,12 @@ QWidget& openStyleDialog(QWidget& mainWindow, DialogInitialization_e initializat
     if (!isFirst)
         return dialog;
     dialog.allowNarrow(); // its preferred size is chosen
-    if (!restoreStyleDialog(dialog))
+    if (restoreStyleDialog(dialog))
+        keepOnScreen(dialog);
+    else
         placeHidingLeast(mainWindow, plotOf(mainWindow), dialog,
                          mainWindow.screen()->availableGeometry());
     return dialog;
-}
-
-/// Of a window, or likely where the window manager has not answered yet.
-static QSize frameOf(const QWidget& window)
-{
-    constexpr QSize kLikely(10, 36);
-    const QSize frame = window.frameGeometry().size() - window.size();
-    return frame.isEmpty() ? kLikely : frame;
 }
 
 /// The least size of a window, with its frame.

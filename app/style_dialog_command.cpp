@@ -2,9 +2,11 @@
 #include "app/style_dialog_command.h"
 
 #include "app/style_dialog.h"
+#include "app/window_place.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
 
 #include <QChildEvent>
+#include <QTimer>
 
 namespace corvala::app {
 
@@ -26,13 +28,16 @@ StyleDialogCommand::StyleDialogCommand(QWidget& mainWindow)
     connect(this, &QAction::triggered, this, &StyleDialogCommand::openOrClose);
 }
 
-/// The dialog shows that it is there when it is first shown, whoever made it.
+/// The dialog shows that it is there when it is first shown, whoever made it. It grows when it has
+/// more to show.
 bool StyleDialogCommand::eventFilter(QObject* watched, QEvent* event)
 {
     QWidget* const dialog = existingStyleDialog();
     if (event->type() == QEvent::ChildPolished
         && static_cast<const QChildEvent*>(event)->child() == dialog)
         dialog->installEventFilter(this);
+    else if (watched == dialog && event->type() == QEvent::Resize && !event->spontaneous())
+        QTimer::singleShot(0, dialog, [dialog] { keepOnScreen(*dialog); });
     else if (watched == dialog && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
         setChecked(event->type() == QEvent::Show);
     return false;

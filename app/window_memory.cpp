@@ -3,6 +3,7 @@
 
 #include "app/style_dialog.h"
 #include "app/user_settings.h"
+#include "app/window_place.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -62,7 +63,8 @@ static QByteArray remembered(const QString& key)
 
 void restoreWindow(QMainWindow& window)
 {
-    window.restoreGeometry(remembered(kWindow));
+    if (window.restoreGeometry(remembered(kWindow)) && !window.isMaximized())
+        keepOnScreen(window);
     window.restoreState(remembered(kPanels));
 }
 
