@@ -66,6 +66,8 @@ void FileDrops::answer(QDropEvent& event)
          !obstacle.isEmpty());
     if (obstacle.isEmpty())
         event.acceptProposedAction();
+    else if (event.type() == QEvent::DragEnter)
+        event.accept(); // else nothing would tell that it leaves
     else
         event.ignore();
 }

@@ -498,7 +498,9 @@ private Q_SLOTS:
         QApplication::sendEvent(canvas, &drop);
         QVERIFY(ended.isEmpty());
         QApplication::sendEvent(canvas, &enter);
-        QVERIFY(!enter.isAccepted() && shownTexts().contains(QLatin1String(" is being read: ")));
+        QDragMoveEvent move({}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(canvas, &move);
+        QVERIFY(!move.isAccepted() && shownTexts().contains(QLatin1String(" is being read: ")));
         QDragLeaveEvent leave;
         QApplication::sendEvent(m_window.get(), &leave);
         QVERIFY(!shownTexts().contains(QLatin1String(" is being read: ")));
