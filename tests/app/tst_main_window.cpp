@@ -316,6 +316,48 @@ private Q_SLOTS:
         QVERIFY(!pick->isChecked());
     }
 
+    void rightClickOffersWhatIsThere_data()
+    {
+        const Rows<const char*, const char*, const char*> row;
+        row("hide a zone", "field2d", "&Hide This Zone", "1-2,4-12");
+        row("show a zone only", "field2d", "Show &Only This Zone", "3");
+        row("hide a line", "xy", "&Hide This Line", "1-2,4-6");
+        row("pick", "field2d", "&Pick This Zone", "all");
+    }
+    /// One step each; the menu goes with the data that it is about.
+    void rightClickOffersWhatIsThere()
+    {
+        const auto [demo, command, left] = currentRow<const char*, const char*, const char*>();
+        m_window->openDemo(QLatin1String(demo));
+        play::waitUntilIdle();
+        auto* view = m_window->findChild<plot::FrameView*>();
+        const auto menu = [&] { return m_window->findChild<QMenu*>(QStringLiteral("plotMenu")); };
+        const auto active = [] {
+            return host::toText(frame().isFieldPlot() ? frame().activeFieldMaps()
+                                                      : frame().activeLineMaps(),
+                                frame().shownMapCount());
+        };
+        Q_EMIT view->menuWanted(3, m_window->geometry().center());
+        const QList<QAction*> actions = menu()->actions();
+        const auto found = std::find_if(actions.begin(), actions.end(), [&](const QAction* action) {
+            return action->text() == QLatin1String(command);
+        });
+        QVERIFY(found != actions.end());
+        const int steps = Document::instance().undo().stepCount();
+        (*found)->trigger();
+        menu()->close();
+        play::waitUntilIdle();
+        QCOMPARE(active(), std::string(left));
+        const bool picks = std::string(left) == "all";
+        QCOMPARE(Document::instance().undo().stepCount(), steps + (picks ? 0 : 1));
+        QCOMPARE(m_window->findChild<QLabel*>(QStringLiteral("picked"))->text().isEmpty(), !picks);
+        Q_EMIT view->menuWanted(3, m_window->geometry().center());
+        QVERIFY(menu());
+        m_window->openDemo(QStringLiteral("transient"));
+        play::waitUntilIdle();
+        QTRY_VERIFY(!menu());
+    }
+
     void undoIsNamedAndWorksByShortcut()
     {
         m_window->openDemo(QStringLiteral("field2d"));
