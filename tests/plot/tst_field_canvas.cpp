@@ -736,6 +736,97 @@ private Q_SLOTS:
         }
     }
 
+    void boxesFillThePlot_data()
+    {
+        const Rows<const char*, bool> row;
+        row("plane", "field2d", false);
+        row("space", "field3d", false);
+        row("space in parallel", "field3d", true);
+    }
+    /// What is in the middle of the box comes into that of the plot, and the view before back.
+    void boxesFillThePlot()
+    {
+        const auto [demo, isParallel] = currentRow<const char*, bool>();
+        openDemo(demo);
+        ShownPlot shown;
+        shown.canvas().setParallel(isParallel);
+        QCOMPARE(shown.canvas().isParallel(), isParallel);
+        shown.view.requestRedraw();
+        shown.settle();
+        const QImage before = shown.grabbed();
+        const QPoint place = shown.middle() + QPoint(40, 25);
+        const QPoint half(30, 25);
+        const auto wanted = shown.fieldView().placeAt(place);
+        QVERIFY(wanted);
+        shown.view.setZoomsToBox(true);
+        shown.drag(place - half, place + half);
+        QVERIFY(shareOfChange(before, shown.grabbed()) > 0.02);
+        const auto seen = shown.fieldView().camera().focalPoint;
+        for (const std::size_t axis : {0, 1})
+            QVERIFY(std::abs(seen[axis] - (*wanted)[axis]) < 0.05);
+        shown.view.showPreviousView();
+        shown.settle();
+        QVERIFY(shareOfChange(before, shown.grabbed()) < 0.001);
+        shown.canvas().zoomToBox({5000, 5000, 10, 10});
+        shown.view.requestRedraw();
+        shown.settle();
+        QVERIFY(!shown.canvas().seesSomething());
+        QVERIFY(shown.canvas().zoomToMaps(host::allUpTo(1)) && shown.canvas().seesSomething());
+        QVERIFY(!shown.canvas().zoomToMaps({}));
+    }
+
+    /// Along an axis and back to the corner; outlines are on the screen only.
+    void presetsAndOutlines()
+    {
+        openDemo("field3d");
+        ShownPlot shown;
+        const QImage corner = shown.grabbed();
+        QList<QImage> pictures;
+        for (const ViewPreset preset :
+             {ViewPreset::X, ViewPreset::Y, ViewPreset::Z, ViewPreset::Corner}) {
+            shown.canvas().lookFrom(preset);
+            shown.view.requestRedraw();
+            shown.settle();
+            QVERIFY(shown.canvas().seesSomething());
+            for (const QImage& other : std::as_const(pictures))
+                QVERIFY(shareOfChange(other, shown.grabbed()) > 0.01);
+            pictures << shown.grabbed();
+        }
+        QCOMPARE(shareOfChange(corner, pictures.last()), 0.0);
+        const QImage saved = shown.view.render(kSize, nullptr);
+        shown.view.setOutlined(host::allUpTo(2));
+        QVERIFY(shareOfChange(corner, shown.grabbed()) > 0.002);
+        QCOMPARE(shown.view.render(kSize, nullptr), saved);
+    }
+
+    /// Only a click of the right button opens a menu.
+    void mouseTellsWhatIsThere()
+    {
+        openDemo("field2d");
+        ShownPlot shown;
+        QSignalSpy menus(&shown.view, &FrameView::menuWanted);
+        QSignalSpy told(&shown.view, &FrameView::probed);
+        const QPoint place = shown.middle() + QPoint(20, 15);
+        const CvlInt64 zone = shown.fieldView().zoneAt(place);
+        QTest::mouseClick(shown.target(), Qt::RightButton, {}, place);
+        QTRY_COMPARE(menus.size(), 1);
+        QCOMPARE(menus[0][0].value<CvlInt64>(), zone);
+        QTest::mousePress(shown.target(), Qt::RightButton, {}, place);
+        QMouseEvent move(QEvent::MouseMove, place + QPoint(30, 0), Qt::NoButton, Qt::RightButton,
+                         {});
+        QCoreApplication::sendEvent(shown.target(), &move);
+        QTest::mouseRelease(shown.target(), Qt::RightButton, {}, place + QPoint(30, 0));
+        shown.view.fitView();
+        shown.settle();
+        QMouseEvent hover(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton, {});
+        QCoreApplication::sendEvent(shown.target(), &hover);
+        const QString expected = QStringLiteral("Zone %1:").arg(zone);
+        QTRY_VERIFY2(!told.isEmpty() && told.last()[0].toString().contains(expected),
+                     qPrintable(told.isEmpty() ? QString() : told.last()[0].toString()));
+        QVERIFY(told.last()[0].toString().startsWith("X = "));
+        QCOMPARE(menus.size(), 1);
+    }
+
     void legendsAreMovedByHand()
     {
         for (const char* demo : {"field2d", "field3d"}) {

@@ -529,6 +529,12 @@ private Q_SLOTS:
         QVERIFY(shown.view.render(kSize, nullptr)
                 != renderToImage(document().activeFrameId(), kSize, nullptr));
 
+        const std::any kept = shown.canvas().view();
+        shown.canvas().zoomToBox({5000, 5000, 10, 10});
+        QVERIFY(!shown.canvas().seesSomething());
+        QVERIFY(shown.canvas().zoomToMaps(host::allUpTo(1)) && shown.canvas().seesSomething());
+        shown.canvas().setView(kept);
+
         // Whatever changes in the frame, and while another plot type is shown.
         write("LinePlotLayers/ShowLines", "", 0);
         write("LinePlotLayers/ShowSymbols", "", 1);
