@@ -93,6 +93,7 @@ void TimeBar::makeFields()
     m_slider->setObjectName(QStringLiteral("solutionTime"));
     m_slider->setAccessibleName(tr("Solution time"));
     m_slider->setPageStep(1);
+    m_slider->setMinimumWidth(80);
     m_entry = new ui::NumberField(ui::NumberField::kSignificantDigits, this);
     m_entry->setObjectName(QStringLiteral("timeEntry"));
     m_entry->setAccessibleName(tr("Solution time"));

@@ -78,6 +78,26 @@ double BarChart::base(const LineView& view) const
     return m_hasZero ? scale(0.0) : scale.scale > 0.0 ? -kFar : kFar;
 }
 
+double BarChart::leastDistance() const
+{
+    double least = 0.0;
+    for (std::size_t i = 1; i < m_places->size() && m_style.together > 1; ++i) {
+        const double distance = m_style.isUpright ? std::abs(m_places->x(i) - m_places->x(i - 1))
+                                                  : std::abs(m_places->y(i) - m_places->y(i - 1));
+        if (distance > 0.0 && (least == 0.0 || distance < least))
+            least = distance;
+    }
+    return least;
+}
+
+double BarChart::shift(const LineView& view, double ratio) const
+{
+    const LineScale& scale = m_style.isUpright ? view.x : view.y;
+    const double room = std::abs(m_apart * scale.scale) / m_style.together;
+    const double width = m_style.width * ratio;
+    return m_style.turn * (m_apart > 0.0 ? std::min(width, room) : width);
+}
+
 QRectF BarChart::bar(std::size_t point, const LineView& view, double ratio) const
 {
     const double width = m_style.width * ratio;
@@ -91,7 +111,7 @@ QRectF BarChart::bar(std::size_t point, const LineView& view, double ratio) cons
     const double last = (isUpright ? seen.high : seen.right) + beyond;
     const double zero = std::clamp(base(view), first, last);
     const double end = std::clamp(isUpright ? value.y() : value.x(), first, last);
-    const double shift = m_style.shift * ratio;
+    const double shift = this->shift(view, ratio);
     const QRectF bar = isUpright
         ? QRectF(QPointF(value.x() - width / 2.0, zero), QPointF(value.x() + width / 2.0, end))
         : QRectF(QPointF(zero, value.y() - width / 2.0), QPointF(end, value.y() + width / 2.0));
@@ -128,7 +148,7 @@ double BarChart::distance(const LineView& view, const QPointF& pixel, double lim
 
 void BarChart::cover(CoverGrid& grid, const LineView& view) const
 {
-    const double across = m_style.width / 2.0 + std::abs(m_style.shift);
+    const double across = m_style.width / 2.0 + std::abs(shift(view, 1.0));
     const double zero = base(view);
     const auto reach = [&](LineBox box) {
         if (m_style.isUpright)

@@ -16,7 +16,8 @@ struct BarStyle
     bool isUpright =
         true; ///< bars stand on 0 of the second axis, else they lie on that of the first
     double width = 10.0;
-    double shift = 0.0; ///< from the point, along the axis that bars stand on
+    int together = 1; ///< bars of so many maps stand at a point, side by side
+    double turn = 0.0; ///< its place among them: steps from the middle, of a width at most
     QColor line;
     double lineWidth = 1.0;
     QColor fill; ///< not valid for none
@@ -34,6 +35,7 @@ public:
         : m_places(std::move(places))
         , m_hasZero(hasZero)
         , m_style(std::move(style))
+        , m_apart(leastDistance())
     {
     }
 
@@ -52,10 +54,15 @@ public:
 private:
     /// The pixel where bars come from.
     double base(const LineView& view) const;
+    /// Between points that follow each other, along the axis that bars stand on; 0 without two.
+    double leastDistance() const;
+    /// Pixels from the point: never so far that bars seem to be those of the next one.
+    double shift(const LineView& view, double ratio) const;
 
     std::shared_ptr<const Polyline> m_places;
     bool m_hasZero;
     BarStyle m_style;
+    double m_apart;
 };
 
 } // namespace corvala::plot

@@ -10,6 +10,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -305,9 +306,9 @@ static bool standTogether(const host::Frame& frame, CvlInt64 one, CvlInt64 other
                       : isSame(assign.yAxisVar) && isSame(assign.yAxis));
 }
 
-/// Bars of several maps at the same places stand side by side: how many widths from the middle.
-/// Those of more maps than can be told apart stand on each other.
-static double turnBeside(const ShownLine& line)
+/// Bars of several maps at the same places stand side by side; those of more maps than can be told
+/// apart stand on each other.
+static void standBeside(const ShownLine& line, BarStyle& bars)
 {
     constexpr int kMost = 12;
     int before = 0;
@@ -318,9 +319,10 @@ static double turnBeside(const ShownLine& line)
             continue;
         before += map < line.map ? 1 : 0;
         if (++all > kMost)
-            return 0.0;
+            return;
     }
-    return before - (all - 1) / 2.0;
+    bars.together = std::max(all, 1);
+    bars.turn = before - (bars.together - 1) / 2.0;
 }
 
 std::shared_ptr<const ChartShape> barShape(const ShownLine& line, const LineGeometry& geometry)
@@ -328,7 +330,7 @@ std::shared_ptr<const ChartShape> barShape(const ShownLine& line, const LineGeom
     if (geometry.plane.isPolar)
         return nullptr;
     BarStyle bars = barStyleOf(LineStyle(line));
-    bars.shift = bars.width * turnBeside(line);
+    standBeside(line, bars);
     const bool hasZero =
         bars.isUpright ? !geometry.plane.isSecondLogarithmic : !geometry.plane.isFirstLogarithmic;
     return std::make_shared<BarChart>(geometry.places, hasZero, std::move(bars));

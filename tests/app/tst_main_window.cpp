@@ -393,6 +393,7 @@ private Q_SLOTS:
             layer(name).trigger();
             QCOMPARE(frame().solutionTime(), time);
         }
+        play::waitUntilIdle();
         auto* entry = m_window->findChild<QDoubleSpinBox*>(QStringLiteral("timeEntry"));
         entry->findChild<QLineEdit*>()->setText(QStringLiteral("0.6"));
         play::pressKey(entry, Qt::Key_Return);
