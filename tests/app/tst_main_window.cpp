@@ -395,6 +395,7 @@ private Q_SLOTS:
         }
         play::waitUntilIdle();
         auto* entry = m_window->findChild<QDoubleSpinBox*>(QStringLiteral("timeEntry"));
+        entry->setFocus();
         entry->findChild<QLineEdit*>()->setText(QStringLiteral("0.6"));
         play::pressKey(entry, Qt::Key_Return);
         QCOMPARE(frame().solutionTime(), 1.0); // the nearest one
