@@ -52,6 +52,8 @@ void DataCommands::open(host::io::ReadRequest request)
 
 void DataCommands::preview(host::io::ReadRequest request)
 {
+    if (m_opener.isRunning() || !m_mayReplace())
+        return;
     request.purpose = host::io::ReadPurpose::Preview;
     m_opener.start(request);
 }

@@ -39,7 +39,7 @@ DocumentCommands::DocumentCommands(QMainWindow& window, NoticeBar& notice, DataO
                    &DocumentCommands::saveCommand),
         addCommand(tr("Save &As..."), "document-save-as", QKeySequence::SaveAs,
                    tr("Saves the document in another file"), &DocumentCommands::saveAsCommand),
-        addCommand(tr("&Load Style from Document..."), "", {},
+        addCommand(tr("&Load Style from Document..."), "document-import", {},
                    tr("Takes the styles of zones of the same names over to the open data"),
                    &DocumentCommands::loadStyles)};
     m_saveCommands[1]->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+S")));
@@ -50,8 +50,8 @@ QAction* DocumentCommands::addCommand(const QString& text, const char* icon,
                                       void (DocumentCommands::*command)())
 {
     auto* action = new QAction(text, this);
-    if (*icon != '\0')
-        action->setIcon(commandIcon(icon));
+    action->setObjectName(QLatin1String(icon));
+    action->setIcon(commandIcon(icon));
     action->setShortcut(keys);
     action->setShortcutContext(Qt::ApplicationShortcut);
     action->setStatusTip(tip);

@@ -58,12 +58,12 @@ std::string viewText(const std::any& view)
 std::any viewOf(const std::string& text, PlotType_e plotType)
 {
     try {
-        const Json json = Json::parse(text);
+        const Json parsed = Json::parse(text);
         if (plotType == PlotType_Field2D || plotType == PlotType_Field3D)
-            return cameraOf(json);
+            return cameraOf(parsed);
         ChartRange range;
-        read(json.at("first"), range.first);
-        read(json.at("second"), range.second);
+        read(parsed.at("first"), range.first);
+        read(parsed.at("second"), range.second);
         return range;
     } catch (const Json::exception&) {
         return {}; // also where there is no text

@@ -24,7 +24,7 @@ bool isDocumentFile(const QString& name)
         return true;
     constexpr qint64 kBeginning = 200;
     QFile file(name);
-    if (QFileInfo(name).isDir() || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly))
         return false;
     return file.read(kBeginning).contains('"' + QByteArray(kFormatName) + '"');
 }

@@ -37,9 +37,9 @@ StoredValue valueNamed(const std::string& path, const JsonPlace& place)
     for (const QString& name : QString::fromStdString(path.substr(0, bracket)).split('.'))
         names.push_back(name.toStdString());
     named.attribute = Schema::instance().find(names);
-    place.require(named.attribute >= 0
-                      && pathText(Schema::instance().at(named.attribute), named.index) == path,
-                  Text::tr("no such style value"));
+    if (!(named.attribute >= 0
+          && pathText(Schema::instance().at(named.attribute), named.index) == path))
+        place.fail(Text::tr("no such style value"));
     return named;
 }
 
@@ -50,15 +50,16 @@ ValueList::Value readValue(const JsonPlace& place, const Attribute& attribute,
     if (attribute.isText()) {
         input = place.text();
     } else if (attribute.type == ValueType::Bool) {
-        place.require(place.json().is_boolean(), Text::tr("must be true or false"));
+        if (!place.json().is_boolean())
+            place.fail(Text::tr("must be true or false"));
         input = place.json().get<bool>();
     } else {
         input = place.number();
     }
     ValueList::Value value;
     const StyleWriteResult_e result = convertValue(attribute, input, limits, value);
-    place.require(result == StyleWrite_Ok,
-                  QStringLiteral("%1: %2").arg(reasonText(result), shown(place.json())));
+    if (result != StyleWrite_Ok)
+        place.fail(QStringLiteral("%1: %2").arg(reasonText(result), shown(place.json())));
     return value;
 }
 
@@ -68,16 +69,34 @@ std::vector<StoredValue> readValues(const JsonPlace& place, Scope scope, const N
     place.forEachMember([&](const std::string& path, const JsonPlace& member) {
         StoredValue stored = valueNamed(path, member);
         const Attribute& attribute = Schema::instance().at(stored.attribute);
-        member.require(attribute.scope == scope && attribute.type != ValueType::Numbers,
-                       Text::tr("the value does not belong here"));
-        member.require(attribute.indexCount > 0
-                           ? stored.index >= 1 && stored.index <= attribute.indexCount
-                           : stored.index == -1,
-                       Text::tr("there is no such index"));
+        if (attribute.scope != scope || attribute.type == ValueType::Numbers)
+            member.fail(Text::tr("the value does not belong here"));
+        if (!(attribute.indexCount > 0 ? stored.index >= 1 && stored.index <= attribute.indexCount
+                                       : stored.index == -1))
+            member.fail(Text::tr("there is no such index"));
         stored.value = readValue(member, attribute, limits);
         values.push_back(std::move(stored));
     });
     return values;
+}
+
+/// Each map has one value. Looks for one that has two only when there is one.
+void requireDisjoint(const std::vector<MapTable::ValueOfMaps>& values, const JsonPlace& place)
+{
+    std::vector<const NumberSet*> sets;
+    std::uint64_t count = 0;
+    for (const auto& [maps, value] : values) {
+        sets.push_back(&maps);
+        count += maps.cardinality();
+    }
+    if (values.empty() || NumberSet::fastunion(sets.size(), sets.data()).cardinality() == count)
+        return;
+    NumberSet taken;
+    for (const NumberSet* const maps : sets) {
+        if (maps->intersect(taken))
+            place.fail(Text::tr("map %1 has two values").arg((*maps & taken).minimum()));
+        taken |= *maps;
+    }
 }
 
 StoredColumn readColumn(const std::string& path, const JsonPlace& place, Scope scope,
@@ -86,25 +105,22 @@ StoredColumn readColumn(const std::string& path, const JsonPlace& place, Scope s
     StoredColumn column;
     column.attribute = valueNamed(path, place).attribute;
     const Attribute& attribute = Schema::instance().at(column.attribute);
-    place.require(attribute.scope == scope, Text::tr("the value does not belong here"));
-    NumberSet taken;
+    if (attribute.scope != scope)
+        place.fail(Text::tr("the value does not belong here"));
     place.forEachElement([&](const JsonPlace& element) {
         MapTable::ValueOfMaps entry;
         bool hasValue = false;
-        element.readMembers({{"maps",
-                              [&](const JsonPlace& maps) {
-                                  entry.maps = maps.numbers(mapCount);
-                                  maps.require(!entry.maps.intersect(taken),
-                                               Text::tr("a map has two values"));
-                                  taken |= entry.maps;
-                              }},
-                             {"value", [&](const JsonPlace& value) {
-                                  entry.value = readValue(value, attribute, limits);
-                                  hasValue = true;
-                              }}});
-        element.require(hasValue && !entry.maps.isEmpty(), Text::tr("maps or value are missing"));
+        element.readMembers(
+            {{"maps", [&](const JsonPlace& maps) { entry.maps = maps.numbers(mapCount); }},
+             {"value", [&](const JsonPlace& value) {
+                  entry.value = readValue(value, attribute, limits);
+                  hasValue = true;
+              }}});
+        if (!hasValue || entry.maps.isEmpty())
+            element.fail(Text::tr("maps or value are missing"));
         column.values.push_back(std::move(entry));
     });
+    requireDisjoint(column.values, place);
     return column;
 }
 
@@ -128,8 +144,8 @@ void readName(const JsonPlace& place, NameList& names)
     place.readMembers({{"first", [&](const JsonPlace& name) { first = name.text(); }},
                        {"last", [&](const JsonPlace& name) { last = name.text(); }}});
     const std::int64_t places = placesBetween(first, last);
-    place.require(places >= 0 && places < kMostZones - names.count(),
-                  Text::tr("the last name does not count on from the first"));
+    if (places < 0 || places >= kMostZones - names.count())
+        place.fail(Text::tr("the last name does not count on from the first"));
     names.add(first, places + 1);
 }
 
@@ -178,8 +194,8 @@ public:
         : m_folder(folder)
     {
         place.readMembers(membersOfData());
-        place.require(m_frame.data.empty() == m_frame.zones.runs().empty(),
-                      Text::tr("data and their zones belong together"));
+        if (m_frame.data.empty() != m_frame.zones.runs().empty())
+            place.fail(Text::tr("data and their zones belong together"));
     }
     StoredFrame take() { return std::move(m_frame); }
 
@@ -202,10 +218,11 @@ void FrameReader::readStrand(Place place)
     place.readMembers(
         {{"strand", [&](Place member) { strand.strand = int(member.integer(1, kMost)); }},
          {"zones", [&](Place member) { strand.zones = member.numbers(m_frame.zones.count()); }}});
-    place.require(strand.strand > 0 && !strand.zones.isEmpty(),
-                  Text::tr("strand or zones are missing"));
+    if (strand.strand == 0 || strand.zones.isEmpty())
+        place.fail(Text::tr("strand or zones are missing"));
     for (const StoredStrand& other : m_frame.strands)
-        place.require(!other.zones.intersect(strand.zones), Text::tr("a zone has two strands"));
+        if (other.zones.intersect(strand.zones))
+            place.fail(Text::tr("a zone has two strands"));
     m_frame.strands.push_back(std::move(strand));
 }
 
@@ -272,7 +289,8 @@ void readPalette(const JsonPlace& place, std::map<int, Rgb>& palette)
         entry.forEachElement([&](const JsonPlace& channel) {
             channels.push_back(static_cast<std::uint8_t>(channel.integer(0, 255)));
         });
-        entry.require(channels.size() == 3, Text::tr("must be three numbers"));
+        if (channels.size() != 3)
+            entry.fail(Text::tr("must be three numbers"));
         palette[int(entry.keyNumber(0, kPaletteEntries - 1))] = {channels[0], channels[1],
                                                                  channels[2]};
     });
@@ -299,7 +317,8 @@ StoredDocument readDocument(const JsonPlace& root, const QString& folder)
               const auto count = static_cast<std::int64_t>(document.frames.size());
               document.activeFrame = place.integer(std::min<std::int64_t>(1, count), count);
           }}});
-    root.require(root.json().contains("activeFrame"), Text::tr("\"activeFrame\" is missing"));
+    if (!root.json().contains("activeFrame"))
+        root.fail(Text::tr("\"activeFrame\" is missing"));
     return document;
 }
 
@@ -310,7 +329,8 @@ void checkVersion(const JsonPlace& root)
     const bool isDocument = json.is_object() && json.contains("format")
         && json["format"] == kFormatName && json.contains("version")
         && json["version"].is_number_integer() && json["version"] >= 1;
-    root.require(isDocument, Text::tr("this is no document"));
+    if (!isDocument)
+        root.fail(Text::tr("this is no document"));
     if (json["version"] > kFormatVersion)
         throw DocumentError(QStringLiteral("version"),
                             Text::tr("the document has version %1 of the format; this program "
@@ -320,12 +340,16 @@ void checkVersion(const JsonPlace& root)
                             DocumentError::Kind::NewerVersion);
 }
 
-/// A key that stands twice would hide what stands under the first.
+/// A key that stands twice would hide what stands under the first; what is nested deeper than
+/// anything that is written would exhaust the stack.
 class KeyCheck
 {
 public:
-    bool operator()(int, Json::parse_event_t event, Json& parsed)
+    bool operator()(int depth, Json::parse_event_t event, Json& parsed)
     {
+        constexpr int kDeepest = 20;
+        if (depth > kDeepest)
+            throw DocumentError({}, Text::tr("objects and lists are nested too deeply"));
         if (event == Json::parse_event_t::object_start)
             m_keys.emplace_back();
         else if (event == Json::parse_event_t::object_end)

@@ -45,7 +45,8 @@ void JsonPlace::readMembers(const std::vector<Reader>& readers) const
         const bool isKnown =
             std::any_of(readers.begin(), readers.end(),
                         [&key](const Reader& reader) { return key == reader.key; });
-        member.require(isKnown, Text::tr("unknown name"));
+        if (!isKnown)
+            member.fail(Text::tr("unknown name"));
     });
     for (const Reader& reader : readers)
         if (const auto member = m_value.find(reader.key); member != m_value.end())
@@ -55,50 +56,55 @@ void JsonPlace::readMembers(const std::vector<Reader>& readers) const
 void JsonPlace::forEachMember(
     const std::function<void(const std::string&, const JsonPlace&)>& read) const
 {
-    require(m_value.is_object(), Text::tr("must be an object, not %1").arg(brief(m_value)));
+    if (!m_value.is_object())
+        fail(Text::tr("must be an object, not %1").arg(brief(m_value)));
     for (auto member = m_value.begin(); member != m_value.end(); ++member)
         read(member.key(), JsonPlace(member.value(), *this, &member.key(), 0));
 }
 
 void JsonPlace::forEachElement(const std::function<void(const JsonPlace&)>& read) const
 {
-    require(m_value.is_array(), Text::tr("must be a list, not %1").arg(brief(m_value)));
+    if (!m_value.is_array())
+        fail(Text::tr("must be a list, not %1").arg(brief(m_value)));
     for (std::size_t i = 0; i < m_value.size(); ++i)
         read(JsonPlace(m_value[i], *this, nullptr, i + 1));
 }
 
 const std::string& JsonPlace::text() const
 {
-    require(m_value.is_string(), Text::tr("must be a text, not %1").arg(brief(m_value)));
+    if (!m_value.is_string())
+        fail(Text::tr("must be a text, not %1").arg(brief(m_value)));
     return m_value.get_ref<const std::string&>();
 }
 
 double JsonPlace::number() const
 {
-    require(m_value.is_number(), Text::tr("must be a number, not %1").arg(brief(m_value)));
+    if (!m_value.is_number())
+        fail(Text::tr("must be a number, not %1").arg(brief(m_value)));
     const double number = m_value.get<double>();
-    require(std::isfinite(number), Text::tr("the number is too large"));
+    if (!(std::isfinite(number)))
+        fail(Text::tr("the number is too large"));
     return number;
 }
 
 std::int64_t JsonPlace::integer(std::int64_t minimum, std::int64_t maximum) const
 {
     const double value = number();
-    require(value == std::floor(value) && value >= double(minimum) && value <= double(maximum),
-            Text::tr("must be a whole number from %1 to %2, not %3")
-                .arg(minimum)
-                .arg(maximum)
-                .arg(brief(m_value)));
+    if (!(value == std::floor(value) && value >= double(minimum) && value <= double(maximum)))
+        fail(Text::tr("must be a whole number from %1 to %2, not %3")
+                 .arg(minimum)
+                 .arg(maximum)
+                 .arg(brief(m_value)));
     return static_cast<std::int64_t>(value);
 }
 
 NumberSet JsonPlace::numbers(std::int64_t count) const
 {
     NumberSet set;
-    require(text() != "all" && fromText(text(), 0, set),
-            Text::tr("%1 is no set of numbers such as \"1-3,7\"").arg(brief(m_value)));
-    require(set.isEmpty() || static_cast<std::int64_t>(set.maximum()) <= count,
-            Text::tr("%1 goes beyond %2, the last number").arg(brief(m_value)).arg(count));
+    if (text() == "all" || !fromText(text(), 0, set))
+        fail(Text::tr("%1 is no set of numbers such as \"1-3,7\"").arg(brief(m_value)));
+    if (!set.isEmpty() && static_cast<std::int64_t>(set.maximum()) > count)
+        fail(Text::tr("%1 goes beyond %2, the last number").arg(brief(m_value)).arg(count));
     return set;
 }
 
@@ -107,8 +113,8 @@ std::int64_t JsonPlace::keyNumber(std::int64_t minimum, std::int64_t maximum) co
     std::int64_t number = 0;
     const char* const end = m_key->data() + m_key->size();
     const auto [rest, error] = std::from_chars(m_key->data(), end, number);
-    require(error == std::errc() && rest == end && number >= minimum && number <= maximum,
-            Text::tr("the name must be a number from %1 to %2").arg(minimum).arg(maximum));
+    if (!(error == std::errc() && rest == end && number >= minimum && number <= maximum))
+        fail(Text::tr("the name must be a number from %1 to %2").arg(minimum).arg(maximum));
     return number;
 }
 

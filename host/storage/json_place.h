@@ -24,11 +24,6 @@ public:
     const Json& json() const { return m_value; }
     QString path() const; ///< such as "frames[2].zones"; empty at the root
     [[noreturn]] void fail(const QString& reason) const;
-    void require(bool condition, const QString& reason) const
-    {
-        if (!condition)
-            fail(reason);
-    }
 
     /// Reads the members of an object that are there, in the order of the readers; a member
     /// without one is an error.

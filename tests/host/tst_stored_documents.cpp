@@ -177,7 +177,8 @@ private Q_SLOTS:
         row("map out of range", "\"1-3\"", "\"1-13\"",
             "[1].maps: \"1-13\" goes beyond 12, the last number");
         row("no set", "\"1-3\"", "\"1-\"", "is no set of numbers");
-        row("map with two values", "\"5\"", "\"3,5\"", "[2].maps: a map has two values");
+        row("map with two values", "\"5\"", "\"3,5\"",
+            "FieldMap.Mesh.MeshType: map 3 has two values");
         row("index", "Var[1]", "Var[17]", "there is no such index");
         row("key twice", "\"zones\": [", "\"data\": [", "\"data\" stands twice in one object");
         row("active frame", "\"activeFrame\": 1", "\"activeFrame\": 2",
