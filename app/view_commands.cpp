@@ -102,7 +102,7 @@ void ViewCommands::addZooms()
     m_ofBoxes = {m_zoomBox, const_cast<QAction*>(selected), in, out};
     m_previous = add("previousView", tr("P&revious View"),
                      tr("Go back to what was seen before the view was last changed"),
-                     QKeySequence(QStringLiteral("Alt+Left")), [this] {
+                     QKeySequence(QStringLiteral("Ctrl+Shift+0")), [this] {
                          m_view->showPreviousView();
                          refresh();
                      });

@@ -553,10 +553,6 @@ abstand</translation>
         <translation>Datei</translation>
     </message>
     <message>
-        <source>Write a picture of the plot, then end: .png, .pdf, .svg, .jpg or .bmp.</source>
-        <translation>Ein Bild der Darstellung schreiben und dann enden: .png, .pdf, .svg, .jpg oder .bmp.</translation>
-    </message>
-    <message>
         <source>Size of the picture on paper, as 160x120mm (usual for .pdf and .svg), or in pixels, as 1200x900.</source>
         <translation>Größe des Bildes auf dem Papier, etwa 160x120mm (üblich für .pdf und .svg), oder in Pixeln, etwa 1200x900.</translation>
     </message>
@@ -589,18 +585,6 @@ abstand</translation>
         <translation>Schreibweise</translation>
     </message>
     <message>
-        <source>Plots field data and lets you edit the style of its zones and lines.
-Data are opened first; then a script is played, a report written, a picture drawn.
-Exit codes: 0 success, 1 failure, 2 wrong usage.</source>
-        <translation>Stellt Felddaten dar und lässt den Stil ihrer Zonen und Linien bearbeiten.
-Zuerst werden Daten geöffnet; dann wird ein Skript abgespielt, ein Bericht geschrieben, ein Bild gezeichnet.
-Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
-    </message>
-    <message>
-        <source>Data files, opened together, or the folder of a case.</source>
-        <translation>Datendateien, die zusammen geöffnet werden, oder der Ordner eines Falls.</translation>
-    </message>
-    <message>
         <source>%1 is given twice</source>
         <translation>%1 ist zweimal angegeben</translation>
     </message>
@@ -623,6 +607,46 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     <message>
         <source>&quot;%1&quot; is no size of a picture, such as 160x120mm or 1200x900</source>
         <translation>„%1“ ist keine Bildgröße wie 160x120mm oder 1200x900</translation>
+    </message>
+    <message>
+        <source>Write a picture of the plot, then end: .png, .pdf, .svg, .tif, .jpg or .bmp.</source>
+        <translation>Ein Bild der Darstellung schreiben und dann enden: .png, .pdf, .svg, .tif, .jpg oder .bmp.</translation>
+    </message>
+    <message>
+        <source>Save the document, then end: .cvdoc.</source>
+        <translation>Das Dokument speichern und dann enden: .cvdoc.</translation>
+    </message>
+    <message>
+        <source>Leave the background of the picture out: .png, .pdf, .svg or .tif.</source>
+        <translation>Den Hintergrund des Bildes auslassen: .png, .pdf, .svg oder .tif.</translation>
+    </message>
+    <message>
+        <source>Plots field data and lets you edit the style of its zones and lines.
+Data are opened first; then a script is played, a report written, a picture drawn, the document saved.
+Exit codes: 0 success, 1 failure, 2 wrong usage.</source>
+        <translation>Stellt Felddaten dar und lässt den Stil ihrer Zonen und Linien bearbeiten.
+Zuerst werden Daten geöffnet; dann wird ein Skript abgespielt, ein Bericht geschrieben, ein Bild gezeichnet, das Dokument gespeichert.
+Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
+    </message>
+    <message>
+        <source>A document, or data files that are opened together, or the folder of a case.</source>
+        <translation>Ein Dokument, oder Datendateien, die zusammen geöffnet werden, oder der Ordner eines Falls.</translation>
+    </message>
+    <message>
+        <source>--transparent goes with --render of .png, .pdf, .svg or .tif</source>
+        <translation>--transparent gehört zu --render von .png, .pdf, .svg oder .tif</translation>
+    </message>
+    <message>
+        <source>a document is opened alone</source>
+        <translation>ein Dokument wird allein geöffnet</translation>
+    </message>
+</context>
+<context>
+    <name>CommandTips</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a command and its keys</comment>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -681,6 +705,169 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     <message>
         <source>Xvfb cannot be started: %1</source>
         <translation>Xvfb kann nicht gestartet werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentText</name>
+    <message>
+        <source>there are no data that could take the styles</source>
+        <translation>es gibt keine Daten, die den Stil annehmen könnten</translation>
+    </message>
+    <message>
+        <source>no such style value</source>
+        <translation>kein solcher Stilwert</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>muss wahr oder falsch sein</translation>
+    </message>
+    <message>
+        <source>the value does not belong here</source>
+        <translation>der Wert gehört nicht hierher</translation>
+    </message>
+    <message>
+        <source>there is no such index</source>
+        <translation>diesen Index gibt es nicht</translation>
+    </message>
+    <message>
+        <source>map %1 has two values</source>
+        <translation>%1 hat zwei Werte</translation>
+    </message>
+    <message>
+        <source>maps or value are missing</source>
+        <translation>Nummern oder Wert fehlen</translation>
+    </message>
+    <message>
+        <source>the last name does not count on from the first</source>
+        <translation>der letzte Name zählt nicht vom ersten weiter</translation>
+    </message>
+    <message>
+        <source>must open data</source>
+        <translation>muss Daten öffnen</translation>
+    </message>
+    <message>
+        <source>data and their zones belong together</source>
+        <translation>Daten und ihre Zonen gehören zusammen</translation>
+    </message>
+    <message>
+        <source>strand or zones are missing</source>
+        <translation>Strang oder Zonen fehlen</translation>
+    </message>
+    <message>
+        <source>a zone has two strands</source>
+        <translation>eine Zone hat zwei Stränge</translation>
+    </message>
+    <message>
+        <source>must be three numbers</source>
+        <translation>müssen drei Zahlen sein</translation>
+    </message>
+    <message>
+        <source>&quot;activeFrame&quot; is missing</source>
+        <translation>„activeFrame“ fehlt</translation>
+    </message>
+    <message>
+        <source>this is no document</source>
+        <translation>das ist kein Dokument</translation>
+    </message>
+    <message>
+        <source>the document has version %1 of the format; this program reads up to version %2</source>
+        <translation>das Dokument hat die Version %1 des Formats; dieses Programm liest bis Version %2</translation>
+    </message>
+    <message>
+        <source>objects and lists are nested too deeply</source>
+        <translation>Objekte und Listen sind zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>%1 stands twice in one object</source>
+        <translation>%1 steht zweimal in einem Objekt</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>the document is damaged or cut off: %1</source>
+        <translation>das Dokument ist beschädigt oder abgeschnitten: %1</translation>
+    </message>
+    <message>
+        <source>Zones that are not in the data any more (%1): %2.</source>
+        <translation>Zonen, die nicht mehr in den Daten sind (%1): %2.</translation>
+    </message>
+    <message>
+        <source>Variables that are not in the data any more (%1): %2.</source>
+        <translation>Variablen, die nicht mehr in den Daten sind (%1): %2.</translation>
+    </message>
+    <message>
+        <source>Line maps that the frame or its variables lack: %1.</source>
+        <translation>Kurven, die dem Rahmen oder seinen Variablen fehlen: %1.</translation>
+    </message>
+    <message>
+        <source>Zones that the data lack (%1): %2.</source>
+        <translation>Zonen, die den Daten fehlen (%1): %2.</translation>
+    </message>
+    <message>
+        <source>Variables that the data lack (%1): %2.</source>
+        <translation>Variablen, die den Daten fehlen (%1): %2.</translation>
+    </message>
+    <message>
+        <source>unknown name</source>
+        <translation>unbekannter Name</translation>
+    </message>
+    <message>
+        <source>must be an object, not %1</source>
+        <translation>muss ein Objekt sein, nicht %1</translation>
+    </message>
+    <message>
+        <source>must be a list, not %1</source>
+        <translation>muss eine Liste sein, nicht %1</translation>
+    </message>
+    <message>
+        <source>must be a text, not %1</source>
+        <translation>muss ein Text sein, nicht %1</translation>
+    </message>
+    <message>
+        <source>must be a number, not %1</source>
+        <translation>muss eine Zahl sein, nicht %1</translation>
+    </message>
+    <message>
+        <source>the number is too large</source>
+        <translation>die Zahl ist zu groß</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2, not %3</source>
+        <translation>muss eine ganze Zahl von %1 bis %2 sein, nicht %3</translation>
+    </message>
+    <message>
+        <source>%1 is no set of numbers such as &quot;1-3,7&quot;</source>
+        <translation>%1 ist keine Menge von Zahlen wie „1-3,7“</translation>
+    </message>
+    <message>
+        <source>%1 goes beyond %2, the last number</source>
+        <translation>%1 geht über %2 hinaus, die letzte Nummer</translation>
+    </message>
+    <message>
+        <source>the name must be a number from %1 to %2</source>
+        <translation>der Name muss eine Zahl von %1 bis %2 sein</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: it is a folder</source>
+        <translation>%1 kann nicht gelesen werden: es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is read-only</source>
+        <translation>es ist schreibgeschützt</translation>
     </message>
 </context>
 <context>
@@ -783,6 +970,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     <message>
         <source>These are the first %1 of %2 lines of the map.</source>
         <translation>Dies sind die ersten %1 von %2 Linien der Kurve.</translation>
+    </message>
+</context>
+<context>
+    <name>HelpPages</name>
+    <message>
+        <source>en</source>
+        <comment>language of the pages of the help</comment>
+        <translation>de</translation>
     </message>
 </context>
 <context>
@@ -1050,6 +1245,28 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     </message>
 </context>
 <context>
+    <name>PickedObjects</name>
+    <message numerus="yes">
+        <source>%Ln object(s) picked</source>
+        <translation>
+            <numerusform>%Ln Objekt gewählt</numerusform>
+            <numerusform>%Ln Objekte gewählt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Linie %1: %2</translation>
+    </message>
+    <message>
+        <source>Zone %1: %2, %3 cells</source>
+        <translation>Zone %1: %2, %3 Zellen</translation>
+    </message>
+    <message>
+        <source>Zone %1: %2, %3 points</source>
+        <translation>Zone %1: %2, %3 Punkte</translation>
+    </message>
+</context>
+<context>
     <name>PictureOutput</name>
     <message>
         <source>PNG picture (*.png)</source>
@@ -1074,6 +1291,18 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     <message>
         <source>%1 cannot be drawn: %2</source>
         <translation>%1 kann nicht gezeichnet werden: %2</translation>
+    </message>
+    <message>
+        <source>TIFF picture (*.tif *.tiff)</source>
+        <translation>TIFF-Bild (*.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 Pixel</translation>
     </message>
 </context>
 <context>
@@ -1668,6 +1897,30 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <source>Frame</source>
         <translation>Rahmen</translation>
     </message>
+    <message>
+        <source>Time in the picture</source>
+        <translation>Zeit im Bild</translation>
+    </message>
+    <message>
+        <source>Text before the time</source>
+        <translation>Text vor der Zeit</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Digits</source>
+        <translation>Stellen</translation>
+    </message>
+    <message>
+        <source>In the corner of the plot</source>
+        <translation>In der Ecke der Darstellung</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -1678,6 +1931,10 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     <message>
         <source>Try &apos;corvala --help&apos;.</source>
         <translation>Versuchen Sie „corvala --help“.</translation>
+    </message>
+    <message>
+        <source>corvala</source>
+        <translation>corvala</translation>
     </message>
 </context>
 <context>
@@ -2033,10 +2290,6 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <translation>%1: die Menge „%2“ wurde ausgelassen: was sie nennt, gibt es nicht.</translation>
     </message>
     <message>
-        <source>%1: element block %2 was left out: its elements (%3) cannot be read.</source>
-        <translation>%1: der Elementblock %2 wurde ausgelassen: seine Elemente (%3) können nicht gelesen werden.</translation>
-    </message>
-    <message>
         <source>%1 does not have time %2.</source>
         <translation>%1 hat die Zeit %2 nicht.</translation>
     </message>
@@ -2327,6 +2580,30 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     <message>
         <source>a cell is of an unknown kind, or its points do not exist</source>
         <translation>eine Zelle ist von unbekannter Art, oder ihre Punkte gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the zone &quot;%1&quot; has no %2</source>
+        <translation>die Zone „%1“ hat kein %2</translation>
+    </message>
+    <message>
+        <source>it has no CGNS base, or is of an early CGNS library (before 3.2), whose HDF5 files must be converted</source>
+        <translation>sie hat keine CGNS-Basis oder stammt von einer frühen CGNS-Bibliothek (vor 3.2), deren HDF5-Dateien umgewandelt werden müssen</translation>
+    </message>
+    <message>
+        <source>its elements (%1 of %2 points) cannot be read</source>
+        <translation>ihre Elemente (%1 mit %2 Punkten) können nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1: element block %2 was left out: its elements (%3 of %4 points) cannot be read.</source>
+        <translation>%1: der Elementblock %2 wurde ausgelassen: seine Elemente (%3 mit %4 Punkten) können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>its mesh is not whole: constant/polyMesh lacks %1</source>
+        <translation>ihr Netz ist nicht vollständig: in constant/polyMesh fehlt %1</translation>
+    </message>
+    <message>
+        <source>%1: all of them say that they are %2; one is shown.</source>
+        <translation>%1: alle geben sich als %2 aus; eine davon wird gezeigt.</translation>
     </message>
 </context>
 <context>
@@ -3923,6 +4200,34 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <source>(User)</source>
         <translation>(Benutzer)</translation>
     </message>
+    <message>
+        <source>Solution time in the picture</source>
+        <translation>Lösungszeit im Bild</translation>
+    </message>
+    <message>
+        <source>Title of the solution time</source>
+        <translation>Titel der Lösungszeit</translation>
+    </message>
+    <message>
+        <source>Unit of the solution time</source>
+        <translation>Einheit der Lösungszeit</translation>
+    </message>
+    <message>
+        <source>Significant digits of the solution time</source>
+        <translation>Stellen der Lösungszeit</translation>
+    </message>
+    <message>
+        <source>Solution time in the corner of the plot</source>
+        <translation>Lösungszeit in der Ecke der Darstellung</translation>
+    </message>
+    <message>
+        <source>Solution time from the left</source>
+        <translation>Lösungszeit von links</translation>
+    </message>
+    <message>
+        <source>Solution time from above</source>
+        <translation>Lösungszeit von oben</translation>
+    </message>
 </context>
 <context>
     <name>TextDialect</name>
@@ -4216,6 +4521,18 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <source>Color %1</source>
         <translation>Farbe %1</translation>
     </message>
+    <message>
+        <source>Load styles of %1</source>
+        <translation>Stil von %1 laden</translation>
+    </message>
+    <message>
+        <source>%1 and many more</source>
+        <translation>%1 und vieles mehr</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
 </context>
 <context>
     <name>VectorVariablesDialog</name>
@@ -4332,6 +4649,41 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     </message>
 </context>
 <context>
+    <name>corvala::app::ContourBar</name>
+    <message>
+        <source>Contour variable</source>
+        <translation>Konturvariable</translation>
+    </message>
+    <message>
+        <source>Co&amp;ntour:</source>
+        <translation>Ko&amp;ntur:</translation>
+    </message>
+    <message>
+        <source>Variable of contour group 1</source>
+        <translation>Variable der Konturgruppe 1</translation>
+    </message>
+    <message>
+        <source>Variable of contour group 1: type a part of its name to find it</source>
+        <translation>Variable der Konturgruppe 1: ein Teil ihres Namens findet sie</translation>
+    </message>
+    <message>
+        <source>Re&amp;versed</source>
+        <translation>&amp;Umgekehrt</translation>
+    </message>
+    <message>
+        <source>&amp;Range and Levels...</source>
+        <translation>&amp;Bereich und Stufen...</translation>
+    </message>
+    <message>
+        <source>Colors, range and levels of contour group 1</source>
+        <translation>Farben, Bereich und Stufen der Konturgruppe 1</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+</context>
+<context>
     <name>corvala::app::DataCommands</name>
     <message>
         <source>Open Data</source>
@@ -4435,6 +4787,203 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     </message>
 </context>
 <context>
+    <name>corvala::app::DocumentCommands</name>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>Begins an empty document</source>
+        <translation>Beginnt ein leeres Dokument</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Saves the document: styles, views and where the data are</source>
+        <translation>Speichert das Dokument: Stil, Ansichten und wo die Daten sind</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Saves the document in another file</source>
+        <translation>Speichert das Dokument in einer anderen Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Load Style from Document...</source>
+        <translation>Stil aus Dokument &amp;laden...</translation>
+    </message>
+    <message>
+        <source>Takes the styles of zones of the same names over to the open data</source>
+        <translation>Übernimmt den Stil von Zonen gleichen Namens für die offenen Daten</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Unbenannt</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>Save the document?</source>
+        <translation>Das Dokument speichern?</translation>
+    </message>
+    <message>
+        <source>Save the changes of %1?</source>
+        <translation>Die Änderungen von %1 speichern?</translation>
+    </message>
+    <message>
+        <source>What is not saved will be lost.</source>
+        <translation>Was nicht gespeichert wird, geht verloren.</translation>
+    </message>
+    <message>
+        <source>Save Document</source>
+        <translation>Dokument speichern</translation>
+    </message>
+    <message>
+        <source>Documents (*.cvdoc)</source>
+        <translation>Dokumente (*.cvdoc)</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>Missing Data</source>
+        <translation>Fehlende Daten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n data file(s) cannot be found.</source>
+        <translation>
+            <numerusform>%1: %n Datendatei ist nicht zu finden.</numerusform>
+            <numerusform>%1: %n Datendateien sind nicht zu finden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>
+...</source>
+        <translation>
+...</translation>
+    </message>
+    <message>
+        <source>Look Elsewhere...</source>
+        <translation>Woanders suchen...</translation>
+    </message>
+    <message>
+        <source>Folder of the Data</source>
+        <translation>Ordner der Daten</translation>
+    </message>
+    <message>
+        <source>Changed Data</source>
+        <translation>Geänderte Daten</translation>
+    </message>
+    <message>
+        <source>The data of %1 have changed.</source>
+        <translation>Die Daten von %1 haben sich geändert.</translation>
+    </message>
+    <message>
+        <source>Load What Fits</source>
+        <translation>Laden, was passt</translation>
+    </message>
+    <message>
+        <source>Load Style from Document</source>
+        <translation>Stil aus Dokument laden</translation>
+    </message>
+</context>
+<context>
+    <name>corvala::app::FileDrops</name>
+    <message>
+        <source>Only files and folders of this computer can be opened</source>
+        <translation>Nur Dateien und Ordner dieses Rechners können geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Drop to open %1</source>
+        <translation>Ablegen, um %1 zu öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>corvala::app::HelpCommands</name>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>Open the help at what has the focus</source>
+        <translation>Öffnet die Hilfe bei dem, was den Fokus hat</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>&amp;Mouse and Keys</source>
+        <translation>&amp;Maus und Tasten</translation>
+    </message>
+    <message>
+        <source>Tell what the mouse and the keys do</source>
+        <translation>Sagt, was Maus und Tasten tun</translation>
+    </message>
+    <message>
+        <source>&amp;File Formats</source>
+        <translation>&amp;Dateiformate</translation>
+    </message>
+    <message>
+        <source>Tell which files can be opened, and what of them is read</source>
+        <translation>Sagt, welche Dateien sich öffnen lassen und was davon gelesen wird</translation>
+    </message>
+    <message>
+        <source>&amp;Scripts</source>
+        <translation>&amp;Skripte</translation>
+    </message>
+    <message>
+        <source>Tell how scripts and options drive the program</source>
+        <translation>Sagt, wie Skripte und Optionen das Programm bedienen</translation>
+    </message>
+</context>
+<context>
+    <name>corvala::app::HelpWindow</name>
+    <message>
+        <source>Help - corvala</source>
+        <translation>Hilfe - corvala</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Search all pages</source>
+        <translation>Alle Seiten durchsuchen</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+</context>
+<context>
     <name>corvala::app::LayerBar</name>
     <message>
         <source>Layers</source>
@@ -4451,6 +5000,50 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     <message>
         <source>XY plots only</source>
         <translation>Nur XY-Diagramme</translation>
+    </message>
+    <message>
+        <source>Show the lines of the grids</source>
+        <translation>Zeigt die Linien der Gitter</translation>
+    </message>
+    <message>
+        <source>Show the values of a variable as colors or lines</source>
+        <translation>Zeigt die Werte einer Variablen als Farben oder Linien</translation>
+    </message>
+    <message>
+        <source>Show arrows at the points</source>
+        <translation>Zeigt Pfeile an den Punkten</translation>
+    </message>
+    <message>
+        <source>Show a symbol at each point</source>
+        <translation>Zeigt an jedem Punkt ein Symbol</translation>
+    </message>
+    <message>
+        <source>Fill the surfaces with one color</source>
+        <translation>Füllt die Flächen mit einer Farbe</translation>
+    </message>
+    <message>
+        <source>Show the edges of the zones</source>
+        <translation>Zeigt die Kanten der Zonen</translation>
+    </message>
+    <message>
+        <source>Light the surfaces</source>
+        <translation>Beleuchtet die Flächen</translation>
+    </message>
+    <message>
+        <source>Show the lines</source>
+        <translation>Zeigt die Linien</translation>
+    </message>
+    <message>
+        <source>Show the errors of the points</source>
+        <translation>Zeigt die Fehler der Punkte</translation>
+    </message>
+    <message>
+        <source>Show a bar for each point</source>
+        <translation>Zeigt für jeden Punkt einen Balken</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -4551,10 +5144,6 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <translation>&amp;Zuletzt geöffnet</translation>
     </message>
     <message>
-        <source>&amp;Save Picture...</source>
-        <translation>Bild &amp;speichern...</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
     </message>
@@ -4618,10 +5207,6 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <translation>Dar&amp;stellung</translation>
     </message>
     <message>
-        <source>&amp;Fit View</source>
-        <translation>An&amp;sicht anpassen</translation>
-    </message>
-    <message>
         <source>D&amp;etails Of</source>
         <translation>&amp;Einzelheiten zu</translation>
     </message>
@@ -4665,6 +5250,78 @@ Lizenz: GPL-3.0-or-later</translation>
         <source>%1 %2</source>
         <translation>%1 %2</translation>
     </message>
+    <message>
+        <source>Save Pict&amp;ure...</source>
+        <translation>Bild s&amp;peichern...</translation>
+    </message>
+    <message>
+        <source>Write the plot to a file: PNG, PDF, SVG, TIFF and others</source>
+        <translation>Schreibt die Darstellung in eine Datei: PNG, PDF, SVG, TIFF und andere</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>Beendet das Programm</translation>
+    </message>
+    <message>
+        <source>Open data files</source>
+        <translation>Öffnet Datendateien</translation>
+    </message>
+    <message>
+        <source>Open the case, or the data, in a folder</source>
+        <translation>Öffnet den Fall oder die Daten in einem Ordner</translation>
+    </message>
+    <message>
+        <source>Open Plot3D files, and say how they are written</source>
+        <translation>Öffnet Plot3D-Dateien und sagt, wie sie geschrieben sind</translation>
+    </message>
+    <message>
+        <source>Open tables of text, and say how they are written</source>
+        <translation>Öffnet Texttabellen und sagt, wie sie geschrieben sind</translation>
+    </message>
+    <message>
+        <source>Open again what was opened last</source>
+        <translation>Öffnet noch einmal, was zuletzt offen war</translation>
+    </message>
+    <message>
+        <source>Open real data that come with the program</source>
+        <translation>Öffnet echte Daten, die dem Programm beiliegen</translation>
+    </message>
+    <message>
+        <source>Show data that are made on the spot</source>
+        <translation>Zeigt Daten, die sofort erzeugt werden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Picture</source>
+        <translation>Bild &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Show or hide the table of the style of each zone</source>
+        <translation>Zeigt oder verbirgt die Tabelle mit dem Stil jeder Zone</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel of what is set for the plot as a whole</source>
+        <translation>Zeigt oder verbirgt das Feld mit dem, was für die ganze Darstellung gilt</translation>
+    </message>
+    <message>
+        <source>Show this page in the panel of details</source>
+        <translation>Zeigt diese Seite im Feld der Einzelheiten</translation>
+    </message>
+    <message>
+        <source>Show a page in the panel of details</source>
+        <translation>Zeigt eine Seite im Feld der Einzelheiten</translation>
+    </message>
+    <message>
+        <source>Solution &amp;Time</source>
+        <translation>Lösungs&amp;zeit</translation>
+    </message>
+    <message>
+        <source>Tell which program this is</source>
+        <translation>Sagt, welches Programm dies ist</translation>
+    </message>
+    <message>
+        <source>Tell about the library that draws the windows</source>
+        <translation>Sagt, welche Bibliothek die Fenster zeichnet</translation>
+    </message>
 </context>
 <context>
     <name>corvala::app::MainWindow</name>
@@ -4688,6 +5345,10 @@ Lizenz: GPL-3.0-or-later</translation>
         <source>%1 - corvala</source>
         <translation>%1 - corvala</translation>
     </message>
+    <message>
+        <source>%1 is being read: drop other files when that is done</source>
+        <translation>%1 wird gelesen: legen Sie andere Dateien danach ab</translation>
+    </message>
 </context>
 <context>
     <name>corvala::app::NoticeBar</name>
@@ -4705,6 +5366,25 @@ Lizenz: GPL-3.0-or-later</translation>
     </message>
 </context>
 <context>
+    <name>corvala::app::PictureCommands</name>
+    <message>
+        <source>The picture cannot be copied: %1</source>
+        <translation>Das Bild kann nicht kopiert werden: %1</translation>
+    </message>
+    <message>
+        <source>Copied the picture: %1 x %2 pixels</source>
+        <translation>Bild kopiert: %1 x %2 Pixel</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Saved %1: %2</source>
+        <translation>%1 gespeichert: %2</translation>
+    </message>
+</context>
+<context>
     <name>corvala::app::PictureNotes</name>
     <message>
         <source>Plot Details...</source>
@@ -4713,14 +5393,6 @@ Lizenz: GPL-3.0-or-later</translation>
 </context>
 <context>
     <name>corvala::app::PictureSizeDialog</name>
-    <message>
-        <source> mm</source>
-        <translation> mm</translation>
-    </message>
-    <message>
-        <source> dpi</source>
-        <translation> dpi</translation>
-    </message>
     <message>
         <source>Pixels of pictures, also of a field plot on a page</source>
         <translation>Pixel von Bildern, auch einer Felddarstellung auf einer Seite</translation>
@@ -4738,12 +5410,36 @@ Lizenz: GPL-3.0-or-later</translation>
         <translation>&amp;Höhe:</translation>
     </message>
     <message>
-        <source>&amp;Resolution:</source>
-        <translation>&amp;Auflösung:</translation>
-    </message>
-    <message>
         <source>%1 x %2 pixels</source>
         <translation>%1 x %2 Pixel</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Millimeter</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>&amp;Transparent background</source>
+        <translation>&amp;Durchsichtiger Hintergrund</translation>
+    </message>
+    <message>
+        <source>&amp;Unit:</source>
+        <translation>Ein&amp;heit:</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution [dpi]:</source>
+        <translation>&amp;Auflösung [dpi]:</translation>
+    </message>
+    <message>
+        <source>What is marked is no size of a picture</source>
+        <translation>Was markiert ist, ist keine Bildgröße</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
     </message>
 </context>
 <context>
@@ -4771,9 +5467,48 @@ Lizenz: GPL-3.0-or-later</translation>
         <source>the plot is drawn on an X screen only (QT_QPA_PLATFORM=xcb, for example under xvfb-run)</source>
         <translation>die Darstellung wird nur auf einem X-Bildschirm gezeichnet (QT_QPA_PLATFORM=xcb, etwa unter xvfb-run)</translation>
     </message>
+</context>
+<context>
+    <name>corvala::app::PlotMenu</name>
     <message>
-        <source>Save Picture</source>
-        <translation>Bild speichern</translation>
+        <source>&amp;Pick This Zone</source>
+        <translation>Diese Zone &amp;wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Pick This Line</source>
+        <translation>Diese Linie &amp;wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Hide This Zone</source>
+        <translation>Diese Zone &amp;verbergen</translation>
+    </message>
+    <message>
+        <source>&amp;Hide This Line</source>
+        <translation>Diese Linie &amp;verbergen</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only This Zone</source>
+        <translation>&amp;Nur diese Zone zeigen</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only This Line</source>
+        <translation>&amp;Nur diese Linie zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Style of This Zone...</source>
+        <translation>&amp;Stil dieser Zone...</translation>
+    </message>
+    <message>
+        <source>&amp;Style of This Line...</source>
+        <translation>&amp;Stil dieser Linie...</translation>
+    </message>
+    <message>
+        <source>Show &amp;All Zones</source>
+        <translation>&amp;Alle Zonen zeigen</translation>
+    </message>
+    <message>
+        <source>Show &amp;All Lines</source>
+        <translation>&amp;Alle Linien zeigen</translation>
     </message>
 </context>
 <context>
@@ -4797,6 +5532,53 @@ Lizenz: GPL-3.0-or-later</translation>
     <message>
         <source>Plot t&amp;ype:</source>
         <translation>Da&amp;rstellung:</translation>
+    </message>
+</context>
+<context>
+    <name>corvala::app::StartPage</name>
+    <message>
+        <source>Opened last</source>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Beispiele</translation>
+    </message>
+    <message>
+        <source>Demonstrations</source>
+        <translation>Vorführungen</translation>
+    </message>
+    <message>
+        <source>Open data, or drop files and folders here</source>
+        <translation>Öffnen Sie Daten, oder legen Sie Dateien und Ordner hier ab</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Öffnen...</translation>
+    </message>
+    <message>
+        <source>Open data files (Ctrl+O)</source>
+        <translation>Öffnet Datendateien (Strg+O)</translation>
+    </message>
+    <message>
+        <source>Open Case Folder...</source>
+        <translation>Fallordner öffnen...</translation>
+    </message>
+    <message>
+        <source>Open the case, or the data, in a folder</source>
+        <translation>Öffnet den Fall oder die Daten in einem Ordner</translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <translation>Noch keine Dateien</translation>
+    </message>
+    <message>
+        <source>Open real data that come with the program</source>
+        <translation>Öffnet echte Daten, die dem Programm beiliegen</translation>
+    </message>
+    <message>
+        <source>Show data that are made on the spot</source>
+        <translation>Zeigt Daten, die sofort erzeugt werden</translation>
     </message>
 </context>
 <context>
@@ -4886,16 +5668,207 @@ Lizenz: GPL-3.0-or-later</translation>
         <translation>Lösungszeit</translation>
     </message>
     <message>
-        <source>Solution &amp;time:</source>
-        <translation>&amp;Lösungszeit:</translation>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>Earlier</source>
-        <translation>Früher</translation>
+        <source>&amp;First Time</source>
+        <translation>&amp;Erste Zeit</translation>
     </message>
     <message>
-        <source>Later</source>
-        <translation>Später</translation>
+        <source>Go to the first solution time</source>
+        <translation>Geht zur ersten Lösungszeit</translation>
+    </message>
+    <message>
+        <source>Step &amp;Back</source>
+        <translation>Schritt &amp;zurück</translation>
+    </message>
+    <message>
+        <source>Go to the solution time before</source>
+        <translation>Geht zur Lösungszeit davor</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Abspielen</translation>
+    </message>
+    <message>
+        <source>Go through the solution times, or stop</source>
+        <translation>Geht durch die Lösungszeiten, oder hält an</translation>
+    </message>
+    <message>
+        <source>Step For&amp;ward</source>
+        <translation>Schritt &amp;vorwärts</translation>
+    </message>
+    <message>
+        <source>Go to the next solution time</source>
+        <translation>Geht zur nächsten Lösungszeit</translation>
+    </message>
+    <message>
+        <source>&amp;Last Time</source>
+        <translation>&amp;Letzte Zeit</translation>
+    </message>
+    <message>
+        <source>Go to the last solution time</source>
+        <translation>Geht zur letzten Lösungszeit</translation>
+    </message>
+    <message>
+        <source>L&amp;oop</source>
+        <translation>In &amp;Schleife</translation>
+    </message>
+    <message>
+        <source>Play from the first time again after the last one</source>
+        <translation>Beginnt nach der letzten Zeit wieder mit der ersten</translation>
+    </message>
+    <message>
+        <source>&amp;Time in the Picture</source>
+        <translation>Zeit im &amp;Bild</translation>
+    </message>
+    <message>
+        <source>Show the solution time in the plot and in saved pictures</source>
+        <translation>Zeigt die Lösungszeit in der Darstellung und in gespeicherten Bildern</translation>
+    </message>
+    <message>
+        <source>Type a time: the nearest one is shown</source>
+        <translation>Geben Sie eine Zeit ein: die nächste wird gezeigt</translation>
+    </message>
+    <message>
+        <source>Ti&amp;me:</source>
+        <translation>Ze&amp;it:</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>An&amp;halten</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>corvala::app::ViewCommands</name>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Fit View</source>
+        <translation>Ansicht an&amp;passen</translation>
+    </message>
+    <message>
+        <source>Show all that is drawn, as at the start</source>
+        <translation>Zeigt alles Gezeichnete, wie am Anfang</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Box</source>
+        <translation>Zoom&amp;rechteck</translation>
+    </message>
+    <message>
+        <source>Draw a box with the mouse that shall fill the plot; Esc leaves. A drag with Ctrl and Shift does the same at once</source>
+        <translation>Ziehen Sie mit der Maus ein Rechteck, das die Darstellung füllen soll; Esc verlässt dies. Ziehen mit Strg und Umschalt tut dasselbe sofort</translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;Selected</source>
+        <translation>Auf &amp;Ausgewählte zoomen</translation>
+    </message>
+    <message>
+        <source>Show the maps whose rows are selected in the style dialog, or what was clicked in the plot, as large as possible</source>
+        <translation>Zeigt so groß wie möglich, wessen Zeilen im Stildialog ausgewählt sind oder was in der Darstellung angeklickt wurde</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Show the middle of the plot larger</source>
+        <translation>Zeigt die Mitte der Darstellung größer</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Show more round the plot</source>
+        <translation>Zeigt mehr rings um die Darstellung</translation>
+    </message>
+    <message>
+        <source>P&amp;revious View</source>
+        <translation>&amp;Vorige Ansicht</translation>
+    </message>
+    <message>
+        <source>Go back to what was seen before the view was last changed</source>
+        <translation>Zeigt wieder, was vor der letzten Änderung der Ansicht zu sehen war</translation>
+    </message>
+    <message>
+        <source>Along &amp;X</source>
+        <translation>Entlang &amp;X</translation>
+    </message>
+    <message>
+        <source>Look along X, Y to the right, Z upwards</source>
+        <translation>Blickt entlang X, Y nach rechts, Z nach oben</translation>
+    </message>
+    <message>
+        <source>Along &amp;Y</source>
+        <translation>Entlang &amp;Y</translation>
+    </message>
+    <message>
+        <source>Look along Y, X to the right, Z upwards</source>
+        <translation>Blickt entlang Y, X nach rechts, Z nach oben</translation>
+    </message>
+    <message>
+        <source>Along &amp;Z</source>
+        <translation>Entlang &amp;Z</translation>
+    </message>
+    <message>
+        <source>Look along Z, X to the right, Y upwards</source>
+        <translation>Blickt entlang Z, X nach rechts, Y nach oben</translation>
+    </message>
+    <message>
+        <source>From a &amp;Corner</source>
+        <translation>Von einer &amp;Ecke</translation>
+    </message>
+    <message>
+        <source>Look from a corner, Z upwards, as at the start</source>
+        <translation>Blickt von einer Ecke, Z nach oben, wie am Anfang</translation>
+    </message>
+    <message>
+        <source>&amp;Parallel Projection</source>
+        <translation>Parallel&amp;projektion</translation>
+    </message>
+    <message>
+        <source>Show what is far away as large as what is near</source>
+        <translation>Zeigt Fernes so groß wie Nahes</translation>
+    </message>
+    <message>
+        <source>Outline Se&amp;lected Rows</source>
+        <translation>Ausgewählte Zeilen &amp;umranden</translation>
+    </message>
+    <message>
+        <source>Mark in the plot what is selected in the style dialog; not in pictures that are saved</source>
+        <translation>Kennzeichnet in der Darstellung, was im Stildialog ausgewählt ist; nicht in gespeicherten Bildern</translation>
+    </message>
+    <message>
+        <source>F&amp;ull Screen</source>
+        <translation>&amp;Ganzer Bildschirm</translation>
+    </message>
+    <message>
+        <source>Give the window all of the screen; Esc leaves</source>
+        <translation>Gibt dem Fenster den ganzen Bildschirm; Esc verlässt dies</translation>
+    </message>
+    <message>
+        <source>Select rows in the style dialog first, or click something in the plot</source>
+        <translation>Wählen Sie zuerst Zeilen im Stildialog aus, oder klicken Sie etwas in der Darstellung an</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn of what is selected</source>
+        <translation>Vom Ausgewählten wird nichts gezeichnet</translation>
+    </message>
+    <message>
+        <source>Nothing is in view: all that is drawn lies beside it.</source>
+        <translation>Nichts ist zu sehen: alles Gezeichnete liegt daneben.</translation>
+    </message>
+    <message>
+        <source>Fit View</source>
+        <translation>Ansicht anpassen</translation>
     </message>
 </context>
 <context>
@@ -5215,6 +6188,10 @@ Lizenz: GPL-3.0-or-later</translation>
         <source>All files (*)</source>
         <translation>Alle Dateien (*)</translation>
     </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
 </context>
 <context>
     <name>corvala::host::io::TextDialectTexts</name>
@@ -5273,6 +6250,10 @@ Lizenz: GPL-3.0-or-later</translation>
         <source>The frame shows no data</source>
         <translation>Der Rahmen zeigt keine Daten</translation>
     </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
 </context>
 <context>
     <name>corvala::plot::FieldCanvas</name>
@@ -5305,6 +6286,22 @@ Lizenz: GPL-3.0-or-later</translation>
         <source>Drawing was cancelled: the picture is not complete</source>
         <translation>Das Zeichnen wurde abgebrochen: das Bild ist nicht vollständig</translation>
     </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>Zone %1: %2</source>
+        <translation>Zone %1: %2</translation>
+    </message>
+    <message>
+        <source>cell %1</source>
+        <translation>Zelle %1</translation>
+    </message>
+    <message>
+        <source>point %1</source>
+        <translation>Punkt %1</translation>
+    </message>
 </context>
 <context>
     <name>corvala::plot::FrameView</name>
@@ -5313,8 +6310,8 @@ Lizenz: GPL-3.0-or-later</translation>
         <translation>Für diese Art der Darstellung wird nichts gezeichnet</translation>
     </message>
     <message>
-        <source>No data: open a file, a sample or demonstration data in the File menu</source>
-        <translation>Keine Daten: öffnen Sie im Menü „Datei“ eine Datei, ein Beispiel oder Vorführdaten</translation>
+        <source>No data</source>
+        <translation>Keine Daten</translation>
     </message>
 </context>
 <context>
@@ -5552,6 +6549,35 @@ Lizenz: GPL-3.0-or-later</translation>
     <message>
         <source>Hide These Faces</source>
         <translation>Diese Flächen ausblenden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln zone(s) have no values of &quot;%1&quot;, the variable of contour group %2, and are not colored by it: &quot;%3&quot; is the first.</source>
+        <translation>
+            <numerusform>%Ln Zone hat keine Werte von „%1“, der Variablen der Konturgruppe %2, und ist nicht danach gefärbt: „%3“.</numerusform>
+            <numerusform>%Ln Zonen haben keine Werte von „%1“, der Variablen der Konturgruppe %2, und sind nicht danach gefärbt: „%3“ ist die erste.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corvala::plot::PolarChart</name>
+    <message>
+        <source>angle = %1, radius = %2</source>
+        <translation>Winkel = %1, Radius = %2</translation>
+    </message>
+</context>
+<context>
+    <name>corvala::plot::SecondAxes</name>
+    <message>
+        <source> (axis Y%1)</source>
+        <translation> (Achse Y%1)</translation>
+    </message>
+    <message>
+        <source> (right)</source>
+        <translation> (rechts)</translation>
+    </message>
+    <message>
+        <source> (left)</source>
+        <translation> (links)</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>PickedObjects</name>
+    <message numerus="yes">
+        <source>%Ln object(s) picked</source>
+        <translation>
+            <numerusform>%Ln object picked</numerusform>
+            <numerusform>%Ln objects picked</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ReadMessage</name>
     <message numerus="yes">
         <source>%1 (and %n more like it)</source>
@@ -18,6 +28,16 @@
         <translation>
             <numerusform>Skip %n bad row?</numerusform>
             <numerusform>Skip %n bad rows?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corvala::app::DocumentCommands</name>
+    <message numerus="yes">
+        <source>%1: %n data file(s) cannot be found.</source>
+        <translation>
+            <numerusform>%1: %n data file cannot be found.</numerusform>
+            <numerusform>%1: %n data files cannot be found.</numerusform>
         </translation>
     </message>
 </context>
@@ -122,6 +142,16 @@
         <translation>
             <numerusform>Drawing was cancelled: %Ln map is missing</numerusform>
             <numerusform>Drawing was cancelled: %Ln maps are missing</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>corvala::plot::Notes</name>
+    <message numerus="yes">
+        <source>%Ln zone(s) have no values of &quot;%1&quot;, the variable of contour group %2, and are not colored by it: &quot;%3&quot; is the first.</source>
+        <translation>
+            <numerusform>%Ln zone has no values of &quot;%1&quot;, the variable of contour group %2, and is not colored by it: &quot;%3&quot;.</numerusform>
+            <numerusform>%Ln zones have no values of &quot;%1&quot;, the variable of contour group %2, and are not colored by it: &quot;%3&quot; is the first.</numerusform>
         </translation>
     </message>
 </context>
