@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/document_commands.h"
 
+#include "app/command_tips.h"
 #include "app/data_opening.h"
 #include "app/icons.h"
 #include "app/notice_bar.h"
@@ -37,12 +38,12 @@ DocumentCommands::DocumentCommands(QMainWindow& window, NoticeBar& notice, DataO
         addCommand(tr("&Save"), "document-save", QKeySequence::Save,
                    tr("Saves the document: styles, views and where the data are"),
                    &DocumentCommands::saveCommand),
-        addCommand(tr("Save &As..."), "document-save-as", QKeySequence::SaveAs,
+        addCommand(tr("Save &As..."), "document-save-as",
+                   QKeySequence(QStringLiteral("Ctrl+Shift+S")),
                    tr("Saves the document in another file"), &DocumentCommands::saveAsCommand),
         addCommand(tr("&Load Style from Document..."), "document-import", {},
                    tr("Takes the styles of zones of the same names over to the open data"),
                    &DocumentCommands::loadStyles)};
-    m_saveCommands[1]->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+S")));
 }
 
 QAction* DocumentCommands::addCommand(const QString& text, const char* icon,
@@ -54,14 +55,15 @@ QAction* DocumentCommands::addCommand(const QString& text, const char* icon,
     action->setIcon(commandIcon(icon));
     action->setShortcut(keys);
     action->setShortcutContext(Qt::ApplicationShortcut);
-    action->setStatusTip(tip);
+    describe(*action, tip);
     connect(action, &QAction::triggered, this, command);
     return action;
 }
 
 void DocumentCommands::enable(bool enabled)
 {
-    for (QAction* const action : QList<QAction*>(m_saveCommands) << m_new)
+    m_new->setEnabled(enabled);
+    for (QAction* const action : qAsConst(m_saveCommands))
         action->setEnabled(enabled);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/help_commands.h"
 
+#include "app/command_tips.h"
 #include "app/help_reference.h"
 #include "app/help_window.h"
 #include "app/icons.h"
@@ -22,8 +23,7 @@ HelpCommands::HelpCommands(QObject* parent)
     contents->setObjectName(QStringLiteral("helpContents"));
     contents->setIcon(commandIcon("help-contents"));
     contents->setShortcuts(QKeySequence::HelpContents);
-    contents->setToolTip(tr("%1 (%2)").arg(
-        contents->statusTip(), contents->shortcut().toString(QKeySequence::NativeText)));
+    describe(*contents, contents->statusTip());
     const auto addPage = [this](const char* icon, const QString& text, const QString& tip,
                                 const char* page) {
         add(text, tip, [page] { return QString::fromLatin1(page); })->setIcon(commandIcon(icon));
@@ -47,8 +47,7 @@ QAction* HelpCommands::add(const QString& text, const QString& tip,
                            const std::function<QString()>& reference)
 {
     auto* action = new QAction(text, this);
-    action->setStatusTip(tip);
-    action->setToolTip(tip);
+    describe(*action, tip);
     connect(action, &QAction::triggered, this, [this, reference] { open(reference()); });
     m_actions << action;
     return action;

@@ -177,10 +177,10 @@ void MainMenus::makeEditMenu()
     for (QAction* action : {m_undo, m_redo})
         action->setShortcutContext(Qt::ApplicationShortcut);
     menu->addSeparator();
-    m_copyPicture = menu->addAction(commandIcon("edit-copy"), tr("&Copy Picture"), this,
-                                    &MainMenus::pictureCopyWanted);
+    m_copyPicture = menu->addAction(tr("&Copy Picture"), this, &MainMenus::pictureCopyWanted);
     m_copyPicture->setObjectName(QStringLiteral("copyPicture"));
     m_copyPicture->setShortcut(QKeySequence::Copy); // of this window: other ones copy texts
+    iconed(m_copyPicture, "edit-copy", tr("Put the plot, as it is seen, on the clipboard"));
 }
 
 void MainMenus::makePlotMenu(QAction& details, const QList<QAction*>& layers)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/time_bar.h"
 
+#include "app/command_tips.h"
 #include "app/help_reference.h"
 #include "app/icons.h"
 #include "host/document/document.h"
@@ -41,9 +42,7 @@ QAction* TimeBar::addCommand(const char* name, const char* icon, const QString& 
     command->setObjectName(QLatin1String(name));
     command->setShortcut(keys);
     command->setShortcutContext(Qt::ApplicationShortcut);
-    command->setStatusTip(tip);
-    command->setToolTip(
-        keys.isEmpty() ? tip : tr("%1 (%2)").arg(tip, keys.toString(QKeySequence::NativeText)));
+    describe(*command, tip);
     m_commands << command;
     return command;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/view_commands.h"
 
+#include "app/command_tips.h"
 #include "app/dialog_rows.h"
 #include "app/icons.h"
 #include "app/notice_bar.h"
@@ -57,9 +58,9 @@ QAction* ViewCommands::add(const char* name, const QString& text, const QString&
 {
     QAction* const action = m_menu->addAction(text);
     action->setObjectName(QLatin1String(name));
-    action->setStatusTip(tip);
     action->setShortcut(keys);
     action->setShortcutContext(Qt::ApplicationShortcut);
+    describe(*action, tip);
     if (command)
         connect(action, &QAction::triggered, this, command);
     m_ofPlots.push_back(action);

@@ -4916,10 +4916,6 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <translation>Öffnet die Hilfe bei dem, was den Fokus hat</translation>
     </message>
     <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
         <source>&amp;Mouse and Keys</source>
         <translation>&amp;Maus und Tasten</translation>
     </message>
@@ -5322,6 +5318,10 @@ Lizenz: GPL-3.0-or-later</translation>
         <source>Tell about the library that draws the windows</source>
         <translation>Sagt, welche Bibliothek die Fenster zeichnet</translation>
     </message>
+    <message>
+        <source>Put the plot, as it is seen, on the clipboard</source>
+        <translation>Legt die Darstellung, wie sie zu sehen ist, in die Zwischenablage</translation>
+    </message>
 </context>
 <context>
     <name>corvala::app::MainWindow</name>
@@ -5666,10 +5666,6 @@ Lizenz: GPL-3.0-or-later</translation>
     <message>
         <source>Solution time</source>
         <translation>Lösungszeit</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>&amp;First Time</source>

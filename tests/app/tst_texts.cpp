@@ -5,6 +5,7 @@
 #include "app/style_dialog.h"
 #include "host/document/document.h"
 #include "host/io/sample_list.h"
+#include "play/idle.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
 
 #include <QAbstractButton>
@@ -19,6 +20,7 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 #include <QTranslator>
@@ -104,12 +106,15 @@ static QStringList textsOf(const QWidget& widget)
 static bool isCut(const QWidget& widget)
 {
     const auto* const label = qobject_cast<const QLabel*>(&widget);
+    const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
     const auto* const tool = qobject_cast<const QToolButton*>(&widget);
     const bool isIcon = tool && tool->toolButtonStyle() == Qt::ToolButtonIconOnly;
-    const auto* const button = isIcon ? nullptr : qobject_cast<const QAbstractButton*>(&widget);
-    if (!widget.isVisible() || (!label && !button) || (label && label->wordWrap()))
+    if (!widget.isVisible() || isIcon
+        || (label && (label->wordWrap() || label->pixmap(Qt::ReturnByValue).isNull() == false)))
         return false;
-    return widget.width() < widget.minimumSizeHint().width();
+    const QString text = label ? label->text() : button ? button->text() : QString();
+    const int icon = button && !button->icon().isNull() ? button->iconSize().width() : 0;
+    return widget.fontMetrics().size(Qt::TextShowMnemonic, text).width() + icon > widget.width();
 }
 
 class tst_Texts : public QObject
@@ -117,7 +122,11 @@ class tst_Texts : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QCoreApplication::installTranslator(&m_language); }
+    void initTestCase()
+    {
+        qputenv("XDG_CONFIG_HOME", m_settings.path().toUtf8());
+        QCoreApplication::installTranslator(&m_language);
+    }
     void everyTextIsMarked_data();
     void everyTextIsMarked();
     void everyMarkedTextIsGathered();
@@ -127,6 +136,7 @@ private Q_SLOTS:
 private:
     void check(const QWidget& window);
 
+    QTemporaryDir m_settings; ///< no recent files
     Pseudo m_language;
     QStringList m_problems;
 };
@@ -171,7 +181,7 @@ void tst_Texts::everyTextIsMarked()
         auto* const tabs = dialog.findChild<QTabWidget*>();
         for (int i = 0; tabs && i < tabs->count(); ++i) {
             tabs->setCurrentIndex(i);
-            QTest::qWait(1);
+            play::waitUntilIdle();
             check(dialog);
         }
         dialog.close();

@@ -170,8 +170,11 @@ void ZoneStyleDialog::allowNarrow()
     }
     m_mapSelection->setLeastWidths();
     constexpr int kMargin = 16;
-    for (QPushButton* button : findChildren<QPushButton*>())
-        button->setMinimumWidth(button->fontMetrics().horizontalAdvance(button->text()) + kMargin);
+    for (QPushButton* button : findChildren<QPushButton*>()) {
+        const int icon = button->icon().isNull() ? 0 : button->iconSize().width() + kMargin / 4;
+        button->setMinimumWidth(icon + kMargin
+                                + button->fontMetrics().horizontalAdvance(button->text()));
+    }
     for (QWidget* inner : findChildren<QWidget*>()) // sizes that are not shown yet are remembered
         inner->updateGeometry();
     layout()->activate();

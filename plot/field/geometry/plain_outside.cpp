@@ -162,7 +162,7 @@ std::optional<ZoneSurface> plainOutside(vtkDataSet& data)
     auto* const grid = vtkUnstructuredGrid::SafeDownCast(&data);
     const vtkIdType points = data.GetNumberOfPoints();
     if (!grid || grid->GetNumberOfCells() == 0 || points >= kNone
-        || grid->GetNumberOfCells() >= kNone / CellFaces::kMost)
+        || grid->GetNumberOfCells() >= static_cast<vtkIdType>(kNone / CellFaces::kMost))
         return std::nullopt;
     const unsigned char* const type = grid->GetCellTypesArray()->GetPointer(0);
     const auto& known = facesByType();
