@@ -19,6 +19,7 @@ static QString summary(const Options& options)
     add("demo", options.demo);
     add("script", options.script);
     add("report", options.report);
+    add("document", options.document);
     add("picture", options.picture);
     if (!options.picture.isEmpty()) {
         const QSize size = options.pictureSize.pixels();
@@ -56,6 +57,7 @@ private Q_SLOTS:
         row("file that looks like an option", "-- --demo", "files:--demo", false);
         row("plot3d", "--plot3d format=ascii,grids=many m.xyz",
             "files:m.xyz plot3d:format=ascii,grids=many", false);
+        row("save", "a.vtu --save a.cvdoc", "files:a.vtu document:a.cvdoc", true);
         row("help", "--help", "help:yes", false);
         row("version", "--version", "version:yes", false);
     }
@@ -81,6 +83,7 @@ private Q_SLOTS:
         row("given twice", "--play a --play b", "--play");
         row("unknown demo", "--demo field4d", "field4d");
         row("demo and files", "--demo xy a.vtu", "--demo");
+        row("document and files", "a.cvdoc a.vtu", "alone");
         row("picture of no format", "--render p.foo", "p.foo");
         row("bad size", "--render p.png --size 160mm", "160mm");
         row("size of nothing", "--render p.png --size 0x10", "0x10");

@@ -14,6 +14,7 @@
 #include "play/input.h"
 #include "play/style_report.h"
 #include "plot/frame_view.h"
+#include "plot/stored_view.h"
 #include "sdk/dialogs_common/qt_dialog_abstract.h"
 #include "tests/support/modal_responder.h"
 #include "tests/support/rows.h"
@@ -97,6 +98,76 @@ private Q_SLOTS:
         QVERIFY(!layer("ShowContour").isChecked());
         QVERIFY(!layer("ShowLines").isVisible());
         QVERIFY(!m_window->findChild<QSlider*>(QStringLiteral("solutionTime"))->isVisible());
+    }
+
+    void keepsDocuments()
+    {
+        const QTemporaryDir folder;
+        QFile table(folder.filePath("a.csv"));
+        QVERIFY(table.open(QIODevice::WriteOnly) && table.write("t,x\n0,1\n1,2\n2,4\n") > 0);
+        table.close();
+        QSignalSpy ended(m_window.get(), &MainWindow::openingEnded);
+        const auto open = [&](const char* file) {
+            m_window->openFiles({folder.filePath(file)});
+            QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
+            ended.clear();
+            play::waitUntilIdle();
+        };
+        const auto thicken = [](double thickness) {
+            write({host::pathOf(style::lineMap.lines.lineThickness), thickness, host::allUpTo(1)});
+        };
+        ModalResponder responder;
+        const auto choose = [&](const QString& path) {
+            responder.answer([=](QDialog& dialog) {
+                dialog.findChild<QLineEdit*>()->setText(path);
+                dialog.accept();
+            });
+        };
+        const auto press = [&](const char* text) {
+            responder.answer([=](QDialog& dialog) {
+                for (auto* button : dialog.findChildren<QPushButton*>())
+                    if (button->text().remove('&') == QLatin1String(text))
+                        button->click();
+            });
+        };
+        m_window->askBeforeLosing();
+        open("a.csv");
+        QVERIFY(!m_window->isWindowModified());
+        thicken(2.0);
+        QVERIFY(m_window->isWindowModified());
+        choose(folder.filePath("x.cvdoc"));
+        layer("document-save").trigger();
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("x.cvdoc[*] - corvala"));
+        QVERIFY(!m_window->isWindowModified());
+        thicken(3.0);
+        QVERIFY(m_window->isWindowModified());
+        Document::instance().undo().undo();
+        QVERIFY(!m_window->isWindowModified());
+        thicken(4.0);
+        const plot::FrameView& view = *m_window->findChild<plot::FrameView*>();
+        view.canvas()->setView(
+            plot::viewOf(R"({"first": [[0.5, 1.5]], "second": [[1, 3.1]]})", PlotType_LineXY));
+        const std::string seen = plot::viewText(view.canvas()->view());
+        press("Cancel");
+        QVERIFY(!m_window->close());
+        press("Save");
+        layer("document-new").trigger();
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("corvala"));
+        QVERIFY(!frame().hasData());
+        // The data move.
+        QVERIFY(QDir(folder.path()).mkdir("b")
+                && QFile::rename(folder.filePath("a.csv"), folder.filePath("b/a.csv")));
+        press("Look Elsewhere...");
+        choose(folder.filePath("b"));
+        open("x.cvdoc");
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("x.cvdoc[*] - corvala"));
+        QCOMPARE(frame().lineReal(style::lineMap.lines.lineThickness, 1), 4.0);
+        QVERIFY(!seen.empty());
+        QCOMPARE(plot::viewText(view.canvas()->view()), seen);
+        thicken(5.0);
+        press("Don't Save");
+        QVERIFY(m_window->close());
+        QVERIFY(responder.isSettled());
     }
 
     void savesThePicture()

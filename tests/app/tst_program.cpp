@@ -62,6 +62,22 @@ private Q_SLOTS:
         QCOMPARE(run.errors.isEmpty(), errors.isEmpty());
     }
 
+    void savesWhatItOpens()
+    {
+        const QString table = m_folder.filePath("t.csv");
+        std::ofstream(table.toStdString()) << "t,x\n0,1\n1,2\n";
+        const auto save = [this](const QString& data, const char* name) {
+            const QString file = m_folder.filePath(name);
+            const ProgramRun run = runProgram({data, "--save", file});
+            if (run.exitCode != 0)
+                qWarning("%s", qPrintable(run.errors));
+            return file;
+        };
+        const Json saved = readJson(save(save(table, "a.cvdoc"), "b.cvdoc"));
+        QCOMPARE(text(saved["frames"][0]["data"]), QStringLiteral(R"([{"open":["t.csv"]}])"));
+        QCOMPARE(text(saved), text(readJson(m_folder.filePath("a.cvdoc"))));
+    }
+
     void namesWhatCannotBeRead_data()
     {
         const Rows<QStringList, QString> row;
