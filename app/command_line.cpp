@@ -99,6 +99,12 @@ private:
                                           "separator=tab,decimal=comma,header=1,columns=2:words "
                                           "5-9:skip,bad=skip."),
                           CommandLine::tr("dialect")};
+    const Option m_boundaryPatches {
+        QStringLiteral("boundary-patches"),
+        CommandLine::tr("Read the boundary patches of CGNS files as zones.")};
+    const Option m_numberedTimes {
+        QStringLiteral("numbered-times"),
+        CommandLine::tr("Take files without times that differ by a number for one time series.")};
 };
 
 Parser::Parser()
@@ -110,7 +116,7 @@ Parser::Parser()
                         "picture drawn, the document saved.\n"
                         "Exit codes: 0 success, 1 failure, 2 wrong usage."));
     addOptions({m_demo, m_play, m_report, m_render, m_save, m_size, m_dpi, m_transparent, m_plot3d,
-                m_table});
+                m_table, m_boundaryPatches, m_numberedTimes});
     addPositionalArgument(
         QStringLiteral("files"),
         CommandLine::tr("A document, or data files that are opened together, or the folder of "
@@ -185,6 +191,7 @@ QString Parser::read(const QStringList& arguments, Options& options)
             return error;
     }
     options.files = positionalArguments();
+    options.choices = {isSet(m_boundaryPatches), isSet(m_numberedTimes)};
     options.help = isSet(m_help);
     options.version = isSet(m_version);
     options.paper = isSet(m_transparent) ? plot::Paper::Transparent : plot::Paper::White;
@@ -201,6 +208,16 @@ QString Parser::read(const QStringList& arguments, Options& options)
 QString parseCommandLine(const QStringList& arguments, Options& options)
 {
     return Parser().read(arguments, options);
+}
+
+host::io::ReadRequest Options::request() const
+{
+    host::io::ReadRequest request;
+    request.files = files;
+    request.plot3d = plot3d;
+    request.text = table;
+    request.choices = choices;
+    return request;
 }
 
 QString usageText()

@@ -22,6 +22,7 @@ struct Options
     plot::Paper paper = plot::Paper::White;
     host::io::Plot3DLayout plot3d;
     host::io::TextDialect table;
+    host::io::ReadChoices choices;
     bool help = false;
     bool version = false;
 
@@ -33,6 +34,8 @@ struct Options
 
     /// The program works with the names of its commands and columns, which are English then.
     bool isScripted() const { return !script.isEmpty() || !report.isEmpty(); }
+    /// What is wanted of the files.
+    host::io::ReadRequest request() const;
 };
 
 /// Reads the arguments, without the name of the program. Empty on success, else what is wrong.

@@ -159,6 +159,22 @@ void DataCommands::tellDetected(const QString& detected, QStringList notes,
     m_notice.tell(notes.join(QLatin1Char(' ')), tr("Change..."), change);
 }
 
+/// With a button for the first offer; reading again tells the next one.
+void DataCommands::tellOffers(const host::io::ReadOffers& offers, QStringList notes)
+{
+    host::io::ReadRequest request = m_opener.request();
+    QString caption;
+    if (offers.numberedFiles > 0) {
+        caption = tr("Take Numbers as Times");
+        request.choices.numberedTimes = true;
+    } else if (offers.boundaryPatches > 0) {
+        caption = tr("Read Them");
+        request.choices.boundaryPatches = true;
+    }
+    notes << describe(offers);
+    m_notice.tell(notes.join(QLatin1Char(' ')), caption, [this, request] { open(request); });
+}
+
 void DataCommands::tellOpened(const host::io::ReadResult& result)
 {
     const host::io::ReadRequest request = m_opener.request();
@@ -170,7 +186,7 @@ void DataCommands::tellOpened(const host::io::ReadResult& result)
     else if (result.detectedText)
         tellDetected(describe(*result.detectedText), notes, [this, request] { preview(request); });
     else
-        m_notice.tell(notes.join(QLatin1Char(' ')));
+        tellOffers(result.offers, notes);
     QStringList all;
     for (const std::string& note : result.data->notes)
         all << QString::fromStdString(note);

@@ -45,6 +45,7 @@ private:
     void askToSkip(const host::io::ReadResult& result);
     void preview(host::io::ReadRequest request);
     void tellOpened(const host::io::ReadResult& result);
+    void tellOffers(const host::io::ReadOffers& offers, QStringList notes);
     void tellDetected(const QString& detected, QStringList notes,
                       const std::function<void()>& change);
 

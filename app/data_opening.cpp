@@ -32,6 +32,8 @@ host::DataOrigin originOf(const ReadRequest& request)
         origin.files.push_back(QDir::cleanPath(QFileInfo(file).absoluteFilePath()).toStdString());
     origin.table = host::io::toText(request.text).toStdString();
     origin.plot3d = plot3DLayoutText(request.plot3d).toStdString();
+    origin.boundaryPatches = request.choices.boundaryPatches;
+    origin.numberedTimes = request.choices.numberedTimes;
     return origin;
 }
 
@@ -40,6 +42,7 @@ ReadRequest requestOf(const host::DataOrigin& origin, QString& problem)
     ReadRequest request;
     for (const std::string& file : origin.files)
         request.files << QString::fromStdString(file);
+    request.choices = {origin.boundaryPatches, origin.numberedTimes};
     problem = host::io::parseTextDialect(QString::fromStdString(origin.table), request.text);
     if (problem.isEmpty())
         problem = parsePlot3DLayout(QString::fromStdString(origin.plot3d), request.plot3d);
@@ -93,7 +96,7 @@ OpenedData openAndWait(const ReadRequest& request)
     if (!result.data)
         return {result.error, {}};
     attach(result, request);
-    return {{}, notesOf(*result.data)};
+    return {{}, notesOf(*result.data) + describe(result.offers)};
 }
 
 DataOpener::DataOpener(QObject* parent)

@@ -17,7 +17,7 @@ namespace corvala::app {
 struct OpenedData
 {
     QString error; ///< names the file and the reason; empty on success
-    QStringList notes; ///< what the reader dropped or guessed
+    QStringList notes; ///< what the reader dropped or guessed, and what it offers
 };
 
 /// Where the data of a request come from, as it is kept.

@@ -126,11 +126,7 @@ static QString openDataNow(const Options& options)
         return {};
     if (host::storage::isDocumentFile(options.files.constFirst()))
         return openDocumentNow(options.files.constFirst());
-    host::io::ReadRequest request;
-    request.files = options.files;
-    request.plot3d = options.plot3d;
-    request.text = options.table;
-    const OpenedData opened = openAndWait(request);
+    const OpenedData opened = openAndWait(options.request());
     printNotes(opened.notes);
     return opened.error;
 }
@@ -211,11 +207,7 @@ void startInteractive(MainWindow& window, const Options& options)
                              if (opened && opensDialog)
                                  window.openStyleDialogBeside();
                          });
-        host::io::ReadRequest request;
-        request.files = options.files;
-        request.plot3d = options.plot3d;
-        request.text = options.table;
-        window.openFiles(request);
+        window.openFiles(options.request());
     } else if (!options.demo.isEmpty()) {
         window.openDemo(options.demo);
         if (opensDialog)

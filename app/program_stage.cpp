@@ -11,11 +11,10 @@ QWidget& ProgramStage::window()
     return m_window;
 }
 
-QString ProgramStage::openFiles(const QStringList& files, const QString& table)
+QString ProgramStage::openFiles(const host::DataOrigin& origin)
 {
-    host::io::ReadRequest request;
-    request.files = files;
-    const QString problem = host::io::parseTextDialect(table, request.text);
+    QString problem;
+    const host::io::ReadRequest request = requestOf(origin, problem);
     if (!problem.isEmpty())
         return problem;
     return openAndWait(request).error;

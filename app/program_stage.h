@@ -18,7 +18,7 @@ public:
     }
 
     QWidget& window() override;
-    QString openFiles(const QStringList& files, const QString& table) override;
+    QString openFiles(const host::DataOrigin& origin) override;
     std::shared_ptr<host::DataSet> readData(const host::DataOrigin& origin,
                                             QString& problem) override;
     QString saveCanvas(const QString& file) override;

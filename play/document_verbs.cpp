@@ -27,10 +27,7 @@ static void attach(ScriptRun& run, const host::DataOrigin& origin)
 {
     QString error;
     if (origin.demo.empty()) {
-        QStringList files;
-        for (const std::string& file : origin.files)
-            files << QString::fromStdString(file);
-        error = run.stage().openFiles(files, QString::fromStdString(origin.table));
+        error = run.stage().openFiles(origin);
     } else {
         std::string reason;
         samples::openDemo(origin.demo, origin.scale, reason);

@@ -3,7 +3,7 @@
 
 #include "host/operations/operation.h"
 
-#include <QStringList>
+#include <QString>
 
 #include <memory>
 
@@ -20,9 +20,8 @@ public:
     /// The main window: the parent of the dialog.
     virtual QWidget& window() = 0;
 
-    /// Reads the files into the active frame and waits; `table` tells how text is read, as
-    /// DataOrigin::table does. Empty on success, else the reason.
-    virtual QString openFiles(const QStringList& files, const QString& table) = 0;
+    /// Reads files into the active frame and waits. Empty on success, else the reason.
+    virtual QString openFiles(const host::DataOrigin& origin) = 0;
 
     /// Reads data from files and waits; null, with the reason in `problem`, when that fails.
     virtual std::shared_ptr<host::DataSet> readData(const host::DataOrigin& origin,

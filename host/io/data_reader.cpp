@@ -273,6 +273,7 @@ void DataReader::Private::takeLoaded(const LoadedData& loaded)
     ReadResult result;
     result.data = loaded.data;
     result.noteGroups = loaded.noteGroups;
+    result.offers = loaded.offers;
     result.detectedPlot3D = loaded.plot3d;
     result.detectedText = loaded.text;
     result.preview = loaded.preview;

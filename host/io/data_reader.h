@@ -18,6 +18,7 @@ struct ReadResult
 {
     std::shared_ptr<DataSet> data; ///< null on failure, and for a preview
     QStringList noteGroups; ///< the notes of the data, one sentence for each kind
+    ReadOffers offers; ///< what would come of choices that were not made
     bool cancelled = false;
     QString error; ///< one sentence naming the file and the reason; empty on success
     std::optional<Plot3DLayout> detectedPlot3D; ///< every field filled in, for Plot3D files

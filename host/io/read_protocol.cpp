@@ -109,6 +109,8 @@ std::string toJson(const ReadRequest& request)
     return dump({{"files", files},
                  {"plot3d", layoutJson(request.plot3d)},
                  {"text", dialectJson(request.text)},
+                 {"boundaryPatches", request.choices.boundaryPatches},
+                 {"numberedTimes", request.choices.numberedTimes},
                  {"purpose", request.purpose},
                  {"memoryBytes", request.limits.memoryBytes}});
 }
@@ -121,6 +123,8 @@ std::optional<ReadRequest> requestFromJson(const std::string& text)
             request.files << QString::fromStdString(file);
         request.plot3d = layoutFrom(value.at("plot3d"));
         request.text = dialectFrom(value.at("text"));
+        value.at("boundaryPatches").get_to(request.choices.boundaryPatches);
+        value.at("numberedTimes").get_to(request.choices.numberedTimes);
         value.at("purpose").get_to(request.purpose);
         value.at("memoryBytes").get_to(request.limits.memoryBytes);
         return request;
@@ -205,6 +209,8 @@ std::string toJson(const DataSetIndex& index)
                 {"contours", data.contourVariables},
                 {"planar", data.isPlanar},
                 {"enclosed", data.surfacesEncloseVolumes},
+                {"boundaryPatches", index.offers.boundaryPatches},
+                {"numberedFiles", index.offers.numberedFiles},
                 {"notes", listJson(index.notes, messageJson)}};
     if (index.plot3d)
         value["plot3d"] = layoutJson(*index.plot3d);
@@ -235,6 +241,8 @@ std::optional<DataSetIndex> indexFromJson(const std::string& text)
         value.at("contours").get_to(data.contourVariables);
         value.at("planar").get_to(data.isPlanar);
         value.at("enclosed").get_to(data.surfacesEncloseVolumes);
+        value.at("boundaryPatches").get_to(index.offers.boundaryPatches);
+        value.at("numberedFiles").get_to(index.offers.numberedFiles);
         listFrom(value.at("notes"), index.notes, messageFrom);
         if (value.contains("plot3d"))
             index.plot3d = layoutFrom(value.at("plot3d"));

@@ -35,6 +35,7 @@ struct DataSetIndex
 {
     DataSet data; ///< `source` and `notes` are empty; its zones count those of the ZoneTable
     std::vector<ReadMessage> notes;
+    ReadOffers offers;
     std::optional<Plot3DLayout> plot3d;
     std::optional<TextDialect> text;
 };

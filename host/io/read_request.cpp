@@ -31,4 +31,19 @@ QString describe(const Plot3DLayout& layout)
     return words.join(QStringLiteral(", "));
 }
 
+QStringList describe(const ReadOffers& offers)
+{
+    QStringList sentences;
+    if (offers.numberedFiles > 0)
+        sentences << QCoreApplication::translate(
+            "ReadOffers",
+            "%n file(s) without times are shown together; the numbers in their names can be times.",
+            nullptr, static_cast<int>(offers.numberedFiles));
+    if (offers.boundaryPatches > 0)
+        sentences << QCoreApplication::translate("ReadOffers",
+                                                 "%n boundary patch(es) were not read.", nullptr,
+                                                 static_cast<int>(offers.boundaryPatches));
+    return sentences;
+}
+
 } // namespace corvala::host::io

@@ -34,6 +34,24 @@ struct ReadLimits
     int patienceMilliseconds = 20'000; ///< longest standstill: of bytes read, memory, progress
 };
 
+/// What is read of files, or made of them, only when it is wanted.
+struct ReadChoices
+{
+    bool boundaryPatches = false; ///< of CGNS files, as zones of their own
+    bool numberedTimes =
+        false; ///< files without times are one strand by the numbers in their names
+};
+
+/// What would come of choices that were not made: how many patches, and files.
+struct ReadOffers
+{
+    std::int64_t boundaryPatches = 0;
+    std::int64_t numberedFiles = 0;
+};
+
+/// A sentence for each offer.
+QStringList describe(const ReadOffers& offers);
+
 /// What is wanted of files.
 enum class ReadPurpose {
     Data,
@@ -46,6 +64,7 @@ struct ReadRequest
     QStringList files; ///< opened together as one data set
     Plot3DLayout plot3d;
     TextDialect text;
+    ReadChoices choices;
     ReadPurpose purpose = ReadPurpose::Data;
     ReadLimits limits;
 };

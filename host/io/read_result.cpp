@@ -37,6 +37,7 @@ LoadedData loadData(std::unique_ptr<ReadFolder> folder)
     if (!source || !namesOnly(source->zoneCount(), index->data.zones))
         return result;
     result.data = std::make_shared<DataSet>(std::move(index->data));
+    result.offers = index->offers;
     result.plot3d = index->plot3d;
     result.text = index->text;
     for (const ReadMessage& note : index->notes)

@@ -16,6 +16,7 @@ struct LoadedData
 {
     std::shared_ptr<DataSet> data; ///< null for a preview, and when it is no answer
     QStringList noteGroups; ///< the notes of the data, one sentence for each kind
+    ReadOffers offers;
     std::optional<Plot3DLayout> plot3d;
     std::optional<TextDialect> text;
     std::optional<TextPreview> preview;

@@ -170,7 +170,12 @@ struct DataOrigin
     std::int64_t scale = 0; ///< its number of zones or line maps; 0 is its usual size
     std::string table; ///< how text files are read (text_dialect.h); empty: as is detected
     std::string plot3d; ///< layout of Plot3D files (plot3d_layout.h); empty: as is detected
-    auto fields() const { return std::tie(files, demo, scale, table, plot3d); }
+    bool boundaryPatches = false; ///< of CGNS files are read as well
+    bool numberedTimes = false; ///< the numbers in the names of files stand for times
+    auto fields() const
+    {
+        return std::tie(files, demo, scale, table, plot3d, boundaryPatches, numberedTimes);
+    }
 };
 
 /// Gives the active frame (made when there is none) data and a plot type to show them: default

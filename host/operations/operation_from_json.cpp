@@ -215,6 +215,8 @@ Operation readOpen(const JsonObject& object, const TextContext& context)
             QDir::cleanPath(QDir(context.folder).absoluteFilePath(file)).toStdString());
     attach.origin.table = object.text("table", {}).toStdString();
     attach.origin.plot3d = object.text("plot3d", {}).toStdString();
+    attach.origin.boundaryPatches = object.boolean("boundaryPatches", false);
+    attach.origin.numberedTimes = object.boolean("numberedTimes", false);
     return attach;
 }
 
@@ -264,7 +266,7 @@ const std::vector<Reader>& readers()
         {{"frame", {}}, readFrame},
         {{"load", {}}, readLoad},
         {{"loadStyles", {}}, readLoadStyles},
-        {{"open", {"table", "plot3d"}}, readOpen},
+        {{"open", {"table", "plot3d", "boundaryPatches", "numberedTimes"}}, readOpen},
         {{"demo", {"zones", "maps"}}, readDemo},
         {{"data", {}}, readData}};
     return readers;

@@ -179,6 +179,10 @@ Json json(const AttachData& attach)
             object["table"] = origin.table;
         if (!origin.plot3d.empty())
             object["plot3d"] = origin.plot3d;
+        if (origin.boundaryPatches)
+            object["boundaryPatches"] = true;
+        if (origin.numberedTimes)
+            object["numberedTimes"] = true;
         return object;
     }
     Json object {{"demo", origin.demo}};

@@ -26,6 +26,9 @@ static QString summary(const Options& options)
         add("size", QStringLiteral("%1x%2").arg(size.width()).arg(size.height()));
     }
     add("plot3d", plot3DLayoutText(options.plot3d));
+    add("choices",
+        QString(options.choices.boundaryPatches ? "patches " : "")
+            + (options.choices.numberedTimes ? "times" : ""));
     add("help", options.help ? QStringLiteral("yes") : QString());
     add("version", options.version ? QStringLiteral("yes") : QString());
     return parts.join(QLatin1Char(' '));
@@ -58,6 +61,8 @@ private Q_SLOTS:
         row("plot3d", "--plot3d format=ascii,grids=many m.xyz",
             "files:m.xyz plot3d:format=ascii,grids=many", false);
         row("save", "a.vtu --save a.cvdoc", "files:a.vtu document:a.cvdoc", true);
+        row("choices of reading", "--numbered-times --boundary-patches a_1.cgns",
+            "files:a_1.cgns choices:patches times", false);
         row("help", "--help", "help:yes", false);
         row("version", "--version", "version:yes", false);
     }

@@ -264,6 +264,7 @@ private Q_SLOTS:
               R"({"frame": 2})",
               R"({"frame": "delete"})",
               R"({"open": ["/a.csv", "/b.csv"], "table": "separator=tab"})",
+              R"({"open": ["/a_1.cgns"], "boundaryPatches": true, "numberedTimes": true})",
               R"({"demo": "kinds"})",
               R"({"demo": "polar", "maps": 12})",
               R"({"demo": "field3d", "zones": 12})",

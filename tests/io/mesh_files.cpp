@@ -104,6 +104,71 @@ void writeCgnsCells(const QString& path)
     cg_close(file);
 }
 
+static void writeSolution(int file, int zone, const char* name, CGNS_ENUMT(GridLocation_t) place,
+                          const std::vector<double>& values)
+{
+    int solution = 0;
+    int field = 0;
+    cg_sol_write(file, 1, zone, qPrintable(QString("At %1").arg(name)), place, &solution);
+    cg_field_write(file, 1, zone, solution, CGNS_ENUMV(RealDouble), name, values.data(), &field);
+}
+
+static void writePatch(int file, int zone, const char* name, CGNS_ENUMT(PointSetType_t) kind,
+                       CGNS_ENUMT(GridLocation_t) place, const std::vector<cgsize_t>& numbers,
+                       const char* family = nullptr)
+{
+    int patch = 0;
+    const auto count = static_cast<cgsize_t>(numbers.size());
+    cg_boco_write(file, 1, zone, name, CGNS_ENUMV(BCWall), kind,
+                  kind == CGNS_ENUMV(PointRange) ? 2 : count, numbers.data(), &patch);
+    cg_boco_gridlocation_write(file, 1, zone, patch, place);
+    cg_goto(file, 1, "Zone_t", zone, "ZoneBC_t", 1, "BC_t", patch, "end");
+    if (family)
+        cg_famname_write(family);
+}
+
+void writeCgnsPatches(const QString& path, bool isHdf5)
+{
+    int file = 0;
+    int number = 0;
+    cg_set_file_type(isHdf5 ? CG_FILE_HDF5 : CG_FILE_ADF);
+    cg_open(qPrintable(path), CG_MODE_WRITE, &file);
+    cg_base_write(file, "Base", 3, 3, &number);
+    const cgsize_t grid[] = {3, 2, 2, 2, 1, 1, 0, 0, 0};
+    const cgsize_t cells[] = {12, 2, 0};
+    cg_zone_write(file, 1, "Grid", grid, CGNS_ENUMV(Structured), &number);
+    cg_zone_write(file, 1, "Cells", cells, CGNS_ENUMV(Unstructured), &number);
+    for (const int zone : {1, 2}) {
+        std::vector<double> x, y, z, p;
+        for (int i = 0; i < 12; ++i) {
+            x.push_back(i % 3);
+            y.push_back(i / 3 % 2);
+            z.push_back(i / 6);
+            p.push_back(i);
+        }
+        cg_coord_write(file, 1, zone, CGNS_ENUMV(RealDouble), "CoordinateX", x.data(), &number);
+        cg_coord_write(file, 1, zone, CGNS_ENUMV(RealDouble), "CoordinateY", y.data(), &number);
+        cg_coord_write(file, 1, zone, CGNS_ENUMV(RealDouble), "CoordinateZ", z.data(), &number);
+        writeSolution(file, zone, "p", CGNS_ENUMV(Vertex), p);
+        writeSolution(file, zone, "c", CGNS_ENUMV(CellCenter), {10, 20});
+    }
+    const cgsize_t hexahedra[] = {1, 2, 5, 4, 7, 8, 11, 10, 2, 3, 6, 5, 8, 9, 12, 11};
+    const cgsize_t mixed[] = {CGNS_ENUMV(QUAD_4), 1, 4, 10, 7, CGNS_ENUMV(TRI_3), 3, 6, 12};
+    const cgsize_t starts[] = {0, 5, 9};
+    cg_section_write(file, 1, 2, "Hexahedra", CGNS_ENUMV(HEXA_8), 1, 2, 0, hexahedra, &number);
+    cg_poly_section_write(file, 1, 2, "Faces", CGNS_ENUMV(MIXED), 3, 4, 0, mixed, starts, &number);
+    const auto range = CGNS_ENUMV(PointRange);
+    const auto list = CGNS_ENUMV(PointList);
+    const auto faces = CGNS_ENUMV(FaceCenter);
+    writePatch(file, 1, "Top", range, CGNS_ENUMV(Vertex), {1, 1, 2, 3, 2, 2});
+    writePatch(file, 1, "End", range, CGNS_ENUMV(IFaceCenter), {3, 1, 1, 3, 1, 1}, "Out");
+    writePatch(file, 2, "Left", range, faces, {3, 3}, "Wall");
+    writePatch(file, 2, "Right", list, faces, {4}, "Wall");
+    writePatch(file, 2, "Bottom", list, CGNS_ENUMV(Vertex), {1, 2, 3, 4, 5, 6});
+    writePatch(file, 2, "Lost", list, faces, {99});
+    cg_close(file);
+}
+
 void writeExodus(const QString& path, const ExodusForm& form)
 {
     int realSize = sizeof(double);

@@ -23,6 +23,9 @@ void writeCgns(const QString& path, const CgnsForm& form, bool isHdf5);
 /// A cube whose number follows those of two edges, at three times with p at points and c at cells,
 /// 100 times the number of the time; pointers name the solutions at points only.
 void writeCgnsCells(const QString& path);
+/// The zones Grid (structured) and Cells (unstructured) of the same two cubes in a row, with p at
+/// points, their numbers from 0, and c, 10 and 20, in cells; with boundary conditions of each kind.
+void writeCgnsPatches(const QString& path, bool isHdf5);
 
 /// An Exodus file of format netCDF 3 or HDF5.
 struct ExodusForm

@@ -84,11 +84,45 @@ private Q_SLOTS:
         QCOMPARE(result.data->zone(1).cellCount, std::int64_t(1));
     }
 
+    void patchesOfCgns_data()
+    {
+        const Rows<bool> row;
+        row("HDF5", true);
+        row("ADF", false);
+    }
+
+    void patchesOfCgns()
+    {
+        const auto [isHdf5] = currentRow<bool>();
+        ReadRequest request;
+        request.files << m_folder->path("a.cgns");
+        writeCgnsPatches(request.files[0], isHdf5);
+        QCOMPARE(DataReader::read(request).offers.boundaryPatches, std::int64_t(6));
+        request.choices.boundaryPatches = true;
+        const ReadResult result = DataReader::read(request);
+        QVERIFY2(result.data, qPrintable(result.error));
+        QStringList patches;
+        for (std::int64_t zone = 3; zone <= result.data->zoneCount(); ++zone) {
+            patches << QString::fromStdString(result.data->zone(zone).name) + ':';
+            for (const double value : values(*result.data, zone, "p"))
+                patches.last() += QString(" %1").arg(value);
+            for (const double value : values(*result.data, zone, "c"))
+                patches.last() += QString(", %1").arg(value);
+        }
+        QCOMPARE(patches,
+                 (QStringList {"Grid/Top: 6 7 8 9 10 11, 10, 20", "Grid/Out: 2 5 8 11, 20",
+                               "Cells/Wall/Left: 0 3 6 9, 10", "Cells/Wall/Right: 2 5 11, 20",
+                               "Cells/Bottom: 0 1 2 3 4 5, 10, 20"}));
+        QCOMPARE(result.noteGroups,
+                 QStringList("a.cgns: the boundary patch Lost of Cells was left out: it names "
+                             "points or elements that are not there."));
+    }
+
     void damagedFiles_data()
     {
         const Rows<QString> row;
         for (const char* const file :
-             {"links.cgns", "adf.cgns", "a.e", "hdf5.e", "case/2.5/U", "case/1/p",
+             {"links.cgns", "adf.cgns", "patches.cgns", "a.e", "hdf5.e", "case/2.5/U", "case/1/p",
               "case/constant/polyMesh/faces", "case/constant/polyMesh/owner"})
             row(file, file);
     }
@@ -308,6 +342,7 @@ private:
         writeCgns(m_folder->path("links.cgns"), {three, {"A", "B", "C"}, true}, true);
         writeCgns(m_folder->path("hdf5.cgns"), {three, three, true}, true);
         writeCgns(m_folder->path("adf.cgns"), {three, three, true}, false);
+        writeCgnsPatches(m_folder->path("patches.cgns"), false);
         writeExodus(m_folder->path("a.e"), {});
         writeExodus(m_folder->path("hdf5.e"), {{0.5, 1.5, 2.5}, 0.0, true, 1, "HEX8"});
         m_folder->copySample("cavity_transient", "case");

@@ -281,6 +281,21 @@ private Q_SLOTS:
         QCOMPARE(shown(*dataOf(files)), zones);
     }
 
+    void numbersAreTimes()
+    {
+        ReadRequest request;
+        for (const char* const name : {"p3.vtp", "p1.vtp", "p2.vtp"})
+            request.files << m_folder->path(name);
+        QCOMPARE(DataReader::read(request).offers.numberedFiles, std::int64_t(3));
+        m_folder->write("p2.vtp", piece(5).chopped(60));
+        request.choices.numberedTimes = true;
+        const ReadResult result = DataReader::read(request);
+        QVERIFY2(result.data, qPrintable(result.error));
+        QCOMPARE(shown(*result.data), QString("p@1s1=10, p@3s1=30"));
+        checkNotes(*result.data, "Time 2 was left out: p2.vtp: it is cut off after *");
+        QCOMPARE(result.offers.numberedFiles, std::int64_t(0));
+    }
+
 private:
     /// The notes, separated by bars, are like this pattern.
     static void checkNotes(const DataSet& data, const QString& pattern)

@@ -30,6 +30,7 @@ static DataSetIndex exampleIndex()
     index.data.contourVariables = {2};
     index.data.isPlanar = true;
     index.notes = {ReadMessage("%1 empty blocks were left out.", {"3"})};
+    index.offers = {12, 3};
     index.plot3d = Plot3DLayout();
     index.plot3d->iblank = true;
     return index;
@@ -52,6 +53,7 @@ private Q_SLOTS:
         QCOMPARE(index->data.variables[1].component, 1);
         QCOMPARE(index->plot3d->iblank, std::optional<bool>(true));
         QCOMPARE(index->plot3d->ascii, std::optional<bool>());
+        QCOMPARE(describe(index->offers).last(), QString("12 boundary patch(es) were not read."));
         QCOMPARE(index->notes[0].toString(), QString("3 empty blocks were left out."));
     }
 
@@ -98,11 +100,13 @@ private Q_SLOTS:
         ReadRequest request;
         request.files = QStringList {"/data/ä b.vtu", "/data/\"c\".vtu"};
         request.plot3d.bigEndian = false;
+        request.choices.numberedTimes = true;
         request.limits.memoryBytes = std::int64_t(1) << 40;
         const std::optional<ReadRequest> same = requestFromJson(toJson(request));
         QVERIFY(same);
         QCOMPARE(same->files, request.files);
         QCOMPARE(same->plot3d.bigEndian, std::optional<bool>(false));
+        QVERIFY(same->choices.numberedTimes && !same->choices.boundaryPatches);
         QCOMPARE(same->limits.memoryBytes, request.limits.memoryBytes);
 
         const auto line = lineFromJson(toJson(ReaderLine {250, "a\nb", ReadMessage("c"), true}));

@@ -21,7 +21,7 @@ public:
     }
 
     QWidget& window() override { return m_window; }
-    QString openFiles(const QStringList&, const QString&) override
+    QString openFiles(const host::DataOrigin&) override
     {
         return QStringLiteral("this stage reads no files");
     }

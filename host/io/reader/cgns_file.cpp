@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/adf_size.h"
 #include "host/io/reader/cgns_coordinates.h"
+#include "host/io/reader/cgns_patches.h"
 #include "host/io/reader/cgns_solutions.h"
 #include "host/io/reader/cgns_tree.h"
 #include "host/io/reader/formats.h"
@@ -10,6 +11,7 @@
 #include <QFile>
 
 #include <vtkCGNSReader.h>
+#include <vtkMultiBlockDataSet.h>
 
 #include <cstring>
 #include <set>
@@ -60,7 +62,41 @@ static void enableAllArrays(vtkCGNSReader& reader, const QString& path)
     }
 }
 
-std::unique_ptr<DataFile> openCgns(const QString& path, const QDir& helper)
+/// With the patches at the boundary, if wanted.
+class CgnsFile : public SelectiveFile
+{
+public:
+    CgnsFile(const QString& path, vtkCGNSReader* reader, const std::vector<ReadMessage>& notes,
+             bool withPatches)
+        : SelectiveFile(
+            path, reader, [reader] { return partsOf(reader); }, notes)
+        , m_patches(path, withPatches)
+    {
+    }
+
+    vtkSmartPointer<vtkDataObject> read(std::size_t timeIndex,
+                                        const ProgressCall& progress) override
+    {
+        vtkSmartPointer<vtkDataObject> tree = SelectiveFile::read(timeIndex, progress);
+        if (auto* const root = vtkMultiBlockDataSet::SafeDownCast(tree))
+            m_patches.addTo(*root);
+        return tree;
+    }
+
+    std::vector<ReadMessage> notes() const override
+    {
+        std::vector<ReadMessage> result = m_notes;
+        result.insert(result.end(), m_patches.notes().begin(), m_patches.notes().end());
+        return result;
+    }
+
+    std::int64_t unreadPatches() const override { return m_patches.unreadCount(); }
+
+private:
+    CgnsPatches m_patches;
+};
+
+std::unique_ptr<DataFile> openCgns(const QString& path, bool withPatches, const QDir& helper)
 {
     requireWholeHdf5(path);
     requireWholeAdf(path);
@@ -74,8 +110,7 @@ std::unique_ptr<DataFile> openCgns(const QString& path, const QDir& helper)
     reader->EnableAllPointArrays();
     reader->EnableAllCellArrays();
     enableAllArrays(*reader, path);
-    return std::make_unique<SelectiveFile>(
-        path, reader, [reader] { return partsOf(reader); }, sound.notes);
+    return std::make_unique<CgnsFile>(path, reader, sound.notes, withPatches);
 }
 
 } // namespace corvala::host::io::reader

@@ -38,6 +38,8 @@ public:
     virtual std::vector<ReadMessage> notes() const { return {}; }
     /// Layout of a Plot3D file, once it is read.
     virtual std::optional<Plot3DLayout> plot3dLayout() const { return std::nullopt; }
+    /// Patches at the boundary that can be read, but were not chosen.
+    virtual std::int64_t unreadPatches() const { return 0; }
     /// How a table of text is written, once it is read.
     virtual std::optional<TextDialect> textDialect() const { return std::nullopt; }
     /// False for a table of text that could be meant in another way.

@@ -114,6 +114,7 @@ void DataSetBuilder::readFile(DataFile& file, const std::string& fileName)
     if (!m_index.plot3d)
         m_index.plot3d = file.plot3dLayout();
     noteDialect(file);
+    m_index.offers.boundaryPatches += file.unreadPatches();
     m_hasCoordinates = m_hasCoordinates || file.hasCoordinates();
 }
 

@@ -26,8 +26,9 @@ std::unique_ptr<DataFile> openCollection(const QString& path);
 /// Files by their times, which belong together under a path without a number.
 std::unique_ptr<DataFile> openSeries(const QString& path, const std::map<double, QString>& files);
 
-/// `helper` is an empty folder for files that are needed until the data are read.
-std::unique_ptr<DataFile> openCgns(const QString& path, const QDir& helper);
+/// If wanted, with the patches at the boundary as blocks. `helper` is an empty folder for files
+/// that are needed until the data are read.
+std::unique_ptr<DataFile> openCgns(const QString& path, bool withPatches, const QDir& helper);
 
 /// Element blocks, side sets and node sets with all their variables.
 std::unique_ptr<DataFile> openExodus(const QString& path);

@@ -38,11 +38,12 @@ static void store(const QDir& folder, const char* name, const std::string& json)
 }
 
 static void storeData(const QDir& folder, const ReadRequest& request,
-                      const std::vector<std::unique_ptr<reader::DataFile>>& files,
-                      std::int64_t memoryBytes, reader::Channel& channel)
+                      const reader::OpenedFiles& opened, std::int64_t memoryBytes,
+                      reader::Channel& channel)
 {
     reader::DataSetBuilder builder(folder.path(), channel, memoryBytes);
-    DataSetIndex index = builder.build(files);
+    DataSetIndex index = builder.build(opened.files);
+    index.offers.numberedFiles = opened.numbered;
     for (const QString& file : request.files)
         index.data.files.push_back(file.toStdString());
     store(folder, kIndexFile, toJson(index));
@@ -57,11 +58,11 @@ static void readAll(const QDir& folder, const ReadRequest& request, std::int64_t
     };
     if (request.purpose == ReadPurpose::Preview)
         return preview(request.files.first());
-    const auto files = reader::openFiles(request, folder, channel);
-    for (const auto& file : files)
+    const reader::OpenedFiles opened = reader::openFiles(request, folder, channel);
+    for (const auto& file : opened.files)
         if (request.purpose == ReadPurpose::DataIfSure && !file->isSure())
             return preview(file->path());
-    storeData(folder, request, files, memoryBytes, channel);
+    storeData(folder, request, opened, memoryBytes, channel);
 }
 
 /// Reads as `folder` asks. Returns the exit code.

@@ -43,14 +43,15 @@ static QDir newHelperFolder(const QDir& folder, std::size_t number)
     return QDir(folder.filePath(name));
 }
 
-static std::unique_ptr<DataFile> openFile(Format format, const QString& path, const QDir& helper)
+static std::unique_ptr<DataFile> openFile(Format format, const QString& path,
+                                          const ReadChoices& choices, const QDir& helper)
 {
     switch (format) {
     case Format::LegacyVtk: return openLegacyVtk(path);
     case Format::XmlVtk: return openXmlVtk(path);
     case Format::Collection: return openCollection(path);
     case Format::Surface: return openSurface(path);
-    case Format::Cgns: return openCgns(path, helper);
+    case Format::Cgns: return openCgns(path, choices.boundaryPatches, helper);
     case Format::EnSight: return openEnSight(path);
     case Format::Exodus: return openExodus(path);
     case Format::Foam: return openFoam(path);
@@ -61,10 +62,9 @@ static std::unique_ptr<DataFile> openFile(Format format, const QString& path, co
                       {QFileInfo(path).suffix()});
 }
 
-std::vector<std::unique_ptr<DataFile>> openFiles(const ReadRequest& request, const QDir& folder,
-                                                 Channel& channel)
+OpenedFiles openFiles(const ReadRequest& request, const QDir& folder, Channel& channel)
 {
-    std::vector<std::unique_ptr<DataFile>> result;
+    DataFiles result;
     QStringList plot3d;
     QStringList tables;
     std::set<std::pair<QString, int>> runs; // of Exodus, which are opened by any of their files
@@ -84,14 +84,18 @@ std::vector<std::unique_ptr<DataFile>> openFiles(const ReadRequest& request, con
         else if (format == Format::Table || (format == Format::Unknown && isTable(path)))
             tables << path;
         else
-            result.push_back(openFile(format, path, newHelperFolder(folder, result.size())));
+            result.push_back(
+                openFile(format, path, request.choices, newHelperFolder(folder, result.size())));
     }
     result = joinedByTime(std::move(result));
     for (const Plot3DSeries& series : groupPlot3D(plot3d, request.plot3d))
         result.push_back(openPlot3D(series, newHelperFolder(folder, result.size())));
+    if (request.choices.numberedTimes)
+        result = joinedByNumber(std::move(result));
+    const auto numbered = static_cast<std::int64_t>(numberedCount(result));
     for (std::unique_ptr<DataFile>& table : openTables(tables, request.text))
         result.push_back(std::move(table));
-    return result;
+    return {std::move(result), numbered};
 }
 
 } // namespace corvala::host::io::reader
