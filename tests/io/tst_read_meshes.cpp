@@ -228,13 +228,21 @@ private Q_SLOTS:
                 erase(folder.filePath("processor1/constant"));
             },
             2, {}, "processor1 was left out: there is no mesh in it.");
-        row(
-            "collated results",
+        row("collated results",
             [=](const QDir& folder) {
-                split({"processors2"});
-                QDir(folder.filePath("2.5")).remove("p");
+                collate("processors2", "ascii");
+                erase(folder.filePath("2.5"));
             },
-            1, {6}, "2.5/p was left out: only processors2 has it.");
+            2, {}, {});
+        row(
+            "collated files without the mesh of the case",
+            [=](const QDir& folder) {
+                collate("processors2_0-1", "binary");
+                erase(folder.filePath("constant"));
+                const QString p = "case/processors2_0-1/2.5/p";
+                m_folder->write(p, contentOf(p).chopped(9));
+            },
+            2, {6}, "2.5/p was left out: processor1 does not have it.");
         row(
             "an unknown directive",
             [](const QDir& folder) {
@@ -353,6 +361,25 @@ private:
     {
         for (const QString& name : names)
             m_folder->copySample("cavity_transient", "case/" + name);
+    }
+
+    /// Gives the case a folder in which each of its files is there for two processors.
+    void collate(const QString& name, const QByteArray& format) const
+    {
+        const QDir source(DataFolder::sample("cavity_transient"));
+        QDirIterator files(source.path(), QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString file = source.relativeFilePath(files.next());
+            const QByteArray first = contentOf("case/" + file);
+            const QByteArray second = first.mid(first.indexOf('}') + 1);
+            const auto block = [](const QByteArray& content) {
+                return QByteArray::number(content.size()) + "\n(" + content + ")\n";
+            };
+            m_folder->write("case/" + name + '/' + file,
+                            "FoamFile\n{\n    format " + format
+                                + ";\n    class decomposedBlockData;\n}\n\n// Processor0\n"
+                                + block(first) + "\n// Processor1\n" + block(second));
+        }
     }
 
     QByteArray contentOf(const QString& name) const

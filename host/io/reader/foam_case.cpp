@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "host/io/reader/foam_collated.h"
 #include "host/io/reader/foam_folders.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/selective_file.h"
@@ -65,7 +66,8 @@ static void requireKnownError(const QString& path, const QStringList& withoutMes
     const QString text = error.toString();
     const bool isKnown =
         std::any_of(withoutMesh.begin(), withoutMesh.end(), [&](const QString& folder) {
-            return text.contains(folder + QLatin1Char('/')) || text.contains(path);
+            return text.contains(VtkMessages::shown(folder) + QLatin1Char('/'))
+                || text.contains(path);
         });
     if (error.isEmpty() || isKnown)
         return;
@@ -73,15 +75,16 @@ static void requireKnownError(const QString& path, const QStringList& withoutMes
     throw ReadFailure(path, error);
 }
 
-std::unique_ptr<DataFile> openFoam(const QString& path)
+std::unique_ptr<DataFile> openFoam(const QString& path, const QDir& helper)
 {
-    const FoamFolders folders = foamFoldersOf(path);
+    const QString read = withSplitFiles(path, helper);
+    const FoamFolders folders = foamFoldersOf(read);
     auto reader = vtkSmartPointer<vtkPOpenFOAMReader>::New();
     vtkNew<vtkDummyController> controller;
     reader->SetController(controller);
     reader->SetCaseType(folders.isDecomposed ? vtkPOpenFOAMReader::DECOMPOSED_CASE
                                              : vtkPOpenFOAMReader::RECONSTRUCTED_CASE);
-    reader->SetFileName(QFile::encodeName(path).constData());
+    reader->SetFileName(QFile::encodeName(read).constData());
     reader->CreateCellToPointOff();
     reader->SkipZeroTimeOff();
     reader->UpdateInformation();

@@ -206,11 +206,31 @@ static void noteMissing(const QString& folder, FoamFolders& result)
     }
 }
 
+static QStringList collatedIn(const QDir& folder)
+{
+    return foldersLike(folder, "processors\\d+(?:_(\\d+)-\\d+)?");
+}
+
+FoamCollated collatedFoldersOf(const QString& path)
+{
+    const QDir folder = caseFolder(path);
+    FoamCollated result {folder.path(), collatedIn(folder)};
+    const QStringList processors = foldersLike(folder, "processor(\\d+)");
+    const bool areOthers = !processors.isEmpty() && hasMesh(QDir(processors.first()));
+    const bool isNeeded = !result.folders.isEmpty() && !areOthers
+        && hasMesh(QDir(result.folders.first()))
+        && (!hasMesh(folder)
+            || !lacking(resultsIn(result.folders.first()), resultsIn(folder.path())).isEmpty());
+    if (!isNeeded)
+        result.folders.clear();
+    return result;
+}
+
 FoamFolders foamFoldersOf(const QString& path)
 {
     const QDir folder = caseFolder(path);
     const QStringList processors = foldersLike(folder, "processor(\\d+)");
-    const QStringList collated = foldersLike(folder, "processors(\\d+)(_\\d+-\\d+)?");
+    const QStringList collated = collatedIn(folder);
     const Results own = hasMesh(folder) ? resultsIn(folder.path()) : Results();
     FoamFolders result;
     if (!processors.isEmpty() && hasMesh(QDir(processors.first()))) {

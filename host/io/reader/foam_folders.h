@@ -15,7 +15,16 @@ struct FoamFolders
 
 /// Of the case of a controlDict or marker file. The folders of processors count when they have
 /// times or fields that the folder of the case lacks. Throws ReadFailure when only folders of
-/// several processors each have a mesh, which cannot be read.
+/// several processors each have a mesh, which cannot be read as they are.
 FoamFolders foamFoldersOf(const QString& path);
+
+/// Folders that have the files of several processors in one each (collated).
+struct FoamCollated
+{
+    QString caseFolder;
+    QStringList folders; ///< none when the case, or folders of processors, have all of it
+};
+
+FoamCollated collatedFoldersOf(const QString& path);
 
 } // namespace corvala::host::io::reader

@@ -36,8 +36,8 @@ std::unique_ptr<DataFile> openExodus(const QString& path);
 /// A case of EnSight Gold or EnSight 6.
 std::unique_ptr<DataFile> openEnSight(const QString& path);
 
-/// A case by its controlDict or by a marker file beside its folders.
-std::unique_ptr<DataFile> openFoam(const QString& path);
+/// A case by its controlDict or by a marker file beside its folders. `helper` as for CGNS.
+std::unique_ptr<DataFile> openFoam(const QString& path, const QDir& helper);
 
 /// Throws ReadFailure unless the path names a regular file that can be opened and, but where that
 /// is allowed, is not empty.

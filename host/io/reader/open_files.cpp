@@ -54,7 +54,7 @@ static std::unique_ptr<DataFile> openFile(Format format, const QString& path,
     case Format::Cgns: return openCgns(path, choices.boundaryPatches, helper);
     case Format::EnSight: return openEnSight(path);
     case Format::Exodus: return openExodus(path);
-    case Format::Foam: return openFoam(path);
+    case Format::Foam: return openFoam(path, helper);
     default: break;
     }
     throw ReadFailure(path,

@@ -9,10 +9,19 @@
 #include <vtkOutputWindow.h>
 #include <vtkSmartPointer.h>
 
+#include <utility>
+#include <vector>
+
 namespace corvala::host::io::reader {
 
 static constexpr int kMostWarnings = 20;
 static constexpr int kLongestMessage = 300;
+
+static std::vector<std::pair<QString, QString>>& shownFolders()
+{
+    static std::vector<std::pair<QString, QString>> folders;
+    return folders;
+}
 
 /// "ERROR: In a.cxx, line 5\nvtkSomething (0x55d0): the message" becomes "the message".
 static QString essence(const char* text)
@@ -21,7 +30,7 @@ static QString essence(const char* text)
         QStringLiteral("^\\s*\\w[\\w ]*: In .*, line \\d+\\s*(?:\\w+ \\(0x[0-9a-f]+\\): )?"));
     QString message = QString::fromUtf8(text);
     message.remove(place);
-    return message.simplified().left(kLongestMessage);
+    return VtkMessages::shown(message).simplified().left(kLongestMessage);
 }
 
 /// Says only that something went wrong, so that a later message may say it better. Pipelines pass
@@ -71,6 +80,18 @@ vtkStandardNewMacro(MessageWindow)
 static MessageWindow& window()
 {
     return *static_cast<MessageWindow*>(vtkOutputWindow::GetInstance());
+}
+
+void VtkMessages::showInstead(const QString& temporary, const QString& folder)
+{
+    shownFolders().emplace_back(temporary, folder);
+}
+
+QString VtkMessages::shown(QString text)
+{
+    for (const auto& [temporary, folder] : shownFolders())
+        text.replace(temporary, folder);
+    return text;
 }
 
 ReadMessage VtkMessages::takeError()

@@ -18,6 +18,10 @@ public:
     static ReadMessage takeError();
     /// What can be said when no more is known.
     static ReadMessage damaged();
+    /// From now on, messages name `folder` in place of a temporary one.
+    static void showInstead(const QString& temporary, const QString& folder);
+    /// A text in which that is done.
+    static QString shown(QString text);
     /// Distinct warnings since the last call.
     static QStringList takeWarnings();
 };
