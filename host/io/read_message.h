@@ -21,6 +21,8 @@ struct ReadMessage
     std::vector<std::string> arguments; ///< UTF-8
 
     QString toString() const; ///< translated, with the arguments filled in
+    /// This message as an argument of another one, with which it is translated.
+    QString asArgument() const;
     bool isEmpty() const { return text.empty(); }
 };
 

@@ -54,7 +54,7 @@ static void writeZone(int file, int zone, const QStringList& solutions)
     }
 }
 
-static int startCgns(const QString& path, bool isHdf5)
+static int startCgns(const QString& path, bool isHdf5, bool isSteady)
 {
     const double times[] = {0.5, 1.5, 2.5};
     const cgsize_t count = 3;
@@ -63,15 +63,17 @@ static int startCgns(const QString& path, bool isHdf5)
     cg_set_file_type(isHdf5 ? CG_FILE_HDF5 : CG_FILE_ADF);
     cg_open(qPrintable(path), CG_MODE_WRITE, &file);
     cg_base_write(file, "Base", 3, 3, &base);
-    cg_biter_write(file, base, "BaseIterativeData", 3);
-    cg_goto(file, base, "BaseIterativeData_t", 1, "end");
-    cg_array_write("TimeValues", CGNS_ENUMV(RealDouble), 1, &count, times);
+    if (!isSteady) {
+        cg_biter_write(file, base, "BaseIterativeData", 3);
+        cg_goto(file, base, "BaseIterativeData_t", 1, "end");
+        cg_array_write("TimeValues", CGNS_ENUMV(RealDouble), 1, &count, times);
+    }
     return file;
 }
 
 void writeCgns(const QString& path, const CgnsForm& form, bool isHdf5)
 {
-    const int file = startCgns(path, isHdf5);
+    const int file = startCgns(path, isHdf5, form.isSteady);
     for (int zone = 1; zone <= 2; ++zone) {
         writeZone(file, zone, form.solutions);
         if (!form.pointers.isEmpty() && (zone == 2 || form.isFirstNamed))
@@ -82,7 +84,7 @@ void writeCgns(const QString& path, const CgnsForm& form, bool isHdf5)
 
 void writeCgnsCells(const QString& path)
 {
-    const int file = startCgns(path, true);
+    const int file = startCgns(path, true, false);
     int zone = 0;
     int number = 0;
     const cgsize_t sizes[] = {kPoints, 1, 0};
@@ -129,11 +131,8 @@ static void writePatch(int file, int zone, const char* name, CGNS_ENUMT(PointSet
 
 void writeCgnsPatches(const QString& path, bool isHdf5)
 {
-    int file = 0;
+    const int file = startCgns(path, isHdf5, true);
     int number = 0;
-    cg_set_file_type(isHdf5 ? CG_FILE_HDF5 : CG_FILE_ADF);
-    cg_open(qPrintable(path), CG_MODE_WRITE, &file);
-    cg_base_write(file, "Base", 3, 3, &number);
     const cgsize_t grid[] = {3, 2, 2, 2, 1, 1, 0, 0, 0};
     const cgsize_t cells[] = {12, 2, 0};
     cg_zone_write(file, 1, "Grid", grid, CGNS_ENUMV(Structured), &number);

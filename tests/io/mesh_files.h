@@ -14,6 +14,7 @@ struct CgnsForm
     QStringList solutions; ///< of both zones
     QStringList pointers; ///< of the last zone; empty for none
     bool isFirstNamed = true; ///< whether the first zone has pointers as well
+    bool isSteady = false;
 };
 
 /// Two zones of eight points with p, 100 times the number of the solution and the number of the

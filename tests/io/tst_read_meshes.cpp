@@ -59,6 +59,8 @@ private Q_SLOTS:
             "a.cgns: the solution B of Z1 was left out: there is none. (and 1 more like it)");
         row("too few solutions", {{"Sol#1", "Sol#2"}, {"A", "B", "C"}, true}, {}, {100, 100},
             "the first ones are shown, without a time");
+        row("steady", {three, {}, true, true}, {}, {100, 100},
+            "a.cgns: of 3 solutions of Z1 without a time the first one, Sol#1, is shown. (and 1 ");
         row("one solution for all", {{"Sol"}, {}, true}, all, {100, 100, 100, 100, 100, 100}, {});
     }
 

@@ -248,6 +248,8 @@ private Q_SLOTS:
         row("times in surfaces", {"s_1.vtp", "s_02.vtp"}, "s@0.5s1=10, s@1.5s1=20");
         row("times in trees", {"t1.vtm", "t2.vtm"},
             "Block 1@1.5s1=20, Block 1@3s1=10, Block 2@1.5s2=10, Block 2@3s2=20");
+        row("times of trees in base64", {"t1.vtm", "t3.vtm"},
+            "Block 1@1.5s1=20, Block 1@3s1=10, Block 2@1.5s2=10");
         row("times in legacy files", {"l1.vtk", "l2.vtk"}, "l@2s1=7, l@4s1=8");
         row("one of other names", {"s_1.vtp", "s_02.vtp", "p3.vtp"},
             "p3=30, s@0.5s1=10, s@1.5s1=20");
@@ -268,6 +270,14 @@ private Q_SLOTS:
         m_folder->write("t1.vtm", tree("<DataSet file='s_02.vtp'/><DataSet file='s_1.vtp'/>"));
         m_folder->write("t2.vtm",
                         tree("<DataSet file='s_1.vtp'/><DataSet file='s_02.vtp'/>" + field("3")));
+        const char bytes[] = "\x08\0\0\0\0\0\0\0\0\0\x08\x40"; // the number of bytes, and 3
+        m_folder->write("t3.vtm",
+                        tree("<DataSet file='s_1.vtp'/>"
+                             + field("").replace("\"ascii\"", "'appended' offset='0'"))
+                            .replace("</VTKFile>",
+                                     "<AppendedData encoding=\"base64\">_"
+                                         + QByteArray(bytes, 12).toBase64()
+                                         + "</AppendedData></VTKFile>"));
         for (const char* const name : {"1", "2"})
             m_folder->write(QString("l%1.vtk").arg(name),
                             legacy("DATASET POLYDATA\nFIELD FieldData 1\nTIME 1 1 double\n"

@@ -29,7 +29,9 @@ static DataSetIndex exampleIndex()
     index.data.vectorVariables = {{1, 2, 0}};
     index.data.contourVariables = {2};
     index.data.isPlanar = true;
-    index.notes = {ReadMessage("%1 empty blocks were left out.", {"3"})};
+    const ReadMessage reason("%1 of %2 (%3)", {"1:2", "x", ReadMessage("so").asArgument()});
+    index.notes = {ReadMessage("%1 empty blocks were left out.", {"3"}),
+                   ReadMessage("%1: %2.", {"a", reason.asArgument()})};
     index.offers = {12, 3};
     index.plot3d = Plot3DLayout();
     index.plot3d->iblank = true;
@@ -55,6 +57,7 @@ private Q_SLOTS:
         QCOMPARE(index->plot3d->ascii, std::optional<bool>());
         QCOMPARE(describe(index->offers).last(), QString("12 boundary patch(es) were not read."));
         QCOMPARE(index->notes[0].toString(), QString("3 empty blocks were left out."));
+        QCOMPARE(index->notes[1].toString(), QString("a: 1:2 of x (so)."));
     }
 
     void brokenIndexIsRefused_data()

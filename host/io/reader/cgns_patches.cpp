@@ -38,7 +38,7 @@ void CgnsPatches::leaveOut(const BoundaryPatch& patch, const ReadMessage& fault)
     m_notes.emplace_back(
         QT_TRANSLATE_NOOP("ReadMessage", "%1: the boundary patch %2 of %3 was left out: %4."),
         std::initializer_list<QString> {m_fileName, QString::fromStdString(patch.name),
-                                        QString::fromStdString(patch.zone), fault.toString()});
+                                        QString::fromStdString(patch.zone), fault.asArgument()});
 }
 
 static std::string nameOf(vtkMultiBlockDataSet& tree, unsigned block)

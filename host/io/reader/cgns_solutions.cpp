@@ -315,6 +315,24 @@ static bool isAny(const std::vector<BaseSolutions>& bases, State state)
     return isAnyLike(bases, [&](const ZoneSolutions& zone) { return zone.state == state; });
 }
 
+/// VTK shows the first of several solutions that no time tells apart.
+static void noteSeveral(const CgnsTree& file, const BaseSolutions& base, CgnsSolutions& result)
+{
+    for (const CgnsTree::Node& node : file.children(base.base.id, "Zone_t")) {
+        const ZoneSolutions zone = solutionsOf(file, node);
+        for (const auto& [place, solutions] : zone.solutions)
+            if (solutions.size() > 1 && zone.pointers.empty())
+                result.notes.emplace_back(
+                    QT_TRANSLATE_NOOP("ReadMessage",
+                                      "%1: of %2 solutions of %3 without a time the first one, %4, "
+                                      "is shown."),
+                    std::initializer_list<QString> {QFileInfo(result.path).fileName(),
+                                                    QString::number(solutions.size()),
+                                                    QString::fromStdString(node.name),
+                                                    QString::fromStdString(solutions.front())});
+    }
+}
+
 CgnsSolutions withSoundSolutions(const QString& path, const QDir& helper)
 {
     CgnsSolutions result {path, {}};
@@ -322,8 +340,11 @@ CgnsSolutions withSoundSolutions(const QString& path, const QDir& helper)
     if (!file.isOpen())
         return result;
     std::vector<BaseSolutions> bases = basesOf(file);
-    for (BaseSolutions& base : bases)
+    for (BaseSolutions& base : bases) {
         mend(base, result);
+        if (base.times < 2)
+            noteSeveral(file, base, result);
+    }
     const bool isUnclear = isAny(bases, ZoneSolutions::Unclear);
     const bool isOrdered = isAny(bases, ZoneSolutions::Ordered);
     const bool areNumbered =

@@ -250,7 +250,7 @@ bool DataSetBuilder::isUsable(const DataFile& file, const LeafBlock& leaf)
     m_index.notes.emplace_back(
         QT_TRANSLATE_NOOP("ReadMessage", "%1: the zone \"%2\" was left out: %3."),
         std::initializer_list<QString> {QFileInfo(file.path()).fileName(),
-                                        QString::fromStdString(name), fault.toString()});
+                                        QString::fromStdString(name), fault.asArgument()});
     if (!m_fault)
         m_fault = ReadFailure(file.path(), fault);
     return false;

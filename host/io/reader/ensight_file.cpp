@@ -160,7 +160,7 @@ bool EnSightFile::loadGeometry(std::size_t timeIndex)
         if (!m_hasGeometry && (isForAll || isLast))
             throw ReadFailure(*m_failure);
         note(QT_TRANSLATE_NOOP("ReadMessage", "Time %1 was left out: %2: %3."),
-             {timeText(time), QFileInfo(failure.file).fileName(), failure.message.toString()});
+             {timeText(time), QFileInfo(failure.file).fileName(), failure.message.asArgument()});
         return false;
     }
 }
@@ -180,7 +180,7 @@ void EnSightFile::loadParticles(double time)
     } catch (const ReadFailure& failure) {
         m_particles.reset();
         note(QT_TRANSLATE_NOOP("ReadMessage", "Particles were left out at time %1: %2: %3."),
-             {timeText(time), QFileInfo(failure.file).fileName(), failure.message.toString()});
+             {timeText(time), QFileInfo(failure.file).fileName(), failure.message.asArgument()});
     }
 }
 
@@ -305,8 +305,8 @@ ReadMessage EnSightFile::noteOf(const Gap& gap) const
     const QString name = QString::fromStdString(gap.variable->name);
     const QString file = QFileInfo(gap.reason.file).fileName();
     const QString why = gap.reason.message.isEmpty()
-        ? ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "there are no values of it")).toString()
-        : gap.reason.message.toString();
+        ? ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "there are no values of it")).asArgument()
+        : gap.reason.message.asArgument();
     QStringList parts = gap.parts.mid(0, kMostNames);
     if (gap.parts.size() > kMostNames)
         parts << QStringLiteral("...");

@@ -145,7 +145,7 @@ openExodusRun(const QString& path, const std::map<int, QStringList>& stages,
                 failure = failure ? failure : fault;
                 notes.emplace_back(QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out: %2."),
                                    std::initializer_list<QString> {QFileInfo(file).fileName(),
-                                                                   fault.message.toString()});
+                                                                   fault.message.asArgument()});
             }
         }
         if (!stage.pieces.empty())

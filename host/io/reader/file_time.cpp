@@ -13,10 +13,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QXmlStreamReader>
 #include <QtEndian>
 
 #include <vtkXMLGenericDataObjectReader.h>
+#include <vtkXMLPolyDataReader.h>
 #include <vtkXMLReader.h>
 
 #include <cmath>
@@ -29,22 +29,6 @@ namespace corvala::host::io::reader {
 static constexpr int kDeepest = 10; ///< of files that name files
 
 static std::optional<double> timeOf(const QString& path, int depth);
-
-/// The number of a field in text, or in base64 behind the number of its bytes.
-static std::optional<double> numberIn(const QString& text, bool isBase64)
-{
-    bool isNumber = false;
-    const double number = text.trimmed().toDouble(&isNumber);
-    if (!isBase64)
-        return isNumber ? std::optional(number) : std::nullopt;
-    const QByteArray bytes = QByteArray::fromBase64(text.trimmed().toLatin1());
-    if (bytes.size() != 12 && bytes.size() != 16)
-        return std::nullopt;
-    const auto bits = qFromLittleEndian<quint64>(bytes.constData() + bytes.size() - 8);
-    double result = 0;
-    std::memcpy(&result, &bits, sizeof result);
-    return result;
-}
 
 static std::optional<double> timeInLegacy(const QString& path)
 {
@@ -66,22 +50,35 @@ static std::optional<double> timeInLegacy(const QString& path)
     return result;
 }
 
-/// What a tree of files tells itself.
+static std::optional<double> timeIn(const QString& path, vtkXMLReader& reader)
+{
+    const std::vector<double> times = AlgorithmFile(path, &reader).times();
+    VtkMessages::takeError(); // which reading gives again
+    return times.size() == 1 ? std::optional(times.front()) : std::nullopt;
+}
+
+/// What a tree of files tells itself: its field data, read as those of a surface.
 static std::optional<double> timeInTree(const QString& path)
 {
+    static const QRegularExpression kind(QStringLiteral("\\btype\\s*=\\s*(\"[^\"]*\"|'[^']*')"));
     QFile file(path);
     file.open(QIODevice::ReadOnly);
-    QXmlStreamReader xml(&file);
-    while (!xml.atEnd()) {
-        const bool isField = xml.readNext() == QXmlStreamReader::StartElement
-            && xml.name() == QLatin1String("DataArray")
-            && xml.attributes().value(QLatin1String("Name")) == QLatin1String("TimeValue");
-        const QString format = xml.attributes().value(QLatin1String("format")).toString();
-        if (isField && format != QLatin1String("appended"))
-            return numberIn(xml.readElementText(QXmlStreamReader::SkipChildElements),
-                            format == QLatin1String("binary"));
-    }
-    return std::nullopt;
+    const QByteArray all = file.readAll();
+    const int start = all.indexOf("<VTKFile");
+    const int field = all.indexOf("<FieldData", start);
+    const int end = all.indexOf("</FieldData>", field);
+    const int appended = all.indexOf("<AppendedData", end);
+    if (start < 0 || field < 0 || end < 0 || all.indexOf("\"TimeValue\"", field) < 0)
+        return std::nullopt;
+    const QString head = QString::fromLatin1(all.mid(start, all.indexOf('>', start) + 1 - start));
+    const QByteArray text =
+        QString(head).replace(kind, QStringLiteral("type=\"PolyData\"")).toLatin1() + "<PolyData>"
+        + all.mid(field, end - field) + "</FieldData><Piece NumberOfPoints=\"0\"/></PolyData>"
+        + (appended < 0 ? QByteArray("</VTKFile>") : all.mid(appended));
+    const auto reader = vtkSmartPointer<vtkXMLPolyDataReader>::New();
+    reader->ReadFromInputStringOn();
+    reader->SetInputString(text.toStdString());
+    return timeIn(path, *reader);
 }
 
 static std::optional<double> timeOfFirst(const PieceNode& node, int depth)
@@ -104,9 +101,7 @@ static std::optional<double> timeInXml(const QString& path, int depth)
     }
     const auto reader = vtkXMLGenericDataObjectReader::CreateReader(kind.type, false);
     reader->SetFileName(QFile::encodeName(path).constData());
-    const std::vector<double> times = AlgorithmFile(path, reader).times();
-    VtkMessages::takeError(); // which reading gives again
-    return times.size() == 1 ? std::optional(times.front()) : std::nullopt;
+    return timeIn(path, *reader);
 }
 
 static std::optional<double> timeOf(const QString& path, int depth)

@@ -197,7 +197,7 @@ static void noteMissing(const QString& folder, FoamFolders& result)
                     : QT_TRANSLATE_NOOP("ReadMessage", "there is no such file"));
             result.notes.emplace_back(
                 QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out at time %4: %2: %3."),
-                std::initializer_list<QString> {field, path, reason.toString(), time});
+                std::initializer_list<QString> {field, path, reason.asArgument(), time});
         }
         for (const QString& field : fields)
             if (!isFirst && !isOfCloud(field))

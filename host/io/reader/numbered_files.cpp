@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/numbered_files.h"
 
-#include "host/io/reader/read_failure.h"
 #include "host/io/reader/vtk_messages.h"
 
 #include <QFileInfo>
@@ -109,7 +108,7 @@ vtkSmartPointer<vtkDataObject> NumberedFiles::read(std::size_t timeIndex,
         m_notes.emplace_back(QT_TRANSLATE_NOOP("ReadMessage", "Time %1 was left out: %2: %3."),
                              std::initializer_list<QString> {QString::number(m_times[timeIndex]),
                                                              QFileInfo(file.path()).fileName(),
-                                                             failure.message.toString()});
+                                                             failure.message.asArgument()});
         return vtkSmartPointer<vtkMultiBlockDataSet>::New();
     }
 }
@@ -122,6 +121,32 @@ std::vector<ReadMessage> NumberedFiles::notes() const
         result.insert(result.end(), notes.begin(), notes.end());
     }
     return result;
+}
+
+class UnreadableFile : public DataFile
+{
+public:
+    UnreadableFile(const QString& path, const ReadFailure& failure)
+        : m_path(path)
+        , m_failure(failure)
+    {
+    }
+
+    QString path() const override { return m_path; }
+    std::vector<double> times() const override { return {}; }
+    vtkSmartPointer<vtkDataObject> read(std::size_t, const ProgressCall&) override
+    {
+        throw ReadFailure(m_failure);
+    }
+
+private:
+    QString m_path;
+    ReadFailure m_failure;
+};
+
+std::unique_ptr<DataFile> unreadableFile(const QString& path, const ReadFailure& failure)
+{
+    return std::make_unique<UnreadableFile>(path, failure);
 }
 
 std::size_t numberedCount(const DataFiles& files)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/io/reader/data_file.h"
+#include "host/io/reader/read_failure.h"
 
 #include <memory>
 #include <vector>
@@ -9,6 +10,9 @@
 namespace corvala::host::io::reader {
 
 using DataFiles = std::vector<std::unique_ptr<DataFile>>;
+
+/// Stands for a file that cannot be opened, which reading tells.
+std::unique_ptr<DataFile> unreadableFile(const QString& path, const ReadFailure& failure);
 
 /// How many of the files tell no times apart and have names that differ by a number only.
 std::size_t numberedCount(const DataFiles& files);

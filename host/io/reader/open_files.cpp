@@ -43,8 +43,8 @@ static QDir newHelperFolder(const QDir& folder, std::size_t number)
     return QDir(folder.filePath(name));
 }
 
-static std::unique_ptr<DataFile> openFile(Format format, const QString& path,
-                                          const ReadChoices& choices, const QDir& helper)
+static std::unique_ptr<DataFile> openSound(Format format, const QString& path,
+                                           const ReadChoices& choices, const QDir& helper)
 {
     switch (format) {
     case Format::LegacyVtk: return openLegacyVtk(path);
@@ -60,6 +60,19 @@ static std::unique_ptr<DataFile> openFile(Format format, const QString& path,
     throw ReadFailure(path,
                       QT_TRANSLATE_NOOP("ReadMessage", "files that end in \"%1\" are not known"),
                       {QFileInfo(path).suffix()});
+}
+
+/// One of a series that cannot be opened is left out when its time comes.
+static std::unique_ptr<DataFile> openFile(Format format, const QString& path,
+                                          const ReadChoices& choices, const QDir& helper)
+{
+    try {
+        return openSound(format, path, choices, helper);
+    } catch (const ReadFailure& failure) {
+        if (!choices.numberedTimes)
+            throw;
+        return unreadableFile(path, failure);
+    }
 }
 
 OpenedFiles openFiles(const ReadRequest& request, const QDir& folder, Channel& channel)

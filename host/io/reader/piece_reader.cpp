@@ -45,7 +45,7 @@ QString PieceReader::shortName(const QString& path) const
 void PieceReader::leaveOut(const ReadFailure& failure)
 {
     const QString file = shortName(failure.file);
-    const QString reason = failure.message.toString();
+    const QString reason = failure.message.asArgument();
     if (time)
         notes.emplace_back(QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out at time %2: %3."),
                            std::initializer_list<QString> {file, QString::number(*time), reason});
@@ -59,7 +59,7 @@ void PieceReader::leaveOutArray(const QString& path, const QString& array,
 {
     notes.emplace_back(
         QT_TRANSLATE_NOOP("ReadMessage", "%1: the values of %2 were left out: %3."),
-        std::initializer_list<QString> {shortName(path), array, failure.message.toString()});
+        std::initializer_list<QString> {shortName(path), array, failure.message.asArgument()});
 }
 
 vtkSmartPointer<vtkDataObject> PieceReader::read(const QString& path, const ProgressCall& progress)
@@ -111,7 +111,7 @@ vtkSmartPointer<vtkDataObject> PieceReader::readLegacy(const QString& path,
         if (!layout.hasStructure())
             throw;
         auto result = readDamagedLegacy(layout, path, progress);
-        noteLeftOver(path, failure.message.toString());
+        noteLeftOver(path, failure.message.asArgument());
         return result;
     }
 }
@@ -134,7 +134,7 @@ vtkSmartPointer<vtkDataObject> PieceReader::readDamagedLegacy(const LegacyLayout
     if (!layout.isKnown())
         noteLeftOver(
             path,
-            ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "it is of an unknown kind")).toString());
+            ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "it is of an unknown kind")).asArgument());
     try {
         return readLegacyText(path, layout.text(arrays), progress);
     } catch (const ReadFailure&) {

@@ -36,8 +36,9 @@ void SelectiveFile::leaveOut(std::size_t timeIndex, const ReadMessage& error)
     if (++m_failures >= times().size())
         throw ReadFailure(*m_failure);
     m_notes.emplace_back(QT_TRANSLATE_NOOP("ReadMessage", "Time %1 was left out: %2: %3."),
-                         std::initializer_list<QString> {
-                             timeText(timeIndex), QFileInfo(path()).fileName(), error.toString()});
+                         std::initializer_list<QString> {timeText(timeIndex),
+                                                         QFileInfo(path()).fileName(),
+                                                         error.asArgument()});
     m_tree = vtkSmartPointer<vtkMultiBlockDataSet>::New();
 }
 
@@ -45,7 +46,7 @@ void SelectiveFile::note(const std::vector<Fault>& faults, std::size_t timeIndex
 {
     const QString file = QFileInfo(path()).fileName();
     for (const Fault& fault : faults) {
-        const QString error = fault.error.toString();
+        const QString error = fault.error.asArgument();
         if (times().size() < 2)
             m_notes.emplace_back(QT_TRANSLATE_NOOP("ReadMessage", "%1 was left out: %2: %3."),
                                  std::initializer_list<QString> {fault.part, file, error});

@@ -162,7 +162,7 @@ void TableFile::requireGoodRows() const
         m_path, QT_TRANSLATE_NOOP("ReadMessage", "%1 of its %2 rows are bad. %3"),
         {QString::number(bad),
          QString::number(static_cast<qint64>(m_table.rowCount) + static_cast<qint64>(bad)),
-         m_table.badRows.front().toString()});
+         m_table.badRows.front().asArgument()});
     if (mayBeSkipped)
         failure.badRows = {bad, m_table.badRows};
     throw failure;
@@ -267,9 +267,10 @@ vtkSmartPointer<vtkDataObject> TableFile::read(std::size_t, const ProgressCall& 
     requireGoodRows();
     if (m_table.badRowCount > 0)
         note(QT_TRANSLATE_NOOP("ReadMessage", "%1: bad rows were left out: %2."),
-             {QStringLiteral("%1 (%2)")
-                  .arg(m_table.badRowCount)
-                  .arg(m_table.badRows.front().toString())});
+             {ReadMessage(
+                  "%1 (%2)",
+                  {QString::number(m_table.badRowCount), m_table.badRows.front().asArgument()})
+                  .asArgument()});
     takeOutSkipped();
     TextDialect& dialect = m_layout.dialect;
     if (m_table.zones.size() < 2 && dialect.zones.value_or(TextZones::Words) == TextZones::Words)
