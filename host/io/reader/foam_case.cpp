@@ -89,6 +89,8 @@ std::unique_ptr<DataFile> openFoam(const QString& path, const QDir& helper)
     reader->SkipZeroTimeOff();
     reader->UpdateInformation();
     requireKnownError(path, folders.withoutMesh);
+    for (const QString& folder : folders.withoutMesh)
+        VtkMessages::forgetWarnings(QStringLiteral("subdirectory ") + QFileInfo(folder).fileName());
     reader->EnableAllPatchArrays();
     reader->EnableAllCellArrays();
     reader->EnableAllPointArrays();

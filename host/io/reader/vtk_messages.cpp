@@ -110,6 +110,15 @@ ReadMessage VtkMessages::damaged()
         QT_TRANSLATE_NOOP("ReadMessage", "it, or a file that it names, is cut off or damaged"));
 }
 
+void VtkMessages::forgetWarnings(const QString& containing)
+{
+    QStringList kept;
+    for (const QString& warning : qAsConst(window().warnings))
+        if (!warning.contains(containing))
+            kept << warning;
+    window().warnings = kept;
+}
+
 QStringList VtkMessages::takeWarnings()
 {
     return std::exchange(window().warnings, {});

@@ -24,6 +24,8 @@ public:
     static QString shown(QString text);
     /// Distinct warnings since the last call.
     static QStringList takeWarnings();
+    /// Forgets warnings about what was noted in other words.
+    static void forgetWarnings(const QString& containing);
 };
 
 } // namespace corvala::host::io::reader
