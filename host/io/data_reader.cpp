@@ -231,6 +231,18 @@ void DataReader::Private::giveUp()
     finish(result);
 }
 
+/// What is rare in a file by which a library crashed; found by another process, which may crash,
+/// too.
+static QString rareThingsIn(const QString& file)
+{
+    constexpr int kMostMilliseconds = 3000;
+    QProcess look;
+    look.start(DataReader::readerProgram(), {QString::fromLatin1(kRareThings), file});
+    const bool isDone = look.waitForFinished(kMostMilliseconds);
+    const auto line = lineFromJson(look.readAllStandardOutput().trimmed().toStdString());
+    return isDone && line ? line->what.toString() : QString();
+}
+
 /// A library that meets what it does not expect crashes, or ends the program.
 QString DataReader::Private::reasonForEnd(int code, QProcess::ExitStatus status) const
 {
@@ -247,6 +259,10 @@ QString DataReader::Private::reasonForEnd(int code, QProcess::ExitStatus status)
         how = DataReader::tr("exit code %1").arg(code);
     if (!hasSpoken)
         return DataReader::tr("the reader stopped unexpectedly (%1)").arg(how);
+    const QString rare = crashed ? rareThingsIn(currentFile) : QString();
+    if (!rare.isEmpty())
+        return DataReader::tr("the reader failed (%1), perhaps by what is rare in the file: %2")
+            .arg(how, rare);
     return DataReader::tr("the reader failed (%1); the file, or one that it names, holds something "
                           "that it cannot read, or is damaged")
         .arg(how);

@@ -18,6 +18,8 @@ namespace corvala::host::io {
 
 constexpr char kRequestFile[] = "request.json";
 constexpr char kIndexFile[] = "index.json";
+/// Before the name of a file: the reading program tells in one line what is rare in it.
+constexpr char kRareThings[] = "--rare";
 constexpr char kPreviewFile[] = "preview.json"; ///< instead of the index
 
 /// One line from the reading program: progress, or the end.

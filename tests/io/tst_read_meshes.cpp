@@ -3,6 +3,8 @@
 #include "tests/io/mesh_files.h"
 #include "tests/support/rows.h"
 
+#include <QProcess>
+
 using namespace corvala::host;
 using namespace corvala::host::io;
 using namespace corvala::tests;
@@ -99,6 +101,9 @@ private Q_SLOTS:
         ReadRequest request;
         request.files << m_folder->path("a.cgns");
         writeCgnsPatches(request.files[0], isHdf5);
+        QProcess look;
+        look.start(DataReader::readerProgram(), {"--rare", request.files[0]});
+        QVERIFY(look.waitForFinished() && look.readAllStandardOutput().contains("[\"MIXED\"]"));
         QCOMPARE(DataReader::read(request).offers.boundaryPatches, std::int64_t(6));
         request.choices.boundaryPatches = true;
         const ReadResult result = DataReader::read(request);

@@ -4,6 +4,7 @@
 #include "host/io/reader/channel.h"
 #include "host/io/reader/data_set_builder.h"
 #include "host/io/reader/open_files.h"
+#include "host/io/reader/rare_things.h"
 #include "host/io/reader/read_failure.h"
 #include "host/io/reader/resource_limits.h"
 #include "host/io/reader/text/table_preview.h"
@@ -16,6 +17,7 @@
 
 #include <clocale>
 #include <cstdio>
+#include <cstring>
 #include <exception>
 #include <new>
 
@@ -87,15 +89,24 @@ static int run(const QDir& folder, const ReadRequest& request)
     return 1;
 }
 
+/// For the message about a reading that crashed.
+static int tellRareThings(const QString& path)
+{
+    reader::Channel().report(path, -1, ReadMessage("%1", {reader::rareThingsIn(path)}));
+    return 0;
+}
+
 int main(int argumentCount, char** arguments)
 {
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     setlocale(LC_NUMERIC, "C");
+    if (argumentCount == 3 && std::strcmp(arguments[1], kRareThings) == 0)
+        return tellRareThings(QString::fromUtf8(arguments[2]));
     const QDir folder(QString::fromUtf8(argumentCount == 2 ? arguments[1] : ""));
     const std::optional<ReadRequest> request =
         argumentCount == 2 ? loadRequest(folder) : std::nullopt;
     if (!request) {
-        std::fputs("usage: corvala-read FOLDER\n"
+        std::fputs("usage: corvala-read FOLDER | --rare FILE\n"
                    "Reads data files for corvala, which writes the request into FOLDER.\n",
                    stderr);
         return 2;
