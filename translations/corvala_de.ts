@@ -640,6 +640,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
         <source>a document is opened alone</source>
         <translation>ein Dokument wird allein geöffnet</translation>
     </message>
+    <message>
+        <source>Read the boundary patches of CGNS files as zones.</source>
+        <translation>Randflächen von CGNS-Dateien als Zonen lesen.</translation>
+    </message>
+    <message>
+        <source>Take files without times that differ by a number for one time series.</source>
+        <translation>Dateien ohne Zeiten, die sich durch eine Nummer unterscheiden, als eine Zeitreihe lesen.</translation>
+    </message>
 </context>
 <context>
     <name>CommandTips</name>
@@ -2604,6 +2612,55 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     <message>
         <source>%1: all of them say that they are %2; one is shown.</source>
         <translation>%1: alle geben sich als %2 aus; eine davon wird gezeigt.</translation>
+    </message>
+    <message>
+        <source>it names points or elements that are not there</source>
+        <translation>sie nennt Punkte oder Elemente, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>it is no face of its zone</source>
+        <translation>sie ist keine Fläche ihrer Zone</translation>
+    </message>
+    <message>
+        <source>it has elements that are no faces of a known kind</source>
+        <translation>sie hat Elemente, die keine Flächen einer bekannten Art sind</translation>
+    </message>
+    <message>
+        <source>its faces of a structured zone are listed one by one</source>
+        <translation>ihre Flächen einer strukturierten Zone sind einzeln aufgezählt</translation>
+    </message>
+    <message>
+        <source>%1: the boundary patch %2 of %3 was left out: %4.</source>
+        <translation>%1: die Randfläche %2 von %3 wurde ausgelassen: %4.</translation>
+    </message>
+    <message>
+        <source>%1: of %2 solutions of %3 without a time the first one, %4, is shown.</source>
+        <translation>%1: von %2 Lösungen von %3 ohne Zeit wird die erste, %4, gezeigt.</translation>
+    </message>
+    <message>
+        <source>VTK&apos;s reader for %1 failed; the file, or one that it names, holds something that it cannot read, or is damaged</source>
+        <translation>VTKs Leser für %1 ist gescheitert; die Datei, oder eine, die sie nennt, enthält etwas, das er nicht lesen kann, oder ist beschädigt</translation>
+    </message>
+    <message>
+        <source>VTK&apos;s reader for %1 failed, perhaps by what is rare in the file: %2</source>
+        <translation>VTKs Leser für %1 ist gescheitert, vielleicht an dem, was in der Datei selten ist: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ReadOffers</name>
+    <message numerus="yes">
+        <source>%n file(s) without times are shown together; the numbers in their names can be times.</source>
+        <translation>
+            <numerusform>%n Datei ohne Zeiten wird gezeigt; die Nummer in ihrem Namen kann eine Zeit sein.</numerusform>
+            <numerusform>%n Dateien ohne Zeiten werden zusammen gezeigt; die Nummern in ihren Namen können Zeiten sein.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n boundary patch(es) were not read.</source>
+        <translation>
+            <numerusform>%n Randfläche wurde nicht gelesen.</numerusform>
+            <numerusform>%n Randflächen wurden nicht gelesen.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4731,6 +4788,14 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     <message>
         <source>Detected in %1: %2.</source>
         <translation>Erkannt in %1: %2.</translation>
+    </message>
+    <message>
+        <source>Take Numbers as Times</source>
+        <translation>Nummern als Zeiten nehmen</translation>
+    </message>
+    <message>
+        <source>Read Them</source>
+        <translation>Lesen</translation>
     </message>
 </context>
 <context>

@@ -22,6 +22,23 @@
     </message>
 </context>
 <context>
+    <name>ReadOffers</name>
+    <message numerus="yes">
+        <source>%n file(s) without times are shown together; the numbers in their names can be times.</source>
+        <translation>
+            <numerusform>%n file without times is shown; the number in its name can be a time.</numerusform>
+            <numerusform>%n files without times are shown together; the numbers in their names can be times.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n boundary patch(es) were not read.</source>
+        <translation>
+            <numerusform>%n boundary patch was not read.</numerusform>
+            <numerusform>%n boundary patches were not read.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>corvala::app::DataCommands</name>
     <message numerus="yes">
         <source>Skip %n bad row(s)?</source>

@@ -34,15 +34,14 @@ QString describe(const Plot3DLayout& layout)
 QStringList describe(const ReadOffers& offers)
 {
     QStringList sentences;
-    if (offers.numberedFiles > 0)
+    if (const auto count = static_cast<int>(offers.numberedFiles); count > 0)
         sentences << QCoreApplication::translate(
             "ReadOffers",
             "%n file(s) without times are shown together; the numbers in their names can be times.",
-            nullptr, static_cast<int>(offers.numberedFiles));
-    if (offers.boundaryPatches > 0)
-        sentences << QCoreApplication::translate("ReadOffers",
-                                                 "%n boundary patch(es) were not read.", nullptr,
-                                                 static_cast<int>(offers.boundaryPatches));
+            nullptr, count);
+    if (const auto count = static_cast<int>(offers.boundaryPatches); count > 0)
+        sentences << QCoreApplication::translate(
+            "ReadOffers", "%n boundary patch(es) were not read.", nullptr, count);
     return sentences;
 }
 

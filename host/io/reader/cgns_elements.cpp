@@ -47,7 +47,7 @@ void CgnsElements::enter(const Node& zone)
 {
     m_sections.clear();
     for (const CgnsSection& section : sectionsOf(m_file, zone))
-        m_sections.push_back({section});
+        m_sections.push_back({section, false, {}, {}});
 }
 
 std::int64_t CgnsElements::lastElement() const

@@ -47,7 +47,9 @@ std::map<std::string, std::int64_t> cellNumbers(const CgnsTree& file, const Cgns
         return section.first > 0 && section.first <= section.last && dimension >= 0
             && dimension <= cellDimension;
     });
-    const auto isCell = [&](const auto& section) { return dimensionOf(section.kind) == cellDimension; };
+    const auto isCell = [&](const auto& section) {
+        return dimensionOf(section.kind) == cellDimension;
+    };
     if (!areKnown || std::is_partitioned(sections.begin(), sections.end(), isCell))
         return result;
     std::int64_t next = 1;
