@@ -10,9 +10,12 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <zlib.h>
+
 namespace corvala::host::io::reader {
 
 static constexpr qint64 kMostOfHeader = 1 << 16;
+static const QLatin1String kPacked(".gz");
 
 /// The blocks of a collated file, one for each processor.
 class CollatedFile
@@ -115,19 +118,42 @@ static void write(const QString& path, const QByteArray& content, const QDir& he
         throw ReadFailure::ofFullDisk(helper.path());
 }
 
+/// The file itself, or its content in a file of the helper folder.
+static QString unpacked(const QString& path, const QDir& helper)
+{
+    if (!path.endsWith(kPacked))
+        return path;
+    constexpr int kPart = 1 << 20;
+    QFile file(helper.filePath(QStringLiteral("unpacked")));
+    bool isWritten = file.open(QIODevice::WriteOnly);
+    QByteArray part(kPart, 0);
+    const gzFile packed = gzopen(QFile::encodeName(path).constData(), "rb");
+    for (int size = 0; packed && isWritten && (size = gzread(packed, part.data(), kPart)) > 0;)
+        isWritten = file.write(part.constData(), size) == size;
+    gzclose(packed);
+    if (!isWritten || !file.flush())
+        throw ReadFailure::ofFullDisk(helper.path());
+    return file.fileName();
+}
+
 /// Whether there was anything to split.
 static bool split(const QString& folder, const QDir& helper)
 {
     bool isAny = false;
     QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
-        CollatedFile file(files.next());
+        QString name = QDir(folder).relativeFilePath(files.next());
+        const QString content = unpacked(files.filePath(), helper);
+        if (name.endsWith(kPacked))
+            name.chop(kPacked.size());
+        CollatedFile file(content);
         isAny = isAny || file.isCollated();
         int processor = firstProcessor(folder);
-        const QString name = QDir(folder).relativeFilePath(files.filePath());
         for (QByteArray block; file.isCollated() && !(block = file.next()).isNull(); ++processor)
             write(helper.filePath(QStringLiteral("processor%1/%2").arg(processor).arg(name)), block,
                   helper);
+        if (content != files.filePath())
+            QFile::remove(content);
     }
     return isAny;
 }
