@@ -231,13 +231,12 @@ void DataReader::Private::giveUp()
     finish(result);
 }
 
-/// What is rare in a file by which a library crashed; found by another process, which may crash,
-/// too.
-static QString rareThingsIn(const QString& file)
+/// Why a library crashed at a file; found by another process, which may crash, too.
+static QString reasonOfCrash(const QString& file)
 {
     constexpr int kMostMilliseconds = 3000;
     QProcess look;
-    look.start(DataReader::readerProgram(), {QString::fromLatin1(kRareThings), file});
+    look.start(DataReader::readerProgram(), {QString::fromLatin1(kReasonOfCrash), file});
     const bool isDone = look.waitForFinished(kMostMilliseconds);
     const auto line = lineFromJson(look.readAllStandardOutput().trimmed().toStdString());
     return isDone && line ? line->what.toString() : QString();
@@ -259,10 +258,9 @@ QString DataReader::Private::reasonForEnd(int code, QProcess::ExitStatus status)
         how = DataReader::tr("exit code %1").arg(code);
     if (!hasSpoken)
         return DataReader::tr("the reader stopped unexpectedly (%1)").arg(how);
-    const QString rare = crashed ? rareThingsIn(currentFile) : QString();
-    if (!rare.isEmpty())
-        return DataReader::tr("the reader failed (%1), perhaps by what is rare in the file: %2")
-            .arg(how, rare);
+    const QString why = crashed ? reasonOfCrash(currentFile) : QString();
+    if (!why.isEmpty())
+        return QStringLiteral("%1 (%2)").arg(why, how);
     return DataReader::tr("the reader failed (%1); the file, or one that it names, holds something "
                           "that it cannot read, or is damaged")
         .arg(how);

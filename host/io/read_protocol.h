@@ -18,8 +18,8 @@ namespace corvala::host::io {
 
 constexpr char kRequestFile[] = "request.json";
 constexpr char kIndexFile[] = "index.json";
-/// Before the name of a file: the reading program tells in one line what is rare in it.
-constexpr char kRareThings[] = "--rare";
+/// Before the name of a file: the reading program tells in one line why VTK may have crashed at it.
+constexpr char kReasonOfCrash[] = "--reason-of-crash";
 constexpr char kPreviewFile[] = "preview.json"; ///< instead of the index
 
 /// One line from the reading program: progress, or the end.

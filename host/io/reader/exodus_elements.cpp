@@ -6,6 +6,7 @@
 #include <vtk_exodusII.h>
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace corvala::host::io::reader {
@@ -17,7 +18,7 @@ struct KnownElements
     std::vector<int> points;
 };
 
-static bool isKnown(const QString& kind, int points, int count)
+static bool isKnown(const ExodusElements& elements)
 {
     static const KnownElements known[] = {{"CIR", {1}},         {"SPH", {1}},
                                           {"BAR", {2, 3}},      {"TRU", {2, 3}},
@@ -28,20 +29,21 @@ static bool isKnown(const QString& kind, int points, int count)
                                           {"HEX", {8, 20, 27}}, {"WED", {6, 15, 18, 21}},
                                           {"NSI", {}},          {"NFA", {}},
                                           {"SUP", {}}};
-    const QString name = kind.toUpper();
+    const QString name = elements.kind.toUpper();
     const auto* const found =
-        std::find_if(std::begin(known), std::end(known), [&](const KnownElements& elements) {
-            return name.startsWith(QLatin1String(elements.start));
+        std::find_if(std::begin(known), std::end(known), [&](const KnownElements& each) {
+            return name.startsWith(QLatin1String(each.start));
         });
     if (found == std::end(known))
-        return name.startsWith(QLatin1String("NULL")) && count == 0;
-    return found->points.empty() || count == 0
-        || std::find(found->points.begin(), found->points.end(), points) != found->points.end();
+        return name.startsWith(QLatin1String("NULL")) && elements.count == 0;
+    const std::vector<int>& points = found->points;
+    return points.empty() || elements.count == 0
+        || std::find(points.begin(), points.end(), elements.points) != points.end();
 }
 
-std::map<int, ExodusElements> unknownExodusElements(const QString& path)
+std::vector<ExodusElements> exodusElements(const QString& path)
 {
-    std::map<int, ExodusElements> result;
+    std::vector<ExodusElements> result;
     int realSize = sizeof(double);
     int storedSize = 0;
     float version = 0.0F;
@@ -53,17 +55,29 @@ std::map<int, ExodusElements> unknownExodusElements(const QString& path)
         static_cast<std::size_t>(std::max<int64_t>(ex_inquire_int(file, EX_INQ_ELEM_BLK), 0)));
     if (ids.empty() || ex_get_ids(file, EX_ELEM_BLOCK, ids.data()) < 0)
         ids.clear();
-    for (std::size_t i = 0; i < ids.size(); ++i) {
+    for (const int id : ids) {
         char kind[MAX_STR_LENGTH + 1] = {};
-        int count = 0;
-        int points = 0;
         int others[3] = {};
-        const int status = ex_get_block(file, EX_ELEM_BLOCK, ids[i], kind, &count, &points,
-                                        &others[0], &others[1], &others[2]);
-        if (status >= 0 && !isKnown(QString::fromUtf8(kind), points, count))
-            result[static_cast<int>(i)] = {QString::fromUtf8(kind), points};
+        ExodusElements elements;
+        if (ex_get_block(file, EX_ELEM_BLOCK, id, kind, &elements.count, &elements.points,
+                         &others[0], &others[1], &others[2])
+            >= 0)
+            elements.kind = QString::fromUtf8(kind);
+        result.push_back(elements);
     }
     ex_close(file);
+    return result;
+}
+
+std::map<int, ExodusElements> unknownExodusElements(const QString& path)
+{
+    std::map<int, ExodusElements> result;
+    int block = 0;
+    for (const ExodusElements& elements : exodusElements(path)) {
+        if (!elements.kind.isNull() && !isKnown(elements))
+            result[block] = elements;
+        ++block;
+    }
     return result;
 }
 

@@ -90,9 +90,9 @@ static int run(const QDir& folder, const ReadRequest& request)
 }
 
 /// For the message about a reading that crashed.
-static int tellRareThings(const QString& path)
+static int tellReasonOfCrash(const QString& path)
 {
-    reader::Channel().report(path, -1, ReadMessage("%1", {reader::rareThingsIn(path)}));
+    reader::Channel().report(path, -1, reader::reasonOfCrash(path));
     return 0;
 }
 
@@ -100,13 +100,13 @@ int main(int argumentCount, char** arguments)
 {
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     setlocale(LC_NUMERIC, "C");
-    if (argumentCount == 3 && std::strcmp(arguments[1], kRareThings) == 0)
-        return tellRareThings(QString::fromUtf8(arguments[2]));
+    if (argumentCount == 3 && std::strcmp(arguments[1], kReasonOfCrash) == 0)
+        return tellReasonOfCrash(QString::fromUtf8(arguments[2]));
     const QDir folder(QString::fromUtf8(argumentCount == 2 ? arguments[1] : ""));
     const std::optional<ReadRequest> request =
         argumentCount == 2 ? loadRequest(folder) : std::nullopt;
     if (!request) {
-        std::fputs("usage: corvala-read FOLDER | --rare FILE\n"
+        std::fputs("usage: corvala-read FOLDER | --reason-of-crash FILE\n"
                    "Reads data files for corvala, which writes the request into FOLDER.\n",
                    stderr);
         return 2;

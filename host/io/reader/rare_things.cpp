@@ -2,8 +2,10 @@
 #include "host/io/reader/rare_things.h"
 
 #include "host/io/reader/cgns_tree.h"
+#include "host/io/reader/exodus_elements.h"
 #include "host/io/reader/file_format.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QStringList>
 
@@ -44,6 +46,22 @@ static QStringList rareInCgns(const QString& path)
     return found;
 }
 
+/// The kinds of elements other than those with corners only.
+static QStringList rareInExodus(const QString& path)
+{
+    static const std::pair<const char*, int> kUsual[] = {
+        {"BAR", 2}, {"TRU", 2}, {"BEA", 2}, {"EDG", 2}, {"TRI", 3}, {"SHE", 3},
+        {"SHE", 4}, {"QUA", 4}, {"TET", 4}, {"PYR", 5}, {"WED", 6}, {"HEX", 8}};
+    QStringList found;
+    for (const ExodusElements& elements : exodusElements(path))
+        if (std::none_of(std::begin(kUsual), std::end(kUsual), [&](const auto& usual) {
+                return elements.points == usual.second
+                    && elements.kind.toUpper().startsWith(QLatin1String(usual.first));
+            }))
+            found << QStringLiteral("%1 (%2)").arg(elements.kind).arg(elements.points);
+    return found;
+}
+
 /// By words that stand for it in files of VTK.
 static QStringList rareInVtk(const QString& path)
 {
@@ -65,15 +83,49 @@ static QStringList rareInVtk(const QString& path)
     return found;
 }
 
-QString rareThingsIn(const QString& path)
+static QStringList rareIn(Format format, const QString& path)
+{
+    switch (format) {
+    case Format::Cgns: return rareInCgns(path);
+    case Format::Exodus: return rareInExodus(path);
+    case Format::LegacyVtk:
+    case Format::XmlVtk: return rareInVtk(path);
+    default: return {};
+    }
+}
+
+static const char* nameOf(Format format)
+{
+    switch (format) {
+    case Format::LegacyVtk: return "legacy VTK";
+    case Format::XmlVtk: return "VTK XML";
+    case Format::Surface: return "STL, PLY, OBJ";
+    case Format::Cgns: return "CGNS";
+    case Format::EnSight: return "EnSight";
+    case Format::Exodus: return "Exodus";
+    case Format::Foam: return "OpenFOAM";
+    case Format::Plot3D: return "Plot3D";
+    default: return nullptr;
+    }
+}
+
+ReadMessage reasonOfCrash(const QString& path)
 {
     const Format format = formatOf(path);
-    const bool isOfVtk = format == Format::LegacyVtk || format == Format::XmlVtk;
-    QStringList found = format == Format::Cgns ? rareInCgns(path)
-        : isOfVtk                              ? rareInVtk(path)
-                                               : QStringList();
+    const char* const name = nameOf(format);
+    if (!name)
+        return {};
+    QStringList found = rareIn(format, path);
     found.removeDuplicates();
-    return found.join(QStringLiteral(", "));
+    if (found.isEmpty())
+        return {QT_TRANSLATE_NOOP("ReadMessage",
+                                  "VTK's reader for %1 failed; the file, or one that it names, "
+                                  "holds something that it cannot read, or is damaged"),
+                {QString::fromLatin1(name)}};
+    return {
+        QT_TRANSLATE_NOOP("ReadMessage",
+                          "VTK's reader for %1 failed, perhaps by what is rare in the file: %2"),
+        {QString::fromLatin1(name), found.join(QStringLiteral(", "))}};
 }
 
 } // namespace corvala::host::io::reader

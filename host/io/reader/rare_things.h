@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QString>
+#include "host/io/read_message.h"
 
 namespace corvala::host::io::reader {
 
-/// What a file has that few files have, such as "NGON_n, NFACE_n", found without VTK, for the
-/// message about a reader that crashed. Empty when there is nothing, or the format tells nothing.
-QString rareThingsIn(const QString& path);
+/// Why VTK may have crashed at a file: its reader for the format, and what the file has that few
+/// files have, such as "NGON_n, NFACE_n", found without that reader. Empty for formats that are not
+/// read by VTK.
+ReadMessage reasonOfCrash(const QString& path);
 
 } // namespace corvala::host::io::reader
