@@ -118,14 +118,15 @@ ReadMessage reasonOfCrash(const QString& path)
     QStringList found = rareIn(format, path);
     found.removeDuplicates();
     if (found.isEmpty())
-        return {QT_TRANSLATE_NOOP("ReadMessage",
-                                  "VTK's reader for %1 failed; the file, or one that it names, "
-                                  "holds something that it cannot read, or is damaged"),
-                {QString::fromLatin1(name)}};
-    return {
+        return ReadMessage(QT_TRANSLATE_NOOP("ReadMessage",
+                                             "VTK's reader for %1 failed; the file, or one that it "
+                                             "names, holds something that it cannot read, or is "
+                                             "damaged"),
+                           {QString::fromLatin1(name)});
+    return ReadMessage(
         QT_TRANSLATE_NOOP("ReadMessage",
                           "VTK's reader for %1 failed, perhaps by what is rare in the file: %2"),
-        {QString::fromLatin1(name), found.join(QStringLiteral(", "))}};
+        {QString::fromLatin1(name), found.join(QStringLiteral(", "))});
 }
 
 } // namespace corvala::host::io::reader
