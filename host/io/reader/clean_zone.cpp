@@ -5,7 +5,6 @@
 #include "host/io/reader/block_tree.h"
 
 #include <vtkCellData.h>
-#include <vtkCellType.h>
 #include <vtkCellTypes.h>
 #include <vtkDataArray.h>
 #include <vtkGenericCell.h>
@@ -54,17 +53,17 @@ static void cleanAttributes(vtkDataSetAttributes& source, vtkIdType tuples,
 vtkDataSet& ZoneCleaner::clean(vtkDataSet& zone)
 {
     // Only the plain kinds are handed over: a grid with holes is an image with ghost cells.
-    const bool isImage = vtkImageData::SafeDownCast(&zone) != nullptr;
-    vtkSmartPointer<vtkDataSet>& copy =
-        m_zones[isImage ? VTK_IMAGE_DATA : zone.GetDataObjectType()];
-    if (!copy)
-        copy.TakeReference(isImage ? vtkImageData::New() : zone.NewInstance());
-    copy->CopyStructure(&zone);
-    cleanAttributes(*zone.GetPointData(), zone.GetNumberOfPoints(), *copy->GetPointData(),
+    // Each zone is an object of its own: one that is used again keeps the kinds of cells it had.
+    if (vtkImageData::SafeDownCast(&zone))
+        m_zone = vtkSmartPointer<vtkImageData>::New();
+    else
+        m_zone.TakeReference(zone.NewInstance());
+    m_zone->CopyStructure(&zone);
+    cleanAttributes(*zone.GetPointData(), zone.GetNumberOfPoints(), *m_zone->GetPointData(),
                     m_droppedArrays);
-    cleanAttributes(*zone.GetCellData(), zone.GetNumberOfCells(), *copy->GetCellData(),
+    cleanAttributes(*zone.GetCellData(), zone.GetNumberOfCells(), *m_zone->GetCellData(),
                     m_droppedArrays);
-    return *copy;
+    return *m_zone;
 }
 
 static int cellDimension(vtkDataSet& zone)

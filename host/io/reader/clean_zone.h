@@ -8,8 +8,6 @@
 
 #include <vtkSmartPointer.h>
 
-#include <map>
-
 namespace corvala::host::io::reader {
 
 /// Makes zones as they are handed over: only arrays of numbers that fit their points or cells,
@@ -23,8 +21,7 @@ public:
     const QSet<QString>& droppedArrays() const { return m_droppedArrays; }
 
 private:
-    std::map<int, vtkSmartPointer<vtkDataSet>>
-        m_zones; ///< by kind; a new one takes a while to make
+    vtkSmartPointer<vtkDataSet> m_zone;
     QSet<QString> m_droppedArrays;
 };
 
