@@ -62,7 +62,8 @@ private Q_SLOTS:
         row("a large page", {"--demo", "xy", "--size", "2000x900mm"}, "a.pdf",
             {"-0.1811 5669.2913 2551.0000]"}, "/Subtype /Image");
         row("lines as TIFF", {"--demo", "xy", "--transparent", "--size", "80x60"}, "a.tif",
-            {QByteArray("II*\0", 4), QByteArray::fromHex("520103000100000002000000")}, "Qt");
+            {QByteArray("II*\0", 4), QByteArray::fromHex("520103000100000002000000")},
+            QByteArray::fromHex("31010200")); // who wrote it
         row("field as PDF", {"--demo", "field2d", "--size", "600x450"}, "a.pdf",
             {"%PDF-", "/FontFile2", "/Width 600"}, "CreationDate");
     }
