@@ -30,9 +30,9 @@ std::vector<double> niceTicks(double minimum, double maximum, int count)
     return ticks;
 }
 
-QString withMinusSigns(QString number)
+QString withMinusSign(QString number)
 {
-    return number.replace(QLatin1Char('-'), QChar(0x2212));
+    return number.startsWith(QLatin1Char('-')) ? number.replace(0, 1, QChar(0x2212)) : number;
 }
 
 static QString plainTickText(double value, double step)
@@ -53,7 +53,7 @@ static QString plainTickText(double value, double step)
 
 QString tickText(double value, double step)
 {
-    return withMinusSigns(plainTickText(value, step));
+    return withMinusSign(plainTickText(value, step));
 }
 
 } // namespace corvala::plot

@@ -18,7 +18,7 @@ std::vector<double> niceTicks(double minimum, double maximum, int count);
 /// A number as short as it can be while it still tells neighbours `step` apart.
 QString tickText(double value, double step);
 
-/// A number with minus signs in place of its hyphens.
-QString withMinusSigns(QString number);
+/// A number with a minus sign in place of the hyphen before it; its exponent stays as it is.
+QString withMinusSign(QString number);
 
 } // namespace corvala::plot

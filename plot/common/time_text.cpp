@@ -48,7 +48,7 @@ TimeText timeTextOf(const host::Frame& frame, const host::NumberSet& drawnMaps)
     TimeText result;
     result.text = QStringLiteral("%1: %2").arg(
         title.isEmpty() ? QCoreApplication::translate("corvala::plot", "Time") : title,
-        withMinusSigns(QString::number(*time, 'g', frame.integer(kStyle.digits))));
+        withMinusSign(QString::number(*time, 'g', frame.integer(kStyle.digits))));
     if (!unit.isEmpty())
         result.text += QLatin1Char(' ') + unit;
     if (!frame.isOn(kStyle.automaticPlace))

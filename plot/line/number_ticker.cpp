@@ -27,7 +27,7 @@ QString NumberTicker::getTickLabel(double tick, const QLocale& locale, QChar for
                                    int precision)
 {
     const QString label = QCPAxisTicker::getTickLabel(tick, locale, formatChar, precision);
-    return withMinusSigns(label.left(1)) + label.mid(1);
+    return withMinusSign(label);
 }
 
 } // namespace corvala::plot

@@ -65,10 +65,11 @@ private Q_SLOTS:
         const Rows<double, double, double, QString> row;
         row("every level", 0.0, 8.0, 1.0,
             "0 0.5 1.0 1.5 2.0 2.5 3.0 3.5 4.0 4.5 5.0 5.5 6.0 6.5 7.0 7.5 8.0");
-        row("round between odd ends", -0.7, 1.1, 1.2, "-0.7 -0.4 -0.2 0 0.2 0.4 0.6 0.8 1.1");
+        row("round between odd ends", -0.7, 1.1, 1.2,
+            "\u22120.7 \u22120.4 \u22120.2 0 0.2 0.4 0.6 0.8 1.1");
         row("little room", 3.0, 20.0, 4.0, "3 10 15 20");
         row("ends only", 0.0, 8.0, 30.0, "0 8.0");
-        row("one value", -0.0625, -0.0625, 1.0, "-0.0625");
+        row("one value", -0.0625, -0.0625, 1.0, "\u22120.0625");
         row("no values", 1.0, 0.0, 1.0, "no values");
     }
 
@@ -106,7 +107,7 @@ private Q_SLOTS:
     {
         const Rows<double, double, QString> row;
         row("unit", 0.0, 1.0, "0 0.2 0.4 0.6 0.8 1.0");
-        row("across zero", -4.2, 8.3, "-4 -2 0 2 4 6 8");
+        row("across zero", -4.2, 8.3, "\u22124 \u22122 0 2 4 6 8");
         row("large", 0.0, 4e6, "0 1e+06 2e+06 3e+06 4e+06");
         row("far from zero", 4523000.0, 4523000.2,
             "4523000.00 4523000.05 4523000.10 4523000.15 4523000.20");

@@ -53,7 +53,7 @@ std::vector<LegendText> legendTexts(const std::optional<ContourLevels>& levels, 
     if (!levels)
         return {{0.5, QCoreApplication::translate("corvala::plot", "no values")}};
     if (levels->isSingleValue())
-        return {{0.5, QString::number(levels->minimum + levels->step / 2, 'g', 7)}};
+        return {{0.5, withMinusSign(QString::number(levels->minimum + levels->step / 2, 'g', 7))}};
     const int bands = levels->bands;
     const double unit = lastUnit(*levels);
     const auto textAt = [&](int level) {
