@@ -262,7 +262,7 @@ private Q_SLOTS:
                 file.seek(0);
                 file.write(all);
             },
-            1, {6}, "p was left out at time 2.5: case.foam: ");
+            1, {6}, "p was left out at time 2.5: controlDict: ");
     }
 
     void foam()
