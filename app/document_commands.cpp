@@ -110,6 +110,7 @@ bool DocumentCommands::mayLose()
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(tr("What is not saved will be lost."));
     box.setDefaultButton(QMessageBox::Save);
+    box.button(QMessageBox::Discard)->setText(tr("&Discard")); // desktops name it in many ways
     const int answer = box.exec();
     return answer == QMessageBox::Save ? save() : answer == QMessageBox::Discard;
 }

@@ -4958,6 +4958,10 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <source>Load Style from Document</source>
         <translation>Stil aus Dokument laden</translation>
     </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
 </context>
 <context>
     <name>corvala::app::FileDrops</name>

@@ -165,7 +165,7 @@ private Q_SLOTS:
         QVERIFY(!seen.empty());
         QCOMPARE(plot::viewText(view.canvas()->view()), seen);
         thicken(5.0);
-        press("Don't Save");
+        press("Discard");
         QVERIFY(m_window->close());
         QVERIFY(responder.isSettled());
     }

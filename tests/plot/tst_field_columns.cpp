@@ -80,8 +80,7 @@ private:
             x += 1.65; // there is more room for axes on the left than on the right
         camera.focalPoint = {x, 1.8, isFlat ? 0.0 : 0.4};
         camera.position = {x, isFlat ? 1.8 : -6.0, isFlat ? 30.0 : 6.5};
-        if (!isFlat)
-            camera.viewUp = {0.0, 0.0, 1.0};
+        camera.viewUp = {0.0, isFlat ? 1.0 : 0.0, isFlat ? 0.0 : 1.0};
         camera.parallelScale = 2.9;
         m_view.setFlat(isFlat);
         m_view.setCamera(camera);
