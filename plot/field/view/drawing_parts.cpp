@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/field/view/drawing_parts.h"
 
+#include <vtk_glew.h> // for those after it
+
 #include <vtkCuller.h>
 #include <vtkObjectFactory.h>
+#include <vtkOpenGLRenderer.h>
+#include <vtkOpenGLState.h>
 #include <vtkProp.h>
 #include <vtkRenderer.h>
 
@@ -18,6 +22,10 @@ public:
     static Part* New();
     double Cull(vtkRenderer*, vtkProp** props, int& count, int&) override
     {
+        // A renderer switches this on only when it clears its layer, and others who draw with the
+        // same context switch it off between the parts.
+        if (auto* const opengl = vtkOpenGLRenderer::SafeDownCast(renderer))
+            opengl->GetState()->vtkglEnable(GL_DEPTH_TEST);
         count = owner->choose(*this, props, count);
         return count;
     }
