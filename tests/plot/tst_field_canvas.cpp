@@ -626,7 +626,9 @@ private Q_SLOTS:
 
     void largePicturesCanBeCancelled()
     {
-        openDemo("field2d");
+        openDemo("kinds"); // some in front of others
+        write("FieldLayers/ShowShade", "", 1);
+        write("FieldMap/Surfaces/SurfacesToPlot", "1,4", SurfacesToPlot_BoundaryCellFaces);
         ShownPlot shown;
         shown.canvas().setPartSize(1);
         const QImage complete = shown.grabbed();
