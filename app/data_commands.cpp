@@ -6,6 +6,7 @@
 #include "app/plot3d_layout.h"
 #include "app/recent_files.h"
 #include "app/text_import_dialog.h"
+#include "host/document/document.h"
 #include "host/storage/document_file.h"
 #include "samples/demo_data.h"
 
@@ -27,35 +28,36 @@ DataCommands::DataCommands(QWidget& window, NoticeBar& notice)
     connect(&m_opener, &DataOpener::failed, this, &DataCommands::failed);
 }
 
-void DataCommands::open(const QStringList& files, const host::io::Plot3DLayout& plot3d)
+void DataCommands::open(const QStringList& files, const host::io::Plot3DLayout& plot3d, DataUse use)
 {
     host::io::ReadRequest request;
     request.files = files;
     request.plot3d = plot3d;
-    open(request);
+    open(request, use);
 }
 
-void DataCommands::open(host::io::ReadRequest request)
+void DataCommands::open(host::io::ReadRequest request, DataUse use)
 {
     for (QString& file : request.files) // which are remembered, too
         file = QFileInfo(file).absoluteFilePath();
-    if (request.files.size() == 1 && host::storage::isDocumentFile(request.files.constFirst())) {
+    if (use == DataUse::Replace && request.files.size() == 1
+        && host::storage::isDocumentFile(request.files.constFirst())) {
         Q_EMIT documentWanted(request.files.constFirst());
         return;
     }
-    if (m_opener.isRunning() || !m_mayReplace())
+    if (m_opener.isRunning() || (use == DataUse::Replace && !m_mayReplace()))
         return;
     if (host::io::toText(request.text).isEmpty())
         request.purpose = host::io::ReadPurpose::DataIfSure;
-    m_opener.start(request);
+    m_opener.start(request, use);
 }
 
-void DataCommands::preview(host::io::ReadRequest request)
+void DataCommands::preview(host::io::ReadRequest request, DataUse use)
 {
-    if (m_opener.isRunning() || !m_mayReplace())
+    if (m_opener.isRunning() || (use == DataUse::Replace && !m_mayReplace()))
         return;
     request.purpose = host::io::ReadPurpose::Preview;
-    m_opener.start(request);
+    m_opener.start(request, use);
 }
 
 void DataCommands::openDemo(const QString& name)
@@ -75,6 +77,22 @@ void DataCommands::chooseFiles()
                                                             host::io::DataReader::nameFilters());
     if (!files.isEmpty())
         open(files);
+}
+
+void DataCommands::chooseMore()
+{
+    const QStringList files = QFileDialog::getOpenFileNames(&m_window, tr("Add Data"), {},
+                                                            host::io::DataReader::nameFilters());
+    if (!files.isEmpty())
+        open(files, {}, DataUse::Add);
+}
+
+void DataCommands::closeData()
+{
+    if (m_opener.isRunning() || !m_mayReplace())
+        return;
+    host::Document::instance().execute(host::DetachData {});
+    m_notice.tell({});
 }
 
 void DataCommands::chooseFolder()
@@ -107,19 +125,19 @@ void DataCommands::chooseTables()
     host::io::ReadRequest request;
     request.files = QFileDialog::getOpenFileNames(&m_window, tr("Open Tables of Text"));
     if (!request.files.isEmpty())
-        preview(request);
+        preview(request, DataUse::Replace);
 }
 
 void DataCommands::askForDialect(const host::io::TextPreview& preview)
 {
     auto* dialog = new TextImportDialog(m_opener.request(), preview, &m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+    connect(dialog, &QDialog::accepted, this, [this, dialog, use = m_opener.use()] {
         host::io::ReadRequest request = dialog->request();
         request.purpose = host::io::ReadPurpose::Data;
         if (!request.text.badRows) // so that something is chosen, and nothing in doubt any more
             request.text.badRows = host::io::TextBadRows::Refuse;
-        m_opener.start(request);
+        m_opener.start(request, use);
     });
     dialog->open();
 }
@@ -127,6 +145,7 @@ void DataCommands::askForDialect(const host::io::TextPreview& preview)
 void DataCommands::askToSkip(const host::io::ReadResult& result)
 {
     host::io::ReadRequest request = m_opener.request();
+    const DataUse use = m_opener.use();
     request.text.badRows = host::io::TextBadRows::Skip;
     request.purpose = host::io::ReadPurpose::Data;
     const int count = static_cast<int>(result.badRowCount);
@@ -143,8 +162,9 @@ void DataCommands::askToSkip(const host::io::ReadResult& result)
     QPushButton* const change = box->addButton(tr("Change..."), QMessageBox::ActionRole);
     box->addButton(QMessageBox::Cancel);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    connect(skip, &QPushButton::clicked, this, [this, request] { m_opener.start(request); });
-    connect(change, &QPushButton::clicked, this, [this] { preview(m_opener.request()); });
+    connect(skip, &QPushButton::clicked, this,
+            [this, request, use] { m_opener.start(request, use); });
+    connect(change, &QPushButton::clicked, this, [this, request, use] { preview(request, use); });
     box->open();
 }
 
@@ -180,11 +200,14 @@ void DataCommands::tellOpened(const host::io::ReadResult& result)
     const host::io::ReadRequest request = m_opener.request();
     rememberFiles(request.files);
     const QStringList& notes = result.noteGroups;
-    if (const std::optional<host::io::Plot3DLayout>& detected = result.detectedPlot3D)
+    const bool isAddition = m_opener.use() == DataUse::Add; // whose reading cannot be changed alone
+    if (const std::optional<host::io::Plot3DLayout>& detected = result.detectedPlot3D;
+        detected && !isAddition)
         tellDetected(describePlot3DLayout(*detected), notes,
                      [this, request, layout = *detected] { changePlot3DLayout(request, layout); });
-    else if (result.detectedText)
-        tellDetected(describe(*result.detectedText), notes, [this, request] { preview(request); });
+    else if (result.detectedText && !isAddition)
+        tellDetected(describe(*result.detectedText), notes,
+                     [this, request] { preview(request, DataUse::Replace); });
     else
         tellOffers(result.offers, notes);
     QStringList all;

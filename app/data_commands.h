@@ -25,14 +25,17 @@ public:
     void setGuard(std::function<bool()> mayReplace) { m_mayReplace = std::move(mayReplace); }
 
     // Ignored while a reading runs.
-    void open(const QStringList& files, const host::io::Plot3DLayout& plot3d = {});
+    void open(const QStringList& files, const host::io::Plot3DLayout& plot3d = {},
+              DataUse use = DataUse::Replace);
     /// Asks how a table of text is written when that is not sure.
-    void open(host::io::ReadRequest request);
+    void open(host::io::ReadRequest request, DataUse use = DataUse::Replace);
     void openDemo(const QString& name);
     void chooseFiles();
     void chooseFolder();
     void choosePlot3DFiles();
     void chooseTables();
+    void chooseMore(); ///< to be added to the data of the active frame
+    void closeData();
 
 Q_SIGNALS:
     void failed(const QString& problem);
@@ -43,7 +46,7 @@ private:
                             const host::io::Plot3DLayout& detected);
     void askForDialect(const host::io::TextPreview& preview);
     void askToSkip(const host::io::ReadResult& result);
-    void preview(host::io::ReadRequest request);
+    void preview(host::io::ReadRequest request, DataUse use);
     void tellOpened(const host::io::ReadResult& result);
     void tellOffers(const host::io::ReadOffers& offers, QStringList notes);
     void tellDetected(const QString& detected, QStringList notes,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/data_opening.h"
 
+#include "app/data_adding.h"
 #include "app/first_look.h"
 #include "app/plot3d_layout.h"
 #include "host/document/document.h"
@@ -49,10 +50,8 @@ ReadRequest requestOf(const host::DataOrigin& origin, QString& problem)
     return request;
 }
 
-std::shared_ptr<host::DataSet> readAndWait(const std::vector<host::DataOrigin>& origins,
-                                           QString& problem)
+std::shared_ptr<host::DataSet> readAndWait(const host::DataOrigin& origin, QString& problem)
 {
-    const host::DataOrigin& origin = origins.front();
     if (!origin.demo.empty())
         return embeddedData(origin, problem);
     const ReadRequest request = requestOf(origin, problem);
@@ -82,6 +81,16 @@ static void attach(const ReadResult& result, const ReadRequest& request)
         document.execute(value);
 }
 
+/// The data of the frame may be closed by now.
+static void take(const ReadResult& result, const ReadRequest& request, DataUse use)
+{
+    const host::Frame* const frame = host::Document::instance().activeFrame();
+    if (use == DataUse::Add && frame && frame->hasData())
+        addToFrame({originOf(request), result.data});
+    else
+        attach(result, request);
+}
+
 static QStringList notesOf(const host::DataSet& data)
 {
     QStringList notes;
@@ -106,12 +115,13 @@ DataOpener::DataOpener(QObject* parent)
     connect(&m_reader, &host::io::DataReader::finished, this, &DataOpener::take);
 }
 
-void DataOpener::start(const ReadRequest& request)
+void DataOpener::start(const ReadRequest& request, DataUse use)
 {
     if (isRunning())
         return;
     m_taker = nullptr;
     m_request = request;
+    m_use = use;
     Q_EMIT started();
     m_reader.start(request);
 }
@@ -150,7 +160,7 @@ void DataOpener::take(const ReadResult& result)
     }
     const bool isForFrame = !std::exchange(m_taker, nullptr);
     if (isForFrame && result.data) {
-        attach(result, m_request);
+        app::take(result, m_request, m_use);
         Q_EMIT opened(result);
     } else if (isForFrame && result.preview) {
         Q_EMIT previewed(*result.preview);

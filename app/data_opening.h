@@ -26,9 +26,14 @@ host::DataOrigin originOf(const host::io::ReadRequest& request);
 host::io::ReadRequest requestOf(const host::DataOrigin& origin, QString& problem);
 /// Embedded data; null, with the problem, when there are none such.
 std::shared_ptr<host::DataSet> embeddedData(const host::DataOrigin& origin, QString& problem);
-/// Reads data of a frame and waits, embedded data too; null, with the problem, on failure.
-std::shared_ptr<host::DataSet> readAndWait(const std::vector<host::DataOrigin>& origins,
-                                           QString& problem);
+/// Reads data and waits, embedded data too; null, with the problem, on failure.
+std::shared_ptr<host::DataSet> readAndWait(const host::DataOrigin& origin, QString& problem);
+
+/// What becomes of data that are read.
+enum class DataUse {
+    Replace, ///< those of the active frame
+    Add ///< to those of the active frame, if it has some
+};
 
 /// Reads data into the active frame and waits. On failure the document is as it was.
 OpenedData openAndWait(const host::io::ReadRequest& request);
@@ -42,7 +47,7 @@ public:
     explicit DataOpener(QObject* parent = nullptr);
 
     /// Ignored while a reading runs.
-    void start(const host::io::ReadRequest& request);
+    void start(const host::io::ReadRequest& request, DataUse use = DataUse::Replace);
     /// Reads without giving the data to a frame: one request after the other, then hands over all
     /// results. Nothing is handed over when one fails.
     using Taker = std::function<bool(const std::vector<host::io::ReadResult>& results)>;
@@ -50,6 +55,7 @@ public:
     void cancel() { m_reader.cancel(); }
     bool isRunning() const { return m_reader.isRunning(); }
     const host::io::ReadRequest& request() const { return m_request; }
+    DataUse use() const { return m_use; }
 
 Q_SIGNALS:
     void started();
@@ -70,6 +76,7 @@ private:
 
     host::io::DataReader m_reader;
     host::io::ReadRequest m_request; ///< that is read, or was read last
+    DataUse m_use = DataUse::Replace;
     // Of a reading for somebody else.
     std::vector<host::io::ReadRequest> m_requests;
     std::vector<host::io::ReadResult> m_results;

@@ -219,8 +219,9 @@ void DocumentCommands::readData(Opening opening)
     std::vector<ReadRequest> requests;
     QString problem;
     for (const storage::StoredFrame& frame : opening.document->frames)
-        if (!frame.data.empty() && frame.data.front().demo.empty() && problem.isEmpty())
-            requests.push_back(requestOf(frame.data.front(), problem));
+        for (const host::DataOrigin& origin : frame.data)
+            if (origin.demo.empty() && problem.isEmpty())
+                requests.push_back(requestOf(origin, problem));
     if (!problem.isEmpty()) {
         Q_EMIT failed(QStringLiteral("%1: %2").arg(opening.file, problem));
         return;
@@ -235,12 +236,11 @@ bool DocumentCommands::put(const Opening& opening, const std::vector<ReadResult>
     storage::FrameData data;
     QString problem;
     auto read = results.begin();
-    for (const storage::StoredFrame& frame : opening.document->frames) {
-        const bool isRead = !frame.data.empty() && frame.data.front().demo.empty();
-        data.push_back(isRead                   ? (read++)->data
-                           : frame.data.empty() ? nullptr
-                                                : embeddedData(frame.data.front(), problem));
-    }
+    const auto next = [&read](const host::DataOrigin& origin, QString& reason) {
+        return origin.demo.empty() ? (read++)->data : embeddedData(origin, reason);
+    };
+    for (const storage::StoredFrame& frame : opening.document->frames)
+        data.push_back(storage::dataOf(frame, next, problem));
     QStringList notes;
     auto document = storage::fittedDocument(opening.document, data, notes);
     if (problem.isEmpty() && !notes.isEmpty() && !mayLoad(opening.file, notes))

@@ -60,6 +60,7 @@ void MainMenus::makeFileMenu(const DocumentCommands& documents)
     addOpenCommands(*menu);
     addSampleMenu(*menu);
     addDemoMenu(*menu);
+    addDataCommands(*menu);
     menu->addSeparator();
     menu->addActions(documents.saveCommands());
     menu->addSeparator();
@@ -89,6 +90,16 @@ void MainMenus::addOpenCommands(QMenu& menu)
     iconed(recent->menuAction(), "document-open-recent", tr("Open again what was opened last"));
     connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentMenu(*recent); });
     m_openCommands << open << folder << plot3d << table << recent->menuAction();
+}
+
+void MainMenus::addDataCommands(QMenu& menu)
+{
+    m_addData = iconed(menu.addAction(tr("Add &Data..."), this, &MainMenus::moreDataWanted),
+                       "data-add", tr("Add the zones of other files to the open data"));
+    m_addData->setObjectName(QStringLiteral("addData"));
+    m_closeData = iconed(menu.addAction(tr("&Close Data"), this, &MainMenus::closingWanted),
+                         "data-close", tr("Drop the data of this plot, with their style"));
+    m_closeData->setObjectName(QStringLiteral("closeData"));
 }
 
 void MainMenus::addSampleMenu(QMenu& menu)
@@ -121,7 +132,7 @@ QString demoTitle(const QString& name)
 
 void MainMenus::addDemoMenu(QMenu& menu)
 {
-    QMenu* demos = menu.addMenu(tr("&Demonstration Data"));
+    QMenu* demos = menu.addMenu(tr("D&emonstration Data"));
     for (const std::string& demo : samples::demoNames()) {
         const QString name = QString::fromStdString(demo);
         describe(
@@ -252,6 +263,15 @@ void MainMenus::enableOpening(bool enabled)
 {
     for (QAction* command : m_openCommands)
         command->setEnabled(enabled);
+    m_isOpeningEnabled = enabled;
+    enableDataCommands();
+}
+
+void MainMenus::enableDataCommands()
+{
+    const host::Frame* const frame = Document::instance().activeFrame();
+    for (QAction* const command : {m_addData, m_closeData})
+        command->setEnabled(m_isOpeningEnabled && frame && frame->hasData());
 }
 
 void MainMenus::refresh(bool hasPlot)
@@ -261,6 +281,7 @@ void MainMenus::refresh(bool hasPlot)
                                                        : tr("&Zone Style..."));
     for (QAction* const command : {m_savePicture, m_copyPicture})
         command->setEnabled(frame && frame->hasData());
+    enableDataCommands();
     m_details->setEnabled(hasPlot);
     for (auto page = m_detailPages.begin(); page != m_detailPages.end(); ++page)
         page.value()->setVisible(hasPlot && page.key()->isFor(*frame));

@@ -39,6 +39,8 @@ Q_SIGNALS:
     void plot3DWanted();
     void tableWanted();
     void folderWanted();
+    void moreDataWanted();
+    void closingWanted();
     void filesWanted(const QStringList& files);
     void demoWanted(const QString& name);
     void pictureWanted();
@@ -57,6 +59,8 @@ private:
     void makeHelpMenu();
     void showAbout();
     void makeToolBar(QAction& save);
+    void addDataCommands(QMenu& menu);
+    void enableDataCommands();
     void refreshUndo();
 
     QMainWindow& m_window;
@@ -70,6 +74,9 @@ private:
     QMenu* m_details = nullptr; ///< the pages of details
     QHash<const DetailPage*, QAction*> m_detailPages;
     QAction* m_savePicture = nullptr;
+    QAction* m_addData = nullptr;
+    QAction* m_closeData = nullptr;
+    bool m_isOpeningEnabled = true;
     QAction* m_copyPicture = nullptr;
 };
 

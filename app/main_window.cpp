@@ -118,6 +118,8 @@ void MainWindow::makeBars()
     connect(m_menus, &MainMenus::folderWanted, m_data, &DataCommands::chooseFolder);
     connect(m_menus, &MainMenus::plot3DWanted, m_data, &DataCommands::choosePlot3DFiles);
     connect(m_menus, &MainMenus::tableWanted, m_data, &DataCommands::chooseTables);
+    connect(m_menus, &MainMenus::moreDataWanted, m_data, &DataCommands::chooseMore);
+    connect(m_menus, &MainMenus::closingWanted, m_data, &DataCommands::closeData);
     connect(m_menus, &MainMenus::filesWanted, m_data,
             [this](const QStringList& files) { m_data->open(files); });
     connect(m_menus, &MainMenus::demoWanted, m_data, &DataCommands::openDemo);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/program_stage.h"
 
+#include "app/data_adding.h"
 #include "app/data_opening.h"
 #include "app/main_window.h"
 
@@ -20,10 +21,15 @@ QString ProgramStage::openFiles(const host::DataOrigin& origin)
     return openAndWait(request).error;
 }
 
+host::Outcome ProgramStage::add(const host::AddData& addition)
+{
+    return addToFrame(addition);
+}
+
 std::shared_ptr<host::DataSet> ProgramStage::readData(const host::DataOrigin& origin,
                                                       QString& problem)
 {
-    return readAndWait({origin}, problem);
+    return readAndWait(origin, problem);
 }
 
 QString ProgramStage::saveCanvas(const QString& file)

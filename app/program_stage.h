@@ -21,6 +21,7 @@ public:
     QString openFiles(const host::DataOrigin& origin) override;
     std::shared_ptr<host::DataSet> readData(const host::DataOrigin& origin,
                                             QString& problem) override;
+    host::Outcome add(const host::AddData& addition) override;
     QString saveCanvas(const QString& file) override;
 
 private:

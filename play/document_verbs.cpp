@@ -36,11 +36,9 @@ static void attach(ScriptRun& run, const host::DataOrigin& origin)
     require(error.isEmpty(), error);
 }
 
-/// The data of a stored frame.
-static std::shared_ptr<host::DataSet>
-readData(ScriptRun& run, const std::vector<host::DataOrigin>& origins, QString& problem)
+static std::shared_ptr<host::DataSet> readData(ScriptRun& run, const host::DataOrigin& origin,
+                                               QString& problem)
 {
-    const host::DataOrigin& origin = origins.front();
     if (origin.demo.empty())
         return run.stage().readData(origin, problem);
     std::string reason;
@@ -49,11 +47,20 @@ readData(ScriptRun& run, const std::vector<host::DataOrigin>& origins, QString& 
     return data;
 }
 
+static void add(ScriptRun& run, host::AddData addition)
+{
+    QString problem;
+    addition.data = readData(run, addition.origin, problem);
+    require(problem.isEmpty(), problem);
+    const host::Outcome outcome = run.stage().add(addition);
+    require(outcome.isDone(), host::refusalText(addition, outcome));
+}
+
 static void load(ScriptRun& run, const std::string& file)
 {
     const auto outcome = host::storage::loadDocument(
         run.document(), QString::fromStdString(file),
-        [&run](const auto& origins, QString& problem) { return readData(run, origins, problem); });
+        [&run](const auto& origin, QString& problem) { return readData(run, origin, problem); });
     require(outcome.problem.isEmpty(), outcome.problem);
 }
 
@@ -77,6 +84,8 @@ static void execute(ScriptRun& run, const Arguments& arguments)
             host::storage::loadStyles(run.document(), QString::fromStdString(styles->file)).problem;
         return require(problem.isEmpty(), problem);
     }
+    if (const auto* const addition = std::get_if<host::AddData>(&operation))
+        return add(run, *addition);
     const host::Outcome outcome = run.document().execute(operation);
     require(outcome.isDone(), host::refusalText(operation, outcome));
 }

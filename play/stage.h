@@ -27,6 +27,9 @@ public:
     virtual std::shared_ptr<host::DataSet> readData(const host::DataOrigin& origin,
                                                     QString& problem) = 0;
 
+    /// Adds data that were read to those of the active frame.
+    virtual host::Outcome add(const host::AddData& addition) = 0;
+
     /// Writes the plot as it is on the screen to a file, in the format that its ending names. Empty
     /// on success, else a text that names the file and the reason.
     virtual QString saveCanvas(const QString& file) = 0;

@@ -7,6 +7,7 @@
 #include <vtkPointData.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace corvala::host {
 
@@ -82,6 +83,29 @@ static vtkSmartPointer<vtkDataArray> componentOf(vtkDataArray& array, int compon
     return values;
 }
 
+/// None where a component lacks, or is of the cells while another is of the points.
+ZoneValues DataSet::magnitudes(std::int64_t zoneNumber, const Variable& variable) const
+{
+    std::vector<ZoneValues> components;
+    for (const int number : variable.vector)
+        if (number != 0)
+            components.push_back(values(zoneNumber, number));
+    const ZoneValues& first = components.front();
+    for (const ZoneValues& component : components)
+        if (!component.array || component.location != first.location)
+            return {};
+    const vtkIdType count = first.array->GetNumberOfTuples();
+    auto lengths = vtkSmartPointer<vtkDoubleArray>::New();
+    lengths->SetNumberOfTuples(count);
+    for (vtkIdType i = 0; i < count; ++i) {
+        double length = 0.0;
+        for (const ZoneValues& component : components)
+            length = std::hypot(length, component.array->GetComponent(i, 0));
+        lengths->SetValue(i, length);
+    }
+    return {lengths, first.location};
+}
+
 ZoneValues DataSet::values(std::int64_t zoneNumber, std::int64_t variableNumber) const
 {
     const vtkSmartPointer<vtkDataSet> data =
@@ -89,6 +113,8 @@ ZoneValues DataSet::values(std::int64_t zoneNumber, std::int64_t variableNumber)
     if (!data)
         return {};
     const Variable& wanted = variable(variableNumber);
+    if (wanted.isMagnitude())
+        return magnitudes(zoneNumber, wanted);
     if (wanted.isCoordinate())
         return {coordinateOf(*data, wanted.component), ValueLocation::Points};
     ValueLocation location = ValueLocation::Points;

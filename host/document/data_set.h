@@ -55,7 +55,12 @@ struct Variable
     int component = 0; ///< component of the array, or 0, 1, 2 for the coordinate X, Y, Z
     bool isConstant = false; ///< one value everywhere and at all times, or none
     VariableKind kind = VariableKind::Number;
-    bool isCoordinate() const { return array.empty(); }
+    /// Numbers of the variables of whose values this is the magnitude, 0 beyond the last; the array
+    /// of a magnitude is empty.
+    std::array<int, 3> vector {{0, 0, 0}};
+
+    bool isMagnitude() const { return vector[0] != 0; }
+    bool isCoordinate() const { return array.empty() && !isMagnitude(); }
 };
 
 enum class ValueLocation { Points, Cells };
@@ -137,6 +142,9 @@ public:
     bool isTransient() const;
     /// Distinct solution times of the transient zones, ascending.
     std::vector<double> solutionTimes() const;
+
+private:
+    ZoneValues magnitudes(std::int64_t zone, const Variable& variable) const;
 };
 
 } // namespace corvala::host

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/read_result.h"
 
+#include "host/document/vector_magnitudes.h"
 #include "host/io/read_protocol.h"
 #include "host/io/zone_file_source.h"
 
@@ -44,6 +45,7 @@ LoadedData loadData(std::unique_ptr<ReadFolder> folder)
         result.data->notes.push_back(note.toString().toStdString());
     result.noteGroups = grouped(index->notes);
     result.data->source = source;
+    addMagnitudes(*result.data);
     return result;
 }
 

@@ -34,6 +34,7 @@ public:
     Outcome operator()(const DetachData& operation);
     Outcome operator()(const LoadDocument& operation);
     Outcome operator()(const ApplyStyles& operation);
+    Outcome operator()(const AddData& operation);
 
     /// What is to be announced when everything else has been done.
     const std::vector<StateEvent>& events() const { return m_events; }

@@ -215,16 +215,26 @@ struct DetachData
     auto fields() const { return std::tie(); }
 };
 
+/// Appends the zones of other data to those of the active frame (data_joining.h); what is there
+/// keeps its numbers and its style. Somebody loads `data` before it is done.
+struct AddData
+{
+    DataOrigin origin;
+    std::shared_ptr<DataSet> data = {};
+    auto fields() const { return std::tie(origin); }
+};
+
 template<class T, class = decltype(std::declval<const T&>().fields())>
 bool operator==(const T& one, const T& two)
 {
     return one.fields() == two.fields();
 }
 
-using Operation = std::variant<SetStyle, RenameZone, RenameVariable, RenameLineMaps, CreateLineMaps,
-                               CopyLineMaps, MoveLineMaps, DeleteMaps, EnableZones, EnableVariables,
-                               SetSolutionTime, SetPicks, SetPaletteColor, AddFrame, ActivateFrame,
-                               DeleteFrame, AttachData, DetachData, LoadDocument, ApplyStyles>;
+using Operation =
+    std::variant<SetStyle, RenameZone, RenameVariable, RenameLineMaps, CreateLineMaps, CopyLineMaps,
+                 MoveLineMaps, DeleteMaps, EnableZones, EnableVariables, SetSolutionTime, SetPicks,
+                 SetPaletteColor, AddFrame, ActivateFrame, DeleteFrame, AttachData, DetachData,
+                 AddData, LoadDocument, ApplyStyles>;
 
 /// What came of an operation: all of it was done, or nothing.
 struct Outcome

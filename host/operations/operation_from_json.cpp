@@ -207,6 +207,13 @@ Operation readLoadStyles(const JsonObject& object, const TextContext& context)
     return ApplyStyles {readFile(object, "loadStyles", context)};
 }
 
+Operation attachOrAdd(const JsonObject& object, AttachData attach)
+{
+    if (object.boolean("add", false))
+        return AddData {std::move(attach.origin)};
+    return attach;
+}
+
 Operation readOpen(const JsonObject& object, const TextContext& context)
 {
     AttachData attach;
@@ -217,7 +224,7 @@ Operation readOpen(const JsonObject& object, const TextContext& context)
     attach.origin.plot3d = object.text("plot3d", {}).toStdString();
     attach.origin.boundaryPatches = object.boolean("boundaryPatches", false);
     attach.origin.numberedTimes = object.boolean("numberedTimes", false);
-    return attach;
+    return attachOrAdd(object, std::move(attach));
 }
 
 Operation readDemo(const JsonObject& object, const TextContext&)
@@ -231,7 +238,7 @@ Operation readDemo(const JsonObject& object, const TextContext&)
     attach.origin.scale = object.integer(key, 0);
     require(attach.origin.scale > 0 || !object.has(key),
             Text::tr("\"%1\" must be 1 or more").arg(QLatin1String(key)));
-    return attach;
+    return attachOrAdd(object, std::move(attach));
 }
 
 Operation readData(const JsonObject& object, const TextContext&)
@@ -266,8 +273,8 @@ const std::vector<Reader>& readers()
         {{"frame", {}}, readFrame},
         {{"load", {}}, readLoad},
         {{"loadStyles", {}}, readLoadStyles},
-        {{"open", {"table", "plot3d", "boundaryPatches", "numberedTimes"}}, readOpen},
-        {{"demo", {"zones", "maps"}}, readDemo},
+        {{"open", {"table", "plot3d", "boundaryPatches", "numberedTimes", "add"}}, readOpen},
+        {{"demo", {"zones", "maps", "add"}}, readDemo},
         {{"data", {}}, readData}};
     return readers;
 }

@@ -206,6 +206,15 @@ Json json(const DetachData&)
     return {{"data", "none"}};
 }
 
+Json json(const AddData& addition)
+{
+    AttachData attach;
+    attach.origin = addition.origin;
+    Json object = json(attach);
+    object["add"] = true;
+    return object;
+}
+
 } // namespace
 
 Json toJson(const Operation& operation)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/storage/document_file.h"
 
+#include "host/document/data_joining.h"
 #include "host/document/document.h"
 #include "host/operations/operation_text.h"
 #include "host/storage/fitting.h"
@@ -85,6 +86,19 @@ LoadOutcome putDocument(Document& document, const QString& file,
     return {outcome.isDone() ? QString() : refusalText(load, outcome), {}};
 }
 
+std::shared_ptr<DataSet> dataOf(const StoredFrame& frame, const DataLoader& loader,
+                                QString& problem)
+{
+    std::shared_ptr<DataSet> data;
+    for (const DataOrigin& origin : frame.data) {
+        std::shared_ptr<DataSet> part = loader(origin, problem);
+        if (!part)
+            return nullptr;
+        data = data ? joined(*data, *part) : std::move(part);
+    }
+    return data;
+}
+
 LoadOutcome loadDocument(Document& document, const QString& file, const DataLoader& loader)
 {
     const ReadDocument read = readDocument(file);
@@ -93,7 +107,7 @@ LoadOutcome loadDocument(Document& document, const QString& file, const DataLoad
     FrameData data;
     for (const StoredFrame& frame : read.document->frames) {
         QString problem;
-        data.push_back(frame.data.empty() ? nullptr : loader(frame.data, problem));
+        data.push_back(dataOf(frame, loader, problem));
         if (!problem.isEmpty())
             return {QStringLiteral("%1: %2").arg(file, problem), {}};
     }

@@ -32,9 +32,13 @@ struct ReadDocument
 };
 ReadDocument readDocument(const QString& file);
 
-/// Reads the data of a frame from their origins, and tells the problem where that cannot be done.
-using DataLoader = std::function<std::shared_ptr<DataSet>(const std::vector<DataOrigin>& origins,
-                                                          QString& problem)>;
+/// Reads data from their origin, and tells the problem where that cannot be done.
+using DataLoader =
+    std::function<std::shared_ptr<DataSet>(const DataOrigin& origin, QString& problem)>;
+
+/// The data of a frame from all of its origins; null where one cannot be read, or without any.
+std::shared_ptr<DataSet> dataOf(const StoredFrame& frame, const DataLoader& loader,
+                                QString& problem);
 
 /// Data of the frames of a document, as they were read; null for a frame without.
 using FrameData = std::vector<std::shared_ptr<DataSet>>;

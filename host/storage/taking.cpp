@@ -115,7 +115,7 @@ static void takeData(const Frame& frame, StoredFrame& stored)
             data.variableCount(), [&](auto variable) { return data.variable(variable).name; },
             [&](auto variable) { return data.readVariableName(variable); });
     const std::vector<double> times = data.solutionTimes();
-    if (frame.solutionTime() != (times.empty() ? 0.0 : times.front()))
+    if (!times.empty() && frame.solutionTime() != times.front())
         stored.time = frame.solutionTime();
     stored.enabledZones = unlessAll(frame.enabledZones(), data.zoneCount());
     stored.enabledVariables = unlessAll(frame.enabledVariables(), data.variableCount());

@@ -67,8 +67,8 @@ bool MapScene::apply(const host::StateEvent& event)
     case StateCode_DocumentLoaded:
     case StateCode_DataSetAttached:
     case StateCode_DataSetDetached:
-    case StateCode_DataValuesChanged: rebuild(Fresh::Data); return true;
     case StateCode_ZonesAdded:
+    case StateCode_DataValuesChanged: rebuild(Fresh::Data); return true;
     case StateCode_ZonesRemoved: rebuild(Fresh::Maps); return true;
     case StateCode_FieldMapListChanged:
     case StateCode_LineMapListChanged:

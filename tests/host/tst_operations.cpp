@@ -57,11 +57,21 @@ public:
         case 12:
             return SetPaletteColor {below(66) - 1, {static_cast<std::uint8_t>(below(256)), 2, 3}};
         case 13: return ActivateFrame {below(4)};
+        case 14: return added();
         default: return styled();
         }
     }
 
 private:
+    static Operation added()
+    {
+        std::string ignored;
+        AddData addition;
+        addition.origin.demo = "transient";
+        addition.data = samples::demoData(addition.origin.demo, 0, ignored).data;
+        return addition;
+    }
+
     std::string name() { return below(3) ? std::string("n") + char('a' + below(4)) : "ö &M#&"; }
 
     NumberSet some(CvlInt64 count)

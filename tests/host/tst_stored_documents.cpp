@@ -30,9 +30,8 @@ static QString present()
 /// Data of any number of zones, whatever the origin says.
 static DataLoader demos(std::int64_t otherScale = 0)
 {
-    return [=](const std::vector<DataOrigin>& origins, QString& problem) {
+    return [=](const DataOrigin& origin, QString& problem) {
         std::string reason;
-        const DataOrigin& origin = origins.front();
         auto data = samples::demoData(origin.demo, otherScale ? otherScale : origin.scale, reason);
         problem = QString::fromStdString(reason);
         return data.data;
@@ -105,6 +104,12 @@ private Q_SLOTS:
              R"({"pick": [{"zone": 2}, {"other": 4}]})",
              R"({"paletteColor": 63, "rgb": [1, 2, 255]})", R"({"createMaps": 2})",
              R"({"active": "LineMaps", "maps": "1", "op": "remove"})"});
+        row("several origins",
+            {R"({"demo": "transient"})", R"({"rename": "p", "variable": 5})",
+             R"({"rename": "gone", "zone": 2})", R"({"deleteMaps": "1"})",
+             R"({"demo": "kinds", "add": true})", R"({"deleteMaps": "4"})",
+             R"({"rename": "new", "zone": 8})", R"({"demo": "transient", "add": true})",
+             R"({"set": ["FieldMap", "Shade", "Color"], "maps": "9-12", "value": 5})"});
         row("frames and time",
             {R"({"demo": "transient"})", R"({"time": 2.5})", R"({"deleteMaps": "1"})",
              R"({"frame": "new"})", R"({"frame": "new"})", R"({"demo": "polar", "maps": 3})",
@@ -115,7 +120,9 @@ private Q_SLOTS:
         const auto [operations] = currentRow<QStringList>();
         for (const QString& text : operations) {
             std::string ignored;
-            const Operation operation = operationOf(text.toUtf8());
+            Operation operation = operationOf(text.toUtf8());
+            if (auto* const addition = std::get_if<AddData>(&operation))
+                addition->data = samples::demoData(addition->origin.demo, 0, ignored).data;
             if (const auto* const attach = std::get_if<AttachData>(&operation))
                 QVERIFY(samples::openDemo(attach->origin.demo, attach->origin.scale, ignored));
             else

@@ -123,11 +123,13 @@ inline QStringList zoneNames(const DataSet& data)
     return names;
 }
 
+/// Of the files, without what follows from them.
 inline QStringList variableNames(const DataSet& data)
 {
     QStringList names;
     for (const Variable& variable : data.variables)
-        names << QString::fromStdString(variable.name);
+        if (!variable.isMagnitude())
+            names << QString::fromStdString(variable.name);
     return names;
 }
 

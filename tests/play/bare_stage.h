@@ -30,6 +30,10 @@ public:
         problem = QStringLiteral("this stage reads no files");
         return nullptr;
     }
+    host::Outcome add(const host::AddData& addition) override
+    {
+        return host::Document::instance().execute(addition);
+    }
     QString saveCanvas(const QString&) override
     {
         return QStringLiteral("this stage has no canvas");
