@@ -2,6 +2,7 @@
 #include "app/contour_bar.h"
 
 #include "app/details/detail_field.h"
+#include "app/help_reference.h"
 #include "host/document/document.h"
 #include "host/document/line_map_name.h"
 #include "plot/common/scene_note.h"
@@ -24,15 +25,19 @@ ContourBar::ContourBar(QWidget* parent)
     , m_variable(new ui::ComboBoxAutoFilter(this))
     , m_colors(new QToolButton(this))
 {
-    constexpr int kShownLetters = 22;
+    constexpr int kFewestLetters = 8; // beside the style dialog there is little room
+    constexpr int kMostLetters = 22;
+    const int letter = fontMetrics().averageCharWidth();
     setObjectName(QStringLiteral("contourBar"));
+    setHelpReference(*this, QStringLiteral("window.html#contour"));
     auto* const label = new QLabel(tr("Co&ntour:"), this);
     label->setBuddy(m_variable);
     label->setMargin(4);
     m_variable->setObjectName(QStringLiteral("contourVariable"));
     m_variable->setAccessibleName(tr("Variable of contour group 1"));
     m_variable->setToolTip(tr("Variable of contour group 1: type a part of its name to find it"));
-    m_variable->setFixedWidth(kShownLetters * fontMetrics().averageCharWidth());
+    m_variable->setMinimumWidth(kFewestLetters * letter);
+    m_variable->setMaximumWidth(kMostLetters * letter);
     connect(m_variable, &ui::ComboBoxAutoFilter::selectionComplete, this,
             [this] { write(kStyle.var, double(m_variable->currentIndex())); });
     makeColorMenu();

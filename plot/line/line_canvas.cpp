@@ -187,6 +187,7 @@ QString paintLines(CvlUniqueId frame, const ChartRange* range, const LinePlot* k
         widget.setBackground(QBrush(Qt::NoBrush));
     LinePlot plot(widget);
     plot.setPatience(-1);
+    plot.legend().setPaper(paper);
     // A page that is larger than any image is laid out as the largest one, and enlarged.
     const double scale = std::max(
         {1.0, double(device.width()) / kLargestImage, double(device.height()) / kLargestImage});

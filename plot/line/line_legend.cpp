@@ -243,7 +243,7 @@ void LineLegend::draw(QCPPainter* painter)
     if (m_look.hasBox) {
         painter->setPen(
             QPen(Qt::black, m_look.lineWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        painter->setBrush(Qt::white);
+        painter->setBrush(m_paper == Paper::White ? QBrush(Qt::white) : QBrush(Qt::NoBrush));
         painter->drawRect(m_box);
     }
     painter->setPen(Qt::black);

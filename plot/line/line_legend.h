@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "plot/common/picture.h"
 #include "plot/line/line_chart.h"
 #include "plot/line/line_looks.h"
 
@@ -49,6 +50,9 @@ public:
     void setChart(LineChart& chart) { m_chart = &chart; }
     void set(LegendLook look) { m_look = std::move(look); }
 
+    /// Its box hides what is below it on white paper alone.
+    void setPaper(Paper paper) { m_paper = paper; }
+
     /// Where it was drawn last; empty without entries.
     const QRectF& box() const { return m_box; }
     /// Moves it by some pixels, seen within the plot only; it stays there, whatever is set, until
@@ -88,6 +92,7 @@ private:
     QCustomPlot& m_plot;
     LineChart* m_chart = nullptr;
     LegendLook m_look;
+    Paper m_paper = Paper::White;
     std::optional<QPointF> m_held; ///< pixel of the corner that a hand has hold of
     Grid m_grid;
     QRectF m_box;
