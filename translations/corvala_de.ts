@@ -4590,6 +4590,10 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <source>%1 and %2 more</source>
         <translation>%1 und %2 weitere</translation>
     </message>
+    <message>
+        <source>Add data</source>
+        <translation>Daten hinzufügen</translation>
+    </message>
 </context>
 <context>
     <name>VectorVariablesDialog</name>
@@ -4796,6 +4800,10 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     <message>
         <source>Read Them</source>
         <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>Add Data</source>
+        <translation>Daten hinzufügen</translation>
     </message>
 </context>
 <context>
@@ -5240,10 +5248,6 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <source>Polar lines</source>
         <translation>Polarlinien</translation>
     </message>
-    <message>
-        <source>&amp;Demonstration Data</source>
-        <translation>&amp;Vorführdaten</translation>
-    </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
@@ -5390,6 +5394,26 @@ Lizenz: GPL-3.0-or-later</translation>
     <message>
         <source>Put the plot, as it is seen, on the clipboard</source>
         <translation>Legt die Darstellung, wie sie zu sehen ist, in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>Add &amp;Data...</source>
+        <translation>Daten &amp;hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Add the zones of other files to the open data</source>
+        <translation>Fügt den offenen Daten die Zonen anderer Dateien hinzu</translation>
+    </message>
+    <message>
+        <source>&amp;Close Data</source>
+        <translation>Daten &amp;schließen</translation>
+    </message>
+    <message>
+        <source>Drop the data of this plot, with their style</source>
+        <translation>Verwirft die Daten dieser Darstellung samt ihrem Stil</translation>
+    </message>
+    <message>
+        <source>D&amp;emonstration Data</source>
+        <translation>&amp;Vorführdaten</translation>
     </message>
 </context>
 <context>
