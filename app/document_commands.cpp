@@ -183,8 +183,9 @@ void DocumentCommands::open(const QString& file)
         return;
     }
     auto document = std::make_shared<storage::StoredDocument>(*read.document);
+    const bool isMoved = !storage::missingFiles(*document).isEmpty();
     if (findData(*document, path))
-        readData({path, std::move(document)});
+        readData({path, std::move(document), isMoved});
 }
 
 /// Lets the user look for data that are missing; false when they are not to be had.
@@ -253,6 +254,8 @@ bool DocumentCommands::put(const Opening& opening, const std::vector<ReadResult>
         Q_EMIT failed(QStringLiteral("%1: %2").arg(opening.file, problem));
         return false;
     }
+    if (opening.isMoved || !notes.isEmpty())
+        m_state.setOtherThanSaved();
     rememberFiles({opening.file});
     m_notice.tell(notes.join(QLatin1Char(' ')));
     return true;

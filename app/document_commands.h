@@ -56,6 +56,7 @@ private:
     {
         QString file;
         std::shared_ptr<const host::storage::StoredDocument> document;
+        bool isMoved = false; ///< its data are elsewhere than it says
     };
 
     QAction* addCommand(const QString& text, const char* icon, const QKeySequence& keys,

@@ -59,6 +59,12 @@ void DocumentState::setSaved(const QString& file)
     Q_EMIT changed();
 }
 
+void DocumentState::setOtherThanSaved()
+{
+    m_hasOtherData = true;
+    Q_EMIT changed();
+}
+
 void DocumentState::setNew()
 {
     setSaved({});

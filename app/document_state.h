@@ -27,6 +27,8 @@ public:
     void setSaved(const QString& file);
     /// The document is empty and has no file.
     void setNew();
+    /// What was loaded differs from the file: the data were elsewhere, or did not fit.
+    void setOtherThanSaved();
 
 Q_SIGNALS:
     void changed();

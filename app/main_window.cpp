@@ -42,6 +42,8 @@ namespace corvala::app {
 using namespace corvala::dialogs::common;
 using host::Document;
 
+static constexpr int kLongestPick = 36; ///< in average characters
+
 static constexpr int kPictureCheckMilliseconds = 100;
 static constexpr int kToldMilliseconds = 20'000; ///< that the status bar says what was done
 
@@ -80,6 +82,8 @@ void MainWindow::makeCentre()
     statusBar()->addWidget(m_work);
     m_picked = new ElidedLabel(this);
     m_picked->setObjectName(QStringLiteral("picked"));
+    // What the mouse is over needs the room more.
+    m_picked->setMaximumWidth(kLongestPick * fontMetrics().averageCharWidth());
     statusBar()->addWidget(m_picked);
     m_probe = new ElidedLabel(this);
     m_probe->setObjectName(QStringLiteral("probe"));
@@ -268,6 +272,7 @@ void MainWindow::refresh()
     const bool hasData = frame && frame->hasData();
     refreshTitle();
     m_picked->setText(pickedText());
+    m_picked->setToolTip(pickedText());
     m_summary->setText(hasData ? summaryOf(*frame->data()) : QString());
     m_menus->refresh(hasData && m_plotArea->frameView());
     m_views->refresh();

@@ -67,11 +67,17 @@ static host::NumberSet allMaps()
     return host::allUpTo(Document::instance().activeFrame()->shownMapCount());
 }
 
+static constexpr int kLongestTitle = 50; ///< in average characters; a zone may have a long name
+
 void PlotMenu::addObjectCommands(QMenu& menu, CvlInt64 number)
 {
     const bool isField = Document::instance().activeFrame()->isFieldPlot();
     const auto map = static_cast<std::uint32_t>(mapOfObject(number));
-    menu.addAction(objectText(number).replace(QLatin1Char('&'), QLatin1String("&&")))
+    const QFontMetrics metrics = menu.fontMetrics();
+    menu.addAction(metrics
+                       .elidedText(objectText(number), Qt::ElideMiddle,
+                                   kLongestTitle * metrics.averageCharWidth())
+                       .replace(QLatin1Char('&'), QLatin1String("&&")))
         ->setEnabled(false);
     menu.addSeparator();
     menu.addAction(isField ? tr("&Pick This Zone") : tr("&Pick This Line"), this,

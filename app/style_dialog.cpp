@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QRect>
 #include <QScreen>
+#include <QTimer>
 
 #include <algorithm>
 #include <set>
@@ -43,6 +44,9 @@ static QRect plotOf(const QWidget& mainWindow)
     return plot ? QRect(plot->mapToGlobal({0, 0}), plot->size()) : mainWindow.frameGeometry();
 }
 
+/// After a window is shown; the window manager has told its frame by then.
+static constexpr int kFrameMilliseconds = 300;
+
 QWidget& openStyleDialog(QWidget& mainWindow, DialogInitialization_e initialization)
 {
     const bool isFirst = !existingStyleDialog();
@@ -56,6 +60,7 @@ QWidget& openStyleDialog(QWidget& mainWindow, DialogInitialization_e initializat
     else
         placeHidingLeast(mainWindow, plotOf(mainWindow), dialog,
                          mainWindow.screen()->availableGeometry());
+    QTimer::singleShot(kFrameMilliseconds, &dialog, [&dialog] { keepOnScreen(dialog); });
     return dialog;
 }
 

@@ -58,6 +58,8 @@ ScriptProblem readLines(const QByteArray& text, std::vector<ScriptLine>& lines)
             lines.push_back({number, parseObject(line)});
         } catch (const Json::parse_error& error) {
             return {number, reasonOf(error)};
+        } catch (const Json::out_of_range&) {
+            return {number, Text::tr("a number is too large")};
         } catch (const ScriptError& error) {
             return {number, error.message()};
         }

@@ -9,10 +9,13 @@
 #include "plot/render.h"
 #include "plot/stored_view.h"
 
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QStackedLayout>
 
 #include <utility>
+
+#include <algorithm>
 
 namespace corvala::plot {
 
@@ -84,6 +87,7 @@ Canvas* FrameView::canvasOf(Kind kind)
             m_probe.start();
         });
         connect(canvas, &Canvas::viewLeft, this, &FrameView::rememberView);
+        connect(canvas, &Canvas::viewLeft, &m_probe, qOverload<>(&QTimer::start));
         connect(canvas, &Canvas::boxEnded, this, &FrameView::boxEnded);
         // What has the mouse hears of the click before anybody else does something.
         connect(canvas, &Canvas::menuWanted, this, &FrameView::menuWanted, Qt::QueuedConnection);
@@ -274,6 +278,20 @@ void FrameView::setOutlined(const host::NumberSet& maps)
     for (Canvas* const canvas : m_canvases)
         if (canvas)
             canvas->setOutlined(canvas == m_canvas ? maps : host::NumberSet());
+}
+
+/// A key asks for the menu of what is picked.
+void FrameView::contextMenuEvent(QContextMenuEvent* event)
+{
+    const host::Frame* const frame = host::Document::instance().frame(m_key.first);
+    if (event->reason() != QContextMenuEvent::Keyboard || !frame)
+        return;
+    const int wanted = frame->isFieldPlot() ? PickType_Zone : PickType_LineMap;
+    const auto pick =
+        std::find_if(frame->picks().begin(), frame->picks().end(),
+                     [wanted](const host::Pick& each) { return each.type == wanted; });
+    Q_EMIT menuWanted(pick == frame->picks().end() ? 0 : pick->number,
+                      mapToGlobal(rect().center()));
 }
 
 /// Waits for the picture: what is drawn and seen is known then.

@@ -862,10 +862,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
         <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
-        <source>%1 cannot be read: it is a folder</source>
-        <translation>%1 kann nicht gelesen werden: es ist ein Ordner</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
@@ -876,6 +872,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     <message>
         <source>it is read-only</source>
         <translation>es ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: it is no file</source>
+        <translation>%1 kann nicht gelesen werden: es ist keine Datei</translation>
     </message>
 </context>
 <context>

@@ -22,7 +22,7 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(DocumentText)
 };
 
-constexpr std::int64_t kMostZones = 0xfffffffe;
+constexpr std::int64_t kMostZones = 4'000'000; ///< of a frame; each has a name
 constexpr std::int64_t kMostLineMaps = 1'000'000;
 constexpr int kPaletteEntries = 64;
 
@@ -368,6 +368,8 @@ Json parsed(const std::string& text)
 {
     try {
         return Json::parse(text, KeyCheck());
+    } catch (const Json::out_of_range&) { // all that is thrown beside errors of the syntax
+        throw DocumentError({}, Text::tr("the number is too large"));
     } catch (const Json::parse_error& error) {
         const auto end = text.begin()
             + static_cast<std::ptrdiff_t>(

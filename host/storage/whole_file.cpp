@@ -34,8 +34,9 @@ static QString lastError()
 QString readWhole(const QString& name, std::string& text)
 {
     QFile file(name);
-    if (QFileInfo(name).isDir())
-        return Text::tr("%1 cannot be read: it is a folder").arg(name);
+    const QFileInfo info(name);
+    if (info.exists() && !info.isFile()) // a pipe would wait for ever
+        return Text::tr("%1 cannot be read: it is no file").arg(name);
     if (!file.open(QIODevice::ReadOnly))
         return Text::tr("%1 cannot be read: %2").arg(name, file.errorString());
     text.resize(static_cast<std::size_t>(file.size()));
@@ -93,8 +94,7 @@ QString replaceWhole(const QString& file, const std::string& text)
         return problem(file, Text::tr("it is a folder"));
     if (target.exists() && !target.isWritable())
         return problem(file, Text::tr("it is read-only"));
-    QTemporaryFile written(
-        target.absoluteDir().filePath(QStringLiteral(".%1.XXXXXX").arg(target.fileName())));
+    QTemporaryFile written(target.absoluteDir().filePath(QStringLiteral(".corvala.XXXXXX")));
     if (!written.open())
         return problem(file, written.errorString());
     if (!writeAll(written, text))

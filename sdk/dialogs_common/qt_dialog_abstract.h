@@ -32,9 +32,9 @@ public:
     void drop() override;
     void done(int result) override;
 
-    /// Lets the dialog become narrower than what it shows, which scrolls then. For hosts with little
-    /// room; to be called after it was first shown, since it prefers to show everything.
-    virtual void allowNarrow() {}
+    /// Lets the dialog become narrower than what it shows, which scrolls then. For hosts with
+    /// little room; to be called after it was first shown, since it prefers to show everything.
+    virtual void allowNarrow() { }
 
     const boost::shared_ptr<property::RelevanceInterface const>& dialogRelevance() const
     {

@@ -114,7 +114,8 @@ static bool isCut(const QWidget& widget)
         return false;
     const QString text = label ? label->text() : button ? button->text() : QString();
     const int icon = button && !button->icon().isNull() ? button->iconSize().width() : 0;
-    return widget.fontMetrics().size(Qt::TextShowMnemonic, text).width() + icon > widget.width() + 2;
+    return widget.fontMetrics().size(Qt::TextShowMnemonic, text).width() + icon
+        > widget.width() + 2;
 }
 
 class tst_Texts : public QObject
