@@ -130,7 +130,7 @@ void FrameView::keepViews()
         m_views[m_key] = m_canvas->view();
     for (auto view = m_views.constBegin(); view != m_views.constEnd(); ++view)
         host::Document::instance().keepView(view.key().first, view.key().second,
-                                            viewText(view.value()));
+                                            viewText(view.value(), PlotType_e(view.key().second)));
 }
 
 void FrameView::showFrame(const ViewKey& key)

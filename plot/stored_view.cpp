@@ -10,22 +10,38 @@ namespace corvala::plot {
 
 using Json = nlohmann::json;
 
+/// What is fitted has a direction only.
 static Json json(const CameraState& camera)
 {
-    return {{"position", camera.position},
-            {"focalPoint", camera.focalPoint},
-            {"viewUp", camera.viewUp},
-            {"parallelScale", camera.parallelScale}};
+    Json result {{"position", camera.position}, {"viewUp", camera.viewUp}};
+    if (!camera.isFitted) {
+        result["focalPoint"] = camera.focalPoint;
+        result["parallelScale"] = camera.parallelScale;
+    }
+    if (camera.isParallel)
+        result["parallel"] = true;
+    return result;
+}
+
+/// Everything, from the usual side.
+static bool isUsual(const CameraState& camera)
+{
+    const CameraState usual;
+    return camera.isFitted && !camera.isParallel && camera.position == usual.position
+        && camera.viewUp == usual.viewUp;
 }
 
 static CameraState cameraOf(const Json& json)
 {
     CameraState camera;
-    camera.isFitted = false;
+    camera.isFitted = !json.contains("focalPoint");
+    camera.isParallel = json.value("parallel", false);
     json.at("position").get_to(camera.position);
-    json.at("focalPoint").get_to(camera.focalPoint);
     json.at("viewUp").get_to(camera.viewUp);
-    json.at("parallelScale").get_to(camera.parallelScale);
+    if (!camera.isFitted) {
+        json.at("focalPoint").get_to(camera.focalPoint);
+        json.at("parallelScale").get_to(camera.parallelScale);
+    }
     return camera;
 }
 
@@ -46,10 +62,12 @@ static void read(const Json& list, std::array<AxisRange, kAxisCount>& ranges)
             ranges[axis] = {range.at(0).get<double>(), range.at(1).get<double>()};
 }
 
-std::string viewText(const std::any& view)
+std::string viewText(const std::any& view, PlotType_e plotType)
 {
-    if (const auto* const camera = std::any_cast<CameraState>(&view); camera && !camera->isFitted)
-        return json(*camera).dump();
+    if (const auto* const camera = std::any_cast<CameraState>(&view)) {
+        const bool isWhole = plotType == PlotType_Field3D ? isUsual(*camera) : camera->isFitted;
+        return isWhole ? std::string() : json(*camera).dump();
+    }
     if (const auto* const range = std::any_cast<ChartRange>(&view))
         return Json {{"first", json(range->first)}, {"second", json(range->second)}}.dump();
     return {};

@@ -8,9 +8,9 @@
 
 namespace corvala::plot {
 
-/// What a canvas shows (Canvas::view) as a JSON text for documents; empty where that is the whole,
-/// as at the start.
-std::string viewText(const std::any& view);
+/// What a canvas that draws the plot type shows (Canvas::view) as a JSON text for documents; empty
+/// where that is the whole, as at the start.
+std::string viewText(const std::any& view, PlotType_e plotType);
 
 /// The view of a text, for a canvas that draws the plot type; an empty one for texts that are none.
 std::any viewOf(const std::string& text, PlotType_e plotType);

@@ -147,7 +147,7 @@ private Q_SLOTS:
         const plot::FrameView& view = *m_window->findChild<plot::FrameView*>();
         view.canvas()->setView(
             plot::viewOf(R"({"first": [[0.5, 1.5]], "second": [[1, 3.1]]})", PlotType_LineXY));
-        const std::string seen = plot::viewText(view.canvas()->view());
+        const std::string seen = plot::viewText(view.canvas()->view(), PlotType_LineXY);
         press("Cancel");
         QVERIFY(!m_window->close());
         press("Save");
@@ -163,7 +163,7 @@ private Q_SLOTS:
         QCOMPARE(m_window->windowTitle(), QStringLiteral("x.cvdoc[*] - corvala"));
         QCOMPARE(frame().lineReal(style::lineMap.lines.lineThickness, 1), 4.0);
         QVERIFY(!seen.empty());
-        QCOMPARE(plot::viewText(view.canvas()->view()), seen);
+        QCOMPARE(plot::viewText(view.canvas()->view(), PlotType_LineXY), seen);
         thicken(5.0);
         press("Discard");
         QVERIFY(m_window->close());

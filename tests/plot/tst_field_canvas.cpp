@@ -9,6 +9,7 @@
 #include "plot/field/view/legend.h"
 #include "plot/frame_view.h"
 #include "plot/render.h"
+#include "plot/stored_view.h"
 #include "plot_document.h"
 #include "tests/support/rows.h"
 
@@ -793,6 +794,14 @@ private Q_SLOTS:
             for (const QImage& other : std::as_const(pictures))
                 QVERIFY(shareOfChange(other, shown.grabbed()) > 0.01);
             pictures << shown.grabbed();
+            // A document keeps it.
+            const std::string stored = viewText(shown.canvas().view(), PlotType_Field3D);
+            QCOMPARE(stored.empty(), preset == ViewPreset::Corner);
+            shown.canvas().setView(std::any());
+            shown.canvas().setView(viewOf(stored, PlotType_Field3D));
+            shown.view.requestRedraw();
+            shown.settle();
+            QVERIFY(shareOfChange(pictures.last(), shown.grabbed()) < 0.001);
         }
         QCOMPARE(shareOfChange(corner, pictures.last()), 0.0);
         const QImage saved = shown.view.render(kSize, nullptr);
