@@ -16,4 +16,12 @@ void describe(QAction& command, const QString& what)
                                             .arg(what, keys));
 }
 
+void setUpCommand(QAction& command, const char* name, const QKeySequence& keys, const QString& what)
+{
+    command.setObjectName(QLatin1String(name));
+    command.setShortcut(keys);
+    command.setShortcutContext(Qt::ApplicationShortcut);
+    describe(command, what);
+}
+
 } // namespace corvala::app

@@ -51,11 +51,8 @@ QAction* DocumentCommands::addCommand(const QString& text, const char* icon,
                                       void (DocumentCommands::*command)())
 {
     auto* action = new QAction(text, this);
-    action->setObjectName(QLatin1String(icon));
     action->setIcon(commandIcon(icon));
-    action->setShortcut(keys);
-    action->setShortcutContext(Qt::ApplicationShortcut);
-    describe(*action, tip);
+    setUpCommand(*action, icon, keys, tip);
     connect(action, &QAction::triggered, this, command);
     return action;
 }

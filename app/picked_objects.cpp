@@ -48,12 +48,17 @@ host::NumberSet pickedMaps()
     return maps;
 }
 
-QString pickedText()
+CvlInt64 pickedObject()
 {
     const std::vector<CvlInt64> numbers = pickedObjects();
-    const auto count = static_cast<int>(numbers.size());
+    return numbers.empty() ? 0 : numbers.front();
+}
+
+QString pickedText()
+{
+    const auto count = static_cast<int>(pickedObjects().size());
     if (count < 2)
-        return objectText(count == 0 ? 0 : numbers.front());
+        return objectText(pickedObject());
     return PickedObjects::tr("%Ln object(s) picked", nullptr, count);
 }
 

@@ -18,7 +18,10 @@ void pickObject(CvlInt64 number);
 /// What the zone or the line map is, such as "Zone 3: wing/upper, 12,345 cells"; empty for 0.
 QString objectText(CvlInt64 number);
 
-/// The same of what is picked in the active frame, when it is one; else how many they are.
+/// The first of what is picked in the active frame, of the kind that it shows; 0 without.
+CvlInt64 pickedObject();
+
+/// The text of what is picked in the active frame, when it is one; else how many they are.
 QString pickedText();
 
 /// The map of a zone or line map; 0 for none.

@@ -8,6 +8,7 @@
 #include "plot/frame_view.h"
 
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QMainWindow>
 #include <QMenu>
 
@@ -46,6 +47,18 @@ PlotMenu::PlotMenu(QMainWindow& window, plot::FrameView& view, const ViewCommand
     , m_views(views)
 {
     connect(&view, &plot::FrameView::menuWanted, this, &PlotMenu::open);
+    view.installEventFilter(this);
+}
+
+bool PlotMenu::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ContextMenu
+        && static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard) {
+        const auto& view = static_cast<const QWidget&>(*watched);
+        open(pickedObject(), view.mapToGlobal(view.rect().center()));
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 static host::NumberSet activeMaps()

@@ -17,7 +17,8 @@ namespace corvala::app {
 
 class ViewCommands;
 
-/// What a right click in the plot offers for the zone or line there.
+/// What a right click in the plot offers for the zone or line there, and the menu key for the one
+/// that is picked.
 class PlotMenu : public QObject
 {
     Q_OBJECT
@@ -31,6 +32,7 @@ Q_SIGNALS:
     void pickWanted(CvlInt64 number, bool activate);
 
 private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void open(CvlInt64 number, const QPoint& place);
     void addObjectCommands(QMenu& menu, CvlInt64 number);
 

@@ -39,10 +39,7 @@ QAction* TimeBar::addCommand(const char* name, const char* icon, const QString& 
                              const QString& tip, const QKeySequence& keys)
 {
     QAction* const command = addAction(commandIcon(icon), text);
-    command->setObjectName(QLatin1String(name));
-    command->setShortcut(keys);
-    command->setShortcutContext(Qt::ApplicationShortcut);
-    describe(*command, tip);
+    setUpCommand(*command, name, keys, tip);
     m_commands << command;
     return command;
 }

@@ -52,15 +52,11 @@ ViewCommands::ViewCommands(QMainWindow& window, plot::FrameView* view, NoticeBar
     showModes();
 }
 
-/// The keys of a command work in the style dialog too.
 QAction* ViewCommands::add(const char* name, const QString& text, const QString& tip,
                            const QKeySequence& keys, const std::function<void()>& command)
 {
     QAction* const action = m_menu->addAction(text);
-    action->setObjectName(QLatin1String(name));
-    action->setShortcut(keys);
-    action->setShortcutContext(Qt::ApplicationShortcut);
-    describe(*action, tip);
+    setUpCommand(*action, name, keys, tip);
     if (command)
         connect(action, &QAction::triggered, this, command);
     m_ofPlots.push_back(action);
@@ -89,7 +85,7 @@ void ViewCommands::addZooms()
     m_zoomBox->setIcon(commandIcon("zoom-select"));
     m_zoomBox->setCheckable(true);
     connect(m_zoomBox, &QAction::toggled, this, &ViewCommands::showModes);
-    const QAction* const selected =
+    QAction* const selected =
         add("zoomSelected", tr("Zoom to &Selected"),
             tr("Show the maps whose rows are selected in the style dialog, or what was clicked in "
                "the plot, as large as possible"),
@@ -100,7 +96,7 @@ void ViewCommands::addZooms()
                              QKeySequence::ZoomOut, [this] { zoomBy(0.8); });
     in->setIcon(commandIcon("zoom-in"));
     out->setIcon(commandIcon("zoom-out"));
-    m_ofBoxes = {m_zoomBox, const_cast<QAction*>(selected), in, out};
+    m_ofBoxes = {m_zoomBox, selected, in, out};
     m_previous = add("previousView", tr("P&revious View"),
                      tr("Go back to what was seen before the view was last changed"),
                      QKeySequence(QStringLiteral("Ctrl+Shift+0")), [this] {

@@ -9,13 +9,10 @@
 #include "plot/render.h"
 #include "plot/stored_view.h"
 
-#include <QContextMenuEvent>
 #include <QLabel>
 #include <QStackedLayout>
 
 #include <utility>
-
-#include <algorithm>
 
 namespace corvala::plot {
 
@@ -115,15 +112,6 @@ void FrameView::setStartPage(QWidget* page)
         showHint();
 }
 
-/// As the frame was seen when it was saved, if it was.
-static std::any storedView(const QPair<CvlUniqueId, int>& key)
-{
-    const host::Frame* const frame = host::Document::instance().frame(key.first);
-    const auto view = frame->views().find(key.second);
-    return view == frame->views().end() ? std::any()
-                                        : viewOf(view->second, static_cast<PlotType_e>(key.second));
-}
-
 void FrameView::keepViews()
 {
     if (m_canvas)
@@ -147,7 +135,10 @@ void FrameView::showFrame(const ViewKey& key)
     m_canvas->leaveMouse();
     if (m_canvas->scene().frameId() != key.first)
         m_canvas->scene().setFrame(key.first);
-    m_canvas->setView(m_views.contains(key) ? m_views.value(key) : storedView(key));
+    m_canvas->setView(m_views.contains(key)
+                          ? m_views.value(key)
+                          : storedView(*host::Document::instance().frame(key.first),
+                                       static_cast<PlotType_e>(key.second)));
     m_layout->setCurrentWidget(m_canvas);
     requestRedraw();
 }
@@ -278,20 +269,6 @@ void FrameView::setOutlined(const host::NumberSet& maps)
     for (Canvas* const canvas : m_canvases)
         if (canvas)
             canvas->setOutlined(canvas == m_canvas ? maps : host::NumberSet());
-}
-
-/// A key asks for the menu of what is picked.
-void FrameView::contextMenuEvent(QContextMenuEvent* event)
-{
-    const host::Frame* const frame = host::Document::instance().frame(m_key.first);
-    if (event->reason() != QContextMenuEvent::Keyboard || !frame)
-        return;
-    const int wanted = frame->isFieldPlot() ? PickType_Zone : PickType_LineMap;
-    const auto pick =
-        std::find_if(frame->picks().begin(), frame->picks().end(),
-                     [wanted](const host::Pick& each) { return each.type == wanted; });
-    Q_EMIT menuWanted(pick == frame->picks().end() ? 0 : pick->number,
-                      mapToGlobal(rect().center()));
 }
 
 /// Waits for the picture: what is drawn and seen is known then.

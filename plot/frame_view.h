@@ -87,7 +87,6 @@ Q_SIGNALS:
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     enum Kind { Field, Line, KindCount };

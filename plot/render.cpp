@@ -16,9 +16,7 @@ QString paintFrame(CvlUniqueId frame, QPaintDevice& device, Paper paper,
     const host::Frame* const drawn = host::Document::instance().frame(frame);
     if (!drawn || !drawn->hasData() || !(drawn->isFieldPlot() || drawn->isLinePlot()))
         return QCoreApplication::translate("corvala::plot", "The frame shows no data");
-    const auto stored = drawn->views().find(drawn->plotType());
-    const std::any view =
-        stored == drawn->views().end() ? std::any() : viewOf(stored->second, drawn->plotType());
+    const std::any view = storedView(*drawn, drawn->plotType());
     if (!drawn->isFieldPlot())
         return paintLines(frame, std::any_cast<ChartRange>(&view), nullptr, device, paper, notes);
     const auto* const camera = std::any_cast<CameraState>(&view);

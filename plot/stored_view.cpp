@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/stored_view.h"
 
+#include "host/document/frame.h"
 #include "plot/field/view/field_view.h"
 #include "plot/line/line_axes.h"
 
@@ -86,6 +87,12 @@ std::any viewOf(const std::string& text, PlotType_e plotType)
     } catch (const Json::exception&) {
         return {}; // also where there is no text
     }
+}
+
+std::any storedView(const host::Frame& frame, PlotType_e plotType)
+{
+    const auto view = frame.views().find(plotType);
+    return view == frame.views().end() ? std::any() : viewOf(view->second, plotType);
 }
 
 } // namespace corvala::plot

@@ -6,6 +6,10 @@
 #include <any>
 #include <string>
 
+namespace corvala::host {
+class Frame;
+}
+
 namespace corvala::plot {
 
 /// What a canvas that draws the plot type shows (Canvas::view) as a JSON text for documents; empty
@@ -14,5 +18,8 @@ std::string viewText(const std::any& view, PlotType_e plotType);
 
 /// The view of a text, for a canvas that draws the plot type; an empty one for texts that are none.
 std::any viewOf(const std::string& text, PlotType_e plotType);
+
+/// As a frame was seen in a plot type when it was saved; empty if it was not.
+std::any storedView(const host::Frame& frame, PlotType_e plotType);
 
 } // namespace corvala::plot

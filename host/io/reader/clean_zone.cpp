@@ -50,20 +50,21 @@ static void cleanAttributes(vtkDataSetAttributes& source, vtkIdType tuples,
     }
 }
 
-vtkDataSet& ZoneCleaner::clean(vtkDataSet& zone)
+vtkSmartPointer<vtkDataSet> cleanZone(vtkDataSet& zone, QSet<QString>& droppedArrays)
 {
     // Only the plain kinds are handed over: a grid with holes is an image with ghost cells.
     // Each zone is an object of its own: one that is used again keeps the kinds of cells it had.
+    vtkSmartPointer<vtkDataSet> copy;
     if (vtkImageData::SafeDownCast(&zone))
-        m_zone = vtkSmartPointer<vtkImageData>::New();
+        copy = vtkSmartPointer<vtkImageData>::New();
     else
-        m_zone.TakeReference(zone.NewInstance());
-    m_zone->CopyStructure(&zone);
-    cleanAttributes(*zone.GetPointData(), zone.GetNumberOfPoints(), *m_zone->GetPointData(),
-                    m_droppedArrays);
-    cleanAttributes(*zone.GetCellData(), zone.GetNumberOfCells(), *m_zone->GetCellData(),
-                    m_droppedArrays);
-    return *m_zone;
+        copy.TakeReference(zone.NewInstance());
+    copy->CopyStructure(&zone);
+    cleanAttributes(*zone.GetPointData(), zone.GetNumberOfPoints(), *copy->GetPointData(),
+                    droppedArrays);
+    cleanAttributes(*zone.GetCellData(), zone.GetNumberOfCells(), *copy->GetCellData(),
+                    droppedArrays);
+    return copy;
 }
 
 static int cellDimension(vtkDataSet& zone)

@@ -10,20 +10,9 @@
 
 namespace corvala::host::io::reader {
 
-/// Makes zones as they are handed over: only arrays of numbers that fit their points or cells,
-/// under clean names.
-class ZoneCleaner
-{
-public:
-    /// It shares points, cells and values with the original, and is good until the next one is
-    /// made.
-    vtkDataSet& clean(vtkDataSet& zone);
-    const QSet<QString>& droppedArrays() const { return m_droppedArrays; }
-
-private:
-    vtkSmartPointer<vtkDataSet> m_zone;
-    QSet<QString> m_droppedArrays;
-};
+/// A zone as it is handed over: only arrays of numbers that fit its points or cells, under clean
+/// names. It shares points, cells and values with the original.
+vtkSmartPointer<vtkDataSet> cleanZone(vtkDataSet& zone, QSet<QString>& droppedArrays);
 
 /// Kind, dimensions and counts of a zone.
 ZoneInfo zoneInfo(vtkDataSet& zone);

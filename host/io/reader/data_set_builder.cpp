@@ -2,6 +2,7 @@
 #include "host/io/reader/data_set_builder.h"
 
 #include "host/io/reader/channel.h"
+#include "host/io/reader/clean_zone.h"
 #include "host/io/reader/file_format.h"
 #include "host/io/reader/read_failure.h"
 #include "host/io/reader/vector_proposal.h"
@@ -260,14 +261,14 @@ void DataSetBuilder::addLeaf(Block& block, vtkDataSet* data, double time)
 {
     if (!data)
         return;
-    vtkDataSet& zone = m_cleaner.clean(*data);
-    ZoneInfo info = zoneInfo(zone);
+    const vtkSmartPointer<vtkDataSet> zone = cleanZone(*data, m_droppedArrays);
+    ZoneInfo info = zoneInfo(*zone);
     info.time = time;
-    m_variables.add(zone);
+    m_variables.add(*zone);
     if (block.zones.empty())
-        m_enclosure.add(zone, info);
-    m_bounds.AddBounds(zone.GetBounds());
-    info.sourceIndex = m_writer.write(zone);
+        m_enclosure.add(*zone, info);
+    m_bounds.AddBounds(zone->GetBounds());
+    info.sourceIndex = m_writer.write(*zone);
     block.zones.push_back(info);
 }
 
@@ -290,8 +291,8 @@ void DataSetBuilder::noteOmissions()
         m_index.notes.emplace_back(
             QT_TRANSLATE_NOOP("ReadMessage", "%1 empty blocks were left out."),
             std::initializer_list<QString> {QString::number(empty)});
-    if (!m_cleaner.droppedArrays().isEmpty()) {
-        QStringList names = m_cleaner.droppedArrays().values();
+    if (!m_droppedArrays.isEmpty()) {
+        QStringList names = m_droppedArrays.values();
         names.sort();
         m_index.notes.emplace_back(
             QT_TRANSLATE_NOOP("ReadMessage",

@@ -3,13 +3,13 @@
 
 #include "host/io/read_protocol.h"
 #include "host/io/reader/block_tree.h"
-#include "host/io/reader/clean_zone.h"
 #include "host/io/reader/data_file.h"
 #include "host/io/reader/enclosure.h"
 #include "host/io/reader/read_failure.h"
 #include "host/io/reader/variable_list.h"
 #include "host/io/reader/zone_writer.h"
 
+#include <QSet>
 #include <QString>
 
 #include <functional>
@@ -71,7 +71,7 @@ private:
     bool m_hasCoordinates = false; ///< in some file
     int m_otherDialects = 0; ///< files whose dialect is another one than that of the first
     std::optional<ReadFailure> m_fault; ///< of the first zone of the file that is left out
-    ZoneCleaner m_cleaner;
+    QSet<QString> m_droppedArrays;
     std::set<QString> m_warnings; ///< with the names of the files
     std::size_t m_fileNumber = 0;
     std::size_t m_fileCount = 1;
