@@ -47,13 +47,29 @@ std::int64_t placesBetween(const std::string& first, const std::string& last)
     return std::max<std::int64_t>(-1, numberOf(lastDigits) - numberOf(digits));
 }
 
+/// Makes a name with a number at its end the next one.
+static void countOn(std::string& name)
+{
+    std::size_t place = name.size();
+    while (place > 0 && name[place - 1] == '9')
+        name[--place] = '0';
+    if (place > 0 && name[place - 1] >= '0' && name[place - 1] < '9')
+        ++name[place - 1];
+    else
+        name.insert(place, 1, '1');
+}
+
 void NameList::add(const std::string& first, std::int64_t count)
 {
     m_count += count;
-    if (!m_runs.empty() && placesBetween(m_runs.back().first, first) == m_runs.back().count)
+    if (!m_runs.empty() && first == m_next) {
         m_runs.back().count += count;
-    else
+        if (count == 1)
+            return countOn(m_next);
+    } else {
         m_runs.push_back({first, count});
+    }
+    m_next = countedName(m_runs.back().first, m_runs.back().count);
 }
 
 std::vector<std::string> NameList::names() const

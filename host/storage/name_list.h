@@ -33,6 +33,7 @@ public:
 
 private:
     std::vector<Run> m_runs; ///< as long as can be
+    std::string m_next; ///< the name that would make the last run longer; empty for none
     std::int64_t m_count = 0;
 };
 

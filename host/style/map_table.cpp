@@ -129,10 +129,14 @@ template<class T>
 std::shared_ptr<MapTable::Chunk<T>> MapTable::chunkOfValues(const Attribute& attribute,
                                                             MapRange range) const
 {
-    auto copy = std::make_shared<Chunk<T>>();
-    for (std::int64_t map = range.first; map <= range.last; ++map)
-        (*copy)[placeInChunk(map)] = value<T>(attribute, map);
-    return copy;
+    if (const ChunkPointer& chunk = chunkOf(attribute, range.first))
+        return std::make_shared<Chunk<T>>(*static_cast<const Chunk<T>*>(chunk.get()));
+    auto values = std::make_shared<Chunk<T>>();
+    values->fill(defaultValue<T>(attribute, range.first));
+    if (attribute.rule != DefaultRule::Constant)
+        for (std::int64_t map = range.first; map <= range.last; ++map)
+            (*values)[placeInChunk(map)] = defaultValue<T>(attribute, map);
+    return values;
 }
 
 /// The chunk's values with the new one in the given places.

@@ -18,12 +18,12 @@ namespace corvala::host {
 std::int32_t cyclingColor(std::int64_t map);
 
 /// Style values of all maps of one kind in one frame, stored by column in copy-on-write chunks of
-/// 1024 maps. A chunk that nobody wrote to is absent, so maps with default style cost nothing but
+/// 128 maps. A chunk that nobody wrote to is absent, so maps with default style cost nothing but
 /// their share of one pointer per attribute. Map numbers are from 1 and not checked here.
 class MapTable
 {
 public:
-    static constexpr std::size_t kChunkSize = 1024;
+    static constexpr std::size_t kChunkSize = 128;
     using ChunkPointer = std::shared_ptr<const void>;
 
     /// One chunk before and after a write; the unit of undo.
