@@ -219,7 +219,9 @@ void assign(style::VariableKey key, const host::NumberSet& maps, int variable)
 {
     if (maps.isEmpty())
         return;
-    Document::instance().execute(host::SetStyle {host::pathOf(key), double(variable), maps});
+    host::SetStyle value {host::pathOf(key), double(variable), maps};
+    value.undoable = false; // it is where the user begins
+    Document::instance().execute(value);
 }
 
 /// Map n plots variable 2 + (n - 1) mod 3 over "Time", and "Gain" over "Angle" on a polar plot.
@@ -235,7 +237,6 @@ void assignLineVariables(std::int64_t maps)
     }
     assign(style::lineMap.assign.thetaAxisVar, host::allUpTo(maps), kAngle);
     assign(style::lineMap.assign.rAxisVar, host::allUpTo(maps), kAngle + 1);
-    Document::instance().undo().clear();
 }
 
 } // namespace
