@@ -67,12 +67,12 @@ QString assignmentText(const Attribute& attribute, const StyleInput& value, std:
              mapCountText(attribute.scope, maps));
 }
 
-QString activationText(Scope scope, AssignOp_e op, std::uint64_t maps)
+QString activationText(AssignOp_e op, const QString& maps)
 {
     const char* const text = op == AssignOp_Add ? QT_TRANSLATE_NOOP("UndoTexts", "Activate %1")
         : op == AssignOp_Remove                 ? QT_TRANSLATE_NOOP("UndoTexts", "Deactivate %1")
-                                : QT_TRANSLATE_NOOP("UndoTexts", "Activate only %1");
-    return undoText(text).arg(mapCountText(scope, maps));
+                                                : QT_TRANSLATE_NOOP("UndoTexts", "Show only %1");
+    return undoText(text).arg(maps);
 }
 
 } // namespace corvala::host

@@ -18,8 +18,9 @@ QString assignmentText(const Attribute& attribute, const StyleInput& value);
 /// "Mesh type = Overlay (3 field maps)".
 QString assignmentText(const Attribute& attribute, const StyleInput& value, std::uint64_t maps);
 
-/// "Activate 3 field maps", "Deactivate 1 line map", "Activate only 2 field maps".
-QString activationText(Scope scope, AssignOp_e op, std::uint64_t maps);
+/// "Activate 3 field maps", "Deactivate wing", "Show only 2 field maps"; `maps` says which or how
+/// many.
+QString activationText(AssignOp_e op, const QString& maps);
 
 /// A text of the undo list.
 QString undoText(const char* text);

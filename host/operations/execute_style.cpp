@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "host/document/line_map_name.h"
 #include "host/document/style_conversion.h"
 #include "host/document/undo_texts.h"
 #include "host/operations/executor.h"
@@ -160,6 +161,19 @@ static NumberSet mapsOf(const FieldMapList& fieldMaps, const NumberSet& operand,
     return maps;
 }
 
+/// One by its name, more by their number.
+static QString mapsText(const Frame& frame, const NumberSet& maps, bool areLines)
+{
+    if (maps.cardinality() == 1) {
+        const CvlInt64 map = maps.minimum();
+        const CvlInt64 zone = areLines ? 0 : frame.candidateZone(map);
+        if (areLines || zone > 0)
+            return QString::fromStdString(areLines ? shownLineMapName(frame, map)
+                                                   : frame.data()->zone(zone).name);
+    }
+    return mapCountText(areLines ? Scope::LineMap : Scope::FieldMap, maps.cardinality());
+}
+
 Outcome Executor::writeSet(const Attribute& attribute, const SetStyle& operation)
 {
     const auto* const given = std::get_if<NumberSet>(&operation.value);
@@ -187,8 +201,7 @@ Outcome Executor::writeSet(const Attribute& attribute, const SetStyle& operation
 
     Change change;
     change.frame = m_frame->id();
-    change.text =
-        activationText(areLines ? Scope::LineMap : Scope::FieldMap, op, operand.cardinality());
+    change.text = activationText(op, mapsText(*m_frame, operand, areLines));
     change.events = {styleEvent(m_frame, attribute, {{attribute.id, before ^ after}})};
     change.delta = SetDelta {set, before, after};
     return perform(std::move(change), operation.undoable);
