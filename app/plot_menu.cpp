@@ -67,12 +67,12 @@ static host::NumberSet activeMaps()
     return frame.isFieldPlot() ? frame.activeFieldMaps() : frame.activeLineMaps();
 }
 
-static void showMaps(const host::NumberSet& maps)
+static void showMaps(const host::NumberSet& maps, AssignOp_e op = AssignOp_None)
 {
     const bool isField = Document::instance().activeFrame()->isFieldPlot();
     const style::Key key =
         isField ? style::Key(style::activeFieldMaps) : style::Key(style::activeLineMaps);
-    Document::instance().execute(host::SetStyle {host::pathOf(key), maps});
+    Document::instance().execute(host::SetStyle {host::pathOf(key), maps, {}, -1, op});
 }
 
 static host::NumberSet allMaps()
@@ -95,11 +95,8 @@ void PlotMenu::addObjectCommands(QMenu& menu, CvlInt64 number)
     menu.addSeparator();
     menu.addAction(isField ? tr("&Pick This Zone") : tr("&Pick This Line"), this,
                    [this, number] { Q_EMIT pickWanted(number, false); });
-    menu.addAction(isField ? tr("&Hide This Zone") : tr("&Hide This Line"), this, [map] {
-        host::NumberSet maps = activeMaps();
-        maps.remove(map);
-        showMaps(maps);
-    });
+    menu.addAction(isField ? tr("&Hide This Zone") : tr("&Hide This Line"), this,
+                   [map] { showMaps(host::NumberSet::bitmapOf(1, map), AssignOp_Remove); });
     menu.addAction(isField ? tr("Show &Only This Zone") : tr("Show &Only This Line"), this,
                    [map] { showMaps(host::NumberSet::bitmapOf(1, map)); });
     menu.addAction(isField ? tr("&Style of This Zone...") : tr("&Style of This Line..."), this,
@@ -120,7 +117,7 @@ void PlotMenu::open(CvlInt64 number, const QPoint& place)
         addObjectCommands(*menu, number);
     const bool isField = Document::instance().activeFrame()->isFieldPlot();
     menu->addAction(isField ? tr("Show &All Zones") : tr("Show &All Lines"), this,
-                    [] { showMaps(allMaps()); })
+                    [] { showMaps(allMaps(), AssignOp_Add); })
         ->setEnabled(!(activeMaps() == allMaps()));
     menu->addSeparator();
     menu->addActions({&m_views.zoomBox(), &m_views.fit()});
