@@ -27,7 +27,9 @@ void PictureNotes::tell(const std::vector<plot::SceneNote>& notes)
     }
     if (!note->mending)
         m_note = m_bar.tell(text, tr("Plot Details..."),
-                            [this, value = note->about] { Q_EMIT detailsWanted(value); });
+                            [this, value = note->about, index = note->index] {
+                                Q_EMIT detailsWanted(value, index);
+                            });
     else
         m_note = m_bar.tell(text, note->caption, [value = *note->mending] {
             host::Document::instance().execute(value);

@@ -27,7 +27,7 @@ public:
 
 Q_SIGNALS:
     /// The user asks for the values of the frame among which this one is.
-    void detailsWanted(corvala::style::Key value);
+    void detailsWanted(corvala::style::Key value, int index);
 
 private:
     NoticeBar& m_bar;

@@ -127,6 +127,12 @@ void DetailPageWidget::hideEvent(QHideEvent* event)
     endPicking();
 }
 
+void DetailPageWidget::showIndex(int index)
+{
+    if (m_index && index > 0)
+        m_index->setCurrentIndex(index - 1);
+}
+
 void DetailPageWidget::chooseIndex(int index)
 {
     for (const Line& line : m_lines)

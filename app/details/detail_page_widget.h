@@ -29,6 +29,8 @@ public:
     DetailPageWidget(const DetailPage& page, Proposal proposal, QWidget* parent = nullptr);
 
     void refresh(const host::Frame& frame);
+    /// Of an indexed value, from 1; others are shown anyway.
+    void showIndex(int index);
     /// Lets the button go with which places are picked.
     void endPicking();
 

@@ -112,12 +112,15 @@ void DetailsDock::openPage(const QString& name)
     m_stack->currentWidget()->setFocus();
 }
 
-void DetailsDock::openPageOf(style::Key value)
+void DetailsDock::openPageOf(style::Key value, int index)
 {
-    for (const DetailPage& page : detailPages())
-        if (std::any_of(page.rows.begin(), page.rows.end(),
-                        [value](const DetailRow& row) { return row.key == value; }))
-            openPage(QLatin1String(page.name));
+    const std::vector<DetailPage>& pages = detailPages();
+    for (std::size_t i = 0; i < pages.size(); ++i)
+        if (std::any_of(pages[i].rows.begin(), pages[i].rows.end(),
+                        [value](const DetailRow& row) { return row.key == value; })) {
+            m_pages[i]->showIndex(index);
+            openPage(QLatin1String(pages[i].name));
+        }
 }
 
 void DetailsDock::endPicking()

@@ -27,8 +27,8 @@ public:
     void refresh();
     /// Opens the page of this name.
     void openPage(const QString& name);
-    /// Opens the page that shows this value.
-    void openPageOf(style::Key value);
+    /// Opens the page that shows this value; of an indexed one that of the index, from 1.
+    void openPageOf(style::Key value, int index);
     /// Lets the button go with which places are picked.
     void endPicking();
 

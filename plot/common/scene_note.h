@@ -19,6 +19,7 @@ struct SceneNote
     style::Key about; ///< a value of the style that it comes from
     QString caption = {}; ///< of what mends it; empty without
     std::optional<host::SetStyle> mending = {};
+    int index = -1; ///< of an indexed value, from 1
 };
 
 /// Gives the frame a value; `index`, from 1, is that of one of several.

@@ -178,7 +178,10 @@ std::optional<SceneNote> Notes::lines() const
                                  "which is no number.")
                                   .arg(group)
                                   .arg(rest),
-                              groups.moreLines};
+                              groups.moreLines,
+                              {},
+                              {},
+                              group};
     }
     return std::nullopt;
 }
