@@ -5222,7 +5222,7 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     </message>
     <message>
         <source>Sa&amp;mples</source>
-        <translation>&amp;Beispiele</translation>
+        <translation>B&amp;eispiele</translation>
     </message>
     <message>
         <source>2D field, 12 zones</source>
@@ -5277,7 +5277,7 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     </message>
     <message>
         <source>D&amp;etails Of</source>
-        <translation>&amp;Einzelheiten zu</translation>
+        <translation>E&amp;inzelheiten zu</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -5321,7 +5321,7 @@ Lizenz: GPL-3.0-or-later</translation>
     </message>
     <message>
         <source>Save Pict&amp;ure...</source>
-        <translation>Bild s&amp;peichern...</translation>
+        <translation>B&amp;ild speichern...</translation>
     </message>
     <message>
         <source>Write the plot to a file: PNG, PDF, SVG, TIFF and others</source>
@@ -5381,7 +5381,7 @@ Lizenz: GPL-3.0-or-later</translation>
     </message>
     <message>
         <source>Solution &amp;Time</source>
-        <translation>Lösungs&amp;zeit</translation>
+        <translation>&amp;Lösungszeit</translation>
     </message>
     <message>
         <source>Tell which program this is</source>
@@ -5405,7 +5405,7 @@ Lizenz: GPL-3.0-or-later</translation>
     </message>
     <message>
         <source>&amp;Close Data</source>
-        <translation>Daten &amp;schließen</translation>
+        <translation>Daten s&amp;chließen</translation>
     </message>
     <message>
         <source>Drop the data of this plot, with their style</source>
@@ -5921,7 +5921,7 @@ Lizenz: GPL-3.0-or-later</translation>
     </message>
     <message>
         <source>&amp;Parallel Projection</source>
-        <translation>Parallel&amp;projektion</translation>
+        <translation>Parallelpro&amp;jektion</translation>
     </message>
     <message>
         <source>Show what is far away as large as what is near</source>
@@ -5937,7 +5937,7 @@ Lizenz: GPL-3.0-or-later</translation>
     </message>
     <message>
         <source>F&amp;ull Screen</source>
-        <translation>&amp;Ganzer Bildschirm</translation>
+        <translation>Ganzer &amp;Bildschirm</translation>
     </message>
     <message>
         <source>Give the window all of the screen; Esc leaves</source>
