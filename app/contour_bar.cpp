@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/contour_bar.h"
 
+#include "app/bar_field.h"
+#include "app/bar_switch.h"
 #include "app/details/detail_field.h"
 #include "app/help_reference.h"
 #include "host/document/document.h"
@@ -12,7 +14,9 @@
 #include <QActionGroup>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
+#include <QPainter>
 #include <QToolButton>
 
 namespace corvala::app {
@@ -29,15 +33,16 @@ ContourBar::ContourBar(QWidget* parent)
     constexpr int kMostLetters = 22;
     const int letter = fontMetrics().averageCharWidth();
     setObjectName(QStringLiteral("contourBar"));
+    m_switch = new BarSwitch(*this);
     setHelpReference(*this, QStringLiteral("window.html#contour"));
     auto* const label = new QLabel(tr("Co&ntour:"), this);
     label->setBuddy(m_variable);
     label->setMargin(4);
     m_variable->setObjectName(QStringLiteral("contourVariable"));
     m_variable->setAccessibleName(tr("Variable of contour group 1"));
-    m_variable->setToolTip(tr("Variable of contour group 1: type a part of its name to find it"));
     m_variable->setMinimumWidth(kFewestLetters * letter);
     m_variable->setMaximumWidth(kMostLetters * letter);
+    m_variable->lineEdit()->installEventFilter(this);
     connect(m_variable, &ui::ComboBoxAutoFilter::selectionComplete, this,
             [this] { write(kStyle.var, double(m_variable->currentIndex())); });
     makeColorMenu();
@@ -47,6 +52,26 @@ ContourBar::ContourBar(QWidget* parent)
 }
 
 ContourBar::~ContourBar() = default;
+
+void ContourBar::chooseVariable()
+{
+    goToField(*this, *m_variable);
+}
+
+/// A name that is too long shows its beginning, unless something is typed.
+bool ContourBar::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* const entry = m_variable->lineEdit();
+    if (watched != entry || event->type() != QEvent::Paint || entry->hasFocus())
+        return QToolBar::eventFilter(watched, event);
+    constexpr int kMargin = 2; // of texts in such a field
+    QPainter painter(entry);
+    const QRect place = entry->rect().adjusted(kMargin, 0, -kMargin, 0);
+    painter.setPen(entry->palette().color(QPalette::Text));
+    painter.drawText(place, Qt::AlignVCenter,
+                     entry->fontMetrics().elidedText(entry->text(), Qt::ElideRight, place.width()));
+    return true;
+}
 
 void ContourBar::makeColorMenu()
 {
@@ -97,6 +122,8 @@ void ContourBar::showVariables(const host::Frame& frame)
     const int shown = frame.integer(kStyle.var, kGroup);
     if (m_variable->currentIndex() != shown)
         m_variable->setCurrentIndex(shown);
+    m_variable->setToolTip(tr("%1\nVariable of contour group 1: type a part of its name to find it")
+                               .arg(m_variable->itemText(shown)));
 }
 
 void ContourBar::showColors(const host::Frame& frame)
@@ -112,7 +139,7 @@ void ContourBar::refresh()
 {
     const host::Frame* const frame = host::Document::instance().activeFrame();
     const bool isShown = frame && frame->hasData() && frame->isFieldPlot();
-    setVisible(isShown);
+    m_switch->setNeeded(isShown);
     if (!isShown)
         return;
     showVariables(*frame);

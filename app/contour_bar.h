@@ -16,6 +16,8 @@ class ComboBoxAutoFilter;
 
 namespace corvala::app {
 
+class BarSwitch;
+
 /// The variable and the colours of the first contour group; hidden for line plots.
 class ContourBar : public QToolBar
 {
@@ -28,6 +30,11 @@ public:
     /// Shows what the document says.
     void refresh();
 
+    /// Opens the list of variables, wherever there is room for it.
+    void chooseVariable();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     /// Range and levels are to be set on the page of this name.
     void detailsWanted(const QString& page);
@@ -39,6 +46,7 @@ private:
     void showColors(const host::Frame& frame);
 
     // Not owned.
+    BarSwitch* m_switch = nullptr;
     ui::ComboBoxAutoFilter* m_variable;
     QToolButton* m_colors;
     QAction* m_reversed = nullptr;

@@ -59,9 +59,21 @@ QAction* DocumentCommands::addCommand(const QString& text, const char* icon,
 
 void DocumentCommands::enable(bool enabled)
 {
-    m_new->setEnabled(enabled);
+    m_isEnabled = enabled;
+    refresh();
+}
+
+void DocumentCommands::refresh()
+{
+    const Document& document = Document::instance();
+    const host::Frame* const frame = document.activeFrame();
+    const bool hasData = frame && frame->hasData();
+    const bool isEmpty =
+        !hasData && document.frameCount() <= 1 && m_state.file().isEmpty() && !m_state.isChanged();
+    m_new->setEnabled(m_isEnabled && !isEmpty);
     for (QAction* const action : qAsConst(m_saveCommands))
-        action->setEnabled(enabled);
+        action->setEnabled(m_isEnabled && !isEmpty);
+    m_saveCommands.last()->setEnabled(m_isEnabled && hasData); // takes styles for data
 }
 
 QString DocumentCommands::title() const

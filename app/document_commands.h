@@ -33,6 +33,7 @@ public:
     QAction& newCommand() const { return *m_new; }
     const QList<QAction*>& saveCommands() const { return m_saveCommands; }
     void enable(bool enabled); ///< while nothing is read
+    void refresh(); ///< enables what the document allows
 
     /// From now on the user is asked before changes are lost, by a session that ends too.
     void askBeforeLosing();
@@ -77,6 +78,7 @@ private:
     DataOpener& m_opener;
     DocumentState m_state;
     bool m_asks = false;
+    bool m_isEnabled = true;
     // Owned by Qt.
     QAction* m_new = nullptr;
     QList<QAction*> m_saveCommands;

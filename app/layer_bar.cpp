@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/layer_bar.h"
 
+#include "app/bar_switch.h"
 #include "app/command_tips.h"
 #include "app/details/detail_pages.h"
 #include "app/help_reference.h"
@@ -61,6 +62,7 @@ LayerBar::LayerBar(QWidget* parent)
     : QToolBar(tr("Layers"), parent)
 {
     setObjectName(QStringLiteral("plotBar"));
+    m_switch = new BarSwitch(*this);
     setHelpReference(*this, QStringLiteral("window.html#layers"));
     setIconSize({kIconSize, kIconSize});
     addLayers();
@@ -147,6 +149,7 @@ void LayerBar::refresh()
         if (m_details[i])
             m_details[i]->setVisible(isShown);
     }
+    m_switch->setNeeded(hasData && (frame->isFieldPlot() || frame->isLinePlot()));
     chooseStyle();
 }
 

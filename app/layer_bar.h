@@ -10,6 +10,7 @@ class QAction;
 
 namespace corvala::app {
 
+class BarSwitch;
 struct DetailPage;
 
 /// The layers of the active frame to switch on and off.
@@ -40,6 +41,7 @@ private:
     QAction* addDetails(style::SwitchKey layer);
     void addOtherDetails();
 
+    BarSwitch* m_switch = nullptr; // not owned
     QList<QAction*> m_layers; // not owned
     QList<QAction*> m_details; ///< beside each of them; null without
     QAction* m_otherDetails = nullptr; // not owned

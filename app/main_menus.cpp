@@ -204,7 +204,22 @@ void MainMenus::makePlotMenu(QAction& details, const QList<QAction*>& layers)
            tr("Show or hide the panel of what is set for the plot as a whole"));
     addDetailsMenu(*menu);
     menu->addSeparator();
+    addChoices(*menu);
+    menu->addSeparator();
     menu->addActions(layers);
+}
+
+/// What is chosen in the toolbars, which a narrow window has no room for.
+void MainMenus::addChoices(QMenu& menu)
+{
+    m_plotType = menu.addAction(tr("Plot T&ype..."), this, &MainMenus::plotTypeWanted);
+    setUpCommand(*m_plotType, "choosePlotType", QKeySequence(QStringLiteral("Ctrl+T")),
+                 tr("Choose what kind of plot is shown"));
+    m_contourVariable =
+        menu.addAction(tr("Contour &Variable..."), this, &MainMenus::contourVariableWanted);
+    setUpCommand(*m_contourVariable, "chooseContourVariable",
+                 QKeySequence(QStringLiteral("Ctrl+K")),
+                 tr("Choose the variable that the colors of contour group 1 show"));
 }
 
 void MainMenus::addDetailsMenu(QMenu& menu)
@@ -282,6 +297,8 @@ void MainMenus::refresh(bool hasPlot)
     for (QAction* const command : {m_savePicture, m_copyPicture})
         command->setEnabled(frame && frame->hasData());
     enableDataCommands();
+    m_plotType->setEnabled(frame && frame->hasData());
+    m_contourVariable->setEnabled(frame && frame->hasData() && frame->isFieldPlot());
     m_details->setEnabled(hasPlot);
     for (auto page = m_detailPages.begin(); page != m_detailPages.end(); ++page)
         page.value()->setVisible(hasPlot && page.key()->isFor(*frame));

@@ -46,6 +46,8 @@ Q_SIGNALS:
     void pictureWanted();
     void pictureCopyWanted();
     void detailsWanted(const QString& page); ///< the name of the page
+    void plotTypeWanted(); ///< is to be chosen
+    void contourVariableWanted(); ///< is to be chosen
 
 private:
     void makeFileMenu(const DocumentCommands& documents);
@@ -55,6 +57,7 @@ private:
     void fillRecentMenu(QMenu& menu);
     void makeEditMenu();
     void makePlotMenu(QAction& details, const QList<QAction*>& layers);
+    void addChoices(QMenu& menu);
     void addDetailsMenu(QMenu& menu);
     void makeHelpMenu();
     void showAbout();
@@ -78,6 +81,8 @@ private:
     QAction* m_closeData = nullptr;
     bool m_isOpeningEnabled = true;
     QAction* m_copyPicture = nullptr;
+    QAction* m_plotType = nullptr;
+    QAction* m_contourVariable = nullptr;
 };
 
 /// Files that belong together, in a few words.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/main_window.h"
 
+#include "app/bar_field.h"
 #include "app/contour_bar.h"
 #include "app/data_commands.h"
 #include "app/details/details_dock.h"
@@ -25,6 +26,7 @@
 #include "app/time_bar.h"
 #include "app/view_commands.h"
 #include "app/window_memory.h"
+#include "app/window_place.h"
 #include "app/work_progress.h"
 #include "host/document/document.h"
 #include "plot/frame_view.h"
@@ -124,6 +126,9 @@ void MainWindow::makeBars()
     connect(m_menus, &MainMenus::tableWanted, m_data, &DataCommands::chooseTables);
     connect(m_menus, &MainMenus::moreDataWanted, m_data, &DataCommands::chooseMore);
     connect(m_menus, &MainMenus::closingWanted, m_data, &DataCommands::closeData);
+    connect(m_menus, &MainMenus::plotTypeWanted, m_plotType,
+            [this] { goToField(m_menus->toolBar(), m_plotType->field()); });
+    connect(m_menus, &MainMenus::contourVariableWanted, m_contourBar, &ContourBar::chooseVariable);
     connect(m_menus, &MainMenus::filesWanted, m_data,
             [this](const QStringList& files) { m_data->open(files); });
     connect(m_menus, &MainMenus::demoWanted, m_data, &DataCommands::openDemo);
@@ -264,6 +269,7 @@ void MainWindow::refreshTitle()
     const QString title = m_documents->title();
     setWindowTitle(title.isEmpty() ? tr("corvala") : tr("%1 - corvala").arg(title));
     setWindowModified(m_documents->state().isChanged());
+    m_documents->refresh();
 }
 
 void MainWindow::refresh()
@@ -275,6 +281,8 @@ void MainWindow::refresh()
     m_picked->setToolTip(pickedText());
     m_summary->setText(hasData ? summaryOf(*frame->data()) : QString());
     m_menus->refresh(hasData && m_plotArea->frameView());
+    // What is open can be closed.
+    m_details->toggleViewAction()->setEnabled(hasData || m_details->isVisible());
     m_views->refresh();
     m_plotType->refresh();
     m_layerBar->refresh();
@@ -304,9 +312,19 @@ void MainWindow::openFiles(const host::io::ReadRequest& request)
     m_data->open(request);
 }
 
+/// Much of a small screen, and of a larger one so much that the style dialog has room beside it.
+static QRect firstPlace(const QMainWindow& window)
+{
+    const QRect screen = window.screen()->availableGeometry();
+    const QSize size = window.sizeHint().boundedTo(screen.size() * 0.9 - frameOf(window));
+    const QSize free = screen.size() - size - frameOf(window);
+    return {screen.topLeft() + QPoint(free.width(), free.height()) / 4, size};
+}
+
 void MainWindow::restore()
 {
-    restoreWindow(*this);
+    new WindowPlace(*this, QStringLiteral("main"), [this] { return firstPlace(*this); });
+    restorePanels(*this);
     refresh(); // which bars show follows from the document, too
 }
 
@@ -335,11 +353,9 @@ void MainWindow::openStyleDialog(DialogInitialization_e initialization)
     app::openStyleDialog(*this, initialization);
 }
 
-void MainWindow::openStyleDialogBeside()
+void MainWindow::openStyleDialogWithData()
 {
-    QWidget& dialog = app::openStyleDialog(*this, DialogInitialization_None);
-    if (!knowsStyleDialog())
-        placeSideBySide(*this, dialog, screen()->availableGeometry());
+    m_styleDialog->openWithData();
 }
 
 const QAction& MainWindow::styleDialogCommand() const

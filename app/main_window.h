@@ -51,12 +51,12 @@ public:
     /// As DocumentCommands::askBeforeLosing, and before the window closes.
     void askBeforeLosing();
     void openStyleDialog(corvala::dialogs::common::DialogInitialization_e initialization);
-    /// Opens the style dialog beside the plot, or where it was in the former run, as at the start
-    /// of the program.
-    void openStyleDialogBeside();
+    /// Opens the style dialog, now or with the first data.
+    void openStyleDialogWithData();
     const QAction& styleDialogCommand() const; ///< checked while the style dialog is open
 
-    /// Comes to where it was in the former run; to be called before it is shown.
+    /// Keeps its place from run to run from now on, beginning with that of the former run; to be
+    /// called before it is shown.
     void restore();
 
     /// As PlotArea::saveCanvas.

@@ -43,6 +43,11 @@ PlotTypeChoice::PlotTypeChoice(QWidget* parent)
     });
 }
 
+QComboBox& PlotTypeChoice::field() const
+{
+    return *m_types;
+}
+
 void PlotTypeChoice::refresh()
 {
     const host::Frame* frame = Document::instance().activeFrame();

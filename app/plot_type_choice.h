@@ -18,6 +18,8 @@ public:
     /// Shows what the document says.
     void refresh();
 
+    QComboBox& field() const;
+
 private:
     QComboBox* m_types; // not owned
 };

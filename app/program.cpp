@@ -5,6 +5,7 @@
 #include "app/command_line.h"
 #include "app/data_opening.h"
 #include "app/display.h"
+#include "app/focus_style.h"
 #include "app/icons.h"
 #include "app/language.h"
 #include "app/main_window.h"
@@ -198,21 +199,12 @@ void startInteractive(MainWindow& window, const Options& options)
     window.askBeforeLosing();
     window.restore();
     window.show();
-    const bool opensDialog = wasStyleDialogOpen();
-    if (!options.files.isEmpty()) {
-        auto* first = new QObject(&window);
-        QObject::connect(&window, &MainWindow::openingEnded, first,
-                         [&window, opensDialog, first](bool opened) {
-                             first->deleteLater();
-                             if (opened && opensDialog)
-                                 window.openStyleDialogBeside();
-                         });
+    if (wasStyleDialogOpen())
+        window.openStyleDialogWithData();
+    if (!options.files.isEmpty())
         window.openFiles(options.request());
-    } else if (!options.demo.isEmpty()) {
+    else if (!options.demo.isEmpty())
         window.openDemo(options.demo);
-        if (opensDialog)
-            window.openStyleDialogBeside();
-    }
 }
 
 /// Complaints of the platform about what a run without a screen lacks are not the user's business.
@@ -250,6 +242,7 @@ static void setUpLocale()
 static int runApplication(int argc, char** argv, const Options& options)
 {
     QApplication application(argc, argv);
+    QApplication::setStyle(new FocusStyle);
     setUpLocale();
     // Scripts name what they see in English.
     setUpLanguage(options.isScripted() ? QStringList() : userLanguages());

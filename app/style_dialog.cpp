@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/style_dialog.h"
 
-#include "app/window_memory.h"
 #include "app/window_place.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
 
 #include <QMainWindow>
 #include <QRect>
 #include <QScreen>
-#include <QTimer>
 
 #include <algorithm>
 #include <set>
@@ -17,11 +15,6 @@ namespace corvala::app {
 
 using namespace corvala::dialogs::common;
 using corvala::sdk::ui::dialogs::ZoneStyleDialog;
-
-static constexpr int kNarrowestWindow = 380;
-
-/// The dialog becomes wider with what its status line and its tabs say.
-static constexpr int kRoomToGrow = 50;
 
 void offerAllLineTabs()
 {
@@ -44,23 +37,10 @@ static QRect plotOf(const QWidget& mainWindow)
     return plot ? QRect(plot->mapToGlobal({0, 0}), plot->size()) : mainWindow.frameGeometry();
 }
 
-/// After a window is shown; the window manager has told its frame by then.
-static constexpr int kFrameMilliseconds = 300;
-
 QWidget& openStyleDialog(QWidget& mainWindow, DialogInitialization_e initialization)
 {
-    const bool isFirst = !existingStyleDialog();
     ZoneStyleDialog& dialog = ZoneStyleDialog::getInstance(mainWindow, initialization);
     dialog.launch();
-    if (!isFirst)
-        return dialog;
-    dialog.allowNarrow(); // its preferred size is chosen
-    if (restoreStyleDialog(dialog))
-        keepOnScreen(dialog);
-    else
-        placeHidingLeast(mainWindow, plotOf(mainWindow), dialog,
-                         mainWindow.screen()->availableGeometry());
-    QTimer::singleShot(kFrameMilliseconds, &dialog, [&dialog] { keepOnScreen(dialog); });
     return dialog;
 }
 
@@ -98,9 +78,9 @@ static QRect placeHidingLeast(const QSize& size, const QRect& window, const QRec
     return best;
 }
 
-void placeHidingLeast(const QWidget& mainWindow, const QRect& plot, QWidget& dialog,
-                      const QRect& screen)
+QRect placeHidingLeast(const QWidget& mainWindow, const QWidget& dialog, const QRect& screen)
 {
+    const QRect plot = plotOf(mainWindow);
     const QSize frame = frameOf(dialog);
     const QRect window = mainWindow.frameGeometry();
     QSize size = (dialog.size() + frame).boundedTo(screen.size());
@@ -110,37 +90,7 @@ void placeHidingLeast(const QWidget& mainWindow, const QRect& plot, QWidget& dia
         size.setWidth(std::min(size.width(), narrow));
         place = placeHidingLeast(size, window, plot, screen);
     }
-    dialog.resize(place.size() - frame);
-    dialog.move(place.topLeft());
-}
-
-/// Gives a window a width with its frame, and its place in the height of an area.
-static void place(QWidget& window, const QRect& area, int left, int width)
-{
-    const QSize frame = frameOf(window);
-    const int height = std::min(window.height(), area.height() - frame.height());
-    window.resize(width - frame.width(), height);
-    const int free = std::max(area.height() - window.height() - frame.height(), 0);
-    window.move(left, area.top() + free / 2);
-}
-
-void placeSideBySide(QWidget& mainWindow, QWidget& dialog, const QRect& screen)
-{
-    const QRect area = screen.adjusted(0, 0, -kRoomToGrow, 0);
-    const int leastOfDialog = std::min(leastSize(dialog).width(), screen.width());
-    const int dialogWidth = std::max(
-        leastOfDialog,
-        std::min(dialog.width() + frameOf(dialog).width(), area.width() - kNarrowestWindow));
-    // Where there is no room for both the dialog lies over the window, which is as wide as it
-    // likes.
-    const int room = area.width() - dialogWidth;
-    const int windowWidth = std::min(mainWindow.width() + frameOf(mainWindow).width(),
-                                     room >= kNarrowestWindow ? room : screen.width());
-    const int free = area.width() - windowWidth - dialogWidth;
-    const int left = area.left() + std::max(free, 0) / 2;
-    place(mainWindow, screen, left, windowWidth);
-    const int right = std::min(left + windowWidth, screen.left() + screen.width() - dialogWidth);
-    place(dialog, screen, right, dialogWidth);
+    return {place.topLeft(), place.size() - frame};
 }
 
 } // namespace corvala::app

@@ -6,6 +6,7 @@
 #include "zonestyle/dialog/zone_style_dialog.h"
 
 #include <QChildEvent>
+#include <QScreen>
 #include <QTimer>
 
 namespace corvala::app {
@@ -21,25 +22,48 @@ StyleDialogCommand::StyleDialogCommand(QWidget& mainWindow)
     setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));
     setShortcutContext(Qt::ApplicationShortcut);
     const auto relevance = ZoneStyleDialog::relevance();
-    const auto follow = [this, relevance] { setEnabled(relevance->isRelevant()); };
+    const auto follow = [this, relevance] {
+        setEnabled(relevance->isRelevant());
+        if (isEnabled() && m_opensWithData) // when what comes with the data is done
+            QTimer::singleShot(0, this, [this] { openWithData(); });
+    };
     m_connection = relevance->connectChanged(follow);
     follow();
     mainWindow.installEventFilter(this);
     connect(this, &QAction::triggered, this, &StyleDialogCommand::openOrClose);
 }
 
+void StyleDialogCommand::openWithData()
+{
+    m_opensWithData = !isEnabled();
+    if (isEnabled())
+        openStyleDialog(m_mainWindow, corvala::dialogs::common::DialogInitialization_None);
+}
+
+void StyleDialogCommand::follow(QWidget& dialog)
+{
+    if (dialog.findChild<WindowPlace*>())
+        return;
+    new WindowPlace(dialog, QStringLiteral("styleDialog"), [this, &dialog] {
+        return placeHidingLeast(m_mainWindow, dialog, m_mainWindow.screen()->availableGeometry());
+    });
+    dialog.installEventFilter(this);
+}
+
 /// The dialog shows that it is there when it is first shown, whoever made it. It grows when it has
 /// more to show.
 bool StyleDialogCommand::eventFilter(QObject* watched, QEvent* event)
 {
-    QWidget* const dialog = existingStyleDialog();
+    ZoneStyleDialog* const dialog = ZoneStyleDialog::m_dialogInstance;
     if (event->type() == QEvent::ChildPolished
         && static_cast<const QChildEvent*>(event)->child() == dialog)
-        dialog->installEventFilter(this);
+        follow(*dialog);
     else if (watched == dialog && event->type() == QEvent::Resize && !event->spontaneous())
         QTimer::singleShot(0, dialog, [dialog] { keepOnScreen(*dialog); });
     else if (watched == dialog && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
         setChecked(event->type() == QEvent::Show);
+    if (watched == dialog && event->type() == QEvent::Show && !event->spontaneous())
+        dialog->allowNarrow(); // its preferred size is chosen, its place not yet
     return false;
 }
 

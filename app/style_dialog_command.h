@@ -17,11 +17,16 @@ public:
     /// Opens the dialog on the window, which must outlive the command.
     explicit StyleDialogCommand(QWidget& mainWindow);
 
+    /// Opens the dialog, when there is something to edit: now, or else with the next data.
+    void openWithData();
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void openOrClose();
+    void follow(QWidget& dialog);
 
+    bool m_opensWithData = false;
     QWidget& m_mainWindow;
     boost::signals2::scoped_connection m_connection;
 };

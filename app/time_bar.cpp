@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/time_bar.h"
 
+#include "app/bar_switch.h"
 #include "app/command_tips.h"
 #include "app/help_reference.h"
 #include "app/icons.h"
@@ -25,6 +26,7 @@ TimeBar::TimeBar(std::function<bool()> isBusy, QWidget* parent)
     , m_player(std::move(isBusy))
 {
     setObjectName(QStringLiteral("timeBar"));
+    m_switch = new BarSwitch(*this);
     setHelpReference(*this, QStringLiteral("window.html#time"));
     makeCommands();
     makeFields();
@@ -211,7 +213,7 @@ void TimeBar::refresh()
     const host::Frame* const frame = host::Document::instance().activeFrame();
     readTimes(frame ? frame->sharedData() : nullptr);
     const bool isShown = frame && frame->isFieldPlot() && m_times.size() > 1;
-    setVisible(isShown);
+    m_switch->setNeeded(isShown);
     for (QAction* const command : std::as_const(m_commands))
         command->setEnabled(isShown);
     if (!isShown) {

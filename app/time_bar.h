@@ -21,6 +21,8 @@ class NumberField;
 
 namespace corvala::app {
 
+class BarSwitch;
+
 /// Goes through the solution times of transient data; hidden for other data.
 class TimeBar : public QToolBar
 {
@@ -59,6 +61,7 @@ private:
     TimePlayer m_player;
     QList<QAction*> m_commands;
     // Not owned.
+    BarSwitch* m_switch = nullptr;
     QAction* m_first = nullptr;
     QAction* m_earlier = nullptr;
     QAction* m_play = nullptr;

@@ -3,7 +3,6 @@
 
 #include "app/style_dialog.h"
 #include "app/user_settings.h"
-#include "app/window_place.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -13,9 +12,7 @@
 
 namespace corvala::app {
 
-static const QString kWindow = QStringLiteral("windows/main");
 static const QString kPanels = QStringLiteral("windows/panels");
-static const QString kDialog = QStringLiteral("windows/styleDialog");
 static const QString kDialogIsOpen = QStringLiteral("windows/styleDialogIsOpen");
 
 WindowMemory::WindowMemory(QMainWindow& window, const QAction& styleDialog)
@@ -48,39 +45,19 @@ bool WindowMemory::eventFilter(QObject* watched, QEvent* event)
 void WindowMemory::save()
 {
     QSettings settings = userSettings();
-    settings.setValue(kWindow, m_window.saveGeometry());
     settings.setValue(kPanels, m_window.saveState());
-    if (const QWidget* const dialog = existingStyleDialog()) {
-        settings.setValue(kDialog, dialog->saveGeometry());
+    if (existingStyleDialog())
         settings.setValue(kDialogIsOpen, m_isDialogOpen);
-    }
 }
 
-static QByteArray remembered(const QString& key)
+void restorePanels(QMainWindow& window)
 {
-    return userSettings().value(key).toByteArray();
-}
-
-void restoreWindow(QMainWindow& window)
-{
-    if (window.restoreGeometry(remembered(kWindow)) && !window.isMaximized())
-        keepOnScreen(window);
-    window.restoreState(remembered(kPanels));
-}
-
-bool knowsStyleDialog()
-{
-    return !remembered(kDialog).isEmpty();
-}
-
-bool restoreStyleDialog(QWidget& dialog)
-{
-    return dialog.restoreGeometry(remembered(kDialog));
+    window.restoreState(userSettings().value(kPanels).toByteArray());
 }
 
 bool wasStyleDialogOpen()
 {
-    return userSettings().value(kDialogIsOpen, true).toBool();
+    return userSettings().value(kDialogIsOpen, false).toBool();
 }
 
 } // namespace corvala::app

@@ -5,12 +5,11 @@
 
 class QAction;
 class QMainWindow;
-class QWidget;
 
 namespace corvala::app {
 
-/// Keeps from run to run where the windows of the program stand, how large they are, and which
-/// panels and toolbars are open. Made by runs with a user only: batch work leaves no traces.
+/// Keeps from run to run which panels and toolbars are open, and whether the style dialog is. Made
+/// by runs with a user only.
 class WindowMemory : public QObject
 {
     Q_OBJECT
@@ -30,17 +29,10 @@ private:
     bool m_isDialogOpen = false; ///< also while all windows close
 };
 
-/// Brings the window to where it was in the former run, wholly on a screen of today, with its
-/// panels and toolbars. To be called before it is shown.
-void restoreWindow(QMainWindow& window);
+/// Brings back the panels and toolbars of the former run. To be called before the window is shown.
+void restorePanels(QMainWindow& window);
 
-/// A former run has shown the style dialog.
-bool knowsStyleDialog();
-
-/// Brings the style dialog, which is shown, to where it was; false when no former run showed it.
-bool restoreStyleDialog(QWidget& dialog);
-
-/// Whether the style dialog was open at the end of the former run; true without one.
+/// Whether the style dialog was open at the end of the former run; false without one.
 bool wasStyleDialogOpen();
 
 } // namespace corvala::app

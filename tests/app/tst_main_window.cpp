@@ -8,6 +8,7 @@
 #include "app/style_dialog.h"
 #include "app/user_settings.h"
 #include "app/window_memory.h"
+#include "app/window_place.h"
 #include "host/document/document.h"
 #include "play/dialog_driver.h"
 #include "play/idle.h"
@@ -504,14 +505,15 @@ private Q_SLOTS:
     void dialogBesideThePlotStaysOnTheScreen()
     {
         const QRect screen = m_window->screen()->availableGeometry();
-        m_window->openDemo(QStringLiteral("field2d"));
-        m_window->openStyleDialogBeside();
+        m_window->openStyleDialogWithData(); // which come now
         for (const char* demo : {"field2d", "field3d", "xy"}) {
             m_window->openDemo(QLatin1String(demo));
             play::waitUntilIdle();
             const QRect dialog = play::DialogDriver().dialog().frameGeometry();
             QVERIFY2(screen.contains(dialog), demo);
-            QVERIFY2(!dialog.intersects(m_window->frameGeometry()), demo);
+            const QRect plot(m_window->centralWidget()->mapToGlobal({}),
+                             m_window->centralWidget()->size());
+            QVERIFY2(2 * (dialog & plot).width() <= plot.width(), demo);
             auto* bar = m_window->findChild<QToolBar*>(QStringLiteral("plotBar"));
             QAction& last = layer(frame().isFieldPlot() ? "UseLightingEffect" : "ShowLines");
             QVERIFY2(bar->widgetForAction(&last)->isVisible(), demo);
@@ -521,10 +523,14 @@ private Q_SLOTS:
     /// What the former run left is there again, on the screen.
     void windowsComeBack()
     {
+        m_window = std::make_unique<MainWindow>();
+        m_window->restore();
+        m_window->show();
         m_window->openDemo(QStringLiteral("field3d"));
         layer("styleDialog").trigger();
         QWidget* dialog = existingStyleDialog();
         QVERIFY(dialog && dialog->isVisible() && layer("styleDialog").isChecked());
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
         dialog->resize(dialog->minimumSizeHint() + QSize(20, 20));
         dialog->move(-50, 40);
         m_window->resize(700, 600);
@@ -543,34 +549,26 @@ private Q_SLOTS:
         QCOMPARE(m_window->size(), QSize(700, 600));
         QVERIFY(m_window->findChild<DetailsDock*>()->isVisible());
         m_window->openDemo(QStringLiteral("field3d"));
-        m_window->openStyleDialogBeside();
+        layer("styleDialog").trigger();
         dialog = existingStyleDialog();
         QCOMPARE(dialog->size(), size);
         QVERIFY(m_window->screen()->availableGeometry().contains(dialog->frameGeometry()));
     }
 
-    void smallScreensHoldBothWindows_data()
+    void placesAreOnAScreen_data()
     {
-        const Rows<QSize> row;
-        row("large", {1280, 900});
-        row("small", {1024, 700});
-        row("scaled by two", {800, 500});
+        const Rows<QRect, QRect> row;
+        row("as it was", {100, 50, 300, 200}, {100, 50, 300, 200});
+        row("beyond the edge", {900, -20, 300, 200}, {700, 0, 300, 200});
+        row("larger than the screen", {-10, 0, 1500, 800}, {0, 0, 1000, 600});
+        row("on the other screen", {1200, 10, 300, 200}, {1200, 100, 300, 200});
+        row("far from all", {5000, 5000, 300, 200}, {1500, 700, 300, 200});
     }
 
-    void smallScreensHoldBothWindows()
+    void placesAreOnAScreen()
     {
-        const auto [size] = currentRow<QSize>();
-        m_window->openDemo(QStringLiteral("field3d"));
-        m_window->openStyleDialog(corvala::dialogs::common::DialogInitialization_None);
-        play::waitUntilIdle();
-        QWidget& dialog = play::DialogDriver().dialog();
-        const QRect screen(QPoint(10, 20), size);
-        placeSideBySide(*m_window, dialog, screen);
-        play::waitUntilIdle();
-        for (const QWidget* window : {static_cast<QWidget*>(m_window.get()), &dialog})
-            QVERIFY2(screen.contains(window->frameGeometry()),
-                     QTest::toString(window->frameGeometry()));
-        QCOMPARE(dialog.frameGeometry().intersects(m_window->frameGeometry()), size.width() < 1000);
+        const auto [area, expected] = currentRow<QRect, QRect>();
+        QCOMPARE(fitted(area, {{0, 0, 1000, 600}, {1000, 100, 800, 800}}), expected);
     }
 
     void waitCursorShowsWhileTheLoopIsHeldUp()
