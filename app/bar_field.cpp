@@ -2,6 +2,7 @@
 #include "app/bar_field.h"
 
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QTimer>
 #include <QToolBar>
@@ -9,18 +10,65 @@
 
 namespace corvala::app {
 
+static constexpr int kOpeningMilliseconds = 250; ///< that a bar takes to slide out
+
+namespace {
+
+/// Closes the rest of a toolbar when its field has lost the focus.
+class Visit : public QObject
+{
+public:
+    Visit(QComboBox& field, QToolButton& rest)
+        : QObject(&field)
+        , m_rest(rest)
+    {
+        field.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::FocusOut)
+            return QObject::eventFilter(watched, event);
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason)
+            return false;
+        if (m_rest.isChecked())
+            m_rest.click();
+        deleteLater();
+        return false;
+    }
+
+private:
+    QToolButton& m_rest;
+};
+
+} // namespace
+
+/// What is typed finds the entries of a list that can be edited.
+static void enter(QComboBox& field)
+{
+    field.setFocus(Qt::ShortcutFocusReason);
+    if (field.lineEdit())
+        field.lineEdit()->selectAll();
+    else
+        field.showPopup();
+}
+
 void goToField(QToolBar& bar, QComboBox& field)
 {
+    bar.window()->activateWindow();
     // Qt gives the button for the rest of a toolbar no other handle than its name.
     auto* const rest = bar.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
-    if (!field.isVisible() && rest && rest->isVisible() && !rest->isChecked())
-        rest->click();
-    QTimer::singleShot(0, &field, [&field] { // the bar is laid out by then
-        field.window()->activateWindow();
-        field.setFocus(Qt::ShortcutFocusReason);
-        if (field.lineEdit())
-            field.lineEdit()->selectAll();
-        field.showPopup();
+    if (field.isVisible() || !rest || !rest->isVisible()) {
+        enter(field);
+        return;
+    }
+    bar.window()->setFocus(); // which ends another visit: one bar slides at a time
+    QTimer::singleShot(kOpeningMilliseconds, &field, [&field, rest] {
+        if (!rest->isChecked())
+            rest->click();
+        new Visit(field, *rest);
+        QTimer::singleShot(kOpeningMilliseconds, &field, [&field] { enter(field); });
     });
 }
 

@@ -6,8 +6,9 @@ class QToolBar;
 
 namespace corvala::app {
 
-/// Takes the user to a field of a toolbar and opens its list; also where the bar is too narrow to
-/// show the field, in what the bar has for that.
+/// Takes the user to a field of a toolbar, with its list open unless names are typed in it; also
+/// where the bar is too narrow to show the field, in what the bar has for that, until the focus
+/// goes elsewhere.
 void goToField(QToolBar& bar, QComboBox& field);
 
 } // namespace corvala::app

@@ -29,7 +29,7 @@ ContourBar::ContourBar(QWidget* parent)
     , m_variable(new ui::ComboBoxAutoFilter(this))
     , m_colors(new QToolButton(this))
 {
-    constexpr int kFewestLetters = 8; // beside the style dialog there is little room
+    constexpr int kFewestLetters = 12; // beside the style dialog there is little room
     constexpr int kMostLetters = 22;
     const int letter = fontMetrics().averageCharWidth();
     setObjectName(QStringLiteral("contourBar"));
@@ -43,8 +43,10 @@ ContourBar::ContourBar(QWidget* parent)
     m_variable->setMinimumWidth(kFewestLetters * letter);
     m_variable->setMaximumWidth(kMostLetters * letter);
     m_variable->lineEdit()->installEventFilter(this);
-    connect(m_variable, &ui::ComboBoxAutoFilter::selectionComplete, this,
-            [this] { write(kStyle.var, double(m_variable->currentIndex())); });
+    connect(m_variable, &ui::ComboBoxAutoFilter::selectionComplete, this, [this] {
+        m_variable->lineEdit()->setCursorPosition(0); // a long name shows its beginning
+        write(kStyle.var, double(m_variable->currentIndex()));
+    });
     makeColorMenu();
     addWidget(label);
     addWidget(m_variable);

@@ -312,13 +312,13 @@ void MainWindow::openFiles(const host::io::ReadRequest& request)
     m_data->open(request);
 }
 
-/// Much of a small screen, and of a larger one so much that the style dialog has room beside it.
+/// Much of a small screen; at the left, so that the style dialog has the more room beside it.
 static QRect firstPlace(const QMainWindow& window)
 {
     const QRect screen = window.screen()->availableGeometry();
     const QSize size = window.sizeHint().boundedTo(screen.size() * 0.9 - frameOf(window));
-    const QSize free = screen.size() - size - frameOf(window);
-    return {screen.topLeft() + QPoint(free.width(), free.height()) / 4, size};
+    const int free = screen.height() - size.height() - frameOf(window).height();
+    return {screen.topLeft() + QPoint(0, free / 4), size};
 }
 
 void MainWindow::restore()
