@@ -164,6 +164,15 @@ private Q_SLOTS:
             "cut off: 84 of 3365299334 bytes are there");
         row("STL without an end", "a.stl", "solid a\nfacet normal 0 0 1\nouter loop\n",
             "no \"endsolid\"");
+        row("OBJ without a coordinate", "a.obj", "v 0 0 0\nv 1 0\nv 0 1 0\nf 1 2 3\n",
+            "line 2 has no three coordinates: \"v 1 0\"");
+        row("OBJ with a face of no points", "a.obj", "v 0 0 0\nf 1 x 3\nf 1 1 1\n",
+            "line 2: \"x\" names no point");
+        row("OBJ with a face of later points", "a.obj", "v 0 0 0\n\nf 1 1 3\nf 1 1 2\n",
+            "line 3 names point 3, which is not there");
+        row("OBJ with a face of earlier points", "a.obj", "v 0 0 0\nf 1 1 -2\n",
+            "line 2 names point -2, which is not there");
+        row("no OBJ", "a.obj", "x y\n", "line 1 is none of an OBJ file: \"x y\"");
         row("PLY of too many points", "a.ply",
             "ply\nformat ascii 1.0\nelement vertex 1000000000\nproperty float x\nend_header\n1\n",
             "cut off after 77 bytes");

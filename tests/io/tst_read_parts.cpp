@@ -170,7 +170,6 @@ private Q_SLOTS:
             "property float z\nelement face 1\nproperty list uchar int vertex_indices\n"
             "end_header\n0 0 0\n1 0 0\n0 1 0\n3 0 1 2",
             "a", {});
-        row("OBJ", "a.obj", "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n", "a", {});
         row("surface in a series", "a.stl.series",
             "{\"file-series-version\": \"1.0\", \"files\": [{\"name\": \"one.obj\", \"time\": 1},"
             " {\"name\": \"two.obj\", \"time\": 2}]}",
@@ -224,10 +223,47 @@ private Q_SLOTS:
         const auto [content, p, note] = currentRow<QByteArray, QVector<double>, QString>();
         const ReadResult result = read({m_folder->write("a.vtk", legacy(content))});
         QVERIFY2(result.data, qPrintable(result.error));
-        const QVector<double> found = values(*result.data, 1, "p");
-        QCOMPARE(found.size(), p.size());
-        for (int i = 0; i < p.size(); ++i)
-            QVERIFY(found[i] == p[i] || (std::isnan(found[i]) && std::isnan(p[i])));
+        verifyValues(values(*result.data, 1, "p"), p);
+        checkNotes(*result.data, note);
+    }
+
+    void opensObj_data()
+    {
+        const Rows<QByteArray, QString, QVector<double>, QString> row;
+        const QByteArray v = "v 0 0 0\nv 1 0 0\nv 2 1 0 # last\n";
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        row("points", v + "f 1 2 3\nf -3 -2 -1\n", "X", {0, 1, 2}, {});
+        row("far away", "v 4512345.123 0 0\nv +1D1 1 0 1\nv 2 1 0 .5 .5 .5\nf 1 2 3", "X",
+            {4512345.123, 10, 2}, {});
+        row("old line ends, a long line", QByteArray(v + "f 1\\\n 2 3\n").replace('\n', '\r'), "X", {0, 1, 2},
+            {});
+        row("points behind their face", "f 1 2 3\n" + v, "X", {0, 1, 2}, {});
+        row("texture", v + "vt 5\nvt 6 1\nf 1/2 2/1 3/-1\n", "TCoords X", {6, 5, 6}, {});
+        row("a point with two normals",
+            v + "v 3 3 3\nvn 0 0 1\nvn 0 0 2\nf 1//1 2//1 3//1\nf 3//1 2//2 1//1\nf 2//2 3 1//1\n",
+            "Normals Z", {1, 1, 1, nan, 2, nan}, {});
+        row("normals that nobody names", v + "vn 0 0 4\nvn 0 0 5\nvn 0 0 6\nf 1 2 3\n", "Normals Z",
+            {4, 5, 6}, {});
+        row("groups", v + "p 1 2\ng a\nl 1 2 3\ng b\nf 1 2 3\n", "GroupIds", {0, 0, 1, 2}, {});
+        row("materials", v + "f 1 2 3\nusemtl a\nf 1 2 3\nusemtl b\nf 1 2 3\nusemtl a\nf 3 2 1\n",
+            "MaterialIds", {0, 1, 2, 1}, {});
+        row("no texture", v + "f 1/1 2/2 3/3\n", "X", {0, 1, 2},
+            "a.obj: the values of TCoords were left out: line 4 names number 3 of them, *");
+        row("a damaged normal", v + "vn 0 0\nf 1//1 2//1 3//1\n", "X", {0, 1, 2},
+            "a.obj: the values of Normals were left out: line 4: vn 0 0.");
+        row("lines of nothing", v + "f 1 2\nf 1 2 3\ncurv 1 2\n", "X", {0, 1, 2},
+            "a.obj: what cannot be read of it was left out: line 4: f 1 2, and 1 lines more.");
+        row("cut in its last line", v + "f 1 2 3\nf 1 2 3/a", "X", {0, 1, 2},
+            "a.obj: what cannot be read of it was left out: line 5: f 1 2 3?a.");
+    }
+
+    void opensObj()
+    {
+        const auto [content, variable, wanted, note] =
+            currentRow<QByteArray, QString, QVector<double>, QString>();
+        const ReadResult result = read({m_folder->write("a.obj", content)});
+        QVERIFY2(result.data, qPrintable(result.error));
+        verifyValues(values(*result.data, 1, variable), wanted);
         checkNotes(*result.data, note);
     }
 
@@ -307,6 +343,16 @@ private Q_SLOTS:
     }
 
 private:
+    static void verifyValues(const QVector<double>& found, const QVector<double>& wanted)
+    {
+        QString text;
+        QDebug(&text) << found;
+        QVERIFY2(found.size() == wanted.size(), qPrintable(text));
+        for (int i = 0; i < wanted.size(); ++i)
+            QVERIFY2(found[i] == wanted[i] || (std::isnan(found[i]) && std::isnan(wanted[i])),
+                     qPrintable(text));
+    }
+
     /// The notes, separated by bars, are like this pattern.
     static void checkNotes(const DataSet& data, const QString& pattern)
     {

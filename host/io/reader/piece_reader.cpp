@@ -85,7 +85,7 @@ vtkSmartPointer<vtkDataObject> PieceReader::readOne(const QString& path,
 {
     switch (formatOf(path)) {
     case Format::LegacyVtk: return readLegacy(path, progress);
-    case Format::Surface: return updated(path, *surfaceReader(path), progress);
+    case Format::Surface: return readSurface(path, progress);
     default: return readXml(path, progress);
     }
 }
@@ -95,6 +95,17 @@ void PieceReader::noteLeftOver(const QString& path, const QString& reason)
     notes.emplace_back(
         QT_TRANSLATE_NOOP("ReadMessage", "%1: what cannot be read of it was left out: %2."),
         std::initializer_list<QString> {shortName(path), reason});
+}
+
+vtkSmartPointer<vtkDataObject> PieceReader::readSurface(const QString& path,
+                                                        const ProgressCall& progress)
+{
+    const SurfaceData surface = reader::readSurface(path, progress);
+    for (const auto& [array, reason] : surface.withoutValues)
+        leaveOutArray(path, array, ReadFailure(path, reason));
+    if (!surface.leftOver.isEmpty())
+        noteLeftOver(path, surface.leftOver.asArgument());
+    return surface.data;
 }
 
 vtkSmartPointer<vtkDataObject> PieceReader::readLegacy(const QString& path,

@@ -38,6 +38,7 @@ public:
 
 private:
     vtkSmartPointer<vtkDataObject> readOne(const QString& path, const ProgressCall& progress);
+    vtkSmartPointer<vtkDataObject> readSurface(const QString& path, const ProgressCall& progress);
     vtkSmartPointer<vtkDataObject> readLegacy(const QString& path, const ProgressCall& progress);
     vtkSmartPointer<vtkDataObject> readDamagedLegacy(const LegacyLayout& layout,
                                                      const QString& path,

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/surface_file.h"
 
+#include "host/io/reader/algorithm_file.h"
 #include "host/io/reader/mapped_file.h"
 #include "host/io/reader/ply_check.h"
 #include "host/io/reader/read_failure.h"
 
 #include <QFileInfo>
 
-#include <vtkOBJReader.h>
 #include <vtkPLYReader.h>
 #include <vtkSTLReader.h>
 
@@ -68,17 +68,17 @@ static vtkSmartPointer<vtkAlgorithm> plyReader(const MappedFile& file)
     return reader;
 }
 
-vtkSmartPointer<vtkAlgorithm> surfaceReader(const QString& path)
+SurfaceData readSurface(const QString& path, const ProgressCall& progress)
 {
     const MappedFile file(path);
     if (file.bytes().substr(0, 3) == "ply") {
         requireWholePly(file);
-        return plyReader(file);
+        return {updated(path, *plyReader(file), progress), {}, {}};
     }
     if (QFileInfo(path).suffix().toLower() == QLatin1String("obj"))
-        return reading<vtkOBJReader>(path);
+        return readObj(file, progress);
     requireWholeStl(file);
-    return reading<vtkSTLReader>(path);
+    return {updated(path, *reading<vtkSTLReader>(path), progress), {}, {}};
 }
 
 } // namespace corvala::host::io::reader
