@@ -77,8 +77,9 @@ static void requireKnownError(const QString& path, const QStringList& withoutMes
 
 std::unique_ptr<DataFile> openFoam(const QString& path, const QDir& helper)
 {
-    const QString read = withSplitFiles(path, helper);
-    const FoamFolders folders = foamFoldersOf(read);
+    const QString split = withSplitFiles(path, helper);
+    const FoamFolders folders = foamFoldersOf(split);
+    const QString read = withOwnNames(split, folders.copies, helper);
     auto reader = vtkSmartPointer<vtkPOpenFOAMReader>::New();
     vtkNew<vtkDummyController> controller;
     reader->SetController(controller);

@@ -2,6 +2,7 @@
 #include "host/io/reader/foam_collated.h"
 
 #include "host/io/reader/foam_folders.h"
+#include "host/io/reader/linked_copy.h"
 #include "host/io/reader/read_failure.h"
 #include "host/io/reader/vtk_messages.h"
 
@@ -110,14 +111,6 @@ static int firstProcessor(const QString& folder)
     return range.match(folder).captured(1).toInt();
 }
 
-static void write(const QString& path, const QByteArray& content, const QDir& helper)
-{
-    QFile file(path);
-    if (!QFileInfo(path).dir().mkpath(QStringLiteral(".")) || !file.open(QIODevice::WriteOnly)
-        || file.write(content) != content.size() || !file.flush())
-        throw ReadFailure::ofFullDisk(helper.path());
-}
-
 /// The file itself, or its content in a file of the helper folder.
 static QString unpacked(const QString& path, const QDir& helper)
 {
@@ -150,8 +143,7 @@ static bool split(const QString& folder, const QDir& helper)
         isAny = isAny || file.isCollated();
         int processor = firstProcessor(folder);
         for (QByteArray block; file.isCollated() && !(block = file.next()).isNull(); ++processor)
-            write(helper.filePath(QStringLiteral("processor%1/%2").arg(processor).arg(name)), block,
-                  helper);
+            writeOwn(helper, QStringLiteral("processor%1/%2").arg(processor).arg(name), block);
         if (content != files.filePath())
             QFile::remove(content);
     }
@@ -167,9 +159,7 @@ QString withSplitFiles(const QString& path, const QDir& helper)
     if (!isAny)
         return path;
     const QDir folder(collated.caseFolder);
-    for (const QString& name : folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
-        if (!helper.exists(name))
-            QFile::link(folder.filePath(name), helper.filePath(name));
+    linkMissing(folder, helper);
     VtkMessages::showInstead(helper.path(), folder.path());
     return helper.filePath(folder.relativeFilePath(path));
 }

@@ -2,10 +2,13 @@
 #include "host/io/reader/foam_folders.h"
 
 #include "host/io/reader/file_format.h"
+#include "host/io/reader/linked_copy.h"
 #include "host/io/reader/read_failure.h"
+#include "host/io/reader/vtk_messages.h"
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -147,34 +150,66 @@ static void noteElsewhere(const QStringList& names, const QString& folder, FoamF
             std::initializer_list<QString> {name, folder});
 }
 
-/// What the header of a field says that it is; empty for packed files.
-static QString objectIn(const QString& path)
+static constexpr int kLongestHeader = 2048;
+
+/// What the header of a field says that it is.
+static QRegularExpressionMatch objectIn(const QByteArray& text)
 {
     static const QRegularExpression object(QStringLiteral("\\bobject\\s+([^\\s;]+)\\s*;"));
-    constexpr int kLongestHeader = 2048;
-    return object.match(QString::fromLatin1(firstBytes(path, kLongestHeader))).captured(1);
+    return object.match(QString::fromLatin1(text.left(kLongestHeader)));
 }
 
-/// VTK names fields by what they say that they are, so that the last of several takes the place of
-/// the others, such as U.orig that of U.
-static void noteCopies(const QString& folder, FoamFolders& result)
+/// Of the files in a folder of times; packed ones say nothing.
+static std::vector<FoamCopy> copiesIn(const QDir& caseFolder, const QString& folder)
 {
+    std::vector<FoamCopy> copies;
     for (const auto& [time, fields] : resultsIn(folder)) {
-        std::map<QString, QStringList> files;
+        std::map<QString, std::vector<FoamCopy>> files;
         for (const QString& field : fields) {
-            const QString path = time + QLatin1Char('/') + field;
-            const QString object = objectIn(QDir(folder).filePath(path));
+            const QString path = QDir(folder).filePath(time + QLatin1Char('/') + field);
+            const QString object = objectIn(firstBytes(path, kLongestHeader)).captured(1);
             if (!object.isEmpty() && !isOfCloud(field))
-                files[QFileInfo(path).path() + QLatin1Char('/') + object] << path;
+                files[QFileInfo(field).path() + QLatin1Char('/') + object].push_back(
+                    {caseFolder.relativeFilePath(path), object});
         }
-        for (const auto& [object, paths] : files)
-            if (paths.size() > 1)
-                result.notes.emplace_back(
-                    QT_TRANSLATE_NOOP("ReadMessage",
-                                      "%1: all of them say that they are %2; one is shown."),
-                    std::initializer_list<QString> {paths.join(QStringLiteral(", ")),
-                                                    QFileInfo(object).fileName()});
+        for (const auto& [object, same] : files)
+            for (const FoamCopy& file : same)
+                if (same.size() > 1 && QFileInfo(file.path).fileName() != file.object)
+                    copies.push_back(file);
     }
+    return copies;
+}
+
+static void noteCopies(FoamFolders& result)
+{
+    for (const FoamCopy& copy : result.copies)
+        result.notes.emplace_back(
+            QT_TRANSLATE_NOOP("ReadMessage",
+                              "%1 says that it is %2, as another file does; it is shown as %3."),
+            std::initializer_list<QString> {copy.path, copy.object,
+                                            QFileInfo(copy.path).fileName()});
+}
+
+QString withOwnNames(const QString& path, const std::vector<FoamCopy>& copies, const QDir& helper)
+{
+    if (copies.empty())
+        return path;
+    const QDir folder = caseFolder(path);
+    if (folder != helper) {
+        linkMissing(folder, helper);
+        VtkMessages::showInstead(helper.path(), folder.path());
+    }
+    for (const FoamCopy& copy : copies) {
+        QFile file(folder.filePath(copy.path));
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        QByteArray content = file.readAll();
+        const QRegularExpressionMatch object = objectIn(content);
+        content.replace(object.capturedStart(1), object.capturedLength(1),
+                        QFileInfo(copy.path).fileName().toLatin1());
+        writeOwn(helper, copy.path, content);
+    }
+    return helper.filePath(folder.relativeFilePath(path));
 }
 
 /// Fields of the first time may be those that the run began with; later ones go on.
@@ -237,15 +272,20 @@ FoamFolders foamFoldersOf(const QString& path)
         const Results first = resultsIn(processors.first());
         result.isDecomposed = !hasMesh(folder) || !lacking(first, own).isEmpty();
         if (result.isDecomposed) {
-            noteGaps(withMesh(processors, result), result);
+            const QStringList sound = withMesh(processors, result);
+            noteGaps(sound, result);
             noteElsewhere(lacking(own, first), QStringLiteral("the case folder"), result);
             noteMissing(processors.first(), result);
-            noteCopies(processors.first(), result);
+            for (const QString& processor : sound)
+                for (const FoamCopy& copy : copiesIn(folder, processor))
+                    result.copies.push_back(copy);
+            noteCopies(result);
             return result;
         }
     }
     noteMissing(folder.path(), result);
-    noteCopies(folder.path(), result);
+    result.copies = copiesIn(folder, folder.path());
+    noteCopies(result);
     if (collated.isEmpty())
         return result;
     const QString name = QDir(collated.first()).dirName();
