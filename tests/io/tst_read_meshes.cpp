@@ -262,7 +262,7 @@ private Q_SLOTS:
                 file.seek(0);
                 file.write(all);
             },
-            1, {6}, "p was left out at time 2.5: controlDict: ");
+            1, {6}, "has the directive \"#calc\", which cannot be read.");
     }
 
     void foam()
@@ -301,7 +301,7 @@ private Q_SLOTS:
         const Times all {0.5, 1.5, 2.5};
         const QVector<double> blocks {100, 200, 300, 100, 200, 300};
         const QString set =
-            "a.e: the set \"Unnamed set ID: 7\" was left out: what it names is not there.";
+            "a.e: the set \"7\" was left out: what it names is not there.";
         row("sound", {}, 0, all, blocks + QVector<double> {101, 201, 301}, {});
         row("cut in the last time", {}, 20, {0.5, 1.5}, {100, 200, 100, 200, 101, 201},
             "a.e: 1 of 3 times were left out: it is cut off: ");

@@ -7,6 +7,7 @@
 #include "host/io/reader/read_failure.h"
 #include "host/io/reader/vector_proposal.h"
 #include "host/io/reader/vtk_messages.h"
+#include "host/io/reader/vtk_words.h"
 #include "host/io/reader/zone_check.h"
 
 #include <QDir>
@@ -277,7 +278,8 @@ void DataSetBuilder::noteWarnings(const DataFile& file)
     const QString name = QFileInfo(file.path()).fileName();
     for (const QString& warning : VtkMessages::takeWarnings()) {
         if (m_warnings.insert(name + QLatin1Char('\n') + warning).second)
-            m_index.notes.emplace_back("%1: %2", std::initializer_list<QString> {name, warning});
+            m_index.notes.emplace_back(
+                "%1: %2", std::initializer_list<QString> {name, meaningOf(warning).asArgument()});
     }
 }
 

@@ -10,6 +10,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <vtkCompositeDataSet.h>
 #include <vtkDataSet.h>
@@ -156,8 +157,15 @@ private:
                     QT_TRANSLATE_NOOP(
                         "ReadMessage",
                         "%1: the set \"%2\" was left out: what it names is not there."),
-                    std::initializer_list<QString> {QFileInfo(path()).fileName(), name});
+                    std::initializer_list<QString> {QFileInfo(path()).fileName(), ownName(name)});
         }
+    }
+
+    /// The number of a set without a name, for which VTK makes up one.
+    static QString ownName(const QString& set)
+    {
+        static const QRegularExpression made(QStringLiteral("^Unnamed set ID: (\\d+).*"));
+        return QString(set).replace(made, QStringLiteral("\\1"));
     }
 
     bool hasEntries(const QString& set) const

@@ -6,7 +6,6 @@
 #include "host/io/reader/file_format.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QStringList>
 
 #include <vtk_cgns.h>
@@ -74,9 +73,8 @@ static QStringList rareInVtk(const QString& path)
         {"type=\"Bit\"", "arrays of bits"},
         {"vtkvariant", "arrays of variants"},
     };
-    QFile file(path);
     QStringList found;
-    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.read(kMostText) : QByteArray();
+    const QByteArray text = firstBytes(path, kMostText);
     for (const auto& [word, meaning] : kWords)
         if (text.contains(word))
             found << QString::fromLatin1(meaning);
@@ -92,6 +90,13 @@ static QStringList rareIn(Format format, const QString& path)
     case Format::XmlVtk: return rareInVtk(path);
     default: return {};
     }
+}
+
+/// Whether what the file holds cannot be seen in it.
+static bool isEncoded(Format format, const QString& path)
+{
+    const QByteArray text = format == Format::XmlVtk ? firstBytes(path, kMostText) : QByteArray();
+    return text.contains("format=\"binary\"") || text.contains("format=\"appended\"");
 }
 
 static const char* nameOf(Format format)
@@ -117,6 +122,14 @@ ReadMessage reasonOfCrash(const QString& path)
         return {};
     QStringList found = rareIn(format, path);
     found.removeDuplicates();
+    if (found.isEmpty() && isEncoded(format, path))
+        return ReadMessage(
+            QT_TRANSLATE_NOOP(
+                "ReadMessage",
+                "VTK's reader for %1 failed; by what cannot be told, since the arrays "
+                "of the file are encoded: it is damaged, or holds something that "
+                "cannot be read, which may be seen when it is written as text"),
+            {QString::fromLatin1(name)});
     if (found.isEmpty())
         return ReadMessage(QT_TRANSLATE_NOOP("ReadMessage",
                                              "VTK's reader for %1 failed; the file, or one that it "

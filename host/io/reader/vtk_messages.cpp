@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/vtk_messages.h"
 
+#include "host/io/reader/vtk_words.h"
+
 #include <QCoreApplication>
 #include <QRegularExpression>
 
@@ -101,7 +103,7 @@ ReadMessage VtkMessages::takeError()
         return {};
     if (window().isErrorVague)
         return damaged();
-    return ReadMessage("%1", {error});
+    return meaningOf(error);
 }
 
 ReadMessage VtkMessages::damaged()

@@ -13,8 +13,8 @@ class VtkMessages
 public:
     VtkMessages(); ///< installs itself for the whole program; there is one
 
-    /// First error since the last call that says something, without the place in VTK's source;
-    /// empty when there was none. Later errors mostly follow from the first.
+    /// First error since the last call that says something, in words of our own where they are
+    /// known; empty when there was none. Later errors mostly follow from the first.
     static ReadMessage takeError();
     /// What can be said when no more is known.
     static ReadMessage damaged();
