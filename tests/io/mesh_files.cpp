@@ -3,6 +3,9 @@
 
 #include <vtk_cgns.h>
 #include <vtk_exodusII.h>
+#include <vtk_hdf5.h>
+
+#include <QFile>
 
 // clang-format off
 #include VTK_CGNS(cgnslib.h)
@@ -71,6 +74,46 @@ static int startCgns(const QString& path, bool isHdf5, bool isSteady)
     return file;
 }
 
+static herr_t copyAttribute(hid_t from, const char* name, const H5A_info_t*, void* to)
+{
+    char value[100] = {};
+    const hid_t attribute = H5Aopen(from, name, H5P_DEFAULT);
+    const hid_t type = H5Aget_type(attribute);
+    const hid_t copy = H5Acreate2(*static_cast<hid_t*>(to), name, type, H5Aget_space(attribute),
+                                  H5P_DEFAULT, H5P_DEFAULT);
+    H5Aread(attribute, type, value);
+    return H5Awrite(copy, type, value);
+}
+
+/// Groups do not keep the order of what is in them.
+static herr_t copyPlainly(hid_t from, const char* name, const H5L_info_t*, void* to)
+{
+    const hid_t target = *static_cast<hid_t*>(to);
+    hid_t node = H5Oopen(from, name, H5P_DEFAULT);
+    if (H5Iget_type(node) != H5I_GROUP)
+        return H5Ocopy(from, name, target, name, H5P_DEFAULT, H5P_DEFAULT);
+    hid_t group = H5Gcreate2(target, name, H5P_DEFAULT, H5P_DEFAULT, H5P_DEFAULT);
+    H5Aiterate2(node, H5_INDEX_NAME, H5_ITER_INC, nullptr, copyAttribute, &group);
+    return H5Literate(node, H5_INDEX_NAME, H5_ITER_INC, nullptr, copyPlainly, &group);
+}
+
+static void forgetOrder(const QString& path)
+{
+    QFile::rename(path, path + ".new");
+    H5open();
+    const hid_t strong = H5Pcreate(H5P_FILE_ACCESS); // closes what is left open
+    H5Pset_fclose_degree(strong, H5F_CLOSE_STRONG);
+    const hid_t from = H5Fopen(qPrintable(path + ".new"), H5F_ACC_RDONLY, strong);
+    hid_t to = H5Fcreate(qPrintable(path), H5F_ACC_TRUNC, H5P_DEFAULT, strong);
+    hid_t root = H5Gopen2(to, "/", H5P_DEFAULT);
+    const hid_t old = H5Gopen2(from, "/", H5P_DEFAULT);
+    H5Aiterate2(old, H5_INDEX_NAME, H5_ITER_INC, nullptr, copyAttribute, &root);
+    H5Literate(old, H5_INDEX_NAME, H5_ITER_INC, nullptr, copyPlainly, &root);
+    H5Fclose(from);
+    H5Fclose(to);
+    QFile::remove(path + ".new");
+}
+
 void writeCgns(const QString& path, const CgnsForm& form, bool isHdf5)
 {
     const int file = startCgns(path, isHdf5, form.isSteady);
@@ -80,6 +123,8 @@ void writeCgns(const QString& path, const CgnsForm& form, bool isHdf5)
             writePointers(file, zone, form.pointers);
     }
     cg_close(file);
+    if (isHdf5 && form.isOld)
+        forgetOrder(path);
 }
 
 void writeCgnsCells(const QString& path)

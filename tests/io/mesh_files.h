@@ -15,6 +15,7 @@ struct CgnsForm
     QStringList pointers; ///< of the last zone; empty for none
     bool isFirstNamed = true; ///< whether the first zone has pointers as well
     bool isSteady = false;
+    bool isOld = false; ///< whether HDF5 does not keep the order of the nodes
 };
 
 /// Two zones of eight points with p, 100 times the number of the solution and the number of the

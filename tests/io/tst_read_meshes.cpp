@@ -61,6 +61,9 @@ private Q_SLOTS:
             "a.cgns: the solution B of Z1 was left out: there is none. (and 1 more like it)");
         row("too few solutions", {{"Sol#1", "Sol#2"}, {"A", "B", "C"}, true}, {}, {100, 100},
             "the first ones are shown, without a time");
+        row("of an early library", {three, three, true, false, true}, all, inOrder, {});
+        row("of an early library, pointers to nothing", {three, {"A", "B", "C"}, true, false, true},
+            all, inOrder, "they were taken in their order");
         row("steady", {three, {}, true, true}, {}, {100, 100},
             "a.cgns: of 3 solutions of Z1 without a time the first one, Sol#1, is shown. (and 1 ");
         row("one solution for all", {{"Sol"}, {}, true}, all, {100, 100, 100, 100, 100, 100}, {});
@@ -300,8 +303,7 @@ private Q_SLOTS:
         const Rows<ExodusForm, int, Times, QVector<double>, QString> row;
         const Times all {0.5, 1.5, 2.5};
         const QVector<double> blocks {100, 200, 300, 100, 200, 300};
-        const QString set =
-            "a.e: the set \"7\" was left out: what it names is not there.";
+        const QString set = "a.e: the set \"7\" was left out: what it names is not there.";
         row("sound", {}, 0, all, blocks + QVector<double> {101, 201, 301}, {});
         row("cut in the last time", {}, 20, {0.5, 1.5}, {100, 200, 100, 200, 101, 201},
             "a.e: 1 of 3 times were left out: it is cut off: ");

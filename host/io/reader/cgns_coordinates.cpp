@@ -35,11 +35,7 @@ void requireCgnsCoordinates(const QString& path)
         return;
     const auto bases = file.children(file.root(), "CGNSBase_t");
     if (bases.empty())
-        throw ReadFailure(
-            path,
-            QT_TRANSLATE_NOOP("ReadMessage",
-                              "it has no CGNS base, or is of an early CGNS library (before 3.2), "
-                              "whose HDF5 files must be converted"));
+        throw ReadFailure(path, QT_TRANSLATE_NOOP("ReadMessage", "it has no CGNS base"));
     for (const CgnsTree::Node& base : bases) {
         const std::vector<int> dimensions = file.integers(base.id);
         for (const CgnsTree::Node& zone : file.children(base.id, "Zone_t"))

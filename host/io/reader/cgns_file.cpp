@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/adf_size.h"
 #include "host/io/reader/cgns_coordinates.h"
+#include "host/io/reader/cgns_order.h"
 #include "host/io/reader/cgns_patches.h"
 #include "host/io/reader/cgns_solutions.h"
 #include "host/io/reader/cgns_tree.h"
@@ -66,11 +67,12 @@ static void enableAllArrays(vtkCGNSReader& reader, const QString& path)
 class CgnsFile : public SelectiveFile
 {
 public:
-    CgnsFile(const QString& path, vtkCGNSReader* reader, const std::vector<ReadMessage>& notes,
-             bool withPatches)
+    /// `ordered` is the file itself, or what stands for it.
+    CgnsFile(const QString& path, const QString& ordered, vtkCGNSReader* reader,
+             const std::vector<ReadMessage>& notes, bool withPatches)
         : SelectiveFile(
             path, reader, [reader] { return partsOf(reader); }, notes)
-        , m_patches(path, withPatches)
+        , m_patches(ordered, withPatches)
     {
     }
 
@@ -96,12 +98,11 @@ private:
     CgnsPatches m_patches;
 };
 
-std::unique_ptr<DataFile> openCgns(const QString& path, bool withPatches, const QDir& helper)
+static std::unique_ptr<DataFile> openOrdered(const QString& path, const QString& ordered,
+                                             bool withPatches, const QDir& helper)
 {
-    requireWholeHdf5(path);
-    requireWholeAdf(path);
-    requireCgnsCoordinates(path);
-    const CgnsSolutions sound = withSoundSolutions(path, helper);
+    requireCgnsCoordinates(ordered);
+    const CgnsSolutions sound = withSoundSolutions(ordered, helper);
     auto reader = vtkSmartPointer<vtkCGNSReader>::New();
     reader->SetFileName(QFile::encodeName(sound.path).constData());
     reader->UpdateInformation();
@@ -109,8 +110,20 @@ std::unique_ptr<DataFile> openCgns(const QString& path, bool withPatches, const 
     reader->EnableAllFamilies();
     reader->EnableAllPointArrays();
     reader->EnableAllCellArrays();
-    enableAllArrays(*reader, path);
-    return std::make_unique<CgnsFile>(path, reader, sound.notes, withPatches);
+    enableAllArrays(*reader, ordered);
+    return std::make_unique<CgnsFile>(path, ordered, reader, sound.notes, withPatches);
+}
+
+std::unique_ptr<DataFile> openCgns(const QString& path, bool withPatches, const QDir& helper)
+{
+    requireWholeHdf5(path);
+    requireWholeAdf(path);
+    const QString ordered = withOrderedNodes(path, helper);
+    try {
+        return openOrdered(path, ordered, withPatches, helper);
+    } catch (const ReadFailure& failure) {
+        throw ReadFailure(failure.file == ordered ? path : failure.file, failure.message);
+    }
 }
 
 } // namespace corvala::host::io::reader
