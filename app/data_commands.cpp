@@ -28,6 +28,12 @@ DataCommands::DataCommands(QWidget& window, NoticeBar& notice)
     connect(&m_opener, &DataOpener::failed, this, &DataCommands::failed);
 }
 
+static std::shared_ptr<const host::DataSet> dataOfActiveFrame()
+{
+    const host::Frame* const frame = host::Document::instance().activeFrame();
+    return frame ? frame->sharedData() : nullptr;
+}
+
 void DataCommands::open(const QStringList& files, const host::io::Plot3DLayout& plot3d, DataUse use)
 {
     host::io::ReadRequest request;
@@ -176,14 +182,31 @@ void DataCommands::tellDetected(const QString& detected, QStringList notes,
         files.size() == 1
             ? tr("Detected: %1.").arg(detected)
             : tr("Detected in %1: %2.").arg(QFileInfo(files.value(0)).fileName(), detected));
-    m_notice.tell(notes.join(QLatin1Char(' ')), tr("Change..."), change);
+    m_notice.tell(notes.join(QLatin1Char(' ')), tr("Change..."), ofTheseData(change));
 }
 
-/// With a button for the first offer; reading again tells the next one.
+/// The frame may show other data by the time that the button of a note is clicked.
+std::function<void()> DataCommands::ofTheseData(const std::function<void()>& command)
+{
+    const std::weak_ptr<const host::DataSet> data = dataOfActiveFrame();
+    return [this, data, command] {
+        const auto shown = dataOfActiveFrame();
+        if (shown && shown == data.lock())
+            command();
+        else
+            m_notice.tell(tr("That was about data that the active frame does not show any more."));
+    };
+}
+
+/// With a button for the first offer; reading again tells the next one. Data that were added are
+/// not read again alone.
 void DataCommands::tellOffers(const host::io::ReadOffers& offers, QStringList notes)
 {
     host::io::ReadRequest request = m_opener.request();
     QString caption;
+    notes << describe(offers);
+    if (m_opener.use() == DataUse::Add)
+        return void(m_notice.tell(notes.join(QLatin1Char(' '))));
     if (offers.numberedFiles > 0) {
         caption = tr("Take Numbers as Times");
         request.choices.numberedTimes = true;
@@ -191,8 +214,8 @@ void DataCommands::tellOffers(const host::io::ReadOffers& offers, QStringList no
         caption = tr("Read Them");
         request.choices.boundaryPatches = true;
     }
-    notes << describe(offers);
-    m_notice.tell(notes.join(QLatin1Char(' ')), caption, [this, request] { open(request); });
+    m_notice.tell(notes.join(QLatin1Char(' ')), caption,
+                  ofTheseData([this, request] { open(request); }));
 }
 
 void DataCommands::tellOpened(const host::io::ReadResult& result)

@@ -48,6 +48,7 @@ private:
     void askToSkip(const host::io::ReadResult& result);
     void preview(host::io::ReadRequest request, DataUse use);
     void tellOpened(const host::io::ReadResult& result);
+    std::function<void()> ofTheseData(const std::function<void()>& command);
     void tellOffers(const host::io::ReadOffers& offers, QStringList notes);
     void tellDetected(const QString& detected, QStringList notes,
                       const std::function<void()>& change);
