@@ -44,14 +44,10 @@ private:
 
 } // namespace
 
-/// What is typed finds the entries of a list that can be edited.
 static void enter(QComboBox& field)
 {
     field.setFocus(Qt::ShortcutFocusReason);
-    if (field.lineEdit())
-        field.lineEdit()->selectAll();
-    else
-        field.showPopup();
+    field.lineEdit()->selectAll();
 }
 
 void goToField(QToolBar& bar, QComboBox& field)
@@ -63,13 +59,10 @@ void goToField(QToolBar& bar, QComboBox& field)
         enter(field);
         return;
     }
-    bar.window()->setFocus(); // which ends another visit: one bar slides at a time
-    QTimer::singleShot(kOpeningMilliseconds, &field, [&field, rest] {
-        if (!rest->isChecked())
-            rest->click();
-        new Visit(field, *rest);
-        QTimer::singleShot(kOpeningMilliseconds, &field, [&field] { enter(field); });
-    });
+    if (!rest->isChecked())
+        rest->click();
+    new Visit(field, *rest);
+    QTimer::singleShot(kOpeningMilliseconds, &field, [&field] { enter(field); });
 }
 
 } // namespace corvala::app

@@ -204,17 +204,14 @@ void MainMenus::makePlotMenu(QAction& details, const QList<QAction*>& layers)
            tr("Show or hide the panel of what is set for the plot as a whole"));
     addDetailsMenu(*menu);
     menu->addSeparator();
-    addChoices(*menu);
+    addContourCommand(*menu);
     menu->addSeparator();
     menu->addActions(layers);
 }
 
-/// What is chosen in the toolbars, which a narrow window has no room for.
-void MainMenus::addChoices(QMenu& menu)
+/// A narrow window may have no room for it in the toolbar.
+void MainMenus::addContourCommand(QMenu& menu)
 {
-    m_plotType = menu.addAction(tr("Plot T&ype..."), this, &MainMenus::plotTypeWanted);
-    setUpCommand(*m_plotType, "choosePlotType", QKeySequence(QStringLiteral("Ctrl+T")),
-                 tr("Choose what kind of plot is shown"));
     m_contourVariable =
         menu.addAction(tr("Contour &Variable..."), this, &MainMenus::contourVariableWanted);
     setUpCommand(*m_contourVariable, "chooseContourVariable",
@@ -232,6 +229,13 @@ void MainMenus::addDetailsMenu(QMenu& menu)
     for (QAction* page : m_details->actions())
         describe(*page, tr("Show this page in the panel of details"));
     describe(*m_details->menuAction(), tr("Show a page in the panel of details"));
+}
+
+void MainMenus::addPlotTypeMenu(const QList<QAction*>& types)
+{
+    auto* const menu = new QMenu(tr("Plot T&ype"), m_plotMenu);
+    menu->addActions(types);
+    m_plotMenu->insertMenu(m_contourVariable, menu);
 }
 
 void MainMenus::addTimeMenu(const QList<QAction*>& commands)
@@ -297,7 +301,6 @@ void MainMenus::refresh(bool hasPlot)
     for (QAction* const command : {m_savePicture, m_copyPicture})
         command->setEnabled(frame && frame->hasData());
     enableDataCommands();
-    m_plotType->setEnabled(frame && frame->hasData());
     m_contourVariable->setEnabled(frame && frame->hasData() && frame->isFieldPlot());
     m_details->setEnabled(hasPlot);
     for (auto page = m_detailPages.begin(); page != m_detailPages.end(); ++page)

@@ -28,6 +28,7 @@ public:
 
     QToolBar& toolBar() const { return *m_toolBar; } ///< of common commands
     QMenu& plotMenu() const { return *m_plotMenu; }
+    void addPlotTypeMenu(const QList<QAction*>& types);
     void addTimeMenu(const QList<QAction*>& commands);
     /// The commands that bring other data.
     void enableOpening(bool enabled);
@@ -46,7 +47,6 @@ Q_SIGNALS:
     void pictureWanted();
     void pictureCopyWanted();
     void detailsWanted(const QString& page); ///< the name of the page
-    void plotTypeWanted(); ///< is to be chosen
     void contourVariableWanted(); ///< is to be chosen
 
 private:
@@ -57,7 +57,7 @@ private:
     void fillRecentMenu(QMenu& menu);
     void makeEditMenu();
     void makePlotMenu(QAction& details, const QList<QAction*>& layers);
-    void addChoices(QMenu& menu);
+    void addContourCommand(QMenu& menu);
     void addDetailsMenu(QMenu& menu);
     void makeHelpMenu();
     void showAbout();
@@ -81,7 +81,6 @@ private:
     QAction* m_closeData = nullptr;
     bool m_isOpeningEnabled = true;
     QAction* m_copyPicture = nullptr;
-    QAction* m_plotType = nullptr;
     QAction* m_contourVariable = nullptr;
 };
 

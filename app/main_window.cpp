@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/main_window.h"
 
-#include "app/bar_field.h"
 #include "app/contour_bar.h"
 #include "app/data_commands.h"
 #include "app/details/details_dock.h"
@@ -112,6 +111,7 @@ void MainWindow::makeBars()
     m_views = new ViewCommands(*this, m_plotArea->frameView(), *m_notice, m_menus->plotMenu());
     m_menus->addTimeMenu(m_timeBar->commands());
     m_plotType = new PlotTypeChoice(this);
+    m_menus->addPlotTypeMenu(m_plotType->commands());
     m_menus->toolBar().addSeparator();
     m_menus->toolBar().addWidget(m_plotType);
     m_contourBar = new ContourBar(this);
@@ -126,8 +126,6 @@ void MainWindow::makeBars()
     connect(m_menus, &MainMenus::tableWanted, m_data, &DataCommands::chooseTables);
     connect(m_menus, &MainMenus::moreDataWanted, m_data, &DataCommands::chooseMore);
     connect(m_menus, &MainMenus::closingWanted, m_data, &DataCommands::closeData);
-    connect(m_menus, &MainMenus::plotTypeWanted, m_plotType,
-            [this] { goToField(m_menus->toolBar(), m_plotType->field()); });
     connect(m_menus, &MainMenus::contourVariableWanted, m_contourBar, &ContourBar::chooseVariable);
     connect(m_menus, &MainMenus::filesWanted, m_data,
             [this](const QStringList& files) { m_data->open(files); });

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/plot_type_choice.h"
 
+#include "app/command_tips.h"
 #include "app/help_reference.h"
 #include "host/document/document.h"
 
+#include <QAction>
+#include <QActionGroup>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -35,17 +38,23 @@ PlotTypeChoice::PlotTypeChoice(QWidget* parent)
     layout->addWidget(label);
     layout->addWidget(m_types);
     m_types->setObjectName(QStringLiteral("plotType"));
-    for (const auto& [type, text] : kPlotTypes)
+    auto* const group = new QActionGroup(this);
+    for (const auto& [type, text] : kPlotTypes) {
+        auto* const command = new QAction(tr(text), group);
+        command->setCheckable(true);
+        describe(*command, tr("Show this kind of plot"));
+        connect(command, &QAction::triggered, this,
+                [this, position = m_types->count()] { choose(position); });
+        m_commands << command;
         m_types->addItem(tr(text), int(type));
-    connect(m_types, QOverload<int>::of(&QComboBox::activated), this, [this](int position) {
-        Document::instance().execute(
-            host::SetStyle {host::pathOf(style::plotType), m_types->itemData(position).toDouble()});
-    });
+    }
+    connect(m_types, QOverload<int>::of(&QComboBox::activated), this, &PlotTypeChoice::choose);
 }
 
-QComboBox& PlotTypeChoice::field() const
+void PlotTypeChoice::choose(int position)
 {
-    return *m_types;
+    Document::instance().execute(
+        host::SetStyle {host::pathOf(style::plotType), m_types->itemData(position).toDouble()});
 }
 
 void PlotTypeChoice::refresh()
@@ -53,6 +62,10 @@ void PlotTypeChoice::refresh()
     const host::Frame* frame = Document::instance().activeFrame();
     m_types->setEnabled(frame && frame->hasData());
     m_types->setCurrentIndex(frame ? m_types->findData(int(frame->plotType())) : -1);
+    for (int i = 0; i < m_commands.size(); ++i) {
+        m_commands[i]->setEnabled(m_types->isEnabled());
+        m_commands[i]->setChecked(i == m_types->currentIndex());
+    }
 }
 
 } // namespace corvala::app

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+class QAction;
 class QComboBox;
 
 namespace corvala::app {
@@ -18,10 +19,13 @@ public:
     /// Shows what the document says.
     void refresh();
 
-    QComboBox& field() const;
+    const QList<QAction*>& commands() const { return m_commands; } ///< one for each type
 
 private:
+    void choose(int position);
+
     QComboBox* m_types; // not owned
+    QList<QAction*> m_commands;
 };
 
 } // namespace corvala::app
