@@ -4,6 +4,7 @@
 #include "app/help_pages.h"
 #include "app/icons.h"
 #include "app/user_settings.h"
+#include "app/window_place.h"
 
 #include <QAction>
 #include <QApplication>
@@ -11,6 +12,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTextBrowser>
@@ -19,31 +21,32 @@
 
 namespace corvala::app {
 
-static const QString kGeometrySetting = QStringLiteral("help/geometry");
 static const QString kPanesSetting = QStringLiteral("help/panes");
 static constexpr int kReferenceRole = Qt::UserRole;
+static constexpr QSize kFirstSize(860, 640);
 
 HelpWindow::HelpWindow()
 {
     setObjectName(QStringLiteral("helpWindow"));
     setWindowTitle(tr("Help - corvala"));
+    setWindowIcon(programIcon());
     setAttribute(Qt::WA_QuitOnClose, false);
     makePanes();
     makeBar();
     useColors();
     listContents();
-    const QSettings settings = userSettings();
-    if (!restoreGeometry(settings.value(kGeometrySetting).toByteArray()))
-        resize(860, 640);
-    if (!m_panes->restoreState(settings.value(kPanesSetting).toByteArray()))
+    new WindowPlace(*this, QStringLiteral("help"), [this] {
+        QRect place({}, kFirstSize);
+        place.moveCenter(screen()->availableGeometry().center());
+        return place;
+    });
+    if (!m_panes->restoreState(userSettings().value(kPanesSetting).toByteArray()))
         m_panes->setSizes({220, 640});
 }
 
 HelpWindow::~HelpWindow()
 {
-    QSettings settings = userSettings();
-    settings.setValue(kGeometrySetting, saveGeometry());
-    settings.setValue(kPanesSetting, m_panes->saveState());
+    userSettings().setValue(kPanesSetting, m_panes->saveState());
 }
 
 void HelpWindow::makePanes()
