@@ -5,8 +5,8 @@
 
 namespace corvala::app {
 
-/// The style of the desktop, which marks the button of a tool or of a list that has the focus so
-/// that it is seen in light and dark palettes.
+/// The style of the desktop, which marks tool buttons, and those of lists, that have the focus or
+/// are switched on, so that it is seen in light and dark palettes.
 class FocusStyle : public QProxyStyle
 {
     Q_OBJECT
