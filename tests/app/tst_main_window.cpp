@@ -332,6 +332,19 @@ private Q_SLOTS:
         button("Move It to the Middle")->click();
         QTRY_VERIFY(!button("Move It to the Middle"));
         QVERIFY(!shownTexts().contains(QLatin1String("Slice 1")));
+        write({{"FieldMap", "Contour", "FloodColoring"},
+               double {ContourColoring_Group2},
+               frame().activeFieldMaps()});
+        write({{"FieldLayers", "ShowContour"}, true});
+        write({{"ContourGroups", "MoreLines"}, std::string("1 two"), {}, 2});
+        QTRY_VERIFY(button("Plot Details..."));
+        button("Plot Details...")->click();
+        play::waitUntilIdle();
+        const auto indexes =
+            m_window->findChild<DetailsDock*>()->findChildren<QComboBox*>(QStringLiteral("index"));
+        QVERIFY(std::any_of(indexes.begin(), indexes.end(), [](const QComboBox* index) {
+            return index->isVisible() && index->currentIndex() == 1;
+        }));
     }
 
     /// Each click is a step, until Esc lets the tool go.

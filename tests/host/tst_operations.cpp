@@ -355,6 +355,8 @@ private Q_SLOTS:
             "Mesh line thickness = 0.3% (1 field map)");
         row(operationOf(R"({"active": "FieldMaps", "maps": "2-4", "op": "remove"})"),
             "Deactivate 3 field maps");
+        row(operationOf(R"({"active": "FieldMaps", "maps": "2", "op": "assign"})"),
+            "Show only Zone 2");
         row(operationOf(R"({"rename": "x", "zone": 2})"), "Rename \"Zone 2\" to \"x\"");
         row(operationOf(R"({"createMaps": 2})"), "Create 2 line maps");
         row(operationOf(R"({"deleteMaps": "2"})"), "Delete 1 field map");
