@@ -92,6 +92,9 @@ private Q_SLOTS:
         const QByteArray end = "</PointData></Piece></ImageData></VTKFile>";
         row("empty", "a.vtu", {}, "it is empty");
         row("unknown ending", "a.docx", "x", "\"docx\" are not known");
+        row("a mesh like a table", "a.msh",
+            "$MeshFormat\n2.2 0 8\n$Nodes\n3\n1 0 0 0\n2 1 0 0\n3 0 1 0\n$EndNodes\n",
+            "\"msh\" are not known");
         row("no ending", "a", "x", "are not known");
         row("not XML", "a.vtu", "hello", "no VTK XML file");
         row("other XML", "a.vtu", "<html></html>", "no VTK XML file");

@@ -199,6 +199,10 @@ private Q_SLOTS:
         const double nan = std::numeric_limits<double>::quiet_NaN();
         row("not finite", grid + p + "nan -Infinity 1.#INF\n", {nan, -inf, inf}, {});
         row("exponents", grid + p + "1.5D+2 -2d-1\n3e0\n", {150, -0.2f, 3}, {});
+        row("numbers in the line of their keyword",
+            "DATASET POLYDATA\nPOINTS 2 float 0 0 0\n1 0 0\nLINES 1 3 2\n0\n1\nPOINT_DATA 2\n" + p
+                + "7 8\nVECTORS v float 1 2 3\n4 5 6\n",
+            {7, 8}, {});
         row("a word at the end", grid + p + "1 2 3\nend of file\n", {1, 2, 3},
             "a.vtk: what cannot be read of it was left out: \"end\".");
         row("a word in between", grid + p + "1 2 3\nscalar q float\n4 5 6\n", {1, 2, 3},
@@ -235,8 +239,8 @@ private Q_SLOTS:
         row("points", v + "f 1 2 3\nf -3 -2 -1\n", "X", {0, 1, 2}, {});
         row("far away", "v 4512345.123 0 0\nv +1D1 1 0 1\nv 2 1 0 .5 .5 .5\nf 1 2 3", "X",
             {4512345.123, 10, 2}, {});
-        row("old line ends, a long line", QByteArray(v + "f 1\\\n 2 3\n").replace('\n', '\r'), "X", {0, 1, 2},
-            {});
+        row("old line ends, a long line", QByteArray(v + "f 1\\\n 2 3\n").replace('\n', '\r'), "X",
+            {0, 1, 2}, {});
         row("points behind their face", "f 1 2 3\n" + v, "X", {0, 1, 2}, {});
         row("texture", v + "vt 5\nvt 6 1\nf 1/2 2/1 3/-1\n", "TCoords X", {6, 5, 6}, {});
         row("a point with two normals",

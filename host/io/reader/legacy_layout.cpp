@@ -111,6 +111,16 @@ bool LegacyLayout::walkLine()
     return true;
 }
 
+/// Numbers in text may begin in the line of their keyword, behind so many words.
+void LegacyLayout::startNumbers(std::size_t words)
+{
+    std::size_t place = m_lineBegin;
+    for (std::size_t i = 0; i < words && place < m_place; ++i)
+        place = m_bytes.find_first_of(kBlank, m_bytes.find_first_not_of(kBlank, place));
+    if (m_isText && m_bytes.find_first_not_of(kBlank, place) < m_place)
+        m_place = place;
+}
+
 bool LegacyLayout::walkStructure(const std::vector<std::string>& words)
 {
     static const std::vector<std::string> plain {"dataset", "dimensions", "extent",
@@ -122,15 +132,21 @@ bool LegacyLayout::walkStructure(const std::vector<std::string>& words)
         return std::find(keys.begin(), keys.end(), key) != keys.end();
     };
     const std::string type = lower(words.back());
+    const std::string third = words.size() > 2 ? words[2] : std::string();
     const std::size_t begin = m_lineBegin;
     m_isOfCells = m_isOfCells || (key == "dataset" && type == "unstructured_grid");
     if (isOneOf(plain))
         return addStructure(begin, {0, "char"});
-    if (key == "points")
-        return addStructure(begin, {3 * countOf(words, 1), type});
-    if (key.size() == 13 && key.compare(1, 12, "_coordinates") == 0)
-        return addStructure(begin, {countOf(words, 1), type});
+    if (key == "points") {
+        startNumbers(3);
+        return addStructure(begin, {3 * countOf(words, 1), third});
+    }
+    if (key.size() == 13 && key.compare(1, 12, "_coordinates") == 0) {
+        startNumbers(3);
+        return addStructure(begin, {countOf(words, 1), third});
+    }
     if (key == "cell_types") {
+        startNumbers(2);
         m_typedCells = countOf(words, 1);
         return addStructure(begin, {m_typedCells, "int"});
     }
@@ -139,6 +155,7 @@ bool LegacyLayout::walkStructure(const std::vector<std::string>& words)
         m_corners = countOf(words, 2);
         if (key == "cells")
             m_cells = m_hasNewCells ? std::max(m_offsets - 1, 0.0) : m_offsets;
+        startNumbers(3);
         return addStructure(begin, {m_hasNewCells ? 0 : m_corners, "int"});
     }
     if (key == "offsets")
@@ -162,9 +179,10 @@ bool LegacyLayout::walkAttribute(const std::vector<std::string>& words)
     const std::size_t begin = m_lineBegin;
     const std::string name = words.size() > 1 ? words[1] : std::string();
     const auto type = [&](std::size_t at) { return at < words.size() ? words[at] : std::string(); };
-    if (const auto found = components.find(key); found != components.end())
+    if (const auto found = components.find(key); found != components.end()) {
+        startNumbers(3);
         addArray(begin, name, {found->second * m_tuples, type(2)});
-    else if (key == "texture_coordinates")
+    } else if (key == "texture_coordinates")
         addArray(begin, name, {countOf(words, 2) * m_tuples, type(3)});
     else if (key == "color_scalars")
         addArray(begin, name, {countOf(words, 2) * m_tuples, "unsigned_char"});

@@ -82,6 +82,7 @@ private:
     std::optional<ReadFailure> pass(const Numbers& numbers);
     std::optional<ReadFailure> passText(double count);
     std::vector<std::string> nextLine();
+    void startNumbers(std::size_t words);
     ReadFailure cutOff(double bytes) const;
 
     const MappedFile& m_file;

@@ -60,8 +60,8 @@ static const std::vector<VtkWords>& knownWords()
         {like("reading node label in solution"),
          QT_TRANSLATE_NOOP("ReadMessage", "a solution cannot be read")},
         // Exodus
-        {like("Unable to open (?:file )?\"(.*)\""),
-         QT_TRANSLATE_NOOP("ReadMessage", "%1 is damaged, or of another format")},
+        {like("Unable to open (?:file )?\""),
+         QT_TRANSLATE_NOOP("ReadMessage", "it is damaged, or no Exodus file")},
         {like("Unable to fetch \\w+ set \"(?:Unnamed set ID: )?([^\"]*)\""),
          QT_TRANSLATE_NOOP("ReadMessage", "the set \"%1\" cannot be read")},
     };

@@ -2,6 +2,7 @@
 #include "host/io/reader/text/table_file.h"
 
 #include "host/io/attribute_filler.h"
+#include "host/io/reader/file_format.h"
 #include "host/io/reader/read_failure.h"
 #include "host/io/reader/text/table_data.h"
 #include "host/io/reader/text/table_layout.h"
@@ -316,6 +317,9 @@ std::vector<std::unique_ptr<DataFile>> openTables(const QStringList& paths,
 
 bool isTable(const QString& path)
 {
+    for (const char* const other : {"<", "$MeshFormat"}) // whose inner parts may look like one
+        if (firstBytes(path, 1024).trimmed().startsWith(other))
+            return false;
     try {
         const TableLayout layout = layoutOf(sampleOf(path, {}), {});
         return !layout.columns.empty() && layout.isSure;
