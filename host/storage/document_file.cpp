@@ -37,9 +37,18 @@ static QString folderOf(const QString& file)
     return QFileInfo(canonical.isEmpty() ? file : canonical).absolutePath();
 }
 
+boost::signals2::signal<void(const QString& file)>& documentSaved()
+{
+    static boost::signals2::signal<void(const QString& file)> saved;
+    return saved;
+}
+
 QString saveDocument(Document& document, const QString& file)
 {
-    return replaceWhole(file, toText(storedDocument(document), folderOf(file)));
+    const QString problem = replaceWhole(file, toText(storedDocument(document), folderOf(file)));
+    if (problem.isEmpty())
+        documentSaved()(QFileInfo(file).absoluteFilePath());
+    return problem;
 }
 
 ReadDocument readDocument(const QString& file)

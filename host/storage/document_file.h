@@ -6,6 +6,8 @@
 
 #include <QStringList>
 
+#include <boost/signals2/signal.hpp>
+
 #include <functional>
 #include <memory>
 
@@ -20,7 +22,10 @@ constexpr const char* kFileEnding = ".cvdoc";
 /// Whether a file is a document, by its ending, or by how it begins where that says nothing.
 bool isDocumentFile(const QString& file);
 
-/// Saves the document (whole_file.h). Empty, or what went wrong.
+/// Tells the absolute path of the file in which the open document was saved, whoever asked for it.
+boost::signals2::signal<void(const QString& file)>& documentSaved();
+
+/// Saves the document (whole_file.h) and announces it. Empty, or what went wrong.
 QString saveDocument(Document& document, const QString& file);
 
 /// A document as it was read, or why it could not be.

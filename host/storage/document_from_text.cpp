@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <deque>
 #include <limits>
 #include <set>
 
@@ -50,9 +51,7 @@ ValueList::Value readValue(const JsonPlace& place, const Attribute& attribute,
     if (attribute.isText()) {
         input = place.text();
     } else if (attribute.type == ValueType::Bool) {
-        if (!place.json().is_boolean())
-            place.fail(Text::tr("must be true or false"));
-        input = place.json().get<bool>();
+        input = place.boolean();
     } else {
         input = place.number();
     }
@@ -177,13 +176,41 @@ DataOrigin readOrigin(const JsonPlace& place, const QString& folder)
     place.fail(Text::tr("must open data"));
 }
 
-std::vector<Pick> readPicks(const JsonPlace& place)
+std::int64_t readPicked(const JsonPlace& place, std::int64_t count)
 {
-    try {
-        return std::get<SetPicks>(operationFromJson({{"pick", place.json()}}, {})).picks;
-    } catch (const TextError& error) {
-        place.fail(error.message());
-    }
+    const std::int64_t number = place.integer(1, std::numeric_limits<std::int32_t>::max());
+    if (number > count)
+        place.fail(Text::tr("%1 is beyond %2, the last number").arg(number).arg(count));
+    return number;
+}
+
+Pick readPick(const JsonPlace& place, const StoredFrame& frame)
+{
+    using Limits = std::numeric_limits<int>;
+    Pick pick;
+    place.readMembers(
+        {{"zone",
+          [&](const JsonPlace& zone) {
+              pick = {PickType_Zone, readPicked(zone, zoneCount(frame))};
+          }},
+         {"lineMap",
+          [&](const JsonPlace& map) {
+              pick = {PickType_LineMap, readPicked(map, frame.lineMapCount)};
+          }},
+         {"other", [&](const JsonPlace& type) {
+              pick.type = static_cast<int>(type.integer(Limits::min(), Limits::max()));
+              if (pick.type == PickType_Zone || pick.type == PickType_LineMap)
+                  type.fail(Text::tr("zones and line maps are picked by their numbers"));
+          }}});
+    if (place.json().size() != 1)
+        place.fail(Text::tr("must be one of \"zone\", \"lineMap\" and \"other\""));
+    return pick;
+}
+
+ViewCheck& viewCheck()
+{
+    static ViewCheck check;
+    return check;
 }
 
 /// Reads one frame.
@@ -194,8 +221,9 @@ public:
         : m_folder(folder)
     {
         place.readMembers(membersOfData());
-        if (m_frame.data.empty() != m_frame.zones.runs().empty())
-            place.fail(Text::tr("data and their zones belong together"));
+        const bool hasData = !m_frame.data.empty();
+        if (hasData == m_frame.zones.runs().empty() || (!hasData && m_frame.variables.count() > 0))
+            place.fail(Text::tr("data and their zones and variables belong together"));
     }
     StoredFrame take() { return std::move(m_frame); }
 
@@ -204,6 +232,8 @@ private:
 
     NamedNumbers limits() const { return {m_frame.variables.count(), zoneCount(m_frame)}; }
     void readStrand(Place place);
+    void readTime(Place place);
+    void readView(Place place);
     std::vector<JsonPlace::Reader> membersOfData();
     std::vector<JsonPlace::Reader> membersOfStyle();
 
@@ -224,6 +254,21 @@ void FrameReader::readStrand(Place place)
         if (other.zones.intersect(strand.zones))
             place.fail(Text::tr("a zone has two strands"));
     m_frame.strands.push_back(std::move(strand));
+}
+
+void FrameReader::readTime(Place place)
+{
+    m_frame.time = place.number();
+    if (m_frame.strands.empty())
+        place.fail(Text::tr("no zone belongs to a strand, so there is no time"));
+}
+
+void FrameReader::readView(Place place)
+{
+    const int plotType = static_cast<int>(place.keyNumber(PlotType_Field3D, PlotType_LinePolar));
+    if (viewCheck())
+        viewCheck()(plotType, place);
+    m_frame.views[plotType] = place.json().dump();
 }
 
 /// In the order in which they are needed.
@@ -250,7 +295,7 @@ std::vector<JsonPlace::Reader> FrameReader::membersOfData()
          [&](Place place) { frame.enabledZones = place.numbers(zoneCount(frame)); }},
         {"enabledVariables",
          [&](Place place) { frame.enabledVariables = place.numbers(frame.variables.count()); }},
-        {"time", [&](Place place) { frame.time = place.number(); }}};
+        {"time", [&](Place place) { readTime(place); }}};
     for (JsonPlace::Reader& reader : membersOfStyle())
         readers.push_back(std::move(reader));
     return readers;
@@ -274,11 +319,13 @@ std::vector<JsonPlace::Reader> FrameReader::membersOfStyle()
          [&](Place place) {
              frame.lineStyle = readColumns(place, Scope::LineMap, frame.lineMapCount, limits());
          }},
-        {"picks", [&](Place place) { frame.picks = readPicks(place); }},
+        {"picks",
+         [&](Place place) {
+             place.forEachElement(
+                 [&](Place pick) { frame.picks.push_back(readPick(pick, frame)); });
+         }},
         {"views", [&](Place place) {
-             place.forEachMember([&](const std::string&, Place view) {
-                 frame.views[int(view.keyNumber(0, 5))] = view.json().dump();
-             });
+             place.forEachMember([&](const std::string&, Place view) { readView(view); });
          }}};
 }
 
@@ -317,59 +364,103 @@ StoredDocument readDocument(const JsonPlace& root, const QString& folder)
               const auto count = static_cast<std::int64_t>(document.frames.size());
               document.activeFrame = place.integer(std::min<std::int64_t>(1, count), count);
           }}});
-    if (!root.json().contains("activeFrame"))
-        root.fail(Text::tr("\"activeFrame\" is missing"));
+    root.member("activeFrame"); // must be there
     return document;
 }
 
 /// What follows the version may mean anything where that is a newer one.
 void checkVersion(const JsonPlace& root)
 {
-    const Json& json = root.json();
-    const bool isDocument = json.is_object() && json.contains("format")
-        && json["format"] == kFormatName && json.contains("version")
-        && json["version"].is_number_integer() && json["version"] >= 1;
-    if (!isDocument)
+    if (!root.json().is_object() || !root.json().contains("format"))
         root.fail(Text::tr("this is no document"));
-    if (json["version"] > kFormatVersion)
-        throw DocumentError(QStringLiteral("version"),
+    if (const JsonPlace format = root.member("format"); format.json() != kFormatName)
+        format.fail(Text::tr("this is no document"));
+    const JsonPlace version = root.member("version");
+    if (version.integer(1, std::numeric_limits<std::int32_t>::max()) > kFormatVersion)
+        throw DocumentError(version.path(),
                             Text::tr("the document has version %1 of the format; this program "
                                      "reads up to version %2")
-                                .arg(shown(json["version"]))
+                                .arg(shown(version.json()))
                                 .arg(kFormatVersion),
                             DocumentError::Kind::NewerVersion);
 }
 
-/// A key that stands twice would hide what stands under the first; what is nested deeper than
-/// anything that is written would exhaust the stack.
-class KeyCheck
+/// Goes along with the parser. A key that stands twice would hide what stands under the first; what
+/// is nested deeper than anything that is written would exhaust the stack.
+class ParserWatch
 {
 public:
-    bool operator()(int depth, Json::parse_event_t event, Json& parsed)
+    bool operator()(Json::parse_event_t event, const Json& parsed)
     {
-        constexpr int kDeepest = 20;
-        if (depth > kDeepest)
-            throw DocumentError({}, Text::tr("objects and lists are nested too deeply"));
-        if (event == Json::parse_event_t::object_start)
-            m_keys.emplace_back();
-        else if (event == Json::parse_event_t::object_end)
-            m_keys.pop_back();
-        else if (event == Json::parse_event_t::key
-                 && !m_keys.back().insert(parsed.get<std::string>()).second)
-            throw DocumentError({}, Text::tr("%1 stands twice in one object").arg(shown(parsed)));
+        switch (event) {
+        case Json::parse_event_t::object_end:
+        case Json::parse_event_t::array_end: m_levels.pop_back(); break;
+        case Json::parse_event_t::key: enterKey(parsed); break;
+        case Json::parse_event_t::value: enterValue(); break;
+        case Json::parse_event_t::object_start:
+        case Json::parse_event_t::array_start:
+            enterValue();
+            m_levels.emplace_back();
+            requireFlat();
+            break;
+        }
         return true;
     }
+    /// A value comes, as an element of a list or under the last key.
+    void enterValue()
+    {
+        if (!m_levels.empty())
+            ++m_levels.back().position;
+    }
+    [[noreturn]] void fail(const QString& reason) const { throw DocumentError(path(), reason); }
 
 private:
-    std::vector<std::set<std::string>> m_keys;
+    struct Level
+    {
+        std::set<std::string> keys; ///< none in a list
+        const std::string* key = nullptr;
+        int position = 0;
+    };
+
+    void enterKey(const Json& key)
+    {
+        const auto [place, isNew] = m_levels.back().keys.insert(key.get<std::string>());
+        m_levels.back().key = &*place;
+        if (!isNew)
+            fail(Text::tr("%1 stands twice in one object").arg(shown(key)));
+    }
+    void requireFlat() const
+    {
+        constexpr std::size_t kMostLevels = 20;
+        if (m_levels.size() > kMostLevels)
+            fail(Text::tr("objects and lists are nested too deeply"));
+    }
+    /// As JsonPlace::path.
+    QString path() const
+    {
+        QString text;
+        for (const Level& level : m_levels)
+            if (level.key)
+                text += (text.isEmpty() ? QString() : QStringLiteral("."))
+                    + QString::fromStdString(*level.key);
+            else if (level.position > 0)
+                text += QStringLiteral("[%1]").arg(level.position);
+        return text;
+    }
+
+    std::deque<Level> m_levels;
 };
 
 Json parsed(const std::string& text)
 {
+    ParserWatch watch;
     try {
-        return Json::parse(text, KeyCheck());
+        return Json::parse(text, [&watch](int, Json::parse_event_t event, const Json& value) {
+            return watch(event, value);
+        });
     } catch (const Json::out_of_range&) { // all that is thrown beside errors of the syntax
-        throw DocumentError({}, Text::tr("the number is too large"));
+        watch.enterValue();
+        watch.fail(Text::tr("the number is too large"));
     } catch (const Json::parse_error& error) {
         const auto end = text.begin()
             + static_cast<std::ptrdiff_t>(
@@ -383,6 +474,11 @@ Json parsed(const std::string& text)
 }
 
 } // namespace
+
+void setViewCheck(ViewCheck check)
+{
+    viewCheck() = std::move(check);
+}
 
 DocumentError::DocumentError(const QString& place, const QString& reason, Kind kind)
     : std::runtime_error(reason.toStdString())

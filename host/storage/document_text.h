@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <stdexcept>
 #include <string>
 
@@ -35,6 +36,13 @@ private:
     QString m_place;
     Kind m_kind;
 };
+
+class JsonPlace;
+
+/// Fails at the place of what means nothing in a view of a plot type.
+using ViewCheck = std::function<void(int plotType, const JsonPlace& view)>;
+/// Who draws knows views, and checks those that are read; without a check all are taken.
+void setViewCheck(ViewCheck check);
 
 /// Reads what toText has written. Throws a DocumentError for a text that is not whole, unknown
 /// names, and values that are of another type or outside their range.

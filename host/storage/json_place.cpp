@@ -70,6 +70,23 @@ void JsonPlace::forEachElement(const std::function<void(const JsonPlace&)>& read
         read(JsonPlace(m_value[i], *this, nullptr, i + 1));
 }
 
+JsonPlace JsonPlace::member(const char* key) const
+{
+    if (!m_value.is_object())
+        fail(Text::tr("must be an object, not %1").arg(brief(m_value)));
+    const auto found = m_value.find(key);
+    if (found == m_value.end())
+        fail(Text::tr("\"%1\" is missing").arg(QLatin1String(key)));
+    return JsonPlace(*found, *this, &found.key(), 0);
+}
+
+bool JsonPlace::boolean() const
+{
+    if (!m_value.is_boolean())
+        fail(Text::tr("must be true or false, not %1").arg(brief(m_value)));
+    return m_value.get<bool>();
+}
+
 const std::string& JsonPlace::text() const
 {
     if (!m_value.is_string())
@@ -111,9 +128,8 @@ NumberSet JsonPlace::numbers(std::int64_t count) const
 std::int64_t JsonPlace::keyNumber(std::int64_t minimum, std::int64_t maximum) const
 {
     std::int64_t number = 0;
-    const char* const end = m_key->data() + m_key->size();
-    const auto [rest, error] = std::from_chars(m_key->data(), end, number);
-    if (!(error == std::errc() && rest == end && number >= minimum && number <= maximum))
+    std::from_chars(m_key->data(), m_key->data() + m_key->size(), number);
+    if (std::to_string(number) != *m_key || number < minimum || number > maximum)
         fail(Text::tr("the name must be a number from %1 to %2").arg(minimum).arg(maximum));
     return number;
 }

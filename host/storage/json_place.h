@@ -36,12 +36,14 @@ public:
     void
     forEachMember(const std::function<void(const std::string& key, const JsonPlace&)>& read) const;
     void forEachElement(const std::function<void(const JsonPlace&)>& read) const;
+    JsonPlace member(const char* key) const; ///< of an object that must have it
 
     const std::string& text() const;
+    bool boolean() const;
     double number() const;
     std::int64_t integer(std::int64_t minimum, std::int64_t maximum) const;
     NumberSet numbers(std::int64_t count) const; ///< of 1 to `count`
-    /// The key under which the value stands, as a number.
+    /// The key under which the value stands, as a number; it has to be written in one way only.
     std::int64_t keyNumber(std::int64_t minimum, std::int64_t maximum) const;
 
 private:

@@ -3,6 +3,8 @@
 
 #include "host/document/document.h"
 
+#include <algorithm>
+
 namespace corvala::host::storage {
 
 /// Values of a list without maps that are not the default ones. The plot type is always told.
@@ -121,6 +123,20 @@ static void takeData(const Frame& frame, StoredFrame& stored)
     stored.enabledVariables = unlessAll(frame.enabledVariables(), data.variableCount());
 }
 
+/// Picks outlive what was picked.
+static std::vector<Pick> livingPicks(const Frame& frame)
+{
+    const std::int64_t zones = frame.hasData() ? frame.data()->zoneCount() : 0;
+    std::vector<Pick> picks = frame.picks();
+    const auto isDead = [&](const Pick& pick) {
+        const bool isZone = pick.type == PickType_Zone;
+        return (isZone || pick.type == PickType_LineMap)
+            && !(pick.number >= 1 && pick.number <= (isZone ? zones : frame.lineMapCount()));
+    };
+    picks.erase(std::remove_if(picks.begin(), picks.end(), isDead), picks.end());
+    return picks;
+}
+
 static StoredFrame storedFrame(const Frame& frame)
 {
     StoredFrame stored;
@@ -132,7 +148,7 @@ static StoredFrame storedFrame(const Frame& frame)
     stored.values = changedValues(frame.values(), Scope::Frame);
     stored.fieldStyle = changedColumns(frame.fieldStyle(), Scope::FieldMap);
     stored.lineStyle = changedColumns(frame.lineStyle(), Scope::LineMap);
-    stored.picks = frame.picks();
+    stored.picks = livingPicks(frame);
     stored.views = frame.views();
     return stored;
 }

@@ -170,7 +170,10 @@ private Q_SLOTS:
         const Rows<QString, QString, QString> row; // text, what replaces it, problem
         row("newer", "\"version\": 1", "\"version\": 2",
             "version: the document has version 2 of the format");
-        row("other file", "corvala document", "recipe", "this is no document");
+        row("version", "\"version\": 1", "\"version\": \"1\"",
+            "version: must be a number, not \"1\"");
+        row("no version", "\"version\"", "\"versions\"", "\"version\" is missing");
+        row("other file", "corvala document", "recipe", "format: this is no document");
         row("unknown name", "\"variables\"", "\"variable\"", "frames[1].variable: unknown name");
         row("unknown path", "Mesh.MeshType", "Mesh.MeshTipe",
             "frames[1].fieldStyle.FieldMap.Mesh.MeshTipe: no such style value");
@@ -187,7 +190,19 @@ private Q_SLOTS:
         row("map with two values", "\"5\"", "\"3,5\"",
             "FieldMap.Mesh.MeshType: map 3 has two values");
         row("index", "Var[1]", "Var[17]", "there is no such index");
-        row("key twice", "\"zones\": [", "\"data\": [", "\"data\" stands twice in one object");
+        row("key twice", "\"zones\": [", "\"data\": [",
+            "frames[1].data: \"data\" stands twice in one object");
+        row("huge number", "\"value\": 2}", "\"value\": 1e999}",
+            "frames[1].fieldStyle.FieldMap.Mesh.MeshType[1].value: the number is too large");
+        row("pick", "{\"zone\":2}", "{\"zone\":13}",
+            "frames[1].picks[1].zone: 13 is beyond 12, the last number");
+        row("empty pick", "{\"zone\":2}", "{}", "frames[1].picks[1]: must be one of ");
+        row("pick of no kind", "{\"zone\":2}", "{\"other\":true}",
+            "frames[1].picks[1].other: must be a number, not true");
+        row("time", "\"variables\"", "\"time\": 0, \"variables\"",
+            "frames[1].time: no zone belongs to a strand");
+        row("plot type of a view", "\"picks\"", "\"views\": {\"01\": {}}, \"picks\"",
+            "frames[1].views.01: the name must be a number from 1 to 5");
         row("active frame", "\"activeFrame\": 1", "\"activeFrame\": 2",
             "activeFrame: must be a whole number from 1 to 1, not 2");
         row("origin", "\"demo\"", "\"demos\"", "frames[1].data[1]: ");
@@ -199,7 +214,8 @@ private Q_SLOTS:
         const auto [before, after, problem] = currentRow<QString, QString, QString>();
         openOnly("field2d", 12);
         executeAll({R"({"set": ["FieldMap", "Mesh", "MeshType"], "maps": "1-3", "value": 2})",
-                    R"({"set": ["FieldMap", "Mesh", "MeshType"], "maps": "5", "value": 0})"});
+                    R"({"set": ["FieldMap", "Mesh", "MeshType"], "maps": "5", "value": 0})",
+                    R"({"pick": [{"zone": 2}, {"zone": 13}]})"});
         save();
         QByteArray text = savedText().toUtf8();
         QVERIFY(text.contains(before.toUtf8()));
@@ -288,6 +304,26 @@ private Q_SLOTS:
         QCOMPARE(frame().data()->zoneCount(), std::int64_t(7));
         QCOMPARE(fieldValue({"FieldMap", "Mesh", "MeshType"}, 5), 2);
         QCOMPARE(text(frame().activeFieldMaps()), QStringLiteral("1,5-7"));
+    }
+
+    void changedNamesAreTold()
+    {
+        openOnly("transient");
+        executeAll({R"({"rename": "second", "zone": 2})", R"({"time": 1})"});
+        save();
+        const auto changed = [](const DataOrigin& origin, QString& problem) {
+            auto data = demos()(origin, problem);
+            for (ZoneInfo& zone : data->zones)
+                zone.time += 10;
+            data->zones[1].name = "inlet";
+            data->variables[3].name = "heat";
+            return data;
+        };
+        QCOMPARE(loadDocument(document(), m_file, changed).notes,
+                 QStringList({"Zones matched by number (1): 2 \"second\" = \"inlet\".",
+                              "Variables matched by number (1): 4 \"V\" = \"heat\".",
+                              "The data do not reach the solution time 1."}));
+        QCOMPARE(frame().solutionTime(), frame().data()->solutionTimes().front());
     }
 
     void stylesAreTaken()
