@@ -230,7 +230,13 @@ public:
 private:
     using Place = const JsonPlace&;
 
-    NamedNumbers limits() const { return {m_frame.variables.count(), zoneCount(m_frame)}; }
+    /// Without data, values still name what those had that were closed.
+    NamedNumbers limits() const
+    {
+        constexpr std::int64_t kAny = std::numeric_limits<std::int32_t>::max();
+        return m_frame.data.empty() ? NamedNumbers {kAny, kAny}
+                                    : NamedNumbers {m_frame.variables.count(), zoneCount(m_frame)};
+    }
     void readStrand(Place place);
     void readTime(Place place);
     void readView(Place place);

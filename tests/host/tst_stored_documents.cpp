@@ -104,6 +104,12 @@ private Q_SLOTS:
              R"({"pick": [{"zone": 2}, {"other": 4}]})",
              R"({"paletteColor": 63, "rgb": [1, 2, 255]})", R"({"createMaps": 2})",
              R"({"active": "LineMaps", "maps": "1", "op": "remove"})"});
+        row("numbers of what went",
+            {R"({"demo": "field2d", "zones": 9})", R"({"createMaps": 2})",
+             R"({"set": ["LineMap", "Assign", "Zone"], "maps": "1-2", "value": 9})",
+             R"({"set": ["ContourGroups", "Var", 2], "value": 4})", R"({"time": 7})",
+             R"({"deleteMaps": "8-9", "of": "FieldMaps"})", R"({"frame": "new"})",
+             R"({"demo": "xy", "maps": 3})", R"({"data": "none"})"});
         row("several origins",
             {R"({"demo": "transient"})", R"({"rename": "p", "variable": 5})",
              R"({"rename": "gone", "zone": 2})", R"({"deleteMaps": "1"})",
