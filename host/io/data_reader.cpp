@@ -23,6 +23,7 @@ namespace corvala::host::io {
 
 static constexpr int kLongestLine = 1 << 20;
 static constexpr int kLongestComplaint = 200;
+static constexpr int kMostMillisecondsToEnd = 500; ///< of a killed process, if no disk is stuck
 static constexpr int kLooksInPatience = 20; ///< at whether the reading program moves
 
 class DataReader::Private
@@ -35,7 +36,8 @@ public:
     void end(bool byUser);
     void fail(const QString& reason);
 
-    QProcess process;
+    std::unique_ptr<QProcess> ownProcess = std::make_unique<QProcess>();
+    QProcess& process = *ownProcess;
     bool running = false;
 
 private:
@@ -97,10 +99,11 @@ DataReader::Private::~Private()
     if (loader.joinable())
         loader.join();
     process.disconnect();
-    if (process.state() != QProcess::NotRunning) {
-        process.kill();
-        process.waitForFinished();
-    }
+    if (process.state() == QProcess::NotRunning)
+        return;
+    process.kill();
+    if (!process.waitForFinished(kMostMillisecondsToEnd))
+        ownProcess.release(); // which would wait for it: the system ends it when the disk answers
 }
 
 void DataReader::Private::start(const ReadRequest& request)
