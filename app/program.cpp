@@ -22,6 +22,7 @@
 #include "play/style_report.h"
 #include "plot/line/fit_report.h"
 #include "plot/render.h"
+#include "plot/stored_view.h"
 #include "samples/demo_data.h"
 #include "sdk/propertybindings/curve_fit_report.h"
 
@@ -248,6 +249,7 @@ static int runApplication(int argc, char** argv, const Options& options)
     setUpLanguage(options.isScripted() ? QStringList() : userLanguages());
     const Termination termination;
     const CurveFitReports reports;
+    host::storage::setViewCheck(plot::checkView);
     const host::GestureTracker gestures(host::Document::instance().undo());
     std::optional<QTemporaryDir> settings; // batch work neither reads nor changes the user's
     if (options.isBatch())

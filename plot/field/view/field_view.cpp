@@ -170,6 +170,8 @@ CameraState FieldView::camera() const
     CameraState state;
     state.isFitted = m_isFitted;
     state.fitBox = m_fitBox;
+    const vtkBoundingBox all = m_scene->bounds();
+    state.isOfAll = m_followsScene || !all.IsValid() || m_fitBox == all;
     vtkCamera* const camera = m_back->GetActiveCamera();
     camera->GetPosition(state.position.data());
     camera->GetFocalPoint(state.focalPoint.data());

@@ -27,6 +27,7 @@ struct CameraState
 {
     bool isFitted = true; ///< shows all of `fitBox`, in a window of any size
     vtkBoundingBox fitBox; ///< invalid: everything that there is
+    bool isOfAll = true; ///< `fitBox` is what there is by itself
     /// What is fitted in space is seen from the direction in which this lies of the focal point.
     std::array<double, 3> position {{0.5, -1.0, 0.6}};
     std::array<double, 3> focalPoint {{0, 0, 0}};
