@@ -117,6 +117,9 @@ Parser::Parser()
                         "Exit codes: 0 success, 1 failure, 2 wrong usage."));
     addOptions({m_demo, m_play, m_report, m_render, m_save, m_size, m_dpi, m_transparent, m_plot3d,
                 m_table, m_boundaryPatches, m_numberedTimes});
+    Option session(QStringLiteral("session"), {}, QStringLiteral("id")); // Qt takes it
+    session.setFlags(Option::HiddenFromHelp);
+    addOption(session);
     addPositionalArgument(
         QStringLiteral("files"),
         CommandLine::tr("A document, or data files that are opened together, or the folder of "

@@ -3,6 +3,7 @@
 
 #include "app/command_tips.h"
 #include "app/data_opening.h"
+#include "app/document_file_dialog.h"
 #include "app/icons.h"
 #include "app/notice_bar.h"
 #include "app/recent_files.h"
@@ -95,6 +96,17 @@ void DocumentCommands::askBeforeLosing()
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     connect(qApp, &QGuiApplication::commitDataRequest, this, &DocumentCommands::commit,
             Qt::DirectConnection);
+    connect(qApp, &QGuiApplication::saveStateRequest, this, &DocumentCommands::describeRestart,
+            Qt::DirectConnection);
+}
+
+/// The next session begins with the document.
+void DocumentCommands::describeRestart(QSessionManager& manager)
+{
+    QStringList command {QCoreApplication::applicationFilePath()};
+    if (!m_state.file().isEmpty())
+        command << m_state.file();
+    manager.setRestartCommand(command);
 }
 
 void DocumentCommands::commit(QSessionManager& manager)
@@ -157,14 +169,8 @@ static QString proposedFile(const QString& file)
 
 bool DocumentCommands::saveAs()
 {
-    QFileDialog dialog(&m_window, tr("Save Document"), {}, tr("Documents (*.cvdoc)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("cvdoc"));
-    if (const QString file = proposedFile(m_state.file()); !file.isEmpty()) {
-        dialog.setDirectory(QFileInfo(file).path());
-        dialog.selectFile(file);
-    }
-    return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().constFirst());
+    const QString file = askForDocumentFile(m_window, proposedFile(m_state.file()));
+    return !file.isEmpty() && saveTo(file);
 }
 
 bool DocumentCommands::saveTo(const QString& file)
@@ -174,7 +180,6 @@ bool DocumentCommands::saveTo(const QString& file)
         Q_EMIT failed(problem);
         return false;
     }
-    m_state.setSaved(QFileInfo(file).absoluteFilePath());
     rememberFiles({m_state.file()});
     constexpr int kShownMilliseconds = 5000;
     m_window.statusBar()->showMessage(tr("Saved %1").arg(file), kShownMilliseconds);
@@ -197,26 +202,37 @@ void DocumentCommands::open(const QString& file)
         readData({path, std::move(document), isMoved});
 }
 
+/// Tells of missing files; whether the user wants to look for them.
+static bool wantsToLook(QWidget& window, const QString& text, const QStringList& missing)
+{
+    constexpr int kShown = 5;
+    QMessageBox box(QMessageBox::Warning, DocumentCommands::tr("Missing Data"), text,
+                    QMessageBox::Cancel, &window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(missing.mid(0, kShown).join(QLatin1Char('\n'))
+                           + (missing.size() > kShown ? DocumentCommands::tr("\n...") : QString()));
+    const QPushButton* const look =
+        box.addButton(DocumentCommands::tr("Look Elsewhere..."), QMessageBox::AcceptRole);
+    box.exec();
+    return box.clickedButton() == look;
+}
+
 /// Lets the user look for data that are missing; false when they are not to be had.
 bool DocumentCommands::findData(storage::StoredDocument& document, const QString& file)
 {
-    constexpr int kShown = 5;
+    const QFileInfo info(file);
+    QString folder; // in which they were looked for
     for (QStringList missing = storage::missingFiles(document); !missing.isEmpty();
          missing = storage::missingFiles(document)) {
-        QMessageBox box(QMessageBox::Warning, tr("Missing Data"),
-                        tr("%1: %n data file(s) cannot be found.", nullptr, missing.size())
-                            .arg(QFileInfo(file).fileName()),
-                        QMessageBox::Cancel, &m_window);
-        box.setTextFormat(Qt::PlainText);
-        box.setInformativeText(missing.mid(0, kShown).join(QLatin1Char('\n'))
-                               + (missing.size() > kShown ? tr("\n...") : QString()));
-        const QPushButton* const look =
-            box.addButton(tr("Look Elsewhere..."), QMessageBox::AcceptRole);
-        box.exec();
-        if (box.clickedButton() != look)
+        const QString text = folder.isEmpty()
+            ? tr("%1: %n data file(s) cannot be found.", nullptr, missing.size())
+                  .arg(info.fileName())
+            : tr("%1: %n data file(s) cannot be found in %2 either.", nullptr, missing.size())
+                  .arg(info.fileName(), folder);
+        if (!wantsToLook(m_window, text, missing))
             return false;
-        const QString folder = QFileDialog::getExistingDirectory(
-            &m_window, tr("Folder of the Data"), QFileInfo(file).path());
+        folder = QFileDialog::getExistingDirectory(&m_window, tr("Folder of the Data"),
+                                                   folder.isEmpty() ? info.path() : folder);
         if (folder.isEmpty())
             return false;
         storage::lookIn(folder, document);

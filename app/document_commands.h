@@ -67,6 +67,7 @@ private:
     void saveAsCommand() { saveAs(); }
     bool saveTo(const QString& file);
     void commit(QSessionManager& manager);
+    void describeRestart(QSessionManager& manager);
 
     bool findData(host::storage::StoredDocument& document, const QString& file);
     void readData(Opening opening);

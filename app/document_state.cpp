@@ -2,6 +2,7 @@
 #include "app/document_state.h"
 
 #include "host/document/document.h"
+#include "host/storage/document_file.h"
 
 namespace corvala::app {
 
@@ -16,6 +17,8 @@ DocumentState::DocumentState(QObject* parent)
     : QObject(parent)
 {
     connect(&undoStack(), &QUndoStack::cleanChanged, this, &DocumentState::notice);
+    m_saved =
+        host::storage::documentSaved().connect([this](const QString& file) { setSaved(file); });
     m_connection = Document::instance().executed().connect(
         [this](const host::Operation& operation, const host::Outcome& outcome) {
             if (outcome.isDone())

@@ -23,8 +23,6 @@ public:
     const QString& file() const { return m_file; } ///< absolute path; empty without one
     bool isChanged() const;
 
-    /// The document is what the file has.
-    void setSaved(const QString& file);
     /// The document is empty and has no file.
     void setNew();
     /// What was loaded differs from the file: the data were elsewhere, or did not fit.
@@ -35,12 +33,14 @@ Q_SIGNALS:
 
 private:
     void take(const host::Operation& operation);
+    void setSaved(const QString& file); ///< the document is what the file has
     void notice(bool isClean);
 
     QString m_file;
     bool m_hasOtherData = false; ///< data or frames that came without an undo step
     bool m_hasLostSteps = false; ///< changes that cannot be undone any more
     boost::signals2::scoped_connection m_connection;
+    boost::signals2::scoped_connection m_saved;
 };
 
 } // namespace corvala::app

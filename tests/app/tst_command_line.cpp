@@ -63,6 +63,7 @@ private Q_SLOTS:
         row("save", "a.vtu --save a.cvdoc", "files:a.vtu document:a.cvdoc", true);
         row("choices of reading", "--numbered-times --boundary-patches a_1.cgns",
             "files:a_1.cgns choices:patches times", false);
+        row("begun again by a session manager", "-session 1_2 a.vtu", "files:a.vtu", false);
         row("help", "--help", "help:yes", false);
         row("version", "--version", "version:yes", false);
     }

@@ -10,6 +10,7 @@
 #include "app/window_memory.h"
 #include "app/window_place.h"
 #include "host/document/document.h"
+#include "host/storage/document_file.h"
 #include "play/dialog_driver.h"
 #include "play/idle.h"
 #include "play/input.h"
@@ -136,10 +137,13 @@ private Q_SLOTS:
         QVERIFY(!m_window->isWindowModified());
         thicken(2.0);
         QVERIFY(m_window->isWindowModified());
-        choose(folder.filePath("x.cvdoc"));
+        choose(folder.filePath("x.v2"));
         layer("document-save").trigger();
-        QCOMPARE(m_window->windowTitle(), QStringLiteral("x.cvdoc[*] - corvala"));
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("x.v2.cvdoc[*] - corvala"));
         QVERIFY(!m_window->isWindowModified());
+        const QString file = folder.filePath("x.cvdoc");
+        QCOMPARE(host::storage::saveDocument(Document::instance(), file), QString());
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("x.cvdoc[*] - corvala"));
         thicken(3.0);
         QVERIFY(m_window->isWindowModified());
         Document::instance().undo().undo();

@@ -66,14 +66,29 @@ private Q_SLOTS:
     {
         const QString table = m_folder.filePath("t.csv");
         std::ofstream(table.toStdString()) << "t,x\n0,1\n1,2\n";
-        const auto save = [this](const QString& data, const char* name) {
+        const QString script = writeScript(
+            m_folder.path(),
+            {R"({"paletteColor": 3, "rgb": [1, 2, 3]})",
+             R"({"set": ["LineMap", "Lines", "LineThickness"], "maps": "1", "value": 0.75})"});
+        // Where numbers have a comma, if the machine knows such a place.
+        QProcessEnvironment german = environmentWithoutDisplay();
+        german.insert("LOCPATH", m_folder.path());
+        german.insert("LC_ALL", "de_DE.UTF-8");
+        QProcess::execute("localedef",
+                          {"-i", "de_DE", "-f", "UTF-8", m_folder.filePath("de_DE.UTF-8")});
+        const auto save = [&](const QString& data, const char* name,
+                              const QProcessEnvironment& environment) {
             const QString file = m_folder.filePath(name);
-            const ProgramRun run = runProgram({data, "--save", file});
+            const ProgramRun run =
+                runProgram({data, "--play", script, "--save", file}, environment);
             if (run.exitCode != 0)
                 qWarning("%s", qPrintable(run.errors));
             return file;
         };
-        const Json saved = readJson(save(save(table, "a.cvdoc"), "b.cvdoc"));
+        const Json saved =
+            readJson(save(save(table, "a.cvdoc", environmentWithoutDisplay()), "b.cvdoc", german));
+        QCOMPARE(text(saved["frames"][0]["lineStyle"]["LineMap.Lines.LineThickness"]),
+                 QStringLiteral(R"([{"maps":"1","value":0.75}])"));
         QCOMPARE(text(saved["frames"][0]["data"]), QStringLiteral(R"([{"open":["t.csv"]}])"));
         QCOMPARE(text(saved), text(readJson(m_folder.filePath("a.cvdoc"))));
     }
@@ -88,6 +103,11 @@ private Q_SLOTS:
 
         row("missing data", {"--report", "r.json", "nowhere.vtu"}, "nowhere.vtu");
         row("broken data", {"--report", "r.json", cut}, "cut.vtu");
+        const QString blind = m_folder.filePath(QStringLiteral("blind.cvdoc"));
+        std::ofstream(blind.toStdString()) << R"({"format": "corvala document", "version": 1,
+            "activeFrame": 1, "frames": [{"views": {"1": {"position": [0, 0, 0]}}}]})";
+        row("view", {blind, "--save", "s.cvdoc"},
+            "blind.cvdoc: frames[1].views.1: the camera has no direction");
         row("missing script", {"--play", "nowhere.jsonl"}, "nowhere.jsonl");
         row("unwritable report", {"--demo", "kinds", "--report", unwritable}, unwritable);
     }
