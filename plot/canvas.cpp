@@ -15,6 +15,7 @@ static constexpr int kWheelPause = 1000; ///< milliseconds after which it begins
 
 void Canvas::watch(QWidget& part)
 {
+    m_part = &part;
     part.installEventFilter(this);
 }
 
@@ -50,24 +51,33 @@ void Canvas::setZoomsToBox(bool zooms)
 {
     m_zoomsToBox = zooms;
     showCursor();
-    if (!zooms)
+    if (!zooms && m_isBoxing)
         leaveMouse();
 }
 
-/// Where the part that has the mouse does something with it, it has its way to the end.
+/// A part that does something with the mouse itself takes it for let go: it would go on when it is
+/// seen again, without a button.
 void Canvas::leaveMouse()
 {
-    if (!m_isBoxing)
+    if (m_pressed == Qt::NoButton || m_isLeft)
         return;
-    m_isBoxing = false;
     m_isLeft = true;
-    m_band->hide();
+    if (std::exchange(m_isBoxing, false)) {
+        m_band->hide();
+        Q_EMIT boxEnded();
+    } else if (!std::exchange(m_isHolding, false) && !keepsMouse()) {
+        QMouseEvent release(QEvent::MouseButtonRelease, m_draggedTo, m_pressed, Qt::NoButton,
+                            Qt::NoModifier);
+        static_cast<QObject&>(*m_part).event(&release); // past those who watch the hand
+    }
 }
 
 void Canvas::mousePressed(const QMouseEvent& mouse)
 {
-    if (m_isBoxing)
+    const bool isFirst = mouse.buttons() == mouse.button();
+    if (m_isBoxing || (m_isLeft && !isFirst))
         return;
+    m_pressed = mouse.button();
     m_pressedAt = m_draggedTo = mouse.localPos();
     m_isDragging = m_isLeft = false;
     m_isDoubleClick = mouse.type() == QEvent::MouseButtonDblClick;
@@ -123,6 +133,7 @@ bool Canvas::mouseReleased(const QMouseEvent& mouse)
 {
     if (m_isBoxing && mouse.button() != Qt::LeftButton)
         return true;
+    m_pressed = Qt::NoButton;
     const bool wasHolding = std::exchange(m_isHolding, false);
     const bool isTaken = m_isBoxing || m_isLeft || wasHolding || keepsMouse();
     if (m_isBoxing)
@@ -133,7 +144,8 @@ bool Canvas::mouseReleased(const QMouseEvent& mouse)
         clicked(mouse.localPos());
     else if (!m_isDragging && !m_isLeft && mouse.button() == Qt::RightButton)
         Q_EMIT menuWanted(numberAt(mouse.localPos()), mouse.globalPos());
-    m_isDoubleClick = m_isDragging = m_isLeft = false;
+    m_isDoubleClick = m_isDragging = false;
+    m_isLeft = m_isLeft && mouse.buttons() != Qt::NoButton;
     return isTaken;
 }
 
@@ -152,7 +164,7 @@ bool Canvas::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         mousePressed(*mouse);
-        return m_isBoxing || m_isHolding || keepsMouse();
+        return m_isBoxing || m_isHolding || m_isLeft || keepsMouse();
     case QEvent::MouseMove:
         if (mouse->buttons() == Qt::NoButton)
             Q_EMIT hovered(mouse->localPos());

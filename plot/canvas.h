@@ -66,7 +66,7 @@ public:
 
     /// Drags of the left button draw the box that shall fill the plot, from now on.
     void setZoomsToBox(bool zooms);
-    /// Ends what the mouse is about, as if it had not begun.
+    /// Ends what the mouse is about: until its buttons are let go, it does nothing.
     void leaveMouse();
     /// Whether a part of the plot can be made to fill it.
     virtual bool canZoomToBox() const { return true; }
@@ -139,6 +139,8 @@ private:
     void stretchBox(const QPointF& to);
     void zoomToDrawn();
 
+    QWidget* m_part = nullptr; ///< not owned; what has the mouse
+    Qt::MouseButton m_pressed = Qt::NoButton; ///< what began
     QPointF m_pressedAt;
     QPointF m_draggedTo;
     bool m_isDoubleClick = false;

@@ -142,7 +142,7 @@ bool LineChart::seesSomething() const
             continue;
         isEmpty = false;
         if (seen.along(placed.axes).pixels(bounds).meets(seen.visible))
-            return true;
+            return !m_ink.isBlank(); // the inside of a box may be empty
     }
     return isEmpty;
 }

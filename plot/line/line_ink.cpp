@@ -4,6 +4,8 @@
 #include <QElapsedTimer>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace corvala::plot {
 
 LineInk::LineInk() = default;
@@ -125,6 +127,18 @@ QImage LineInk::picture() const
     if (m_drawing)
         m_drawing->addTo(picture);
     return picture;
+}
+
+bool LineInk::isBlank() const
+{
+    if (hasWork() || m_isCancelled || m_picture.isNull())
+        return false;
+    for (int y = 0; y < m_picture.height(); ++y) {
+        const auto* const row = reinterpret_cast<const QRgb*>(m_picture.constScanLine(y));
+        if (std::any_of(row, row + m_picture.width(), [](QRgb color) { return color != 0; }))
+            return false;
+    }
+    return true;
 }
 
 std::int64_t LineInk::missingCount() const

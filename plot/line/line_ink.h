@@ -58,6 +58,8 @@ public:
 
     /// What is drawn so far; of shapes or a view that are no more, while it is stale.
     QImage picture() const;
+    /// Whether it is complete, and nothing is in it.
+    bool isBlank() const;
     /// Shapes that are missing because drawing was cancelled.
     std::int64_t missingCount() const;
     /// Shapes that are drawn simpler than they look.

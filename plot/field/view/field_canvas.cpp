@@ -16,6 +16,7 @@
 #include <vtkGenericOpenGLRenderWindow.h>
 #include <vtkInteractorStyleTrackballCamera.h>
 #include <vtkRenderWindowInteractor.h>
+#include <vtkUnsignedCharArray.h>
 
 #include <algorithm>
 #include <cmath>
@@ -195,7 +196,21 @@ void FieldCanvas::setParallel(bool isParallel)
 
 bool FieldCanvas::seesSomething() const
 {
-    return !m_view.scene().bounds().IsValid() || m_view.seesSomething();
+    return !m_view.scene().bounds().IsValid() || (m_seesPixels && m_view.seesSomething());
+}
+
+/// Whether anything is on the paper of the plot. What is fitted is seen.
+bool FieldCanvas::seesPixels(int samples)
+{
+    if (m_isQuick || m_view.isFitted() || m_view.hasGrid())
+        return true;
+    const QRect plot = m_view.pixelsOfPlot(samples * devicePixelRatioF());
+    vtkNew<vtkUnsignedCharArray> pixels;
+    m_widget->renderWindow()->GetPixelData(plot.left(), plot.top(), plot.right(), plot.bottom(), 0,
+                                           pixels);
+    const unsigned char* const first = pixels->GetPointer(0);
+    return std::any_of(first, first + pixels->GetNumberOfValues(),
+                       [](unsigned char part) { return part != 255; });
 }
 
 void FieldCanvas::setOutlined(const host::NumberSet& maps)
@@ -209,6 +224,7 @@ void FieldCanvas::sceneChanged(const host::StateEvent& event)
 {
     m_quickTime = m_restTime = 0.0;
     m_blendedTime = -1.0;
+    m_budget = std::min(m_budget, kFirstBudget); // what is new takes longer
     if (event.code == StateCode_SolutionTimeChanged)
         m_view.widen();
     for (const host::StyleChange& change : event.styleChanges)
@@ -243,14 +259,23 @@ bool FieldCanvas::isSmooth() const
     return !m_isQuick && m_view.scene().expectedCost() <= kMostSmoothed;
 }
 
+static double secondsOf(const QElapsedTimer& clock)
+{
+    return static_cast<double>(clock.nsecsElapsed()) * 1e-9;
+}
+
 /// A full smooth picture when the hand rests, else a quick one.
 void FieldCanvas::draw()
 {
     FieldScene& scene = m_view.scene();
     m_isQuick = m_hand.isActive() || scene.hasWork();
     reduce();
+    // Translucent faces are drawn by depth, which cannot be with samples.
+    const bool drawsLarger = isSoftwareOpenGl() || scene.isTranslucent();
+    m_samples = drawsLarger && isSmooth() ? kSoftwareSamples : 1;
+    m_widget->renderWindow()->SetMultiSamples(drawsLarger ? 0 : kSamples);
     m_pictureTime = 0.0;
-    m_isUnfinished = false;
+    m_isUnfinished = m_isPrepared = false;
     m_view.setCut(false);
     m_view.parts().begin(m_budget);
     drawPart();
@@ -258,13 +283,14 @@ void FieldCanvas::draw()
 
 void FieldCanvas::drawMore()
 {
-    m_view.parts().goOn(m_budget);
+    if (!std::exchange(m_isPrepared, false))
+        m_view.parts().goOn(m_budget);
     drawPart();
 }
 
 void FieldCanvas::stopDrawing()
 {
-    m_isUnfinished = false;
+    m_isUnfinished = m_isPrepared = false;
     m_view.setCut(true);
     m_view.parts().begin(m_budget);
     m_overlay->update();
@@ -276,28 +302,30 @@ std::pair<CvlInt64, CvlInt64> FieldCanvas::drawingProgress() const
 }
 
 /// Draws the next part of the picture, each pixel of the screen as one or several, which the widget
-/// makes smaller when it is painted.
+/// makes smaller when it is painted. Preparations that take long are a part of their own.
 void FieldCanvas::drawPart()
 {
     QElapsedTimer clock;
     clock.start();
-    // Translucent faces are drawn by depth, which cannot be with samples.
-    const bool drawsLarger = isSoftwareOpenGl() || m_view.scene().isTranslucent();
-    const int samples = drawsLarger && isSmooth() ? kSoftwareSamples : 1;
     vtkRenderWindow* const window = m_widget->renderWindow();
-    window->SetMultiSamples(drawsLarger ? 0 : kSamples);
     const QSize drawn(window->GetSize()[0], window->GetSize()[1]);
-    m_view.setSize(size(), samples * devicePixelRatioF());
-    window->SetSize(samples * drawn.width(), samples * drawn.height());
-    if (!m_isUnfinished)
+    m_view.setSize(size(), m_samples * devicePixelRatioF());
+    window->SetSize(m_samples * drawn.width(), m_samples * drawn.height());
+    if (!m_isUnfinished) {
         m_view.prepare();
-    window->Render();
-    window->WaitForCompletion();
+        m_isPrepared = secondsOf(clock) > kPartSeconds;
+    }
+    if (!m_isPrepared) {
+        window->Render();
+        window->WaitForCompletion();
+        if (!m_view.parts().hasMore())
+            m_seesPixels = seesPixels(m_samples);
+    }
     // Between drawings, places are those of the screen: the mouse goes by them.
     window->SetSize(drawn.width(), drawn.height());
     m_view.setSize(size(), devicePixelRatioF());
-    m_isUnfinished = m_view.parts().hasMore();
-    learn(static_cast<double>(clock.nsecsElapsed()) * 1e-9);
+    m_isUnfinished = m_isPrepared || m_view.parts().hasMore();
+    learn(secondsOf(clock));
     if (!m_isUnfinished)
         m_view.parts().begin(m_budget); // when the widget wishes
     m_overlay->update();
@@ -306,11 +334,13 @@ void FieldCanvas::drawPart()
 /// From the time that a part took: how much to draw at a time, and how long a picture takes.
 void FieldCanvas::learn(double seconds)
 {
+    m_pictureTime += seconds;
+    if (m_isPrepared)
+        return;
     if (seconds > 1.5 * kPartSeconds)
         m_budget = std::max<std::int64_t>(m_budget / 2, kLargestPiece);
     else if (m_isUnfinished && seconds < kPartSeconds / 2)
         m_budget *= 2;
-    m_pictureTime += seconds;
     if (!m_view.isSorted() && m_blendedTime < 0.0) {
         m_blendedTime = 0.0; // the first one took the time to make its shaders as well
         return;

@@ -83,6 +83,7 @@ private:
     bool isSlow() const;
     void reduce();
     bool isSmooth() const;
+    bool seesPixels(int samples);
     void takeHold();
 
     QString m_problem;
@@ -96,7 +97,10 @@ private:
     int m_heldLegend = 0; ///< contour group; 0 while none is moved
     QTimer m_hand; ///< runs while the view is being moved, and until the hand rests
     bool m_isUnfinished = false; ///< more of the picture follows
+    bool m_isPrepared = false; ///< nothing of it is drawn yet
     bool m_isQuick = false; ///< it is without smoothing
+    int m_samples = 1; ///< each way, of a pixel of it
+    bool m_seesPixels = true; ///< something is drawn in the last complete one
     double m_pictureTime = 0.0; ///< so far, in seconds
     std::int64_t m_budget; ///< cost of what is drawn at a time
     double m_quickTime = 0.0; ///< of a full picture without smoothing, in seconds; 0 when unknown

@@ -76,6 +76,11 @@ public:
     void zoomTo(const vtkBoundingBox& box);
     /// False when all that is drawn lies beside what is seen.
     bool seesSomething() const;
+    /// Whether the view follows from what is drawn.
+    bool isFitted() const { return m_isFitted; }
+    bool hasGrid() const { return m_axes.hasGrid; }
+    /// Place of the plot in the window, from bottom left, of pixels so many times smaller.
+    QRect pixelsOfPlot(double magnification) const;
     /// The user took hold of the camera.
     void setMoved() { m_isFitted = false; }
     /// Shows what was fitted last, as when the user moves it no longer.

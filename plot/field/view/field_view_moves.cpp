@@ -199,6 +199,15 @@ bool FieldView::seesSomething() const
     });
 }
 
+QRect FieldView::pixelsOfPlot(double magnification) const
+{
+    QRectF plot = m_layout.plot;
+    plot.moveTop(m_size.height() - plot.bottom());
+    return QRectF(magnification * plot.topLeft(), magnification * plot.size())
+        .toRect()
+        .intersected(QRect({0, 0}, m_size * magnification));
+}
+
 void FieldView::pan(const QPointF& pixels)
 {
     vtkCamera* const camera = m_back->GetActiveCamera();
