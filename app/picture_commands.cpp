@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QGuiApplication>
+#include <QProgressDialog>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -28,11 +29,43 @@ PictureCommands::PictureCommands(QWidget& window, PlotArea& plot)
 {
 }
 
+/// How far a picture has come, with a button to cancel it, once it takes longer.
+class PictureProgress : public QProgressDialog
+{
+public:
+    explicit PictureProgress(QWidget& window)
+        : QProgressDialog(PictureCommands::tr("Drawing the picture..."),
+                          PictureCommands::tr("Cancel"), 0, kPercent, &window)
+    {
+        constexpr int kPatience = 500; // milliseconds
+        setWindowModality(Qt::ApplicationModal);
+        setMinimumDuration(kPatience);
+        setAutoReset(false);
+    }
+
+    /// Lets the windows live meanwhile.
+    plot::WorkWatch watch()
+    {
+        return [this](CvlInt64 done, CvlInt64 total) {
+            setValue(total > 0 ? static_cast<int>(kPercent * done / total) : 0);
+            return !wasCanceled();
+        };
+    }
+
+private:
+    static constexpr int kPercent = 100;
+};
+
 void PictureCommands::copy()
 {
     const BusyCursor busy;
     QString error;
-    const QImage picture = m_plot.picture(&error);
+    PictureProgress progress(m_window);
+    const QImage picture = m_plot.picture(&error, progress.watch());
+    if (picture.isNull() && progress.wasCanceled()) {
+        Q_EMIT told(tr("The picture was not copied"));
+        return;
+    }
     if (picture.isNull()) {
         Q_EMIT failed(tr("The picture cannot be copied: %1").arg(error));
         return;
@@ -98,14 +131,18 @@ void PictureCommands::save()
     PictureSizeDialog sizes(file, &m_window);
     if (sizes.exec() != QDialog::Accepted)
         return;
+    PictureProgress progress(m_window);
     {
         const BusyCursor busy;
         problem = writePicture(file, sizes.chosenSize(), sizes.chosenPaper(),
-                               [this](QPaintDevice& device, plot::Paper paper) {
-                                   return m_plot.paint(device, paper);
+                               [&](QPaintDevice& device, plot::Paper paper) {
+                                   return m_plot.paint(device, paper, progress.watch());
                                });
     }
-    if (!problem.isEmpty())
+    progress.close();
+    if (!problem.isEmpty() && progress.wasCanceled())
+        Q_EMIT told(tr("The picture was not saved"));
+    else if (!problem.isEmpty())
         Q_EMIT failed(problem);
     else
         Q_EMIT told(tr("Saved %1: %2")

@@ -33,9 +33,9 @@ PlotArea::PlotArea(QWidget* parent)
     layout->addWidget(note);
 }
 
-QString PlotArea::paint(QPaintDevice& device, plot::Paper paper)
+QString PlotArea::paint(QPaintDevice& device, plot::Paper paper, const plot::WorkWatch& watch)
 {
-    return m_frameView ? m_frameView->paint(device, paper)
+    return m_frameView ? m_frameView->paint(device, paper, watch)
                        : tr("the plot is drawn on an X screen only (QT_QPA_PLATFORM=xcb, for "
                             "example under xvfb-run)");
 }
@@ -48,11 +48,11 @@ QString PlotArea::saveCanvas(const QString& file)
         [this](QPaintDevice& device, plot::Paper paper) { return paint(device, paper); });
 }
 
-QImage PlotArea::picture(QString* error)
+QImage PlotArea::picture(QString* error, const plot::WorkWatch& watch)
 {
     const QSize shown = m_frameView ? m_frameView->size() : size();
-    const auto draw = [this](QPaintDevice& device, plot::Paper paper) {
-        return paint(device, paper);
+    const auto draw = [&](QPaintDevice& device, plot::Paper paper) {
+        return paint(device, paper, watch);
     };
     return plot::pictureImage(shown * devicePixelRatioF(), draw, error);
 }

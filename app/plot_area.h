@@ -2,6 +2,7 @@
 #pragma once
 
 #include "plot/common/picture.h"
+#include "plot/common/work_watch.h"
 
 #include <QWidget>
 
@@ -27,9 +28,9 @@ public:
     QString saveCanvas(const QString& file);
 
     /// The plot as it is on the screen; null, with the reason, where it cannot be drawn.
-    QImage picture(QString* error);
-    /// As PaintPicture.
-    QString paint(QPaintDevice& device, plot::Paper paper);
+    QImage picture(QString* error, const plot::WorkWatch& watch);
+    /// As PaintPicture; the watch may end it.
+    QString paint(QPaintDevice& device, plot::Paper paper, const plot::WorkWatch& watch = {});
 
     QSize sizeHint() const override { return {900, 700}; }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What an edit of one zone costs on the field canvas, for every column of the field tables, against
-// a plain redraw of the same scene, in one run: xvfb-run bench_field
+// a plain redraw of the same scene, and a step of turning many zones, against as many points drawn
+// by VTK alone, in one run: xvfb-run bench_field
 
 #include "ratio_report.h"
 
@@ -10,6 +11,11 @@
 
 #include <QApplication>
 
+#include <vtkActorCollection.h>
+#include <vtkCamera.h>
+#include <vtkPointSource.h>
+#include <vtkPolyDataMapper.h>
+#include <vtkProperty.h>
 #include <vtkRenderWindow.h>
 
 using namespace corvala::bench;
@@ -23,6 +29,7 @@ constexpr QSize kSize {800, 600};
 constexpr int kFew = 100; ///< zones
 constexpr int kMany = 2000;
 constexpr double kLimit = 2.5; ///< times a redraw
+constexpr double kTurningLimit = 3.0; ///< times as many points
 
 /// All of many zones, in the state in which a column matters.
 class Scene
@@ -74,6 +81,90 @@ private:
     boost::signals2::scoped_connection m_connection;
 };
 
+/// What is drawn of many zones while a hand turns them.
+class Turning
+{
+public:
+    explicit Turning(int zones)
+    {
+        openDemo("field3d", zones);
+        m_window->SetOffScreenRendering(1);
+        m_window->SetMultiSamples(0);
+        m_window->SetSize(kSize.width(), kSize.height());
+        m_view.attach(m_window);
+        m_view.setSize(kSize, 1.0);
+        m_view.setFlat(false);
+        m_view.scene().setFrame(document().activeFrameId());
+        m_view.scene().advance(-1);
+        m_view.scene().setStandIn(true);
+        m_view.prepare();
+        m_view.setMoved();
+        step();
+    }
+    ~Turning() { m_view.attach(nullptr); }
+
+    void step()
+    {
+        m_view.renderer().GetActiveCamera()->Azimuth(3.0);
+        m_view.prepare();
+        m_window->Render();
+        m_window->WaitForCompletion();
+    }
+    vtkIdType pointCount()
+    {
+        vtkIdType count = 0;
+        vtkActorCollection& actors = *m_view.renderer().GetActors();
+        actors.InitTraversal();
+        while (vtkActor* const actor = actors.GetNextActor())
+            if (auto* const shown = vtkPolyDataMapper::SafeDownCast(actor->GetMapper()))
+                count += actor->GetVisibility() && shown->GetInput()
+                    ? shown->GetInput()->GetNumberOfPoints()
+                    : 0;
+        return count;
+    }
+
+private:
+    vtkNew<vtkRenderWindow> m_window;
+    FieldView m_view {std::make_shared<SurfaceCache>()};
+};
+
+/// The same number of points, drawn by VTK alone.
+class PlainPoints
+{
+public:
+    explicit PlainPoints(vtkIdType count)
+    {
+        constexpr double kPointPixels = 4.0; // as of the zones
+        m_points->SetNumberOfPoints(count);
+        m_mapper->SetInputConnection(m_points->GetOutputPort());
+        m_actor->SetMapper(m_mapper);
+        m_actor->GetProperty()->SetPointSize(kPointPixels);
+        m_actor->GetProperty()->SetLighting(false);
+        m_renderer->AddActor(m_actor);
+        m_window->SetOffScreenRendering(1);
+        m_window->SetMultiSamples(0);
+        m_window->SetSize(kSize.width(), kSize.height());
+        m_window->AddRenderer(m_renderer);
+        m_renderer->ResetCamera();
+        step();
+    }
+
+    void step()
+    {
+        m_renderer->GetActiveCamera()->Azimuth(3.0);
+        m_renderer->ResetCameraClippingRange();
+        m_window->Render();
+        m_window->WaitForCompletion();
+    }
+
+private:
+    vtkNew<vtkPointSource> m_points;
+    vtkNew<vtkPolyDataMapper> m_mapper;
+    vtkNew<vtkActor> m_actor;
+    vtkNew<vtkRenderer> m_renderer;
+    vtkNew<vtkRenderWindow> m_window;
+};
+
 std::string nameOf(const Column& column, int zones)
 {
     return QStringLiteral("%1 in one of %2 zones").arg(column.change).arg(zones).toStdString();
@@ -101,6 +192,38 @@ void measure(const std::string& name, const Column& column, int zones, void (*st
         ->MeasureProcessCPUTime();
 }
 
+/// Measures steps of turning what `make` gives when it is its turn.
+template<class Turned, class Make>
+void measureTurning(const std::string& name, Make make)
+{
+    benchmark::RegisterBenchmark(name.c_str(),
+                                 [=](State& state) {
+                                     scene.reset();
+                                     const std::unique_ptr<Turned> turned = make();
+                                     for (auto _ : state)
+                                         turned->step();
+                                 })
+        ->Unit(benchmark::kMillisecond)
+        ->MinTime(0.5)
+        ->MeasureProcessCPUTime();
+}
+
+void addTurning(std::vector<Ratio>& ratios)
+{
+    for (const int zones : {10'000, 100'000}) {
+        const std::string turning = "turning " + std::to_string(zones) + " zones";
+        const std::string plain = turning + ": as many points";
+        const auto count = std::make_shared<vtkIdType>(0);
+        measureTurning<Turning>(turning, [=] {
+            auto turned = std::make_unique<Turning>(zones);
+            *count = turned->pointCount();
+            return turned;
+        });
+        measureTurning<PlainPoints>(plain, [=] { return std::make_unique<PlainPoints>(*count); });
+        ratios.push_back({turning, turning, plain, kTurningLimit});
+    }
+}
+
 std::vector<Ratio> addBenchmarks()
 {
     std::vector<Ratio> ratios;
@@ -120,6 +243,7 @@ std::vector<Ratio> addBenchmarks()
             ratios.push_back({key, key, redraw, isJoint ? 0.0 : kLimit});
         }
     }
+    addTurning(ratios);
     return ratios;
 }
 

@@ -44,8 +44,8 @@ public:
     /// What is drawn of an unfinished picture, and the whole.
     virtual std::pair<CvlInt64, CvlInt64> drawingProgress() const { return {0, 0}; }
     /// Draws the frame with the present view all over a device, without the window and complete
-    /// even while work is pending; as PaintPicture.
-    virtual QString paint(QPaintDevice& device, Paper paper) = 0;
+    /// even while work is pending; as PaintPicture. A watch that ends it gets a text, too.
+    virtual QString paint(QPaintDevice& device, Paper paper, const WorkWatch& watch) = 0;
     /// Why this canvas cannot draw on this machine, for the user; empty when it can.
     virtual QString problem() const { return {}; }
     /// True while the hand moves the view: another picture follows when it rests.
@@ -86,7 +86,7 @@ public:
     /// few milliseconds: while isProbing, more is known when it is asked again.
     virtual QString probe(const QPointF& place) = 0;
     virtual bool isProbing() const { return false; }
-    /// False when the view misses all that is drawn.
+    /// False when the last picture misses all that is drawn.
     virtual bool seesSomething() const { return true; }
 
 Q_SIGNALS:

@@ -10,6 +10,7 @@
 #include "plot/stored_view.h"
 
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QStackedLayout>
 
 #include <utility>
@@ -152,6 +153,7 @@ static void dropViews(Views& views, CvlUniqueId frame)
 
 void FrameView::documentChanged(const host::StateEvent& event)
 {
+    m_isChanged = true;
     if (m_canvas)
         m_views[m_key] = m_canvas->view();
     const bool isOther = event.code == StateCode_DataSetAttached && concerns(event, m_key.first);
@@ -204,7 +206,7 @@ void FrameView::workAndDraw()
 /// Works on the scene for a while; more follows at the next idle moment.
 void FrameView::redraw()
 {
-    if (!m_canvas || !m_canvas->isVisible() || !m_canvas->problem().isEmpty())
+    if (m_isPainting || !m_canvas || !m_canvas->isVisible() || !m_canvas->problem().isEmpty())
         return;
     if (!std::exchange(m_isWorking, true)) {
         m_work.start();
@@ -232,9 +234,20 @@ void FrameView::endWork(bool cancelled)
         Q_EMIT workEnded(cancelled);
 }
 
-QString FrameView::paint(QPaintDevice& device, Paper paper)
+/// What shows the work may let things happen: a picture of what was changed meanwhile is given up.
+QString FrameView::paint(QPaintDevice& device, Paper paper, const WorkWatch& watch)
 {
-    return m_canvas ? m_canvas->paint(device, paper) : paintFrame(m_key.first, device, paper);
+    if (!m_canvas)
+        return paintFrame(m_key.first, device, paper);
+    const QScopedValueRollback<bool> whilePainting(m_isPainting, true);
+    m_isChanged = false;
+    const auto goesOn = [&](CvlInt64 done, CvlInt64 total) {
+        return watch(done, total) && !m_isChanged;
+    };
+    const QString problem = m_canvas->paint(device, paper, watch ? WorkWatch(goesOn) : watch);
+    if (m_isStale || m_isWorking)
+        m_idle.start();
+    return problem;
 }
 
 QImage FrameView::render(const QSize& size, QString* error, Paper paper)

@@ -36,10 +36,13 @@ public:
     /// Drawings so far; tells how far requests were coalesced.
     int redrawCount() const { return m_redraws; }
     /// True while a drawing or work in slices is pending.
-    bool isBusy() const { return m_idle.isActive() || (m_canvas && m_canvas->isBeingMoved()); }
+    bool isBusy() const
+    {
+        return m_isPainting || m_idle.isActive() || (m_canvas && m_canvas->isBeingMoved());
+    }
 
     /// As of the canvas, also for a frame without data.
-    QString paint(QPaintDevice& device, Paper paper);
+    QString paint(QPaintDevice& device, Paper paper, const WorkWatch& watch = {});
     /// The same, as pictureImage.
     QImage render(const QSize& size, QString* error, Paper paper = Paper::White);
     bool hasPreviousView() const { return !m_formerViews.value(m_key).isEmpty(); }
@@ -124,6 +127,8 @@ private:
     CvlInt64 m_drawnPieces = 0; ///< of the scene, at the last drawing
     bool m_isStale = false; ///< the picture has to be drawn from its beginning
     bool m_isReporting = false;
+    bool m_isPainting = false; ///< a picture beside that of the window, which waits
+    bool m_isChanged = false; ///< the document, since then
     bool m_picksPlaces = false;
     bool m_zoomsToBox = false;
 };

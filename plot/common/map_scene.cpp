@@ -269,6 +269,17 @@ bool MapScene::advance(int milliseconds)
     return isPending(m_visible);
 }
 
+bool MapScene::finish(const WorkWatch& watch)
+{
+    constexpr int kSlice = 30; // milliseconds
+    while (advance(watch ? kSlice : -1)) {
+        const auto [done, total] = progress();
+        if (watch && !watch(done, total))
+            return false;
+    }
+    return true;
+}
+
 QString MapScene::notice() const
 {
     if (!m_refused.isEmpty()) {

@@ -4,6 +4,7 @@
 #include "host/events/state_event.h"
 #include "plot/common/scene_kind.h"
 #include "plot/common/scene_note.h"
+#include "plot/common/work_watch.h"
 
 #include <QCoreApplication>
 
@@ -33,6 +34,8 @@ public:
 
     /// Works for about `milliseconds`; negative works until all is done. True while work is left.
     virtual bool advance(int milliseconds);
+    /// Works until all is done; false when the watch ended it before.
+    bool finish(const WorkWatch& watch);
     virtual bool hasWork() const;
     /// Pieces of work since there was none, done and in all.
     virtual std::pair<CvlInt64, CvlInt64> progress() const;

@@ -4,6 +4,7 @@
 #include "plot/common/svg_device.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QHash>
 #include <QPageLayout>
 #include <QPageSize>
@@ -18,6 +19,13 @@ namespace corvala::plot {
 bool isVectorDevice(const QPaintDevice& device)
 {
     return device.paintEngine()->type() != QPaintEngine::Raster;
+}
+
+QString pictureCancelled()
+{
+    return QCoreApplication::translate("corvala::plot",
+                                       "drawing was cancelled, or what it shows "
+                                       "was changed meanwhile");
 }
 
 static bool isNone(const QString& problem, QString* error)

@@ -19,6 +19,9 @@ enum class Paper { White, Transparent };
 /// cannot be drawn, for the user.
 using PaintPicture = std::function<QString(QPaintDevice&, Paper)>;
 
+/// What is said of a picture whose drawing was ended before it was complete.
+QString pictureCancelled();
+
 /// Whether a device takes lines, areas and texts as such, and not as pixels.
 bool isVectorDevice(const QPaintDevice& device);
 

@@ -172,15 +172,16 @@ bool LineCanvas::wheelTurned(const QWheelEvent&)
     return false;
 }
 
-QString LineCanvas::paint(QPaintDevice& device, Paper paper)
+QString LineCanvas::paint(QPaintDevice& device, Paper paper, const WorkWatch& watch)
 {
     const ChartRange range = m_plot.chart().range();
     return paintLines(m_plot.frameId(), m_plot.isFitted() ? nullptr : &range, &m_plot, device,
-                      paper);
+                      paper, nullptr, watch);
 }
 
 QString paintLines(CvlUniqueId frame, const ChartRange* range, const LinePlot* known,
-                   QPaintDevice& device, Paper paper, std::vector<SceneNote>* notes)
+                   QPaintDevice& device, Paper paper, std::vector<SceneNote>* notes,
+                   const WorkWatch& watch)
 {
     QCustomPlot widget;
     if (paper == Paper::Transparent)
@@ -196,7 +197,8 @@ QString paintLines(CvlUniqueId frame, const ChartRange* range, const LinePlot* k
     plot.setFrame(frame);
     if (known)
         plot.takeFrom(*known);
-    plot.advance(-1);
+    if (!plot.finish(watch))
+        return pictureCancelled();
     plot.prepare();
     if (range)
         plot.chart().setRange(*range);

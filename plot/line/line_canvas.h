@@ -18,7 +18,7 @@ public:
 
     LinePlot& scene() override { return m_plot; }
     void draw() override;
-    QString paint(QPaintDevice& device, Paper paper) override;
+    QString paint(QPaintDevice& device, Paper paper, const WorkWatch& watch) override;
     std::any view() const override;
     void setView(const std::any& view) override;
     bool canZoomToBox() const override { return !m_plot.isPolar(); }
@@ -54,6 +54,7 @@ private:
 /// another plot of the frame knows (may be null) is not made again. `notes` (may be null) gets what
 /// there is to wonder at.
 QString paintLines(CvlUniqueId frame, const ChartRange* range, const LinePlot* known,
-                   QPaintDevice& device, Paper paper, std::vector<SceneNote>* notes = nullptr);
+                   QPaintDevice& device, Paper paper, std::vector<SceneNote>* notes = nullptr,
+                   const WorkWatch& watch = {});
 
 } // namespace corvala::plot

@@ -350,9 +350,9 @@ void FieldCanvas::learn(double seconds)
         known = m_isUnfinished ? std::max(known, m_pictureTime) : m_pictureTime;
 }
 
-QString FieldCanvas::paint(QPaintDevice& device, Paper paper)
+QString FieldCanvas::paint(QPaintDevice& device, Paper paper, const WorkWatch& watch)
 {
-    return paintField(scene().frameId(), m_view.camera(), m_cache, device, paper);
+    return paintField(scene().frameId(), m_view.camera(), m_cache, device, paper, nullptr, watch);
 }
 
 bool FieldCanvas::eventFilter(QObject* watched, QEvent* event)

@@ -29,7 +29,7 @@ public:
     void drawMore() override;
     void stopDrawing() override;
     std::pair<CvlInt64, CvlInt64> drawingProgress() const override;
-    QString paint(QPaintDevice& device, Paper paper) override;
+    QString paint(QPaintDevice& device, Paper paper, const WorkWatch& watch) override;
     QString problem() const override { return m_problem; }
     bool isBeingMoved() const override { return m_hand.isActive(); }
     void sceneChanged(const host::StateEvent& event) override;

@@ -50,20 +50,35 @@ static QImage withoutPaper(QImage onBlack, const QImage& onWhite)
     return onBlack;
 }
 
-static QImage pictureOf(FieldView& view, vtkRenderWindow& window, const QSize& size, Paper paper)
+/// In parts, in which the watch is asked; null when it ends the work.
+static QImage drawn(FieldView& view, vtkRenderWindow& window, const QSize& size,
+                    const WorkWatch& watch)
 {
+    view.parts().begin(kLargestPiece);
     window.Render();
-    const QImage onWhite = pixelsOf(window, size);
+    while (view.parts().hasMore()) {
+        if (watch && !watch(view.parts().drawn(), view.scene().drawingCost()))
+            return {};
+        view.parts().goOn(kLargestPiece);
+        window.Render();
+    }
+    return pixelsOf(window, size);
+}
+
+static QImage pictureOf(FieldView& view, vtkRenderWindow& window, const QSize& size, Paper paper,
+                        const WorkWatch& watch)
+{
+    const QImage onWhite = drawn(view, window, size, watch);
     if (paper == Paper::White || onWhite.isNull())
         return onWhite;
     view.setPaperColor(0.0);
-    window.Render();
-    return withoutPaper(pixelsOf(window, size), onWhite);
+    const QImage onBlack = drawn(view, window, size, watch);
+    return onBlack.isNull() ? onBlack : withoutPaper(onBlack, onWhite);
 }
 
 QString paintField(CvlUniqueId frame, const CameraState& camera,
                    std::shared_ptr<SurfaceCache> cache, QPaintDevice& device, Paper paper,
-                   std::vector<SceneNote>* notes)
+                   std::vector<SceneNote>* notes, const WorkWatch& watch)
 {
     const QSize size(device.width(), device.height());
     QString problem = sizeProblem(size);
@@ -78,14 +93,17 @@ QString paintField(CvlUniqueId frame, const CameraState& camera,
     window->SetSize(drawnSize.width(), drawnSize.height());
     FieldView view(std::move(cache));
     view.attach(window);
-    const host::Frame* const drawn = host::Document::instance().frame(frame);
-    view.setFlat(drawn && drawn->plotType() == PlotType_Field2D);
+    const host::Frame* const shown = host::Document::instance().frame(frame);
+    view.setFlat(shown && shown->plotType() == PlotType_Field2D);
     view.setCamera(camera);
     view.setSize(size, kMagnification);
     view.scene().setFrame(frame);
-    view.scene().advance(-1);
+    if (!view.scene().finish(watch))
+        return pictureCancelled();
     view.prepare();
-    const QImage picture = pictureOf(view, *window, drawnSize, paper);
+    const QImage picture = pictureOf(view, *window, drawnSize, paper, watch);
+    if (picture.isNull())
+        return pictureCancelled();
     QPainter painter(&device);
     painter.setRenderHint(QPainter::LosslessImageRendering);
     painter.drawImage(0, 0, picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));

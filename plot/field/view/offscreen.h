@@ -13,6 +13,6 @@ namespace corvala::plot {
 /// it. `notes` (may be null) gets what there is to wonder at.
 QString paintField(CvlUniqueId frame, const CameraState& camera,
                    std::shared_ptr<SurfaceCache> cache, QPaintDevice& device, Paper paper,
-                   std::vector<SceneNote>* notes = nullptr);
+                   std::vector<SceneNote>* notes = nullptr, const WorkWatch& watch = {});
 
 } // namespace corvala::plot
