@@ -29,7 +29,7 @@ constexpr QSize kSize {800, 600};
 constexpr int kFew = 100; ///< zones
 constexpr int kMany = 2000;
 constexpr double kLimit = 2.5; ///< times a redraw
-constexpr double kTurningLimit = 3.0; ///< times as many points
+constexpr double kTurningLimit = 2.0; ///< times as many points
 
 /// All of many zones, in the state in which a column matters.
 class Scene

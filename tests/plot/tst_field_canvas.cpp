@@ -781,6 +781,45 @@ private Q_SLOTS:
         QVERIFY(!shown.canvas().zoomToMaps({}));
     }
 
+    /// The inside of a square has no pixel of it.
+    void anEmptyInsideIsNothing()
+    {
+        openSquares(PlotType_Field2D, false);
+        ShownPlot shown;
+        QVERIFY(shown.canvas().seesSomething());
+        shown.canvas().zoomToBox(QRectF(shown.middle(), QSizeF(10, 10)));
+        shown.view.requestRedraw();
+        shown.settle();
+        QVERIFY(!shown.canvas().seesSomething());
+    }
+
+    /// Also where another canvas, or none, hears of the button that is let go.
+    void anotherPlotEndsDrags()
+    {
+        openDemo("field3d");
+        ShownPlot shown;
+        const auto moveTo = [&](const QPoint& to, Qt::MouseButtons buttons) {
+            QMouseEvent move(QEvent::MouseMove, to, Qt::NoButton, buttons, {});
+            QCoreApplication::sendEvent(shown.target(), &move);
+            shown.settle();
+        };
+        for (const bool isBox : {false, true}) {
+            QSignalSpy ends(&shown.view, &FrameView::boxEnded);
+            shown.view.setZoomsToBox(isBox);
+            QTest::mousePress(shown.target(), Qt::LeftButton, {}, shown.middle());
+            moveTo(shown.middle() + QPoint(30, 20), Qt::LeftButton);
+            write("PlotType", "", PlotType_Field2D);
+            shown.settle();
+            QCOMPARE(ends.count(), isBox ? 1 : 0);
+            QTest::mouseRelease(shown.target(), Qt::LeftButton, {}, shown.middle());
+            write("PlotType", "", PlotType_Field3D);
+            shown.settle();
+            const QImage before = shown.grabbed();
+            moveTo(shown.middle() - QPoint(50, 50), Qt::NoButton);
+            QCOMPARE(shown.grabbed(), before);
+        }
+    }
+
     /// Along an axis and back to the corner; outlines are on the screen only.
     void presetsAndOutlines()
     {
