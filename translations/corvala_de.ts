@@ -716,6 +716,21 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     </message>
 </context>
 <context>
+    <name>DocumentFileDialog</name>
+    <message>
+        <source>Save Document</source>
+        <translation>Dokument speichern</translation>
+    </message>
+    <message>
+        <source>Documents (*.cvdoc)</source>
+        <translation>Dokumente (*.cvdoc)</translation>
+    </message>
+    <message>
+        <source>%1 exists. Replace it?</source>
+        <translation>%1 ist schon da. Ersetzen?</translation>
+    </message>
+</context>
+<context>
     <name>DocumentText</name>
     <message>
         <source>there are no data that could take the styles</source>
@@ -724,10 +739,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     <message>
         <source>no such style value</source>
         <translation>kein solcher Stilwert</translation>
-    </message>
-    <message>
-        <source>must be true or false</source>
-        <translation>muss wahr oder falsch sein</translation>
     </message>
     <message>
         <source>the value does not belong here</source>
@@ -754,10 +765,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
         <translation>muss Daten öffnen</translation>
     </message>
     <message>
-        <source>data and their zones belong together</source>
-        <translation>Daten und ihre Zonen gehören zusammen</translation>
-    </message>
-    <message>
         <source>strand or zones are missing</source>
         <translation>Strang oder Zonen fehlen</translation>
     </message>
@@ -768,10 +775,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     <message>
         <source>must be three numbers</source>
         <translation>müssen drei Zahlen sein</translation>
-    </message>
-    <message>
-        <source>&quot;activeFrame&quot; is missing</source>
-        <translation>„activeFrame“ fehlt</translation>
     </message>
     <message>
         <source>this is no document</source>
@@ -876,6 +879,50 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     <message>
         <source>%1 cannot be read: it is no file</source>
         <translation>%1 kann nicht gelesen werden: es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>%1 is beyond %2, the last number</source>
+        <translation>%1 liegt über %2, der letzten Nummer</translation>
+    </message>
+    <message>
+        <source>zones and line maps are picked by their numbers</source>
+        <translation>Zonen und Kurven werden mit ihren Nummern ausgewählt</translation>
+    </message>
+    <message>
+        <source>must be one of &quot;zone&quot;, &quot;lineMap&quot; and &quot;other&quot;</source>
+        <translation>muss „zone“, „lineMap“ oder „other“ sein</translation>
+    </message>
+    <message>
+        <source>data and their zones and variables belong together</source>
+        <translation>Daten und ihre Zonen und Variablen gehören zusammen</translation>
+    </message>
+    <message>
+        <source>no zone belongs to a strand, so there is no time</source>
+        <translation>keine Zone gehört zu einem Strang, daher gibt es keine Zeit</translation>
+    </message>
+    <message>
+        <source>Zones matched by number (%1): %2.</source>
+        <translation>Nach der Nummer zugeordnete Zonen (%1): %2.</translation>
+    </message>
+    <message>
+        <source>Zones matched by number, which stay deleted (%1): %2.</source>
+        <translation>Nach der Nummer zugeordnete Zonen, die gelöscht bleiben (%1): %2.</translation>
+    </message>
+    <message>
+        <source>Variables matched by number (%1): %2.</source>
+        <translation>Nach der Nummer zugeordnete Variablen (%1): %2.</translation>
+    </message>
+    <message>
+        <source>The data do not reach the solution time %1.</source>
+        <translation>Die Daten reichen nicht bis zur Lösungszeit %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>„%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>must be true or false, not %1</source>
+        <translation>muss true oder false sein, nicht %1</translation>
     </message>
 </context>
 <context>
@@ -2594,10 +2641,6 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <translation>die Zone „%1“ hat kein %2</translation>
     </message>
     <message>
-        <source>it has no CGNS base, or is of an early CGNS library (before 3.2), whose HDF5 files must be converted</source>
-        <translation>sie hat keine CGNS-Basis oder stammt von einer frühen CGNS-Bibliothek (vor 3.2), deren HDF5-Dateien umgewandelt werden müssen</translation>
-    </message>
-    <message>
         <source>its elements (%1 of %2 points) cannot be read</source>
         <translation>ihre Elemente (%1 mit %2 Punkten) können nicht gelesen werden</translation>
     </message>
@@ -2608,10 +2651,6 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     <message>
         <source>its mesh is not whole: constant/polyMesh lacks %1</source>
         <translation>ihr Netz ist nicht vollständig: in constant/polyMesh fehlt %1</translation>
-    </message>
-    <message>
-        <source>%1: all of them say that they are %2; one is shown.</source>
-        <translation>%1: alle geben sich als %2 aus; eine davon wird gezeigt.</translation>
     </message>
     <message>
         <source>it names points or elements that are not there</source>
@@ -2645,6 +2684,126 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <source>VTK&apos;s reader for %1 failed, perhaps by what is rare in the file: %2</source>
         <translation>VTKs Leser für %1 ist gescheitert, vielleicht an dem, was in der Datei selten ist: %2</translation>
     </message>
+    <message>
+        <source>it has no CGNS base</source>
+        <translation>sie hat keine CGNS-Basis</translation>
+    </message>
+    <message>
+        <source>%1 says that it is %2, as another file does; it is shown as %3.</source>
+        <translation>%1 nennt sich %2 wie eine andere Datei; sie wird als %3 gezeigt.</translation>
+    </message>
+    <message>
+        <source>line %1 names point %2, which is not there</source>
+        <translation>Zeile %1 nennt Punkt %2, den es nicht gibt</translation>
+    </message>
+    <message>
+        <source>line %1: &quot;%2&quot;</source>
+        <translation>Zeile %1: „%2“</translation>
+    </message>
+    <message>
+        <source>line %1: &quot;%2&quot;, and %3 lines more</source>
+        <translation>Zeile %1: „%2“, und %3 weitere Zeilen</translation>
+    </message>
+    <message>
+        <source>line %1 has no three coordinates: &quot;%2&quot;</source>
+        <translation>Zeile %1 hat keine drei Koordinaten: „%2“</translation>
+    </message>
+    <message>
+        <source>line %1: &quot;%2&quot; names no point</source>
+        <translation>Zeile %1: „%2“ nennt keinen Punkt</translation>
+    </message>
+    <message>
+        <source>line %1 is none of an OBJ file: &quot;%2&quot;</source>
+        <translation>Zeile %1 ist keine Zeile einer OBJ-Datei: „%2“</translation>
+    </message>
+    <message>
+        <source>there are no points in it</source>
+        <translation>sie hat keine Punkte</translation>
+    </message>
+    <message>
+        <source>line %1 names number %2 of them, which is not there</source>
+        <translation>Zeile %1 nennt davon Nummer %2, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>it is cut off in line %1 of %2</source>
+        <translation>sie bricht in Zeile %1 von %2 ab</translation>
+    </message>
+    <message>
+        <source>line %1 of %2 has the directive &quot;#%3&quot;, which cannot be read</source>
+        <translation>Zeile %1 von %2 hat die Anweisung „#%3“, die nicht gelesen werden kann</translation>
+    </message>
+    <message>
+        <source>line %1 of %2 cannot be read</source>
+        <translation>Zeile %1 von %2 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1 has no header, or is cut off</source>
+        <translation>%1 hat keinen Kopf oder ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1 kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>there is no mesh in the case of %1</source>
+        <translation>im Fall von %1 ist kein Netz</translation>
+    </message>
+    <message>
+        <source>its XML is damaged in line %1 at column %2</source>
+        <translation>ihr XML ist in Zeile %1, Spalte %2 beschädigt</translation>
+    </message>
+    <message>
+        <source>the array &quot;%1&quot; is cut off or damaged</source>
+        <translation>das Feld „%1“ ist abgeschnitten oder beschädigt</translation>
+    </message>
+    <message>
+        <source>its points are cut off or damaged</source>
+        <translation>ihre Punkte sind abgeschnitten oder beschädigt</translation>
+    </message>
+    <message>
+        <source>what is compressed in it is damaged</source>
+        <translation>was in ihr komprimiert ist, ist beschädigt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no word that is known there</source>
+        <translation>„%1“ ist dort kein bekanntes Wort</translation>
+    </message>
+    <message>
+        <source>its cells are cut off or damaged</source>
+        <translation>ihre Zellen sind abgeschnitten oder beschädigt</translation>
+    </message>
+    <message>
+        <source>it has fewer numbers than it announces</source>
+        <translation>sie hat weniger Zahlen, als sie ankündigt</translation>
+    </message>
+    <message>
+        <source>line %1 has &quot;%3&quot; instead of &quot;%2&quot;</source>
+        <translation>Zeile %1 hat „%3“ statt „%2“</translation>
+    </message>
+    <message>
+        <source>its coordinates cannot be read</source>
+        <translation>ihre Koordinaten können nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>a solution cannot be read</source>
+        <translation>eine Lösung kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>it is damaged, or no Exodus file</source>
+        <translation>sie ist beschädigt oder keine Exodus-Datei</translation>
+    </message>
+    <message>
+        <source>the set &quot;%1&quot; cannot be read</source>
+        <translation>die Menge „%1“ kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>VTK&apos;s reader says: %1</source>
+        <translation>VTKs Leser sagt: %1</translation>
+    </message>
+    <message>
+        <source>VTK&apos;s reader for %1 failed: the file is damaged, or holds something that cannot be read; its arrays are encoded, so that it cannot be told what</source>
+        <translation>VTKs Leser für %1 ist gescheitert: Die Datei ist beschädigt oder enthält etwas, das nicht gelesen werden kann; ihre Felder sind kodiert, daher lässt sich nicht sagen, was</translation>
+    </message>
 </context>
 <context>
     <name>ReadOffers</name>
@@ -2661,6 +2820,37 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
             <numerusform>%n Randfläche wurde nicht gelesen.</numerusform>
             <numerusform>%n Randflächen wurden nicht gelesen.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>StoredView</name>
+    <message>
+        <source>must be %1 numbers</source>
+        <translation>müssen %1 Zahlen sein</translation>
+    </message>
+    <message>
+        <source>a minimum is above its maximum</source>
+        <translation>ein Minimum liegt über seinem Maximum</translation>
+    </message>
+    <message>
+        <source>must be above 0</source>
+        <translation>muss über 0 sein</translation>
+    </message>
+    <message>
+        <source>the camera has no direction, or looks along &quot;viewUp&quot;</source>
+        <translation>die Kamera hat keine Richtung oder blickt längs „viewUp“</translation>
+    </message>
+    <message>
+        <source>the minimum is not below the maximum</source>
+        <translation>das Minimum liegt nicht unter dem Maximum</translation>
+    </message>
+    <message>
+        <source>must be ranges of at most %1 axes</source>
+        <translation>müssen Bereiche von höchstens %1 Achsen sein</translation>
+    </message>
+    <message>
+        <source>frames of this plot type have no view</source>
+        <translation>Rahmen dieser Darstellung haben keine Ansicht</translation>
     </message>
 </context>
 <context>
@@ -4539,10 +4729,6 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <translation>%1 deaktivieren</translation>
     </message>
     <message>
-        <source>Activate only %1</source>
-        <translation>Nur %1 aktivieren</translation>
-    </message>
-    <message>
         <source>Create %1</source>
         <translation>%1 anlegen</translation>
     </message>
@@ -4593,6 +4779,10 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     <message>
         <source>Add data</source>
         <translation>Daten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Show only %1</source>
+        <translation>Nur %1 zeigen</translation>
     </message>
 </context>
 <context>
@@ -4724,10 +4914,6 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <translation>Variable der Konturgruppe 1</translation>
     </message>
     <message>
-        <source>Variable of contour group 1: type a part of its name to find it</source>
-        <translation>Variable der Konturgruppe 1: ein Teil ihres Namens findet sie</translation>
-    </message>
-    <message>
         <source>Re&amp;versed</source>
         <translation>&amp;Umgekehrt</translation>
     </message>
@@ -4742,6 +4928,12 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     <message>
         <source>None</source>
         <translation>Keine</translation>
+    </message>
+    <message>
+        <source>%1
+Variable of contour group 1: type a part of its name to find it</source>
+        <translation>%1
+Variable der Konturgruppe 1: ein Teil ihres Namens genügt, um sie zu finden</translation>
     </message>
 </context>
 <context>
@@ -4804,6 +4996,10 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     <message>
         <source>Add Data</source>
         <translation>Daten hinzufügen</translation>
+    </message>
+    <message>
+        <source>That was about data that the active frame does not show any more.</source>
+        <translation>Das betraf Daten, die der aktive Rahmen nicht mehr zeigt.</translation>
     </message>
 </context>
 <context>
@@ -4914,10 +5110,6 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <translation>Was nicht gespeichert wird, geht verloren.</translation>
     </message>
     <message>
-        <source>Save Document</source>
-        <translation>Dokument speichern</translation>
-    </message>
-    <message>
         <source>Documents (*.cvdoc)</source>
         <translation>Dokumente (*.cvdoc)</translation>
     </message>
@@ -4969,6 +5161,13 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     <message>
         <source>&amp;Discard</source>
         <translation>&amp;Verwerfen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n data file(s) cannot be found in %2 either.</source>
+        <translation>
+            <numerusform>%1: Auch in %2 ist %n Datendatei nicht zu finden.</numerusform>
+            <numerusform>%1: Auch in %2 sind %n Datendateien nicht zu finden.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -5415,6 +5614,18 @@ Lizenz: GPL-3.0-or-later</translation>
         <source>D&amp;emonstration Data</source>
         <translation>&amp;Vorführdaten</translation>
     </message>
+    <message>
+        <source>Contour &amp;Variable...</source>
+        <translation>Kontur&amp;variable ...</translation>
+    </message>
+    <message>
+        <source>Choose the variable that the colors of contour group 1 show</source>
+        <translation>Die Variable wählen, die die Farben der Konturgruppe 1 zeigen</translation>
+    </message>
+    <message>
+        <source>Plot T&amp;ype</source>
+        <translation>A&amp;rt der Darstellung</translation>
+    </message>
 </context>
 <context>
     <name>corvala::app::MainWindow</name>
@@ -5475,6 +5686,22 @@ Lizenz: GPL-3.0-or-later</translation>
     <message>
         <source>Saved %1: %2</source>
         <translation>%1 gespeichert: %2</translation>
+    </message>
+    <message>
+        <source>Drawing the picture...</source>
+        <translation>Das Bild wird gezeichnet ...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The picture was not copied</source>
+        <translation>Das Bild wurde nicht kopiert</translation>
+    </message>
+    <message>
+        <source>The picture was not saved</source>
+        <translation>Das Bild wurde nicht gespeichert</translation>
     </message>
 </context>
 <context>
@@ -5625,6 +5852,10 @@ Lizenz: GPL-3.0-or-later</translation>
     <message>
         <source>Plot t&amp;ype:</source>
         <translation>Da&amp;rstellung:</translation>
+    </message>
+    <message>
+        <source>Show this kind of plot</source>
+        <translation>Diese Art der Darstellung wählen</translation>
     </message>
 </context>
 <context>
@@ -6342,6 +6573,10 @@ Lizenz: GPL-3.0-or-later</translation>
     <message>
         <source>Time</source>
         <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>drawing was cancelled, or what it shows was changed meanwhile</source>
+        <translation>das Zeichnen wurde abgebrochen, oder was es zeigt, wurde inzwischen geändert</translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,13 @@
             <numerusform>%1: %n data files cannot be found.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1: %n data file(s) cannot be found in %2 either.</source>
+        <translation>
+            <numerusform>%1: %n data file cannot be found in %2 either.</numerusform>
+            <numerusform>%1: %n data files cannot be found in %2 either.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>corvala::app::MainMenus</name>

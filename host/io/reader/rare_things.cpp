@@ -126,9 +126,8 @@ ReadMessage reasonOfCrash(const QString& path)
         return ReadMessage(
             QT_TRANSLATE_NOOP(
                 "ReadMessage",
-                "VTK's reader for %1 failed; by what cannot be told, since the arrays "
-                "of the file are encoded: it is damaged, or holds something that "
-                "cannot be read, which may be seen when it is written as text"),
+                "VTK's reader for %1 failed: the file is damaged, or holds something that "
+                "cannot be read; its arrays are encoded, so that it cannot be told what"),
             {QString::fromLatin1(name)});
     if (found.isEmpty())
         return ReadMessage(QT_TRANSLATE_NOOP("ReadMessage",
