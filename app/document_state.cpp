@@ -43,12 +43,14 @@ void DocumentState::take(const host::Operation& operation)
     if (const auto* const load = std::get_if<host::LoadDocument>(&operation))
         return setSaved(QString::fromStdString(load->file));
     const bool isAttached = std::holds_alternative<host::AttachData>(operation);
-    const bool isOther = isAttached || std::holds_alternative<host::DetachData>(operation)
+    const bool isDetached = std::holds_alternative<host::DetachData>(operation);
+    const bool isOther = isAttached || isDetached
         || std::holds_alternative<host::AddFrame>(operation)
         || std::holds_alternative<host::DeleteFrame>(operation);
     if (!isOther)
         return;
-    const bool isFresh = isAttached && m_file.isEmpty() && Document::instance().frameCount() == 1;
+    const bool isFresh =
+        (isAttached || isDetached) && m_file.isEmpty() && Document::instance().frameCount() == 1;
     m_hasOtherData = !isFresh;
     m_hasLostSteps = m_hasLostSteps && !isFresh;
     Q_EMIT changed();

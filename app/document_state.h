@@ -11,8 +11,8 @@
 namespace corvala::app {
 
 /// Which file the open document is from, and whether it holds what that does not. Data that were
-/// just opened in a document without a file are no work that could be lost; where one looks (views,
-/// time, picks, the active frame) is none either.
+/// just opened in a document without a file, or closed in it, are no work that could be lost; where
+/// one looks (views, time, picks, the active frame) is none either.
 class DocumentState : public QObject
 {
     Q_OBJECT
