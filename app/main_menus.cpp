@@ -20,6 +20,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace corvala::app {
 
 using host::Document;
@@ -234,13 +236,24 @@ void MainMenus::addDetailsMenu(QMenu& menu)
 void MainMenus::addPlotTypeMenu(const QList<QAction*>& types)
 {
     auto* const menu = new QMenu(tr("Plot T&ype"), m_plotMenu);
-    menu->addActions(types);
     m_plotMenu->insertMenu(m_contourVariable, menu);
+    fill(*menu, types);
+}
+
+/// The menu can be opened while one of its commands can be used.
+void MainMenus::fill(QMenu& menu, const QList<QAction*>& commands)
+{
+    menu.addActions(commands);
+    connect(m_plotMenu, &QMenu::aboutToShow, &menu, [&menu, commands] {
+        menu.menuAction()->setEnabled(
+            std::any_of(commands.begin(), commands.end(),
+                        [](const QAction* command) { return command->isEnabled(); }));
+    });
 }
 
 void MainMenus::addTimeMenu(const QList<QAction*>& commands)
 {
-    m_plotMenu->addMenu(tr("Solution &Time"))->addActions(commands);
+    fill(*m_plotMenu->addMenu(tr("Solution &Time")), commands);
 }
 
 void MainMenus::makeHelpMenu()

@@ -64,6 +64,7 @@ private:
     void makeToolBar(QAction& save);
     void addDataCommands(QMenu& menu);
     void enableDataCommands();
+    void fill(QMenu& menu, const QList<QAction*>& commands);
     void refreshUndo();
 
     QMainWindow& m_window;
