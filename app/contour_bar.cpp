@@ -57,6 +57,8 @@ ContourBar::~ContourBar() = default;
 
 void ContourBar::chooseVariable()
 {
+    if (isHidden() && toggleViewAction()->isEnabled())
+        toggleViewAction()->trigger();
     goToField(*this, *m_variable);
 }
 
