@@ -176,9 +176,19 @@ private Q_SLOTS:
         row("OBJ with a face of earlier points", "a.obj", "v 0 0 0\nf 1 1 -2\n",
             "line 2 names point -2, which is not there");
         row("no OBJ", "a.obj", "x y\n", "line 1 is none of an OBJ file: \"x y\"");
+        row("PLY without a coordinate", "a.ply",
+            "ply\nformat ascii 1.0\nelement vertex 1\nproperty float x\nproperty float y\n"
+            "end_header\n0 0\n",
+            "its points have no coordinate \"z\"");
+        row("PLY with faces first", "a.ply",
+            "ply\nformat ascii 1.0\nelement face 0\nproperty list uchar int vertex_index\n"
+            "element vertex 1\nproperty float x\nproperty float y\nproperty float z\n"
+            "end_header\n0 0 0\n",
+            "its faces come before its points");
         row("PLY of too many points", "a.ply",
-            "ply\nformat ascii 1.0\nelement vertex 1000000000\nproperty float x\nend_header\n1\n",
-            "cut off after 77 bytes");
+            "ply\nformat ascii 1.0\nelement vertex 1000000000\nproperty float x\nproperty float y\n"
+            "property float z\nend_header\n1\n",
+            "cut off after 111 bytes");
         row("series without files", "a.vtu.series", "{\"files\": []}", "lists files");
         row("series without a time", "a.vtu.series", "{\"files\": [{\"name\": \"a.vtu\"}]}",
             "no time");

@@ -170,6 +170,15 @@ private Q_SLOTS:
             "property float z\nelement face 1\nproperty list uchar int vertex_indices\n"
             "end_header\n0 0 0\n1 0 0\n0 1 0\n3 0 1 2",
             "a", {});
+        row("STL in capitals", "a.stl",
+            "SOLID\nFACET NORMAL 0 0 1\nOUTER LOOP\nVERTEX 0 0 0\nVERTEX 1 0 0\nVERTEX 0 1 0\n"
+            "ENDLOOP\nENDFACET\nENDSOLID\n",
+            "a", {});
+        row("PLY with edges", "a.ply",
+            "ply\nformat ascii 1.0\nelement vertex 2\nproperty float x\nproperty float y\n"
+            "property float z\nelement edge 1\nproperty int vertex1\nproperty int vertex2\n"
+            "end_header\n0 0 0\n1 0 0\n0 1\n",
+            "a", "a.ply: what cannot be read of it was left out: its elements of the kind edge.");
         row("surface in a series", "a.stl.series",
             "{\"file-series-version\": \"1.0\", \"files\": [{\"name\": \"one.obj\", \"time\": 1},"
             " {\"name\": \"two.obj\", \"time\": 2}]}",

@@ -14,12 +14,14 @@ namespace corvala::host::io::reader {
 /// One number of an element, or a list of them.
 struct PlyProperty
 {
+    std::string_view name;
     std::size_t size = 0; ///< of a number, in bytes
     std::size_t countSize = 0; ///< of the number of numbers; 0 for what is no list
 };
 
 struct PlyElement
 {
+    std::string_view name;
     std::int64_t count = 0;
     std::vector<PlyProperty> properties;
 };
@@ -37,6 +39,7 @@ public:
     void walk()
     {
         readHeader();
+        requirePoints();
         for (const PlyElement& element : m_elements)
             for (std::int64_t i = 0; i < element.count; ++i)
                 for (const PlyProperty& property : element.properties)
@@ -49,7 +52,40 @@ public:
                     "it is damaged: it holds more points or faces than it announces"));
     }
 
+    /// Elements that are neither points nor faces.
+    QStringList others() const
+    {
+        QStringList result;
+        for (const PlyElement& element : m_elements)
+            if (element.name != "vertex" && element.name != "face" && element.count > 0)
+                result << QString::fromUtf8(element.name.data(),
+                                            static_cast<int>(element.name.size()));
+        return result;
+    }
+
 private:
+    /// VTK crashes when points have not all coordinates, or come behind faces.
+    void requirePoints() const
+    {
+        const auto named = [](const auto& all, std::string_view name) {
+            return std::find_if(all.begin(), all.end(),
+                                [&](const auto& each) { return each.name == name; });
+        };
+        const auto points = named(m_elements, "vertex");
+        for (const char* const axis : {"x", "y", "z"})
+            if (points == m_elements.end()
+                || named(points->properties, axis) == points->properties.end())
+                throw ReadFailure(
+                    m_file.path(),
+                    QT_TRANSLATE_NOOP("ReadMessage", "its points have no coordinate \"%1\""),
+                    {QString::fromLatin1(axis)});
+        if (named(m_elements, "face") < points)
+            throw ReadFailure(
+                m_file.path(),
+                QT_TRANSLATE_NOOP("ReadMessage",
+                                  "its faces come before its points, which cannot be read"));
+    }
+
     [[noreturn]] void failCut() const
     {
         throw ReadFailure(m_file.path(),
@@ -103,8 +139,8 @@ private:
                 m_isText = format == "ascii";
                 m_isBigEndian = format == "binary_big_endian";
             } else if (key == "element") {
-                word();
-                m_elements.push_back({number(word()), {}});
+                const std::string_view name = word();
+                m_elements.push_back({name, number(word()), {}});
             } else if (key == "property" && !m_elements.empty())
                 addProperty();
             else if (key == "comment" || key == "obj_info")
@@ -122,7 +158,7 @@ private:
             type = word();
         }
         property.size = sizeOf(type);
-        word();
+        property.name = word();
         m_elements.back().properties.push_back(property);
     }
 
@@ -160,9 +196,11 @@ private:
     bool m_isBigEndian = false;
 };
 
-void requireWholePly(const MappedFile& file)
+QStringList requireWholePly(const MappedFile& file)
 {
-    PlyWalk(file).walk();
+    PlyWalk walk(file);
+    walk.walk();
+    return walk.others();
 }
 
 } // namespace corvala::host::io::reader

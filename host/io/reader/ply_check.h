@@ -3,9 +3,12 @@
 
 #include "host/io/reader/mapped_file.h"
 
+#include <QStringList>
+
 namespace corvala::host::io::reader {
 
-/// Throws ReadFailure unless all that the header of a PLY file announces is there.
-void requireWholePly(const MappedFile& file);
+/// Throws ReadFailure unless all that the header of a PLY file announces is there. Returns the
+/// names of elements that are neither points nor faces.
+QStringList requireWholePly(const MappedFile& file);
 
 } // namespace corvala::host::io::reader

@@ -17,6 +17,22 @@
 
 namespace corvala::host::io::reader {
 
+/// In capitals as well.
+static bool isWord(std::string_view text, std::string_view word)
+{
+    return std::equal(text.begin(), text.end(), word.begin(), word.end(),
+                      [](char some, char low) { return some == low || some == low - 'a' + 'A'; });
+}
+
+/// Looks from the end.
+static bool hasWord(std::string_view bytes, std::string_view word)
+{
+    for (std::size_t place = bytes.size(); place-- > 0;)
+        if (isWord(bytes.substr(place, word.size()), word))
+            return true;
+    return false;
+}
+
 /// Text ends with "endsolid"; binary files tell the number of their triangles.
 static void requireWholeStl(const MappedFile& file)
 {
@@ -28,9 +44,9 @@ static void requireWholeStl(const MappedFile& file)
         std::memcpy(&triangles, bytes.data() + kHeader - sizeof triangles, sizeof triangles);
     const std::uint64_t binarySize = kHeader + kTriangle * triangles;
     const std::size_t start = bytes.find_first_not_of(" \t\r\n");
-    const bool isText = start < bytes.size() && bytes.substr(start, 5) == "solid"
+    const bool isText = start < bytes.size() && isWord(bytes.substr(start, 5), "solid")
         && bytes.size() != binarySize && bytes.substr(0, 1000).find('\0') > bytes.size();
-    if (isText && bytes.rfind("endsolid") == std::string_view::npos)
+    if (isText && !hasWord(bytes, "endsolid"))
         throw ReadFailure(
             file.path(),
             QT_TRANSLATE_NOOP("ReadMessage",
@@ -72,8 +88,13 @@ SurfaceData readSurface(const QString& path, const ProgressCall& progress)
 {
     const MappedFile file(path);
     if (file.bytes().substr(0, 3) == "ply") {
-        requireWholePly(file);
-        return {updated(path, *plyReader(file), progress), {}, {}};
+        SurfaceData result;
+        if (const QStringList others = requireWholePly(file); !others.isEmpty())
+            result.leftOver =
+                ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "its elements of the kind %1"),
+                            {others.join(QStringLiteral(", "))});
+        result.data = updated(path, *plyReader(file), progress);
+        return result;
     }
     if (QFileInfo(path).suffix().toLower() == QLatin1String("obj"))
         return readObj(file, progress);
