@@ -167,6 +167,9 @@ private Q_SLOTS:
             "cut off: 84 of 3365299334 bytes are there");
         row("STL without an end", "a.stl", "solid a\nfacet normal 0 0 1\nouter loop\n",
             "no \"endsolid\"");
+        row("STL without numbers", "a.stl",
+            "solid\nfacet normal 0 0 1\nouter loop\nvertex 0 x 0\nendsolid\n",
+            "a.stl could not be read: line 4 cannot be read");
         row("OBJ without a coordinate", "a.obj", "v 0 0 0\nv 1 0\nv 0 1 0\nf 1 2 3\n",
             "line 2 has no three coordinates: \"v 1 0\"");
         row("OBJ with a face of no points", "a.obj", "v 0 0 0\nf 1 x 3\nf 1 1 1\n",

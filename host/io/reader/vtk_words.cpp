@@ -54,6 +54,8 @@ static const std::vector<VtkWords>& knownWords()
         // STL
         {like("at line (\\d+): Parse error. Expecting '([^']*)' found '([^']*)'"),
          QT_TRANSLATE_NOOP("ReadMessage", "line %1 has \"%3\" instead of \"%2\"")},
+        {like("at line (\\d+): Parse error"),
+         QT_TRANSLATE_NOOP("ReadMessage", "line %1 cannot be read")},
         // CGNS
         {like("reading mesh coordinates"),
          QT_TRANSLATE_NOOP("ReadMessage", "its coordinates cannot be read")},
