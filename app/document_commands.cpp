@@ -113,10 +113,10 @@ void DocumentCommands::commit(QSessionManager& manager)
 {
     if (!m_state.isChanged() || !manager.allowsInteraction())
         return;
-    const bool maySessionEnd = mayLose();
-    manager.release();
-    if (!maySessionEnd)
-        manager.cancel();
+    if (mayLose())
+        manager.release();
+    else
+        manager.cancel(); // ends the interaction as well
 }
 
 bool DocumentCommands::mayLose()
