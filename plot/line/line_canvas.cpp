@@ -28,7 +28,12 @@ LineCanvas::LineCanvas(QWidget* parent)
     m_notice->setBackgroundRole(QPalette::Base);
     m_notice->setAutoFillBackground(true);
     m_notice->move(8, 4);
-    // Moved by the mouse, the plot draws itself as far as it can at once.
+    constexpr int kRestMilliseconds = 200;
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(kRestMilliseconds);
+    connect(&m_rest, &QTimer::timeout, this, &Canvas::redrawWanted);
+    // Moved by the mouse, the plot draws itself as far as it can at once; those who look at the
+    // picture hear of it when the hand rests.
     connect(m_widget, &QCustomPlot::afterReplot, this, [this] {
         if (m_plot.hasWork())
             Q_EMIT redrawWanted();
@@ -163,12 +168,14 @@ std::optional<double> LineCanvas::proposal(style::Key value, int index) const
 bool LineCanvas::dragged(const QPointF&)
 {
     m_plot.setMoved();
+    m_rest.start();
     return false; // the plot moves by itself
 }
 
 bool LineCanvas::wheelTurned(const QWheelEvent&)
 {
     m_plot.setMoved();
+    m_rest.start();
     return false;
 }
 

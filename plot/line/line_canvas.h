@@ -4,6 +4,8 @@
 #include "plot/canvas.h"
 #include "plot/line/line_plot.h"
 
+#include <QTimer>
+
 class QLabel;
 
 namespace corvala::plot {
@@ -48,6 +50,7 @@ private:
     QCustomPlot* m_widget; // not owned
     LinePlot m_plot;
     QLabel* m_notice; // not owned
+    QTimer m_rest; ///< runs until the hand that moves the plot rests
 };
 
 /// Draws a line frame, showing `range` of its axes, or all of it when null; as PaintPicture. What
