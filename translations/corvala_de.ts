@@ -2804,6 +2804,22 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <source>VTK&apos;s reader for %1 failed: the file is damaged, or holds something that cannot be read; its arrays are encoded, so that it cannot be told what</source>
         <translation>VTKs Leser für %1 ist gescheitert: Die Datei ist beschädigt oder enthält etwas, das nicht gelesen werden kann; ihre Felder sind kodiert, daher lässt sich nicht sagen, was</translation>
     </message>
+    <message>
+        <source>its points have no coordinate &quot;%1&quot;</source>
+        <translation>ihre Punkte haben keine Koordinate „%1“</translation>
+    </message>
+    <message>
+        <source>its faces come before its points, which cannot be read</source>
+        <translation>ihre Flächen stehen vor ihren Punkten, was nicht gelesen werden kann</translation>
+    </message>
+    <message>
+        <source>its elements of the kind %1</source>
+        <translation>ihre Elemente der Art %1</translation>
+    </message>
+    <message>
+        <source>line %1 cannot be read</source>
+        <translation>Zeile %1 kann nicht gelesen werden</translation>
+    </message>
 </context>
 <context>
     <name>ReadOffers</name>
