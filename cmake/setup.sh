@@ -2,7 +2,7 @@
 # Sourced by ./run and ./test: installs the Debian packages that are missing, and builds a preset.
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config nlohmann-json3-dev libboost-dev libroaring-dev
-  qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools libvtk9-dev libvtk9-qt-dev
+  qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools libvtk9-dev libvtk9-qt-dev libhdf5-dev
   libqcustomplot-dev libgsl-dev"
 RUN_PACKAGES="libgl1-mesa-dri libqt5svg5 qttranslations5-l10n xvfb xauth"
 TEST_PACKAGES="clang-format libasan8 libubsan1"
