@@ -15,7 +15,7 @@ class StandIn
 {
 public:
     /// Points at most, and some more so that no map is missing.
-    static constexpr vtkIdType kPoints = 60'000;
+    static constexpr vtkIdType kPoints = 50'000;
 
     StandIn();
 
