@@ -168,6 +168,15 @@ void CompositeLayer::sync(CvlInt64 map, const std::optional<BlockLook>& look, co
     m_isArranged = m_isArranged && !rebuilds && !moves && !recolors;
 }
 
+void CompositeLayer::giveUp(SlowRelease& release)
+{
+    for (auto& [map, block] : m_blocks)
+        for (auto& piece : block.pieces)
+            release.take(std::move(piece));
+    m_blocks.clear();
+    m_isArranged = false;
+}
+
 void CompositeLayer::setVisible(bool visible)
 {
     m_visible = visible;

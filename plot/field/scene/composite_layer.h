@@ -5,6 +5,7 @@
 #include "plot/field/geometry/shape_pieces.h"
 #include "plot/field/scene/block_look.h"
 #include "plot/field/scene/layer_looks.h"
+#include "plot/field/scene/slow_release.h"
 
 #include <vtkBoundingBox.h>
 
@@ -89,6 +90,8 @@ public:
     const ShapePieces& pieces(CvlInt64 map) const;
     /// The first of its pieces, which is all of it unless it is large; null without one.
     vtkPolyData* geometry(CvlInt64 map) const;
+    /// Draws nothing any more; the shapes are let go by another.
+    void giveUp(SlowRelease& release);
     /// How the block of a map looks that has one.
     const BlockLook& look(CvlInt64 map) const { return m_blocks.at(map).look; }
     /// Whether the block of a map is made from a surface.

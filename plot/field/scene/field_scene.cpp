@@ -42,12 +42,18 @@ void FieldScene::clear(const host::Frame* drawn, Fresh reason)
     m_piece = {};
     m_failures.clear();
     m_probe.clear();
+    for (auto& [map, surfaces] : m_surfaces)
+        for (PlacedSurface& placed : surfaces)
+            m_release.take(std::move(placed.shape));
     m_surfaces.clear();
     m_ranges.clear();
     m_streamStart = {};
-    for (std::size_t i = 0; i < kFieldLayerCount; ++i)
+    for (std::size_t i = 0; i < kFieldLayerCount; ++i) {
+        if (m_layers[i])
+            m_layers[i]->giveUp(m_release);
         m_layers[i] =
             std::make_unique<CompositeLayer>(static_cast<FieldLayer>(i), m_flat, m_back, m_front);
+    }
 }
 
 LayerMask FieldScene::showLayers(const host::Frame& drawn)

@@ -175,6 +175,7 @@ private:
     vtkRenderer& m_front;
     bool m_flat = false;
     ContourGroups m_groups;
+    SlowRelease m_release; ///< of what was drawn before
     std::array<std::unique_ptr<CompositeLayer>, kFieldLayerCount> m_layers;
     std::unordered_map<CvlInt64, std::vector<PlacedSurface>> m_surfaces;
     GroupRanges m_ranges;
