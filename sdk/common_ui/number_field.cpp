@@ -110,26 +110,33 @@ void NumberField::stepBy(int steps)
     selectAll();
 }
 
-/// The base class replaces a text that does not fit by the number before.
+/// The base class replaces a text that does not fit by the number before. What is selected stays
+/// so.
+void NumberField::keep(const QString& text)
+{
+    if (lineEdit()->text() != text)
+        lineEdit()->setText(text);
+}
+
 void NumberField::focusOutEvent(QFocusEvent* event)
 {
     const QString text = lineEdit()->text();
     QDoubleSpinBox::focusOutEvent(event);
-    lineEdit()->setText(text);
+    keep(text);
 }
 
 void NumberField::hideEvent(QHideEvent* event)
 {
     const QString text = lineEdit()->text();
     QDoubleSpinBox::hideEvent(event);
-    lineEdit()->setText(text);
+    keep(text);
 }
 
 void NumberField::showEvent(QShowEvent* event)
 {
     const QString text = lineEdit()->text();
     QDoubleSpinBox::showEvent(event);
-    lineEdit()->setText(text);
+    keep(text);
 }
 
 /// Return is for the window, which accepts the number or does not.

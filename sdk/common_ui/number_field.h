@@ -58,6 +58,7 @@ protected:
 private:
     std::optional<double> read(const QString& text) const;
     double stepFrom(double number) const;
+    void keep(const QString& text);
     void textChanged();
 
     int m_decimals;

@@ -42,8 +42,8 @@ private Q_SLOTS:
         field.setLimits(0.01, 5000.0);
         field.setNumber(3.0);
         QLineEdit other;
-        field.show();
         field.selectAll();
+        field.show(); // what is typed replaces what is selected
         QTest::keyClicks(&field, text.isEmpty() ? QStringLiteral("\b") : text);
         QFocusEvent leaves(QEvent::FocusOut);
         QCoreApplication::sendEvent(&field, &leaves);
