@@ -130,6 +130,9 @@ void MainWindow::makeBars()
     connect(m_menus, &MainMenus::filesWanted, m_data,
             [this](const QStringList& files) { m_data->open(files); });
     connect(m_menus, &MainMenus::demoWanted, m_data, &DataCommands::openDemo);
+    // The time that is shown when it is asked for is the one in the picture.
+    for (const auto wanted : {&MainMenus::pictureWanted, &MainMenus::pictureCopyWanted})
+        connect(m_menus, wanted, m_timeBar, &TimeBar::stop);
     auto* const pictures = new PictureCommands(*this, *m_plotArea);
     connect(m_menus, &MainMenus::pictureWanted, pictures, &PictureCommands::save);
     connect(m_menus, &MainMenus::pictureCopyWanted, pictures, &PictureCommands::copy);
@@ -334,6 +337,14 @@ void MainWindow::openDemo(const QString& name)
 void MainWindow::askBeforeLosing()
 {
     m_documents->askBeforeLosing();
+}
+
+/// What a question or a file dialog is about shall not change behind it.
+bool MainWindow::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowBlocked)
+        m_timeBar->stop();
+    return QMainWindow::event(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -67,6 +67,7 @@ Q_SIGNALS:
     void openingEnded(bool opened);
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:

@@ -491,6 +491,15 @@ private Q_SLOTS:
         layer("timePlay").trigger();
         QTRY_COMPARE(frame().solutionTime(), 3.0);
         QTRY_COMPARE(layer("timePlay").text(), QStringLiteral("&Play")); // it ended by itself
+        layer("timeLoop").trigger();
+        for (const char* const command : {"copyPicture", "savePicture", "addData"}) {
+            layer("timePlay").trigger();
+            QCOMPARE(layer("timePlay").text(), QStringLiteral("Sto&p"));
+            ModalResponder responder;
+            responder.answer([](QDialog& dialog) { dialog.reject(); });
+            layer(command).trigger();
+            QCOMPARE(layer("timePlay").text(), QStringLiteral("&Play"));
+        }
         Document::instance().execute(host::SetSolutionTime {1.5});
         play::waitUntilIdle();
         QCOMPARE(slider->value(), 1);
