@@ -10,10 +10,13 @@
 
 #include <QClipboard>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QGuiApplication>
+#include <QPaintDevice>
 #include <QProgressDialog>
 #include <QRegularExpression>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -41,6 +44,20 @@ public:
         setWindowModality(Qt::ApplicationModal);
         setMinimumDuration(kPatience);
         setAutoReset(false);
+    }
+
+    /// Before drawing to a device with so many pixels that the first part of the work, in which
+    /// nothing else happens, may take long.
+    void begin(const QPaintDevice& device)
+    {
+        constexpr double kManyPixels = 1e7;
+        constexpr int kUntilPainted = 300; // milliseconds: a window shows a while after it is asked
+        if (double(device.width()) * device.height() < kManyPixels)
+            return;
+        show();
+        QEventLoop meanwhile;
+        QTimer::singleShot(kUntilPainted, &meanwhile, &QEventLoop::quit);
+        meanwhile.exec();
     }
 
     /// Lets the windows live meanwhile.
@@ -136,6 +153,7 @@ void PictureCommands::save()
         const BusyCursor busy;
         problem = writePicture(file, sizes.chosenSize(), sizes.chosenPaper(),
                                [&](QPaintDevice& device, plot::Paper paper) {
+                                   progress.begin(device);
                                    return m_plot.paint(device, paper, progress.watch());
                                });
     }
