@@ -111,12 +111,26 @@ void PictureSizeDialog::chooseUnit(Unit unit)
     setSize(size);
 }
 
+/// Of a picture, in the unit.
+double PictureSizeDialog::largestSide() const
+{
+    constexpr double kLargestSide = 2000.0; // millimetres
+    return m_unit == Pixels ? plot::kLargestImage : kLargestSide;
+}
+
+QString PictureSizeDialog::limits() const
+{
+    const QString text = m_unit == Pixels
+        ? tr("A side may have 1 to %1 pixels, and the resolution may be %2 to %3 dpi")
+        : tr("A side may have 1 to %1 mm, and the resolution may be %2 to %3 dpi");
+    return text.arg(largestSide()).arg(plot::kLowestResolution).arg(plot::kHighestResolution);
+}
+
 /// Out of the range of its field, a length counts as the nearest.
 void PictureSizeDialog::setSize(const plot::PictureSize& size)
 {
-    constexpr double kLargestSide = 2000.0; // millimetres
     const QSizeF shown = m_unit == Pixels ? QSizeF(size.pixels()) : size.millimetres;
-    const double largest = m_unit == Pixels ? plot::kLargestImage : kLargestSide;
+    const double largest = largestSide();
     const std::pair<ui::NumberField*, double> fields[] = {{m_width, shown.width()},
                                                           {m_height, shown.height()}};
     for (const auto& [field, length] : fields) {
@@ -133,8 +147,7 @@ void PictureSizeDialog::showOtherUnit()
     const plot::PictureSize size = chosenSize();
     const QSize pixels = size.pixels();
     const bool areNumbers = m_width->number() && m_height->number() && m_resolution->number();
-    const QString problem = areNumbers ? pictureSizeProblem(m_file, size)
-                                       : tr("What is marked is no size of a picture");
+    const QString problem = areNumbers ? pictureSizeProblem(m_file, size) : limits();
     const QString other = m_unit == Pixels
         ? tr("%1 x %2 mm")
               .arg(size.millimetres.width(), 0, 'f', 1)

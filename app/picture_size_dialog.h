@@ -39,6 +39,8 @@ private:
     void chooseUnit(Unit unit);
     void setSize(const plot::PictureSize& size);
     void showOtherUnit();
+    double largestSide() const;
+    QString limits() const; ///< of what can be chosen, for the user
 
     QString m_file;
     Unit m_unit = Millimetres; ///< of width and height

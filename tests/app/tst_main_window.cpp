@@ -189,6 +189,14 @@ private Q_SLOTS:
             responder.answer([=](QDialog& dialog) {
                 auto* field = dialog.findChild<QDoubleSpinBox*>(QStringLiteral("picture/width"));
                 QCOMPARE(field->value(), before);
+                auto* dots =
+                    dialog.findChild<QDoubleSpinBox*>(QStringLiteral("picture/resolution"));
+                dots->findChild<QLineEdit*>()->setText(QStringLiteral("6000"));
+                const auto labels = dialog.findChildren<QLabel*>();
+                QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+                    return label->text().endsWith(QLatin1String(" 10 to 2400 dpi"));
+                }));
+                dots->setValue(300.0);
                 field->setValue(width);
                 dialog.accept();
             });
