@@ -4,6 +4,7 @@
 #include "app/first_lines.h"
 #include "app/first_look.h"
 #include "host/document/document.h"
+#include "vocabulary/undo_kinds.h"
 
 #include <algorithm>
 
@@ -70,8 +71,10 @@ host::Outcome addToFrame(const host::AddData& addition)
         return document.execute(addition); // which says why not
     const CvlInt64 zones = frame->data()->zoneCount();
     const CvlInt64 maps = frame->fieldMapCount();
-    document.undo().begin(UndoKind_StyleGroup);
     const host::Outcome outcome = document.execute(addition);
+    if (!outcome.isDone())
+        return outcome;
+    document.undo().begin(kUndoMend); // how they look belongs to that step, which names the data
     if (frame->isLinePlot())
         addLines(*addition.data, zones);
     else

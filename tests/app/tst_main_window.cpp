@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/busy_cursor.h"
 #include "app/command_line.h"
+#include "app/data_adding.h"
+#include "app/data_opening.h"
 #include "app/details/details_dock.h"
 #include "app/main_window.h"
 #include "app/program.h"
@@ -470,6 +472,12 @@ private Q_SLOTS:
         QVERIFY(!frame().isOn(style::fieldLayers.showShade));
         play::pressKeys(m_window.get(), QKeySequence(QStringLiteral("Ctrl+Y")));
         QVERIFY(frame().isOn(style::fieldLayers.showShade));
+        host::DataOrigin origin;
+        origin.demo = "transient";
+        QString problem;
+        QVERIFY(addToFrame({origin, embeddedData(origin, problem)}).isDone());
+        play::waitUntilIdle();
+        QCOMPARE(undo->text(), QStringLiteral("&Undo Add data")); // with the look of the zones
     }
 
     void sliderGoesThroughTheTimes()
