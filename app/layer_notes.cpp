@@ -10,6 +10,8 @@
 #include <QAction>
 #include <QCoreApplication>
 
+#include <utility>
+
 namespace corvala::app {
 
 using host::Document;
@@ -89,6 +91,7 @@ LayerNotes::LayerNotes(NoticeBar& bar, QObject* parent)
 void LayerNotes::explain(QAction& layer)
 {
     m_layer = &layer;
+    m_note = m_bar.tellInPassing(m_note, {}); // which may be under others
     tell();
 }
 
@@ -116,8 +119,7 @@ void LayerNotes::tell()
     const QString name = facts.layer ? QCoreApplication::translate("StyleValues", facts.layer->name)
                                      : m_layer->text();
     const Note note = noteOf(facts.gap, name, isOfLines(facts));
-    if (facts.gap != LayerGap::None || m_bar.isShown(m_note))
-        m_note = m_bar.tell(note.text, note.caption, [this] { mend(); });
+    m_note = m_bar.tellInPassing(m_note, note.text, note.caption, [this] { mend(); });
 }
 
 static void write(style::Key key, host::StyleInput value, std::optional<host::NumberSet> maps = {})
@@ -144,7 +146,8 @@ void LayerNotes::mend()
     case LayerGap::NoVariable:
         if (!sdk::autoAssignAllContourGroupVariables(
                 ContourLevelsInitializationMode_ResetIfVariableIsNew))
-            m_bar.tell(tr("The data have no variable that contours could show."));
+            m_bar.tellInPassing(std::exchange(m_note, 0),
+                                tr("The data have no variable that contours could show."));
         break;
     case LayerGap::NoVector: dialogs::prompt::VectorVarAssignStrategy()(frame->plotType()); break;
     case LayerGap::NoFaces: write(style::kShadeLayer.shown, true); break;

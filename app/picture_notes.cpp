@@ -20,18 +20,15 @@ void PictureNotes::tell(const std::vector<plot::SceneNote>& notes)
     const QString text = note ? note->text : QString();
     if (std::exchange(m_told, text) == text)
         return;
-    if (!note) {
-        if (m_bar.isShown(m_note))
-            m_bar.tell({});
-        return;
-    }
-    if (!note->mending)
-        m_note = m_bar.tell(text, tr("Plot Details..."),
-                            [this, value = note->about, index = note->index] {
-                                Q_EMIT detailsWanted(value, index);
-                            });
+    if (!note)
+        m_note = m_bar.tellInPassing(m_note, {});
+    else if (!note->mending)
+        m_note = m_bar.tellInPassing(m_note, text, tr("Plot Details..."),
+                                     [this, value = note->about, index = note->index] {
+                                         Q_EMIT detailsWanted(value, index);
+                                     });
     else
-        m_note = m_bar.tell(text, note->caption, [value = *note->mending] {
+        m_note = m_bar.tellInPassing(m_note, text, note->caption, [value = *note->mending] {
             host::Document::instance().execute(value);
         });
 }

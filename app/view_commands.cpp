@@ -236,12 +236,12 @@ void ViewCommands::refresh()
 void ViewCommands::tellWhenLost()
 {
     const bool isLost = m_view && m_view->canvas() && !m_view->canvas()->seesSomething();
-    const bool isTold = m_notice.isShown(m_note);
-    if (isLost && !isTold)
-        m_note = m_notice.tell(tr("Nothing is in view: all that is drawn lies beside it."),
-                               tr("Fit View"), [this] { m_view->fitView(); });
-    else if (!isLost && isTold)
-        m_notice.tell({});
+    if (!isLost)
+        m_note = m_notice.tellInPassing(m_note, {});
+    else if (!m_notice.isShown(m_note))
+        m_note =
+            m_notice.tellInPassing(0, tr("Nothing is in view: all that is drawn lies beside it."),
+                                   tr("Fit View"), [this] { m_view->fitView(); });
     refresh();
 }
 

@@ -709,6 +709,12 @@ private Q_SLOTS:
         const QString shown = shownTexts();
         QVERIFY2(shown.contains(QLatin1String("Detected: binary, several grids")),
                  qPrintable(shown));
+        write({{"ActiveFieldMaps"}, host::NumberSet()});
+        for (const bool isTold : {true, false}) { // which lies over the other note
+            layer("ShowScatter").trigger();
+            QCOMPARE(shownTexts().contains(QLatin1String("No zone is active")), isTold);
+            QCOMPARE(shownTexts().contains(QLatin1String("Detected")), !isTold);
+        }
 
         // Another file that fails in between does not take the place of these data.
         m_window->openFiles({QStringLiteral("/nowhere/wing.cgns")});
