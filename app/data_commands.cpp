@@ -218,11 +218,11 @@ void DataCommands::tellOffers(const host::io::ReadOffers& offers, QStringList no
                   ofTheseData([this, request] { open(request); }));
 }
 
-void DataCommands::tellOpened(const host::io::ReadResult& result)
+void DataCommands::tellOpened(const host::io::ReadResult& result, const QStringList& look)
 {
     const host::io::ReadRequest request = m_opener.request();
     rememberFiles(request.files);
-    const QStringList& notes = result.noteGroups;
+    const QStringList notes = look + result.noteGroups;
     const bool isAddition = m_opener.use() == DataUse::Add; // whose reading cannot be changed alone
     if (const std::optional<host::io::Plot3DLayout>& detected = result.detectedPlot3D;
         detected && !isAddition)
@@ -236,7 +236,7 @@ void DataCommands::tellOpened(const host::io::ReadResult& result)
     QStringList all;
     for (const std::string& note : result.data->notes)
         all << QString::fromStdString(note);
-    if (all.size() > notes.size())
+    if (all.size() > result.noteGroups.size())
         m_notice.addDetails(all);
 }
 

@@ -47,7 +47,7 @@ private:
     void askForDialect(const host::io::TextPreview& preview);
     void askToSkip(const host::io::ReadResult& result);
     void preview(host::io::ReadRequest request, DataUse use);
-    void tellOpened(const host::io::ReadResult& result);
+    void tellOpened(const host::io::ReadResult& result, const QStringList& look);
     std::function<void()> ofTheseData(const std::function<void()>& command);
     void tellOffers(const host::io::ReadOffers& offers, QStringList notes);
     void tellDetected(const QString& detected, QStringList notes,

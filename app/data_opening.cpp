@@ -62,13 +62,15 @@ std::shared_ptr<host::DataSet> readAndWait(const host::DataOrigin& origin, QStri
     return result.data;
 }
 
-static void attach(const ReadResult& result, const ReadRequest& request)
+/// Returns what one may wonder at in what is seen at first.
+static QStringList attach(const ReadResult& result, const ReadRequest& request)
 {
     host::Document& document = host::Document::instance();
     PlotType_e plotType = result.data->suggestedPlotType();
     std::vector<FirstLine> lines;
+    std::size_t possible = 0;
     if (plotType == PlotType_LineXY) {
-        lines = firstLines(*result.data);
+        lines = firstLines(*result.data, &possible);
         plotType = firstPlotType(*result.data, lines);
     }
     document.execute(host::AttachData {originOf(request), result.data, plotType,
@@ -79,16 +81,22 @@ static void attach(const ReadResult& result, const ReadRequest& request)
         lines = firstFieldLines(*result.data);
     for (const host::SetStyle& value : firstLook(lines))
         document.execute(value);
+    if (plotType != PlotType_LineXY || possible <= lines.size())
+        return {};
+    return {DataOpener::tr("%L1 lines can be made of the columns: the first %L2 are shown, more "
+                           "can be created in Mapping Style.")
+                .arg(possible)
+                .arg(lines.size())};
 }
 
-/// The data of the frame may be closed by now.
-static void take(const ReadResult& result, const ReadRequest& request, DataUse use)
+/// The data of the frame may be closed by now. Returns notes, as attach.
+static QStringList take(const ReadResult& result, const ReadRequest& request, DataUse use)
 {
     const host::Frame* const frame = host::Document::instance().activeFrame();
-    if (use == DataUse::Add && frame && frame->hasData())
-        addToFrame({originOf(request), result.data});
-    else
-        attach(result, request);
+    if (use != DataUse::Add || !frame || !frame->hasData())
+        return attach(result, request);
+    addToFrame({originOf(request), result.data});
+    return {};
 }
 
 static QStringList notesOf(const host::DataSet& data)
@@ -104,8 +112,8 @@ OpenedData openAndWait(const ReadRequest& request)
     const ReadResult result = host::io::DataReader::read(request);
     if (!result.data)
         return {result.error, {}};
-    attach(result, request);
-    return {{}, notesOf(*result.data) + describe(result.offers)};
+    const QStringList look = attach(result, request);
+    return {{}, notesOf(*result.data) + describe(result.offers) + look};
 }
 
 DataOpener::DataOpener(QObject* parent)
@@ -160,8 +168,8 @@ void DataOpener::take(const ReadResult& result)
     }
     const bool isForFrame = !std::exchange(m_taker, nullptr);
     if (isForFrame && result.data) {
-        app::take(result, m_request, m_use);
-        Q_EMIT opened(result);
+        const QStringList look = app::take(result, m_request, m_use);
+        Q_EMIT opened(result, look);
     } else if (isForFrame && result.preview) {
         Q_EMIT previewed(*result.preview);
     } else if (isForFrame && result.badRowCount > 0) {

@@ -62,7 +62,8 @@ Q_SIGNALS:
     /// `percent` is 0 to 100, or -1 when unknown.
     void progress(int percent, const QString& what);
     /// The result of a reading that was not cancelled; `ended` follows.
-    void opened(const corvala::host::io::ReadResult& result);
+    /// `look`: what one may wonder at in what is seen at first, one sentence each.
+    void opened(const corvala::host::io::ReadResult& result, const QStringList& look);
     void failed(const QString& error);
     /// How a table of text would be read; `ended` follows.
     void previewed(const corvala::host::io::TextPreview& preview);

@@ -77,22 +77,38 @@ static bool fit(const ValueRange& one, const ValueRange& other)
     return std::min(one.size(), other.size()) * kManyTimes >= both;
 }
 
-static std::vector<FirstLine> linesOf(const std::vector<Column>& columns, int zone)
+namespace {
+
+/// The lines that a zone may have, and how many columns are beyond them.
+struct ZoneLines
 {
     std::vector<FirstLine> lines;
+    std::size_t more = 0;
+};
+
+} // namespace
+
+static ZoneLines linesOf(const std::vector<Column>& columns, int zone)
+{
+    ZoneLines found;
+    std::vector<FirstLine>& lines = found.lines;
     const Column& x = abscissaOf(columns);
     const bool isScattered = !goesOneWay(*x.values) && ColumnCourse(*x.values).isScattered();
     std::optional<ValueRange> first;
     for (const Column& y : columns) {
-        const bool isOther = y.variable != x.variable && y.kind == host::VariableKind::Number;
-        const bool numbersCycles = isScattered && ColumnCourse(*y.values).goesInSteps();
-        if (!isOther || numbersCycles || lines.size() == kMostLines)
+        if (y.variable == x.variable || y.kind != host::VariableKind::Number)
             continue;
+        if (lines.size() == kMostLines) {
+            ++found.more;
+            continue;
+        }
+        if (isScattered && ColumnCourse(*y.values).goesInSteps())
+            continue; // numbers cycles
         const ValueRange range = rangeOf(*y.values);
         first = first.value_or(range);
         lines.push_back({zone, x.variable, y.variable, fit(*first, range) ? 1 : 2, isScattered});
     }
-    return lines;
+    return found;
 }
 
 namespace {
@@ -129,43 +145,48 @@ static Choice choiceOf(const host::DataSet& data, int zone)
     return choice;
 }
 
-static std::vector<FirstLine> linesOf(const host::DataSet& data, int zone)
+static ZoneLines linesOf(const host::DataSet& data, int zone)
 {
     const Choice choice = choiceOf(data, zone);
     if (choice.columns.empty())
         return {};
-    std::vector<FirstLine> lines = linesOf(choice.columns, zone);
-    for (FirstLine& line : lines)
+    ZoneLines found = linesOf(choice.columns, zone);
+    for (FirstLine& line : found.lines)
         if (const auto error = choice.errors.find(line.y); error != choice.errors.end())
             line.error = error->second;
-    return lines;
+    return found;
 }
 
 /// How many lines each zone has: they take turns while there is room, and each has one at least.
-static std::vector<std::size_t> sharesOf(const std::vector<std::vector<FirstLine>>& zones)
+static std::vector<std::size_t> sharesOf(const std::vector<ZoneLines>& zones)
 {
     std::vector<std::size_t> shares(zones.size(), 0);
     std::size_t room = std::max(kMostLines, zones.size());
     for (std::size_t turn = 0; turn < kMostLines; ++turn)
         for (std::size_t i = 0; i < zones.size() && room > 0; ++i)
-            if (zones[i].size() > turn) {
+            if (zones[i].lines.size() > turn) {
                 ++shares[i];
                 --room;
             }
     return shares;
 }
 
-std::vector<FirstLine> firstLines(const host::DataSet& data)
+std::vector<FirstLine> firstLines(const host::DataSet& data, std::size_t* possible)
 {
     const int count = static_cast<int>(std::min<std::int64_t>(data.zoneCount(), kMostZones));
-    std::vector<std::vector<FirstLine>> zones;
+    std::vector<ZoneLines> zones;
     for (int number = 1; number <= count; ++number)
         zones.push_back(linesOf(data, number));
     const std::vector<std::size_t> shares = sharesOf(zones);
     std::vector<FirstLine> lines;
-    for (std::size_t i = 0; i < zones.size(); ++i)
-        lines.insert(lines.end(), zones[i].begin(),
-                     zones[i].begin() + static_cast<std::ptrdiff_t>(shares[i]));
+    std::size_t all = 0;
+    for (std::size_t i = 0; i < zones.size(); ++i) {
+        const auto begin = zones[i].lines.begin();
+        lines.insert(lines.end(), begin, begin + static_cast<std::ptrdiff_t>(shares[i]));
+        all += zones[i].lines.size() + zones[i].more;
+    }
+    if (possible)
+        *possible = all;
     return lines;
 }
 

@@ -21,8 +21,8 @@ struct FirstLine
 /// The lines of an XY plot: the first column of a zone that goes one way only, or else does so in
 /// cycles, or else the first one, against the next ones, on a second axis those that are much
 /// larger or smaller. Columns with the errors of another one are no lines. docs/decisions.md has
-/// the numbers.
-std::vector<FirstLine> firstLines(const host::DataSet& data);
+/// the numbers. `possible` (may be null) becomes how many there could be.
+std::vector<FirstLine> firstLines(const host::DataSet& data, std::size_t* possible = nullptr);
 
 /// The line of an XY plot of a field: the first contour variable along I of the first zone, over
 /// the coordinate that goes farthest there. None without a contour variable in that zone, or when

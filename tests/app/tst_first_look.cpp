@@ -161,6 +161,9 @@ private Q_SLOTS:
             "1 2 .3 8 2\n4 3 .1 6 1\n2 2 .2 5 2\n6 3 .3 7 1\n5 2 .1 6 2\n7 1 .2 8 1\n",
             "points over x: y+-y_err c");
         row("errors without a name", "a b err\n1 2 .5\n2 3 .4\n", "line over a: b+-err");
+        row("more columns than lines",
+            "a b c d e f g h i j\n1 2 3 4 5 6 7 8 9 8\n2 3 4 5 6 7 8 9 8 7\n",
+            "line over a: b c d e f g h i of 9");
         row("an error that is none", "a error b\n1 2 .5\n2 3 .4\n", "line over a: error b");
         row("a curve", "a b\n5 0.5\n3 1\n1 2\n0 3\n0 4\n1 5\n2 6\n3 5\n4 3\n5 1\n6 3\n7 3\n",
             "line over a: b");
@@ -177,9 +180,12 @@ private Q_SLOTS:
             return QString::fromStdString(result.data->variable(variable).name);
         };
         QStringList ordinates;
-        const std::vector<app::FirstLine> lines = app::firstLines(*result.data);
+        std::size_t possible = 0;
+        const std::vector<app::FirstLine> lines = app::firstLines(*result.data, &possible);
         for (const app::FirstLine& line : lines)
             ordinates << nameOf(line.y) + (line.error > 0 ? "+-" + nameOf(line.error) : QString());
+        if (possible > lines.size())
+            ordinates << QStringLiteral("of %1").arg(possible);
         QCOMPARE(app::firstPlotType(*result.data, lines), PlotType_LineXY);
         QCOMPARE(QString(lines.front().isScattered ? "points over " : "line over ")
                      + nameOf(lines.front().x) + ": " + ordinates.join(' '),
