@@ -282,16 +282,21 @@ bool MapScene::finish(const WorkWatch& watch)
 
 QString MapScene::notice() const
 {
+    const bool ofZones = m_kind.mapListChange == StateCode_FieldMapListChanged;
     if (!m_refused.isEmpty()) {
         const CvlInt64 all = countOf(m_shown) + countOf(m_refused);
-        return tr("Drawing %L1 of %L2 active maps").arg(countOf(m_shown)).arg(all);
+        const QString text =
+            ofZones ? tr("Drawing %L1 of %L2 active zones") : tr("Drawing %L1 of %L2 active lines");
+        return text.arg(countOf(m_shown)).arg(all);
     }
     host::NumberSet missing;
     for (const host::NumberSet& maps : m_cancelled)
         missing |= maps;
-    return missing.isEmpty() ? QString()
-                             : tr("Drawing was cancelled: %Ln map(s) missing", nullptr,
-                                  static_cast<int>(missing.cardinality()));
+    const auto count = static_cast<int>(missing.cardinality());
+    if (count == 0)
+        return {};
+    return ofZones ? tr("Drawing was cancelled: %Ln zone(s) missing", nullptr, count)
+                   : tr("Drawing was cancelled: %Ln line(s) missing", nullptr, count);
 }
 
 } // namespace corvala::plot
