@@ -10,9 +10,12 @@
 #include "plot/common/scene_note.h"
 #include "sdk/common_ui/combo_box_auto_filter.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QActionGroup>
+#include <QCompleter>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -43,6 +46,7 @@ ContourBar::ContourBar(QWidget* parent)
     m_variable->setMinimumWidth(kFewestLetters * letter);
     m_variable->setMaximumWidth(kMostLetters * letter);
     m_variable->lineEdit()->installEventFilter(this);
+    m_variable->installEventFilter(this); // has keys and focus of its entry
     connect(m_variable, &ui::ComboBoxAutoFilter::selectionComplete, this, [this] {
         m_variable->lineEdit()->setCursorPosition(0); // a long name shows its beginning
         write(kStyle.var, double(m_variable->currentIndex()));
@@ -62,19 +66,37 @@ void ContourBar::chooseVariable()
     goToField(*this, *m_variable);
 }
 
-/// A name that is too long shows its beginning, unless something is typed.
+/// Whether a key or the focus leaves what is typed.
+static bool givesUp(const QEvent& event)
+{
+    if (event.type() == QEvent::FocusOut) // the list of what is found takes it in passing
+        return static_cast<const QFocusEvent&>(event).reason() != Qt::PopupFocusReason;
+    return event.type() == QEvent::KeyPress
+        && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
+}
+
 bool ContourBar::eventFilter(QObject* watched, QEvent* event)
 {
+    if (givesUp(*event))
+        showDrawn();
+    if (watched == m_variable->lineEdit() && event->type() == QEvent::Paint
+        && !m_variable->lineEdit()->hasFocus()) {
+        paintName();
+        return true;
+    }
+    return QToolBar::eventFilter(watched, event);
+}
+
+/// A name that is too long shows its beginning, unless something is typed.
+void ContourBar::paintName()
+{
     auto* const entry = m_variable->lineEdit();
-    if (watched != entry || event->type() != QEvent::Paint || entry->hasFocus())
-        return QToolBar::eventFilter(watched, event);
     constexpr int kMargin = 2; // of texts in such a field
     QPainter painter(entry);
     const QRect place = entry->rect().adjusted(kMargin, 0, -kMargin, 0);
     painter.setPen(entry->palette().color(QPalette::Text));
     painter.drawText(place, Qt::AlignVCenter,
                      entry->fontMetrics().elidedText(entry->text(), Qt::ElideRight, place.width()));
-    return true;
 }
 
 void ContourBar::makeColorMenu()
@@ -122,12 +144,23 @@ void ContourBar::showVariables(const host::Frame& frame)
     if (names != m_names) {
         m_names = names;
         m_variable->setEntries(names);
+        m_variable->completer()->popup()->installEventFilter(this); // has the keys while it is open
     }
     const int shown = frame.integer(kStyle.var, kGroup);
     if (m_variable->currentIndex() != shown)
         m_variable->setCurrentIndex(shown);
     m_variable->setToolTip(tr("%1\nVariable of contour group 1: type a part of its name to find it")
                                .arg(m_variable->itemText(shown)));
+}
+
+/// In place of what was typed.
+void ContourBar::showDrawn()
+{
+    const host::Frame* const frame = host::Document::instance().activeFrame();
+    if (!frame || !frame->hasData())
+        return;
+    m_variable->setCurrentIndex(frame->integer(kStyle.var, kGroup));
+    m_variable->setEditText(m_variable->itemText(m_variable->currentIndex()));
 }
 
 void ContourBar::showColors(const host::Frame& frame)

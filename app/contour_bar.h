@@ -33,6 +33,7 @@ public:
     /// Opens the list of variables, wherever there is room for it.
     void chooseVariable();
 
+    /// Lets no text stay in the field that was typed but not chosen.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
@@ -41,8 +42,10 @@ Q_SIGNALS:
 
 private:
     void makeColorMenu();
+    void paintName();
     void write(style::Key value, const host::StyleInput& to);
     void showVariables(const host::Frame& frame);
+    void showDrawn();
     void showColors(const host::Frame& frame);
 
     // Not owned.

@@ -480,6 +480,32 @@ private Q_SLOTS:
         QCOMPARE(undo->text(), QStringLiteral("&Undo Add data")); // with the look of the zones
     }
 
+    void typingIsNoChoice()
+    {
+        m_window->openDemo(QStringLiteral("field2d"));
+        play::waitUntilIdle();
+        auto* variable = m_window->findChild<QComboBox*>(QStringLiteral("contourVariable"));
+        const QString drawn = variable->currentText();
+        for (const auto& [typed, escapes] : {std::pair(Qt::Key_Y, true), std::pair(Qt::Key_Q, true),
+                                             std::pair(Qt::Key_Q, false)}) { // Y is found
+            variable->setFocus();
+            variable->lineEdit()->selectAll();
+            play::pressKey(variable->lineEdit(), typed);
+            QVERIFY(variable->currentText() != drawn);
+            if (escapes)
+                play::pressKey(variable->lineEdit(), Qt::Key_Escape);
+            else
+                m_window->findChild<QComboBox*>(QStringLiteral("plotType"))->setFocus();
+            QCOMPARE(variable->currentText(), drawn);
+        }
+        variable->setFocus();
+        variable->lineEdit()->selectAll();
+        for (const Qt::Key key : {Qt::Key_Y, Qt::Key_Down, Qt::Key_Return})
+            play::pressKey(variable->lineEdit(), key);
+        QCOMPARE(frame().integer(style::contourGroups.var, 1), 2);
+        QCOMPARE(variable->currentText(), QStringLiteral("2: Y"));
+    }
+
     void sliderGoesThroughTheTimes()
     {
         m_window->openDemo(QStringLiteral("transient"));
