@@ -16,6 +16,12 @@ struct Vector
 
 } // namespace
 
+/// Colors have no length.
+static bool isOfColor(const Variable& first)
+{
+    return first.name == first.array + " red";
+}
+
 /// Arrays whose components follow each other and are no more than three.
 static std::vector<Vector> vectorsOfArrays(const DataSet& data)
 {
@@ -27,7 +33,7 @@ static std::vector<Vector> vectorsOfArrays(const DataSet& data)
     };
     for (std::int64_t number = 1; number <= data.variableCount(); ++number) {
         const Variable& first = data.variable(number);
-        if (first.array.empty() || !isPart(number, first, 0))
+        if (first.array.empty() || !isPart(number, first, 0) || isOfColor(first))
             continue;
         int count = 1;
         while (isPart(number + count, first, count))

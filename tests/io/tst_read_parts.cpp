@@ -240,7 +240,7 @@ private Q_SLOTS:
         checkNotes(*result.data, note);
     }
 
-    void opensObj_data()
+    void opensSurfaces_data()
     {
         const Rows<QByteArray, QString, QVector<double>, QString> row;
         const QByteArray v = "v 0 0 0\nv 1 0 0\nv 2 1 0 # last\n";
@@ -268,13 +268,45 @@ private Q_SLOTS:
             "a.obj: what cannot be read of it was left out: line 4: f 1 2, and 1 lines more.");
         row("cut in its last line", v + "f 1 2 3\nf 1 2 3/a", "X", {0, 1, 2},
             "a.obj: what cannot be read of it was left out: line 5: f 1 2 3?a.");
+        const auto ply = [](const char* format, const char* ofPoints, const char* ofFaces) {
+            return "ply\nformat " + QByteArray(format)
+                + " 1.0\nelement vertex 3\nproperty double x\nproperty short y\nproperty char z\n"
+                + ofPoints + "element face 1\nproperty list uchar int vertex_indices\n" + ofFaces
+                + "end_header\n";
+        };
+        row("numbers of points in PLY",
+            ply("ascii", "property uint16 hits\nproperty int8 side\n", "property uchar side\n")
+                + "0 0 0 65535 1\n1 0 0 +2 2\n0 1 0 3 300\n3 0 1 2 4",
+            "hits", {65535, 2, 3},
+            "a.ply: the values of side were left out: \"300\" is no number.");
+        row("numbers of faces in PLY",
+            ply("ascii", "property list int int near\n", "property float heat\n")
+                + "0 0 0 0\n1 0 0 1 7\n0 1 0 0\n3 0 1 2 nan",
+            "heat", {nan}, "a.ply: the values of near were left out: they are lists.");
+        const QByteArray zeros(11, '\0'); // a point
+        row("big-endian numbers in PLY",
+            ply("binary_big_endian", "property int heat\n", "") + zeros
+                + QByteArray::fromHex("00000102") + zeros + QByteArray::fromHex("ffffffff") + zeros
+                + QByteArray::fromHex("00010000"
+                                      "03000000000000000100000002"),
+            "heat", {258, -1, 65536}, {});
+        const QByteArray colors = "property uchar red\nproperty uchar green\nproperty uchar blue\n";
+        row("colors in PLY",
+            ply("ascii", colors, "") + "0 0 0 1 2 3\n1 0 0 4 5 6\n0 1 0 7 8 9\n3 0 1 2\n",
+            "RGB green", {2, 5, 8}, {});
+        row("points of several textures in PLY",
+            ply("ascii", "property float heat\n", "property list uchar float texcoord\n")
+                    .replace("face 1", "face 2")
+                + "0 0 0 1\n1 0 0 2\n0 1 0 3\n3 0 1 2 6 0 0 1 0 0 1\n3 2 1 0 6 0 1 1 0 5 5\n",
+            "heat", {1, 2, 3, 1}, {});
     }
 
-    void opensObj()
+    void opensSurfaces()
     {
         const auto [content, variable, wanted, note] =
             currentRow<QByteArray, QString, QVector<double>, QString>();
-        const ReadResult result = read({m_folder->write("a.obj", content)});
+        const char* const file = content.startsWith("ply") ? "a.ply" : "a.obj";
+        const ReadResult result = read({m_folder->write(file, content)});
         QVERIFY2(result.data, qPrintable(result.error));
         verifyValues(values(*result.data, 1, variable), wanted);
         checkNotes(*result.data, note);

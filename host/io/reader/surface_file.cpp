@@ -3,12 +3,12 @@
 
 #include "host/io/reader/algorithm_file.h"
 #include "host/io/reader/mapped_file.h"
-#include "host/io/reader/ply_check.h"
+#include "host/io/reader/ply_reader.h"
 #include "host/io/reader/read_failure.h"
 
+#include <QFile>
 #include <QFileInfo>
 
-#include <vtkPLYReader.h>
 #include <vtkSTLReader.h>
 
 #include <algorithm>
@@ -63,43 +63,17 @@ static void requireWholeStl(const MappedFile& file)
          QString::number(std::max<std::uint64_t>(kHeader, binarySize))});
 }
 
-template<class Reader>
-static vtkSmartPointer<Reader> reading(const QString& path)
-{
-    auto reader = vtkSmartPointer<Reader>::New();
-    reader->SetFileName(QFile::encodeName(path).constData());
-    return reader;
-}
-
-/// VTK crashes at a last line of text without an end.
-static vtkSmartPointer<vtkAlgorithm> plyReader(const MappedFile& file)
-{
-    auto reader = reading<vtkPLYReader>(file.path());
-    const std::string_view bytes = file.bytes();
-    const bool isText = bytes.find("format ascii") < bytes.find("end_header");
-    if (isText && bytes.back() != '\n') {
-        reader->SetReadFromInputString(true);
-        reader->SetInputString(std::string(bytes) + '\n');
-    }
-    return reader;
-}
-
 SurfaceData readSurface(const QString& path, const ProgressCall& progress)
 {
     const MappedFile file(path);
-    if (file.bytes().substr(0, 3) == "ply") {
-        SurfaceData result;
-        if (const QStringList others = requireWholePly(file); !others.isEmpty())
-            result.leftOver =
-                ReadMessage(QT_TRANSLATE_NOOP("ReadMessage", "its elements of the kind %1"),
-                            {others.join(QStringLiteral(", "))});
-        result.data = updated(path, *plyReader(file), progress);
-        return result;
-    }
+    if (file.bytes().substr(0, 3) == "ply")
+        return readPly(file, progress);
     if (QFileInfo(path).suffix().toLower() == QLatin1String("obj"))
         return readObj(file, progress);
     requireWholeStl(file);
-    return {updated(path, *reading<vtkSTLReader>(path), progress), {}, {}};
+    const auto reader = vtkSmartPointer<vtkSTLReader>::New();
+    reader->SetFileName(QFile::encodeName(path).constData());
+    return {updated(path, *reader, progress), {}, {}};
 }
 
 } // namespace corvala::host::io::reader

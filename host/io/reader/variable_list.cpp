@@ -15,12 +15,31 @@
 namespace corvala::host::io::reader {
 
 static constexpr const char* kAxes[] = {"X", "Y", "Z"};
+static constexpr const char* kChannels[] = {"red", "green", "blue", "alpha"};
 static constexpr std::size_t kMostContours = 8;
 
 /// Ghost levels tell the canvas what to leave out; they are no values to plot.
 static bool isGhostArray(const std::string& name)
 {
     return name == vtkDataSetAttributes::GhostArrayName();
+}
+
+/// Bytes of red, green, blue, and of the opacity if there are four.
+static bool isColor(vtkDataArray& data)
+{
+    const int count = data.GetNumberOfComponents();
+    return data.GetDataType() == VTK_UNSIGNED_CHAR && (count == 3 || count == 4)
+        && matches(data.GetName(), "colou?r|rgb");
+}
+
+static std::string nameOfComponent(vtkDataArray& data, int number)
+{
+    if (isColor(data))
+        return kChannels[number];
+    const char* const given = data.GetComponentName(number);
+    if (data.GetNumberOfComponents() <= 3)
+        return kAxes[number];
+    return given && *given ? given : std::to_string(number + 1);
 }
 
 void VariableList::add(vtkDataSet& zone)
@@ -41,9 +60,8 @@ void VariableList::add(vtkDataSetAttributes& attributes)
             m_arrays.push_back({name, {}, namesBookkeeping(name)});
         std::vector<Component>& components = m_arrays[place->second].components;
         for (int c = 0; c < data->GetNumberOfComponents(); ++c) {
-            const char* label = data->GetComponentName(c);
             if (components.size() == static_cast<std::size_t>(c))
-                components.push_back({label ? label : "", {}});
+                components.push_back({nameOfComponent(*data, c), {}});
             meet(components[static_cast<std::size_t>(c)], *data, c);
         }
     }
@@ -61,14 +79,6 @@ void VariableList::meet(Component& component, vtkDataArray& data, int number)
     }
 }
 
-std::string VariableList::Array::componentLabel(std::size_t component) const
-{
-    if (components.size() <= 3)
-        return kAxes[component];
-    const std::string& given = components[component].name;
-    return given.empty() ? std::to_string(component + 1) : given;
-}
-
 std::vector<Variable> VariableList::variables(bool hasCoordinates) const
 {
     std::vector<Variable> result;
@@ -78,7 +88,7 @@ std::vector<Variable> VariableList::variables(bool hasCoordinates) const
         for (std::size_t c = 0; c < array.components.size(); ++c) {
             const bool isScalar = array.components.size() == 1;
             const std::string name =
-                isScalar ? array.name : array.name + ' ' + array.componentLabel(c);
+                isScalar ? array.name : array.name + ' ' + array.components[c].name;
             result.push_back(
                 {name, {}, array.name, static_cast<int>(c), array.components[c].isConstant});
         }

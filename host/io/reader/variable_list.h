@@ -28,7 +28,7 @@ public:
 private:
     struct Component
     {
-        std::string name; ///< given by the file; may be empty
+        std::string name; ///< behind that of the array
         std::optional<double> value; ///< one of those that were met
         bool isConstant = true; ///< all that were met are the same
     };
@@ -37,8 +37,6 @@ private:
         std::string name;
         std::vector<Component> components;
         bool isBookkeeping; ///< numbers of points, cells or blocks
-
-        std::string componentLabel(std::size_t component) const;
     };
 
     void add(vtkDataSetAttributes& attributes);

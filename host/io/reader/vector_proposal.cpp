@@ -80,13 +80,14 @@ constexpr Naming kNamings[] = {
 int Candidate::likenessToVelocity() const
 {
     const bool isOfArray = kind.empty();
-    if (numbers[0] == 0 || numbers[1] == 0 || namesBookkeeping(name))
+    if (numbers[0] == 0 || numbers[1] == 0 || namesBookkeeping(name)
+        || matches(name, "colou?r|rgb"))
         return 0;
     if (matches(name, "^u$|^v$|veloc|^vel") || (name.empty() && kind[0] == 'u'))
         return 5;
     if (matches(name, "momentum|^mom$|^rho$"))
         return 4;
-    if (matches(name, "normal|^texture|tcoord|colou?r|rgb"))
+    if (matches(name, "normal|^texture|tcoord"))
         return isOfArray ? 1 : 0;
     if (!isOfArray
         && (matches(kind, "\\d") || matches(name, "coord|position|^points?$|cent(er|re)")))
