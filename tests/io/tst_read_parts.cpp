@@ -257,9 +257,10 @@ private Q_SLOTS:
             "Normals Z", {1, 1, 1, nan, 2, nan}, {});
         row("normals that nobody names", v + "vn 0 0 4\nvn 0 0 5\nvn 0 0 6\nf 1 2 3\n", "Normals Z",
             {4, 5, 6}, {});
-        row("groups", v + "p 1 2\ng a\nl 1 2 3\ng b\nf 1 2 3\n", "GroupIds", {0, 0, 1, 2}, {});
+        row("groups", v + "p 1 2\ng a b\nl 1 2 3\ng c\nf 1 2 3\ng a b \nf 3 2 1\n", "GroupIds",
+            {0, 0, 1, 2, 1}, "a.obj: names are numbered: GroupIds (1 a b, 2 c).");
         row("materials", v + "f 1 2 3\nusemtl a\nf 1 2 3\nusemtl b\nf 1 2 3\nusemtl a\nf 3 2 1\n",
-            "MaterialIds", {0, 1, 2, 1}, {});
+            "MaterialIds", {0, 1, 2, 1}, "a.obj: names are numbered: MaterialIds (1 a, 2 b).");
         row("no texture", v + "f 1/1 2/2 3/3\n", "X", {0, 1, 2},
             "a.obj: the values of TCoords were left out: line 4 names number 3 of them, *");
         row("a damaged normal", v + "vn 0 0\nf 1//1 2//1 3//1\n", "X", {0, 1, 2},

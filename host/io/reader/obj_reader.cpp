@@ -2,6 +2,7 @@
 #include "host/io/reader/obj_reader.h"
 
 #include "host/io/reader/corner_values.h"
+#include "host/io/reader/numbered_words.h"
 #include "host/io/reader/obj_lines.h"
 #include "host/io/reader/read_failure.h"
 
@@ -18,6 +19,9 @@
 #include <string>
 
 namespace corvala::host::io::reader {
+
+static constexpr char kGroups[] = "GroupIds";
+static constexpr char kMaterials[] = "MaterialIds";
 
 /// Cells of one kind.
 struct ObjCells
@@ -37,6 +41,13 @@ struct ObjCells
     }
 };
 
+static std::string_view trimmed(std::string_view text)
+{
+    static constexpr char kBlank[] = " \t\r";
+    const std::size_t begin = std::min(text.find_first_not_of(kBlank), text.size());
+    return text.substr(begin, text.find_last_not_of(kBlank) + 1 - begin);
+}
+
 /// What has no effect on the surface.
 static bool isPassedOver(std::string_view key)
 {
@@ -53,6 +64,36 @@ struct ObjValues : CornerValues
 {
     std::int64_t last = 0; ///< counted from 1
     std::int64_t line = 0; ///< that names it
+};
+
+/// The names that cells have, numbered in the order in which they first come.
+class ObjNames
+{
+public:
+    void take(std::string_view name)
+    {
+        const auto next = static_cast<int>(m_names.size());
+        const auto [place, isNew] = m_numbers.emplace(name, next);
+        if (isNew)
+            m_names.emplace_back(name);
+        m_current = place->second;
+    }
+
+    /// Of the next cell, which may have none.
+    int current()
+    {
+        if (m_current < 0)
+            take({});
+        return m_current;
+    }
+
+    bool hasNames() const { return m_numbers.count({}) < m_names.size(); }
+    const std::vector<std::string>& names() const { return m_names; }
+
+private:
+    std::map<std::string, int, std::less<>> m_numbers;
+    std::vector<std::string> m_names; ///< by number
+    int m_current = -1;
 };
 
 /// Reads a file line by line.
@@ -91,6 +132,10 @@ public:
         if (m_strayCount > 0)
             result.leftOver = strayLines();
         result.data = surface();
+        if (m_groups.hasNames())
+            result.numberedNames << numberedWords(kGroups, m_groups.names(), 0);
+        if (m_materials.hasNames())
+            result.numberedNames << numberedWords(kMaterials, m_materials.names(), 0);
         return result;
     }
 
@@ -123,11 +168,10 @@ private:
             addCell(rest, m_curves);
         else if (key == "p")
             addCell(rest, m_singles);
-        else if (key == "g") {
-            ++m_group;
-            m_isGrouped = true;
-        } else if (key == "usemtl")
-            m_material = materialOf(takeWord(rest));
+        else if (key == "g")
+            m_groups.take(trimmed(rest));
+        else if (key == "usemtl")
+            m_materials.take(takeWord(rest));
         else if (!key.empty() && !isPassedOver(key))
             leaveOut();
     }
@@ -188,11 +232,6 @@ private:
             values.fault = ReadMessage(reason, {QString::number(line), text});
     }
 
-    int materialOf(std::string_view name)
-    {
-        return m_materials.emplace(name, static_cast<int>(m_materials.size())).first->second;
-    }
-
     void addCell(std::string_view rest, ObjCells& cells)
     {
         m_corners.clear();
@@ -206,9 +245,6 @@ private:
         }
         if (m_corners.size() < cells.leastCorners)
             return leaveOut();
-        m_group = std::max(m_group, 0);
-        if (m_material < 0)
-            m_material = materialOf({});
         const std::size_t size = &cells == &m_singles ? 1 : m_corners.size();
         for (std::size_t first = 0; first < m_corners.size(); first += size)
             append(cells, m_corners.data() + first, size);
@@ -216,8 +252,8 @@ private:
 
     void append(ObjCells& cells, const ObjCorner* corners, std::size_t count)
     {
-        cells.groups.push_back(m_group);
-        cells.materials.push_back(m_material);
+        cells.groups.push_back(m_groups.current());
+        cells.materials.push_back(m_materials.current());
         cells.starts->InsertNextValue(cells.points->GetNumberOfValues());
         for (std::size_t i = 0; i < count; ++i) {
             if (&cells == &m_faces) {
@@ -300,10 +336,10 @@ private:
         for (const ObjValues* const values : {&m_textures, &m_normals})
             if (values->values->GetNumberOfTuples() > 0)
                 data->GetPointData()->AddArray(values->values);
-        if (m_isGrouped)
-            data->GetCellData()->AddArray(numbers("GroupIds", &ObjCells::groups));
-        if (m_materials.count({}) < m_materials.size())
-            data->GetCellData()->AddArray(numbers("MaterialIds", &ObjCells::materials));
+        if (m_groups.hasNames())
+            data->GetCellData()->AddArray(numbers(kGroups, &ObjCells::groups));
+        if (m_materials.hasNames())
+            data->GetCellData()->AddArray(numbers(kMaterials, &ObjCells::materials));
         return data;
     }
 
@@ -328,10 +364,8 @@ private:
     ObjCells m_curves {2};
     ObjCells m_faces {3};
     std::vector<ObjCorner> m_corners; ///< of a cell
-    std::map<std::string, int, std::less<>> m_materials; ///< without a name: of what has none
-    int m_group = -1;
-    int m_material = -1;
-    bool m_isGrouped = false;
+    ObjNames m_groups;
+    ObjNames m_materials;
     std::int64_t m_lastPoint = 0; ///< that is named, counted from 1
     std::int64_t m_lastPointLine = 0;
     QString m_stray; ///< the first line that means nothing

@@ -5,6 +5,7 @@
 #include "host/io/reader/mapped_file.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <map>
 
@@ -16,13 +17,14 @@ struct SurfaceData
     vtkSmartPointer<vtkDataObject> data;
     ReadMessage leftOver; ///< lines that mean nothing
     std::map<QString, ReadMessage> withoutValues; ///< arrays that were left out
+    QStringList numberedNames {}; ///< such as "GroupIds (0 wing, 1 body)"
 };
 
 /// An OBJ file: faces, lines and single points, with texture coordinates ("TCoords") and normals
-/// ("Normals") at points, and with the numbers of groups and materials at cells in the order in
-/// which they first come. A point that faces use with several texture coordinates or normals
-/// becomes several points. Throws ReadFailure, which tells the line, when points or cells are
-/// damaged.
+/// ("Normals") at points, and with the numbers of groups ("GroupIds") and materials
+/// ("MaterialIds") at cells, by their names in the order in which these first come. A point that
+/// faces use with several texture coordinates or normals becomes several points. Throws
+/// ReadFailure, which tells the line, when points or cells are damaged.
 SurfaceData readObj(const MappedFile& file, const ProgressCall& progress);
 
 } // namespace corvala::host::io::reader

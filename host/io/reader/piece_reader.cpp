@@ -105,6 +105,10 @@ vtkSmartPointer<vtkDataObject> PieceReader::readSurface(const QString& path,
         leaveOutArray(path, array, ReadFailure(path, reason));
     if (!surface.leftOver.isEmpty())
         noteLeftOver(path, surface.leftOver.asArgument());
+    if (!surface.numberedNames.isEmpty())
+        notes.emplace_back(QT_TRANSLATE_NOOP("ReadMessage", "%1: names are numbered: %2."),
+                           std::initializer_list<QString> {
+                               shortName(path), surface.numberedNames.join(QStringLiteral(", "))});
     return surface.data;
 }
 

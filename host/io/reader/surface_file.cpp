@@ -73,7 +73,7 @@ SurfaceData readSurface(const QString& path, const ProgressCall& progress)
     requireWholeStl(file);
     const auto reader = vtkSmartPointer<vtkSTLReader>::New();
     reader->SetFileName(QFile::encodeName(path).constData());
-    return {updated(path, *reader, progress), {}, {}};
+    return {updated(path, *reader, progress), {}, {}, {}};
 }
 
 } // namespace corvala::host::io::reader

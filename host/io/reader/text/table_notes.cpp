@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "host/io/reader/text/table_notes.h"
 
+#include "host/io/reader/numbered_words.h"
 #include "host/io/reader/text/sentinel_search.h"
 
 #include <QCoreApplication>
@@ -10,20 +11,7 @@
 
 namespace corvala::host::io::reader {
 
-static constexpr std::size_t kMostListed = 12; ///< words of a column
 static constexpr int kMostColumns = 5;
-static constexpr int kLongestWord = 20; ///< letters of it
-
-static QString numberedWords(const QString& name, const std::vector<std::string>& words)
-{
-    QStringList list;
-    for (std::size_t i = 0; i < std::min(words.size(), kMostListed); ++i)
-        list << QStringLiteral("%1 %2").arg(i + 1).arg(
-            QString::fromStdString(words[i]).left(kLongestWord));
-    if (words.size() > kMostListed)
-        list << QStringLiteral("...");
-    return QStringLiteral("%1 (%2)").arg(name, list.join(QStringLiteral(", ")));
-}
 
 static QStringList wordColumns(const std::vector<TableColumn>& columns, const TableData& table)
 {
@@ -31,7 +19,7 @@ static QStringList wordColumns(const std::vector<TableColumn>& columns, const Ta
     for (std::size_t c = 0; c < columns.size() && numbered.size() < kMostColumns; ++c)
         if (!table.columns[c].words.empty())
             numbered << numberedWords(QString::fromStdString(columns[c].name),
-                                      table.columns[c].words);
+                                      table.columns[c].words, 1);
     return numbered;
 }
 
