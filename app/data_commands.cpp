@@ -15,6 +15,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace corvala::app {
 
 DataCommands::DataCommands(QWidget& window, NoticeBar& notice)
@@ -42,6 +44,14 @@ void DataCommands::open(const QStringList& files, const host::io::Plot3DLayout& 
     open(request, use);
 }
 
+static bool hasBoundaryPatches()
+{
+    const host::Frame* const frame = host::Document::instance().activeFrame();
+    return frame
+        && std::any_of(frame->origins().begin(), frame->origins().end(),
+                       [](const host::DataOrigin& origin) { return origin.boundaryPatches; });
+}
+
 void DataCommands::open(host::io::ReadRequest request, DataUse use)
 {
     for (QString& file : request.files) // which are remembered, too
@@ -53,6 +63,8 @@ void DataCommands::open(host::io::ReadRequest request, DataUse use)
     }
     if (m_opener.isRunning() || (use == DataUse::Replace && !m_mayReplace()))
         return;
+    if (use == DataUse::Add && hasBoundaryPatches())
+        request.choices.boundaryPatches = true;
     if (host::io::toText(request.text).isEmpty())
         request.purpose = host::io::ReadPurpose::DataIfSure;
     m_opener.start(request, use);

@@ -2,9 +2,11 @@
 #include "app/busy_cursor.h"
 #include "app/command_line.h"
 #include "app/data_adding.h"
+#include "app/data_commands.h"
 #include "app/data_opening.h"
 #include "app/details/details_dock.h"
 #include "app/main_window.h"
+#include "app/notice_bar.h"
 #include "app/program.h"
 #include "app/recent_files.h"
 #include "app/style_dialog.h"
@@ -690,6 +692,22 @@ private Q_SLOTS:
         QVERIFY(frame().hasData());
         QVERIFY(m_window->findChild<QSlider*>(QStringLiteral("solutionTime"))->isVisible());
         QVERIFY(layer("ShowContour").isChecked()); // opened data show something
+    }
+
+    void addedDataAreReadLikeThoseThatAreOpen()
+    {
+        NoticeBar notice;
+        DataCommands commands(*m_window, notice);
+        QSignalSpy ended(&commands.opener(), &DataOpener::ended);
+        host::io::ReadRequest request;
+        request.files << sample("cgns_hexa/cgnslib_vers-4400.cgns");
+        request.choices.boundaryPatches = true;
+        commands.open(request);
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, 60000);
+        const CvlInt64 zones = frame().data()->zoneCount();
+        commands.open(request.files, {}, DataUse::Add);
+        QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 2, 60000);
+        QCOMPARE(frame().data()->zoneCount(), 2 * zones);
     }
 
     void cancelsReading()
