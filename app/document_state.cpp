@@ -49,8 +49,12 @@ void DocumentState::take(const host::Operation& operation)
         || std::holds_alternative<host::DeleteFrame>(operation);
     if (!isOther)
         return;
-    const bool isFresh =
-        (isAttached || isDetached) && m_file.isEmpty() && Document::instance().frameCount() == 1;
+    const bool isAlone = Document::instance().frameCount() == 1;
+    if (isDetached && isAlone)
+        return setNew();
+    if (isDetached)
+        m_file.clear();
+    const bool isFresh = isAttached && m_file.isEmpty() && isAlone;
     m_hasOtherData = !isFresh;
     m_hasLostSteps = m_hasLostSteps && !isFresh;
     Q_EMIT changed();

@@ -11,8 +11,9 @@
 namespace corvala::app {
 
 /// Which file the open document is from, and whether it holds what that does not. Data that were
-/// just opened in a document without a file, or closed in it, are no work that could be lost; where
-/// one looks (views, time, picks, the active frame) is none either.
+/// just opened in a document without a file are no work that could be lost; where one looks (views,
+/// time, picks, the active frame) is none either. A document whose data are closed has no file any
+/// more: nobody means to replace a good file by what is left.
 class DocumentState : public QObject
 {
     Q_OBJECT

@@ -175,6 +175,8 @@ private Q_SLOTS:
         QCOMPARE(plot::viewText(view.canvas()->view(), PlotType_LineXY), seen);
         thicken(5.0);
         press("Discard");
+        layer("closeData").trigger(); // and with them the file
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("corvala"));
         QVERIFY(m_window->close());
         QVERIFY(responder.isSettled());
     }
