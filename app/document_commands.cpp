@@ -153,7 +153,26 @@ void DocumentCommands::startNew()
 
 bool DocumentCommands::save()
 {
-    return m_state.file().isEmpty() ? saveAs() : saveTo(m_state.file());
+    if (m_state.file().isEmpty())
+        return saveAs();
+    return m_asks && m_state.isFileChanged() ? saveOverChanges() : saveTo(m_state.file());
+}
+
+/// Another program wrote the file.
+bool DocumentCommands::saveOverChanges()
+{
+    QMessageBox box(QMessageBox::Warning, tr("Changed File"),
+                    tr("%1 was changed by another program since it was opened. Overwrite it?")
+                        .arg(QFileInfo(m_state.file()).fileName()),
+                    QMessageBox::Cancel, &m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Cancel);
+    const QPushButton* const over = box.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
+    const QPushButton* const other = box.addButton(tr("Save &As..."), QMessageBox::ActionRole);
+    box.exec();
+    if (box.clickedButton() == other)
+        return saveAs();
+    return box.clickedButton() == over && saveTo(m_state.file());
 }
 
 /// A name for the document: that of the data, beside them.
@@ -191,6 +210,7 @@ void DocumentCommands::open(const QString& file)
     if (m_opener.isRunning() || !mayLose())
         return;
     const QString path = QFileInfo(file).absoluteFilePath();
+    const QByteArray content = contentOf(path);
     const storage::ReadDocument read = storage::readDocument(path);
     if (!read.document) {
         Q_EMIT failed(read.problem);
@@ -199,7 +219,7 @@ void DocumentCommands::open(const QString& file)
     auto document = std::make_shared<storage::StoredDocument>(*read.document);
     const bool isMoved = !storage::missingFiles(*document).isEmpty();
     if (findData(*document, path))
-        readData({path, std::move(document), isMoved});
+        readData({path, content, std::move(document), isMoved});
 }
 
 /// Tells of missing files; whether the user wants to look for them.
@@ -279,6 +299,7 @@ bool DocumentCommands::put(const Opening& opening, const std::vector<ReadResult>
         Q_EMIT failed(QStringLiteral("%1: %2").arg(opening.file, problem));
         return false;
     }
+    m_state.setContent(opening.content);
     if (opening.isMoved || !notes.isEmpty())
         m_state.setOtherThanSaved();
     rememberFiles({opening.file});

@@ -56,6 +56,7 @@ private:
     struct Opening
     {
         QString file;
+        QByteArray content; ///< of the file, as of contentOf()
         std::shared_ptr<const host::storage::StoredDocument> document;
         bool isMoved = false; ///< its data are elsewhere than it says
     };
@@ -66,6 +67,7 @@ private:
     void saveCommand() { save(); }
     void saveAsCommand() { saveAs(); }
     bool saveTo(const QString& file);
+    bool saveOverChanges();
     void commit(QSessionManager& manager);
     void describeRestart(QSessionManager& manager);
 

@@ -4,6 +4,10 @@
 #include "host/document/document.h"
 #include "host/storage/document_file.h"
 
+#include <QCryptographicHash>
+#include <QFile>
+#include <QFileInfo>
+
 namespace corvala::app {
 
 using host::Document;
@@ -11,6 +15,15 @@ using host::Document;
 static const QUndoStack& undoStack()
 {
     return Document::instance().undo().stack();
+}
+
+QByteArray contentOf(const QString& name)
+{
+    QFile file(name);
+    QCryptographicHash sum(QCryptographicHash::Sha1);
+    const bool isRead = QFileInfo(name).isFile() // a pipe would wait for ever
+        && file.open(QIODevice::ReadOnly) && sum.addData(&file);
+    return isRead ? sum.result() : QByteArray();
 }
 
 DocumentState::DocumentState(QObject* parent)
@@ -29,6 +42,11 @@ DocumentState::DocumentState(QObject* parent)
 bool DocumentState::isChanged() const
 {
     return !undoStack().isClean() || m_hasOtherData || m_hasLostSteps;
+}
+
+bool DocumentState::isFileChanged() const
+{
+    return QFile::exists(m_file) && contentOf(m_file) != m_content;
 }
 
 /// An emptied stack is clean whatever was in it.
@@ -63,6 +81,7 @@ void DocumentState::take(const host::Operation& operation)
 void DocumentState::setSaved(const QString& file)
 {
     m_file = file;
+    m_content = contentOf(file);
     Document::instance().undo().markSaved();
     m_hasOtherData = m_hasLostSteps = false;
     Q_EMIT changed();

@@ -159,7 +159,14 @@ private Q_SLOTS:
         const std::string seen = plot::viewText(view.canvas()->view(), PlotType_LineXY);
         press("Cancel");
         QVERIFY(!m_window->close());
+        QFile other(file);
+        QVERIFY(other.open(QIODevice::Append) && other.write("\n") == 1);
+        other.close();
         press("Save");
+        press("Cancel"); // as another program has written the file
+        QVERIFY(!m_window->close());
+        press("Save");
+        press("Overwrite");
         layer("document-new").trigger();
         QCOMPARE(m_window->windowTitle(), QStringLiteral("corvala"));
         QVERIFY(!frame().hasData());
