@@ -2,6 +2,7 @@
 #include "app/document_file_dialog.h"
 
 #include "app/recent_files.h"
+#include "host/io/sample_list.h"
 #include "host/storage/document_file.h"
 
 #include <QCoreApplication>
@@ -61,16 +62,31 @@ bool isWritableFolder(const QString& folder)
     return info.isDir() && info.isWritable();
 }
 
+QString documentsFolder()
+{
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return isWritableFolder(documents) ? documents : QDir::homePath();
+}
+
+/// The samples are the program's, even where the user could write beside them.
+bool isOfSamples(const QString& folder)
+{
+    const QString samples = QFileInfo(host::io::samplesFolder()).canonicalFilePath();
+    const QString inside = QFileInfo(folder).canonicalFilePath() + QLatin1Char('/');
+    return !samples.isEmpty() && inside.startsWith(samples + QLatin1Char('/'));
+}
+
 QString writableFolder(const QString& wanted)
 {
+    if (isOfSamples(wanted))
+        return documentsFolder();
     if (isWritableFolder(wanted))
         return wanted;
     for (const QStringList& files : recentFiles())
         if (const QFileInfo file(files.constFirst());
             host::storage::isDocumentFile(file.filePath()) && isWritableFolder(file.absolutePath()))
             return file.absolutePath();
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return isWritableFolder(documents) ? documents : QDir::homePath();
+    return documentsFolder();
 }
 
 /// Dialogs of the desktop ask before they know the whole name.
