@@ -61,8 +61,10 @@ private:
 
     QString text(const Option& option, QString& value) const;
     QString check(const Options& options) const;
+    void letPassQt();
 
-    const Option m_help = addHelpOption();
+    const Option m_help {{QStringLiteral("h"), QStringLiteral("help"), QStringLiteral("help-all")},
+                         CommandLine::tr("Print this help, then end.")};
     const Option m_version = addVersionOption();
     const Option m_demo {QStringLiteral("demo"),
                          CommandLine::tr("Open embedded data: %1 (when no name is given), %2.")
@@ -114,17 +116,36 @@ Parser::Parser()
         CommandLine::tr("Plots field data and lets you edit the style of its zones and lines.\n"
                         "Data are opened first; then a script is played, a report written, a "
                         "picture drawn, the document saved.\n"
+                        "Options of Qt, such as -style and -platform, are taken as well.\n"
                         "Exit codes: 0 success, 1 failure, 2 wrong usage."));
-    addOptions({m_demo, m_play, m_report, m_render, m_save, m_size, m_dpi, m_transparent, m_plot3d,
-                m_table, m_boundaryPatches, m_numberedTimes});
-    Option session(QStringLiteral("session"), {}, QStringLiteral("id")); // Qt takes it
-    session.setFlags(Option::HiddenFromHelp);
-    addOption(session);
+    addOptions({m_help, m_demo, m_play, m_report, m_render, m_save, m_size, m_dpi, m_transparent,
+                m_plot3d, m_table, m_boundaryPatches, m_numberedTimes});
+    letPassQt();
     addPositionalArgument(
         QStringLiteral("files"),
         CommandLine::tr("A document, or data files that are opened together, or the folder of "
                         "a case."),
         QStringLiteral("[files...]"));
+}
+
+/// Options that Qt takes from the command line itself.
+void Parser::letPassQt()
+{
+    static const char* const kWithValue[] = {
+        "platform",        "platformpluginpath", "platformtheme", "plugin",
+        "style",           "stylesheet",         "display",       "geometry",
+        "qwindowgeometry", "qwindowtitle",       "qwindowicon",   "name",
+        "session"};
+    static const char* const kAlone[] = {"reverse", "nograb", "dograb", "widgetcount"};
+    const auto add = [this](const char* name, const QString& value) {
+        Option option(QLatin1String(name), {}, value);
+        option.setFlags(Option::HiddenFromHelp);
+        addOption(option);
+    };
+    for (const char* const name : kWithValue)
+        add(name, QStringLiteral("value"));
+    for (const char* const name : kAlone)
+        add(name, {});
 }
 
 QString Parser::text(const Option& option, QString& value) const

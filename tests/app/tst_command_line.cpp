@@ -64,6 +64,7 @@ private Q_SLOTS:
         row("choices of reading", "--numbered-times --boundary-patches a_1.cgns",
             "files:a_1.cgns choices:patches times", false);
         row("begun again by a session manager", "-session 1_2 a.vtu", "files:a.vtu", false);
+        row("options of Qt", "-style fusion a.vtu -platform=xcb", "files:a.vtu", false);
         row("help", "--help", "help:yes", false);
         row("version", "--version", "version:yes", false);
     }

@@ -38,6 +38,7 @@ private Q_SLOTS:
 
         const QString none;
         row("help", "--help", none, 0, "--render", none);
+        row("all help", "--help-all", none, 0, "--render", none);
         row("version", "--version", none, 0, "corvala ", none);
         row("unknown option", "--hlep", none, 2, none, "'hlep'");
         row("unknown demo", "--demo=none", none, 2, none, "\"none\"");
