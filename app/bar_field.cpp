@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -42,6 +43,28 @@ private:
     QToolButton& m_rest;
 };
 
+class Leaver : public QObject
+{
+public:
+    explicit Leaver(QComboBox& field)
+        : QObject(&field)
+        , m_field(field)
+    {
+        field.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::KeyPress
+            && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+            leaveField(m_field);
+        return false;
+    }
+
+private:
+    QComboBox& m_field;
+};
+
 } // namespace
 
 static void enter(QComboBox& field)
@@ -63,6 +86,17 @@ void goToField(QToolBar& bar, QComboBox& field)
         rest->click();
     new Visit(field, *rest);
     QTimer::singleShot(kOpeningMilliseconds, &field, [&field] { enter(field); });
+}
+
+void leaveField(QComboBox& field)
+{
+    if (auto* const window = qobject_cast<QMainWindow*>(field.window()))
+        window->centralWidget()->setFocus();
+}
+
+void leaveByEscape(QComboBox& field)
+{
+    new Leaver(field);
 }
 
 } // namespace corvala::app

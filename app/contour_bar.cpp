@@ -50,7 +50,9 @@ ContourBar::ContourBar(QWidget* parent)
     connect(m_variable, &ui::ComboBoxAutoFilter::selectionComplete, this, [this] {
         m_variable->lineEdit()->setCursorPosition(0); // a long name shows its beginning
         write(kStyle.var, double(m_variable->currentIndex()));
+        leaveField(*m_variable);
     });
+    leaveByEscape(*m_variable);
     makeColorMenu();
     addWidget(label);
     addWidget(m_variable);

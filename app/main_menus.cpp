@@ -4,6 +4,7 @@
 #include "app/command_tips.h"
 #include "app/details/detail_pages.h"
 #include "app/document_commands.h"
+#include "app/field_keys.h"
 #include "app/help_commands.h"
 #include "app/icons.h"
 #include "app/recent_files.h"
@@ -219,6 +220,7 @@ void MainMenus::addContourCommand(QMenu& menu)
     setUpCommand(*m_contourVariable, "chooseContourVariable",
                  QKeySequence(QStringLiteral("Ctrl+K")),
                  tr("Choose the variable that the colors of contour group 1 show"));
+    keepKeysInFields(*m_contourVariable);
 }
 
 void MainMenus::addDetailsMenu(QMenu& menu)

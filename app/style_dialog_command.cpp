@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/style_dialog_command.h"
 
+#include "app/field_keys.h"
 #include "app/style_dialog.h"
 #include "app/window_place.h"
 #include "zonestyle/dialog/zone_style_dialog.h"
@@ -21,6 +22,7 @@ StyleDialogCommand::StyleDialogCommand(QWidget& mainWindow)
     setCheckable(true);
     setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));
     setShortcutContext(Qt::ApplicationShortcut);
+    keepKeysInFields(*this);
     const auto relevance = ZoneStyleDialog::relevance();
     const auto follow = [this, relevance] {
         setEnabled(relevance->isRelevant());

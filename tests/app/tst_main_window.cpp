@@ -666,6 +666,15 @@ private Q_SLOTS:
         m_window->openDemo(QStringLiteral("kinds"));
         m_window->openStyleDialog(corvala::dialogs::common::DialogInitialization_None);
         play::waitUntilIdle();
+        auto* const variable = m_window->findChild<QComboBox*>(QStringLiteral("contourVariable"));
+        variable->setFocus();
+        play::pressKeys(variable, QKeySequence(QStringLiteral("Ctrl+E")));
+        QVERIFY(!existingStyleDialog()->isVisible());
+        play::pressKeys(variable, QKeySequence(QStringLiteral("Ctrl+E")));
+        QVERIFY(existingStyleDialog()->isVisible());
+        m_window->activateWindow();
+        play::pressKey(variable, Qt::Key_Escape);
+        QVERIFY(!variable->hasFocus());
         layer("ShowContour").trigger();
         const play::DialogDriver driver;
         play::pressKeys(&driver.dialog(), QKeySequence(QKeySequence::Undo));
