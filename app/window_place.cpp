@@ -57,19 +57,22 @@ QRect fitted(const QRect& area, const QList<QRect>& screens)
             size.height()};
 }
 
-/// The place has the corner of the frame and the size within.
-static void put(QWidget& window, const QRect& place, const QSize& frame)
+/// The place has the corner of the frame and the size within. Whether all of the size fits.
+static bool put(QWidget& window, const QRect& place, const QSize& frame)
 {
     const QRect area = fitted({place.topLeft(), place.size() + frame}, availableScreens());
     if (window.size() != area.size() - frame)
         window.resize(area.size() - frame);
     if (window.pos() != area.topLeft() || !window.testAttribute(Qt::WA_Moved))
         window.move(area.topLeft());
+    return area.size() == place.size() + frame;
 }
 
 void keepOnScreen(QWidget& window)
 {
-    put(window, {window.pos(), window.size()}, frameOf(window));
+    auto* const place = window.findChild<WindowPlace*>({}, Qt::FindDirectChildrenOnly);
+    if (!put(window, {window.pos(), window.size()}, frameOf(window)) && place)
+        place->takeAsFitted();
 }
 
 static QString placeKey(const QString& name)
@@ -95,8 +98,8 @@ WindowPlace::WindowPlace(QWidget& window, const QString& name, std::function<QRe
     , m_place(userSettings().value(placeKey(name)).toRect())
     , m_frame(userSettings().value(frameKey(name)).toSize())
 {
-    if (!m_place.isNull()) // which a maximised window goes back to
-        put(window, m_place, m_frame);
+    if (!m_place.isNull() && !put(window, m_place, m_frame)) // to which a maximised window returns
+        takeAsFitted();
     if (userSettings().value(maximizedKey(name)).toBool())
         window.setWindowState(window.windowState() | Qt::WindowMaximized);
     m_noting.setSingleShot(true);
@@ -136,10 +139,9 @@ void WindowPlace::come()
     m_isSettled = false;
     m_window.windowHandle()->removeEventFilter(this);
     m_window.windowHandle()->installEventFilter(this);
-    if (m_place.isNull())
-        m_place = m_first();
+    m_wanted = m_place.isNull() ? m_first() : m_place;
     if (isNormal())
-        put(m_window, m_place, m_frame.isEmpty() ? frameOf(m_window) : m_frame);
+        put(m_window, m_wanted, m_frame.isEmpty() ? frameOf(m_window) : m_frame);
 }
 
 /// The window has a frame now, and stands where the window manager wants it.
@@ -147,15 +149,29 @@ void WindowPlace::settle()
 {
     if (std::exchange(m_isSettled, true))
         return;
-    if (isNormal())
-        put(m_window, m_place, frameOf(m_window));
+    if (!isNormal())
+        return;
+    m_fitted = {};
+    if (!put(m_window, m_wanted, frameOf(m_window)) || m_place.isNull())
+        takeAsFitted();
+}
+
+void WindowPlace::takeAsFitted()
+{
+    m_fitted = {m_window.pos(), m_window.size()};
 }
 
 void WindowPlace::note()
 {
     if (!isNormal() || !m_window.windowHandle())
         return;
-    m_place = {m_window.windowHandle()->framePosition(), m_window.size()};
+    const QRect place(m_window.windowHandle()->framePosition(), m_window.size());
+    if (place == m_fitted)
+        return;
+    if (place.size() == m_fitted.size() && !m_place.isNull())
+        m_place.moveTopLeft(place.topLeft());
+    else
+        m_place = place;
     m_frame = frameOf(m_window);
 }
 

@@ -26,6 +26,7 @@ void keepOnScreen(QWidget& window);
 /// the size within, in device independent pixels, as they were when it was last neither maximised,
 /// minimised nor full-screen; and whether it was maximised. The window comes there before it is
 /// mapped, wholly on a screen of today, and once more when the window manager has given it a frame.
+/// A size that only follows from the screen is not kept: on a larger one the former is there again.
 class WindowPlace : public QObject
 {
     Q_OBJECT
@@ -34,6 +35,9 @@ public:
     /// To be made before the window, which owns it, is shown. `name` tells windows apart in the
     /// settings; `first` gives the place, as above, of a window that has none yet.
     WindowPlace(QWidget& window, const QString& name, std::function<QRect()> first);
+
+    /// The size that the window has now is what the screen allows.
+    void takeAsFitted();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -47,7 +51,9 @@ private:
     QWidget& m_window;
     QString m_name;
     std::function<QRect()> m_first;
-    QRect m_place; ///< null until the window has one
+    QRect m_place; ///< that is kept; null until the window has one
+    QRect m_wanted; ///< where it came to: that which is kept, or the first one
+    QRect m_fitted; ///< where the screen, and nobody else, put the window; null when it fits
     QSize m_frame; ///< of the window, when it had the place
     QTimer m_noting; ///< window managers tell of a state later than of the size that comes with it
     bool m_isSettled = false;

@@ -632,6 +632,18 @@ private Q_SLOTS:
         dialog = existingStyleDialog();
         QCOMPARE(dialog->size(), size);
         QVERIFY(m_window->screen()->availableGeometry().contains(dialog->frameGeometry()));
+        // A size that is the screen's does not take the place of the user's.
+        const QRect large(10, 20, 9000, 8000);
+        m_window.reset();
+        userSettings().setValue(QStringLiteral("windows/mainPlace"), large);
+        m_window = std::make_unique<MainWindow>();
+        m_window->restore();
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        play::waitUntilIdle();
+        QVERIFY(m_window->screen()->availableGeometry().contains(m_window->frameGeometry()));
+        m_window->close();
+        QCOMPARE(userSettings().value(QStringLiteral("windows/mainPlace")).toRect(), large);
     }
 
     void placesAreOnAScreen_data()
