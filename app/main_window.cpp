@@ -282,8 +282,6 @@ void MainWindow::refresh()
     m_picked->setToolTip(pickedText());
     m_summary->setText(hasData ? summaryOf(*frame->data()) : QString());
     m_menus->refresh(hasData && m_plotArea->frameView());
-    // What is open can be closed.
-    m_details->toggleViewAction()->setEnabled(hasData || m_details->isVisible());
     m_views->refresh();
     m_plotType->refresh();
     m_layerBar->refresh();

@@ -2,6 +2,7 @@
 #include "app/details/details_dock.h"
 
 #include "app/help_reference.h"
+#include "app/user_settings.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -14,6 +15,8 @@
 #include <utility>
 
 namespace corvala::app {
+
+static const QString kComesWithData = QStringLiteral("windows/plotDetailsComesWithData");
 
 namespace {
 
@@ -41,6 +44,7 @@ public:
 
 DetailsDock::DetailsDock(DetailPageWidget::Proposal proposal, QWidget* parent)
     : QDockWidget(tr("Plot Details"), parent)
+    , m_comesWithData(userSettings().value(kComesWithData).toBool())
 {
     setObjectName(QStringLiteral("plotDetails"));
     toggleViewAction()->setText(tr("Plot &Details"));
@@ -135,11 +139,22 @@ void DetailsDock::showEvent(QShowEvent* event)
     refresh();
 }
 
+void DetailsDock::showWithData(bool hasData)
+{
+    toggleViewAction()->setEnabled(hasData);
+    if (hasData ? !m_comesWithData : isHidden())
+        return;
+    m_comesWithData = !hasData;
+    userSettings().setValue(kComesWithData, m_comesWithData);
+    setVisible(hasData);
+}
+
 /// Costs nothing while it is closed, and then what one page shows.
 void DetailsDock::refresh()
 {
     const host::Frame* const frame = host::Document::instance().activeFrame();
     const bool hasPlot = frame && frame->hasData() && (frame->isFieldPlot() || frame->isLinePlot());
+    showWithData(frame && frame->hasData());
     widget()->setEnabled(hasPlot);
     if (hasPlot)
         offerPages(*frame);

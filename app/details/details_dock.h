@@ -13,7 +13,8 @@ class QStackedWidget;
 namespace corvala::app {
 
 /// What is set for the plot as a whole and not for each map, a page to a subject. Every edit is
-/// seen on the plot at once.
+/// seen on the plot at once. It goes while there are no data and comes back with them, from run to
+/// run too.
 class DetailsDock : public QDockWidget
 {
     Q_OBJECT
@@ -48,6 +49,7 @@ private:
         PlotType_e plotType {};
     };
 
+    void showWithData(bool hasData);
     void offerPages(const host::Frame& frame);
     void showChosen();
 
@@ -55,6 +57,7 @@ private:
     QStackedWidget* m_stack; // not owned
     std::vector<DetailPageWidget*> m_pages; // not owned
     QString m_otherPage; ///< chosen for plots of the other kind
+    bool m_comesWithData; ///< it was open when there were data
     Subject m_subject;
 };
 

@@ -622,12 +622,15 @@ private Q_SLOTS:
             m_window->close();
         }
         QVERIFY(!wasStyleDialogOpen());
+        Document::instance().clear();
         m_window = std::make_unique<MainWindow>();
         m_window->restore();
         m_window->show();
         QCOMPARE(m_window->size(), QSize(700, 600));
-        QVERIFY(m_window->findChild<DetailsDock*>()->isVisible());
+        QVERIFY(!m_window->findChild<DetailsDock*>()->isVisible());
         m_window->openDemo(QStringLiteral("field3d"));
+        play::waitUntilIdle();
+        QVERIFY(m_window->findChild<DetailsDock*>()->isVisible());
         layer("styleDialog").trigger();
         dialog = existingStyleDialog();
         QCOMPARE(dialog->size(), size);
