@@ -65,17 +65,22 @@ void Canvas::leaveMouse()
     if (std::exchange(m_isBoxing, false)) {
         m_band->hide();
         Q_EMIT boxEnded();
-    } else if (!std::exchange(m_isHolding, false) && !keepsMouse()) {
-        QMouseEvent release(QEvent::MouseButtonRelease, m_draggedTo, m_pressed, Qt::NoButton,
-                            Qt::NoModifier);
-        static_cast<QObject&>(*m_part).event(&release); // past those who watch the hand
+    } else if (!std::exchange(m_isHolding, false) && m_isDragging && !keepsMouse()) {
+        tellPart(QEvent::MouseButtonRelease, Qt::NoButton, Qt::NoModifier);
     }
+}
+
+/// Past those who watch the hand.
+void Canvas::tellPart(QEvent::Type type, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
+{
+    QMouseEvent event(type, m_draggedTo, m_pressed, buttons, modifiers);
+    static_cast<QObject&>(*m_part).event(&event);
 }
 
 void Canvas::mousePressed(const QMouseEvent& mouse)
 {
     const bool isFirst = mouse.buttons() == mouse.button();
-    if (m_isBoxing || (m_isLeft && !isFirst))
+    if (m_isBoxing || !isFirst)
         return;
     m_pressed = mouse.button();
     m_pressedAt = m_draggedTo = mouse.localPos();
@@ -110,32 +115,48 @@ void Canvas::zoomToDrawn()
     Q_EMIT boxEnded();
 }
 
-bool Canvas::mouseMoved(const QPointF& to, bool isPressed)
+/// A hand that clicks trembles: until it has gone some way, nothing moves, and the part does not
+/// know of the button. The drag begins where that way ends, so that the view follows smoothly.
+void Canvas::beginDrag(const QMouseEvent& mouse, double share)
 {
-    if (m_isLeft && isPressed)
+    m_isDragging = true;
+    if (m_isBoxing || m_isHolding)
+        return;
+    Q_EMIT viewLeft();
+    m_draggedTo = m_pressedAt + share * (mouse.localPos() - m_pressedAt);
+    if (!keepsMouse())
+        tellPart(QEvent::MouseButtonPress, m_pressed, mouse.modifiers());
+}
+
+bool Canvas::mouseMoved(const QMouseEvent& mouse)
+{
+    const QPointF to = mouse.localPos();
+    if (mouse.buttons() == Qt::NoButton)
+        return keepsMouse();
+    if (m_isLeft || m_pressed == Qt::NoButton)
         return true;
     const double distance = (to - m_pressedAt).manhattanLength();
-    const bool wasDragging = m_isDragging;
-    m_isDragging = isPressed && (m_isDragging || distance >= QApplication::startDragDistance());
+    const double threshold = std::max(QApplication::startDragDistance(), 1);
+    if (!m_isDragging && distance >= threshold)
+        beginDrag(mouse, threshold / distance);
     if (m_isBoxing)
         stretchBox(to);
     if (!m_isDragging || m_isBoxing)
-        return m_isBoxing || m_isHolding || keepsMouse();
-    if (!wasDragging && !m_isHolding)
-        Q_EMIT viewLeft();
+        return true;
     const QPointF by = to - std::exchange(m_draggedTo, to);
     if (m_isHolding)
         moveHeld(by);
     return m_isHolding || dragged(by);
 }
 
+/// Only that of the button that began ends what it is about.
 bool Canvas::mouseReleased(const QMouseEvent& mouse)
 {
-    if (m_isBoxing && mouse.button() != Qt::LeftButton)
+    if (mouse.button() != m_pressed)
         return true;
     m_pressed = Qt::NoButton;
     const bool wasHolding = std::exchange(m_isHolding, false);
-    const bool isTaken = m_isBoxing || m_isLeft || wasHolding || keepsMouse();
+    const bool isTaken = m_isBoxing || m_isLeft || wasHolding || !m_isDragging || keepsMouse();
     if (m_isBoxing)
         zoomToDrawn();
     else if (wasHolding && m_isDragging)
@@ -144,8 +165,7 @@ bool Canvas::mouseReleased(const QMouseEvent& mouse)
         clicked(mouse.localPos());
     else if (!m_isDragging && !m_isLeft && mouse.button() == Qt::RightButton)
         Q_EMIT menuWanted(numberAt(mouse.localPos()), mouse.globalPos());
-    m_isDoubleClick = m_isDragging = false;
-    m_isLeft = m_isLeft && mouse.buttons() != Qt::NoButton;
+    m_isDoubleClick = m_isDragging = m_isLeft = false;
     return isTaken;
 }
 
@@ -162,13 +182,11 @@ bool Canvas::eventFilter(QObject* watched, QEvent* event)
     const auto* const mouse = static_cast<QMouseEvent*>(event);
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-        mousePressed(*mouse);
-        return m_isBoxing || m_isHolding || m_isLeft || keepsMouse();
+    case QEvent::MouseButtonDblClick: mousePressed(*mouse); return true;
     case QEvent::MouseMove:
         if (mouse->buttons() == Qt::NoButton)
             Q_EMIT hovered(mouse->localPos());
-        return mouseMoved(mouse->localPos(), mouse->buttons() != Qt::NoButton);
+        return mouseMoved(*mouse);
     case QEvent::Leave: Q_EMIT hoverEnded(); return false;
     case QEvent::MouseButtonRelease: return mouseReleased(*mouse);
     case QEvent::Wheel:

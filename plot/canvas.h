@@ -125,7 +125,7 @@ protected:
     /// know.
     virtual bool dragged(const QPointF& by) = 0;
     virtual bool wheelTurned(const QWheelEvent& wheel) = 0;
-    /// Whether presses and releases are kept from the part.
+    /// Whether the mouse is kept from the part, which otherwise knows of drags and their button.
     virtual bool keepsMouse() const { return false; }
 
     void hideEvent(QHideEvent* event) override;
@@ -133,14 +133,16 @@ protected:
 private:
     void showCursor();
     void mousePressed(const QMouseEvent& mouse);
-    bool mouseMoved(const QPointF& to, bool isPressed);
+    void beginDrag(const QMouseEvent& mouse, double share);
+    bool mouseMoved(const QMouseEvent& mouse);
     bool mouseReleased(const QMouseEvent& mouse);
     void clicked(const QPointF& place);
+    void tellPart(QEvent::Type type, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
     void stretchBox(const QPointF& to);
     void zoomToDrawn();
 
     QWidget* m_part = nullptr; ///< not owned; what has the mouse
-    Qt::MouseButton m_pressed = Qt::NoButton; ///< what began
+    Qt::MouseButton m_pressed = Qt::NoButton; ///< what began; others do nothing meanwhile
     QPointF m_pressedAt;
     QPointF m_draggedTo;
     bool m_isDoubleClick = false;

@@ -718,6 +718,12 @@ private Q_SLOTS:
             ShownPlot shown;
             const QImage fitted = shown.grabbed();
             const QPoint middle = shown.middle();
+            const int threshold = QApplication::startDragDistance();
+            for (const int way : {1, threshold}) { // a hand that trembles; a drag that begins
+                shown.drag(middle, middle + QPoint(way, 0));
+                QCOMPARE(shown.grabbed(), fitted);
+                QCOMPARE(shown.fieldView().isFitted(), way < threshold);
+            }
             shown.drag(middle, middle + QPoint(60, 30));
             const QImage dragged = shown.grabbed();
             QVERIFY(shareOfChange(fitted, dragged) > 0.01);

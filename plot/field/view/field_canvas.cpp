@@ -138,15 +138,12 @@ void FieldCanvas::makeWidgets()
     m_overlay = new Overlay(m_view, m_outlined, m_widget);
 }
 
-/// The interactor wishes a picture while it turns the view, from the first pixel on, and once more
-/// when it is let go: another follows then anyway, unless the view was not moved.
+/// The interactor wishes a picture while it turns the view, and once more when it is let go:
+/// another follows then anyway.
 void FieldCanvas::pictureWished()
 {
-    if (std::exchange(m_isLetGo, false))
-        return;
-    if (m_style->GetState() != VTKIS_NONE)
-        takeHold();
-    Q_EMIT redrawWanted();
+    if (!std::exchange(m_isLetGo, false))
+        Q_EMIT redrawWanted();
 }
 
 void FieldCanvas::resizeEvent(QResizeEvent* event)
