@@ -28,8 +28,9 @@ static AxisTicks ticksOf(double minimum, double maximum, int count, double font)
     const QFontMetricsF metrics(plotFont(font));
     const double step = ticks.places.size() > 1 ? ticks.places[1] - ticks.places[0]
                                                 : std::max(std::abs(ticks.places[0]), 1.0);
+    const double largest = std::max(std::abs(ticks.places.front()), std::abs(ticks.places.back()));
     for (const double place : ticks.places) {
-        ticks.texts.append(tickText(place, step));
+        ticks.texts.append(tickText(place, step, largest));
         ticks.widest = std::max(ticks.widest, metrics.horizontalAdvance(ticks.texts.back()));
     }
     return ticks;

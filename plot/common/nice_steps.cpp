@@ -30,30 +30,36 @@ std::vector<double> niceTicks(double minimum, double maximum, int count)
     return ticks;
 }
 
+double withoutNoise(double value, double range)
+{
+    return std::abs(value) < 1e-10 * range ? 0.0 : value;
+}
+
 QString withMinusSign(QString number)
 {
     return number.startsWith(QLatin1Char('-')) ? number.replace(0, 1, QChar(0x2212)) : number;
 }
 
-static QString plainTickText(double value, double step)
+static QString plainTickText(double value, double step, double largest)
 {
-    constexpr int kMostDigits = 12;
-    const double magnitude = std::max(std::abs(value), step);
+    constexpr int kMostDigits = 15;
+    const double magnitude = std::max(std::abs(largest), step);
     if (std::abs(value) < 1e-9 * step)
         return QStringLiteral("0");
-    const int decimals = static_cast<int>(std::ceil(-std::log10(step) - 1e-9));
-    const QString plain = QString::number(value, 'f', std::clamp(decimals, 0, kMostDigits));
-    if (magnitude < 1e6 && magnitude >= 1e-3)
-        return plain;
+    const int decimals =
+        std::clamp(static_cast<int>(std::ceil(-std::log10(step) - 1e-9)), 0, kMostDigits);
+    const double power = std::floor(std::log10(magnitude) + 1e-9);
     const int digits =
-        static_cast<int>(std::floor(std::log10(magnitude)) - std::floor(std::log10(step)));
-    const QString scientific = QString::number(value, 'e', std::clamp(digits, 0, kMostDigits));
-    return plain.size() < scientific.size() && magnitude >= 1e6 ? plain : scientific;
+        std::clamp(static_cast<int>(power - std::floor(std::log10(step) + 1e-9)), 0, kMostDigits);
+    const bool isPlain = magnitude < 1e6 ? magnitude >= 1e-3
+                                         : QString::number(magnitude, 'f', decimals).size()
+            < QString::number(magnitude, 'e', digits).size();
+    return isPlain ? QString::number(value, 'f', decimals) : QString::number(value, 'e', digits);
 }
 
-QString tickText(double value, double step)
+QString tickText(double value, double step, double largest)
 {
-    return withMinusSign(plainTickText(value, step));
+    return withMinusSign(plainTickText(value, step, largest));
 }
 
 } // namespace corvala::plot

@@ -15,8 +15,13 @@ double niceStep(double range, int count);
 /// empty or unusable interval.
 std::vector<double> niceTicks(double minimum, double maximum, int count);
 
-/// A number as short as it can be while it still tells neighbours `step` apart.
-QString tickText(double value, double step);
+/// One of the numbers along an axis, `step` apart, the `largest` of which by magnitude decides on
+/// the notation: with the same decimals as the others, and as short as they can be while they still
+/// tell neighbours apart.
+QString tickText(double value, double step, double largest);
+
+/// Zero for what is none but for rounding: far below `range`, the size of what is seen.
+double withoutNoise(double value, double range);
 
 /// A number with a minus sign in place of the hyphen before it; its exponent stays as it is.
 QString withMinusSign(QString number);

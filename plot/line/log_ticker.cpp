@@ -2,6 +2,7 @@
 #include "plot/line/log_ticker.h"
 
 #include "plot/common/nice_steps.h"
+#include "plot/line/number_ticker.h"
 
 #include <cmath>
 
@@ -56,9 +57,8 @@ static QVector<double> roundNumbers(const QCPRange& range, int count)
     return {even.begin(), even.end()};
 }
 
-void LogTicker::generate(const QCPRange& range, const QLocale& locale, QChar, int,
-                         QVector<double>& ticks, QVector<double>* subTicks,
-                         QVector<QString>* tickLabels)
+void LogTicker::generate(const QCPRange& range, const QLocale&, QChar, int, QVector<double>& ticks,
+                         QVector<double>* subTicks, QVector<QString>* tickLabels)
 {
     const bool isUsable = range.lower > 0.0 && range.lower < range.upper;
     const Decades decades(isUsable ? range : QCPRange(1.0, 10.0));
@@ -74,10 +74,9 @@ void LogTicker::generate(const QCPRange& range, const QLocale& locale, QChar, in
         subTicks->clear(); // of what was shown before
     if (!tickLabels)
         return;
-    tickLabels->clear();
-    for (const double tick : ticks)
-        tickLabels->append(hasPowers ? locale.toString(tick, 'e', 0)
-                                     : locale.toString(tick, 'g', 6));
+    *tickLabels = hasPowers ? QVector<QString>() : numberTexts(ticks);
+    for (int i = 0; i < ticks.size() && hasPowers; ++i)
+        tickLabels->append(powerOfTen(static_cast<int>(std::lround(std::log10(ticks[i])))));
 }
 
 } // namespace corvala::plot

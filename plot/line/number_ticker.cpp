@@ -5,29 +5,61 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace corvala::plot {
 
-void NumberTicker::generate(const QCPRange& range, const QLocale& locale, QChar formatChar,
-                            int precision, QVector<double>& ticks, QVector<double>* subTicks,
-                            QVector<QString>* tickLabels)
+QString powerOfTen(int power)
 {
-    constexpr int kMost = std::numeric_limits<double>::digits10;
-    const double largest = std::max(std::abs(range.lower), std::abs(range.upper));
-    const double step = getTickStep(range);
-    // A step has two digits, as 2.5 has; the larger number has those before them besides.
-    const double digits = std::floor(std::log10(largest / step)) + 2.0;
-    if (digits > precision)
-        precision = digits < kMost ? static_cast<int>(digits) : kMost;
-    QCPAxisTicker::generate(range, locale, formatChar, precision, ticks, subTicks, tickLabels);
+    static const QString kRaised = QStringLiteral("\u2070\u00b9\u00b2\u00b3\u2074\u2075\u2076"
+                                                  "\u2077\u2078\u2079");
+    QString text = QStringLiteral("10");
+    for (const QChar letter : QString::number(power))
+        text += letter.isDigit() ? kRaised[letter.digitValue()] : QChar(0x207b);
+    return text;
 }
 
-QString NumberTicker::getTickLabel(double tick, const QLocale& locale, QChar formatChar,
-                                   int precision)
+/// The power of ten that all ticks are multiples of: that of their distance, or with some digits
+/// more.
+static double unitOf(const QVector<double>& ticks)
 {
-    const QString label = QCPAxisTicker::getTickLabel(tick, locale, formatChar, precision);
-    return withMinusSign(label);
+    constexpr int kMoreDigits = 2;
+    constexpr double kExact = 1e-3; // of the unit
+    double step = ticks.size() > 1 ? std::abs(ticks[1] - ticks[0]) : std::abs(ticks[0]);
+    for (int i = 2; i < ticks.size(); ++i)
+        step = std::min(step, std::abs(ticks[i] - ticks[i - 1]));
+    const int coarsest = step > 0.0 ? static_cast<int>(std::floor(std::log10(step) + 1e-9)) : 0;
+    for (int power = coarsest; power > coarsest - kMoreDigits; --power) {
+        const double unit = std::pow(10.0, power);
+        if (std::all_of(ticks.begin(), ticks.end(), [&](double tick) {
+                return std::abs(tick / unit - std::round(tick / unit)) < kExact;
+            }))
+            return unit;
+    }
+    return std::pow(10.0, coarsest - kMoreDigits);
+}
+
+QVector<QString> numberTexts(const QVector<double>& ticks)
+{
+    QVector<QString> texts;
+    if (ticks.isEmpty())
+        return texts;
+    const double unit = unitOf(ticks);
+    double largest = 0.0;
+    for (const double tick : ticks)
+        largest = std::max(largest, std::abs(tick));
+    for (const double tick : ticks) {
+        const QString text = tickText(tick, unit, largest);
+        const int exponent = text.indexOf(QLatin1Char('e'));
+        const QString factor = text.left(exponent) + QChar(0xb7);
+        texts.append(exponent < 0 ? text : factor + powerOfTen(text.mid(exponent + 1).toInt()));
+    }
+    return texts;
+}
+
+QVector<QString> NumberTicker::createLabelVector(const QVector<double>& ticks, const QLocale&,
+                                                 QChar, int)
+{
+    return numberTexts(ticks);
 }
 
 } // namespace corvala::plot

@@ -5,18 +5,18 @@
 
 namespace corvala::plot {
 
-/// Ticks of a linear axis, whose numbers have as many digits as tell them apart.
+/// Ticks of a linear axis.
 class NumberTicker : public QCPAxisTicker
 {
-public:
-    void generate(const QCPRange& range, const QLocale& locale, QChar formatChar, int precision,
-                  QVector<double>& ticks, QVector<double>* subTicks,
-                  QVector<QString>* tickLabels) override;
-
 protected:
-    /// With a minus sign, but for the exponent, which the axis finds by its hyphen.
-    QString getTickLabel(double tick, const QLocale& locale, QChar formatChar,
-                         int precision) override;
+    QVector<QString> createLabelVector(const QVector<double>& ticks, const QLocale& locale,
+                                       QChar formatChar, int precision) override;
 };
+
+/// Ten to a power.
+QString powerOfTen(int power);
+
+/// The numbers along an axis, in one notation and with as many digits as tell all of them.
+QVector<QString> numberTexts(const QVector<double>& ticks);
 
 } // namespace corvala::plot

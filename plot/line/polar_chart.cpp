@@ -2,6 +2,7 @@
 #include "plot/common/axis_ticks.h"
 #include "plot/line/cover_grid.h"
 #include "plot/line/line_chart.h"
+#include "plot/line/number_ticker.h"
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
@@ -84,6 +85,7 @@ PolarChart::PolarChart(QCustomPlot& plot)
     plot.plotLayout()->addElement(1, 0, m_titles);
     plot.setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
     plot.setPlottingHint(QCP::phCacheLabels, false); // polar axes would keep those of another font
+    radius()->setTicker(QSharedPointer<QCPAxisTicker>(new NumberTicker));
     m_angle->setRange(0.0, 360.0);
     m_angle->setRangeDrag(false);
     m_angle->setRangeZoom(false);

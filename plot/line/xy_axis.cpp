@@ -67,7 +67,7 @@ void setSizes(QCPAxis& axis, const ChartLook& look)
     axis.setSubTickLength(look.share(0.2));
     axis.setTickLabelPadding(look.share(0.35));
     axis.setLabelPadding(look.share(0.25));
-    axis.setPadding(look.share(1.0)); // the widths of powers are underestimated
+    axis.setPadding(look.share(1.0));
     axis.grid()->setPen(look.gridPen(Qt::DotLine));
     axis.grid()->setZeroLinePen(look.gridPen(Qt::SolidLine));
 }

@@ -109,6 +109,7 @@ private Q_SLOTS:
         row("unit", 0.0, 1.0, "0 0.2 0.4 0.6 0.8 1.0");
         row("across zero", -4.2, 8.3, "\u22124 \u22122 0 2 4 6 8");
         row("large", 0.0, 4e6, "0 1e+06 2e+06 3e+06 4e+06");
+        row("one notation", 0.0, 1.5e6, "0 5.0e+05 1.0e+06 1.5e+06");
         row("far from zero", 4523000.0, 4523000.2,
             "4523000.00 4523000.05 4523000.10 4523000.15 4523000.20");
         row("small", 0.0, 4e-6, "0 1e-06 2e-06 3e-06 4e-06");
@@ -125,7 +126,7 @@ private Q_SLOTS:
         QStringList found;
         const std::vector<double> values = niceTicks(minimum, maximum, 7);
         for (const double value : values)
-            found.append(tickText(value, values[1] - values[0]));
+            found.append(tickText(value, values[1] - values[0], values.back()));
         QCOMPARE(found.join(' '), texts);
     }
 

@@ -352,6 +352,12 @@ private Q_SLOTS:
                 return x.tickVectorLabels().size() > 2
                     && x.tickVectorLabels().toList().removeDuplicates() == 0;
             }));
+        row("powers", "xy",
+            "LineAxes/Y/Scale[1]=1 LineAxes/Y/AutomaticRange[1]=0 LineAxes/Y/RangeMin[1]=1e-4 "
+            "LineAxes/Y/RangeMax[1]=1",
+            axis(QCPAxis::atLeft, [](auto& y) {
+                return y.tickVectorLabels().contains(QStringLiteral("10\u207b\u2074"));
+            }));
         row("logarithmic", "xy", "LineAxes/Y/Scale[1]=1", axis(QCPAxis::atLeft, [](auto& y) {
                 return y.scaleType() == QCPAxis::stLogarithmic && y.range().lower > 0
                     && y.tickVectorLabels().size() == y.tickVector().size();

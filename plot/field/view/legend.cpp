@@ -56,9 +56,10 @@ std::vector<LegendText> legendTexts(const std::optional<ContourLevels>& levels, 
         return {{0.5, withMinusSign(QString::number(levels->minimum + levels->step / 2, 'g', 7))}};
     const int bands = levels->bands;
     const double unit = lastUnit(*levels);
+    const auto valueAt = [&](int level) { return levels->minimum + levels->step * level; };
+    const double largest = std::max(std::abs(valueAt(0)), std::abs(valueAt(bands)));
     const auto textAt = [&](int level) {
-        return LegendText {static_cast<double>(level),
-                           tickText(levels->minimum + levels->step * level, unit)};
+        return LegendText {static_cast<double>(level), tickText(valueAt(level), unit, largest)};
     };
     static constexpr int kStrides[] = {1, 2, 5, 10};
     const auto* const found = std::find_if(std::begin(kStrides), std::end(kStrides),
