@@ -48,6 +48,7 @@ QString AxisVariables::title(bool hasLegend) const
 void AxisVariables::title(AxisLook& axis, bool hasLegend, QStringList& told) const
 {
     axis.isOfInstants = areInstants && !names.isEmpty();
+    axis.name = axis.title.isEmpty() ? title(false) : axis.title;
     if (axis.title.isEmpty())
         axis.title = title(hasLegend);
     if (!names.isEmpty())

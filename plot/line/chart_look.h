@@ -16,6 +16,7 @@ namespace corvala::plot {
 struct AxisLook
 {
     QString title;
+    QString name; ///< in a line of text: also of many variables that only the legend tells
     bool isOfInstants = false; ///< values are seconds since 1970-01-01 00:00 UTC
     AxisRange range; ///< that was set and can be shown; nothing when it follows from the data
     bool isLogarithmic = false;

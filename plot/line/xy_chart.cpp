@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "plot/common/nice_steps.h"
 #include "plot/line/broken_text.h"
 #include "plot/line/line_chart.h"
 #include "plot/line/xy_axis.h"
@@ -398,12 +399,12 @@ void XyChart::setRange(const ChartRange& range)
 /// As the axis writes it, but to the pixel.
 static QString valueText(const XyAxis& axis, double value)
 {
-    const QString name = axis.look.title.isEmpty() ? QStringLiteral("?") : axis.look.title;
+    const double seen = axis.look.isLogarithmic ? 0.0 : axis.shown().range().size();
     const QString text = axis.look.isOfInstants && std::abs(value) < 1e12
         ? QDateTime::fromMSecsSinceEpoch(std::llround(1000.0 * value), Qt::UTC)
               .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))
-        : QString::number(value, 'g', 6);
-    return QStringLiteral("%1 = %2").arg(name, text);
+        : QString::number(withoutNoise(value, seen), 'g', 6);
+    return axis.look.name.isEmpty() ? text : QStringLiteral("%1 = %2").arg(axis.look.name, text);
 }
 
 /// Of all axes that are seen, from the first on.

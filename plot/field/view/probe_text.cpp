@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/document/document.h"
 #include "host/document/line_map_name.h"
+#include "plot/common/nice_steps.h"
 #include "plot/field/view/field_view.h"
 
 #include <QLocale>
@@ -41,12 +42,16 @@ QString FieldView::probe(const QPointF& point)
         return {};
     const PickRay ray = rayAt(point);
     const auto found = m_scene->probe(ray);
+    const PlaneWindow window = planeWindow();
+    const double seen =
+        m_flat ? window.yMaximum - window.yMinimum : m_scene->bounds().GetMaxLength();
     QStringList parts;
     QStringList place;
     for (std::size_t axis = 0; axis < (m_flat ? 2U : 3U); ++axis)
         if (m_flat || found)
-            place << tr("%1 = %2").arg(m_axes.titles[axis],
-                                       shown(m_flat ? ray.from[axis] : found->place[axis]));
+            place << tr("%1 = %2").arg(
+                m_axes.titles[axis],
+                shown(withoutNoise(m_flat ? ray.from[axis] : found->place[axis], seen)));
     if (!place.isEmpty())
         parts << place.join(QStringLiteral(", "));
     if (found) {
