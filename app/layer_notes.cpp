@@ -104,12 +104,26 @@ static LayerFacts factsOf(const QAction& layer)
     return known ? host::layerFacts(*frame, *known) : host::lightingFacts(*frame);
 }
 
-void LayerNotes::refresh()
+void LayerNotes::retell()
 {
     if (m_layer && m_bar.isShown(m_note))
         tell();
-    else
+}
+
+void LayerNotes::refresh(const QList<QAction*>& layers)
+{
+    retell();
+    if (!m_bar.isShown(m_note))
         m_layer = nullptr;
+    const Frame* const frame = Document::instance().activeFrame();
+    const Plot plot = frame ? Plot {frame->id(), frame->data(), frame->plotType()} : Plot();
+    const bool isOther = std::exchange(m_plot, plot) != plot;
+    for (QAction* const layer : layers) {
+        const LayerGap gap = layerOf(*layer) ? factsOf(*layer).gap : LayerGap::None;
+        const bool isNew = std::exchange(m_gaps[layer], gap) != gap && gap != LayerGap::None;
+        if (isNew && !isOther && !m_layer)
+            explain(*layer);
+    }
 }
 
 /// Takes an earlier note about layers away when there is nothing to say.
@@ -154,7 +168,7 @@ void LayerNotes::mend()
     case LayerGap::NotInSpace:
     case LayerGap::None: break;
     }
-    refresh();
+    retell();
 }
 
 } // namespace corvala::app

@@ -86,6 +86,9 @@ void MainWindow::makeCentre()
     // What the mouse is over needs the room more.
     m_picked->setMaximumWidth(kLongestPick * fontMetrics().averageCharWidth());
     statusBar()->addWidget(m_picked);
+    m_pickEnd = new QFrame(this);
+    m_pickEnd->setFrameStyle(QFrame::VLine | QFrame::Sunken);
+    statusBar()->addWidget(m_pickEnd);
     m_probe = new ElidedLabel(this);
     m_probe->setObjectName(QStringLiteral("probe"));
     statusBar()->addWidget(m_probe, 1);
@@ -278,14 +281,16 @@ void MainWindow::refresh()
     const host::Frame* frame = Document::instance().activeFrame();
     const bool hasData = frame && frame->hasData();
     refreshTitle();
-    m_picked->setText(pickedText());
-    m_picked->setToolTip(pickedText());
+    const QString picked = pickedText();
+    m_picked->setText(picked.isEmpty() ? picked : tr("Picked: %1").arg(picked));
+    m_picked->setToolTip(picked);
+    m_pickEnd->setVisible(!picked.isEmpty());
     m_summary->setText(hasData ? summaryOf(*frame->data()) : QString());
     m_menus->refresh(hasData && m_plotArea->frameView());
     m_views->refresh();
     m_plotType->refresh();
     m_layerBar->refresh();
-    m_layerNotes->refresh();
+    m_layerNotes->refresh(m_layerBar->layerActions());
     m_contourBar->refresh();
     m_timeBar->refresh();
     m_details->refresh();

@@ -10,6 +10,7 @@
 #include <QMainWindow>
 #include <QTimer>
 
+class QFrame;
 class QLabel;
 
 namespace corvala::plot {
@@ -106,6 +107,7 @@ private:
     ViewCommands* m_views = nullptr;
     WorkProgress* m_work = nullptr; ///< of reading and drawing
     QLabel* m_picked = nullptr; ///< what was clicked
+    QFrame* m_pickEnd = nullptr; ///< a line beside it
     QLabel* m_probe = nullptr; ///< what the mouse is over
     QLabel* m_summary = nullptr;
 };

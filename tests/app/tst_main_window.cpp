@@ -324,6 +324,7 @@ private Q_SLOTS:
 
         // A note goes when it is true no longer.
         write({{"FieldMap", "Mesh", "Show"}, false, maps});
+        QTRY_VERIFY(button("Show in All Zones"));
         layer("ShowMesh").trigger();
         QVERIFY(!button("Show in All Zones"));
         layer("ShowMesh").trigger();
@@ -335,12 +336,9 @@ private Q_SLOTS:
         QVERIFY(!button("Show in All Zones"));
 
         m_window->openDemo(QStringLiteral("xy"));
+        play::waitUntilIdle();
         write({{"ActiveLineMaps"}, host::NumberSet()});
-        play::waitUntilIdle();
-        layer("ShowLines").trigger();
-        play::waitUntilIdle();
-        layer("ShowLines").trigger();
-        play::waitUntilIdle();
+        QTRY_VERIFY(button("Activate All Line Maps"));
         button("Activate All Line Maps")->click();
         QCOMPARE(frame().activeLineMaps(), host::allUpTo(6));
     }
