@@ -621,14 +621,6 @@ abstand</translation>
         <translation>Den Hintergrund des Bildes auslassen: .png, .pdf, .svg oder .tif.</translation>
     </message>
     <message>
-        <source>Plots field data and lets you edit the style of its zones and lines.
-Data are opened first; then a script is played, a report written, a picture drawn, the document saved.
-Exit codes: 0 success, 1 failure, 2 wrong usage.</source>
-        <translation>Stellt Felddaten dar und lässt den Stil ihrer Zonen und Linien bearbeiten.
-Zuerst werden Daten geöffnet; dann wird ein Skript abgespielt, ein Bericht geschrieben, ein Bild gezeichnet, das Dokument gespeichert.
-Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
-    </message>
-    <message>
         <source>A document, or data files that are opened together, or the folder of a case.</source>
         <translation>Ein Dokument, oder Datendateien, die zusammen geöffnet werden, oder der Ordner eines Falls.</translation>
     </message>
@@ -647,6 +639,20 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     <message>
         <source>Take files without times that differ by a number for one time series.</source>
         <translation>Dateien ohne Zeiten, die sich durch eine Nummer unterscheiden, als eine Zeitreihe lesen.</translation>
+    </message>
+    <message>
+        <source>Print this help, then end.</source>
+        <translation>Diese Hilfe ausgeben und dann enden.</translation>
+    </message>
+    <message>
+        <source>Plots field data and lets you edit the style of its zones and lines.
+Data are opened first; then a script is played, a report written, a picture drawn, the document saved.
+Options of Qt, such as -style and -platform, are taken as well.
+Exit codes: 0 success, 1 failure, 2 wrong usage.</source>
+        <translation>Zeichnet Felddaten und lässt den Stil ihrer Zonen und Kurven bearbeiten.
+Zuerst werden Daten geöffnet; dann wird ein Skript abgespielt, ein Bericht geschrieben, ein Bild gezeichnet, das Dokument gespeichert.
+Optionen von Qt wie -style und -platform gelten auch.
+Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf.</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2825,14 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
     <message>
         <source>line %1 cannot be read</source>
         <translation>Zeile %1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1: names are numbered: %2.</source>
+        <translation>%1: Namen sind nummeriert: %2.</translation>
+    </message>
+    <message>
+        <source>they are lists</source>
+        <translation>sie sind Listen</translation>
     </message>
 </context>
 <context>
@@ -5019,6 +5033,13 @@ Variable der Konturgruppe 1: ein Teil ihres Namens genügt, um sie zu finden</tr
     </message>
 </context>
 <context>
+    <name>corvala::app::DataOpener</name>
+    <message>
+        <source>%L1 lines can be made of the columns: the first %L2 are shown, more can be created in Mapping Style.</source>
+        <translation>Aus den Spalten lassen sich %L1 Kurven machen: Die ersten %L2 werden gezeigt, weitere lassen sich unter Kurvenstil anlegen.</translation>
+    </message>
+</context>
+<context>
     <name>corvala::app::DetailField</name>
     <message>
         <source>That of contour group 1</source>
@@ -5184,6 +5205,18 @@ Variable der Konturgruppe 1: ein Teil ihres Namens genügt, um sie zu finden</tr
             <numerusform>%1: Auch in %2 ist %n Datendatei nicht zu finden.</numerusform>
             <numerusform>%1: Auch in %2 sind %n Datendateien nicht zu finden.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Changed File</source>
+        <translation>Geänderte Datei</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program since it was opened. Overwrite it?</source>
+        <translation>%1 wurde von einem anderen Programm geändert, seit es geöffnet wurde. Überschreiben?</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>Ü&amp;berschreiben</translation>
     </message>
 </context>
 <context>
@@ -5669,6 +5702,10 @@ Lizenz: GPL-3.0-or-later</translation>
         <source>%1 is being read: drop other files when that is done</source>
         <translation>%1 wird gelesen: legen Sie andere Dateien danach ab</translation>
     </message>
+    <message>
+        <source>Picked: %1</source>
+        <translation>Ausgewählt: %1</translation>
+    </message>
 </context>
 <context>
     <name>corvala::app::NoticeBar</name>
@@ -5770,12 +5807,16 @@ Lizenz: GPL-3.0-or-later</translation>
         <translation>&amp;Auflösung [dpi]:</translation>
     </message>
     <message>
-        <source>What is marked is no size of a picture</source>
-        <translation>Was markiert ist, ist keine Bildgröße</translation>
-    </message>
-    <message>
         <source>%1 x %2 mm</source>
         <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>A side may have 1 to %1 pixels, and the resolution may be %2 to %3 dpi</source>
+        <translation>Eine Seite darf 1 bis %1 Pixel haben, die Auflösung %2 bis %3 dpi</translation>
+    </message>
+    <message>
+        <source>A side may have 1 to %1 mm, and the resolution may be %2 to %3 dpi</source>
+        <translation>Eine Seite darf 1 bis %1 mm haben, die Auflösung %2 bis %3 dpi</translation>
     </message>
 </context>
 <context>
@@ -6773,14 +6814,25 @@ Lizenz: GPL-3.0-or-later</translation>
 <context>
     <name>corvala::plot::MapScene</name>
     <message>
-        <source>Drawing %L1 of %L2 active maps</source>
-        <translation>Zeichne %L1 von %L2 aktiven</translation>
+        <source>Drawing %L1 of %L2 active zones</source>
+        <translation>%L1 von %L2 aktiven Zonen werden gezeichnet</translation>
+    </message>
+    <message>
+        <source>Drawing %L1 of %L2 active lines</source>
+        <translation>%L1 von %L2 aktiven Kurven werden gezeichnet</translation>
     </message>
     <message numerus="yes">
-        <source>Drawing was cancelled: %Ln map(s) missing</source>
+        <source>Drawing was cancelled: %Ln zone(s) missing</source>
         <translation>
-            <numerusform>Das Zeichnen wurde abgebrochen: %Ln fehlt</numerusform>
-            <numerusform>Das Zeichnen wurde abgebrochen: %Ln fehlen</numerusform>
+            <numerusform>Das Zeichnen wurde abgebrochen: %Ln Zone fehlt</numerusform>
+            <numerusform>Das Zeichnen wurde abgebrochen: %Ln Zonen fehlen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Drawing was cancelled: %Ln line(s) missing</source>
+        <translation>
+            <numerusform>Das Zeichnen wurde abgebrochen: %Ln Kurve fehlt</numerusform>
+            <numerusform>Das Zeichnen wurde abgebrochen: %Ln Kurven fehlen</numerusform>
         </translation>
     </message>
 </context>

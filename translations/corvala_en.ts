@@ -162,10 +162,17 @@
 <context>
     <name>corvala::plot::MapScene</name>
     <message numerus="yes">
-        <source>Drawing was cancelled: %Ln map(s) missing</source>
+        <source>Drawing was cancelled: %Ln zone(s) missing</source>
         <translation>
-            <numerusform>Drawing was cancelled: %Ln map is missing</numerusform>
-            <numerusform>Drawing was cancelled: %Ln maps are missing</numerusform>
+            <numerusform>Drawing was cancelled: %Ln zone is missing</numerusform>
+            <numerusform>Drawing was cancelled: %Ln zones are missing</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Drawing was cancelled: %Ln line(s) missing</source>
+        <translation>
+            <numerusform>Drawing was cancelled: %Ln line is missing</numerusform>
+            <numerusform>Drawing was cancelled: %Ln lines are missing</numerusform>
         </translation>
     </message>
 </context>
