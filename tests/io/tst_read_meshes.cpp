@@ -5,6 +5,10 @@
 
 #include <QProcess>
 
+#include <vtk_cgns.h>
+
+#include VTK_CGNS(cgns_io.h)
+
 using namespace corvala::host;
 using namespace corvala::host::io;
 using namespace corvala::tests;
@@ -89,6 +93,17 @@ private Q_SLOTS:
             verify(result, {0.5, 1.5, 2.5}, {100, 200, 300}, "they were taken in their order",
                    variable);
         QCOMPARE(result.data->zone(1).cellCount, std::int64_t(1));
+        int file = 0;
+        double root = 0;
+        double version = 0;
+        const float early = 3.0F;
+        const QString path = m_folder->path("a.cgns");
+        QVERIFY(cgio_open_file(qPrintable(path), CGIO_MODE_MODIFY, CGIO_FILE_NONE, &file) == 0
+                && cgio_get_root_id(file, &root) == 0
+                && cgio_get_node_id(file, root, "CGNSLibraryVersion", &version) == 0
+                && cgio_write_all_data(file, version, &early) == 0 && cgio_close_file(file) == 0);
+        const QString error = read({path}).error;
+        QVERIFY2(error.contains("\"cells\" are numbered as in CGNS 3.0"), qPrintable(error));
     }
 
     void patchesOfCgns_data()
