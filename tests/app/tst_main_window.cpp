@@ -643,8 +643,11 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         play::waitUntilIdle();
         QVERIFY(m_window->screen()->availableGeometry().contains(m_window->frameGeometry()));
+        m_window->move(5, 6);
+        play::waitUntilIdle();
         m_window->close();
-        QCOMPARE(userSettings().value(QStringLiteral("windows/mainPlace")).toRect(), large);
+        QCOMPARE(userSettings().value(QStringLiteral("windows/mainPlace")).toRect(),
+                 QRect({5, 6}, large.size()));
     }
 
     void placesAreOnAScreen_data()
