@@ -7,6 +7,7 @@
 #include "host/io/reader/cgns_tree.h"
 #include "host/io/reader/formats.h"
 #include "host/io/reader/hdf5_size.h"
+#include "host/io/reader/read_failure.h"
 #include "host/io/reader/selective_file.h"
 
 #include <QFile>
@@ -98,10 +99,40 @@ private:
     CgnsPatches m_patches;
 };
 
+static bool isOfVersion3_0(const CgnsTree& file)
+{
+    for (const CgnsTree::Node& node : file.children(file.root(), "CGNSLibraryVersion_t"))
+        for (const float version : file.reals(node.id))
+            return version > 2.99F && version < 3.05F;
+    return false;
+}
+
+/// Throws ReadFailure for elements whose kind has another number in CGNS 3.0 than before and after,
+/// which VTK takes for those of more points, and crashes.
+static void requireKnownElements(const QString& path)
+{
+    constexpr int kLastSame = 12; // PYRA_5
+    const CgnsTree file(path);
+    if (!file.isOpen() || !isOfVersion3_0(file))
+        return;
+    for (const CgnsTree::Node& base : file.children(file.root(), "CGNSBase_t"))
+        for (const CgnsTree::Node& zone : file.children(base.id, "Zone_t"))
+            for (const CgnsTree::Node& section : file.children(zone.id, "Elements_t"))
+                if (const auto kind = file.integers(section.id);
+                    !kind.empty() && kind.front() > kLastSame)
+                    throw ReadFailure(
+                        path,
+                        QT_TRANSLATE_NOOP("ReadMessage",
+                                          "its elements \"%1\" are numbered as in CGNS 3.0 alone, "
+                                          "which cannot be read"),
+                        {QString::fromStdString(section.name)});
+}
+
 static std::unique_ptr<DataFile> openOrdered(const QString& path, const QString& ordered,
                                              bool withPatches, const QDir& helper)
 {
     requireCgnsCoordinates(ordered);
+    requireKnownElements(ordered);
     const CgnsSolutions sound = withSoundSolutions(ordered, helper);
     auto reader = vtkSmartPointer<vtkCGNSReader>::New();
     reader->SetFileName(QFile::encodeName(sound.path).constData());

@@ -132,6 +132,11 @@ std::vector<int> CgnsTree::integers(double node) const
     return size(node) > kMost ? std::vector<int>() : values<int>(node, "I4");
 }
 
+std::vector<float> CgnsTree::reals(double node) const
+{
+    return values<float>(node, "R4");
+}
+
 std::vector<std::int64_t> CgnsTree::numbers(double node) const
 {
     const std::vector<std::int32_t> narrow = values<std::int32_t>(node, "I4");

@@ -40,6 +40,8 @@ public:
     std::size_t size(double node) const;
     /// The integers of a node.
     std::vector<int> integers(double node) const;
+    /// The real numbers of a node, of 4 bytes each.
+    std::vector<float> reals(double node) const;
     /// All of them, of 4 or 8 bytes each.
     std::vector<std::int64_t> numbers(double node) const;
 
