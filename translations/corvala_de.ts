@@ -2834,6 +2834,10 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <source>they are lists</source>
         <translation>sie sind Listen</translation>
     </message>
+    <message>
+        <source>its elements &quot;%1&quot; are numbered as in CGNS 3.0 alone, which cannot be read</source>
+        <translation>ihre Elemente „%1“ sind nummeriert wie nur in CGNS 3.0, was nicht gelesen werden kann</translation>
+    </message>
 </context>
 <context>
     <name>ReadOffers</name>
