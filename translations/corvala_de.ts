@@ -2838,6 +2838,18 @@ Möchten Sie die Randflächen der aktiven Zonen zeichnen?</translation>
         <source>its elements &quot;%1&quot; are numbered as in CGNS 3.0 alone, which cannot be read</source>
         <translation>ihre Elemente „%1“ sind nummeriert wie nur in CGNS 3.0, was nicht gelesen werden kann</translation>
     </message>
+    <message>
+        <source>its pieces do not fill its grid</source>
+        <translation>ihre Teile füllen ihr Gitter nicht</translation>
+    </message>
+    <message>
+        <source>%1: its pieces are zones of their own: %2.</source>
+        <translation>%1: Ihre Teile sind eigene Zonen: %2.</translation>
+    </message>
+    <message>
+        <source>a vertex, line, polygon or strip has too few points</source>
+        <translation>ein Punkt, eine Linie, ein Polygon oder ein Streifen hat zu wenige Punkte</translation>
+    </message>
 </context>
 <context>
     <name>ReadOffers</name>

@@ -107,11 +107,15 @@ private Q_SLOTS:
             "<VTKFile type=\"UnstructuredGrid\"><UnstructuredGrid><Piece NumberOfPoints=\"2\" "
             "NumberOfCells=\"1000000000007\"/></UnstructuredGrid></VTKFile>",
             "takes at least 1000000000013 bytes, of which 137 are there");
-        row("pieces with a gap", "a.vti",
+        row("pieces with a gap, one twice", "a.vti",
             "<VTKFile type=\"ImageData\"><ImageData WholeExtent=\"0 9 0 0 0 0\"><Piece Extent=\"0 "
-            "1 0 "
-            "0 0 0\"/><Piece Extent=\"4 9 0 0 0 0\"/></ImageData></VTKFile>",
+            "1 0 0 0 0\"/><Piece Extent=\"4 9 0 0 0 0\"/><Piece Extent=\"4 9 0 0 0 "
+            "0\"/></ImageData></VTKFile>",
             "do not fill its grid: 2 points lack");
+        row("polygon of two points", "a.vtk",
+            "# vtk DataFile Version 3.0\nx\nASCII\nDATASET POLYDATA\nPOINTS 3 float\n0 0 0 1 0 0 "
+            "0 1 0\nPOLYGONS 2 7\n3 0 1 2\n2 0 1\n",
+            "has too few points");
         row("claims too many points", "a.vti", claim + end, "memory");
         row("array without a name", "a.vti",
             QByteArray("<VTKFile type=\"ImageData\"><ImageData WholeExtent=\"0 1 0 0 0 0\"><Piece "

@@ -265,13 +265,16 @@ vtkSmartPointer<vtkDataObject> PieceReader::readParallel(const QString& path, co
     const QStringList pieces = piecesOf(path);
     try {
         requirePieces(pieces);
+        if (!kind.isWhole)
+            throw ReadFailure(path,
+                              QT_TRANSLATE_NOOP("ReadMessage", "its pieces do not fill its grid"));
         auto data = updated(path, *xmlReader(path, kind), progress);
         auto* const zone = vtkDataSet::SafeDownCast(data);
         const ReadMessage fault = zone ? faultOf(*zone) : ReadMessage();
         if (!fault.isEmpty())
             throw ReadFailure(path, fault);
         return data;
-    } catch (const ReadFailure&) {
+    } catch (const ReadFailure& failure) {
         if (pieces.isEmpty())
             throw;
         PieceNode root;
@@ -282,7 +285,13 @@ vtkSmartPointer<vtkDataObject> PieceReader::readParallel(const QString& path, co
             root.children.back().index = root.children.size() - 1;
             root.children.back().file = piece;
         }
-        return readNode(root, progress);
+        const std::size_t noteCount = notes.size();
+        auto zones = readNode(root, progress);
+        if (notes.size() == noteCount) // else what is wrong with the pieces is told
+            notes.emplace_back(
+                QT_TRANSLATE_NOOP("ReadMessage", "%1: its pieces are zones of their own: %2."),
+                std::initializer_list<QString> {shortName(path), failure.message.asArgument()});
+        return zones;
     }
 }
 

@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <map>
+#include <numeric>
 #include <tuple>
 #include <utility>
 
@@ -73,6 +74,14 @@ static double pointsOf(const std::vector<int>& extent)
     return points;
 }
 
+static bool hasArrays(std::string_view piece, const std::string& part)
+{
+    const std::size_t begin = piece.find('<' + part);
+    const std::string_view arrays =
+        begin == std::string_view::npos ? std::string_view() : piece.substr(begin);
+    return arrays.substr(0, arrays.find("</" + part)).find("<DataArray") < arrays.size();
+}
+
 /// Least bytes that what a piece of a serial file claims takes when it is not compressed.
 static double leastBytesOf(std::string_view piece, std::string_view tag)
 {
@@ -80,11 +89,13 @@ static double leastBytesOf(std::string_view piece, std::string_view tag)
     for (const char* const cells :
          {"NumberOfCells", "NumberOfVerts", "NumberOfLines", "NumberOfStrips", "NumberOfPolys"})
         bytes += numberOf(tag, cells);
-    const std::size_t values = piece.find("<PointData");
-    const std::string_view arrays =
-        values == std::string_view::npos ? std::string_view() : piece.substr(values);
-    if (arrays.substr(0, arrays.find("</PointData")).find("<DataArray") < arrays.size())
-        bytes += pointsOf(extentOf(tag, "Extent"));
+    std::vector<int> extent = extentOf(tag, "Extent");
+    if (hasArrays(piece, "PointData"))
+        bytes += pointsOf(extent);
+    for (std::size_t i = 1; i < extent.size(); i += 2)
+        extent[i] -= extent[i] > extent[i - 1] ? 1 : 0;
+    if (hasArrays(piece, "CellData"))
+        bytes += pointsOf(extent);
     return bytes;
 }
 
@@ -127,26 +138,62 @@ static void requireRoom(const MappedFile& file, const PieceTags& pieces)
              QString::number(size, 'f', 0)});
 }
 
+/// What a piece leaves of an extent, as up to six extents.
+static std::vector<std::vector<int>> without(std::vector<int> extent, const std::vector<int>& piece)
+{
+    std::vector<std::vector<int>> rest;
+    for (std::size_t i = 0; i < 6; i += 2)
+        if (piece[i] > extent[i + 1] || piece[i + 1] < extent[i])
+            return {extent};
+    for (std::size_t i = 0; i < 6; i += 2) {
+        if (piece[i] > extent[i]) {
+            rest.push_back(extent);
+            rest.back()[i + 1] = piece[i] - 1;
+            extent[i] = piece[i];
+        }
+        if (piece[i + 1] < extent[i + 1]) {
+            rest.push_back(extent);
+            rest.back()[i] = piece[i + 1] + 1;
+            extent[i + 1] = piece[i + 1];
+        }
+    }
+    return rest;
+}
+
+/// Points of the grid that no piece has; pieces may share points.
+static double missingPoints(const PieceTags& pieces)
+{
+    const std::size_t whole = pieces.head.find("WholeExtent");
+    if (whole == std::string_view::npos)
+        return 0;
+    std::vector<std::vector<int>> missing {
+        extentOf(tagAt(pieces.head, pieces.head.rfind('<', whole)), "WholeExtent")};
+    for (std::size_t i = 0; i < pieces.places.size(); ++i) {
+        const std::vector<int> piece = extentOf(pieces.tag(i), "Extent");
+        std::vector<std::vector<int>> rest;
+        for (const std::vector<int>& extent : missing)
+            for (std::vector<int>& part : piece.empty() || extent.empty()
+                     ? std::vector<std::vector<int>> {extent}
+                     : without(extent, piece))
+                rest.push_back(std::move(part));
+        missing = std::move(rest);
+    }
+    return std::accumulate(
+        missing.begin(), missing.end(), 0.0,
+        [](double sum, const std::vector<int>& extent) { return sum + pointsOf(extent); });
+}
+
 /// VTK takes what no piece of a grid fills for whatever the memory held. Returns the extent of a
 /// piece that is all there is of a larger grid.
 static std::vector<int> extentToRead(const MappedFile& file, const PieceTags& pieces)
 {
-    const std::size_t whole = pieces.head.find("WholeExtent");
-    if (whole == std::string_view::npos)
-        return {};
-    double missing =
-        pointsOf(extentOf(tagAt(pieces.head, pieces.head.rfind('<', whole)), "WholeExtent"));
-    std::vector<int> extent;
-    for (std::size_t i = 0; i < pieces.places.size(); ++i) {
-        extent = extentOf(pieces.tag(i), "Extent");
-        missing -= pointsOf(extent);
-    }
+    const double missing = missingPoints(pieces);
     if (missing > 0 && pieces.places.size() != 1)
         throw ReadFailure(
             file.path(),
             QT_TRANSLATE_NOOP("ReadMessage", "its pieces do not fill its grid: %1 points lack"),
             {QString::number(missing, 'f', 0)});
-    return missing > 0 ? extent : std::vector<int>();
+    return missing > 0 ? extentOf(pieces.tag(0), "Extent") : std::vector<int>();
 }
 
 /// Returns where the XML ends. VTK takes values after the XML that are cut off for whatever the
@@ -194,9 +241,11 @@ XmlKind::XmlKind(const QString& path)
             path,
             QT_TRANSLATE_NOOP("ReadMessage", "it is no VTK XML file of a kind that is known"));
     const std::size_t end = requireEnd(file);
-    if (isParallel)
-        return;
     const PieceTags pieces(file.bytes());
+    if (isParallel) {
+        isWhole = missingPoints(pieces) == 0;
+        return;
+    }
     requireRoom(file, pieces);
     extent = extentToRead(file, pieces);
     const std::string_view rest = file.bytes().substr(end);

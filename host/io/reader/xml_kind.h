@@ -17,6 +17,7 @@ struct XmlKind
     int type = -1; ///< of the data object
     bool isParallel = false;
     bool isTree = false;
+    bool isWhole = true; ///< the pieces of a parallel grid fill it
     std::vector<int> extent {}; ///< of the part of its grid that is in the file, if it is not all
     /// All of the XML of a small file, or if something follows that VTK would stumble over.
     std::string text;

@@ -38,6 +38,18 @@ static bool namesPoints(vtkCellArray* cells, vtkIdType points)
         || (range[0] >= 0 && range[1] < static_cast<double>(points));
 }
 
+/// No cell has fewer points than the kind of all of them needs; VTK would not know what it is.
+static bool haveSizes(vtkCellArray* cells, vtkIdType least)
+{
+    return !cells || cells->Visit([least](auto& known) {
+        const vtkIdType count = known.GetNumberOfCells();
+        for (vtkIdType cell = 0; cell < count; ++cell)
+            if (known.GetCellSize(cell) < least)
+                return false;
+        return true;
+    });
+}
+
 /// Fewest points of a cell of each type, or kUnknownType.
 static std::array<int, 256> leastPointCounts()
 {
@@ -122,6 +134,14 @@ static bool hasSoundCells(vtkDataSet& zone)
     return true;
 }
 
+static bool hasSoundSizes(vtkDataSet& zone)
+{
+    auto* surface = vtkPolyData::SafeDownCast(&zone);
+    return !surface
+        || (haveSizes(surface->GetVerts(), 1) && haveSizes(surface->GetLines(), 2)
+            && haveSizes(surface->GetPolys(), 3) && haveSizes(surface->GetStrips(), 3));
+}
+
 static bool hasAllCoordinates(vtkDataSet& zone)
 {
     if (auto* grid = vtkStructuredGrid::SafeDownCast(&zone)) {
@@ -149,6 +169,9 @@ ReadMessage faultOf(vtkDataSet& zone)
     if (!hasSoundCells(zone))
         return ReadMessage(QT_TRANSLATE_NOOP(
             "ReadMessage", "a cell is of an unknown kind, or its points do not exist"));
+    if (!hasSoundSizes(zone))
+        return ReadMessage(QT_TRANSLATE_NOOP(
+            "ReadMessage", "a vertex, line, polygon or strip has too few points"));
     return {};
 }
 
