@@ -29,6 +29,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QDropEvent>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -726,6 +727,14 @@ private Q_SLOTS:
         QVERIFY(frame().hasData());
         QVERIFY(m_window->findChild<QSlider*>(QStringLiteral("solutionTime"))->isVisible());
         QVERIFY(layer("ShowContour").isChecked()); // opened data show something
+        ModalResponder responder;
+        responder.answer([](QDialog& dialog) {
+            const QString folder = static_cast<QFileDialog&>(dialog).directory().path();
+            QVERIFY2(!folder.startsWith(sample("naca_transient")), qPrintable(folder));
+            dialog.reject();
+        });
+        layer("document-save").trigger();
+        QVERIFY(responder.isSettled());
     }
 
     void addedDataAreReadLikeThoseThatAreOpen()
