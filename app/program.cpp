@@ -30,7 +30,6 @@
 #include <QFile>
 #include <QLocale>
 #include <QMessageBox>
-#include <QRegularExpression>
 #include <QSettings>
 #include <QSurfaceFormat>
 #include <QTemporaryDir>
@@ -41,6 +40,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -97,17 +97,19 @@ static bool isReadByNobody(std::FILE* stream)
     return isatty(file) == 0 && (fstat(file, &status) != 0 || !S_ISFIFO(status.st_mode));
 }
 
-static bool asksForBatch(const QStringList& arguments)
+/// A desktop passes files only; who writes options reads what is said of them, or is a script.
+static bool hasOptions(const QStringList& arguments)
 {
-    static const QRegularExpression option(QStringLiteral("^--?(play|report|render|save)\\b"));
-    return arguments.indexOf(option) >= 0;
+    return std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
+        return argument.startsWith(QLatin1Char('-'));
+    });
 }
 
 /// Shows in a window, besides, why the program cannot start when nobody reads what it prints.
 static void showProblem(int argc, char** argv, const QString& problem)
 {
     Display display;
-    if (asksForBatch(argumentsOf(argc, argv)) || !isReadByNobody(stderr)
+    if (hasOptions(argumentsOf(argc, argv)) || !isReadByNobody(stderr)
         || !display.prepare({}).isEmpty())
         return;
     QApplication application(argc, argv);
