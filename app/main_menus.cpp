@@ -215,8 +215,8 @@ void MainMenus::makePlotMenu(QAction& details, const QList<QAction*>& layers)
 /// A narrow window may have no room for it in the toolbar.
 void MainMenus::addContourCommand(QMenu& menu)
 {
-    m_contourVariable =
-        menu.addAction(tr("Contour &Variable..."), this, &MainMenus::contourVariableWanted);
+    m_contourVariable = menu.addAction(commandIcon("layer-contour"), tr("Contour &Variable..."),
+                                       this, &MainMenus::contourVariableWanted);
     setUpCommand(*m_contourVariable, "chooseContourVariable",
                  QKeySequence(QStringLiteral("Ctrl+K")),
                  tr("Choose the variable that the colors of contour group 1 show"));

@@ -2,6 +2,7 @@
 #include "app/plot_menu.h"
 
 #include "app/document_observer.h"
+#include "app/icons.h"
 #include "app/picked_objects.h"
 #include "app/view_commands.h"
 #include "host/document/document.h"
@@ -93,13 +94,17 @@ void PlotMenu::addObjectCommands(QMenu& menu, CvlInt64 number)
                        .replace(QLatin1Char('&'), QLatin1String("&&")))
         ->setEnabled(false);
     menu.addSeparator();
-    menu.addAction(isField ? tr("&Pick This Zone") : tr("&Pick This Line"), this,
+    menu.addAction(commandIcon("zone-pick"),
+                   isField ? tr("&Pick This Zone") : tr("&Pick This Line"), this,
                    [this, number] { Q_EMIT pickWanted(number, false); });
-    menu.addAction(isField ? tr("&Hide This Zone") : tr("&Hide This Line"), this,
+    menu.addAction(commandIcon("zone-hide"),
+                   isField ? tr("&Hide This Zone") : tr("&Hide This Line"), this,
                    [map] { showMaps(host::NumberSet::bitmapOf(1, map), AssignOp_Remove); });
-    menu.addAction(isField ? tr("Show &Only This Zone") : tr("Show &Only This Line"), this,
+    menu.addAction(commandIcon("zone-show-only"),
+                   isField ? tr("Show &Only This Zone") : tr("Show &Only This Line"), this,
                    [map] { showMaps(host::NumberSet::bitmapOf(1, map)); });
-    menu.addAction(isField ? tr("&Style of This Zone...") : tr("&Style of This Line..."), this,
+    menu.addAction(commandIcon("style-dialog"),
+                   isField ? tr("&Style of This Zone...") : tr("&Style of This Line..."), this,
                    [this, number] { Q_EMIT pickWanted(number, true); });
     menu.addSeparator();
 }
@@ -116,7 +121,8 @@ void PlotMenu::open(CvlInt64 number, const QPoint& place)
     if (mapOfObject(number) != 0)
         addObjectCommands(*menu, number);
     const bool isField = Document::instance().activeFrame()->isFieldPlot();
-    menu->addAction(isField ? tr("Show &All Zones") : tr("Show &All Lines"), this,
+    menu->addAction(commandIcon("zone-show"),
+                    isField ? tr("Show &All Zones") : tr("Show &All Lines"), this,
                     [] { showMaps(allMaps(), AssignOp_Add); })
         ->setEnabled(!(activeMaps() == allMaps()));
     menu->addSeparator();

@@ -94,6 +94,7 @@ void ViewCommands::addZooms()
                             QKeySequence::ZoomIn, [this] { zoomBy(1.25); });
     QAction* const out = add("zoomOut", tr("Zoom &Out"), tr("Show more round the plot"),
                              QKeySequence::ZoomOut, [this] { zoomBy(0.8); });
+    selected->setIcon(commandIcon("zoom-to-selected"));
     in->setIcon(commandIcon("zoom-in"));
     out->setIcon(commandIcon("zoom-out"));
     m_ofBoxes = {m_zoomBox, selected, in, out};
@@ -107,23 +108,24 @@ void ViewCommands::addZooms()
 }
 
 void ViewCommands::addPreset(ViewPreset preset, const char* name, const QString& text,
-                             const QString& tip, const char* keys)
+                             const QString& tip, const char* keys, const char* icon)
 {
     m_ofSpace.push_back(add(name, text, tip, QKeySequence(QLatin1String(keys)), [this, preset] {
         change([preset](Canvas& canvas) { canvas.lookFrom(preset); });
     }));
+    m_ofSpace.back()->setIcon(commandIcon(icon));
 }
 
 void ViewCommands::addPresets()
 {
     addPreset(ViewPreset::X, "viewX", tr("Along &X"), tr("Look along X, Y to the right, Z upwards"),
-              "Ctrl+1");
+              "Ctrl+1", "view-along-x");
     addPreset(ViewPreset::Y, "viewY", tr("Along &Y"), tr("Look along Y, X to the right, Z upwards"),
-              "Ctrl+2");
+              "Ctrl+2", "view-along-y");
     addPreset(ViewPreset::Z, "viewZ", tr("Along &Z"), tr("Look along Z, X to the right, Y upwards"),
-              "Ctrl+3");
+              "Ctrl+3", "view-along-z");
     addPreset(ViewPreset::Corner, "viewCorner", tr("From a &Corner"),
-              tr("Look from a corner, Z upwards, as at the start"), "Ctrl+4");
+              tr("Look from a corner, Z upwards, as at the start"), "Ctrl+4", "view-from-corner");
     m_parallel =
         add("parallel", tr("&Parallel Projection"),
             tr("Show what is far away as large as what is near"),

@@ -52,7 +52,7 @@ private:
     void addZooms();
     void addPresets();
     void addPreset(plot::ViewPreset preset, const char* name, const QString& text,
-                   const QString& tip, const char* keys);
+                   const QString& tip, const char* keys, const char* icon);
     void addWindowCommands();
     void change(const std::function<void(plot::Canvas&)>& action);
     void zoomBy(double factor);

@@ -244,7 +244,10 @@ private Q_SLOTS:
     {
         m_window->openDemo(QStringLiteral("kinds"));
         play::waitUntilIdle();
-        for (const QMenu* menu : m_window->menuBar()->findChildren<QMenu*>()) {
+        QList<QMenu*> menus = m_window->menuBar()->findChildren<QMenu*>();
+        for (const QAction* const entry : m_window->menuBar()->actions())
+            menus << entry->menu();
+        for (const QMenu* const menu : std::as_const(menus)) {
             for (const QAction* command : menu->actions()) {
                 const QByteArray name = command->text().toUtf8();
                 QVERIFY2(command->isSeparator() || command->menu()
