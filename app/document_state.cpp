@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace corvala::app {
 
 using host::Document;
@@ -15,6 +17,14 @@ using host::Document;
 static const QUndoStack& undoStack()
 {
     return Document::instance().undo().stack();
+}
+
+/// The same for the same data that are read in another way.
+static std::vector<std::string> namesOf(const host::DataOrigin& origin)
+{
+    std::vector<std::string> names = origin.files;
+    names.push_back(origin.demo);
+    return names;
 }
 
 QByteArray contentOf(const QString& name)
@@ -68,7 +78,10 @@ void DocumentState::take(const host::Operation& operation)
     if (!isOther)
         return;
     const bool isAlone = Document::instance().frameCount() == 1;
-    if (isDetached && isAlone)
+    const auto* const attached = std::get_if<host::AttachData>(&operation);
+    const bool isReplaced =
+        attached && std::exchange(m_data, namesOf(attached->origin)) != namesOf(attached->origin);
+    if (isAlone && (isDetached || (isReplaced && !m_file.isEmpty())))
         return setNew();
     if (isDetached)
         m_file.clear();
@@ -80,6 +93,9 @@ void DocumentState::take(const host::Operation& operation)
 
 void DocumentState::setSaved(const QString& file)
 {
+    const host::Frame* const frame = Document::instance().activeFrame();
+    m_data = frame && !frame->origins().empty() ? namesOf(frame->origins().front())
+                                                : std::vector<std::string>();
     m_file = file;
     m_content = contentOf(file);
     Document::instance().undo().markSaved();

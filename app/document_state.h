@@ -9,6 +9,9 @@
 
 #include <boost/signals2/connection.hpp>
 
+#include <string>
+#include <vector>
+
 namespace corvala::app {
 
 /// Tells contents of files apart: a checksum; empty for a file that cannot be read.
@@ -16,8 +19,9 @@ QByteArray contentOf(const QString& file);
 
 /// Which file the open document is from, and whether it holds what that does not. Data that were
 /// just opened in a document without a file are no work that could be lost; where one looks (views,
-/// time, picks, the active frame) is none either. A document whose data are closed has no file any
-/// more: nobody means to replace a good file by what is left.
+/// time, picks, the active frame) is none either. A document whose data are closed, or
+/// replaced by those of other files, has no file any more: nobody means to replace a good one by
+/// what is there then.
 class DocumentState : public QObject
 {
     Q_OBJECT
@@ -46,6 +50,7 @@ private:
     void notice(bool isClean);
 
     QString m_file;
+    std::vector<std::string> m_data; ///< files and name of what was opened last
     QByteArray m_content; ///< of the file, as it was last read or written
     bool m_hasOtherData = false; ///< data or frames that came without an undo step
     bool m_hasLostSteps = false; ///< changes that cannot be undone any more

@@ -185,6 +185,13 @@ private Q_SLOTS:
         press("Discard");
         layer("closeData").trigger(); // and with them the file
         QCOMPARE(m_window->windowTitle(), QStringLiteral("corvala"));
+        press("Look Elsewhere...");
+        choose(folder.filePath("b"));
+        open("x.cvdoc");
+        QVERIFY(QFile::copy(folder.filePath("b/a.csv"), folder.filePath("c.csv")));
+        press("Discard");
+        open("c.csv"); // other data begin another document
+        QVERIFY(!m_window->windowTitle().contains("x.cvdoc") && !m_window->isWindowModified());
         QVERIFY(m_window->close());
         QVERIFY(responder.isSettled());
     }
