@@ -43,28 +43,6 @@ private:
     QToolButton& m_rest;
 };
 
-class Leaver : public QObject
-{
-public:
-    explicit Leaver(QComboBox& field)
-        : QObject(&field)
-        , m_field(field)
-    {
-        field.installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        if (event->type() == QEvent::KeyPress
-            && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
-            leaveField(m_field);
-        return false;
-    }
-
-private:
-    QComboBox& m_field;
-};
-
 } // namespace
 
 static void enter(QComboBox& field)
@@ -92,11 +70,6 @@ void leaveField(QComboBox& field)
 {
     if (auto* const window = qobject_cast<QMainWindow*>(field.window()))
         window->centralWidget()->setFocus();
-}
-
-void leaveByEscape(QComboBox& field)
-{
-    new Leaver(field);
 }
 
 } // namespace corvala::app

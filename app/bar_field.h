@@ -12,7 +12,5 @@ void goToField(QToolBar& bar, QComboBox& field);
 
 /// Takes the user back to the plot from such a field, so that keys are those of commands again.
 void leaveField(QComboBox& field);
-/// Does that when Esc is pressed in the field.
-void leaveByEscape(QComboBox& field);
 
 } // namespace corvala::app

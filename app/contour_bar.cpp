@@ -52,7 +52,6 @@ ContourBar::ContourBar(QWidget* parent)
         write(kStyle.var, double(m_variable->currentIndex()));
         leaveField(*m_variable);
     });
-    leaveByEscape(*m_variable);
     makeColorMenu();
     addWidget(label);
     addWidget(m_variable);
@@ -68,19 +67,25 @@ void ContourBar::chooseVariable()
     goToField(*this, *m_variable);
 }
 
-/// Whether a key or the focus leaves what is typed.
-static bool givesUp(const QEvent& event)
+static bool isEscape(const QEvent& event)
 {
-    if (event.type() == QEvent::FocusOut) // the list of what is found takes it in passing
-        return static_cast<const QFocusEvent&>(event).reason() != Qt::PopupFocusReason;
     return event.type() == QEvent::KeyPress
         && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
 }
 
+/// Whether the focus goes; the list of what is found takes it in passing.
+static bool isLeaving(const QEvent& event)
+{
+    return event.type() == QEvent::FocusOut
+        && static_cast<const QFocusEvent&>(event).reason() != Qt::PopupFocusReason;
+}
+
 bool ContourBar::eventFilter(QObject* watched, QEvent* event)
 {
-    if (givesUp(*event))
+    if (isEscape(*event) || isLeaving(*event))
         showDrawn();
+    if (watched == m_variable && isEscape(*event))
+        leaveField(*m_variable);
     if (watched == m_variable->lineEdit() && event->type() == QEvent::Paint
         && !m_variable->lineEdit()->hasFocus()) {
         paintName();

@@ -70,22 +70,20 @@ void DocumentState::take(const host::Operation& operation)
 {
     if (const auto* const load = std::get_if<host::LoadDocument>(&operation))
         return setSaved(QString::fromStdString(load->file));
-    const bool isAttached = std::holds_alternative<host::AttachData>(operation);
+    const auto* const attached = std::get_if<host::AttachData>(&operation);
     const bool isDetached = std::holds_alternative<host::DetachData>(operation);
-    const bool isOther = isAttached || isDetached
-        || std::holds_alternative<host::AddFrame>(operation)
+    const bool isOther = attached || isDetached || std::holds_alternative<host::AddFrame>(operation)
         || std::holds_alternative<host::DeleteFrame>(operation);
     if (!isOther)
         return;
     const bool isAlone = Document::instance().frameCount() == 1;
-    const auto* const attached = std::get_if<host::AttachData>(&operation);
     const bool isReplaced =
         attached && std::exchange(m_data, namesOf(attached->origin)) != namesOf(attached->origin);
     if (isAlone && (isDetached || (isReplaced && !m_file.isEmpty())))
         return setNew();
     if (isDetached)
         m_file.clear();
-    const bool isFresh = isAttached && m_file.isEmpty() && isAlone;
+    const bool isFresh = attached && m_file.isEmpty() && isAlone;
     m_hasOtherData = !isFresh;
     m_hasLostSteps = m_hasLostSteps && !isFresh;
     Q_EMIT changed();

@@ -62,14 +62,17 @@ static void countOn(std::string& name)
 void NameList::add(const std::string& first, std::int64_t count)
 {
     m_count += count;
-    if (!m_runs.empty() && first == m_next) {
+    const bool isNext = !m_next.empty() && first == m_next;
+    if (isNext)
         m_runs.back().count += count;
-        if (count == 1)
-            return countOn(m_next);
-    } else {
+    else
         m_runs.push_back({first, count});
-    }
-    m_next = countedName(m_runs.back().first, m_runs.back().count);
+    if (isNext && count == 1)
+        countOn(m_next);
+    else
+        m_next = countedName(m_runs.back().first, m_runs.back().count);
+    if (digitsOf(m_next).empty()) // too many, or none
+        m_next.clear();
 }
 
 std::vector<std::string> NameList::names() const

@@ -332,6 +332,22 @@ private Q_SLOTS:
         QCOMPARE(frame().solutionTime(), frame().data()->solutionTimes().front());
     }
 
+    void runsOfNamesAreTheNames()
+    {
+        const std::vector<std::string> names {
+            "8", "9", "10", "a", "", "1", "Z 099", "Z 100", "999999999999999", "1000000000000000"};
+        NameList list;
+        for (const std::string& name : names)
+            list.add(name);
+        QCOMPARE(list.names(), names);
+        QCOMPARE(list.runs().size(), std::size_t(7));
+        for (const NameList::Run& run : list.runs())
+            QCOMPARE(run.count == 1
+                         ? 0
+                         : placesBetween(run.first, countedName(run.first, run.count - 1)),
+                     run.count - 1);
+    }
+
     void stylesAreTaken()
     {
         openOnly("field3d", 6);

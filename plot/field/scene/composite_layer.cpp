@@ -2,6 +2,7 @@
 #include "plot/field/scene/composite_layer.h"
 
 #include "plot/field/scene/bucket.h"
+#include "plot/field/scene/slow_release.h"
 
 #include <vtkRenderer.h>
 

@@ -5,7 +5,6 @@
 #include "plot/field/geometry/shape_pieces.h"
 #include "plot/field/scene/block_look.h"
 #include "plot/field/scene/layer_looks.h"
-#include "plot/field/scene/slow_release.h"
 
 #include <vtkBoundingBox.h>
 
@@ -20,6 +19,8 @@ class vtkActor;
 class vtkRenderer;
 
 namespace corvala::plot {
+
+class SlowRelease;
 
 /// Size of what is drawn on the paper.
 struct ViewScale

@@ -8,6 +8,7 @@
 #include "plot/field/scene/composite_layer.h"
 #include "plot/field/scene/pick_ray.h"
 #include "plot/field/scene/scene_piece.h"
+#include "plot/field/scene/slow_release.h"
 #include "plot/field/scene/stand_in.h"
 #include "plot/field/scene/surface_probe.h"
 #include "plot/field/scene/volume_looks.h"
